@@ -1,0 +1,44 @@
+# What every target of the project shares: warnings, sanitizers, and the two
+# shapes in which libraries and tests are declared.
+
+add_library(tarn_options INTERFACE)
+target_compile_options(tarn_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+                       -fstack-protector-strong)
+if(TARN_WERROR)
+  target_compile_options(tarn_options INTERFACE -Werror)
+endif()
+if(TARN_SANITIZE)
+  target_compile_options(tarn_options INTERFACE -fsanitize=address,undefined
+                         -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tarn_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# tarn_add_library(NAME): a static library whose rooms add their own sources.
+function(tarn_add_library name)
+  add_library(${name} STATIC)
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+  target_link_libraries(${name} PRIVATE tarn_options)
+endfunction()
+
+# tarn_add_test(NAME LABEL label SOURCES ... LIBRARIES ...): a GoogleTest
+# program, one ctest entry for each of its cases. A program that brings its own
+# main (QT) is linked without gtest_main and runs off-screen.
+function(tarn_add_test name)
+  cmake_parse_arguments(arg "QT" "LABEL;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+  find_package(GTest REQUIRED)
+  include(GoogleTest)
+  add_executable(${name} ${arg_SOURCES})
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  if(arg_QT)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    target_link_libraries(${name} PRIVATE tarn_options ${arg_LIBRARIES} GTest::gtest GTest::gmock)
+  else()
+    target_link_libraries(${name} PRIVATE tarn_options ${arg_LIBRARIES} GTest::gtest_main GTest::gmock)
+  endif()
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
+    PROPERTIES LABELS "${arg_LABEL}" TIMEOUT ${arg_TIMEOUT}
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.qpa.*=false;ASAN_OPTIONS=detect_leaks=0")
+endfunction()

@@ -1,0 +1,26 @@
+// The seams to the machine, built in main and handed down by reference.
+#pragma once
+
+#include <string>
+
+#include "runtime/code_page.h"
+
+namespace tarn {
+
+class Clock;
+class HttpLoader;
+class Machine;
+class MessageBoxes;
+class Spooler;
+
+struct Environment {
+    HttpLoader& http;
+    Spooler& spooler;
+    MessageBoxes& boxes;
+    Clock& clock;
+    Machine& machine;
+    std::string baseUrl;  // ends in "?", the query follows at once
+    CodePage codePage = CodePage::Page1252;
+};
+
+}  // namespace tarn

@@ -1,0 +1,22 @@
+// Seam: one blocking HTTP GET.
+#pragma once
+
+#include <string>
+
+namespace tarn {
+
+struct HttpAnswer {
+    bool loaded = false;  // false: unreachable, refused, HTTP error, body cut or too large
+    std::string body;     // bytes as they came, content encoding undone
+};
+
+class HttpLoader {
+public:
+    virtual ~HttpLoader() = default;
+    // `address` is the plain text of the whole URL (UTF-8). The loader percent-encodes
+    // what may not stand in a request line. Failure is told by the result; an
+    // exception means that something unexpected went wrong.
+    virtual HttpAnswer get(const std::string& address) = 0;
+};
+
+}  // namespace tarn

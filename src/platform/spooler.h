@@ -1,0 +1,35 @@
+// Seam: the life of a raw print job. There is one handle; opening replaces it.
+// Results are there for who wants them; documents don't look at them.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+// Three texts, each null by default: the job has no name and the printer's
+// default data type.
+struct JobDescription {
+    std::optional<std::string> docName;
+    std::optional<std::string> outputFile;
+    std::optional<std::string> dataType;
+};
+
+class Spooler {
+public:
+    virtual ~Spooler() = default;
+    // Device name of the system's current default printer; empty when there is none.
+    virtual std::string defaultPrinter() = 0;
+    virtual bool openPrinter(const std::string& name) = 0;
+    virtual bool startDocument(const JobDescription& job) = 0;
+    virtual bool startPage() = 0;
+    // Bytes of the printer's page; returns how many were taken.
+    virtual std::size_t write(std::string_view bytes) = 0;
+    virtual bool endPage() = 0;
+    virtual bool endDocument() = 0;
+    virtual bool closePrinter() = 0;
+};
+
+}  // namespace tarn

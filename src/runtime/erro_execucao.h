@@ -1,0 +1,42 @@
+// The run-time error: what a routine raises when it meets a value or an object
+// that it can't work with. Nothing catches it but the event loop and main, which
+// show the report and end the program with exit status 3.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+enum class ErroNumero : int {
+    ArgumentoInvalido = 5,
+    Estouro = 6,
+    ForaDoIntervalo = 9,
+    TipoIncompativel = 13,
+    VariavelObjeto = 91,
+    ObjetoObrigatorio = 424,
+};
+
+class ErroExecucao : public std::runtime_error {
+public:
+    // Describes itself in Portuguese by its number.
+    explicit ErroExecucao(ErroNumero numero);
+    // `detalhe` (Portuguese, UTF-8) follows the number's own description after ": ".
+    ErroExecucao(ErroNumero numero, std::string_view detalhe);
+
+    ErroNumero numero() const noexcept { return numero_; }
+    std::string descricao() const { return what(); }
+
+private:
+    ErroNumero numero_;
+};
+
+inline constexpr int statusErroExecucao = 3;  // exit status of a program that such an error ended
+
+// Text of the report's box: "Erro em tempo de execução 'N':", two line ends
+// (character 13), the description, and, when a fiscal note may already exist on
+// the server, how to print it.
+std::string textoDoRelatorio(const ErroExecucao& erro, bool notaPodeExistir);
+
+}  // namespace tarn

@@ -1,0 +1,28 @@
+// Texts are UTF-8; lengths, positions and cuts count characters, never bytes.
+// A malformed byte counts as one character.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+std::size_t lengthOf(std::string_view text);
+std::string_view leftOf(std::string_view text, std::size_t count);
+std::string_view rightOf(std::string_view text, std::size_t count);
+// `count` characters from position `start`, which counts from 1; less where the
+// text ends before.
+std::string_view midOf(std::string_view text, std::size_t start, std::size_t count);
+
+std::string_view trimBlanks(std::string_view text);  // blanks (32) off both ends, nothing else
+std::string upperCase(std::string_view text);        // also the accented letters of windows-1252
+std::string asciiUpper(std::string_view text);
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
+
+// Each control character (below 32, and 127) turned into one blank, so that no
+// value moves a line or commands a printer.
+std::string blankControls(std::string_view text);
+void appendBlankingControls(std::string& out, std::string_view text);
+
+}  // namespace tarn

@@ -1,0 +1,106 @@
+// The answer as a DOM: a thin view over libxml2's own tree, nothing is copied.
+// White space between elements, comments and processing instructions are not
+// nodes; child access by position costs O(1).
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+class XmlNode;
+
+// An attribute: its name, base name (no prefix) and text. Null when absent;
+// any read of a null one raises ErroExecucao VariavelObjeto.
+class XmlAttribute {
+public:
+    XmlAttribute() = default;
+    explicit operator bool() const { return attribute_ != nullptr; }
+    std::string_view name() const;      // as written, prefix included
+    std::string_view baseName() const;
+    std::string_view text() const;      // UTF-8; lives as long as the document
+
+private:
+    friend class XmlAttributes;
+    explicit XmlAttribute(const void* attribute) : attribute_(attribute) {}
+    const void* attribute_ = nullptr;
+};
+
+class XmlAttributes {
+public:
+    std::size_t length() const;
+    XmlAttribute item(std::size_t index) const;                  // null past the end
+    XmlAttribute getNamedItem(std::string_view name) const;      // exact, case-sensitive; null when absent
+
+private:
+    friend class XmlNode;
+    explicit XmlAttributes(const void* element) : element_(element) {}
+    const void* element_;
+};
+
+class XmlNodeList {
+public:
+    std::size_t length() const;
+    XmlNode item(std::size_t index) const;  // null past the end
+
+private:
+    friend class XmlNode;
+    friend class XmlDocument;
+    std::shared_ptr<const std::vector<const void*>> nodes_;
+};
+
+// An element or the XML declaration. A null node answers false; any other use of
+// it raises ErroExecucao VariavelObjeto.
+class XmlNode {
+public:
+    XmlNode() = default;
+    explicit operator bool() const { return node_ != nullptr; }
+    std::string_view nodeName() const;  // as written, prefix included
+    std::string_view baseName() const;
+    std::string text() const;           // of the element and all below
+    std::string xml() const;            // the node written out
+    std::size_t childCount() const;
+    XmlNode child(std::size_t index) const;  // null past the end
+    XmlNodeList childNodes() const;
+    XmlAttributes attributes() const;
+    XmlNode selectSingleNode(std::string_view path) const;  // null when nothing fits
+    XmlNodeList selectNodes(std::string_view path) const;
+
+private:
+    friend class XmlDocument;
+    friend class XmlNodeList;
+    const void* node_ = nullptr;
+};
+
+// What a request gets its answer in. Empty until a load succeeded.
+class XmlDocument {
+public:
+    XmlDocument();
+    ~XmlDocument();
+    XmlDocument(XmlDocument&&) noexcept;
+    XmlDocument& operator=(XmlDocument&&) noexcept;
+
+    // Parses in strict mode: no network, no external or internal subset, any
+    // declared encoding, 64 MiB at most. False leaves the document empty.
+    bool loadXML(std::string_view bytes);
+
+    std::string xml() const;               // "" while empty
+    bool empty() const;
+    std::size_t childCount() const;        // the declaration, if there is one, and the root
+    XmlNode child(std::size_t index) const;
+    XmlNode documentElement() const;       // null while empty
+    // Paths as the answers need them: "xml/rs:data", "PRINCIPAL", "//ITEM". A
+    // prefix is resolved as the document declares it.
+    XmlNode selectSingleNode(std::string_view path) const;
+    XmlNodeList selectNodes(std::string_view path) const;
+    bool save(const std::string& fileName) const;
+
+private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
+
+}  // namespace tarn
