@@ -1,0 +1,54 @@
+// The behaviours that turn a plain text field into a date, quantity, money or
+// number field, apart from any widget.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/message_boxes.h"
+#include "runtime/dates.h"
+
+namespace tarn {
+
+class Machine;
+
+// Key filters: `tecla` (a character code) becomes 0, with a beep, when it may not
+// pass. Return the code as it leaves.
+std::int16_t SoNumeroVirgula(std::int16_t& tecla, Machine& machine);  // digits, backspace, comma
+std::int16_t SoNumeroInteiro(std::int16_t& tecla, Machine& machine);  // digits, backspace
+
+// What a field shows after it was left, and the box to show first, if any. With
+// `refocus` the focus goes back to the field after the box.
+struct FieldResult {
+    std::string text;
+    std::optional<Box> box;
+    bool refocus = false;
+};
+
+// Date fields: 8 characters without slashes while edited, 10 with them outside.
+inline constexpr int dateLengthEditing = 8;
+inline constexpr int dateLengthShown = 10;
+std::string dateOnEnter(std::string_view text);
+std::string dateOnLeave(std::string_view text, const Date& today);
+// txtDtDeposito's own test of what dateOnLeave made.
+FieldResult testedDateOnLeave(std::string_view text, const Date& today);
+
+// Quantity fields of three decimals; the two messages differ by field.
+struct QuantityMessages {
+    std::string_view notNumeric;
+    std::string_view tooLarge;
+};
+inline constexpr QuantityMessages messagesQtde{"Quantidade inválido.     ",
+                                               "Quantidade máxima permitida é 9.999.999,999 "};
+inline constexpr QuantityMessages messagesPesoBruto{
+    "Peso Bruto inválido.     ", "Peso Bruto máximo permitido é 9.999.999,999 "};
+inline constexpr QuantityMessages messagesPesoLiquido{
+    "Peso Líquido inválido.     ", "Peso Líquido máximo permitido é 9.999.999,999 "};
+FieldResult quantityOnLeave(std::string_view text, const QuantityMessages& messages);
+
+// Money field; raises TipoIncompativel for a text that is no number.
+FieldResult moneyOnLeave(std::string_view text);
+
+}  // namespace tarn
