@@ -9,8 +9,8 @@
 
 namespace tarn::practice {
 
-std::string moneyText(std::int64_t cents);          // "1234.50"
-std::string quantityText(std::int64_t thousandths); // "12.5", "12": no zeros behind
+std::string moneyText(std::int64_t cents);           // "1234.50"
+std::string quantityText(std::int64_t thousandths);  // "12.5", "12": no zeros behind
 
 // value * numerator / denominator, rounded half away from zero.
 std::int64_t scaled(std::int64_t value, std::int64_t numerator, std::int64_t denominator);

@@ -7,9 +7,10 @@ Element schemaOf(const Rowset& rowset) {
     Element row{"s:ElementType", {{"name", "row"}, {"content", "eltOnly"}}, {}};
     int number = 0;
     for (const std::string& column : rowset.columns) {
-        row.add({"s:AttributeType",
-                 {{"name", column}, {"rs:number", std::to_string(++number)}, {"rs:nullable", "true"}},
-                 {}});
+        row.add(
+            {"s:AttributeType",
+             {{"name", column}, {"rs:number", std::to_string(++number)}, {"rs:nullable", "true"}},
+             {}});
     }
     row.add({"s:extends", {{"type", "rs:rowbase"}}, {}});
     Element schema{"s:Schema", {{"id", "RowsetSchema"}}, {}};
@@ -37,9 +38,13 @@ Element& Element::add(Element child) {
     return *this;
 }
 
-Element statusAnswer(std::string status) { return withStatus("RESPOSTA", std::move(status)); }
+Element statusAnswer(std::string status) {
+    return withStatus("RESPOSTA", std::move(status));
+}
 
-Element documentAnswer(std::string status) { return withStatus("PRINCIPAL", std::move(status)); }
+Element documentAnswer(std::string status) {
+    return withStatus("PRINCIPAL", std::move(status));
+}
 
 Element versionAnswer(std::string status, std::optional<std::string> date) {
     Element version{"VERSAO", {}, {}};

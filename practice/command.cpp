@@ -30,10 +30,10 @@ OrRefusal<Establishment> requestedEstablishment(const Query& query, CommandConte
     }
     const std::string& text = query.value("ID_ETB_TARN");
     const std::optional<std::int64_t> id = wholeNumber(text);
-    Rows rows =
-        context.database.select("SELECT id, company_id FROM establishment"
-                                " WHERE id = ? AND company_id = ?",
-                                {id.value_or(-1), std::get<std::int64_t>(company)});
+    Rows rows = context.database.select(
+        "SELECT id, company_id FROM establishment"
+        " WHERE id = ? AND company_id = ?",
+        {id.value_or(-1), std::get<std::int64_t>(company)});
     if (!rows.next()) {
         return Refusal{"O estabelecimento \"" + text +
                        "\" não existe nesta empresa. Saia do sistema e entre de novo."};

@@ -87,7 +87,8 @@ int Database::execute(std::string_view sql, const std::vector<Bind>& binds) {
 
 void Database::insert(std::string_view table, std::string_view columns,
                       const std::vector<Bind>& values) {
-    std::string sql = "INSERT INTO " + std::string(table) + " (" + std::string(columns) + ") VALUES (";
+    std::string sql =
+        "INSERT INTO " + std::string(table) + " (" + std::string(columns) + ") VALUES (";
     for (std::size_t i = 0; i < values.size(); ++i) {
         sql += i == 0 ? "?" : ", ?";
     }
@@ -98,7 +99,9 @@ bool Database::hasTable(std::string_view name) const {
     return QSqlDatabase::database(name_, false).tables().contains(qtText(name));
 }
 
-bool Database::isEmpty() const { return QSqlDatabase::database(name_, false).tables().isEmpty(); }
+bool Database::isEmpty() const {
+    return QSqlDatabase::database(name_, false).tables().isEmpty();
+}
 
 void Database::require(bool done, const char* what) {
     if (!done) {

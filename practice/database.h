@@ -24,15 +24,19 @@ public:
 // One value to bind; nothing binds as null.
 class Bind {
 public:
-    Bind(std::nullopt_t) {}                                       // NOLINT(google-explicit-constructor)
-    Bind(int value) : value_(static_cast<qlonglong>(value)) {}    // NOLINT(google-explicit-constructor)
-    Bind(std::int64_t value) : value_(static_cast<qlonglong>(value)) {}  // NOLINT(google-explicit-constructor)
-    Bind(QDate date) : value_(date) {}                            // NOLINT(google-explicit-constructor)
-    Bind(std::string_view text);                                  // NOLINT(google-explicit-constructor)
-    Bind(const std::string& text) : Bind(std::string_view(text)) {}  // NOLINT(google-explicit-constructor)
-    Bind(const char* text);                                       // a null pointer binds as null
+    Bind(std::nullopt_t) {}  // NOLINT(google-explicit-constructor)
+    Bind(int value)
+        : value_(static_cast<qlonglong>(value)) {}  // NOLINT(google-explicit-constructor)
+    Bind(std::int64_t value)
+        : value_(static_cast<qlonglong>(value)) {}  // NOLINT(google-explicit-constructor)
+    Bind(QDate date) : value_(date) {}              // NOLINT(google-explicit-constructor)
+    Bind(std::string_view text);                    // NOLINT(google-explicit-constructor)
+    Bind(const std::string& text)
+        : Bind(std::string_view(text)) {}  // NOLINT(google-explicit-constructor)
+    Bind(const char* text);                // a null pointer binds as null
     template <class T>
-    Bind(const std::optional<T>& value) : Bind(value ? Bind(*value) : Bind(std::nullopt)) {}  // NOLINT(google-explicit-constructor)
+    Bind(const std::optional<T>& value)
+        : Bind(value ? Bind(*value) : Bind(std::nullopt)) {}  // NOLINT(google-explicit-constructor)
 
     const QVariant& value() const { return value_; }
 

@@ -24,7 +24,9 @@ std::optional<std::string> fieldText(const Rows& rows, int column, Format format
 
 }  // namespace
 
-std::string dayText(QDate date) { return date.toString("dd/MM/yyyy").toStdString(); }
+std::string dayText(QDate date) {
+    return date.toString("dd/MM/yyyy").toStdString();
+}
 
 std::string selectList(std::span<const Field> fields) {
     std::string list;

@@ -71,25 +71,24 @@ HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_
     state->server.set_socket_options(reuseAddressOnly);
     // One request a connection, so that the end waits for no idle one.
     state->server.set_keep_alive_max_count(1);
-    state->server.Get(std::string(kPagePath),
-                      [state](const httplib::Request& request, httplib::Response& response) {
-                          response.set_content(state->answer(queryOf(request.target)),
-                                               state->contentType);
-                      });
-    state->server.set_exception_handler([](const httplib::Request&, httplib::Response& response,
-                                           std::exception_ptr thrown) {
-        response.status = kServerError;
-        try {
-            std::rethrow_exception(thrown);
-        } catch (const std::exception& error) {
-            response.set_content(error.what(), kPlainText);
-        }
+    state->server.Get(std::string(kPagePath), [state](const httplib::Request& request,
+                                                      httplib::Response& response) {
+        response.set_content(state->answer(queryOf(request.target)), state->contentType);
     });
+    state->server.set_exception_handler(
+        [](const httplib::Request&, httplib::Response& response, std::exception_ptr thrown) {
+            response.status = kServerError;
+            try {
+                std::rethrow_exception(thrown);
+            } catch (const std::exception& error) {
+                response.set_content(error.what(), kPlainText);
+            }
+        });
     state->server.set_error_handler([](const httplib::Request&, httplib::Response& response) {
         if (response.status == kNotFound) {
-            response.set_content("Esta página não existe. A página é " + std::string(kPagePath) +
-                                     "?comando=...\n",
-                                 kPlainText);
+            response.set_content(
+                "Esta página não existe. A página é " + std::string(kPagePath) + "?comando=...\n",
+                kPlainText);
         }
     });
 }
@@ -112,8 +111,12 @@ int HttpFront::bind(const std::string& address, int port) {
     return bound;
 }
 
-void HttpFront::serve() { state_->server.listen_after_bind(); }
+void HttpFront::serve() {
+    state_->server.listen_after_bind();
+}
 
-void HttpFront::stop() { state_->server.stop(); }
+void HttpFront::stop() {
+    state_->server.stop();
+}
 
 }  // namespace tarn::practice

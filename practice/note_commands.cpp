@@ -179,9 +179,9 @@ Reply findNote(const Query& query, CommandContext& context) {
 
 std::optional<Refusal> badCancellation(const Query& query, std::int64_t company,
                                        CommandContext& context) {
-    Rows reasons = context.database.select(
-        "SELECT 1 FROM cancel_reason WHERE company_id = ? AND id = ?",
-        {company, wholeNumber(query.value("id_mot_can")).value_or(-1)});
+    Rows reasons =
+        context.database.select("SELECT 1 FROM cancel_reason WHERE company_id = ? AND id = ?",
+                                {company, wholeNumber(query.value("id_mot_can")).value_or(-1)});
     if (!reasons.next()) {
         return Refusal{"O motivo do cancelamento não está cadastrado. Escolha outro motivo."};
     }
@@ -276,6 +276,8 @@ constexpr std::array kCommands = {
 
 }  // namespace
 
-std::span<const Command> noteCommands() { return kCommands; }
+std::span<const Command> noteCommands() {
+    return kCommands;
+}
 
 }  // namespace tarn::practice

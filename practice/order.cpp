@@ -48,21 +48,30 @@ std::vector<OrderItem> loadItems(Database& database, std::int64_t orderId) {
 
 }  // namespace
 
-std::int64_t OrderItem::gross() const { return lineTotal(unitPrice, quantity); }
+std::int64_t OrderItem::gross() const {
+    return lineTotal(unitPrice, quantity);
+}
 
-std::int64_t OrderItem::icms() const { return percentOf(icmsBase(), icmsRate); }
+std::int64_t OrderItem::icms() const {
+    return percentOf(icmsBase(), icmsRate);
+}
 
-std::int64_t OrderItem::ipi() const { return service ? 0 : percentOf(net(), ipiRate); }
+std::int64_t OrderItem::ipi() const {
+    return service ? 0 : percentOf(net(), ipiRate);
+}
 
 std::int64_t OrderItem::withheldBase() const {
-    return service || withheldMargin == 0 ? 0 : percentOf(net() + ipi(), kWholeRate + withheldMargin);
+    return service || withheldMargin == 0 ? 0
+                                          : percentOf(net() + ipi(), kWholeRate + withheldMargin);
 }
 
 std::int64_t OrderItem::withheld() const {
     return std::max<std::int64_t>(0, percentOf(withheldBase(), icmsRate) - icms());
 }
 
-std::int64_t OrderItem::iss() const { return service ? percentOf(net(), issRate) : 0; }
+std::int64_t OrderItem::iss() const {
+    return service ? percentOf(net(), issRate) : 0;
+}
 
 std::optional<Order> loadOrder(Database& database, std::int64_t establishment, std::int64_t id) {
     Rows rows = database.select(

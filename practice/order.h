@@ -71,7 +71,7 @@ struct OrderTotals {
     std::int64_t discounts = 0;  // on the products
     std::int64_t services = 0;   // after their discounts
     std::int64_t ipi = 0;
-    std::int64_t note = 0;       // all that the recipient pays
+    std::int64_t note = 0;  // all that the recipient pays
 };
 
 struct Parcel {

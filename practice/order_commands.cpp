@@ -61,8 +61,7 @@ OrRefusal<RequestedOrder> requestedOrder(const Query& query, CommandContext& con
 
 Refusal notOpen(const RequestedOrder& order) {
     const std::string what = order.state == "F" ? " já virou Nota Fiscal" : " já foi cancelada";
-    return {"A Ordem de Faturamento nº " + std::to_string(order.id) + what +
-            ". Atualize a lista."};
+    return {"A Ordem de Faturamento nº " + std::to_string(order.id) + what + ". Atualize a lista."};
 }
 
 Reply listOrders(const Query& query, CommandContext& context) {
@@ -237,6 +236,8 @@ constexpr std::array kCommands = {
 
 }  // namespace
 
-std::span<const Command> orderCommands() { return kCommands; }
+std::span<const Command> orderCommands() {
+    return kCommands;
+}
 
 }  // namespace tarn::practice

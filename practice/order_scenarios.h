@@ -15,8 +15,8 @@ constexpr int kOverFullForm = -2;
 enum class Choice { Any, ByWeight, Withheld, EveryLegalText };
 
 struct Scenario {
-    int customer = 0;             // row of the customers' table
-    int carrier = kNoCarrier;     // row of the carriers' table
+    int customer = 0;          // row of the customers' table
+    int carrier = kNoCarrier;  // row of the carriers' table
     const char* driver = nullptr;
     int parcels = 1;
     int firstDays = 30;
@@ -28,14 +28,14 @@ struct Scenario {
     const char* saleObservation = nullptr;
     bool entry = false;
     bool lacksStock = false;
-    int discountRate = 0;         // hundredths of a percent of each item
+    int discountRate = 0;  // hundredths of a percent of each item
     int icmsDiscountRate = 0;
-    int freight = 0;              // cents
+    int freight = 0;  // cents
     int insurance = 0;
     int expenses = 0;
     const char* customerOrder = nullptr;
     const char* controlNumber = nullptr;
-    bool ownOrder = true;         // false: the order number of the sale is "0"
+    bool ownOrder = true;  // false: the order number of the sale is "0"
     bool loadOrder = true;
 };
 

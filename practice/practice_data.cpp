@@ -25,10 +25,9 @@ constexpr std::array kLogons = {
     PracticeLogon{761, 762, "otavio", "pratica", false},
 };
 
-constexpr std::array kReasons = {"Erro de digitação", "Desistência do cliente",
-                                 "Preço ou condição de pagamento incorretos",
-                                 "Mercadoria avariada na expedição",
-                                 "Formulário danificado na impressão"};
+constexpr std::array kReasons = {
+    "Erro de digitação", "Desistência do cliente", "Preço ou condição de pagamento incorretos",
+    "Mercadoria avariada na expedição", "Formulário danificado na impressão"};
 
 struct TaxRates {
     const char* origin;
@@ -64,15 +63,15 @@ void insertCompanies(Database& database) {
         }
     }
     for (const EstablishmentRow& row : establishmentRows()) {
-        database.insert("establishment",
-                        "id, company_id, name, short_name, legal_name, tax_number,"
-                        " state_registration, street, street_number, district, postal_code, town,"
-                        " state, state_name, telephone, fax, email, item_lines",
-                        {row.id, row.company, row.name, row.shortName, row.name,
-                         companyTaxNumber(row.taxBase), row.stateRegistration, row.street,
-                         row.number, row.district, row.postalCode, row.town, row.state,
-                         row.stateName, "(11) 5555-0100", "(11) 5555-0101",
-                         "faturamento@empresa.example", std::to_string(row.itemLines)});
+        database.insert(
+            "establishment",
+            "id, company_id, name, short_name, legal_name, tax_number,"
+            " state_registration, street, street_number, district, postal_code, town,"
+            " state, state_name, telephone, fax, email, item_lines",
+            {row.id, row.company, row.name, row.shortName, row.name, companyTaxNumber(row.taxBase),
+             row.stateRegistration, row.street, row.number, row.district, row.postalCode, row.town,
+             row.state, row.stateName, "(11) 5555-0100", "(11) 5555-0101",
+             "faturamento@empresa.example", std::to_string(row.itemLines)});
     }
 }
 
@@ -107,12 +106,12 @@ void insertCustomers(Database& database, int companyIndex, int company) {
         const int id = customerId(companyIndex, row++);
         const std::string tax = customer.naturalPerson ? personTaxNumber(customer.taxBase)
                                                        : companyTaxNumber(customer.taxBase);
-        database.insert("customer",
-                        "id, company_id, name, natural_person, tax_number, state_registration,"
-                        " telephone, credit_blocked",
-                        {id, company, customer.name, customer.naturalPerson ? 1 : 0, tax,
-                         customer.stateRegistration, customer.telephone,
-                         customer.creditBlocked ? 1 : 0});
+        database.insert(
+            "customer",
+            "id, company_id, name, natural_person, tax_number, state_registration,"
+            " telephone, credit_blocked",
+            {id, company, customer.name, customer.naturalPerson ? 1 : 0, tax,
+             customer.stateRegistration, customer.telephone, customer.creditBlocked ? 1 : 0});
         insertAddress(database, id, "P", customer.address);
         insertAddress(database, id, "C", customer.billing);
         insertAddress(database, id, "E", customer.delivery);
@@ -150,9 +149,13 @@ void insertProducts(Database& database, int companyIndex, int company) {
 
 }  // namespace
 
-std::span<const PracticeLogon> practiceLogons() { return kLogons; }
+std::span<const PracticeLogon> practiceLogons() {
+    return kLogons;
+}
 
-std::string storedLogin(std::string_view typed) { return upperCase(trimBlanks(typed)); }
+std::string storedLogin(std::string_view typed) {
+    return upperCase(trimBlanks(typed));
+}
 
 std::string passwordHash(std::int64_t company, std::string_view login, std::string_view password) {
     const std::string text =

@@ -13,10 +13,10 @@ namespace tarn::practice {
 namespace {
 
 constexpr int kFirstOrder = 45001;
-constexpr int kOrdersApart = 100;   // between the first orders of two establishments
+constexpr int kOrdersApart = 100;  // between the first orders of two establishments
 constexpr int kItemsOverForm = 4;
 constexpr int kThousandth = 1000;
-constexpr int kScarceStock = 3;     // units of the product that the stock lacks
+constexpr int kScarceStock = 3;  // units of the product that the stock lacks
 constexpr int kScarceOrdered = 12;
 
 constexpr std::array kSalesmen = {"RÔMULO GONÇALVES", "TÂNIA MARIA DE SOUZA", "VENDA DIRETA",
@@ -32,9 +32,7 @@ class Dice {
 public:
     explicit Dice(std::uint64_t seed) : engine_(seed) {}
     // 0 to count - 1. The engine's sequence is the same on every machine.
-    int below(int count) {
-        return static_cast<int>(engine_() % static_cast<std::uint64_t>(count));
-    }
+    int below(int count) { return static_cast<int>(engine_() % static_cast<std::uint64_t>(count)); }
 
 private:
     std::mt19937_64 engine_;
@@ -112,8 +110,7 @@ Operation operationOf(const Scenario& scenario, const Place& place) {
         return {"DEVOLUÇÃO DE VENDA DE MERCADORIA", "1202", "D", "Devolução de venda", "2"};
     }
     const CustomerRow& customer = customerRows()[static_cast<std::size_t>(scenario.customer)];
-    const bool sameState =
-        std::string_view(customer.address.state) == place.establishment->state;
+    const bool sameState = std::string_view(customer.address.state) == place.establishment->state;
     return {"VENDA DE MERCADORIA ADQUIRIDA DE TERCEIROS", sameState ? "5102" : "6102", "S",
             "Venda de mercadoria", "1"};
 }
@@ -132,12 +129,12 @@ void insertItems(Database& database, int order, int companyIndex, const Scenario
     int position = 0;
     for (const Item& item : items) {
         const std::int64_t gross = lineTotal(item.price, item.quantity);
-        database.insert("order_item",
-                        "order_id, position, product_id, quantity, unit_price, discount,"
-                        " icms_discount",
-                        {order, ++position, productId(companyIndex, item.product), item.quantity,
-                         item.price, percentOf(gross, scenario.discountRate),
-                         percentOf(gross, scenario.icmsDiscountRate)});
+        database.insert(
+            "order_item",
+            "order_id, position, product_id, quantity, unit_price, discount,"
+            " icms_discount",
+            {order, ++position, productId(companyIndex, item.product), item.quantity, item.price,
+             percentOf(gross, scenario.discountRate), percentOf(gross, scenario.icmsDiscountRate)});
     }
 }
 
@@ -159,17 +156,36 @@ void insertOrder(Database& database, int order, const Scenario& scenario, const 
         " observation, sale_observation, packages, gross_weight, net_weight, freight, insurance,"
         " expenses, parcels, first_days, step_days, payment_condition, salesman, own_order,"
         " customer_order, control_number",
-        {order, place.establishment->id, "A",
+        {order,
+         place.establishment->id,
+         "A",
          scenario.loadOrder ? Bind(loadOrder) : Bind(std::nullopt),
          customerId(place.companyIndex, scenario.customer),
          carried ? Bind(carrierId(place.companyIndex, scenario.carrier)) : Bind(std::nullopt),
-         scenario.driver, carried ? Bind(scenario.freight > 0 ? "1" : "2") : Bind(std::nullopt),
-         operation.kind, operation.kindText, operation.series, scenario.entry ? 1 : 0,
-         operation.name, operation.cfop, today.addDays(-age), scenario.observation,
-         scenario.saleObservation, packages, scaled(net, 105, 100), net, scenario.freight,
-         scenario.insurance, scenario.expenses, scenario.parcels, scenario.firstDays,
-         scenario.stepDays, scenario.paymentCondition, salesman,
-         scenario.ownOrder ? std::to_string(sale) : "0", scenario.customerOrder,
+         scenario.driver,
+         carried ? Bind(scenario.freight > 0 ? "1" : "2") : Bind(std::nullopt),
+         operation.kind,
+         operation.kindText,
+         operation.series,
+         scenario.entry ? 1 : 0,
+         operation.name,
+         operation.cfop,
+         today.addDays(-age),
+         scenario.observation,
+         scenario.saleObservation,
+         packages,
+         scaled(net, 105, 100),
+         net,
+         scenario.freight,
+         scenario.insurance,
+         scenario.expenses,
+         scenario.parcels,
+         scenario.firstDays,
+         scenario.stepDays,
+         scenario.paymentCondition,
+         salesman,
+         scenario.ownOrder ? std::to_string(sale) : "0",
+         scenario.customerOrder,
          scenario.controlNumber});
     insertItems(database, order, place.companyIndex, scenario, items);
 }
@@ -177,8 +193,9 @@ void insertOrder(Database& database, int order, const Scenario& scenario, const 
 void insertSeriesAndStock(Database& database, const Place& place, Dice& dice) {
     const int establishment = place.establishment->id;
     constexpr std::string_view kColumns = "establishment_id, code, description, next_number";
-    database.insert("series", kColumns,
-                    {establishment, "1", "Série 1 - Nota Fiscal de Saída", 1001 + dice.below(8000)});
+    database.insert(
+        "series", kColumns,
+        {establishment, "1", "Série 1 - Nota Fiscal de Saída", 1001 + dice.below(8000)});
     database.insert("series", kColumns,
                     {establishment, "2", "Série 2 - Nota Fiscal de Entrada", 1 + dice.below(900)});
     const int count = static_cast<int>(productRows().size());

@@ -13,8 +13,8 @@
 namespace tarn::practice {
 
 struct PracticeOptions {
-    std::string database = ":memory:";     // or a file, made when it isn't there
-    std::uint64_t seed = 1;                // used where the database is made
+    std::string database = ":memory:";  // or a file, made when it isn't there
+    std::uint64_t seed = 1;             // used where the database is made
     Encoding encoding = Encoding::Windows1252;
     std::optional<Date> today = std::nullopt;  // the machine's day where left out
 };

@@ -46,7 +46,7 @@ struct CustomerRow {
     const char* telephone;
     AddressRow address;
     bool creditBlocked = false;
-    AddressRow billing = {};   // without a street: none of its own
+    AddressRow billing = {};  // without a street: none of its own
     AddressRow delivery = {};
 };
 
@@ -72,7 +72,7 @@ struct ProductRow {
     int unitWeight;  // thousandths of a kilogram
     int unitPrice;   // cents
     Tax tax;
-    bool byWeight;   // sold in quarters of its unit
+    bool byWeight;  // sold in quarters of its unit
     const char* legalText;
 };
 

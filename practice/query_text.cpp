@@ -33,9 +33,13 @@ std::string percentDecoded(std::string_view text) {
     return bytes;
 }
 
-std::string decoded(std::string_view text) { return fromWindows1252(percentDecoded(text)); }
+std::string decoded(std::string_view text) {
+    return fromWindows1252(percentDecoded(text));
+}
 
-char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+char lower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
 
 }  // namespace
 
@@ -69,7 +73,9 @@ const std::string& Query::value(std::string_view name) const {
     return found != nullptr ? *found : none;
 }
 
-bool Query::has(std::string_view name) const { return find(name) != nullptr; }
+bool Query::has(std::string_view name) const {
+    return find(name) != nullptr;
+}
 
 bool sameIgnoringCase(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) {

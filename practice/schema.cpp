@@ -7,15 +7,14 @@ namespace {
 
 // Standard SQL, taken alike by SQLite and PostgreSQL. Money is in cents,
 // quantities and weights in thousandths, rates in hundredths of a percent.
-constexpr std::array kTables = {
-    R"(CREATE TABLE schema_version (version INTEGER NOT NULL))",
+constexpr std::array kTables = {R"(CREATE TABLE schema_version (version INTEGER NOT NULL))",
 
-    R"(CREATE TABLE company (
+                                R"(CREATE TABLE company (
         id INTEGER NOT NULL PRIMARY KEY,
         name VARCHAR(120) NOT NULL,
         server_name VARCHAR(40) NOT NULL UNIQUE))",
 
-    R"(CREATE TABLE establishment (
+                                R"(CREATE TABLE establishment (
         id INTEGER NOT NULL PRIMARY KEY,
         company_id INTEGER NOT NULL REFERENCES company (id),
         name VARCHAR(120) NOT NULL,
@@ -36,7 +35,7 @@ constexpr std::array kTables = {
         item_lines VARCHAR(6) NOT NULL,
         service_lines VARCHAR(6)))",
 
-    R"(CREATE TABLE app_user (
+                                R"(CREATE TABLE app_user (
         code VARCHAR(20) NOT NULL PRIMARY KEY,
         establishment_id INTEGER NOT NULL REFERENCES establishment (id),
         company_id INTEGER NOT NULL REFERENCES company (id),
@@ -44,25 +43,25 @@ constexpr std::array kTables = {
         password_hash VARCHAR(64) NOT NULL,
         UNIQUE (company_id, login)))",
 
-    R"(CREATE TABLE user_right (
+                                R"(CREATE TABLE user_right (
         user_code VARCHAR(20) NOT NULL REFERENCES app_user (code),
         right_code VARCHAR(10) NOT NULL,
         PRIMARY KEY (user_code, right_code)))",
 
-    R"(CREATE TABLE series (
+                                R"(CREATE TABLE series (
         establishment_id INTEGER NOT NULL REFERENCES establishment (id),
         code VARCHAR(5) NOT NULL,
         description VARCHAR(60) NOT NULL,
         next_number INTEGER NOT NULL,
         PRIMARY KEY (establishment_id, code)))",
 
-    R"(CREATE TABLE cancel_reason (
+                                R"(CREATE TABLE cancel_reason (
         company_id INTEGER NOT NULL REFERENCES company (id),
         id INTEGER NOT NULL,
         description VARCHAR(80) NOT NULL,
         PRIMARY KEY (company_id, id)))",
 
-    R"(CREATE TABLE customer (
+                                R"(CREATE TABLE customer (
         id INTEGER NOT NULL PRIMARY KEY,
         company_id INTEGER NOT NULL REFERENCES company (id),
         name VARCHAR(150) NOT NULL,
@@ -72,7 +71,7 @@ constexpr std::array kTables = {
         telephone VARCHAR(40),
         credit_blocked INTEGER NOT NULL))",
 
-    R"(CREATE TABLE customer_address (
+                                R"(CREATE TABLE customer_address (
         customer_id INTEGER NOT NULL REFERENCES customer (id),
         kind VARCHAR(1) NOT NULL,
         street VARCHAR(120) NOT NULL,
@@ -83,7 +82,7 @@ constexpr std::array kTables = {
         state VARCHAR(2) NOT NULL,
         PRIMARY KEY (customer_id, kind)))",
 
-    R"(CREATE TABLE carrier (
+                                R"(CREATE TABLE carrier (
         id INTEGER NOT NULL PRIMARY KEY,
         company_id INTEGER NOT NULL REFERENCES company (id),
         name VARCHAR(100) NOT NULL,
@@ -95,7 +94,7 @@ constexpr std::array kTables = {
         plate VARCHAR(10),
         plate_state VARCHAR(2)))",
 
-    R"(CREATE TABLE product (
+                                R"(CREATE TABLE product (
         id INTEGER NOT NULL PRIMARY KEY,
         company_id INTEGER NOT NULL REFERENCES company (id),
         code VARCHAR(20) NOT NULL,
@@ -116,14 +115,14 @@ constexpr std::array kTables = {
         unit_price BIGINT NOT NULL,
         legal_text VARCHAR(250)))",
 
-    R"(CREATE TABLE stock (
+                                R"(CREATE TABLE stock (
         establishment_id INTEGER NOT NULL REFERENCES establishment (id),
         product_id INTEGER NOT NULL REFERENCES product (id),
         quantity BIGINT NOT NULL,
         PRIMARY KEY (establishment_id, product_id)))",
 
-    // state: A open, F turned into a note, C cancelled
-    R"(CREATE TABLE billing_order (
+                                // state: A open, F turned into a note, C cancelled
+                                R"(CREATE TABLE billing_order (
         id INTEGER NOT NULL PRIMARY KEY,
         establishment_id INTEGER NOT NULL REFERENCES establishment (id),
         state VARCHAR(1) NOT NULL,
@@ -156,7 +155,7 @@ constexpr std::array kTables = {
         customer_order VARCHAR(30),
         control_number VARCHAR(60)))",
 
-    R"(CREATE TABLE order_item (
+                                R"(CREATE TABLE order_item (
         order_id INTEGER NOT NULL REFERENCES billing_order (id),
         position INTEGER NOT NULL,
         product_id INTEGER NOT NULL REFERENCES product (id),
@@ -166,7 +165,7 @@ constexpr std::array kTables = {
         icms_discount BIGINT NOT NULL,
         PRIMARY KEY (order_id, position)))",
 
-    R"(CREATE TABLE note (
+                                R"(CREATE TABLE note (
         establishment_id INTEGER NOT NULL,
         series_code VARCHAR(5) NOT NULL,
         number INTEGER NOT NULL,
@@ -179,7 +178,7 @@ constexpr std::array kTables = {
         PRIMARY KEY (establishment_id, series_code, number),
         FOREIGN KEY (establishment_id, series_code) REFERENCES series (establishment_id, code)))",
 
-    R"(CREATE TABLE note_parcel (
+                                R"(CREATE TABLE note_parcel (
         establishment_id INTEGER NOT NULL,
         series_code VARCHAR(5) NOT NULL,
         number INTEGER NOT NULL,

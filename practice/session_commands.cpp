@@ -63,15 +63,14 @@ Reply checkRight(const Query& query, CommandContext& context) {
     if (const auto* refusal = std::get_if<Refusal>(&company)) {
         return *refusal;
     }
-    const auto user =
-        requestedUser(query, "nId_Pes_Usu", std::get<std::int64_t>(company), context);
+    const auto user = requestedUser(query, "nId_Pes_Usu", std::get<std::int64_t>(company), context);
     if (const auto* refusal = std::get_if<Refusal>(&user)) {
         return *refusal;
     }
     const std::string& right = query.value("sTransacao");
-    Rows rows = context.database.select(
-        "SELECT 1 FROM user_right WHERE user_code = ? AND right_code = ?",
-        {std::get<std::string>(user), right});
+    Rows rows =
+        context.database.select("SELECT 1 FROM user_right WHERE user_code = ? AND right_code = ?",
+                                {std::get<std::string>(user), right});
     if (rows.next()) {
         return statusAnswer();
     }
@@ -123,6 +122,8 @@ constexpr std::array kCommands = {
 
 }  // namespace
 
-std::span<const Command> sessionCommands() { return kCommands; }
+std::span<const Command> sessionCommands() {
+    return kCommands;
+}
 
 }  // namespace tarn::practice

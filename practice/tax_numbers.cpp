@@ -25,8 +25,12 @@ std::string completed(std::string_view base, int largestWeight) {
 
 }  // namespace
 
-std::string companyTaxNumber(std::string_view twelveDigits) { return completed(twelveDigits, 9); }
+std::string companyTaxNumber(std::string_view twelveDigits) {
+    return completed(twelveDigits, 9);
+}
 
-std::string personTaxNumber(std::string_view nineDigits) { return completed(nineDigits, 11); }
+std::string personTaxNumber(std::string_view nineDigits) {
+    return completed(nineDigits, 11);
+}
 
 }  // namespace tarn::practice

@@ -31,8 +31,7 @@ struct Arguments {
 void declare(CLI::App& app, Arguments& arguments) {
     app.add_option("--porta", arguments.port, "Porta em que serve; 0 escolhe uma livre")
         ->capture_default_str();
-    app.add_option("--endereco", arguments.address, "Endereço em que serve")
-        ->capture_default_str();
+    app.add_option("--endereco", arguments.address, "Endereço em que serve")->capture_default_str();
     app.add_option("--banco", arguments.options.database,
                    "Arquivo do banco de dados, criado quando não existe")
         ->capture_default_str();
@@ -56,8 +55,7 @@ std::string completeOptions(Arguments& arguments) {
     if (!arguments.today.empty()) {
         arguments.options.today = tarn::parseStrictDate(arguments.today);
         if (!arguments.options.today) {
-            return "A data \"" + arguments.today +
-                   "\" não existe. Escreva --hoje como dd/mm/aaaa.";
+            return "A data \"" + arguments.today + "\" não existe. Escreva --hoje como dd/mm/aaaa.";
         }
     }
     if (arguments.port < 0 || arguments.port > kLargestPort) {
@@ -95,9 +93,9 @@ void serveUntilSignal(HttpFront& front) {
 
 int run(const Arguments& arguments) {
     PracticeServer server(arguments.options);
-    HttpFront front([&server](std::string_view query) { return server.answer(query); },
-                    "text/xml; charset=" +
-                        std::string(tarn::practice::encodingName(server.encoding())));
+    HttpFront front(
+        [&server](std::string_view query) { return server.answer(query); },
+        "text/xml; charset=" + std::string(tarn::practice::encodingName(server.encoding())));
     const int port = front.bind(arguments.address, arguments.port);
     std::cout << "Servindo em http://" << hostOf(arguments.address) << ':' << port
               << tarn::practice::kPagePath << '?' << std::endl;
@@ -114,9 +112,10 @@ int main(int argc, char** argv) {
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
     const QCoreApplication application(argc, argv);
     Arguments arguments;
-    CLI::App app("Servidor de prática do TarnEmissao: a página do servidor central com dados "
-                 "inventados.",
-                 "tarnservidor");
+    CLI::App app(
+        "Servidor de prática do TarnEmissao: a página do servidor central com dados "
+        "inventados.",
+        "tarnservidor");
     declare(app, arguments);
     CLI11_PARSE(app, argc, argv);
     if (const std::string wrong = completeOptions(arguments); !wrong.empty()) {
