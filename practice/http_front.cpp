@@ -4,8 +4,10 @@
 #include <netdb.h>
 #include <sys/socket.h>
 
+#include <atomic>
 #include <cerrno>
 #include <stdexcept>
+#include <thread>
 
 namespace tarn::practice {
 namespace {
@@ -62,6 +64,7 @@ struct HttpFront::State {
     Answer answer;
     std::string contentType;
     httplib::Server server;
+    std::atomic<bool> finished = false;
 };
 
 HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_unique<State>()) {

@@ -24,7 +24,8 @@ public:
     // text for the user, for a bad address or a port that can't be had.
     int bind(const std::string& address, int port);
     void serve();  // blocks until stop()
-    void stop();   // from any thread, once serve() runs
+    // From any other thread; waits for a serve() that is about to begin.
+    void stop();
 
 private:
     struct State;

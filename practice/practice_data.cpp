@@ -63,12 +63,16 @@ void insertCompanies(Database& database) {
         }
     }
     for (const EstablishmentRow& row : establishmentRows()) {
+        const char* legalName = "";
+        for (const CompanyRow& company : companyRows()) {
+            legalName = company.id == row.company ? company.name : legalName;
+        }
         database.insert(
             "establishment",
             "id, company_id, name, short_name, legal_name, tax_number,"
             " state_registration, street, street_number, district, postal_code, town,"
             " state, state_name, telephone, fax, email, item_lines",
-            {row.id, row.company, row.name, row.shortName, row.name, companyTaxNumber(row.taxBase),
+            {row.id, row.company, row.name, row.shortName, legalName, companyTaxNumber(row.taxBase),
              row.stateRegistration, row.street, row.number, row.district, row.postalCode, row.town,
              row.state, row.stateName, "(11) 5555-0100", "(11) 5555-0101",
              "faturamento@empresa.example", std::to_string(row.itemLines)});
