@@ -2,9 +2,12 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "session/xml_document.h"
 
@@ -23,6 +26,49 @@ Valor PegaValor(const XmlNode& no, std::size_t indice, std::string_view nome, co
 // The two readings in use, as text: absent gives "" and "0".
 std::string pegaTexto(const XmlNode& no, std::size_t indice, std::string_view nome);
 std::string pegaNumero(const XmlNode& no, std::size_t indice, std::string_view nome);
+
+// PegaValor for many rows of the same fields: one pass over the attributes of a
+// row answers for all of them, without an allocation.
+class LeitorLinha {
+public:
+    // `nomes` as PegaValor takes them; the texts must outlive the reader.
+    explicit LeitorLinha(std::span<const std::string_view> nomes);
+
+    // Goes to a row. VariavelObjeto for a null one. What was read of the row before
+    // is no longer valid.
+    void le(const XmlNode& linha);
+    void le(const XmlNode& no, std::size_t indice) { le(no.child(indice)); }
+
+    // `campo` is the place of the name in `nomes`. Results live until the next row.
+    bool presente(std::size_t campo) const { return campos_[campo].achado != nullptr; }
+    std::string_view texto(std::size_t campo) const;
+    std::string_view numero(std::size_t campo, std::string_view padrao = "0");
+
+private:
+    struct Campo {
+        std::string_view nome;
+        std::string maiusculo;
+        const void* achado = nullptr;  // first attribute of that name in any case
+        std::string trocado;           // its text with commas, when it has points
+    };
+    // A name as the document interns it, and the field it stands for (-1: none).
+    struct Conhecido {
+        const void* nome = nullptr;
+        int campo = -1;
+    };
+
+    int campoDe(const void* nome, bool semPrefixo);
+    int procura(std::string_view nome) const;
+    Conhecido& lugarDe(const void* nome);
+    void cresce();
+    std::string_view consulta(const Campo& campo, std::string_view nome) const;
+
+    std::vector<Campo> campos_;
+    std::vector<Conhecido> conhecidos_;  // open addressing, a power of two long
+    std::size_t ocupados_ = 0;
+    std::uint64_t documento_ = 0;
+    XmlNode linha_;
+};
 
 // Text of the second attribute of the document's second child; ErroExecucao
 // VariavelObjeto when there is none (no declaration, one attribute only).
