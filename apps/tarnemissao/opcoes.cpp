@@ -39,7 +39,8 @@ std::string comoMensagem(const CLI::ParseError& erro) {
 
 std::string enderecoDoServidor(const std::string& digitado) {
     for (const std::string esquema : {"http://", "https://"}) {
-        if (digitado.size() <= esquema.size() || digitado.compare(0, esquema.size(), esquema) != 0) {
+        if (digitado.size() <= esquema.size() ||
+            digitado.compare(0, esquema.size(), esquema) != 0) {
             continue;
         }
         if (digitado.find('?') != std::string::npos) {

@@ -9,8 +9,8 @@
 namespace tarn {
 
 struct Opcoes {
-    std::string baseUrl;             // ends in "?"
-    std::string impressoraVirtual;   // directory; empty: the machine's printer
+    std::string baseUrl;            // ends in "?"
+    std::string impressoraVirtual;  // directory; empty: the machine's printer
     CodePage paginaDeCodigo = CodePage::Page1252;
     std::string pastaFiguras;
     bool selecaoEtiquetas = false;

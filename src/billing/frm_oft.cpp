@@ -39,8 +39,8 @@ FrmOFT::FrmOFT(DeskContext& desk)
     timer_->setObjectName(QStringLiteral("Timer"));
     timer_->setInterval(intervaloMs);
     connect(timer_, &QTimer::timeout, this, &FrmOFT::Timer_Tick);
-    auto* esc = new QShortcut(Qt::Key_Escape, this, nullptr, nullptr,
-                              Qt::WidgetWithChildrenShortcut);
+    auto* esc =
+        new QShortcut(Qt::Key_Escape, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
     connect(esc, &QShortcut::activated, ui_->CmdFechar, &QPushButton::click);
 }
 

@@ -27,7 +27,9 @@ constexpr std::array<Coluna, 12> colunas{{{"Ord. Fat.", "Número da ordem de fat
                                           {"", "Peso bruto", true},
                                           {"", "Peso líquido", true}}};
 
-const Coluna& coluna(int numero) { return colunas.at(static_cast<std::size_t>(numero)); }
+const Coluna& coluna(int numero) {
+    return colunas.at(static_cast<std::size_t>(numero));
+}
 
 }  // namespace
 

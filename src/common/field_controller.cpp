@@ -111,7 +111,8 @@ void FieldController::apply(const FieldResult& result) {
         return;
     }
     gate_.shut();
-    QMetaObject::invokeMethod(this, [this, result] { refuse(result); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, result] { refuse(result); }, Qt::QueuedConnection);
 }
 
 void FieldController::refuse(const FieldResult& result) {

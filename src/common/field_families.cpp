@@ -37,11 +37,15 @@ QuantityField::QuantityField(QLineEdit* edit, const QuantityMessages& messages,
     edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
-void QuantityField::left() { apply(quantityOnLeave(edit().text().toStdString(), messages_)); }
+void QuantityField::left() {
+    apply(quantityOnLeave(edit().text().toStdString(), messages_));
+}
 
 MoneyField::MoneyField(QLineEdit* edit, Environment& ambiente)
     : FieldController(edit, KeyFilter::NumeroVirgula, ambiente) {}
 
-void MoneyField::left() { apply(moneyOnLeave(edit().text().toStdString())); }
+void MoneyField::left() {
+    apply(moneyOnLeave(edit().text().toStdString()));
+}
 
 }  // namespace tarn

@@ -13,7 +13,8 @@ frmAjuda::frmAjuda(DeskContext& desk, QWidget* parent)
     : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::frmAjuda>()) {
     ui_->setupUi(this);
     const int lado = fontMetrics().height() * 5;
-    ui_->Image1->setPixmap(figura(QStringLiteral("ajuda")).pixmap(QSize(lado, lado), devicePixelRatio()));
+    ui_->Image1->setPixmap(
+        figura(QStringLiteral("ajuda")).pixmap(QSize(lado, lado), devicePixelRatio()));
     ui_->Label1->setText(QString::fromUtf8(makerName));
     ui_->Label2->setText(QStringLiteral("Telefone: %1").arg(QString::fromUtf8(supportPhone)));
     ui_->Label3->setText(QStringLiteral("Suporte: %1").arg(QString::fromUtf8(supportAddress)));
@@ -24,6 +25,8 @@ frmAjuda::frmAjuda(DeskContext& desk, QWidget* parent)
 
 frmAjuda::~frmAjuda() = default;
 
-bool frmAjuda::carrega() { return impoeFormatoData(desk_.ambiente); }
+bool frmAjuda::carrega() {
+    return impoeFormatoData(desk_.ambiente);
+}
 
 }  // namespace tarn

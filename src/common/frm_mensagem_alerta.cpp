@@ -33,6 +33,8 @@ void frmMensagemAlerta::responde(const char* resposta) {
     accept();
 }
 
-void AlertaNaTela::mostra(ModoAlerta modo) { frmMensagemAlerta(sessao_, modo, tela_).exec(); }
+void AlertaNaTela::mostra(ModoAlerta modo) {
+    frmMensagemAlerta(sessao_, modo, tela_).exec();
+}
 
 }  // namespace tarn

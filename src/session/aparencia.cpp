@@ -8,13 +8,11 @@
 #include <QProxyStyle>
 #include <QTranslator>
 
-namespace {
-
 // Resources of a static library are linked in by this call; it must stand outside of
 // any namespace.
-void initDeskResources() { Q_INIT_RESOURCE(desk); }
-
-}  // namespace
+static void initDeskResources() {
+    Q_INIT_RESOURCE(desk);
+}
 
 namespace tarn {
 namespace {

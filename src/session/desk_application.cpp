@@ -32,8 +32,9 @@ void relataErro(const DeskContext& desk, const std::exception_ptr& erro) {
     } catch (const ErroExecucao& conhecido) {
         box.text = textoDoRelatorio(conhecido, false);
     } catch (const std::exception& outro) {
-        box.text = std::string("Aconteceu um erro inesperado e o programa será encerrado. Anote o "
-                               "texto abaixo e fale com o suporte.\r\r") +
+        box.text = std::string(
+                       "Aconteceu um erro inesperado e o programa será encerrado. Anote o "
+                       "texto abaixo e fale com o suporte.\r\r") +
                    outro.what();
     }
     if (!desk.fim.encerrado()) {

@@ -29,7 +29,9 @@ FrmLogon::FrmLogon(DeskContext& desk, QWidget* parent)
 
 FrmLogon::~FrmLogon() = default;
 
-bool FrmLogon::carrega() { return impoeFormatoData(desk_.ambiente); }
+bool FrmLogon::carrega() {
+    return impoeFormatoData(desk_.ambiente);
+}
 
 void FrmLogon::reject() {
     desk_.fim.encerra();

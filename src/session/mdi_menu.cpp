@@ -131,9 +131,9 @@ void MDIMenu::abreFaturamento() {
     tela->setAttribute(Qt::WA_DeleteOnClose);
     connect(tela, &FrmOFT::carregou, this, &MDIMenu::travaMenus);
     connect(tela, &FrmOFT::fechou, this, &MDIMenu::LiberaMenus);
-    QMdiSubWindow* janela = ui_->mdiArea->addSubWindow(
-        tela, Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                  Qt::WindowCloseButtonHint);
+    QMdiSubWindow* janela =
+        ui_->mdiArea->addSubWindow(tela, Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     janela->setAttribute(Qt::WA_DeleteOnClose);
     janela->resize(janela->sizeHint().boundedTo(ui_->mdiArea->size()));
     janela->show();

@@ -27,12 +27,18 @@ std::string QtMachine::systemDirectory() {
 
 #else
 
-bool QtMachine::setShortDateFormat(const std::string& /*format*/) { return true; }
+bool QtMachine::setShortDateFormat(const std::string& /*format*/) {
+    return true;
+}
 
-std::string QtMachine::systemDirectory() { return {}; }
+std::string QtMachine::systemDirectory() {
+    return {};
+}
 
 #endif
 
-void QtMachine::beep() { QApplication::beep(); }
+void QtMachine::beep() {
+    QApplication::beep();
+}
 
 }  // namespace tarn

@@ -1,6 +1,7 @@
 // The hourglass on every window of the program for as long as this lives.
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 namespace tarn {
