@@ -64,6 +64,7 @@ QString linhasNaTela(const std::string& text) {
 BoxAnswer QtMessageBoxes::show(const Box& box) {
     const ArrowCursor arrow;
     QMessageBox window(windowInFront());
+    window.setObjectName(QStringLiteral("MessageBox"));
     window.setWindowModality(Qt::ApplicationModal);
     window.setTextFormat(Qt::PlainText);
     window.setWindowTitle(QString::fromStdString(box.title));
