@@ -1,6 +1,5 @@
 #include "session/entrada.h"
 
-#include <array>
 #include <exception>
 #include <vector>
 
@@ -86,7 +85,9 @@ std::vector<std::string_view> partes(std::string_view texto, char separador) {
 }
 
 std::string comZero(std::string_view parte) {
-    return (lengthOf(parte) == 1 ? "0" : "") + std::string(parte);
+    std::string texto(lengthOf(parte) == 1 ? "0" : "");
+    texto += parte;
+    return texto;
 }
 
 }  // namespace
