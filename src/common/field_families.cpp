@@ -1,5 +1,7 @@
 #include "common/field_families.h"
 
+#include <algorithm>
+
 #include "platform/clock.h"
 #include "platform/environment.h"
 
