@@ -98,7 +98,7 @@ const std::vector<Line> sampleLines = {
     {43, 63, {{16, "N/PEDIDO: 98765"}}},
     {44, 63, {{16, "S/PEDIDO: PC-77"}}},
     {45, 63, {{16, "VENDEDOR: MARIA"}}},
-    {46, 52, {{2, "BASE DE CALCULO REDUZIDA OBS.: ENTREGAR PELA MANH\xC3"}}},
+    {46, 51, {{2, "BASE DE CALCULO REDUZIDA OBS.: ENTREGAR PELA MANH\xC3"}}},
     {47, 1, {}},
     {48, 1, {}},
     {52, 128, {{123, "004567"}}},
@@ -560,7 +560,7 @@ TEST(ImprimeNF1361Errors, MissingRowsAreObjectErrors) {
 
 TEST(ImprimeNF1361Errors, AFieldInAnotherCaseOfLettersIsAnObjectError) {
     const std::pair<std::string, std::size_t> spelled[] = {
-        {"ENT_SAI", 0}, {"natoper", 1}, {"qtde_parc", 5}, {"dc_obs", 19}};
+        {"ENT_SAI", 0}, {"natoper", 1}, {"qtde_parc", 5}, {"dc_obs", 20}};
     for (const auto& [name, writes] : spelled) {
         NoteText note = sampleNote();
         for (const char* given : {"Ent_Sai", "NatOper", "QTDE_PARC", "DC_OBS"}) {
