@@ -77,14 +77,18 @@ void PaperPainter::paintSheet(QPainter& painter, double height) const {
     const double strip = sheet_.strip * kPointsPerInch;
     painter.save();
     if (options_.bands) {
-        for (double top = 0; top < height; top += 2 * kBand) {
+        const int bands = static_cast<int>(std::ceil(height / kBand));
+        for (int band = 0; band < bands; band += 2) {
+            const double top = band * kBand;
             painter.fillRect(QRectF(strip, top, width - 2 * strip, std::min(kBand, height - top)),
                              kBandColour);
         }
     }
     painter.setPen(QPen(kHoleEdge, 0.5));
     painter.setBrush(kHoleFill);
-    for (double y = kHoleSpacing / 2; y < height; y += kHoleSpacing) {
+    const int holes = static_cast<int>(std::ceil(height / kHoleSpacing - 0.5));
+    for (int hole = 0; hole < holes; ++hole) {
+        const double y = (hole + 0.5) * kHoleSpacing;
         painter.drawEllipse(QPointF(strip / 2, y), kHoleRadius, kHoleRadius);
         painter.drawEllipse(QPointF(width - strip / 2, y), kHoleRadius, kHoleRadius);
     }

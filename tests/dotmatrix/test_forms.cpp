@@ -22,14 +22,16 @@ TEST(Forms, BreakAfter66Lines) {
     EXPECT_EQ(rig.paper.lines()[2].form, 1U);
     EXPECT_EQ(rig.paper.lines()[2].row, 0U);
     EXPECT_EQ(rig.paper.lines()[2].y, 11 * kUnitsPerInch);
-    EXPECT_EQ(rig.text(), "first\n" + std::string(64, '\n') + "last\n\fsecond form\n");
+    EXPECT_EQ(rig.text(), std::string("first\n").append(64, '\n') + "last\n\fsecond form\n");
 }
 
 TEST(Forms, EightyLinesAreAllKept) {
     PrinterRig rig;
     std::string job;
     for (int i = 1; i <= 80; ++i) {
-        job += "line " + std::to_string(i) + "\r\n";
+        job += "line ";
+        job += std::to_string(i);
+        job += "\r\n";
     }
     rig.job(job);
     EXPECT_EQ(rig.paper.lines().size(), 80U);
