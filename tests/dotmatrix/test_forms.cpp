@@ -15,7 +15,7 @@ std::string lineEnds(int count) {
 
 TEST(Forms, BreakAfter66Lines) {
     PrinterRig rig;
-    rig.job("first" + lineEnds(65) + "last" + lineEnds(1) + "second form");
+    rig.job(std::string("first") + lineEnds(65) + "last" + lineEnds(1) + "second form");
     ASSERT_EQ(rig.paper.lines().size(), 3U);
     EXPECT_EQ(rig.paper.lines()[1].form, 0U);
     EXPECT_EQ(rig.paper.lines()[1].row, 65U);
@@ -41,7 +41,7 @@ TEST(Forms, EightyLinesAreAllKept) {
 
 TEST(Forms, NoBlankFormAfterTheLastLineEnd) {
     PrinterRig rig;
-    rig.job("x" + lineEnds(66));
+    rig.job(std::string("x") + lineEnds(66));
     EXPECT_EQ(rig.paper.printedForms(), 1U);
     EXPECT_EQ(rig.paper.forms().size(), 2U);
     EXPECT_EQ(rig.text(), "x\n");
@@ -59,15 +59,14 @@ TEST(Forms, PanelLengthAndLengthInLines) {
     Dialect panel;
     panel.formHeight = 33 * kUnitsPerInch / 6;
     PrinterRig rig(panel);
-    rig.job("a" + lineEnds(33) + "b");
+    rig.job(std::string("a") + lineEnds(33) + "b");
     EXPECT_EQ(rig.paper.lines()[1].form, 1U);
 
     PrinterRig other;
-    other.job(
-        "\x1B"
-        "C\x18"
-        "a" +
-        lineEnds(24) + "b");
+    other.job(std::string("\x1B"
+                          "C\x18"
+                          "a") +
+              lineEnds(24) + "b");
     EXPECT_EQ(other.paper.lines()[1].form, 1U);
     EXPECT_EQ(other.paper.forms()[0].height, 4 * kUnitsPerInch);
 }
