@@ -22,7 +22,7 @@ std::string_view layoutFor(Escada escada, std::int32_t empresa, std::int32_t est
 // Prints the note of an answer whose status reads "OK" and lets go of the document.
 // `numeroNota` holds the note's number as digits. What was sent before an
 // ErroExecucao stays sent and the job stays open.
-void imprimeNota(Escada escada, Environment& ambiente, const Sessao& sessao,
-                 XmlDocument& documento, const std::string& numeroNota);
+void imprimeNota(Escada escada, Environment& ambiente, const Sessao& sessao, XmlDocument& documento,
+                 const std::string& numeroNota);
 
 }  // namespace tarn

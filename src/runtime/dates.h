@@ -27,7 +27,7 @@ std::optional<Date> parseDate(std::string_view text);
 // Strictly dd/mm/yyyy of the calendar.
 std::optional<Date> parseStrictDate(std::string_view text);
 
-std::string dateText(const Date& date);              // dd/mm/yyyy
-std::string formatDateText(std::string_view text);   // dd/mm/yyyy, or the text as it is
+std::string dateText(const Date& date);             // dd/mm/yyyy
+std::string formatDateText(std::string_view text);  // dd/mm/yyyy, or the text as it is
 
 }  // namespace tarn

@@ -11,9 +11,9 @@ namespace tarn {
 // A numeric mask taken apart once. A comma anywhere in the whole part groups by
 // threes; each "0" asks for a digit, each "#" allows one.
 struct NumberMask {
-    int wholeDigits = 0;     // least digits before the comma
-    int leastDecimals = 0;   // "0" places after the point
-    int mostDecimals = 0;    // "0" and "#" places after the point
+    int wholeDigits = 0;    // least digits before the comma
+    int leastDecimals = 0;  // "0" places after the point
+    int mostDecimals = 0;   // "0" and "#" places after the point
     bool grouped = false;
 
     constexpr NumberMask(std::string_view mask) {  // NOLINT: a mask's text is a mask

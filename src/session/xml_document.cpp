@@ -116,6 +116,15 @@ struct Parsed {
     bool undeclaredPrefixes = false;
 };
 
+// Hands out the text piece by piece: of one that it holds whole the parser refuses
+// some that are larger than 10 MB.
+int readPiece(void* context, char* buffer, int length) {
+    auto& rest = *static_cast<std::string_view*>(context);
+    const std::size_t count = rest.copy(buffer, static_cast<std::size_t>(length));
+    rest.remove_prefix(count);
+    return static_cast<int>(count);
+}
+
 Parsed parse(std::string_view bytes) {
     const SilentXml silent;
     const std::unique_ptr<xmlParserCtxt, void (*)(xmlParserCtxt*)> parser(xmlNewParserCtxt(),
@@ -129,19 +138,26 @@ Parsed parse(std::string_view bytes) {
     constexpr int options =
         XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_COMPACT;
     Parsed parsed;
-    parsed.doc.reset(xmlCtxtReadMemory(parser.get(), bytes.data(), static_cast<int>(bytes.size()),
-                                       nullptr, nullptr, options));
+    parsed.doc.reset(
+        xmlCtxtReadIO(parser.get(), readPiece, nullptr, &bytes, nullptr, nullptr, options));
     if (doctypeMet || parser->wellFormed == 0 || parsed.doc == nullptr ||
         xmlDocGetRootElement(parsed.doc.get()) == nullptr) {
         parsed.doc.reset();
+    }
+    if (parsed.doc != nullptr && parsed.doc->encoding == nullptr) {
+        parsed.doc->encoding =
+            xmlStrdup(BAD_CAST "UTF-8");  // so that it writes its letters as such
     }
     parsed.undeclaredPrefixes = parser->nsWellFormed == 0;
     return parsed;
 }
 
-std::string dumped(xmlDoc* doc, xmlNode* node) {
+std::string dumped(xmlNode* node) {
+    const SilentXml silent;
     const std::unique_ptr<xmlBuffer, void (*)(xmlBuffer*)> buffer(xmlBufferCreate(), xmlBufferFree);
-    xmlNodeDump(buffer.get(), doc, node, 0, 0);
+    xmlSaveCtxt* writer = xmlSaveToBuffer(buffer.get(), "UTF-8", XML_SAVE_NO_DECL);
+    xmlSaveTree(writer, node);
+    xmlSaveClose(writer);
     return std::string(view(xmlBufferContent(buffer.get())));
 }
 
@@ -334,7 +350,7 @@ std::string XmlNode::text() const {
 
 std::string XmlNode::xml() const {
     auto* node = const_cast<xmlNode*>(asNode(node_));
-    return isDeclaration(node) ? "<?xml version=\"1.0\"?>" : dumped(node->doc, node);
+    return isDeclaration(node) ? "<?xml version=\"1.0\"?>" : dumped(node);
 }
 
 std::size_t XmlNode::childCount() const {

@@ -1,0 +1,45 @@
+#include "notes/imprime_nota.h"
+
+#include "common/raw_channel.h"
+#include "notes/layouts/layouts.h"
+#include "notes/pipeline.h"
+#include "platform/environment.h"
+#include "runtime/erro_execucao.h"
+
+namespace tarn {
+namespace {
+
+// The issuing screen hands this layout a number that nothing ever set; the call
+// fails before a byte is printed.
+constexpr std::string_view onlyFromReprint = "ImprimeNF_2161_3383";
+
+const notes::Layout& installed(std::string_view name) {
+    const notes::Layout* layout = notes::layoutByName(name);
+    if (layout == nullptr) {
+        throw ErroExecucao(ErroNumero::ObjetoObrigatorio,
+                           std::string(name) +
+                               ": este layout de nota não está instalado nesta versão. Quando "
+                               "estiver, a nota pode ser impressa pela tela de reimpressão");
+    }
+    return *layout;
+}
+
+}  // namespace
+
+void imprimeNota(Escada escada, Environment& ambiente, const Sessao& sessao, XmlDocument& documento,
+                 const std::string& numeroNota) {
+    const std::string_view name = layoutFor(escada, sessao.NCOMPANYCODE, sessao.ID_ETB_TARN);
+    if (escada == Escada::Emissao && name == onlyFromReprint) {
+        throw ErroExecucao(ErroNumero::ObjetoObrigatorio,
+                           std::string(name) +
+                               ": as notas deste estabelecimento só saem pela tela de reimpressão");
+    }
+    if (!name.empty()) {
+        RawChannel channel(ambiente.spooler, ambiente.codePage);
+        notes::printNote(installed(name).formFor(sessao.ID_ETB_TARN), documento, numeroNota,
+                         channel);
+    }
+    documento = XmlDocument();
+}
+
+}  // namespace tarn

@@ -1,0 +1,111 @@
+#include "notes/note_document.h"
+
+#include <span>
+#include <string>
+
+#include "runtime/erro_execucao.h"
+#include "runtime/numbers.h"
+
+namespace tarn::notes {
+namespace {
+
+constexpr std::size_t indexOf(Source source) {
+    return static_cast<std::size_t>(source);
+}
+
+constexpr std::size_t firstTotal = indexOf(Source::VALOR_BASE_ICMS);
+constexpr std::size_t firstOfForm = indexOf(Source::QT_MAX_IT);
+constexpr std::size_t firstOfItem = indexOf(Source::CD_PRO);
+
+constexpr std::span<const std::string_view> names(std::size_t from, std::size_t to) {
+    return std::span(attributeNames).subspan(from, to - from);
+}
+
+}  // namespace
+
+NoteDocument::NoteDocument(const XmlDocument& document)
+    : principal_(document.selectSingleNode("PRINCIPAL")) {
+    if (principal_) {
+        children_ = principal_.childNodes();
+    }
+}
+
+XmlNode NoteDocument::row(std::size_t position) const {
+    if (!principal_) {
+        throw ErroExecucao(ErroNumero::VariavelObjeto,
+                           "o documento da nota não traz o nó PRINCIPAL");
+    }
+    const XmlNode found = children_.item(position);
+    if (!found) {
+        throw ErroExecucao(
+            ErroNumero::VariavelObjeto,
+            "falta no documento da nota a linha de posição " + std::to_string(position));
+    }
+    return found;
+}
+
+std::size_t NoteDocument::fieldOf(Source source) {
+    const std::size_t index = indexOf(source);
+    if (index >= firstOfItem) {
+        return index - firstOfItem;
+    }
+    if (index >= firstOfForm) {
+        return index - firstOfForm;
+    }
+    return index >= firstTotal ? index - firstTotal : index;
+}
+
+LeitorLinha& NoteDocument::readerOf(Source source) {
+    const auto reader = [this](std::optional<LeitorLinha>& slot, std::size_t position,
+                               std::size_t from, std::size_t to) -> LeitorLinha& {
+        if (!slot) {
+            const XmlNode node = row(position);
+            slot.emplace(names(from, to)).le(node);
+        }
+        return *slot;
+    };
+    const std::size_t index = indexOf(source);
+    if (index >= firstOfItem) {
+        return *item_;  // goToItem comes first
+    }
+    if (index >= firstOfForm) {
+        return reader(form_, 2, firstOfForm, firstOfItem);
+    }
+    if (index >= firstTotal) {
+        return reader(totals_, 1, firstTotal, firstOfForm);
+    }
+    return reader(head_, 0, 0, firstTotal);
+}
+
+void NoteDocument::goToItem(std::size_t position) {
+    const XmlNode node = row(position);
+    if (!item_) {
+        item_.emplace(names(firstOfItem, attributeCount));
+    }
+    item_->le(node);
+}
+
+bool NoteDocument::isItem(std::size_t position) const {
+    return position < children_.length() && children_.item(position).baseName() == "ITEM";
+}
+
+double NoteDocument::number(Source source, std::string_view absent) {
+    return numberOf(source, amount(source, absent));
+}
+
+double numberOf(Source source, std::string_view text) {
+    const std::optional<double> value = parseComma(text);
+    if (!value) {
+        refuseNumber(source, text);
+    }
+    return *value;
+}
+
+void refuseNumber(Source source, std::string_view text) {
+    std::string detail = "o campo ";
+    detail.append(attributeName(source)).append(" da nota traz \"").append(text);
+    detail += "\", que não é um número";
+    throw ErroExecucao(ErroNumero::TipoIncompativel, detail);
+}
+
+}  // namespace tarn::notes

@@ -1,0 +1,57 @@
+// The note document: child elements of PRINCIPAL by position, their attributes by
+// source. Each row is walked once, when its first field is asked for.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+#include "notes/source.h"
+#include "session/pega_valor.h"
+#include "session/xml_document.h"
+
+namespace tarn::notes {
+
+// Position of the first item row.
+inline constexpr std::size_t firstItem = 3;
+
+// Texts live as long as the XML document, amounts until the next row of the same
+// kind. A row or a node that is missing, and a field that is there in another case
+// of letters only, are ErroExecucao VariavelObjeto.
+class NoteDocument {
+public:
+    explicit NoteDocument(const XmlDocument& document);
+
+    bool present(Source source) { return readerOf(source).presente(fieldOf(source)); }
+    // Text reading: the text as it stands, "" when absent.
+    std::string_view text(Source source) { return readerOf(source).texto(fieldOf(source)); }
+    // Amount reading: "." turned into ",", `absent` when absent.
+    std::string_view amount(Source source, std::string_view absent = "0") {
+        return readerOf(source).numero(fieldOf(source), absent);
+    }
+    // An amount as a number; TipoIncompativel, naming the field, for anything else.
+    double number(Source source, std::string_view absent = "0");
+
+    // Makes the child at `position` the item row in hand.
+    void goToItem(std::size_t position);
+    std::size_t childCount() const { return children_.length(); }
+    bool isItem(std::size_t position) const;
+
+private:
+    LeitorLinha& readerOf(Source source);
+    static std::size_t fieldOf(Source source);
+    XmlNode row(std::size_t position) const;
+
+    XmlNode principal_;
+    XmlNodeList children_;
+    std::optional<LeitorLinha> head_;
+    std::optional<LeitorLinha> totals_;
+    std::optional<LeitorLinha> form_;
+    std::optional<LeitorLinha> item_;
+};
+
+// The text of `source` as a number by the comma reading.
+double numberOf(Source source, std::string_view text);
+[[noreturn]] void refuseNumber(Source source, std::string_view text);
+
+}  // namespace tarn::notes

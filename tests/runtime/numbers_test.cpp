@@ -1,0 +1,178 @@
+#include "runtime/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "runtime/erro_execucao.h"
+
+namespace tarn {
+namespace {
+
+template <typename Call>
+ErroNumero errorOf(Call call) {
+    try {
+        call();
+    } catch (const ErroExecucao& erro) {
+        return erro.numero();
+    }
+    ADD_FAILURE() << "no error was raised";
+    return ErroNumero::ObjetoObrigatorio;
+}
+
+TEST(CommaReading, Numbers) {
+    EXPECT_EQ(parseComma("0"), 0.0);
+    EXPECT_EQ(parseComma("12"), 12.0);
+    EXPECT_EQ(parseComma("007"), 7.0);
+    EXPECT_EQ(parseComma("1,5"), 1.5);
+    EXPECT_EQ(parseComma(",5"), 0.5);
+    EXPECT_EQ(parseComma("5,"), 5.0);
+    EXPECT_EQ(parseComma("1.234,50"), 1234.5);
+    EXPECT_EQ(parseComma("1.2.3"), 123.0);
+    EXPECT_EQ(parseComma("1."), 1.0);
+    EXPECT_EQ(parseComma("-7,25"), -7.25);
+    EXPECT_EQ(parseComma("+7"), 7.0);
+    EXPECT_EQ(parseComma("  12,5  "), 12.5);
+    EXPECT_EQ(parseComma("9.999.999.999.999,99"), 9999999999999.99);
+    EXPECT_EQ(parseComma("0,1"), 0.1);
+    EXPECT_EQ(parseComma("12345678901234567890"), 12345678901234567890.0);
+    EXPECT_EQ(parseComma("0,123456789012345678"), 0.123456789012345678);
+}
+
+TEST(CommaReading, WhatIsNoNumber) {
+    for (const char* text :
+         {"",    " ",    ",",   "-",   "+",   "-,",    ".",   ".5",  "1,,2", "1,2,3",
+          "1e3", "R$ 1", "1 2", "- 1", "--1", "1,5.0", "12A", "1\t", "S/N",  "\xC3\xA7"}) {
+        EXPECT_FALSE(parseComma(text).has_value()) << text;
+        EXPECT_FALSE(isNumeric(text)) << text;
+        EXPECT_EQ(errorOf([&] { readComma(text); }), ErroNumero::TipoIncompativel) << text;
+    }
+    EXPECT_FALSE(isNumeric(std::string(400, '9')));
+    EXPECT_EQ(parseComma("0," + std::string(400, '0') + "1"), 0.0);
+}
+
+TEST(PointReading, ReadsUpToTheFirstStrangeCharacter) {
+    EXPECT_EQ(readPoint("1.234,5"), 1.234);
+    EXPECT_EQ(readPoint("12A"), 12.0);
+    EXPECT_EQ(readPoint("0,50"), 0.0);
+    EXPECT_EQ(readPoint("2,50"), 2.0);
+    EXPECT_EQ(readPoint("1.500,00"), 1.5);
+    EXPECT_EQ(readPoint("12.345.678"), 12.345);
+    EXPECT_EQ(readPoint("12345678,9"), 12345678.0);
+    EXPECT_EQ(readPoint("9.999.999,999"), 9.999);
+    EXPECT_EQ(readPoint("-3.5x"), -3.5);
+    EXPECT_EQ(readPoint("+3"), 3.0);
+    EXPECT_EQ(readPoint(".5"), 0.5);
+    EXPECT_EQ(readPoint("5."), 5.0);
+}
+
+TEST(PointReading, NoNumberIsZero) {
+    for (const char* text : {"", "S/N", "-", ".", "-.", "e5", "R$ 5", ",5", "\r5", "--5"}) {
+        EXPECT_EQ(readPoint(text), 0.0) << text;
+    }
+}
+
+TEST(PointReading, SkipsBlanksTabsAndLineFeedsEverywhere) {
+    EXPECT_EQ(readPoint(" 1 2\t3\n.\n5 "), 123.5);
+    EXPECT_EQ(readPoint("- 4"), -4.0);
+    EXPECT_EQ(readPoint("1 e 2"), 100.0);
+    EXPECT_EQ(readPoint("1\r2"), 1.0);
+}
+
+TEST(PointReading, Exponents) {
+    EXPECT_EQ(readPoint("1e3"), 1000.0);
+    EXPECT_EQ(readPoint("1E-2"), 0.01);
+    EXPECT_EQ(readPoint("2.5d2"), 250.0);
+    EXPECT_EQ(readPoint("2.5D+2"), 250.0);
+    EXPECT_EQ(readPoint("7e"), 7.0);
+    EXPECT_EQ(readPoint("7e+x"), 7.0);
+    EXPECT_EQ(readPoint("7f2"), 7.0);
+}
+
+TEST(PointReading, NeverFails) {
+    const double largest = std::numeric_limits<double>::max();
+    EXPECT_EQ(readPoint("1e999"), largest);
+    EXPECT_EQ(readPoint("-1e999"), -largest);
+    EXPECT_EQ(readPoint("1e-999"), 0.0);
+    EXPECT_EQ(readPoint(std::string(400, '9')), largest);
+    EXPECT_EQ(readPoint("0." + std::string(400, '0') + "1"), 0.0);
+}
+
+TEST(NumberText, FifteenDigitsAndAComma) {
+    EXPECT_EQ(numberText(0), "0");
+    EXPECT_EQ(numberText(-0.0), "0");
+    EXPECT_EQ(numberText(7), "7");
+    EXPECT_EQ(numberText(1000), "1000");
+    EXPECT_EQ(numberText(0.5), "0,5");
+    EXPECT_EQ(numberText(-0.5), "-0,5");
+    EXPECT_EQ(numberText(12.5), "12,5");
+    EXPECT_EQ(numberText(0.05), "0,05");
+    EXPECT_EQ(numberText(0.1 + 0.2), "0,3");
+    EXPECT_EQ(numberText(1.0 / 3.0), "0,333333333333333");
+    EXPECT_EQ(numberText(2.0 / 3.0), "0,666666666666667");
+    EXPECT_EQ(numberText(123456789012345), "123456789012345");
+    EXPECT_EQ(numberText(-1234567.25), "-1234567,25");
+    EXPECT_EQ(numberText(0.9999999999999999), "1");
+}
+
+TEST(NumberText, HasNoExponent) {
+    EXPECT_EQ(numberText(1e20), "100000000000000000000");
+    EXPECT_EQ(numberText(1e-10), "0,0000000001");
+    EXPECT_EQ(numberText(1.5e16), "15000000000000000");
+    EXPECT_EQ(errorOf([] { numberText(std::numeric_limits<double>::infinity()); }),
+              ErroNumero::Estouro);
+}
+
+TEST(Integers, RoundHalfToEven) {
+    EXPECT_EQ(readInt16("2,5"), 2);
+    EXPECT_EQ(readInt16("3,5"), 4);
+    EXPECT_EQ(readInt16("-2,5"), -2);
+    EXPECT_EQ(readInt16("033"), 33);
+    EXPECT_EQ(readInt32("1.234"), 1234);
+    EXPECT_EQ(readInt32("0,5"), 0);
+}
+
+TEST(Integers, OverflowAndTypeErrors) {
+    EXPECT_EQ(readInt16("32767"), 32767);
+    EXPECT_EQ(readInt16("-32768"), -32768);
+    EXPECT_EQ(readInt32("2147483647"), 2147483647);
+    EXPECT_EQ(readInt32("-2147483648"), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(errorOf([] { readInt16("32767,5"); }), ErroNumero::Estouro);
+    EXPECT_EQ(errorOf([] { readInt16("32768"); }), ErroNumero::Estouro);
+    EXPECT_EQ(errorOf([] { readInt16("-32769"); }), ErroNumero::Estouro);
+    EXPECT_EQ(errorOf([] { readInt32("2147483648"); }), ErroNumero::Estouro);
+    EXPECT_EQ(errorOf([] { readInt16("X"); }), ErroNumero::TipoIncompativel);
+    EXPECT_EQ(errorOf([] { readInt32(""); }), ErroNumero::TipoIncompativel);
+}
+
+TEST(PointToComma, TurnsEveryPoint) {
+    EXPECT_EQ(pointToComma("12.50"), "12,50");
+    EXPECT_EQ(pointToComma("1.234.5"), "1,234,5");
+    EXPECT_EQ(pointToComma(""), "");
+}
+
+TEST(ErroExecucaoText, TellsTheNumberAndWhatToDo) {
+    const ErroExecucao erro(ErroNumero::TipoIncompativel, "\"ABC\"");
+    EXPECT_EQ(textoDoRelatorio(erro, false),
+              "Erro em tempo de execução '13':\r\r"
+              "Há um texto onde era esperado um número: \"ABC\".\r\r"
+              "O programa será encerrado. Anote esta mensagem e avise o suporte.");
+    EXPECT_EQ(textoDoRelatorio(ErroExecucao(ErroNumero::ObjetoObrigatorio), true),
+              "Erro em tempo de execução '424':\r\r"
+              "O objeto é obrigatório.\r\r"
+              "O programa será encerrado. Anote esta mensagem e avise o suporte.\r\r"
+              "A Nota Fiscal pode ter sido gerada no servidor. Caso tenha sido gerada, utilize a "
+              "tela de Reimpressão de Nota Fiscal para imprimi-la.");
+}
+
+TEST(ErroExecucaoText, EveryNumberHasItsOwnDescription) {
+    std::vector<std::string> seen;
+    for (const int numero : {5, 6, 9, 13, 91, 424}) {
+        const ErroExecucao erro(static_cast<ErroNumero>(numero));
+        EXPECT_EQ(std::count(seen.begin(), seen.end(), erro.descricao()), 0) << numero;
+        seen.push_back(erro.descricao());
+    }
+}
+
+}  // namespace
+}  // namespace tarn

@@ -1,0 +1,74 @@
+#include "runtime/text.h"
+
+#include <gtest/gtest.h>
+
+namespace tarn {
+namespace {
+
+TEST(Text, CountsAndCutsCharacters) {
+    EXPECT_EQ(lengthOf("AÇÃO"), 4U);
+    EXPECT_EQ(lengthOf("€"), 1U);
+    EXPECT_EQ(lengthOf("\xF0\x9F\x98\x80"), 1U);
+    EXPECT_EQ(lengthOf(""), 0U);
+    EXPECT_EQ(leftOf("AÇÃO", 2), "AÇ");
+    EXPECT_EQ(leftOf("AÇÃO", 4), "AÇÃO");
+    EXPECT_EQ(leftOf("AÇÃO", 5), "AÇÃO");
+    EXPECT_EQ(leftOf("AÇÃO", 0), "");
+    EXPECT_EQ(rightOf("AÇÃO", 2), "ÃO");
+    EXPECT_EQ(rightOf("AÇÃO", 9), "AÇÃO");
+    EXPECT_EQ(rightOf("AÇÃO", 0), "");
+    EXPECT_EQ(midOf("AÇÃO", 1, 2), "AÇ");
+    EXPECT_EQ(midOf("AÇÃO", 2, 2), "ÇÃ");
+    EXPECT_EQ(midOf("AÇÃO", 3, 9), "ÃO");
+    EXPECT_EQ(midOf("AÇÃO", 5, 1), "");
+    EXPECT_EQ(midOf("AÇÃO", 9, 1), "");
+}
+
+TEST(Text, MalformedBytesAreOneCharacterEach) {
+    EXPECT_EQ(lengthOf("A\xC7\x41"), 3U);         // lead byte without its tail
+    EXPECT_EQ(lengthOf("\xE2\x82"), 2U);          // cut sequence
+    EXPECT_EQ(lengthOf("\x80\x80"), 2U);          // tails alone
+    EXPECT_EQ(lengthOf("\xC0\xAF"), 2U);          // overlong
+    EXPECT_EQ(lengthOf("\xE0\x80\xAF"), 3U);      // overlong
+    EXPECT_EQ(lengthOf("\xED\xA0\x80"), 3U);      // surrogate
+    EXPECT_EQ(lengthOf("\xF4\x90\x80\x80"), 4U);  // past the last code point
+    EXPECT_EQ(leftOf("\xFF\xC3\x87"
+                     "A",
+                     2),
+              "\xFF\xC3\x87");
+}
+
+TEST(Text, TrimsBlanksOnly) {
+    EXPECT_EQ(trimBlanks("  A B  "), "A B");
+    EXPECT_EQ(trimBlanks("\tA\t"), "\tA\t");
+    EXPECT_EQ(trimBlanks("   "), "");
+    EXPECT_EQ(trimBlanks(""), "");
+}
+
+TEST(Text, Capitals) {
+    EXPECT_EQ(upperCase("São José, nº 1 ção"), "SÃO JOSÉ, Nº 1 ÇÃO");
+    EXPECT_EQ(upperCase("ß÷µ"), "ß÷µ");
+    EXPECT_EQ(upperCase("ÿšœž"), "ŸŠŒŽ");
+    EXPECT_EQ(upperCase("\xE7"), "\xE7");
+    EXPECT_EQ(asciiUpper("ação"), "AçãO");
+}
+
+TEST(Text, Replaces) {
+    EXPECT_EQ(replaceAll("a%b%", "%", "||"), "a||b||");
+    EXPECT_EQ(replaceAll("aaa", "aa", "b"), "ba");
+    EXPECT_EQ(replaceAll("abc", "", "x"), "abc");
+    EXPECT_EQ(replaceAll("", "a", "x"), "");
+}
+
+TEST(Text, ControlCharactersBecomeBlanks) {
+    EXPECT_EQ(blankControls("A\r\nB\tC\x1B\x7F"
+                            "Ç"),
+              "A  B C  Ç");
+    EXPECT_EQ(blankControls(std::string("\0A", 2)), " A");
+    std::string line = "\x1B";
+    appendBlankingControls(line, "\x1BX");
+    EXPECT_EQ(line, "\x1B X");  // what stood there stays
+}
+
+}  // namespace
+}  // namespace tarn

@@ -1,0 +1,117 @@
+// A spooler that prints nothing: it records every call in order and the bytes of
+// each job, and fails where it is told to.
+#pragma once
+
+#include <cstddef>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/spooler.h"
+
+namespace tarn {
+
+class RecordingSpooler : public Spooler {
+public:
+    enum class Call { Open, StartDocument, StartPage, Write, EndPage, EndDocument, Close };
+
+    struct Job {
+        JobDescription description;
+        std::vector<std::string> writes;  // the bytes of each write taken, in order
+        bool pageEnded = false;
+        bool ended = false;   // endDocument came
+        bool closed = false;  // closePrinter came after it was started
+
+        std::string bytes() const {
+            std::string all;
+            for (const std::string& piece : writes) {
+                all += piece;
+            }
+            return all;
+        }
+    };
+
+    static constexpr std::size_t never = std::numeric_limits<std::size_t>::max();
+
+    // What to answer and where to fail.
+    std::string printer = "Impressora de teste";
+    std::size_t failOpen = never;   // index of the openPrinter that fails, from 0
+    std::size_t failWrite = never;  // index of the write that fails, from 0, over all jobs
+
+    // What happened.
+    std::vector<Call> calls;
+    std::vector<std::string> opened;  // the names asked for
+    std::vector<Job> jobs;            // in the order of startDocument
+    std::size_t writes = 0;           // asked for, failed ones included
+
+    std::string bytes(std::size_t job = 0) const { return jobs.at(job).bytes(); }
+
+    std::string defaultPrinter() override { return printer; }
+
+    bool openPrinter(const std::string& name) override {
+        calls.push_back(Call::Open);
+        opened.push_back(name);
+        open_ = opened.size() - 1 != failOpen;  // either way the job before is let go
+        started_ = false;
+        return open_;
+    }
+
+    bool startDocument(const JobDescription& job) override {
+        calls.push_back(Call::StartDocument);
+        if (!open_) {
+            return false;
+        }
+        jobs.push_back({.description = job, .writes = {}});
+        started_ = true;
+        return true;
+    }
+
+    bool startPage() override {
+        calls.push_back(Call::StartPage);
+        return started_;
+    }
+
+    std::size_t write(std::string_view bytes) override {
+        calls.push_back(Call::Write);
+        const bool fails = writes++ == failWrite;
+        if (fails || !started_) {
+            return 0;
+        }
+        jobs.back().writes.emplace_back(bytes);
+        return bytes.size();
+    }
+
+    bool endPage() override {
+        calls.push_back(Call::EndPage);
+        if (started_) {
+            jobs.back().pageEnded = true;
+        }
+        return started_;
+    }
+
+    bool endDocument() override {
+        calls.push_back(Call::EndDocument);
+        if (started_) {
+            jobs.back().ended = true;
+        }
+        return started_;
+    }
+
+    bool closePrinter() override {
+        calls.push_back(Call::Close);
+        if (started_) {
+            jobs.back().closed = true;
+        }
+        const bool wasOpen = open_;
+        open_ = false;
+        started_ = false;
+        return wasOpen;
+    }
+
+private:
+    bool open_ = false;
+    bool started_ = false;
+};
+
+}  // namespace tarn
