@@ -1,0 +1,56 @@
+#include "practice/command.h"
+
+namespace tarn::practice {
+
+const Command* findCommand(std::string_view name) {
+    for (const auto& subject : {sessionCommands(), orderCommands(), noteCommands()}) {
+        for (const Command& command : subject) {
+            if (sameIgnoringCase(command.name, name)) {
+                return &command;
+            }
+        }
+    }
+    return nullptr;
+}
+
+OrRefusal<std::int64_t> requestedCompany(const Query& query, CommandContext& context) {
+    const std::string& server = query.value("ServerName");
+    Rows rows = context.database.select("SELECT id FROM company WHERE server_name = ?", {server});
+    if (!rows.next()) {
+        return Refusal{"O servidor de dados \"" + server +
+                       "\" não existe. Saia do sistema e entre de novo."};
+    }
+    return rows.integer(0);
+}
+
+OrRefusal<Establishment> requestedEstablishment(const Query& query, CommandContext& context) {
+    const auto company = requestedCompany(query, context);
+    if (const auto* refusal = std::get_if<Refusal>(&company)) {
+        return *refusal;
+    }
+    const std::string& text = query.value("ID_ETB_TARN");
+    const std::optional<std::int64_t> id = wholeNumber(text);
+    Rows rows = context.database.select(
+        "SELECT id, company_id FROM establishment"
+        " WHERE id = ? AND company_id = ?",
+        {id.value_or(-1), std::get<std::int64_t>(company)});
+    if (!rows.next()) {
+        return Refusal{"O estabelecimento \"" + text +
+                       "\" não existe nesta empresa. Saia do sistema e entre de novo."};
+    }
+    return Establishment{rows.integer(0), rows.integer(1)};
+}
+
+OrRefusal<std::string> requestedUser(const Query& query, std::string_view key, std::int64_t company,
+                                     CommandContext& context) {
+    const std::string& code = query.value(key);
+    Rows rows = context.database.select(
+        "SELECT code FROM app_user WHERE code = ? AND company_id = ?", {code, company});
+    if (!rows.next()) {
+        return Refusal{"O usuário \"" + code +
+                       "\" não está cadastrado nesta empresa. Saia do sistema e entre de novo."};
+    }
+    return rows.text(0);
+}
+
+}  // namespace tarn::practice

@@ -1,0 +1,50 @@
+// The page's commands: a name, the shape of its answer, the function that
+// answers it. A new command is one row in the list of its subject.
+#pragma once
+
+#include <QDate>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "practice/answer.h"
+#include "practice/database.h"
+#include "practice/query_text.h"
+
+namespace tarn::practice {
+
+struct CommandContext {
+    Database& database;
+    QDate today;
+};
+
+using CommandHandler = Reply (*)(const Query& query, CommandContext& context);
+
+struct Command {
+    std::string_view name;
+    Shape shape;
+    CommandHandler handler;
+};
+
+std::span<const Command> sessionCommands();
+std::span<const Command> orderCommands();
+std::span<const Command> noteCommands();
+
+const Command* findCommand(std::string_view name);  // letters' case doesn't matter
+
+// What a request may see: the company whose data server it names, and of it the
+// establishment it names.
+struct Establishment {
+    std::int64_t id = 0;
+    std::int64_t company = 0;
+};
+
+OrRefusal<std::int64_t> requestedCompany(const Query& query, CommandContext& context);
+OrRefusal<Establishment> requestedEstablishment(const Query& query, CommandContext& context);
+
+// Refuses a user that isn't of the company.
+OrRefusal<std::string> requestedUser(const Query& query, std::string_view key, std::int64_t company,
+                                     CommandContext& context);
+
+}  // namespace tarn::practice

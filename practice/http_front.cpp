@@ -1,0 +1,125 @@
+#include "practice/http_front.h"
+
+#include <httplib.h>
+#include <netdb.h>
+#include <sys/socket.h>
+
+#include <atomic>
+#include <cerrno>
+#include <stdexcept>
+#include <thread>
+
+namespace tarn::practice {
+namespace {
+
+constexpr const char* kPlainText = "text/plain; charset=utf-8";
+constexpr int kServerError = 500;
+constexpr int kNotFound = 404;
+
+// Without the library's own SO_REUSEPORT, under which a port already served
+// would be taken a second time in silence.
+void reuseAddressOnly(socket_t socket) {
+    const int yes = 1;
+    setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
+}
+
+bool isAddress(const std::string& address) {
+    addrinfo hints{};
+    hints.ai_socktype = SOCK_STREAM;
+    addrinfo* found = nullptr;
+    const bool known =
+        !address.empty() && getaddrinfo(address.c_str(), nullptr, &hints, &found) == 0;
+    if (found != nullptr) {
+        freeaddrinfo(found);
+    }
+    return known;
+}
+
+std::string whyNotBound(const std::string& address, int port, int error) {
+    const std::string place = "a porta " + std::to_string(port) + " do endereço " + address;
+    switch (error) {
+        case EADDRINUSE:
+            return "Não foi possível usar " + place +
+                   ": já está ocupada por outro programa. Escolha outra com --porta, ou 0 para "
+                   "uma porta livre qualquer.";
+        case EACCES:
+            return "Não foi possível usar " + place +
+                   ": o sistema não permite. Escolha uma porta acima de 1023 com --porta.";
+        case EADDRNOTAVAIL:
+            return "O endereço " + address +
+                   " não é desta máquina. Escolha outro com --endereco, por exemplo 127.0.0.1.";
+        default:
+            return "Não foi possível usar " + place + ". Escolha outros com --endereco e --porta.";
+    }
+}
+
+std::string_view queryOf(std::string_view target) {
+    const std::size_t mark = target.find('?');
+    return mark == std::string_view::npos ? std::string_view{} : target.substr(mark + 1);
+}
+
+}  // namespace
+
+struct HttpFront::State {
+    Answer answer;
+    std::string contentType;
+    httplib::Server server;
+    std::atomic<bool> finished = false;
+};
+
+HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_unique<State>()) {
+    state_->answer = std::move(answer);
+    state_->contentType = std::move(contentType);
+    State* state = state_.get();
+    state->server.set_socket_options(reuseAddressOnly);
+    // One request a connection, so that the end waits for no idle one.
+    state->server.set_keep_alive_max_count(1);
+    state->server.Get(std::string(kPagePath), [state](const httplib::Request& request,
+                                                      httplib::Response& response) {
+        response.set_content(state->answer(queryOf(request.target)), state->contentType);
+    });
+    state->server.set_exception_handler(
+        [](const httplib::Request&, httplib::Response& response, std::exception_ptr thrown) {
+            response.status = kServerError;
+            try {
+                std::rethrow_exception(thrown);
+            } catch (const std::exception& error) {
+                response.set_content(error.what(), kPlainText);
+            }
+        });
+    state->server.set_error_handler([](const httplib::Request&, httplib::Response& response) {
+        if (response.status == kNotFound) {
+            response.set_content(
+                "Esta página não existe. A página é " + std::string(kPagePath) + "?comando=...\n",
+                kPlainText);
+        }
+    });
+}
+
+HttpFront::~HttpFront() = default;
+
+int HttpFront::bind(const std::string& address, int port) {
+    if (!isAddress(address)) {
+        throw std::runtime_error("O endereço \"" + address +
+                                 "\" não existe. Escolha outro com --endereco, por exemplo "
+                                 "127.0.0.1.");
+    }
+    errno = 0;
+    const int bound = port == 0 ? state_->server.bind_to_any_port(address)
+                      : state_->server.bind_to_port(address, port) ? port
+                                                                   : -1;
+    if (bound < 0) {
+        throw std::runtime_error(whyNotBound(address, port, errno));
+    }
+    return bound;
+}
+
+void HttpFront::serve() {
+    state_->server.listen_after_bind();
+}
+
+void HttpFront::stop() {
+    state_->server.stop();
+}
+
+}  // namespace tarn::practice

@@ -1,0 +1,44 @@
+// The billing orders that every establishment starts with: one for each case a
+// clerk should have seen.
+#pragma once
+
+#include <span>
+
+namespace tarn::practice {
+
+constexpr int kNoCarrier = -1;
+// Item counts told by the form: as many lines as it has, and some more.
+constexpr int kFullForm = -1;
+constexpr int kOverFullForm = -2;
+
+// Which products the items are taken from, one after the other.
+enum class Choice { Any, ByWeight, Withheld, EveryLegalText };
+
+struct Scenario {
+    int customer = 0;          // row of the customers' table
+    int carrier = kNoCarrier;  // row of the carriers' table
+    const char* driver = nullptr;
+    int parcels = 1;
+    int firstDays = 30;
+    int stepDays = 30;
+    const char* paymentCondition = "28 DIAS";
+    int items = 3;
+    Choice choice = Choice::Any;
+    const char* observation = nullptr;
+    const char* saleObservation = nullptr;
+    bool entry = false;
+    bool lacksStock = false;
+    int discountRate = 0;  // hundredths of a percent of each item
+    int icmsDiscountRate = 0;
+    int freight = 0;  // cents
+    int insurance = 0;
+    int expenses = 0;
+    const char* customerOrder = nullptr;
+    const char* controlNumber = nullptr;
+    bool ownOrder = true;  // false: the order number of the sale is "0"
+    bool loadOrder = true;
+};
+
+std::span<const Scenario> orderScenarios();
+
+}  // namespace tarn::practice

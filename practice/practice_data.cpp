@@ -1,0 +1,185 @@
+#include "practice/practice_data.h"
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <array>
+
+#include "practice/practice_orders.h"
+#include "practice/practice_tables.h"
+#include "practice/tax_numbers.h"
+#include "runtime/text.h"
+
+namespace tarn::practice {
+namespace {
+
+constexpr std::array kLogons = {
+    PracticeLogon{1361, 1361, "clara", "pratica", true},
+    PracticeLogon{1361, 1362, "bruno", "pratica", true},
+    PracticeLogon{1361, 1363, "diana", "pratica", true},
+    PracticeLogon{1361, 1361, "otavio", "pratica", false},
+    PracticeLogon{141, 142, "clara", "pratica", true},
+    PracticeLogon{141, 143, "bruno", "pratica", true},
+    PracticeLogon{141, 142, "otavio", "pratica", false},
+    PracticeLogon{761, 762, "clara", "pratica", true},
+    PracticeLogon{761, 763, "bruno", "pratica", true},
+    PracticeLogon{761, 762, "otavio", "pratica", false},
+};
+
+constexpr std::array kReasons = {
+    "Erro de digitação", "Desistência do cliente", "Preço ou condição de pagamento incorretos",
+    "Mercadoria avariada na expedição", "Formulário danificado na impressão"};
+
+struct TaxRates {
+    const char* origin;
+    const char* situation;
+    int icms;
+    int ipi;
+    int margin;
+};
+
+TaxRates ratesOf(Tax tax, int row) {
+    switch (tax) {
+        case Tax::Reduced:
+            return {"0", "20", 1200, 0, 0};
+        case Tax::Withheld:
+            return {"0", "10", 1800, 0, 4000};
+        case Tax::Exempt:
+            return {"0", "40", 0, 0, 0};
+        case Tax::Imported:
+            return {"1", "00", 1800, 1500, 0};
+        case Tax::Plain:
+            break;
+    }
+    return {"0", "00", 1800, row % 3 * 500, 0};
+}
+
+void insertCompanies(Database& database) {
+    for (const CompanyRow& row : companyRows()) {
+        database.insert("company", "id, name, server_name", {row.id, row.name, row.serverName});
+        int reason = 0;
+        for (const char* description : kReasons) {
+            database.insert("cancel_reason", "company_id, id, description",
+                            {row.id, ++reason, description});
+        }
+    }
+    for (const EstablishmentRow& row : establishmentRows()) {
+        const char* legalName = "";
+        for (const CompanyRow& company : companyRows()) {
+            legalName = company.id == row.company ? company.name : legalName;
+        }
+        database.insert(
+            "establishment",
+            "id, company_id, name, short_name, legal_name, tax_number,"
+            " state_registration, street, street_number, district, postal_code, town,"
+            " state, state_name, telephone, fax, email, item_lines",
+            {row.id, row.company, row.name, row.shortName, legalName, companyTaxNumber(row.taxBase),
+             row.stateRegistration, row.street, row.number, row.district, row.postalCode, row.town,
+             row.state, row.stateName, "(11) 5555-0100", "(11) 5555-0101",
+             "faturamento@empresa.example", std::to_string(row.itemLines)});
+    }
+}
+
+void insertUsers(Database& database) {
+    int number = 100;
+    for (const PracticeLogon& logon : kLogons) {
+        const std::string code = std::to_string(++number);
+        database.insert("app_user", "code, establishment_id, company_id, login, password_hash",
+                        {code, logon.establishment, logon.company, storedLogin(logon.user),
+                         passwordHash(logon.company, logon.user, logon.password)});
+        for (const char* right : {"EMI001", "EMI002", "EMI003", "EMI005"}) {
+            const std::string_view name = right;
+            if (logon.mayIssue || (name != "EMI001" && name != "EMI003")) {
+                database.insert("user_right", "user_code, right_code", {code, right});
+            }
+        }
+    }
+}
+
+void insertAddress(Database& database, int customer, const char* kind, const AddressRow& row) {
+    if (row.street != nullptr) {
+        database.insert("customer_address",
+                        "customer_id, kind, street, complement, district, postal_code, town, state",
+                        {customer, kind, row.street, row.complement, row.district, row.postalCode,
+                         row.town, row.state});
+    }
+}
+
+void insertCustomers(Database& database, int companyIndex, int company) {
+    int row = 0;
+    for (const CustomerRow& customer : customerRows()) {
+        const int id = customerId(companyIndex, row++);
+        const std::string tax = customer.naturalPerson ? personTaxNumber(customer.taxBase)
+                                                       : companyTaxNumber(customer.taxBase);
+        database.insert(
+            "customer",
+            "id, company_id, name, natural_person, tax_number, state_registration,"
+            " telephone, credit_blocked",
+            {id, company, customer.name, customer.naturalPerson ? 1 : 0, tax,
+             customer.stateRegistration, customer.telephone, customer.creditBlocked ? 1 : 0});
+        insertAddress(database, id, "P", customer.address);
+        insertAddress(database, id, "C", customer.billing);
+        insertAddress(database, id, "E", customer.delivery);
+    }
+}
+
+void insertCarriers(Database& database, int companyIndex, int company) {
+    int row = 0;
+    for (const CarrierRow& carrier : carrierRows()) {
+        database.insert("carrier",
+                        "id, company_id, name, tax_number, street, town, state,"
+                        " state_registration, plate, plate_state",
+                        {carrierId(companyIndex, row++), company, carrier.name, carrier.taxNumber,
+                         carrier.street, carrier.town, carrier.state, carrier.stateRegistration,
+                         carrier.plate, carrier.plateState});
+    }
+}
+
+void insertProducts(Database& database, int companyIndex, int company) {
+    int row = 0;
+    for (const ProductRow& product : productRows()) {
+        const TaxRates rates = ratesOf(product.tax, row);
+        const std::string group = std::to_string(row + 1);
+        database.insert("product",
+                        "id, company_id, code, description, unit, service, note_position,"
+                        " fiscal_class, class_group, class_code, origin, tax_situation, icms_rate,"
+                        " ipi_rate, withheld_margin, iss_rate, unit_weight, unit_price, legal_text",
+                        {productId(companyIndex, row), company, product.code, product.description,
+                         product.unit, 0, group, product.fiscalClass, group, product.fiscalClass,
+                         rates.origin, rates.situation, rates.icms, rates.ipi, rates.margin, 0,
+                         product.unitWeight, product.unitPrice, product.legalText});
+        ++row;
+    }
+}
+
+}  // namespace
+
+std::span<const PracticeLogon> practiceLogons() {
+    return kLogons;
+}
+
+std::string storedLogin(std::string_view typed) {
+    return upperCase(trimBlanks(typed));
+}
+
+std::string passwordHash(std::int64_t company, std::string_view login, std::string_view password) {
+    const std::string text =
+        std::to_string(company) + ':' + storedLogin(login) + ':' + std::string(password);
+    return QCryptographicHash::hash(QByteArray::fromStdString(text), QCryptographicHash::Sha256)
+        .toHex()
+        .toStdString();
+}
+
+void insertPracticeData(Database& database, std::uint64_t seed, QDate today) {
+    insertCompanies(database);
+    insertUsers(database);
+    int companyIndex = 0;
+    for (const CompanyRow& company : companyRows()) {
+        insertCustomers(database, companyIndex, company.id);
+        insertCarriers(database, companyIndex, company.id);
+        insertProducts(database, companyIndex, company.id);
+        ++companyIndex;
+    }
+    insertPracticeOrders(database, seed, today);
+}
+
+}  // namespace tarn::practice

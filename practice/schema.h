@@ -1,0 +1,19 @@
+// The tables of the practice server and their version.
+#pragma once
+
+#include "practice/database.h"
+
+namespace tarn::practice {
+
+// Raised when a table changes: a database of another version is refused.
+constexpr int kSchemaVersion = 1;
+
+// Makes the tables in an empty database. The caller holds the transaction.
+void createSchema(Database& database);
+
+enum class SchemaState { Empty, Ready };
+
+// Throws DatabaseError for a database of another version or of another program.
+SchemaState checkSchema(Database& database, const std::string& file);
+
+}  // namespace tarn::practice

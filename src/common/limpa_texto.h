@@ -1,0 +1,15 @@
+// Cleaning of typed texts, so that no quote reaches the server.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace tarn {
+
+// Each of ' " ‘ ’ turned into ´; no text comes back as none.
+std::optional<std::string> TrocaAspas(const std::optional<std::string>& valor);
+
+// Puts `valor` in capitals, in place, and returns it with its quotes turned and trimmed.
+std::string LimpaTexto(std::string& valor);
+
+}  // namespace tarn

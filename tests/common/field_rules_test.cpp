@@ -1,0 +1,182 @@
+#include "common/field_rules.h"
+
+#include <gtest/gtest.h>
+
+#include "runtime/erro_execucao.h"
+#include "support/fixed_machine.h"
+#include "support/scripted_boxes.h"
+
+namespace tarn {
+namespace {
+
+constexpr Date today{20, 3, 2012};
+
+TEST(KeyFilters, PassTheirKeysAndBeepAtTheOthers) {
+    for (std::int16_t key = 0; key < 256; ++key) {
+        const bool digit = key >= 48 && key <= 57;
+        FixedMachine machine;
+        std::int16_t tecla = key;
+        const bool comma = digit || key == 8 || key == 44;
+        EXPECT_EQ(SoNumeroVirgula(tecla, machine), comma ? key : 0) << key;
+        EXPECT_EQ(tecla, comma ? key : 0) << key;
+        EXPECT_EQ(machine.beeps, comma ? 0 : 1) << key;
+        machine.beeps = 0;
+        tecla = key;
+        const bool whole = digit || key == 8;
+        EXPECT_EQ(SoNumeroInteiro(tecla, machine), whole ? key : 0) << key;
+        EXPECT_EQ(tecla, whole ? key : 0) << key;
+        EXPECT_EQ(machine.beeps, whole ? 0 : 1) << key;
+    }
+}
+
+TEST(KeyFilters, CodesOutsideTheByteRange) {
+    FixedMachine machine;
+    for (const std::int16_t key : {std::int16_t{-1}, std::int16_t{304}, std::int16_t{8364}}) {
+        std::int16_t tecla = key;
+        EXPECT_EQ(SoNumeroVirgula(tecla, machine), 0);
+    }
+    EXPECT_EQ(machine.beeps, 3);
+}
+
+TEST(DateField, CompletesWhatWasTyped) {
+    EXPECT_EQ(dateOnLeave("15", today), "15/03/2012");
+    EXPECT_EQ(dateOnLeave("1", today), "01/03/2012");
+    EXPECT_EQ(dateOnLeave("1503", today), "15/03/2012");
+    EXPECT_EQ(dateOnLeave("150311", today), "15/03/2011");
+    EXPECT_EQ(dateOnLeave("150312", today), "15/03/2012");
+    EXPECT_EQ(dateOnLeave("15032012", today), "15/03/2012");
+    EXPECT_EQ(dateOnLeave("15035", today), "15/03/2005");
+    EXPECT_EQ(dateOnLeave("1503999", today), "15/03/2999");
+    EXPECT_EQ(dateOnLeave("150", today), "15/00/2012");
+    EXPECT_EQ(dateOnLeave("15", {1, 11, 987}), "15/11/0987");
+}
+
+TEST(DateField, NothingIsTested) {
+    EXPECT_EQ(dateOnLeave("99992012", today), "99/99/2012");
+    EXPECT_EQ(dateOnLeave("", today), "");
+    EXPECT_EQ(dateOnLeave(",", today), ",/03/2012");
+    EXPECT_EQ(dateOnLeave("1,", today), "01/03/2012");
+    EXPECT_EQ(dateOnLeave("1503,5", today), "15/03/20,5");
+    EXPECT_EQ(dateOnLeave("15,,", today), "15/,,/2012");
+    EXPECT_EQ(dateOnLeave("1503,,,,", today), "15/03/,,,,");
+    EXPECT_EQ(dateOnLeave("150320123", today), "15/03/2012");
+    EXPECT_EQ(dateOnLeave("15/03/2012", today), "15//0/3/20");
+}
+
+TEST(DateField, IsEditedWithoutSlashes) {
+    EXPECT_EQ(dateOnEnter("15/03/2012"), "15032012");
+    EXPECT_EQ(dateOnEnter(""), "");
+    EXPECT_EQ(dateOnEnter("1/5"), "15");
+    EXPECT_EQ(dateOnEnter("15/03/2012").size(), static_cast<std::size_t>(dateLengthEditing));
+    EXPECT_EQ(dateOnLeave("15032012", today).size(), static_cast<std::size_t>(dateLengthShown));
+}
+
+TEST(DateField, LeavingShowsWhatEnteringTookApart) {
+    EXPECT_EQ(dateOnLeave(dateOnEnter("29/02/2012"), today), "29/02/2012");
+    EXPECT_EQ(dateOnLeave(dateOnEnter(",/03/2012"), today), "00/32/2012");
+}
+
+TEST(DepositDate, IsTestedOnTheCalendar) {
+    for (const char* good : {"15", "1503", "29022012", "31122012"}) {
+        const FieldResult result = testedDateOnLeave(good, today);
+        EXPECT_EQ(result.text, dateOnLeave(good, today));
+        EXPECT_FALSE(result.box.has_value() || result.refocus) << good;
+    }
+    const Box refusal{.text = "Data Inválida.      ", .icon = BoxIcon::Critical, .title = "Aviso"};
+    for (const char* bad :
+         {"31022012", "29022011", "12312012", "99992012", "150", "00", "15030099", ","}) {
+        const FieldResult result = testedDateOnLeave(bad, today);
+        EXPECT_EQ(result.text, "") << bad;
+        EXPECT_EQ(result.box, refusal) << bad;
+        EXPECT_TRUE(result.refocus) << bad;
+    }
+}
+
+TEST(DepositDate, EmptyIsNotTested) {
+    const FieldResult result = testedDateOnLeave("", today);
+    EXPECT_EQ(result.text, "");
+    EXPECT_FALSE(result.box.has_value() || result.refocus);
+}
+
+Box attention(const char* text) {
+    return {.text = text, .icon = BoxIcon::Information, .title = "Atenção"};
+}
+
+TEST(QuantityField, FormatsNumbers) {
+    const auto shown = [](std::string_view text) {
+        const FieldResult result = quantityOnLeave(text, messagesQtde);
+        EXPECT_FALSE(result.box.has_value() || result.refocus) << text;
+        return result.text;
+    };
+    EXPECT_EQ(shown("12,5"), "12,500");
+    EXPECT_EQ(shown("0"), "0,000");
+    EXPECT_EQ(shown("1234567,8"), "1.234.567,800");
+    EXPECT_EQ(shown("9.999.999,999"), "9.999.999,999");
+    EXPECT_EQ(shown("9999999,9995"), "10.000.000,000");
+    EXPECT_EQ(shown("12.345.678"), "12.345.678,000");
+    EXPECT_EQ(shown("-5"), "-5,000");
+    EXPECT_EQ(shown(" 7 "), "7,000");
+    EXPECT_EQ(shown("0,0005"), "0,001");
+}
+
+TEST(QuantityField, RefusesWhatIsNoNumber) {
+    for (const char* text : {"", " ", ",", "1,,2", "ABC", "1e3"}) {
+        const FieldResult result = quantityOnLeave(text, messagesQtde);
+        EXPECT_EQ(result.text, "0,000") << text;
+        EXPECT_TRUE(result.refocus) << text;
+        EXPECT_EQ(result.box, attention("Quantidade inválido.     ")) << text;
+    }
+}
+
+TEST(QuantityField, RefusesTenMillionAndMore) {
+    for (const char* text : {"10000000", "12345678,9", "99999999999"}) {
+        const FieldResult result = quantityOnLeave(text, messagesQtde);
+        EXPECT_EQ(result.text, "0,000") << text;
+        EXPECT_TRUE(result.refocus) << text;
+        EXPECT_EQ(result.box, attention("Quantidade máxima permitida é 9.999.999,999 ")) << text;
+    }
+}
+
+TEST(QuantityField, MessagesOfTheWeights) {
+    EXPECT_EQ(quantityOnLeave("", messagesPesoBruto).box, attention("Peso Bruto inválido.     "));
+    EXPECT_EQ(quantityOnLeave("10000000", messagesPesoBruto).box,
+              attention("Peso Bruto máximo permitido é 9.999.999,999 "));
+    EXPECT_EQ(quantityOnLeave("", messagesPesoLiquido).box,
+              attention("Peso Líquido inválido.     "));
+    EXPECT_EQ(quantityOnLeave("10000000", messagesPesoLiquido).box,
+              attention("Peso Líquido máximo permitido é 9.999.999,999 "));
+}
+
+TEST(MoneyField, Formats) {
+    EXPECT_EQ(moneyOnLeave("1234,5").text, "1.234,50");
+    EXPECT_EQ(moneyOnLeave("1.234,50").text, "1.234,50");
+    EXPECT_EQ(moneyOnLeave(",5").text, "0,50");
+    EXPECT_EQ(moneyOnLeave(" 7 ").text, "7,00");
+    EXPECT_EQ(moneyOnLeave("").text, "");
+    EXPECT_EQ(moneyOnLeave("  ").text, "  ");
+    EXPECT_FALSE(moneyOnLeave("1").box.has_value());
+}
+
+TEST(MoneyField, Limit) {
+    const FieldResult top = moneyOnLeave("9999999999999,99");
+    EXPECT_EQ(top.text, "9.999.999.999.999,99");
+    EXPECT_FALSE(top.refocus);
+    const FieldResult over = moneyOnLeave("10000000000000");
+    EXPECT_EQ(over.text, "10000000000000");
+    EXPECT_TRUE(over.refocus);
+    EXPECT_EQ(over.box, (Box{.text = "O valor máximo permitido é de R$ 9.999.999.999.999,99",
+                             .icon = BoxIcon::Exclamation,
+                             .title = "TarnEmissao"}));
+}
+
+TEST(MoneyField, ATextThatIsNoNumberIsARunTimeError) {
+    try {
+        moneyOnLeave(",");
+        FAIL() << "no error";
+    } catch (const ErroExecucao& erro) {
+        EXPECT_EQ(erro.numero(), ErroNumero::TipoIncompativel);
+    }
+}
+
+}  // namespace
+}  // namespace tarn

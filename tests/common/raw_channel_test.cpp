@@ -1,0 +1,188 @@
+#include "common/raw_channel.h"
+
+#include <gtest/gtest.h>
+
+#include "runtime/erro_execucao.h"
+#include "support/recording_spooler.h"
+
+namespace tarn {
+namespace {
+
+using Call = RecordingSpooler::Call;
+
+class RawChannelTest : public testing::Test {
+protected:
+    // Prints a text that nobody needs afterwards.
+    void print(int coluna, std::string texto, int linhas) {
+        channel_.ImprimeRaw(coluna, texto, linhas);
+    }
+
+    RecordingSpooler spooler_;
+    RawChannel channel_{spooler_, CodePage::Page1252};
+};
+
+TEST_F(RawChannelTest, LifeOfAJob) {
+    channel_.abre();
+    print(1, "A", 1);
+    channel_.fecha();
+    EXPECT_EQ(spooler_.calls,
+              (std::vector{Call::Open, Call::StartDocument, Call::StartPage, Call::Write,
+                           Call::EndPage, Call::EndDocument, Call::Close}));
+    EXPECT_EQ(spooler_.opened, (std::vector<std::string>{"Impressora de teste"}));
+    EXPECT_EQ(spooler_.bytes(), " A\r\n");
+    const JobDescription& job = spooler_.jobs.at(0).description;
+    EXPECT_FALSE(job.docName || job.outputFile || job.dataType);
+}
+
+TEST_F(RawChannelTest, DescriptionReachesTheSpooler) {
+    channel_.abre({.docName = "Impressao de Cheque", .outputFile = "", .dataType = ""});
+    EXPECT_EQ(spooler_.jobs.at(0).description.docName, "Impressao de Cheque");
+    EXPECT_EQ(spooler_.jobs.at(0).description.dataType, "");
+}
+
+TEST_F(RawChannelTest, TheDefaultPrinterIsAskedForAtEachOpening) {
+    channel_.abre();
+    channel_.fecha();
+    spooler_.printer = "Outra";
+    channel_.abre();
+    EXPECT_EQ(spooler_.opened, (std::vector<std::string>{"Impressora de teste", "Outra"}));
+}
+
+TEST_F(RawChannelTest, AnEmptyTextIsStillOneWrite) {
+    channel_.abre();
+    print(0, "", 0);
+    EXPECT_EQ(spooler_.jobs.at(0).writes, (std::vector<std::string>{""}));
+}
+
+TEST_F(RawChannelTest, ColumnAndLineEnds) {
+    channel_.abre();
+    print(1, "", 2);
+    print(3, "X", 0);
+    print(0, "Y", 1);
+    print(1, "\x0F\x1BG", 0);
+    EXPECT_EQ(spooler_.jobs.at(0).writes,
+              (std::vector<std::string>{" \r\n\r\n", "   X", "Y\r\n", " \x0F\x1BG"}));
+}
+
+TEST_F(RawChannelTest, TheCallersTextKeepsItsLineEnds) {
+    channel_.abre();
+    std::string texto = "AB";
+    channel_.ImprimeRaw(1, texto, 1);
+    EXPECT_EQ(texto, "AB\r\n");
+    channel_.ImprimeRaw(1, texto, 1);
+    EXPECT_EQ(texto, "AB\r\n\r\n");
+    EXPECT_EQ(spooler_.bytes(), " AB\r\n AB\r\n\r\n");
+}
+
+TEST_F(RawChannelTest, OneByteACharacterOfTheConfiguredPage) {
+    channel_.abre();
+    print(0, "AÇÃO “1”", 0);
+    RawChannel other(spooler_, CodePage::Page850);
+    std::string texto = "ção";
+    other.ImprimeRaw(0, texto, 0);
+    EXPECT_EQ(spooler_.jobs.at(0).writes,
+              (std::vector<std::string>{"A\xC7\xC3O \"1\"", "\x87\xC6o"}));
+}
+
+TEST_F(RawChannelTest, NegativeCountsAreAnErrorAndWriteNothing) {
+    channel_.abre();
+    for (const auto& [coluna, linhas] : {std::pair{-1, 0}, std::pair{0, -1}}) {
+        try {
+            print(coluna, "A", linhas);
+            FAIL() << "no error";
+        } catch (const ErroExecucao& erro) {
+            EXPECT_EQ(erro.numero(), ErroNumero::ArgumentoInvalido);
+        }
+    }
+    EXPECT_EQ(spooler_.writes, 0U);
+}
+
+TEST_F(RawChannelTest, FailuresPassUnnoticed) {
+    spooler_.failOpen = 0;
+    channel_.abre();
+    print(1, "A", 1);
+    channel_.fecha();
+    EXPECT_EQ(spooler_.calls.size(), 7U);
+    EXPECT_TRUE(spooler_.jobs.empty());
+    spooler_.failWrite = spooler_.writes + 1;
+    channel_.abre();
+    print(0, "A", 0);
+    print(0, "B", 0);
+    print(0, "C", 0);
+    EXPECT_EQ(spooler_.bytes(), "AC");
+}
+
+TEST_F(RawChannelTest, AJobNeverClosedIsNotContinued) {
+    channel_.abre();
+    print(0, "A", 0);
+    channel_.abre();
+    print(0, "B", 0);
+    channel_.fecha();
+    EXPECT_EQ(spooler_.bytes(0), "A");
+    EXPECT_EQ(spooler_.bytes(1), "B");
+    EXPECT_FALSE(spooler_.jobs.at(0).closed);
+    EXPECT_TRUE(spooler_.jobs.at(1).closed);
+}
+
+TEST(FormataCampo, PadsInPlace) {
+    std::string texto = "AB";
+    EXPECT_EQ(FormataCampo(texto, 5, false), "AB   ");
+    EXPECT_EQ(texto, "AB   ");
+    texto = "AB";
+    EXPECT_EQ(FormataCampo(texto, 5, true), "   AB");
+    EXPECT_EQ(texto, "   AB");
+    texto = "ÇÃ";
+    EXPECT_EQ(FormataCampo(texto, 4, true), "  ÇÃ");
+}
+
+TEST(FormataCampo, ExactWidthComesBackUnchanged) {
+    for (const bool aDireita : {false, true}) {
+        std::string texto = "ABCDE";
+        EXPECT_EQ(FormataCampo(texto, 5, aDireita), "ABCDE");
+        EXPECT_EQ(texto, "ABCDE");
+    }
+}
+
+TEST(FormataCampo, CutsButLeavesTheCallersText) {
+    for (const bool aDireita : {false, true}) {
+        std::string texto = "1.234,50";
+        EXPECT_EQ(FormataCampo(texto, 5, aDireita), "1.234");
+        EXPECT_EQ(texto, "1.234,50");
+    }
+    std::string accents = "ÇÃÕÉÁÍÓ";
+    EXPECT_EQ(FormataCampo(accents, 5, false), "ÇÃÕÉÁ");
+    EXPECT_EQ(accents, "ÇÃÕÉÁÍÓ");
+}
+
+TEST(FormataCampo, WidthZeroAndBelow) {
+    std::string texto = "A";
+    EXPECT_EQ(FormataCampo(texto, 0, false), "");
+    EXPECT_EQ(texto, "A");
+    std::string empty;
+    EXPECT_EQ(FormataCampo(empty, 0, true), "");
+    try {
+        FormataCampo(texto, -1, false);
+        FAIL() << "no error";
+    } catch (const ErroExecucao& erro) {
+        EXPECT_EQ(erro.numero(), ErroNumero::ArgumentoInvalido);
+    }
+}
+
+TEST(AppendCampo, PadsCutsAndBlanksControls) {
+    std::string linha = "\x0F";
+    appendCampo(linha, "AB", 4, false);
+    appendCampo(linha, "12,5", 6, true);
+    appendCampo(linha, "ABCDEF", 3, true);
+    appendCampo(linha,
+                "A\r\n\x1B"
+                "B\tC",
+                8, false);
+    appendCampo(linha, "ÇÃ", 3, true);
+    appendCampo(linha, "X", 0, false);
+    EXPECT_EQ(linha,
+              "\x0F"
+              "AB    12,5ABCA   B C  ÇÃ");
+}
+
+}  // namespace
+}  // namespace tarn
