@@ -20,11 +20,22 @@ std::size_t roomOf(const MapField& field, const std::string& text) {
     return text.size();
 }
 
-std::string blanks(int count) { return std::string(static_cast<std::size_t>(std::max(count, 0)), ' '); }
+// The blank of the call's own column, and `count` of margin.
+std::string margin(int count) {
+    return std::string(static_cast<std::size_t>(std::max(count, 0)) + 1, ' ');
+}
+
+// A text behind the blank of the call's own column.
+std::string led(const std::string& text) {
+    std::string line = margin(0);
+    line += text;
+    return line;
+}
 
 class Builder {
 public:
-    Builder(const FormFacts& form, const std::vector<MapRow>& map, const NoteCase& note, const Sums& sums)
+    Builder(const FormFacts& form, const std::vector<MapRow>& map, const NoteCase& note,
+            const Sums& sums)
         : form_(form), map_(map), note_(note), sums_(sums) {}
 
     ExpectedNote build() {
@@ -37,10 +48,15 @@ public:
 
 private:
     const MapRow& row() const { return map_[row_]; }
+    // A form that cuts prints no more items than it has lines.
+    int printedItems() const {
+        return form_.pushes ? note_.items : std::min(note_.items, plainItemLines);
+    }
 
     void call(const std::string& text, int lineEnds, int mapLine, const std::string& what,
               const std::vector<MapField>& fields = {}) {
-        note_jobs_.jobs.back().push_back({text, std::max(lineEnds, 0), line_, mapLine, what, fields});
+        note_jobs_.jobs.back().push_back(
+            {text, std::max(lineEnds, 0), line_, mapLine, what, fields});
         line_ += std::max(lineEnds, 0);
     }
     void emptyCall(int lineEnds, const std::string& what) { call(" ", lineEnds, 0, what); }
@@ -48,7 +64,7 @@ private:
     // Control bytes never carry line ends: what the map shows behind them follows
     // as a line of its own.
     void control() {
-        call(" " + row().control, 0, row().line, "control bytes");
+        call(led(row().control), 0, row().line, "control bytes");
         if (row().advance > 0)
             emptyCall(row().advance, "line ends behind control bytes");
         ++row_;
@@ -57,7 +73,7 @@ private:
     void setUp() {
         if (!form_.setupInOwnJob)
             return;
-        call(" " + row().control, 0, 0, "set-up job");
+        call(led(row().control), 0, 0, "set-up job");
         note_jobs_.jobs.emplace_back();
         if (row().advance > 0)
             emptyCall(row().advance, "line ends behind the set-up");
@@ -153,8 +169,9 @@ private:
         // The band of the legal texts takes the last lines below the volumes.
         if (row().shows("QT_ESP") && form_.texts.shape == TextShape::Bands)
             advance -= form_.texts.bandLines;
-        const auto lineEnd = std::find_if(fields.begin(), fields.end(),
-                                          [](const MapField& f) { return f.source == "\"\\r\\n\""; });
+        const auto lineEnd = std::find_if(fields.begin(), fields.end(), [](const MapField& f) {
+            return f.source == "\"\\r\\n\"";
+        });
         if (lineEnd != fields.end()) {
             // The variable of the line above comes again with its line end in it, so
             // what follows begins in column 5 of the next line.
@@ -162,8 +179,8 @@ private:
             std::vector<MapField> second(lineEnd + 1, fields.end());
             for (MapField& field : second)
                 field.column -= 44;
-            call(placed(first, 0, -1) + "\r\n" + placed(second, 0, -1).substr(1), advance, row().line,
-                 "order references, twice");
+            call(placed(first, 0, -1) + "\r\n" + placed(second, 0, -1).substr(1), advance,
+                 row().line, "order references, twice");
             line_ += form_.repeatedLines;
         } else {
             call(placed(fields, 0, -1), advance, row().line, fields.front().source, fields);
@@ -200,7 +217,8 @@ void Builder::parcels() {
     if (note_.parcels == 0)
         call(" ", facts.lastLineEnds[0], rows[0].line, "no parcels");
     else if (note_.parcels > facts.limit)
-        call(" " + printerBytes(facts.message), facts.lineEndsAbove, rows[0].line, "too many parcels");
+        call(led(printerBytes(facts.message)), facts.lineEndsAbove, rows[0].line,
+             "too many parcels");
     else if (facts.oneCallEach)
         parcelCalls(rows);
     else
@@ -216,15 +234,16 @@ void Builder::parcelRows(const std::vector<MapField>& first, int mapLine) {
     const auto perPlace = first.size() / static_cast<std::size_t>(places);
     const int step = first[perPlace].column - first[0].column;
     const auto rest = static_cast<std::size_t>(note_.parcels);
-    const std::string margin = " " + blanks(first[0].column - 2);
-    std::string line = margin;
+    const std::string start = margin(first[0].column - 2);
+    std::string line = start;
     std::size_t shift = 0;
     for (std::size_t n = 1; n <= rest; ++n) {
         const std::size_t place = (n - 1) % static_cast<std::size_t>(facts.perRow);
         for (std::size_t i = 0; i < perPlace; ++i) {
             // A fourth place goes on by the step of the others.
-            MapField field = place < static_cast<std::size_t>(places) ? first[place * perPlace + i]
-                                                                      : first[(place - 1) * perPlace + i];
+            MapField field = place < static_cast<std::size_t>(places)
+                                 ? first[place * perPlace + i]
+                                 : first[(place - 1) * perPlace + i];
             if (place >= static_cast<std::size_t>(places))
                 field.column += step;
             const std::string text = valueOf(field.source, static_cast<int>(n), -1);
@@ -236,7 +255,7 @@ void Builder::parcelRows(const std::vector<MapField>& first, int mapLine) {
         if (n % static_cast<std::size_t>(facts.perRow) == 0) {
             call(line, facts.rowLineEnds, n <= static_cast<std::size_t>(facts.perRow) ? mapLine : 0,
                  "row of parcels");
-            line = margin;
+            line = start;
             shift = 0;
         }
     }
@@ -259,7 +278,7 @@ void Builder::items() {
     std::vector<MapRow> rows;
     while (row().shows("CD_PRO") || row().shows("DESCRICAO"))
         rows.push_back(map_[row_++]);
-    const int printed = form_.pushes ? note_.items : std::min(note_.items, plainItemLines);
+    const int printed = printedItems();
     for (int item = 0; item < printed; ++item) {
         for (const MapRow& own : rows) {
             // The last row of an item ends its line, whatever room the map shows below.
@@ -270,7 +289,7 @@ void Builder::items() {
     }
     if (!row().control.empty() && row().advance > 0) {
         // A change of pitch stands before the blank lines of this form.
-        call(" " + row().control, 0, row().line - 2 + printed, "control bytes below the items");
+        call(led(row().control), 0, row().line - 2 + printed, "control bytes below the items");
         ++row_;
     }
     // With no line left the call is still made and leaves its blank.
@@ -282,7 +301,7 @@ void Builder::items() {
 
 void Builder::classLine() {
     std::string line = " CL. FISCAL - ";
-    const int printed = form_.pushes ? note_.items : std::min(note_.items, plainItemLines);
+    const int printed = printedItems();
     for (int item = 0; item < printed; ++item)
         line += printedItem("class", "", item);
     call(line, row().advance, row().line, "classes");
@@ -291,26 +310,33 @@ void Builder::classLine() {
 
 void Builder::texts() {
     const TextFacts& facts = form_.texts;
-    const std::string legal = joinedTexts(facts, note_, false);
+    const std::string legal = joinedTexts(facts, note_, printedItems(), false);
     const std::string observation = printerBytes(note_.observation);
     switch (facts.shape) {
-        case TextShape::None: throw std::logic_error("a form without texts has a row of texts");
+        case TextShape::None:
+            throw std::logic_error("a form without texts has a row of texts");
         case TextShape::Fixed:
-            call(" " + printerBytes("TEXTOS LEGAIS GRAVADOS NA TRIBUTAÇÃO"), row().advance, row().line,
-                 "fixed text");
+            call(led(printerBytes("TEXTOS LEGAIS GRAVADOS NA TRIBUTAÇÃO")), row().advance,
+                 row().line, "fixed text");
             ++row_;
             break;
-        case TextShape::Pieces: pieceCalls(); break;
-        case TextShape::LeftColumn: leftColumn(); break;
-        case TextShape::Bands: bands(); break;
+        case TextShape::Pieces:
+            pieceCalls();
+            break;
+        case TextShape::LeftColumn:
+            leftColumn();
+            break;
+        case TextShape::Bands:
+            bands();
+            break;
         case TextShape::TwoTexts: {
             const std::string labelled =
                 observation.empty() ? "" : (facts.beforeObservation + observation).substr(0, 155);
-            call(" " + blanks(4) + labelled, 1, row().line, "observation");
+            call(margin(4) + labelled, 1, row().line, "observation");
             ++row_;
-            call(" " + blanks(5) + piece(legal, 1), 1, row().line, "legal texts 1");
+            call(margin(5) + piece(legal, 1), 1, row().line, "legal texts 1");
             // The map's room below the second row holds a third piece.
-            call(" " + blanks(5) + piece(legal, 2), row().advance - 1, 0, "legal texts 2");
+            call(margin(5) + piece(legal, 2), row().advance - 1, 0, "legal texts 2");
             ++row_;
             break;
         }
@@ -328,11 +354,11 @@ std::string Builder::piece(const std::string& text, std::size_t index) const {
 }
 
 void Builder::pieceCalls() {
-    const std::string text = joinedTexts(form_.texts, note_, true);
+    const std::string text = joinedTexts(form_.texts, note_, printedItems(), true);
     const int count = static_cast<int>(form_.texts.pieces.size());
-    const std::string margin = " " + blanks(row().fields.front().column - 2);
+    const std::string start = margin(row().fields.front().column - 2);
     for (int i = 0; i < count; ++i) {
-        call(margin + piece(text, static_cast<std::size_t>(i)),
+        call(start + piece(text, static_cast<std::size_t>(i)),
              i + 1 < count ? 1 : row().advance - (count - 1), i == 0 ? row().line : 0,
              "text piece " + std::to_string(i + 1));
     }
@@ -342,14 +368,14 @@ void Builder::pieceCalls() {
 // Four pieces at column 28; the second and the fourth stand beside an order
 // reference of 20 characters at column 6, behind two blanks.
 void Builder::leftColumn() {
-    const std::string text = joinedTexts(form_.texts, note_, true);
-    const int margin = row().fields.front().column - 2;
+    const std::string text = joinedTexts(form_.texts, note_, printedItems(), true);
+    const int before = row().fields.front().column - 2;
     const MapRow& customer = map_[row_ + 1];
     const MapRow& seller = map_[row_ + 2];
-    call(" " + blanks(margin) + piece(text, 0), row().advance, row().line, "text piece 1");
+    call(margin(before) + piece(text, 0), row().advance, row().line, "text piece 1");
     call(placed(customer.fields, 0, -1) + "  " + piece(text, 1), 1, customer.line,
          "customer's order and text piece 2");
-    call(" " + blanks(margin) + piece(text, 2), customer.advance - 1, 0, "text piece 3");
+    call(margin(before) + piece(text, 2), customer.advance - 1, 0, "text piece 3");
     call(placed(seller.fields, 0, -1) + "  " + piece(text, 3), seller.advance, seller.line,
          "salesman and text piece 4");
     row_ += 3;
@@ -360,7 +386,8 @@ void Builder::leftColumn() {
 void Builder::bands() {
     const TextFacts& facts = form_.texts;
     const std::string observation = printerBytes(note_.observation);
-    const auto band = [&](const std::string& text, bool twoCalls, int lines, int mapLine, const std::string& what) {
+    const auto band = [&](const std::string& text, bool twoCalls, int lines, int mapLine,
+                          const std::string& what) {
         std::vector<std::string> parts;
         for (std::size_t at = 0; at < text.size(); at += facts.bandWidth)
             parts.push_back(text.substr(at, facts.bandWidth));
@@ -370,19 +397,21 @@ void Builder::bands() {
             parts.emplace_back();
         const int calls = std::min(static_cast<int>(parts.size()), facts.bandLines);
         for (int i = 0; i < calls; ++i)
-            call(" " + parts[static_cast<std::size_t>(i)], i + 1 < calls ? 1 : lines - (calls - 1),
-                 i == 0 ? mapLine : 0, what + " " + std::to_string(i + 1));
+            call(led(parts[static_cast<std::size_t>(i)]), i + 1 < calls ? 1 : lines - (calls - 1),
+                 i == 0 ? mapLine : 0, what + led(std::to_string(i + 1)));
     };
-    band(joinedTexts(facts, note_, false), false, facts.bandLines, 0, "legal texts");
-    band(observation, observation.size() > facts.oneLineUpTo, row().advance, row().line, "observation");
+    band(joinedTexts(facts, note_, printedItems(), false), false, facts.bandLines, 0,
+         "legal texts");
+    band(observation, observation.size() > facts.oneLineUpTo, row().advance, row().line,
+         "observation");
     ++row_;
 }
 
 void Builder::taxCredit() {
     const MapRow& rate = map_[row_ + 1];
     if (note_.taxCredit == "1500") {
-        call(" " + blanks(50) + fitted("27,90", 16, true), row().advance, row().line, "tax credit");
-        call(" " + blanks(31) + "1,86", rate.advance, rate.line, "rate of the tax credit");
+        call(margin(50) + fitted("27,90", 16, true), row().advance, row().line, "tax credit");
+        call(margin(31) + "1,86", rate.advance, rate.line, "rate of the tax credit");
     } else {
         call(" ", row().advance + rate.advance, row().line, "no tax credit");
     }
@@ -406,11 +435,14 @@ std::string fitted(const std::string& text, int width, bool right) {
     return right ? room + text : text + room;
 }
 
-std::string joinedTexts(const TextFacts& facts, const NoteCase& note, bool withObservation) {
+std::string joinedTexts(const TextFacts& facts, const NoteCase& note, int printedItems,
+                        bool withObservation) {
     const std::string separator = " \\\\ ";
     std::string out;
     std::set<std::string> seen;
-    for (const std::string& text : note.legalTexts) {
+    for (int item = 0; item < printedItems; ++item) {
+        const std::string& text =
+            note.legalTexts[static_cast<std::size_t>(item) % note.legalTexts.size()];
         if (!seen.insert(text).second)
             continue;
         if (!out.empty())
@@ -425,8 +457,8 @@ std::string joinedTexts(const TextFacts& facts, const NoteCase& note, bool withO
     return out;
 }
 
-ExpectedNote expectedNote(const FormFacts& form, const std::vector<MapRow>& map, const NoteCase& note,
-                          const Sums& sums) {
+ExpectedNote expectedNote(const FormFacts& form, const std::vector<MapRow>& map,
+                          const NoteCase& note, const Sums& sums) {
     return Builder(form, map, note, sums).build();
 }
 

@@ -13,12 +13,12 @@ namespace tarn::test {
 
 // One write to the printer.
 struct ExpectedCall {
-    std::string text;               // bytes, without the line ends
+    std::string text;  // bytes, without the line ends
     int lineEnds = 0;
-    int line = 1;                   // on which it begins, in its job
-    int mapLine = 0;                // of the row whose first call it is; 0: none
-    std::string what;               // for messages
-    std::vector<MapField> fields;   // where they stand, for messages
+    int line = 1;                  // on which it begins, in its job
+    int mapLine = 0;               // of the row whose first call it is; 0: none
+    std::string what;              // for messages
+    std::vector<MapField> fields;  // where they stand, for messages
 
     std::string bytes() const;
 };
@@ -34,13 +34,15 @@ struct Sums {
     std::string weight = "1.568,750";
 };
 
-ExpectedNote expectedNote(const FormFacts& form, const std::vector<MapRow>& map, const NoteCase& note,
-                          const Sums& sums = {});
+ExpectedNote expectedNote(const FormFacts& form, const std::vector<MapRow>& map,
+                          const NoteCase& note, const Sums& sums = {});
 
 // Pads with blanks or cuts.
 std::string fitted(const std::string& text, int width, bool right);
 
-// The legal texts joined, and the observation behind them as the form has it.
-std::string joinedTexts(const TextFacts& facts, const NoteCase& note, bool withObservation);
+// The legal texts of the first `printedItems` items joined, and the observation
+// behind them as the form has it.
+std::string joinedTexts(const TextFacts& facts, const NoteCase& note, int printedItems,
+                        bool withObservation);
 
 }  // namespace tarn::test

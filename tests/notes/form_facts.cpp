@@ -13,7 +13,8 @@ const Ways pointlessQuantity{{"QTDE", "pointless"}, {"line total", "pointless"}}
 const Ways pointlessAndWhole{{"QTDE", "pointless"}, {"line total", "pointless"}, {"ICMS", "whole"}};
 const Ways groupedQuantity{{"QTDE", "grouped"}};
 
-ParcelFacts parcels(int perRow, int limit, const std::string& message, std::vector<int> last, int above) {
+ParcelFacts parcels(int perRow, int limit, const std::string& message, std::vector<int> last,
+                    int above) {
     ParcelFacts facts;
     facts.perRow = perRow;
     facts.limit = limit;
@@ -93,7 +94,11 @@ std::vector<FormFacts> firstGroup() {
     forms.push_back(f);
 
     const std::vector<Piece> sixOf62{{1, 62}, {63, 62}, {125, 62}, {187, 62}, {249, 62}, {311, 62}};
-    f = {.name = "2161_3341", .company = 2161, .establishment = 3341, .length = 47, .exitColumn = 106,
+    f = {.name = "2161_3341",
+         .company = 2161,
+         .establishment = 3341,
+         .length = 47,
+         .exitColumn = 106,
          .entryColumn = 119};
     f.afterItems = 6;
     f.parcels = upTo9Parcels({3, 3, 3, 2, 2, 2, 1, 1, 1, 1}, 5);
@@ -142,7 +147,11 @@ std::vector<FormFacts> firstGroup() {
     f.afterItems = 2;
     forms.push_back(f);
 
-    f = {.name = "2421_3621", .company = 2421, .establishment = 3621, .length = 49, .exitColumn = 87,
+    f = {.name = "2421_3621",
+         .company = 2421,
+         .establishment = 3621,
+         .length = 49,
+         .exitColumn = 87,
          .entryColumn = 110};
     f.afterItems = 2;
     f.texts = pieces({{1, 90}, {65, 90}, {128, 90}});
@@ -230,13 +239,18 @@ std::vector<FormFacts> secondGroup() {
     f = {.name = "3681", .company = 3681, .length = 47, .exitColumn = 99, .entryColumn = 117};
     f.pushes = false;
     f.afterItems = 1;
-    f.parcels = parcels(3, 9, "Numero de Parcelas maior do que 9", {5, 5, 5, 4, 4, 4, 3, 3, 3, 2}, 5);
+    f.parcels =
+        parcels(3, 9, "Numero de Parcelas maior do que 9", {5, 5, 5, 4, 4, 4, 3, 3, 3, 2}, 5);
     // The observation goes in two lines as soon as it is longer than 44.
     f.texts = bands(2, 74, 44);
     f.ways = pointlessQuantity;
     forms.push_back(f);
 
-    f = {.name = "4621_7321", .company = 4621, .establishment = 7321, .length = 38, .exitColumn = 78,
+    f = {.name = "4621_7321",
+         .company = 4621,
+         .establishment = 7321,
+         .length = 38,
+         .exitColumn = 78,
          .entryColumn = 90};
     f.setupInOwnJob = false;
     f.parcels = parcels(3, 6, "Numero de Parcelas maior do que 6. ", {4, 4, 4, 3, 3, 3, 3}, 4);
@@ -264,8 +278,8 @@ const std::vector<FormFacts>& allForms() {
 
 const FormFacts& formNamed(const std::string& name) {
     const auto& forms = allForms();
-    const auto found =
-        std::find_if(forms.begin(), forms.end(), [&](const FormFacts& f) { return f.name == name; });
+    const auto found = std::find_if(forms.begin(), forms.end(),
+                                    [&](const FormFacts& f) { return f.name == name; });
     if (found == forms.end())
         throw std::out_of_range("no form " + name);
     return *found;

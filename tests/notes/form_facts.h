@@ -19,8 +19,8 @@ struct ParcelFacts {
     // Line ends of the block's last call, by number of parcels from 0 to the limit;
     // a full row above it has ended its own line.
     std::vector<int> lastLineEnds;
-    int lineEndsAbove = 0;   // the same with the message of too many
-    int rowLineEnds = 1;     // of a full row
+    int lineEndsAbove = 0;  // the same with the message of too many
+    int rowLineEnds = 1;    // of a full row
     bool oneCallEach = false;
 };
 
@@ -54,14 +54,14 @@ struct FormFacts {
     std::string name{};  // of the map file
     std::int32_t company = 0;
     std::int32_t establishment = 1;
-    int length = 0;       // line ends beside the item lines
-    int exitColumn = 0;   // of the "X"
+    int length = 0;      // line ends beside the item lines
+    int exitColumn = 0;  // of the "X"
     int entryColumn = 0;
     bool setupInOwnJob = true;
-    bool pushes = true;     // more items than lines: pushed down, or cut
+    bool pushes = true;  // more items than lines: pushed down, or cut
     bool onlyProducts = true;
-    int itemConstant = 0;   // added to the blank lines below the items
-    int afterItems = 0;     // fixed line ends below them; 0: no call of its own
+    int itemConstant = 0;  // added to the blank lines below the items
+    int afterItems = 0;    // fixed line ends below them; 0: no call of its own
     std::optional<ParcelFacts> parcels{};
     TextFacts texts{};
     std::map<std::string, std::string> ways{};  // of the item fields, see printedItem
