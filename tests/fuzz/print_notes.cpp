@@ -172,9 +172,10 @@ std::string madeNote(ByteSource& source) {
     mutate(draft.form, source, rarity * 4);
     for (test::Attributes& item : draft.items) {
         if (source.oneIn(4)) {
-            item.insert_or_assign("IC_TP_CAD", "S");
-            item.insert_or_assign("VL_LIQ_IT", std::string(source.of(numbers)));
-            item.insert_or_assign("VL_ISS", "1.5");
+            item.erase("IC_TP_CAD");
+            item.emplace("IC_TP_CAD", "S");
+            item.emplace("VL_LIQ_IT", source.of(numbers));
+            item.emplace("VL_ISS", "1.5");
         }
         mutate(item, source, rarity);
     }
