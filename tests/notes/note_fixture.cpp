@@ -193,6 +193,10 @@ std::vector<std::string> linesOf(const std::string& stream) {
     }
 }
 
+std::string numbered(std::string_view prefix, std::size_t number) {
+    return std::string(prefix).append(std::to_string(number));
+}
+
 std::string lineOf(std::size_t length,
                    const std::vector<std::pair<std::size_t, std::string>>& values) {
     std::string line(length, ' ');

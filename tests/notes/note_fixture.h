@@ -62,6 +62,9 @@ std::string printed(const notes::Form& form, const NoteText& note);
 // The stream cut at its line ends; what follows the last one is the last entry.
 std::vector<std::string> linesOf(const std::string& stream);
 
+// `prefix` and the number behind it.
+std::string numbered(std::string_view prefix, std::size_t number);
+
 // A line of `length` characters with each value at its column, counted from 1.
 // Values are windows-1252.
 std::string lineOf(std::size_t length,

@@ -172,10 +172,9 @@ TEST(ImprimeNF1361, AnythingButACapitalEIsAnExit) {
 NoteText withParcels(int count) {
     NoteText note = sampleNote();
     note.head["QTDE_PARC"] = std::to_string(count);
-    for (int n = 1; n <= 12; ++n) {
-        const std::string parcel = std::to_string(n);
-        note.head["VL_PRN_DOC" + parcel] = parcel + ".5";
-        note.head["DT_VNC_DOC" + parcel] = "VENC" + parcel;
+    for (std::size_t n = 1; n <= 12; ++n) {
+        note.head[numbered("VL_PRN_DOC", n)] = numbered("", n) + ".5";
+        note.head[numbered("DT_VNC_DOC", n)] = numbered("VENC", n);
     }
     return note;
 }
