@@ -39,7 +39,7 @@ struct Field {
     std::uint16_t room = 0;         // what the form leaves for it, where the width is 0
     std::uint16_t start = 0;        // LegalText, Observation: first character, from 1
     std::uint16_t length = 0;       //                         and how many
-    std::string_view label{};         // printed ahead of the value, inside the width
+    std::string_view label{};       // printed ahead of the value, inside the width
     NumberMask mask{""};
 };
 
@@ -69,7 +69,7 @@ struct Place {
 };
 
 struct Parcels {
-    int limit = 0;             // the highest QTDE_PARC that prints
+    int limit = 0;               // the highest QTDE_PARC that prints
     std::string_view message{};  // stands in the block above the limit
     int perRow = 1;
     std::array<Place, 4> places{};

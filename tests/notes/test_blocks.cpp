@@ -59,8 +59,7 @@ TEST(Blocks, ControlBytesGoAloneAndTheirLineEndsFollowInASecondCall) {
 TEST(Blocks, AnAdvanceOfZeroGoesOnInTheSameLineWithItsOwnBlank) {
     constexpr Step steps[] = {Control{"\x12"}, row(0, left(UF, 2, 3), left(CEP, 7, 10)),
                               Control{"\x0F\x1BM"}, row(2, left(DT_EMS_NF, 2, 11))};
-    EXPECT_EQ(streamOf(steps, sampleNote()),
-              " \x12 SP   01310-100   \x0F\x1BM 07/01/2009 \r\n\r\n");
+    EXPECT_EQ(streamOf(steps, sampleNote()), " \x12 SP   01310-100  \x0F\x1BM 07/01/2009 \r\n\r\n");
 }
 
 TEST(Blocks, UnpaddedFieldsKeepTheBlanksBehindThem) {
@@ -97,17 +96,16 @@ TEST(Blocks, AnAmountInWordsTakesItsOwnRoom) {
 
 // Parcels ------------------------------------------------------------------------
 
-constexpr Step numberedParcels[] = {
-    Parcels{.limit = 12,
-            .message = "Número de Parcelas maior do que 12",
-            .perRow = 4,
-            .places = {place(bare(ParcelNumber, 3), left(NR_DOC, 5, 4), right(VL_PRN_DOC, 10, 6)),
-                       place(bare(ParcelNumber, 18), left(NR_DOC, 20, 4), right(VL_PRN_DOC, 25, 6)),
-                       place(bare(ParcelNumber, 33), left(NR_DOC, 35, 4), right(VL_PRN_DOC, 40, 6)),
-                       place(bare(ParcelNumber, 48), left(NR_DOC, 50, 4),
-                             right(VL_PRN_DOC, 55, 6))},
-            .lineEnds = {8, 8, 8, 8, 7, 7, 7, 7, 6, 6, 6, 6, 5},
-            .lineEndsAbove = 7}};
+constexpr Step numberedParcels[] = {Parcels{
+    .limit = 12,
+    .message = "Número de Parcelas maior do que 12",
+    .perRow = 4,
+    .places = {place(bare(ParcelNumber, 3), left(NR_DOC, 5, 4), right(VL_PRN_DOC, 10, 6)),
+               place(bare(ParcelNumber, 18), left(NR_DOC, 20, 4), right(VL_PRN_DOC, 25, 6)),
+               place(bare(ParcelNumber, 33), left(NR_DOC, 35, 4), right(VL_PRN_DOC, 40, 6)),
+               place(bare(ParcelNumber, 48), left(NR_DOC, 50, 4), right(VL_PRN_DOC, 55, 6))},
+    .lineEnds = {8, 8, 8, 8, 7, 7, 7, 7, 6, 6, 6, 6, 5},
+    .lineEndsAbove = 7}};
 
 TEST(Blocks, NumberedParcelsMoveRightBehindTwoDigits) {
     EXPECT_EQ(linesOf(streamOf(numberedParcels, withParcels(1)))[0], "  1)D1     1,00");
@@ -148,8 +146,7 @@ TEST(Blocks, EachParcelMayBeACallOfItsOwn) {
                 .callPerParcel = true,
                 .rowEnds = 2}};
     EXPECT_EQ(streamOf(steps, withParcels(2)), "     V1  V2  \r\n\r\n\r\n\r\n");
-    EXPECT_EQ(streamOf(steps, withParcels(4)),
-              "     V1  V2  V3 \r\n\r\n     V4  \r\n\r\n\r\n");
+    EXPECT_EQ(streamOf(steps, withParcels(4)), "     V1  V2  V3 \r\n\r\n     V4  \r\n\r\n\r\n");
     EXPECT_EQ(streamOf(steps, withParcels(0)), " \r\n\r\n\r\n\r\n");
 }
 
@@ -207,7 +204,7 @@ constexpr Step codeAhead[] = {Items{.line = row(1, left(UNIDADE, 4, 3), right(Li
 TEST(Blocks, TheCodeMayGoAheadInItsOwnCallAndControlBytesBehindTheItems) {
     NoteText note = withItems({"P"});
     note.form["QT_MAX_IT"] = "3";
-    EXPECT_EQ(streamOf(codeAhead, note), "  C1         7,00\r\n \x0F\x1BM \r\n\r\n");
+    EXPECT_EQ(streamOf(codeAhead, note), "  C1           7,00\r\n \x0F\x1BM \r\n\r\n");
 }
 
 TEST(Blocks, ABadAmountKeepsTheCodeOffThePaperToo) {
@@ -217,15 +214,15 @@ TEST(Blocks, ABadAmountKeepsTheCodeOffThePaperToo) {
     std::optional<ErroNumero> erro;
     const std::vector<Job> jobs = print(form, note.xml(), &erro);
     EXPECT_EQ(erro, ErroNumero::TipoIncompativel);
-    EXPECT_EQ(jobs.back().bytes(), "  C1         7,00\r\n");
+    EXPECT_EQ(jobs.back().bytes(), "  C1           7,00\r\n");
     EXPECT_FALSE(jobs.back().ended);
 }
 
 template <Quantity kind, Rule rule = Rule::Masked>
 std::string quantityOf(const std::optional<std::string>& quantity, std::string_view mask) {
-    const Step steps[] = {Items{
-        .line = row(1, as(rule, under(mask, left(QTDE, 2, 10))), right(LineTotal, 13, 12)),
-        .quantity = kind}};
+    const Step steps[] = {
+        Items{.line = row(1, as(rule, under(mask, left(QTDE, 2, 10))), right(LineTotal, 13, 12)),
+              .quantity = kind}};
     NoteText note = withItems({"P"});
     note.items[0]["VALOR_UN"] = "2";
     if (quantity) {
@@ -239,8 +236,7 @@ std::string quantityOf(const std::optional<std::string>& quantity, std::string_v
 TEST(Blocks, QuantitiesAreReadAsTheFormDoes) {
     EXPECT_EQ((quantityOf<Quantity::Amount>("12.500", "##0.000")), " 12,500            25,00");
     EXPECT_EQ((quantityOf<Quantity::Amount>(std::nullopt, "##0.000")), " 0,000              0,00");
-    EXPECT_EQ((quantityOf<Quantity::PointsGroup>("12.500", "##0.000")),
-              " 12500,000     25.000,00");
+    EXPECT_EQ((quantityOf<Quantity::PointsGroup>("12.500", "##0.000")), " 12500,000     25.000,00");
     EXPECT_EQ((quantityOf<Quantity::PointsGroup>("12", "##0.000")), " 12,000            24,00");
     EXPECT_EQ((quantityOf<Quantity::PointsGroup>(std::nullopt, "##0.000")),
               " 5,000             10,00");
@@ -257,11 +253,11 @@ TEST(Blocks, QuantitiesAreReadAsTheFormDoes) {
 }
 
 TEST(Blocks, RatesMayPrintWithoutMask) {
-    constexpr Step steps[] = {Items{.line = row(1, as(Rule::AsAmount, right(ICMS, 2, 4)),
-                                                as(Rule::AsAmount, right(IPI, 7, 4)),
-                                                under("####0", right(AQ_IPI, 12, 2)),
-                                                left(CFOP_ITEM, 16, 4), left(VL_IPI, 22, 5)),
-                                    .productsOnly = false}};
+    constexpr Step steps[] = {Items{
+        .line =
+            row(1, as(Rule::AsAmount, right(ICMS, 2, 4)), as(Rule::AsAmount, right(IPI, 7, 4)),
+                under("####0", right(AQ_IPI, 12, 2)), left(CFOP_ITEM, 16, 4), left(VL_IPI, 22, 5)),
+        .productsOnly = false}};
     NoteText note = withItems({"P", "P"});
     note.items[0]["ICMS"] = "18.00";
     note.items[0]["IPI"] = "isento";
@@ -308,8 +304,8 @@ TEST(Blocks, TheClassLineHasAnEntryForEachItemWithAGroup) {
 
 // Services -----------------------------------------------------------------------
 
-constexpr Step withServices[] = {
-    Items{.line = row(1, left(CD_PRO, 2, 5)), .services = true}, row(1, text("ABAIXO", 2))};
+constexpr Step withServices[] = {Items{.line = row(1, left(CD_PRO, 2, 5)), .services = true},
+                                 row(1, text("ABAIXO", 2))};
 
 NoteText servicesNote(int services, const std::string& lines) {
     NoteText note = withItems({"P"});
@@ -421,11 +417,12 @@ TEST(LegalText, PiecesStandBesideOtherFieldsAndMayOverlap) {
     NoteText note = withItems({"P"});
     note.items[0]["DC_TXT_LEG_NF"] = "ÇBCDEFGH";
     const std::vector<std::string> lines = linesOf(streamOf(steps, note, Joined::Nothing));
-    EXPECT_EQ(lines[7], "         \xC7"
-                        "BCD");
+    EXPECT_EQ(lines[7],
+              "         \xC7"
+              "BCD");
     EXPECT_EQ(lines[8], " PC-77   DEF");
     EXPECT_EQ(lines[9], " SP      ");
-    EXPECT_EQ(lines[11], "      OBS.: ENTR");
+    EXPECT_EQ(lines[11], "      OBS.: ENTRE");
     EXPECT_EQ(lines[12], " ENTREG");
     note.head["DC_OBS"] = "";
     EXPECT_EQ(linesOf(streamOf(steps, note, Joined::Nothing))[11], "     ");
@@ -450,19 +447,15 @@ TEST(LegalText, BandsKeepTheirHeight) {
     };
     EXPECT_EQ(stream("", ""), " \r\n\r\n\r\n \r\n\r\n\r\n\r\n\r\n" + below);
     EXPECT_EQ(stream("abcd", "x"), " abcd\r\n\r\n\r\n x\r\n\r\n\r\n\r\n\r\n" + below);
-    EXPECT_EQ(stream("abcde", "12345"),
-              " abcd\r\n e\r\n\r\n 1234\r\n 5\r\n\r\n\r\n\r\n" + below);
+    EXPECT_EQ(stream("abcde", "12345"), " abcd\r\n e\r\n\r\n 1234\r\n 5\r\n\r\n\r\n\r\n" + below);
     EXPECT_EQ(stream("abcdefghijklmnop", "123456789"),
               " abcd\r\n efgh\r\n ijkl\r\n 1234\r\n 5678\r\n\r\n\r\n\r\n" + below);
     EXPECT_EQ(stream("a\nb", ""), " a b\r\n\r\n\r\n \r\n\r\n\r\n\r\n\r\n" + below);
 }
 
 TEST(LegalText, ABandMayTestForOneLineByAnotherLength) {
-    constexpr Step steps[] = {plainItems, Band{.source = DC_OBS,
-                                               .piece = 6,
-                                               .most = 2,
-                                               .lines = 3,
-                                               .oneLineUpTo = 4}};
+    constexpr Step steps[] = {
+        plainItems, Band{.source = DC_OBS, .piece = 6, .most = 2, .lines = 3, .oneLineUpTo = 4}};
     const auto lines = [&](const std::string& observation) {
         NoteText note = withItems({"P"});
         note.head["DC_OBS"] = observation;
@@ -493,8 +486,7 @@ TEST(TaxCreditBlock, PrintsCreditAndRate) {
               fifty + "           27,90\r\n" + thirty + "1,86\r\n\r\n\r\n\r\n");
     EXPECT_EQ(creditOf("100000", "3681"),
               fifty + "        1.860,00\r\n" + thirty + "1,86\r\n\r\n\r\n\r\n");
-    EXPECT_EQ(creditOf("1500", "9"),
-              fifty + "            0,00\r\n" + thirty + "\r\n\r\n\r\n\r\n");
+    EXPECT_EQ(creditOf("1500", "9"), fifty + "            0,00\r\n" + thirty + "\r\n\r\n\r\n\r\n");
 }
 
 TEST(TaxCreditBlock, WithoutABaseItOnlyMovesOn) {
