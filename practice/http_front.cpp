@@ -119,9 +119,14 @@ int HttpFront::bind(const std::string& address, int port) {
 
 void HttpFront::serve() {
     state_->server.listen_after_bind();
+    state_->finished = true;
 }
 
+// The library takes no notice of a stop that comes before it listens.
 void HttpFront::stop() {
+    while (!state_->server.is_running() && !state_->finished) {
+        std::this_thread::yield();
+    }
     state_->server.stop();
 }
 
