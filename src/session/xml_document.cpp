@@ -213,7 +213,7 @@ NodeVector byPath(const xmlNode* from, std::string_view path, bool firstOnly) {
         level = std::move(below);
     }
     if (firstOnly && level.size() > 1) {
-        level.resize(1);
+        level.erase(level.begin() + 1, level.end());
     }
     return level;
 }
