@@ -1,0 +1,105 @@
+#include "opcoes.h"
+
+#include <CLI/CLI.hpp>
+
+namespace tarn {
+namespace {
+
+constexpr char pagina[] = "/Kestomain/TarnEmissao.asp?";
+
+constexpr char rodape[] =
+    "\nVariável de ambiente: TARN_SERVIDOR, endereço do servidor quando falta --servidor.\n"
+    "Fim do programa: 0 encerrado pelo usuário ou por um aviso; 1 uso errado; 3 erro em tempo\n"
+    "de execução.";
+
+std::string erroDeUso(const std::string& texto) {
+    return "tarnemissao: " + texto + "\nUse tarnemissao --ajuda para ver as opções.\n";
+}
+
+void portugueseLabels(CLI::App& app) {
+    auto formatter = std::make_shared<CLI::Formatter>();
+    formatter->label("Usage", "Uso");
+    formatter->label("OPTIONS", "OPÇÕES");
+    formatter->label("Options", "Opções");
+    formatter->column_width(32);
+    app.formatter(formatter);
+}
+
+std::string comoMensagem(const CLI::ParseError& erro) {
+    if (dynamic_cast<const CLI::ExtrasError*>(&erro) != nullptr) {
+        return std::string("opção ou argumento desconhecido (") + erro.what() + ").";
+    }
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&erro) != nullptr) {
+        return std::string("falta o valor de uma opção (") + erro.what() + ").";
+    }
+    return std::string("valor que não serve (") + erro.what() + ").";
+}
+
+}  // namespace
+
+std::string enderecoDoServidor(const std::string& digitado) {
+    for (const std::string esquema : {"http://", "https://"}) {
+        if (digitado.size() <= esquema.size() ||
+            digitado.compare(0, esquema.size(), esquema) != 0) {
+            continue;
+        }
+        if (digitado.find('?') != std::string::npos) {
+            return digitado;
+        }
+        const std::size_t barra = digitado.find('/', esquema.size());
+        const bool semPagina = barra == std::string::npos || barra + 1 == digitado.size();
+        return semPagina ? digitado.substr(0, barra) + pagina : digitado + "?";
+    }
+    return {};
+}
+
+std::variant<Opcoes, SemPartida> leOpcoes(int argc, const char* const* argv,
+                                          const std::string& servidorDoAmbiente,
+                                          const std::string& padrao) {
+    Opcoes opcoes;
+    std::string servidor = servidorDoAmbiente.empty() ? padrao : servidorDoAmbiente;
+    int pagina8Bits = 1252;
+    CLI::App app("TarnEmissao: emissão de notas, duplicatas, boletos, cheques e etiquetas.",
+                 "tarnemissao");
+    portugueseLabels(app);
+    app.set_help_flag("-h,--ajuda,--help", "mostra esta ajuda e termina");
+    app.set_version_flag("--versao,--version", std::string("TarnEmissao ") + TARN_VERSION,
+                         "mostra a versão e termina");
+    app.add_option("--servidor", servidor, "endereço do servidor (http:// ou https://)")
+        ->type_name("URL");
+    app.add_option("--impressora-virtual", opcoes.impressoraVirtual,
+                   "grava cada impressão em um arquivo desta pasta")
+        ->type_name("PASTA");
+    app.add_option("--pagina-de-codigo", pagina8Bits,
+                   "página de caracteres da impressora: 1252, 850 ou 860")
+        ->type_name("NÚMERO");
+    app.add_option("--pasta-figuras", opcoes.pastaFiguras,
+                   "pasta das figuras das duplicatas (LOGODUPL.jpg e outras)")
+        ->type_name("PASTA");
+    app.add_flag("--selecao-etiquetas", opcoes.selecaoEtiquetas,
+                 "abre a seleção de etiquetas depois da entrada");
+    app.footer(rodape);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        return SemPartida{0, app.help()};
+    } catch (const CLI::CallForVersion& versao) {
+        return SemPartida{0, std::string(versao.what()) + "\n"};
+    } catch (const CLI::ParseError& erro) {
+        return SemPartida{1, erroDeUso(comoMensagem(erro))};
+    }
+    const auto page = codePageByNumber(pagina8Bits);
+    if (!page) {
+        return SemPartida{1, erroDeUso("--pagina-de-codigo aceita 1252, 850 ou 860.")};
+    }
+    opcoes.paginaDeCodigo = *page;
+    opcoes.baseUrl = enderecoDoServidor(servidor);
+    if (opcoes.baseUrl.empty()) {
+        return SemPartida{1, erroDeUso("o endereço do servidor deve começar com http:// ou "
+                                       "https://: \"" +
+                                       servidor + "\".")};
+    }
+    return opcoes;
+}
+
+}  // namespace tarn

@@ -1,0 +1,174 @@
+#include "billing/frm_oft.h"
+
+#include <QCloseEvent>
+#include <QHeaderView>
+#include <QMdiSubWindow>
+#include <QScopedValueRollback>
+#include <QShortcut>
+#include <QTimer>
+#include <array>
+
+#include "billing/gera_nota.h"
+#include "billing/observacoes.h"
+#include "billing/ordens_model.h"
+#include "common/frm_mensagem_alerta.h"
+#include "platform/message_boxes.h"
+#include "platform/qt/wait_cursor.h"
+#include "session/aparencia.h"
+#include "session/tela_futura.h"
+#include "ui_frm_oft.h"
+
+namespace tarn {
+namespace {
+
+constexpr int intervaloMs = 60000;
+// Widths of the grid's columns in characters.
+constexpr std::array<int, 12> larguras{11, 30, 18, 18, 13, 12, 22, 20, 24, 16, 16, 16};
+constexpr int linhasVisiveis = 16;
+
+}  // namespace
+
+FrmOFT::FrmOFT(DeskContext& desk)
+    : desk_(desk),
+      ui_(std::make_unique<Ui::FrmOFT>()),
+      ordens_(new OrdensModel(this)),
+      timer_(new QTimer(this)) {
+    ui_->setupUi(this);
+    preparaGrade();
+    preparaBotoes();
+    timer_->setObjectName(QStringLiteral("Timer"));
+    timer_->setInterval(intervaloMs);
+    connect(timer_, &QTimer::timeout, this, &FrmOFT::Timer_Tick);
+    auto* esc =
+        new QShortcut(Qt::Key_Escape, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    connect(esc, &QShortcut::activated, ui_->CmdFechar, &QPushButton::click);
+}
+
+FrmOFT::~FrmOFT() = default;
+
+void FrmOFT::preparaGrade() {
+    QTableView& grade = *ui_->sprDados;
+    grade.setModel(ordens_);
+    const int caractere = grade.fontMetrics().averageCharWidth();
+    for (int coluna = 0; coluna < ordens_->columnCount(); ++coluna) {
+        grade.setColumnWidth(coluna, larguras.at(static_cast<std::size_t>(coluna)) * caractere);
+    }
+    grade.horizontalHeader()->setHighlightSections(false);
+    grade.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    grade.verticalHeader()->setDefaultSectionSize(grade.fontMetrics().height() * 3 / 2);
+}
+
+void FrmOFT::preparaBotoes() {
+    const int lado = fontMetrics().height() * 2;
+    const auto prepara = [this, lado](QPushButton* botao, const char* desenho, auto rotina) {
+        botao->setIcon(figura(QLatin1StringView(desenho)));
+        botao->setIconSize({lado, lado});
+        connect(botao, &QPushButton::clicked, this, rotina);
+    };
+    prepara(ui_->cmdSelecionar, "gerar_nota", &FrmOFT::cmdSelecionar_Click);
+    prepara(ui_->CmdFechar, "fechar", &FrmOFT::CmdFechar_Click);
+    prepara(ui_->CmdAtualizar, "atualizar", &FrmOFT::loadSpread);
+    prepara(ui_->CmdCanOft, "cancelar_ordem", &FrmOFT::CmdCanOft_Click);
+    prepara(ui_->cmdImprimirOF, "imprimir_ordem", &FrmOFT::cmdImprimirOF_Click);
+    prepara(ui_->cmdDetOFT, "alterar_ordem", &FrmOFT::cmdDetOFT_Click);
+}
+
+QSize FrmOFT::sizeHint() const {
+    int largura = ui_->sprDados->verticalHeader()->sizeHint().width();
+    for (int coluna = 0; coluna < 8; ++coluna) {
+        largura += ui_->sprDados->columnWidth(coluna);
+    }
+    const int altura = ui_->sprDados->verticalHeader()->defaultSectionSize() * linhasVisiveis;
+    return QWidget::sizeHint().expandedTo({largura + fontMetrics().height() * 4, altura});
+}
+
+void FrmOFT::carrega() {
+    const WaitCursor hourglass;
+    emit carregou();
+    timer_->start();
+    loadSpread();
+    ui_->sprDados->setFocus();
+}
+
+void FrmOFT::loadSpread() {
+    ordens_->mostra({});
+    ordens_->mostra(carregaOrdens(desk_.ambiente, desk_.sessao));
+    ui_->sprDados->setCurrentIndex(ordens_->index(0, 0));
+}
+
+// A tick that comes while the one before still shows its box is dropped, so that boxes
+// don't pile up on a desk that nobody sits at.
+void FrmOFT::Timer_Tick() {
+    if (noTick_) {
+        return;
+    }
+    const QScopedValueRollback<bool> guarda(noTick_, true);
+    loadSpread();
+}
+
+std::optional<OrdemFaturamento> FrmOFT::ordemSelecionada() {
+    if (ordens_->rowCount() == 0) {
+        desk_.ambiente.boxes.show(
+            {"Selecione a ordem de faturamento.     ", BoxIcon::Exclamation, "Aviso"});
+        return std::nullopt;
+    }
+    const QModelIndex ativa = ui_->sprDados->currentIndex();
+    return ordens_->ordem(ativa.isValid() ? ativa.row() : 0);
+}
+
+bool FrmOFT::observacoesAceitas(const OrdemFaturamento& ordem) {
+    AlertaNaTela alerta(desk_.sessao, this);
+    bool continua = false;
+    Seleciona_Obs_Vnd_X_Ord(desk_.ambiente, desk_.sessao, alerta, ordem.ordem(), continua);
+    return continua;
+}
+
+void FrmOFT::cmdSelecionar_Click() {
+    timer_->stop();
+    const auto ordem = ordemSelecionada();
+    if (!ordem) {
+        return;
+    }
+    AlertaNaTela alerta(desk_.sessao, this);
+    if (geraNota(desk_.ambiente, desk_.sessao, alerta, ordem->ordem()) == FimDaGeracao::Completa) {
+        loadSpread();
+        timer_->start();
+    }
+}
+
+void FrmOFT::CmdCanOft_Click() {
+    const auto ordem = ordemSelecionada();
+    if (ordem && cancelaOrdem(desk_.ambiente, desk_.sessao, *ordem)) {
+        loadSpread();
+    }
+}
+
+void FrmOFT::cmdImprimirOF_Click() {
+    const auto ordem = ordemSelecionada();
+    if (ordem && observacoesAceitas(*ordem)) {
+        avisaTelaFutura(desk_.ambiente, "Impressão da Ordem de Faturamento");
+    }
+}
+
+void FrmOFT::cmdDetOFT_Click() {
+    const auto ordem = ordemSelecionada();
+    if (ordem && observacoesAceitas(*ordem)) {
+        avisaTelaFutura(desk_.ambiente, "Alteração dos dados da Ordem de Faturamento");
+    }
+}
+
+void FrmOFT::CmdFechar_Click() {
+    if (auto* janela = qobject_cast<QMdiSubWindow*>(parentWidget())) {
+        janela->close();
+    } else {
+        close();
+    }
+}
+
+void FrmOFT::closeEvent(QCloseEvent* event) {
+    timer_->stop();
+    emit fechou();
+    event->accept();
+}
+
+}  // namespace tarn

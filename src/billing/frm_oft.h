@@ -1,0 +1,64 @@
+// The working desk of billing: the orders that are ready for a note, and what can be
+// done with the selected one. The list renews itself each minute.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <optional>
+
+#include "billing/ordens.h"
+#include "session/desk_context.h"
+
+class QTimer;
+
+namespace Ui {
+class FrmOFT;
+}
+
+namespace tarn {
+
+class OrdensModel;
+
+class FrmOFT : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit FrmOFT(DeskContext& desk);
+    ~FrmOFT() override;
+
+    // On opening: the desk's menus are disabled (carregou), the list is read.
+    void carrega();
+    // Reads the list anew; selection and scroll position are lost.
+    void loadSpread();
+
+    QSize sizeHint() const override;
+
+signals:
+    void carregou();
+    void fechou();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void preparaGrade();
+    void preparaBotoes();
+    // The active row, the first one when none is; with an empty grid tells the user.
+    std::optional<OrdemFaturamento> ordemSelecionada();
+    bool observacoesAceitas(const OrdemFaturamento& ordem);
+
+    void Timer_Tick();
+    void cmdSelecionar_Click();
+    void CmdCanOft_Click();
+    void cmdImprimirOF_Click();
+    void cmdDetOFT_Click();
+    void CmdFechar_Click();
+
+    DeskContext& desk_;
+    std::unique_ptr<Ui::FrmOFT> ui_;
+    OrdensModel* ordens_;
+    QTimer* timer_;
+    bool noTick_ = false;
+};
+
+}  // namespace tarn

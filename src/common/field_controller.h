@@ -1,0 +1,66 @@
+// What turns a plain QLineEdit of a screen into a field with behaviour: a small
+// object attached to it, child of it, alive as long as it is.
+#pragma once
+
+#include <QObject>
+
+#include "common/field_rules.h"
+#include "platform/qt/input_gate.h"
+
+class QKeyEvent;
+class QLineEdit;
+
+namespace tarn {
+
+struct Environment;
+
+enum class KeyFilter { NumeroVirgula, NumeroInteiro };
+
+// Sends the Tab stroke to the widget: the next field in tab order gets the focus.
+void sendTab(QWidget& widget);
+
+// A field whose keys are filtered: digits, backspace and perhaps the comma pass, any
+// other character is dropped with a beep. Keys without a character (arrows, Delete),
+// Esc and those with Ctrl or Alt pass, so that a text can be pasted.
+// Focus lost to a message box, a menu or another program is no leaving.
+class FieldController : public QObject {
+    Q_OBJECT
+
+public:
+    // What Enter does. TabAndBeep: the Tab stroke, then the filter, which drops Enter
+    // with its beep. TabOnly: the stroke and nothing else. BeepOnly: the filter alone.
+    enum class EnterKey { TabAndBeep, TabOnly, BeepOnly };
+
+    FieldController(QLineEdit* edit, KeyFilter filter, Environment& ambiente,
+                    EnterKey enterKey = EnterKey::TabAndBeep);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    // A text selected on entering stays so after the click that brought the focus.
+    virtual void entered() {}
+    virtual void left() {}
+
+    QLineEdit& edit() const { return *edit_; }
+    Environment& ambiente() const { return ambiente_; }
+    // Shows what a rule made of the text. A refusal comes once the focus has settled:
+    // the box, then the text, then the focus back; what is typed or clicked in
+    // between is discarded.
+    void apply(const FieldResult& result);
+
+private:
+    bool keyPressed(const QKeyEvent& key);
+    bool passes(QChar character);
+    void refuse(const FieldResult& result);
+    void focusIn(Qt::FocusReason reason);
+    void focusOut(Qt::FocusReason reason);
+
+    QLineEdit* edit_;
+    KeyFilter filter_;
+    Environment& ambiente_;
+    EnterKey enterKey_;
+    InputGate gate_;
+    bool editing_ = false;
+    bool selectAfterClick_ = false;
+};
+
+}  // namespace tarn

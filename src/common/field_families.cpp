@@ -1,0 +1,51 @@
+#include "common/field_families.h"
+
+#include "platform/clock.h"
+#include "platform/environment.h"
+
+namespace tarn {
+namespace {
+
+constexpr int quantityLength = 13;
+
+}  // namespace
+
+DateField::DateField(QLineEdit* edit, KeyFilter filter, Environment& ambiente, Test test)
+    : FieldController(edit, filter, ambiente), test_(test) {
+    edit->setMaxLength(dateLengthShown);
+}
+
+void DateField::entered() {
+    edit().setText(QString::fromStdString(dateOnEnter(edit().text().toStdString())));
+    edit().setMaxLength(dateLengthEditing);
+    edit().selectAll();
+}
+
+void DateField::left() {
+    edit().setMaxLength(dateLengthShown);
+    const std::string typed = edit().text().toStdString();
+    const Date today = ambiente().clock.today();
+    apply(test_ == Test::Calendar ? testedDateOnLeave(typed, today)
+                                  : FieldResult{dateOnLeave(typed, today), {}, false});
+}
+
+QuantityField::QuantityField(QLineEdit* edit, const QuantityMessages& messages,
+                             Environment& ambiente)
+    : FieldController(edit, KeyFilter::NumeroVirgula, ambiente, EnterKey::TabOnly),
+      messages_(messages) {
+    edit->setMaxLength(quantityLength);
+    edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void QuantityField::left() {
+    apply(quantityOnLeave(edit().text().toStdString(), messages_));
+}
+
+MoneyField::MoneyField(QLineEdit* edit, Environment& ambiente)
+    : FieldController(edit, KeyFilter::NumeroVirgula, ambiente) {}
+
+void MoneyField::left() {
+    apply(moneyOnLeave(edit().text().toStdString()));
+}
+
+}  // namespace tarn

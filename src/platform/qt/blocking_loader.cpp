@@ -1,0 +1,49 @@
+#include "platform/qt/blocking_loader.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <future>
+#include <stdexcept>
+#include <thread>
+
+#include "platform/qt/wait_cursor.h"
+
+namespace tarn {
+namespace {
+
+class ShutGate {
+public:
+    explicit ShutGate(InputGate& gate) : gate_(gate) { gate_.shut(); }
+    ~ShutGate() { gate_.open(); }
+    ShutGate(const ShutGate&) = delete;
+    ShutGate& operator=(const ShutGate&) = delete;
+
+private:
+    InputGate& gate_;
+};
+
+}  // namespace
+
+HttpAnswer BlockingLoader::get(const std::string& address) {
+    if (closed_) {
+        return {};
+    }
+    if (gate_.isShut()) {
+        throw std::logic_error("a second request while one is under way");
+    }
+    const WaitCursor hourglass;
+    const ShutGate shut(gate_);
+    QEventLoop loop;
+    std::packaged_task<HttpAnswer()> request([this, &address] { return loader_.get(address); });
+    std::future<HttpAnswer> answer = request.get_future();
+    std::jthread worker([&request, &loop] {
+        request();
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    loop.exec();
+    worker.join();
+    QCoreApplication::processEvents();  // what came in with the answer is discarded too
+    return answer.get();
+}
+
+}  // namespace tarn

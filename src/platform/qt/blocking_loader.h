@@ -1,0 +1,28 @@
+// A request that holds the program until it is answered and still lets its
+// windows repaint.
+#pragma once
+
+#include "platform/http_loader.h"
+#include "platform/qt/input_gate.h"
+
+namespace tarn {
+
+// Runs the real loader on a thread of its own while the calling (GUI) thread turns
+// its event loop behind a shut InputGate, hourglass on every window. What the real
+// loader throws is thrown here.
+class BlockingLoader : public HttpLoader {
+public:
+    explicit BlockingLoader(HttpLoader& loader) : loader_(loader) {}
+
+    HttpAnswer get(const std::string& address) override;
+
+    // The program is ending: from now on nothing is sent, each request fails at once.
+    void close() { closed_ = true; }
+
+private:
+    HttpLoader& loader_;
+    InputGate gate_;
+    bool closed_ = false;
+};
+
+}  // namespace tarn

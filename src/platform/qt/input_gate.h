@@ -1,0 +1,37 @@
+// While a request is under way nothing typed or clicked counts and no timer of a
+// screen fires; windows still repaint.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <vector>
+
+namespace tarn {
+
+class InputGate : public QObject {
+    Q_OBJECT
+
+public:
+    InputGate();
+
+    // From shut to open everything typed and clicked is discarded, and a tick of a
+    // screen's timer (a QTimer with an object name) waits; a timer that came due more
+    // than once ticks once.
+    void shut();
+    void open();
+    bool isShut() const { return shut_; }
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    void putOff(QTimer* timer);
+    void fireLateTimers();
+
+    bool shut_ = false;
+    std::vector<QPointer<QTimer>> late_;
+    QTimer lateTimersTurn_;
+};
+
+}  // namespace tarn

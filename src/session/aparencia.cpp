@@ -1,0 +1,81 @@
+#include "session/aparencia.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPalette>
+#include <QProxyStyle>
+#include <QTranslator>
+
+// Resources of a static library are linked in by this call; it must stand outside of
+// any namespace.
+static void initDeskResources() {
+    Q_INIT_RESOURCE(desk);
+}
+
+namespace tarn {
+namespace {
+
+constexpr QRgb accent = 0xff1f6f78;
+constexpr QRgb paper = 0xfff4f6f6;
+constexpr QRgb ink = 0xff1d2b2e;
+
+class DeskStyle : public QProxyStyle {
+public:
+    DeskStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        if (hint == SH_LineEdit_PasswordCharacter) {
+            return '*';
+        }
+        if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText) {
+            return 0;
+        }
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+QPalette deskPalette() {
+    QPalette palette(QColor::fromRgb(0xffe4e9e9), QColor::fromRgb(paper));
+    palette.setColor(QPalette::WindowText, QColor::fromRgb(ink));
+    palette.setColor(QPalette::Text, QColor::fromRgb(ink));
+    palette.setColor(QPalette::ButtonText, QColor::fromRgb(ink));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor::fromRgb(0xffeef3f3));
+    palette.setColor(QPalette::Highlight, QColor::fromRgb(accent));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, Qt::white);
+    palette.setColor(QPalette::ToolTipText, QColor::fromRgb(ink));
+    const QColor faded = QColor::fromRgb(0xff8a9697);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, faded);
+    }
+    return palette;
+}
+
+// The toolkit's own texts (menus of text fields, of inner windows) in Portuguese.
+void translateToolkit(QApplication& program) {
+    auto* translator = new QTranslator(&program);
+    if (translator->load(QStringLiteral("qtbase_pt_BR"),
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(translator);
+    }
+}
+
+}  // namespace
+
+void aplicaAparencia(QApplication& programa) {
+    initDeskResources();
+    QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
+    QApplication::setStyle(new DeskStyle);
+    QApplication::setPalette(deskPalette());
+    translateToolkit(programa);
+}
+
+QIcon figura(const QString& nome) {
+    return QIcon(QStringLiteral(":/desk/%1.svg").arg(nome));
+}
+
+}  // namespace tarn

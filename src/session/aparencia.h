@@ -1,0 +1,16 @@
+// The look of the program: one style and one accent colour for every screen.
+#pragma once
+
+class QApplication;
+class QIcon;
+class QString;
+
+namespace tarn {
+
+void aplicaAparencia(QApplication& programa);
+
+// A picture drawn for the program (":/desk/<nome>.svg"), sharp at any scale. Drawn
+// when first shown.
+QIcon figura(const QString& nome);
+
+}  // namespace tarn

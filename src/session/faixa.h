@@ -1,0 +1,20 @@
+// The decorative band over the working area.
+#pragma once
+
+#include <QWidget>
+
+namespace tarn {
+
+class Faixa : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Faixa(QWidget* parent);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace tarn

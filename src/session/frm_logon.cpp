@@ -1,0 +1,95 @@
+#include "session/frm_logon.h"
+
+#include <QKeyEvent>
+#include <exception>
+#include <string>
+
+#include "common/field_controller.h"
+#include "maker.h"
+#include "platform/message_boxes.h"
+#include "platform/qt/wait_cursor.h"
+#include "runtime/erro_execucao.h"
+#include "session/entrada.h"
+#include "ui_frm_logon.h"
+
+namespace tarn {
+
+FrmLogon::FrmLogon(DeskContext& desk, QWidget* parent)
+    : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::FrmLogon>()) {
+    ui_->setupUi(this);
+    ui_->lblFabricante->setText(QString::fromUtf8(makerName));
+    for (QLineEdit* campo : {ui_->txtEmpresa, ui_->txtUsuario}) {
+        campo->installEventFilter(this);
+        campo->setMinimumWidth(campo->fontMetrics().averageCharWidth() * 32);
+    }
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    connect(ui_->btnLogin, &QPushButton::clicked, this, &FrmLogon::btnLogin_Click);
+    connect(ui_->cmdFechar, &QPushButton::clicked, this, &FrmLogon::reject);
+}
+
+FrmLogon::~FrmLogon() = default;
+
+bool FrmLogon::carrega() {
+    return impoeFormatoData(desk_.ambiente);
+}
+
+void FrmLogon::reject() {
+    desk_.fim.encerra();
+    QDialog::reject();
+}
+
+// Enter in the first two fields is a Tab stroke; in the password the default button
+// takes it.
+bool FrmLogon::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) {
+        return false;
+    }
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) {
+        return false;
+    }
+    if (watched == ui_->txtUsuario) {
+        ui_->txtSenha->selectAll();
+    }
+    sendTab(*static_cast<QWidget*>(watched));
+    return true;
+}
+
+bool FrmLogon::preenchido(QLineEdit& campo, const char* nome) {
+    if (!campo.text().isEmpty()) {
+        return true;
+    }
+    desk_.ambiente.boxes.show(
+        {std::string(nome) + " é um campo obrigatório     ", BoxIcon::Exclamation, "Aviso"});
+    campo.setFocus();
+    return false;
+}
+
+void FrmLogon::btnLogin_Click() {
+    if (!preenchido(*ui_->txtEmpresa, "Empresa") || !preenchido(*ui_->txtUsuario, "Usuário") ||
+        !preenchido(*ui_->txtSenha, "Senha")) {
+        return;
+    }
+    try {
+        if (tentaEntrar()) {
+            accept();
+        } else {
+            ui_->txtEmpresa->setFocus();
+        }
+    } catch (const std::exception& erro) {
+        desk_.ambiente.boxes.show(
+            {"Aconteceu um erro inesperado no sistema. Por favor avise a RVL\nErro = " +
+                 std::string(erro.what()),
+             BoxIcon::Critical, "Aviso"});
+        desk_.fim.encerra(statusErroExecucao);
+        QDialog::reject();
+    }
+}
+
+bool FrmLogon::tentaEntrar() {
+    const WaitCursor hourglass;
+    return entra(desk_.ambiente, desk_.sessao, ui_->txtEmpresa->text().toStdString(),
+                 ui_->txtUsuario->text().toStdString(), ui_->txtSenha->text().toStdString());
+}
+
+}  // namespace tarn

@@ -1,0 +1,174 @@
+#include "session/mdi_menu.h"
+
+#include <QCloseEvent>
+#include <QDialog>
+#include <QLabel>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QShowEvent>
+
+#include "billing/frm_oft.h"
+#include "common/frm_ajuda.h"
+#include "platform/machine.h"
+#include "platform/qt/wait_cursor.h"
+#include "session/aparencia.h"
+#include "session/aviso_impressora.h"
+#include "session/entrada.h"
+#include "session/frm_logon.h"
+#include "session/tela_futura.h"
+#include "ui_mdi_menu.h"
+
+namespace tarn {
+namespace {
+
+const auto tituloComSessao =
+    QStringLiteral("TARN EMISSÕES - Rotina Mercantil - Versão de 07/01/2009 - Release 17 - G");
+
+QLabel* novoPainel(QStatusBar& barra, const char* nome, const QString& acessivel, int largura) {
+    auto* painel = new QLabel(&barra);
+    painel->setObjectName(QLatin1StringView(nome));
+    painel->setAccessibleName(acessivel);
+    painel->setTextFormat(Qt::PlainText);
+    painel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    painel->setMargin(2);
+    painel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    barra.addWidget(painel, largura);
+    return painel;
+}
+
+}  // namespace
+
+MDIMenu::MDIMenu(DeskContext& desk) : desk_(desk), ui_(std::make_unique<Ui::MDIMenu>()) {
+    ui_->setupUi(this);
+    ui_->mnuNF->insertSeparator(ui_->mCNF)->setObjectName(QStringLiteral("NFtraco"));
+    painel1_ = novoPainel(*ui_->StatusBar1, "Panel1", QStringLiteral("Impressora configurada"), 3);
+    painel2_ = novoPainel(*ui_->StatusBar1, "Panel2", QStringLiteral("Estabelecimento"), 2);
+    ui_->mdiArea->setBackground(palette().brush(QPalette::Mid));
+    resize(screen()->availableSize() * 0.85);
+    connect(ui_->mdiArea, &QMdiArea::subWindowActivated, this, &MDIMenu::centraliza);
+    ligaMenu();
+}
+
+MDIMenu::~MDIMenu() = default;
+
+void MDIMenu::ligaMenu() {
+    const auto futura = [this](QAction* entrada, const char* transacao, const char* tela) {
+        connect(entrada, &QAction::triggered, this, [this, transacao, tela] {
+            if (transacao == nullptr || temDireito(transacao)) {
+                avisaTelaFutura(desk_.ambiente, tela);
+            }
+        });
+    };
+    connect(ui_->mnuImprClientes, &QAction::triggered, this, [this] { etiquetas("C"); });
+    connect(ui_->mnuImprFornecedores, &QAction::triggered, this, [this] { etiquetas("F"); });
+    connect(ui_->mOFT, &QAction::triggered, this, &MDIMenu::mOFT_Click);
+    futura(ui_->mRINF, "EMI002", "Reimpressão de Nota Fiscal");
+    futura(ui_->mCNF, "EMI003", "Cancelamento de Nota Fiscal");
+    futura(ui_->mnuDuplicata, nullptr, "Duplicata/Recibo");
+    futura(ui_->mnuBoleto, nullptr, "Boleto Bancário");
+    futura(ui_->mnuChequeImpressao, "EMI005", "Impressão de Cheque");
+    connect(ui_->mnuAjuda, &QAction::triggered, this, &MDIMenu::mnuAjuda_Click);
+    connect(ui_->mSair, &QAction::triggered, this, [this] { desk_.fim.encerra(); });
+}
+
+void MDIMenu::carrega() {
+    {
+        const WaitCursor hourglass;
+        desk_.sessao.DirSistema = desk_.ambiente.machine.systemDirectory() + "\\";
+    }
+    if (!VerVersao(desk_.ambiente, desk_.sessao, versaoPrograma)) {
+        desk_.fim.encerra();
+        return;
+    }
+    if (entra()) {
+        ativa();
+    }
+}
+
+bool MDIMenu::entra() {
+    FrmLogon logon(desk_, this);
+    if (!logon.carrega()) {
+        desk_.fim.encerra();
+        return false;
+    }
+    return logon.exec() == QDialog::Accepted && !desk_.fim.encerrado();
+}
+
+void MDIMenu::ativa() {
+    setWindowTitle(tituloComSessao);
+    const std::string_view aviso =
+        avisoImpressora(desk_.sessao.NCOMPANYCODE, desk_.sessao.ID_ETB_TARN);
+    if (!aviso.empty()) {
+        painel1_->setText(QString::fromUtf8(aviso.data(), static_cast<qsizetype>(aviso.size())));
+    }
+    painel2_->setText(QString::fromStdString(nomeFilial(desk_.ambiente, desk_.sessao)));
+}
+
+bool MDIMenu::temDireito(const char* transacao) {
+    return VerificaDireitoAcesso(desk_.ambiente, desk_.sessao, transacao);
+}
+
+void MDIMenu::abreModal(QDialog& tela) {
+    tela.exec();
+    if (!desk_.fim.encerrado()) {
+        ativa();
+    }
+}
+
+void MDIMenu::etiquetas(const char* tipo) {
+    desk_.sessao.TipoEtiqueta = tipo;
+    avisaTelaFutura(desk_.ambiente, "Etiquetas");
+}
+
+void MDIMenu::mOFT_Click() {
+    if (temDireito("EMI001")) {
+        abreFaturamento();
+    }
+}
+
+void MDIMenu::abreFaturamento() {
+    auto* tela = new FrmOFT(desk_);
+    tela->setAttribute(Qt::WA_DeleteOnClose);
+    connect(tela, &FrmOFT::carregou, this, &MDIMenu::travaMenus);
+    connect(tela, &FrmOFT::fechou, this, &MDIMenu::LiberaMenus);
+    QMdiSubWindow* janela =
+        ui_->mdiArea->addSubWindow(tela, Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    janela->setAttribute(Qt::WA_DeleteOnClose);
+    janela->resize(janela->sizeHint().boundedTo(ui_->mdiArea->size()));
+    janela->show();
+    tela->carrega();
+}
+
+void MDIMenu::mnuAjuda_Click() {
+    frmAjuda ajuda(desk_, this);
+    if (!ajuda.carrega()) {
+        desk_.fim.encerra();
+        return;
+    }
+    abreModal(ajuda);
+}
+
+void MDIMenu::travaMenus() {
+    ui_->mnuEtiquetas->setEnabled(false);
+    ui_->mnuNF->setEnabled(false);
+}
+
+void MDIMenu::LiberaMenus() {
+    ui_->mnuEtiquetas->setEnabled(true);
+    ui_->mnuNF->setEnabled(true);
+}
+
+// Screens stand in the middle of the desk's width, at its top.
+void MDIMenu::centraliza(QMdiSubWindow* janela) {
+    if (janela != nullptr && !janela->isMaximized()) {
+        janela->move((ui_->mdiArea->viewport()->width() - janela->width()) / 2, 0);
+    }
+}
+
+void MDIMenu::closeEvent(QCloseEvent* event) {
+    desk_.fim.encerra();
+    event->accept();
+}
+
+}  // namespace tarn

@@ -1,0 +1,62 @@
+#include "support/modal_steps.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QEvent>
+#include <QPointer>
+#include <QTest>
+
+namespace tarn {
+
+ModalSteps::ModalSteps() { qApp->installEventFilter(this); }
+
+ModalSteps::~ModalSteps() {
+    for (const Step& step : steps_) {
+        ADD_FAILURE() << "no window came for the step on " << step.window;
+    }
+}
+
+ModalSteps& ModalSteps::then(const std::string& window, Action action) {
+    steps_.push_back({window, std::move(action)});
+    return *this;
+}
+
+bool ModalSteps::eventFilter(QObject* receiver, QEvent* event) {
+    auto* dialog = event->type() == QEvent::Show ? qobject_cast<QDialog*>(receiver) : nullptr;
+    if (dialog != nullptr && dialog->isModal()) {
+        const QPointer<QDialog> window(dialog);
+        QMetaObject::invokeMethod(
+            this,
+            [this, window] {
+                if (window) {
+                    take(*window);
+                }
+            },
+            Qt::QueuedConnection);
+    }
+    return false;
+}
+
+void ModalSteps::take(QWidget& window) {
+    const std::string name = window.objectName().toStdString();
+    auto& dialog = static_cast<QDialog&>(window);
+    if (steps_.empty() || steps_.front().window != name) {
+        ADD_FAILURE() << "a modal window that no step expects: " << name;
+        dialog.done(QDialog::Rejected);
+        return;
+    }
+    ++taken_;
+    const Step step = std::move(steps_.front());
+    steps_.pop_front();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    const QPointer<QDialog> open(&dialog);
+    step.action(window);
+    if (open && open->isVisible()) {
+        ADD_FAILURE() << name << " is still open after its step";
+        open->done(QDialog::Rejected);
+    }
+}
+
+}  // namespace tarn

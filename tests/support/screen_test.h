@@ -1,0 +1,53 @@
+// A desk whose server, printer, boxes, clock and machine are the test's own.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "platform/qt/blocking_loader.h"
+#include "session/desk_application.h"
+#include "session/desk_context.h"
+#include "support/fixed_machine.h"
+#include "support/modal_steps.h"
+#include "support/recording_spooler.h"
+#include "support/scripted_boxes.h"
+#include "support/scripted_loader.h"
+#include "support/user.h"
+
+namespace tarn {
+
+class ScreenTest : public testing::Test {
+protected:
+    void SetUp() override {
+        static_cast<DeskApplication*>(qApp)->setRelato(
+            [this](const std::exception_ptr& erro) { relataErro(desk, erro); });
+        QObject::connect(&fim, &FimDoPrograma::encerrou, &fim, [this] { blocking.close(); });
+    }
+    void TearDown() override {
+        static_cast<DeskApplication*>(qApp)->setRelato(nullptr);
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "a cursor was left behind";
+    }
+
+    void entered(std::int32_t company, std::int32_t establishment) {
+        sessao.NCOMPANYCODE = company;
+        sessao.ID_ETB_TARN = establishment;
+        sessao.UserCode = "77";
+        sessao.SERVERNAME = "SRV1";
+        sessao.DATA = "15/03/2012";
+    }
+
+    ScriptedLoader server;
+    BlockingLoader blocking{server};
+    RecordingSpooler spooler;
+    ScriptedBoxes boxes;
+    FixedClock clock;
+    FixedMachine machine;
+    Environment ambiente{blocking, spooler, boxes, clock, machine, "http://servidor/pagina.asp?"};
+    Sessao sessao;
+    FimDoPrograma fim;
+    DeskContext desk{ambiente, sessao, fim};
+    ModalSteps modals;
+};
+
+}  // namespace tarn

@@ -1,0 +1,80 @@
+// What a user does to a screen: real clicks and keys on widgets found by name.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <string>
+
+namespace tarn {
+
+// The widget (or other object) of that name; a name that the screen lacks fails the
+// test at once.
+template <typename T = QWidget>
+T& named(const QObject& screen, const char* name) {
+    T* found = screen.findChild<T*>(QLatin1StringView(name));
+    if (found == nullptr) {
+        throw std::runtime_error(std::string("the screen has no ") + name);
+    }
+    return *found;
+}
+
+inline void click(const QObject& screen, const char* name) {
+    QTest::mouseClick(&named<QWidget>(screen, name), Qt::LeftButton);
+}
+
+// Clicks into the field and types over what it holds.
+inline void type(const QObject& screen, const char* name, const char* text) {
+    auto& field = named<QLineEdit>(screen, name);
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, QString::fromUtf8(text));
+}
+
+// A key to whatever has the focus in the window.
+inline void key(QWidget& window, Qt::Key stroke) {
+    QWidget* target = window.focusWidget() != nullptr ? window.focusWidget() : &window;
+    QTest::keyClick(target, stroke);
+}
+
+inline std::string focused(const QWidget& window) {
+    const QWidget* widget = window.focusWidget();
+    return widget == nullptr ? std::string() : widget->objectName().toStdString();
+}
+
+// Names of the fields and buttons as Tab reaches them, from `first` on.
+inline std::vector<std::string> tabOrder(QWidget& window, const char* first, std::size_t count) {
+    named<QWidget>(window, first).setFocus();
+    std::vector<std::string> order{focused(window)};
+    while (order.size() < count) {
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        order.push_back(focused(window));
+    }
+    return order;
+}
+
+// Opens a menu of the menu bar with the mouse and clicks the entry.
+inline void choose(QMainWindow& desk, const char* menuName, const char* entry) {
+    QMenuBar& bar = *desk.menuBar();
+    auto& menu = named<QMenu>(desk, menuName);
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(menu.menuAction()).center());
+    ASSERT_TRUE(menu.isVisible()) << menuName << " didn't open";
+    auto& action = named<QAction>(desk, entry);
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&action).center());
+    menu.hide();
+}
+
+// Clicks an entry that stands on the menu bar itself.
+inline void choose(QMainWindow& desk, const char* entry) {
+    QMenuBar& bar = *desk.menuBar();
+    QTest::mouseClick(&bar, Qt::LeftButton, {},
+                      bar.actionGeometry(&named<QAction>(desk, entry)).center());
+}
+
+}  // namespace tarn
