@@ -75,7 +75,8 @@ std::string noteOf(int items) {
                "\" POS_NF=\"A\" CL_FISCAL=\"84811\" GF_AGRUP=\"1\" ID_CLA_FIS=\"84811\" "
                "CFOP_ITEM=\"5102\" IC_ORI_PRO=\"0\" SIT_TRI=\"00\" IC_TP_CAD=\"P\" "
                "UNIDADE=\"CX\" QTDE=\"12.5\" VALOR_UN=\"" +
-               n + ".06\" VL_DSC=\"2.5\" ICMS=\"18\" AQ_IPI=\"5\" IPI=\"5\" VL_IPI=\"62.54\" "
+               n +
+               ".06\" VL_DSC=\"2.5\" ICMS=\"18\" AQ_IPI=\"5\" IPI=\"5\" VL_IPI=\"62.54\" "
                "PESO=\"0.35\" DC_TXT_LEG_NF=\"TEXTO LEGAL " +
                std::to_string(i % 200) + "\" AQ_ISS=\"0\" VL_ISS=\"0\" VL_LIQ_IT=\"0\"/>\r\n";
     }

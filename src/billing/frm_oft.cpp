@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QMdiSubWindow>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTimer>
 #include <array>
@@ -23,8 +24,9 @@ namespace {
 
 constexpr int intervaloMs = 60000;
 // Widths of the grid's columns in characters.
-constexpr std::array<int, 12> larguras{11, 30, 18, 18, 13, 12, 22, 20, 24, 16, 16, 16};
-constexpr int linhasVisiveis = 16;
+constexpr std::array<int, 12> larguras{12, 34, 19, 18, 14, 13, 24, 24, 26, 17, 17, 17};
+constexpr int colunasComTitulo = 8;
+constexpr int linhasVisiveis = 18;
 
 }  // namespace
 
@@ -73,13 +75,16 @@ void FrmOFT::preparaBotoes() {
     prepara(ui_->cmdDetOFT, "alterar_ordem", &FrmOFT::cmdDetOFT_Click);
 }
 
+// Wide enough for the columns that have a heading.
 QSize FrmOFT::sizeHint() const {
-    int largura = ui_->sprDados->verticalHeader()->sizeHint().width();
-    for (int coluna = 0; coluna < 8; ++coluna) {
-        largura += ui_->sprDados->columnWidth(coluna);
+    const QTableView& grade = *ui_->sprDados;
+    int largura = grade.verticalHeader()->sizeHint().width() + 2 * grade.frameWidth() +
+                  grade.verticalScrollBar()->sizeHint().width();
+    for (int coluna = 0; coluna < colunasComTitulo; ++coluna) {
+        largura += grade.columnWidth(coluna);
     }
-    const int altura = ui_->sprDados->verticalHeader()->defaultSectionSize() * linhasVisiveis;
-    return QWidget::sizeHint().expandedTo({largura + fontMetrics().height() * 4, altura});
+    const int altura = grade.verticalHeader()->defaultSectionSize() * linhasVisiveis;
+    return QWidget::sizeHint() - grade.sizeHint() + QSize(largura, altura);
 }
 
 void FrmOFT::carrega() {

@@ -1,5 +1,7 @@
 #include "common/field_families.h"
 
+#include <algorithm>
+
 #include "platform/clock.h"
 #include "platform/environment.h"
 
@@ -37,8 +39,11 @@ QuantityField::QuantityField(QLineEdit* edit, const QuantityMessages& messages,
     edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
+// Rounding may leave one character more than can be typed; it is shown all the same.
 void QuantityField::left() {
-    apply(quantityOnLeave(edit().text().toStdString(), messages_));
+    const FieldResult result = quantityOnLeave(edit().text().toStdString(), messages_);
+    edit().setMaxLength(std::max(quantityLength, static_cast<int>(result.text.size())));
+    apply(result);
 }
 
 MoneyField::MoneyField(QLineEdit* edit, Environment& ambiente)

@@ -39,7 +39,7 @@ struct Field {
     std::uint16_t room = 0;         // what the form leaves for it, where the width is 0
     std::uint16_t start = 0;        // LegalText, Observation: first character, from 1
     std::uint16_t length = 0;       //                         and how many
-    std::string_view label;         // printed ahead of the value, inside the width
+    std::string_view label{};       // printed ahead of the value, inside the width
     NumberMask mask{""};
 };
 
@@ -56,7 +56,7 @@ struct Row {
 // Control bytes for the printer; they move nothing on the paper. With an advance
 // a call of its own brings the line ends.
 struct Control {
-    std::string_view bytes;
+    std::string_view bytes{};
     int advance = 0;
 };
 
@@ -69,8 +69,8 @@ struct Place {
 };
 
 struct Parcels {
-    int limit = 0;             // the highest QTDE_PARC that prints
-    std::string_view message;  // stands in the block above the limit
+    int limit = 0;               // the highest QTDE_PARC that prints
+    std::string_view message{};  // stands in the block above the limit
     int perRow = 1;
     std::array<Place, 4> places{};
     // Line ends of the block's last call, by QTDE_PARC from 0 to `limit`, and of the
@@ -140,17 +140,17 @@ enum class Joined : std::uint8_t {
 struct Form {
     // Bytes that set the printer up in a job of their own; empty: the form's own
     // first steps do it in the job of the note.
-    std::string_view setUp;
+    std::string_view setUp{};
     // Line ends of a note with three parcels, besides one for each of QT_MAX_IT (in
     // a form without blank lines: for each item).
     int length = 0;
     Joined observation = Joined::Labelled;
-    std::span<const Step> steps;
+    std::span<const Step> steps{};
 };
 
 // Printed when the establishment is `establishment`, or always when `other` is null.
 struct Layout {
-    std::string_view name;
+    std::string_view name{};
     const Form* form = nullptr;
     std::int32_t establishment = 0;
     const Form* other = nullptr;

@@ -35,6 +35,22 @@ public:
         }
         return QProxyStyle::styleHint(hint, option, widget, data);
     }
+
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        switch (icon) {
+            case SP_MessageBoxInformation:
+                return figura(QStringLiteral("caixa_informacao"));
+            case SP_MessageBoxWarning:
+                return figura(QStringLiteral("caixa_exclamacao"));
+            case SP_MessageBoxQuestion:
+                return figura(QStringLiteral("caixa_pergunta"));
+            case SP_MessageBoxCritical:
+                return figura(QStringLiteral("caixa_critica"));
+            default:
+                return QProxyStyle::standardIcon(icon, option, widget);
+        }
+    }
 };
 
 QPalette deskPalette() {
@@ -44,6 +60,7 @@ QPalette deskPalette() {
     palette.setColor(QPalette::ButtonText, QColor::fromRgb(ink));
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::AlternateBase, QColor::fromRgb(0xffeef3f3));
+    palette.setColor(QPalette::Mid, QColor::fromRgb(0xffc3cfcf));
     palette.setColor(QPalette::Highlight, QColor::fromRgb(accent));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::ToolTipBase, Qt::white);
@@ -71,6 +88,7 @@ void aplicaAparencia(QApplication& programa) {
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
     QApplication::setStyle(new DeskStyle);
     QApplication::setPalette(deskPalette());
+    QApplication::setWindowIcon(figura(QStringLiteral("tarnemissao")));
     translateToolkit(programa);
 }
 

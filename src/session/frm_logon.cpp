@@ -18,6 +18,8 @@ FrmLogon::FrmLogon(DeskContext& desk, QWidget* parent)
     : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::FrmLogon>()) {
     ui_->setupUi(this);
     ui_->lblFabricante->setText(QString::fromUtf8(makerName));
+    const int lado = fontMetrics().height() * 5 / 2;
+    ui_->imgPrograma->setPixmap(windowIcon().pixmap(QSize(lado, lado), devicePixelRatio()));
     for (QLineEdit* campo : {ui_->txtEmpresa, ui_->txtUsuario}) {
         campo->installEventFilter(this);
         campo->setMinimumWidth(campo->fontMetrics().averageCharWidth() * 32);

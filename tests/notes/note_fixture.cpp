@@ -120,12 +120,11 @@ NoteText sampleNote() {
                  {"NR_PED_CLI", "PC-77"},
                  {"VENDEDOR", "MARIA"},
                  {"DC_OBS", "ENTREGAR PELA MANHÃ"}};
-    note.totals = {{"VALOR_BASE_ICMS", "1600.75"}, {"VALOR_ICMS", "288.14"},
-                   {"VALOR_BAS_ICMS_RTD", "0"},    {"VALOR_ICMS_RTD", "0"},
-                   {"VALOR_TOTAL", "1650.75"},     {"VALOR_TOTAL_DESC", "50"},
-                   {"VALOR_FRETE", "10"},          {"VALOR_SEGURO", "5.5"},
-                   {"VALOR_DES_ASC", "0.25"},      {"VALOR_TOT_IPI", "80.04"},
-                   {"VALOR_TOT_NF", "1696.54"}};
+    note.totals = {
+        {"VALOR_BASE_ICMS", "1600.75"}, {"VALOR_ICMS", "288.14"},   {"VALOR_BAS_ICMS_RTD", "0"},
+        {"VALOR_ICMS_RTD", "0"},        {"VALOR_TOTAL", "1650.75"}, {"VALOR_TOTAL_DESC", "50"},
+        {"VALOR_FRETE", "10"},          {"VALOR_SEGURO", "5.5"},    {"VALOR_DES_ASC", "0.25"},
+        {"VALOR_TOT_IPI", "80.04"},     {"VALOR_TOT_NF", "1696.54"}};
     note.form = {{"QT_MAX_IT", "6"}};
     note.items = {{{"CD_PRO", "P-001"},
                    {"DESCRICAO", "PARAFUSO SEXTAVADO AÇO INOX"},
@@ -191,6 +190,10 @@ std::vector<std::string> linesOf(const std::string& stream) {
         lines.push_back(stream.substr(start, end - start));
         start = end + 2;
     }
+}
+
+std::string numbered(std::string_view prefix, std::size_t number) {
+    return std::string(prefix).append(std::to_string(number));
 }
 
 std::string lineOf(std::size_t length,

@@ -54,13 +54,15 @@ NoteText sampleNote();
 
 // Prints and gives back the jobs; `erro` takes the run-time error, if one came.
 std::vector<Job> print(const notes::Form& form, const std::string& xml,
-                       std::optional<ErroNumero>* erro = nullptr,
-                       std::string_view number = "4567");
+                       std::optional<ErroNumero>* erro = nullptr, std::string_view number = "4567");
 // The note's own job, which is the last one.
 std::string printed(const notes::Form& form, const NoteText& note);
 
 // The stream cut at its line ends; what follows the last one is the last entry.
 std::vector<std::string> linesOf(const std::string& stream);
+
+// `prefix` and the number behind it.
+std::string numbered(std::string_view prefix, std::size_t number);
 
 // A line of `length` characters with each value at its column, counted from 1.
 // Values are windows-1252.

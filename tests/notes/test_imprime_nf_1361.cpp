@@ -36,14 +36,13 @@ const std::vector<Line> sampleLines = {
     {7, 51, {{2, "VENDA DE MERCADORIA"}, {44, "5.102"}}},
     {10,
      136,
-     {{2, "COM\xC9RCIO DE PE\xC7"
-          "AS S\xC3O JO\xC3O LTDA"},
+     {{2,
+       "COM\xC9RCIO DE PE\xC7"
+       "AS S\xC3O JO\xC3O LTDA"},
       {89, "12.345.678/0001-95"},
       {123, "07/01/2009"}}},
     {12, 136, {{2, "RUA DAS FLORES, 100"}, {79, "CENTRO"}, {105, "01310-100"}}},
-    {14,
-     136,
-     {{2, "S\xC3O PAULO"}, {59, "(11) 5555-0000"}, {81, "SP"}, {89, "110.042.490.114"}}},
+    {14, 136, {{2, "S\xC3O PAULO"}, {59, "(11) 5555-0000"}, {81, "SP"}, {89, "110.042.490.114"}}},
     {17,
      136,
      {{34, "100,50"},
@@ -81,9 +80,7 @@ const std::vector<Line> sampleLines = {
       {130, "100,0"}}},
     {24, 1, {}},
     {28, 1, {}},
-    {30,
-     136,
-     {{18, "1.600,75"}, {48, "288,14"}, {77, "0,00"}, {104, "0,00"}, {129, "1.600,75"}}},
+    {30, 136, {{18, "1.600,75"}, {48, "288,14"}, {77, "0,00"}, {104, "0,00"}, {129, "1.600,75"}}},
     {32, 136, {{21, "10,00"}, {50, "5,50"}, {77, "0,25"}, {103, "80,04"}, {129, "1.696,54"}}},
     {35,
      136,
@@ -172,20 +169,18 @@ TEST(ImprimeNF1361, AnythingButACapitalEIsAnExit) {
 NoteText withParcels(int count) {
     NoteText note = sampleNote();
     note.head["QTDE_PARC"] = std::to_string(count);
-    for (int n = 1; n <= 12; ++n) {
-        const std::string parcel = std::to_string(n);
-        note.head["VL_PRN_DOC" + parcel] = parcel + ".5";
-        note.head["DT_VNC_DOC" + parcel] = "VENC" + parcel;
+    for (std::size_t n = 1; n <= 12; ++n) {
+        note.head[numbered("VL_PRN_DOC", n)] = numbered("", n) + ".5";
+        note.head[numbered("DT_VNC_DOC", n)] = numbered("VENC", n);
     }
     return note;
 }
 
 // Amounts "1,50" to "9,50" end in columns 39, 79 and 122.
-const Values ofPlace[] = {{{36, "1,50"}, {45, "VENC1"}},   {{76, "2,50"}, {86, "VENC2"}},
-                          {{119, "3,50"}, {127, "VENC3"}}, {{36, "4,50"}, {45, "VENC4"}},
-                          {{76, "5,50"}, {86, "VENC5"}},   {{119, "6,50"}, {127, "VENC6"}},
-                          {{36, "7,50"}, {45, "VENC7"}},   {{76, "8,50"}, {86, "VENC8"}},
-                          {{119, "9,50"}, {127, "VENC9"}}};
+const Values ofPlace[] = {
+    {{36, "1,50"}, {45, "VENC1"}}, {{76, "2,50"}, {86, "VENC2"}}, {{119, "3,50"}, {127, "VENC3"}},
+    {{36, "4,50"}, {45, "VENC4"}}, {{76, "5,50"}, {86, "VENC5"}}, {{119, "6,50"}, {127, "VENC6"}},
+    {{36, "7,50"}, {45, "VENC7"}}, {{76, "8,50"}, {86, "VENC8"}}, {{119, "9,50"}, {127, "VENC9"}}};
 // A row ends behind its last parcel's due date.
 constexpr std::size_t rowLength[] = {22, 54, 95, 136};
 
@@ -251,8 +246,9 @@ TEST(ImprimeNF1361, AnAbsentParcelPrintsZeroAndAnEmptyOneBlanks) {
     note.head.erase("VL_PRN_DOC1");
     note.head.erase("DT_VNC_DOC1");
     note.head["VL_PRN_DOC2"] = "";
-    expectLine(linesOf(printed(form(), note)),
-               {17, 136, {{36, "0,00"}, {86, "07/03/2009"}, {116, "1300,25"}, {127, "07/04/2009"}}});
+    expectLine(
+        linesOf(printed(form(), note)),
+        {17, 136, {{36, "0,00"}, {86, "07/03/2009"}, {116, "1300,25"}, {127, "07/04/2009"}}});
 }
 
 // Items ------------------------------------------------------------------------
@@ -322,8 +318,8 @@ TEST(ImprimeNF1361, AQuantityOfZeroHasNoDiscount) {
     note.items[0]["VL_DSC"] = "no number, and not looked at";
     note.items[1].erase("QTDE");
     const std::vector<std::string> lines = linesOf(printed(form(), note));
-    EXPECT_EQ(lines[21].substr(77, 47), lineOf(47, {{3, "0,000"}, {15, "100,06"},
-                                                    {37, "0,00"}, {44, "0,00"}}));
+    EXPECT_EQ(lines[21].substr(77, 47),
+              lineOf(47, {{3, "0,000"}, {15, "100,06"}, {37, "0,00"}, {44, "0,00"}}));
     EXPECT_EQ(lines[22].substr(77, 7), "  0,000");
 }
 
@@ -377,9 +373,12 @@ TEST(ImprimeNF1361, PostalCodesHaveEightDigits) {
 
 TEST(ImprimeNF1361, TheCarriersTaxNumberLosesItsLeadingZeros) {
     const std::pair<std::string, std::string> numbers[] = {
-        {"12345678000195", "12.345.678/0001-95"}, {"02345678000110", " 2.345.678/0001-10"},
-        {"", "  .   .   /    -  "},               {"0", "  .   .   /    -  "},
-        {"ISENTO", "  .   .   /ISEN-TO"},         {"112345678000195", "112.345.678/0001-95"}};
+        {"12345678000195", "12.345.678/0001-95"},
+        {"02345678000110", " 2.345.678/0001-10"},
+        {"", "  .   .   /    -  "},
+        {"0", "  .   .   /    -  "},
+        {"ISENTO", "  .   .   /ISEN-TO"},
+        {"112345678000195", "112.345.678/0001-95"}};
     for (const auto& [number, shown] : numbers) {
         NoteText note = sampleNote();
         note.head["NR_CGC_CPL_TRP"] = number;
@@ -463,8 +462,9 @@ TEST(ImprimeNF1361, TheObservationAloneHasItsLabel) {
 
 TEST(ImprimeNF1361, NoValueMovesALineOrCommandsThePrinter) {
     NoteText note = sampleNote();
-    note.head["RAZAO"] = "A\r\nB\tC\x7F"
-                         "D";
+    note.head["RAZAO"] =
+        "A\r\nB\tC\x7F"
+        "D";
     note.head["VENDEDOR"] = "X\nY";
     note.head["DC_OBS"] = "LINHA 1\r\nLINHA 2";
     note.items[0]["DESCRICAO"] = "CAIXA\nGRANDE";
@@ -541,8 +541,7 @@ TEST(ImprimeNF1361Errors, EmptyAmountsThatAreOnlyMaskedPrintBlank) {
     note.totals.erase("VALOR_SEGURO");
     note.items[0]["ICMS"] = "";
     const std::vector<std::string> lines = linesOf(printed(form(), note));
-    expectLine(lines,
-               {32, 136, {{50, "0,00"}, {77, "0,25"}, {103, "80,04"}, {129, "1.696,54"}}});
+    expectLine(lines, {32, 136, {{50, "0,00"}, {77, "0,25"}, {103, "80,04"}, {129, "1.696,54"}}});
     EXPECT_EQ(lines[21].substr(124, 10), "     5,00 ");
 }
 
@@ -554,8 +553,9 @@ TEST(ImprimeNF1361Errors, MissingRowsAreObjectErrors) {
                   {0, ErroNumero::VariavelObjeto});
     expectFailure("<?xml version=\"1.0\"?><PRINCIPAL A=\"1\" B=\"OK\"/>",
                   {0, ErroNumero::VariavelObjeto});
-    expectFailure("<?xml version=\"1.0\"?><PRINCIPAL A=\"1\" B=\"OK\"><N QTDE_PARC=\"0\"/></PRINCIPAL>",
-                  {6, ErroNumero::VariavelObjeto});
+    expectFailure(
+        "<?xml version=\"1.0\"?><PRINCIPAL A=\"1\" B=\"OK\"><N QTDE_PARC=\"0\"/></PRINCIPAL>",
+        {6, ErroNumero::VariavelObjeto});
 }
 
 TEST(ImprimeNF1361Errors, AFieldInAnotherCaseOfLettersIsAnObjectError) {

@@ -10,7 +10,9 @@
 
 namespace tarn {
 
-ModalSteps::ModalSteps() { qApp->installEventFilter(this); }
+ModalSteps::ModalSteps() {
+    qApp->installEventFilter(this);
+}
 
 ModalSteps::~ModalSteps() {
     for (const Step& step : steps_) {

@@ -1,6 +1,7 @@
 // A desk whose server, printer, boxes, clock and machine are the test's own.
 #pragma once
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <memory>

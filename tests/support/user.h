@@ -29,12 +29,20 @@ inline void click(const QObject& screen, const char* name) {
     QTest::mouseClick(&named<QWidget>(screen, name), Qt::LeftButton);
 }
 
-// Clicks into the field and types over what it holds.
+// Keystrokes of a text of any letters, accented ones too.
+inline void keys(QWidget& widget, const char* text) {
+    for (const QChar letter : QString::fromUtf8(text)) {
+        const auto code = static_cast<Qt::Key>(letter.toUpper().unicode());
+        QTest::sendKeyEvent(QTest::Click, &widget, code, QString(letter), Qt::NoModifier);
+    }
+}
+
+// Gives the field the focus and types over what it holds.
 inline void type(const QObject& screen, const char* name, const char* text) {
     auto& field = named<QLineEdit>(screen, name);
     field.setFocus();
     field.selectAll();
-    QTest::keyClicks(&field, QString::fromUtf8(text));
+    keys(field, text);
 }
 
 // A key to whatever has the focus in the window.

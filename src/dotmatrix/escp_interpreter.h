@@ -1,0 +1,68 @@
+// A printer of the ESC/P family: takes the bytes of raw jobs, in pieces of any size,
+// and prints on continuous paper. Knows no error: every byte string gives some paper.
+//
+// State outlives a job, as it does in a printer that is not switched off between two:
+// a set-up job that selects condensed print holds for the job after it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "dotmatrix/command_table.h"
+#include "dotmatrix/continuous_paper.h"
+#include "dotmatrix/dialect.h"
+#include "dotmatrix/print_mode.h"
+#include "dotmatrix/print_notice.h"
+
+namespace tarn::dotmatrix {
+
+class EscpInterpreter {
+public:
+    // The paper must have been made with the dialect's form height and outlive this.
+    EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect);
+
+    // A new job goes on where the head stands, also in the middle of a line.
+    void startJob(std::string name);
+    void feed(std::string_view bytes);
+
+    const NoticeLog& notices() const { return notices_; }
+
+private:
+    enum class Waiting { Text, Escape, Parameters, ListEnd, Data };
+
+    void take(std::uint8_t byte);
+    void takeText(std::uint8_t byte);
+    void takeControl(std::uint8_t code, std::uint8_t byte);
+    void takeEscape(std::uint8_t byte);
+    void takeParameter(std::uint8_t byte);
+    void finishCommand();
+    void execute();
+    void executeFeed(std::uint8_t parameter);
+    void setFormLines(std::uint8_t lines);
+    void setFormInches(std::uint8_t inches);
+    void reset();
+    void printCharacter(char16_t character);
+    void newLine();
+    void carriageReturn();
+    void horizontalTab();
+    void backspace();
+    void passColumns(PaperUnits count);
+    void note(NoticeKind kind, std::string bytes);
+
+    ContinuousPaper& paper_;
+    Dialect dialect_;
+    NoticeLog notices_;
+    PrintMode mode_;
+    PaperUnits lineSpacing_ = kUnitsPerInch / 6;
+    PaperUnits x_ = 0;
+    std::uint16_t column_ = 1;
+    std::uint16_t columnsBefore_ = 0;
+
+    Waiting waiting_ = Waiting::Text;
+    CommandShape shape_;
+    std::string command_;  // the bytes of the command so far, ESC first
+    std::size_t missing_ = 0;
+};
+
+}  // namespace tarn::dotmatrix

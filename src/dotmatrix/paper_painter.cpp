@@ -1,0 +1,145 @@
+#include "dotmatrix/paper_painter.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+namespace tarn::dotmatrix {
+
+namespace {
+
+constexpr double kPointsPerUnit = kPointsPerInch / static_cast<double>(kUnitsPerInch);
+
+// The font is set large and scaled down, so that its advances carry no rounding.
+constexpr int kFontPixels = 1000;
+constexpr double kEm = 10.5;       // points; capitals come out 7/72 inch high, as 7 needles strike
+constexpr double kBaseline = 8.9;  // points below the top of a row
+constexpr double kUnderline = 10.4;
+constexpr double kUnderlineWidth = 0.6;
+constexpr double kSecondStrike = 0.3;  // points to the right
+
+constexpr double kHoleSpacing = 36.0;  // points, from hole to hole
+constexpr double kHoleRadius = 72.0 * 5 / 64;
+constexpr double kBand = 36.0;
+
+const QColor kInk(28, 28, 36);
+const QColor kPerforation(190, 190, 190);
+const QColor kHoleEdge(205, 205, 205);
+const QColor kHoleFill(240, 240, 240);
+const QColor kBandColour(236, 246, 236);
+
+bool continues(const Cell& before, const Cell& next) {
+    return next.style == before.style && next.width == before.width &&
+           next.x >= before.x + before.width && (next.x - before.x) % before.width == 0;
+}
+
+}  // namespace
+
+Sheet sheetFor(PaperUnits contentWidth) {
+    Sheet sheet;
+    const double needed =
+        static_cast<double>(contentWidth) / static_cast<double>(kUnitsPerInch) + 2 * sheet.strip;
+    constexpr double kWide = 14.875;
+    if (needed > kWide) {
+        sheet.width = std::ceil(needed * 2) / 2;
+    } else if (needed > sheet.width) {
+        sheet.width = kWide;
+    }
+    return sheet;
+}
+
+PaperPainter::PaperPainter(Sheet sheet, PaintOptions options) : sheet_(sheet), options_(options) {
+    plain_.setFamilies({QStringLiteral("Liberation Mono"), QStringLiteral("DejaVu Sans Mono"),
+                        QStringLiteral("Courier New"), QStringLiteral("monospace")});
+    plain_.setStyleHint(QFont::Monospace);
+    plain_.setPixelSize(kFontPixels);
+    plain_.setHintingPreference(QFont::PreferNoHinting);
+    plain_.setKerning(false);
+    advance_ = QFontMetricsF(plain_).horizontalAdvance(QLatin1Char('0'));
+}
+
+void PaperPainter::paintForm(QPainter& painter, const ContinuousPaper& paper,
+                             std::size_t form) const {
+    const Form& shape = paper.forms().at(form);
+    paintSheet(painter, static_cast<double>(shape.height) * kPointsPerUnit);
+    const auto& lines = paper.lines();
+    for (std::size_t i = paper.firstLineOf(form); i < lines.size() && lines[i].form == form; ++i) {
+        paintLine(painter, lines[i], static_cast<double>(lines[i].y - shape.top) * kPointsPerUnit);
+    }
+}
+
+void PaperPainter::paintSheet(QPainter& painter, double height) const {
+    const double width = sheet_.width * kPointsPerInch;
+    const double strip = sheet_.strip * kPointsPerInch;
+    painter.save();
+    if (options_.bands) {
+        for (double top = 0; top < height; top += 2 * kBand) {
+            painter.fillRect(QRectF(strip, top, width - 2 * strip, std::min(kBand, height - top)),
+                             kBandColour);
+        }
+    }
+    painter.setPen(QPen(kHoleEdge, 0.5));
+    painter.setBrush(kHoleFill);
+    for (double y = kHoleSpacing / 2; y < height; y += kHoleSpacing) {
+        painter.drawEllipse(QPointF(strip / 2, y), kHoleRadius, kHoleRadius);
+        painter.drawEllipse(QPointF(width - strip / 2, y), kHoleRadius, kHoleRadius);
+    }
+    QPen perforation(kPerforation, 0.5);
+    perforation.setDashPattern({4, 4});
+    painter.setPen(perforation);
+    painter.drawLine(QPointF(strip, 0), QPointF(strip, height));
+    painter.drawLine(QPointF(width - strip, 0), QPointF(width - strip, height));
+    // Half of the perforation belongs to each of the forms that it parts.
+    painter.drawLine(QPointF(0, 0.25), QPointF(width, 0.25));
+    painter.drawLine(QPointF(0, height - 0.25), QPointF(width, height - 0.25));
+    painter.restore();
+}
+
+// Draws characters that stand side by side in one go, blanks between them included, so
+// that a search in the PDF finds whole lines of text.
+void PaperPainter::paintLine(QPainter& painter, const PaperLine& line, double y) const {
+    QString run;
+    const auto& cells = line.cells;
+    for (std::size_t first = 0; first < cells.size();) {
+        run = QChar(cells[first].character);
+        std::size_t next = first + 1;
+        for (; next < cells.size() && continues(cells[next - 1], cells[next]); ++next) {
+            const auto steps = (cells[next].x - cells[next - 1].x) / cells[next].width;
+            run += QString(steps - 1, QLatin1Char(' '));
+            run += QChar(cells[next].character);
+        }
+        paintRun(painter, run, cells[first], y);
+        first = next;
+    }
+}
+
+void PaperPainter::paintRun(QPainter& painter, const QString& text, const Cell& first,
+                            double y) const {
+    const double left = sheet_.strip * kPointsPerInch + first.x * kPointsPerUnit;
+    const double cellWidth = first.width * kPointsPerUnit;
+    const bool bold = (first.style & (kEmphasised | kDoubleStrike)) != 0;
+    const bool both = (first.style & kEmphasised) != 0 && (first.style & kDoubleStrike) != 0;
+    QFont font = plain_;
+    font.setBold(bold);
+    font.setItalic((first.style & kItalic) != 0);
+
+    painter.save();
+    painter.setPen(kInk);
+    painter.setFont(font);
+    painter.translate(left, y + kBaseline);
+    painter.scale(cellWidth / advance_, kEm / kFontPixels);
+    painter.drawText(QPointF(0, 0), text);
+    if (both) {
+        painter.drawText(QPointF(kSecondStrike * advance_ / cellWidth, 0), text);
+    }
+    painter.restore();
+
+    if ((first.style & kUnderlined) != 0) {
+        painter.fillRect(QRectF(left, y + kUnderline, cellWidth * static_cast<double>(text.size()),
+                                kUnderlineWidth),
+                         kInk);
+    }
+}
+
+}  // namespace tarn::dotmatrix

@@ -1,0 +1,49 @@
+// Draws forms of the continuous paper with QPainter: one routine for PDF, picture and
+// screen. Needs a QGuiApplication for its fonts.
+#pragma once
+
+#include <QFont>
+
+#include "dotmatrix/continuous_paper.h"
+
+class QPainter;
+
+namespace tarn::dotmatrix {
+
+inline constexpr double kPointsPerInch = 72.0;
+
+// A sheet with its two strips of tractor holes; lengths in inches.
+struct Sheet {
+    double width = 9.5;
+    double strip = 0.5;  // of each side; the first print position is its inner edge
+};
+
+// The narrower of the two usual papers, 9.5 and 14.875 inches, that holds the content;
+// a wider one, to the half inch, for what no paper holds.
+Sheet sheetFor(PaperUnits contentWidth);
+
+struct PaintOptions {
+    bool bands = false;  // faint green bands of half an inch
+};
+
+class PaperPainter {
+public:
+    explicit PaperPainter(Sheet sheet, PaintOptions options = {});
+
+    const Sheet& sheet() const { return sheet_; }
+    // One form with its origin, left upper corner of the sheet, at the painter's; the
+    // painter's unit must be the point, 1/72 inch.
+    void paintForm(QPainter& painter, const ContinuousPaper& paper, std::size_t form) const;
+
+private:
+    void paintSheet(QPainter& painter, double height) const;
+    void paintLine(QPainter& painter, const PaperLine& line, double y) const;
+    void paintRun(QPainter& painter, const QString& text, const Cell& first, double y) const;
+
+    Sheet sheet_;
+    PaintOptions options_;
+    QFont plain_;
+    double advance_ = 0;  // of a character of plain_, in its pixels
+};
+
+}  // namespace tarn::dotmatrix

@@ -1,0 +1,154 @@
+#include "platform/curl/curl_loader.h"
+
+#include <curl/curl.h>
+
+#include <memory>
+#include <new>
+#include <stdexcept>
+#include <string_view>
+
+#include "session/request_line.h"
+
+namespace tarn {
+namespace {
+
+constexpr std::size_t largestBody = std::size_t{64} * 1024 * 1024;
+constexpr std::size_t largestHead = std::size_t{1024} * 1024;
+constexpr int mostRedirects = 20;            // what browsers allow
+constexpr long connectSeconds = 2'000'000L;  // libcurl's own would be 300
+
+using Easy = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
+using Url = std::unique_ptr<CURLU, decltype(&curl_url_cleanup)>;
+
+struct Received {
+    std::string body;
+    std::size_t headBytes = 0;
+};
+
+std::size_t takeBody(const char* data, std::size_t size, std::size_t count, void* user) {
+    auto& received = *static_cast<Received*>(user);
+    const std::size_t length = size * count;
+    if (length > largestBody - received.body.size()) {
+        return 0;  // libcurl ends the transfer
+    }
+    try {
+        received.body.append(data, length);
+    } catch (const std::bad_alloc&) {
+        return 0;
+    }
+    return length;
+}
+
+std::size_t countHead(const char*, std::size_t size, std::size_t count, void* user) {
+    auto& received = *static_cast<Received*>(user);
+    received.headBytes += size * count;
+    return received.headBytes > largestHead ? 0 : size * count;
+}
+
+std::string part(const Url& url, CURLUPart which) {
+    char* text = nullptr;
+    if (curl_url_get(url.get(), which, &text, CURLU_DEFAULT_PORT) != CURLUE_OK) {
+        return {};
+    }
+    std::string copy(text);
+    curl_free(text);
+    return copy;
+}
+
+Url parsed(const std::string& address) {
+    Url url(curl_url(), curl_url_cleanup);
+    if (url != nullptr && curl_url_set(url.get(), CURLUPART_URL, address.c_str(), 0) != CURLUE_OK) {
+        url.reset();
+    }
+    return url;
+}
+
+// The server that was asked itself, or its https door.
+bool mayFollow(const std::string& from, const std::string& to) {
+    const Url asked = parsed(from);
+    const Url target = parsed(to);
+    if (asked == nullptr || target == nullptr ||
+        curl_strequal(part(asked, CURLUPART_HOST).c_str(), part(target, CURLUPART_HOST).c_str()) ==
+            0) {
+        return false;
+    }
+    const std::string scheme = part(asked, CURLUPART_SCHEME);
+    const std::string newScheme = part(target, CURLUPART_SCHEME);
+    const std::string port = part(asked, CURLUPART_PORT);
+    const std::string newPort = part(target, CURLUPART_PORT);
+    return (newScheme == scheme && newPort == port) ||
+           (scheme == "http" && port == "80" && newScheme == "https" && newPort == "443");
+}
+
+Easy newRequest(Received& received) {
+    Easy easy(curl_easy_init(), curl_easy_cleanup);
+    if (easy == nullptr) {
+        throw std::runtime_error("Não foi possível preparar o acesso à Internet (libcurl).");
+    }
+    CURL* curl = easy.get();
+    curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "http,https");
+    curl_easy_setopt(curl, CURLOPT_FOLLOWLOCATION, 0L);
+    curl_easy_setopt(curl, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
+    curl_easy_setopt(curl, CURLOPT_FRESH_CONNECT, 1L);
+    curl_easy_setopt(curl, CURLOPT_FORBID_REUSE, 1L);
+    curl_easy_setopt(curl, CURLOPT_SSL_VERIFYPEER, 1L);
+    curl_easy_setopt(curl, CURLOPT_SSL_VERIFYHOST, 2L);
+    curl_easy_setopt(curl, CURLOPT_ACCEPT_ENCODING, "");  // all that libcurl unpacks
+    curl_easy_setopt(curl, CURLOPT_PATH_AS_IS, 1L);
+    curl_easy_setopt(curl, CURLOPT_FAILONERROR, 1L);
+    curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT, connectSeconds);
+    curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
+    curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, takeBody);
+    curl_easy_setopt(curl, CURLOPT_WRITEDATA, &received);
+    curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, countHead);
+    curl_easy_setopt(curl, CURLOPT_HEADERDATA, &received);
+    return easy;
+}
+
+// One request. Fills `next` when the server sends elsewhere.
+bool perform(const std::string& line, Received& received, std::string& next) {
+    const Easy easy = newRequest(received);
+    if (curl_easy_setopt(easy.get(), CURLOPT_URL, line.c_str()) != CURLE_OK ||
+        curl_easy_perform(easy.get()) != CURLE_OK) {
+        return false;
+    }
+    long status = 0;
+    const char* redirect = nullptr;
+    curl_easy_getinfo(easy.get(), CURLINFO_RESPONSE_CODE, &status);
+    curl_easy_getinfo(easy.get(), CURLINFO_REDIRECT_URL, &redirect);
+    if (redirect != nullptr) {
+        next = redirect;
+        return true;
+    }
+    return status >= 200 && status < 300;
+}
+
+}  // namespace
+
+CurlLoader::CurlLoader() {
+    static const CURLcode ready = curl_global_init(CURL_GLOBAL_DEFAULT);
+    if (ready != CURLE_OK) {
+        throw std::runtime_error("Não foi possível preparar o acesso à Internet (libcurl).");
+    }
+}
+
+HttpAnswer CurlLoader::get(const std::string& address) {
+    std::string line = requestLine(address);
+    for (int hops = 0; hops <= mostRedirects; ++hops) {
+        Received received;
+        std::string next;
+        if (!perform(line, received, next)) {
+            return {};
+        }
+        if (next.empty()) {
+            return {.loaded = true, .body = std::move(received.body)};
+        }
+        if (!mayFollow(line, next)) {
+            return {};
+        }
+        line = std::move(next);
+    }
+    return {};
+}
+
+}  // namespace tarn

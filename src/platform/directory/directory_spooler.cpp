@@ -1,0 +1,54 @@
+#include "platform/directory/directory_spooler.h"
+
+namespace tarn {
+
+std::string DirectorySpooler::defaultPrinter() {
+    return files_->directory().string();
+}
+
+bool DirectorySpooler::openPrinter(const std::string& /*name*/) {
+    job_.reset();
+    open_ = files_->makeDirectory();
+    return open_;
+}
+
+bool DirectorySpooler::startDocument(const JobDescription& /*job*/) {
+    if (!open_ || job_) {
+        return false;
+    }
+    const auto file = files_->create("prn");
+    if (!file) {
+        return false;
+    }
+    job_.reset(std::fopen(file->string().c_str(), "wb"));
+    // Unbuffered: what was written is there after a crash too.
+    return job_ && std::setvbuf(job_.get(), nullptr, _IONBF, 0) == 0;
+}
+
+bool DirectorySpooler::startPage() {
+    return job_ != nullptr;
+}
+
+std::size_t DirectorySpooler::write(std::string_view bytes) {
+    if (!job_ || bytes.empty()) {
+        return 0;
+    }
+    return std::fwrite(bytes.data(), 1, bytes.size(), job_.get());
+}
+
+bool DirectorySpooler::endPage() {
+    return job_ != nullptr;
+}
+
+bool DirectorySpooler::endDocument() {
+    return job_ && std::fclose(job_.release()) == 0;
+}
+
+bool DirectorySpooler::closePrinter() {
+    const bool wasOpen = open_;
+    job_.reset();
+    open_ = false;
+    return wasOpen;
+}
+
+}  // namespace tarn

@@ -1,0 +1,40 @@
+// A directory in the printer's place: each raw job becomes a file with the exact
+// bytes, there from the first write on. A job never ended stays as it is.
+#pragma once
+
+#include <cstdio>
+#include <memory>
+
+#include "platform/directory/job_files.h"
+#include "platform/spooler.h"
+
+namespace tarn {
+
+class DirectorySpooler : public Spooler {
+public:
+    // `files` may be shared with what draws pages into the same directory.
+    explicit DirectorySpooler(std::shared_ptr<JobFiles> files) : files_(std::move(files)) {}
+    explicit DirectorySpooler(std::filesystem::path directory,
+                              JobNumbering numbering = JobNumbering::AfterHighest)
+        : DirectorySpooler(std::make_shared<JobFiles>(std::move(directory), numbering)) {}
+
+    std::string defaultPrinter() override;  // the directory's path
+    bool openPrinter(const std::string& name) override;
+    bool startDocument(const JobDescription& job) override;
+    bool startPage() override;
+    std::size_t write(std::string_view bytes) override;
+    bool endPage() override;
+    bool endDocument() override;
+    bool closePrinter() override;
+
+private:
+    struct CloseFile {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+
+    std::shared_ptr<JobFiles> files_;
+    bool open_ = false;
+    std::unique_ptr<std::FILE, CloseFile> job_;  // null between jobs
+};
+
+}  // namespace tarn

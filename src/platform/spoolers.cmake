@@ -1,0 +1,21 @@
+# The raw spoolers: a directory everywhere, and the system's own.
+target_sources(tarn_platform PRIVATE
+  directory/directory_spooler.cpp
+  directory/job_files.cpp
+  system_spooler.cpp)
+
+if(WIN32)
+  target_sources(tarn_platform PRIVATE winspool/winspool_spooler.cpp)
+  target_compile_definitions(tarn_platform PUBLIC TARN_WITH_WINSPOOL)
+  target_link_libraries(tarn_platform PRIVATE winspool)
+else()
+  find_package(Cups QUIET)
+  if(CUPS_FOUND)
+    target_sources(tarn_platform PRIVATE cups/cups_spooler.cpp)
+    target_compile_definitions(tarn_platform PUBLIC TARN_WITH_CUPS)
+    target_include_directories(tarn_platform SYSTEM PRIVATE ${CUPS_INCLUDE_DIRS})
+    target_link_libraries(tarn_platform PRIVATE ${CUPS_LIBRARIES})
+  else()
+    message(STATUS "CUPS was not found: raw jobs can only go to a directory")
+  endif()
+endif()

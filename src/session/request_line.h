@@ -1,0 +1,15 @@
+// From the text of an address to what stands in an HTTP request line.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+// The text in windows-1252 ("?" for a character that it lacks), and each byte that
+// may not stand in a request line as %XX: blanks, control characters, quotes,
+// <>#\^`{|} and all from 128 up. Everything else stays, "%", "&" and "+" included:
+// whatever was typed, one line leaves with the whole text in it.
+std::string requestLine(std::string_view address);
+
+}  // namespace tarn

@@ -1,0 +1,160 @@
+// Jobs through a real cupsd of the test's own, down to the printer's socket.
+#include "platform/cups/cups_spooler.h"
+
+#include <cups/cups.h>
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "common/raw_channel.h"
+#include "support/private_cupsd.h"
+
+namespace tarn {
+namespace {
+
+constexpr std::chrono::seconds jobLimit{40};
+
+class CupsSpoolerTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        if (PrivateCupsd::whyMissing().empty()) {
+            server_ = std::make_unique<PrivateCupsd>();
+            failure_ = server_->start();
+        }
+    }
+    static void TearDownTestSuite() { server_.reset(); }
+
+    void SetUp() override {
+        if (const std::string why = PrivateCupsd::whyMissing(); !why.empty()) {
+            GTEST_SKIP() << why;
+        }
+        ASSERT_EQ(failure_, "");
+    }
+
+    static bool begin(Spooler& spooler, std::string_view bytes) {
+        return spooler.openPrinter(PrivateCupsd::queueName) && spooler.startDocument({}) &&
+               spooler.startPage() && spooler.write(bytes) == bytes.size();
+    }
+    static bool end(Spooler& spooler) {
+        const bool ended = spooler.endPage() && spooler.endDocument();
+        return spooler.closePrinter() && ended;
+    }
+
+    // The state of the newest job of the queue.
+    static ipp_jstate_t newestState() {
+        cups_job_t* jobs = nullptr;
+        const int count = cupsGetJobs(&jobs, PrivateCupsd::queueName, 0, CUPS_WHICHJOBS_ALL);
+        ipp_jstate_t state = IPP_JSTATE_PENDING;
+        int newest = 0;
+        for (int i = 0; i < count; ++i) {
+            if (jobs[i].id > newest) {
+                newest = jobs[i].id;
+                state = jobs[i].state;
+            }
+        }
+        cupsFreeJobs(count, jobs);
+        return state;
+    }
+
+    static std::optional<std::string> printed() { return server_->nextJob(jobLimit); }
+
+    static std::unique_ptr<PrivateCupsd> server_;
+    static std::string failure_;
+};
+
+std::unique_ptr<PrivateCupsd> CupsSpoolerTest::server_;
+std::string CupsSpoolerTest::failure_;
+
+TEST_F(CupsSpoolerTest, TheDefaultPrinterIsTheServers) {
+    CupsSpooler spooler;
+    EXPECT_EQ(spooler.defaultPrinter(), PrivateCupsd::queueName);
+}
+
+TEST_F(CupsSpoolerTest, EveryByteArrivesAsItIs) {
+    std::string bytes;
+    for (int i = 0; i < 256; ++i) {
+        bytes.push_back(static_cast<char>(i));
+    }
+    CupsSpooler spooler;
+    ASSERT_TRUE(begin(spooler, bytes)) << server_->errorLog();
+    EXPECT_EQ(spooler.write(""), 0U);
+    EXPECT_EQ(spooler.write("\x1B@end\r\n"), 7U);
+    ASSERT_TRUE(end(spooler));
+    EXPECT_EQ(printed(), bytes + "\x1B@end\r\n");
+}
+
+TEST_F(CupsSpoolerTest, ALargeJobInManyWrites) {
+    std::mt19937 random(42);
+    CupsSpooler spooler;
+    ASSERT_TRUE(begin(spooler, "first line\r\n"));
+    std::string all = "first line\r\n";
+    while (all.size() < 3000000) {
+        std::string piece(1 + random() % 300, '\0');
+        for (char& c : piece) {
+            c = static_cast<char>(random() % 256);
+        }
+        ASSERT_EQ(spooler.write(piece), piece.size());
+        all += piece;
+    }
+    ASSERT_TRUE(end(spooler));
+    EXPECT_TRUE(printed() == all) << "the bytes differ";
+}
+
+TEST_F(CupsSpoolerTest, JobsArriveInOrder) {
+    CupsSpooler spooler;
+    for (const char* text : {"one", "two", "three"}) {
+        ASSERT_TRUE(begin(spooler, text));
+        ASSERT_TRUE(end(spooler));
+    }
+    EXPECT_EQ(printed(), "one");
+    EXPECT_EQ(printed(), "two");
+    EXPECT_EQ(printed(), "three");
+}
+
+TEST_F(CupsSpoolerTest, TheRawChannelPrintsOnTheDefaultPrinter) {
+    CupsSpooler spooler;
+    RawChannel channel(spooler, CodePage::Page1252);
+    channel.abre({.docName = "Impressao de Cheque", .outputFile = "", .dataType = ""});
+    std::string linha = "SÃO PAULO";
+    channel.ImprimeRaw(1, linha, 2);
+    channel.fecha();
+    EXPECT_EQ(printed(), " S\xC3O PAULO\r\n\r\n");
+}
+
+TEST_F(CupsSpoolerTest, AJobLeftOpenIsCancelledWhenItsHandleIsReplaced) {
+    CupsSpooler spooler;
+    ASSERT_TRUE(begin(spooler, "never ended"));
+    ASSERT_TRUE(spooler.openPrinter(PrivateCupsd::queueName));
+    EXPECT_EQ(newestState(), IPP_JSTATE_CANCELED);
+    ASSERT_TRUE(spooler.startDocument({}) && spooler.startPage());
+    EXPECT_EQ(spooler.write("the next"), 8U);
+    ASSERT_TRUE(end(spooler));
+    EXPECT_EQ(printed(), "the next");
+}
+
+TEST_F(CupsSpoolerTest, AJobLeftOpenIsCancelledWhenTheSpoolerDies) {
+    {
+        CupsSpooler spooler;
+        ASSERT_TRUE(begin(spooler, std::string(100000, 'x')));
+    }
+    EXPECT_EQ(newestState(), IPP_JSTATE_CANCELED);
+    CupsSpooler spooler;
+    ASSERT_TRUE(begin(spooler, "after"));
+    ASSERT_TRUE(end(spooler));
+    EXPECT_EQ(printed(), "after");
+}
+
+TEST_F(CupsSpoolerTest, AQueueThatIsNotThereFails) {
+    CupsSpooler spooler;
+    EXPECT_FALSE(spooler.openPrinter("no_such_queue"));
+    EXPECT_FALSE(spooler.openPrinter(""));
+    EXPECT_FALSE(spooler.startDocument({}));
+    EXPECT_FALSE(spooler.startPage());
+    EXPECT_EQ(spooler.write("A"), 0U);
+    EXPECT_FALSE(spooler.endPage());
+    EXPECT_FALSE(spooler.endDocument());
+    EXPECT_FALSE(spooler.closePrinter());
+}
+
+}  // namespace
+}  // namespace tarn

@@ -1,0 +1,176 @@
+#include "platform/directory/directory_spooler.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+namespace tarn {
+namespace {
+
+namespace fs = std::filesystem;
+
+class DirectorySpoolerTest : public testing::Test {
+protected:
+    void SetUp() override {
+        std::string path = (fs::temp_directory_path() / "tarn-jobs-XXXXXX").string();
+        ASSERT_NE(mkdtemp(path.data()), nullptr);
+        base_ = path;
+        directory_ = base_ / "saida" / "trabalhos";
+    }
+    void TearDown() override { fs::remove_all(base_); }
+
+    std::string bytesOf(const std::string& name) const {
+        std::ifstream file(directory_ / name, std::ios::binary);
+        EXPECT_TRUE(file.good()) << name;
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    }
+
+    // Starts a job and writes; true when all of it was taken.
+    static bool begin(DirectorySpooler& spooler, std::string_view bytes) {
+        return spooler.openPrinter(spooler.defaultPrinter()) && spooler.startDocument({}) &&
+               spooler.startPage() && spooler.write(bytes) == bytes.size();
+    }
+    static bool end(DirectorySpooler& spooler) {
+        const bool ended = spooler.endPage() && spooler.endDocument();
+        return spooler.closePrinter() && ended;
+    }
+    static bool print(DirectorySpooler& spooler, std::string_view bytes) {
+        return begin(spooler, bytes) && end(spooler);
+    }
+
+    fs::path base_;
+    fs::path directory_;
+};
+
+TEST_F(DirectorySpoolerTest, EachJobIsAFileInTheOrderOfOpening) {
+    DirectorySpooler spooler(directory_);
+    EXPECT_EQ(spooler.defaultPrinter(), directory_.string());
+    std::string all;
+    for (int i = 0; i < 256; ++i) {
+        all.push_back(static_cast<char>(i));
+    }
+    EXPECT_TRUE(print(spooler, all));
+    EXPECT_TRUE(print(spooler, "B\r\n"));
+    EXPECT_EQ(bytesOf("job-001.prn"), all);
+    EXPECT_EQ(bytesOf("job-002.prn"), "B\r\n");
+}
+
+TEST_F(DirectorySpoolerTest, OpeningAloneMakesNoFile) {
+    DirectorySpooler spooler(directory_);
+    EXPECT_TRUE(spooler.openPrinter("x"));
+    EXPECT_TRUE(fs::is_empty(directory_));
+    EXPECT_TRUE(spooler.startDocument({}));
+    EXPECT_EQ(bytesOf("job-001.prn"), "");
+}
+
+TEST_F(DirectorySpoolerTest, NumberingGoesOnBehindTheHighestPresent) {
+    fs::create_directories(directory_);
+    for (const char* name : {"job-007.prn", "job-012.pdf", "job-.prn", "job-99", "job--50.prn",
+                             "xjob-100.prn", "job-200x.prn"}) {
+        std::ofstream(directory_ / name) << "old";
+    }
+    DirectorySpooler spooler(directory_);
+    EXPECT_TRUE(print(spooler, "A"));
+    EXPECT_EQ(bytesOf("job-013.prn"), "A");
+    std::ofstream(directory_ / "job-999.prn") << "old";
+    EXPECT_TRUE(print(spooler, "B"));
+    EXPECT_EQ(bytesOf("job-1000.prn"), "B");
+    EXPECT_TRUE(print(spooler, "C"));
+    EXPECT_EQ(bytesOf("job-1001.prn"), "C");
+    EXPECT_EQ(bytesOf("job-007.prn"), "old");
+}
+
+TEST_F(DirectorySpoolerTest, NumberingFromOneTakesThePlaceOfOldFiles) {
+    fs::create_directories(directory_);
+    std::ofstream(directory_ / "job-001.prn") << "a long old text";
+    std::ofstream(directory_ / "job-009.prn") << "old";
+    DirectorySpooler spooler(directory_, JobNumbering::FromOne);
+    EXPECT_TRUE(print(spooler, "A"));
+    EXPECT_TRUE(print(spooler, "B"));
+    EXPECT_EQ(bytesOf("job-001.prn"), "A");
+    EXPECT_EQ(bytesOf("job-002.prn"), "B");
+    EXPECT_EQ(bytesOf("job-009.prn"), "old");
+}
+
+TEST_F(DirectorySpoolerTest, OneNumberingForRawAndDrawnJobs) {
+    const auto files = std::make_shared<JobFiles>(directory_, JobNumbering::FromOne);
+    DirectorySpooler spooler(files);
+    EXPECT_TRUE(print(spooler, "A"));
+    EXPECT_EQ(files->create("pdf"), directory_ / "job-002.pdf");
+    EXPECT_TRUE(print(spooler, "B"));
+    EXPECT_EQ(bytesOf("job-003.prn"), "B");
+}
+
+TEST_F(DirectorySpoolerTest, BytesAreThereAfterEachWrite) {
+    DirectorySpooler spooler(directory_);
+    EXPECT_TRUE(begin(spooler, "A"));
+    EXPECT_EQ(bytesOf("job-001.prn"), "A");
+    EXPECT_EQ(spooler.write(""), 0U);
+    EXPECT_EQ(spooler.write("B"), 1U);
+    EXPECT_EQ(bytesOf("job-001.prn"), "AB");
+}
+
+TEST_F(DirectorySpoolerTest, AJobNeverClosedStaysAndIsNotContinued) {
+    {
+        DirectorySpooler spooler(directory_);
+        EXPECT_TRUE(begin(spooler, "A"));
+        EXPECT_TRUE(begin(spooler, "B"));
+        EXPECT_TRUE(print(spooler, "C"));
+        EXPECT_TRUE(begin(spooler, "D"));
+    }
+    EXPECT_EQ(bytesOf("job-001.prn"), "A");
+    EXPECT_EQ(bytesOf("job-002.prn"), "B");
+    EXPECT_EQ(bytesOf("job-003.prn"), "C");
+    EXPECT_EQ(bytesOf("job-004.prn"), "D");
+}
+
+TEST_F(DirectorySpoolerTest, CallsOutOfOrderFail) {
+    DirectorySpooler spooler(directory_);
+    EXPECT_FALSE(spooler.startDocument({}));
+    EXPECT_FALSE(spooler.startPage());
+    EXPECT_EQ(spooler.write("A"), 0U);
+    EXPECT_FALSE(spooler.endPage());
+    EXPECT_FALSE(spooler.endDocument());
+    EXPECT_FALSE(spooler.closePrinter());
+    EXPECT_TRUE(begin(spooler, "A"));
+    EXPECT_FALSE(spooler.startDocument({}));
+    EXPECT_TRUE(spooler.endDocument());
+    EXPECT_EQ(spooler.write("B"), 0U);
+    EXPECT_TRUE(spooler.closePrinter());
+    EXPECT_EQ(bytesOf("job-001.prn"), "A");
+}
+
+TEST_F(DirectorySpoolerTest, ADirectoryThatCannotBeMadeIsAFailure) {
+    std::ofstream(base_ / "file") << "x";
+    DirectorySpooler spooler(base_ / "file" / "sub");
+    EXPECT_FALSE(spooler.openPrinter("x"));
+    EXPECT_FALSE(spooler.startDocument({}));
+    EXPECT_EQ(spooler.write("A"), 0U);
+}
+
+TEST_F(DirectorySpoolerTest, ADirectoryThatWentAwayIsAFailureOrMadeAgain) {
+    DirectorySpooler spooler(directory_);
+    EXPECT_TRUE(spooler.openPrinter("x"));
+    fs::remove_all(directory_);
+    std::ofstream(directory_) << "a file in its place";
+    EXPECT_FALSE(spooler.startDocument({}));
+    fs::remove(directory_);
+    EXPECT_TRUE(spooler.startDocument({}));
+    EXPECT_EQ(bytesOf("job-001.prn"), "");
+}
+
+TEST_F(DirectorySpoolerTest, AFullDiskIsAFailure) {
+    if (!fs::exists("/dev/full")) {
+        GTEST_SKIP() << "no /dev/full here";
+    }
+    fs::create_directories(directory_);
+    fs::create_symlink("/dev/full", directory_ / "job-001.prn");
+    DirectorySpooler spooler(directory_, JobNumbering::FromOne);
+    EXPECT_TRUE(spooler.openPrinter("x"));
+    EXPECT_TRUE(spooler.startDocument({}));
+    EXPECT_EQ(spooler.write("ABC"), 0U);
+}
+
+}  // namespace
+}  // namespace tarn

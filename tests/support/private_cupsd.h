@@ -1,0 +1,59 @@
+// A cupsd of the test's own: its files in a new directory, reached by a socket in
+// there, with one raw queue whose printer is a loopback socket of the test. The
+// system's cupsd, if there is one, isn't touched.
+#pragma once
+
+#include <sys/types.h>
+
+#include <chrono>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+
+namespace tarn {
+
+class PrivateCupsd {
+public:
+    static constexpr const char* queueName = "tarn_raw";
+
+    // Why no cupsd can be run here, for a test to skip with; empty when it can.
+    static std::string whyMissing();
+
+    PrivateCupsd() = default;
+    ~PrivateCupsd() { stop(); }
+    PrivateCupsd(const PrivateCupsd&) = delete;
+    PrivateCupsd& operator=(const PrivateCupsd&) = delete;
+
+    // Runs the server and, for this process and its children, makes it the CUPS
+    // server (CUPS_SERVER) with the queue as the default printer. To be called before
+    // anything uses libcups. Returns what went wrong, empty for nothing.
+    std::string start();
+
+    // The bytes of the next job that reaches the printer; nothing when none came, or
+    // none came whole, in that time. A job waits until it is asked for.
+    std::optional<std::string> nextJob(std::chrono::milliseconds timeOut);
+
+    // Ends the server, waits until it is gone, and removes its files.
+    void stop();
+
+    std::string serverSocket() const { return (directory_ / "cups.sock").string(); }
+    std::string errorLog() const;
+
+private:
+    std::string listenAsPrinter();
+    void writeConfiguration() const;
+    void run();
+    bool answers() const;
+    bool isGone();
+    void pointEnvironmentHere();
+    void restoreEnvironment();
+
+    std::filesystem::path directory_;
+    int printer_ = -1;  // listening socket
+    int port_ = 0;
+    pid_t server_ = -1;
+    std::map<std::string, std::optional<std::string>> environmentBefore_;
+};
+
+}  // namespace tarn
