@@ -16,6 +16,11 @@ if(TARN_SANITIZE)
                          -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(tarn_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(TARN_FUZZ)
+  # Coverage for libFuzzer; only the fuzzers themselves link its main.
+  target_compile_options(tarn_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(tarn_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # tarn_add_library(NAME): a static library whose rooms add their own sources.
 function(tarn_add_library name)

@@ -52,7 +52,9 @@ Database::Database(const std::string& file)
     }
     if (!opened) {
         QSqlDatabase::removeDatabase(name_);
-        fail("Não foi possível abrir o banco de dados \"" + file + "\"", error);
+        fail("Não foi possível abrir o banco de dados \"" + file +
+                 "\". Confira o caminho e as permissões do arquivo, ou escolha outro com --banco",
+             error);
     }
 }
 

@@ -15,6 +15,7 @@ namespace {
 constexpr const char* kPlainText = "text/plain; charset=utf-8";
 constexpr int kServerError = 500;
 constexpr int kNotFound = 404;
+constexpr time_t kTurnMicroseconds = 50000;
 
 // Without the library's own SO_REUSEPORT, under which a port already served
 // would be taken a second time in silence.
@@ -72,6 +73,8 @@ HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_
     state_->contentType = std::move(contentType);
     State* state = state_.get();
     state->server.set_socket_options(reuseAddressOnly);
+    // Waits for connections in short turns, so that a stop is always noticed.
+    state->server.set_idle_interval(0, kTurnMicroseconds);
     // One request a connection, so that the end waits for no idle one.
     state->server.set_keep_alive_max_count(1);
     state->server.Get(std::string(kPagePath), [state](const httplib::Request& request,
@@ -116,9 +119,14 @@ int HttpFront::bind(const std::string& address, int port) {
 
 void HttpFront::serve() {
     state_->server.listen_after_bind();
+    state_->finished = true;
 }
 
+// The library takes no notice of a stop that comes before it listens.
 void HttpFront::stop() {
+    while (!state_->server.is_running() && !state_->finished) {
+        std::this_thread::yield();
+    }
     state_->server.stop();
 }
 

@@ -17,10 +17,18 @@ void prepare(Database& database, const PracticeOptions& options) {
     if (checkSchema(database, options.database) == SchemaState::Ready) {
         return;
     }
-    Transaction transaction(database);
-    createSchema(database);
-    insertPracticeData(database, options.seed, todayOf(options));
-    transaction.commit();
+    try {
+        Transaction transaction(database);
+        createSchema(database);
+        insertPracticeData(database, options.seed, todayOf(options));
+        transaction.commit();
+    } catch (const DatabaseError& error) {
+        throw DatabaseError("O banco de dados \"" + options.database +
+                            "\" não pôde ser preparado. Confira se o arquivo é um banco do "
+                            "servidor de prática e pode ser gravado, ou escolha outro com "
+                            "--banco. " +
+                            error.what());
+    }
 }
 
 Element unknownCommand(const Query& query) {

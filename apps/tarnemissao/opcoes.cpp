@@ -20,19 +20,23 @@ void portugueseLabels(CLI::App& app) {
     auto formatter = std::make_shared<CLI::Formatter>();
     formatter->label("Usage", "Uso");
     formatter->label("OPTIONS", "OPÇÕES");
-    formatter->label("Options", "Opções");
     formatter->column_width(32);
     app.formatter(formatter);
 }
 
+// The option's or argument's own words out of the parser's English sentence.
 std::string comoMensagem(const CLI::ParseError& erro) {
-    if (dynamic_cast<const CLI::ExtrasError*>(&erro) != nullptr) {
-        return std::string("opção ou argumento desconhecido (") + erro.what() + ").";
-    }
+    const std::string frase = erro.what();
+    const std::size_t doisPontos = frase.find(": ");
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&erro) != nullptr) {
-        return std::string("falta o valor de uma opção (") + erro.what() + ").";
+        return "falta o valor da opção " + frase.substr(0, doisPontos) + ".";
     }
-    return std::string("valor que não serve (") + erro.what() + ").";
+    const std::string palavras =
+        doisPontos == std::string::npos ? "" : frase.substr(doisPontos + 2);
+    if (dynamic_cast<const CLI::ExtrasError*>(&erro) != nullptr) {
+        return "opção ou argumento desconhecido: " + palavras + ".";
+    }
+    return "valor que não serve: " + palavras + ".";
 }
 
 }  // namespace
@@ -62,7 +66,8 @@ std::variant<Opcoes, SemPartida> leOpcoes(int argc, const char* const* argv,
     CLI::App app("TarnEmissao: emissão de notas, duplicatas, boletos, cheques e etiquetas.",
                  "tarnemissao");
     portugueseLabels(app);
-    app.set_help_flag("-h,--ajuda,--help", "mostra esta ajuda e termina");
+    app.option_defaults()->group("Opções");
+    app.set_help_flag("-h,--ajuda,--help", "mostra esta ajuda e termina")->group("Opções");
     app.set_version_flag("--versao,--version", std::string("TarnEmissao ") + TARN_VERSION,
                          "mostra a versão e termina");
     app.add_option("--servidor", servidor, "endereço do servidor (http:// ou https://)")
@@ -72,7 +77,7 @@ std::variant<Opcoes, SemPartida> leOpcoes(int argc, const char* const* argv,
         ->type_name("PASTA");
     app.add_option("--pagina-de-codigo", pagina8Bits,
                    "página de caracteres da impressora: 1252, 850 ou 860")
-        ->type_name("NÚMERO");
+        ->type_name("NUM");
     app.add_option("--pasta-figuras", opcoes.pastaFiguras,
                    "pasta das figuras das duplicatas (LOGODUPL.jpg e outras)")
         ->type_name("PASTA");

@@ -92,8 +92,9 @@ int run(int argc, char** argv) {
     }
     const auto& options = std::get<Options>(read);
 
-    // Files need fonts, not a display.
+    // Files need fonts, not a display, and what the toolkit misses of one is no matter.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const QGuiApplication application(argc, argv);
     tarn::dotmatrix::ContinuousPaper paper(options.dialect.formHeight);
     tarn::dotmatrix::EscpInterpreter printer(paper, options.dialect);

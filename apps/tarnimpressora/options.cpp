@@ -34,7 +34,8 @@ Ending wrongUsage(const CLI::ParseError& error, const CLI::App& app) {
     if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
         std::string unknown;
         for (const std::string& word : app.remaining()) {
-            unknown += " " + word;
+            unknown += ' ';
+            unknown += word;
         }
         return wrong("opção desconhecida:" + unknown + ".");
     }

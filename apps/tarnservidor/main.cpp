@@ -33,9 +33,9 @@ struct Arguments {
 };
 
 void declare(CLI::App& app, Arguments& arguments) {
+    app.option_defaults()->group("Opções");
     app.set_help_flag("-h,--help,--ajuda", "Mostra esta ajuda e termina");
     app.get_formatter()->label("OPTIONS", "OPÇÕES");
-    app.get_formatter()->label("Options", "Opções");
     app.get_formatter()->label("Usage", "Uso");
     app.add_option("--porta", arguments.portText, "Porta em que serve; 0 escolhe uma livre")
         ->capture_default_str();

@@ -53,13 +53,8 @@ FimDaGeracao imprimeGerada(Environment& ambiente, const Sessao& sessao, const st
     return FimDaGeracao::Completa;
 }
 
-}  // namespace
-
-FimDaGeracao geraNota(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
-                      const std::string& ordem, const PassoImpressao& imprime) {
-    if (!avisosAceitos(ambiente, sessao, alerta, ordem)) {
-        return FimDaGeracao::Parada;
-    }
+FimDaGeracao pedeNota(Environment& ambiente, const Sessao& sessao, const std::string& ordem,
+                      const PassoImpressao& imprime) {
     XmlDocument documento;
     if (!pede(ambiente, comando::SP_GERA_NF(sessao, ordem), documento, falha::Tarn0004)) {
         exclama(ambiente,
@@ -74,6 +69,20 @@ FimDaGeracao geraNota(Environment& ambiente, Sessao& sessao, AlertaDialogo& aler
     const std::string nota = valorPorPosicao(documento, 0);
     const std::string serie = valorPorPosicao(documento, 1);
     return imprimeGerada(ambiente, sessao, nota, serie, imprime);
+}
+
+}  // namespace
+
+FimDaGeracao geraNota(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
+                      const std::string& ordem, const PassoImpressao& imprime) {
+    if (!avisosAceitos(ambiente, sessao, alerta, ordem)) {
+        return FimDaGeracao::Parada;
+    }
+    try {
+        return pedeNota(ambiente, sessao, ordem, imprime);
+    } catch (const ErroExecucao& erro) {
+        throw ErroComNota(erro);
+    }
 }
 
 }  // namespace tarn

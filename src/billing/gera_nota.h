@@ -24,7 +24,7 @@ using PassoImpressao =
 
 // Everything from the observations to the printed note. The caller has switched
 // its timer off. The two cases in which the note stands on the server and can't be
-// printed here, and every error of a layout, come out as ErroExecucao.
+// printed here, and every error of a layout, come out as ErroComNota.
 FimDaGeracao geraNota(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
                       const std::string& ordem, const PassoImpressao& imprime);
 

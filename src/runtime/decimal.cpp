@@ -35,10 +35,19 @@ void dropTrailingZeros(Decimal& decimal) {
     }
 }
 
+// Three groups of five, so that the divisions of one don't wait for another's.
 void setDigits(Decimal& decimal, std::uint64_t fifteenDigits) {
-    for (std::size_t i = significantDigits; i-- > 0;) {
-        decimal.digits[i] = static_cast<char>('0' + fifteenDigits % 10);
-        fifteenDigits /= 10;
+    constexpr std::size_t groupDigits = 5;
+    constexpr std::uint64_t groupSize = 100000;
+    const std::uint64_t upperGroups = fifteenDigits / groupSize;
+    const std::array<std::uint64_t, 3> groups = {upperGroups / groupSize, upperGroups % groupSize,
+                                                 fifteenDigits % groupSize};
+    for (std::size_t g = 0; g < groups.size(); ++g) {
+        auto group = static_cast<std::uint32_t>(groups[g]);
+        for (std::size_t i = groupDigits; i-- > 0;) {
+            decimal.digits[g * groupDigits + i] = static_cast<char>('0' + group % 10);
+            group /= 10;
+        }
     }
     decimal.count = significantDigits;
     dropTrailingZeros(decimal);

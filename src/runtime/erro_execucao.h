@@ -32,6 +32,12 @@ private:
     ErroNumero numero_;
 };
 
+// The same after a fiscal note was asked of the server: it may exist there, unprinted.
+class ErroComNota : public ErroExecucao {
+public:
+    explicit ErroComNota(const ErroExecucao& erro) : ErroExecucao(erro) {}
+};
+
 inline constexpr int statusErroExecucao = 3;  // exit status of a program that such an error ended
 
 // Text of the report's box: "Erro em tempo de execução 'N':", two line ends

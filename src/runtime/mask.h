@@ -28,9 +28,7 @@ struct NumberMask {
                 if (c == '0') {
                     leastDecimals = mostDecimals;
                 }
-            } else if (c == '0') {
-                ++wholeDigits;
-            } else if (wholeDigits > 0 && c == '#') {
+            } else if (c == '0' || (c == '#' && wholeDigits > 0)) {
                 ++wholeDigits;  // a "#" behind a "0" asks for its digit too
             }
         }

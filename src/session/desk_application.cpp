@@ -30,7 +30,8 @@ void relataErro(const DeskContext& desk, const std::exception_ptr& erro) {
     try {
         std::rethrow_exception(erro);
     } catch (const ErroExecucao& conhecido) {
-        box.text = textoDoRelatorio(conhecido, false);
+        box.text =
+            textoDoRelatorio(conhecido, dynamic_cast<const ErroComNota*>(&conhecido) != nullptr);
     } catch (const std::exception& outro) {
         box.text = std::string(
                        "Aconteceu um erro inesperado e o programa será encerrado. Anote o "

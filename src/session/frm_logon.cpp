@@ -57,26 +57,22 @@ bool FrmLogon::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-bool FrmLogon::preenchido(QLineEdit& campo, const char* nome) {
-    if (!campo.text().isEmpty()) {
-        return true;
+// Where the focus goes for another try: the first field left empty, else the company.
+QLineEdit& FrmLogon::campoDaVolta() const {
+    for (QLineEdit* campo : {ui_->txtEmpresa, ui_->txtUsuario, ui_->txtSenha}) {
+        if (campo->text().isEmpty()) {
+            return *campo;
+        }
     }
-    desk_.ambiente.boxes.show(
-        {std::string(nome) + " é um campo obrigatório     ", BoxIcon::Exclamation, "Aviso"});
-    campo.setFocus();
-    return false;
+    return *ui_->txtEmpresa;
 }
 
 void FrmLogon::btnLogin_Click() {
-    if (!preenchido(*ui_->txtEmpresa, "Empresa") || !preenchido(*ui_->txtUsuario, "Usuário") ||
-        !preenchido(*ui_->txtSenha, "Senha")) {
-        return;
-    }
     try {
         if (tentaEntrar()) {
             accept();
         } else {
-            ui_->txtEmpresa->setFocus();
+            campoDaVolta().setFocus();
         }
     } catch (const std::exception& erro) {
         desk_.ambiente.boxes.show(

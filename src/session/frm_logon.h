@@ -33,7 +33,7 @@ protected:
 
 private:
     void btnLogin_Click();
-    bool preenchido(QLineEdit& campo, const char* nome);
+    QLineEdit& campoDaVolta() const;
     bool tentaEntrar();
 
     DeskContext& desk_;

@@ -12,7 +12,7 @@
 namespace tarn {
 namespace {
 
-constexpr std::chrono::seconds jobLimit{40};
+constexpr std::chrono::seconds jobLimit{30};
 
 class CupsSpoolerTest : public testing::Test {
 protected:
@@ -80,7 +80,7 @@ TEST_F(CupsSpoolerTest, EveryByteArrivesAsItIs) {
     EXPECT_EQ(spooler.write(""), 0U);
     EXPECT_EQ(spooler.write("\x1B@end\r\n"), 7U);
     ASSERT_TRUE(end(spooler));
-    EXPECT_EQ(printed(), bytes + "\x1B@end\r\n");
+    EXPECT_EQ(printed(), bytes + "\x1B@end\r\n") << server_->errorLog();
 }
 
 TEST_F(CupsSpoolerTest, ALargeJobInManyWrites) {

@@ -120,7 +120,7 @@ void PrivateCupsd::writeConfiguration() const {
     }
     std::ofstream(directory_ / "root" / "printers.conf")
         << "<DefaultPrinter " << queueName << ">\nInfo test\nDeviceURI socket://127.0.0.1:" << port_
-        << "?snmp=false\nState Idle\nAccepting Yes\nShared No\nErrorPolicy "
+        << "\nState Idle\nAccepting Yes\nShared No\nErrorPolicy "
            "retry-job\n</DefaultPrinter>\n";
 }
 

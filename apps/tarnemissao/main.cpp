@@ -1,0 +1,26 @@
+// The desk.
+#include <cstdio>
+
+#include "mesa.h"
+
+int main(int argc, char** argv) {
+    const auto lidas = tarn::leOpcoes(
+        argc, argv, qEnvironmentVariable("TARN_SERVIDOR").toStdString(), TARN_BASE_URL);
+    if (const auto* parada = std::get_if<tarn::SemPartida>(&lidas)) {
+        std::fputs(parada->texto.c_str(), parada->status == 0 ? stdout : stderr);
+        return parada->status;
+    }
+    const auto& opcoes = std::get<tarn::Opcoes>(lidas);
+    auto impressora = tarn::impressoraDe(opcoes);
+    if (!impressora) {
+        std::fputs(
+            "tarnemissao: este programa foi compilado sem impressora do sistema; use "
+            "--impressora-virtual PASTA.\n",
+            stderr);
+        return 1;
+    }
+    tarn::DeskApplication programa(argc, argv);
+    tarn::Mesa mesa(programa, opcoes, std::move(impressora));
+    mesa.abre();
+    return programa.exec();
+}

@@ -1,0 +1,44 @@
+// The commands of tarnimprime. Each declares itself on the command line and, when
+// it is the one given, leaves what to do in `Escolha`.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+#include "session/xml_document.h"
+
+namespace tarn::imprime {
+
+class Mesa;
+
+inline constexpr int statusFeito = 0;
+inline constexpr int statusUso = 1;  // wrong usage, unreadable input, nowhere to print
+
+// Ends the program with `statusUso`; the text (Portuguese) goes to stderr.
+class FalhaDeUso : public std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+// Options that stand before or after any command.
+struct Geral {
+    std::string destino;  // directory for the jobs; empty: the machine's printer
+    std::string paginaDeCodigo = "1252";
+};
+
+struct Escolha {
+    std::function<void(Mesa&)> faz;
+};
+
+void declaraNota(CLI::App& app, Escolha& escolha);
+void declaraEscada(CLI::App& app, Escolha& escolha);
+void declaraRegras(CLI::App& app, Escolha& escolha);
+
+// A saved answer; FalhaDeUso when the file can't be read or isn't an answer.
+XmlDocument leResposta(const std::string& arquivo);
+
+// One line on stdout.
+void mostra(std::string_view linha);
+
+}  // namespace tarn::imprime

@@ -1,0 +1,114 @@
+// Commands that show what one rule makes of a value.
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "comandos.h"
+#include "common/field_rules.h"
+#include "common/valor_extenso.h"
+#include "runtime/dates.h"
+#include "runtime/mask.h"
+#include "runtime/numbers.h"
+#include "session/aviso_impressora.h"
+
+namespace tarn::imprime {
+namespace {
+
+constexpr std::string_view mascaraDeData = "dd/mm/yyyy";
+
+void declaraExtenso(CLI::App& app, Escolha& escolha) {
+    CLI::App* comando = app.add_subcommand("extenso", "Escreve um valor por extenso");
+    const auto valor = std::make_shared<std::string>();
+    comando->add_option("valor", *valor, "Valor, com vírgula decimal")->required();
+    comando->callback([&escolha, valor] {
+        escolha.faz = [valor](Mesa&) { mostra(ValorExtenso(readComma(*valor))); };
+    });
+}
+
+void declaraData(CLI::App& app, Escolha& escolha) {
+    struct Pedido {
+        std::string texto;
+        std::string hoje;
+    };
+    CLI::App* comando = app.add_subcommand("data", "Mostra como fica um campo de data");
+    const auto pedido = std::make_shared<Pedido>();
+    comando->add_option("texto", pedido->texto, "O que foi digitado")->required();
+    comando->add_option("--hoje", pedido->hoje, "Data de hoje, dd/mm/yyyy")->required();
+    comando->callback([&escolha, pedido] {
+        escolha.faz = [pedido](Mesa&) {
+            const std::optional<Date> hoje = parseStrictDate(pedido->hoje);
+            if (!hoje) {
+                throw FalhaDeUso("--hoje pede uma data dd/mm/yyyy do calendário.");
+            }
+            mostra(dateOnLeave(pedido->texto, *hoje));
+        };
+    });
+}
+
+void declaraQuantidade(CLI::App& app, Escolha& escolha) {
+    CLI::App* comando =
+        app.add_subcommand("quantidade", "Mostra como fica um campo de quantidade, ou a mensagem");
+    const auto texto = std::make_shared<std::string>();
+    comando->add_option("texto", *texto, "O que foi digitado")->required();
+    comando->callback([&escolha, texto] {
+        escolha.faz = [texto](Mesa&) {
+            const FieldResult campo = quantityOnLeave(*texto, messagesQtde);
+            mostra(campo.box ? campo.box->text : campo.text);
+        };
+    });
+}
+
+void declaraAviso(CLI::App& app, Escolha& escolha) {
+    struct Pedido {
+        std::int32_t empresa = 0;
+        std::int32_t estabelecimento = 0;
+    };
+    CLI::App* comando =
+        app.add_subcommand("aviso-impressora", "Mostra o aviso de impressora da mesa");
+    const auto pedido = std::make_shared<Pedido>();
+    comando->add_option("empresa", pedido->empresa, "Código da empresa")->required();
+    comando->add_option("estabelecimento", pedido->estabelecimento, "Código do estabelecimento")
+        ->required();
+    comando->callback([&escolha, pedido] {
+        escolha.faz = [pedido](Mesa&) {
+            mostra(avisoImpressora(pedido->empresa, pedido->estabelecimento));
+        };
+    });
+}
+
+std::string pelaMascara(std::string_view valor, std::string_view mascara) {
+    if (mascara == mascaraDeData) {
+        return formatDateText(valor);
+    }
+    if (mascara.find('@') != std::string_view::npos) {
+        return fillMask(valor, mascara);
+    }
+    return formatText(valor, NumberMask(mascara));
+}
+
+void declaraMascara(CLI::App& app, Escolha& escolha) {
+    struct Pedido {
+        std::string mascara;
+        std::string valor;
+    };
+    CLI::App* comando = app.add_subcommand("mascara", "Mostra um valor sob uma máscara");
+    const auto pedido = std::make_shared<Pedido>();
+    comando->add_option("mascara", pedido->mascara, "Máscara de número, de \"@\" ou dd/mm/yyyy")
+        ->required();
+    comando->add_option("valor", pedido->valor, "Valor como texto")->required();
+    comando->callback([&escolha, pedido] {
+        escolha.faz = [pedido](Mesa&) { mostra(pelaMascara(pedido->valor, pedido->mascara)); };
+    });
+}
+
+}  // namespace
+
+void declaraRegras(CLI::App& app, Escolha& escolha) {
+    declaraExtenso(app, escolha);
+    declaraData(app, escolha);
+    declaraQuantidade(app, escolha);
+    declaraAviso(app, escolha);
+    declaraMascara(app, escolha);
+}
+
+}  // namespace tarn::imprime

@@ -1,0 +1,101 @@
+// Prints documents from saved answers, without server or window.
+#include <cstdio>
+#include <exception>
+
+#include "comandos.h"
+#include "mesa.h"
+#include "runtime/erro_execucao.h"
+#include "runtime/text.h"
+
+namespace tarn::imprime {
+
+void mostra(std::string_view linha) {
+    std::fwrite(linha.data(), 1, linha.size(), stdout);
+    std::fputc('\n', stdout);
+}
+
+namespace {
+
+// CLI11 speaks English; what it found wrong is said again by its kind.
+std::string usoErrado(const CLI::ParseError& erro) {
+    if (dynamic_cast<const CLI::RequiredError*>(&erro) != nullptr) {
+        return "falta um comando, uma opção ou um valor obrigatório.";
+    }
+    if (dynamic_cast<const CLI::ConversionError*>(&erro) != nullptr ||
+        dynamic_cast<const CLI::ValidationError*>(&erro) != nullptr) {
+        return "um código pede um número inteiro.";
+    }
+    if (dynamic_cast<const CLI::ExtrasError*>(&erro) != nullptr) {
+        return "há opções ou valores a mais na linha de comando. Um valor que começa com \"-\" "
+               "vem depois de \"--\".";
+    }
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&erro) != nullptr) {
+        return "uma opção foi dada sem o seu valor ou mais de uma vez.";
+    }
+    return "linha de comando inválida.";
+}
+
+int falha(const std::string& texto, int status) {
+    std::fprintf(stderr, "tarnimprime: %s\n", texto.c_str());
+    return status;
+}
+
+void declara(CLI::App& app, Geral& geral, Escolha& escolha) {
+    app.get_formatter()->label("Usage", "Uso");
+    app.get_formatter()->label("OPTIONS", "OPÇÕES");
+    app.get_formatter()->label("Options", "Opções");
+    app.get_formatter()->label("Positionals", "Valores");
+    app.get_formatter()->label("SUBCOMMAND", "COMANDO");
+    app.get_formatter()->label("Subcommands", "Comandos");
+    app.get_formatter()->label("TEXT", "TEXTO");
+    app.get_formatter()->label("INT", "NÚMERO");
+    app.get_formatter()->label("REQUIRED", "(obrigatório)");
+    app.set_help_flag("-h,--ajuda,--help", "Mostra esta ajuda");
+    app.add_option("--destino", geral.destino,
+                   "Pasta onde cada trabalho é gravado (job-001.prn, ...) em vez de impresso");
+    app.add_option("--pagina-de-codigo", geral.paginaDeCodigo,
+                   "Página de código da impressora: 1252 (usual), 850 ou 860");
+    declaraNota(app, escolha);
+    declaraEscada(app, escolha);
+    declaraRegras(app, escolha);
+    app.require_subcommand(1);
+    for (CLI::App* comando : app.get_subcommands({})) {
+        comando->fallthrough();
+    }
+}
+
+int executa(int argc, char** argv) {
+    Geral geral;
+    Escolha escolha;
+    CLI::App app("Imprime documentos a partir de respostas gravadas do servidor.", "tarnimprime");
+    declara(app, geral, escolha);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        std::fputs(app.help().c_str(), stdout);
+        return statusFeito;
+    } catch (const CLI::ParseError& erro) {
+        return falha(usoErrado(erro) + " Veja como se usa com --ajuda.", statusUso);
+    }
+    Mesa mesa(geral);
+    try {
+        escolha.faz(mesa);
+    } catch (const FalhaDeUso& erro) {
+        return falha(erro.what(), statusUso);
+    } catch (const ErroExecucao& erro) {
+        return falha(replaceAll(textoDoRelatorio(erro, false), "\r", "\n"), statusErroExecucao);
+    }
+    return statusFeito;
+}
+
+}  // namespace
+}  // namespace tarn::imprime
+
+int main(int argc, char** argv) {
+    try {
+        return tarn::imprime::executa(argc, argv);
+    } catch (const std::exception& erro) {
+        std::fprintf(stderr, "tarnimprime: erro inesperado: %s\n", erro.what());
+        return tarn::imprime::statusUso;
+    }
+}

@@ -1,0 +1,77 @@
+#include "mesa.h"
+
+#include <cstdio>
+#include <ctime>
+
+#include "platform/directory/directory_spooler.h"
+#include "platform/system_spooler.h"
+#include "runtime/text.h"
+
+namespace tarn::imprime {
+namespace {
+
+CodePage paginaDe(const std::string& numero) {
+    for (const int conhecida : {1252, 850, 860}) {
+        if (numero == std::to_string(conhecida)) {
+            return *codePageByNumber(conhecida);
+        }
+    }
+    throw FalhaDeUso("--pagina-de-codigo pede 1252, 850 ou 860.");
+}
+
+}  // namespace
+
+BoxAnswer CaixasNoTerminal::show(const Box& box) {
+    const std::string texto = replaceAll(replaceAll(box.text, "\r\n", "\n"), "\r", "\n");
+    std::fprintf(stderr, "%s: %s\n", box.title.c_str(), texto.c_str());
+    return box.buttons == BoxButtons::YesNo ? BoxAnswer::Yes : BoxAnswer::Ok;
+}
+
+Date Relogio::today() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+#ifdef _WIN32
+    localtime_s(&local, &now);
+#else
+    localtime_r(&now, &local);
+#endif
+    return {local.tm_mday, local.tm_mon + 1, local.tm_year + 1900};
+}
+
+Mesa::Mesa(const Geral& geral) : geral_(geral) {}
+
+std::unique_ptr<Spooler> Mesa::makeSpooler() const {
+    if (!geral_.destino.empty()) {
+        const auto files = std::make_shared<JobFiles>(std::filesystem::path(geral_.destino),
+                                                      JobNumbering::FromOne);
+        if (!files->makeDirectory()) {
+            throw FalhaDeUso("não foi possível criar a pasta \"" + geral_.destino +
+                             "\". Confira o nome e a permissão de gravação.");
+        }
+        return std::make_unique<DirectorySpooler>(files);
+    }
+    auto spooler = makeSystemSpooler();
+    if (!spooler || spooler->defaultPrinter().empty()) {
+        throw FalhaDeUso(
+            "esta máquina não tem impressora padrão. Defina uma, ou grave os trabalhos em uma "
+            "pasta com --destino PASTA.");
+    }
+    return spooler;
+}
+
+Environment& Mesa::ambiente() {
+    if (!ambiente_) {
+        const CodePage pagina = paginaDe(geral_.paginaDeCodigo);
+        spooler_ = makeSpooler();
+        ambiente_ = std::make_unique<Environment>(Environment{.http = servidor_,
+                                                              .spooler = *spooler_,
+                                                              .boxes = caixas_,
+                                                              .clock = relogio_,
+                                                              .machine = maquina_,
+                                                              .baseUrl = {},
+                                                              .codePage = pagina});
+    }
+    return *ambiente_;
+}
+
+}  // namespace tarn::imprime

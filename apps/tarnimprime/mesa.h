@@ -1,0 +1,58 @@
+// What the documents print on here: no server, no window.
+#pragma once
+
+#include <memory>
+
+#include "comandos.h"
+#include "platform/clock.h"
+#include "platform/environment.h"
+#include "platform/http_loader.h"
+#include "platform/machine.h"
+#include "platform/message_boxes.h"
+#include "platform/spooler.h"
+
+namespace tarn::imprime {
+
+class SemServidor : public HttpLoader {
+public:
+    HttpAnswer get(const std::string&) override { return {}; }
+};
+
+// A box's text on stderr; the default button is its answer.
+class CaixasNoTerminal : public MessageBoxes {
+public:
+    BoxAnswer show(const Box& box) override;
+};
+
+class Relogio : public Clock {
+public:
+    Date today() override;
+};
+
+class SemMaquina : public Machine {
+public:
+    bool setShortDateFormat(const std::string&) override { return true; }
+    std::string systemDirectory() override { return {}; }
+    void beep() override {}
+};
+
+class Mesa {
+public:
+    explicit Mesa(const Geral& geral);
+
+    // For printing; FalhaDeUso when there is nowhere to print.
+    Environment& ambiente();
+
+private:
+    std::unique_ptr<Spooler> makeSpooler() const;
+
+    const Geral& geral_;
+    SemServidor servidor_;
+    CaixasNoTerminal caixas_;
+    Relogio relogio_;
+    SemMaquina maquina_;
+    std::unique_ptr<Spooler> spooler_;
+    std::unique_ptr<Environment> ambiente_;
+};
+
+}  // namespace tarn::imprime

@@ -1,0 +1,178 @@
+// The drawn half: PDF, pictures and text on the disk, seen through other programs' eyes.
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <map>
+
+#include "dotmatrix/paper_export.h"
+#include "dotmatrix/printer_rig.h"
+
+namespace tarn::dotmatrix {
+namespace {
+
+QString output(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    EXPECT_TRUE(process.waitForFinished()) << program.toStdString();
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+struct Box {
+    double left = 0;
+    double right = 0;
+    double top = 0;
+};
+
+// Words of the first page by their text, in points.
+std::map<QString, Box> wordsOf(const QString& pdf) {
+    static const QRegularExpression word(
+        QStringLiteral("<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" "
+                       "yMax=\"[0-9.]+\">([^<]*)<"));
+    const QString text =
+        output(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-l"),
+                                             QStringLiteral("1"), pdf, QStringLiteral("-")});
+    std::map<QString, Box> found;
+    for (auto match = word.globalMatch(text); match.hasNext();) {
+        const auto one = match.next();
+        found[one.captured(4)] = {one.captured(1).toDouble(), one.captured(3).toDouble(),
+                                  one.captured(2).toDouble()};
+    }
+    return found;
+}
+
+int darkPixels(const QImage& image, const QRect& where) {
+    int dark = 0;
+    for (int y = where.top(); y <= where.bottom(); ++y) {
+        for (int x = where.left(); x <= where.right(); ++x) {
+            dark += 255 - qGray(image.pixel(x, y));
+        }
+    }
+    return dark / 255;
+}
+
+class PaperFiles : public testing::Test {
+protected:
+    QString file(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
+    QTemporaryDir folder_;
+};
+
+constexpr double kTolerance = 0.2 / 25.4 * kPointsPerInch;  // 0.2 mm
+constexpr double kStrip = 36;
+
+TEST_F(PaperFiles, PdfWordsStandOnTheGridAtEachPitch) {
+    PrinterRig rig;
+    // Each word begins in column 41 and is 20 characters long.
+    const std::string gap(40, ' ');
+    rig.job(gap + "PICA5678901234567890\r\n\x1BM" + gap + "ELITE678901234567890\r\n\x0F" + gap +
+            "TWENTY78901234567890\r\n\x1BP" + gap + "CONDENSED01234567890\r\n" + gap +
+            "abc def\r\n\r\n" + std::string(117, ' ') + "FARAWAY\r\n");
+    ASSERT_FALSE(writePdf(rig.paper, {}, file("grid.pdf")));
+    auto words = wordsOf(file("grid.pdf"));
+    const std::map<QString, double> pitches{{"PICA5678901234567890", 7.2},
+                                            {"ELITE678901234567890", 6.0},
+                                            {"TWENTY78901234567890", 3.6},
+                                            {"CONDENSED01234567890", 4.2}};
+    for (const auto& [text, pitch] : pitches) {
+        ASSERT_TRUE(words.count(text)) << text.toStdString();
+        EXPECT_NEAR(words[text].left, kStrip + 40 * pitch, kTolerance) << text.toStdString();
+        EXPECT_NEAR(words[text].right, kStrip + 60 * pitch, kTolerance) << text.toStdString();
+    }
+    // A word in the middle of a line drawn in one go.
+    EXPECT_NEAR(words["def"].left, kStrip + 44 * 4.2, kTolerance);
+    EXPECT_NEAR(words["FARAWAY"].left, kStrip + 117 * 4.2, kTolerance);
+    EXPECT_NEAR(words["FARAWAY"].top - words["PICA5678901234567890"].top, 6 * 12, 0.01);
+}
+
+TEST_F(PaperFiles, PdfKeepsAccentsOverprintsAndOnePageAForm) {
+    PrinterRig rig;
+    rig.job(
+        "A\xC7\xC3O \x1BGS\xC3O\x1BH\f\f\x1B"
+        "C\x18"
+        "terceira");
+    ASSERT_FALSE(writePdf(rig.paper, {}, file("forms.pdf")));
+    const QString info = output(QStringLiteral("pdfinfo"),
+                                {QStringLiteral("-l"), QStringLiteral("9"), file("forms.pdf")});
+    EXPECT_TRUE(info.contains(QRegularExpression("Pages: +3\\b"))) << info.toStdString();
+    EXPECT_TRUE(info.contains(QRegularExpression("Page +1 size: +684 x 792 pts")));
+    EXPECT_TRUE(info.contains(QRegularExpression("Page +3 size: +684 x 288 pts")));
+    const QString text =
+        output(QStringLiteral("pdftotext"), {file("forms.pdf"), QStringLiteral("-")});
+    EXPECT_TRUE(text.contains(QStringLiteral("AÇÃO SÃO"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("terceira")));
+    const QString fonts = output(QStringLiteral("pdffonts"), {file("forms.pdf")});
+    EXPECT_TRUE(fonts.contains(QRegularExpression("Mono.* yes (yes|no) +yes")))
+        << fonts.toStdString();
+}
+
+TEST_F(PaperFiles, SheetIsChosenByTheWidestContent) {
+    EXPECT_EQ(sheetFor(0).width, 9.5);
+    EXPECT_EQ(sheetFor(17 * kUnitsPerInch / 2).width, 9.5);
+    EXPECT_EQ(sheetFor(17 * kUnitsPerInch / 2 + 1).width, 14.875);
+    EXPECT_EQ(sheetFor(136 * kUnitsPerInch / 10).width, 14.875);
+    EXPECT_EQ(sheetFor(14 * kUnitsPerInch).width, 15.0);
+}
+
+TEST_F(PaperFiles, PicturesShowInkAndDoubleStrikeIsDarker) {
+    PrinterRig rig;
+    rig.job("HHHHHHHHHH\r\n\x1BGHHHHHHHHHH\x1BH\r\n\r\n\f\x0Fsegunda");
+    ASSERT_FALSE(writePng(rig.paper, {}, file("note.png")));
+    const QImage first(file("note.png"));
+    ASSERT_EQ(first.size(), QSize(9.5 * kPictureDotsPerInch, 11 * kPictureDotsPerInch));
+    const int left = kPictureDotsPerInch / 2 + 3;
+    const int row = kPictureDotsPerInch / 6;
+    const int plain = darkPixels(first, QRect(left, 2, 115, row - 3));
+    const int dark = darkPixels(first, QRect(left, row + 2, 115, row - 3));
+    const int blank = darkPixels(first, QRect(left, 2 * row + 3, 115, row - 4));
+    EXPECT_GT(plain, 200);
+    EXPECT_GT(dark, plain * 5 / 4);
+    EXPECT_EQ(blank, 0);
+    const QImage second(file("note-002.png"));
+    EXPECT_GT(darkPixels(second, QRect(left, 2, 60, row - 3)), 50);
+    EXPECT_FALSE(QFile::exists(file("note-003.png")));
+}
+
+TEST_F(PaperFiles, BandsOnlyWhenAskedFor) {
+    PrinterRig rig;
+    rig.job("x");
+    ASSERT_FALSE(writePng(rig.paper, {}, file("white.png")));
+    ASSERT_FALSE(writePng(rig.paper, PaintOptions{true}, file("bands.png")));
+    const QPoint inFirstBand(6 * kPictureDotsPerInch, 10);
+    EXPECT_EQ(QImage(file("white.png")).pixelColor(inFirstBand), QColor(Qt::white));
+    EXPECT_NE(QImage(file("bands.png")).pixelColor(inFirstBand), QColor(Qt::white));
+}
+
+TEST_F(PaperFiles, RandomJobsAreDrawn) {
+    PrinterRig rig;
+    std::string bytes;
+    for (unsigned i = 0; i < 4000; ++i) {
+        bytes += static_cast<char>((i * 2654435761U) >> 24U);
+    }
+    rig.job(bytes);
+    EXPECT_FALSE(writePdf(rig.paper, {}, file("random.pdf")));
+    EXPECT_FALSE(wordsOf(file("random.pdf")).empty());
+}
+
+TEST_F(PaperFiles, FailureToWriteIsTold) {
+    PrinterRig rig;
+    rig.job("x");
+    const QString nowhere = file("missing/folder/x");
+    for (const auto& failure : {writePdf(rig.paper, {}, nowhere), writePng(rig.paper, {}, nowhere),
+                                writeText(rig.paper, nowhere)}) {
+        ASSERT_TRUE(failure);
+        EXPECT_FALSE(failure->isEmpty());
+    }
+}
+
+}  // namespace
+}  // namespace tarn::dotmatrix
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    const QGuiApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

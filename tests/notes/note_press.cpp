@@ -1,0 +1,53 @@
+#include "notes/note_press.h"
+
+#include <stdexcept>
+
+#include "notes/imprime_nota.h"
+#include "platform/environment.h"
+#include "session/xml_document.h"
+#include "support/fixed_machine.h"
+#include "support/scripted_boxes.h"
+#include "support/scripted_loader.h"
+
+namespace tarn::test {
+
+int Printed::lineEnds() const {
+    const std::string bytes = jobs.back().bytes();
+    int count = 0;
+    for (std::size_t at = bytes.find("\r\n"); at != std::string::npos;
+         at = bytes.find("\r\n", at + 2))
+        ++count;
+    return count;
+}
+
+Printed printXml(Escada ladder, std::int32_t company, std::int32_t establishment,
+                 const std::string& xml) {
+    RecordingSpooler spooler;
+    ScriptedLoader http;
+    ScriptedBoxes boxes;
+    FixedClock clock;
+    FixedMachine machine;
+    Environment environment{http, spooler, boxes, clock, machine, "", CodePage::Page1252};
+    Sessao session;
+    session.NCOMPANYCODE = company;
+    session.ID_ETB_TARN = establishment;
+    XmlDocument document;
+    if (!document.loadXML(xml))
+        throw std::runtime_error("the test's note isn't well-formed");
+    Printed printed;
+    try {
+        imprimeNota(ladder, environment, session, document, plainNumber);
+    } catch (const ErroExecucao& error) {
+        printed.error = error;
+    }
+    printed.jobs = std::move(spooler.jobs);
+    printed.calls = std::move(spooler.calls);
+    printed.documentLetGo = document.empty();
+    return printed;
+}
+
+Printed print(const FormFacts& form, const NoteDraft& draft) {
+    return printXml(form.ladder, form.company, form.establishment, draft.xml());
+}
+
+}  // namespace tarn::test

@@ -1,0 +1,33 @@
+// Prints a note document on a recorded printer.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "notes/form_facts.h"
+#include "notes/plain_note.h"
+#include "runtime/erro_execucao.h"
+#include "support/recording_spooler.h"
+
+namespace tarn::test {
+
+struct Printed {
+    std::vector<RecordingSpooler::Job> jobs;
+    std::vector<RecordingSpooler::Call> calls;
+    std::optional<ErroExecucao> error;
+    bool documentLetGo = false;
+
+    // Whether the program has no layout for the form yet.
+    bool pending() const {
+        return error && error->numero() == ErroNumero::ObjetoObrigatorio && jobs.empty();
+    }
+    // Line ends of the note's own job.
+    int lineEnds() const;
+};
+
+Printed printXml(Escada ladder, std::int32_t company, std::int32_t establishment,
+                 const std::string& xml);
+Printed print(const FormFacts& form, const NoteDraft& draft);
+
+}  // namespace tarn::test

@@ -1,0 +1,26 @@
+// All recording seams and the struct that hands them down, ready to use.
+#pragma once
+
+#include "platform/environment.h"
+#include "support/fixed_machine.h"
+#include "support/recording_spooler.h"
+#include "support/scripted_boxes.h"
+#include "support/scripted_loader.h"
+
+namespace tarn {
+
+struct TestEnvironment {
+    ScriptedLoader loader;
+    RecordingSpooler spooler;
+    ScriptedBoxes boxes;
+    FixedClock clock;
+    FixedMachine machine;
+    Environment environment{.http = loader,
+                            .spooler = spooler,
+                            .boxes = boxes,
+                            .clock = clock,
+                            .machine = machine,
+                            .baseUrl = "http://servidor/p.asp?"};
+};
+
+}  // namespace tarn
