@@ -37,7 +37,7 @@ constexpr std::array kEstablishments = {
 
 constexpr std::array kCustomers = {
     CustomerRow{
-        "PANIFICADORA E CONFEITARIA PÃO DE AÇÚCAR LTDA",
+        "PANIFICADORA E CONFEITARIA PÃO DE ARAÇÁS LTDA",
         false,
         "221133440001",
         "114.556.778.119",
@@ -50,14 +50,14 @@ constexpr std::array kCustomers = {
                 "(19) 98111-2020",
                 {"TRAVESSA DO ROSÁRIO, 7", "FUNDOS", "VILA NOVA", "1310100", "JUNDIAÍ", "SP"}},
     CustomerRow{
-        "SUPERMERCADO BOM PREÇO S/A",
+        "SUPERMERCADO BOA PRAÇA S/A",
         false,
         "334455660001",
         "ISENTO",
         "(31) 3344-5566",
         {"AVENIDA AFONSO PENA, 3111", nullptr, "CENTRO", "30130009", "BELO HORIZONTE", "MG"}},
     CustomerRow{
-        "ASSOCIAÇÃO BENEFICENTE E CULTURAL DOS TRABALHADORES NAS INDÚSTRIAS METALÚRGICAS "
+        "ASSOCIAÇÃO BENEFICENTE E CULTURAL DOS TRABALHADORES NAS INDÚSTRIAS DE CERÂMICAS "
         "DE SÃO BERNARDO DO CAMPO E REGIÃO DO GRANDE ABC",
         false,
         "998877660001",
@@ -98,7 +98,7 @@ constexpr std::array kCustomers = {
         {"RUA DA CONTABILIDADE, 80", "SALA 12", "SAVASSI", "30140080", "BELO HORIZONTE", "MG"},
         {"ESTRADA DO PARQUE, KM 3", "PORTÃO DE SERVIÇO", "PARQUE DAS ÁGUAS", "37440000", "CAXAMBU",
          "MG"}},
-    CustomerRow{"COOPERATIVA AGRÍCOLA DO VALE DO ITAJAÍ",
+    CustomerRow{"COOPERATIVA AGRÍCOLA DO VALE DO TAPIRÍ",
                 false,
                 "443322110009",
                 "250.019.887",
@@ -126,7 +126,7 @@ constexpr std::array kCustomers = {
 };
 
 constexpr std::array kCarriers = {
-    CarrierRow{"TRANSPORTADORA RÁPIDO PAULISTA LTDA", "61223344000155", "RODOVIA ANHANGUERA, KM 15",
+    CarrierRow{"TRANSPORTADORA RÁPIDO IPÊ-ROXO LTDA", "61223344000155", "RODOVIA ANHANGUERA, KM 15",
                "SÃO PAULO", "SP", "108.900.123.110", "BXR-4521", "SP"},
     CarrierRow{"EXPRESSO CORAÇÃO DE MINAS TRANSPORTES RODOVIÁRIOS DE CARGAS LTDA", "01987654000132",
                "AVENIDA BRASIL, 900", "CONTAGEM", "MG", "186.445.001.0020", "GKQ-0097", "MG"},
