@@ -22,8 +22,7 @@ struct Pedido {
 
 void declaraSessao(CLI::App& comando, Pedido& pedido) {
     comando.add_option("--empresa", pedido.sessao.NCOMPANYCODE, "Código da empresa")->required();
-    comando
-        .add_option("--estabelecimento", pedido.sessao.ID_ETB_TARN, "Código do estabelecimento")
+    comando.add_option("--estabelecimento", pedido.sessao.ID_ETB_TARN, "Código do estabelecimento")
         ->required();
     comando.add_flag("--reimpressao", pedido.reimpressao, "Escada da tela de reimpressão");
 }
@@ -64,11 +63,9 @@ void declaraNota(CLI::App& app, Escolha& escolha) {
     const auto pedido = std::make_shared<Pedido>();
     declaraSessao(*comando, *pedido);
     comando->add_option("--numero", pedido->numero, "Número da nota")->required();
-    comando->add_option("documentos", pedido->arquivos, "Documentos de nota (DOC.xml)")
-        ->required();
-    comando->callback([&escolha, pedido] {
-        escolha.faz = [pedido](Mesa& mesa) { imprime(*pedido, mesa); };
-    });
+    comando->add_option("documentos", pedido->arquivos, "Documentos de nota (DOC.xml)")->required();
+    comando->callback(
+        [&escolha, pedido] { escolha.faz = [pedido](Mesa& mesa) { imprime(*pedido, mesa); }; });
 }
 
 void declaraEscada(CLI::App& app, Escolha& escolha) {

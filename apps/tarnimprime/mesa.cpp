@@ -42,8 +42,8 @@ Mesa::Mesa(const Geral& geral) : geral_(geral) {}
 
 std::unique_ptr<Spooler> Mesa::makeSpooler() const {
     if (!geral_.destino.empty()) {
-        const auto files =
-            std::make_shared<JobFiles>(std::filesystem::path(geral_.destino), JobNumbering::FromOne);
+        const auto files = std::make_shared<JobFiles>(std::filesystem::path(geral_.destino),
+                                                      JobNumbering::FromOne);
         if (!files->makeDirectory()) {
             throw FalhaDeUso("não foi possível criar a pasta \"" + geral_.destino +
                              "\". Confira o nome e a permissão de gravação.");

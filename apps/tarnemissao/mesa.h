@@ -1,0 +1,51 @@
+// The whole desk put together: the machine's seams, the session, the main window.
+#pragma once
+
+#include <memory>
+
+#include "opcoes.h"
+#include "platform/curl/curl_loader.h"
+#include "platform/qt/blocking_loader.h"
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_machine.h"
+#include "platform/qt/qt_message_boxes.h"
+#include "platform/spooler.h"
+#include "session/desk_application.h"
+#include "session/desk_context.h"
+#include "session/mdi_menu.h"
+
+namespace tarn {
+
+// The printer that the options name; null where the program was built without a
+// printer of the system and the options name none.
+std::unique_ptr<Spooler> impressoraDe(const Opcoes& opcoes);
+
+class Mesa {
+public:
+    // `impressora` must be there.
+    Mesa(DeskApplication& programa, const Opcoes& opcoes, std::unique_ptr<Spooler> impressora);
+    ~Mesa();
+
+    // Shows the main window, then runs the start of the program in its event loop.
+    void abre();
+
+    MDIMenu& menu() { return menu_; }
+    const FimDoPrograma& fim() const { return fim_; }
+
+private:
+    DeskApplication& programa_;
+    bool selecaoEtiquetas_;
+    CurlLoader rede_;
+    BlockingLoader http_{rede_};
+    std::unique_ptr<Spooler> impressora_;
+    QtMessageBoxes caixas_;
+    QtClock relogio_;
+    QtMachine maquina_;
+    Environment ambiente_;
+    Sessao sessao_;
+    FimDoPrograma fim_;
+    DeskContext desk_{ambiente_, sessao_, fim_};
+    MDIMenu menu_{desk_};
+};
+
+}  // namespace tarn

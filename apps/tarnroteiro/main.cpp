@@ -1,0 +1,161 @@
+// The main job of a clerk in the real screens, without anybody at the keys: logon,
+// list, an order that is refused, one without stock, and one that becomes a note.
+// Leaves a picture of every step and the printed jobs in a folder.
+#include <CLI/CLI.hpp>
+#include <QAction>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <cstdio>
+
+#include "mesa.h"
+#include "roteiro.h"
+
+namespace tarn {
+namespace {
+
+struct Entrada {
+    std::string servidor;
+    std::string pasta;
+    std::string empresa = "1361";
+    std::string usuario = "clara";
+    std::string senha = "pratica";
+};
+
+template <typename T>
+T& filho(QWidget& janela, const char* nome) {
+    T* achado = janela.findChild<T*>(QLatin1StringView(nome));
+    if (achado == nullptr) {
+        qFatal("%s não está na tela", nome);
+    }
+    return *achado;
+}
+
+void clica(QWidget& janela, const char* botao) {
+    QTest::mouseClick(&filho<QPushButton>(janela, botao), Qt::LeftButton);
+}
+
+void digita(QWidget& janela, const char* campo, const std::string& texto) {
+    auto& linha = filho<QLineEdit>(janela, campo);
+    linha.setFocus();
+    QTest::keyClicks(&linha, QString::fromStdString(texto));
+}
+
+void abreMenu(QWidget& janela, const char* menu) {
+    auto& barra = filho<QMenuBar>(janela, "menuBar");
+    const QRect lugar = barra.actionGeometry(filho<QMenu>(janela, menu).menuAction());
+    QTest::mouseClick(&barra, Qt::LeftButton, {}, lugar.center());
+}
+
+void escolhe(QWidget& janela, const char* menu, const char* entrada) {
+    auto& aberto = filho<QMenu>(janela, menu);
+    const QRect lugar = aberto.actionGeometry(&filho<QAction>(janela, entrada));
+    QTest::mouseClick(&aberto, Qt::LeftButton, {}, lugar.center());
+}
+
+// Clicks the row (counted from 0) as a clerk would, on the customer's name.
+void marca(QWidget& tela, int linha) {
+    auto& grade = filho<QTableView>(tela, "sprDados");
+    const QModelIndex celula = grade.model()->index(linha, 1);
+    grade.scrollTo(celula);
+    QTest::mouseClick(grade.viewport(), Qt::LeftButton, {}, grade.visualRect(celula).center());
+}
+
+void aceita(QWidget& caixa) {
+    QTest::keyClick(&caixa, Qt::Key_Return);
+}
+
+// Rows of the practice data, counted from 0.
+constexpr int comObservacao = 5;
+constexpr int semEstoque = 6;
+constexpr int recusada = 7;
+
+void escreve(Roteiro& roteiro, const Entrada& entrada) {
+    roteiro
+        .quando("FrmLogon", "logon",
+                [&](QWidget& janela) {
+                    digita(janela, "txtEmpresa", entrada.empresa);
+                    digita(janela, "txtUsuario", entrada.usuario);
+                    digita(janela, "txtSenha", entrada.senha);
+                    roteiro.fotografa(janela, "logon-preenchido");
+                    clica(janela, "btnLogin");
+                })
+        .quando("MDIMenu", "mesa",
+                [&](QWidget& janela) {
+                    abreMenu(janela, "mnuNF");
+                    roteiro.fotografa(filho<QMenu>(janela, "mnuNF"), "menu-nota-fiscal");
+                    escolhe(janela, "mnuNF", "mOFT");
+                })
+        .quando("FrmOFT", "ordens",
+                [](QWidget& tela) {
+                    marca(tela, recusada);
+                    clica(tela, "cmdSelecionar");
+                })
+        .quando("MessageBox", "recusa-do-servidor", aceita)
+        .quando("FrmOFT", "",
+                [](QWidget& tela) {
+                    marca(tela, semEstoque);
+                    clica(tela, "cmdSelecionar");
+                })
+        .quando("frmMensagemAlerta", "sem-estoque",
+                [](QWidget& dialogo) { clica(dialogo, "cmdVoltar"); })
+        .quando("FrmOFT", "",
+                [](QWidget& tela) {
+                    marca(tela, comObservacao);
+                    clica(tela, "cmdSelecionar");
+                })
+        .quando("frmMensagemAlerta", "observacao",
+                [](QWidget& dialogo) { clica(dialogo, "cmdOk"); })
+        .quando("FrmOFT", "nota-emitida", [](QWidget& tela) { clica(tela, "CmdFechar"); })
+        .quando("MDIMenu", "",
+                [](QWidget& janela) {
+                    auto& barra = filho<QMenuBar>(janela, "menuBar");
+                    const QRect lugar = barra.actionGeometry(&filho<QAction>(janela, "mnuAjuda"));
+                    QTest::mouseClick(&barra, Qt::LeftButton, {}, lugar.center());
+                })
+        .quando("frmAjuda", "ajuda", [](QWidget& dialogo) { clica(dialogo, "cmdVoltar"); })
+        .quando("MDIMenu", "fim", [](QWidget& janela) { janela.close(); });
+}
+
+int anda(DeskApplication& programa, const Entrada& entrada) {
+    Opcoes opcoes;
+    opcoes.baseUrl = enderecoDoServidor(entrada.servidor);
+    opcoes.impressoraVirtual = entrada.pasta;
+    Mesa mesa(programa, opcoes, impressoraDe(opcoes));
+    Roteiro roteiro(QString::fromStdString(entrada.pasta));
+    escreve(roteiro, entrada);
+    QObject::connect(&roteiro, &Roteiro::acabou, [](const QString& motivo) {
+        if (!motivo.isEmpty()) {
+            std::fprintf(stderr, "tarnroteiro: %s.\n", qPrintable(motivo));
+            QCoreApplication::exit(1);
+        }
+    });
+    mesa.abre();
+    roteiro.comeca();
+    const int status = programa.exec();
+    if (status == 0 && !roteiro.completo()) {
+        std::fputs("tarnroteiro: a mesa fechou antes do fim do roteiro.\n", stderr);
+        return 1;
+    }
+    return status;
+}
+
+}  // namespace
+}  // namespace tarn
+
+int main(int argc, char** argv) {
+    tarn::Entrada entrada;
+    CLI::App app("Percorre o trabalho principal nas telas reais e guarda as imagens e o papel.",
+                 "tarnroteiro");
+    app.add_option("--servidor", entrada.servidor, "endereço do servidor de treino")->required();
+    app.add_option("--saida", entrada.pasta, "pasta das imagens e do papel")->required();
+    app.add_option("--empresa", entrada.empresa, "empresa do logon de treino");
+    app.add_option("--usuario", entrada.usuario, "usuário do logon de treino");
+    app.add_option("--senha", entrada.senha, "senha do logon de treino");
+    CLI11_PARSE(app, argc, argv);
+    tarn::DeskApplication programa(argc, argv);
+    return tarn::anda(programa, entrada);
+}

@@ -1,0 +1,231 @@
+// tarnimprime as its users run it: the program itself, its exit status, what it
+// says and the job files it leaves.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string contentOf(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+std::string quoted(const std::string& word) {
+    std::string out = "'";
+    for (const char c : word) {
+        out += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    }
+    return out + "'";
+}
+
+std::string data(const std::string& name) {
+    return std::string(TARN_NOTE_DATA) + "/" + name;
+}
+
+struct Result {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+
+class Tarnimprime : public testing::Test {
+protected:
+    void SetUp() override {
+        std::string pattern = (fs::temp_directory_path() / "tarnimprime-XXXXXX").string();
+        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
+        room_ = pattern;
+    }
+    void TearDown() override { fs::remove_all(room_); }
+
+    Result run(const std::vector<std::string>& words) const {
+        std::string command = quoted(TARNIMPRIME);
+        for (const std::string& word : words) {
+            command += " " + quoted(word);
+        }
+        command += " >" + quoted(file("out")) + " 2>" + quoted(file("err"));
+        const int ended = std::system(command.c_str());
+        return {WIFEXITED(ended) ? WEXITSTATUS(ended) : -1, contentOf(file("out")),
+                contentOf(file("err"))};
+    }
+    // A command whose one result is a line on stdout.
+    std::string shown(const std::vector<std::string>& words) const {
+        const Result result = run(words);
+        EXPECT_EQ(result.status, 0) << result.err;
+        EXPECT_EQ(result.err, "");
+        return result.out;
+    }
+    std::string file(const std::string& name) const { return (room_ / name).string(); }
+    std::string job(const std::string& name) const { return contentOf(room_ / "papel" / name); }
+    bool hasJob(const std::string& name) const { return fs::exists(room_ / "papel" / name); }
+
+    fs::path room_;
+};
+
+TEST_F(Tarnimprime, PrintsANoteIntoTheDirectoryItMakes) {
+    const Result result =
+        run({"--destino", file("papel"), "nota", "--empresa", "1361", "--estabelecimento", "1",
+             "--numero", "4567", data("nota_1361.xml")});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(job("job-001.prn"), " \x0F");
+    EXPECT_EQ(job("job-002.prn"), contentOf(data("nota_1361.prn")));
+    EXPECT_FALSE(hasJob("job-003.prn"));
+}
+
+TEST_F(Tarnimprime, SeveralNotesPrintOneAfterTheOther) {
+    const Result result =
+        run({"nota", "--empresa", "141", "--estabelecimento", "1", "--numero", "4567",
+             data("nota_1361.xml"), data("nota_entrada.xml"), "--destino", file("papel")});
+    EXPECT_EQ(result.status, 0) << result.err;
+    std::string entry = contentOf(data("nota_1361.prn"));
+    entry.replace(89, 15, "              X");
+    EXPECT_EQ(job("job-002.prn"), contentOf(data("nota_1361.prn")));
+    EXPECT_EQ(job("job-003.prn"), " \x0F");
+    EXPECT_EQ(job("job-004.prn"), entry) << "latin-1 document, mark in column 104";
+    EXPECT_FALSE(hasJob("job-005.prn"));
+}
+
+TEST_F(Tarnimprime, ARunTimeErrorKeepsWhatWasPrinted) {
+    const Result result =
+        run({"nota", "--destino", file("papel"), "--empresa", "1361", "--estabelecimento", "1",
+             "--numero", "4567", "--reimpressao", data("nota_quantidade_errada.xml")});
+    EXPECT_EQ(result.status, 3);
+    EXPECT_NE(result.err.find("Erro em tempo de execução '13'"), std::string::npos) << result.err;
+    EXPECT_NE(result.err.find("QTDE"), std::string::npos) << result.err;
+    const std::string golden = contentOf(data("nota_1361.prn"));
+    EXPECT_EQ(job("job-002.prn"), golden.substr(0, golden.find(" P-002")));
+}
+
+TEST_F(Tarnimprime, AnUnreadableInputSpendsNoForm) {
+    std::ofstream(file("quebrado.xml")) << "<?xml version=\"1.0\"?><PRINCIPAL";
+    for (const std::string& wrong : {file("falta.xml"), file("quebrado.xml")}) {
+        const Result result =
+            run({"nota", "--destino", file("papel"), "--empresa", "1361", "--estabelecimento", "1",
+                 "--numero", "1", data("nota_1361.xml"), wrong});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_NE(result.err.find(wrong), std::string::npos) << result.err;
+        EXPECT_FALSE(hasJob("job-001.prn"));
+    }
+}
+
+TEST_F(Tarnimprime, ADirectoryThatCantBeMadeIsAUsageError) {
+    std::ofstream(file("arquivo")) << "x";
+    const Result result = run({"nota", "--destino", file("arquivo"), "--empresa", "1361",
+                               "--estabelecimento", "1", "--numero", "1", data("nota_1361.xml")});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.err.find("não foi possível criar a pasta"), std::string::npos) << result.err;
+}
+
+TEST_F(Tarnimprime, NoLayoutPrintsNothingAndSaysNothing) {
+    const Result result = run({"nota", "--destino", file("papel"), "--empresa", "2161",
+                               "--estabelecimento", "1", "--numero", "1", data("nota_1361.xml")});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out + result.err, "");
+    EXPECT_FALSE(hasJob("job-001.prn"));
+}
+
+TEST_F(Tarnimprime, AnEstablishmentPrintsOnlyFromTheReprintScreen) {
+    const Result result =
+        run({"nota", "--destino", file("papel"), "--empresa", "2161", "--estabelecimento", "3383",
+             "--numero", "1", data("nota_1361.xml")});
+    EXPECT_EQ(result.status, 3);
+    EXPECT_NE(result.err.find("ImprimeNF_2161_3383"), std::string::npos) << result.err;
+    EXPECT_FALSE(hasJob("job-001.prn"));
+}
+
+TEST_F(Tarnimprime, OtherCodePages) {
+    const Result result =
+        run({"nota", "--pagina-de-codigo", "850", "--destino", file("papel"), "--empresa", "1361",
+             "--estabelecimento", "1", "--numero", "4567", data("nota_1361.xml")});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_NE(job("job-002.prn")
+                  .find("COM\x90RCIO DE PE\x80"
+                        "AS S\xC7O JO\xC7O LTDA"),
+              std::string::npos);
+    EXPECT_EQ(run({"nota", "--pagina-de-codigo", "437", "--destino", file("papel"), "--empresa",
+                   "1361", "--estabelecimento", "1", "--numero", "1", data("nota_1361.xml")})
+                  .status,
+              1);
+}
+
+TEST_F(Tarnimprime, TheLadder) {
+    EXPECT_EQ(shown({"escada", "--empresa", "761", "--estabelecimento", "1"}), "ImprimeNF_1361\n");
+    EXPECT_EQ(shown({"escada", "--empresa", "761", "--estabelecimento", "1", "--reimpressao"}),
+              "ImprimeNF_Padrao\n");
+    EXPECT_EQ(shown({"escada", "--empresa", "2161", "--estabelecimento", "6001"}), "-\n");
+    EXPECT_EQ(run({"escada", "--empresa", "x", "--estabelecimento", "1"}).status, 1);
+    EXPECT_EQ(run({"escada", "--empresa", "7"}).status, 1);
+}
+
+TEST_F(Tarnimprime, AmountsInWords) {
+    EXPECT_EQ(shown({"extenso", "1234,50"}),
+              "UM MIL, DUZENTOS E TRINTA E QUATRO REAIS E CINQUENTA CENTAVOS\n");
+    EXPECT_EQ(shown({"extenso", "--", "-5"}), "MENOS CINCO REAIS\n");
+    EXPECT_EQ(shown({"extenso", "0"}), "\n");
+    for (const std::string word : {"abc", "", "1e3"}) {
+        const Result result = run({"extenso", "--", word});
+        EXPECT_EQ(result.status, 3) << word;
+        EXPECT_EQ(result.out, "");
+        EXPECT_NE(result.err.find("Erro em tempo de execução '13'"), std::string::npos);
+    }
+}
+
+TEST_F(Tarnimprime, DateFields) {
+    EXPECT_EQ(shown({"data", "1503", "--hoje", "07/01/2009"}), "15/03/2009\n");
+    EXPECT_EQ(shown({"data", "--hoje", "07/01/2009", "15"}), "15/01/2009\n");
+    EXPECT_EQ(shown({"data", "--hoje", "07/01/2009", "--", ""}), "\n");
+    EXPECT_EQ(run({"data", "15", "--hoje", "31/02/2009"}).status, 1);
+    EXPECT_EQ(run({"data", "15"}).status, 1);
+}
+
+TEST_F(Tarnimprime, QuantityFields) {
+    EXPECT_EQ(shown({"quantidade", "1234,5"}), "1.234,500\n");
+    EXPECT_EQ(shown({"quantidade", "--", "-1,5"}), "-1,500\n");
+    EXPECT_EQ(shown({"quantidade", "abc"}), "Quantidade inválido.     \n");
+    EXPECT_EQ(shown({"quantidade", "10000000"}), "Quantidade máxima permitida é 9.999.999,999 \n");
+}
+
+TEST_F(Tarnimprime, Masks) {
+    EXPECT_EQ(shown({"mascara", "##,###0.00", "1234,5"}), "1.234,50\n");
+    EXPECT_EQ(shown({"mascara", "#,#00", "5102"}), "5.102\n");
+    EXPECT_EQ(shown({"mascara", "0.00", "--", "-1,005"}), "-1,01\n");
+    EXPECT_EQ(shown({"mascara", "0.00", "A VISTA"}), "A VISTA\n");
+    EXPECT_EQ(shown({"mascara", "0.00", "--", ""}), "\n");
+    EXPECT_EQ(shown({"mascara", "@@@.@@@.@@@-@@", "12345678901"}), "123.456.789-01\n");
+    EXPECT_EQ(shown({"mascara", "@@@-@@", "1é2"}), "  1-é2\n");
+    EXPECT_EQ(shown({"mascara", "dd/mm/yyyy", "2009-1-7"}), "07/01/2009\n");
+    EXPECT_EQ(shown({"mascara", "dd/mm/yyyy", "31/02/2009"}), "31/02/2009\n");
+}
+
+TEST_F(Tarnimprime, PrinterNotice) {
+    EXPECT_EQ(shown({"aviso-impressora", "2161", "6001"}), "\n");
+    EXPECT_EQ(run({"aviso-impressora", "2161"}).status, 1);
+}
+
+TEST_F(Tarnimprime, WrongUsageIsToldInPortuguese) {
+    for (const std::vector<std::string>& words : {std::vector<std::string>{},
+                                                  {"imprime"},
+                                                  {"nota"},
+                                                  {"extenso", "1", "2"},
+                                                  {"extenso", "1", "--cor", "x"}}) {
+        const Result result = run(words);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(result.err.rfind("tarnimprime: ", 0), 0U) << result.err;
+        EXPECT_NE(result.err.find("--ajuda"), std::string::npos) << result.err;
+    }
+    const Result help = run({"--ajuda"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_NE(help.out.find("Uso: tarnimprime"), std::string::npos);
+}
+
+}  // namespace

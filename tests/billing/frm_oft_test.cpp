@@ -1,0 +1,449 @@
+#include "billing/frm_oft.h"
+
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTimer>
+
+#include "session/mdi_menu.h"
+#include "support/answers.h"
+#include "support/screen_test.h"
+
+namespace tarn {
+namespace {
+
+constexpr char listQuery[] = "comando=sel_ordem_fatu&ID_ETB_TARN=6001&ServerName=SRV1";
+constexpr char obsQuery[] =
+    "comando=Seleciona_Obs_Vnd_X_Ord&Id_Etb_Tarn=6001&Id_Ord_Fat=1001&ServerName=SRV1";
+constexpr char stockQuery[] =
+    "comando=Seleciona_Obs_Ord_X_Est&Id_Etb_Tarn=6001&Id_Ord_Fat=1001&ServerName=SRV1";
+constexpr char noteQuery[] =
+    "COMANDO=SP_GERA_NF&ID_ETB_TARN=6001&ID_ORD_FAT=1001&ID_PES=77&ServerName=SRV1";
+constexpr char documentQuery[] =
+    "comando=sel_gera_nf&ID_ETB_TARN=6001&ID_NF_KESTO=555&CD_SER_NF=U&ServerName=SRV1";
+constexpr char internet[] =
+    " - Não foi possível obter os dados da Internet. Verifique a conexão com a Internet.";
+
+const std::string twoOrders = answers::rowset(
+    "<z:row ID_ORD_FAT='1001' NM_PES_CPL='JOSÉ &lt;b&gt;' NM_RDU='MATRIZ' DC_TIP_NF='VENDA' "
+    "DT_GER_OFT='12/03/2012' ID_ORD_CRG='77' TRANSPORTADORA='TT' NM_PES_MOT='MM' DC_OBS='obs' "
+    "QT_ESP='12.5' PESO_BRU='1234567.8916' PESO_LIQ=''/>"
+    "<z:row ID_ORD_FAT='1002' NM_PES_CPL='B' ID_ORD_CRG='78' QT_ESP='1'/>");
+
+Box critical(const std::string& number) {
+    return {"ERRO Tarn" + number + internet, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
+}
+Box aviso(const std::string& text) {
+    return {text, BoxIcon::Exclamation, "Aviso"};
+}
+Box exclama(const std::string& text) {
+    return {text, BoxIcon::Exclamation};
+}
+const Box selecione = aviso("Selecione a ordem de faturamento.     ");
+
+class FrmOFTTest : public ScreenTest {
+protected:
+    void SetUp() override {
+        ScreenTest::SetUp();
+        entered(2161, 6001);  // no form there: nothing is printed
+        server.on("sTransacao=EMI001", answers::status("OK"));
+        server.on("sel_dados_empresa", answers::branch("F"));
+        server.on("Seleciona_Obs_", answers::observation(""));
+        menu.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&menu));
+    }
+    FrmOFT& open(const std::string& orders = twoOrders) {
+        server.on("sel_ordem_fatu", orders);
+        choose(menu, "mnuNF", "mOFT");
+        menu.activateWindow();  // off-screen an open menu takes the activation along
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&menu));
+        server.addresses.clear();
+        return screen();
+    }
+    FrmOFT& screen() { return named<FrmOFT>(menu, "FrmOFT"); }
+    QTableView& grid() { return named<QTableView>(menu, "sprDados"); }
+    QTimer& timer() { return *screen().findChild<QTimer*>(QStringLiteral("Timer")); }
+    void tick() { QMetaObject::invokeMethod(&timer(), "timeout"); }
+    std::string cell(int row, int column) {
+        return grid().model()->index(row, column - 1).data().toString().toStdString();
+    }
+    int rows() { return grid().model()->rowCount(); }
+    bool menusEnabled() {
+        return named<QMenu>(menu, "mnuEtiquetas").isEnabled() &&
+               named<QMenu>(menu, "mnuNF").isEnabled();
+    }
+    bool closed() {
+        return QTest::qWaitFor([this] { return menu.findChild<FrmOFT*>() == nullptr; });
+    }
+    // The screen can be closed this way and opened again.
+    void closesBy(const std::function<void()>& close) {
+        for (int time = 0; time < 2; ++time) {
+            open();
+            ASSERT_FALSE(menusEnabled());
+            close();
+            EXPECT_TRUE(menusEnabled());
+            EXPECT_TRUE(closed());
+            EXPECT_TRUE(server.addresses.empty());
+        }
+        EXPECT_FALSE(fim.encerrado());
+    }
+    void observation(const std::string& text) {
+        server.on("Seleciona_Obs_Vnd_X_Ord", answers::observation(text));
+    }
+    void stock(const std::string& text) {
+        server.on("Seleciona_Obs_Ord_X_Est", answers::observation(text));
+    }
+    void noteComesOut() {
+        server.on("SP_GERA_NF", answers::generatedNote("555", "U"));
+        server.on("sel_gera_nf", answers::status("OK"));
+    }
+    void answerAlert(const char* button, const std::string& text) {
+        modals.then("frmMensagemAlerta", [button, text](QWidget& alert) {
+            EXPECT_EQ(named<QPlainTextEdit>(alert, "txtMensagem").toPlainText().toStdString(),
+                      text);
+            click(alert, button);
+        });
+    }
+
+    MDIMenu menu{desk};
+};
+
+TEST_F(FrmOFTTest, OpensWithTheRightAndTheList) {
+    server.on("sel_ordem_fatu", twoOrders);
+    choose(menu, "mnuNF", "mOFT");
+    EXPECT_THAT(server.queries(),
+                testing::ElementsAre("Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName="
+                                     "SRV1&sTransacao=EMI001",
+                                     listQuery));
+    EXPECT_EQ(screen().windowTitle(), QStringLiteral("Faturamento"));
+    EXPECT_FALSE(named<QMenu>(menu, "mnuEtiquetas").isEnabled());
+    EXPECT_FALSE(named<QMenu>(menu, "mnuNF").isEnabled());
+    EXPECT_TRUE(named<QAction>(menu, "mnuDuplicata").isEnabled());
+    EXPECT_EQ(timer().interval(), 60000);
+    EXPECT_TRUE(timer().isActive());
+    EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST_F(FrmOFTTest, ShowsTwelveColumnsAsRead) {
+    open();
+    ASSERT_EQ(rows(), 2);
+    std::vector<std::string> first;
+    std::vector<std::string> headings;
+    for (int column = 1; column <= grid().model()->columnCount(); ++column) {
+        first.push_back(cell(0, column));
+        headings.push_back(grid()
+                               .model()
+                               ->headerData(column - 1, Qt::Horizontal, Qt::DisplayRole)
+                               .toString()
+                               .toStdString());
+    }
+    EXPECT_THAT(
+        first, testing::ElementsAre("1001", "JOSÉ <b>", "MATRIZ", "VENDA", "12/03/2012", "77", "TT",
+                                    "MM", "obs", "12,500", "1.234.567,892", "0,000"));
+    EXPECT_THAT(headings, testing::ElementsAre("Ord. Fat.", "Cliente", "Estabelecimento",
+                                               "Tipo de NF", "Dt. Emissão", "Ord. Carga",
+                                               "Transportadora", "Motorista", "", "", "", ""));
+    EXPECT_EQ(cell(1, 9), "");
+    EXPECT_EQ(cell(1, 10), "1,000");
+    EXPECT_EQ(cell(1, 11), "");
+    EXPECT_EQ(grid().currentIndex().row(), 0);
+}
+
+TEST_F(FrmOFTTest, StandsInTheMiddleAtTheTop) {
+    open();
+    auto& area = named<QMdiArea>(menu, "mdiArea");
+    QMdiSubWindow& window = *area.subWindowList().at(0);
+    EXPECT_EQ(window.y(), 0);
+    EXPECT_EQ(window.x(), (area.viewport()->width() - window.width()) / 2);
+}
+
+TEST_F(FrmOFTTest, ButtonsSpeakByToolTipAndName) {
+    open();
+    for (const char* name : {"cmdSelecionar", "CmdFechar", "CmdAtualizar", "CmdCanOft",
+                             "cmdImprimirOF", "cmdDetOFT"}) {
+        auto& button = named<QPushButton>(screen(), name);
+        EXPECT_FALSE(button.icon().pixmap(24).isNull()) << name;
+        EXPECT_FALSE(button.toolTip().isEmpty()) << name;
+        EXPECT_FALSE(button.accessibleName().isEmpty()) << name;
+        EXPECT_TRUE(button.text().isEmpty()) << name;
+    }
+    EXPECT_THAT(tabOrder(screen(), "sprDados", 7),
+                testing::ElementsAre("sprDados", "cmdSelecionar", "CmdFechar", "CmdAtualizar",
+                                     "CmdCanOft", "cmdImprimirOF", "cmdDetOFT"));
+}
+
+TEST_F(FrmOFTTest, AnEmptyListSaysNothingAndEachButtonAsksForAnOrder) {
+    open(answers::rowset(""));
+    EXPECT_TRUE(boxes.shown.empty());
+    for (const char* button : {"cmdDetOFT", "CmdCanOft", "cmdImprimirOF", "cmdSelecionar"}) {
+        click(screen(), button);
+    }
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(selecione, selecione, selecione, selecione));
+    EXPECT_TRUE(server.addresses.empty());
+    EXPECT_FALSE(timer().isActive()) << "the generation's first step switches it off";
+}
+
+TEST_F(FrmOFTTest, TheTimerAndTheButtonReadTheListAnew) {
+    open();
+    grid().setCurrentIndex(grid().model()->index(1, 0));
+    tick();
+    EXPECT_EQ(grid().currentIndex().row(), 0) << "the selection is lost";
+    click(screen(), "CmdAtualizar");
+    EXPECT_THAT(server.queries(), testing::ElementsAre(listQuery, listQuery));
+}
+
+TEST_F(FrmOFTTest, AFailedRefreshLeavesAnEmptyGridAndTheNextTickTriesAgain) {
+    open();
+    server.failOn("sel_ordem_fatu");
+    tick();  // the answer of before is used up by this one
+    tick();
+    EXPECT_EQ(rows(), 0);
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(critical("0006")));
+    tick();
+    EXPECT_EQ(boxes.shown.size(), 2U);
+    EXPECT_TRUE(timer().isActive());
+}
+
+TEST_F(FrmOFTTest, ATickUnderTheBoxOfTheTickBeforeIsDropped) {
+    open(answers::rowset(""));
+    server.failOn("sel_ordem_fatu");
+    tick();
+    boxes.onShow = [&](const Box& /*box*/) { tick(); };
+    server.addresses.clear();
+    tick();
+    EXPECT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(server.addresses.size(), 1U);
+}
+
+TEST_F(FrmOFTTest, CancelAsksSendsTellsAndRefreshes) {
+    open();
+    server.on("sp_can_oft", answers::status("OK"));
+    click(screen(), "CmdCanOft");
+    EXPECT_THAT(boxes.shown,
+                testing::ElementsAre(
+                    Box{"Confirma o cancelamento da Ordem de Faturamento nº 1001 ?     ",
+                        BoxIcon::Question, "Aviso", BoxButtons::YesNo},
+                    Box{"Ordem de Faturamento cancelada.      ", BoxIcon::Information, "Aviso "}));
+    EXPECT_THAT(server.queries(),
+                testing::ElementsAre("comando=sp_can_oft&id_etb_tarn=6001&id_ord_fat=1001&"
+                                     "id_ord_crg=77&ServerName=SRV1",
+                                     listQuery));
+}
+
+TEST_F(FrmOFTTest, ACancelAnsweredWithNoSendsNothing) {
+    open();
+    boxes.answers = {BoxAnswer::No};
+    click(screen(), "CmdCanOft");
+    EXPECT_EQ(boxes.shown.size(), 1U);
+    EXPECT_TRUE(server.addresses.empty());
+}
+
+TEST_F(FrmOFTTest, ACancelThatFailsOrIsRefusedLeavesTheList) {
+    open();
+    server.failOn("sp_can_oft").on("sp_can_oft", answers::status("Ordem em uso"));
+    click(screen(), "CmdCanOft");
+    click(screen(), "CmdCanOft");
+    ASSERT_EQ(boxes.shown.size(), 5U);
+    EXPECT_EQ(boxes.shown[1], critical("0003"));
+    EXPECT_EQ(boxes.shown[2],
+              aviso("Favor verificar se a Ordem de Faturamento nº 1001 foi cancelada. "));
+    EXPECT_EQ(boxes.shown[4], exclama("Ordem em uso"));
+    EXPECT_EQ(server.addresses.size(), 2U) << "no refresh";
+}
+
+TEST_F(FrmOFTTest, TheSelectedRowCounts) {
+    open();
+    boxes.answers = {BoxAnswer::No};
+    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {},
+                      grid().visualRect(grid().model()->index(1, 1)).center());
+    click(screen(), "CmdCanOft");
+    EXPECT_EQ(boxes.shown.at(0).text,
+              "Confirma o cancelamento da Ordem de Faturamento nº 1002 ?     ");
+}
+
+TEST_F(FrmOFTTest, AnAcceptedObservationLetsTheMaintenanceGoOn) {
+    open();
+    observation("Linha 1&#10;Linha &lt;2&gt;");
+    answerAlert("cmdOk", "Linha 1\nLinha <2>");
+    click(screen(), "cmdDetOFT");
+    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery));
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Information);
+    EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
+}
+
+TEST_F(FrmOFTTest, ACancelledObservationStopsMaintenanceAndSheet) {
+    open();
+    observation("x");
+    for (const char* button : {"cmdDetOFT", "cmdImprimirOF"}) {
+        answerAlert("cmdCancelar", "x");
+        click(screen(), button);
+    }
+    EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_EQ(sessao.ConfirmaMensagem, "N");
+}
+
+TEST_F(FrmOFTTest, TheAlertHasAPairOfButtonsOrOne) {
+    open();
+    observation("x");
+    modals.then("frmMensagemAlerta", [](QWidget& alert) {
+        EXPECT_EQ(alert.windowTitle(), QStringLiteral("Mensagem de Alerta"));
+        EXPECT_EQ(named<QLabel>(alert, "Label1").text(),
+                  QStringLiteral("Observação do(s) Pedido(s)"));
+        EXPECT_TRUE(named<QWidget>(alert, "cmdCancelar").isVisible());
+        EXPECT_FALSE(named<QWidget>(alert, "cmdVoltar").isVisible());
+        click(alert, "cmdOk");
+    });
+    stock("ARROZ 5 KG");
+    modals.then("frmMensagemAlerta", [](QWidget& alert) {
+        EXPECT_EQ(named<QLabel>(alert, "Label1").text(),
+                  QStringLiteral("Produto(s) sem saldo no estoque. Favor alimentar o estoque."));
+        EXPECT_EQ(named<QPlainTextEdit>(alert, "txtMensagem").toPlainText(),
+                  QStringLiteral("ARROZ 5 KG"));
+        EXPECT_FALSE(named<QWidget>(alert, "cmdOk").isVisible());
+        EXPECT_FALSE(named<QWidget>(alert, "cmdCancelar").isVisible());
+        click(alert, "cmdVoltar");
+    });
+    click(screen(), "cmdSelecionar");
+    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, stockQuery));
+    EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_FALSE(timer().isActive());
+}
+
+TEST_F(FrmOFTTest, AFailedObservationGoesOnWithWhatTextIsLeft) {
+    open();
+    server.failOn("Seleciona_Obs_Vnd_X_Ord");
+    click(screen(), "cmdDetOFT");
+    ASSERT_EQ(boxes.shown.size(), 3U);
+    EXPECT_EQ(boxes.shown[0], critical("0004"));
+    EXPECT_EQ(boxes.shown[1], aviso("Aconteceu um erro na busca da observação da(s) venda(s). "
+                                    "Cancele esta tela e tente novamente."));
+    sessao.TextoMensagem = "da ordem anterior";
+    answerAlert("cmdCancelar", "da ordem anterior");
+    click(screen(), "cmdDetOFT");
+    EXPECT_EQ(boxes.shown.size(), 5U);
+}
+
+TEST_F(FrmOFTTest, GeneratesTheNoteAndRefreshes) {
+    open();
+    noteComesOut();
+    bool timerRan = true;
+    modals.then("frmMensagemAlerta", [&](QWidget& alert) {
+        timerRan = timer().isActive();
+        click(alert, "cmdOk");
+    });
+    observation("x");
+    click(screen(), "cmdSelecionar");
+    EXPECT_FALSE(timerRan) << "no refresh while the generation runs";
+    EXPECT_THAT(server.queries(),
+                testing::ElementsAre(obsQuery, stockQuery, noteQuery, documentQuery, listQuery));
+    EXPECT_THAT(boxes.shown, testing::IsEmpty());
+    EXPECT_TRUE(timer().isActive());
+}
+
+TEST_F(FrmOFTTest, ARefusedObservationGeneratesNothing) {
+    open();
+    noteComesOut();
+    observation("x");
+    answerAlert("cmdCancelar", "x");
+    click(screen(), "cmdSelecionar");
+    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery));
+    EXPECT_FALSE(timer().isActive());
+    click(screen(), "CmdAtualizar");
+    EXPECT_EQ(server.queries().back(), listQuery);
+    EXPECT_FALSE(timer().isActive());
+}
+
+TEST_F(FrmOFTTest, AnUnknownGenerationIsToldAndTheListRead) {
+    open();
+    server.failOn("SP_GERA_NF");
+    click(screen(), "cmdSelecionar");
+    EXPECT_THAT(boxes.shown,
+                testing::ElementsAre(
+                    critical("0004"),
+                    aviso("Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, "
+                          "utilize a tela de Reimpressão de Nota Fiscal. ")));
+    EXPECT_EQ(server.queries().back(), listQuery);
+    EXPECT_TRUE(timer().isActive());
+}
+
+TEST_F(FrmOFTTest, ARefusedGenerationShowsOneBoxAndLeavesTheList) {
+    open();
+    server.on("SP_GERA_NF", answers::status("Limite de crédito"));
+    click(screen(), "cmdSelecionar");
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclama("Limite de crédito")));
+    EXPECT_EQ(server.queries().back(), noteQuery);
+    EXPECT_EQ(rows(), 2);
+    EXPECT_FALSE(timer().isActive());
+}
+
+TEST_F(FrmOFTTest, ALostDocumentIsToldAndTheListRead) {
+    open();
+    noteComesOut();
+    server.failOn("sel_gera_nf&ID_ETB_TARN=6001");
+    click(screen(), "cmdSelecionar");
+    EXPECT_THAT(boxes.shown,
+                testing::ElementsAre(
+                    critical("0005"),
+                    aviso("Houve um problema na transferência dos dados da Nota Fiscal nº 555. "
+                          "Utilize a tela de Reimpressão de Nota Fiscal.")));
+    EXPECT_EQ(server.queries().back(), listQuery);
+    EXPECT_TRUE(timer().isActive());
+}
+
+TEST_F(FrmOFTTest, TheCustomerWithoutANumberEndsTheProgramWithTheReport) {
+    open();
+    noteComesOut();
+    sessao.NCOMPANYCODE = 2161;
+    sessao.ID_ETB_TARN = 3383;
+    click(screen(), "cmdSelecionar");
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
+    EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
+    EXPECT_EQ(
+        boxes.shown[0].text.rfind("Erro em tempo de execução '424':\r\rO objeto é obrigatório", 0),
+        0U)
+        << boxes.shown[0].text;
+    EXPECT_NE(boxes.shown[0].text.find("tela de Reimpressão de Nota Fiscal"), std::string::npos);
+    EXPECT_EQ(fim.status(), 3);
+    EXPECT_TRUE(spooler.jobs.empty());
+    EXPECT_FALSE(timer().isActive());
+}
+
+TEST_F(FrmOFTTest, AnUnreadableObservationEndsTheProgramWithNoWordOfANote) {
+    open();
+    server.on("Seleciona_Obs_Vnd_X_Ord", "<R a='0' b='OK'/>");
+    click(screen(), "cmdSelecionar");
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].text.find("Nota Fiscal"), std::string::npos);
+    EXPECT_EQ(fim.status(), 3);
+}
+
+TEST_F(FrmOFTTest, FecharFreesTheMenus) {
+    closesBy([&] { click(screen(), "CmdFechar"); });
+}
+
+TEST_F(FrmOFTTest, EscFreesTheMenus) {
+    closesBy([&] {
+        EXPECT_EQ(QApplication::focusWidget(), &grid());
+        key(screen(), Qt::Key_Escape);
+    });
+}
+
+TEST_F(FrmOFTTest, TheWindowsButtonFreesTheMenus) {
+    closesBy([&] { named<QMdiArea>(menu, "mdiArea").subWindowList().at(0)->close(); });
+}
+
+TEST_F(FrmOFTTest, TheDeskCanBeLeftWithTheListOpen) {
+    open();
+    menu.close();
+    EXPECT_TRUE(fim.encerrado());
+    EXPECT_TRUE(server.addresses.empty());
+    EXPECT_TRUE(boxes.shown.empty());
+}
+
+}  // namespace
+}  // namespace tarn
