@@ -107,10 +107,10 @@ std::optional<Ending> readPanel(const Raw& raw, dotmatrix::Dialect& dialect) {
 void declare(CLI::App& app, Options& options, Raw& raw) {
     app.get_formatter()->label("Usage", "Uso");
     app.get_formatter()->label("OPTIONS", "OPÇÕES");
-    app.get_formatter()->label("Options", "Opções");
+    app.option_defaults()->group("Opções");
     app.get_formatter()->label("Positionals", "Arquivos");
     app.get_formatter()->label("TEXT", "VALOR");
-    app.set_help_flag("-h,--ajuda,--help", "Mostra esta ajuda");
+    app.set_help_flag("-h,--ajuda,--help", "Mostra esta ajuda")->group("Opções");
     app.add_option("--pdf", options.pdf, "Grava o papel em PDF, uma página por formulário");
     app.add_option("--png", options.png,
                    "Grava o papel em figuras: ARQ.png, ARQ-002.png, uma por formulário");

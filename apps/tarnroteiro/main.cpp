@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 #include <QAction>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -44,8 +45,12 @@ void digita(QWidget& janela, const char* campo, const std::string& texto) {
     QTest::keyClicks(&linha, QString::fromStdString(texto));
 }
 
+QMenuBar& barraDe(QWidget& janela) {
+    return *static_cast<QMainWindow&>(janela).menuBar();
+}
+
 void abreMenu(QWidget& janela, const char* menu) {
-    auto& barra = filho<QMenuBar>(janela, "menuBar");
+    auto& barra = barraDe(janela);
     const QRect lugar = barra.actionGeometry(filho<QMenu>(janela, menu).menuAction());
     QTest::mouseClick(&barra, Qt::LeftButton, {}, lugar.center());
 }
@@ -112,7 +117,7 @@ void escreve(Roteiro& roteiro, const Entrada& entrada) {
         .quando("FrmOFT", "nota-emitida", [](QWidget& tela) { clica(tela, "CmdFechar"); })
         .quando("MDIMenu", "",
                 [](QWidget& janela) {
-                    auto& barra = filho<QMenuBar>(janela, "menuBar");
+                    auto& barra = barraDe(janela);
                     const QRect lugar = barra.actionGeometry(&filho<QAction>(janela, "mnuAjuda"));
                     QTest::mouseClick(&barra, Qt::LeftButton, {}, lugar.center());
                 })

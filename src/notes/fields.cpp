@@ -45,8 +45,8 @@ void appendPostalCode(std::string& out, std::string_view code) {
 // An amount that is only masked: empty stays empty.
 void appendAmount(std::string& out, Source source, std::string_view amount,
                   const NumberMask& mask) {
-    if (!amount.empty()) {
-        appendNumber(out, numberOf(source, amount), mask);
+    if (!amount.empty() && !appendText(out, amount, mask)) {
+        refuseNumber(source, amount);
     }
 }
 

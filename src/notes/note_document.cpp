@@ -1,5 +1,6 @@
 #include "notes/note_document.h"
 
+#include <memory>
 #include <span>
 #include <string>
 
@@ -17,8 +18,23 @@ constexpr std::size_t firstTotal = indexOf(Source::VALOR_BASE_ICMS);
 constexpr std::size_t firstOfForm = indexOf(Source::QT_MAX_IT);
 constexpr std::size_t firstOfItem = indexOf(Source::CD_PRO);
 
-constexpr std::span<const std::string_view> names(std::size_t from, std::size_t to) {
-    return std::span(attributeNames).subspan(from, to - from);
+using Names = std::shared_ptr<const NomesLinha>;
+
+Names namesOf(std::size_t from, std::size_t to) {
+    return std::make_shared<const NomesLinha>(std::span(attributeNames).subspan(from, to - from));
+}
+
+// The names of each kind of row, the same for every note.
+struct RowNames {
+    Names head = namesOf(0, firstTotal);
+    Names totals = namesOf(firstTotal, firstOfForm);
+    Names form = namesOf(firstOfForm, firstOfItem);
+    Names item = namesOf(firstOfItem, attributeCount);
+};
+
+const RowNames& rowNames() {
+    static const RowNames names;
+    return names;
 }
 
 }  // namespace
@@ -57,10 +73,10 @@ std::size_t NoteDocument::fieldOf(Source source) {
 
 LeitorLinha& NoteDocument::readerOf(Source source) {
     const auto reader = [this](std::optional<LeitorLinha>& slot, std::size_t position,
-                               std::size_t from, std::size_t to) -> LeitorLinha& {
+                               const Names& names) -> LeitorLinha& {
         if (!slot) {
             const XmlNode node = row(position);
-            slot.emplace(names(from, to)).le(node);
+            slot.emplace(names).le(node);
         }
         return *slot;
     };
@@ -69,18 +85,18 @@ LeitorLinha& NoteDocument::readerOf(Source source) {
         return *item_;  // goToItem comes first
     }
     if (index >= firstOfForm) {
-        return reader(form_, 2, firstOfForm, firstOfItem);
+        return reader(form_, 2, rowNames().form);
     }
     if (index >= firstTotal) {
-        return reader(totals_, 1, firstTotal, firstOfForm);
+        return reader(totals_, 1, rowNames().totals);
     }
-    return reader(head_, 0, 0, firstTotal);
+    return reader(head_, 0, rowNames().head);
 }
 
 void NoteDocument::goToItem(std::size_t position) {
     const XmlNode node = row(position);
     if (!item_) {
-        item_.emplace(names(firstOfItem, attributeCount));
+        item_.emplace(rowNames().item);
     }
     item_->le(node);
 }

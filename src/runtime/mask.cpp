@@ -84,17 +84,24 @@ void appendNumber(std::string& out, double value, const NumberMask& mask) {
 }
 
 std::string formatText(std::string_view text, const NumberMask& mask) {
+    std::string out;
+    return appendText(out, text, mask) ? out : std::string(text);
+}
+
+bool appendText(std::string& out, std::string_view text, const NumberMask& mask) {
     const std::optional<CommaText> scanned = scanComma(text);
     if (!scanned) {
-        return std::string(text);
+        return false;
     }
-    std::string out;
     if (const std::optional<Decimal> decimal = shortDecimal(*scanned)) {
         appendDecimal(out, *decimal, mask);
-        return out;
+        return true;
     }
     const std::optional<double> value = parseComma(text);
-    return value ? formatNumber(*value, mask) : std::string(text);
+    if (value) {
+        appendNumber(out, *value, mask);
+    }
+    return value.has_value();
 }
 
 std::string fillMask(std::string_view text, std::string_view mask) {

@@ -44,6 +44,9 @@ void appendNumber(std::string& out, double value, const NumberMask& mask);
 // A mask over a text: empty stays empty, a number by the comma reading is read
 // and formatted, anything else comes back unchanged.
 std::string formatText(std::string_view text, const NumberMask& mask);
+// The same for building lines: false, and nothing appended, for a text that is no
+// number, the empty one too.
+bool appendText(std::string& out, std::string_view text, const NumberMask& mask);
 
 // A "@" mask over a text (UTF-8, one character a placeholder): filled from the
 // right; a placeholder left over prints a blank, the mask's punctuation always

@@ -1,5 +1,8 @@
 #include "runtime/text.h"
 
+#include <cstdint>
+#include <cstring>
+
 #include "runtime/utf8.h"
 
 namespace tarn {
@@ -10,13 +13,35 @@ bool isControl(char c) {
     return static_cast<unsigned char>(c) < 32 || c == 127;
 }
 
+// Length of the run of ASCII characters that the text begins with, eight at a time.
+std::size_t asciiRun(std::string_view text) {
+    constexpr std::uint64_t highBits = 0x8080808080808080U;
+    std::size_t run = 0;
+    while (run + sizeof(std::uint64_t) <= text.size()) {
+        std::uint64_t eight = 0;
+        std::memcpy(&eight, text.data() + run, sizeof eight);
+        if ((eight & highBits) != 0) {
+            break;
+        }
+        run += sizeof eight;
+    }
+    while (run < text.size() && static_cast<unsigned char>(text[run]) < 0x80) {
+        ++run;
+    }
+    return run;
+}
+
 // Byte position behind the first `count` characters, or the text's end.
 std::size_t bytesOf(std::string_view text, std::size_t count) {
     std::size_t position = 0;
     while (count > 0 && position < text.size()) {
-        const bool ascii = static_cast<unsigned char>(text[position]) < 0x80;
-        position += ascii ? 1 : utf8At(text, position).bytes;
-        --count;
+        const std::size_t run = asciiRun(text.substr(position, count));
+        position += run;
+        count -= run;
+        if (count > 0 && position < text.size()) {
+            position += utf8At(text, position).bytes;
+            --count;
+        }
     }
     return position;
 }
@@ -48,9 +73,13 @@ std::size_t lengthOf(std::string_view text) {
     std::size_t count = 0;
     std::size_t position = 0;
     while (position < text.size()) {
-        const bool ascii = static_cast<unsigned char>(text[position]) < 0x80;
-        position += ascii ? 1 : utf8At(text, position).bytes;
-        ++count;
+        const std::size_t run = asciiRun(text.substr(position));
+        position += run;
+        count += run;
+        if (position < text.size()) {
+            position += utf8At(text, position).bytes;
+            ++count;
+        }
     }
     return count;
 }
@@ -132,10 +161,9 @@ std::string blankControls(std::string_view text) {
 void appendBlankingControls(std::string& out, std::string_view text) {
     const std::size_t start = out.size();
     out.append(text);
-    for (std::size_t i = start; i < out.size(); ++i) {
-        if (isControl(out[i])) {
-            out[i] = ' ';
-        }
+    char* appended = out.data() + start;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        appended[i] = isControl(appended[i]) ? ' ' : appended[i];
     }
 }
 

@@ -1,6 +1,7 @@
 #include <libxml/tree.h>
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 
 #include "runtime/erro_execucao.h"
@@ -16,63 +17,120 @@ std::string_view comoTexto(const void* nome) {
     return static_cast<const char*>(nome);
 }
 
+char maiuscula(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+// FNV-1a over the capitals, so that spellings of one name fall together.
+std::size_t espalha(std::string_view nome) {
+    std::uint64_t valor = 14695981039346656037U;
+    for (const char c : nome) {
+        valor = (valor ^ static_cast<unsigned char>(maiuscula(c))) * 1099511628211U;
+    }
+    return static_cast<std::size_t>(valor ^ (valor >> 32U));
+}
+
+bool iguaisSemCaixa(std::string_view nome, std::string_view maiusculo) {
+    return nome.size() == maiusculo.size() &&
+           std::equal(nome.begin(), nome.end(), maiusculo.begin(),
+                      [](char a, char b) { return maiuscula(a) == b; });
+}
+
+std::size_t tabelaPara(std::size_t nomes) {
+    return std::max(menorTabela, std::bit_ceil(2 * nomes + 1));
+}
+
 }  // namespace
 
-LeitorLinha::LeitorLinha(std::span<const std::string_view> nomes) : conhecidos_(menorTabela) {
-    campos_.reserve(nomes.size());
+NomesLinha::NomesLinha(std::span<const std::string_view> nomes)
+    : tabela_(tabelaPara(nomes.size()), std::int16_t{-1}) {
+    nomes_.reserve(nomes.size());
     for (const std::string_view nome : nomes) {
-        campos_.push_back({.nome = nome, .maiusculo = asciiUpper(nome), .trocado = {}});
+        std::size_t lugar = espalha(nome) & (tabela_.size() - 1);
+        while (tabela_[lugar] >= 0) {
+            lugar = (lugar + 1) & (tabela_.size() - 1);
+        }
+        tabela_[lugar] = static_cast<std::int16_t>(nomes_.size());
+        nomes_.push_back({.nome = nome, .maiusculo = asciiUpper(nome)});
     }
 }
+
+int NomesLinha::campoDe(std::string_view nome) const {
+    std::size_t lugar = espalha(nome) & (tabela_.size() - 1);
+    while (tabela_[lugar] >= 0) {
+        const std::int16_t campo = tabela_[lugar];
+        if (iguaisSemCaixa(nome, nomes_[static_cast<std::size_t>(campo)].maiusculo)) {
+            return campo;
+        }
+        lugar = (lugar + 1) & (tabela_.size() - 1);
+    }
+    return -1;
+}
+
+LeitorLinha::LeitorLinha(std::shared_ptr<const NomesLinha> nomes)
+    : nomes_(std::move(nomes)),
+      achados_(nomes_->quantos()),
+      conhecidos_(tabelaPara(nomes_->quantos())) {}
 
 void LeitorLinha::le(const XmlNode& linha) {
     if (!linha) {
         throw ErroExecucao(ErroNumero::VariavelObjeto);
     }
     linha_ = linha;
-    for (Campo& campo : campos_) {
-        campo.achado = nullptr;
-    }
+    ++vez_;
     const auto* elemento = static_cast<const xmlNode*>(linha.node_);
     if (elemento->type != XML_ELEMENT_NODE) {
         return;
     }
     const std::uint64_t documento = XmlDocument::serialOf(elemento);
     if (documento != documento_) {
-        conhecidos_.assign(menorTabela, {});
+        std::fill(conhecidos_.begin(), conhecidos_.end(), Conhecido{});
         ocupados_ = 0;
         documento_ = documento;
     }
     const bool semPrefixo = XmlDocument::undeclaredPrefixes(elemento);
     for (const xmlAttr* a = elemento->properties; a != nullptr; a = a->next) {
-        const int campo = campoDe(a->name, semPrefixo);
-        if (campo >= 0 && campos_[static_cast<std::size_t>(campo)].achado == nullptr) {
-            campos_[static_cast<std::size_t>(campo)].achado = a;
+        const Conhecido& nome = conhecido(a->name, semPrefixo);
+        if (nome.campo < 0) {
+            continue;
+        }
+        Achado& achado = achados_[static_cast<std::size_t>(nome.campo)];
+        if (achado.vez != vez_) {
+            achado.atributo = a;
+            achado.vez = vez_;
+            achado.exato = nome.exato && a->ns == nullptr;
         }
     }
 }
 
 std::string_view LeitorLinha::texto(std::size_t campo) const {
-    const Campo& c = campos_[campo];
-    return c.achado == nullptr ? std::string_view{} : consulta(c, c.nome);
+    const Achado& achado = achados_[campo];
+    if (achado.vez != vez_) {
+        return {};
+    }
+    return achado.exato ? XmlAttribute(achado.atributo).text()
+                        : consulta(achado, (*nomes_)[campo].nome);
 }
 
 std::string_view LeitorLinha::numero(std::size_t campo, std::string_view padrao) {
-    Campo& c = campos_[campo];
-    if (c.achado == nullptr) {
+    Achado& achado = achados_[campo];
+    if (achado.vez != vez_) {
         return padrao;
     }
-    const std::string_view texto = consulta(c, c.maiusculo);
+    const NomesLinha::Nome& nome = (*nomes_)[campo];
+    const std::string_view texto = achado.exato && nome.nome == nome.maiusculo
+                                       ? XmlAttribute(achado.atributo).text()
+                                       : consulta(achado, nome.maiusculo);
     if (texto.find('.') == std::string_view::npos) {
         return texto;
     }
-    c.trocado.assign(texto);
-    std::replace(c.trocado.begin(), c.trocado.end(), '.', ',');
-    return c.trocado;
+    achado.trocado.assign(texto);
+    std::replace(achado.trocado.begin(), achado.trocado.end(), '.', ',');
+    return achado.trocado;
 }
 
-std::string_view LeitorLinha::consulta(const Campo& campo, std::string_view nome) const {
-    const auto* atributo = static_cast<const xmlAttr*>(campo.achado);
+std::string_view LeitorLinha::consulta(const Achado& achado, std::string_view nome) const {
+    const auto* atributo = static_cast<const xmlAttr*>(achado.atributo);
     if (atributo->ns == nullptr && comoTexto(atributo->name) == nome) {
         return XmlAttribute(atributo).text();
     }
@@ -80,7 +138,7 @@ std::string_view LeitorLinha::consulta(const Campo& campo, std::string_view nome
 }
 
 // A document holds each name once, so that its address tells it.
-int LeitorLinha::campoDe(const void* nome, bool semPrefixo) {
+const LeitorLinha::Conhecido& LeitorLinha::conhecido(const void* nome, bool semPrefixo) {
     Conhecido* lugar = &lugarDe(nome);
     if (lugar->nome == nullptr) {
         if (2 * (ocupados_ + 1) > conhecidos_.size()) {
@@ -91,20 +149,13 @@ int LeitorLinha::campoDe(const void* nome, bool semPrefixo) {
         if (semPrefixo) {
             escrito = escrito.substr(escrito.find(':') + 1);
         }
-        *lugar = {nome, procura(escrito)};
+        const int campo = nomes_->campoDe(escrito);
+        const bool exato =
+            campo >= 0 && (*nomes_)[static_cast<std::size_t>(campo)].nome == comoTexto(nome);
+        *lugar = {nome, static_cast<std::int16_t>(campo), exato};
         ++ocupados_;
     }
-    return lugar->campo;
-}
-
-int LeitorLinha::procura(std::string_view nome) const {
-    const std::string maiusculo = asciiUpper(nome);
-    for (std::size_t i = 0; i < campos_.size(); ++i) {
-        if (campos_[i].maiusculo == maiusculo) {
-            return static_cast<int>(i);
-        }
-    }
-    return -1;
+    return *lugar;
 }
 
 LeitorLinha::Conhecido& LeitorLinha::lugarDe(const void* nome) {

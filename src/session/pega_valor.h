@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -27,12 +28,33 @@ Valor PegaValor(const XmlNode& no, std::size_t indice, std::string_view nome, co
 std::string pegaTexto(const XmlNode& no, std::size_t indice, std::string_view nome);
 std::string pegaNumero(const XmlNode& no, std::size_t indice, std::string_view nome);
 
+// The names of a row's fields, found without regard to the case of letters. Made
+// once for any number of readers.
+class NomesLinha {
+public:
+    // The texts must outlive this object.
+    explicit NomesLinha(std::span<const std::string_view> nomes);
+
+    struct Nome {
+        std::string_view nome;  // as PegaValor takes it
+        std::string maiusculo;  // as a numeric read looks it up
+    };
+    std::size_t quantos() const { return nomes_.size(); }
+    const Nome& operator[](std::size_t campo) const { return nomes_[campo]; }
+    int campoDe(std::string_view nome) const;  // -1: none
+
+private:
+    std::vector<Nome> nomes_;
+    std::vector<std::int16_t> tabela_;  // open addressing, a power of two long; -1: free
+};
+
 // PegaValor for many rows of the same fields: one pass over the attributes of a
 // row answers for all of them, without an allocation.
 class LeitorLinha {
 public:
-    // `nomes` as PegaValor takes them; the texts must outlive the reader.
-    explicit LeitorLinha(std::span<const std::string_view> nomes);
+    explicit LeitorLinha(std::shared_ptr<const NomesLinha> nomes);
+    explicit LeitorLinha(std::span<const std::string_view> nomes)
+        : LeitorLinha(std::make_shared<const NomesLinha>(nomes)) {}
 
     // Goes to a row. VariavelObjeto for a null one. What was read of the row before
     // is no longer valid.
@@ -40,33 +62,36 @@ public:
     void le(const XmlNode& no, std::size_t indice) { le(no.child(indice)); }
 
     // `campo` is the place of the name in `nomes`. Results live until the next row.
-    bool presente(std::size_t campo) const { return campos_[campo].achado != nullptr; }
+    bool presente(std::size_t campo) const { return achados_[campo].vez == vez_; }
     std::string_view texto(std::size_t campo) const;
     std::string_view numero(std::size_t campo, std::string_view padrao = "0");
 
 private:
-    struct Campo {
-        std::string_view nome;
-        std::string maiusculo;
-        const void* achado = nullptr;  // first attribute of that name in any case
-        std::string trocado;           // its text with commas, when it has points
+    // First attribute of that name in any case; of this row when `vez` is the reader's.
+    struct Achado {
+        const void* atributo = nullptr;
+        std::uint64_t vez = 0;
+        bool exato = false;   // spelled as the name
+        std::string trocado;  // its text with commas, when it has points
     };
     // A name as the document interns it, and the field it stands for (-1: none).
     struct Conhecido {
         const void* nome = nullptr;
-        int campo = -1;
+        std::int16_t campo = -1;
+        bool exato = false;
     };
 
-    int campoDe(const void* nome, bool semPrefixo);
-    int procura(std::string_view nome) const;
+    const Conhecido& conhecido(const void* nome, bool semPrefixo);
     Conhecido& lugarDe(const void* nome);
     void cresce();
-    std::string_view consulta(const Campo& campo, std::string_view nome) const;
+    std::string_view consulta(const Achado& achado, std::string_view nome) const;
 
-    std::vector<Campo> campos_;
+    std::shared_ptr<const NomesLinha> nomes_;
+    std::vector<Achado> achados_;
     std::vector<Conhecido> conhecidos_;  // open addressing, a power of two long
     std::size_t ocupados_ = 0;
     std::uint64_t documento_ = 0;
+    std::uint64_t vez_ = 0;  // rows read
     XmlNode linha_;
 };
 

@@ -59,7 +59,7 @@ protected:
         server.on("sel_ordem_fatu", orders);
         choose(menu, "mnuNF", "mOFT");
         menu.activateWindow();  // off-screen an open menu takes the activation along
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&menu));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &menu; }));
         server.addresses.clear();
         return screen();
     }

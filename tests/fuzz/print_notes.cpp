@@ -126,6 +126,9 @@ std::string recased(std::string name, ByteSource& source) {
     return name;
 }
 
+constexpr std::array noteNumbers{"4321"sv, "0"sv,   "1234567"sv,
+                                 ""sv,     "12a"sv, "99999999999999999999"sv};
+
 // Leaves most attributes alone, so that most notes reach their foot.
 void mutate(test::Attributes& row, ByteSource& source, std::size_t rarity) {
     test::Attributes changed;
@@ -203,7 +206,8 @@ constexpr std::array<std::pair<int, int>, 28> sessions{
      {1521, 1}, {821, 1},     {3301, 1}, {3881, 1},    {3881, 6001}, {3081, 1},    {1, 5282},
      {3601, 1}, {2541, 6001}, {3681, 1}, {4621, 7321}, {4621, 1},    {541, 1},     {-1, 0}}};
 
-void printOn(Escada ladder, const std::pair<int, int>& key, const std::string& xml, CodePage page) {
+void printOn(Escada ladder, const std::pair<int, int>& key, const std::string& xml,
+             const std::string& number) {
     XmlDocument document;
     if (!document.loadXML(xml))
         return;
@@ -212,12 +216,12 @@ void printOn(Escada ladder, const std::pair<int, int>& key, const std::string& x
     ScriptedBoxes boxes;
     FixedClock clock;
     FixedMachine machine;
-    Environment environment{http, spooler, boxes, clock, machine, "", page};
+    Environment environment{http, spooler, boxes, clock, machine, "", CodePage::Page1252};
     Sessao session;
     session.NCOMPANYCODE = key.first;
     session.ID_ETB_TARN = key.second;
     try {
-        imprimeNota(ladder, environment, session, document, "4321");
+        imprimeNota(ladder, environment, session, document, number);
     } catch (const ErroExecucao&) {
         return;
     }
@@ -231,12 +235,12 @@ void printOn(Escada ladder, const std::pair<int, int>& key, const std::string& x
 
 void printNotes(std::span<const std::uint8_t> bytes) {
     ByteSource source(bytes);
+    const auto& key = sessions[source.below(sessions.size())];
+    const std::string number(source.of(noteNumbers));
     const bool raw = source.oneIn(16);
     const std::string xml = raw ? std::string(source.rest()) : madeNote(source);
-    for (const auto& key : sessions) {
-        for (const Escada ladder : {Escada::Emissao, Escada::Reimpressao})
-            printOn(ladder, key, xml, CodePage::Page1252);
-    }
+    for (const Escada ladder : {Escada::Emissao, Escada::Reimpressao})
+        printOn(ladder, key, xml, number);
 }
 
 }  // namespace tarn::fuzz

@@ -306,5 +306,15 @@ TEST(FillMask, CarrierNumberThroughBothMasks) {
     EXPECT_EQ(carrier("ISENTO"), "  .   .   /ISEN-TO");
 }
 
+TEST(Mask, AppendTextTellsNumbersFromOtherTexts) {
+    std::string line = "R$ ";
+    EXPECT_TRUE(appendText(line, "1234,5", "##,###0.00"));
+    EXPECT_EQ(line, "R$ 1.234,50");
+    for (const std::string_view other : {"", "x", "1,2,3", "1e3"}) {
+        EXPECT_FALSE(appendText(line, other, "0.00")) << other;
+    }
+    EXPECT_EQ(line, "R$ 1.234,50");
+}
+
 }  // namespace
 }  // namespace tarn

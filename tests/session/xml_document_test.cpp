@@ -233,17 +233,25 @@ TEST(XmlDocument, DepthIsBounded) {
     EXPECT_FALSE(loads(deep));
 }
 
-TEST(XmlDocument, BodiesOver64MiBAreRefused) {
-    std::string text = "<R>";
+std::string bodyOfAtLeast(std::size_t mib) {
     const std::string row = "<I a='" + std::string(4 * 1024, 'x') + "'/>";
-    for (int i = 0; i < 63 * 256; ++i) {
+    std::string text = "<R>";
+    while (text.size() < mib * 1024 * 1024) {
         text += row;
     }
-    EXPECT_TRUE(loads(text + "</R>"));
-    for (int i = 0; i < 256; ++i) {
-        text += row;
-    }
-    EXPECT_FALSE(loads(text + "</R>"));
+    return text + "</R>";
+}
+
+TEST(XmlDocument, AValueMaySpanTheEndOfABodyOver10MB) {
+    EXPECT_TRUE(loads(bodyOfAtLeast(12)));
+}
+
+TEST(XmlDocument, BodiesOver64MiBAreRefused) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "takes minutes under the sanitizer";
+#endif
+    EXPECT_TRUE(loads(bodyOfAtLeast(63)));
+    EXPECT_FALSE(loads(bodyOfAtLeast(64)));
 }
 
 TEST(XmlDocument, AFailedLoadEmptiesWhatWasThere) {
