@@ -41,11 +41,11 @@ Date Relogio::today() {
 Mesa::Mesa(const Geral& geral) : geral_(geral) {}
 
 std::unique_ptr<Spooler> Mesa::makeSpooler() const {
-    if (!geral_.destino.empty()) {
-        const auto files = std::make_shared<JobFiles>(std::filesystem::path(geral_.destino),
+    if (geral_.destino) {
+        const auto files = std::make_shared<JobFiles>(std::filesystem::path(*geral_.destino),
                                                       JobNumbering::FromOne);
         if (!files->makeDirectory()) {
-            throw FalhaDeUso("não foi possível criar a pasta \"" + geral_.destino +
+            throw FalhaDeUso("não foi possível criar a pasta \"" + *geral_.destino +
                              "\". Confira o nome e a permissão de gravação.");
         }
         return std::make_unique<DirectorySpooler>(files);
