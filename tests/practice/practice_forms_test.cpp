@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
+#include <fstream>
 #include <set>
+#include <string>
+#include <vector>
 
 #include "practice/practice_companies.h"
 #include "practice/practice_data.h"
@@ -166,6 +168,36 @@ TEST(PracticeForms, TheSameCodeInAnotherCompanyIsAnotherEstablishment) {
     EXPECT_EQ(desk.status("comando=sp_can_oft&ID_ETB_TARN=6001&ServerName=DADOS1361"),
               "O estabelecimento \"6001\" não existe nesta empresa. Saia do sistema e entre de "
               "novo.");
+}
+
+// The row's line in the manual of the practice data, without its layout.
+std::pair<std::string, std::string> toldLine(const EstablishmentRow& row, int firstOrder) {
+    std::string also = companyOf(row).sellsServices ? "services" : "";
+    also += row.form.parcelsInPairs ? "pairs" : "";
+    also += row.form.taxCredit ? "credit" : "";
+    const std::string parcels =
+        row.form.parcelLimit > 0 ? std::to_string(row.form.parcelLimit) : "–";
+    return {"| " + std::to_string(row.company) + " | " + std::to_string(row.code) + " | " +
+                std::string(logonOf(row)->user) + " | " + row.name + " | ",
+            " | " + std::to_string(row.form.itemLines) + " | " + parcels + " | " +
+                std::to_string(firstOrder) + " | " + also + " |"};
+}
+
+TEST(PracticeForms, StandInTheManualAsTheyAre) {
+    std::ifstream file(TARN_PRACTICE_MANUAL);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(file, line);) {
+        lines.push_back(line);
+    }
+    int firstOrder = 45001;
+    for (const EstablishmentRow& row : establishmentRows()) {
+        const auto [begin, end] = toldLine(row, firstOrder);
+        const auto told = [&](const std::string& line) {
+            return line.starts_with(begin) && line.ends_with(end);
+        };
+        EXPECT_EQ(std::ranges::count_if(lines, told), 1) << begin << "..." << end;
+        firstOrder += 100;
+    }
 }
 
 // The places of the note's ladder, company and establishment.
