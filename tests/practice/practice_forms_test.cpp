@@ -95,9 +95,9 @@ Shown issueAll(Desk& desk, const PracticeLogon& logon) {
     const std::string place = numbersOf(logon);
     const std::string user = userOf(desk, logon);
     const XmlDocument list = desk.ask("comando=sel_ordem_fatu" + place);
+    const std::string generate = "COMANDO=SP_GERA_NF" + place + "&ID_PES=" + user + "&ID_ORD_FAT=";
     for (const XmlNode& row : rowsOf(list)) {
-        const XmlDocument made = desk.ask("COMANDO=SP_GERA_NF" + place + "&ID_PES=" + user +
-                                          "&ID_ORD_FAT=" + field(row, "ID_ORD_FAT"));
+        const XmlDocument made = desk.ask(generate + field(row, "ID_ORD_FAT"));
         if (statusOf(made) != "OK") {
             ++shown.refused;
             continue;
@@ -170,8 +170,13 @@ TEST(PracticeForms, TheSameCodeInAnotherCompanyIsAnotherEstablishment) {
               "novo.");
 }
 
-// The row's line in the manual of the practice data, without its layout.
-std::pair<std::string, std::string> toldLine(const EstablishmentRow& row, int firstOrder) {
+// The row's line in the manual of the practice data, but for its layout.
+struct ToldLine {
+    std::string begin;
+    std::string end;
+};
+
+ToldLine toldLine(const EstablishmentRow& row, int firstOrder) {
     std::string also = companyOf(row).sellsServices ? "services" : "";
     also += row.form.parcelsInPairs ? "pairs" : "";
     also += row.form.taxCredit ? "credit" : "";
@@ -191,11 +196,11 @@ TEST(PracticeForms, StandInTheManualAsTheyAre) {
     }
     int firstOrder = 45001;
     for (const EstablishmentRow& row : establishmentRows()) {
-        const auto [begin, end] = toldLine(row, firstOrder);
-        const auto told = [&](const std::string& line) {
-            return line.starts_with(begin) && line.ends_with(end);
+        const ToldLine wanted = toldLine(row, firstOrder);
+        const auto told = [&wanted](const std::string& line) {
+            return line.starts_with(wanted.begin) && line.ends_with(wanted.end);
         };
-        EXPECT_EQ(std::ranges::count_if(lines, told), 1) << begin << "..." << end;
+        EXPECT_EQ(std::ranges::count_if(lines, told), 1) << wanted.begin << "..." << wanted.end;
         firstOrder += 100;
     }
 }
