@@ -156,7 +156,15 @@ int anda(DeskApplication& programa, const Entrada& entrada) {
 }  // namespace
 }  // namespace tarn
 
+// The off-screen platform complains of what it can't do; only what ends the walk counts.
+static void soFatais(QtMsgType tipo, const QMessageLogContext&, const QString& texto) {
+    if (tipo == QtFatalMsg) {
+        std::fprintf(stderr, "tarnroteiro: %s\n", qPrintable(texto));
+    }
+}
+
 int main(int argc, char** argv) {
+    qInstallMessageHandler(soFatais);
     tarn::Entrada entrada;
     CLI::App app("Percorre o trabalho principal nas telas reais e guarda as imagens e o papel.",
                  "tarnroteiro");
