@@ -254,9 +254,9 @@ TEST_F(BadAnswers, MarkupReachesTheRealBoxAsPlainText) {
 
 TEST_F(BadAnswers, AHundredTriesAtTheLogonAndTheNextOneGetsIn) {
     openLogon();
-    std::atomic<int> asked{0};
-    http.setHandler([&asked](const std::string&) {
-        const int count = ++asked;
+    std::atomic<int> requests{0};
+    http.setHandler([&requests](const std::string&) {
+        const int count = ++requests;
         if (count % 2 == 0) {
             return LoopbackReply::cut(answers::status("OK"));
         }
