@@ -23,7 +23,8 @@ class FalhaDeUso : public std::runtime_error {
 
 // Options that stand before or after any command.
 struct Geral {
-    std::string destino;  // directory for the jobs; empty: the machine's printer
+    std::string destino;          // directory for the jobs; empty: the machine's printer
+    std::string formato = "pdf";  // of drawn pages in that directory
     std::string paginaDeCodigo = "1252";
 };
 

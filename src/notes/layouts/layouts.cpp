@@ -19,6 +19,7 @@ const Layout* layoutByName(std::string_view name) {
         &imprimeNF_1581,
         &imprimeNF_2801,
         &imprimeNF_2421,
+        &imprimeNF_2541,
         &imprimeNF_Padrao,
     };
     // clang-format on

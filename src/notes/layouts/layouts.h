@@ -17,6 +17,7 @@ extern const Layout imprimeNF_2321;
 extern const Layout imprimeNF_1581;
 extern const Layout imprimeNF_2801;
 extern const Layout imprimeNF_2421;
+extern const Layout imprimeNF_2541;
 extern const Layout imprimeNF_Padrao;
 
 // Null for a name that is not among them.
