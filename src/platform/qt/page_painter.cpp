@@ -30,12 +30,12 @@ constexpr std::array substitutes{Substitute{"Arial", "Liberation Sans"},
                                  Substitute{"Times New Roman", "Liberation Serif"}};
 
 QString faceFor(const std::string& wanted) {
-    const QString family = QString::fromStdString(wanted);
+    QString family = QString::fromStdString(wanted);
     if (QFontDatabase::hasFamily(family)) {
         return family;
     }
     for (const Substitute& substitute : substitutes) {
-        const QString face = QString::fromLatin1(substitute.face);
+        QString face = QString::fromLatin1(substitute.face);
         if (wanted == substitute.wanted && QFontDatabase::hasFamily(face)) {
             return face;
         }

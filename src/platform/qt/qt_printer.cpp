@@ -84,7 +84,7 @@ void QtPrinter::setUp(QPrinter& printer) const {
 
 std::optional<PrinterFailure> QtPrinter::end() {
     const std::vector<PrintOperation> document = std::exchange(document_, {});
-    const std::optional<PrinterFailure> met = std::exchange(obstacle_, std::nullopt);
+    std::optional<PrinterFailure> met = std::exchange(obstacle_, std::nullopt);
     if (!std::exchange(drawn_, false) || met) {
         return met;
     }
