@@ -44,9 +44,9 @@ Mesa::Mesa(const Geral& geral) : geral_(geral) {}
 
 void Mesa::preparaPasta() {
     const auto files =
-        std::make_shared<JobFiles>(std::filesystem::path(geral_.destino), JobNumbering::FromOne);
+        std::make_shared<JobFiles>(std::filesystem::path(*geral_.destino), JobNumbering::FromOne);
     if (!files->makeDirectory()) {
-        throw FalhaDeUso("não foi possível criar a pasta \"" + geral_.destino +
+        throw FalhaDeUso("não foi possível criar a pasta \"" + *geral_.destino +
                          "\". Confira o nome e a permissão de gravação.");
     }
     spooler_ = std::make_unique<DirectorySpooler>(files);
@@ -76,7 +76,7 @@ Environment& Mesa::ambiente() {
         if (geral_.formato != "pdf" && geral_.formato != "ops") {
             throw FalhaDeUso("--formato pede pdf ou ops.");
         }
-        geral_.destino.empty() ? preparaImpressora() : preparaPasta();
+        geral_.destino ? preparaPasta() : preparaImpressora();
         ambiente_ = std::make_unique<Environment>(Environment{.http = servidor_,
                                                               .spooler = *spooler_,
                                                               .printer = *paginas_,

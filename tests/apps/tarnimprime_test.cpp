@@ -253,10 +253,65 @@ TEST_F(Tarnimprime, AnUnreadableInputSpendsNoForm) {
 
 TEST_F(Tarnimprime, ADirectoryThatCantBeMadeIsAUsageError) {
     std::ofstream(file("arquivo")) << "x";
-    const Result result = run({"nota", "--destino", file("arquivo"), "--empresa", "1361",
-                               "--estabelecimento", "1", "--numero", "1", data("nota_1361.xml")});
-    EXPECT_EQ(result.status, 1);
-    EXPECT_NE(result.err.find("não foi possível criar a pasta"), std::string::npos) << result.err;
+    for (const std::string& wrong : {file("arquivo"), file("arquivo") + "/dentro", std::string()}) {
+        const Result result =
+            run({"nota", "--destino", wrong, "--empresa", "1361", "--estabelecimento", "1",
+                 "--numero", "1", data("nota_1361.xml")});
+        EXPECT_EQ(result.status, 1) << wrong;
+        EXPECT_NE(result.err.find("não foi possível criar a pasta \"" + wrong + "\""),
+                  std::string::npos)
+            << result.err;
+    }
+}
+
+TEST_F(Tarnimprime, ADirectoryOrANamelessFileIsNoDocument) {
+    for (const std::string& wrong : {room_.string(), std::string()}) {
+        const Result result = run({"nota", "--destino", file("papel"), "--empresa", "1361",
+                                   "--estabelecimento", "1", "--numero", "1", wrong});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_NE(result.err.find("não foi possível ler \"" + wrong + "\""), std::string::npos)
+            << result.err;
+        EXPECT_FALSE(hasJob("job-001.prn"));
+    }
+}
+
+TEST_F(Tarnimprime, GlobalOptionsStandBeforeOrAfterTheCommandAndOnce) {
+    const std::vector<std::string> note = {"nota", "--empresa", "1361", "--estabelecimento",
+                                           "1",    "--numero",  "4567"};
+    const auto with = [&note](std::vector<std::string> before,
+                              const std::vector<std::string>& after) {
+        before.insert(before.end(), note.begin(), note.end());
+        before.insert(before.end(), after.begin(), after.end());
+        return before;
+    };
+    const std::string golden = contentOf(data("nota_1361.prn"));
+    for (const auto& words : {with({"--pagina-de-codigo", "1252", "--destino=" + file("papel")},
+                                   {data("nota_1361.xml")}),
+                              with({}, {data("nota_1361.xml"), "--destino", file("papel")}),
+                              with({"--destino", file("papel")}, {"--", data("nota_1361.xml")})}) {
+        fs::remove_all(room_ / "papel");
+        EXPECT_EQ(run(words).status, 0);
+        EXPECT_EQ(job("job-002.prn"), golden);
+    }
+    EXPECT_EQ(
+        run(with({"--destino", file("papel")}, {"--destino", file("outra"), data("nota_1361.xml")}))
+            .status,
+        1);
+    EXPECT_FALSE(fs::exists(file("outra")));
+}
+
+// What the numbers look like is no matter of the machine's settings.
+TEST_F(Tarnimprime, TheMachinesLanguageChangesNothing) {
+    for (const char* language : {"C", "en_US.UTF-8", "pt_BR.UTF-8", "de_DE", ""}) {
+        ASSERT_EQ(::setenv("LC_ALL", language, 1), 0);
+        EXPECT_EQ(shown({"mascara", "##,###0.00", "1234567,891"}), "1.234.567,89\n") << language;
+        EXPECT_EQ(run({"nota", "--destino", file("papel"), "--empresa", "1361", "--estabelecimento",
+                       "1", "--numero", "4567", data("nota_1361.xml")})
+                      .status,
+                  0);
+        EXPECT_EQ(job("job-002.prn"), contentOf(data("nota_1361.prn"))) << language;
+    }
+    ::unsetenv("LC_ALL");
 }
 
 TEST_F(Tarnimprime, NoLayoutPrintsNothingAndSaysNothing) {
@@ -296,7 +351,11 @@ TEST_F(Tarnimprime, TheLadder) {
     EXPECT_EQ(shown({"escada", "--empresa", "761", "--estabelecimento", "1", "--reimpressao"}),
               "ImprimeNF_Padrao\n");
     EXPECT_EQ(shown({"escada", "--empresa", "2161", "--estabelecimento", "6001"}), "-\n");
-    EXPECT_EQ(run({"escada", "--empresa", "x", "--estabelecimento", "1"}).status, 1);
+    EXPECT_EQ(shown({"escada", "--empresa", "01361", "--estabelecimento", "0001"}),
+              "ImprimeNF_1361\n");
+    for (const char* word : {"x", "", "0x551", "1361,0", "1e3", "99999999999"}) {
+        EXPECT_EQ(run({"escada", "--empresa", word, "--estabelecimento", "1"}).status, 1) << word;
+    }
     EXPECT_EQ(run({"escada", "--empresa", "7"}).status, 1);
 }
 
@@ -359,7 +418,14 @@ TEST_F(Tarnimprime, WrongUsageIsToldInPortuguese) {
     }
     const Result help = run({"--ajuda"});
     EXPECT_EQ(help.status, 0);
-    EXPECT_NE(help.out.find("Uso: tarnimprime"), std::string::npos);
+    for (const char* words : {"Uso: tarnimprime", "Opções:", "Comandos:"}) {
+        EXPECT_NE(help.out.find(words), std::string::npos) << help.out;
+    }
+    const Result noteHelp = run({"nota", "--ajuda"});
+    EXPECT_NE(noteHelp.out.find("Opções:"), std::string::npos) << noteHelp.out;
+    for (const char* words : {"Options", "Subcommands", "Positionals", "REQUIRED"}) {
+        EXPECT_EQ((help.out + noteHelp.out).find(words), std::string::npos) << words;
+    }
 }
 
 }  // namespace

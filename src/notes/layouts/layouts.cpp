@@ -19,7 +19,17 @@ const Layout* layoutByName(std::string_view name) {
         &imprimeNF_1581,
         &imprimeNF_2801,
         &imprimeNF_2421,
+        &imprimeNF_1521,
+        &imprimeNF_821,
+        &imprimeNF_3301,
+        &imprimeNF_3881,
+        &imprimeNF_E6001,
+        &imprimeNF_3081,
+        &imprimeNF_E5282,
+        &imprimeNF_3601,
         &imprimeNF_2541,
+        &imprimeNF_3681,
+        &imprimeNF_4621,
         &imprimeNF_Padrao,
     };
     // clang-format on
