@@ -26,6 +26,7 @@ class FalhaDeUso : public std::runtime_error {
 // Options that stand before or after any command.
 struct Geral {
     std::optional<std::string> destino;  // directory for the jobs; none: the machine's printer
+    std::string formato = "pdf";         // of drawn pages in that directory
     std::string paginaDeCodigo = "1252";
 };
 

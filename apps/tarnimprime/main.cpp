@@ -69,6 +69,9 @@ void declara(CLI::App& app, Geral& geral, Escolha& escolha) {
     app.set_help_flag("-h,--ajuda,--help", "Mostra esta ajuda")->group(grupoDeOpcoes);
     app.add_option("--destino", geral.destino,
                    "Pasta onde cada trabalho é gravado (job-001.prn, ...) em vez de impresso");
+    app.add_option("--formato", geral.formato,
+                   "Documentos desenhados na pasta: pdf (usual) ou ops, a lista do que é "
+                   "desenhado");
     app.add_option("--pagina-de-codigo", geral.paginaDeCodigo,
                    "Página de código da impressora: 1252 (usual), 850 ou 860");
     declaraNota(app, escolha);

@@ -24,6 +24,7 @@ protected:
     void print(Spooler& spooler, const char* noteDocument) {
         Environment ambiente{.http = seams_.loader,
                              .spooler = spooler,
+                             .printer = seams_.printer,
                              .boxes = seams_.boxes,
                              .clock = seams_.clock,
                              .machine = seams_.machine,
