@@ -108,7 +108,7 @@ protected:
     LoopbackServer http;
     CurlLoader curl;
     BlockingLoader rede{curl};
-    Environment overHttp{rede, spooler, boxes, clock, machine, http.baseUrl()};
+    Environment overHttp{rede, spooler, printer, boxes, clock, machine, http.baseUrl()};
     DeskContext netDesk{overHttp, sessao, fim};
     FrmLogon logon{netDesk, nullptr};
     FrmOFT orders{netDesk};
@@ -231,7 +231,7 @@ TEST_F(BadAnswers, AStatusInLowerCaseOrWithMarkupIsARefusalShownAsItStands) {
 
 TEST_F(BadAnswers, MarkupReachesTheRealBoxAsPlainText) {
     QtMessageBoxes real;
-    Environment withBoxes{rede, spooler, real, clock, machine, http.baseUrl()};
+    Environment withBoxes{rede, spooler, printer, real, clock, machine, http.baseUrl()};
     DeskContext shownDesk{withBoxes, sessao, fim};
     FrmLogon screen(shownDesk, nullptr);
     screen.show();
