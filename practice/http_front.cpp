@@ -3,11 +3,15 @@
 #include <httplib.h>
 #include <netdb.h>
 #include <sys/socket.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <cerrno>
 #include <stdexcept>
 #include <thread>
+#include <utility>
+
+#include "practice/request_stream.h"
 
 namespace tarn::practice {
 namespace {
@@ -59,12 +63,28 @@ std::string_view queryOf(std::string_view target) {
     return mark == std::string_view::npos ? std::string_view{} : target.substr(mark + 1);
 }
 
+// One request a connection, so that the end waits for no idle one; its target
+// is handed on as it came.
+class PageServer : public httplib::Server {
+private:
+    bool process_and_close_socket(socket_t socket) override {
+        RequestStream stream(socket, read_timeout_sec_, write_timeout_sec_);
+        bool closed = false;
+        const bool done = process_request(
+            stream, true, closed,
+            [&stream](httplib::Request& request) { request.target = stream.target(); });
+        shutdown(socket, SHUT_RDWR);
+        close(socket);
+        return done;
+    }
+};
+
 }  // namespace
 
 struct HttpFront::State {
     Answer answer;
     std::string contentType;
-    httplib::Server server;
+    PageServer server;
     std::atomic<bool> finished = false;
 };
 
@@ -75,8 +95,6 @@ HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_
     state->server.set_socket_options(reuseAddressOnly);
     // Waits for connections in short turns, so that a stop is always noticed.
     state->server.set_idle_interval(0, kTurnMicroseconds);
-    // One request a connection, so that the end waits for no idle one.
-    state->server.set_keep_alive_max_count(1);
     state->server.Get(std::string(kPagePath), [state](const httplib::Request& request,
                                                       httplib::Response& response) {
         response.set_content(state->answer(queryOf(request.target)), state->contentType);
@@ -85,7 +103,7 @@ HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_
         [](const httplib::Request&, httplib::Response& response, std::exception_ptr thrown) {
             response.status = kServerError;
             try {
-                std::rethrow_exception(thrown);
+                std::rethrow_exception(std::move(thrown));
             } catch (const std::exception& error) {
                 response.set_content(error.what(), kPlainText);
             }

@@ -75,7 +75,7 @@ bool written(const std::optional<QString>& failure, const std::string& file) {
 }
 
 bool writeAll(const Options& options, const tarn::dotmatrix::ContinuousPaper& paper) {
-    const tarn::dotmatrix::PaintOptions looks{options.bands};
+    const tarn::dotmatrix::PaintOptions looks{options.bands, QString::fromStdString(options.title)};
     const auto name = [](const std::string& file) { return QFile::decodeName(file.c_str()); };
     return (options.pdf.empty() ||
             written(writePdf(paper, looks, name(options.pdf)), options.pdf)) &&

@@ -125,6 +125,7 @@ void declare(CLI::App& app, Options& options, Raw& raw) {
     app.add_option("--carro", raw.carriage, "Carro da impressora: 136 (usual) ou 80 colunas");
     app.add_option("--agulhas", raw.needles, "Cabeça de 9 (usual) ou 24 agulhas");
     app.add_flag("--faixas", options.bands, "Desenha as faixas claras do papel zebrado");
+    app.add_option("--titulo", options.title, "Nome escrito na margem de cada formulário");
     app.add_option("trabalhos", options.jobs,
                    "Trabalhos crus (.prn), impressos um após o outro no mesmo papel");
 }

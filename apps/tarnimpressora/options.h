@@ -15,6 +15,7 @@ struct Options {
     std::string text;
     std::vector<std::string> jobs;
     bool bands = false;
+    std::string title;
     dotmatrix::Dialect dialect;
 };
 

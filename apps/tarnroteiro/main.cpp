@@ -73,6 +73,10 @@ void aceita(QWidget& caixa) {
     QTest::keyClick(&caixa, Qt::Key_Return);
 }
 
+// The desk as a clerk's screen shows it, whatever the size of the screen that is lacking.
+constexpr int larguraDaMesa = 1280;
+constexpr int alturaDaMesa = 820;
+
 // Rows of the practice data, counted from 0.
 constexpr int comObservacao = 5;
 constexpr int semEstoque = 6;
@@ -129,7 +133,7 @@ int anda(DeskApplication& programa, const Entrada& entrada) {
     Opcoes opcoes;
     opcoes.baseUrl = enderecoDoServidor(entrada.servidor);
     opcoes.impressoraVirtual = entrada.pasta;
-    Mesa mesa(programa, opcoes, impressoraDe(opcoes));
+    Mesa mesa(programa, opcoes, impressorasDe(opcoes));
     Roteiro roteiro(QString::fromStdString(entrada.pasta));
     escreve(roteiro, entrada);
     QObject::connect(&roteiro, &Roteiro::acabou, [](const QString& motivo) {
@@ -138,6 +142,7 @@ int anda(DeskApplication& programa, const Entrada& entrada) {
             QCoreApplication::exit(1);
         }
     });
+    mesa.menu().resize(larguraDaMesa, alturaDaMesa);
     mesa.abre();
     roteiro.comeca();
     const int status = programa.exec();
@@ -151,7 +156,15 @@ int anda(DeskApplication& programa, const Entrada& entrada) {
 }  // namespace
 }  // namespace tarn
 
+// The off-screen platform complains of what it can't do; only what ends the walk counts.
+static void soFatais(QtMsgType tipo, const QMessageLogContext&, const QString& texto) {
+    if (tipo == QtFatalMsg) {
+        std::fprintf(stderr, "tarnroteiro: %s\n", qPrintable(texto));
+    }
+}
+
 int main(int argc, char** argv) {
+    qInstallMessageHandler(soFatais);
     tarn::Entrada entrada;
     CLI::App app("Percorre o trabalho principal nas telas reais e guarda as imagens e o papel.",
                  "tarnroteiro");

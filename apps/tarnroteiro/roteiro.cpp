@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
 #include <utility>
@@ -52,15 +53,18 @@ void Roteiro::olha() {
         return;
     }
     if (passos_.empty()) {
-        relogio_.stop();
-        emit acabou({});
+        termina({});
         return;
     }
     QWidget* janela = naFrente(passos_.front().janela);
     if (janela == nullptr) {
-        if (++olhadas_ == maximoDeOlhadas) {
-            relogio_.stop();
-            emit acabou(QStringLiteral("a janela %1 não abriu").arg(passos_.front().janela));
+        ++olhadas_;
+        const auto* aviso = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (aviso != nullptr) {
+            termina(
+                QStringLiteral("uma caixa que não faz parte do roteiro: %1").arg(aviso->text()));
+        } else if (olhadas_ == maximoDeOlhadas) {
+            termina(QStringLiteral("a janela %1 não abriu").arg(passos_.front().janela));
         }
         return;
     }
@@ -71,6 +75,11 @@ void Roteiro::olha() {
         fotografa(*janela, espera.nome);
     }
     espera.passo(*janela);
+}
+
+void Roteiro::termina(const QString& motivo) {
+    relogio_.stop();
+    emit acabou(motivo);
 }
 
 void Roteiro::fotografa(QWidget& janela, const QString& nome) {

@@ -19,7 +19,8 @@ public:
 
     using Passo = std::function<void(QWidget& janela)>;
     // Waits until the window in front (modal, else a visible one) has this object name,
-    // takes its picture under `nome` unless that is empty, and acts.
+    // takes its picture under `nome` unless that is empty, and acts. A message box that
+    // isn't awaited ends the walk.
     Roteiro& quando(const QString& janela, const QString& nome, Passo passo);
 
     // From now on the steps run in the event loop. A window that doesn't come within the
@@ -40,6 +41,7 @@ private:
         Passo passo;
     };
     void olha();
+    void termina(const QString& motivo);
     QWidget* naFrente(const QString& nome) const;
 
     QString pasta_;

@@ -24,7 +24,11 @@ constexpr double kHoleSpacing = 36.0;  // points, from hole to hole
 constexpr double kHoleRadius = 72.0 * 5 / 64;
 constexpr double kBand = 36.0;
 
+constexpr int kTitlePoints = 7;
+constexpr double kTitleFromEdge = 6.0;  // points from the perforation to the middle of the title
+
 const QColor kInk(28, 28, 36);
+const QColor kTitleColour(110, 110, 110);
 const QColor kPerforation(190, 190, 190);
 const QColor kHoleEdge(205, 205, 205);
 const QColor kHoleFill(240, 240, 240);
@@ -100,6 +104,23 @@ void PaperPainter::paintSheet(QPainter& painter, double height) const {
     // Half of the perforation belongs to each of the forms that it parts.
     painter.drawLine(QPointF(0, 0.25), QPointF(width, 0.25));
     painter.drawLine(QPointF(0, height - 0.25), QPointF(width, height - 0.25));
+    painter.restore();
+    paintTitle(painter, height);
+}
+
+void PaperPainter::paintTitle(QPainter& painter, double height) const {
+    if (options_.title.isEmpty()) {
+        return;
+    }
+    QFont font = plain_;
+    font.setPixelSize(kTitlePoints);
+    painter.save();
+    painter.setPen(kTitleColour);
+    painter.setFont(font);
+    painter.translate(sheet_.strip * kPointsPerInch - kTitleFromEdge, height / 2);
+    painter.rotate(-90);
+    painter.drawText(QRectF(-height / 2, -kTitlePoints, height, 2.0 * kTitlePoints),
+                     Qt::AlignCenter, options_.title);
     painter.restore();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QFont>
+#include <QString>
 
 #include "dotmatrix/continuous_paper.h"
 
@@ -24,6 +25,7 @@ Sheet sheetFor(PaperUnits contentWidth);
 
 struct PaintOptions {
     bool bands = false;  // faint green bands of half an inch
+    QString title;       // written along the left strip of each form, beside the holes
 };
 
 class PaperPainter {
@@ -37,6 +39,7 @@ public:
 
 private:
     void paintSheet(QPainter& painter, double height) const;
+    void paintTitle(QPainter& painter, double height) const;
     void paintLine(QPainter& painter, const PaperLine& line, double y) const;
     void paintRun(QPainter& painter, const QString& text, const Cell& first, double y) const;
 

@@ -138,6 +138,13 @@ void appendPrinterBytes(std::string& out, std::string_view utf8, CodePage page) 
     appendBytes(out, utf8, [page](char32_t code) { return printerByte(code, page); });
 }
 
+char16_t characterOf(unsigned char byte, CodePage page) {
+    if (byte < 0x80 || page == CodePage::Page1252) {
+        return byte;
+    }
+    return (page == CodePage::Page850 ? page850 : page860).at(byte - 0x80U);
+}
+
 std::string toWindows1252(std::string_view utf8) {
     std::string out;
     out.reserve(utf8.size());

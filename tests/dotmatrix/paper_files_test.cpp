@@ -136,11 +136,23 @@ TEST_F(PaperFiles, PicturesShowInkAndDoubleStrikeIsDarker) {
     EXPECT_FALSE(QFile::exists(file("note-003.png")));
 }
 
+TEST_F(PaperFiles, ATitleStandsInTheLeftStripOfEachForm) {
+    PrinterRig rig;
+    rig.job("uma\f\r\nduas");
+    ASSERT_FALSE(writePdf(rig.paper, {false, "MODELO"}, file("title.pdf")));
+    const auto words = wordsOf(file("title.pdf"));
+    ASSERT_TRUE(words.count("MODELO"));
+    EXPECT_LT(words.at("MODELO").right, kStrip);
+    EXPECT_EQ(output(QStringLiteral("pdftotext"), {file("title.pdf"), QStringLiteral("-")})
+                  .count(QStringLiteral("MODELO")),
+              2);
+}
+
 TEST_F(PaperFiles, BandsOnlyWhenAskedFor) {
     PrinterRig rig;
     rig.job("x");
     ASSERT_FALSE(writePng(rig.paper, {}, file("white.png")));
-    ASSERT_FALSE(writePng(rig.paper, PaintOptions{true}, file("bands.png")));
+    ASSERT_FALSE(writePng(rig.paper, PaintOptions{true, {}}, file("bands.png")));
     const QPoint inFirstBand(6 * kPictureDotsPerInch, 10);
     EXPECT_EQ(QImage(file("white.png")).pixelColor(inFirstBand), QColor(Qt::white));
     EXPECT_NE(QImage(file("bands.png")).pixelColor(inFirstBand), QColor(Qt::white));
@@ -172,6 +184,9 @@ TEST_F(PaperFiles, FailureToWriteIsTold) {
 }  // namespace tarn::dotmatrix
 
 int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     testing::InitGoogleTest(&argc, argv);
     const QGuiApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -22,8 +22,6 @@ protected:
     void check(const std::string& xml, ErroNumero number,
                const std::function<bool(const ExpectedCall&)>& stopsAt, const NoteCase& like = {}) {
         const Printed printed = printXml(form().ladder, form().company, form().establishment, xml);
-        if (printed.pending())
-            GTEST_SKIP() << "no layout for " << form().name << " yet";
         ASSERT_TRUE(printed.error) << "printed to the end";
         EXPECT_EQ(static_cast<int>(number), static_cast<int>(printed.error->numero()))
             << printed.error->descricao();
@@ -85,12 +83,14 @@ TEST_P(BrokenNote, FormLinesAbsentEmptyOrNoNumber) {
 }
 
 TEST_P(BrokenNote, ParcelsNoNumber) {
-    if (!form().parcels)
-        GTEST_SKIP() << "a form without parcels";
     for (const char* value : {"", "TRES", "1.2.3"}) {
         SCOPED_TRACE(value);
         NoteDraft draft = draftOf({});
         draft.head["QTDE_PARC"] = value;
+        if (!form().parcels) {  // such a form doesn't look at the number
+            EXPECT_FALSE(print(form(), draft).error);
+            continue;
+        }
         check(draft.xml(), ErroNumero::TipoIncompativel, [](const ExpectedCall& call) {
             return call.what == "row of parcels" || call.what == "rest of the parcels" ||
                    call.what == "parcel 1";

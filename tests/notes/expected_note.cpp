@@ -173,14 +173,14 @@ private:
             return f.source == "\"\\r\\n\"";
         });
         if (lineEnd != fields.end()) {
-            // The variable of the line above comes again with its line end in it, so
+            // The variable of the line above comes again with its line end in it: four blanks, so
             // what follows begins in column 5 of the next line.
             const std::vector<MapField> first(fields.begin(), lineEnd);
             std::vector<MapField> second(lineEnd + 1, fields.end());
             for (MapField& field : second)
                 field.column -= 44;
-            call(placed(first, 0, -1) + "\r\n" + placed(second, 0, -1).substr(1), advance,
-                 row().line, "order references, twice");
+            call(placed(first, 0, -1) + "\r\n" + placed(second, 0, -1), advance, row().line,
+                 "order references, twice");
             line_ += form_.repeatedLines;
         } else {
             call(placed(fields, 0, -1), advance, row().line, fields.front().source, fields);

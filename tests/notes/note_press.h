@@ -18,10 +18,6 @@ struct Printed {
     std::optional<ErroExecucao> error;
     bool documentLetGo = false;
 
-    // Whether the program has no layout for the form yet.
-    bool pending() const {
-        return error && error->numero() == ErroNumero::ObjetoObrigatorio && jobs.empty();
-    }
     // Line ends of the note's own job.
     int lineEnds() const;
 };

@@ -45,12 +45,25 @@ TEST(HttpFront, HandsOnTheQueryAsItCame) {
         return std::string("<R/>");
     });
     const auto result =
-        serving.get("/Kestomain/TarnEmissao.asp?comando=X&A=a+b%E7%23&B=50%&C=1=2");
+        serving.get("/Kestomain/TarnEmissao.asp?comando=X&A=a+b%E7%23&B=50%&C=1=2?&D=??");
     ASSERT_TRUE(result);
     EXPECT_EQ(result->status, 200);
     EXPECT_EQ(result->body, "<R/>");
     EXPECT_EQ(result->get_header_value("Content-Type"), "text/xml; charset=windows-1252");
-    EXPECT_EQ(seen, "comando=X&A=a+b%E7%23&B=50%&C=1=2");
+    EXPECT_EQ(seen, "comando=X&A=a+b%E7%23&B=50%&C=1=2?&D=??");
+}
+
+TEST(HttpFront, HandsOnALongQueryWhole) {
+    std::string seen;
+    const Serving serving([&seen](std::string_view query) {
+        seen = query;
+        return std::string("<R/>");
+    });
+    const std::string query = "A=" + std::string(6000, '?');
+    const auto result = serving.get("/Kestomain/TarnEmissao.asp?" + query);
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->status, 200);
+    EXPECT_EQ(seen, query);
 }
 
 TEST(HttpFront, ServesOnePageOnly) {

@@ -47,7 +47,7 @@ TEST(OrderCommands, ListTheOpenOrders) {
     const std::vector<XmlNode> rows = rowsOf(document);
     ASSERT_EQ(rows.size(), 23U);
     EXPECT_EQ(field(rows[0], "ID_ORD_FAT"), "45001");
-    EXPECT_EQ(field(rows[0], "NM_PES_CPL"), "PANIFICADORA E CONFEITARIA PÃO DE AÇÚCAR LTDA");
+    EXPECT_EQ(field(rows[0], "NM_PES_CPL"), "PANIFICADORA E CONFEITARIA PÃO DE ARAÇÁS LTDA");
     EXPECT_EQ(field(rows[0], "NM_RDU"), "MATRIZ SP");
     EXPECT_EQ(field(rows[0], "DC_TIP_NF"), "Venda de mercadoria");
     EXPECT_EQ(field(rows[0], "NM_PES_MOT"), "ANTÔNIO CARLOS");

@@ -6,7 +6,33 @@
 namespace tarn::notes {
 
 const Layout* layoutByName(std::string_view name) {
-    static constexpr std::array layouts{&imprimeNF_1361};
+    // In the order of the ladder, one line each.
+    // clang-format off
+    static constexpr std::array layouts{
+        &imprimeNF_7,
+        &imprimeNF_1361,
+        &imprimeNF_2161_3381,
+        &imprimeNF_2161_3341,
+        &imprimeNF_2161_3383,
+        &imprimeNF_2041,
+        &imprimeNF_2321,
+        &imprimeNF_1581,
+        &imprimeNF_2801,
+        &imprimeNF_2421,
+        &imprimeNF_1521,
+        &imprimeNF_821,
+        &imprimeNF_3301,
+        &imprimeNF_3881,
+        &imprimeNF_E6001,
+        &imprimeNF_3081,
+        &imprimeNF_E5282,
+        &imprimeNF_3601,
+        &imprimeNF_2541,
+        &imprimeNF_3681,
+        &imprimeNF_4621,
+        &imprimeNF_Padrao,
+    };
+    // clang-format on
     const auto* found = std::find_if(layouts.begin(), layouts.end(),
                                      [name](const Layout* layout) { return layout->name == name; });
     return found == layouts.end() ? nullptr : *found;

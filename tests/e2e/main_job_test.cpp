@@ -1,0 +1,148 @@
+// The clerk's main job with the programs themselves: the practice server, the real
+// screens walked off-screen, the directory printer, the paper.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "platform/curl/curl_loader.h"
+#include "session/commands.h"
+#include "session/xml_document.h"
+
+namespace tarn {
+namespace {
+
+constexpr int patienceMs = 120000;  // for a slow machine under sanitizers
+
+std::string contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+}
+
+// Runs a program to its end; its exit status, or -1 when it didn't end by itself.
+int run(const char* program, const QStringList& arguments) {
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(program, arguments);
+    const bool ended = process.waitForFinished(patienceMs);
+    return ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
+class MainJob : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(folder_.isValid());
+        server_.start(TARNSERVIDOR, {"--porta", "0", "--banco", ":memory:"});
+        while (!server_.canReadLine() && server_.waitForReadyRead(patienceMs)) {
+        }
+        const QString line = QString::fromUtf8(server_.readLine()).trimmed();
+        ASSERT_TRUE(line.startsWith("Servindo em ")) << line.toStdString();
+        address_ = line.mid(12);
+        sessao_.NCOMPANYCODE = 1361;
+        sessao_.ID_ETB_TARN = 1361;
+        sessao_.SERVERNAME = "DADOS1361";
+    }
+    void TearDown() override {
+        server_.terminate();
+        EXPECT_TRUE(server_.waitForFinished(patienceMs));
+    }
+
+    XmlDocument asked(const std::string& query) {
+        CurlLoader loader;
+        answer_ = loader.get(address_.toStdString() + query);
+        XmlDocument document;
+        EXPECT_TRUE(answer_.loaded && document.loadXML(answer_.body)) << query;
+        return document;
+    }
+    std::vector<std::string> ordersLeft() {
+        const XmlDocument list = asked(comando::sel_ordem_fatu(sessao_));
+        const XmlNode rows = list.selectSingleNode("xml/rs:data");
+        std::vector<std::string> orders;
+        for (std::size_t i = 0; i < rows.childCount(); ++i) {
+            orders.emplace_back(rows.child(i).attributes().getNamedItem("ID_ORD_FAT").text());
+        }
+        return orders;
+    }
+    QString inFolder(const char* name) const { return folder_.filePath(name); }
+
+    QTemporaryDir folder_;
+    QProcess server_;
+    QString address_;
+    Sessao sessao_;
+    HttpAnswer answer_;
+};
+
+TEST_F(MainJob, AnOrderBecomesANoteOnPaper) {
+    const std::vector<std::string> before = ordersLeft();
+    ASSERT_THAT(before, testing::Contains("45006"));
+
+    ASSERT_EQ(run(TARNROTEIRO, {"--servidor", address_, "--saida", folder_.path()}), 0);
+
+    // The order is gone, the refused one and the one without stock are not.
+    const std::vector<std::string> after = ordersLeft();
+    EXPECT_EQ(after.size() + 1, before.size());
+    EXPECT_THAT(after, testing::Not(testing::Contains("45006")));
+    EXPECT_THAT(after, testing::IsSupersetOf({"45007", "45008"}));
+
+    // One note: its set-up job and its own.
+    EXPECT_EQ(contentOf(inFolder("job-001.prn")), " \x0F");
+    const std::string note = contentOf(inFolder("job-002.prn"));
+    EXPECT_FALSE(QFile::exists(inFolder("job-003.prn")));
+    ASSERT_GT(note.size(), 130U);
+    EXPECT_EQ(note[89], 'X');  // column 90: an exit note
+    const std::string number = note.substr(124, 6);
+    EXPECT_THAT(number, testing::MatchesRegex("[0-9]+"));
+    EXPECT_THAT(note, testing::HasSubstr("FATURA..: " + number));
+    const std::string foot = std::string(122, ' ') + number;
+    std::string end = foot;
+    for (int i = 0; i < 8; ++i) {
+        end += "\r\n";
+    }
+    EXPECT_THAT(note, testing::EndsWith(end));
+
+    // The server gives the same note again, and it prints the same bytes.
+    const XmlDocument again =
+        asked(comando::sel_gera_nf(sessao_, std::to_string(std::stoi(number)), "1"));
+    EXPECT_EQ(again.documentElement().attributes().item(1).text(), "OK");
+    QFile saved(inFolder("nota.xml"));
+    ASSERT_TRUE(saved.open(QIODevice::WriteOnly));
+    saved.write(QByteArray::fromStdString(answer_.body));
+    saved.close();
+    ASSERT_EQ(run(TARNIMPRIME, {"nota", "--empresa", "1361", "--estabelecimento", "1361",
+                                "--numero", QString::fromStdString(number), "--destino",
+                                inFolder("de-novo"), saved.fileName()}),
+              0);
+    EXPECT_EQ(contentOf(inFolder("de-novo/job-002.prn")), note);
+
+    // A picture of each step, and the paper.
+    const QStringList pictures =
+        QDir(folder_.path()).entryList({"passo-*.png"}, QDir::Files, QDir::Name);
+    EXPECT_EQ(pictures.size(), 11);
+    ASSERT_EQ(run(TARNIMPRESSORA, {"--pdf", inFolder("nota.pdf"), inFolder("job-001.prn"),
+                                   inFolder("job-002.prn")}),
+              0);
+    EXPECT_THAT(contentOf(inFolder("nota.pdf")), testing::StartsWith("%PDF-"));
+}
+
+TEST_F(MainJob, AWrongPasswordEndsTheWalkWithAWord) {
+    QProcess walk;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    walk.setProcessEnvironment(environment);
+    walk.start(TARNROTEIRO,
+               {"--servidor", address_, "--saida", folder_.path(), "--senha", "errada"});
+    ASSERT_TRUE(walk.waitForFinished(patienceMs));
+    EXPECT_EQ(walk.exitCode(), 1);
+    EXPECT_THAT(walk.readAllStandardError().toStdString(),
+                testing::HasSubstr("Usuário ou senha inválidos"));
+    EXPECT_FALSE(QFile::exists(inFolder("job-001.prn")));
+}
+
+}  // namespace
+}  // namespace tarn

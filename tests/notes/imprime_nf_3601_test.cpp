@@ -1,0 +1,230 @@
+// The forms of company 3601 and of establishment 5282: four numbered parcels to a row.
+#include <gtest/gtest.h>
+
+#include "notes/layouts/layouts.h"
+#include "notes/wide_note.h"
+
+namespace tarn::test {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+const notes::Form& form3601() {
+    return notes::imprimeNF_3601.formFor(1);
+}
+const notes::Form& form5282() {
+    return notes::imprimeNF_E5282.formFor(5282);
+}
+
+const std::string threeParcels =
+    line({T(3, "1)"), L(5, 10, "DOC-1"), L(16, 10, "07/02/2009"), R(27, 12, "100,50"), T(42, "2)"),
+          L(44, 10, 'N'), L(55, 10, 'V'), R(66, 12, "123456789012345,00"), T(81, "3)"),
+          L(83, 10, "DOC-3"), L(94, 10, "07/04/2009"), R(105, 12, "1300,25")});
+
+std::string item(std::size_t unit, bool first) {
+    return first ? line({L(2, 10, 'P'), L(19, 65, 'D'), L(90, 4, "oSSS"), L(unit, 6, 'U'),
+                         R(110, 7, "10000000,000"), R(122, 13, unitPrice), R(138, 19, lineTotal),
+                         R(159, 2, "18")})
+                 : line({L(2, 10, "P-002"), L(19, 65, "ARRUELA LISA"), L(90, 4, "120"),
+                         L(unit, 6, "UN"), R(110, 7, "400,000"), R(122, 13, "1234,50"),
+                         R(138, 19, "493.800,00"), R(159, 2, "7")});
+}
+
+// Recipient, address and town.
+const std::string recipient =
+    line({L(2, 90, 'r'), L(102, 28, "12.345.678/0001-95"), L(142, 14, 'd')});
+const std::string address =
+    line({L(2, 68, 'e'), L(76, 35, 'b'), L(115, 12, "01310-100"), L(133, 14, "")});
+const std::string town =
+    line({L(2, 56, 'm'), L(68, 16, 'f'), L(101, 3, 'u'), L(109, 28, 'i'), L(143, 14, "")});
+// Totals, carrier and volumes.
+const std::string taxes = line({R(3, 25, wide('1')), R(33, 23, wide('2')), R(63, 22, wide('3')),
+                                R(101, 22, wide('4')), R(136, 25, wide('5'))});
+const std::string totals = line({R(3, 25, "10,00"), R(33, 23, "5,50"), R(63, 22, "0,25"),
+                                 R(101, 22, "80,04"), R(136, 25, "1.696,54")});
+const std::string carrier = line({L(2, 62, 't'), L(86, 2, 'q'), L(96, 13, 'p'), L(118, 2, 'v'),
+                                  L(124, 22, " 2.345.678/0001-10")});
+const std::string carrierTown =
+    line({L(2, 65, 'l'), L(79, 38, 'w'), L(119, 2, 's'), L(124, 20, 'k')});
+const std::string volumes =
+    line({R(2, 13, "12,000"), L(20, 17, "VOLUME"), L(42, 25, ""), L(69, 24, ""),
+          R(126, 22, "123.456.789.012.345,000"), R(149, 12, "1.200,000")});
+
+const std::vector<Line> paper3601 = {
+    {1, " "},
+    {3, line({T(150, "004567")})},
+    {5, line({T(110, "X")})},
+    {10, line({L(2, 52, 'n'), L(59, 8, 'c')})},
+    {12, recipient},
+    {14, address},
+    {15, town},
+    {18, threeParcels},
+    {26, item(97, true)},
+    {27, item(97, false)},
+    {28, " "},
+    {33, taxes},
+    {34, totals},
+    {37, carrier},
+    {38, carrierTown},
+    {40, volumes},
+    {42, line({T(2, ruler(1, 88))})},
+    {43, line({T(2, ruler(89, 88))})},
+    {44, line({T(2, ruler(601, 88))})},
+    {45, line({T(2, ruler(689, 88))})},
+    {46, line({L(2, 28, 'x'), L(35, 28, 'z')})},
+    {51, line({T(142, "004567")})},
+};
+
+const std::vector<Line> paper5282 = {
+    {1, line({T(150, "004567")})},
+    {3, line({T(110, "X")})},
+    {8, line({L(2, 50, 'n'), L(59, 8, 'c')})},
+    {10, recipient},
+    {12, address},
+    {13, town},
+    {16, threeParcels},
+    {24, item(98, true)},
+    {25, item(98, false)},
+    {26, " "},
+    {31, " "},
+    {32, taxes},
+    {33, totals},
+    {36, carrier},
+    {37, carrierTown},
+    {39, volumes},
+    {41, line({T(2, ruler(1, 88))})},
+    {42, line({T(2, ruler(89, 88))})},
+    {43, line({T(2, ruler(601, 88))})},
+    {44, line({T(2, ruler(689, 88))})},
+    {45, line({L(2, 28, 'x'), L(35, 28, 'z')})},
+    {50, line({T(142, "004567")})},
+};
+
+TEST(ImprimeNF3601, EveryLine) {
+    expectPaper(printed(form3601(), wideNote()), 53, paper3601);
+}
+
+TEST(ImprimeNFE5282, EveryLine) {
+    expectPaper(printed(form5282(), wideNote()), 54, paper5282);
+}
+
+TEST(ImprimeNF3601, SetUpAndFirstCalls) {
+    const std::vector<Job> jobs = print(form3601(), wideNote().xml());
+    ASSERT_EQ(jobs.size(), 2U);
+    EXPECT_EQ(jobs[0].writes, Lines{" \x0F\x1BM"});
+    EXPECT_EQ(jobs[1].writes[0], " \r\n\r\n");
+    const std::vector<Job> others = print(form5282(), wideNote().xml());
+    ASSERT_EQ(others.size(), 2U);
+    EXPECT_EQ(others[0].writes, Lines{" \x0F\x1BM"});
+    EXPECT_EQ(others[1].writes[0], line({T(150, "004567")}) + "\r\n\r\n");
+}
+
+// Parcels `from` to `to` of one row. The number has no width: behind one of two
+// digits all stands a column further right.
+std::string row(std::size_t from, std::size_t to) {
+    std::vector<Cell> cells;
+    std::size_t shift = 0;
+    for (std::size_t n = from; n <= to; ++n) {
+        const std::size_t start = 3 + 39 * (n - from) + shift;
+        cells.push_back(T(start, numbered("", n) + ")"));
+        shift += n > 9 ? 1 : 0;
+        const std::size_t behind = 5 + 39 * (n - from) + shift;
+        cells.push_back(L(behind, 10, numbered("D", n)));
+        cells.push_back(L(behind + 11, 10, numbered("VENC", n)));
+        cells.push_back(R(behind + 22, 12, numbered("", n) + ",50"));
+    }
+    return line(cells);
+}
+
+TEST(ImprimeNF3601, FourNumberedParcelsToARow) {
+    const std::pair<const notes::Form*, std::size_t> forms[] = {{&form3601(), 18},
+                                                                {&form5282(), 16}};
+    for (const auto& [form, at] : forms) {
+        const auto block = [form = form, at = at](int count) {
+            const Lines found = rows(printed(*form, wideParcels(count)), at, at + 8);
+            EXPECT_EQ(found[8].substr(0, 5), " PPPP") << count;
+            return Lines(found.begin(), found.begin() + 8);
+        };
+        EXPECT_EQ(block(0), (Lines{" ", "", "", "", "", "", "", ""}));
+        EXPECT_EQ(block(1), (Lines{row(1, 1), "", "", "", "", "", "", ""}));
+        EXPECT_EQ(block(3), (Lines{row(1, 3), "", "", "", "", "", "", ""}));
+        EXPECT_EQ(block(4), (Lines{row(1, 4), "  ", "", "", "", "", "", ""}));
+        EXPECT_EQ(block(8), (Lines{row(1, 4), row(5, 8), "  ", "", "", "", "", ""}));
+        EXPECT_EQ(block(11), (Lines{row(1, 4), row(5, 8), row(9, 11), "", "", "", "", ""}));
+        EXPECT_EQ(block(12), (Lines{row(1, 4), row(5, 8), row(9, 12), "  ", "", "", "", ""}));
+    }
+}
+
+TEST(ImprimeNF3601, TheFourthPlaceGoesOnByTheSameStep) {
+    const std::string four = linesOf(printed(form3601(), wideParcels(4)))[17];
+    EXPECT_EQ(four.substr(119),
+              line({T(2, "4)"), L(4, 10, "D4"), L(15, 10, "VENC4"), R(26, 12, "4,50")}).substr(1));
+    const std::string ninth = linesOf(printed(form3601(), wideParcels(12)))[19];
+    EXPECT_EQ(ninth.substr(2, 4), "9)D9");
+    EXPECT_EQ(ninth.substr(41, 5), "10)D1");
+    EXPECT_EQ(ninth.substr(81, 5), "11)D1");
+    EXPECT_EQ(ninth.substr(121, 5), "12)D1");
+}
+
+TEST(ImprimeNF3601, TooManyParcelsRaiseTheItemsByOneLine) {
+    const std::pair<const notes::Form*, std::size_t> forms[] = {{&form3601(), 18},
+                                                                {&form5282(), 16}};
+    for (const auto& [form, at] : forms) {
+        const std::string stream = printed(*form, wideParcels(13));
+        const Lines found = rows(stream, at, at + 7);
+        EXPECT_EQ(found[0], " N\xFAmero de Parcelas maior do que 12");
+        EXPECT_EQ(Lines(found.begin() + 1, found.begin() + 7), Lines(6));
+        EXPECT_EQ(found[7].substr(0, 5), " PPPP");
+        EXPECT_EQ(linesOf(stream).size(), linesOf(printed(*form, wideParcels(3))).size() - 1);
+    }
+}
+
+TEST(ImprimeNF3601, AFullFormKeepsOneBlankLine) {
+    // 3601 has one line behind the sixth item, 5282 one more.
+    EXPECT_EQ(rows(printed(form3601(), wideItems(6)), 32, 33), (Lines{" ", taxes}));
+    EXPECT_EQ(rows(printed(form5282(), wideItems(6)), 30, 32), (Lines{" ", " ", taxes}));
+    EXPECT_EQ(rows(printed(form3601(), wideItems(9)), 32, 33), (Lines{" ", taxes}));
+}
+
+TEST(ImprimeNF3601, APointInAQuantityGroups) {
+    NoteText note = wideItems(2);
+    note.items[0]["QTDE"] = "12.500";
+    note.items[0]["VALOR_UN"] = "2";
+    note.items[1].erase("QTDE");
+    note.items[1]["VALOR_UN"] = "2";
+    note.items[1]["ICMS"] = "17.5";
+    const auto amounts = [](const std::string& quantity, const std::string& total,
+                            const std::string& rate) {
+        return line({R(2, 7, quantity), R(14, 13, "2,00"), R(30, 19, total), R(51, 2, rate)})
+            .substr(1);
+    };
+    const Lines lines = rows(printed(form3601(), note), 26, 27);
+    EXPECT_EQ(lines[0].substr(109), amounts("12500,000", "25.000,00", "7"));
+    EXPECT_EQ(lines[1].substr(109), amounts("5,000", "10,00", "18"));
+}
+
+TEST(ImprimeNF3601, TwoLinesForEachText) {
+    const auto bands = [](const std::string& legal, const std::string& observation) {
+        const NoteText note = wideTexts(legal, observation);
+        const Lines lines = rows(printed(form3601(), note), 42, 46);
+        EXPECT_EQ(lines, rows(printed(form5282(), note), 41, 45));
+        EXPECT_EQ(lines.back(), line({L(2, 28, 'x'), L(35, 28, 'z')}));
+        return Lines(lines.begin(), lines.end() - 1);
+    };
+    EXPECT_EQ(bands("", ""), (Lines{" ", "", " ", ""}));
+    EXPECT_EQ(bands(ruler(1, 88), ruler(9, 88)),
+              (Lines{" " + ruler(1, 88), "", " " + ruler(9, 88), ""}));
+    EXPECT_EQ(bands(ruler(1, 89), ruler(9, 89)), (Lines{" " + ruler(1, 88), " " + ruler(89, 1),
+                                                        " " + ruler(9, 88), " " + ruler(97, 1)}));
+    EXPECT_EQ(bands(ruler(1, 177), ""), (Lines{" " + ruler(1, 88), " " + ruler(89, 88), " ", ""}));
+}
+
+TEST(ImprimeNF3601, AnOrderNumberOfZeroPrintsNothing) {
+    NoteText note = wideNote();
+    note.head["ID_VND_DIR"] = "0";
+    note.head["VENDEDOR"] = "MARIA";
+    EXPECT_EQ(linesOf(printed(form3601(), note))[45], line({L(2, 28, ""), L(35, 28, "MARIA")}));
+}
+
+}  // namespace
+}  // namespace tarn::test

@@ -1,0 +1,239 @@
+// The forms of company 3881 and of establishment 6001: two pitches, parcels below the
+// items.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "notes/layouts/layouts.h"
+#include "notes/wide_note.h"
+
+namespace tarn::test {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+const notes::Form& form3881() {
+    return notes::imprimeNF_3881.formFor(1);
+}
+const notes::Form& form6001() {
+    return notes::imprimeNF_E6001.formFor(6001);
+}
+
+// Each is a call of its own, with its blank.
+const std::string plain = " \x12";
+const std::string condensed = " \x0F\x1BM";
+
+const std::string recipient = plain + line({L(2, 46, 'r'), L(59, 18, "12.345.678/0001-95")}) +
+                              condensed + line({L(2, 14, 'd')});
+
+// The item's code goes ahead in its own call.
+const std::string firstItem =
+    line({L(3, 6, 'P')}) +
+    line({L(4, 70, 'D'), L(92, 4, "oSSS"), L(98, 4, 'U'), R(107, 7, "10.000.000,000"),
+          R(115, 12, unitPrice), R(134, 13, lineTotal), L(149, 2, "18,00")});
+const std::string secondItem =
+    line({L(3, 6, "P-002")}) +
+    line({L(4, 70, "ARRUELA LISA"), L(92, 4, "120"), L(98, 4, "UN"), R(107, 7, "400,000"),
+          R(115, 12, "1234,50"), R(134, 13, "493.800,00"), L(149, 2, "7,00")});
+
+std::string parcels(const Lines& documents, const Lines& dates, const Lines& values) {
+    std::vector<Cell> cells;
+    for (std::size_t i = 0; i < documents.size(); ++i) {
+        const std::size_t start = 3 + 48 * i;
+        cells.push_back(T(start, numbered("", i + 1) + ")"));
+        cells.push_back(L(start + 2, 10, documents[i]));
+        cells.push_back(L(start + 17, 10, dates[i]));
+        cells.push_back(R(start + 32, 10, values[i]));
+    }
+    return line(cells);
+}
+
+const std::string threeParcels =
+    parcels({"DOC-1", "NNNNNNNNNN", "DOC-3"}, {"07/02/2009", "VVVVVVVVVV", "07/04/2009"},
+            {"100,50", "123456789012345,00", "1300,25"});
+
+const std::vector<Line> paper3881 = {
+    {1, " "},
+    {2, line({T(152, "004567")})},
+    {4, line({T(99, "X")})},
+    {10, line({L(4, 40, 'n'), L(48, 7, 'c')})},
+    {13, recipient},
+    {15, plain + line({L(2, 34, 'e'), L(46, 17, 'b'), L(69, 12, "01310-100"), L(81, 10, "")})},
+    {17, line({L(2, 19, 'm'), L(29, 16, 'f'), L(51, 3, 'u'), L(62, 18, 'i'), L(86, 14, "")})},
+    {20, condensed + " "},
+    {21, firstItem},
+    {22, secondItem},
+    {23, condensed + " "},
+    {27, threeParcels},
+    {28, "  "},
+    {30, plain + line({R(3, 16, wide('1')), R(21, 10, wide('2')), R(36, 20, wide('3')),
+                       R(60, 16, wide('4')), R(80, 15, wide('5'))})},
+    {32, line({R(3, 16, "10,00"), R(21, 10, "5,50"), R(37, 20, "0,25"), R(61, 16, "80,04"),
+               R(81, 15, "1.696,54")})},
+    {35, line({L(2, 34, 't'), L(57, 2, 'q'), L(63, 11, 'p'), L(75, 2, 'v'),
+               L(78, 18, " 2.345.678/0001-10")})},
+    {37, line({L(2, 34, 'l'), L(46, 24, 'w'), L(75, 2, 's'), L(78, 18, 'k')})},
+    {39, line({R(6, 11, "12,000"), L(19, 11, "VOLUME"), L(35, 8, ""), L(45, 16, ""),
+               R(68, 16, "123.456.789.012.345,000"), R(87, 9, "1.200,000")})},
+    {42, line({T(2, ruler(1, 44))})},
+    {43, line({T(2, ruler(45, 44))})},
+    {44, line({T(2, ruler(89, 44))})},
+    {45, line({T(2, ruler(601, 44))})},
+    {46, line({T(2, ruler(645, 44))})},
+    {47, line({T(2, ruler(689, 44))})},
+    {52, line({T(10, "004567")})},
+};
+
+const std::vector<Line> paper6001 = {
+    {1, " "},
+    {2, line({T(152, "004567")})},
+    {4, line({T(99, "X")})},
+    {10, line({L(4, 40, 'n'), L(48, 7, 'c')})},
+    {13, recipient},
+    {15, plain + line({L(2, 34, 'e'), L(46, 17, 'b'), L(69, 12, "01310-100"), L(83, 14, "")})},
+    {16, line({L(2, 19, 'm'), L(29, 16, 'f'), L(51, 3, 'u'), L(62, 18, 'i'), L(86, 14, "")})},
+    {18, condensed + " "},
+    {19, firstItem},
+    {20, secondItem},
+    {21, condensed + " "},
+    {25, threeParcels},
+    {26, "  "},
+    {28, plain + line({R(3, 16, wide('1')), R(20, 10, wide('2')), R(35, 20, wide('3')),
+                       R(59, 16, wide('4')), R(79, 15, wide('5'))})},
+    {30, line({R(3, 16, "10,00"), R(20, 10, "5,50"), R(36, 20, "0,25"), R(60, 16, "80,04"),
+               R(80, 15, "1.696,54")})},
+    {33, line({L(2, 34, 't'), L(57, 2, 'q'), L(63, 11, 'p'), L(76, 2, 'v'),
+               L(79, 18, " 2.345.678/0001-10")})},
+    {34, line({L(2, 34, 'l'), L(46, 24, 'w'), L(76, 2, 's'), L(79, 18, 'k')})},
+    {35, line({R(6, 11, "12,000"), L(19, 11, "VOLUME"), L(35, 8, ""), L(45, 16, ""),
+               R(68, 16, "123.456.789.012.345,000"), R(87, 9, "1.200,000")})},
+    {37, line({T(2, ruler(1, 44))})},
+    {38, line({T(2, ruler(45, 44))})},
+    {39, line({T(2, ruler(89, 44))})},
+    {40, line({T(2, ruler(601, 44))})},
+    {41, line({T(2, ruler(645, 44))})},
+    {42, line({T(2, ruler(689, 44))})},
+    {47, line({T(12, "004567")})},
+};
+
+TEST(ImprimeNF3881, EveryLine) {
+    expectPaper(printed(form3881(), wideNote()), 55, paper3881);
+}
+
+TEST(ImprimeNFE6001, EveryLine) {
+    expectPaper(printed(form6001(), wideNote()), 50, paper6001);
+}
+
+TEST(ImprimeNF3881, ControlBytesAreCallsOfTheirOwn) {
+    for (const notes::Form* form : {&form3881(), &form6001()}) {
+        const std::vector<Job> jobs = print(*form, wideNote().xml());
+        ASSERT_EQ(jobs.size(), 2U);
+        EXPECT_EQ(jobs[0].writes, Lines{condensed});
+        const Lines& writes = jobs[1].writes;
+        EXPECT_EQ(writes[0], " \r\n");
+        EXPECT_EQ(writes[4], plain);
+        EXPECT_EQ(writes[6], condensed);
+        EXPECT_EQ(writes[8], plain);
+        EXPECT_EQ(writes[11], condensed);
+        EXPECT_EQ(writes[12], " \r\n");
+        EXPECT_EQ(writes[13], line({L(3, 6, 'P')}));
+        EXPECT_EQ(writes[17], condensed);
+        EXPECT_EQ(writes[18], " \r\n\r\n\r\n\r\n");
+        EXPECT_EQ(writes[21], plain);
+        // Not before the carrier.
+        EXPECT_EQ(std::count(writes.begin(), writes.end(), plain), 3);
+        EXPECT_EQ(std::count(writes.begin(), writes.end(), condensed), 3);
+    }
+}
+
+TEST(ImprimeNF3881, ParcelsHaveTheirNumbersBelowTheItems) {
+    const Lines documents = {"D1", "D2", "D3"};
+    const Lines dates = {"VENC1", "VENC2", "VENC3"};
+    const Lines values = {"1,50", "2,50", "3,50"};
+    const std::pair<const notes::Form*, std::size_t> forms[] = {{&form3881(), 27},
+                                                                {&form6001(), 25}};
+    for (const auto& [form, at] : forms) {
+        const auto block = [form = form, at = at](int count) {
+            return rows(printed(*form, wideParcels(count)), at - 1, at + 2);
+        };
+        EXPECT_EQ(block(0), (Lines{"", " ", "", ""}));
+        EXPECT_EQ(block(1), (Lines{"", parcels({"D1"}, {"VENC1"}, {"1,50"}), "", ""}));
+        EXPECT_EQ(block(2),
+                  (Lines{"", parcels({"D1", "D2"}, {"VENC1", "VENC2"}, {"1,50", "2,50"}), "", ""}));
+        EXPECT_EQ(block(3), (Lines{"", parcels(documents, dates, values), "  ", ""}));
+        EXPECT_EQ(block(4), (Lines{"", " N\xFAmero de Parcelas maior do que 3", "", ""}));
+        for (const int count : {0, 1, 2, 3, 4, 12}) {
+            const std::string totals = linesOf(printed(*form, wideParcels(count)))[at + 2];
+            EXPECT_EQ(totals.substr(0, 7), plain + "  123") << count;
+        }
+    }
+}
+
+// A full form has no blank lines, but their call still sends its blank ahead of the
+// parcels.
+TEST(ImprimeNF3881, AFullFormHasItsParcelsBehindTwoBlanks) {
+    const NoteText six = [] {
+        NoteText note = wideItems(6);
+        note.head["QTDE_PARC"] = "1";
+        return note;
+    }();
+    const std::string expected = condensed + " " + parcels({"DOC-1"}, {"07/02/2009"}, {"100,50"});
+    EXPECT_EQ(linesOf(printed(form3881(), six))[26], expected);
+    EXPECT_EQ(linesOf(printed(form6001(), six))[24], expected);
+}
+
+TEST(ImprimeNF3881, OnlyHereDoesAPointInAQuantityStayDecimal) {
+    NoteText note = wideItems(3);
+    note.items[0]["QTDE"] = "12.500";
+    note.items[0]["VALOR_UN"] = "2";
+    note.items[1]["QTDE"] = "1000";
+    note.items[2].erase("QTDE");
+    note.items[2]["VALOR_UN"] = "2";
+    const auto item = [](const std::string& code, const std::string& quantity,
+                         const std::string& price, const std::string& total) {
+        return line({L(3, 6, code)}) +
+               line({L(4, 70, "ARRUELA LISA"), L(92, 4, "120"), L(98, 4, "UN"), R(107, 7, quantity),
+                     R(115, 12, price), R(134, 13, total), L(149, 2, "7,00")});
+    };
+    EXPECT_EQ(rows(printed(form3881(), note), 21, 23),
+              (Lines{item("C1", "12,500", "2,00", "25,00"),
+                     item("C2", "1.000,000", "1234,50", "1.234.500,00"),
+                     item("C3", "5,000", "2,00", "10,00")}));
+}
+
+TEST(ImprimeNF3881, ABadAmountKeepsTheCodeOffThePaper) {
+    for (const char* field : {"QTDE", "VALOR_UN", "ICMS"}) {
+        NoteText note = wideItems(2);
+        note.items[1][field] = "nada";
+        const Lines lines = linesOf(untilTypeError(form3881(), note));
+        ASSERT_EQ(lines.size(), 22U) << field;
+        EXPECT_EQ(lines[21], "");
+    }
+}
+
+TEST(ImprimeNF3881, TextsShareTheirBandsByLength) {
+    const auto bands = [](const std::string& legal, const std::string& observation) {
+        const NoteText note = wideTexts(legal, observation);
+        const Lines lines = rows(printed(form3881(), note), 42, 52);
+        // Establishment 6001 has the same bands five lines higher.
+        Lines others = rows(printed(form6001(), note), 37, 47);
+        others.back() = lines.back();
+        EXPECT_EQ(lines, others);
+        return Lines(lines.begin(), lines.end() - 1);
+    };
+    const auto text = [](std::size_t start, std::size_t length) {
+        return " " + ruler(start, length);
+    };
+    EXPECT_EQ(bands("", ""), (Lines{" ", "", "", " ", "", "", "", "", "", ""}));
+    EXPECT_EQ(bands(ruler(1, 44), ""), (Lines{text(1, 44), "", "", " ", "", "", "", "", "", ""}));
+    EXPECT_EQ(bands(ruler(1, 45), "A"),
+              (Lines{text(1, 44), text(45, 1), "", " A", "", "", "", "", "", ""}));
+    EXPECT_EQ(bands("", ruler(1, 88)),
+              (Lines{" ", "", "", text(1, 44), text(45, 44), "", "", "", "", ""}));
+    EXPECT_EQ(bands(ruler(1, 133), ruler(1, 133)),
+              (Lines{text(1, 44), text(45, 44), text(89, 44), text(1, 44), text(45, 44),
+                     text(89, 44), "", "", "", ""}));
+}
+
+}  // namespace
+}  // namespace tarn::test

@@ -1,0 +1,63 @@
+// Paper as the form tests tell it: each printed line as cells at their columns, and
+// a note whose values fill or overflow every field, so that widths show.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "notes/layout.h"
+#include "notes/note_fixture.h"
+
+namespace tarn::test {
+
+// What stands at a column, counted from 1, in windows-1252.
+struct Cell {
+    std::size_t column;
+    std::string text;
+};
+
+// "2:38" and "23:17 R" of a form: cut to the width, else padded.
+Cell L(std::size_t column, std::size_t width, std::string text);
+Cell L(std::size_t column, std::size_t width, char filled);
+Cell R(std::size_t column, std::size_t width, std::string text);
+// Takes the room of its text.
+Cell T(std::size_t column, std::string text);
+
+// One line, from the blank in column 1 to the end of its last cell.
+std::string line(const std::vector<Cell>& cells);
+
+struct Line {
+    std::size_t number;  // from 1
+    std::string text;
+};
+
+// The told lines, every other one without a character, and the number of line ends.
+void expectPaper(const std::string& stream, std::size_t lineEnds, const std::vector<Line>& told);
+
+// `length` characters from `start`, counted from 1, of a text that doesn't repeat
+// itself within a few hundred characters.
+std::string ruler(std::size_t start, std::size_t length);
+
+// Texts of 200 letters, one letter for each field (NatOper "n", RAZAO "r", ...), a
+// legal text of 400 characters of the ruler, amounts both short and too long. Three
+// parcels, two items, six item lines.
+NoteText fullNote();
+
+// Amounts of the totals row's first line: 22 characters that begin with `digit`.
+std::string wide(char digit);
+
+// Of the first item.
+inline constexpr const char* unitPrice = "123456789,00";
+inline constexpr const char* lineTotal = "1.234.567.890.000.000,00";
+
+// "D1", "1,50" and "VENC1" for the first parcel and so on.
+NoteText withParcels(int count);
+// That many items of the full note's second kind.
+NoteText withItems(std::size_t count);
+
+// The lines from `number` on, as one text.
+std::string below(const std::string& stream, std::size_t number);
+
+}  // namespace tarn::test
