@@ -29,11 +29,14 @@ std::string ordersOf(int rows) {
     std::string all;
     for (int i = 1; i <= rows; ++i) {
         const std::string n = std::to_string(i);
-        all += "<z:row ID_ORD_FAT='" + n + "' NM_PES_CPL='COMÉRCIO DE PEÇAS " + n +
-               " LTDA' NM_RDU='MATRIZ SÃO PAULO' DC_TIP_NF='VENDA DE MERCADORIA' "
-               "DT_GER_OFT='12/03/2012' ID_ORD_CRG='" +
-               n + "' TRANSPORTADORA='TRANSPORTES RÁPIDOS' NM_PES_MOT='JOÃO' DC_OBS='' QT_ESP='" +
-               n + ".5' PESO_BRU='1234.891' PESO_LIQ='1200'/>";
+        all.append("<z:row ID_ORD_FAT='").append(n);
+        all.append("' NM_PES_CPL='COMÉRCIO DE PEÇAS ").append(n);
+        all.append(
+            " LTDA' NM_RDU='MATRIZ SÃO PAULO' DC_TIP_NF='VENDA DE MERCADORIA' "
+            "DT_GER_OFT='12/03/2012' ID_ORD_CRG='");
+        all.append(n);
+        all.append("' TRANSPORTADORA='TRANSPORTES RÁPIDOS' NM_PES_MOT='JOÃO' DC_OBS='' QT_ESP='");
+        all.append(n).append(".5' PESO_BRU='1234.891' PESO_LIQ='1200'/>");
     }
     return tarn::answers::rowset(all);
 }
@@ -89,7 +92,7 @@ void order_list(benchmark::State& state) {
     AnswerAtHand server;
     server.setAnswer(answers[screenful]);
     ShownList list(server);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (const int rows : sizes) {
             server.setAnswer(answers[rows]);
             const int repeats = rows <= 100 ? 20 : 1;
