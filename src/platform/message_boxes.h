@@ -10,7 +10,7 @@ enum class BoxButtons { Ok, YesNo };
 enum class BoxAnswer { Ok, Yes, No };
 
 struct Box {
-    std::string text;                     // UTF-8; a line ends with CR, LF or CR LF
+    std::string text;  // UTF-8; a line ends with CR, LF or CR LF
     BoxIcon icon = BoxIcon::None;
     std::string title = "TarnEmissao";    // the default title
     BoxButtons buttons = BoxButtons::Ok;  // Yes is the default of YesNo

@@ -32,8 +32,7 @@ bool entra(Environment& ambiente, Sessao& sessao, const std::string& empresa,
 std::string inverteData(std::string_view data);
 
 // The rights check, sent at each opening; false: the user has been told.
-bool VerificaDireitoAcesso(Environment& ambiente, const Sessao& sessao,
-                           std::string_view transacao);
+bool VerificaDireitoAcesso(Environment& ambiente, const Sessao& sessao, std::string_view transacao);
 
 // NM_FIL of the session's establishment; ErroExecucao when there is no row.
 std::string nomeFilial(Environment& ambiente, const Sessao& sessao);

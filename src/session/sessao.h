@@ -20,7 +20,7 @@ struct Sessao {
     std::string ConfirmaMensagem;  // "S" or "N", what it answers
     std::string TipoEtiqueta;      // "C" clients, "F" suppliers
     std::string DirSistema;
-    std::string PrefixoArquivo;    // stays empty; prefix of the optional copy of an answer
+    std::string PrefixoArquivo;  // stays empty; prefix of the optional copy of an answer
 };
 
 }  // namespace tarn
