@@ -56,6 +56,7 @@ public:
     explicit ShownList(AnswerAtHand& server)
         : environment_{.http = server,
                        .spooler = seams_.spooler,
+                       .printer = seams_.printer,
                        .boxes = seams_.boxes,
                        .clock = seams_.clock,
                        .machine = seams_.machine,
