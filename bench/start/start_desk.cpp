@@ -9,10 +9,10 @@ int main(int argc, char** argv) {
     }
     tarn::Opcoes options;
     options.baseUrl = argv[1];
-    auto printer = tarn::impressoraDe(options);
+    auto printers = tarn::impressorasDe(options);
     tarn::DeskApplication program(argc, argv);
     const tarn::bench::EndAtPaint end(QStringLiteral("FrmLogon"));
-    tarn::Mesa desk(program, options, std::move(printer));
+    tarn::Mesa desk(program, options, std::move(printers));
     desk.abre();
     return tarn::DeskApplication::exec() + 1;  // it should have ended at the paint
 }
