@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QListView>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
@@ -85,18 +84,7 @@ protected:
         ASSERT_EQ(mostrado("LBLNOTA"), "4567");
         server.addresses.clear();
     }
-    // Opens the list and clicks the item.
-    void escolhe(const char* lista, int linha) {
-        auto& combo = named<QComboBox>(tela(), lista);
-        combo.setFocus();
-        QTest::keyClick(&combo, Qt::Key_Space);
-        QAbstractItemView& itens = *combo.view();
-        ASSERT_TRUE(itens.isVisible());
-        const QModelIndex item = itens.model()->index(linha, 0);
-        QTest::mouseClick(itens.viewport(), Qt::LeftButton, {}, itens.visualRect(item).center());
-        ASSERT_FALSE(itens.isVisible());
-        ASSERT_EQ(combo.currentIndex(), linha);
-    }
+    void escolhe(const char* lista, int linha) { pick(tela(), lista, linha); }
 
     FrmReImprimeNF& tela() { return named<FrmReImprimeNF>(menu, "FrmReImprimeNF"); }
     bool aberta() { return menu.findChild<FrmReImprimeNF*>() != nullptr; }
