@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 #include <QShortcut>
+#include <QStyledItemDelegate>
 #include <QVariant>
 
 #include "common/field_controller.h"
@@ -16,6 +17,7 @@ namespace {
 
 // A label's tag: the code behind what it shows.
 constexpr char tag[] = "Tag";
+constexpr int folgaDoItem = 6;  // pixels added to the height of an open list's item
 
 std::string texto(const QLabel& rotulo) {
     return rotulo.text().toStdString();
@@ -34,6 +36,20 @@ void poe(QLabel& rotulo, const std::string& valor, const std::string& codigo) {
     rotulo.setProperty(tag, QString::fromStdString(codigo));
 }
 
+// An open list is as wide as its items; the code behind a series' gap isn't shown.
+class ItemDeSerie : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& item, const QLocale& /*locale*/) const override {
+        const QString inteiro = item.toString();
+        return inteiro.left(inteiro.lastIndexOf(u'|')).trimmed();
+    }
+    QSize sizeHint(const QStyleOptionViewItem& opcao, const QModelIndex& item) const override {
+        return QStyledItemDelegate::sizeHint(opcao, item) + QSize(0, folgaDoItem);
+    }
+};
+
 }  // namespace
 
 FrmReImprimeNF::FrmReImprimeNF(DeskContext& desk, TrabalhoNota trabalho)
@@ -41,6 +57,11 @@ FrmReImprimeNF::FrmReImprimeNF(DeskContext& desk, TrabalhoNota trabalho)
     ui_->setupUi(this);
     new FieldController(ui_->txtNF, KeyFilter::NumeroVirgula, desk.ambiente,
                         FieldController::EnterKey::BeepOnly);
+    ui_->cboSerie->setItemDelegate(new ItemDeSerie(this));
+    // A customer's name may take two lines.
+    const QLabel& cliente = *ui_->LBLCliente;
+    ui_->LBLCliente->setMinimumHeight(2 * cliente.fontMetrics().lineSpacing() +
+                                      2 * (cliente.margin() + cliente.frameWidth()));
     prepara(trabalho);
     preparaBotoes();
     connect(ui_->txtNF, &QLineEdit::textChanged, this, &FrmReImprimeNF::LimpaDados);

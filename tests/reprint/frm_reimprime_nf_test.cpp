@@ -2,6 +2,7 @@
 #include "reprint/frm_reimprime_nf.h"
 
 #include <QButtonGroup>
+#include <QStyledItemDelegate>
 
 #include "reprint/tela_de_nota.h"
 
@@ -148,6 +149,10 @@ TEST_F(FrmReImprimeNFTest, ListsShowWhatWasReadWithNothingChosen) {
     EXPECT_EQ(series.itemText(0).toStdString(), "Série 1" + std::string(50, ' ') + "|1");
     EXPECT_EQ(series.itemText(1).toStdString(), "Série única" + std::string(50, ' ') + "|U");
     EXPECT_EQ(series.currentIndex(), -1);
+    EXPECT_EQ(static_cast<QStyledItemDelegate*>(series.itemDelegate())
+                  ->displayText(series.itemText(1), QLocale()),
+              QStringLiteral("Série única"))
+        << "the open list doesn't show the code";
     auto& motivos = named<QComboBox>(tela(), "CboMot_Can");
     ASSERT_EQ(motivos.count(), 2);
     EXPECT_EQ(motivos.itemText(0).toStdString(), "Erro de digitação");
