@@ -203,7 +203,7 @@ int anda(DeskApplication& programa, const Entrada& entrada) {
     Opcoes opcoes;
     opcoes.baseUrl = enderecoDoServidor(entrada.servidor);
     opcoes.impressoraVirtual = entrada.pasta;
-    Mesa mesa(programa, opcoes, impressoraDe(opcoes));
+    Mesa mesa(programa, opcoes, impressorasDe(opcoes));
     Roteiro roteiro(QString::fromStdString(entrada.pasta));
     escreveEmissao(roteiro, entrada);
     escreveReimpressao(roteiro, entrada);
