@@ -1,8 +1,13 @@
 // The main job of a clerk in the real screens, without anybody at the keys: logon,
-// list, an order that is refused, one without stock, and one that becomes a note.
-// Leaves a picture of every step and the printed jobs in a folder.
+// list, an order that is refused, one without stock, and one that becomes a note; that
+// note is printed again and cancelled. Leaves a picture of every step and the printed
+// jobs in a folder.
 #include <CLI/CLI.hpp>
+#include <QAbstractItemView>
 #include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
@@ -69,6 +74,34 @@ void marca(QWidget& tela, int linha) {
     QTest::mouseClick(grade.viewport(), Qt::LeftButton, {}, grade.visualRect(celula).center());
 }
 
+// Opens the list and clicks the item of that row.
+void escolheNaLista(QWidget& tela, const char* lista, int linha) {
+    auto& combo = filho<QComboBox>(tela, lista);
+    combo.setFocus();
+    QTest::keyClick(&combo, Qt::Key_Space);
+    QAbstractItemView& itens = *combo.view();
+    const QRect lugar = itens.visualRect(itens.model()->index(linha, 0));
+    QTest::mouseClick(itens.viewport(), Qt::LeftButton, {}, lugar.center());
+}
+
+// The number of the note that came out last, read off its paper: the first line's
+// columns 125 to 130.
+std::string numeroNoPapel(const std::string& pasta) {
+    const QDir folhas(QString::fromStdString(pasta));
+    const QStringList jobs = folhas.entryList({"job-*.prn"}, QDir::Files, QDir::Name);
+    QFile nota(jobs.isEmpty() ? QString() : folhas.filePath(jobs.last()));
+    if (!nota.open(QIODevice::ReadOnly)) {
+        qFatal("a nota não saiu na impressora");
+    }
+    return nota.readAll().mid(124, 6).toStdString();
+}
+
+void pesquisa(QWidget& tela, const std::string& numero) {
+    escolheNaLista(tela, "cboSerie", 0);
+    digita(tela, "txtNF", numero);
+    clica(tela, "cmdPesquisar");
+}
+
 void aceita(QWidget& caixa) {
     QTest::keyClick(&caixa, Qt::Key_Return);
 }
@@ -82,7 +115,7 @@ constexpr int comObservacao = 5;
 constexpr int semEstoque = 6;
 constexpr int recusada = 7;
 
-void escreve(Roteiro& roteiro, const Entrada& entrada) {
+void escreveEmissao(Roteiro& roteiro, const Entrada& entrada) {
     roteiro
         .quando("FrmLogon", "logon",
                 [&](QWidget& janela) {
@@ -125,8 +158,45 @@ void escreve(Roteiro& roteiro, const Entrada& entrada) {
                     const QRect lugar = barra.actionGeometry(&filho<QAction>(janela, "mnuAjuda"));
                     QTest::mouseClick(&barra, Qt::LeftButton, {}, lugar.center());
                 })
-        .quando("frmAjuda", "ajuda", [](QWidget& dialogo) { clica(dialogo, "cmdVoltar"); })
-        .quando("MDIMenu", "fim", [](QWidget& janela) { janela.close(); });
+        .quando("frmAjuda", "ajuda", [](QWidget& dialogo) { clica(dialogo, "cmdVoltar"); });
+}
+
+void escreveReimpressao(Roteiro& roteiro, const Entrada& entrada) {
+    roteiro
+        .quando("MDIMenu", "",
+                [](QWidget& janela) {
+                    abreMenu(janela, "mnuNF");
+                    escolhe(janela, "mnuNF", "mRINF");
+                })
+        .quando("FrmReImprimeNF", "reimpressao",
+                [&](QWidget& tela) {
+                    pesquisa(tela, numeroNoPapel(entrada.pasta));
+                    roteiro.fotografa(tela, "reimpressao-preenchida");
+                    clica(tela, "cmdSelecionar");
+                })
+        .quando("FrmReImprimeNF", "", [](QWidget& tela) { clica(tela, "CmdFechar"); });
+}
+
+void escreveCancelamento(Roteiro& roteiro, const Entrada& entrada) {
+    roteiro
+        .quando("MDIMenu", "",
+                [](QWidget& janela) {
+                    abreMenu(janela, "mnuNF");
+                    escolhe(janela, "mnuNF", "mCNF");
+                })
+        .quando("FrmReImprimeNF", "cancelamento",
+                [&](QWidget& tela) {
+                    pesquisa(tela, numeroNoPapel(entrada.pasta));
+                    auto& semNovo = filho<QWidget>(tela, "OptionReimp_1");
+                    QTest::mouseClick(&semNovo, Qt::LeftButton, {}, {8, semNovo.height() / 2});
+                    escolheNaLista(tela, "CboMot_Can", 1);
+                    roteiro.fotografa(tela, "cancelamento-preenchido");
+                    clica(tela, "cmdSelecionar");
+                })
+        .quando("MessageBox", "nota-cancelada", aceita)
+        .quando("FrmReImprimeNF", "", [](QWidget& tela) { clica(tela, "cmdPesquisar"); })
+        .quando("MessageBox", "nota-nao-encontrada", aceita)
+        .quando("FrmReImprimeNF", "", [](QWidget& tela) { clica(tela, "CmdFechar"); });
 }
 
 int anda(DeskApplication& programa, const Entrada& entrada) {
@@ -135,7 +205,10 @@ int anda(DeskApplication& programa, const Entrada& entrada) {
     opcoes.impressoraVirtual = entrada.pasta;
     Mesa mesa(programa, opcoes, impressorasDe(opcoes));
     Roteiro roteiro(QString::fromStdString(entrada.pasta));
-    escreve(roteiro, entrada);
+    escreveEmissao(roteiro, entrada);
+    escreveReimpressao(roteiro, entrada);
+    escreveCancelamento(roteiro, entrada);
+    roteiro.quando("MDIMenu", "fim", [](QWidget& janela) { janela.close(); });
     QObject::connect(&roteiro, &Roteiro::acabou, [](const QString& motivo) {
         if (!motivo.isEmpty()) {
             std::fprintf(stderr, "tarnroteiro: %s.\n", qPrintable(motivo));

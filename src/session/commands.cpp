@@ -148,7 +148,7 @@ std::string sp_can_nf(const Sessao& sessao, const Cancelamento& dados) {
                      {"&CD_SER_NF=", dados.serie},
                      {"&id_mot_can=", dados.motivo},
                      {"&id_pes_usu=", sessao.UserCode},
-                     {"", dados.comReimpressao ? "&Tipo_Can=S" : "&Tipo_Can=C"},
+                     {"", dados.semNovoFaturamento ? "&Tipo_Can=S" : "&Tipo_Can=C"},
                      {"&ServerName=", sessao.SERVERNAME}});
 }
 

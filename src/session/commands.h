@@ -41,8 +41,8 @@ struct Cancelamento {
     std::string_view tipoNota = {};
     std::string_view nota = {};
     std::string_view serie = {};
-    std::int32_t motivo = 0;     // item data
-    bool comReimpressao = true;  // Tipo_Can: S, otherwise C
+    std::int32_t motivo = 0;          // item data
+    bool semNovoFaturamento = false;  // Tipo_Can: S, otherwise C
 };
 std::string sp_can_nf(const Sessao& sessao, const Cancelamento& dados);
 std::string SEL_SERIE_NF(const Sessao& sessao);

@@ -11,6 +11,7 @@
 #include "common/frm_ajuda.h"
 #include "platform/machine.h"
 #include "platform/qt/wait_cursor.h"
+#include "reprint/frm_reimprime_nf.h"
 #include "session/aparencia.h"
 #include "session/aviso_impressora.h"
 #include "session/entrada.h"
@@ -62,8 +63,10 @@ void MDIMenu::ligaMenu() {
     connect(ui_->mnuImprClientes, &QAction::triggered, this, [this] { etiquetas("C"); });
     connect(ui_->mnuImprFornecedores, &QAction::triggered, this, [this] { etiquetas("F"); });
     connect(ui_->mOFT, &QAction::triggered, this, &MDIMenu::mOFT_Click);
-    futura(ui_->mRINF, "EMI002", "Reimpressão de Nota Fiscal");
-    futura(ui_->mCNF, "EMI003", "Cancelamento de Nota Fiscal");
+    connect(ui_->mRINF, &QAction::triggered, this,
+            [this] { nota("EMI002", TrabalhoNota::Reimpressao); });
+    connect(ui_->mCNF, &QAction::triggered, this,
+            [this] { nota("EMI003", TrabalhoNota::Cancelamento); });
     futura(ui_->mnuDuplicata, nullptr, "Duplicata/Recibo");
     futura(ui_->mnuBoleto, nullptr, "Boleto Bancário");
     futura(ui_->mnuChequeImpressao, "EMI005", "Impressão de Cheque");
@@ -122,15 +125,21 @@ void MDIMenu::etiquetas(const char* tipo) {
 
 void MDIMenu::mOFT_Click() {
     if (temDireito("EMI001")) {
-        abreFaturamento();
+        abreNaArea(new FrmOFT(desk_));
     }
 }
 
-void MDIMenu::abreFaturamento() {
-    auto* tela = new FrmOFT(desk_);
+void MDIMenu::nota(const char* transacao, TrabalhoNota trabalho) {
+    if (temDireito(transacao)) {
+        abreNaArea(new FrmReImprimeNF(desk_, trabalho));
+    }
+}
+
+template <typename Tela>
+void MDIMenu::abreNaArea(Tela* tela) {
     tela->setAttribute(Qt::WA_DeleteOnClose);
-    connect(tela, &FrmOFT::carregou, this, &MDIMenu::travaMenus);
-    connect(tela, &FrmOFT::fechou, this, &MDIMenu::LiberaMenus);
+    connect(tela, &Tela::carregou, this, &MDIMenu::travaMenus);
+    connect(tela, &Tela::fechou, this, &MDIMenu::LiberaMenus);
     QMdiSubWindow* janela =
         ui_->mdiArea->addSubWindow(tela, Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                              Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);

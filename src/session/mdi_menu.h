@@ -18,6 +18,8 @@ class MDIMenu;
 
 namespace tarn {
 
+enum class TrabalhoNota;
+
 class MDIMenu : public QMainWindow {
     Q_OBJECT
 
@@ -43,11 +45,15 @@ private:
     void ativa();
     bool temDireito(const char* transacao);
     void abreModal(QDialog& tela);
-    void abreFaturamento();
+    // Puts a screen that stays open beside the menu into the desk's area; while it is
+    // there mnuEtiquetas and mnuNF are disabled.
+    template <typename Tela>
+    void abreNaArea(Tela* tela);
     void centraliza(QMdiSubWindow* janela);
 
     void etiquetas(const char* tipo);
     void mOFT_Click();
+    void nota(const char* transacao, TrabalhoNota trabalho);
     void mnuAjuda_Click();
 
     DeskContext& desk_;

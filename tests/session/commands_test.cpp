@@ -86,7 +86,7 @@ const std::vector<Caso>& catalogo() {
          "comando=SEL_NF&ID_ETB_TARN=3381&ID_NF_KESTO=555&CD_SER_NF=A&ServerName=SRV1"},
         {comando::sp_can_nf(
              sessao,
-             {.tipoNota = "S", .nota = "555", .serie = "A", .motivo = 9, .comReimpressao = true}),
+             {.tipoNota = "S", .nota = "555", .serie = "A", .motivo = 9, .semNovoFaturamento = true}),
          "comando=sp_can_nf&ID_ETB_TARN=3381&IC_TIP_NF=S&ID_NF_KESTO=555&CD_SER_NF=A&id_mot_can=9"
          "&id_pes_usu=u 7&Tipo_Can=S&ServerName=SRV1"},
         {comando::SEL_SERIE_NF(sessao), "comando=SEL_SERIE_NF&ServerName=SRV1"},
@@ -186,7 +186,7 @@ TEST(Comandos, CancellationWithoutReprint) {
     EXPECT_EQ(
         comando::sp_can_nf(
             sessao,
-            {.tipoNota = "E", .nota = "1", .serie = "", .motivo = -1, .comReimpressao = false}),
+            {.tipoNota = "E", .nota = "1", .serie = "", .motivo = -1, .semNovoFaturamento = false}),
         "comando=sp_can_nf&ID_ETB_TARN=3381&IC_TIP_NF=E&ID_NF_KESTO=1&CD_SER_NF="
         "&id_mot_can=-1&id_pes_usu=u 7&Tipo_Can=C&ServerName=SRV1");
 }

@@ -178,9 +178,7 @@ TEST_F(MDIMenuTest, TheEntriesAskForTheirRightAndSayThatTheScreenComesLater) {
         const char* menuName;
         const char* entry;
         const char* right;
-    } asked[] = {{"mnuNF", "mRINF", "EMI002"},
-                 {"mnuNF", "mCNF", "EMI003"},
-                 {"mnuCheque", "mnuChequeImpressao", "EMI005"}};
+    } asked[] = {{"mnuCheque", "mnuChequeImpressao", "EMI005"}};
     for (const auto& one : asked) {
         rights(one.right, "OK");
         choose(menu, one.menuName, one.entry);
@@ -192,7 +190,7 @@ TEST_F(MDIMenuTest, TheEntriesAskForTheirRightAndSayThatTheScreenComesLater) {
         EXPECT_EQ(boxes.shown.back().icon, BoxIcon::Information);
         EXPECT_EQ(boxes.shown.back().title, "TarnEmissao");
     }
-    EXPECT_EQ(boxes.shown.size(), 3U);
+    EXPECT_EQ(boxes.shown.size(), 1U);
 }
 
 TEST_F(MDIMenuTest, EntriesWithoutARightAskNothing) {

@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
@@ -43,6 +45,19 @@ inline void type(const QObject& screen, const char* name, const char* text) {
     field.setFocus();
     field.selectAll();
     keys(field, text);
+}
+
+// Opens a drop-down list and clicks the item.
+inline void pick(const QObject& screen, const char* name, int row) {
+    auto& list = named<QComboBox>(screen, name);
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Space);
+    QAbstractItemView& items = *list.view();
+    ASSERT_TRUE(items.isVisible()) << name << " didn't open";
+    const QModelIndex item = items.model()->index(row, 0);
+    QTest::mouseClick(items.viewport(), Qt::LeftButton, {}, items.visualRect(item).center());
+    ASSERT_FALSE(items.isVisible()) << name << " stayed open";
+    ASSERT_EQ(list.currentIndex(), row);
 }
 
 // A key to whatever has the focus in the window.

@@ -1,0 +1,54 @@
+// One screen for two jobs on a fiscal note that exists on the server: to print it
+// again, or to cancel it. Which one shows in FrmCancelaNF being visible.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "reprint/reimpressao.h"
+#include "session/desk_context.h"
+
+namespace Ui {
+class FrmReImprimeNF;
+}
+
+namespace tarn {
+
+enum class TrabalhoNota { Reimpressao, Cancelamento };
+
+class FrmReImprimeNF : public QWidget {
+    Q_OBJECT
+
+public:
+    FrmReImprimeNF(DeskContext& desk, TrabalhoNota trabalho);
+    ~FrmReImprimeNF() override;
+
+    // On opening: the desk's menus are disabled (carregou), the two lists are read.
+    void carrega();
+
+signals:
+    void carregou();
+    void fechou();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void prepara(TrabalhoNota trabalho);
+    void preparaBotoes();
+    void encheListas();
+    CamposNota campos() const;
+    void mostra(const NotaEncontrada& nota);
+    bool cancelando() const;
+    // Forgets the note that was found.
+    void LimpaDados();
+
+    void cmdPesquisar_Click();
+    void cmdSelecionar_Click();
+    void CmdFechar_Click();
+
+    DeskContext& desk_;
+    std::unique_ptr<Ui::FrmReImprimeNF> ui_;
+};
+
+}  // namespace tarn
