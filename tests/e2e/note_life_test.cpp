@@ -133,7 +133,7 @@ protected:
     PracticePage page;
     CurlLoader curl;
     BlockingLoader network{curl};
-    Environment overHttp{network, spooler, boxes, clock, machine, page.baseUrl()};
+    Environment overHttp{network, spooler, printer, boxes, clock, machine, page.baseUrl()};
     DeskContext netDesk{overHttp, sessao, fim};
     MDIMenu menu{netDesk};
 };
