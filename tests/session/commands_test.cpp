@@ -84,9 +84,11 @@ const std::vector<Caso>& catalogo() {
          "comando=sel_impr_ordem_fatu&ID_ETB_TARN=3381&ID_ORD_FAT=12&ServerName=SRV1"},
         {comando::SEL_NF(sessao, "555", "A"),
          "comando=SEL_NF&ID_ETB_TARN=3381&ID_NF_KESTO=555&CD_SER_NF=A&ServerName=SRV1"},
-        {comando::sp_can_nf(
-             sessao,
-             {.tipoNota = "S", .nota = "555", .serie = "A", .motivo = 9, .semNovoFaturamento = true}),
+        {comando::sp_can_nf(sessao, {.tipoNota = "S",
+                                     .nota = "555",
+                                     .serie = "A",
+                                     .motivo = 9,
+                                     .semNovoFaturamento = true}),
          "comando=sp_can_nf&ID_ETB_TARN=3381&IC_TIP_NF=S&ID_NF_KESTO=555&CD_SER_NF=A&id_mot_can=9"
          "&id_pes_usu=u 7&Tipo_Can=S&ServerName=SRV1"},
         {comando::SEL_SERIE_NF(sessao), "comando=SEL_SERIE_NF&ServerName=SRV1"},
