@@ -6,6 +6,7 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "session/xml_document.h"
 
@@ -33,10 +34,13 @@ struct Escolha {
 
 void declaraNota(CLI::App& app, Escolha& escolha);
 void declaraEscada(CLI::App& app, Escolha& escolha);
+void declaraOrdem(CLI::App& app, Escolha& escolha);
 void declaraRegras(CLI::App& app, Escolha& escolha);
 
 // A saved answer; FalhaDeUso when the file can't be read or isn't an answer.
 XmlDocument leResposta(const std::string& arquivo);
+// All of them, before anything is printed: a wrong file name must not spend paper.
+std::vector<XmlDocument> leRespostas(const std::vector<std::string>& arquivos);
 
 // One line on stdout.
 void mostra(std::string_view linha);
