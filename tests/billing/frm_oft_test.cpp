@@ -1,115 +1,19 @@
-#include "billing/frm_oft.h"
-
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTableView>
-#include <QTimer>
 
-#include "session/mdi_menu.h"
-#include "support/answers.h"
-#include "support/screen_test.h"
+#include "billing/frm_oft_fixture.h"
 
 namespace tarn {
 namespace {
 
-constexpr char listQuery[] = "comando=sel_ordem_fatu&ID_ETB_TARN=6001&ServerName=SRV1";
-constexpr char obsQuery[] =
-    "comando=Seleciona_Obs_Vnd_X_Ord&Id_Etb_Tarn=6001&Id_Ord_Fat=1001&ServerName=SRV1";
-constexpr char stockQuery[] =
-    "comando=Seleciona_Obs_Ord_X_Est&Id_Etb_Tarn=6001&Id_Ord_Fat=1001&ServerName=SRV1";
-constexpr char noteQuery[] =
-    "COMANDO=SP_GERA_NF&ID_ETB_TARN=6001&ID_ORD_FAT=1001&ID_PES=77&ServerName=SRV1";
-constexpr char documentQuery[] =
-    "comando=sel_gera_nf&ID_ETB_TARN=6001&ID_NF_KESTO=555&CD_SER_NF=U&ServerName=SRV1";
-constexpr char internet[] =
-    " - Não foi possível obter os dados da Internet. Verifique a conexão com a Internet.";
-
-const std::string twoOrders = answers::rowset(
-    "<z:row ID_ORD_FAT='1001' NM_PES_CPL='JOSÉ &lt;b&gt;' NM_RDU='MATRIZ' DC_TIP_NF='VENDA' "
-    "DT_GER_OFT='12/03/2012' ID_ORD_CRG='77' TRANSPORTADORA='TT' NM_PES_MOT='MM' DC_OBS='obs' "
-    "QT_ESP='12.5' PESO_BRU='1234567.8916' PESO_LIQ=''/>"
-    "<z:row ID_ORD_FAT='1002' NM_PES_CPL='B' ID_ORD_CRG='78' QT_ESP='1'/>");
-
-Box critical(const std::string& number) {
-    return {"ERRO Tarn" + number + internet, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
-}
-Box aviso(const std::string& text) {
-    return {text, BoxIcon::Exclamation, "Aviso"};
-}
-Box exclama(const std::string& text) {
-    return {text, BoxIcon::Exclamation};
-}
-const Box selecione = aviso("Selecione a ordem de faturamento.     ");
-
-class FrmOFTTest : public ScreenTest {
-protected:
-    void SetUp() override {
-        ScreenTest::SetUp();
-        entered(2161, 6001);  // no form there: nothing is printed
-        server.on("sTransacao=EMI001", answers::status("OK"));
-        server.on("sel_dados_empresa", answers::branch("F"));
-        server.on("Seleciona_Obs_", answers::observation(""));
-        menu.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&menu));
-    }
-    FrmOFT& open(const std::string& orders = twoOrders) {
-        server.on("sel_ordem_fatu", orders);
-        choose(menu, "mnuNF", "mOFT");
-        menu.activateWindow();  // off-screen an open menu takes the activation along
-        EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &menu; }));
-        server.addresses.clear();
-        return screen();
-    }
-    FrmOFT& screen() { return named<FrmOFT>(menu, "FrmOFT"); }
-    QTableView& grid() { return named<QTableView>(menu, "sprDados"); }
-    QTimer& timer() { return *screen().findChild<QTimer*>(QStringLiteral("Timer")); }
-    void tick() { QMetaObject::invokeMethod(&timer(), "timeout"); }
-    std::string cell(int row, int column) {
-        return grid().model()->index(row, column - 1).data().toString().toStdString();
-    }
-    int rows() { return grid().model()->rowCount(); }
-    bool menusEnabled() {
-        return named<QMenu>(menu, "mnuEtiquetas").isEnabled() &&
-               named<QMenu>(menu, "mnuNF").isEnabled();
-    }
-    bool closed() {
-        return QTest::qWaitFor([this] { return menu.findChild<FrmOFT*>() == nullptr; });
-    }
-    // The screen can be closed this way and opened again.
-    void closesBy(const std::function<void()>& close) {
-        for (int time = 0; time < 2; ++time) {
-            open();
-            ASSERT_FALSE(menusEnabled());
-            close();
-            EXPECT_TRUE(menusEnabled());
-            EXPECT_TRUE(closed());
-            EXPECT_TRUE(server.addresses.empty());
-        }
-        EXPECT_FALSE(fim.encerrado());
-    }
-    void observation(const std::string& text) {
-        server.on("Seleciona_Obs_Vnd_X_Ord", answers::observation(text));
-    }
-    void stock(const std::string& text) {
-        server.on("Seleciona_Obs_Ord_X_Est", answers::observation(text));
-    }
-    void noteComesOut() {
-        server.on("SP_GERA_NF", answers::generatedNote("555", "U"));
-        server.on("sel_gera_nf", answers::status("OK"));
-    }
-    void answerAlert(const char* button, const std::string& text) {
-        modals.then("frmMensagemAlerta", [button, text](QWidget& alert) {
-            EXPECT_EQ(named<QPlainTextEdit>(alert, "txtMensagem").toPlainText().toStdString(),
-                      text);
-            click(alert, button);
-        });
-    }
-
-    MDIMenu menu{desk};
-};
+constexpr char sheetQuery[] =
+    "comando=sel_impr_ordem_fatu&ID_ETB_TARN=6001&ID_ORD_FAT=1001&ServerName=SRV1";
+const std::string orderDocument =
+    answers::declaration +
+    "<PRINCIPAL cod='0' status='OK'><ORDEM RAZAO='JOSÉ' DT_EMS_NF='12/03/2012' VENDEDOR='V' "
+    "NR_CTRL_INT='C-1'/></PRINCIPAL>";
 
 TEST_F(FrmOFTTest, OpensWithTheRightAndTheList) {
     server.on("sel_ordem_fatu", twoOrders);
@@ -268,11 +172,10 @@ TEST_F(FrmOFTTest, AnAcceptedObservationLetsTheMaintenanceGoOn) {
     open();
     observation("Linha 1&#10;Linha &lt;2&gt;");
     answerAlert("cmdOk", "Linha 1\nLinha <2>");
+    modals.then("frmManutDetOFT", [](QWidget& dialog) { click(dialog, "cmdCancelar"); });
     click(screen(), "cmdDetOFT");
     EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery));
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Information);
-    EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
+    EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(FrmOFTTest, ACancelledObservationStopsMaintenanceAndSheet) {
@@ -283,6 +186,8 @@ TEST_F(FrmOFTTest, ACancelledObservationStopsMaintenanceAndSheet) {
         click(screen(), button);
     }
     EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_TRUE(spooler.calls.empty());
+    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, obsQuery));
     EXPECT_EQ(sessao.ConfirmaMensagem, "N");
 }
 
@@ -316,15 +221,78 @@ TEST_F(FrmOFTTest, TheAlertHasAPairOfButtonsOrOne) {
 TEST_F(FrmOFTTest, AFailedObservationGoesOnWithWhatTextIsLeft) {
     open();
     server.failOn("Seleciona_Obs_Vnd_X_Ord");
+    modals.then("frmManutDetOFT", [](QWidget& dialog) { click(dialog, "cmdCancelar"); });
     click(screen(), "cmdDetOFT");
-    ASSERT_EQ(boxes.shown.size(), 3U);
+    ASSERT_EQ(boxes.shown.size(), 2U);
     EXPECT_EQ(boxes.shown[0], critical("0004"));
     EXPECT_EQ(boxes.shown[1], aviso("Aconteceu um erro na busca da observação da(s) venda(s). "
                                     "Cancele esta tela e tente novamente."));
     sessao.TextoMensagem = "da ordem anterior";
     answerAlert("cmdCancelar", "da ordem anterior");
     click(screen(), "cmdDetOFT");
-    EXPECT_EQ(boxes.shown.size(), 5U);
+    EXPECT_EQ(boxes.shown.size(), 4U);
+}
+
+TEST_F(FrmOFTTest, PrintsTheSheetOfTheSelectedOrder) {
+    open();
+    server.on("sel_impr_ordem_fatu", orderDocument);
+    observation("x");
+    answerAlert("cmdOk", "x");
+    click(screen(), "cmdImprimirOF");
+    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, sheetQuery));
+    EXPECT_TRUE(boxes.shown.empty());
+    ASSERT_EQ(spooler.jobs.size(), 1U);
+    EXPECT_EQ(spooler.jobs[0].writes.at(3),
+              " Cliente:  JOS\xC9" + std::string(46, ' ') + " Data: 12/03/2012\r\n");
+    EXPECT_TRUE(spooler.jobs[0].closed);
+    EXPECT_TRUE(timer().isActive());
+}
+
+TEST_F(FrmOFTTest, PrintsTheCompanysOwnSheet) {
+    open();
+    sessao.NCOMPANYCODE = 1361;
+    server.on("sel_impr_ordem_fatu", orderDocument);
+    click(screen(), "cmdImprimirOF");
+    ASSERT_EQ(spooler.jobs.size(), 1U);
+    EXPECT_EQ(spooler.jobs[0].writes.at(1), " C-1" + std::string(37, ' ') + "\r\n");
+}
+
+TEST_F(FrmOFTTest, ASheetThatCantBeHadIsToldAndTheDeskStaysAsItIs) {
+    open();
+    server.failOn("sel_impr_ordem_fatu")
+        .on("sel_impr_ordem_fatu", answers::status("Ordem faturada"));
+    click(screen(), "cmdImprimirOF");
+    click(screen(), "cmdImprimirOF");
+    EXPECT_THAT(boxes.shown,
+                testing::ElementsAre(critical("0012"),
+                                     aviso("Houve um problema na transferência dos dados da Ordem "
+                                           "de Faturamento nº 1001."),
+                                     exclama("Ordem faturada")));
+    EXPECT_TRUE(spooler.calls.empty());
+    EXPECT_EQ(rows(), 2);
+    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, sheetQuery, obsQuery, sheetQuery));
+}
+
+TEST_F(FrmOFTTest, AFailedObservationStillPrintsTheSheet) {
+    open();
+    server.failOn("Seleciona_Obs_Vnd_X_Ord").on("sel_impr_ordem_fatu", orderDocument);
+    click(screen(), "cmdImprimirOF");
+    EXPECT_EQ(boxes.shown.size(), 2U);
+    EXPECT_EQ(spooler.jobs.size(), 1U);
+}
+
+TEST_F(FrmOFTTest, ABrokenSheetEndsTheProgramAndKeepsWhatWasPrinted) {
+    open();
+    server.on("sel_impr_ordem_fatu",
+              answers::declaration + "<PRINCIPAL a='0' s='OK'><CAB RAZAO='R'/><ITEM/></PRINCIPAL>");
+    click(screen(), "cmdImprimirOF");
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '91'", 0), 0U);
+    EXPECT_EQ(boxes.shown[0].text.find("Nota Fiscal"), std::string::npos);
+    EXPECT_EQ(fim.status(), 3);
+    ASSERT_EQ(spooler.jobs.size(), 1U);
+    EXPECT_EQ(spooler.jobs[0].writes.size(), 9U);
+    EXPECT_FALSE(spooler.jobs[0].ended);
 }
 
 TEST_F(FrmOFTTest, GeneratesTheNoteAndRefreshes) {
