@@ -1,6 +1,7 @@
 #include "billing/frm_manut_det_oft.h"
 
 #include <QKeyEvent>
+#include <QTextDocument>
 #include <algorithm>
 #include <array>
 
@@ -15,9 +16,9 @@ namespace {
 
 constexpr int maximoObservacao = 500;
 // Widths and heights in characters and lines.
-constexpr int larguraCampo = 30;
+constexpr int larguraCampo = 40;
 constexpr int larguraNumero = 15;
-constexpr int linhasObservacao = 5;
+constexpr int linhasObservacao = 7;  // all of its characters
 
 // A number that the server holds is shown whole, also where it couldn't be typed.
 void mostraNumero(QLineEdit& campo, const std::string& texto) {
@@ -55,7 +56,7 @@ void frmManutDetOFT::preparaCampos() {
     new QuantityField(ui_->txtPesoBruto, messagesPesoBruto, desk_.ambiente);
     new QuantityField(ui_->txtPesoLiquido, messagesPesoLiquido, desk_.ambiente);
     ui_->txtObs->setMaxLength(maximoObservacao);
-    ui_->txtObs->setMinimumHeight(fontMetrics().lineSpacing() * linhasObservacao);
+    ui_->txtObs->setVisibleLines(linhasObservacao);
 }
 
 void frmManutDetOFT::preparaBotoes() {
@@ -75,8 +76,12 @@ void frmManutDetOFT::carrega(const OrdemFaturamento& ordem) {
                                                 ui_->txtTpNF,   ui_->txtDtEmissao, ui_->txtOrdCarga,
                                                 ui_->txtTransp, ui_->txtMotorista};
     for (std::size_t i = 0; i < paraLeitura.size(); ++i) {
-        paraLeitura[i]->setText(QString::fromStdString(celulas[i]));
+        const QString texto = QString::fromStdString(celulas[i]);
+        paraLeitura[i]->setText(texto);
         paraLeitura[i]->setCursorPosition(0);
+        if (!texto.isEmpty()) {  // whole, where the field is short
+            paraLeitura[i]->setToolTip(Qt::convertFromPlainText(texto, Qt::WhiteSpaceNormal));
+        }
     }
     ui_->txtObs->loadText(celulas[8]);
     mostraNumero(*ui_->txtQtde, celulas[9]);

@@ -44,6 +44,11 @@ std::string FreeTextField::text() const {
         .toStdString();
 }
 
+QSize FreeTextField::sizeHint() const {
+    const int margins = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
+    return {QPlainTextEdit::sizeHint().width(), lines_ * fontMetrics().lineSpacing() + margins};
+}
+
 int FreeTextField::length() const {
     return document()->characterCount() - 1;  // it counts an end of its own
 }

@@ -15,11 +15,15 @@ public:
 
     // Most characters that the user can bring it to.
     void setMaxLength(int characters) { limit_ = characters; }
+    // How many lines it shows where its window has the height it asks for.
+    void setVisibleLines(int lines) { lines_ = lines; }
 
     // A text that comes from elsewhere is shown whole, line ends and all.
     void loadText(const std::string& text);
     // What it holds; untouched, exactly the text that was shown.
     std::string text() const;
+
+    QSize sizeHint() const override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -32,6 +36,7 @@ private:
     void withinLimit(Edit edit);
 
     int limit_ = 32767;
+    int lines_ = 4;
     std::string shown_;
 };
 

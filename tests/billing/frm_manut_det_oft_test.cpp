@@ -102,6 +102,8 @@ TEST_F(FrmManutDetOFTTest, ShowsTheTwelveCellsOfTheActiveRow) {
                     testing::ElementsAre("1001", "JOSÉ <b>", "MATRIZ", "VENDA", "12/03/2012", "77",
                                          "TT", "MM", "obs", "12,500", "1.234.567,892", "0,000"));
         EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery)) << "nothing is read anew";
+        EXPECT_EQ(named<QLineEdit>(dialog, "txtCliente").toolTip(),
+                  QStringLiteral("<p>JOSÉ &lt;b&gt;</p>"));
     });
     EXPECT_TRUE(boxes.shown.empty());
 }
@@ -134,6 +136,7 @@ TEST_F(FrmManutDetOFTTest, LabelsAndButtonsAsGiven) {
 }
 
 TEST_F(FrmManutDetOFTTest, StandsInTheMiddleOfTheDesk) {
+    menu.setGeometry(10, 0, 780, 600);
     look([&](QWidget& dialog) {
         EXPECT_NEAR(dialog.geometry().center().x(), menu.geometry().center().x(), 1);
     });
