@@ -13,7 +13,9 @@ if(TARN_WERROR)
 endif()
 if(TARN_SANITIZE)
   target_compile_options(tarn_options INTERFACE -fsanitize=address,undefined
-                         -fno-sanitize-recover=all -fno-omit-frame-pointer)
+                         -fno-sanitize-recover=all -fno-omit-frame-pointer
+                         # g++ sees uninitialized reads in instrumented library code
+                         $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_link_options(tarn_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(TARN_FUZZ)

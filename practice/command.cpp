@@ -29,11 +29,11 @@ OrRefusal<Establishment> requestedEstablishment(const Query& query, CommandConte
         return *refusal;
     }
     const std::string& text = query.value("ID_ETB_TARN");
-    const std::optional<std::int64_t> id = wholeNumber(text);
+    const std::optional<std::int64_t> code = wholeNumber(text);
     Rows rows = context.database.select(
         "SELECT id, company_id FROM establishment"
-        " WHERE id = ? AND company_id = ?",
-        {id.value_or(-1), std::get<std::int64_t>(company)});
+        " WHERE code = ? AND company_id = ?",
+        {code.value_or(-1), std::get<std::int64_t>(company)});
     if (!rows.next()) {
         return Refusal{"O estabelecimento \"" + text +
                        "\" não existe nesta empresa. Saia do sistema e entre de novo."};

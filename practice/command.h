@@ -36,7 +36,7 @@ const Command* findCommand(std::string_view name);  // letters' case doesn't mat
 // What a request may see: the company whose data server it names, and of it the
 // establishment it names.
 struct Establishment {
-    std::int64_t id = 0;
+    std::int64_t id = 0;  // the database's own, not the code on the wire
     std::int64_t company = 0;
 };
 

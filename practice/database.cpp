@@ -11,6 +11,8 @@ QString qtText(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+constexpr const char* kRefused = "O banco de dados recusou um comando";
+
 [[noreturn]] void fail(const std::string& what, const QSqlError& error) {
     throw DatabaseError(what + ": " + error.text().trimmed().toStdString());
 }
@@ -59,23 +61,34 @@ Database::Database(const std::string& file)
 }
 
 Database::~Database() {
+    inserts_.clear();
     QSqlDatabase::database(name_, false).close();
     QSqlDatabase::removeDatabase(name_);
 }
 
-QSqlQuery Database::run(std::string_view sql, const std::vector<Bind>& binds) {
+QSqlQuery Database::prepared(std::string_view sql) {
     QSqlQuery query(QSqlDatabase::database(name_, false));
     query.setForwardOnly(true);
-    bool done = query.prepare(qtText(sql));
-    if (done) {
-        for (const Bind& bind : binds) {
-            query.addBindValue(bind.value());
-        }
-        done = query.exec();
+    if (!query.prepare(qtText(sql))) {
+        fail(kRefused, query.lastError());
     }
-    if (!done) {
-        fail("O banco de dados recusou um comando", query.lastError());
+    return query;
+}
+
+void Database::execute(QSqlQuery& query, const std::vector<Bind>& binds) {
+    for (std::size_t i = 0; i < binds.size(); ++i) {
+        query.bindValue(static_cast<int>(i), binds[i].value());
     }
+    if (!query.exec()) {
+        const QSqlError error = query.lastError();
+        query.finish();
+        fail(kRefused, error);
+    }
+}
+
+QSqlQuery Database::run(std::string_view sql, const std::vector<Bind>& binds) {
+    QSqlQuery query = prepared(sql);
+    execute(query, binds);
     return query;
 }
 
@@ -94,7 +107,13 @@ void Database::insert(std::string_view table, std::string_view columns,
     for (std::size_t i = 0; i < values.size(); ++i) {
         sql += i == 0 ? "?" : ", ?";
     }
-    run(sql + ")", values);
+    sql += ')';
+    auto known = inserts_.find(sql);
+    if (known == inserts_.end()) {
+        known = inserts_.emplace(sql, prepared(sql)).first;
+    }
+    execute(known->second, values);
+    known->second.finish();
 }
 
 bool Database::hasTable(std::string_view name) const {

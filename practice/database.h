@@ -7,6 +7,7 @@
 #include <QSqlQuery>
 #include <QVariant>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -78,10 +79,13 @@ public:
 
 private:
     friend class Transaction;
+    QSqlQuery prepared(std::string_view sql);
+    static void execute(QSqlQuery& query, const std::vector<Bind>& binds);
     QSqlQuery run(std::string_view sql, const std::vector<Bind>& binds);
     void require(bool done, const char* what);
 
     QString name_;
+    std::map<std::string, QSqlQuery> inserts_;  // prepared once, by their text
 };
 
 // Undone at the end of its life unless committed.

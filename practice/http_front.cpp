@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <stdexcept>
 #include <thread>
+#include <utility>
 
 #include "practice/request_stream.h"
 
@@ -102,7 +103,7 @@ HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_
         [](const httplib::Request&, httplib::Response& response, std::exception_ptr thrown) {
             response.status = kServerError;
             try {
-                std::rethrow_exception(thrown);
+                std::rethrow_exception(std::move(thrown));
             } catch (const std::exception& error) {
                 response.set_content(error.what(), kPlainText);
             }

@@ -1,4 +1,4 @@
-// The billing orders that every establishment starts with: one for each case a
+// The billing orders that the establishments start with: one for each case a
 // clerk should have seen.
 #pragma once
 
@@ -7,12 +7,15 @@
 namespace tarn::practice {
 
 constexpr int kNoCarrier = -1;
-// Item counts told by the form: as many lines as it has, and some more.
+// Counts told by the form: as many lines or parcels as it has, and some more.
 constexpr int kFullForm = -1;
 constexpr int kOverFullForm = -2;
 
 // Which products the items are taken from, one after the other.
-enum class Choice { Any, ByWeight, Withheld, EveryLegalText };
+enum class Choice { Any, ByWeight, Withheld, EveryLegalText, Exempt };
+
+// Which establishments have the order.
+enum class Where { Everywhere, SellsServices, ParcelsInPairs, TaxCredit };
 
 struct Scenario {
     int customer = 0;          // row of the customers' table
@@ -21,8 +24,9 @@ struct Scenario {
     int parcels = 1;
     int firstDays = 30;
     int stepDays = 30;
-    const char* paymentCondition = "28 DIAS";
+    const char* paymentCondition = "28 DIAS";  // "#": the count of the parcels
     int items = 3;
+    int services = 0;
     Choice choice = Choice::Any;
     const char* observation = nullptr;
     const char* saleObservation = nullptr;
@@ -37,6 +41,7 @@ struct Scenario {
     const char* controlNumber = nullptr;
     bool ownOrder = true;  // false: the order number of the sale is "0"
     bool loadOrder = true;
+    Where where = Where::Everywhere;
 };
 
 std::span<const Scenario> orderScenarios();

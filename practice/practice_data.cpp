@@ -4,6 +4,7 @@
 #include <QCryptographicHash>
 #include <array>
 
+#include "practice/practice_companies.h"
 #include "practice/practice_orders.h"
 #include "practice/practice_tables.h"
 #include "practice/tax_numbers.h"
@@ -23,6 +24,38 @@ constexpr std::array kLogons = {
     PracticeLogon{761, 762, "clara", "pratica", true},
     PracticeLogon{761, 763, "bruno", "pratica", true},
     PracticeLogon{761, 762, "otavio", "pratica", false},
+    PracticeLogon{7, 8, "clara", "pratica", true},
+    PracticeLogon{2161, 3381, "clara", "pratica", true},
+    PracticeLogon{2161, 3382, "bruno", "pratica", true},
+    PracticeLogon{2161, 3384, "diana", "pratica", true},
+    PracticeLogon{2161, 3385, "elisa", "pratica", true},
+    PracticeLogon{2161, 3341, "fabio", "pratica", true},
+    PracticeLogon{2161, 3383, "gilda", "pratica", true},
+    PracticeLogon{2161, 3386, "hugo", "pratica", true},
+    PracticeLogon{2041, 2042, "clara", "pratica", true},
+    PracticeLogon{2321, 2322, "clara", "pratica", true},
+    PracticeLogon{1581, 1582, "clara", "pratica", true},
+    PracticeLogon{2801, 2802, "clara", "pratica", true},
+    PracticeLogon{2421, 3621, "clara", "pratica", true},
+    PracticeLogon{2421, 2422, "bruno", "pratica", true},
+    PracticeLogon{1521, 1522, "clara", "pratica", true},
+    PracticeLogon{821, 822, "clara", "pratica", true},
+    PracticeLogon{3301, 3302, "clara", "pratica", true},
+    PracticeLogon{3881, 6001, "clara", "pratica", true},
+    PracticeLogon{3881, 3882, "bruno", "pratica", true},
+    PracticeLogon{3081, 3082, "clara", "pratica", true},
+    PracticeLogon{3141, 3142, "clara", "pratica", true},
+    PracticeLogon{3601, 3602, "clara", "pratica", true},
+    PracticeLogon{2541, 2542, "clara", "pratica", true},
+    PracticeLogon{2541, 6001, "bruno", "pratica", true},
+    PracticeLogon{3681, 3682, "clara", "pratica", true},
+    PracticeLogon{541, 542, "clara", "pratica", true},
+    PracticeLogon{4621, 7321, "clara", "pratica", true},
+    PracticeLogon{4621, 4622, "bruno", "pratica", true},
+    PracticeLogon{4901, 4902, "clara", "pratica", true},
+    PracticeLogon{4901, 5281, "bruno", "pratica", true},
+    PracticeLogon{4901, 5282, "diana", "pratica", true},
+    PracticeLogon{4901, 6001, "elisa", "pratica", true},
 };
 
 constexpr std::array kReasons = {
@@ -62,30 +95,60 @@ void insertCompanies(Database& database) {
                             {row.id, ++reason, description});
         }
     }
+    int id = 0;
     for (const EstablishmentRow& row : establishmentRows()) {
         const char* legalName = "";
         for (const CompanyRow& company : companyRows()) {
             legalName = company.id == row.company ? company.name : legalName;
         }
-        database.insert(
-            "establishment",
-            "id, company_id, name, short_name, legal_name, tax_number,"
-            " state_registration, street, street_number, district, postal_code, town,"
-            " state, state_name, telephone, fax, email, item_lines",
-            {row.id, row.company, row.name, row.shortName, legalName, companyTaxNumber(row.taxBase),
-             row.stateRegistration, row.street, row.number, row.district, row.postalCode, row.town,
-             row.state, row.stateName, "(11) 5555-0100", "(11) 5555-0101",
-             "faturamento@empresa.example", std::to_string(row.itemLines)});
+        database.insert("establishment",
+                        "id, company_id, code, name, short_name, legal_name, tax_number,"
+                        " state_registration, street, street_number, district, postal_code, town,"
+                        " state, state_name, telephone, fax, email, item_lines, service_lines",
+                        {++id,
+                         row.company,
+                         row.code,
+                         row.name,
+                         row.shortName,
+                         legalName,
+                         companyTaxNumber(row.taxBase),
+                         row.stateRegistration,
+                         row.street,
+                         row.number,
+                         row.district,
+                         row.postalCode,
+                         row.town,
+                         row.state,
+                         row.stateName,
+                         "(11) 5555-0100",
+                         "(11) 5555-0101",
+                         "faturamento@empresa.example",
+                         std::to_string(row.form.itemLines),
+                         row.form.serviceLines > 0 ? Bind(std::to_string(row.form.serviceLines))
+                                                   : Bind(std::nullopt)});
     }
+}
+
+// Establishments are numbered in the order of their table.
+int establishmentId(int company, int code) {
+    int id = 0;
+    for (const EstablishmentRow& row : establishmentRows()) {
+        ++id;
+        if (row.company == company && row.code == code) {
+            return id;
+        }
+    }
+    return 0;
 }
 
 void insertUsers(Database& database) {
     int number = 100;
     for (const PracticeLogon& logon : kLogons) {
         const std::string code = std::to_string(++number);
-        database.insert("app_user", "code, establishment_id, company_id, login, password_hash",
-                        {code, logon.establishment, logon.company, storedLogin(logon.user),
-                         passwordHash(logon.company, logon.user, logon.password)});
+        database.insert(
+            "app_user", "code, establishment_id, company_id, login, password_hash",
+            {code, establishmentId(logon.company, logon.establishment), logon.company,
+             storedLogin(logon.user), passwordHash(logon.company, logon.user, logon.password)});
         for (const char* right : {"EMI001", "EMI002", "EMI003", "EMI005"}) {
             const std::string_view name = right;
             if (logon.mayIssue || (name != "EMI001" && name != "EMI003")) {
@@ -134,20 +197,36 @@ void insertCarriers(Database& database, int companyIndex, int company) {
     }
 }
 
+constexpr const char* kProductColumns =
+    "id, company_id, code, description, unit, service, note_position,"
+    " fiscal_class, class_group, class_code, origin, tax_situation, icms_rate,"
+    " ipi_rate, withheld_margin, iss_rate, unit_weight, unit_price, legal_text";
+
+// A product that pays IPI has its fiscal class told on the note, as a group.
 void insertProducts(Database& database, int companyIndex, int company) {
     int row = 0;
     for (const ProductRow& product : productRows()) {
         const TaxRates rates = ratesOf(product.tax, row);
         const std::string group = std::to_string(row + 1);
-        database.insert("product",
-                        "id, company_id, code, description, unit, service, note_position,"
-                        " fiscal_class, class_group, class_code, origin, tax_situation, icms_rate,"
-                        " ipi_rate, withheld_margin, iss_rate, unit_weight, unit_price, legal_text",
-                        {productId(companyIndex, row), company, product.code, product.description,
-                         product.unit, 0, group, product.fiscalClass, group, product.fiscalClass,
-                         rates.origin, rates.situation, rates.icms, rates.ipi, rates.margin, 0,
-                         product.unitWeight, product.unitPrice, product.legalText});
+        const bool grouped = rates.ipi > 0;
+        database.insert(
+            "product", kProductColumns,
+            {productId(companyIndex, row), company, product.code, product.description, product.unit,
+             0, group, product.fiscalClass, grouped ? Bind(group) : Bind(std::nullopt),
+             grouped ? Bind(product.fiscalClass) : Bind(std::nullopt), rates.origin,
+             rates.situation, rates.icms, rates.ipi, rates.margin, 0, product.unitWeight,
+             product.unitPrice, product.legalText});
         ++row;
+    }
+}
+
+void insertServices(Database& database, int companyIndex, int company) {
+    int row = 0;
+    for (const ServiceRow& service : serviceRows()) {
+        database.insert("product", kProductColumns,
+                        {serviceId(companyIndex, row++), company, service.code, service.description,
+                         "SV", 1, std::nullopt, std::nullopt, std::nullopt, std::nullopt, "0", "41",
+                         0, 0, 0, service.issRate, 0, service.unitPrice, std::nullopt});
     }
 }
 
@@ -177,6 +256,9 @@ void insertPracticeData(Database& database, std::uint64_t seed, QDate today) {
         insertCustomers(database, companyIndex, company.id);
         insertCarriers(database, companyIndex, company.id);
         insertProducts(database, companyIndex, company.id);
+        if (company.sellsServices) {
+            insertServices(database, companyIndex, company.id);
+        }
         ++companyIndex;
     }
     insertPracticeOrders(database, seed, today);

@@ -7,6 +7,7 @@
 
 #include "practice/amounts.h"
 #include "practice/order_scenarios.h"
+#include "practice/practice_companies.h"
 #include "practice/practice_tables.h"
 
 namespace tarn::practice {
@@ -15,6 +16,8 @@ namespace {
 constexpr int kFirstOrder = 45001;
 constexpr int kOrdersApart = 100;  // between the first orders of two establishments
 constexpr int kItemsOverForm = 4;
+constexpr int kServicesOverForm = 2;
+constexpr int kParcelsUnseen = 9;  // where the form shows none
 constexpr int kThousandth = 1000;
 constexpr int kScarceStock = 3;  // units of the product that the stock lacks
 constexpr int kScarceOrdered = 12;
@@ -26,6 +29,7 @@ constexpr std::array kSalesmen = {"RÔMULO GONÇALVES", "TÂNIA MARIA DE SOUZA",
 // no order but the one that lacks it.
 constexpr std::array kByWeight = {6, 7, 16, 11};
 constexpr std::array kWithheld = {4, 5, 14};
+constexpr std::array kExempt = {11, 12};
 constexpr std::array kEveryLegalText = {3, 4, 8, 11, 12, 0};
 
 class Dice {
@@ -40,13 +44,17 @@ private:
 
 struct Place {
     int companyIndex = 0;
+    int establishmentId = 0;
     const EstablishmentRow* establishment = nullptr;
+
+    const Form& form() const { return establishment->form; }
 };
 
 struct Item {
-    int product = 0;  // row of the products' table
+    int productId = 0;
     std::int64_t quantity = 0;
     std::int64_t price = 0;
+    int unitWeight = 0;
 };
 
 std::vector<int> choicesOf(Choice choice) {
@@ -57,6 +65,8 @@ std::vector<int> choicesOf(Choice choice) {
             return {kWithheld.begin(), kWithheld.end()};
         case Choice::EveryLegalText:
             return {kEveryLegalText.begin(), kEveryLegalText.end()};
+        case Choice::Exempt:
+            return {kExempt.begin(), kExempt.end()};
         case Choice::Any:
             break;
     }
@@ -69,10 +79,67 @@ std::vector<int> choicesOf(Choice choice) {
 
 int itemCount(const Scenario& scenario, const Place& place) {
     if (scenario.items == kFullForm) {
-        return place.establishment->itemLines;
+        return place.form().itemLines;
     }
-    return scenario.items == kOverFullForm ? place.establishment->itemLines + kItemsOverForm
+    return scenario.items == kOverFullForm ? place.form().itemLines + kItemsOverForm
                                            : scenario.items;
+}
+
+int serviceCount(const Scenario& scenario, const Place& place) {
+    return scenario.services == kOverFullForm ? place.form().serviceLines + kServicesOverForm
+                                              : scenario.services;
+}
+
+int parcelCount(const Scenario& scenario, const Place& place) {
+    const int limit = place.form().parcelLimit > 0 ? place.form().parcelLimit : kParcelsUnseen;
+    if (scenario.parcels == kFullForm) {
+        return limit;
+    }
+    return scenario.parcels == kOverFullForm ? limit + 1 : scenario.parcels;
+}
+
+// "9 X 30 DIAS" of "# X 30 DIAS" and nine parcels.
+std::optional<std::string> paymentCondition(const char* pattern, int parcels) {
+    if (pattern == nullptr) {
+        return std::nullopt;
+    }
+    std::string text = pattern;
+    if (const std::size_t mark = text.find('#'); mark != std::string::npos) {
+        text.replace(mark, 1, std::to_string(parcels));
+    }
+    return text;
+}
+
+bool applies(const Scenario& scenario, const Place& place) {
+    switch (scenario.where) {
+        case Where::SellsServices:
+            return companyRows()[static_cast<std::size_t>(place.companyIndex)].sellsServices;
+        case Where::ParcelsInPairs:
+            return place.form().parcelsInPairs;
+        case Where::TaxCredit:
+            return place.form().taxCredit;
+        case Where::Everywhere:
+            break;
+    }
+    return true;
+}
+
+// Services come first, so that on a form without room for them they take lines
+// from the products.
+void drawServices(std::vector<Item>& items, int count, const Place& place, Dice& dice) {
+    const int all = static_cast<int>(serviceRows().size());
+    for (int i = 0; i < count; ++i) {
+        const ServiceRow& service = serviceRows()[static_cast<std::size_t>(i % all)];
+        items.push_back({serviceId(place.companyIndex, i % all),
+                         std::int64_t{1 + dice.below(4)} * kThousandth, service.unitPrice, 0});
+    }
+}
+
+Item scarceItem(const Place& place) {
+    const ProductRow& product = productRows().back();
+    const int row = static_cast<int>(productRows().size()) - 1;
+    return {productId(place.companyIndex, row), std::int64_t{kScarceOrdered} * kThousandth,
+            product.unitPrice, product.unitWeight};
 }
 
 // Quarters of a unit go with prices in steps of 4 cents, so that every line
@@ -81,18 +148,18 @@ std::vector<Item> drawItems(const Scenario& scenario, const Place& place, Dice& 
     const std::vector<int> choices = choicesOf(scenario.choice);
     const int first = dice.below(static_cast<int>(choices.size()));
     std::vector<Item> items;
+    drawServices(items, serviceCount(scenario, place), place, dice);
     for (int i = 0; i < itemCount(scenario, place); ++i) {
         const auto index = static_cast<std::size_t>(first + i) % choices.size();
         const ProductRow& product = productRows()[static_cast<std::size_t>(choices[index])];
-        Item item{choices[index], 0, product.unitPrice / 4 * 4 + 4 * dice.below(25)};
+        Item item{productId(place.companyIndex, choices[index]), 0,
+                  product.unitPrice / 4 * 4 + 4 * dice.below(25), product.unitWeight};
         item.quantity =
             product.byWeight ? (1 + dice.below(200)) * 250 : (1 + dice.below(40)) * kThousandth;
         items.push_back(item);
     }
     if (scenario.lacksStock) {
-        items.front().product = static_cast<int>(productRows().size()) - 1;
-        items.front().quantity = kScarceOrdered * kThousandth;
-        items.front().price = productRows().back().unitPrice;
+        items.front() = scarceItem(place);
     }
     return items;
 }
@@ -118,13 +185,12 @@ Operation operationOf(const Scenario& scenario, const Place& place) {
 std::int64_t netWeight(const std::vector<Item>& items) {
     std::int64_t weight = 0;
     for (const Item& item : items) {
-        const ProductRow& product = productRows()[static_cast<std::size_t>(item.product)];
-        weight += scaled(product.unitWeight, item.quantity, kThousandth);
+        weight += scaled(item.unitWeight, item.quantity, kThousandth);
     }
     return weight;
 }
 
-void insertItems(Database& database, int order, int companyIndex, const Scenario& scenario,
+void insertItems(Database& database, int order, const Scenario& scenario,
                  const std::vector<Item>& items) {
     int position = 0;
     for (const Item& item : items) {
@@ -133,7 +199,7 @@ void insertItems(Database& database, int order, int companyIndex, const Scenario
             "order_item",
             "order_id, position, product_id, quantity, unit_price, discount,"
             " icms_discount",
-            {order, ++position, productId(companyIndex, item.product), item.quantity, item.price,
+            {order, ++position, item.productId, item.quantity, item.price,
              percentOf(gross, scenario.discountRate), percentOf(gross, scenario.icmsDiscountRate)});
     }
 }
@@ -144,6 +210,7 @@ void insertOrder(Database& database, int order, const Scenario& scenario, const 
     const Operation operation = operationOf(scenario, place);
     const bool carried = scenario.carrier != kNoCarrier;
     const std::int64_t net = netWeight(items);
+    const int parcels = parcelCount(scenario, place);
     const int loadOrder = 7000 + dice.below(900);
     const int sale = 80000 + dice.below(9000);
     const int age = dice.below(5);
@@ -157,7 +224,7 @@ void insertOrder(Database& database, int order, const Scenario& scenario, const 
         " expenses, parcels, first_days, step_days, payment_condition, salesman, own_order,"
         " customer_order, control_number",
         {order,
-         place.establishment->id,
+         place.establishmentId,
          "A",
          scenario.loadOrder ? Bind(loadOrder) : Bind(std::nullopt),
          customerId(place.companyIndex, scenario.customer),
@@ -179,19 +246,19 @@ void insertOrder(Database& database, int order, const Scenario& scenario, const 
          scenario.freight,
          scenario.insurance,
          scenario.expenses,
-         scenario.parcels,
+         parcels,
          scenario.firstDays,
          scenario.stepDays,
-         scenario.paymentCondition,
+         paymentCondition(scenario.paymentCondition, parcels),
          salesman,
          scenario.ownOrder ? std::to_string(sale) : "0",
          scenario.customerOrder,
          scenario.controlNumber});
-    insertItems(database, order, place.companyIndex, scenario, items);
+    insertItems(database, order, scenario, items);
 }
 
 void insertSeriesAndStock(Database& database, const Place& place, Dice& dice) {
-    const int establishment = place.establishment->id;
+    const int establishment = place.establishmentId;
     constexpr std::string_view kColumns = "establishment_id, code, description, next_number";
     database.insert(
         "series", kColumns,
@@ -222,12 +289,15 @@ int companyIndexOf(int company) {
 void insertPracticeOrders(Database& database, std::uint64_t seed, QDate today) {
     Dice dice(seed);
     int first = kFirstOrder;
+    int id = 0;
     for (const EstablishmentRow& establishment : establishmentRows()) {
-        const Place place{companyIndexOf(establishment.company), &establishment};
+        const Place place{companyIndexOf(establishment.company), ++id, &establishment};
         insertSeriesAndStock(database, place, dice);
         int order = first;
         for (const Scenario& scenario : orderScenarios()) {
-            insertOrder(database, order++, scenario, place, today, dice);
+            if (applies(scenario, place)) {
+                insertOrder(database, order++, scenario, place, today, dice);
+            }
         }
         first += kOrdersApart;
     }

@@ -19,6 +19,9 @@ constexpr int carrierId(int companyIndex, int row) {
 constexpr int productId(int companyIndex, int row) {
     return (companyIndex + 1) * 1000 + row + 1;
 }
+constexpr int serviceId(int companyIndex, int row) {
+    return productId(companyIndex, 900 + row);
+}
 
 void insertPracticeOrders(Database& database, std::uint64_t seed, QDate today);
 

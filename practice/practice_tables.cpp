@@ -5,36 +5,6 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array kCompanies = {
-    CompanyRow{1361, "Comércio de Ferragens Três Irmãos Ltda", "DADOS1361"},
-    CompanyRow{141, "Distribuidora São José de Alimentos S/A", "DADOS141"},
-    CompanyRow{761, "Indústria de Confecções Açucena Ltda", "DADOS761"},
-};
-
-constexpr std::array kEstablishments = {
-    EstablishmentRow{1361, 1361, "Três Irmãos - Matriz São Paulo", "MATRIZ SP", "123456780001",
-                     "110.042.490.114", "Rua Voluntários da Pátria", "1250", "Santana", "02010000",
-                     "São Paulo", "SP", "São Paulo", 13},
-    EstablishmentRow{1362, 1361, "Três Irmãos - Filial Campinas", "FILIAL CPS", "123456780002",
-                     "244.091.280.110", "Avenida Francisco Glicério", "980", "Centro", "13012100",
-                     "Campinas", "SP", "São Paulo", 13},
-    EstablishmentRow{1363, 1361, "Três Irmãos - Filial Florianópolis", "FILIAL FLN", "123456780003",
-                     "254.118.002", "Rua Bocaiúva", "77", "Centro", "88015530", "Florianópolis",
-                     "SC", "Santa Catarina", 13},
-    EstablishmentRow{142, 141, "São José Alimentos - Matriz", "SÃO JOSÉ", "045671230001",
-                     "062.307.904.0081", "Avenida do Contorno", "4520", "Funcionários", "30110090",
-                     "Belo Horizonte", "MG", "Minas Gerais", 13},
-    EstablishmentRow{143, 141, "São José Alimentos - Depósito Contagem", "DEP CONTAGEM",
-                     "045671230002", "186.307.904.0162", "Via Expressa", "1001", "Cinco",
-                     "32145900", "Contagem", "MG", "Minas Gerais", 13},
-    EstablishmentRow{762, 761, "Açucena Confecções - Fábrica", "FÁBRICA", "087654320001",
-                     "095.220.118", "Rua Doutor Flores", "310", "Centro Histórico", "90020122",
-                     "Porto Alegre", "RS", "Rio Grande do Sul", 13},
-    EstablishmentRow{763, 761, "Açucena Confecções - Loja Caxias", "LOJA CAXIAS", "087654320002",
-                     "029.551.070", "Avenida Júlio de Castilhos", "2044", "Centro", "95010003",
-                     "Caxias do Sul", "RS", "Rio Grande do Sul", 13},
-};
-
 constexpr std::array kCustomers = {
     CustomerRow{
         "PANIFICADORA E CONFEITARIA PÃO DE ARAÇÁS LTDA",
@@ -184,14 +154,19 @@ constexpr std::array kProducts = {
                nullptr},
 };
 
+constexpr std::array kServices = {
+    ServiceRow{"9001", "MONTAGEM E INSTALAÇÃO DE EQUIPAMENTO NO LOCAL", 500, 48000},
+    ServiceRow{"9002", "VISITA TÉCNICA", 500, 12500},
+    ServiceRow{"9003", "AFINAÇÃO E CALIBRAÇÃO DE FURADEIRAS COM EMISSÃO DE CERTIFICADO", 300, 7850},
+    ServiceRow{"9004", "LOCAÇÃO DE ANDAIME, POR DIA", 200, 3520},
+    ServiceRow{"9005", "TREINAMENTO DE OPERADORES", 200, 60000},
+    ServiceRow{"9006", "REPARO EM GARANTIA ESTENDIDA", 500, 9999},
+    ServiceRow{"9007", "AFIAÇÃO DE DISCOS DE SERRA", 300, 1805},
+    ServiceRow{"9008", "CORTE E DOBRA DE CHAPAS SOB MEDIDA", 500, 15025},
+};
+
 }  // namespace
 
-std::span<const CompanyRow> companyRows() {
-    return kCompanies;
-}
-std::span<const EstablishmentRow> establishmentRows() {
-    return kEstablishments;
-}
 std::span<const CustomerRow> customerRows() {
     return kCustomers;
 }
@@ -200,6 +175,9 @@ std::span<const CarrierRow> carrierRows() {
 }
 std::span<const ProductRow> productRows() {
     return kProducts;
+}
+std::span<const ServiceRow> serviceRows() {
+    return kServices;
 }
 
 }  // namespace tarn::practice

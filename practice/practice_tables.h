@@ -1,33 +1,11 @@
-// The fixed part of the practice data, as tables. Null pointers are null columns.
+// Customers, carriers, products and services, alike in every company of the
+// practice data. Null pointers are null columns.
 #pragma once
 
 #include <cstdint>
 #include <span>
 
 namespace tarn::practice {
-
-struct CompanyRow {
-    int id;
-    const char* name;
-    const char* serverName;
-};
-
-struct EstablishmentRow {
-    int id;
-    int company;
-    const char* name;
-    const char* shortName;
-    const char* taxBase;  // twelve digits of the tax number
-    const char* stateRegistration;
-    const char* street;
-    const char* number;
-    const char* district;
-    const char* postalCode;
-    const char* town;
-    const char* state;
-    const char* stateName;
-    int itemLines;  // of the establishment's pre-printed form
-};
 
 struct AddressRow {
     const char* street;
@@ -76,10 +54,16 @@ struct ProductRow {
     const char* legalText;
 };
 
-std::span<const CompanyRow> companyRows();
-std::span<const EstablishmentRow> establishmentRows();
+struct ServiceRow {
+    const char* code;
+    const char* description;
+    int issRate;    // hundredths of a percent
+    int unitPrice;  // cents
+};
+
 std::span<const CustomerRow> customerRows();
 std::span<const CarrierRow> carrierRows();
 std::span<const ProductRow> productRows();
+std::span<const ServiceRow> serviceRows();
 
 }  // namespace tarn::practice

@@ -6,7 +6,8 @@ namespace tarn::practice {
 namespace {
 
 // Standard SQL, taken alike by SQLite and PostgreSQL. Money is in cents,
-// quantities and weights in thousandths, rates in hundredths of a percent.
+// quantities and weights in thousandths, rates in hundredths of a percent. An
+// establishment's code is what the desk knows; its id is the database's own.
 constexpr std::array kTables = {R"(CREATE TABLE schema_version (version INTEGER NOT NULL))",
 
                                 R"(CREATE TABLE company (
@@ -17,6 +18,7 @@ constexpr std::array kTables = {R"(CREATE TABLE schema_version (version INTEGER 
                                 R"(CREATE TABLE establishment (
         id INTEGER NOT NULL PRIMARY KEY,
         company_id INTEGER NOT NULL REFERENCES company (id),
+        code INTEGER NOT NULL,
         name VARCHAR(120) NOT NULL,
         short_name VARCHAR(40) NOT NULL,
         legal_name VARCHAR(120) NOT NULL,
@@ -33,7 +35,8 @@ constexpr std::array kTables = {R"(CREATE TABLE schema_version (version INTEGER 
         fax VARCHAR(30),
         email VARCHAR(80),
         item_lines VARCHAR(6) NOT NULL,
-        service_lines VARCHAR(6)))",
+        service_lines VARCHAR(6),
+        UNIQUE (company_id, code)))",
 
                                 R"(CREATE TABLE app_user (
         code VARCHAR(20) NOT NULL PRIMARY KEY,

@@ -39,8 +39,8 @@ Reply logon(const Query& query, CommandContext& context) {
         return Refusal{"Empresa não cadastrada. Confira o código da empresa."};
     }
     Rows users = context.database.select(
-        "SELECT code, establishment_id FROM app_user"
-        " WHERE company_id = ? AND login = ? AND password_hash = ?",
+        "SELECT u.code, e.code FROM app_user u JOIN establishment e ON e.id = u.establishment_id"
+        " WHERE u.company_id = ? AND u.login = ? AND u.password_hash = ?",
         {*company, storedLogin(query.value("USUARIO")),
          passwordHash(*company, query.value("USUARIO"), query.value("SENHA"))});
     if (!users.next()) {
@@ -85,7 +85,7 @@ Reply checkRight(const Query& query, CommandContext& context) {
 }
 
 constexpr std::array kEstablishmentFields = {
-    Field{"ID_ETB_TARN", "id"},
+    Field{"ID_ETB_TARN", "code"},
     Field{"NM_FIL", "name"},
     Field{"NM_RDU", "short_name"},
     Field{"DC_RAZ_SOC_ETB", "legal_name"},

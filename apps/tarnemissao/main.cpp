@@ -11,8 +11,8 @@ int main(int argc, char** argv) {
         return parada->status;
     }
     const auto& opcoes = std::get<tarn::Opcoes>(lidas);
-    auto impressora = tarn::impressoraDe(opcoes);
-    if (!impressora) {
+    auto impressoras = tarn::impressorasDe(opcoes);
+    if (!impressoras.bruta) {
         std::fputs(
             "tarnemissao: este programa foi compilado sem impressora do sistema; use "
             "--impressora-virtual PASTA.\n",
@@ -20,7 +20,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     tarn::DeskApplication programa(argc, argv);
-    tarn::Mesa mesa(programa, opcoes, std::move(impressora));
+    tarn::Mesa mesa(programa, opcoes, std::move(impressoras));
     mesa.abre();
     return programa.exec();
 }

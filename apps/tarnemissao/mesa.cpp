@@ -3,24 +3,32 @@
 #include <QTimer>
 
 #include "platform/directory/directory_spooler.h"
+#include "platform/qt/qt_printer.h"
 #include "platform/system_spooler.h"
 #include "session/tela_futura.h"
 
 namespace tarn {
 
-std::unique_ptr<Spooler> impressoraDe(const Opcoes& opcoes) {
+Impressoras impressorasDe(const Opcoes& opcoes) {
     if (opcoes.impressoraVirtual.empty()) {
-        return makeSystemSpooler();
+        return {makeSystemSpooler(), std::make_unique<QtPrinter>()};
     }
-    return std::make_unique<DirectorySpooler>(opcoes.impressoraVirtual);
+    const auto files = std::make_shared<JobFiles>(opcoes.impressoraVirtual);
+    return {std::make_unique<DirectorySpooler>(files), std::make_unique<QtPrinter>(files)};
 }
 
-Mesa::Mesa(DeskApplication& programa, const Opcoes& opcoes, std::unique_ptr<Spooler> impressora)
+Mesa::Mesa(DeskApplication& programa, const Opcoes& opcoes, Impressoras impressoras)
     : programa_(programa),
       selecaoEtiquetas_(opcoes.selecaoEtiquetas),
-      impressora_(std::move(impressora)),
-      ambiente_{http_,          *impressora_,         caixas_, relogio_, maquina_,
-                opcoes.baseUrl, opcoes.paginaDeCodigo} {
+      impressoras_(std::move(impressoras)),
+      ambiente_{.http = http_,
+                .spooler = *impressoras_.bruta,
+                .printer = *impressoras_.paginas,
+                .boxes = caixas_,
+                .clock = relogio_,
+                .machine = maquina_,
+                .baseUrl = opcoes.baseUrl,
+                .codePage = opcoes.paginaDeCodigo} {
     programa_.setRelato([this](const std::exception_ptr& erro) { relataErro(desk_, erro); });
     QObject::connect(&fim_, &FimDoPrograma::encerrou, &programa_, [this](int status) {
         http_.close();

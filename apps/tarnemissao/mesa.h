@@ -5,6 +5,7 @@
 
 #include "opcoes.h"
 #include "platform/curl/curl_loader.h"
+#include "platform/printer.h"
 #include "platform/qt/blocking_loader.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_machine.h"
@@ -16,14 +17,20 @@
 
 namespace tarn {
 
-// The printer that the options name; null where the program was built without a
-// printer of the system and the options name none.
-std::unique_ptr<Spooler> impressoraDe(const Opcoes& opcoes);
+// The printer that the options name, as raw jobs and drawn pages reach it.
+struct Impressoras {
+    std::unique_ptr<Spooler> bruta;
+    std::unique_ptr<Printer> paginas;
+};
+
+// `bruta` is null where the program was built without a printer of the system and
+// the options name none.
+Impressoras impressorasDe(const Opcoes& opcoes);
 
 class Mesa {
 public:
-    // `impressora` must be there.
-    Mesa(DeskApplication& programa, const Opcoes& opcoes, std::unique_ptr<Spooler> impressora);
+    // Both of `impressoras` must be there.
+    Mesa(DeskApplication& programa, const Opcoes& opcoes, Impressoras impressoras);
     ~Mesa();
 
     // Shows the main window, then runs the start of the program in its event loop.
@@ -37,7 +44,7 @@ private:
     bool selecaoEtiquetas_;
     CurlLoader rede_;
     BlockingLoader http_{rede_};
-    std::unique_ptr<Spooler> impressora_;
+    Impressoras impressoras_;
     QtMessageBoxes caixas_;
     QtClock relogio_;
     QtMachine maquina_;

@@ -72,9 +72,10 @@ std::variant<Opcoes, SemPartida> leOpcoes(int argc, const char* const* argv,
                          "mostra a versão e termina");
     app.add_option("--servidor", servidor, "endereço do servidor (http:// ou https://)")
         ->type_name("URL");
-    app.add_option("--impressora-virtual", opcoes.impressoraVirtual,
-                   "grava cada impressão em um arquivo desta pasta")
-        ->type_name("PASTA");
+    const CLI::Option* virtualPrinter =
+        app.add_option("--impressora-virtual", opcoes.impressoraVirtual,
+                       "grava cada impressão em um arquivo desta pasta")
+            ->type_name("PASTA");
     app.add_option("--pagina-de-codigo", pagina8Bits,
                    "página de caracteres da impressora: 1252, 850 ou 860")
         ->type_name("NUM");
@@ -92,6 +93,10 @@ std::variant<Opcoes, SemPartida> leOpcoes(int argc, const char* const* argv,
         return SemPartida{0, std::string(versao.what()) + "\n"};
     } catch (const CLI::ParseError& erro) {
         return SemPartida{1, erroDeUso(comoMensagem(erro))};
+    }
+    // Taken as not given, it would send the notes to the real printer.
+    if (virtualPrinter->count() > 0 && opcoes.impressoraVirtual.empty()) {
+        return SemPartida{1, erroDeUso("--impressora-virtual pede o nome de uma pasta.")};
     }
     const auto page = codePageByNumber(pagina8Bits);
     if (!page) {

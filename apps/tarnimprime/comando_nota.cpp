@@ -1,7 +1,8 @@
-#include <cstdint>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <memory>
+#include <system_error>
 #include <vector>
 
 #include "comandos.h"
@@ -21,9 +22,9 @@ struct Pedido {
 };
 
 void declaraSessao(CLI::App& comando, Pedido& pedido) {
-    comando.add_option("--empresa", pedido.sessao.NCOMPANYCODE, "Código da empresa")->required();
-    comando.add_option("--estabelecimento", pedido.sessao.ID_ETB_TARN, "Código do estabelecimento")
-        ->required();
+    declaraCodigo(comando, "--empresa", pedido.sessao.NCOMPANYCODE, "Código da empresa");
+    declaraCodigo(comando, "--estabelecimento", pedido.sessao.ID_ETB_TARN,
+                  "Código do estabelecimento");
     comando.add_flag("--reimpressao", pedido.reimpressao, "Escada da tela de reimpressão");
 }
 
@@ -35,13 +36,23 @@ void imprime(const Pedido& pedido, Mesa& mesa) {
     }
 }
 
+// Empty for a file that can't be read: a stream would raise its own error on a directory.
+std::string conteudo(const std::string& arquivo) {
+    std::error_code falha;
+    if (!std::filesystem::is_directory(arquivo, falha)) {
+        std::ifstream entrada(arquivo, std::ios::binary);
+        std::string bytes((std::istreambuf_iterator<char>(entrada)),
+                          std::istreambuf_iterator<char>());
+        return entrada.bad() ? std::string() : bytes;
+    }
+    return {};
+}
+
 }  // namespace
 
 XmlDocument leResposta(const std::string& arquivo) {
-    std::ifstream entrada(arquivo, std::ios::binary);
-    const std::string bytes((std::istreambuf_iterator<char>(entrada)),
-                            std::istreambuf_iterator<char>());
-    if (!entrada.is_open() || entrada.bad() || bytes.empty()) {
+    const std::string bytes = conteudo(arquivo);
+    if (bytes.empty()) {
         throw FalhaDeUso("não foi possível ler \"" + arquivo +
                          "\". Confira o nome do arquivo e a permissão de leitura.");
     }

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -24,7 +26,8 @@ class FalhaDeUso : public std::runtime_error {
 
 // Options that stand before or after any command.
 struct Geral {
-    std::string destino;  // directory for the jobs; empty: the machine's printer
+    std::optional<std::string> destino;  // directory for the jobs; none: the machine's printer
+    std::string formato = "pdf";         // of drawn pages in that directory
     std::string paginaDeCodigo = "1252";
 };
 
@@ -36,6 +39,11 @@ void declaraNota(CLI::App& app, Escolha& escolha);
 void declaraEscada(CLI::App& app, Escolha& escolha);
 void declaraOrdem(CLI::App& app, Escolha& escolha);
 void declaraRegras(CLI::App& app, Escolha& escolha);
+
+// A required code: an option when `nome` begins with "--", a value otherwise. Zeros in
+// front change nothing.
+void declaraCodigo(CLI::App& comando, const std::string& nome, std::int32_t& codigo,
+                   const std::string& descricao);
 
 // A saved answer; FalhaDeUso when the file can't be read or isn't an answer.
 XmlDocument leResposta(const std::string& arquivo);

@@ -66,9 +66,9 @@ void declaraAviso(CLI::App& app, Escolha& escolha) {
     CLI::App* comando =
         app.add_subcommand("aviso-impressora", "Mostra o aviso de impressora da mesa");
     const auto pedido = std::make_shared<Pedido>();
-    comando->add_option("empresa", pedido->empresa, "Código da empresa")->required();
-    comando->add_option("estabelecimento", pedido->estabelecimento, "Código do estabelecimento")
-        ->required();
+    declaraCodigo(*comando, "empresa", pedido->empresa, "Código da empresa");
+    declaraCodigo(*comando, "estabelecimento", pedido->estabelecimento,
+                  "Código do estabelecimento");
     comando->callback([&escolha, pedido] {
         escolha.faz = [pedido](Mesa&) {
             mostra(avisoImpressora(pedido->empresa, pedido->estabelecimento));

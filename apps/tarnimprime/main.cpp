@@ -1,6 +1,8 @@
 // Prints documents from saved answers, without server or window.
+#include <charconv>
 #include <cstdio>
 #include <exception>
+#include <system_error>
 
 #include "comandos.h"
 #include "mesa.h"
@@ -14,7 +16,23 @@ void mostra(std::string_view linha) {
     std::fputc('\n', stdout);
 }
 
+// Read here: the parser itself would take a zero in front for an octal number, and so
+// pick another company's form.
+void declaraCodigo(CLI::App& comando, const std::string& nome, std::int32_t& codigo,
+                   const std::string& descricao) {
+    const auto le = [nome, &codigo](const std::string& texto) {
+        const char* const fim = texto.data() + texto.size();
+        const auto lido = std::from_chars(texto.data(), fim, codigo);
+        if (lido.ec != std::errc() || lido.ptr != fim) {
+            throw CLI::ConversionError(nome, texto);
+        }
+    };
+    comando.add_option_function<std::string>(nome, le, descricao)->required()->type_name("NÚMERO");
+}
+
 namespace {
+
+constexpr char grupoDeOpcoes[] = "Opções";
 
 // CLI11 speaks English; what it found wrong is said again by its kind.
 std::string usoErrado(const CLI::ParseError& erro) {
@@ -43,16 +61,17 @@ int falha(const std::string& texto, int status) {
 void declara(CLI::App& app, Geral& geral, Escolha& escolha) {
     app.get_formatter()->label("Usage", "Uso");
     app.get_formatter()->label("OPTIONS", "OPÇÕES");
-    app.get_formatter()->label("Options", "Opções");
     app.get_formatter()->label("Positionals", "Valores");
     app.get_formatter()->label("SUBCOMMAND", "COMANDO");
-    app.get_formatter()->label("Subcommands", "Comandos");
     app.get_formatter()->label("TEXT", "TEXTO");
-    app.get_formatter()->label("INT", "NÚMERO");
     app.get_formatter()->label("REQUIRED", "(obrigatório)");
-    app.set_help_flag("-h,--ajuda,--help", "Mostra esta ajuda");
+    app.option_defaults()->group(grupoDeOpcoes);
+    app.set_help_flag("-h,--ajuda,--help", "Mostra esta ajuda")->group(grupoDeOpcoes);
     app.add_option("--destino", geral.destino,
                    "Pasta onde cada trabalho é gravado (job-001.prn, ...) em vez de impresso");
+    app.add_option("--formato", geral.formato,
+                   "Documentos desenhados na pasta: pdf (usual) ou ops, a lista do que é "
+                   "desenhado");
     app.add_option("--pagina-de-codigo", geral.paginaDeCodigo,
                    "Página de código da impressora: 1252 (usual), 850 ou 860");
     declaraNota(app, escolha);
@@ -61,7 +80,8 @@ void declara(CLI::App& app, Geral& geral, Escolha& escolha) {
     declaraRegras(app, escolha);
     app.require_subcommand(1);
     for (CLI::App* comando : app.get_subcommands({})) {
-        comando->fallthrough();
+        comando->fallthrough()->group("Comandos");
+        comando->get_help_ptr()->group(grupoDeOpcoes);
     }
 }
 

@@ -3,7 +3,9 @@
 #include <cstdio>
 #include <ctime>
 
+#include "paginas_sem_janela.h"
 #include "platform/directory/directory_spooler.h"
+#include "platform/directory/ops_printer.h"
 #include "platform/system_spooler.h"
 #include "runtime/text.h"
 
@@ -40,31 +42,44 @@ Date Relogio::today() {
 
 Mesa::Mesa(const Geral& geral) : geral_(geral) {}
 
-std::unique_ptr<Spooler> Mesa::makeSpooler() const {
-    if (!geral_.destino.empty()) {
-        const auto files = std::make_shared<JobFiles>(std::filesystem::path(geral_.destino),
-                                                      JobNumbering::FromOne);
-        if (!files->makeDirectory()) {
-            throw FalhaDeUso("não foi possível criar a pasta \"" + geral_.destino +
-                             "\". Confira o nome e a permissão de gravação.");
-        }
-        return std::make_unique<DirectorySpooler>(files);
+void Mesa::preparaPasta() {
+    const auto files =
+        std::make_shared<JobFiles>(std::filesystem::path(*geral_.destino), JobNumbering::FromOne);
+    if (!files->makeDirectory()) {
+        throw FalhaDeUso("não foi possível criar a pasta \"" + *geral_.destino +
+                         "\". Confira o nome e a permissão de gravação.");
     }
-    auto spooler = makeSystemSpooler();
-    if (!spooler || spooler->defaultPrinter().empty()) {
+    spooler_ = std::make_unique<DirectorySpooler>(files);
+    if (geral_.formato == "ops") {
+        paginas_ = std::make_unique<OpsPrinter>(files);
+    } else {
+        paginas_ = std::make_unique<PaginasSemJanela>(files);
+    }
+}
+
+void Mesa::preparaImpressora() {
+    if (geral_.formato == "ops") {
+        throw FalhaDeUso("--formato ops grava em uma pasta: dê também --destino PASTA.");
+    }
+    spooler_ = makeSystemSpooler();
+    if (!spooler_ || spooler_->defaultPrinter().empty()) {
         throw FalhaDeUso(
             "esta máquina não tem impressora padrão. Defina uma, ou grave os trabalhos em uma "
             "pasta com --destino PASTA.");
     }
-    return spooler;
+    paginas_ = std::make_unique<PaginasSemJanela>(nullptr);
 }
 
 Environment& Mesa::ambiente() {
     if (!ambiente_) {
         const CodePage pagina = paginaDe(geral_.paginaDeCodigo);
-        spooler_ = makeSpooler();
+        if (geral_.formato != "pdf" && geral_.formato != "ops") {
+            throw FalhaDeUso("--formato pede pdf ou ops.");
+        }
+        geral_.destino ? preparaPasta() : preparaImpressora();
         ambiente_ = std::make_unique<Environment>(Environment{.http = servidor_,
                                                               .spooler = *spooler_,
+                                                              .printer = *paginas_,
                                                               .boxes = caixas_,
                                                               .clock = relogio_,
                                                               .machine = maquina_,

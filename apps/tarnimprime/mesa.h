@@ -9,6 +9,7 @@
 #include "platform/http_loader.h"
 #include "platform/machine.h"
 #include "platform/message_boxes.h"
+#include "platform/printer.h"
 #include "platform/spooler.h"
 
 namespace tarn::imprime {
@@ -44,7 +45,8 @@ public:
     Environment& ambiente();
 
 private:
-    std::unique_ptr<Spooler> makeSpooler() const;
+    void preparaPasta();
+    void preparaImpressora();
 
     const Geral& geral_;
     SemServidor servidor_;
@@ -52,6 +54,7 @@ private:
     Relogio relogio_;
     SemMaquina maquina_;
     std::unique_ptr<Spooler> spooler_;
+    std::unique_ptr<Printer> paginas_;
     std::unique_ptr<Environment> ambiente_;
 };
 

@@ -133,7 +133,7 @@ int anda(DeskApplication& programa, const Entrada& entrada) {
     Opcoes opcoes;
     opcoes.baseUrl = enderecoDoServidor(entrada.servidor);
     opcoes.impressoraVirtual = entrada.pasta;
-    Mesa mesa(programa, opcoes, impressoraDe(opcoes));
+    Mesa mesa(programa, opcoes, impressorasDe(opcoes));
     Roteiro roteiro(QString::fromStdString(entrada.pasta));
     escreve(roteiro, entrada);
     QObject::connect(&roteiro, &Roteiro::acabou, [](const QString& motivo) {

@@ -2,10 +2,10 @@
 
 #include <QCloseEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMdiSubWindow>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QTimer>
 #include <array>
 
@@ -29,6 +29,13 @@ constexpr std::array<int, 12> larguras{12, 34, 19, 18, 14, 13, 24, 24, 26, 17, 1
 constexpr int colunasComTitulo = 8;
 constexpr int linhasVisiveis = 18;
 
+// What follows a click or a key without the user having looked again.
+bool repeteOGesto(const QEvent& event) {
+    return event.type() == QEvent::MouseButtonDblClick ||
+           (event.type() == QEvent::KeyPress &&
+            static_cast<const QKeyEvent&>(event).isAutoRepeat());
+}
+
 }  // namespace
 
 FrmOFT::FrmOFT(DeskContext& desk)
@@ -42,9 +49,7 @@ FrmOFT::FrmOFT(DeskContext& desk)
     timer_->setObjectName(QStringLiteral("Timer"));
     timer_->setInterval(intervaloMs);
     connect(timer_, &QTimer::timeout, this, &FrmOFT::Timer_Tick);
-    auto* esc =
-        new QShortcut(Qt::Key_Escape, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-    connect(esc, &QShortcut::activated, ui_->CmdFechar, &QPushButton::click);
+    ui_->cmdSelecionar->installEventFilter(this);
 }
 
 FrmOFT::~FrmOFT() = default;
@@ -180,6 +185,22 @@ void FrmOFT::CmdFechar_Click() {
         janela->close();
     } else {
         close();
+    }
+}
+
+// After a note the next order is the selected one: the second click of a double click
+// and a key held down would generate its note too.
+bool FrmOFT::eventFilter(QObject* /*watched*/, QEvent* event) {
+    return repeteOGesto(*event);
+}
+
+// No shortcut: that would also be taken from a dialog that is just opening over this
+// screen, and close the screen under it.
+void FrmOFT::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && !event->isAutoRepeat()) {
+        ui_->CmdFechar->click();
+    } else {
+        QWidget::keyPressEvent(event);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "common/raw_channel.h"
 
+#include "runtime/ascii.h"
 #include "runtime/erro_execucao.h"
 #include "runtime/text.h"
 
@@ -28,6 +29,13 @@ std::string FormataCampo(std::string& texto, int largura, bool aDireita) {
 
 void appendCampo(std::string& linha, std::string_view texto, int largura, bool aDireita) {
     const std::size_t width = countOf(largura);
+    const std::string_view head = texto.substr(0, width);
+    if (isPlain(head)) {  // as many bytes as characters
+        const std::size_t start = linha.size() + (aDireita ? width - head.size() : 0);
+        linha.append(width, ' ');
+        head.copy(linha.data() + start, head.size());
+        return;
+    }
     const std::string_view field = leftOf(texto, width);
     const std::size_t blanks = width - lengthOf(field);
     if (aDireita) {

@@ -115,6 +115,8 @@ std::string_view usualValue(std::string& out, const Field& field, Run& run) {
             break;
         case Source::Mark:
             return "X";
+        case Source::EntryOrExit:
+            return isEntry(run) ? "ENTRADA" : "SAÍDA";
         case Source::NoteNumber:
             return run.noteNumber;
         case Source::ParcelNumber:

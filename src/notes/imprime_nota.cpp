@@ -1,6 +1,7 @@
 #include "notes/imprime_nota.h"
 
 #include "common/raw_channel.h"
+#include "notes/draw_note.h"
 #include "notes/layouts/layouts.h"
 #include "notes/pipeline.h"
 #include "platform/environment.h"
@@ -24,6 +25,15 @@ const notes::Layout& installed(std::string_view name) {
     return *layout;
 }
 
+void print(const notes::Layout& layout, Environment& ambiente, const Sessao& sessao,
+           const XmlDocument& documento, const std::string& numeroNota) {
+    if (layout.drawn != nullptr) {
+        return notes::drawNote(*layout.drawn, documento, numeroNota, ambiente);
+    }
+    RawChannel channel(ambiente.spooler, ambiente.codePage);
+    notes::printNote(layout.formFor(sessao.ID_ETB_TARN), documento, numeroNota, channel);
+}
+
 }  // namespace
 
 void imprimeNota(Escada escada, Environment& ambiente, const Sessao& sessao, XmlDocument& documento,
@@ -35,9 +45,7 @@ void imprimeNota(Escada escada, Environment& ambiente, const Sessao& sessao, Xml
                                ": as notas deste estabelecimento só saem pela tela de reimpressão");
     }
     if (!name.empty()) {
-        RawChannel channel(ambiente.spooler, ambiente.codePage);
-        notes::printNote(installed(name).formFor(sessao.ID_ETB_TARN), documento, numeroNota,
-                         channel);
+        print(installed(name), ambiente, sessao, documento, numeroNota);
     }
     documento = XmlDocument();
 }

@@ -1,36 +1,11 @@
-#include <limits>
-
 #include "notes/blocks.h"
 #include "notes/fields.h"
 #include "notes/form_check.h"
+#include "notes/item_rows.h"
 #include "notes/run.h"
-#include "runtime/erro_execucao.h"
-#include "runtime/numbers.h"
 
 namespace tarn::notes {
 namespace {
-
-// A count of lines that the form row tells: a text of digits.
-int lineCount(Source source, Run& run) {
-    const std::string_view text = run.document.text(source);
-    if (!isNumeric(text)) {
-        refuseNumber(source, text);
-    }
-    return readInt16(text);
-}
-
-double quantityOf(Quantity kind, NoteDocument& document) {
-    switch (kind) {
-        case Quantity::Amount:
-            return document.number(Source::QTDE);
-        case Quantity::AmountOrFive:
-            return document.number(Source::QTDE, "5");
-        case Quantity::PointsGroup:
-            break;
-    }
-    return document.present(Source::QTDE) ? numberOf(Source::QTDE, document.text(Source::QTDE))
-                                          : 5.0;
-}
 
 void collectClass(Run& run) {
     const std::string_view group = run.document.text(Source::GF_AGRUP);
@@ -43,16 +18,10 @@ void collectClass(Run& run) {
 // Everything of the item is read before its first call, so that a bad amount
 // leaves nothing of it on the paper.
 void printItem(const Items& block, Run& run) {
-    NoteDocument& document = run.document;
     if (block.legalTexts) {
-        run.legalTexts.add(document.text(Source::DC_TXT_LEG_NF));
+        run.legalTexts.add(run.document.text(Source::DC_TXT_LEG_NF));
     }
-    run.item.quantity = quantityOf(block.quantity, document);
-    run.item.lineTotal = document.number(Source::VALOR_UN) * run.item.quantity;
-    if (block.sums) {
-        run.weightSum += document.number(Source::PESO) * run.item.quantity;
-        run.quantitySum += run.item.quantity;
-    }
+    readNumbers(block.quantity, block.sums, run);
     if (block.classes) {
         collectClass(run);
     }
@@ -62,16 +31,9 @@ void printItem(const Items& block, Run& run) {
     }
     appendFields(run.line, firstColumn, block.line.fields(), run);
     if (block.code.count > 0) {
-        run.channel.ImprimeRaw(1, code, block.code.advance);
+        run.channel->ImprimeRaw(1, code, block.code.advance);
     }
     run.send(block.line.advance);
-}
-
-void step(std::size_t& position) {
-    if (position == static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
-        throw ErroExecucao(ErroNumero::Estouro, "a nota tem itens demais");
-    }
-    ++position;
 }
 
 // Prints the item rows; returns how many lines they took.
@@ -91,7 +53,7 @@ int printRows(const Items& block, int mostItems, Run& run) {
                 run.services.rows.push_back(position);
             }
         }
-        step(position);
+        position = positionAfter(position);
     } while (document.isItem(position));
     return printed;
 }

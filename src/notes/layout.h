@@ -148,12 +148,16 @@ struct Form {
     std::span<const Step> steps{};
 };
 
-// Printed when the establishment is `establishment`, or always when `other` is null.
+struct DrawnForm;
+
+// `form` is printed when the establishment is `establishment`, or always when `other`
+// is null. A layout that draws on blank paper has `drawn` in their place.
 struct Layout {
     std::string_view name{};
     const Form* form = nullptr;
     std::int32_t establishment = 0;
     const Form* other = nullptr;
+    const DrawnForm* drawn = nullptr;
 
     constexpr const Form& formFor(std::int32_t logged) const {
         return other == nullptr || logged == establishment ? *form : *other;

@@ -50,7 +50,7 @@ void printNote(const Form& form, const XmlDocument& document, std::string_view n
     }
     channel.abre();
     Run run{.document = NoteDocument(document),
-            .channel = channel,
+            .channel = &channel,
             .noteNumber = formatText(noteNumber, noteNumberMask),
             .observation = form.observation};
     run.line.reserve(widestForm);

@@ -28,8 +28,8 @@ struct Services {
 
 struct Run {
     NoteDocument document;
-    RawChannel& channel;
-    std::string noteNumber;  // under its mask
+    RawChannel* channel = nullptr;  // null where the note is drawn
+    std::string noteNumber;         // under its mask
     Joined observation = Joined::Labelled;
 
     int parcel = 0;  // number of the parcel in hand
@@ -47,7 +47,7 @@ struct Run {
 
     // One call of the channel with what stands in `line`, which is empty afterwards.
     void send(int lineEnds) {
-        channel.ImprimeRaw(1, line, lineEnds);
+        channel->ImprimeRaw(1, line, lineEnds);
         line.clear();
     }
 };

@@ -130,6 +130,7 @@ enum class Source : std::uint8_t {
     LastServiceRate,
     ServiceTaxSum,
     ServiceSum,
+    EntryOrExit,  // the word for it
 };
 
 inline constexpr std::size_t attributeCount = static_cast<std::size_t>(Source::VL_LIQ_IT) + 1;

@@ -11,11 +11,13 @@ class Clock;
 class HttpLoader;
 class Machine;
 class MessageBoxes;
+class Printer;
 class Spooler;
 
 struct Environment {
     HttpLoader& http;
-    Spooler& spooler;
+    Spooler& spooler;  // raw jobs
+    Printer& printer;  // drawn pages
     MessageBoxes& boxes;
     Clock& clock;
     Machine& machine;

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 
+#include "runtime/ascii.h"
 #include "runtime/utf8.h"
 
 namespace tarn {
@@ -58,7 +59,7 @@ char byteOf(const UpperHalf& half, char32_t code) {
 
 // The byte of the windows-1252 block 80-9F that holds the character; 0 for none.
 unsigned char blockByteOf(char32_t code) {
-    if (code < 0xA0) {
+    if (code <= 0xFF) {  // windows-1252 has no other letter of these in the block
         return 0;
     }
     const auto* found = std::find(block1252.begin(), block1252.end(), code);
@@ -107,10 +108,7 @@ template <typename ByteOf>
 void appendBytes(std::string& out, std::string_view utf8, ByteOf byteOfCode) {
     std::size_t position = 0;
     while (position < utf8.size()) {
-        std::size_t end = position;
-        while (end < utf8.size() && static_cast<unsigned char>(utf8[end]) < 0x80) {
-            ++end;
-        }
+        std::size_t end = position + asciiRun(utf8.substr(position));
         out.append(utf8, position, end - position);
         if (end < utf8.size()) {
             const Utf8Char c = utf8At(utf8, end);
@@ -138,6 +136,13 @@ std::optional<CodePage> codePageByNumber(int number) {
 
 void appendPrinterBytes(std::string& out, std::string_view utf8, CodePage page) {
     appendBytes(out, utf8, [page](char32_t code) { return printerByte(code, page); });
+}
+
+char16_t characterOf(unsigned char byte, CodePage page) {
+    if (byte < 0x80 || page == CodePage::Page1252) {
+        return byte;
+    }
+    return (page == CodePage::Page850 ? page850 : page860).at(byte - 0x80U);
 }
 
 std::string toWindows1252(std::string_view utf8) {

@@ -18,6 +18,10 @@ std::optional<CodePage> codePageByNumber(int number);  // 1252, 850, 860
 // lacks as "?". Bytes below 128 go as they are.
 void appendPrinterBytes(std::string& out, std::string_view utf8, CodePage page);
 
+// What the page's byte stands for. Bytes below 128, and all of Page1252, stand for the
+// character of their number.
+char16_t characterOf(unsigned char byte, CodePage page);
+
 // Full windows-1252, one byte a character, "?" for a character it lacks.
 std::string toWindows1252(std::string_view utf8);
 std::string fromWindows1252(std::string_view bytes);

@@ -44,26 +44,50 @@ char digitAt(const Decimal& decimal, int place) {
     return held ? decimal.digits[static_cast<std::size_t>(index)] : '0';
 }
 
+// What of a rounded number gets written.
+struct Written {
+    int whole = 0;     // digits before the comma
+    int points = 0;    // between them
+    int decimals = 0;  // digits behind the comma
+    bool minus = false;
+
+    int length() const { return (minus ? 1 : 0) + whole + points + decimals + (decimals > 0); }
+};
+
+Written writtenOf(const Decimal& decimal, const NumberMask& mask) {
+    Written written;
+    written.minus = decimal.negative && decimal.count > 0;
+    written.whole = std::max(decimal.point, mask.wholeDigits);
+    written.points = mask.grouped && written.whole > 0 ? (written.whole - 1) / 3 : 0;
+    if (mask.mostDecimals > 0) {
+        written.decimals = std::max({decimal.count - decimal.point, mask.leastDecimals, 0});
+    }
+    return written;
+}
+
 void appendDecimal(std::string& out, Decimal decimal, const NumberMask& mask) {
     roundTo(decimal, mask.mostDecimals);
     if (decimal.count == 0) {
         decimal.point = 0;
-    } else if (decimal.negative) {
-        out.push_back('-');
     }
-    for (int place = std::max(decimal.point, mask.wholeDigits); place > 0; --place) {
-        out.push_back(digitAt(decimal, place));
-        if (mask.grouped && place > 1 && place % 3 == 1) {
-            out.push_back('.');
+    const Written written = writtenOf(decimal, mask);
+    const std::size_t start = out.size();
+    out.resize(start + static_cast<std::size_t>(written.length()));
+    char* to = out.data() + start;
+    if (written.minus) {
+        *to++ = '-';
+    }
+    for (int place = written.whole; place > 0; --place) {
+        *to++ = digitAt(decimal, place);
+        if (written.points > 0 && place > 1 && place % 3 == 1) {
+            *to++ = '.';
         }
     }
-    const int decimals = std::max(decimal.count - decimal.point, mask.leastDecimals);
-    if (mask.mostDecimals == 0 || decimals <= 0) {
-        return;
+    if (written.decimals > 0) {
+        *to++ = ',';
     }
-    out.push_back(',');
-    for (int i = 0; i < decimals; ++i) {
-        out.push_back(digitAt(decimal, -i));
+    for (int i = 0; i < written.decimals; ++i) {
+        *to++ = digitAt(decimal, -i);
     }
 }
 

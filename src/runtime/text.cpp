@@ -1,8 +1,6 @@
 #include "runtime/text.h"
 
-#include <cstdint>
-#include <cstring>
-
+#include "runtime/ascii.h"
 #include "runtime/utf8.h"
 
 namespace tarn {
@@ -11,24 +9,6 @@ namespace {
 
 bool isControl(char c) {
     return static_cast<unsigned char>(c) < 32 || c == 127;
-}
-
-// Length of the run of ASCII characters that the text begins with, eight at a time.
-std::size_t asciiRun(std::string_view text) {
-    constexpr std::uint64_t highBits = 0x8080808080808080U;
-    std::size_t run = 0;
-    while (run + sizeof(std::uint64_t) <= text.size()) {
-        std::uint64_t eight = 0;
-        std::memcpy(&eight, text.data() + run, sizeof eight);
-        if ((eight & highBits) != 0) {
-            break;
-        }
-        run += sizeof eight;
-    }
-    while (run < text.size() && static_cast<unsigned char>(text[run]) < 0x80) {
-        ++run;
-    }
-    return run;
 }
 
 // Byte position behind the first `count` characters, or the text's end.
@@ -161,6 +141,9 @@ std::string blankControls(std::string_view text) {
 void appendBlankingControls(std::string& out, std::string_view text) {
     const std::size_t start = out.size();
     out.append(text);
+    if (isPlain(text)) {
+        return;
+    }
     char* appended = out.data() + start;
     for (std::size_t i = 0; i < text.size(); ++i) {
         appended[i] = isControl(appended[i]) ? ' ' : appended[i];

@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstdint>
 
+#include "runtime/ascii.h"
 #include "runtime/erro_execucao.h"
 #include "runtime/text.h"
 #include "session/pega_valor.h"
@@ -12,6 +13,8 @@ namespace tarn {
 namespace {
 
 constexpr std::size_t menorTabela = 64;
+// How many names of the row before may be missing in a row without losing its order.
+constexpr std::size_t maiorSalto = 4;
 
 std::string_view comoTexto(const void* nome) {
     return static_cast<const char*>(nome);
@@ -21,19 +24,41 @@ char maiuscula(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
-// FNV-1a over the capitals, so that spellings of one name fall together.
+// Of the length and both ends of the name. The bit that parts small letters from
+// capitals doesn't count, so that spellings of one name fall together.
 std::size_t espalha(std::string_view nome) {
-    std::uint64_t valor = 14695981039346656037U;
-    for (const char c : nome) {
-        valor = (valor ^ static_cast<unsigned char>(maiuscula(c))) * 1099511628211U;
+    constexpr std::uint64_t semCaixa = 0xDFDFDFDFDFDFDFDFU;
+    constexpr std::uint64_t primo = 0x9E3779B97F4A7C15U;
+    using Meio = std::uint32_t;
+    std::uint64_t comeco = 0;
+    std::uint64_t fim = 0;
+    if (nome.size() >= sizeof comeco) {
+        comeco = ascii::load<std::uint64_t>(nome.data());
+        fim = ascii::load<std::uint64_t>(nome.data() + nome.size() - sizeof fim);
+    } else if (nome.size() >= sizeof(Meio)) {
+        comeco = ascii::load<Meio>(nome.data());
+        fim = ascii::load<Meio>(nome.data() + nome.size() - sizeof(Meio));
+    } else {
+        for (const char c : nome) {
+            comeco = comeco << 8U | static_cast<unsigned char>(c);
+        }
     }
-    return static_cast<std::size_t>(valor ^ (valor >> 32U));
+    const std::uint64_t misto =
+        ((comeco & semCaixa) * primo ^ (fim & semCaixa)) * primo + nome.size();
+    return static_cast<std::size_t>(misto ^ (misto >> 32U));
 }
 
 bool iguaisSemCaixa(std::string_view nome, std::string_view maiusculo) {
     return nome.size() == maiusculo.size() &&
            std::equal(nome.begin(), nome.end(), maiusculo.begin(),
                       [](char a, char b) { return maiuscula(a) == b; });
+}
+
+// The value of an attribute is one text node, or none.
+std::string_view conteudo(const void* atributo) {
+    const xmlNode* texto = static_cast<const xmlAttr*>(atributo)->children;
+    return texto == nullptr || texto->content == nullptr ? std::string_view{}
+                                                         : comoTexto(texto->content);
 }
 
 std::size_t tabelaPara(std::size_t nomes) {
@@ -55,22 +80,26 @@ NomesLinha::NomesLinha(std::span<const std::string_view> nomes)
     }
 }
 
-int NomesLinha::campoDe(std::string_view nome) const {
+NomesLinha::Encontro NomesLinha::encontra(std::string_view nome) const {
     std::size_t lugar = espalha(nome) & (tabela_.size() - 1);
     while (tabela_[lugar] >= 0) {
         const std::int16_t campo = tabela_[lugar];
-        if (iguaisSemCaixa(nome, nomes_[static_cast<std::size_t>(campo)].maiusculo)) {
-            return campo;
+        const Nome& candidato = nomes_[static_cast<std::size_t>(campo)];
+        if (nome == candidato.nome) {
+            return {campo, true};
+        }
+        if (iguaisSemCaixa(nome, candidato.maiusculo)) {
+            return {campo, false};
         }
         lugar = (lugar + 1) & (tabela_.size() - 1);
     }
-    return -1;
+    return {};
 }
 
 LeitorLinha::LeitorLinha(std::shared_ptr<const NomesLinha> nomes)
-    : nomes_(std::move(nomes)),
-      achados_(nomes_->quantos()),
-      conhecidos_(tabelaPara(nomes_->quantos())) {}
+    : nomes_(std::move(nomes)), achados_(nomes_->quantos()) {
+    sequencia_.reserve(nomes_->quantos());
+}
 
 void LeitorLinha::le(const XmlNode& linha) {
     if (!linha) {
@@ -82,15 +111,13 @@ void LeitorLinha::le(const XmlNode& linha) {
     if (elemento->type != XML_ELEMENT_NODE) {
         return;
     }
-    const std::uint64_t documento = XmlDocument::serialOf(elemento);
-    if (documento != documento_) {
-        std::fill(conhecidos_.begin(), conhecidos_.end(), Conhecido{});
-        ocupados_ = 0;
-        documento_ = documento;
-    }
-    const bool semPrefixo = XmlDocument::undeclaredPrefixes(elemento);
+    comeca(elemento);
+    std::size_t lugar = 0;
     for (const xmlAttr* a = elemento->properties; a != nullptr; a = a->next) {
-        const Conhecido& nome = conhecido(a->name, semPrefixo);
+        if (lugar >= sequencia_.size() || sequencia_[lugar].nome != a->name) {
+            lugar = lugarDe(a->name, lugar);
+        }
+        const Conhecido& nome = sequencia_[lugar++];
         if (nome.campo < 0) {
             continue;
         }
@@ -108,8 +135,7 @@ std::string_view LeitorLinha::texto(std::size_t campo) const {
     if (achado.vez != vez_) {
         return {};
     }
-    return achado.exato ? XmlAttribute(achado.atributo).text()
-                        : consulta(achado, (*nomes_)[campo].nome);
+    return achado.exato ? conteudo(achado.atributo) : consulta(achado, (*nomes_)[campo].nome);
 }
 
 std::string_view LeitorLinha::numero(std::size_t campo, std::string_view padrao) {
@@ -119,63 +145,58 @@ std::string_view LeitorLinha::numero(std::size_t campo, std::string_view padrao)
     }
     const NomesLinha::Nome& nome = (*nomes_)[campo];
     const std::string_view texto = achado.exato && nome.nome == nome.maiusculo
-                                       ? XmlAttribute(achado.atributo).text()
+                                       ? conteudo(achado.atributo)
                                        : consulta(achado, nome.maiusculo);
-    if (texto.find('.') == std::string_view::npos) {
+    const auto ponto = std::find(texto.begin(), texto.end(), '.');
+    if (ponto == texto.end()) {
         return texto;
     }
     achado.trocado.assign(texto);
-    std::replace(achado.trocado.begin(), achado.trocado.end(), '.', ',');
+    std::replace(achado.trocado.begin() + (ponto - texto.begin()), achado.trocado.end(), '.', ',');
     return achado.trocado;
 }
 
 std::string_view LeitorLinha::consulta(const Achado& achado, std::string_view nome) const {
     const auto* atributo = static_cast<const xmlAttr*>(achado.atributo);
     if (atributo->ns == nullptr && comoTexto(atributo->name) == nome) {
-        return XmlAttribute(atributo).text();
+        return conteudo(atributo);
     }
     return linha_.attributes().getNamedItem(nome).text();
 }
 
-// A document holds each name once, so that its address tells it.
-const LeitorLinha::Conhecido& LeitorLinha::conhecido(const void* nome, bool semPrefixo) {
-    Conhecido* lugar = &lugarDe(nome);
-    if (lugar->nome == nullptr) {
-        if (2 * (ocupados_ + 1) > conhecidos_.size()) {
-            cresce();
-            lugar = &lugarDe(nome);
-        }
-        std::string_view escrito = comoTexto(nome);
-        if (semPrefixo) {
-            escrito = escrito.substr(escrito.find(':') + 1);
-        }
-        const int campo = nomes_->campoDe(escrito);
-        const bool exato =
-            campo >= 0 && (*nomes_)[static_cast<std::size_t>(campo)].nome == comoTexto(nome);
-        *lugar = {nome, static_cast<std::int16_t>(campo), exato};
-        ++ocupados_;
+// What is known of names belongs to one document.
+void LeitorLinha::comeca(const void* elemento) {
+    const std::uint64_t documento = XmlDocument::serialOf(elemento);
+    if (documento != documento_) {
+        sequencia_.clear();
+        documento_ = documento;
+        semPrefixo_ = XmlDocument::undeclaredPrefixes(elemento);
     }
-    return *lugar;
 }
 
-LeitorLinha::Conhecido& LeitorLinha::lugarDe(const void* nome) {
-    const std::size_t mascara = conhecidos_.size() - 1;
-    const auto endereco = reinterpret_cast<std::uintptr_t>(nome);
-    std::size_t lugar = (endereco ^ (endereco >> 9)) & mascara;
-    while (conhecidos_[lugar].nome != nullptr && conhecidos_[lugar].nome != nome) {
-        lugar = (lugar + 1) & mascara;
-    }
-    return conhecidos_[lugar];
-}
-
-void LeitorLinha::cresce() {
-    std::vector<Conhecido> antes(conhecidos_.size() * 2);
-    antes.swap(conhecidos_);
-    for (const Conhecido& conhecido : antes) {
-        if (conhecido.nome != nullptr) {
-            lugarDe(conhecido.nome) = conhecido;
+// Where the name stands in the sequence from `desde` on. A document holds each name
+// once, so that its address tells it. A name that isn't near takes the place.
+std::size_t LeitorLinha::lugarDe(const void* nome, std::size_t desde) {
+    const std::size_t ate = std::min(desde + 1 + maiorSalto, sequencia_.size());
+    for (std::size_t lugar = desde; lugar < ate; ++lugar) {
+        if (sequencia_[lugar].nome == nome) {
+            return lugar;
         }
     }
+    if (desde == sequencia_.size()) {
+        sequencia_.push_back(reconhece(nome));
+    } else {
+        sequencia_[desde] = reconhece(nome);
+    }
+    return desde;
+}
+
+LeitorLinha::Conhecido LeitorLinha::reconhece(const void* nome) const {
+    const std::string_view inteiro = comoTexto(nome);
+    const std::string_view base = semPrefixo_ ? inteiro.substr(inteiro.find(':') + 1) : inteiro;
+    const NomesLinha::Encontro achado = nomes_->encontra(base);
+    return {nome, static_cast<std::int16_t>(achado.campo),
+            achado.exato && base.size() == inteiro.size()};
 }
 
 }  // namespace tarn

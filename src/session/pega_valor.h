@@ -41,7 +41,12 @@ public:
     };
     std::size_t quantos() const { return nomes_.size(); }
     const Nome& operator[](std::size_t campo) const { return nomes_[campo]; }
-    int campoDe(std::string_view nome) const;  // -1: none
+    // Which one is called so in any case of letters.
+    struct Encontro {
+        int campo = -1;      // -1: none
+        bool exato = false;  // spelled as `nome`
+    };
+    Encontro encontra(std::string_view nome) const;
 
 private:
     std::vector<Nome> nomes_;
@@ -49,7 +54,7 @@ private:
 };
 
 // PegaValor for many rows of the same fields: one pass over the attributes of a
-// row answers for all of them, without an allocation.
+// row answers for all of them. Rows that repeat the order of the names cost least.
 class LeitorLinha {
 public:
     explicit LeitorLinha(std::shared_ptr<const NomesLinha> nomes);
@@ -81,17 +86,17 @@ private:
         bool exato = false;
     };
 
-    const Conhecido& conhecido(const void* nome, bool semPrefixo);
-    Conhecido& lugarDe(const void* nome);
-    void cresce();
+    void comeca(const void* elemento);
+    std::size_t lugarDe(const void* nome, std::size_t desde);
+    Conhecido reconhece(const void* nome) const;
     std::string_view consulta(const Achado& achado, std::string_view nome) const;
 
     std::shared_ptr<const NomesLinha> nomes_;
     std::vector<Achado> achados_;
-    std::vector<Conhecido> conhecidos_;  // open addressing, a power of two long
-    std::size_t ocupados_ = 0;
+    std::vector<Conhecido> sequencia_;  // names of the row before, in its order
     std::uint64_t documento_ = 0;
-    std::uint64_t vez_ = 0;  // rows read
+    bool semPrefixo_ = false;  // the document's names hold prefixes that it never declares
+    std::uint64_t vez_ = 0;    // rows read
     XmlNode linha_;
 };
 

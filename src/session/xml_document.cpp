@@ -6,7 +6,7 @@
 #include <libxml/xmlsave.h>
 
 #include <atomic>
-#include <deque>
+#include <list>
 
 #include "runtime/erro_execucao.h"
 
@@ -231,7 +231,7 @@ struct XmlDocument::State {
     DocPointer doc;
     bool undeclaredPrefixes = false;
     std::uint64_t serial = nextSerial();
-    std::deque<SharedNodes> children;  // of the elements asked so far; _private points here
+    std::list<SharedNodes> children;  // of the elements asked so far; _private points here
 
     static State& of(const xmlNode* node) { return *static_cast<State*>(node->doc->_private); }
 

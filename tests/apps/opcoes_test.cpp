@@ -71,6 +71,8 @@ TEST(Opcoes, WrongUsageSaysWhat) {
          "tarnemissao: --pagina-de-codigo aceita 1252, 850 ou 860.\n"},
         {{"--pagina-de-codigo", "abc"},
          "tarnemissao: valor que não serve: --pagina-de-codigo = abc.\n"},
+        {{"--impressora-virtual", ""},
+         "tarnemissao: --impressora-virtual pede o nome de uma pasta.\n"},
         {{"--servidor", "ftp://x"},
          "tarnemissao: o endereço do servidor deve começar com http:// ou https://: "
          "\"ftp://x\".\n"}};

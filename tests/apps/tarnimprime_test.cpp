@@ -3,10 +3,14 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <regex>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -85,6 +89,136 @@ TEST_F(Tarnimprime, PrintsANoteIntoTheDirectoryItMakes) {
     EXPECT_FALSE(hasJob("job-003.prn"));
 }
 
+// A text of a drawn job: where it lands, in points, and what it says.
+struct Text {
+    double x = 0;
+    double y = 0;
+    std::string words;
+};
+
+std::vector<Text> textsOf(const std::string& ops) {
+    constexpr double pointsPerCentimetre = 72 / 2.54;
+    std::vector<Text> texts;
+    std::istringstream lines(ops);
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream fields(line);
+        std::vector<std::string> field;
+        for (std::string value; std::getline(fields, value, '\t');) {
+            field.push_back(value);
+        }
+        if (field.size() == 7 && field[0] == "text") {
+            texts.push_back({std::stod(field[1]) * pointsPerCentimetre,
+                             std::stod(field[2]) * pointsPerCentimetre, field[6]});
+        }
+    }
+    return texts;
+}
+
+// The boxes of the words on a page, top left corners.
+std::vector<Text> wordsOf(const std::string& bbox) {
+    static const std::regex shape("xMin=\"([-0-9.]+)\" yMin=\"([-0-9.]+)\"[^>]*>([^<]*)<");
+    std::vector<Text> words;
+    for (std::sregex_iterator found(bbox.begin(), bbox.end(), shape), end; found != end; ++found) {
+        words.push_back({std::stod((*found)[1]), std::stod((*found)[2]), (*found)[3]});
+    }
+    return words;
+}
+
+bool standsAt(const Text& text, const std::vector<Text>& words) {
+    constexpr double halfMillimetre = 0.5 * 72 / 25.4;
+    const std::string first = text.words.substr(0, text.words.find(' '));
+    return std::any_of(words.begin(), words.end(), [&](const Text& word) {
+        return word.words == first && std::abs(word.x - text.x) < halfMillimetre &&
+               std::abs(word.y - text.y) < halfMillimetre;
+    });
+}
+
+TEST_F(Tarnimprime, TheDrawnNoteAsOperations) {
+    const Result result = run({"--formato", "ops", "--destino", file("papel"), "nota", "--empresa",
+                               "2541", "--estabelecimento", "1", "--numero", "4567",
+                               data("nota_completa.xml"), data("nota_completa.xml")});
+    EXPECT_EQ(result.status, 0) << result.err;
+    const std::string ops = job("job-001.ops");
+    EXPECT_EQ(ops.rfind("scale\t7\norientation\t1\ntext\t1.100\t1.000\tArial\t8\t1\tSAÍDA\n"
+                        "text\t4.500\t1.000\tArial\t8\t1\t004567\n",
+                        0),
+              0U)
+        << ops;
+    EXPECT_EQ(textsOf(ops).size(), 9U + 3 + 4 + 3 + 8);
+    EXPECT_EQ(ops.substr(ops.size() - 7), "enddoc\n");
+    EXPECT_EQ(job("job-002.ops"), ops);
+    EXPECT_FALSE(hasJob("job-003.ops"));
+}
+
+TEST_F(Tarnimprime, TheDrawnNoteAsPdfNeedsNoDisplay) {
+    const std::vector<std::string> nota = {
+        "nota",          "--empresa", "2541", "--estabelecimento",       "1",
+        "--reimpressao", "--numero",  "4567", data("nota_completa.xml"), "--destino",
+        file("papel")};
+    std::vector<std::string> ops = nota;
+    ops.insert(ops.end(), {"--formato", "ops"});
+    ::setenv("QT_QPA_PLATFORM", "xcb", 1);
+    ::unsetenv("DISPLAY");
+    const Result result = run(nota);
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out + result.err, "");
+    ASSERT_TRUE(hasJob("job-001.pdf"));
+    ASSERT_EQ(run(ops).status, 0);
+    const std::vector<Text> texts = textsOf(job("job-001.ops"));
+    const std::string pdf = quoted((room_ / "papel" / "job-001.pdf").string());
+    ASSERT_EQ(std::system(("pdftotext -bbox " + pdf + " " + quoted(file("bbox"))).c_str()), 0);
+    const std::vector<Text> words = wordsOf(contentOf(file("bbox")));
+    std::size_t compared = 0;
+    for (const Text& text : texts) {
+        if (!text.words.empty() && text.words[0] != ' ') {
+            EXPECT_TRUE(standsAt(text, words)) << text.words;
+            ++compared;
+        }
+    }
+    EXPECT_EQ(compared, 9U + 3 + 4 + 0 + 5);
+    ASSERT_EQ(std::system(("pdffonts " + pdf + " | tail -n +3 >" + quoted(file("fonts"))).c_str()),
+              0);
+    std::istringstream fonts(contentOf(file("fonts")));
+    std::size_t count = 0;
+    for (std::string font; std::getline(fonts, font); ++count) {
+        EXPECT_TRUE(std::regex_search(font, std::regex("Liberation.* Identity-H +yes ")))
+            << "embedded: " << font;
+    }
+    EXPECT_EQ(count, 2U) << "plain and bold";
+}
+
+TEST_F(Tarnimprime, ADrawnNoteThatStopsLeavesNoPaper) {
+    const std::vector<std::string> nota = {
+        "nota",      "--empresa",  "2541", "--estabelecimento",
+        "1",         "--numero",   "4567", data("nota_quantidade_errada.xml"),
+        "--destino", file("papel")};
+    std::vector<std::string> ops = nota;
+    ops.insert(ops.end(), {"--formato", "ops"});
+    const Result result = run(nota);
+    EXPECT_EQ(result.status, 3);
+    EXPECT_NE(result.err.find("QTDE"), std::string::npos) << result.err;
+    EXPECT_FALSE(hasJob("job-001.pdf"));
+    EXPECT_EQ(run(ops).status, 3);
+    const std::string drawn = job("job-001.ops");
+    EXPECT_GT(textsOf(drawn).size(), 9U);
+    EXPECT_EQ(drawn.find("enddoc"), std::string::npos);
+}
+
+TEST_F(Tarnimprime, TheFormatOfDrawnPages) {
+    const std::vector<std::string> nota = {"nota", "--empresa", "2541", "--estabelecimento",
+                                           "1",    "--numero",  "1",    data("nota_completa.xml")};
+    std::vector<std::string> words = nota;
+    words.insert(words.end(), {"--formato", "ops"});
+    Result result = run(words);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.err.find("--destino"), std::string::npos) << result.err;
+    words = nota;
+    words.insert(words.end(), {"--formato", "png", "--destino", file("papel")});
+    result = run(words);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.err.find("--formato pede pdf ou ops"), std::string::npos) << result.err;
+}
+
 TEST_F(Tarnimprime, SeveralNotesPrintOneAfterTheOther) {
     const Result result =
         run({"nota", "--empresa", "141", "--estabelecimento", "1", "--numero", "4567",
@@ -123,10 +257,65 @@ TEST_F(Tarnimprime, AnUnreadableInputSpendsNoForm) {
 
 TEST_F(Tarnimprime, ADirectoryThatCantBeMadeIsAUsageError) {
     std::ofstream(file("arquivo")) << "x";
-    const Result result = run({"nota", "--destino", file("arquivo"), "--empresa", "1361",
-                               "--estabelecimento", "1", "--numero", "1", data("nota_1361.xml")});
-    EXPECT_EQ(result.status, 1);
-    EXPECT_NE(result.err.find("não foi possível criar a pasta"), std::string::npos) << result.err;
+    for (const std::string& wrong : {file("arquivo"), file("arquivo") + "/dentro", std::string()}) {
+        const Result result =
+            run({"nota", "--destino", wrong, "--empresa", "1361", "--estabelecimento", "1",
+                 "--numero", "1", data("nota_1361.xml")});
+        EXPECT_EQ(result.status, 1) << wrong;
+        EXPECT_NE(result.err.find("não foi possível criar a pasta \"" + wrong + "\""),
+                  std::string::npos)
+            << result.err;
+    }
+}
+
+TEST_F(Tarnimprime, ADirectoryOrANamelessFileIsNoDocument) {
+    for (const std::string& wrong : {room_.string(), std::string()}) {
+        const Result result = run({"nota", "--destino", file("papel"), "--empresa", "1361",
+                                   "--estabelecimento", "1", "--numero", "1", wrong});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_NE(result.err.find("não foi possível ler \"" + wrong + "\""), std::string::npos)
+            << result.err;
+        EXPECT_FALSE(hasJob("job-001.prn"));
+    }
+}
+
+TEST_F(Tarnimprime, GlobalOptionsStandBeforeOrAfterTheCommandAndOnce) {
+    const std::vector<std::string> note = {"nota", "--empresa", "1361", "--estabelecimento",
+                                           "1",    "--numero",  "4567"};
+    const auto with = [&note](std::vector<std::string> before,
+                              const std::vector<std::string>& after) {
+        before.insert(before.end(), note.begin(), note.end());
+        before.insert(before.end(), after.begin(), after.end());
+        return before;
+    };
+    const std::string golden = contentOf(data("nota_1361.prn"));
+    for (const auto& words : {with({"--pagina-de-codigo", "1252", "--destino=" + file("papel")},
+                                   {data("nota_1361.xml")}),
+                              with({}, {data("nota_1361.xml"), "--destino", file("papel")}),
+                              with({"--destino", file("papel")}, {"--", data("nota_1361.xml")})}) {
+        fs::remove_all(room_ / "papel");
+        EXPECT_EQ(run(words).status, 0);
+        EXPECT_EQ(job("job-002.prn"), golden);
+    }
+    EXPECT_EQ(
+        run(with({"--destino", file("papel")}, {"--destino", file("outra"), data("nota_1361.xml")}))
+            .status,
+        1);
+    EXPECT_FALSE(fs::exists(file("outra")));
+}
+
+// What the numbers look like is no matter of the machine's settings.
+TEST_F(Tarnimprime, TheMachinesLanguageChangesNothing) {
+    for (const char* language : {"C", "en_US.UTF-8", "pt_BR.UTF-8", "de_DE", ""}) {
+        ASSERT_EQ(::setenv("LC_ALL", language, 1), 0);
+        EXPECT_EQ(shown({"mascara", "##,###0.00", "1234567,891"}), "1.234.567,89\n") << language;
+        EXPECT_EQ(run({"nota", "--destino", file("papel"), "--empresa", "1361", "--estabelecimento",
+                       "1", "--numero", "4567", data("nota_1361.xml")})
+                      .status,
+                  0);
+        EXPECT_EQ(job("job-002.prn"), contentOf(data("nota_1361.prn"))) << language;
+    }
+    ::unsetenv("LC_ALL");
 }
 
 TEST_F(Tarnimprime, NoLayoutPrintsNothingAndSaysNothing) {
@@ -166,7 +355,11 @@ TEST_F(Tarnimprime, TheLadder) {
     EXPECT_EQ(shown({"escada", "--empresa", "761", "--estabelecimento", "1", "--reimpressao"}),
               "ImprimeNF_Padrao\n");
     EXPECT_EQ(shown({"escada", "--empresa", "2161", "--estabelecimento", "6001"}), "-\n");
-    EXPECT_EQ(run({"escada", "--empresa", "x", "--estabelecimento", "1"}).status, 1);
+    EXPECT_EQ(shown({"escada", "--empresa", "01361", "--estabelecimento", "0001"}),
+              "ImprimeNF_1361\n");
+    for (const char* word : {"x", "", "0x551", "1361,0", "1e3", "99999999999"}) {
+        EXPECT_EQ(run({"escada", "--empresa", word, "--estabelecimento", "1"}).status, 1) << word;
+    }
     EXPECT_EQ(run({"escada", "--empresa", "7"}).status, 1);
 }
 
@@ -271,7 +464,14 @@ TEST_F(Tarnimprime, WrongUsageIsToldInPortuguese) {
     }
     const Result help = run({"--ajuda"});
     EXPECT_EQ(help.status, 0);
-    EXPECT_NE(help.out.find("Uso: tarnimprime"), std::string::npos);
+    for (const char* words : {"Uso: tarnimprime", "Opções:", "Comandos:"}) {
+        EXPECT_NE(help.out.find(words), std::string::npos) << help.out;
+    }
+    const Result noteHelp = run({"nota", "--ajuda"});
+    EXPECT_NE(noteHelp.out.find("Opções:"), std::string::npos) << noteHelp.out;
+    for (const char* words : {"Options", "Subcommands", "Positionals", "REQUIRED"}) {
+        EXPECT_EQ((help.out + noteHelp.out).find(words), std::string::npos) << words;
+    }
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
-// The billing desk as its tests meet it: opened from the menu, two orders on the list.
+// The list of billing orders on a desk of the test's own, and the boxes it shows.
 #pragma once
 
-#include <QMenu>
+#include <QMdiArea>
 #include <QPlainTextEdit>
 #include <QTableView>
 #include <QTimer>
+#include <functional>
+#include <string>
 
 #include "billing/frm_oft.h"
 #include "session/mdi_menu.h"

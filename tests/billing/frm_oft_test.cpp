@@ -1,5 +1,4 @@
 #include <QLabel>
-#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
 
@@ -293,101 +292,6 @@ TEST_F(FrmOFTTest, ABrokenSheetEndsTheProgramAndKeepsWhatWasPrinted) {
     ASSERT_EQ(spooler.jobs.size(), 1U);
     EXPECT_EQ(spooler.jobs[0].writes.size(), 9U);
     EXPECT_FALSE(spooler.jobs[0].ended);
-}
-
-TEST_F(FrmOFTTest, GeneratesTheNoteAndRefreshes) {
-    open();
-    noteComesOut();
-    bool timerRan = true;
-    modals.then("frmMensagemAlerta", [&](QWidget& alert) {
-        timerRan = timer().isActive();
-        click(alert, "cmdOk");
-    });
-    observation("x");
-    click(screen(), "cmdSelecionar");
-    EXPECT_FALSE(timerRan) << "no refresh while the generation runs";
-    EXPECT_THAT(server.queries(),
-                testing::ElementsAre(obsQuery, stockQuery, noteQuery, documentQuery, listQuery));
-    EXPECT_THAT(boxes.shown, testing::IsEmpty());
-    EXPECT_TRUE(timer().isActive());
-}
-
-TEST_F(FrmOFTTest, ARefusedObservationGeneratesNothing) {
-    open();
-    noteComesOut();
-    observation("x");
-    answerAlert("cmdCancelar", "x");
-    click(screen(), "cmdSelecionar");
-    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery));
-    EXPECT_FALSE(timer().isActive());
-    click(screen(), "CmdAtualizar");
-    EXPECT_EQ(server.queries().back(), listQuery);
-    EXPECT_FALSE(timer().isActive());
-}
-
-TEST_F(FrmOFTTest, AnUnknownGenerationIsToldAndTheListRead) {
-    open();
-    server.failOn("SP_GERA_NF");
-    click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    critical("0004"),
-                    aviso("Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, "
-                          "utilize a tela de Reimpressão de Nota Fiscal. ")));
-    EXPECT_EQ(server.queries().back(), listQuery);
-    EXPECT_TRUE(timer().isActive());
-}
-
-TEST_F(FrmOFTTest, ARefusedGenerationShowsOneBoxAndLeavesTheList) {
-    open();
-    server.on("SP_GERA_NF", answers::status("Limite de crédito"));
-    click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclama("Limite de crédito")));
-    EXPECT_EQ(server.queries().back(), noteQuery);
-    EXPECT_EQ(rows(), 2);
-    EXPECT_FALSE(timer().isActive());
-}
-
-TEST_F(FrmOFTTest, ALostDocumentIsToldAndTheListRead) {
-    open();
-    noteComesOut();
-    server.failOn("sel_gera_nf&ID_ETB_TARN=6001");
-    click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    critical("0005"),
-                    aviso("Houve um problema na transferência dos dados da Nota Fiscal nº 555. "
-                          "Utilize a tela de Reimpressão de Nota Fiscal.")));
-    EXPECT_EQ(server.queries().back(), listQuery);
-    EXPECT_TRUE(timer().isActive());
-}
-
-TEST_F(FrmOFTTest, TheCustomerWithoutANumberEndsTheProgramWithTheReport) {
-    open();
-    noteComesOut();
-    sessao.NCOMPANYCODE = 2161;
-    sessao.ID_ETB_TARN = 3383;
-    click(screen(), "cmdSelecionar");
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
-    EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
-    EXPECT_EQ(
-        boxes.shown[0].text.rfind("Erro em tempo de execução '424':\r\rO objeto é obrigatório", 0),
-        0U)
-        << boxes.shown[0].text;
-    EXPECT_NE(boxes.shown[0].text.find("tela de Reimpressão de Nota Fiscal"), std::string::npos);
-    EXPECT_EQ(fim.status(), 3);
-    EXPECT_TRUE(spooler.jobs.empty());
-    EXPECT_FALSE(timer().isActive());
-}
-
-TEST_F(FrmOFTTest, AnUnreadableObservationEndsTheProgramWithNoWordOfANote) {
-    open();
-    server.on("Seleciona_Obs_Vnd_X_Ord", "<R a='0' b='OK'/>");
-    click(screen(), "cmdSelecionar");
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].text.find("Nota Fiscal"), std::string::npos);
-    EXPECT_EQ(fim.status(), 3);
 }
 
 TEST_F(FrmOFTTest, FecharFreesTheMenus) {

@@ -67,6 +67,25 @@ TEST_F(OrdensTest, TwelveCellsARow) {
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
 
+TEST_F(OrdensTest, NoValueOfARowBreaksTheList) {
+    const std::string longText(100000, 'x');
+    const auto ordens = carrega("<z:row ID_ORD_FAT='1' NM_PES_CPL='" + longText +
+                                "' QT_ESP='1e308' PESO_BRU='-1e999' PESO_LIQ='1.234.5'/>"
+                                "<z:row z:ID_ORD_FAT='2' Nm_Pes_Cpl='y' QT_ESP='&#10; 1 2 &#9;x'/>"
+                                "<outra ID_ORD_FAT='3'/>");
+    ASSERT_EQ(ordens.size(), 3U);
+    EXPECT_EQ(ordens[0].celulas[1], longText);
+    EXPECT_EQ(ordens[0].celulas[9].substr(0, 8), "100.000.");
+    EXPECT_EQ(ordens[0].celulas[9].size(), 309U + 102U + 4U);
+    EXPECT_EQ(ordens[0].celulas[10].substr(0, 20), "-179.769.313.486.232");
+    EXPECT_EQ(ordens[0].celulas[11], "1,234");
+    EXPECT_EQ(ordens[1].celulas[0], "") << "a prefixed name is another name";
+    EXPECT_EQ(ordens[1].celulas[1], "") << "so is one in another case of letters";
+    EXPECT_EQ(ordens[1].celulas[9], "12,000");
+    EXPECT_EQ(ordens[2].ordem(), "3");
+    EXPECT_TRUE(seams_.boxes.shown.empty());
+}
+
 TEST_F(OrdensTest, AbsentAndEmptyFields) {
     const auto ordens = carrega(
         "<z:row ID_ORD_FAT='1' id_ord_crg='9' QT_ESP='' PESO_BRU='S/N'/>"

@@ -55,7 +55,7 @@ protected:
     Practice practice;
     CurlLoader curl;
     BlockingLoader real{curl};
-    Environment overNetwork{real, spooler, boxes, clock, machine, practice.baseUrl()};
+    Environment overNetwork{real, spooler, printer, boxes, clock, machine, practice.baseUrl()};
     DeskContext realDesk{overNetwork, sessao, fim};
     FrmOFT list{realDesk};
 };

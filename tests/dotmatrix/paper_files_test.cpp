@@ -184,6 +184,9 @@ TEST_F(PaperFiles, FailureToWriteIsTold) {
 }  // namespace tarn::dotmatrix
 
 int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     testing::InitGoogleTest(&argc, argv);
     const QGuiApplication application(argc, argv);
     return RUN_ALL_TESTS();

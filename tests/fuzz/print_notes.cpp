@@ -13,6 +13,7 @@
 #include "runtime/erro_execucao.h"
 #include "session/xml_document.h"
 #include "support/fixed_machine.h"
+#include "support/recording_printer.h"
 #include "support/scripted_boxes.h"
 #include "support/scripted_loader.h"
 
@@ -212,11 +213,12 @@ void printOn(Escada ladder, const std::pair<int, int>& key, const std::string& x
     if (!document.loadXML(xml))
         return;
     CheckingSpooler spooler;
+    RecordingPrinter printer;
     ScriptedLoader http;
     ScriptedBoxes boxes;
     FixedClock clock;
     FixedMachine machine;
-    Environment environment{http, spooler, boxes, clock, machine, "", CodePage::Page1252};
+    Environment environment{http, spooler, printer, boxes, clock, machine, "", CodePage::Page1252};
     Sessao session;
     session.NCOMPANYCODE = key.first;
     session.ID_ETB_TARN = key.second;
@@ -227,6 +229,8 @@ void printOn(Escada ladder, const std::pair<int, int>& key, const std::string& x
     }
     if (!spooler.closed())
         broken("a note printed to its end left its job open");
+    if (!printer.operations.empty() && !printer.ended())
+        broken("a drawn note was not ended");
     if (!document.empty())
         broken("the document was kept");
 }

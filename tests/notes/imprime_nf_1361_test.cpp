@@ -220,7 +220,7 @@ TEST(ImprimeNF1361, NoParcelsLeaveTheFormOneLineLower) {
 }
 
 TEST(ImprimeNF1361, TooManyParcelsLeaveTheMessage) {
-    for (const std::string count : {"10", "12", "9999999"}) {
+    for (const std::string count : {"10", "12", "9999999", "999999999999999999999"}) {
         NoteText note = withParcels(10);
         note.head["QTDE_PARC"] = count;
         const std::vector<std::string> lines = linesOf(printed(form(), note));

@@ -6,6 +6,7 @@
 #include "platform/environment.h"
 #include "session/xml_document.h"
 #include "support/fixed_machine.h"
+#include "support/recording_printer.h"
 #include "support/scripted_boxes.h"
 #include "support/scripted_loader.h"
 
@@ -23,11 +24,12 @@ int Printed::lineEnds() const {
 Printed printXml(Escada ladder, std::int32_t company, std::int32_t establishment,
                  const std::string& xml) {
     RecordingSpooler spooler;
+    RecordingPrinter printer;
     ScriptedLoader http;
     ScriptedBoxes boxes;
     FixedClock clock;
     FixedMachine machine;
-    Environment environment{http, spooler, boxes, clock, machine, "", CodePage::Page1252};
+    Environment environment{http, spooler, printer, boxes, clock, machine, "", CodePage::Page1252};
     Sessao session;
     session.NCOMPANYCODE = company;
     session.ID_ETB_TARN = establishment;

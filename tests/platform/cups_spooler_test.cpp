@@ -7,30 +7,13 @@
 #include <random>
 
 #include "common/raw_channel.h"
-#include "support/private_cupsd.h"
+#include "support/cups_test.h"
 
 namespace tarn {
 namespace {
 
-constexpr std::chrono::seconds jobLimit{30};
-
-class CupsSpoolerTest : public testing::Test {
+class CupsSpoolerTest : public CupsTest {
 protected:
-    static void SetUpTestSuite() {
-        if (PrivateCupsd::whyMissing().empty()) {
-            server_ = std::make_unique<PrivateCupsd>();
-            failure_ = server_->start();
-        }
-    }
-    static void TearDownTestSuite() { server_.reset(); }
-
-    void SetUp() override {
-        if (const std::string why = PrivateCupsd::whyMissing(); !why.empty()) {
-            GTEST_SKIP() << why;
-        }
-        ASSERT_EQ(failure_, "");
-    }
-
     static bool begin(Spooler& spooler, std::string_view bytes) {
         return spooler.openPrinter(PrivateCupsd::queueName) && spooler.startDocument({}) &&
                spooler.startPage() && spooler.write(bytes) == bytes.size();
@@ -55,15 +38,7 @@ protected:
         cupsFreeJobs(count, jobs);
         return state;
     }
-
-    static std::optional<std::string> printed() { return server_->nextJob(jobLimit); }
-
-    static std::unique_ptr<PrivateCupsd> server_;
-    static std::string failure_;
 };
-
-std::unique_ptr<PrivateCupsd> CupsSpoolerTest::server_;
-std::string CupsSpoolerTest::failure_;
 
 TEST_F(CupsSpoolerTest, TheDefaultPrinterIsTheServers) {
     CupsSpooler spooler;

@@ -98,13 +98,26 @@ TEST_F(EveryNote, HasTheFieldsThatAreNeverNull) {
                                  "VALOR_ICMS_RTD", "VL_IMPOSTO_CREDITAR"}) {
             EXPECT_NE(field(totals, name), "-") << name;
         }
-        for (const char* name :
-             {"CD_PRO", "DESCRICAO", "POS_NF", "CL_FISCAL", "GF_AGRUP", "ID_CLA_FIS", "CFOP_ITEM",
-              "IC_ORI_PRO", "SIT_TRI", "IC_TP_CAD", "UNIDADE", "QTDE", "VALOR_UN", "VL_DSC", "ICMS",
-              "AQ_IPI", "IPI", "VL_IPI", "PESO"}) {
+        for (const char* name : {"CD_PRO", "DESCRICAO", "POS_NF", "CL_FISCAL", "CFOP_ITEM",
+                                 "IC_ORI_PRO", "SIT_TRI", "IC_TP_CAD", "UNIDADE", "QTDE",
+                                 "VALOR_UN", "VL_DSC", "ICMS", "AQ_IPI", "IPI", "VL_IPI", "PESO"}) {
             EXPECT_NE(field(root(document).child(3), name), "-") << name;
         }
     }
+}
+
+TEST_F(EveryNote, GroupsTheClassesOfItemsThatPayIpi) {
+    std::set<bool> seen;
+    for (const XmlDocument& document : documents_) {
+        for (std::size_t i = 3; i < root(document).childCount(); ++i) {
+            const XmlNode item = root(document).child(i);
+            const bool pays = cents(item, "AQ_IPI") > 0;
+            seen.insert(pays);
+            EXPECT_EQ(field(item, "GF_AGRUP"), pays ? field(item, "POS_NF") : "-");
+            EXPECT_EQ(field(item, "ID_CLA_FIS"), pays ? field(item, "CL_FISCAL") : "-");
+        }
+    }
+    EXPECT_EQ(seen.size(), 2U);
 }
 
 TEST_F(EveryNote, ShowsEachCaseThatAClerkShouldHaveSeen) {

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
+#include "runtime/ascii.h"
+
 namespace tarn {
 namespace {
 
@@ -68,6 +72,22 @@ TEST(Text, ControlCharactersBecomeBlanks) {
     std::string line = "\x1B";
     appendBlankingControls(line, "\x1BX");
     EXPECT_EQ(line, "\x1B X");  // what stood there stays
+}
+
+TEST(Text, OneByteThatIsNoPlainTextIsSeenWhereverItStands) {
+    for (std::size_t length = 1; length <= 25; ++length) {
+        EXPECT_TRUE(isPlain(std::string(length, '~')));
+        EXPECT_EQ(asciiRun(std::string(length, '\x7F')), length);
+        for (std::size_t position = 0; position < length; ++position) {
+            for (int byte = 0; byte < 256; ++byte) {
+                std::string text(length, ' ');
+                text[position] = static_cast<char>(byte);
+                ASSERT_EQ(isPlain(text), byte >= ' ' && byte <= '~') << byte << " in " << length;
+                ASSERT_EQ(asciiRun(text), byte < 0x80 ? length : position) << byte;
+            }
+        }
+    }
+    EXPECT_TRUE(isPlain(""));
 }
 
 }  // namespace

@@ -73,6 +73,7 @@ TEST_F(CarregaXMLTest, AnErrorInsideIsShownByItsDescription) {
     FailingLoader falho;
     Environment ambiente{.http = falho,
                          .spooler = seams_.spooler,
+                         .printer = seams_.printer,
                          .boxes = seams_.boxes,
                          .clock = seams_.clock,
                          .machine = seams_.machine,

@@ -36,7 +36,7 @@ protected:
     LoopbackServer http;
     CurlLoader curl;
     BlockingLoader rede{curl};
-    Environment overHttp{rede, spooler, boxes, clock, machine, http.baseUrl()};
+    Environment overHttp{rede, spooler, printer, boxes, clock, machine, http.baseUrl()};
     DeskContext netDesk{overHttp, sessao, fim};
     MDIMenu menu{netDesk};
 };

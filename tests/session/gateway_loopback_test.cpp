@@ -48,6 +48,7 @@ protected:
     TestEnvironment seams_;
     Environment ambiente_{.http = curl_,
                           .spooler = seams_.spooler,
+                          .printer = seams_.printer,
                           .boxes = seams_.boxes,
                           .clock = seams_.clock,
                           .machine = seams_.machine,

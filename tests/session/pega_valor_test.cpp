@@ -169,6 +169,27 @@ TEST_F(LeitorLinhaTest, FollowsFromDocumentToDocument) {
     }
 }
 
+TEST_F(LeitorLinhaTest, RowsNeedNotKeepAnOrder) {
+    constexpr std::array<std::string_view, 6> partes{"CD_PRO='c'", "x='1'",  "QTDE='q'",
+                                                     "y='2'",      "VL='v'", "z='3'"};
+    std::string linhas;
+    for (std::size_t i = 0; i < 64; ++i) {  // turned, and with every set of them
+        linhas += "<I";
+        for (std::size_t j = 0; j < partes.size(); ++j) {
+            const std::size_t qual = (i + j) % partes.size();
+            linhas += (i >> qual & 1U) != 0 ? " " + std::string(partes.at(qual)) : "";
+        }
+        linhas += "/>";
+    }
+    const XmlNode& no = carrega(linhas);
+    for (std::size_t i = 0; i < 64; ++i) {
+        leitor_.le(no, i);
+        EXPECT_EQ(leitor_.texto(0), (i & 1U) != 0 ? "c" : "") << i;
+        EXPECT_EQ(leitor_.texto(1), (i & 4U) != 0 ? "q" : "") << i;
+        EXPECT_EQ(leitor_.texto(3), (i & 16U) != 0 ? "v" : "") << i;
+    }
+}
+
 TEST_F(LeitorLinhaTest, ManyDifferentNames) {
     std::string linha = "<I ";
     for (int i = 0; i < 1000; ++i) {

@@ -11,6 +11,7 @@
 #include "session/desk_context.h"
 #include "support/fixed_machine.h"
 #include "support/modal_steps.h"
+#include "support/recording_printer.h"
 #include "support/recording_spooler.h"
 #include "support/scripted_boxes.h"
 #include "support/scripted_loader.h"
@@ -41,10 +42,12 @@ protected:
     ScriptedLoader server;
     BlockingLoader blocking{server};
     RecordingSpooler spooler;
+    RecordingPrinter printer;
     ScriptedBoxes boxes;
     FixedClock clock;
     FixedMachine machine;
-    Environment ambiente{blocking, spooler, boxes, clock, machine, "http://servidor/pagina.asp?"};
+    Environment ambiente{
+        blocking, spooler, printer, boxes, clock, machine, "http://servidor/pagina.asp?"};
     Sessao sessao;
     FimDoPrograma fim;
     DeskContext desk{ambiente, sessao, fim};

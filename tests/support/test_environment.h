@@ -3,6 +3,7 @@
 
 #include "platform/environment.h"
 #include "support/fixed_machine.h"
+#include "support/recording_printer.h"
 #include "support/recording_spooler.h"
 #include "support/scripted_boxes.h"
 #include "support/scripted_loader.h"
@@ -12,11 +13,13 @@ namespace tarn {
 struct TestEnvironment {
     ScriptedLoader loader;
     RecordingSpooler spooler;
+    RecordingPrinter printer;
     ScriptedBoxes boxes;
     FixedClock clock;
     FixedMachine machine;
     Environment environment{.http = loader,
                             .spooler = spooler,
+                            .printer = printer,
                             .boxes = boxes,
                             .clock = clock,
                             .machine = machine,

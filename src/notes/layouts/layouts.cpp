@@ -27,6 +27,7 @@ const Layout* layoutByName(std::string_view name) {
         &imprimeNF_3081,
         &imprimeNF_E5282,
         &imprimeNF_3601,
+        &imprimeNF_2541,
         &imprimeNF_3681,
         &imprimeNF_4621,
         &imprimeNF_Padrao,

@@ -25,6 +25,7 @@ extern const Layout imprimeNF_E6001;
 extern const Layout imprimeNF_3081;
 extern const Layout imprimeNF_E5282;
 extern const Layout imprimeNF_3601;
+extern const Layout imprimeNF_2541;
 extern const Layout imprimeNF_3681;
 extern const Layout imprimeNF_4621;
 extern const Layout imprimeNF_Padrao;

@@ -1,0 +1,128 @@
+// What filling the order list costs a row: answer, parse, rows, model and the grid
+// shown, off-screen, with the answer at hand instead of a server.
+#include <benchmark/benchmark.h>
+
+#include <QCoreApplication>
+#include <array>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "billing/frm_oft.h"
+#include "session/desk_application.h"
+#include "session/desk_context.h"
+#include "support/answers.h"
+#include "support/measure.h"
+#include "support/test_environment.h"
+
+namespace {
+
+using tarn::bench::leastOf;
+using tarn::bench::secondsOf;
+
+// A grid that shows something always has a screenful of rows.
+constexpr int screenful = 20;
+constexpr std::array<int, 4> sizes{screenful, 100, 10000, 100000};
+
+std::string ordersOf(int rows) {
+    std::string all;
+    for (int i = 1; i <= rows; ++i) {
+        const std::string n = std::to_string(i);
+        all.append("<z:row ID_ORD_FAT='").append(n);
+        all.append("' NM_PES_CPL='COMÉRCIO DE PEÇAS ").append(n);
+        all.append(
+            " LTDA' NM_RDU='MATRIZ SÃO PAULO' DC_TIP_NF='VENDA DE MERCADORIA' "
+            "DT_GER_OFT='12/03/2012' ID_ORD_CRG='");
+        all.append(n);
+        all.append("' TRANSPORTADORA='TRANSPORTES RÁPIDOS' NM_PES_MOT='JOÃO' DC_OBS='' QT_ESP='");
+        all.append(n).append(".5' PESO_BRU='1234.891' PESO_LIQ='1200'/>");
+    }
+    return tarn::answers::rowset(all);
+}
+
+class AnswerAtHand : public tarn::HttpLoader {
+public:
+    tarn::HttpAnswer get(const std::string& /*address*/) override { return {true, *answer_}; }
+    void setAnswer(const std::string& answer) { answer_ = &answer; }
+
+private:
+    const std::string* answer_ = nullptr;
+};
+
+// The order list shown in a window of its own.
+class ShownList {
+public:
+    explicit ShownList(AnswerAtHand& server)
+        : environment_{.http = server,
+                       .spooler = seams_.spooler,
+                       .boxes = seams_.boxes,
+                       .clock = seams_.clock,
+                       .machine = seams_.machine,
+                       .baseUrl = "http://servidor/p.asp?"} {
+        screen_.show();
+        QCoreApplication::processEvents();
+    }
+
+    void fill() {
+        screen_.loadSpread();
+        QCoreApplication::processEvents();  // paints it
+    }
+
+private:
+    tarn::TestEnvironment seams_;
+    tarn::Environment environment_;
+    tarn::Sessao session_;
+    tarn::FimDoPrograma end_;
+    tarn::DeskContext desk_{environment_, session_, end_};
+    tarn::FrmOFT screen_{desk_};
+};
+
+std::map<int, std::vector<double>>& measured() {
+    static std::map<int, std::vector<double>> all;
+    return all;
+}
+
+// One round fills the list with every size, so that a busy machine slows all alike.
+void order_list(benchmark::State& state) {
+    std::map<int, std::string> answers;
+    for (const int rows : sizes) {
+        answers[rows] = ordersOf(rows);
+    }
+    AnswerAtHand server;
+    server.setAnswer(answers[screenful]);
+    ShownList list(server);
+    while (state.KeepRunning()) {
+        for (const int rows : sizes) {
+            server.setAnswer(answers[rows]);
+            const int repeats = rows <= 100 ? 20 : 1;
+            for (int i = 0; i < repeats; ++i) {
+                measured()[rows].push_back(secondsOf([&] { list.fill(); }));
+            }
+        }
+    }
+    for (const int rows : sizes) {
+        state.counters["us_per_row_of_" + std::to_string(rows)] =
+            benchmark::Counter(leastOf(measured()[rows]) * 1e6 / rows);
+    }
+}
+BENCHMARK(order_list)->Iterations(7)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const tarn::DeskApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    const double shown = leastOf(measured()[screenful]);
+    const double of100 = leastOf(measured()[100]);
+    const double perRow10000 = leastOf(measured()[10000]) / 10000;
+    const double perRow100000 = leastOf(measured()[100000]) / 100000;
+    tarn::bench::Limits limits;
+    limits.check("order list: a row of 100,000 over a row of 10,000", perRow100000 / perRow10000,
+                 1.3);
+    limits.check("order list: 100 rows over a screenful and 80 rows of 10,000",
+                 of100 / (shown + 80 * perRow10000), 1.3);
+    return limits.exitStatus();
+}

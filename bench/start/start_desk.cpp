@@ -1,0 +1,18 @@
+// The desk as it is delivered, up to the painted logon. The argument is the server's
+// address.
+#include "end_at_paint.h"
+#include "mesa.h"
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        return 1;
+    }
+    tarn::Opcoes options;
+    options.baseUrl = argv[1];
+    auto printer = tarn::impressoraDe(options);
+    tarn::DeskApplication program(argc, argv);
+    const tarn::bench::EndAtPaint end(QStringLiteral("FrmLogon"));
+    tarn::Mesa desk(program, options, std::move(printer));
+    desk.abre();
+    return tarn::DeskApplication::exec() + 1;  // it should have ended at the paint
+}

@@ -1,0 +1,19 @@
+// Draws a note by a table: one page, top to bottom, ended once.
+#pragma once
+
+#include <string_view>
+
+namespace tarn {
+class XmlDocument;
+struct Environment;
+}  // namespace tarn
+
+namespace tarn::notes {
+
+struct DrawnForm;
+
+// An ErroExecucao leaves the document on the page printer as it is, not ended.
+void drawNote(const DrawnForm& form, const XmlDocument& document, std::string_view noteNumber,
+              Environment& environment);
+
+}  // namespace tarn::notes

@@ -1,0 +1,34 @@
+#include "notes/imprime_texto_em.h"
+
+#include "platform/environment.h"
+#include "platform/message_boxes.h"
+#include "platform/printer.h"
+
+namespace tarn {
+namespace {
+
+constexpr float halfCentimetre = 0.5F;
+
+}  // namespace
+
+void mostraFalha(Environment& ambiente, const PrinterFailure& falha) {
+    ambiente.boxes.show({.text = "Descrição :" + falha.description +
+                                 "\r   Numero :" + std::to_string(falha.number)});
+}
+
+void ImprimeTextoEm(Environment& ambiente, std::string_view texto, double x, double y, bool negrito,
+                    double tamanho, std::string_view fonte, int margem) {
+    Printer& printer = ambiente.printer;
+    printer.FontName = fonte;
+    printer.FontSize = tamanho;
+    printer.FontBold = negrito;
+    // The page printer holds positions in single precision.
+    const float shift = margem == 0 ? halfCentimetre : 0.0F;
+    printer.CurrentX = static_cast<float>(x) - shift;
+    printer.CurrentY = static_cast<float>(y) - shift;
+    if (const auto falha = printer.Print(texto)) {
+        mostraFalha(ambiente, *falha);
+    }
+}
+
+}  // namespace tarn

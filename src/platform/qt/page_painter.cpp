@@ -1,0 +1,144 @@
+#include "platform/qt/page_painter.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QImage>
+#include <QPainter>
+#include <QPen>
+#include <QPrinter>
+#include <array>
+
+namespace tarn {
+namespace {
+
+constexpr double centimetresPerInch = 2.54;
+constexpr double metresPerInch = 0.0254;
+// The widths of lines were chosen on laser printers of this resolution.
+constexpr double dotsPerInch = 600;
+// Size of a picture whose file doesn't tell one.
+constexpr double pictureDotsPerInch = 96;
+
+struct Substitute {
+    const char* wanted;
+    const char* face;
+};
+
+// Faces with the same widths, for machines without the wanted ones.
+constexpr std::array substitutes{Substitute{"Arial", "Liberation Sans"},
+                                 Substitute{"Courier New", "Liberation Mono"},
+                                 Substitute{"Times New Roman", "Liberation Serif"}};
+
+QString faceFor(const std::string& wanted) {
+    QString family = QString::fromStdString(wanted);
+    if (QFontDatabase::hasFamily(family)) {
+        return family;
+    }
+    for (const Substitute& substitute : substitutes) {
+        QString face = QString::fromLatin1(substitute.face);
+        if (wanted == substitute.wanted && QFontDatabase::hasFamily(face)) {
+            return face;
+        }
+    }
+    return family;
+}
+
+// Widths add up character by character, the same on every device.
+QFont fontOf(const DrawnText& text) {
+    QFont font(faceFor(text.font));
+    font.setPointSizeF(text.size);
+    font.setBold(text.bold);
+    font.setKerning(false);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+// A file without a resolution gets that of the screen, which is none of its own.
+double pictureResolution(int dotsPerMetre) {
+    static const int none = QImage(1, 1, QImage::Format_Mono).dotsPerMeterX();
+    return dotsPerMetre == none || dotsPerMetre <= 0 ? pictureDotsPerInch
+                                                     : dotsPerMetre * metresPerInch;
+}
+
+QSizeF naturalSize(const QImage& image) {  // inches
+    return {image.width() / pictureResolution(image.dotsPerMeterX()),
+            image.height() / pictureResolution(image.dotsPerMeterY())};
+}
+
+class PagePainter {
+public:
+    explicit PagePainter(QPrinter& printer)
+        : printer_(printer),
+          dotsPerInch_(printer.resolution()),
+          dotsPerCentimetre_(dotsPerInch_ / centimetresPerInch),
+          begun_(painter_.begin(&printer)) {}
+
+    bool take(const PrintOperation& operation) {
+        if (std::holds_alternative<PageBreak>(operation)) {
+            breakAsked_ = pageBegun_;
+        } else if (begun_ && draws(operation)) {
+            begun_ = beginPage();
+            std::visit([this](const auto& drawn) { draw(drawn); }, operation);
+        }
+        return begun_;
+    }
+
+    bool end() { return begun_ && painter_.end(); }
+
+private:
+    QPointF at(double x, double y) const {
+        return {x * dotsPerCentimetre_, y * dotsPerCentimetre_};
+    }
+
+    bool beginPage() {
+        const bool turned = !breakAsked_ || printer_.newPage();
+        breakAsked_ = false;
+        pageBegun_ = true;
+        return turned;
+    }
+
+    void draw(const DrawnText& text) {
+        const QFont font = fontOf(text);
+        const double ascent = QFontMetricsF(font, &printer_).ascent();
+        painter_.setFont(font);
+        painter_.drawText(at(text.x, text.y) + QPointF(0, ascent),
+                          QString::fromStdString(text.text));
+    }
+    void draw(const DrawnLine& line) {
+        const double width = line.width * dotsPerInch_ / dotsPerInch;
+        painter_.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::FlatCap));
+        painter_.drawLine(at(line.x1, line.y1), at(line.x2, line.y2));
+    }
+    void draw(const DrawnPicture& drawn) {
+        const QImage image = QImage::fromData(QByteArray::fromRawData(
+            drawn.picture.bytes.data(), static_cast<qsizetype>(drawn.picture.bytes.size())));
+        if (!image.isNull()) {
+            painter_.drawImage(QRectF(at(drawn.x, drawn.y), naturalSize(image) * dotsPerInch_),
+                               image);
+        }
+    }
+    template <typename Setting>
+    void draw(const Setting&) {}
+
+    QPrinter& printer_;
+    double dotsPerInch_;
+    double dotsPerCentimetre_;
+    QPainter painter_;
+    bool begun_;
+    bool pageBegun_ = false;
+    bool breakAsked_ = false;
+};
+
+}  // namespace
+
+bool paintDocument(QPrinter& printer, std::span<const PrintOperation> document) {
+    PagePainter page(printer);
+    for (const PrintOperation& operation : document) {
+        if (!page.take(operation)) {
+            return false;
+        }
+    }
+    return page.end();
+}
+
+}  // namespace tarn

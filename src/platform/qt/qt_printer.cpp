@@ -1,0 +1,118 @@
+#include "platform/qt/qt_printer.h"
+
+#include <QFile>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <algorithm>
+#include <span>
+#include <utility>
+
+#include "platform/qt/page_painter.h"
+
+namespace tarn {
+namespace {
+
+constexpr int dotsPerInch = 600;
+
+PrinterFailure trouble(std::string description) {
+    return {.number = printerTrouble, .description = std::move(description)};
+}
+
+PrinterFailure unwritable(const JobFiles& files) {
+    return trouble("não foi possível gravar na pasta \"" + files.directory().string() +
+                   "\". Confira a permissão e o espaço em disco.");
+}
+
+// A PDF is whole when its last line is there.
+bool isWhole(const QString& pdf) {
+    QFile file(pdf);
+    constexpr qint64 tail = 16;
+    return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(0, file.size() - tail)) &&
+           file.readAll().contains("%%EOF");
+}
+
+std::optional<PrinterFailure> printPdf(QPrinter& printer, JobFiles& files,
+                                       std::span<const PrintOperation> document) {
+    const auto file = files.create("pdf");
+    if (!file) {
+        return unwritable(files);
+    }
+    const QString name = QFile::decodeName(file->string().c_str());
+    printer.setOutputFileName(name);
+    const bool written = paintDocument(printer, document) && isWhole(name);
+    return written ? std::nullopt : std::optional(unwritable(files));
+}
+
+}  // namespace
+
+std::optional<PrinterFailure> QtPrinter::obstacle() const {
+    if (files_) {
+        return files_->makeDirectory() ? std::nullopt : std::optional(unwritable(*files_));
+    }
+    if (QPrinterInfo::defaultPrinter().isNull()) {
+        return trouble("esta máquina não tem impressora padrão. Defina uma e imprima de novo.");
+    }
+    return std::nullopt;
+}
+
+std::optional<PrinterFailure> QtPrinter::draw(const PrintOperation& operation) {
+    if (!drawn_) {
+        obstacle_ = obstacle();
+        drawn_ = true;
+    }
+    if (!obstacle_) {
+        document_.push_back(operation);
+    }
+    return obstacle_;
+}
+
+void QtPrinter::setUp(QPrinter& printer) const {
+    if (files_) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setPageSize(QPageSize(QPageSize::A4));
+    }
+    printer.setResolution(dotsPerInch);
+    printer.setCreator(QStringLiteral("TarnEmissao"));
+    printer.setDocName(QStringLiteral("TarnEmissao"));
+    printer.setPageOrientation(orientation_ == Orientation::Landscape ? QPageLayout::Landscape
+                                                                      : QPageLayout::Portrait);
+    printer.setFullPage(true);
+    printer.setCopyCount(copies_);
+}
+
+std::optional<PrinterFailure> QtPrinter::end() {
+    const std::vector<PrintOperation> document = std::exchange(document_, {});
+    std::optional<PrinterFailure> met = std::exchange(obstacle_, std::nullopt);
+    if (!std::exchange(drawn_, false) || met) {
+        return met;
+    }
+    QPrinter printer(QPrinter::HighResolution);
+    setUp(printer);
+    if (files_) {
+        return printPdf(printer, *files_, document);
+    }
+    if (!paintDocument(printer, document)) {
+        return trouble("a impressora \"" + printer.printerName().toStdString() +
+                       "\" não aceitou o trabalho. Confira se está ligada e imprima de novo.");
+    }
+    return std::nullopt;
+}
+
+std::optional<PrinterFailure> QtPrinter::perform(const PrintOperation& operation) {
+    if (const auto* orientation = std::get_if<Orientation>(&operation)) {
+        orientation_ = *orientation;
+    } else if (const auto* copies = std::get_if<Copies>(&operation)) {
+        copies_ = copies->count;
+    } else if (std::holds_alternative<DocumentEnd>(operation)) {
+        return end();
+    } else if (std::holds_alternative<PageBreak>(operation)) {
+        document_.push_back(operation);
+    } else if (draws(operation)) {
+        return draw(operation);
+    }
+    return std::nullopt;
+}
+
+}  // namespace tarn

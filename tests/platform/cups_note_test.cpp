@@ -1,0 +1,64 @@
+// A fiscal note from its document to the printer's socket, through a real cupsd of the
+// test's own.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+#include "notes/imprime_nota.h"
+#include "platform/cups/cups_spooler.h"
+#include "runtime/erro_execucao.h"
+#include "support/cups_test.h"
+#include "support/test_environment.h"
+
+namespace tarn {
+namespace {
+
+std::string noteFile(const char* name) {
+    std::ifstream in(std::string(TARN_NOTE_DATA) + "/" + name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+class CupsNoteTest : public CupsTest {
+protected:
+    void print(Spooler& spooler, const char* noteDocument) {
+        Environment ambiente{.http = seams_.loader,
+                             .spooler = spooler,
+                             .printer = seams_.printer,
+                             .boxes = seams_.boxes,
+                             .clock = seams_.clock,
+                             .machine = seams_.machine,
+                             .baseUrl = {}};
+        Sessao sessao;
+        sessao.NCOMPANYCODE = 1361;
+        sessao.ID_ETB_TARN = 1;
+        XmlDocument documento;
+        ASSERT_TRUE(documento.loadXML(noteFile(noteDocument)));
+        imprimeNota(Escada::Emissao, ambiente, sessao, documento, "4567");
+    }
+
+    const std::string golden_ = noteFile("nota_1361.prn");
+    TestEnvironment seams_;
+};
+
+TEST_F(CupsNoteTest, SetUpAndNoteArriveByteForByteAndInOrder) {
+    ASSERT_FALSE(golden_.empty());
+    CupsSpooler spooler;
+    for (int time = 0; time < 2; ++time) {
+        print(spooler, "nota_1361.xml");
+        EXPECT_EQ(printed(), " \x0F") << server_->errorLog();
+        EXPECT_EQ(printed(), golden_) << server_->errorLog();
+    }
+}
+
+TEST_F(CupsNoteTest, ANoteStoppedByAnErrorDoesNotHoldUpTheNext) {
+    CupsSpooler spooler;
+    EXPECT_THROW(print(spooler, "nota_quantidade_errada.xml"), ErroExecucao);
+    EXPECT_EQ(printed(), " \x0F") << server_->errorLog();
+    print(spooler, "nota_1361.xml");
+    EXPECT_EQ(printed(), " \x0F") << server_->errorLog();
+    EXPECT_EQ(printed(), golden_) << server_->errorLog();
+}
+
+}  // namespace
+}  // namespace tarn
