@@ -28,13 +28,8 @@ void declaraSessao(CLI::App& comando, Pedido& pedido) {
     comando.add_flag("--reimpressao", pedido.reimpressao, "Escada da tela de reimpressão");
 }
 
-// All answers are read before the first is printed: a wrong file name must not
-// spend a numbered form.
 void imprime(const Pedido& pedido, Mesa& mesa) {
-    std::vector<XmlDocument> documentos;
-    for (const std::string& arquivo : pedido.arquivos) {
-        documentos.push_back(leResposta(arquivo));
-    }
+    std::vector<XmlDocument> documentos = leRespostas(pedido.arquivos);
     Environment& ambiente = mesa.ambiente();
     for (XmlDocument& documento : documentos) {
         imprimeNota(pedido.escada(), ambiente, pedido.sessao, documento, pedido.numero);
@@ -67,6 +62,15 @@ XmlDocument leResposta(const std::string& arquivo) {
                          "\" não é uma resposta do servidor: o XML está incompleto ou errado.");
     }
     return documento;
+}
+
+std::vector<XmlDocument> leRespostas(const std::vector<std::string>& arquivos) {
+    std::vector<XmlDocument> documentos;
+    documentos.reserve(arquivos.size());
+    for (const std::string& arquivo : arquivos) {
+        documentos.push_back(leResposta(arquivo));
+    }
+    return documentos;
 }
 
 void declaraNota(CLI::App& app, Escolha& escolha) {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "session/xml_document.h"
 
@@ -36,6 +37,7 @@ struct Escolha {
 
 void declaraNota(CLI::App& app, Escolha& escolha);
 void declaraEscada(CLI::App& app, Escolha& escolha);
+void declaraOrdem(CLI::App& app, Escolha& escolha);
 void declaraRegras(CLI::App& app, Escolha& escolha);
 
 // A required code: an option when `nome` begins with "--", a value otherwise. Zeros in
@@ -45,6 +47,8 @@ void declaraCodigo(CLI::App& comando, const std::string& nome, std::int32_t& cod
 
 // A saved answer; FalhaDeUso when the file can't be read or isn't an answer.
 XmlDocument leResposta(const std::string& arquivo);
+// All of them, before anything is printed: a wrong file name must not spend paper.
+std::vector<XmlDocument> leRespostas(const std::vector<std::string>& arquivos);
 
 // One line on stdout.
 void mostra(std::string_view linha);

@@ -9,14 +9,15 @@
 #include <QTimer>
 #include <array>
 
+#include "billing/frm_manut_det_oft.h"
 #include "billing/gera_nota.h"
+#include "billing/imprime_ordem.h"
 #include "billing/observacoes.h"
 #include "billing/ordens_model.h"
 #include "common/frm_mensagem_alerta.h"
 #include "platform/message_boxes.h"
 #include "platform/qt/wait_cursor.h"
 #include "session/aparencia.h"
-#include "session/tela_futura.h"
 #include "ui_frm_oft.h"
 
 namespace tarn {
@@ -156,15 +157,27 @@ void FrmOFT::CmdCanOft_Click() {
 void FrmOFT::cmdImprimirOF_Click() {
     const auto ordem = ordemSelecionada();
     if (ordem && observacoesAceitas(*ordem)) {
-        avisaTelaFutura(desk_.ambiente, "Impressão da Ordem de Faturamento");
+        imprimeOrdemSelecionada(desk_.ambiente, desk_.sessao, ordem->ordem());
     }
 }
 
 void FrmOFT::cmdDetOFT_Click() {
     const auto ordem = ordemSelecionada();
-    if (ordem && observacoesAceitas(*ordem)) {
-        avisaTelaFutura(desk_.ambiente, "Alteração dos dados da Ordem de Faturamento");
+    if (!ordem || !observacoesAceitas(*ordem)) {
+        return;
     }
+    // The list may have been renewed under the observation: the row that is active now
+    // is the one that opens.
+    const auto ativa = ordemSelecionada();
+    if (!ativa) {
+        return;
+    }
+    frmManutDetOFT dialogo(desk_, *ativa, this);
+    connect(&dialogo, &frmManutDetOFT::gravou, this, [this] {
+        loadSpread();
+        timer_->start();
+    });
+    dialogo.exec();
 }
 
 void FrmOFT::CmdFechar_Click() {

@@ -35,6 +35,10 @@ std::string data(const std::string& name) {
     return std::string(TARN_NOTE_DATA) + "/" + name;
 }
 
+std::string orderData(const std::string& name) {
+    return std::string(TARN_ORDER_DATA) + "/" + name;
+}
+
 struct Result {
     int status = -1;
     std::string out;
@@ -357,6 +361,48 @@ TEST_F(Tarnimprime, TheLadder) {
         EXPECT_EQ(run({"escada", "--empresa", word, "--estabelecimento", "1"}).status, 1) << word;
     }
     EXPECT_EQ(run({"escada", "--empresa", "7"}).status, 1);
+}
+
+TEST_F(Tarnimprime, PrintsAnOrderSheet) {
+    const Result result = run({"--destino", file("papel"), "ordem", "--empresa", "2041",
+                               orderData("ordem_parcelada.xml")});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out + result.err, "");
+    EXPECT_EQ(job("job-001.prn"), contentOf(orderData("ordem_parcelada.prn")));
+    EXPECT_FALSE(hasJob("job-002.prn"));
+}
+
+TEST_F(Tarnimprime, ACompanysOwnOrderSheetAndSeveralOrders) {
+    const Result result =
+        run({"ordem", orderData("ordem_parcelada.xml"), orderData("ordem_a_vista.xml"), "--empresa",
+             "1361", "--destino", file("papel")});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(job("job-001.prn"), contentOf(orderData("ordem_parcelada_1361.prn")));
+    EXPECT_EQ(job("job-002.prn"), contentOf(orderData("ordem_a_vista_1361.prn")));
+    EXPECT_FALSE(hasJob("job-003.prn"));
+}
+
+TEST_F(Tarnimprime, AnOrderWithoutAFieldKeepsTheLinesBeforeIt) {
+    const Result result = run({"ordem", "--destino", file("papel"), "--empresa", "2041",
+                               orderData("ordem_item_incompleto.xml")});
+    EXPECT_EQ(result.status, 3);
+    EXPECT_NE(result.err.find("Erro em tempo de execução '91'"), std::string::npos) << result.err;
+    EXPECT_NE(result.err.find("VL_SEG"), std::string::npos) << result.err;
+    const std::string golden = contentOf(orderData("ordem_parcelada.prn"));
+    EXPECT_EQ(job("job-001.prn"), golden.substr(0, golden.find("   12,000")));
+}
+
+TEST_F(Tarnimprime, AnOrderSheetWithoutACompanyOrADocumentIsWrongUsage) {
+    for (const std::vector<std::string>& words :
+         {std::vector<std::string>{"ordem", orderData("ordem_a_vista.xml")},
+          {"ordem", "--empresa", "2041"},
+          {"ordem", "--empresa", "x", orderData("ordem_a_vista.xml")},
+          {"ordem", "--empresa", "2041", orderData("ordem_a_vista.xml"), file("falta.xml")}}) {
+        std::vector<std::string> all{"--destino", file("papel")};
+        all.insert(all.end(), words.begin(), words.end());
+        EXPECT_EQ(run(all).status, 1);
+        EXPECT_FALSE(hasJob("job-001.prn"));
+    }
 }
 
 TEST_F(Tarnimprime, AmountsInWords) {

@@ -1,5 +1,3 @@
-#include "billing/frm_oft.h"
-
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QPushButton>
@@ -8,6 +6,13 @@
 
 namespace tarn {
 namespace {
+
+constexpr char sheetQuery[] =
+    "comando=sel_impr_ordem_fatu&ID_ETB_TARN=6001&ID_ORD_FAT=1001&ServerName=SRV1";
+const std::string orderDocument =
+    answers::declaration +
+    "<PRINCIPAL cod='0' status='OK'><ORDEM RAZAO='JOSÉ' DT_EMS_NF='12/03/2012' VENDEDOR='V' "
+    "NR_CTRL_INT='C-1'/></PRINCIPAL>";
 
 TEST_F(FrmOFTTest, OpensWithTheRightAndTheList) {
     server.on("sel_ordem_fatu", twoOrders);
@@ -166,11 +171,10 @@ TEST_F(FrmOFTTest, AnAcceptedObservationLetsTheMaintenanceGoOn) {
     open();
     observation("Linha 1&#10;Linha &lt;2&gt;");
     answerAlert("cmdOk", "Linha 1\nLinha <2>");
+    modals.then("frmManutDetOFT", [](QWidget& dialog) { click(dialog, "cmdCancelar"); });
     click(screen(), "cmdDetOFT");
     EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery));
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Information);
-    EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
+    EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(FrmOFTTest, ACancelledObservationStopsMaintenanceAndSheet) {
@@ -181,6 +185,8 @@ TEST_F(FrmOFTTest, ACancelledObservationStopsMaintenanceAndSheet) {
         click(screen(), button);
     }
     EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_TRUE(spooler.calls.empty());
+    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, obsQuery));
     EXPECT_EQ(sessao.ConfirmaMensagem, "N");
 }
 
@@ -214,15 +220,78 @@ TEST_F(FrmOFTTest, TheAlertHasAPairOfButtonsOrOne) {
 TEST_F(FrmOFTTest, AFailedObservationGoesOnWithWhatTextIsLeft) {
     open();
     server.failOn("Seleciona_Obs_Vnd_X_Ord");
+    modals.then("frmManutDetOFT", [](QWidget& dialog) { click(dialog, "cmdCancelar"); });
     click(screen(), "cmdDetOFT");
-    ASSERT_EQ(boxes.shown.size(), 3U);
+    ASSERT_EQ(boxes.shown.size(), 2U);
     EXPECT_EQ(boxes.shown[0], critical("0004"));
     EXPECT_EQ(boxes.shown[1], aviso("Aconteceu um erro na busca da observação da(s) venda(s). "
                                     "Cancele esta tela e tente novamente."));
     sessao.TextoMensagem = "da ordem anterior";
     answerAlert("cmdCancelar", "da ordem anterior");
     click(screen(), "cmdDetOFT");
-    EXPECT_EQ(boxes.shown.size(), 5U);
+    EXPECT_EQ(boxes.shown.size(), 4U);
+}
+
+TEST_F(FrmOFTTest, PrintsTheSheetOfTheSelectedOrder) {
+    open();
+    server.on("sel_impr_ordem_fatu", orderDocument);
+    observation("x");
+    answerAlert("cmdOk", "x");
+    click(screen(), "cmdImprimirOF");
+    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, sheetQuery));
+    EXPECT_TRUE(boxes.shown.empty());
+    ASSERT_EQ(spooler.jobs.size(), 1U);
+    EXPECT_EQ(spooler.jobs[0].writes.at(3),
+              " Cliente:  JOS\xC9" + std::string(46, ' ') + " Data: 12/03/2012\r\n");
+    EXPECT_TRUE(spooler.jobs[0].closed);
+    EXPECT_TRUE(timer().isActive());
+}
+
+TEST_F(FrmOFTTest, PrintsTheCompanysOwnSheet) {
+    open();
+    sessao.NCOMPANYCODE = 1361;
+    server.on("sel_impr_ordem_fatu", orderDocument);
+    click(screen(), "cmdImprimirOF");
+    ASSERT_EQ(spooler.jobs.size(), 1U);
+    EXPECT_EQ(spooler.jobs[0].writes.at(1), " C-1" + std::string(37, ' ') + "\r\n");
+}
+
+TEST_F(FrmOFTTest, ASheetThatCantBeHadIsToldAndTheDeskStaysAsItIs) {
+    open();
+    server.failOn("sel_impr_ordem_fatu")
+        .on("sel_impr_ordem_fatu", answers::status("Ordem faturada"));
+    click(screen(), "cmdImprimirOF");
+    click(screen(), "cmdImprimirOF");
+    EXPECT_THAT(boxes.shown,
+                testing::ElementsAre(critical("0012"),
+                                     aviso("Houve um problema na transferência dos dados da Ordem "
+                                           "de Faturamento nº 1001."),
+                                     exclama("Ordem faturada")));
+    EXPECT_TRUE(spooler.calls.empty());
+    EXPECT_EQ(rows(), 2);
+    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, sheetQuery, obsQuery, sheetQuery));
+}
+
+TEST_F(FrmOFTTest, AFailedObservationStillPrintsTheSheet) {
+    open();
+    server.failOn("Seleciona_Obs_Vnd_X_Ord").on("sel_impr_ordem_fatu", orderDocument);
+    click(screen(), "cmdImprimirOF");
+    EXPECT_EQ(boxes.shown.size(), 2U);
+    EXPECT_EQ(spooler.jobs.size(), 1U);
+}
+
+TEST_F(FrmOFTTest, ABrokenSheetEndsTheProgramAndKeepsWhatWasPrinted) {
+    open();
+    server.on("sel_impr_ordem_fatu",
+              answers::declaration + "<PRINCIPAL a='0' s='OK'><CAB RAZAO='R'/><ITEM/></PRINCIPAL>");
+    click(screen(), "cmdImprimirOF");
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '91'", 0), 0U);
+    EXPECT_EQ(boxes.shown[0].text.find("Nota Fiscal"), std::string::npos);
+    EXPECT_EQ(fim.status(), 3);
+    ASSERT_EQ(spooler.jobs.size(), 1U);
+    EXPECT_EQ(spooler.jobs[0].writes.size(), 9U);
+    EXPECT_FALSE(spooler.jobs[0].ended);
 }
 
 TEST_F(FrmOFTTest, FecharFreesTheMenus) {

@@ -1,0 +1,48 @@
+// Corrects four things on an order before its note is generated: the observation, the
+// quantity of packages and the two weights. The rest is shown for reference.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "billing/ordens.h"
+#include "session/desk_context.h"
+
+class QLineEdit;
+
+namespace Ui {
+class frmManutDetOFT;
+}
+
+namespace tarn {
+
+enum class CampoDaOrdem;
+
+class frmManutDetOFT : public QDialog {
+    Q_OBJECT
+
+public:
+    // Shows the order's cells as they are now; what becomes of the list is not followed.
+    frmManutDetOFT(DeskContext& desk, const OrdemFaturamento& ordem, QWidget* parent);
+    ~frmManutDetOFT() override;
+
+signals:
+    // The write was sent: the list must be read again. Comes before the dialog closes.
+    void gravou();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void preparaCampos();
+    void preparaBotoes();
+    void carrega(const OrdemFaturamento& ordem);
+    QLineEdit& campo(CampoDaOrdem qual) const;
+
+    void cmdOk_Click();
+
+    DeskContext& desk_;
+    std::unique_ptr<Ui::frmManutDetOFT> ui_;
+};
+
+}  // namespace tarn
