@@ -5,18 +5,24 @@
 #include <libxml/parser.h>
 
 #include <array>
+#include <cstdint>
 #include <cstdio>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "common/raw_channel.h"
+#include "notes/imprime_nota.h"
 #include "notes/layouts/layouts.h"
 #include "notes/pipeline.h"
+#include "platform/environment.h"
+#include "platform/printer.h"
 #include "session/xml_document.h"
 #include "support/measure.h"
+#include "support/test_environment.h"
 
 namespace {
 
@@ -150,6 +156,78 @@ BENCHMARK(note)->Arg(5)->Iterations(4000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(note)->Arg(50)->Iterations(1000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(note)->Arg(5000)->Iterations(41)->Unit(benchmark::kMicrosecond);
 
+struct LadderForm {
+    const char* name;
+    std::int32_t company;
+    std::int32_t establishment;
+};
+
+// Every form, by a company and an establishment whose notes go on it.
+constexpr std::array<LadderForm, 24> forms{{{"1361", 1361, 1},
+                                            {"2041", 2041, 1},
+                                            {"Padrao", 1, 1},
+                                            {"7", 7, 1},
+                                            {"2161_3341", 2161, 3341},
+                                            {"2161_3381", 2161, 3381},
+                                            {"2161_3383", 2161, 3383},
+                                            {"2321", 2321, 1},
+                                            {"1581", 1581, 1},
+                                            {"2801", 2801, 1},
+                                            {"2421 at 3621", 2421, 3621},
+                                            {"2421", 2421, 1},
+                                            {"1521", 1521, 1},
+                                            {"821", 821, 1},
+                                            {"3301", 3301, 1},
+                                            {"3881", 3881, 1},
+                                            {"3601", 3601, 1},
+                                            {"E6001", 1, 6001},
+                                            {"3081", 3081, 1},
+                                            {"E5282", 1, 5282},
+                                            {"2541 (drawn)", 2541, 1},
+                                            {"3681", 3681, 1},
+                                            {"4621 at 7321", 4621, 7321},
+                                            {"4621", 4621, 1}}};
+
+// Takes every drawing operation and does nothing with it.
+class CountingPrinter : public tarn::Printer {
+public:
+    std::optional<tarn::PrinterFailure> perform(const tarn::PrintOperation&) override {
+        ++operations_;
+        return std::nullopt;
+    }
+
+private:
+    std::size_t operations_ = 0;
+};
+
+// Parse and layout of the same note on one form over the bare parse.
+double ratioOfForm(const LadderForm& form, const std::string& xml) {
+    tarn::TestEnvironment seams;
+    CountingSpooler spooler;
+    CountingPrinter printer;
+    tarn::Environment environment{.http = seams.loader,
+                                  .spooler = spooler,
+                                  .printer = printer,
+                                  .boxes = seams.boxes,
+                                  .clock = seams.clock,
+                                  .machine = seams.machine,
+                                  .baseUrl = {}};
+    tarn::Sessao session;
+    session.NCOMPANYCODE = form.company;
+    session.ID_ETB_TARN = form.establishment;
+    Times times;
+    constexpr int rounds = 401;
+    for (int i = 0; i < rounds; ++i) {
+        times.bare.push_back(secondsOf([&] { parseAlone(xml); }));
+        times.whole.push_back(secondsOf([&] {
+            tarn::XmlDocument document;
+            document.loadXML(xml);
+            tarn::imprimeNota(tarn::Escada::Reimpressao, environment, session, document, "4567");
+        }));
+    }
+    return ratioOf(times.whole, times.bare);
+}
+
 // What an item more costs between two sizes of note.
 double perItem(const std::vector<double> Times::*which, int from, int to) {
     const double less = medianOf(measured()[from].*which);
@@ -180,5 +258,11 @@ int main(int argc, char** argv) {
                  growth(&Times::whole) / bareGrowth, 1.15);
     limits.check("the same of the layout alone", growth(&Times::layout) / bareGrowth, 1.15);
     std::printf("(growth of the bare parse itself: %.2f)\n", bareGrowth);
+    // As many items as a form has lines for.
+    const std::string fullForm = noteOf(32);
+    for (const LadderForm& form : forms) {
+        limits.check(std::string("form ") + form.name + ", 32 items: parse and layout over parse",
+                     ratioOfForm(form, fullForm), 1.30);
+    }
     return limits.exitStatus();
 }
