@@ -111,6 +111,7 @@ constexpr int larguraDaMesa = 1280;
 constexpr int alturaDaMesa = 820;
 
 // Rows of the practice data, counted from 0.
+constexpr int primeira = 0;
 constexpr int comObservacao = 5;
 constexpr int semEstoque = 6;
 constexpr int recusada = 7;
@@ -132,6 +133,13 @@ void escreveEmissao(Roteiro& roteiro, const Entrada& entrada) {
                     escolhe(janela, "mnuNF", "mOFT");
                 })
         .quando("FrmOFT", "ordens",
+                [](QWidget& tela) {
+                    marca(tela, primeira);
+                    clica(tela, "cmdDetOFT");
+                })
+        .quando("frmManutDetOFT", "manutencao",
+                [](QWidget& dialogo) { clica(dialogo, "cmdCancelar"); })
+        .quando("FrmOFT", "",
                 [](QWidget& tela) {
                     marca(tela, recusada);
                     clica(tela, "cmdSelecionar");

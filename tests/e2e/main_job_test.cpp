@@ -132,7 +132,7 @@ TEST_F(MainJob, AnOrderBecomesANoteOnPaper) {
     // A picture of each step, and the paper.
     const QStringList pictures =
         QDir(folder_.path()).entryList({"passo-*.png"}, QDir::Files, QDir::Name);
-    EXPECT_EQ(pictures.size(), 17);
+    EXPECT_EQ(pictures.size(), 18);
     ASSERT_EQ(run(TARNIMPRESSORA, {"--pdf", inFolder("nota.pdf"), inFolder("job-001.prn"),
                                    inFolder("job-002.prn")}),
               0);
