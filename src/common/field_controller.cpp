@@ -46,7 +46,10 @@ FieldController::FieldController(QLineEdit* edit, KeyFilter filter, Environment&
     edit->installEventFilter(this);
 }
 
-bool FieldController::eventFilter(QObject* /*watched*/, QEvent* event) {
+bool FieldController::eventFilter(QObject* watched, QEvent* event) {
+    if (qobject_cast<QLineEdit*>(watched) == nullptr) {
+        return false;  // the field is being destroyed, and loses the focus on the way
+    }
     switch (event->type()) {
         case QEvent::KeyPress:
             return keyPressed(static_cast<const QKeyEvent&>(*event));

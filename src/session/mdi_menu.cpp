@@ -50,7 +50,10 @@ MDIMenu::MDIMenu(DeskContext& desk) : desk_(desk), ui_(std::make_unique<Ui::MDIM
     ligaMenu();
 }
 
-MDIMenu::~MDIMenu() = default;
+// Its screens are destroyed after it: what they tell then may not reach it any more.
+MDIMenu::~MDIMenu() {
+    ui_->mdiArea->disconnect(this);
+}
 
 void MDIMenu::ligaMenu() {
     const auto futura = [this](QAction* entrada, const char* transacao, const char* tela) {
