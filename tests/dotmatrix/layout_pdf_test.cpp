@@ -93,8 +93,8 @@ TEST_P(LayoutPdf, WordsStandOnTheGrid) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, LayoutPdf, testing::ValuesIn(test::allForms()),
-                         [](const testing::TestParamInfo<test::FormFacts>& info) {
-                             return info.param.name;
+                         [](const testing::TestParamInfo<test::FormFacts>& tested) {
+                             return tested.param.name;
                          });
 
 }  // namespace

@@ -50,7 +50,7 @@ TEST_F(Overlay, ABoxIsDrawnWhereTheTextTellsIt) {
     lay(loaded(written("f.txt", "caixa 7 11 20 3\n")), options);
     const QImage image = picture(options);
     const int inch = kPictureDotsPerInch;
-    const auto dark = [&image](int x, int y) { return qGray(image.pixel(x, y)) < 200; };
+    const auto dark = [&image](int x, int y) { return qGray(image.pixel(x, y)) < 245; };
     const auto edgeNear = [&](int x, int y, bool upright) {
         for (int i = -2; i <= 2; ++i) {
             if (dark(upright ? x + i : x, upright ? y : y + i)) {

@@ -29,7 +29,7 @@ struct Word {
 // Words of the first page.
 inline std::vector<Word> wordsIn(const QString& pdf) {
     static const QRegularExpression word(
-        QStringLiteral("<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" "
+        QStringLiteral("<word xMin=\"([0-9.]+)\" yMin=\"(-?[0-9.]+)\" xMax=\"([0-9.]+)\" "
                        "yMax=\"[0-9.]+\">([^<]*)<"));
     const QString text =
         output(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-l"),
