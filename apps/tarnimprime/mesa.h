@@ -43,10 +43,16 @@ public:
 
     // For printing; FalhaDeUso when there is nowhere to print.
     Environment& ambiente();
+    // For looking at what would print: as `ambiente` where a directory was told, else
+    // nothing is printed.
+    Environment& ambienteDeConferencia();
 
 private:
     void preparaPasta();
     void preparaImpressora();
+    void preparaNada();
+    Environment& monta(CodePage pagina);
+    CodePage confereOpcoes() const;
 
     const Geral& geral_;
     SemServidor servidor_;

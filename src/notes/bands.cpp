@@ -28,6 +28,10 @@ void printBand(const Band& band, Run& run) {
         run.line.append(static_cast<std::size_t>(band.column - firstColumn), ' ');
         appendBlankingControls(run.line, midOf(text, static_cast<std::size_t>(i * band.piece + 1),
                                                static_cast<std::size_t>(band.piece)));
+        if (run.losses != nullptr && i + 1 == calls) {
+            const auto shown = static_cast<std::size_t>(calls * band.piece);
+            run.losses->band(band.source, band.column, midOf(text, shown + 1, text.size()));
+        }
         run.send(i + 1 < calls ? 1 : band.lines - (calls - 1));
     }
 }
