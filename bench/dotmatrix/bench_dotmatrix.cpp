@@ -1,11 +1,11 @@
 // A day's paper of 10,000 forms in the virtual printer against an hour's of 500: what a
 // form costs to come in, to be looked at and to be written as PDF, and what is held in
 // memory beside it.
+#include <unistd.h>
 #include <QGuiApplication>
 #include <QTemporaryDir>
 #include <cstdlib>
 #include <fstream>
-#include <unistd.h>
 
 #include "dotmatrix/paper_export.h"
 #include "dotmatrix/paper_roll.h"

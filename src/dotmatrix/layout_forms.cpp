@@ -36,9 +36,10 @@ class Walk {
 public:
     explicit Walk(const FormPitch& pitch)
         : paper_(kEndless),
-          printer_(paper_, Dialect{.formHeight = kEndless,
-                                   .elite = pitch.elite,
-                                   .condensed = pitch.condensed}) {}
+          printer_(
+              paper_,
+              Dialect{.formHeight = kEndless, .elite = pitch.elite, .condensed = pitch.condensed}) {
+    }
 
     void run(const notes::Form& form, int itemLines) {
         itemLines_ = itemLines;
@@ -127,8 +128,8 @@ private:
             }
             call.end = std::max<int>(call.end, field.column + notes::check::roomOf(field));
             if (field.width > 0) {
-                reach_ = std::max(reach_, call.x + (field.column + field.width - call.column) *
-                                                       call.cell);
+                reach_ = std::max(reach_,
+                                  call.x + (field.column + field.width - call.column) * call.cell);
             }
         }
     }
@@ -219,7 +220,7 @@ private:
         walk(credit.rate);
     }
 
-    // A box grows half a line upwards for its words where nothing stands above it.
+    // A box grows half a line upwards, for its words, where nothing stands above it.
     void giveHeadroom() {
         std::vector<std::size_t> free;
         for (std::size_t i = 0; i < boxes_.size(); ++i) {
@@ -230,7 +231,7 @@ private:
                     return other.y < one.y && other.y + other.height > one.y - kHeadroom &&
                            other.x < one.x + one.width && one.x < other.x + other.width;
                 });
-            if (!taken && !one.label.empty()) {
+            if (!taken) {
                 free.push_back(i);
             }
         }
@@ -259,11 +260,12 @@ std::vector<Named> namedForms() {
             continue;  // it draws on blank paper
         }
         if (layout->other != nullptr) {
-            forms.push_back({std::string(layout->name) + "_" + std::to_string(layout->establishment),
-                             layout->form});
+            forms.push_back(
+                {std::string(layout->name) + "_" + std::to_string(layout->establishment),
+                 layout->form});
         }
-        forms.push_back({std::string(layout->name),
-                         layout->other != nullptr ? layout->other : layout->form});
+        forms.push_back(
+            {std::string(layout->name), layout->other != nullptr ? layout->other : layout->form});
     }
     return forms;
 }

@@ -50,8 +50,7 @@ void PaperRoll::markHere() {
 
 void PaperRoll::startJob(std::string name) {
     printer_->startJob();
-    jobs_.push_back(
-        {std::move(name), paper_->currentForm(), paper_->y(), length_});
+    jobs_.push_back({std::move(name), paper_->currentForm(), paper_->y(), length_});
     ++version_;
 }
 

@@ -31,8 +31,7 @@ void print(const notes::Layout& layout, Environment& ambiente, const Sessao& ses
         return notes::drawNote(*layout.drawn, documento, numeroNota, ambiente, perdas);
     }
     RawChannel channel(ambiente.spooler, ambiente.codePage);
-    notes::printNote(layout.formFor(sessao.ID_ETB_TARN), documento, numeroNota, channel,
-                     perdas);
+    notes::printNote(layout.formFor(sessao.ID_ETB_TARN), documento, numeroNota, channel, perdas);
 }
 
 }  // namespace

@@ -86,10 +86,8 @@ int printRows(const Items& block, int mostItems, Run& run) {
 void watchLines(const Items& block, int mostItems, int printed, Run& run) {
     const int spare = mostItems - printed + (block.fillsForm ? block.constant : 0);
     if (run.losses != nullptr && spare < 0) {
-        run.losses->add({.kind = Loss::Kind::ItemsOver,
-                         .field = "itens",
-                         .count = -spare,
-                         .limit = mostItems});
+        run.losses->add(
+            {.kind = Loss::Kind::ItemsOver, .field = "itens", .count = -spare, .limit = mostItems});
     }
 }
 

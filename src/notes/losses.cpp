@@ -42,8 +42,8 @@ std::string nameOf(Source source, int parcel) {
     const auto* name = std::find_if(std::begin(names), std::end(names),
                                     [source](const Name& n) { return n.source == source; });
     std::string words(name == std::end(names) ? "texto do formulário" : name->words);
-    const bool ofParcel = source == Source::NR_DOC || source == Source::VL_PRN_DOC ||
-                          source == Source::DT_VNC_DOC;
+    const bool ofParcel =
+        source == Source::NR_DOC || source == Source::VL_PRN_DOC || source == Source::DT_VNC_DOC;
     return ofParcel ? words + std::to_string(parcel) : words;
 }
 

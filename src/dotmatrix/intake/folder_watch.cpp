@@ -92,7 +92,8 @@ void FolderWatch::readOn(const QString& name, Seen& seen) {
     seen.taken += piece.size();
     if (piece.isEmpty() || !intake_.take(piece)) {
         if (piece.isEmpty()) {
-            intake_.end(QStringLiteral("não foi possível ler o arquivo (%1).").arg(file.errorString()));
+            intake_.end(
+                QStringLiteral("não foi possível ler o arquivo (%1).").arg(file.errorString()));
         }
         open_.clear();
         seen.taken = file.size();

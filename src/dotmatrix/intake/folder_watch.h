@@ -40,7 +40,7 @@ private:
     QFileSystemWatcher watcher_;
     QTimer timer_;
     QMap<QString, Seen> seen_;
-    QString open_;  // the file whose job is being taken; empty for none
+    QString open_;   // the file whose job is being taken; empty for none
     int quiet_ = 0;  // looks since it last grew
 };
 
