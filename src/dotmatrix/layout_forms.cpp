@@ -1,6 +1,7 @@
 #include "dotmatrix/layout_forms.h"
 
 #include <algorithm>
+#include <set>
 
 #include "dotmatrix/escp_interpreter.h"
 #include "dotmatrix/field_labels.h"
@@ -220,24 +221,26 @@ private:
         walk(credit.rate);
     }
 
-    // A box grows half a line upwards, for its words, where nothing stands above it.
+    // The boxes of a line grow half a line upwards, for their words, where nothing stands
+    // above any of them.
     void giveHeadroom() {
-        std::vector<std::size_t> free;
-        for (std::size_t i = 0; i < boxes_.size(); ++i) {
-            const FormBox& one = boxes_[i];
+        std::set<PaperUnits> tight;
+        for (const FormBox& one : boxes_) {
             const bool taken =
                 one.y < kHeadroom ||
                 std::any_of(boxes_.begin(), boxes_.end(), [&one](const FormBox& other) {
                     return other.y < one.y && other.y + other.height > one.y - kHeadroom &&
                            other.x < one.x + one.width && one.x < other.x + other.width;
                 });
-            if (!taken) {
-                free.push_back(i);
+            if (taken) {
+                tight.insert(one.y);
             }
         }
-        for (const std::size_t i : free) {
-            boxes_[i].y -= kHeadroom;
-            boxes_[i].height += kHeadroom;
+        for (FormBox& box : boxes_) {
+            if (tight.count(box.y) == 0) {
+                box.y -= kHeadroom;
+                box.height += kHeadroom;
+            }
         }
     }
 
