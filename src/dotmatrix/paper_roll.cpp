@@ -9,8 +9,8 @@ namespace {
 
 constexpr std::size_t kSeenKept = 24;
 // A note has some 4,000 bytes, so printing again begins at most a few pages above.
-constexpr qint64 kBetweenMarks = 16 * 1024;
-constexpr qint64 kChunk = 16 * 1024;
+constexpr qint64 kBetweenMarks = 16LL * 1024;
+constexpr qint64 kChunk = 16LL * 1024;
 
 PaperPosition topOfPaper(const Dialect& dialect) {
     return {.form = 0,

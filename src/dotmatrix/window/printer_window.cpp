@@ -26,7 +26,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kRepaint(40);
 constexpr std::size_t kFormsAStep = 40;
-constexpr qint64 kReadAtOnce = 256 * 1024;
+constexpr qint64 kReadAtOnce = 256LL * 1024;
 constexpr double kZoomStep = 1.25;
 constexpr int kProgressAfter = 400;  // milliseconds
 
