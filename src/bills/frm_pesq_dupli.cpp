@@ -24,12 +24,12 @@ constexpr char tag[] = "Tag";
 constexpr std::array<ColunaGrade, colunasDuplicata> colunas{
     {{"", 0, TipoColuna::Caixa},
      {"Filial", 10},
-     {"Dt.de Vencimento", 18},
-     {"Dt.de Emissão", 15},
-     {"Nº do Documento", 18},
+     {"Dt.de Vencimento", 21},
+     {"Dt.de Emissão", 17},
+     {"Nº do Documento", 20},
      {"Cliente", 38},
      {"Endereço", 38},
-     {"Vlr.do Documento", 19, TipoColuna::Numero},
+     {"Vlr.do Documento", 21, TipoColuna::Numero},
      {"CEP", 12},
      {"Município", 24},
      {"Filial", 8},
@@ -43,8 +43,8 @@ constexpr std::array<ColunaGrade, colunasDuplicata> colunas{
      {"NR_DOC_NF", 0},
      {"Endereço Cobrança", 38},
      {"Município Cobrança", 24},
-     {"Estado Cobrança", 18},
-     {"CEP Cobrança", 16}}};
+     {"Estado Cobrança", 20},
+     {"CEP Cobrança", 17}}};
 constexpr int linhasVisiveis = 14;
 constexpr int larguraData = 13;    // characters
 constexpr int alturaDaFigura = 2;  // lines
@@ -84,6 +84,7 @@ void FrmPesqDupli::preparaCampos() {
 void FrmPesqDupli::preparaBotoes() {
     const auto prepara = [this](QPushButton* botao, const char* desenho, auto rotina) {
         poeFigura(*botao, desenho);
+        botao->setAutoDefault(false);
         connect(botao, &QPushButton::clicked, this, rotina);
     };
     prepara(ui_->cmdPesqCli, "pesquisar_cliente", &FrmPesqDupli::cmdPesqCli_Click);
