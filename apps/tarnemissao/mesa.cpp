@@ -1,6 +1,6 @@
 #include "mesa.h"
 
-#include <QTimer>
+#include <QMetaObject>
 
 #include "platform/directory/directory_spooler.h"
 #include "platform/qt/qt_printer.h"
@@ -42,12 +42,13 @@ Mesa::~Mesa() {
 
 void Mesa::abre() {
     menu_.show();
-    QTimer::singleShot(0, &menu_, [this] {
+    const auto partida = [this] {
         menu_.carrega();
         if (selecaoEtiquetas_ && !fim_.encerrado()) {
             avisaTelaFutura(ambiente_, "Seleção de Etiquetas");
         }
-    });
+    };
+    QMetaObject::invokeMethod(&menu_, partida, Qt::QueuedConnection);
 }
 
 }  // namespace tarn
