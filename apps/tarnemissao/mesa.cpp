@@ -1,6 +1,6 @@
 #include "mesa.h"
 
-#include <QMetaObject>
+#include <QTimer>
 
 #include "platform/directory/directory_spooler.h"
 #include "platform/qt/qt_printer.h"
@@ -42,13 +42,12 @@ Mesa::~Mesa() {
 
 void Mesa::abre() {
     menu_.show();
-    const auto partida = [this] {
+    QTimer::singleShot(0, &menu_, [this] {
         menu_.carrega();
         if (selecaoEtiquetas_ && !fim_.encerrado()) {
             avisaTelaFutura(ambiente_, "Seleção de Etiquetas");
         }
-    };
-    QMetaObject::invokeMethod(&menu_, partida, Qt::QueuedConnection);
+    });
 }
 
 }  // namespace tarn
