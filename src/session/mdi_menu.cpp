@@ -8,6 +8,7 @@
 #include <QShowEvent>
 
 #include "billing/frm_oft.h"
+#include "bills/frm_pesq_dupli.h"
 #include "common/frm_ajuda.h"
 #include "platform/machine.h"
 #include "platform/qt/wait_cursor.h"
@@ -17,6 +18,7 @@
 #include "session/entrada.h"
 #include "session/frm_logon.h"
 #include "session/tela_futura.h"
+#include "session/telas_de_cobranca.h"
 #include "ui_mdi_menu.h"
 
 namespace tarn {
@@ -39,7 +41,10 @@ QLabel* novoPainel(QStatusBar& barra, const char* nome, const QString& acessivel
 
 }  // namespace
 
-MDIMenu::MDIMenu(DeskContext& desk) : desk_(desk), ui_(std::make_unique<Ui::MDIMenu>()) {
+MDIMenu::MDIMenu(DeskContext& desk)
+    : desk_(desk),
+      ui_(std::make_unique<Ui::MDIMenu>()),
+      cobranca_(std::make_unique<TelasDeCobranca>(desk, *this)) {
     ui_->setupUi(this);
     ui_->mnuNF->insertSeparator(ui_->mCNF)->setObjectName(QStringLiteral("NFtraco"));
     painel1_ = novoPainel(*ui_->StatusBar1, "Panel1", QStringLiteral("Impressora configurada"), 3);
@@ -70,7 +75,7 @@ void MDIMenu::ligaMenu() {
             [this] { nota("EMI002", TrabalhoNota::Reimpressao); });
     connect(ui_->mCNF, &QAction::triggered, this,
             [this] { nota("EMI003", TrabalhoNota::Cancelamento); });
-    futura(ui_->mnuDuplicata, nullptr, "Duplicata/Recibo");
+    connect(ui_->mnuDuplicata, &QAction::triggered, this, &MDIMenu::mnuDuplicata_Click);
     futura(ui_->mnuBoleto, nullptr, "Boleto Bancário");
     futura(ui_->mnuChequeImpressao, "EMI005", "Impressão de Cheque");
     connect(ui_->mnuAjuda, &QAction::triggered, this, &MDIMenu::mnuAjuda_Click);
@@ -150,6 +155,10 @@ void MDIMenu::abreNaArea(Tela* tela) {
     janela->resize(janela->sizeHint().boundedTo(ui_->mdiArea->size()));
     janela->show();
     tela->carrega();
+}
+
+void MDIMenu::mnuDuplicata_Click() {
+    abreModal(cobranca_->duplicatas());
 }
 
 void MDIMenu::mnuAjuda_Click() {

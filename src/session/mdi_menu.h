@@ -18,6 +18,7 @@ class MDIMenu;
 
 namespace tarn {
 
+class TelasDeCobranca;
 enum class TrabalhoNota;
 
 class MDIMenu : public QMainWindow {
@@ -54,10 +55,12 @@ private:
     void etiquetas(const char* tipo);
     void mOFT_Click();
     void nota(const char* transacao, TrabalhoNota trabalho);
+    void mnuDuplicata_Click();
     void mnuAjuda_Click();
 
     DeskContext& desk_;
     std::unique_ptr<Ui::MDIMenu> ui_;
+    std::unique_ptr<TelasDeCobranca> cobranca_;
     QLabel* painel1_ = nullptr;  // printer notice
     QLabel* painel2_ = nullptr;  // establishment's name
 };
