@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <limits>
 #include <string_view>
 
@@ -14,6 +15,7 @@
 #include "session/commands.h"
 #include "slips/layouts_boleto.h"
 #include "slips/nosso_numero.h"
+#include "slips/pesquisa_boleto.h"
 
 namespace tarn {
 namespace {
@@ -47,12 +49,12 @@ public:
 
     void preparaImpressora();
     // The job for it is open.
-    void imprime(const DocumentoBoleto& documento);
+    void imprime(const LinhaGrade& documento);
     int impressos() const { return impressos_; }
 
 private:
     void manda(const std::string& consulta);
-    void grava(const DocumentoBoleto& documento, const NossoNumero& numero);
+    void grava(const LinhaGrade& documento, const NossoNumero& numero);
     void conta();
     void envia(std::string_view sequencia);
 
@@ -84,14 +86,14 @@ void Corrida::manda(const std::string& consulta) {
     ambiente_.http.get(ambiente_.baseUrl + consulta);
 }
 
-void Corrida::grava(const DocumentoBoleto& documento, const NossoNumero& numero) {
-    const comando::Boleto boleto{.filial = documento[ColunaBoleto::Estabelecimento],
-                                 .tipoDocumento = documento[ColunaBoleto::IdTipoDocumento],
-                                 .documento = documento[ColunaBoleto::NumeroDocumento],
-                                 .numeroControle = documento[ColunaBoleto::NumeroControle],
+void Corrida::grava(const LinhaGrade& documento, const NossoNumero& numero) {
+    const comando::Boleto boleto{.filial = documento.coluna(coluna_boleto::estabelecimento),
+                                 .tipoDocumento = documento.coluna(coluna_boleto::tipoDocumento),
+                                 .documento = documento.coluna(coluna_boleto::numero),
+                                 .numeroControle = documento.coluna(coluna_boleto::numeroControle),
                                  .carteira = carteira_.ID_CRT_COB,
                                  .numeroBancario = numero.NR_BOL_BANC};
-    const bool deCobranca = documento[ColunaBoleto::Tabela] == "DOCTO_COBRANCA";
+    const bool deCobranca = documento.coluna(coluna_boleto::tabela) == "DOCTO_COBRANCA";
     const bool carteira57 = carteira_.carteira57();
     const auto chave =
         carteira57 ? comando::ChaveControle::ID_NR_CTL : comando::ChaveControle::ID_NR_CLT;
@@ -104,8 +106,9 @@ void Corrida::grava(const DocumentoBoleto& documento, const NossoNumero& numero)
 }
 
 // The document of a bank without a form leaves its job open.
-void Corrida::imprime(const DocumentoBoleto& documento) {
-    if (!bancoAtendido(incluiCarteira_ ? carteira_.ID_PES_BAN : documento[ColunaBoleto::Banco])) {
+void Corrida::imprime(const LinhaGrade& documento) {
+    if (!bancoAtendido(incluiCarteira_ ? carteira_.ID_PES_BAN
+                                       : documento.coluna(coluna_boleto::banco))) {
         return;
     }
     const NossoNumero numero = corrente_.nossoNumero();
@@ -127,18 +130,47 @@ void Corrida::conta() {
     ++impressos_;
 }
 
+// Tells how many of the ticked rows are done with.
+class Contagem {
+public:
+    Contagem(const Progress& avisa, std::span<const LinhaGrade> linhas)
+        : avisa_(avisa),
+          total_(static_cast<std::size_t>(std::count_if(
+              linhas.begin(), linhas.end(), [](const LinhaGrade& l) { return l.marcada; }))) {
+        diz();
+    }
+    void avanca() {
+        ++feitas_;
+        diz();
+    }
+
+private:
+    void diz() const {
+        if (avisa_ && total_ > 0) {
+            avisa_(feitas_, total_);
+        }
+    }
+
+    const Progress& avisa_;
+    std::size_t total_;
+    std::size_t feitas_ = 0;
+};
+
 }  // namespace
 
 void imprimeBoletos(Environment& ambiente, const Sessao& sessao, const CarteiraCobranca& carteira,
-                    const PedidoDeBoletos& pedido, const GradeDeBoletos& grade) {
+                    const PedidoDeBoletos& pedido, std::span<const LinhaGrade> linhas,
+                    const TelaDeBoletos& tela) {
     Corrida corrida(ambiente, sessao, carteira, pedido);
-    for (std::size_t i = 0; i < grade.linhas; ++i) {
-        if (grade.marcada(i)) {
+    Contagem contagem(tela.andamento, linhas);
+    for (std::size_t i = 0; i < linhas.size(); ++i) {
+        if (linhas[i].marcada) {
             corrida.preparaImpressora();
-            grade.desmarca(i);
-            corrida.imprime(grade.documento(i));
+            tela.desmarca(i);
+            corrida.imprime(linhas[i]);
+            contagem.avanca();
         }
-        grade.passou(i);
+        tela.passou();
     }
     if (corrida.impressos() == 0) {
         ambiente.boxes.show({.text = "Selecione um item na Lista!     ",

@@ -3,26 +3,24 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
 
+#include "common/linha_grade.h"
+#include "platform/progress.h"
 #include "session/sessao.h"
 #include "slips/carteira_cobranca.h"
-#include "slips/documento_boleto.h"
 
 namespace tarn {
 
 struct Environment;
 
-// What the run asks of the grid and tells it; rows count from 0. The grid must not
-// change under the run but by its ticks.
-struct GradeDeBoletos {
-    std::size_t linhas = 0;
-    std::function<const DocumentoBoleto&(std::size_t)> documento;
-    std::function<bool(std::size_t)> marcada;
-    std::function<void(std::size_t)> desmarca;
-    std::function<void(std::size_t)> passou = [](std::size_t) {};  // ticked or not
+// What shows of a run on the screen that began it; rows count from 0.
+struct TelaDeBoletos {
+    std::function<void(std::size_t)> desmarca;  // sets `marcada` of the row to false
+    std::function<void()> passou = [] {};       // after each row, ticked or not
+    Progress andamento = {};                    // counts the ticked rows
 };
 
 struct PedidoDeBoletos {
@@ -35,6 +33,7 @@ struct PedidoDeBoletos {
 // number or a portfolio that can't be worked with, ArgumentoInvalido when the number
 // has no next one, Estouro past 32767 slips; what was written and printed stays.
 void imprimeBoletos(Environment& ambiente, const Sessao& sessao, const CarteiraCobranca& carteira,
-                    const PedidoDeBoletos& pedido, const GradeDeBoletos& grade);
+                    const PedidoDeBoletos& pedido, std::span<const LinhaGrade> linhas,
+                    const TelaDeBoletos& tela);
 
 }  // namespace tarn

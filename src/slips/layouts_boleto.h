@@ -2,16 +2,16 @@
 // knows of positions. The job is open and set up, and stays open.
 #pragma once
 
+#include "common/linha_grade.h"
 #include "common/raw_channel.h"
-#include "slips/documento_boleto.h"
 #include "slips/nosso_numero.h"
 
 namespace tarn {
 
-void imprimeLinhasCarteira57(RawChannel& canal, const DocumentoBoleto& documento,
+void imprimeLinhasCarteira57(RawChannel& canal, const LinhaGrade& documento,
                              const NossoNumero& numero);
 // Every other wallet.
-void imprimeLinhasSeteDigitos(RawChannel& canal, const DocumentoBoleto& documento,
+void imprimeLinhasSeteDigitos(RawChannel& canal, const LinhaGrade& documento,
                               const NossoNumero& numero);
 
 }  // namespace tarn

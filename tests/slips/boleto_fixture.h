@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "slips/carteira_cobranca.h"
-#include "slips/documento_boleto.h"
+#include "slips/pesquisa_boleto.h"
 
 namespace tarn {
 
@@ -24,43 +24,40 @@ inline const CarteiraCobranca carteira101{.ID_CRT_COB = "6",
                                           .CD_AGE_BAN_CNAB = "",
                                           .NR_CCOR_CNAB = ""};
 
-// A bill of bank 1016, every cell filled as the search would.
-inline DocumentoBoleto documento(const std::string& numero = "4567/1") {
-    DocumentoBoleto d;
-    d[ColunaBoleto::Filial] = "SP";
-    d[ColunaBoleto::Vencimento] = "10/04/2012";
-    d[ColunaBoleto::TipoDocumento] = "DUPLICATA";
-    d[ColunaBoleto::NumeroDocumento] = numero;
-    d[ColunaBoleto::Cliente] = "JOSÉ & FILHOS";
-    d[ColunaBoleto::Emissao] = "05/03/2012";
-    d[ColunaBoleto::Endereco] = "RUA DO COMÉRCIO, 100";
-    d[ColunaBoleto::Valor] = "1.234,50";
-    d[ColunaBoleto::Cep] = "01310-100";
-    d[ColunaBoleto::Municipio] = "SÃO PAULO";
-    d[ColunaBoleto::Estado] = "SP";
-    d[ColunaBoleto::CnpjCpf] = "12.345.678/0001-95";
-    d[ColunaBoleto::InscricaoEstadual] = "110.042.490.114";
-    d[ColunaBoleto::TipoPessoa] = "J";
-    d[ColunaBoleto::Tabela] = "DOCTO_COBRANCA";
-    d[ColunaBoleto::ReferenciaCobranca] = "NAO RECEBER APOS 30 DIAS";
-    d[ColunaBoleto::TaxaJuros] = "0,03";
-    d[ColunaBoleto::Multa] = "2,50";
-    d[ColunaBoleto::JurosAoDia] = "0,42";
-    d[ColunaBoleto::OutrasDespesas] = "7.50";
-    d[ColunaBoleto::Instrucao] = "NAO RECEBER APOS 30 DIAS";
-    d[ColunaBoleto::Estabelecimento] = "3381";
-    d[ColunaBoleto::IdTipoDocumento] = "201";
-    d[ColunaBoleto::Agencia] = "1123";
-    d[ColunaBoleto::Banco] = "1016";
-    d[ColunaBoleto::CodigoExterno] = "C-77";
-    d[ColunaBoleto::NotaFiscal] = "4567";
+// A row whose cells are all empty.
+inline LinhaGrade semNada() {
+    return {.celulas = std::vector<std::string>(colunasBoleto)};
+}
+
+// A bill of bank 1016.
+inline LinhaGrade documento(const std::string& numero = "4567/1") {
+    LinhaGrade d = semNada();
+    d.coluna(coluna_boleto::vencimento) = "10/04/2012";
+    d.coluna(coluna_boleto::numero) = numero;
+    d.coluna(coluna_boleto::cliente) = "JOSÉ & FILHOS";
+    d.coluna(coluna_boleto::emissao) = "05/03/2012";
+    d.coluna(coluna_boleto::endereco) = "RUA DO COMÉRCIO, 100";
+    d.coluna(coluna_boleto::valor) = "1.234,50";
+    d.coluna(coluna_boleto::cep) = "01310-100";
+    d.coluna(coluna_boleto::municipio) = "SÃO PAULO";
+    d.coluna(coluna_boleto::estado) = "SP";
+    d.coluna(coluna_boleto::cpfCnpj) = "12.345.678/0001-95";
+    d.coluna(coluna_boleto::inscricao) = "110.042.490.114";
+    d.coluna(coluna_boleto::tabela) = "DOCTO_COBRANCA";
+    d.coluna(coluna_boleto::multa) = "2,50";
+    d.coluna(coluna_boleto::jurosAoDia) = "0,42";
+    d.coluna(coluna_boleto::instrucao) = "NAO RECEBER APOS 30 DIAS";
+    d.coluna(coluna_boleto::estabelecimento) = "3381";
+    d.coluna(coluna_boleto::tipoDocumento) = "201";
+    d.coluna(coluna_boleto::banco) = "1016";
+    d.coluna(coluna_boleto::codigoExterno) = "C-77";
     return d;
 }
 
-inline DocumentoBoleto recebivel(const std::string& numero, const std::string& controle) {
-    DocumentoBoleto d = documento(numero);
-    d[ColunaBoleto::Tabela] = "DOCTO_RECEBER";
-    d[ColunaBoleto::NumeroControle] = controle;
+inline LinhaGrade recebivel(const std::string& numero, const std::string& controle) {
+    LinhaGrade d = documento(numero);
+    d.coluna(coluna_boleto::tabela) = "DOCTO_RECEBER";
+    d.coluna(coluna_boleto::numeroControle) = controle;
     return d;
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Coluna = ColunaBoleto;
+namespace coluna = coluna_boleto;
 
 const std::string preparo = " \x0F\x1BM";
 const std::string preparoDoBoleto =
@@ -29,9 +29,9 @@ std::string joined(const std::vector<std::string>& lines) {
     return all;
 }
 
-DocumentoBoleto ofBank(const std::string& number, const std::string& bank) {
-    DocumentoBoleto document = documento(number);
-    document[Coluna::Banco] = bank;
+LinhaGrade ofBank(const std::string& number, const std::string& bank) {
+    LinhaGrade document = documento(number);
+    document.coluna(coluna::banco) = bank;
     return document;
 }
 
@@ -48,18 +48,28 @@ protected:
         if (ticks.empty()) {
             ticks.assign(documents.size(), true);
         }
-        const GradeDeBoletos grid{
-            .linhas = documents.size(),
-            .documento = [this](std::size_t i) -> const DocumentoBoleto& { return documents[i]; },
-            .marcada = [this](std::size_t i) { return ticks[i]; },
-            .desmarca =
-                [this](std::size_t i) {
-                    ticks[i] = false;
-                    callsAtUntick.push_back(seams.spooler.calls.size());
-                },
-            .passou = [this](std::size_t i) { passed.push_back(i); }};
-        imprimeBoletos(seams.environment, sessao, carteira,
-                       {.proximo = first, .incluiCarteira = incluiCarteira}, grid);
+        for (std::size_t i = 0; i < documents.size(); ++i) {
+            documents[i].marcada = ticks[i];
+        }
+        ticks.clear();
+        imprimeBoletos(
+            seams.environment, sessao, carteira,
+            {.proximo = first, .incluiCarteira = incluiCarteira}, documents,
+            {.desmarca =
+                 [this](std::size_t i) {
+                     documents[i].marcada = false;
+                     callsAtUntick.push_back(seams.spooler.calls.size());
+                 },
+             .passou = [this] { ++passed; },
+             .andamento = [this](std::size_t done,
+                                 std::size_t total) { progress.emplace_back(done, total); }});
+    }
+    std::vector<bool> ticked() const {
+        std::vector<bool> all;
+        for (const LinhaGrade& document : documents) {
+            all.push_back(document.marcada);
+        }
+        return all;
     }
     int errorOfRun(const CarteiraCobranca& carteira, const std::string& first) {
         try {
@@ -86,10 +96,11 @@ protected:
 
     TestEnvironment seams;
     Sessao sessao;
-    std::vector<DocumentoBoleto> documents{documento()};
-    std::vector<bool> ticks;  // empty: all
+    std::vector<LinhaGrade> documents{documento()};
+    std::vector<bool> ticks;  // of the next run; empty: all
     bool incluiCarteira = false;
-    std::vector<std::size_t> passed;
+    std::size_t passed = 0;  // rows
+    std::vector<std::pair<std::size_t, std::size_t>> progress;
     std::vector<std::size_t> callsAtUntick;
 };
 
@@ -126,7 +137,6 @@ TEST_F(ImprimeBoletosTest, ReceivablesHaveTheirOwnCommandsAndASecondSpelling) {
                             "comando=insere_car_rec&ID_EMP_TARN=2161&ID_ETB=3381&ID_NR_CTL=CTL 9"
                             "&ID_CRT_COB=5&NR_BOL_BANC=1234&ID_PES_USU=77&ServerName=SRV1"));
     seams.loader.addresses.clear();
-    ticks.clear();
     run(carteira101, "1234567");
     EXPECT_THAT(seams.loader.queries(),
                 ElementsAre("comando=altera_docto_rec&ID_ETB=3381&ID_NR_CLT=CTL 9&ServerName=SRV1"
@@ -134,7 +144,7 @@ TEST_F(ImprimeBoletosTest, ReceivablesHaveTheirOwnCommandsAndASecondSpelling) {
 }
 
 TEST_F(ImprimeBoletosTest, ADocumentOfNoKnownTableIsAReceivableWithoutAControlNumber) {
-    documents[0][Coluna::Tabela] = "OUTRA";
+    documents[0].coluna(coluna::tabela) = "OUTRA";
     run(carteira57, "1234");
     EXPECT_THAT(seams.loader.queries(),
                 ElementsAre("comando=altera_docto_rec&ID_ETB=3381&ID_NR_CTL=&ServerName=SRV1"
@@ -183,12 +193,9 @@ TEST_F(ImprimeBoletosTest, NothingIsPrintedUntilTheWritesAreDone) {
                             .clock = seams.clock,
                             .machine = seams.machine,
                             .baseUrl = ""};
-    const GradeDeBoletos grid{
-        .linhas = 1,
-        .documento = [this](std::size_t) -> const DocumentoBoleto& { return documents[0]; },
-        .marcada = [](std::size_t) { return true; },
-        .desmarca = [](std::size_t) {}};
-    imprimeBoletos(environment, sessao, carteira57, {.proximo = "1"}, grid);
+    documents[0].marcada = true;
+    imprimeBoletos(environment, sessao, carteira57, {.proximo = "1"}, documents,
+                   {.desmarca = [](std::size_t) {}});
     EXPECT_THAT(watched.writes, ElementsAre(3U, 3U));
 }
 
@@ -197,8 +204,10 @@ TEST_F(ImprimeBoletosTest, TickedRowsGetConsecutiveNumbersInGridOrder) {
     ticks = {true, false, true, true};
     run(carteira57, "9");
     EXPECT_THAT(numbers(), ElementsAre("0000000000009/2", "0000000000010/9", "0000000000011/8"));
-    EXPECT_THAT(passed, ElementsAre(0U, 1U, 2U, 3U));
-    EXPECT_THAT(ticks, ElementsAre(false, false, false, false));
+    EXPECT_EQ(passed, 4U);
+    EXPECT_THAT(progress, ElementsAre(std::pair(0U, 3U), std::pair(1U, 3U), std::pair(2U, 3U),
+                                      std::pair(3U, 3U)));
+    EXPECT_THAT(ticked(), ElementsAre(false, false, false, false));
     ASSERT_EQ(seams.spooler.jobs.size(), 6U) << "the preparation comes before each slip";
     for (const std::size_t job : {0U, 2U, 4U}) {
         EXPECT_EQ(seams.spooler.bytes(job), preparo);
@@ -218,7 +227,7 @@ TEST_F(ImprimeBoletosTest, ARowOfAnotherBankTakesNoNumberAndLeavesItsJobOpen) {
     documents = {ofBank("1", "1016"), ofBank("2", "1050"), ofBank("3", "1095")};
     run(carteira57, "9");
     EXPECT_THAT(numbers(), ElementsAre("0000000000009/2", "0000000000010/9"));
-    EXPECT_THAT(ticks, ElementsAre(false, false, false));
+    EXPECT_THAT(ticked(), ElementsAre(false, false, false));
     EXPECT_EQ(seams.loader.queries().size(), 4U);
     const auto& jobs = seams.spooler.jobs;
     ASSERT_EQ(jobs.size(), 6U);
@@ -234,7 +243,7 @@ TEST_F(ImprimeBoletosTest, OnlyRowsOfOtherBanksAreNoSlip) {
     run(carteira57, "9");
     EXPECT_THAT(seams.loader.queries(), IsEmpty());
     EXPECT_THAT(seams.boxes.shown, ElementsAre(nenhum));
-    EXPECT_THAT(ticks, ElementsAre(false, false));
+    EXPECT_THAT(ticked(), ElementsAre(false, false));
     EXPECT_EQ(seams.spooler.jobs.size(), 4U);
 }
 
@@ -243,14 +252,14 @@ TEST_F(ImprimeBoletosTest, NothingTicked) {
     run(carteira57, "9");
     EXPECT_THAT(seams.boxes.shown, ElementsAre(nenhum));
     EXPECT_THAT(seams.spooler.calls, IsEmpty());
-    EXPECT_THAT(passed, ElementsAre(0U));
+    EXPECT_EQ(passed, 1U);
 }
 
 TEST_F(ImprimeBoletosTest, AnEmptyGrid) {
     documents.clear();
     run(carteira57, "9");
     EXPECT_THAT(seams.boxes.shown, ElementsAre(nenhum));
-    EXPECT_THAT(passed, IsEmpty());
+    EXPECT_EQ(passed, 0U);
 }
 
 TEST_F(ImprimeBoletosTest, BanksAreComparedAsNumbers) {
@@ -272,7 +281,6 @@ TEST_F(ImprimeBoletosTest, WithThePortfolioIncludedItsBankCounts) {
     CarteiraCobranca foreign = carteira57;
     foreign.ID_PES_BAN = "1050";
     documents = {ofBank("1", "1016")};
-    ticks.clear();
     run(foreign, "9");
     EXPECT_EQ(numbers().size(), 2U);
     EXPECT_THAT(seams.boxes.shown, ElementsAre(nenhum));
@@ -289,7 +297,6 @@ TEST_F(ImprimeBoletosTest, AnEmptyPortfolio) {
     run(CarteiraCobranca(), "9");
     EXPECT_THAT(numbers(), ElementsAre("0000009-4"));
     incluiCarteira = true;
-    ticks.clear();
     run(CarteiraCobranca(), "9");
     EXPECT_EQ(numbers().size(), 1U);
     EXPECT_THAT(seams.boxes.shown, ElementsAre(nenhum));
@@ -311,7 +318,7 @@ TEST_F(ImprimeBoletosTest, ThePrintersFailureChangesNothing) {
     run(carteira57, "9");
     EXPECT_THAT(numbers(), ElementsAre("0000000000010/9"));
     EXPECT_EQ(seams.loader.queries().size(), 4U) << "the number is on the server all the same";
-    EXPECT_THAT(ticks, ElementsAre(false, false));
+    EXPECT_THAT(ticked(), ElementsAre(false, false));
     EXPECT_THAT(seams.boxes.shown, IsEmpty());
 }
 
@@ -329,10 +336,10 @@ TEST_F(ImprimeBoletosTest, AWriteToThePrinterThatFailsChangesNothing) {
 TEST_F(ImprimeBoletosTest, ANumberThatIsNoneEndsTheRunAtItsBegin) {
     EXPECT_EQ(errorOfRun(carteira57, ","), 13);
     EXPECT_THAT(seams.spooler.calls, IsEmpty());
-    EXPECT_THAT(ticks, ElementsAre(true));
+    EXPECT_THAT(ticked(), ElementsAre(true));
     ticks = {false};
     EXPECT_EQ(errorOfRun(carteira101, "1,,2"), 13) << "also with nothing ticked";
-    EXPECT_THAT(passed, IsEmpty());
+    EXPECT_EQ(passed, 0U);
 }
 
 TEST_F(ImprimeBoletosTest, AShortAgencyEndsTheRunBeforeTheWrites) {
@@ -343,8 +350,8 @@ TEST_F(ImprimeBoletosTest, AShortAgencyEndsTheRunBeforeTheWrites) {
     ASSERT_EQ(seams.spooler.jobs.size(), 2U);
     EXPECT_EQ(seams.spooler.bytes(1), preparoDoBoleto);
     EXPECT_FALSE(seams.spooler.jobs[1].closed);
-    EXPECT_THAT(ticks, ElementsAre(false));
-    EXPECT_THAT(passed, IsEmpty());
+    EXPECT_THAT(ticked(), ElementsAre(false));
+    EXPECT_EQ(passed, 0U);
 }
 
 TEST_F(ImprimeBoletosTest, AnAccountThatIsNoNumberEndsTheRunBeforeTheWrites) {
@@ -354,7 +361,7 @@ TEST_F(ImprimeBoletosTest, AnAccountThatIsNoNumberEndsTheRunBeforeTheWrites) {
     EXPECT_EQ(errorOfRun(lettered, "1"), 13);
     EXPECT_THAT(seams.loader.queries(), IsEmpty());
     EXPECT_EQ(seams.spooler.jobs.size(), 4U) << "the foreign row asks for no digit";
-    EXPECT_THAT(passed, ElementsAre(0U));
+    EXPECT_EQ(passed, 1U);
 }
 
 TEST_F(ImprimeBoletosTest, AfterTheLastSevenDigitNumberTheRunEnds) {
@@ -363,8 +370,8 @@ TEST_F(ImprimeBoletosTest, AfterTheLastSevenDigitNumberTheRunEnds) {
     EXPECT_THAT(numbers(), ElementsAre("9999998-6", "9999999-4"));
     EXPECT_EQ(seams.loader.queries().size(), 2U);
     EXPECT_TRUE(seams.spooler.jobs.back().closed);
-    EXPECT_THAT(ticks, ElementsAre(false, false, true));
-    EXPECT_THAT(passed, ElementsAre(0U));
+    EXPECT_THAT(ticked(), ElementsAre(false, false, true));
+    EXPECT_EQ(passed, 1U);
 }
 
 TEST_F(ImprimeBoletosTest, ANumberOfEightDigitsIsPrintedOnce) {
@@ -394,20 +401,17 @@ TEST_F(ImprimeBoletosTest, TheSlipPast32767EndsTheRun) {
                             .clock = seams.clock,
                             .machine = seams.machine,
                             .baseUrl = ""};
-    std::size_t last = 0;
-    const GradeDeBoletos grid{
-        .linhas = 40000,
-        .documento = [this](std::size_t) -> const DocumentoBoleto& { return documents[0]; },
-        .marcada = [](std::size_t) { return true; },
-        .desmarca = [](std::size_t) {},
-        .passou = [&last](std::size_t i) { last = i; }};
+    documents[0].marcada = true;
+    const std::vector<LinhaGrade> many(40000, documents[0]);
+    std::size_t done = 0;
     try {
-        imprimeBoletos(environment, sessao, carteira57, {.proximo = "1"}, grid);
+        imprimeBoletos(environment, sessao, carteira57, {.proximo = "1"}, many,
+                       {.desmarca = [](std::size_t) {}, .passou = [&done] { ++done; }});
         FAIL() << "no error";
     } catch (const ErroExecucao& error) {
         EXPECT_EQ(error.numero(), ErroNumero::Estouro);
     }
-    EXPECT_EQ(last, 32766U);
+    EXPECT_EQ(done, 32767U);
     EXPECT_EQ(seams.loader.addresses.size(), 2U * 32768);
 }
 

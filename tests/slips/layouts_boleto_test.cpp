@@ -12,13 +12,13 @@ namespace tarn {
 namespace {
 
 using Lines = std::vector<std::string>;
-using Coluna = ColunaBoleto;
+namespace coluna = coluna_boleto;
 
 const NossoNumero numero57{.digitos = "0000000001234", .digito = 7, .NR_BOL_BANC = "1234"};
 const NossoNumero numeroSete{.digitos = "1234567", .digito = 9, .NR_BOL_BANC = "12345679"};
 
 template <typename Layout>
-Lines written(Layout layout, const DocumentoBoleto& document, const NossoNumero& number) {
+Lines written(Layout layout, const LinhaGrade& document, const NossoNumero& number) {
     RecordingSpooler spooler;
     RawChannel channel(spooler, CodePage::Page1252);
     channel.abre();
@@ -26,28 +26,28 @@ Lines written(Layout layout, const DocumentoBoleto& document, const NossoNumero&
     EXPECT_EQ(spooler.calls.back(), RecordingSpooler::Call::Write) << "the job stays open";
     return spooler.jobs.at(0).writes;
 }
-Lines wallet57(const DocumentoBoleto& document) {
+Lines wallet57(const LinhaGrade& document) {
     return written(imprimeLinhasCarteira57, document, numero57);
 }
-Lines sevenDigits(const DocumentoBoleto& document) {
+Lines sevenDigits(const LinhaGrade& document) {
     return written(imprimeLinhasSeteDigitos, document, numeroSete);
 }
 // Lines count from 1.
-std::string line57(const DocumentoBoleto& document, std::size_t line) {
+std::string line57(const LinhaGrade& document, std::size_t line) {
     return wallet57(document).at(line - 1);
 }
-std::string line7(const DocumentoBoleto& document, std::size_t line) {
+std::string line7(const LinhaGrade& document, std::size_t line) {
     return sevenDigits(document).at(line - 1);
 }
-DocumentoBoleto with(Coluna column, const std::string& text) {
-    DocumentoBoleto document = documento();
-    document[column] = text;
+LinhaGrade with(std::size_t column, const std::string& text) {
+    LinhaGrade document = documento();
+    document.coluna(column) = text;
     return document;
 }
-DocumentoBoleto charges(const std::string& fine, const std::string& interest) {
-    DocumentoBoleto document = documento();
-    document[Coluna::Multa] = fine;
-    document[Coluna::JurosAoDia] = interest;
+LinhaGrade charges(const std::string& fine, const std::string& interest) {
+    LinhaGrade document = documento();
+    document.coluna(coluna::multa) = fine;
+    document.coluna(coluna::jurosAoDia) = interest;
     return document;
 }
 
@@ -60,7 +60,7 @@ TEST(SeteDigitos, Lines) {
 }
 
 TEST(Carteira57, EmptyCells) {
-    EXPECT_EQ(wallet57(DocumentoBoleto()),
+    EXPECT_EQ(wallet57(semNada()),
               (Lines{"  \r\n", b(101) + b(16) + "\r\n\r\n\r\n", b(1) + b(14 + 3 + 30) + "\r\n",
                      b(112) + b(16) + " \r\n\r\n", "  \r\n", "  \r\n", "  \r\n", "  \r\n",
                      " COBRAR MULTA DE 0,00% + JUROS DE  AO DIA\r\n",
@@ -70,7 +70,7 @@ TEST(Carteira57, EmptyCells) {
 }
 
 TEST(SeteDigitos, EmptyCells) {
-    EXPECT_EQ(sevenDigits(DocumentoBoleto()),
+    EXPECT_EQ(sevenDigits(semNada()),
               (Lines{" \r\n", " ATE O VENCIMENTO, PREFERENCIALMENTE NO SANTANDER\r\n",
                      " APOS O VENCIMENTO, SOMENTE NO SANTANDER" + b(45 + 16) + "\r\n\r\n\r\n",
                      b(1) + b(14 + 1 + 30) + "\r\n", b(91) + b(16) + " \r\n\r\n", "  \r\n",
@@ -82,29 +82,29 @@ TEST(SeteDigitos, EmptyCells) {
 }
 
 TEST(Boleto, DatesAreSetInFullOrStayAsTheyAre) {
-    EXPECT_EQ(line57(with(Coluna::Vencimento, "2012-04-10T00:00:00"), 2),
+    EXPECT_EQ(line57(with(coluna::vencimento, "2012-04-10T00:00:00"), 2),
               b(101) + "10/04/2012" + b(6) + "\r\n\r\n\r\n");
-    EXPECT_EQ(line57(with(Coluna::Vencimento, "CONTRA APRESENTACAO"), 2),
+    EXPECT_EQ(line57(with(coluna::vencimento, "CONTRA APRESENTACAO"), 2),
               b(101) + "CONTRA APRESENTA\r\n\r\n\r\n");
-    EXPECT_EQ(line57(with(Coluna::Emissao, "5/3/12"), 3).substr(0, 18), " 05/03/2012" + b(7));
-    EXPECT_EQ(line7(with(Coluna::Emissao, "31/02/2012"), 4).substr(0, 16), " 31/02/2012" + b(5));
-    EXPECT_EQ(line7(with(Coluna::Vencimento, "A VISTA"), 3).substr(85),
+    EXPECT_EQ(line57(with(coluna::emissao, "5/3/12"), 3).substr(0, 18), " 05/03/2012" + b(7));
+    EXPECT_EQ(line7(with(coluna::emissao, "31/02/2012"), 4).substr(0, 16), " 31/02/2012" + b(5));
+    EXPECT_EQ(line7(with(coluna::vencimento, "A VISTA"), 3).substr(85),
               "A VISTA  " + b(7) + "\r\n\r\n\r\n");
 }
 
 TEST(Boleto, AnAmountTooWideLosesItsEnd) {
-    EXPECT_EQ(line57(with(Coluna::Valor, "123.456.789.012.345,67"), 4),
+    EXPECT_EQ(line57(with(coluna::valor, "123.456.789.012.345,67"), 4),
               b(112) + "123.456.789.012. \r\n\r\n");
-    EXPECT_EQ(line7(with(Coluna::Valor, "123.456.789.012.345,67"), 5),
+    EXPECT_EQ(line7(with(coluna::valor, "123.456.789.012.345,67"), 5),
               b(91) + "123.456.789.012. \r\n\r\n");
-    EXPECT_EQ(line57(with(Coluna::Valor, "5"), 4), b(112) + b(12) + "5,00 \r\n\r\n");
+    EXPECT_EQ(line57(with(coluna::valor, "5"), 4), b(112) + b(12) + "5,00 \r\n\r\n");
 }
 
 TEST(Boleto, LongFieldsAreCut) {
-    DocumentoBoleto document = documento();
-    for (const Coluna column : {Coluna::NumeroDocumento, Coluna::Cliente, Coluna::Endereco,
-                                Coluna::CnpjCpf, Coluna::InscricaoEstadual, Coluna::Municipio}) {
-        document[column] = std::string(80, 'x');
+    LinhaGrade document = documento();
+    for (const std::size_t column : {coluna::numero, coluna::cliente, coluna::endereco,
+                                     coluna::cpfCnpj, coluna::inscricao, coluna::municipio}) {
+        document.coluna(column) = std::string(80, 'x');
     }
     const auto x = [](std::size_t count) { return std::string(count, 'x'); };
     EXPECT_EQ(line57(document, 3), " 05/03/2012" + b(7) + x(30) + "\r\n");
@@ -123,28 +123,28 @@ TEST(Boleto, AccentedLettersCountOnce) {
     for (int i = 0; i < 60; ++i) {
         name += "Ã";
     }
-    EXPECT_EQ(line57(with(Coluna::Cliente, name), 11).substr(4, 55), std::string(54, '\xC3') + " ");
-    EXPECT_EQ(line57(with(Coluna::Instrucao, name + name), 5),
+    EXPECT_EQ(line57(with(coluna::cliente, name), 11).substr(4, 55), std::string(54, '\xC3') + " ");
+    EXPECT_EQ(line57(with(coluna::instrucao, name + name), 5),
               " " + std::string(79, '\xC3') + "\r\n");
-    EXPECT_EQ(line57(with(Coluna::Instrucao, name + name), 6),
+    EXPECT_EQ(line57(with(coluna::instrucao, name + name), 6),
               " " + std::string(41, '\xC3') + "\r\n");
 }
 
 TEST(Boleto, AValueCannotMoveALineOrCommandThePrinter) {
-    DocumentoBoleto document = documento();
-    document[Coluna::Instrucao] =
+    LinhaGrade document = documento();
+    document.coluna(coluna::instrucao) =
         "A\r\nB\x1B"
         "C";
-    document[Coluna::CodigoExterno] = "X\x0F\tY";
-    document[Coluna::JurosAoDia] = "1\n2";
-    document[Coluna::Multa] = "2,00";
-    document[Coluna::Municipio] = "S\x12P";
-    document[Coluna::Vencimento] = "10\n04";
+    document.coluna(coluna::codigoExterno) = "X\x0F\tY";
+    document.coluna(coluna::jurosAoDia) = "1\n2";
+    document.coluna(coluna::multa) = "2,00";
+    document.coluna(coluna::municipio) = "S\x12P";
+    document.coluna(coluna::vencimento) = "10\n04";
     EXPECT_EQ(line7(document, 3).substr(85), "10 04" + b(11) + "\r\n\r\n\r\n");
     EXPECT_EQ(line7(document, 6), " A  B C\r\n");
     EXPECT_EQ(line7(document, 11), " 1 2 AO DIA\r\n\r\n");
     EXPECT_EQ(line7(document, 14).substr(0, 12), b(4) + "S P - SP");
-    document[Coluna::JurosAoDia] = "";
+    document.coluna(coluna::jurosAoDia) = "";
     EXPECT_EQ(line57(document, 10),
               " NOSSO NUMERO: 0000000001234/7   CODIGO CLIENTE: X  Y\r\n\r\n");
 }
@@ -159,11 +159,11 @@ std::string text(std::size_t length) {
 }
 
 Lines pieces57(std::size_t length) {
-    const Lines lines = wallet57(with(Coluna::Instrucao, text(length)));
+    const Lines lines = wallet57(with(coluna::instrucao, text(length)));
     return {lines.begin() + 4, lines.begin() + 8};
 }
 Lines pieces7(std::size_t length) {
-    const Lines lines = sevenDigits(with(Coluna::Instrucao, text(length)));
+    const Lines lines = sevenDigits(with(coluna::instrucao, text(length)));
     return {lines.begin() + 5, lines.begin() + 9};
 }
 std::string piece(char letter, std::size_t length) {
@@ -182,7 +182,7 @@ TEST(Carteira57, TheInstructionIsCutInThree) {
     EXPECT_EQ(pieces57(237), full);
     EXPECT_EQ(pieces57(238), full);
     EXPECT_EQ(pieces57(400), full);
-    EXPECT_EQ(wallet57(with(Coluna::Instrucao, text(400))).size(), 14U);
+    EXPECT_EQ(wallet57(with(coluna::instrucao, text(400))).size(), 14U);
 }
 
 TEST(SeteDigitos, TheInstructionIsCutInFour) {
@@ -196,13 +196,13 @@ TEST(SeteDigitos, TheInstructionIsCutInFour) {
     const Lines full{piece('A', 79), piece('B', 79), piece('C', 79), piece('D', 79)};
     EXPECT_EQ(pieces7(316), full);
     EXPECT_EQ(pieces7(317), full);
-    EXPECT_EQ(sevenDigits(with(Coluna::Instrucao, text(400))).size(), 15U);
+    EXPECT_EQ(sevenDigits(with(coluna::instrucao, text(400))).size(), 15U);
 }
 
 TEST(Boleto, ReceivablesTakeTheSameInstruction) {
-    DocumentoBoleto document = recebivel("9", "C1");
-    document[Coluna::ReferenciaCobranca] = "NAO ESTA";
-    document[Coluna::Instrucao] = "ESTA";
+    LinhaGrade document = recebivel("9", "C1");
+    document.coluna(18) = "NAO ESTA";
+    document.coluna(coluna::instrucao) = "ESTA";
     EXPECT_EQ(line57(document, 5), " ESTA\r\n");
     EXPECT_EQ(line7(document, 6), " ESTA\r\n");
 }
