@@ -24,14 +24,14 @@ constexpr char tag[] = "Tag";
 // The columns without a width are for the printing alone.
 constexpr std::array<ColunaGrade, colunasBoleto> colunas{
     {{"", 0, TipoColuna::Caixa},
-     {"Filial", 10},
+     {"Filial", 8},
      {"Vencimento", 13},
-     {"Tipo Documento", 20},
-     {"Nº Documento", 16},
-     {"Cliente", 34},
-     {"Dt.de Emissão", 15},
-     {"Endereço", 34},
-     {"Vlr.do Documento", 18, TipoColuna::Numero},
+     {"Tipo Documento", 18},
+     {"Nº Documento", 17},
+     {"Cliente", 32},
+     {"Dt.de Emissão", 16},
+     {"Endereço", 28},
+     {"Vlr.do Documento", 20, TipoColuna::Numero},
      {"CEP", 0},
      {"Município", 0},
      {"Estado", 0},
@@ -94,6 +94,7 @@ void frmPesqBoleto::preparaCampos() {
 void frmPesqBoleto::preparaBotoes() {
     const auto prepara = [this](QPushButton* botao, const char* desenho, auto rotina) {
         poeFigura(*botao, desenho);
+        botao->setAutoDefault(false);
         connect(botao, &QPushButton::pressed, botao, [botao] { botao->setFocus(); });
         connect(botao, &QPushButton::clicked, this, rotina);
     };

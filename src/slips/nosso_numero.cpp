@@ -68,6 +68,9 @@ std::string seteDigitos(double numero) {
 
 NumeroCorrente::NumeroCorrente(const CarteiraCobranca& carteira, std::string_view digitado)
     : carteira_(carteira) {
+    if (!isNumeric(digitado)) {
+        throw ErroExecucao(ErroNumero::TipoIncompativel, "número do próximo boleto");
+    }
     const double numero = readComma(digitado);
     texto_ = carteira.carteira57() ? numberText(numero) : seteDigitos(numero);
 }

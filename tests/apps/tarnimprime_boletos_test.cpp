@@ -125,6 +125,14 @@ TEST_F(TarnimprimeBoletos, RowsThatAreNoneAreWrongUsage) {
     EXPECT_TRUE(hasJob("job-004.prn"));
 }
 
+TEST_F(TarnimprimeBoletos, SeveralFilesGoOnWithTheNumbers) {
+    EXPECT_EQ(print("carteira_101.xml", "8", {"--marca", "1", slipData("documentos.xml")}).status,
+              0);
+    EXPECT_NE(job("job-002.prn").find("N.N.  0000008-5"), std::string::npos);
+    EXPECT_EQ(job("job-004.prn"), contentOf(slipData("boleto_7_jose.prn")));
+    EXPECT_FALSE(hasJob("job-005.prn"));
+}
+
 TEST_F(TarnimprimeBoletos, RequestsThatCannotBeKeptAreToldBeforePaperIsSpent) {
     fs::create_directories(room_ / "papel" / "requests.txt");
     const Result result = print("carteira_57.xml", "1");
