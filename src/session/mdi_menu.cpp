@@ -19,6 +19,7 @@
 #include "session/frm_logon.h"
 #include "session/tela_futura.h"
 #include "session/telas_de_cobranca.h"
+#include "slips/frm_pesq_boleto.h"
 #include "ui_mdi_menu.h"
 
 namespace tarn {
@@ -76,7 +77,7 @@ void MDIMenu::ligaMenu() {
     connect(ui_->mCNF, &QAction::triggered, this,
             [this] { nota("EMI003", TrabalhoNota::Cancelamento); });
     connect(ui_->mnuDuplicata, &QAction::triggered, this, &MDIMenu::mnuDuplicata_Click);
-    futura(ui_->mnuBoleto, nullptr, "Boleto Bancário");
+    connect(ui_->mnuBoleto, &QAction::triggered, this, &MDIMenu::mnuBoleto_Click);
     futura(ui_->mnuChequeImpressao, "EMI005", "Impressão de Cheque");
     connect(ui_->mnuAjuda, &QAction::triggered, this, &MDIMenu::mnuAjuda_Click);
     connect(ui_->mSair, &QAction::triggered, this, [this] { desk_.fim.encerra(); });
@@ -159,6 +160,10 @@ void MDIMenu::abreNaArea(Tela* tela) {
 
 void MDIMenu::mnuDuplicata_Click() {
     abreModal(cobranca_->duplicatas());
+}
+
+void MDIMenu::mnuBoleto_Click() {
+    abreModal(cobranca_->boletos());
 }
 
 void MDIMenu::mnuAjuda_Click() {

@@ -56,6 +56,7 @@ private:
     void mOFT_Click();
     void nota(const char* transacao, TrabalhoNota trabalho);
     void mnuDuplicata_Click();
+    void mnuBoleto_Click();
     void mnuAjuda_Click();
 
     DeskContext& desk_;

@@ -196,12 +196,11 @@ TEST_F(MDIMenuTest, TheEntriesAskForTheirRightAndSayThatTheScreenComesLater) {
 TEST_F(MDIMenuTest, EntriesWithoutARightAskNothing) {
     logOn();
     const std::size_t sent = server.addresses.size();
-    choose(menu, "mnuBoleto");
     choose(menu, "mnuEtiquetas", "mnuImprClientes");
     EXPECT_EQ(sessao.TipoEtiqueta, "C");
     choose(menu, "mnuEtiquetas", "mnuImprFornecedores");
     EXPECT_EQ(sessao.TipoEtiqueta, "F");
-    EXPECT_EQ(boxes.shown.size(), 3U);
+    EXPECT_EQ(boxes.shown.size(), 2U);
     EXPECT_EQ(server.addresses.size(), sent) << "a box is no modal screen: no activation";
 }
 
