@@ -19,7 +19,7 @@
 namespace tarn {
 namespace {
 
-constexpr std::array<ColunaGrade, 7> colunas{{{" ", 0, TipoColuna::Caixa},
+constexpr std::array<ColunaGrade, 7> colunas{{{" ", 0, TipoColuna::Caixa, false},
                                               {"Cep", 11},
                                               {"Cliente", 34},
                                               {"Endereço", 36},
