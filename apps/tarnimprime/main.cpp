@@ -78,6 +78,8 @@ void declara(CLI::App& app, Geral& geral, Escolha& escolha) {
     declaraEscada(app, escolha);
     declaraOrdem(app, escolha);
     declaraBoletos(app, escolha);
+    declaraEtiquetas(app, escolha);
+    declaraEtiquetasSelecao(app, escolha);
     declaraRegras(app, escolha);
     app.require_subcommand(1);
     for (CLI::App* comando : app.get_subcommands({})) {

@@ -10,6 +10,8 @@
 #include "billing/frm_oft.h"
 #include "bills/frm_pesq_dupli.h"
 #include "common/frm_ajuda.h"
+#include "labels/frm_impr_etiq.h"
+#include "labels/frm_pesq_etiquetas.h"
 #include "platform/machine.h"
 #include "platform/qt/wait_cursor.h"
 #include "reprint/frm_reimprime_nf.h"
@@ -129,7 +131,15 @@ void MDIMenu::abreModal(QDialog& tela) {
 
 void MDIMenu::etiquetas(const char* tipo) {
     desk_.sessao.TipoEtiqueta = tipo;
-    avisaTelaFutura(desk_.ambiente, "Etiquetas");
+    frmPesqEtiquetas fila(desk_, valoresEtiquetas_, this);
+    fila.carrega();
+    abreModal(fila);
+}
+
+void MDIMenu::abreSelecaoEtiquetas() {
+    FrmImprEtiq selecao(desk_, this);
+    selecao.carrega();
+    selecao.exec();
 }
 
 void MDIMenu::mOFT_Click() {

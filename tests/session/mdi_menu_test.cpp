@@ -193,15 +193,22 @@ TEST_F(MDIMenuTest, TheEntriesAskForTheirRightAndSayThatTheScreenComesLater) {
     EXPECT_EQ(boxes.shown.size(), 1U);
 }
 
-TEST_F(MDIMenuTest, EntriesWithoutARightAskNothing) {
+TEST_F(MDIMenuTest, TheLabelsOpenWithoutARightForClientsOrForSuppliers) {
     logOn();
-    const std::size_t sent = server.addresses.size();
-    choose(menu, "mnuEtiquetas", "mnuImprClientes");
-    EXPECT_EQ(sessao.TipoEtiqueta, "C");
-    choose(menu, "mnuEtiquetas", "mnuImprFornecedores");
-    EXPECT_EQ(sessao.TipoEtiqueta, "F");
-    EXPECT_EQ(boxes.shown.size(), 2U);
-    EXPECT_EQ(server.addresses.size(), sent) << "a box is no modal screen: no activation";
+    for (const char* list : {"sel_filiais_remetente", "sel_motivos", "sel_etiquetas"}) {
+        server.on(list, answers::rowset(""));
+    }
+    for (const auto& [entry, kind] :
+         {std::pair{"mnuImprClientes", "C"}, std::pair{"mnuImprFornecedores", "F"}}) {
+        modals.then("frmPesqEtiquetas", [this, kind = kind](QWidget& queue) {
+            EXPECT_EQ(sessao.TipoEtiqueta, kind);
+            click(queue, "cmdVoltar");
+        });
+        const std::size_t sent = server.addresses.size();
+        choose(menu, "mnuEtiquetas", entry);
+        EXPECT_EQ(server.addresses.size(), sent + 4) << "three of the screen, one of the desk";
+    }
+    EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(MDIMenuTest, TheCollectorsEntriesDoNothing) {
