@@ -1,9 +1,15 @@
 // The job of a clerk in the real screens, without anybody at the keys. Leaves a picture
 // of every step and the printed jobs in a folder.
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
 #include <cstdio>
 
+#include "gestos.h"
 #include "mesa.h"
+#include "roteiro_cheque.h"
+#include "roteiro_cobranca.h"
+#include "roteiro_etiquetas.h"
 #include "roteiro_nota.h"
 
 namespace tarn {
@@ -13,16 +19,48 @@ namespace {
 constexpr int larguraDaMesa = 1280;
 constexpr int alturaDaMesa = 820;
 
-int anda(DeskApplication& programa, const Entrada& entrada) {
-    Opcoes opcoes;
-    opcoes.baseUrl = enderecoDoServidor(entrada.servidor);
-    opcoes.impressoraVirtual = entrada.pasta;
-    Mesa mesa(programa, opcoes, impressorasDe(opcoes));
-    Roteiro roteiro(QString::fromStdString(entrada.pasta));
-    escreveLogon(roteiro, entrada);
+void escreveDia(Roteiro& roteiro, const Entrada& entrada) {
     escreveEmissao(roteiro);
     escreveReimpressao(roteiro, entrada);
     escreveCancelamento(roteiro, entrada);
+    escreveDuplicatas(roteiro);
+    escreveBoletos(roteiro);
+    escreveCheque(roteiro);
+    escreveEtiquetas(roteiro);
+}
+
+// Whose user may not issue.
+void escreveRecusa(Roteiro& roteiro, const Entrada&) {
+    roteiro
+        .quando("MDIMenu", "",
+                [](QWidget& janela) {
+                    abreMenu(janela, "mnuNF");
+                    escolhe(janela, "mnuNF", "mOFT");
+                })
+        .quando("MessageBox", "direito-recusado", aceita);
+}
+
+void escreveSelecao(Roteiro& roteiro, const Entrada&) {
+    escreveSelecaoEtiquetas(roteiro);
+}
+
+struct Andanca {
+    const char* nome;
+    void (*escreve)(Roteiro& roteiro, const Entrada& entrada);
+};
+constexpr std::array andancas{Andanca{"dia", escreveDia}, Andanca{"recusa", escreveRecusa},
+                              Andanca{"selecao", escreveSelecao}};
+
+int anda(DeskApplication& programa, const Entrada& entrada, const std::string& nome) {
+    const auto andanca = std::ranges::find(andancas, nome, &Andanca::nome);
+    Opcoes opcoes;
+    opcoes.baseUrl = enderecoDoServidor(entrada.servidor);
+    opcoes.impressoraVirtual = entrada.pasta;
+    opcoes.selecaoEtiquetas = nome == "selecao";
+    Mesa mesa(programa, opcoes, impressorasDe(opcoes));
+    Roteiro roteiro(QString::fromStdString(entrada.pasta));
+    escreveLogon(roteiro, entrada);
+    andanca->escreve(roteiro, entrada);
     roteiro.quando("MDIMenu", "fim", [](QWidget& janela) { janela.close(); });
     QObject::connect(&roteiro, &Roteiro::acabou, [](const QString& motivo) {
         if (!motivo.isEmpty()) {
@@ -61,7 +99,11 @@ int main(int argc, char** argv) {
     app.add_option("--empresa", entrada.empresa, "empresa do logon de treino");
     app.add_option("--usuario", entrada.usuario, "usuário do logon de treino");
     app.add_option("--senha", entrada.senha, "senha do logon de treino");
+    std::string nome = "dia";
+    app.add_option("--roteiro", nome,
+                   "dia (usual), recusa (de quem não pode emitir) ou selecao (de etiquetas)")
+        ->check(CLI::IsMember({"dia", "recusa", "selecao"}));
     CLI11_PARSE(app, argc, argv);
     tarn::DeskApplication programa(argc, argv);
-    return tarn::anda(programa, entrada);
+    return tarn::anda(programa, entrada, nome);
 }
