@@ -77,6 +77,7 @@ void declara(CLI::App& app, Geral& geral, Escolha& escolha) {
     declaraNota(app, escolha);
     declaraEscada(app, escolha);
     declaraOrdem(app, escolha);
+    declaraCheque(app, escolha);
     declaraRegras(app, escolha);
     app.require_subcommand(1);
     for (CLI::App* comando : app.get_subcommands({})) {

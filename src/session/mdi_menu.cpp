@@ -8,6 +8,7 @@
 #include <QShowEvent>
 
 #include "billing/frm_oft.h"
+#include "cheques/frm_cheque.h"
 #include "common/frm_ajuda.h"
 #include "platform/machine.h"
 #include "platform/qt/wait_cursor.h"
@@ -72,7 +73,7 @@ void MDIMenu::ligaMenu() {
             [this] { nota("EMI003", TrabalhoNota::Cancelamento); });
     futura(ui_->mnuDuplicata, nullptr, "Duplicata/Recibo");
     futura(ui_->mnuBoleto, nullptr, "Boleto Bancário");
-    futura(ui_->mnuChequeImpressao, "EMI005", "Impressão de Cheque");
+    connect(ui_->mnuChequeImpressao, &QAction::triggered, this, &MDIMenu::mnuChequeImpressao_Click);
     connect(ui_->mnuAjuda, &QAction::triggered, this, &MDIMenu::mnuAjuda_Click);
     connect(ui_->mSair, &QAction::triggered, this, [this] { desk_.fim.encerra(); });
 }
@@ -150,6 +151,14 @@ void MDIMenu::abreNaArea(Tela* tela) {
     janela->resize(janela->sizeHint().boundedTo(ui_->mdiArea->size()));
     janela->show();
     tela->carrega();
+}
+
+void MDIMenu::mnuChequeImpressao_Click() {
+    if (temDireito("EMI005")) {
+        frmCheque cheque(desk_, this);
+        cheque.carrega();
+        abreModal(cheque);
+    }
 }
 
 void MDIMenu::mnuAjuda_Click() {

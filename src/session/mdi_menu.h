@@ -54,6 +54,7 @@ private:
     void etiquetas(const char* tipo);
     void mOFT_Click();
     void nota(const char* transacao, TrabalhoNota trabalho);
+    void mnuChequeImpressao_Click();
     void mnuAjuda_Click();
 
     DeskContext& desk_;

@@ -172,27 +172,6 @@ TEST_F(MDIMenuTest, ClosingTheWindowEndsTheProgram) {
     EXPECT_EQ(fim.status(), 0);
 }
 
-TEST_F(MDIMenuTest, TheEntriesAskForTheirRightAndSayThatTheScreenComesLater) {
-    logOn();
-    const struct {
-        const char* menuName;
-        const char* entry;
-        const char* right;
-    } asked[] = {{"mnuCheque", "mnuChequeImpressao", "EMI005"}};
-    for (const auto& one : asked) {
-        rights(one.right, "OK");
-        choose(menu, one.menuName, one.entry);
-        EXPECT_EQ(server.queries().back(),
-                  std::string("Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName=SRV1&"
-                              "sTransacao=") +
-                      one.right);
-        ASSERT_FALSE(boxes.shown.empty()) << one.entry;
-        EXPECT_EQ(boxes.shown.back().icon, BoxIcon::Information);
-        EXPECT_EQ(boxes.shown.back().title, "TarnEmissao");
-    }
-    EXPECT_EQ(boxes.shown.size(), 1U);
-}
-
 TEST_F(MDIMenuTest, EntriesWithoutARightAskNothing) {
     logOn();
     const std::size_t sent = server.addresses.size();
