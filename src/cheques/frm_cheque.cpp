@@ -21,9 +21,9 @@ constexpr int maximoValor = 20;
 constexpr int maximoFavorecido = 50;
 constexpr int maximoObservacao = 250;
 // Widths and heights in characters and lines.
-constexpr int larguraTela = 52;
-constexpr int larguraCurta = 20;
-constexpr int linhasObservacao = 4;
+constexpr int larguraTela = 76;
+constexpr int larguraCurta = 26;
+constexpr int linhasObservacao = 5;
 constexpr int esperaDoClique = 20;  // milliseconds between two looks at the mouse
 
 bool ehEnter(const QKeyEvent& tecla) {
