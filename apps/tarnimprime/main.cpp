@@ -81,6 +81,7 @@ void declara(CLI::App& app, Geral& geral, Escolha& escolha) {
     declaraBoletos(app, escolha);
     declaraEtiquetas(app, escolha);
     declaraEtiquetasSelecao(app, escolha);
+    declaraCheque(app, escolha);
     declaraRegras(app, escolha);
     app.require_subcommand(1);
     for (CLI::App* comando : app.get_subcommands({})) {

@@ -9,6 +9,7 @@
 
 #include "billing/frm_oft.h"
 #include "bills/frm_pesq_dupli.h"
+#include "cheques/frm_cheque.h"
 #include "common/frm_ajuda.h"
 #include "labels/frm_impr_etiq.h"
 #include "labels/frm_pesq_etiquetas.h"
@@ -19,7 +20,6 @@
 #include "session/aviso_impressora.h"
 #include "session/entrada.h"
 #include "session/frm_logon.h"
-#include "session/tela_futura.h"
 #include "session/telas_de_cobranca.h"
 #include "slips/frm_pesq_boleto.h"
 #include "ui_mdi_menu.h"
@@ -64,13 +64,6 @@ MDIMenu::~MDIMenu() {
 }
 
 void MDIMenu::ligaMenu() {
-    const auto futura = [this](QAction* entrada, const char* transacao, const char* tela) {
-        connect(entrada, &QAction::triggered, this, [this, transacao, tela] {
-            if (transacao == nullptr || temDireito(transacao)) {
-                avisaTelaFutura(desk_.ambiente, tela);
-            }
-        });
-    };
     connect(ui_->mnuImprClientes, &QAction::triggered, this, [this] { etiquetas("C"); });
     connect(ui_->mnuImprFornecedores, &QAction::triggered, this, [this] { etiquetas("F"); });
     connect(ui_->mOFT, &QAction::triggered, this, &MDIMenu::mOFT_Click);
@@ -80,7 +73,7 @@ void MDIMenu::ligaMenu() {
             [this] { nota("EMI003", TrabalhoNota::Cancelamento); });
     connect(ui_->mnuDuplicata, &QAction::triggered, this, &MDIMenu::mnuDuplicata_Click);
     connect(ui_->mnuBoleto, &QAction::triggered, this, &MDIMenu::mnuBoleto_Click);
-    futura(ui_->mnuChequeImpressao, "EMI005", "Impressão de Cheque");
+    connect(ui_->mnuChequeImpressao, &QAction::triggered, this, &MDIMenu::mnuChequeImpressao_Click);
     connect(ui_->mnuAjuda, &QAction::triggered, this, &MDIMenu::mnuAjuda_Click);
     connect(ui_->mSair, &QAction::triggered, this, [this] { desk_.fim.encerra(); });
 }
@@ -174,6 +167,14 @@ void MDIMenu::mnuDuplicata_Click() {
 
 void MDIMenu::mnuBoleto_Click() {
     abreModal(cobranca_->boletos());
+}
+
+void MDIMenu::mnuChequeImpressao_Click() {
+    if (temDireito("EMI005")) {
+        frmCheque cheque(desk_, this);
+        cheque.carrega();
+        abreModal(cheque);
+    }
 }
 
 void MDIMenu::mnuAjuda_Click() {

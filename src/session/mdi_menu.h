@@ -62,6 +62,7 @@ private:
     void nota(const char* transacao, TrabalhoNota trabalho);
     void mnuDuplicata_Click();
     void mnuBoleto_Click();
+    void mnuChequeImpressao_Click();
     void mnuAjuda_Click();
 
     DeskContext& desk_;

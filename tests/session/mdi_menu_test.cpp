@@ -172,25 +172,18 @@ TEST_F(MDIMenuTest, ClosingTheWindowEndsTheProgram) {
     EXPECT_EQ(fim.status(), 0);
 }
 
-TEST_F(MDIMenuTest, TheEntriesAskForTheirRightAndSayThatTheScreenComesLater) {
+TEST_F(MDIMenuTest, TheChequeAsksForItsRightAndThenForItsAccounts) {
     logOn();
-    const struct {
-        const char* menuName;
-        const char* entry;
-        const char* right;
-    } asked[] = {{"mnuCheque", "mnuChequeImpressao", "EMI005"}};
-    for (const auto& one : asked) {
-        rights(one.right, "OK");
-        choose(menu, one.menuName, one.entry);
-        EXPECT_EQ(server.queries().back(),
-                  std::string("Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName=SRV1&"
-                              "sTransacao=") +
-                      one.right);
-        ASSERT_FALSE(boxes.shown.empty()) << one.entry;
-        EXPECT_EQ(boxes.shown.back().icon, BoxIcon::Information);
-        EXPECT_EQ(boxes.shown.back().title, "TarnEmissao");
-    }
-    EXPECT_EQ(boxes.shown.size(), 1U);
+    rights("EMI005", "OK");
+    server.on("sel_banco_agencia_conta", answers::rowset(""));
+    modals.then("frmCheque", [](QWidget& cheque) { click(cheque, "cmdCancelar"); });
+    server.addresses.clear();
+    choose(menu, "mnuCheque", "mnuChequeImpressao");
+    ASSERT_EQ(server.addresses.size(), 3U) << "right, accounts, and the desk's own activation";
+    EXPECT_EQ(server.queries()[0],
+              "Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName=SRV1&sTransacao=EMI005");
+    EXPECT_THAT(server.queries()[1], testing::StartsWith("comando=sel_banco_agencia_conta&"));
+    EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(MDIMenuTest, TheLabelsOpenWithoutARightForClientsOrForSuppliers) {
