@@ -9,6 +9,7 @@
 #include <QPrinter>
 #include <array>
 #include <map>
+#include <tuple>
 
 namespace tarn {
 namespace {
@@ -119,10 +120,9 @@ private:
     }
 
     void draw(const DrawnText& text) {
-        const QFont font = fontOf(text);
-        const double ascent = QFontMetricsF(font, &printer_).ascent();
-        painter_.setFont(font);
-        painter_.drawText(at(text.x, text.y) + QPointF(0, ascent),
+        const Type& type = typeOf(text);
+        painter_.setFont(type.font);
+        painter_.drawText(at(text.x, text.y) + QPointF(0, type.ascent),
                           QString::fromStdString(text.text));
     }
     void draw(const DrawnLine& line) {
@@ -140,6 +140,20 @@ private:
     template <typename Setting>
     void draw(const Setting&) {}
 
+    struct Type {
+        QFont font;
+        double ascent = 0;  // dots
+    };
+    // Finding a face costs more than drawing with it.
+    const Type& typeOf(const DrawnText& text) {
+        const auto [place, isNew] = types_.try_emplace({text.font, text.size, text.bold});
+        if (isNew) {
+            const QFont font = fontOf(text);
+            place->second = {font, QFontMetricsF(font, &printer_).ascent()};
+        }
+        return place->second;
+    }
+
     // Pages that share a picture's bytes share the picture on paper, too.
     const QImage& imageOf(const std::string& bytes) {
         const auto [place, isNew] = images_.try_emplace(&bytes);
@@ -154,6 +168,7 @@ private:
     std::size_t pages_;
     std::size_t done_ = 0;
     const Progress& progress_;
+    std::map<std::tuple<std::string, double, bool>, Type> types_;
     std::map<const std::string*, QImage> images_;
     double dotsPerInch_;
     double dotsPerCentimetre_;
