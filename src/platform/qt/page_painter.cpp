@@ -8,6 +8,7 @@
 #include <QPen>
 #include <QPrinter>
 #include <array>
+#include <map>
 
 namespace tarn {
 namespace {
@@ -65,10 +66,27 @@ QSizeF naturalSize(const QImage& image) {  // inches
             image.height() / pictureResolution(image.dotsPerMeterY())};
 }
 
+// A page begins with the first thing drawn on it.
+std::size_t pagesOf(std::span<const PrintOperation> document) {
+    std::size_t pages = 0;
+    bool begun = false;
+    for (const PrintOperation& operation : document) {
+        if (std::holds_alternative<PageBreak>(operation)) {
+            begun = false;
+        } else if (!begun && draws(operation)) {
+            begun = true;
+            ++pages;
+        }
+    }
+    return pages;
+}
+
 class PagePainter {
 public:
-    explicit PagePainter(QPrinter& printer)
+    PagePainter(QPrinter& printer, std::size_t pages, const Progress& progress)
         : printer_(printer),
+          pages_(pages),
+          progress_(progress),
           dotsPerInch_(printer.resolution()),
           dotsPerCentimetre_(dotsPerInch_ / centimetresPerInch),
           begun_(painter_.begin(&printer)) {}
@@ -91,6 +109,9 @@ private:
     }
 
     bool beginPage() {
+        if (breakAsked_ && progress_) {
+            progress_(++done_, pages_);
+        }
         const bool turned = !breakAsked_ || printer_.newPage();
         breakAsked_ = false;
         pageBegun_ = true;
@@ -110,8 +131,7 @@ private:
         painter_.drawLine(at(line.x1, line.y1), at(line.x2, line.y2));
     }
     void draw(const DrawnPicture& drawn) {
-        const QImage image = QImage::fromData(QByteArray::fromRawData(
-            drawn.picture.bytes.data(), static_cast<qsizetype>(drawn.picture.bytes.size())));
+        const QImage& image = imageOf(*drawn.picture.bytes);
         if (!image.isNull()) {
             painter_.drawImage(QRectF(at(drawn.x, drawn.y), naturalSize(image) * dotsPerInch_),
                                image);
@@ -120,7 +140,21 @@ private:
     template <typename Setting>
     void draw(const Setting&) {}
 
+    // Pages that share a picture's bytes share the picture on paper, too.
+    const QImage& imageOf(const std::string& bytes) {
+        const auto [place, isNew] = images_.try_emplace(&bytes);
+        if (isNew) {
+            place->second = QImage::fromData(
+                QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
+        }
+        return place->second;
+    }
+
     QPrinter& printer_;
+    std::size_t pages_;
+    std::size_t done_ = 0;
+    const Progress& progress_;
+    std::map<const std::string*, QImage> images_;
     double dotsPerInch_;
     double dotsPerCentimetre_;
     QPainter painter_;
@@ -131,8 +165,9 @@ private:
 
 }  // namespace
 
-bool paintDocument(QPrinter& printer, std::span<const PrintOperation> document) {
-    PagePainter page(printer);
+bool paintDocument(QPrinter& printer, std::span<const PrintOperation> document,
+                   const Progress& progress) {
+    PagePainter page(printer, pagesOf(document), progress);
     for (const PrintOperation& operation : document) {
         if (!page.take(operation)) {
             return false;
