@@ -71,12 +71,15 @@ TEST_F(TarnimprimeBoletos, WithThePortfolioIncludedItsBankCounts) {
 }
 
 TEST_F(TarnimprimeBoletos, NothingTicked) {
-    const Result result = print("carteira_57.xml", "1234", {"--marca", ""});
-    EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.err, selecione);
-    EXPECT_FALSE(hasJob("job-001.prn"));
-    EXPECT_TRUE(hasJob("requests.txt"));
-    EXPECT_EQ(requests(), "");
+    for (const std::vector<std::string>& none :
+         {std::vector<std::string>{"--marca", ""}, std::vector<std::string>{"--marca="}}) {
+        const Result result = print("carteira_57.xml", "1234", none);
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.err, selecione);
+        EXPECT_FALSE(hasJob("job-001.prn"));
+        EXPECT_TRUE(hasJob("requests.txt"));
+        EXPECT_EQ(requests(), "");
+    }
 }
 
 TEST_F(TarnimprimeBoletos, OnlyAForeignBanksRow) {
