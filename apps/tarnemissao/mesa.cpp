@@ -5,7 +5,6 @@
 #include "platform/directory/directory_spooler.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/system_spooler.h"
-#include "session/tela_futura.h"
 
 namespace tarn {
 
@@ -48,7 +47,7 @@ void Mesa::abre() {
     QTimer::singleShot(0, &menu_, [this] {
         menu_.carrega();
         if (selecaoEtiquetas_ && !fim_.encerrado()) {
-            avisaTelaFutura(ambiente_, "Seleção de Etiquetas");
+            menu_.abreSelecaoEtiquetas();
         }
     });
 }

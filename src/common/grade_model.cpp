@@ -81,7 +81,7 @@ QVariant GradeModel::headerData(int section, Qt::Orientation orientation, int ro
     if (role == Qt::DisplayRole) {
         return QString::fromUtf8(qual.titulo);
     }
-    if (qual.tipo == TipoColuna::Caixa &&
+    if (qual.tipo == TipoColuna::Caixa && qual.tituloMarcaTodas &&
         (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole)) {
         return QStringLiteral("Marcar ou desmarcar todas as linhas");
     }

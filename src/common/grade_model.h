@@ -19,6 +19,7 @@ struct ColunaGrade {
     const char* titulo;
     int largura;  // characters; 0: kept for the printing, not shown
     TipoColuna tipo = TipoColuna::Texto;
+    bool tituloMarcaTodas = true;  // of a check box column
 };
 
 class GradeModel : public QAbstractTableModel {
@@ -59,7 +60,7 @@ private:
 
 // Shows the model in the grid: widths, hidden columns, row heights. With a check box
 // column: a click in its cell and the space key anywhere in the row tick it, a click on
-// its heading is alternaPelaUltima.
+// its heading is alternaPelaUltima, unless the column says otherwise.
 void preparaGrade(QTableView& grade, GradeModel& modelo);
 
 // Makes the screen large enough for so many rows and all shown columns of its grid, as

@@ -79,6 +79,9 @@ private:
 void preparaCaixa(QTableView& grade, GradeModel& modelo) {
     grade.setItemDelegateForColumn(0, new CaixaNaCelula(&grade));
     new TeclaEspaco(grade, modelo);
+    if (!modelo.coluna(0).tituloMarcaTodas) {
+        return;
+    }
     QObject::connect(grade.horizontalHeader(), &QHeaderView::sectionClicked, &modelo,
                      [&modelo](int coluna) {
                          if (coluna == 0) {

@@ -9,7 +9,10 @@
 
 #include "billing/frm_oft.h"
 #include "bills/frm_pesq_dupli.h"
+#include "cheques/frm_cheque.h"
 #include "common/frm_ajuda.h"
+#include "labels/frm_impr_etiq.h"
+#include "labels/frm_pesq_etiquetas.h"
 #include "platform/machine.h"
 #include "platform/qt/wait_cursor.h"
 #include "reprint/frm_reimprime_nf.h"
@@ -17,8 +20,8 @@
 #include "session/aviso_impressora.h"
 #include "session/entrada.h"
 #include "session/frm_logon.h"
-#include "session/tela_futura.h"
 #include "session/telas_de_cobranca.h"
+#include "slips/frm_pesq_boleto.h"
 #include "ui_mdi_menu.h"
 
 namespace tarn {
@@ -61,13 +64,6 @@ MDIMenu::~MDIMenu() {
 }
 
 void MDIMenu::ligaMenu() {
-    const auto futura = [this](QAction* entrada, const char* transacao, const char* tela) {
-        connect(entrada, &QAction::triggered, this, [this, transacao, tela] {
-            if (transacao == nullptr || temDireito(transacao)) {
-                avisaTelaFutura(desk_.ambiente, tela);
-            }
-        });
-    };
     connect(ui_->mnuImprClientes, &QAction::triggered, this, [this] { etiquetas("C"); });
     connect(ui_->mnuImprFornecedores, &QAction::triggered, this, [this] { etiquetas("F"); });
     connect(ui_->mOFT, &QAction::triggered, this, &MDIMenu::mOFT_Click);
@@ -76,8 +72,8 @@ void MDIMenu::ligaMenu() {
     connect(ui_->mCNF, &QAction::triggered, this,
             [this] { nota("EMI003", TrabalhoNota::Cancelamento); });
     connect(ui_->mnuDuplicata, &QAction::triggered, this, &MDIMenu::mnuDuplicata_Click);
-    futura(ui_->mnuBoleto, nullptr, "Boleto Bancário");
-    futura(ui_->mnuChequeImpressao, "EMI005", "Impressão de Cheque");
+    connect(ui_->mnuBoleto, &QAction::triggered, this, &MDIMenu::mnuBoleto_Click);
+    connect(ui_->mnuChequeImpressao, &QAction::triggered, this, &MDIMenu::mnuChequeImpressao_Click);
     connect(ui_->mnuAjuda, &QAction::triggered, this, &MDIMenu::mnuAjuda_Click);
     connect(ui_->mSair, &QAction::triggered, this, [this] { desk_.fim.encerra(); });
 }
@@ -128,7 +124,15 @@ void MDIMenu::abreModal(QDialog& tela) {
 
 void MDIMenu::etiquetas(const char* tipo) {
     desk_.sessao.TipoEtiqueta = tipo;
-    avisaTelaFutura(desk_.ambiente, "Etiquetas");
+    frmPesqEtiquetas fila(desk_, valoresEtiquetas_, this);
+    fila.carrega();
+    abreModal(fila);
+}
+
+void MDIMenu::abreSelecaoEtiquetas() {
+    FrmImprEtiq selecao(desk_, this);
+    selecao.carrega();
+    selecao.exec();
 }
 
 void MDIMenu::mOFT_Click() {
@@ -159,6 +163,18 @@ void MDIMenu::abreNaArea(Tela* tela) {
 
 void MDIMenu::mnuDuplicata_Click() {
     abreModal(cobranca_->duplicatas());
+}
+
+void MDIMenu::mnuBoleto_Click() {
+    abreModal(cobranca_->boletos());
+}
+
+void MDIMenu::mnuChequeImpressao_Click() {
+    if (temDireito("EMI005")) {
+        frmCheque cheque(desk_, this);
+        cheque.carrega();
+        abreModal(cheque);
+    }
 }
 
 void MDIMenu::mnuAjuda_Click() {

@@ -2,6 +2,7 @@
 
 #include "bills/frm_pesq_cliente.h"
 #include "bills/frm_pesq_dupli.h"
+#include "slips/frm_pesq_boleto.h"
 
 namespace tarn {
 
@@ -11,6 +12,10 @@ TelasDeCobranca::~TelasDeCobranca() = default;
 
 FrmPesqDupli& TelasDeCobranca::duplicatas() {
     return carregada(duplicatas_);
+}
+
+frmPesqBoleto& TelasDeCobranca::boletos() {
+    return carregada(boletos_);
 }
 
 template <typename Tela>
@@ -41,6 +46,7 @@ void TelasDeCobranca::procuraCliente(QDialog& tela) {
 
 void TelasDeCobranca::recebeCliente(const Cliente& cliente) {
     duplicatas().recebeCliente(cliente);
+    boletos().recebeCliente(cliente);
 }
 
 }  // namespace tarn

@@ -16,6 +16,7 @@ namespace tarn {
 
 class FrmPesqCliente;
 class FrmPesqDupli;
+class frmPesqBoleto;
 struct Cliente;
 
 class TelasDeCobranca : public QObject {
@@ -26,8 +27,9 @@ public:
     TelasDeCobranca(DeskContext& desk, QWidget& mesa);
     ~TelasDeCobranca() override;
 
-    // The screen, loaded now if it isn't; unloaded when it closes.
+    // A screen, loaded now if it isn't; unloaded when it closes.
     FrmPesqDupli& duplicatas();
+    frmPesqBoleto& boletos();
 
 private:
     template <typename Tela>
@@ -39,6 +41,7 @@ private:
     QWidget& mesa_;
     std::unique_ptr<FrmPesqCliente> clientes_;
     QPointer<FrmPesqDupli> duplicatas_;
+    QPointer<frmPesqBoleto> boletos_;
 };
 
 }  // namespace tarn

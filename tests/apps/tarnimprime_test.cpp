@@ -349,6 +349,82 @@ TEST_F(Tarnimprime, AnOrderSheetWithoutACompanyOrADocumentIsWrongUsage) {
     }
 }
 
+std::vector<std::string> chequeWords(const std::string& bank, const std::string& amount,
+                                     const std::string& payee, const std::string& date) {
+    return {"cheque", "--banco", bank, "--valor",     amount,      "--favorecido",
+            payee,    "--data",  date, "--municipio", "SÃO CARLOS"};
+}
+
+TEST_F(Tarnimprime, PrintsAChequeOfAnyBank) {
+    std::vector<std::string> words = chequeWords("151", "1.234,56", "MARIA", "15/03/2012");
+    words.insert(words.end(), {"--destino", file("papel")});
+    const Result result = run(words);
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out + result.err, "");
+    EXPECT_EQ(job("job-001.prn"),
+              " \x0F\x1B\x1BG" + std::string(1 + 64 + 6, ' ') +
+                  "1.234,56\r\n\r\n"
+                  "               UM MIL, DUZENTOS E TRINTA E QUATRO REAIS E CINQUENTA E SEIS "
+                  "CENT\r\n"
+                  "   AVOS\r\n\r\n"
+                  "     MARIA\r\n\r\n" +
+                  std::string(1 + 29, ' ') + "S\xC3O CARLOS" + std::string(9 + 2, ' ') +
+                  "15   MARCO" + std::string(12 + 2, ' ') +
+                  "2012\r\n\r\n"
+                  " \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n");
+    EXPECT_FALSE(hasJob("job-002.prn"));
+}
+
+TEST_F(Tarnimprime, PrintsAChequeOfBank33WithoutAPayee) {
+    std::vector<std::string> words = chequeWords("033", "1,00", "", "5/12/2012");
+    words.insert(words.begin(), {"--destino", file("papel")});
+    const Result result = run(words);
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(job("job-001.prn"),
+              " \x1B\x41\x06 \x0F\x1B\x1BG \r\n\r\n" + std::string(1 + 93 + 19, ' ') +
+                  "#1,00#\r\n\r\n\r\n\r\n" + std::string(1 + 26, ' ') +
+                  "UM REAL\r\n\r\n"
+                  " \r\n\r\n" +
+                  std::string(1 + 12, ' ') + "\r\n\r\n\r\n\r\n" + std::string(1 + 61 + 9, ' ') +
+                  "S\xC3O CARLOS   5      DEZEMBRO" + std::string(9 + 9, ' ') +
+                  "12\r\n\r\n"
+                  " \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n"
+                  "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n");
+}
+
+TEST_F(Tarnimprime, AChequeThatCannotBeReadPrintsNothing) {
+    const struct {
+        std::vector<std::string> words;
+        const char* number;
+    } wrong[] = {{chequeWords("B1", "1,00", "X", "15/03/2012"), "'13'"},
+                 {chequeWords("40000", "1,00", "X", "15/03/2012"), "'6'"},
+                 {chequeWords("1", "um real", "X", "15/03/2012"), "'13'"},
+                 {chequeWords("1", "1,00", "X", "15/03"), "'9'"}};
+    for (auto one : wrong) {
+        one.words.insert(one.words.end(), {"--destino", file("papel")});
+        const Result result = run(one.words);
+        EXPECT_EQ(result.status, 3);
+        EXPECT_NE(result.err.find(std::string("Erro em tempo de execução ") + one.number),
+                  std::string::npos)
+            << result.err;
+        EXPECT_FALSE(hasJob("job-001.prn"));
+    }
+}
+
+TEST_F(Tarnimprime, AChequeNeedsAllItsOptions) {
+    const std::vector<std::string> all = chequeWords("1", "1,00", "X", "15/03/2012");
+    for (std::size_t option = 1; option < all.size(); option += 2) {
+        std::vector<std::string> words{"--destino", file("papel")};
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            if (i != option && i != option + 1) {
+                words.push_back(all[i]);
+            }
+        }
+        EXPECT_EQ(run(words).status, 1) << "without " << all[option];
+        EXPECT_FALSE(hasJob("job-001.prn"));
+    }
+}
+
 TEST_F(Tarnimprime, AmountsInWords) {
     EXPECT_EQ(shown({"extenso", "1234,50"}),
               "UM MIL, DUZENTOS E TRINTA E QUATRO REAIS E CINQUENTA CENTAVOS\n");
