@@ -29,6 +29,9 @@ Mesa::Mesa(DeskApplication& programa, const Opcoes& opcoes, Impressoras impresso
                 .machine = maquina_,
                 .baseUrl = opcoes.baseUrl,
                 .codePage = opcoes.paginaDeCodigo} {
+    if (!opcoes.pastaFiguras.empty()) {
+        ambiente_.pastaFiguras = opcoes.pastaFiguras;
+    }
     programa_.setRelato([this](const std::exception_ptr& erro) { relataErro(desk_, erro); });
     QObject::connect(&fim_, &FimDoPrograma::encerrou, &programa_, [this](int status) {
         http_.close();

@@ -37,6 +37,7 @@ struct Escolha {
 
 void declaraNota(CLI::App& app, Escolha& escolha);
 void declaraEscada(CLI::App& app, Escolha& escolha);
+void declaraDuplicatas(CLI::App& app, Escolha& escolha);
 void declaraOrdem(CLI::App& app, Escolha& escolha);
 void declaraBoletos(CLI::App& app, Escolha& escolha);
 void declaraRegras(CLI::App& app, Escolha& escolha);

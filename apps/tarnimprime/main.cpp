@@ -76,6 +76,7 @@ void declara(CLI::App& app, Geral& geral, Escolha& escolha) {
                    "Página de código da impressora: 1252 (usual), 850 ou 860");
     declaraNota(app, escolha);
     declaraEscada(app, escolha);
+    declaraDuplicatas(app, escolha);
     declaraOrdem(app, escolha);
     declaraBoletos(app, escolha);
     declaraRegras(app, escolha);

@@ -3,7 +3,9 @@
 #include <QKeyEvent>
 #include <array>
 
+#include "bills/imprime_duplicata.h"
 #include "bills/pesquisa_duplicata.h"
+#include "common/andamento.h"
 #include "common/enter_no_botao.h"
 #include "common/field_families.h"
 #include "common/grade_model.h"
@@ -44,7 +46,8 @@ constexpr std::array<ColunaGrade, colunasDuplicata> colunas{
      {"Estado Cobrança", 18},
      {"CEP Cobrança", 16}}};
 constexpr int linhasVisiveis = 14;
-constexpr int larguraData = 13;  // characters
+constexpr int larguraData = 13;    // characters
+constexpr int alturaDaFigura = 2;  // lines
 
 }  // namespace
 
@@ -87,7 +90,7 @@ void FrmPesqDupli::preparaBotoes() {
     prepara(ui_->cmdLimpar, "limpar", [this] { recebeCliente({}); });
     prepara(ui_->cmdPesquisar, "pesquisar", &FrmPesqDupli::cmdPesquisar_Click);
     prepara(ui_->cmdVoltar, "fechar", &QDialog::reject);
-    poeFigura(*ui_->cmdImprimir, "imprimir");
+    prepara(ui_->cmdImprimir, "imprimir", &FrmPesqDupli::cmdImprimir_Click);
 }
 
 void FrmPesqDupli::recebeCliente(const Cliente& cliente) {
@@ -107,6 +110,27 @@ void FrmPesqDupli::showEvent(QShowEvent* event) {
 void FrmPesqDupli::ativa() {
     encheLista(*ui_->cboTpDocto, tiposDeDocumento());
     encheLista(*ui_->cboFilial, filiaisParaFiltro(desk_.ambiente, desk_.sessao));
+    figuras_ = carregaFiguras(desk_.ambiente.pastaFiguras);
+    mostraFiguras();
+}
+
+// Small, so that the user sees what the pages will show.
+void FrmPesqDupli::mostraFiguras() {
+    const auto mostra = [](QLabel& onde, const std::optional<Picture>& figura) {
+        QPixmap desenho;
+        if (figura) {
+            desenho.loadFromData(reinterpret_cast<const uchar*>(figura->bytes->data()),
+                                 static_cast<uint>(figura->bytes->size()));
+        }
+        const int altura = onde.fontMetrics().height() * alturaDaFigura;
+        onde.setPixmap(desenho.isNull() ? desenho
+                                        : desenho.scaled(altura * 4, altura, Qt::KeepAspectRatio,
+                                                         Qt::SmoothTransformation));
+        onde.setVisible(!desenho.isNull());
+    };
+    mostra(*ui_->picLogo, figuras_.picLogo);
+    mostra(*ui_->picVert, figuras_.picVert);
+    mostra(*ui_->picAss, figuras_.picAss);
 }
 
 void FrmPesqDupli::cmdPesqCli_Click() {
@@ -139,6 +163,15 @@ void FrmPesqDupli::cmdPesquisar_Click() {
         documentos_->mostra(std::move(*linhas));
         ui_->sprDados->setCurrentIndex(documentos_->index(0, 0));
     }
+}
+
+void FrmPesqDupli::cmdImprimir_Click() {
+    Andamento andamento(*this);
+    imprimeSelecionados(desk_.ambiente, desk_.sessao,
+                        {.linhas = documentos_->linhas(),
+                         .triplicata = !ui_->optDupl->isChecked(),
+                         .figuras = figuras_},
+                        andamento.avisos());
 }
 
 void FrmPesqDupli::keyPressEvent(QKeyEvent* event) {

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <memory>
 
+#include "bills/figuras.h"
 #include "bills/procura_cliente.h"
 #include "session/desk_context.h"
 
@@ -36,15 +37,18 @@ protected:
 private:
     void preparaCampos();
     void preparaBotoes();
-    // On every activation: both lists are filled anew.
+    // On every activation: both lists are filled anew, the pictures read again.
     void ativa();
+    void mostraFiguras();
 
     void cmdPesqCli_Click();
     void cmdPesquisar_Click();
+    void cmdImprimir_Click();
 
     DeskContext& desk_;
     std::unique_ptr<Ui::FrmPesqDupli> ui_;
     GradeModel* documentos_;
+    FigurasDuplicata figuras_;
 };
 
 }  // namespace tarn

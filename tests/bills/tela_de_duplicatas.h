@@ -58,6 +58,12 @@ protected:
         click(tela, "cmdPesqCli");
     }
 
+    // Off-screen an open list takes the activation along.
+    static void escolhe(QWidget& tela, const char* lista, int linha) {
+        pick(tela, lista, linha);
+        tela.activateWindow();
+        ASSERT_TRUE(QTest::qWaitFor([&tela] { return QApplication::activeWindow() == &tela; }));
+    }
     static std::string mostrado(const QWidget& tela, const char* campo) {
         return named<QLineEdit>(tela, campo).text().toStdString();
     }
