@@ -71,6 +71,7 @@ frmPesqBoleto::frmPesqBoleto(DeskContext& desk, QWidget* parent)
     preparaGrade(*ui_->sprDados, *documentos_);
     preparaCampos();
     preparaBotoes();
+    connect(this, &frmPesqBoleto::apareceu, this, &frmPesqBoleto::ativa, Qt::QueuedConnection);
     ajustaAGrade(*this, *ui_->sprDados, linhasVisiveis);
 }
 
@@ -116,7 +117,7 @@ void frmPesqBoleto::recebeCliente(const Cliente& cliente) {
 void frmPesqBoleto::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!event->spontaneous()) {
-        QMetaObject::invokeMethod(this, &frmPesqBoleto::ativa, Qt::QueuedConnection);
+        emit apareceu();
     }
 }
 

@@ -31,6 +31,8 @@ public:
 signals:
     // To be answered by the customer dialog, which has closed when this returns.
     void procuraCliente();
+    // It has come before the user.
+    void apareceu();
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -131,7 +131,7 @@ TEST_F(TarnimprimeBoletos, RowsThatAreNoneAreWrongUsage) {
 TEST_F(TarnimprimeBoletos, SeveralFilesGoOnWithTheNumbers) {
     EXPECT_EQ(print("carteira_101.xml", "8", {"--marca", "1", slipData("documentos.xml")}).status,
               0);
-    EXPECT_NE(job("job-002.prn").find("N.N.  0000008-5"), std::string::npos);
+    EXPECT_NE(job("job-002.prn").find("N.N.  0000008-6"), std::string::npos);
     EXPECT_EQ(job("job-004.prn"), contentOf(slipData("boleto_7_jose.prn")));
     EXPECT_FALSE(hasJob("job-005.prn"));
 }

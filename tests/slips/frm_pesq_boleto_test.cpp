@@ -13,6 +13,7 @@ class FrmPesqBoletoTest : public TelaDeBoletos {
 protected:
     static std::vector<std::string> itens(const QComboBox& lista) {
         std::vector<std::string> todos;
+        todos.reserve(static_cast<std::size_t>(lista.count()));
         for (int i = 0; i < lista.count(); ++i) {
             todos.push_back(lista.itemText(i).toStdString() + "=" +
                             lista.itemData(i).toString().toStdString());

@@ -39,7 +39,7 @@ std::vector<std::string> printed(const NossoNumero& number) {
 
 using Printed = std::vector<std::string>;
 
-TEST(DigitoModulo10, IsTheToldExample) {
+TEST(DigitoModulo10, AddsUpByHand) {
     // 1x1 3x1 .. over 0000000001234 1123 456789 add up to 63.
     EXPECT_EQ(DigitoModulo10("0000000001234", "1123", "456789"), 7);
 }
@@ -76,7 +76,7 @@ TEST(DigitoModulo10, RefusesAShortJoinAndWhatIsNoDigit) {
     EXPECT_EQ(errorOf([] { DigitoModulo10("0000000001234", "112ã", "456789"); }), 13);
 }
 
-TEST(DigitoModulo11, IsTheToldExample) {
+TEST(DigitoModulo11, AddsUpByHand) {
     EXPECT_EQ(DigitoModulo11("1234567"), 9);  // 112, remainder 2
 }
 

@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QTableView>
 #include <QTest>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,7 @@ inline std::string cell(const QTableView& grid, int row, int column) {
 
 inline std::vector<bool> ticks(const QTableView& grid) {
     std::vector<bool> all;
+    all.reserve(static_cast<std::size_t>(rows(grid)));
     for (int row = 0; row < rows(grid); ++row) {
         all.push_back(grid.model()->index(row, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked);
     }
