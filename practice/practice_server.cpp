@@ -60,17 +60,17 @@ PracticeServer::PracticeServer(const PracticeOptions& options)
 
 PracticeServer::~PracticeServer() = default;
 
-std::string PracticeServer::answer(std::string_view rawQuery) {
+std::string PracticeServer::answer(std::string_view rawQuery, Encoding encoding) {
     const Query query(rawQuery);
     const Command* command = findCommand(query.command());
     if (command == nullptr) {
-        return writeAnswer(unknownCommand(query), options_.encoding);
+        return writeAnswer(unknownCommand(query), encoding);
     }
     Reply reply = state_->executor.run([&] {
         CommandContext context{*state_->database, todayOf(options_)};
         return command->handler(query, context);
     });
-    return writeAnswer(answerElement(command->shape, std::move(reply)), options_.encoding);
+    return writeAnswer(answerElement(command->shape, std::move(reply)), encoding);
 }
 
 }  // namespace tarn::practice

@@ -32,7 +32,8 @@ public:
 
     // The query from the command key on, as it came on the wire. Throws
     // DatabaseError where the database failed; nothing is then changed.
-    std::string answer(std::string_view rawQuery);
+    std::string answer(std::string_view rawQuery) { return answer(rawQuery, encoding()); }
+    std::string answer(std::string_view rawQuery, Encoding encoding);
 
     Encoding encoding() const { return options_.encoding; }
 

@@ -1,5 +1,6 @@
 #include "notes/draw_note.h"
 
+#include "common/falha_impressora.h"
 #include "notes/drawn_form.h"
 #include "notes/fields.h"
 #include "notes/imprime_texto_em.h"

@@ -1,35 +1,18 @@
 // tarnimprime as its users run it: the program itself, its exit status, what it
 // says and the job files it leaves.
-#include <gtest/gtest.h>
-#include <sys/wait.h>
+#include "tarnimprime_run.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
 
+namespace tarn::imprime {
 namespace {
-
-namespace fs = std::filesystem;
-
-std::string contentOf(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-std::string quoted(const std::string& word) {
-    std::string out = "'";
-    for (const char c : word) {
-        out += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    }
-    return out + "'";
-}
 
 std::string data(const std::string& name) {
     return std::string(TARN_NOTE_DATA) + "/" + name;
@@ -38,45 +21,6 @@ std::string data(const std::string& name) {
 std::string orderData(const std::string& name) {
     return std::string(TARN_ORDER_DATA) + "/" + name;
 }
-
-struct Result {
-    int status = -1;
-    std::string out;
-    std::string err;
-};
-
-class Tarnimprime : public testing::Test {
-protected:
-    void SetUp() override {
-        std::string pattern = (fs::temp_directory_path() / "tarnimprime-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-        room_ = pattern;
-    }
-    void TearDown() override { fs::remove_all(room_); }
-
-    Result run(const std::vector<std::string>& words) const {
-        std::string command = quoted(TARNIMPRIME);
-        for (const std::string& word : words) {
-            command += " " + quoted(word);
-        }
-        command += " >" + quoted(file("out")) + " 2>" + quoted(file("err"));
-        const int ended = std::system(command.c_str());
-        return {WIFEXITED(ended) ? WEXITSTATUS(ended) : -1, contentOf(file("out")),
-                contentOf(file("err"))};
-    }
-    // A command whose one result is a line on stdout.
-    std::string shown(const std::vector<std::string>& words) const {
-        const Result result = run(words);
-        EXPECT_EQ(result.status, 0) << result.err;
-        EXPECT_EQ(result.err, "");
-        return result.out;
-    }
-    std::string file(const std::string& name) const { return (room_ / name).string(); }
-    std::string job(const std::string& name) const { return contentOf(room_ / "papel" / name); }
-    bool hasJob(const std::string& name) const { return fs::exists(room_ / "papel" / name); }
-
-    fs::path room_;
-};
 
 TEST_F(Tarnimprime, PrintsANoteIntoTheDirectoryItMakes) {
     const Result result =
@@ -551,3 +495,4 @@ TEST_F(Tarnimprime, WrongUsageIsToldInPortuguese) {
 }
 
 }  // namespace
+}  // namespace tarn::imprime

@@ -155,7 +155,7 @@ Picture black(const char* format, int dotsPerMetre) {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     EXPECT_TRUE(image.save(&buffer, format));
-    return {.name = "picLogo", .bytes = bytes.toStdString()};
+    return {"picLogo", bytes.toStdString()};
 }
 
 // Width and height of the ink around a point inside it, in dots.
@@ -182,7 +182,7 @@ TEST_F(QtPrinterTest, PicturesAtTheirNaturalSize) {
     constexpr int at192 = 7559;
     EXPECT_EQ(printer_.PaintPicture(black("PNG", at96), 2, 2), std::nullopt);
     printer_.PaintPicture(black("JPG", at192), 2, 6);
-    printer_.PaintPicture({.name = "picVert", .bytes = "no picture"}, 2, 9);
+    printer_.PaintPicture({"picVert", "no picture"}, 2, 9);
     printer_.EndDoc();
     const QImage page = pageOf("job-001.pdf");
     EXPECT_TRUE(isInk(page, 203, 203) && !isInk(page, 197, 203) && !isInk(page, 203, 197));
