@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QRegularExpressionValidator>
-#include <QTimer>
 #include <utility>
 
 #include "common/field_families.h"
@@ -42,6 +41,9 @@ void sohAceita(QLineEdit& campo, const QString& caracteres, Machine& maquina) {
 frmCheque::frmCheque(DeskContext& desk, QWidget* parent)
     : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::frmCheque>()) {
     ui_->setupUi(this);
+    espera_.setObjectName(QStringLiteral("Espera"));
+    espera_.setSingleShot(true);
+    connect(&espera_, &QTimer::timeout, this, &frmCheque::Espera_Timer);
     preparaCampos();
     preparaBotoes();
 }
@@ -67,7 +69,7 @@ void frmCheque::preparaCampos() {
     sohAceita(*ui_->txtNumeroCheque, QStringLiteral("[0-9]*"), ambiente.machine);
     sohAceita(*ui_->txtValor, QStringLiteral("[0-9.,]*"), ambiente.machine);
     for (const FieldController* chave : {numero, serie}) {
-        connect(chave, &FieldController::wasLeft, this, &frmCheque::numeroOuSerie_LostFocus);
+        connect(chave, &FieldController::wasLeft, &espera_, [this] { espera_.start(0); });
     }
     const int caractere = fontMetrics().averageCharWidth();
     ui_->cboBancoAgConta->setMinimumWidth(caractere * larguraTela);
@@ -154,32 +156,33 @@ void frmCheque::esvazia() {
     ui_->txtObservacao->loadText({});
 }
 
-// The server is asked once the focus has settled.
-void frmCheque::numeroOuSerie_LostFocus() {
-    aConferir_ = true;
-    QMetaObject::invokeMethod(this, &frmCheque::confereQuandoDer, Qt::QueuedConnection);
-}
-
-// Not between the two halves of a click: the second one would be lost to the request.
-void frmCheque::confereQuandoDer() {
-    if (aConferir_ && (QGuiApplication::mouseButtons() != Qt::NoButton ||
-                       QApplication::activePopupWidget() != nullptr)) {
-        QTimer::singleShot(esperaDoClique, this, &frmCheque::confereQuandoDer);
+// Once the focus has settled, and not between the two halves of a click: the second one
+// would be lost to the request.
+void frmCheque::Espera_Timer() {
+    if (QGuiApplication::mouseButtons() != Qt::NoButton ||
+        QApplication::activePopupWidget() != nullptr) {
+        espera_.start(esperaDoClique);
     } else {
-        confere();
+        confereNumero();
     }
 }
 
-void frmCheque::confere() {
-    if (std::exchange(aConferir_, false)) {
-        if (const auto recusa = recusaDoNumero(desk_.ambiente, desk_.sessao, campos())) {
-            exclama(desk_.ambiente, recusa->texto);
-        }
+void frmCheque::confereNumero() {
+    if (const auto recusa = recusaDoNumero(desk_.ambiente, desk_.sessao, campos())) {
+        exclama(desk_.ambiente, recusa->texto);
+    }
+}
+
+// A click that took the focus counts after what its leaving asks for.
+void frmCheque::confereAntesDoClique() {
+    if (espera_.isActive()) {
+        espera_.stop();
+        confereNumero();
     }
 }
 
 void frmCheque::cmdImprimir_Click() {
-    confere();
+    confereAntesDoClique();
     const CamposCheque cheque = campos();
     if (recusado(recusaDosCampos(cheque)) ||
         recusado(recusaDoNumero(desk_.ambiente, desk_.sessao, cheque))) {
@@ -192,7 +195,7 @@ void frmCheque::cmdImprimir_Click() {
 }
 
 void frmCheque::cmdCancelar_Click() {
-    confere();
+    confereAntesDoClique();
     reject();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
 #include <memory>
 #include <vector>
 
@@ -41,16 +42,16 @@ private:
     bool recusado(const std::optional<RecusaDoCheque>& recusa);
     void esvazia();
 
-    void numeroOuSerie_LostFocus();
-    void confereQuandoDer();
-    void confere();
+    void Espera_Timer();
+    void confereNumero();
+    void confereAntesDoClique();
     void cmdImprimir_Click();
     void cmdCancelar_Click();
 
     DeskContext& desk_;
     std::unique_ptr<Ui::frmCheque> ui_;
     std::vector<ContaBancaria> contas_;  // by position of the list
-    bool aConferir_ = false;             // number or series was left, the server not yet asked
+    QTimer espera_;                      // runs from leaving number or series to its check
 };
 
 }  // namespace tarn

@@ -15,6 +15,7 @@ TEST_F(FrmChequeTest, OpensWithTheAccountsAndTheSessionsDate) {
         EXPECT_EQ(named<QLabel>(screen, "lblTitulo").text(), QStringLiteral("Imprimir Cheque"));
         auto& list = named<QComboBox>(screen, "cboBancoAgConta");
         std::vector<std::pair<std::string, int>> items;
+        items.reserve(static_cast<std::size_t>(list.count()));
         for (int i = 0; i < list.count(); ++i) {
             items.emplace_back(list.itemText(i).toStdString(), list.itemData(i).toInt());
         }
