@@ -10,8 +10,8 @@ namespace tarn::labels {
 namespace {
 
 constexpr const char* intervaloSemNumero =
-    "Nada foi excluído. Digite em De e Até os números do Seqüencial, com vírgula decimal se "
-    "houver, e clique em OK de novo.";
+    "Nada foi excluído. Digite em De e Até os números da coluna Sequencial da lista e clique em "
+    "OK de novo.";
 
 }  // namespace
 

@@ -20,12 +20,12 @@ namespace tarn {
 namespace {
 
 constexpr std::array<ColunaGrade, 7> colunas{{{" ", 0, TipoColuna::Caixa, false},
-                                              {"Cep", 11},
-                                              {"Cliente", 34},
-                                              {"Endereço", 36},
-                                              {"Bairro", 20},
+                                              {"Cep", 13},
+                                              {"Cliente", 46},
+                                              {"Endereço", 46},
+                                              {"Bairro", 26},
                                               {"Estado", 8},
-                                              {"Cidade", 20}}};
+                                              {"Cidade", 28}}};
 constexpr int linhasVisiveis = 12;
 
 comando::ItemEscolhido escolhido(const QComboBox& lista) {
@@ -125,6 +125,7 @@ void FrmImprEtiq::cboEstado_Click() {
 }
 
 void FrmImprEtiq::cmdPesquisar_Click() {
+    ui_->cmdPesquisar->setFocus();  // pressed by its key, too: a date field completes its date
     const auto texto = [](const QLineEdit* campo) { return campo->text().toStdString(); };
     const std::string filiais = montaURL(*ui_->cboFilial);
     const std::string produto = texto(ui_->txtProd);

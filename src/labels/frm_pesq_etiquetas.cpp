@@ -18,16 +18,16 @@
 namespace tarn {
 namespace {
 
-constexpr std::array<ColunaGrade, 10> colunas{{{"Sequencial", 12, TipoColuna::Numero},
-                                               {"Cep", 11},
-                                               {"Nome", 30},
-                                               {"Código", 11},
-                                               {"Endereço Nº", 34},
-                                               {"Complemento", 16},
-                                               {"Bairro", 18},
-                                               {"Município", 18},
+constexpr std::array<ColunaGrade, 10> colunas{{{"Sequencial", 13, TipoColuna::Numero},
+                                               {"Cep", 13},
+                                               {"Nome", 46},
+                                               {"Código", 12},
+                                               {"Endereço Nº", 46},
+                                               {"Complemento", 20},
+                                               {"Bairro", 26},
+                                               {"Município", 28},
                                                {"UF", 5},
-                                               {"País", 10}}};
+                                               {"País", 14}}};
 constexpr int linhasVisiveis = 14;
 
 }  // namespace

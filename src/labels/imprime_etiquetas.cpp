@@ -19,11 +19,12 @@ namespace tarn::labels {
 namespace {
 
 constexpr const char* intervaloSemNumero =
-    "Nada foi impresso. Digite em De e Até os números do Seqüencial, com vírgula decimal se "
-    "houver, e clique em OK de novo.";
+    "Nada foi impresso. Digite em De e Até os números da coluna Sequencial da lista e clique em "
+    "OK de novo.";
 constexpr const char* remetenteIlegivel =
-    "Nada foi impresso: o servidor não tem os dados da Filial Remetente. Volte à pesquisa, "
-    "escolha outra Filial Remetente e imprima de novo; se continuar, avise o suporte.";
+    "Nada foi impresso: o servidor não tem os dados da Filial Remetente. Cancele, escolha na lista "
+    "o formulário com REMETENTE, uma Filial Remetente e de novo o formulário desejado, e imprima "
+    "outra vez. Se continuar, avise o suporte.";
 
 void desenha(Environment& ambiente, Formulario formulario, Etiquetas& etiquetas,
              const Remetente& remetente, const Progress& andamento) {
@@ -38,12 +39,29 @@ void desenha(Environment& ambiente, Formulario formulario, Etiquetas& etiquetas,
     }
 }
 
+// A printer takes its time over a document of many pages, and tells of them.
+void imprimeDocumento(Environment& ambiente, const Progress& andamento) {
+    std::size_t paginas = 0;
+    if (andamento) {
+        ambiente.printer.progress = [&andamento, &paginas](std::size_t feitas, std::size_t total) {
+            paginas = total;
+            andamento(feitas, total);
+        };
+    }
+    const auto falha = ambiente.printer.EndDoc();
+    ambiente.printer.progress = nullptr;
+    if (paginas > 0) {
+        andamento(paginas, paginas);
+    }
+    mostraFalha(ambiente, falha);
+}
+
 // The raw channel is closed along with the drawn document, open or not.
-void encerra(Environment& ambiente, Formulario formulario) {
+void encerra(Environment& ambiente, Formulario formulario, const Progress& andamento) {
     if (formulario != Formulario::A4ComRemetente) {
         mostraFalha(ambiente, ambiente.printer.NewPage());
     }
-    mostraFalha(ambiente, ambiente.printer.EndDoc());
+    imprimeDocumento(ambiente, andamento);
     RawChannel(ambiente.spooler, ambiente.codePage).fecha();
 }
 
@@ -123,7 +141,7 @@ void imprimeEtiquetas(Environment& ambiente, Formulario formulario, const Impres
         return informa(ambiente, " Não há Etiquetas nesse intervalo!   ");
     }
     informa(ambiente, " Etiquetas impressas com sucesso!   ");
-    encerra(ambiente, formulario);
+    encerra(ambiente, formulario, andamento);
 }
 
 }  // namespace tarn::labels

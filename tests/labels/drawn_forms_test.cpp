@@ -318,6 +318,36 @@ TEST_F(DrawnForms, ProgressIsToldLabelByLabel) {
     }
 }
 
+// Tells of two pages while it ends a document.
+class SlowPrinter : public RecordingPrinter {
+public:
+    std::optional<PrinterFailure> perform(const PrintOperation& operation) override {
+        if (std::holds_alternative<DocumentEnd>(operation) && progress) {
+            progress(1, 2);
+        }
+        return RecordingPrinter::perform(operation);
+    }
+};
+
+TEST_F(DrawnForms, ThePrintersOwnProgressIsToldAfterTheBox) {
+    SlowPrinter slow;
+    Environment there{.http = env.loader,
+                      .spooler = env.spooler,
+                      .printer = slow,
+                      .boxes = env.boxes,
+                      .clock = env.clock,
+                      .machine = env.machine,
+                      .baseUrl = {}};
+    std::vector<std::string> told;
+    env.boxes.onShow = [&told](const Box&) { told.emplace_back("box"); };
+    imprimeEtiquetas(there, Formulario::A4ComRemetente, run(labels(3), sender),
+                     [&told](std::size_t done, std::size_t total) {
+                         told.push_back(std::to_string(done) + "/" + std::to_string(total));
+                     });
+    EXPECT_THAT(told, ElementsAre("1/3", "2/3", "3/3", "box", "1/2", "2/2"));
+    EXPECT_FALSE(slow.progress);
+}
+
 TEST(FormOf, ComparesTheFormAsANumber) {
     EXPECT_EQ(formularioDe("1"), Formulario::Pimaco6280);
     EXPECT_EQ(formularioDe(" 2,0 "), Formulario::Matricial);

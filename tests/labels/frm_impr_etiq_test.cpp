@@ -247,6 +247,15 @@ TEST_F(SelectionScreen, WhatWasBoughtAsksForTheDatesOfTheSale) {
     }
 }
 
+TEST_F(SelectionScreen, ItsKeyPressesTheSearchAfterTheDateIsComplete) {
+    inSelection([this](QWidget& selection) {
+        type(selection, "txtDtVndDe", "0101");
+        QTest::keyClick(&selection, Qt::Key_P, Qt::AltModifier);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !boxes.shown.empty(); }));
+        EXPECT_THAT(boxes.shown[0].text, testing::HasSubstr("&dDtDe=01/01/2012&dDtAte=&"));
+    });
+}
+
 TEST_F(SelectionScreen, PostalCodesAskForNoDate) {
     inSelection([this](QWidget& selection) {
         type(selection, "txtCepDe", "1");
