@@ -17,6 +17,7 @@ namespace tarn::imprime {
 class Mesa;
 
 inline constexpr int statusFeito = 0;
+inline constexpr int statusPerda = 4;  // a note that was looked over loses something
 inline constexpr int statusUso = 1;  // wrong usage, unreadable input, nowhere to print
 
 // Ends the program with `statusUso`; the text (Portuguese) goes to stderr.
@@ -33,6 +34,7 @@ struct Geral {
 
 struct Escolha {
     std::function<void(Mesa&)> faz;
+    int status = statusFeito;  // of a command that went through
 };
 
 void declaraNota(CLI::App& app, Escolha& escolha);

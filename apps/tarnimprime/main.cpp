@@ -134,7 +134,7 @@ int executa(int argc, char** argv) {
     } catch (const ErroExecucao& erro) {
         return falha(replaceAll(textoDoRelatorio(erro, false), "\r", "\n"), statusErroExecucao);
     }
-    return statusFeito;
+    return escolha.status;
 }
 
 }  // namespace

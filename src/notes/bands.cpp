@@ -29,6 +29,9 @@ void printBand(const Band& band, Run& run) {
     for (int i = 0; i < calls; ++i, from += piece) {
         run.line.append(static_cast<std::size_t>(band.column - firstColumn), ' ');
         appendBlankingControls(run.line, midOf(text, from, piece));
+        if (run.losses != nullptr && i + 1 == calls) {
+            run.losses->band(band.source, band.column, midOf(text, from + piece, text.size()));
+        }
         run.send(i + 1 < calls ? 1 : band.lines - (calls - 1));
     }
 }

@@ -1,5 +1,8 @@
+#include <algorithm>
+
 #include "notes/blocks.h"
 #include "notes/fields.h"
+#include "notes/item_rows.h"
 #include "notes/run.h"
 #include "notes/service_rows.h"
 
@@ -19,10 +22,24 @@ void addUp(Run& run) {
     }
 }
 
+void loseServicesFrom(std::size_t first, Run& run) {
+    for (std::size_t i = first; i < run.services.rows.size(); ++i) {
+        run.document.goToItem(run.services.rows[i]);
+        run.losses->add({.kind = Loss::Kind::Item,
+                         .item = static_cast<int>(run.services.rows[i] - firstItem + 1),
+                         .field = "serviço",
+                         .lost = nameOfItem(run.document),
+                         .limit = static_cast<int>(first)});
+    }
+}
+
 }  // namespace
 
 void printServices(int lines, Run& run) {
     addUp(run);
+    if (run.losses != nullptr) {
+        loseServicesFrom(static_cast<std::size_t>(std::max(0, lines)), run);
+    }
     for (int i = 1; i <= lines; ++i) {
         const auto place = static_cast<std::size_t>(i - 1);
         const bool held = place < run.services.rows.size();

@@ -33,6 +33,39 @@ TEST_F(Tarnimprime, PrintsANoteIntoTheDirectoryItMakes) {
     EXPECT_FALSE(hasJob("job-003.prn"));
 }
 
+// Looking a note over prints nothing, here of all places where no printer is.
+TEST_F(Tarnimprime, ANoteThatFitsIsLookedOverInSilence) {
+    const Result result = run({"nota", "--confere", "--empresa", "1361", "--estabelecimento", "1",
+                               "--numero", "4567", data("nota_1361.xml")});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(result.err, "");
+}
+
+TEST_F(Tarnimprime, WhatANoteLosesIsToldWithStatusFour) {
+    std::string note = contentOf(data("nota_1361.xml"));
+    const std::string name = "RAZAO=\"";
+    note.insert(note.find(name) + name.size(), std::string(70, 'X'));
+    const std::string wide = file("larga.xml");
+    std::ofstream(wide, std::ios::binary) << note;
+    const Result result =
+        run({"--destino", file("papel"), "nota", "--empresa", "1361", "--estabelecimento", "1",
+             "--numero", "4567", "--confere", data("nota_1361.xml"), wide});
+    EXPECT_EQ(result.status, 4);
+    EXPECT_EQ(result.out, wide + ": linha 10, coluna 2, RAZAO: não cabe; perde \"PEÇAS SÃO JOÃO "
+                                 "LTDA\"\n");
+    EXPECT_EQ(result.err, "");
+    // With a directory told the notes are there to be looked at too.
+    EXPECT_TRUE(hasJob("job-004.prn"));
+}
+
+TEST_F(Tarnimprime, ANoteThatStopsIsLookedOverUpToThere) {
+    const Result result = run({"nota", "--confere", "--empresa", "1361", "--estabelecimento", "1",
+                               "--numero", "4567", data("nota_quantidade_errada.xml")});
+    EXPECT_EQ(result.status, 3);
+    EXPECT_NE(result.err, "");
+}
+
 // A text of a drawn job: where it lands, in points, and what it says.
 struct Text {
     double x = 0;

@@ -36,46 +36,53 @@ FolderWatch::FolderWatch(JobIntake& intake, const QString& folder)
     QTimer::singleShot(0, this, &FolderWatch::look);
 }
 
+bool FolderWatch::hasNews(const QString& name) const {
+    const QFileInfo file(folder_, name);
+    const Seen seen = seen_.value(name);
+    return file.size() != seen.taken || (seen.done && file.lastModified() != seen.written);
+}
+
 void FolderWatch::look() {
     const QStringList names = jobsIn(folder_);
-    for (const QString& name : names) {
-        if (!takeFile(name, name == names.back())) {
+    if (!open_.isEmpty()) {
+        if (hasNews(open_)) {
+            return takePiece(QString(open_));
+        }
+        const bool others = std::any_of(names.begin(), names.end(),
+                                        [this](const QString& name) { return hasNews(name); });
+        rest(others);
+        if (!open_.isEmpty()) {
             return;
         }
     }
+    const auto next = std::find_if(names.begin(), names.end(),
+                                   [this](const QString& name) { return hasNews(name); });
+    if (next != names.end()) {
+        takePiece(*next);
+    }
 }
 
-bool FolderWatch::takeFile(const QString& name, bool last) {
+void FolderWatch::takePiece(const QString& name) {
     const QFileInfo file(folder_, name);
     Seen& seen = seen_[name];
-    const bool changed = file.size() != seen.taken || file.lastModified() != seen.written;
-    if (seen.done && changed) {
-        seen = Seen{};
-    }
-    if (file.size() < seen.taken) {
+    if (seen.done || file.size() < seen.taken) {
         if (open_ == name) {
-            rest(seen, false);
+            rest(true);
         }
         seen = Seen{};
     }
-    if (file.size() > seen.taken) {
-        if (open_ != name) {
-            if (!intake_.begin(name)) {
-                return false;
-            }
-            open_ = name;
+    if (open_ != name) {
+        if (file.size() == 0 || !intake_.begin(name)) {
+            return;
         }
-        seen.written = file.lastModified();
-        return readOn(name, seen);
+        open_ = name;
     }
-    if (open_ == name) {
-        rest(seen, last);
-    }
-    return open_.isEmpty() || last;
+    seen.written = file.lastModified();
+    readOn(name, seen);
 }
 
 // One piece a look, so that a long job doesn't hold the window.
-bool FolderWatch::readOn(const QString& name, Seen& seen) {
+void FolderWatch::readOn(const QString& name, Seen& seen) {
     quiet_ = 0;
     QFile file(folder_.filePath(name));
     QByteArray piece;
@@ -90,20 +97,18 @@ bool FolderWatch::readOn(const QString& name, Seen& seen) {
         open_.clear();
         seen.taken = file.size();
         seen.done = true;
-        return true;
     }
     QMetaObject::invokeMethod(this, &FolderWatch::look, Qt::QueuedConnection);
-    return false;
 }
 
-// The last file may still grow; one with another behind it is whole.
-void FolderWatch::rest(Seen& seen, bool last) {
-    if (last && ++quiet_ < kQuietLooks) {
+// A file may still grow while no other waits.
+void FolderWatch::rest(bool atOnce) {
+    if (!atOnce && ++quiet_ < kQuietLooks) {
         return;
     }
     quiet_ = 0;
+    seen_[open_].done = true;
     open_.clear();
-    seen.done = true;
     intake_.end();
 }
 

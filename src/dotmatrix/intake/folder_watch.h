@@ -3,6 +3,7 @@
 // is a new job.
 #pragma once
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileSystemWatcher>
 #include <QMap>
@@ -29,10 +30,10 @@ private:
         QDateTime written;
         bool done = false;  // a later change is a new job
     };
-    // False when the rest must wait.
-    bool takeFile(const QString& name, bool last);
-    bool readOn(const QString& name, Seen& seen);
-    void rest(Seen& seen, bool last);
+    bool hasNews(const QString& name) const;
+    void takePiece(const QString& name);
+    void readOn(const QString& name, Seen& seen);
+    void rest(bool atOnce);
 
     JobIntake& intake_;
     QDir folder_;

@@ -15,6 +15,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProgressDialog>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 #include <chrono>
@@ -310,13 +311,9 @@ void PrinterWindow::makeSearchBar() {
     addToolBar(Qt::BottomToolBarArea, searchBar_);
     searchBar_->hide();
     connect(searchText_, &QLineEdit::returnPressed, this, &PrinterWindow::findNext);
-    auto* hide = new QAction(this);
-    hide->setShortcut(QKeySequence(Qt::Key_Escape));
-    hide->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    searchBar_->addAction(hide);
-    hide->setVisible(false);
-    searchText_->addAction(hide);
-    connect(hide, &QAction::triggered, this, [this] {
+    auto* hide = new QShortcut(QKeySequence(Qt::Key_Escape), searchBar_);
+    hide->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(hide, &QShortcut::activated, this, [this] {
         searchBar_->hide();
         view_->mark(std::nullopt);
         view_->setFocus();
