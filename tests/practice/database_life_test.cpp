@@ -5,10 +5,8 @@
 #include <QDate>
 #include <QTemporaryDir>
 #include <fstream>
-#include <mutex>
-#include <set>
-#include <thread>
 
+#include "practice/at_once.h"
 #include "practice/database.h"
 #include "practice/practice_desk.h"
 #include "practice/schema.h"
@@ -148,53 +146,11 @@ TEST_F(PracticeFile, TellsTheEmptyTextFromNull) {
     EXPECT_EQ(rows.date(2), QDate(2012, 9, 5));
 }
 
-struct Outcome {
-    std::mutex mutex;
-    std::multiset<std::string> notes;  // series and number
-    int refused = 0;
-};
-
-// One desk of many: goes through the whole list from a place of its own.
-void generateAll(PracticeServer& server, const std::vector<std::string>& orders, std::size_t first,
-                 Outcome& outcome) {
-    for (std::size_t i = 0; i < orders.size(); ++i) {
-        const std::string body =
-            server.answer("COMANDO=SP_GERA_NF&ID_ETB_TARN=1361&ID_ORD_FAT=" +
-                          orders[(first + i) % orders.size()] + "&ID_PES=101&ServerName=DADOS1361");
-        XmlDocument document;
-        const bool loaded = document.loadXML(body);
-        const std::lock_guard lock(outcome.mutex);
-        ASSERT_TRUE(loaded);
-        if (statusOf(document) != "OK") {
-            ++outcome.refused;
-            continue;
-        }
-        const XmlNode root = document.documentElement();
-        outcome.notes.insert(std::string(root.child(1).attributes().item(0).text()) + '/' +
-                             std::string(root.child(0).attributes().item(0).text()));
-    }
-}
-
-constexpr std::size_t kDesks = 8;
-constexpr std::size_t kBillable = 21;  // of 23 orders one lacks stock, one is blocked
-
-void expectEachOnce(const Outcome& outcome) {
-    EXPECT_EQ(outcome.notes.size(), kBillable);
-    EXPECT_EQ(std::set<std::string>(outcome.notes.begin(), outcome.notes.end()).size(), kBillable);
-    EXPECT_EQ(outcome.refused, static_cast<int>(kDesks * 23 - kBillable));
-}
-
 TEST(PracticeConcurrency, EightDesksGetNoOrderAndNoNumberTwice) {
     Desk desk;
     const std::vector<std::string> orders = desk.orders();
     Outcome outcome;
-    std::vector<std::thread> threads;
-    for (std::size_t i = 0; i < kDesks; ++i) {
-        threads.emplace_back([&, i] { generateAll(desk.server(), orders, i * 3, outcome); });
-    }
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
+    generateAtOnce({&desk.server()}, orders, outcome);
     expectEachOnce(outcome);
     EXPECT_EQ(desk.orders(), (std::vector<std::string>{"45007", "45008"}));
 }
@@ -204,14 +160,7 @@ TEST_F(PracticeFile, TwoServersOverOneFileGiveNoNumberTwice) {
     Desk other(optionsOf(file()));
     const std::vector<std::string> orders = one.orders();
     Outcome outcome;
-    std::vector<std::thread> threads;
-    for (std::size_t i = 0; i < kDesks; ++i) {
-        PracticeServer& server = i % 2 == 0 ? one.server() : other.server();
-        threads.emplace_back([&, i] { generateAll(server, orders, i * 3, outcome); });
-    }
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
+    generateAtOnce({&one.server(), &other.server()}, orders, outcome);
     expectEachOnce(outcome);
 }
 
