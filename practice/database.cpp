@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QSqlError>
 #include <QUuid>
+#include <algorithm>
 #include <array>
 
 #include "practice/database_address.h"
@@ -27,6 +28,16 @@ constexpr std::array kConflicts = {"40P01", "40001", "5", "517"};
         }
     }
     throw DatabaseError(text);
+}
+
+constexpr std::size_t kRowsAtOnce = 400;
+
+std::string placeholders(std::size_t count) {  // "(?, ?)"
+    std::string text = "(";
+    for (std::size_t i = 0; i < count; ++i) {
+        text += i == 0 ? "?" : ", ?";
+    }
+    return text + ')';
 }
 
 void setUpFile(QSqlDatabase& connection, const std::string& file) {
@@ -100,7 +111,6 @@ Database::Database(const std::string& address)
 }
 
 Database::~Database() {
-    inserts_.clear();
     QSqlDatabase::database(name_, false).close();
     QSqlDatabase::removeDatabase(name_);
 }
@@ -151,18 +161,50 @@ int Database::execute(std::string_view sql, const std::vector<Bind>& binds) {
 
 void Database::insert(std::string_view table, std::string_view columns,
                       const std::vector<Bind>& values) {
-    std::string sql =
-        "INSERT INTO " + std::string(table) + " (" + std::string(columns) + ") VALUES (";
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        sql += i == 0 ? "?" : ", ?";
+    const std::string head =
+        "INSERT INTO " + std::string(table) + " (" + std::string(columns) + ") VALUES ";
+    if (!batching_) {
+        execute(head + placeholders(values.size()), values);
+        return;
     }
-    sql += ')';
-    auto known = inserts_.find(sql);
-    if (known == inserts_.end()) {
-        known = inserts_.emplace(sql, prepared(sql)).first;
+    auto pending = std::ranges::find(pending_, head, &Pending::head);
+    if (pending == pending_.end()) {
+        pending = pending_.insert(pending, {head, values.size(), {}});
     }
-    execute(known->second, values);
-    known->second.finish();
+    pending->values.insert(pending->values.end(), values.begin(), values.end());
+    if (++pendingRows_ >= kRowsAtOnce) {
+        flush();
+    }
+}
+
+void Database::flush() {
+    for (Pending& pending : pending_) {
+        if (pending.values.empty()) {
+            continue;
+        }
+        const std::string row = placeholders(pending.width);
+        std::string sql = pending.head + row;
+        for (std::size_t left = pending.values.size() / pending.width; left > 1; --left) {
+            sql += ", " + row;
+        }
+        execute(sql, pending.values);
+        pending.values.clear();
+    }
+    pendingRows_ = 0;
+}
+
+InsertBatch::InsertBatch(Database& database) : database_(database) {
+    database_.batching_ = true;
+}
+
+InsertBatch::~InsertBatch() {
+    database_.batching_ = false;
+    database_.pendingRows_ = 0;
+    database_.pending_.clear();
+}
+
+void InsertBatch::finish() {
+    database_.flush();
 }
 
 bool Database::hasTable(std::string_view name) const {

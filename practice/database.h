@@ -7,7 +7,6 @@
 #include <QSqlQuery>
 #include <QVariant>
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -81,9 +80,7 @@ public:
 
     Rows select(std::string_view sql, const std::vector<Bind>& binds = {});
     int execute(std::string_view sql, const std::vector<Bind>& binds = {});  // rows touched
-    // For many rows one after the other: its statement is kept until closeInserts().
     void insert(std::string_view table, std::string_view columns, const std::vector<Bind>& values);
-    void closeInserts() { inserts_.clear(); }
     bool hasTable(std::string_view name) const;
     bool isEmpty() const;  // no table at all
     bool isServer() const { return server_; }
@@ -91,14 +88,37 @@ public:
 
 private:
     friend class Transaction;
+    friend class InsertBatch;
+    struct Pending {
+        std::string head;  // of the statement, up to VALUES
+        std::size_t width = 0;
+        std::vector<Bind> values;
+    };
     QSqlQuery prepared(std::string_view sql);
     static void execute(QSqlQuery& query, const std::vector<Bind>& binds);
     void command(const char* sql, const char* what);
+    void flush();
     QSqlQuery run(std::string_view sql, const std::vector<Bind>& binds);
 
     QString name_;
     bool server_ = false;
-    std::map<std::string, QSqlQuery> inserts_;  // prepared once, by their text
+    bool batching_ = false;
+    std::size_t pendingRows_ = 0;
+    std::vector<Pending> pending_;  // in the order in which the tables were first named
+};
+
+// While it lives rows are kept and inserted by the hundred, table by table in the
+// order in which the tables were first named; what isn't finished is dropped.
+class InsertBatch {
+public:
+    explicit InsertBatch(Database& database);
+    ~InsertBatch();
+    InsertBatch(const InsertBatch&) = delete;
+    InsertBatch& operator=(const InsertBatch&) = delete;
+    void finish();
+
+private:
+    Database& database_;
 };
 
 // Undone at the end of its life unless committed. In a file the writers stand in

@@ -33,8 +33,9 @@ void prepare(Database& database, const PracticeOptions& options) {
         takeTurn(database);
         if (database.isEmpty()) {
             createSchema(database);
+            InsertBatch batch(database);
             insertPracticeData(database, options.seed, todayOf(options));
-            database.closeInserts();
+            batch.finish();
             transaction.commit();
         }
     } catch (const DatabaseError& error) {
