@@ -20,7 +20,10 @@ struct Raw {
     std::string lines;
     std::string height;
     std::string codePage = "1252";
-    std::string pitch = "10";
+    std::string pitch;
+    std::string items;
+    std::string port;
+    std::string endAfter;
     std::string needles = "9";
     std::string carriage = "136";
 };
@@ -79,7 +82,8 @@ std::optional<Ending> readForm(const Raw& raw, dotmatrix::Dialect& dialect) {
     return std::nullopt;
 }
 
-std::optional<Ending> readPanel(const Raw& raw, dotmatrix::Dialect& dialect) {
+std::optional<Ending> readPanel(const Raw& raw, Options& options) {
+    dotmatrix::Dialect& dialect = options.dialect;
     const auto pageNumber = numberOf(raw.codePage);
     const bool known = raw.codePage == "1252" || raw.codePage == "850" || raw.codePage == "860";
     const auto page = known ? codePageByNumber(static_cast<int>(*pageNumber)) : std::nullopt;
@@ -87,7 +91,8 @@ std::optional<Ending> readPanel(const Raw& raw, dotmatrix::Dialect& dialect) {
         return wrong("--pagina-de-codigo pede 1252, 850 ou 860.");
     }
     dialect.codePage = *page;
-    if (raw.pitch != "10" && raw.pitch != "12" && raw.pitch != "17" && raw.pitch != "20") {
+    options.ownPitch = !raw.pitch.empty();
+    if (options.ownPitch && raw.pitch != "10" && raw.pitch != "12" && raw.pitch != "17" && raw.pitch != "20") {
         return wrong("--passo pede 10, 12, 17 ou 20.");
     }
     dialect.elite = raw.pitch == "12" || raw.pitch == "20";
@@ -101,7 +106,42 @@ std::optional<Ending> readPanel(const Raw& raw, dotmatrix::Dialect& dialect) {
         return wrong("--carro pede 80 ou 136.");
     }
     dialect.carriageWidth = (raw.carriage == "80" ? 80 : 136) * kUnitsPerInch / 10;
+    options.ownHeight = !raw.lines.empty() || !raw.height.empty();
     return readForm(raw, dialect);
+}
+
+// A whole number from `least` to `most`.
+std::optional<int> wholeOf(const std::string& text, int least, int most) {
+    const auto number = numberOf(text);
+    const bool whole =
+        number && *number == std::floor(*number) && *number >= least && *number <= most;
+    return whole ? std::optional(static_cast<int>(*number)) : std::nullopt;
+}
+
+std::optional<Ending> readRest(const Raw& raw, Options& options) {
+    constexpr int kMostItems = 100;
+    constexpr int kMostJobs = 1'000'000;
+    if (!raw.items.empty()) {
+        options.itemLines = wholeOf(raw.items, 0, kMostItems);
+        if (!options.itemLines) {
+            return wrong("--itens pede um número inteiro de 0 a 100.");
+        }
+    }
+    if (!raw.port.empty()) {
+        const auto port = wholeOf(raw.port, 0, 65535);
+        if (!port) {
+            return wrong("--porta pede um número inteiro de 0 a 65535.");
+        }
+        options.port = static_cast<std::uint16_t>(*port);
+    }
+    if (!raw.endAfter.empty()) {
+        const auto jobs = wholeOf(raw.endAfter, 1, kMostJobs);
+        if (!jobs || !options.waits()) {
+            return wrong("--quantos pede um número inteiro de 1 a 1000000, com --porta ou --pasta.");
+        }
+        options.endAfter = static_cast<std::size_t>(*jobs);
+    }
+    return std::nullopt;
 }
 
 void declare(CLI::App& app, Options& options, Raw& raw) {
@@ -122,6 +162,23 @@ void declare(CLI::App& app, Options& options, Raw& raw) {
     app.add_option("--altura", raw.height, "Altura do formulário em polegadas (usual 11)");
     app.add_option("--passo", raw.pitch,
                    "Caracteres por polegada ao ligar: 10 (usual), 12, 17 ou 20");
+    app.add_option("--formulario", options.form,
+                   "Formulário pré-impresso sob o texto: um nome de --formularios, uma figura da "
+                   "folha inteira ou um formulário escrito em texto");
+    app.add_option("--itens", raw.items,
+                   "Linhas de item do formulário (usual: as que enchem 11 polegadas)");
+    app.add_flag("--formularios", options.listForms, "Mostra os nomes dos formulários");
+    app.add_option("--mostra-formulario", options.writtenForm,
+                   "Mostra um formulário escrito em texto, para servir de começo a outro");
+    app.add_flag("--regua", options.ruler, "Desenha os números das linhas e das colunas");
+    app.add_option("--porta", raw.port,
+                   "Recebe trabalhos pela rede nesta porta (0: uma livre); a janela sem mais "
+                   "nada usa 9100");
+    app.add_option("--escutar", options.address,
+                   "Endereço em que recebe (usual 127.0.0.1, só esta máquina)");
+    app.add_option("--pasta", options.folder,
+                   "Imprime os trabalhos (*.prn) desta pasta, e os que chegarem nela");
+    app.add_option("--quantos", raw.endAfter, "Termina depois de tantos trabalhos recebidos");
     app.add_option("--carro", raw.carriage, "Carro da impressora: 136 (usual) ou 80 colunas");
     app.add_option("--agulhas", raw.needles, "Cabeça de 9 (usual) ou 24 agulhas");
     app.add_flag("--faixas", options.bands, "Desenha as faixas claras do papel zebrado");
@@ -145,14 +202,15 @@ std::variant<Options, Ending> readCommandLine(int argc, const char* const* argv)
     } catch (const CLI::ParseError& error) {
         return wrongUsage(error, app);
     }
-    if (auto ending = readPanel(raw, options.dialect)) {
+    if (auto ending = readPanel(raw, options)) {
         return *ending;
     }
-    if (options.pdf.empty() && options.png.empty() && options.text.empty()) {
-        return wrong("diga o que gravar: --pdf ARQUIVO, --png ARQUIVO ou --texto ARQUIVO.");
+    if (auto ending = readRest(raw, options)) {
+        return *ending;
     }
-    if (options.jobs.empty()) {
-        return wrong("diga que trabalho imprimir (um ou mais arquivos .prn).");
+    if (options.writes() && options.jobs.empty() && !options.waits()) {
+        return wrong(
+            "diga que trabalho imprimir: um ou mais arquivos .prn, --porta N ou --pasta DIR.");
     }
     return options;
 }

@@ -1,6 +1,8 @@
 // The command line of tarnimpressora.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -17,6 +19,22 @@ struct Options {
     bool bands = false;
     std::string title;
     dotmatrix::Dialect dialect;
+    bool ownHeight = false;  // the form height, the pitch were told
+    bool ownPitch = false;
+
+    std::string form;  // name or file of the pre-printed form, empty for blank paper
+    std::optional<int> itemLines;
+    bool ruler = false;
+    bool listForms = false;
+    std::string writtenForm;  // to be written to stdout as text
+
+    std::optional<std::uint16_t> port;  // 0: any that is free
+    std::string address = "127.0.0.1";
+    std::string folder;        // whose jobs are printed, empty for none
+    std::size_t endAfter = 0;  // jobs; 0: never
+
+    bool writes() const { return !pdf.empty() || !png.empty() || !text.empty(); }
+    bool waits() const { return port.has_value() || !folder.empty(); }
 };
 
 // Why the program ends here instead: the help was asked for, or the line is wrong.

@@ -8,6 +8,8 @@
 #include "comandos.h"
 #include "mesa.h"
 #include "notes/imprime_nota.h"
+#include "notes/losses.h"
+#include "runtime/erro_execucao.h"
 
 namespace tarn::imprime {
 namespace {
@@ -15,6 +17,7 @@ namespace {
 struct Pedido {
     Sessao sessao;
     bool reimpressao = false;
+    bool confere = false;
     std::string numero;
     std::vector<std::string> arquivos;
 
@@ -34,6 +37,32 @@ void imprime(const Pedido& pedido, Mesa& mesa) {
     for (XmlDocument& documento : documentos) {
         imprimeNota(pedido.escada(), ambiente, pedido.sessao, documento, pedido.numero);
     }
+}
+
+// Says what each document loses; true where one loses anything. What was found before an
+// error of the run time is said too.
+bool confere(const Pedido& pedido, Mesa& mesa) {
+    std::vector<XmlDocument> documentos = leRespostas(pedido.arquivos);
+    Environment& ambiente = mesa.ambienteDeConferencia();
+    bool algumaPerda = false;
+    for (std::size_t i = 0; i < documentos.size(); ++i) {
+        notes::LossLog perdas;
+        const auto diz = [&] {
+            for (const notes::Loss& perda : perdas.losses()) {
+                mostra(pedido.arquivos[i] + ": " + describe(perda));
+            }
+        };
+        try {
+            imprimeNota(pedido.escada(), ambiente, pedido.sessao, documentos[i], pedido.numero,
+                        &perdas);
+        } catch (const ErroExecucao&) {
+            diz();
+            throw;
+        }
+        diz();
+        algumaPerda |= !perdas.losses().empty();
+    }
+    return algumaPerda;
 }
 
 // Empty for a file that can't be read: a stream would raise its own error on a directory.
@@ -79,8 +108,17 @@ void declaraNota(CLI::App& app, Escolha& escolha) {
     declaraSessao(*comando, *pedido);
     comando->add_option("--numero", pedido->numero, "Número da nota")->required();
     comando->add_option("documentos", pedido->arquivos, "Documentos de nota (DOC.xml)")->required();
-    comando->callback(
-        [&escolha, pedido] { escolha.faz = [pedido](Mesa& mesa) { imprime(*pedido, mesa); }; });
+    comando->add_flag("--confere", pedido->confere,
+                      "Não imprime: diz o que a nota perde no seu formulário (status 4 se perde)");
+    comando->callback([&escolha, pedido] {
+        escolha.faz = [&escolha, pedido](Mesa& mesa) {
+            if (!pedido->confere) {
+                imprime(*pedido, mesa);
+            } else if (confere(*pedido, mesa)) {
+                escolha.status = statusPerda;
+            }
+        };
+    });
 }
 
 void declaraEscada(CLI::App& app, Escolha& escolha) {

@@ -17,6 +17,7 @@ namespace tarn::imprime {
 class Mesa;
 
 inline constexpr int statusFeito = 0;
+inline constexpr int statusPerda = 4;  // a note that was looked over loses something
 inline constexpr int statusUso = 1;  // wrong usage, unreadable input, nowhere to print
 
 // Ends the program with `statusUso`; the text (Portuguese) goes to stderr.
@@ -33,11 +34,17 @@ struct Geral {
 
 struct Escolha {
     std::function<void(Mesa&)> faz;
+    int status = statusFeito;  // of a command that went through
 };
 
 void declaraNota(CLI::App& app, Escolha& escolha);
 void declaraEscada(CLI::App& app, Escolha& escolha);
+void declaraDuplicatas(CLI::App& app, Escolha& escolha);
 void declaraOrdem(CLI::App& app, Escolha& escolha);
+void declaraBoletos(CLI::App& app, Escolha& escolha);
+void declaraEtiquetas(CLI::App& app, Escolha& escolha);
+void declaraEtiquetasSelecao(CLI::App& app, Escolha& escolha);
+void declaraCheque(CLI::App& app, Escolha& escolha);
 void declaraRegras(CLI::App& app, Escolha& escolha);
 
 // A required code: an option when `nome` begins with "--", a value otherwise. Zeros in

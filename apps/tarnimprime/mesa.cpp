@@ -12,6 +12,23 @@
 namespace tarn::imprime {
 namespace {
 
+class SemPapel : public Spooler {
+public:
+    std::string defaultPrinter() override { return "nenhuma"; }
+    bool openPrinter(const std::string&) override { return true; }
+    bool startDocument(const JobDescription&) override { return true; }
+    bool startPage() override { return true; }
+    std::size_t write(std::string_view bytes) override { return bytes.size(); }
+    bool endPage() override { return true; }
+    bool endDocument() override { return true; }
+    bool closePrinter() override { return true; }
+};
+
+class SemPaginas : public Printer {
+public:
+    std::optional<PrinterFailure> perform(const PrintOperation&) override { return std::nullopt; }
+};
+
 CodePage paginaDe(const std::string& numero) {
     for (const int conhecida : {1252, 850, 860}) {
         if (numero == std::to_string(conhecida)) {
@@ -70,13 +87,37 @@ void Mesa::preparaImpressora() {
     paginas_ = std::make_unique<PaginasSemJanela>(nullptr);
 }
 
+void Mesa::preparaNada() {
+    spooler_ = std::make_unique<SemPapel>();
+    paginas_ = std::make_unique<SemPaginas>();
+}
+
+CodePage Mesa::confereOpcoes() const {
+    const CodePage pagina = paginaDe(geral_.paginaDeCodigo);
+    if (geral_.formato != "pdf" && geral_.formato != "ops") {
+        throw FalhaDeUso("--formato pede pdf ou ops.");
+    }
+    return pagina;
+}
+
 Environment& Mesa::ambiente() {
+    const CodePage pagina = confereOpcoes();
     if (!ambiente_) {
-        const CodePage pagina = paginaDe(geral_.paginaDeCodigo);
-        if (geral_.formato != "pdf" && geral_.formato != "ops") {
-            throw FalhaDeUso("--formato pede pdf ou ops.");
-        }
         geral_.destino ? preparaPasta() : preparaImpressora();
+    }
+    return monta(pagina);
+}
+
+Environment& Mesa::ambienteDeConferencia() {
+    const CodePage pagina = confereOpcoes();
+    if (!ambiente_) {
+        geral_.destino ? preparaPasta() : preparaNada();
+    }
+    return monta(pagina);
+}
+
+Environment& Mesa::monta(CodePage pagina) {
+    if (!ambiente_) {
         ambiente_ = std::make_unique<Environment>(Environment{.http = servidor_,
                                                               .spooler = *spooler_,
                                                               .printer = *paginas_,

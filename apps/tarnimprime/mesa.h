@@ -43,10 +43,18 @@ public:
 
     // For printing; FalhaDeUso when there is nowhere to print.
     Environment& ambiente();
+    // Directory of the jobs, if they go into one.
+    const std::optional<std::string>& destino() const { return geral_.destino; }
+    // For looking at what would print: as `ambiente` where a directory was told, else
+    // nothing is printed.
+    Environment& ambienteDeConferencia();
 
 private:
     void preparaPasta();
     void preparaImpressora();
+    void preparaNada();
+    Environment& monta(CodePage pagina);
+    CodePage confereOpcoes() const;
 
     const Geral& geral_;
     SemServidor servidor_;

@@ -6,23 +6,36 @@
 namespace tarn::dotmatrix {
 
 ContinuousPaper::ContinuousPaper(PaperUnits formHeight)
-    : formHeight_(std::max<PaperUnits>(formHeight, 1)) {
-    startForm(0);
+    : formHeight_(std::max<PaperUnits>(formHeight, 1)), forms_({0, formHeight_}) {}
+
+ContinuousPaper::ContinuousPaper(const PaperPosition& position)
+    : formHeight_(position.formHeight),
+      y_(position.y),
+      row_(position.row),
+      job_(position.job),
+      jobLine_(position.jobLine),
+      forms_(position.shape, position.form) {}
+
+PaperPosition ContinuousPaper::position() const {
+    return {.form = currentForm(),
+            .shape = forms_.back(),
+            .formHeight = formHeight_,
+            .y = y_,
+            .row = row_,
+            .job = job_,
+            .jobLine = jobLine_};
 }
 
-void ContinuousPaper::startJob(std::string name) {
-    jobs_.push_back(std::move(name));
+void ContinuousPaper::startJob() {
+    ++job_;
     jobLine_ = 1;
-}
-
-void ContinuousPaper::startForm(PaperUnits top) {
-    forms_.push_back({top, formHeight_});
 }
 
 void ContinuousPaper::crossPerforations() {
     while (y_ >= forms_.back().top + forms_.back().height) {
-        startForm(forms_.back().top + forms_.back().height);
+        forms_.append(formHeight_);
         row_ = 0;
+        cellsOnForm_ = 0;
     }
 }
 
@@ -47,26 +60,37 @@ void ContinuousPaper::feedToNextForm() {
 void ContinuousPaper::setFormHeight(PaperUnits height) {
     formHeight_ = height;
     if (y_ == forms_.back().top) {
-        forms_.back().height = height;
+        forms_.setLastHeight(height);
         return;
     }
-    forms_.back().height = y_ - forms_.back().top;
-    startForm(y_);
+    forms_.setLastHeight(y_ - forms_.back().top);
+    forms_.append(height);
     row_ = 0;
+    cellsOnForm_ = 0;
     for (auto line = lines_.rbegin(); line != lines_.rend() && line->y == y_; ++line) {
-        line->form = forms_.size() - 1;
+        line->form = currentForm();
         line->row = 0;
+        cellsOnForm_ += line->cells.size();
+        printedForms_ = forms_.size();
     }
+}
+
+void ContinuousPaper::forgetFormsBefore(std::size_t form) {
+    lines_.erase(lines_.begin(), lines_.begin() + static_cast<std::ptrdiff_t>(firstLineOf(form)));
 }
 
 void ContinuousPaper::print(const Cell& cell, std::uint16_t columnsBefore) {
     const bool goesOn = !lines_.empty() && lines_.back().y == y_ && lines_.back().row == row_ &&
                         lines_.back().job == currentJob() && lines_.back().jobLine == jobLine_ &&
                         lines_.back().columnsBefore == columnsBefore;
+    contentWidth_ = std::max<PaperUnits>(contentWidth_, cell.x + cell.width);
+    if (++cellsOnForm_ > kMostCellsOnForm) {
+        return;
+    }
     if (!goesOn) {
         PaperLine line;
         line.y = y_;
-        line.form = forms_.size() - 1;
+        line.form = currentForm();
         line.row = row_;
         line.job = currentJob();
         line.jobLine = jobLine_;
@@ -74,11 +98,7 @@ void ContinuousPaper::print(const Cell& cell, std::uint16_t columnsBefore) {
         lines_.push_back(std::move(line));
     }
     lines_.back().cells.push_back(cell);
-    contentWidth_ = std::max<PaperUnits>(contentWidth_, cell.x + cell.width);
-}
-
-std::size_t ContinuousPaper::printedForms() const {
-    return lines_.empty() ? 1 : lines_.back().form + 1;
+    printedForms_ = forms_.size();
 }
 
 std::size_t ContinuousPaper::firstLineOf(std::size_t form) const {

@@ -1,21 +1,15 @@
 // The paper that has come out of the printer: one endless strip, parted into
-// forms by perforations, with every character where its needles struck.
-//
-// Lengths are whole numbers of 1/2160 inch: the pitches of these printers (10, 12,
-// 15, 17.14 and 20 characters an inch) and their feeds (1/72, 1/180 and 1/216 inch)
-// are all exact in it. x counts from the first print position, y from the top of
-// the first form.
+// forms by perforations, with every character where its needles struck. x counts from
+// the first print position.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <vector>
 
-namespace tarn::dotmatrix {
+#include "dotmatrix/form_table.h"
 
-using PaperUnits = std::int64_t;
-inline constexpr PaperUnits kUnitsPerInch = 2160;
+namespace tarn::dotmatrix {
 
 enum Style : std::uint8_t {
     kPlain = 0,
@@ -46,18 +40,30 @@ struct PaperLine {
     std::vector<Cell> cells;  // in the order of printing; an overprint stands later
 };
 
-struct Form {
-    PaperUnits top = 0;
-    PaperUnits height = 0;
+// Where the printer stands on the paper, for going on from there later.
+struct PaperPosition {
+    std::size_t form = 0;  // from 0
+    Form shape{};          // of that form
+    PaperUnits formHeight = 0;
+    PaperUnits y = 0;
+    std::size_t row = 0;
+    std::size_t job = 0;
+    std::size_t jobLine = 1;
 };
+
+// Characters that one form keeps; what is printed over a form that is this black
+// already is not kept. A form has room for less than a tenth of it.
+inline constexpr std::size_t kMostCellsOnForm = 200'000;
 
 class ContinuousPaper {
 public:
     // `formHeight` is above 0; the paper begins with one empty form.
     explicit ContinuousPaper(PaperUnits formHeight);
+    // Goes on from a position; what was printed before it is not on this paper.
+    explicit ContinuousPaper(const PaperPosition& position);
 
     // A new job goes on where the paper stands; the first job is 1.
-    void startJob(std::string name);
+    void startJob();
     // Feeds one row of `distance` (0 and up), over perforations where it must.
     void feedRow(PaperUnits distance);
     // Feeds without a new row being counted, as a fine adjustment does.
@@ -72,15 +78,18 @@ public:
     PaperUnits y() const { return y_; }
     PaperUnits formHeight() const { return formHeight_; }
     std::size_t jobLine() const { return jobLine_; }
-    std::size_t currentJob() const { return jobs_.size(); }
-    const std::vector<std::string>& jobs() const { return jobs_; }
-    const std::vector<Form>& forms() const { return forms_; }
+    std::size_t currentJob() const { return job_; }
+    std::size_t currentForm() const { return forms_.size() - 1; }
+    PaperPosition position() const;
+    const FormTable& forms() const { return forms_; }
     // In the order of printing: ascending by y, forms in order.
     const std::vector<PaperLine>& lines() const { return lines_; }
+    // Lets go of what stands on the forms before this one; their shapes stay known.
+    void forgetFormsBefore(std::size_t form);
 
     // Forms up to the last on which something is printed, 1 at least: a job whose last
     // line end just reaches the next form doesn't spoil a sheet.
-    std::size_t printedForms() const;
+    std::size_t printedForms() const { return printedForms_; }
     // Index range [first, last) in lines() of what stands on a form.
     std::size_t firstLineOf(std::size_t form) const;
     // Right edge of the rightmost character.
@@ -91,16 +100,17 @@ public:
     char16_t characterAt(std::size_t job, std::size_t jobLine, std::size_t column) const;
 
 private:
-    void startForm(PaperUnits top);
     void crossPerforations();
 
     PaperUnits formHeight_;
     PaperUnits y_ = 0;
     std::size_t row_ = 0;
+    std::size_t job_ = 0;
     std::size_t jobLine_ = 1;
     PaperUnits contentWidth_ = 0;
-    std::vector<std::string> jobs_;
-    std::vector<Form> forms_;
+    std::size_t printedForms_ = 1;
+    std::size_t cellsOnForm_ = 0;
+    FormTable forms_;
     std::vector<PaperLine> lines_;
 };
 

@@ -47,14 +47,20 @@ EscpInterpreter::EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect)
     reset();
 }
 
-void EscpInterpreter::startJob(std::string name) {
-    paper_.startJob(std::move(name));
-    columnsBefore_ = static_cast<std::uint16_t>(column_ - 1);
+EscpInterpreter::EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect,
+                                 PrinterState state)
+    : paper_(paper), dialect_(dialect), state_(std::move(state)) {
+    dialect_.carriageWidth = std::max(dialect_.carriageWidth, kNarrowestCarriage);
+}
+
+void EscpInterpreter::startJob() {
+    paper_.startJob();
+    state_.columnsBefore = static_cast<std::uint16_t>(state_.column - 1);
 }
 
 void EscpInterpreter::feed(std::string_view bytes) {
     if (paper_.currentJob() == 0) {
-        startJob({});
+        startJob();
     }
     for (const char c : bytes) {
         take(static_cast<std::uint8_t>(c));
@@ -62,7 +68,7 @@ void EscpInterpreter::feed(std::string_view bytes) {
 }
 
 void EscpInterpreter::take(std::uint8_t byte) {
-    switch (waiting_) {
+    switch (state_.waiting) {
         case Waiting::Text:
             takeText(byte);
             break;
@@ -78,8 +84,8 @@ void EscpInterpreter::take(std::uint8_t byte) {
             }
             break;
         case Waiting::Data:
-            if (--missing_ == 0) {
-                waiting_ = Waiting::Text;
+            if (--state_.missing == 0) {
+                state_.waiting = Waiting::Text;
             }
             break;
     }
@@ -114,26 +120,26 @@ void EscpInterpreter::takeControl(std::uint8_t code, std::uint8_t byte) {
         case kFormFeed:
             paper_.feedToNextForm();
             carriageReturn();
-            mode_.wideLine = false;
+            state_.mode.wideLine = false;
             break;
         case kCarriageReturn:
             carriageReturn();
             break;
         case kShiftOut:
-            mode_.wideLine = true;
+            state_.mode.wideLine = true;
             break;
         case kDeviceControl4:
-            mode_.wideLine = false;
+            state_.mode.wideLine = false;
             break;
         case kShiftIn:
-            mode_.condensed = true;
+            state_.mode.condensed = true;
             break;
         case kDeviceControl2:
-            mode_.condensed = false;
+            state_.mode.condensed = false;
             break;
         case kEscape:
-            command_.assign(1, static_cast<char>(byte));
-            waiting_ = Waiting::Escape;
+            state_.command.assign(1, static_cast<char>(byte));
+            state_.waiting = Waiting::Escape;
             break;
         default:
             note(NoticeKind::UnknownControl, std::string(1, static_cast<char>(byte)));
@@ -142,7 +148,7 @@ void EscpInterpreter::takeControl(std::uint8_t code, std::uint8_t byte) {
 }
 
 void EscpInterpreter::takeEscape(std::uint8_t byte) {
-    command_ += static_cast<char>(byte);
+    state_.command += static_cast<char>(byte);
     std::uint8_t code = byte;
     if (hasUpperControls(dialect_.codePage) && byte >= 0x80 && byte < 0xA0) {
         code = static_cast<std::uint8_t>(byte - 0x80);
@@ -151,22 +157,22 @@ void EscpInterpreter::takeEscape(std::uint8_t byte) {
         // Forms are in use whose set-up reads ESC ESC G and wants double strike, so the
         // first ESC is the one that is dropped. A printer that drops the pair prints "G"
         // instead; the notice tells where.
-        note(NoticeKind::RepeatedEscape, command_);
-        command_.assign(1, static_cast<char>(byte));
+        note(NoticeKind::RepeatedEscape, state_.command);
+        state_.command.assign(1, static_cast<char>(byte));
         return;
     }
     const auto shape = shapeOf(code);
     if (!shape) {
-        note(NoticeKind::UnknownCommand, command_);
-        waiting_ = Waiting::Text;
+        note(NoticeKind::UnknownCommand, state_.command);
+        state_.waiting = Waiting::Text;
         return;
     }
-    shape_ = *shape;
-    missing_ = shape_.parameters;
-    waiting_ = Waiting::Parameters;
-    if (missing_ == 0) {
-        if (shape_.tail == Tail::UntilNul) {
-            waiting_ = Waiting::ListEnd;
+    state_.shape = *shape;
+    state_.missing = state_.shape.parameters;
+    state_.waiting = Waiting::Parameters;
+    if (state_.missing == 0) {
+        if (state_.shape.tail == Tail::UntilNul) {
+            state_.waiting = Waiting::ListEnd;
         } else {
             finishCommand();
         }
@@ -174,84 +180,84 @@ void EscpInterpreter::takeEscape(std::uint8_t byte) {
 }
 
 void EscpInterpreter::takeParameter(std::uint8_t byte) {
-    command_ += static_cast<char>(byte);
-    if (shape_.code == 'C' && command_.size() == 3 && byte == 0) {
+    state_.command += static_cast<char>(byte);
+    if (state_.shape.code == 'C' && state_.command.size() == 3 && byte == 0) {
         return;  // the length in inches follows
     }
-    if (--missing_ > 0) {
+    if (--state_.missing > 0) {
         return;
     }
-    if (shape_.tail == Tail::UntilNul) {
-        waiting_ = Waiting::ListEnd;
+    if (state_.shape.tail == Tail::UntilNul) {
+        state_.waiting = Waiting::ListEnd;
     } else {
         finishCommand();
     }
 }
 
 void EscpInterpreter::finishCommand() {
-    waiting_ = Waiting::Text;
-    if (shape_.drawn) {
+    state_.waiting = Waiting::Text;
+    if (state_.shape.drawn) {
         execute();
         return;
     }
-    note(NoticeKind::NotDrawn, command_);
-    if (shape_.tail != Tail::Data) {
+    note(NoticeKind::NotDrawn, state_.command);
+    if (state_.shape.tail != Tail::Data) {
         return;
     }
-    const auto low = static_cast<std::uint8_t>(command_[command_.size() - 2]);
-    const auto high = static_cast<std::uint8_t>(command_[command_.size() - 1]);
-    missing_ = low + 256U * high;
-    if (shape_.code == '*' && static_cast<std::uint8_t>(command_[2]) >= 32) {
-        missing_ *= 3;  // columns of 24 needles
-    } else if (shape_.code == '^') {
-        missing_ *= 2;  // columns of 9 needles
+    const auto low = static_cast<std::uint8_t>(state_.command[state_.command.size() - 2]);
+    const auto high = static_cast<std::uint8_t>(state_.command[state_.command.size() - 1]);
+    state_.missing = low + 256U * high;
+    if (state_.shape.code == '*' && static_cast<std::uint8_t>(state_.command[2]) >= 32) {
+        state_.missing *= 3;  // columns of 24 needles
+    } else if (state_.shape.code == '^') {
+        state_.missing *= 2;  // columns of 9 needles
     }
-    if (missing_ > 0) {
-        waiting_ = Waiting::Data;
+    if (state_.missing > 0) {
+        state_.waiting = Waiting::Data;
     }
 }
 
 void EscpInterpreter::execute() {
-    const auto parameter = static_cast<std::uint8_t>(command_.back());
-    switch (shape_.code) {
+    const auto parameter = static_cast<std::uint8_t>(state_.command.back());
+    switch (state_.shape.code) {
         case kShiftOut:
-            mode_.wideLine = true;
+            state_.mode.wideLine = true;
             break;
         case kShiftIn:
-            mode_.condensed = true;
+            state_.mode.condensed = true;
             break;
         case 'M':
-            mode_.elite = true;
-            mode_.micron = false;
+            state_.mode.elite = true;
+            state_.mode.micron = false;
             break;
         case 'P':
-            mode_.elite = false;
-            mode_.micron = false;
+            state_.mode.elite = false;
+            state_.mode.micron = false;
             break;
         case 'g':
-            mode_.micron = true;
+            state_.mode.micron = true;
             break;
         case 'E':
         case 'F':
-            mode_.setStyle(kEmphasised, shape_.code == 'E');
+            state_.mode.setStyle(kEmphasised, state_.shape.code == 'E');
             break;
         case 'G':
         case 'H':
-            mode_.setStyle(kDoubleStrike, shape_.code == 'G');
+            state_.mode.setStyle(kDoubleStrike, state_.shape.code == 'G');
             break;
         case '4':
         case '5':
-            mode_.setStyle(kItalic, shape_.code == '4');
+            state_.mode.setStyle(kItalic, state_.shape.code == '4');
             break;
         case '-':
-            mode_.setStyle(kUnderlined, isOn(parameter));
+            state_.mode.setStyle(kUnderlined, isOn(parameter));
             break;
         case 'W':
-            mode_.wide = isOn(parameter);
-            mode_.wideLine = false;
+            state_.mode.wide = isOn(parameter);
+            state_.mode.wideLine = false;
             break;
         case '!':
-            mode_.select(parameter);
+            state_.mode.select(parameter);
             break;
         case '@':
             reset();
@@ -265,31 +271,31 @@ void EscpInterpreter::execute() {
 void EscpInterpreter::executeFeed(std::uint8_t parameter) {
     const bool nine = dialect_.needles == Needles::Nine;
     const PaperUnits fine = kUnitsPerInch / (nine ? 216 : 180);
-    switch (shape_.code) {
+    switch (state_.shape.code) {
         case '0':
-            lineSpacing_ = kUnitsPerInch / 8;
+            state_.lineSpacing = kUnitsPerInch / 8;
             break;
         case '1':
-            lineSpacing_ = kUnitsPerInch * 7 / 72;
+            state_.lineSpacing = kUnitsPerInch * 7 / 72;
             break;
         case '2':
-            lineSpacing_ = kUnitsPerInch / 6;
+            state_.lineSpacing = kUnitsPerInch / 6;
             break;
         case 'A':
             if (parameter > kMaxSpacing) {
-                note(NoticeKind::BadParameter, command_);
+                note(NoticeKind::BadParameter, state_.command);
             } else {
-                lineSpacing_ = parameter * (kUnitsPerInch / (nine ? 72 : 60));
+                state_.lineSpacing = parameter * (kUnitsPerInch / (nine ? 72 : 60));
             }
             break;
         case '3':
-            lineSpacing_ = parameter * fine;
+            state_.lineSpacing = parameter * fine;
             break;
         case 'J':
             paper_.feedFine(parameter * fine);
             break;
         case 'C':
-            if (command_.size() == 3) {
+            if (state_.command.size() == 3) {
                 setFormLines(parameter);
             } else {
                 setFormInches(parameter);
@@ -301,10 +307,10 @@ void EscpInterpreter::executeFeed(std::uint8_t parameter) {
 }
 
 void EscpInterpreter::setFormLines(std::uint8_t lines) {
-    const PaperUnits height = lines * lineSpacing_;
+    const PaperUnits height = lines * state_.lineSpacing;
     if (lines > kMaxFormLines || height < kShortestForm ||
         height > kMaxFormInches * kUnitsPerInch) {
-        note(NoticeKind::BadParameter, command_);
+        note(NoticeKind::BadParameter, state_.command);
         return;
     }
     paper_.setFormHeight(height);
@@ -312,18 +318,18 @@ void EscpInterpreter::setFormLines(std::uint8_t lines) {
 
 void EscpInterpreter::setFormInches(std::uint8_t inches) {
     if (inches < 1 || inches > kMaxFormInches) {
-        note(NoticeKind::BadParameter, command_);
+        note(NoticeKind::BadParameter, state_.command);
         return;
     }
     paper_.setFormHeight(inches * kUnitsPerInch);
 }
 
 void EscpInterpreter::reset() {
-    mode_ = {};
-    mode_.elite = dialect_.elite;
-    mode_.condensed = dialect_.condensed;
-    mode_.eliteOverridesCondensed = dialect_.eliteOverridesCondensed;
-    lineSpacing_ = kUnitsPerInch / 6;
+    state_.mode = {};
+    state_.mode.elite = dialect_.elite;
+    state_.mode.condensed = dialect_.condensed;
+    state_.mode.eliteOverridesCondensed = dialect_.eliteOverridesCondensed;
+    state_.lineSpacing = kUnitsPerInch / 6;
     carriageReturn();
     // The paper stays where it is; only a changed form length starts a new form here.
     if (paper_.formHeight() != dialect_.formHeight) {
@@ -332,8 +338,8 @@ void EscpInterpreter::reset() {
 }
 
 void EscpInterpreter::printCharacter(char16_t character) {
-    const std::uint16_t width = mode_.cellWidth();
-    if (x_ + width > dialect_.carriageWidth) {
+    const std::uint16_t width = state_.mode.cellWidth();
+    if (state_.x + width > dialect_.carriageWidth) {
         note(NoticeKind::PastRightMargin, {});
         newLine();
         // The end of the line may have ended double width, so the cell is measured anew.
@@ -341,57 +347,57 @@ void EscpInterpreter::printCharacter(char16_t character) {
         return;
     }
     const bool isBlank = character == u' ' || character == u'\u00A0';
-    if (!isBlank || (mode_.style & kUnderlined) != 0) {
+    if (!isBlank || (state_.mode.style & kUnderlined) != 0) {
         Cell cell;
-        cell.x = static_cast<std::int32_t>(x_);
+        cell.x = static_cast<std::int32_t>(state_.x);
         cell.width = width;
-        cell.column = column_;
+        cell.column = state_.column;
         cell.character = isBlank ? u' ' : character;
-        cell.style = mode_.style;
-        paper_.print(cell, columnsBefore_);
+        cell.style = state_.mode.style;
+        paper_.print(cell, state_.columnsBefore);
     }
-    x_ += width;
+    state_.x += width;
     passColumns(1);
 }
 
 void EscpInterpreter::passColumns(PaperUnits count) {
-    column_ = static_cast<std::uint16_t>(std::min<PaperUnits>(column_ + count, kMaxColumn));
+    state_.column = static_cast<std::uint16_t>(std::min<PaperUnits>(state_.column + count, kMaxColumn));
 }
 
 void EscpInterpreter::newLine() {
-    paper_.feedRow(lineSpacing_);
+    paper_.feedRow(state_.lineSpacing);
     carriageReturn();
-    mode_.wideLine = false;
+    state_.mode.wideLine = false;
 }
 
 void EscpInterpreter::carriageReturn() {
-    x_ = 0;
-    column_ = 1;
-    columnsBefore_ = 0;
+    state_.x = 0;
+    state_.column = 1;
+    state_.columnsBefore = 0;
 }
 
 void EscpInterpreter::horizontalTab() {
-    const PaperUnits width = mode_.cellWidth();
+    const PaperUnits width = state_.mode.cellWidth();
     const PaperUnits stride = kTabColumns * width;
-    const PaperUnits stop = (x_ / stride + 1) * stride;
+    const PaperUnits stop = (state_.x / stride + 1) * stride;
     if (stop > dialect_.carriageWidth) {
         return;  // no stop is left in this line
     }
-    passColumns((stop - x_ + width - 1) / width);
-    x_ = stop;
+    passColumns((stop - state_.x + width - 1) / width);
+    state_.x = stop;
 }
 
 void EscpInterpreter::backspace() {
-    if (column_ == 1) {
+    if (state_.column == 1) {
         return;
     }
-    x_ = std::max<PaperUnits>(x_ - mode_.cellWidth(), 0);
-    --column_;
+    state_.x = std::max<PaperUnits>(state_.x - state_.mode.cellWidth(), 0);
+    --state_.column;
 }
 
 void EscpInterpreter::note(NoticeKind kind, std::string bytes) {
     notices_.add({kind, paper_.currentJob(), paper_.jobLine(),
-                  static_cast<std::size_t>(column_ - columnsBefore_), std::move(bytes)});
+                  static_cast<std::size_t>(state_.column - state_.columnsBefore), std::move(bytes)});
 }
 
 }  // namespace tarn::dotmatrix

@@ -17,19 +17,38 @@
 
 namespace tarn::dotmatrix {
 
+// Everything that the bytes so far have set in the printer, but for the paper.
+struct PrinterState {
+    enum class Waiting { Text, Escape, Parameters, ListEnd, Data };
+
+    PrintMode mode;
+    PaperUnits lineSpacing = kUnitsPerInch / 6;
+    PaperUnits x = 0;                 // of the head
+    std::uint16_t column = 1;         // printed characters since the left margin, from 1
+    std::uint16_t columnsBefore = 0;  // as in PaperLine
+
+    Waiting waiting = Waiting::Text;
+    CommandShape shape;
+    std::string command;  // the bytes of the command so far, ESC first
+    std::size_t missing = 0;
+};
+
 class EscpInterpreter {
 public:
     // The paper must have been made with the dialect's form height and outlive this.
     EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect);
+    // Goes on with a printer in that state; the paper must stand where it stood then.
+    EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect, PrinterState state);
 
     // A new job goes on where the head stands, also in the middle of a line.
-    void startJob(std::string name);
+    void startJob();
     void feed(std::string_view bytes);
 
+    const PrinterState& state() const { return state_; }
     const NoticeLog& notices() const { return notices_; }
 
 private:
-    enum class Waiting { Text, Escape, Parameters, ListEnd, Data };
+    using Waiting = PrinterState::Waiting;
 
     void take(std::uint8_t byte);
     void takeText(std::uint8_t byte);
@@ -53,16 +72,7 @@ private:
     ContinuousPaper& paper_;
     Dialect dialect_;
     NoticeLog notices_;
-    PrintMode mode_;
-    PaperUnits lineSpacing_ = kUnitsPerInch / 6;
-    PaperUnits x_ = 0;
-    std::uint16_t column_ = 1;
-    std::uint16_t columnsBefore_ = 0;
-
-    Waiting waiting_ = Waiting::Text;
-    CommandShape shape_;
-    std::string command_;  // the bytes of the command so far, ESC first
-    std::size_t missing_ = 0;
+    PrinterState state_;
 };
 
 }  // namespace tarn::dotmatrix

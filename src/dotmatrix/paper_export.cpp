@@ -24,31 +24,40 @@ double heightInPoints(const Form& form) {
     return static_cast<double>(form.height) * kPointsPerInch / static_cast<double>(kUnitsPerInch);
 }
 
-QPageSize pageSize(const Sheet& sheet, const Form& form) {
-    return QPageSize(QSizeF(sheet.width * kPointsPerInch,
-                            std::max(kLowestPage, std::round(heightInPoints(form)))),
-                     QPageSize::Point, QString(), QPageSize::ExactMatch);
+bool goesOn(const WriteProgress& progress, std::size_t form) {
+    return !progress || progress(form);
 }
 
-bool paintPages(QPdfWriter& writer, const ContinuousPaper& paper, const PaperPainter& drawing) {
+QString stopped() {
+    return QStringLiteral("interrompido");
+}
+
+// What failed, empty for nothing.
+QString paintPages(QPdfWriter& writer, const PaperPages& paper, const PaperPainter& drawing,
+                   const WriteProgress& progress) {
     QPainter painter;
-    for (std::size_t form = 0; form < paper.printedForms(); ++form) {
-        writer.setPageSize(pageSize(drawing.sheet(), paper.forms()[form]));
+    for (std::size_t form = 0; form < paper.count; ++form) {
+        if (!goesOn(progress, form)) {
+            return stopped();
+        }
+        const auto page = paper.page(form);
+        writer.setPageSize(QPageSize(pageSizeInPoints(drawing.sheet(), page->shape),
+                                     QPageSize::Point, QString(), QPageSize::ExactMatch));
         if (!(form == 0 ? painter.begin(&writer) : writer.newPage())) {
-            return false;
+            return QStringLiteral("o arquivo não aceita páginas");
         }
         painter.save();
         painter.scale(kPdfDotsPerInch / kPointsPerInch, kPdfDotsPerInch / kPointsPerInch);
-        drawing.paintForm(painter, paper, form);
+        drawing.paintForm(painter, *page);
         painter.restore();
     }
-    return painter.end();
+    return painter.end() ? QString() : QStringLiteral("o arquivo não foi terminado");
 }
 
-QImage pictureOf(const ContinuousPaper& paper, const PaperPainter& drawing, std::size_t form) {
+QImage pictureOf(const FormPage& page, const PaperPainter& drawing) {
     constexpr double kDotsPerPoint = kPictureDotsPerInch / kPointsPerInch;
     const int width = qRound(drawing.sheet().width * kPictureDotsPerInch);
-    const int height = std::max(1, qRound(heightInPoints(paper.forms()[form]) * kDotsPerPoint));
+    const int height = std::max(1, qRound(heightInPoints(page.shape) * kDotsPerPoint));
     QImage image(width, height, QImage::Format_RGB32);
     if (image.isNull()) {
         return image;
@@ -60,7 +69,7 @@ QImage pictureOf(const ContinuousPaper& paper, const PaperPainter& drawing, std:
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter.scale(kDotsPerPoint, kDotsPerPoint);
-    drawing.paintForm(painter, paper, form);
+    drawing.paintForm(painter, page);
     return image;
 }
 
@@ -73,8 +82,12 @@ std::optional<QString> commit(QSaveFile& file) {
 
 }  // namespace
 
-std::optional<QString> writePdf(const ContinuousPaper& paper, const PaintOptions& options,
-                                const QString& file) {
+QSizeF pageSizeInPoints(const Sheet& sheet, const Form& form) {
+    return {sheet.width * kPointsPerInch, std::max(kLowestPage, std::round(heightInPoints(form)))};
+}
+
+std::optional<QString> writePdf(const PaperPages& paper, const PaintOptions& options,
+                                const QString& file, const WriteProgress& progress) {
     QSaveFile out(file);
     if (!out.open(QIODevice::WriteOnly)) {
         return out.errorString();
@@ -85,9 +98,10 @@ std::optional<QString> writePdf(const ContinuousPaper& paper, const PaintOptions
         writer.setPageMargins(QMarginsF(0, 0, 0, 0));
         writer.setCreator(QStringLiteral("tarnimpressora"));
         writer.setTitle(QFileInfo(file).completeBaseName());
-        const PaperPainter drawing(sheetFor(paper.contentWidth()), options);
-        if (!paintPages(writer, paper, drawing)) {
-            return out.errorString();
+        const PaperPainter drawing(sheetFor(paper.contentWidth, options), options);
+        if (const QString failure = paintPages(writer, paper, drawing, progress);
+            !failure.isEmpty()) {
+            return out.error() == QFileDevice::NoError ? failure : out.errorString();
         }
     }
     return commit(out);
@@ -103,16 +117,19 @@ QString pictureName(const QString& file, std::size_t form) {
     return stem + QStringLiteral("-%1").arg(form + 1, 3, 10, QLatin1Char('0')) + suffix;
 }
 
-std::optional<QString> writePng(const ContinuousPaper& paper, const PaintOptions& options,
-                                const QString& file) {
-    const PaperPainter drawing(sheetFor(paper.contentWidth()), options);
-    for (std::size_t form = 0; form < paper.printedForms(); ++form) {
+std::optional<QString> writePng(const PaperPages& paper, const PaintOptions& options,
+                                const QString& file, const WriteProgress& progress) {
+    const PaperPainter drawing(sheetFor(paper.contentWidth, options), options);
+    for (std::size_t form = 0; form < paper.count; ++form) {
+        if (!goesOn(progress, form)) {
+            return stopped();
+        }
         QSaveFile out(pictureName(file, form));
         if (!out.open(QIODevice::WriteOnly)) {
             return out.errorString();
         }
         QImageWriter writer(&out, "png");
-        if (!writer.write(pictureOf(paper, drawing, form))) {
+        if (!writer.write(pictureOf(*paper.page(form), drawing))) {
             return writer.errorString();
         }
         if (auto failure = commit(out)) {
@@ -122,13 +139,17 @@ std::optional<QString> writePng(const ContinuousPaper& paper, const PaintOptions
     return std::nullopt;
 }
 
-std::optional<QString> writeText(const ContinuousPaper& paper, const QString& file) {
+std::optional<QString> writeText(const PaperPages& paper, const QString& file) {
     QSaveFile out(file);
     if (!out.open(QIODevice::WriteOnly)) {
         return out.errorString();
     }
-    const std::string text = textOf(paper);
-    out.write(text.data(), static_cast<qint64>(text.size()));
+    std::string text;
+    for (std::size_t form = 0; form < paper.count; ++form) {
+        text.assign(form > 0 ? "\f" : "");
+        appendText(text, *paper.page(form));
+        out.write(text.data(), static_cast<qint64>(text.size()));
+    }
     return commit(out);
 }
 

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "dotmatrix/form_painter.h"
+
 namespace tarn::dotmatrix {
 
 namespace {
@@ -54,7 +56,16 @@ Sheet sheetFor(PaperUnits contentWidth) {
     return sheet;
 }
 
-PaperPainter::PaperPainter(Sheet sheet, PaintOptions options) : sheet_(sheet), options_(options) {
+Sheet sheetFor(PaperUnits contentWidth, const PaintOptions& options) {
+    if (options.design) {
+        for (const FormBox& box : options.design->boxes) {
+            contentWidth = std::max(contentWidth, box.x + box.width);
+        }
+    }
+    return sheetFor(contentWidth);
+}
+
+PaperPainter::PaperPainter(Sheet sheet, PaintOptions options) : sheet_(sheet), options_(std::move(options)) {
     plain_.setFamilies({QStringLiteral("Liberation Mono"), QStringLiteral("DejaVu Sans Mono"),
                         QStringLiteral("Courier New"), QStringLiteral("monospace")});
     plain_.setStyleHint(QFont::Monospace);
@@ -66,13 +77,27 @@ PaperPainter::PaperPainter(Sheet sheet, PaintOptions options) : sheet_(sheet), o
         QFontMetricsF(plain_).horizontalAdvance(QString(kMeasured, QLatin1Char('0'))) / kMeasured;
 }
 
-void PaperPainter::paintForm(QPainter& painter, const ContinuousPaper& paper,
-                             std::size_t form) const {
-    const Form& shape = paper.forms().at(form);
-    paintSheet(painter, static_cast<double>(shape.height) * kPointsPerUnit);
-    const auto& lines = paper.lines();
-    for (std::size_t i = paper.firstLineOf(form); i < lines.size() && lines[i].form == form; ++i) {
-        paintLine(painter, lines[i], static_cast<double>(lines[i].y - shape.top) * kPointsPerUnit);
+void PaperPainter::paintForm(QPainter& painter, const FormPage& page) const {
+    const double height = static_cast<double>(page.shape.height) * kPointsPerUnit;
+    const double strip = sheet_.strip * kPointsPerInch;
+    paintSheet(painter, height);
+    paintPreprinted(painter, height);
+    if (options_.ruler) {
+        paintRuler(painter, page, options_.rulerCell, strip,
+                   sheet_.width * kPointsPerInch - strip);
+    }
+    for (const PaperLine& line : page.lines) {
+        paintLine(painter, line, static_cast<double>(line.y - page.shape.top) * kPointsPerUnit);
+    }
+}
+
+void PaperPainter::paintPreprinted(QPainter& painter, double height) const {
+    if (options_.picture) {
+        paintPicture(painter, *options_.picture,
+                     QRectF(0, 0, sheet_.width * kPointsPerInch, height));
+    }
+    if (options_.design) {
+        paintDesign(painter, *options_.design, sheet_.strip * kPointsPerInch);
     }
 }
 
@@ -117,7 +142,11 @@ void PaperPainter::paintTitle(QPainter& painter, double height) const {
     painter.save();
     painter.setPen(kTitleColour);
     painter.setFont(font);
-    painter.translate(sheet_.strip * kPointsPerInch - kTitleFromEdge, height / 2);
+    // The ruler's line numbers have the left strip.
+    const double fromLeft = options_.ruler
+                                ? (sheet_.width - sheet_.strip) * kPointsPerInch + kTitleFromEdge
+                                : sheet_.strip * kPointsPerInch - kTitleFromEdge;
+    painter.translate(fromLeft, height / 2);
     painter.rotate(-90);
     painter.drawText(QRectF(-height / 2, -kTitlePoints, height, 2.0 * kTitlePoints),
                      Qt::AlignCenter, options_.title);

@@ -3,9 +3,12 @@
 #pragma once
 
 #include <QFont>
+#include <QImage>
 #include <QString>
+#include <memory>
 
-#include "dotmatrix/continuous_paper.h"
+#include "dotmatrix/form_design.h"
+#include "dotmatrix/form_page.h"
 
 class QPainter;
 
@@ -25,8 +28,15 @@ Sheet sheetFor(PaperUnits contentWidth);
 
 struct PaintOptions {
     bool bands = false;  // faint green bands of half an inch
-    QString title;       // written along the left strip of each form, beside the holes
+    QString title{};     // written along a strip of each form, beside the holes
+    bool ruler = false;  // line and column numbers over the print
+    PaperUnits rulerCell = kUnitsPerInch / 10;         // width of a column on an empty form
+    std::shared_ptr<const FormDesign> design{};        // the pre-printed form; none: blank paper
+    std::shared_ptr<const QImage> picture{};           // of the design, null for none
 };
+
+// The sheet for what was printed and for what the form has beside it.
+Sheet sheetFor(PaperUnits contentWidth, const PaintOptions& options);
 
 class PaperPainter {
 public:
@@ -35,10 +45,11 @@ public:
     const Sheet& sheet() const { return sheet_; }
     // One form with its origin, left upper corner of the sheet, at the painter's; the
     // painter's unit must be the point, 1/72 inch.
-    void paintForm(QPainter& painter, const ContinuousPaper& paper, std::size_t form) const;
+    void paintForm(QPainter& painter, const FormPage& page) const;
 
 private:
     void paintSheet(QPainter& painter, double height) const;
+    void paintPreprinted(QPainter& painter, double height) const;
     void paintTitle(QPainter& painter, double height) const;
     void paintLine(QPainter& painter, const PaperLine& line, double y) const;
     void paintRun(QPainter& painter, const QString& text, const Cell& first, double y) const;

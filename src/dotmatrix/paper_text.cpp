@@ -7,7 +7,7 @@ namespace tarn::dotmatrix {
 namespace {
 
 // The character generators hold no character above FFFF and no surrogate.
-void appendUtf8(std::string& out, char16_t c) {
+void appendCharacter(std::string& out, char16_t c) {
     const auto append = [&out](unsigned byte) { out += static_cast<char>(byte); };
     if (c < 0x80) {
         append(c);
@@ -21,6 +21,19 @@ void appendUtf8(std::string& out, char16_t c) {
     }
 }
 
+void appendRow(std::string& out, std::u16string& row) {
+    while (!row.empty() && row.back() == u' ') {
+        row.pop_back();
+    }
+    for (const char16_t c : row) {
+        appendCharacter(out, c);
+    }
+    out += '\n';
+    row.clear();
+}
+
+}  // namespace
+
 void putInto(std::u16string& row, const Cell& cell) {
     const std::size_t index = cell.column - 1U;
     if (row.size() <= index) {
@@ -32,43 +45,32 @@ void putInto(std::u16string& row, const Cell& cell) {
     }
 }
 
-void appendRow(std::string& out, std::u16string& row) {
-    while (!row.empty() && row.back() == u' ') {
-        row.pop_back();
+void appendText(std::string& out, const FormPage& page) {
+    std::u16string row;
+    std::size_t rowsOut = 0;
+    const auto& lines = page.lines;
+    for (std::size_t next = 0; next < lines.size();) {
+        const std::size_t present = lines[next].row;
+        for (; rowsOut < present; ++rowsOut) {
+            out += '\n';
+        }
+        for (; next < lines.size() && lines[next].row == present; ++next) {
+            for (const Cell& cell : lines[next].cells) {
+                putInto(row, cell);
+            }
+        }
+        appendRow(out, row);
+        ++rowsOut;
     }
-    for (const char16_t c : row) {
-        appendUtf8(out, c);
-    }
-    out += '\n';
-    row.clear();
 }
-
-}  // namespace
 
 std::string textOf(const ContinuousPaper& paper) {
     std::string out;
-    std::u16string row;
-    const auto& lines = paper.lines();
-    std::size_t next = 0;
     for (std::size_t form = 0; form < paper.printedForms(); ++form) {
         if (form > 0) {
             out += '\f';
         }
-        std::size_t rowsOut = 0;
-        while (next < lines.size() && lines[next].form == form) {
-            const std::size_t present = lines[next].row;
-            for (; rowsOut < present; ++rowsOut) {
-                out += '\n';
-            }
-            for (; next < lines.size() && lines[next].form == form && lines[next].row == present;
-                 ++next) {
-                for (const Cell& cell : lines[next].cells) {
-                    putInto(row, cell);
-                }
-            }
-            appendRow(out, row);
-            ++rowsOut;
-        }
+        appendText(out, pageOf(paper, form));
     }
     return out;
 }

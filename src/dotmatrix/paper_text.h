@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "dotmatrix/continuous_paper.h"
+#include "dotmatrix/form_page.h"
 
 namespace tarn::dotmatrix {
 
@@ -12,5 +12,10 @@ namespace tarn::dotmatrix {
 // up to the form's last printed row; a form feed (0C) between two forms. Where characters
 // were printed over each other the last one shows, but an underscore or blank hides none.
 std::string textOf(const ContinuousPaper& paper);
+
+// The lines of one form, without the form feed.
+void appendText(std::string& out, const FormPage& page);
+// What stands in one row, without blanks at its end; the cells are of that row.
+void putInto(std::u16string& row, const Cell& cell);
 
 }  // namespace tarn::dotmatrix

@@ -1,5 +1,8 @@
 #include "notes/draw_note.h"
 
+#include <algorithm>
+
+#include "common/falha_impressora.h"
 #include "notes/drawn_form.h"
 #include "notes/fields.h"
 #include "notes/imprime_texto_em.h"
@@ -39,6 +42,12 @@ void drawStep(const DrawnRow& step, Page& page) {
 void drawStep(const DrawnParcels& block, Page& page) {
     const double count = page.run.document.number(Source::QTDE_PARC);
     if (count >= block.limit + 1) {
+        if (page.run.losses != nullptr) {
+            page.run.losses->add({.kind = Loss::Kind::ParcelsOverflow,
+                                  .field = "QTDE_PARC",
+                                  .count = static_cast<int>(std::min<double>(count, 9999)),
+                                  .limit = block.limit});
+        }
         return page.draw(block.message, block.x, block.y, false);
     }
     double y = block.y;
@@ -55,24 +64,34 @@ void drawStep(const DrawnItems& block, Page& page) {
     double y = block.y;
     std::size_t position = firstItem;
     do {
+        if (run.losses != nullptr) {
+            run.losses->item(static_cast<int>(position - firstItem) + 1);
+        }
         run.document.goToItem(position);
         readNumbers(Quantity::Amount, true, run);
         page.draw(block.row, block.x, y);
         y += block.step;
         position = positionAfter(position);
     } while (run.document.isItem(position));
+    if (run.losses != nullptr) {
+        run.losses->item(0);
+    }
 }
 
 }  // namespace
 
 void drawNote(const DrawnForm& form, const XmlDocument& document, std::string_view noteNumber,
-              Environment& environment) {
+              Environment& environment, LossLog* losses) {
     Printer& printer = environment.printer;
     printer.setScaleMode(ScaleMode::Centimetres);
     printer.setOrientation(Orientation::Portrait);
     Run run{.document = NoteDocument(document),
             .channel = nullptr,
-            .noteNumber = formatText(noteNumber, noteNumberMask)};
+            .noteNumber = formatText(noteNumber, noteNumberMask),
+            .losses = losses};
+    if (losses != nullptr) {
+        losses->drawnPage();
+    }
     Page page{form, environment, run};
     for (const DrawnStep& step : form.steps) {
         std::visit([&page](const auto& s) { drawStep(s, page); }, step);

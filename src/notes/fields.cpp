@@ -210,9 +210,12 @@ std::string_view valueOf(std::string& out, const Field& field, Run& run) {
     return usualValue(out, field, run);
 }
 
-void appendField(std::string& line, const Field& field, Run& run) {
+void appendField(std::string& line, const Field& field, int column, Run& run) {
     run.value.clear();
     if (field.width == 0) {
+        if (run.losses != nullptr && field.length > 0) {
+            run.losses->piece(field, column);
+        }
         line += field.label;  // the form's own text goes as it is
         appendBlankingControls(line, valueOf(run.value, field, run));
         return;
@@ -226,6 +229,9 @@ void appendField(std::string& line, const Field& field, Run& run) {
         run.value.append(field.label).append(behind);
         value = run.value;
     }
+    if (run.losses != nullptr) {
+        run.losses->field(field, column, run.parcel, value);
+    }
     appendCampo(line, value, field.width, field.right);
 }
 
@@ -236,7 +242,7 @@ int appendFields(std::string& line, int column, std::span<const Field> fields, R
         const bool entry = field.source == Source::Mark && isEntry(run);
         const int start = entry ? field.entryColumn : field.column;
         line.append(static_cast<std::size_t>(start - column), ' ');
-        appendField(line, field, run);
+        appendField(line, field, start, run);
         column = start + (field.width > 0 ? field.width : field.room);
     }
     return column;
@@ -245,6 +251,17 @@ int appendFields(std::string& line, int column, std::span<const Field> fields, R
 void printRow(const Row& row, Run& run) {
     appendFields(run.line, firstColumn, row.fields(), run);
     run.send(row.advance);
+}
+
+void closeTexts(Run& run) {
+    if (run.losses == nullptr) {
+        return;
+    }
+    run.losses->item(0);
+    run.losses->pieces(Source::LegalText, legalTextOf(run));
+    std::string observation;
+    appendObservation(observation, run);
+    run.losses->pieces(Source::Observation, observation);
 }
 
 const std::string& legalTextOf(Run& run) {

@@ -24,4 +24,7 @@ void printRow(const Row& row, Run& run);
 // The legal texts joined, with the observation where the form has them together.
 const std::string& legalTextOf(Run& run);
 
+// Everything is printed: what no piece of the long texts has shown is lost.
+void closeTexts(Run& run);
+
 }  // namespace tarn::notes

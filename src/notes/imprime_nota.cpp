@@ -26,18 +26,18 @@ const notes::Layout& installed(std::string_view name) {
 }
 
 void print(const notes::Layout& layout, Environment& ambiente, const Sessao& sessao,
-           const XmlDocument& documento, const std::string& numeroNota) {
+           const XmlDocument& documento, const std::string& numeroNota, notes::LossLog* perdas) {
     if (layout.drawn != nullptr) {
-        return notes::drawNote(*layout.drawn, documento, numeroNota, ambiente);
+        return notes::drawNote(*layout.drawn, documento, numeroNota, ambiente, perdas);
     }
     RawChannel channel(ambiente.spooler, ambiente.codePage);
-    notes::printNote(layout.formFor(sessao.ID_ETB_TARN), documento, numeroNota, channel);
+    notes::printNote(layout.formFor(sessao.ID_ETB_TARN), documento, numeroNota, channel, perdas);
 }
 
 }  // namespace
 
 void imprimeNota(Escada escada, Environment& ambiente, const Sessao& sessao, XmlDocument& documento,
-                 const std::string& numeroNota) {
+                 const std::string& numeroNota, notes::LossLog* perdas) {
     const std::string_view name = layoutFor(escada, sessao.NCOMPANYCODE, sessao.ID_ETB_TARN);
     if (escada == Escada::Emissao && name == onlyFromReprint) {
         throw ErroExecucao(ErroNumero::ObjetoObrigatorio,
@@ -45,7 +45,7 @@ void imprimeNota(Escada escada, Environment& ambiente, const Sessao& sessao, Xml
                                ": as notas deste estabelecimento só saem pela tela de reimpressão");
     }
     if (!name.empty()) {
-        print(installed(name), ambiente, sessao, documento, numeroNota);
+        print(installed(name), ambiente, sessao, documento, numeroNota, perdas);
     }
     documento = XmlDocument();
 }

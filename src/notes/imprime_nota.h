@@ -12,6 +12,9 @@
 namespace tarn {
 
 struct Environment;
+namespace notes {
+class LossLog;
+}
 
 // The two screens run ladders that differ in two steps.
 enum class Escada { Emissao, Reimpressao };
@@ -21,8 +24,9 @@ std::string_view layoutFor(Escada escada, std::int32_t empresa, std::int32_t est
 
 // Prints the note of an answer whose status reads "OK" and lets go of the document.
 // `numeroNota` holds the note's number as digits. What was sent before an
-// ErroExecucao stays sent and the job stays open.
+// ErroExecucao stays sent and the job stays open. `perdas`, if given, keeps what the form
+// has no room for.
 void imprimeNota(Escada escada, Environment& ambiente, const Sessao& sessao, XmlDocument& documento,
-                 const std::string& numeroNota);
+                 const std::string& numeroNota, notes::LossLog* perdas = nullptr);
 
 }  // namespace tarn

@@ -42,6 +42,16 @@ void readNumbers(Quantity kind, bool sums, Run& run) {
     }
 }
 
+std::string nameOfItem(NoteDocument& document) {
+    try {
+        std::string name(document.text(Source::CD_PRO));
+        const std::string_view description = document.text(Source::DESCRICAO);
+        return name.append(name.empty() || description.empty() ? "" : " ").append(description);
+    } catch (const ErroExecucao&) {
+        return {};  // nothing prints of this row, and so nothing stops for it
+    }
+}
+
 std::size_t positionAfter(std::size_t position) {
     if (position == static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
         throw ErroExecucao(ErroNumero::Estouro, "a nota tem itens demais");

@@ -3,11 +3,13 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 
 #include "notes/layout.h"
 
 namespace tarn::notes {
 
+class NoteDocument;
 struct Run;
 
 // A count of lines that the form row tells; TipoIncompativel for what is no number.
@@ -19,5 +21,9 @@ void readNumbers(Quantity kind, bool sums, Run& run);
 
 // The next position; Estouro past what the row counter holds.
 std::size_t positionAfter(std::size_t position);
+
+// Code and description of the item row in hand, for telling it from others; empty where
+// the row has neither in their own spelling.
+std::string nameOfItem(NoteDocument& document);
 
 }  // namespace tarn::notes

@@ -36,6 +36,24 @@ void printItem(const Items& block, Run& run) {
     run.send(block.line.advance);
 }
 
+void lose(Run& run, Loss::Kind kind, int item, std::size_t position, int limit) {
+    if (run.losses == nullptr) {
+        return;
+    }
+    run.document.goToItem(position);
+    run.losses->add({.kind = kind,
+                     .item = item,
+                     .field = "DESCRICAO",
+                     .lost = nameOfItem(run.document),
+                     .limit = limit});
+}
+
+void watchItem(Run& run, int item) {
+    if (run.losses != nullptr) {
+        run.losses->item(item);
+    }
+}
+
 // Prints the item rows; returns how many lines they took.
 int printRows(const Items& block, int mostItems, Run& run) {
     NoteDocument& document = run.document;
@@ -45,17 +63,32 @@ int printRows(const Items& block, int mostItems, Run& run) {
     do {
         ++seen;
         if (block.overflow == Overflow::Pushing || seen <= mostItems) {
+            watchItem(run, seen);
             document.goToItem(position);
             if (!block.productsOnly || document.text(Source::IC_TP_CAD) == "P") {
                 printItem(block, run);
                 ++printed;
             } else if (block.services) {
                 run.services.rows.push_back(position);
+            } else {
+                lose(run, Loss::Kind::Unplaced, seen, position, mostItems);
             }
+        } else {
+            lose(run, Loss::Kind::Item, seen, position, mostItems);
         }
         position = positionAfter(position);
     } while (document.isItem(position));
+    watchItem(run, 0);
     return printed;
+}
+
+// Lines that the form doesn't have push all that stands below.
+void watchLines(const Items& block, int mostItems, int printed, Run& run) {
+    const int spare = mostItems - printed + (block.fillsForm ? block.constant : 0);
+    if (run.losses != nullptr && spare < 0) {
+        run.losses->add(
+            {.kind = Loss::Kind::ItemsOver, .field = "itens", .count = -spare, .limit = mostItems});
+    }
 }
 
 }  // namespace
@@ -67,6 +100,7 @@ void printItems(const Items& block, Run& run) {
         serviceLines = lineCount(Source::QT_MAX_IT_NF_SRV, run);
     }
     const int printed = printRows(block, mostItems, run);
+    watchLines(block, mostItems, printed, run);
     if (!block.controlAfter.empty()) {
         run.line = block.controlAfter;
         run.send(0);

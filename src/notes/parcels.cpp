@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "notes/blocks.h"
 #include "notes/fields.h"
 #include "notes/run.h"
@@ -39,6 +41,12 @@ void printByParcel(const Parcels& block, int count, Run& run) {
 void printParcels(const Parcels& block, Run& run) {
     const double count = run.document.number(Source::QTDE_PARC);
     if (count >= block.limit + 1) {
+        if (run.losses != nullptr) {
+            run.losses->add({.kind = Loss::Kind::ParcelsOverflow,
+                             .field = "QTDE_PARC",
+                             .count = static_cast<int>(std::min<double>(count, 9999)),
+                             .limit = block.limit});
+        }
         run.line = block.message;
         return run.send(block.lineEndsAbove);
     }

@@ -44,7 +44,7 @@ void setUpPrinter(std::string_view bytes, RawChannel& channel) {
 }  // namespace
 
 void printNote(const Form& form, const XmlDocument& document, std::string_view noteNumber,
-               RawChannel& channel) {
+               RawChannel& channel, LossLog* losses) {
     if (!form.setUp.empty()) {
         setUpPrinter(form.setUp, channel);
     }
@@ -52,12 +52,14 @@ void printNote(const Form& form, const XmlDocument& document, std::string_view n
     Run run{.document = NoteDocument(document),
             .channel = &channel,
             .noteNumber = formatText(noteNumber, noteNumberMask),
-            .observation = form.observation};
+            .observation = form.observation,
+            .losses = losses};
     run.line.reserve(widestForm);
     run.value.reserve(widestForm);
     for (const Step& step : form.steps) {
         std::visit([&run](const auto& s) { print(s, run); }, step);
     }
+    closeTexts(run);
     channel.fecha();
 }
 

@@ -8,6 +8,7 @@
 #include "common/raw_channel.h"
 #include "notes/layout.h"
 #include "notes/legal_texts.h"
+#include "notes/losses.h"
 #include "notes/note_document.h"
 
 namespace tarn::notes {
@@ -31,6 +32,7 @@ struct Run {
     RawChannel* channel = nullptr;  // null where the note is drawn
     std::string noteNumber;         // under its mask
     Joined observation = Joined::Labelled;
+    LossLog* losses = nullptr;  // null where nobody watches
 
     int parcel = 0;  // number of the parcel in hand
     ItemNumbers item{};
@@ -49,6 +51,9 @@ struct Run {
     void send(int lineEnds) {
         channel->ImprimeRaw(1, line, lineEnds);
         line.clear();
+        if (losses != nullptr) {
+            losses->lineEnds(lineEnds);
+        }
     }
 };
 

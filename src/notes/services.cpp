@@ -1,23 +1,15 @@
-// The service block: one line for each service, and the service tax boxes, which
-// the form has beside its fourth and sixth line.
+#include <algorithm>
+
 #include "notes/blocks.h"
 #include "notes/fields.h"
-#include "notes/form_check.h"
-#include "notes/form_rows.h"
+#include "notes/item_rows.h"
 #include "notes/run.h"
+#include "notes/service_rows.h"
 
 namespace tarn::notes {
 namespace {
 
 using enum Source;
-
-constexpr Row serviceLine =
-    row(1, left(CD_PRO, 2, 12), left(DESCRICAO, 14, 75), right(VL_LIQ_IT, 89, 15));
-constexpr Row emptyLine = row(1, blank(2, 12), blank(14, 75), blank(89, 15));
-constexpr Row besideFourth = row(1, right(LastServiceRate, 104, 5), right(ServiceTaxSum, 109, 15));
-constexpr Row besideSixth = row(1, right(ServiceSum, 104, 15));
-static_assert(check::fields(serviceLine.fields()) == Flaw::None);
-static_assert(check::fields(besideFourth.fields(), 104) == Flaw::None);
 
 // Every service counts in the sums, printed or not.
 void addUp(Run& run) {
@@ -30,17 +22,31 @@ void addUp(Run& run) {
     }
 }
 
+void loseServicesFrom(std::size_t first, Run& run) {
+    for (std::size_t i = first; i < run.services.rows.size(); ++i) {
+        run.document.goToItem(run.services.rows[i]);
+        run.losses->add({.kind = Loss::Kind::Item,
+                         .item = static_cast<int>(run.services.rows[i] - firstItem + 1),
+                         .field = "serviço",
+                         .lost = nameOfItem(run.document),
+                         .limit = static_cast<int>(first)});
+    }
+}
+
 }  // namespace
 
 void printServices(int lines, Run& run) {
     addUp(run);
+    if (run.losses != nullptr) {
+        loseServicesFrom(static_cast<std::size_t>(std::max(0, lines)), run);
+    }
     for (int i = 1; i <= lines; ++i) {
         const auto place = static_cast<std::size_t>(i - 1);
         const bool held = place < run.services.rows.size();
         if (held) {
             run.document.goToItem(run.services.rows[place]);
         }
-        const Row& line = held ? serviceLine : emptyLine;
+        const Row& line = held ? serviceLine : emptyServiceLine;
         const int column = appendFields(run.line, firstColumn, line.fields(), run);
         if (i == 4) {
             appendFields(run.line, column, besideFourth.fields(), run);

@@ -1,8 +1,11 @@
 // The program itself, as a shell starts it.
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTemporaryDir>
 
 namespace {
@@ -13,8 +16,15 @@ struct Ran {
     std::string err;
 };
 
-Ran run(const QStringList& arguments) {
+Ran run(const QStringList& arguments, bool display = true) {
     QProcess process;
+    if (!display) {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+            environment.remove(QLatin1StringView(name));
+        }
+        process.setProcessEnvironment(environment);
+    }
     process.start(QStringLiteral(TARNIMPRESSORA), arguments);
     EXPECT_TRUE(process.waitForFinished());
     return {process.exitCode(), process.readAllStandardOutput().toStdString(),
@@ -72,9 +82,8 @@ TEST_F(CommandLine, NoticesGoToStandardError) {
 TEST_F(CommandLine, WrongUsageSaysWhatToGive) {
     const QString job = file("1.prn", "x");
     const std::vector<std::pair<QStringList, std::string>> cases{
-        {{job}, "diga o que gravar: --pdf ARQUIVO, --png ARQUIVO ou --texto ARQUIVO."},
-        {{}, "diga o que gravar"},
-        {{"--texto", path("n.txt")}, "diga que trabalho imprimir"},
+        {{"--texto", path("n.txt")},
+         "diga que trabalho imprimir: um ou mais arquivos .prn, --porta N ou --pasta DIR."},
         {{"--texto"}, "uma opção foi dada sem o seu valor"},
         {{"--nada", "--texto", path("n.txt"), job}, "opção desconhecida: --nada"},
         {{"--pagina-de-codigo", "437", "--texto", path("n.txt"), job},
@@ -83,7 +92,19 @@ TEST_F(CommandLine, WrongUsageSaysWhatToGive) {
          "--linhas-por-formulario pede um número inteiro de 3 a 132."},
         {{"--altura", "doze", "--texto", path("n.txt"), job}, "--altura pede"},
         {{"--altura", "11", "--linhas-por-formulario", "66", "--texto", path("n.txt"), job},
-         "não as duas"}};
+         "não as duas"},
+        {{"--porta", "65536", "--texto", path("n.txt")},
+         "--porta pede um número inteiro de 0 a 65535."},
+        {{"--quantos", "2", "--texto", path("n.txt"), job}, "--quantos pede"},
+        {{"--quantos", "0", "--porta", "0", "--texto", path("n.txt")}, "--quantos pede"},
+        {{"--itens", "-1", "--texto", path("n.txt"), job},
+         "--itens pede um número inteiro de 0 a 100."},
+        {{"--porta", "0", "--escutar", "aqui", "--texto", path("n.txt")},
+         "--escutar pede um endereço IP"},
+        {{"--pasta", path("nada"), "--texto", path("n.txt")}, "não há pasta \""},
+        {{"--formulario", path("nada"), "--texto", path("n.txt"), job},
+         "não há formulário nem arquivo \""},
+        {{"--mostra-formulario", "ImprimeNF_9"}, "não há formulário \"ImprimeNF_9\"."}};
     for (const auto& [arguments, expected] : cases) {
         const Ran ran = run(arguments);
         EXPECT_EQ(ran.status, 1) << expected;
@@ -105,6 +126,88 @@ TEST_F(CommandLine, UnreadableJobOrUnwritableFileEndsWithOne) {
     const Ran ran = run({"--pdf", path("no/n.pdf"), file("1.prn", "x")});
     EXPECT_EQ(ran.status, 1);
     EXPECT_NE(ran.err.find("não foi possível gravar"), std::string::npos);
+}
+
+TEST_F(CommandLine, WithoutADisplayItSaysWhatToGive) {
+    for (const QStringList& arguments : {QStringList(), QStringList{file("1.prn", "x")}}) {
+        const Ran ran = run(arguments, false);
+        EXPECT_EQ(ran.status, 1);
+        EXPECT_NE(ran.err.find("não há tela para a janela; diga o que gravar: --pdf ARQUIVO, "
+                               "--png ARQUIVO ou --texto ARQUIVO."),
+                  std::string::npos)
+            << ran.err;
+    }
+}
+
+TEST_F(CommandLine, FormsAreListedAndWrittenAsText) {
+    const Ran list = run({"--formularios"});
+    EXPECT_EQ(list.status, 0);
+    EXPECT_EQ(QString::fromStdString(list.out).count(u'\n'), 23);
+    EXPECT_NE(list.out.find("ImprimeNF_2421_3621\nImprimeNF_2421\n"), std::string::npos);
+    const Ran form = run({"--mostra-formulario", "ImprimeNF_1361"});
+    EXPECT_EQ(form.status, 0);
+    EXPECT_EQ(form.out.find("nome ImprimeNF_1361\naltura 66\nligar 10\npasso 17\n"), 0U);
+    EXPECT_NE(form.out.find("caixa 9,5 2 82 1,5 Nome / razão social\n"), std::string::npos);
+    const Ran shorter = run({"--mostra-formulario", "ImprimeNF_1361", "--itens", "6"});
+    EXPECT_NE(shorter.out.find("altura 59\n"), std::string::npos);
+}
+
+// A form sets the printer up, but for what the user told; and what it wrote reads again.
+TEST_F(CommandLine, AFormSetsThePaperUp) {
+    const QString job = file("1.prn", "a" + QByteArray("\r\n").repeated(33) + "b");
+    const QString form = file("f.txt", "altura 33\nligar 17\ncaixa 1 1 10 2 Caixa\n");
+    EXPECT_EQ(run({"--formulario", form, "--texto", path("n.txt"), job}).status, 0);
+    EXPECT_EQ(read("n.txt"), "a\n\fb\n");
+    EXPECT_EQ(
+        run({"--formulario", form, "--altura", "11", "--texto", path("n.txt"), job}).status, 0);
+    EXPECT_FALSE(read("n.txt").contains('\f'));
+    const Ran written = run({"--mostra-formulario", "ImprimeNF_821"});
+    const QString again = file("g.txt", QByteArray::fromStdString(written.out));
+    EXPECT_EQ(run({"--formulario", again, "--regua", "--pdf", path("n.pdf"), job}).status, 0);
+    EXPECT_TRUE(read("n.pdf").startsWith("%PDF-"));
+}
+
+TEST_F(CommandLine, TakesJobsFromAFolderUntilToldEnough) {
+    QDir(folder_.path()).mkdir(QStringLiteral("fila"));
+    file("fila/job-001.prn", " \x0F");
+    file("fila/job-002.prn", "um\r\n");
+    const Ran ran = run({"--pasta", path("fila"), "--quantos", "2", "--texto", path("n.txt")});
+    EXPECT_EQ(ran.status, 0) << ran.err;
+    EXPECT_EQ(ran.out, "Imprimindo da pasta " + path("fila").toStdString() + "\n");
+    EXPECT_EQ(read("n.txt"), " um\n");
+}
+
+TEST_F(CommandLine, TakesJobsFromTheNetworkAndWritesAfterEach) {
+    QProcess process;
+    process.start(QStringLiteral(TARNIMPRESSORA),
+                  {"--porta", "0", "--quantos", "2", "--texto", path("n.txt")});
+    while (!process.canReadLine() && process.waitForReadyRead()) {
+    }
+    const QString line = QString::fromUtf8(process.readLine()).trimmed();
+    ASSERT_TRUE(line.startsWith(QStringLiteral("Recebendo em 127.0.0.1, porta "))) << line.toStdString();
+    const auto port = static_cast<quint16>(line.section(u' ', -1).toInt());
+    for (const char* job : {"um\r\n", "dois\r\n"}) {
+        QTcpSocket socket;
+        socket.connectToHost(QHostAddress::LocalHost, port);
+        ASSERT_TRUE(socket.waitForConnected());
+        socket.write(job);
+        socket.disconnectFromHost();
+        EXPECT_TRUE(socket.state() == QAbstractSocket::UnconnectedState ||
+                    socket.waitForDisconnected());
+    }
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 0);
+    EXPECT_EQ(read("n.txt"), "um\ndois\n");
+    EXPECT_EQ(process.readAllStandardError(), "");
+}
+
+TEST_F(CommandLine, APortInUseIsTold) {
+    QTcpServer other;
+    ASSERT_TRUE(other.listen(QHostAddress::LocalHost));
+    const Ran ran =
+        run({"--porta", QString::number(other.serverPort()), "--texto", path("n.txt")});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_NE(ran.err.find("escolha outra com --porta."), std::string::npos) << ran.err;
 }
 
 TEST_F(CommandLine, HelpIsThere) {

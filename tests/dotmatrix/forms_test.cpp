@@ -146,7 +146,7 @@ TEST(Jobs, PiecesOfAnySizeGiveTheSamePaper) {
     PrinterRig whole;
     whole.job(job);
     PrinterRig pieces;
-    pieces.printer.startJob("job");
+    pieces.printer.startJob();
     for (const char c : job) {
         pieces.printer.feed({&c, 1});
     }

@@ -71,7 +71,7 @@ TEST_F(PaperFiles, PdfWordsStandOnTheGridAtEachPitch) {
     rig.job(gap + "PICA5678901234567890\r\n\x1BM" + gap + "ELITE678901234567890\r\n\x0F" + gap +
             "TWENTY78901234567890\r\n\x1BP" + gap + "CONDENSED01234567890\r\n" + gap +
             "abc def\r\n\r\n" + std::string(117, ' ') + "FARAWAY\r\n");
-    ASSERT_FALSE(writePdf(rig.paper, {}, file("grid.pdf")));
+    ASSERT_FALSE(writePdf(pagesOf(rig.paper), {}, file("grid.pdf")));
     auto words = wordsOf(file("grid.pdf"));
     const std::map<QString, double> pitches{{"PICA5678901234567890", 7.2},
                                             {"ELITE678901234567890", 6.0},
@@ -94,7 +94,7 @@ TEST_F(PaperFiles, PdfKeepsAccentsOverprintsAndOnePageAForm) {
         "A\xC7\xC3O \x1BGS\xC3O\x1BH\f\f\x1B"
         "C\x18"
         "terceira");
-    ASSERT_FALSE(writePdf(rig.paper, {}, file("forms.pdf")));
+    ASSERT_FALSE(writePdf(pagesOf(rig.paper), {}, file("forms.pdf")));
     const QString info = output(QStringLiteral("pdfinfo"),
                                 {QStringLiteral("-l"), QStringLiteral("9"), file("forms.pdf")});
     EXPECT_TRUE(info.contains(QRegularExpression("Pages: +3\\b"))) << info.toStdString();
@@ -120,7 +120,7 @@ TEST_F(PaperFiles, SheetIsChosenByTheWidestContent) {
 TEST_F(PaperFiles, PicturesShowInkAndDoubleStrikeIsDarker) {
     PrinterRig rig;
     rig.job("HHHHHHHHHH\r\n\x1BGHHHHHHHHHH\x1BH\r\n\r\n\f\x0Fsegunda");
-    ASSERT_FALSE(writePng(rig.paper, {}, file("note.png")));
+    ASSERT_FALSE(writePng(pagesOf(rig.paper), {}, file("note.png")));
     const QImage first(file("note.png"));
     ASSERT_EQ(first.size(), QSize(9.5 * kPictureDotsPerInch, 11 * kPictureDotsPerInch));
     const int left = kPictureDotsPerInch / 2 + 3;
@@ -139,7 +139,7 @@ TEST_F(PaperFiles, PicturesShowInkAndDoubleStrikeIsDarker) {
 TEST_F(PaperFiles, ATitleStandsInTheLeftStripOfEachForm) {
     PrinterRig rig;
     rig.job("uma\f\r\nduas");
-    ASSERT_FALSE(writePdf(rig.paper, {false, "MODELO"}, file("title.pdf")));
+    ASSERT_FALSE(writePdf(pagesOf(rig.paper), PaintOptions{.title = "MODELO"}, file("title.pdf")));
     const auto words = wordsOf(file("title.pdf"));
     ASSERT_TRUE(words.count("MODELO"));
     EXPECT_LT(words.at("MODELO").right, kStrip);
@@ -151,8 +151,8 @@ TEST_F(PaperFiles, ATitleStandsInTheLeftStripOfEachForm) {
 TEST_F(PaperFiles, BandsOnlyWhenAskedFor) {
     PrinterRig rig;
     rig.job("x");
-    ASSERT_FALSE(writePng(rig.paper, {}, file("white.png")));
-    ASSERT_FALSE(writePng(rig.paper, PaintOptions{true, {}}, file("bands.png")));
+    ASSERT_FALSE(writePng(pagesOf(rig.paper), {}, file("white.png")));
+    ASSERT_FALSE(writePng(pagesOf(rig.paper), PaintOptions{.bands = true}, file("bands.png")));
     const QPoint inFirstBand(6 * kPictureDotsPerInch, 10);
     EXPECT_EQ(QImage(file("white.png")).pixelColor(inFirstBand), QColor(Qt::white));
     EXPECT_NE(QImage(file("bands.png")).pixelColor(inFirstBand), QColor(Qt::white));
@@ -165,7 +165,7 @@ TEST_F(PaperFiles, RandomJobsAreDrawn) {
         bytes += static_cast<char>((i * 2654435761U) >> 24U);
     }
     rig.job(bytes);
-    EXPECT_FALSE(writePdf(rig.paper, {}, file("random.pdf")));
+    EXPECT_FALSE(writePdf(pagesOf(rig.paper), {}, file("random.pdf")));
     EXPECT_FALSE(wordsOf(file("random.pdf")).empty());
 }
 
@@ -173,8 +173,8 @@ TEST_F(PaperFiles, FailureToWriteIsTold) {
     PrinterRig rig;
     rig.job("x");
     const QString nowhere = file("missing/folder/x");
-    for (const auto& failure : {writePdf(rig.paper, {}, nowhere), writePng(rig.paper, {}, nowhere),
-                                writeText(rig.paper, nowhere)}) {
+    for (const auto& failure : {writePdf(pagesOf(rig.paper), {}, nowhere), writePng(pagesOf(rig.paper), {}, nowhere),
+                                writeText(pagesOf(rig.paper), nowhere)}) {
         ASSERT_TRUE(failure);
         EXPECT_FALSE(failure->isEmpty());
     }

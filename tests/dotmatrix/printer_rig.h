@@ -14,7 +14,7 @@ struct PrinterRig {
         : dialect(panel), paper(panel.formHeight), printer(paper, panel) {}
 
     PrinterRig& job(std::string_view bytes) {
-        printer.startJob("job");
+        printer.startJob();
         printer.feed(bytes);
         return *this;
     }

@@ -73,8 +73,10 @@ std::string PrivateCupsd::start() {
     // The backend runs as another user when the server runs as root.
     fs::permissions(directory_,
                     fs::perms::owner_all | fs::perms::group_exec | fs::perms::others_exec);
-    if (std::string failed = listenAsPrinter(); !failed.empty()) {
-        return failed;
+    if (port_ == 0) {
+        if (std::string failed = listenAsPrinter(); !failed.empty()) {
+            return failed;
+        }
     }
     writeConfiguration();
     run();

@@ -25,6 +25,10 @@ public:
     PrivateCupsd(const PrivateCupsd&) = delete;
     PrivateCupsd& operator=(const PrivateCupsd&) = delete;
 
+    // The queue's printer listens on this loopback port, and nextJob() hears nothing; to
+    // be called before start().
+    void printTo(int port) { port_ = port; }
+
     // Runs the server and, for this process and its children, makes it the CUPS
     // server (CUPS_SERVER) with the queue as the default printer. To be called before
     // anything uses libcups. Returns what went wrong, empty for nothing.

@@ -5,8 +5,8 @@
 
 namespace tarn::notes {
 
-const Layout* layoutByName(std::string_view name) {
-    // In the order of the ladder, one line each.
+std::span<const Layout* const> allLayouts() {
+    // One line each.
     // clang-format off
     static constexpr std::array layouts{
         &imprimeNF_7,
@@ -33,8 +33,13 @@ const Layout* layoutByName(std::string_view name) {
         &imprimeNF_Padrao,
     };
     // clang-format on
-    const auto* found = std::find_if(layouts.begin(), layouts.end(),
-                                     [name](const Layout* layout) { return layout->name == name; });
+    return layouts;
+}
+
+const Layout* layoutByName(std::string_view name) {
+    const auto layouts = allLayouts();
+    const auto found = std::find_if(layouts.begin(), layouts.end(),
+                                    [name](const Layout* layout) { return layout->name == name; });
     return found == layouts.end() ? nullptr : *found;
 }
 

@@ -1,6 +1,7 @@
 // The layouts that this version prints, and how the ladder's names find them.
 #pragma once
 
+#include <span>
 #include <string_view>
 
 #include "notes/layout.h"
@@ -29,6 +30,9 @@ extern const Layout imprimeNF_2541;
 extern const Layout imprimeNF_3681;
 extern const Layout imprimeNF_4621;
 extern const Layout imprimeNF_Padrao;
+
+// In the order of the ladder.
+std::span<const Layout* const> allLayouts();
 
 // Null for a name that is not among them.
 const Layout* layoutByName(std::string_view name);

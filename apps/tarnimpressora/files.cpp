@@ -1,0 +1,91 @@
+#include "files.h"
+
+#include <QFile>
+#include <cstdio>
+#include <vector>
+
+#include "dotmatrix/paper_export.h"
+
+namespace tarn::impressora {
+
+namespace {
+
+constexpr std::size_t kNoticesShown = 50;
+
+bool readJob(const std::string& file, QByteArray& bytes) {
+    QFile in(QFile::decodeName(file.c_str()));
+    // A directory opens on some systems and then reads as nothing.
+    if (in.open(QIODevice::ReadOnly)) {
+        bytes = in.readAll();
+        if (in.error() == QFileDevice::NoError) {
+            return true;
+        }
+    }
+    complain(QStringLiteral("não foi possível ler o trabalho \"%1\" (%2). "
+                            "Confira o nome do arquivo e a permissão de leitura.")
+                 .arg(in.fileName(), in.errorString()));
+    return false;
+}
+
+bool written(const std::optional<QString>& failure, const std::string& file) {
+    if (failure) {
+        complain(QStringLiteral("não foi possível gravar \"%1\" (%2). "
+                                "Confira a pasta, a permissão e o espaço em disco.")
+                     .arg(QFile::decodeName(file.c_str()), *failure));
+    }
+    return !failure;
+}
+
+}  // namespace
+
+void complain(const QString& text) {
+    std::fputs(("tarnimpressora: " + text + "\n").toUtf8().constData(), stderr);
+}
+
+bool printFiles(const Options& options, dotmatrix::PaperRoll& roll) {
+    std::vector<QByteArray> jobs(options.jobs.size());
+    for (std::size_t i = 0; i < jobs.size(); ++i) {
+        if (!readJob(options.jobs[i], jobs[i])) {
+            return false;
+        }
+    }
+    for (std::size_t i = 0; i < jobs.size(); ++i) {
+        roll.startJob(options.jobs[i]);
+        const auto failure =
+            roll.feed({jobs[i].constData(), static_cast<std::size_t>(jobs[i].size())});
+        if (failure) {
+            complain(QStringLiteral("não foi possível guardar o trabalho (%1). Libere espaço na "
+                                    "pasta temporária.")
+                         .arg(*failure));
+            return false;
+        }
+    }
+    return true;
+}
+
+std::size_t showNotices(const dotmatrix::NoticeLog& notices, std::size_t from) {
+    std::size_t shown = 0;
+    for (std::size_t i = from; i < notices.kept().size() && shown < kNoticesShown; ++i) {
+        std::fputs(("aviso: " + describe(notices.kept()[i]) + "\n").c_str(), stderr);
+        ++shown;
+    }
+    if (notices.total() > from + shown) {
+        std::fputs(
+            ("aviso: e mais " + std::to_string(notices.total() - from - shown) + "\n").c_str(),
+            stderr);
+    }
+    return notices.total();
+}
+
+bool writeFiles(const Options& options, const dotmatrix::PaintOptions& looks,
+                dotmatrix::PaperRoll& roll) {
+    const auto name = [](const std::string& file) { return QFile::decodeName(file.c_str()); };
+    const dotmatrix::PaperPages paper = roll.pages();
+    return (options.pdf.empty() ||
+            written(writePdf(paper, looks, name(options.pdf)), options.pdf)) &&
+           (options.png.empty() ||
+            written(writePng(paper, looks, name(options.png)), options.png)) &&
+           (options.text.empty() || written(writeText(paper, name(options.text)), options.text));
+}
+
+}  // namespace tarn::impressora

@@ -1,0 +1,33 @@
+// Where jobs come from while the program runs: the network and a directory.
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "dotmatrix/intake/folder_watch.h"
+#include "dotmatrix/intake/job_intake.h"
+#include "dotmatrix/intake/job_server.h"
+#include "options.h"
+
+namespace tarn::impressora {
+
+class Reception {
+public:
+    explicit Reception(dotmatrix::JobIntake& intake) : intake_(intake) {}
+
+    // What could not be opened, a whole sentence in Portuguese; empty for nothing.
+    QString open(const Options& options);
+    // Where jobs are waited for, in words for the user.
+    QString places() const { return places_; }
+
+private:
+    QString listen(const Options& options);
+    QString watch(const Options& options);
+
+    dotmatrix::JobIntake& intake_;
+    std::unique_ptr<dotmatrix::JobServer> server_;
+    std::unique_ptr<dotmatrix::FolderWatch> folder_;
+    QString places_;
+};
+
+}  // namespace tarn::impressora

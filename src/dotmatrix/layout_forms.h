@@ -1,0 +1,23 @@
+// The forms of the note layouts, drawn from the tables that print them: a box wherever
+// a field can land, at the pitch in which it lands there.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "dotmatrix/form_design.h"
+
+namespace tarn::dotmatrix {
+
+// "ImprimeNF_1361"; a layout of two forms has "ImprimeNF_2421_3621", by establishment,
+// and "ImprimeNF_2421", the form of all others. In the order of the ladder.
+std::vector<std::string> layoutFormNames();
+
+// The drawing of one of them, nothing for any other name. `itemLines` is how many lines
+// the form has for items (0 and up); without it as many as fill a sheet of 11 inches.
+std::optional<FormDesign> layoutForm(std::string_view name,
+                                     std::optional<int> itemLines = std::nullopt);
+
+}  // namespace tarn::dotmatrix

@@ -1,0 +1,212 @@
+// Forms printed again from a roll are those that came out of the printer.
+#include "dotmatrix/paper_roll.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "dotmatrix/paper_text.h"
+#include "dotmatrix/printer_rig.h"
+
+namespace tarn::dotmatrix {
+namespace {
+
+void expectSame(PaperRoll& roll, const ContinuousPaper& paper) {
+    ASSERT_EQ(roll.forms().size(), paper.forms().size());
+    ASSERT_EQ(roll.printedForms(), paper.printedForms());
+    ASSERT_EQ(roll.contentWidth(), paper.contentWidth());
+    for (std::size_t form = paper.forms().size(); form-- > 0;) {
+        const auto page = roll.page(form);
+        const FormPage expected = pageOf(paper, form);
+        ASSERT_EQ(page->shape.top, expected.shape.top) << form;
+        ASSERT_EQ(page->shape.height, expected.shape.height) << form;
+        ASSERT_EQ(page->lines.size(), expected.lines.size()) << form;
+        for (std::size_t i = 0; i < expected.lines.size(); ++i) {
+            const PaperLine& line = page->lines[i];
+            const PaperLine& wanted = expected.lines[i];
+            ASSERT_EQ(line.y, wanted.y) << form;
+            ASSERT_EQ(line.row, wanted.row) << form;
+            ASSERT_EQ(line.job, wanted.job) << form;
+            ASSERT_EQ(line.jobLine, wanted.jobLine) << form;
+            ASSERT_EQ(line.columnsBefore, wanted.columnsBefore) << form;
+            ASSERT_EQ(line.cells.size(), wanted.cells.size()) << form;
+            for (std::size_t c = 0; c < wanted.cells.size(); ++c) {
+                ASSERT_EQ(line.cells[c].x, wanted.cells[c].x);
+                ASSERT_EQ(line.cells[c].character, wanted.cells[c].character);
+                ASSERT_EQ(line.cells[c].style, wanted.cells[c].style);
+            }
+        }
+    }
+}
+
+std::string notes(int count, int linesEach) {
+    std::string job;
+    for (int note = 1; note <= count; ++note) {
+        for (int line = 1; line <= linesEach; ++line) {
+            job += "nota " + std::to_string(note) + " linha " + std::to_string(line) +
+                   std::string(60, 'x') + "\r\n";
+        }
+    }
+    return job;
+}
+
+TEST(PaperRoll, ManyPagesOverManyMarks) {
+    PaperRoll roll({});
+    PrinterRig rig;
+    for (const std::string& job : {std::string(" \x0F"), notes(40, 66), notes(1, 3),
+                                   std::string("\x12\x1BM"), notes(30, 50), std::string()}) {
+        roll.startJob("job");
+        ASSERT_FALSE(roll.feed(job));
+        rig.job(job);
+    }
+    EXPECT_EQ(roll.jobs().size(), 6U);
+    expectSame(roll, rig.paper);
+}
+
+TEST(PaperRoll, RandomBytesInPiecesOfAnySize) {
+    static const std::string kLively = bytesOf(
+        "\x1B\x1B\x0F\x12\x0E\x14\b\t\n\n\r\f\f\f\0\x01"
+        "ACJ3MPG@!W-x \x9B\x8C");
+    for (unsigned seed = 1; seed <= 60; ++seed) {
+        std::mt19937 random(seed);
+        PaperRoll roll({});
+        PrinterRig rig;
+        for (int job = 0; job < 3; ++job) {
+            std::string bytes(random() % 60000, '\0');
+            for (char& byte : bytes) {
+                byte = random() % 3 == 0 ? kLively[random() % kLively.size()]
+                                         : static_cast<char>(random() % 256);
+            }
+            roll.startJob("job");
+            rig.job(bytes);
+            for (std::size_t at = 0; at < bytes.size();) {
+                const std::size_t piece = std::min<std::size_t>(random() % 9000, bytes.size() - at);
+                ASSERT_FALSE(roll.feed(std::string_view(bytes).substr(at, piece)));
+                at += piece;
+                roll.page(random() % roll.forms().size());  // looking changes nothing
+            }
+        }
+        SCOPED_TRACE(seed);
+        expectSame(roll, rig.paper);
+        if (HasFatalFailure()) {
+            return;
+        }
+    }
+}
+
+TEST(PaperRoll, TheFormInThePrinterShowsWhatCameLast) {
+    PaperRoll roll({});
+    roll.feed("um");
+    EXPECT_EQ(roll.page(0)->lines[0].cells.size(), 2U);
+    const std::size_t before = roll.version();
+    roll.feed(" dois");
+    EXPECT_NE(roll.version(), before);
+    EXPECT_EQ(roll.page(0)->lines[0].cells.size(), 6U);
+    roll.feed("\f");
+    EXPECT_EQ(roll.page(0)->lines[0].cells.size(), 6U);
+    EXPECT_TRUE(roll.page(1)->lines.empty());
+}
+
+TEST(PaperRoll, JobsAreKnownByNameAndPlace) {
+    PaperRoll roll({});
+    roll.startJob("a.prn");
+    roll.feed("x\f\r\n");
+    roll.startJob("b.prn");
+    roll.feed("y");
+    ASSERT_EQ(roll.jobs().size(), 2U);
+    EXPECT_EQ(roll.jobs()[1].name, "b.prn");
+    EXPECT_EQ(roll.jobs()[1].form, 1U);
+    EXPECT_EQ(roll.jobs()[1].y, 11 * kUnitsPerInch + 360);
+}
+
+TEST(PaperRoll, AnotherPanelPrintsAllJobsAgain) {
+    PaperRoll roll({});
+    PrinterRig rig([] {
+        Dialect panel;
+        panel.condensed = true;
+        panel.formHeight = 33 * 360;
+        return panel;
+    }());
+    roll.startJob("a");
+    roll.feed(notes(30, 50));
+    roll.startJob("b");
+    roll.startJob("c");
+    roll.feed(notes(2, 10));
+    roll.setDialect(rig.dialect);
+    rig.job(notes(30, 50)).job("").job(notes(2, 10));
+    expectSame(roll, rig.paper);
+    EXPECT_EQ(roll.jobs()[2].y, 1500 * 360);
+}
+
+TEST(PaperRoll, TornOffPaperIsGoneAndThePrinterStaysAsItIs) {
+    PaperRoll roll({});
+    roll.startJob("a");
+    roll.feed("\x0F" "primeiro");
+    roll.tearOff(false);
+    EXPECT_EQ(roll.forms().size(), 1U);
+    EXPECT_TRUE(roll.jobs().empty());
+    EXPECT_TRUE(roll.page(0)->lines.empty());
+    roll.startJob("b");
+    roll.feed("X");
+    const auto page = roll.page(0);
+    ASSERT_EQ(page->lines.size(), 1U);
+    EXPECT_EQ(page->lines[0].cells[0].width, 126);  // condensed still
+    EXPECT_EQ(page->lines[0].cells[0].x, 0);
+}
+
+TEST(PaperRoll, TearingOffInTheMiddleOfAJobLetsItGoOn) {
+    PaperRoll roll({});
+    roll.startJob("longo.prn");
+    roll.feed("um\r\n");
+    roll.tearOff(true);
+    roll.feed("dois");
+    ASSERT_EQ(roll.jobs().size(), 1U);
+    EXPECT_EQ(roll.jobs()[0].name, "longo.prn");
+    EXPECT_EQ(roll.page(0)->lines.size(), 1U);
+    EXPECT_EQ(roll.page(0)->lines[0].y, 0);
+}
+
+TEST(PaperRoll, AFormThatIsBlackKeepsNoMore) {
+    PaperRoll roll({});
+    const std::string over(136, '#');
+    for (int i = 0; i < 3000; ++i) {
+        roll.feed(over + "\r");
+    }
+    std::size_t cells = 0;
+    for (const PaperLine& line : roll.page(0)->lines) {
+        cells += line.cells.size();
+    }
+    EXPECT_EQ(cells, kMostCellsOnForm);
+    roll.feed("\fagora");
+    EXPECT_EQ(roll.page(1)->lines.size(), 1U);
+}
+
+TEST(FormTable, RunsOfEqualFormsAreFoundByPlaceAndHeight) {
+    FormTable forms({0, 100});
+    for (int i = 0; i < 9; ++i) {
+        forms.append(100);
+    }
+    forms.append(40);
+    forms.setLastHeight(30);
+    forms.append(100);
+    EXPECT_EQ(forms.size(), 12U);
+    EXPECT_EQ(forms[10].top, 1000);
+    EXPECT_EQ(forms[10].height, 30);
+    EXPECT_EQ(forms[11].top, 1030);
+    EXPECT_EQ(forms.formAt(-5), 0U);
+    EXPECT_EQ(forms.formAt(999), 9U);
+    EXPECT_EQ(forms.formAt(1000), 10U);
+    EXPECT_EQ(forms.formAt(1030), 11U);
+    EXPECT_EQ(forms.formAt(99999), 11U);
+    forms.setLastHeight(100);
+    EXPECT_EQ(forms.back().top, 1030);
+    FormTable later({5000, 100}, 50);
+    later.append(100);
+    later.setLastHeight(10);
+    EXPECT_EQ(later.size(), 52U);
+    EXPECT_EQ(later[50].height, 100);
+    EXPECT_EQ(later[51].height, 10);
+}
+
+}  // namespace
+}  // namespace tarn::dotmatrix
