@@ -22,6 +22,14 @@ Refusal whyNotGenerated(const std::optional<Order>& order, const std::string& te
             ". Atualize a lista."};
 }
 
+// Notes of one establishment are made and cancelled one after the other: what the
+// stock holds is looked at before it is taken. The update changes nothing and locks
+// the row until the transaction ends.
+void takeTurn(Database& database, std::int64_t establishment) {
+    database.execute("UPDATE establishment SET item_lines = item_lines WHERE id = ?",
+                     {establishment});
+}
+
 // The series' next number, taken by the update itself: the row stays locked
 // until the transaction ends, so that no two notes get the same one.
 std::int64_t takeNumber(Database& database, std::int64_t establishment, const std::string& series) {
@@ -82,9 +90,10 @@ void insertSaleOf(CommandContext& context, const NoteKey& key, const Order& orde
     }
     context.database.execute(
         "INSERT INTO document (establishment_id, kind_id, number, receivable, customer_id,"
-        " series_code, note_number, issued_on, due_on, amount)"
+        " series_code, note_number, issued_on, due_on, amount, interest_rate, fine_rate,"
+        " daily_interest)"
         " SELECT n.establishment_id, ?, p.document, 0, o.customer_id, n.series_code, ?,"
-        " n.issued_on, p.due_on, p.amount"
+        " n.issued_on, p.due_on, p.amount, 0, 0, 0"
         " FROM note n JOIN billing_order o ON o.id = n.order_id"
         " JOIN note_parcel p ON p.establishment_id = n.establishment_id"
         " AND p.series_code = n.series_code AND p.number = n.number"
@@ -143,6 +152,7 @@ Reply generateNote(const Query& query, CommandContext& context) {
     const std::string& text = query.value("ID_ORD_FAT");
     const std::int64_t id = wholeNumber(text).value_or(-1);
     Transaction transaction(context.database);
+    takeTurn(context.database, establishment.id);
     const int taken = context.database.execute(
         "UPDATE billing_order SET state = 'F'"
         " WHERE id = ? AND establishment_id = ? AND state = 'A'",
@@ -251,6 +261,7 @@ Reply cancelNote(const Query& query, CommandContext& context) {
     }
     const auto key = std::get<NoteKey>(requestedNote(query, context));
     Transaction transaction(context.database);
+    takeTurn(context.database, key.establishment);
     const int touched = context.database.execute(
         "UPDATE note SET cancelled = 1, cancelled_by = ?, cancel_reason_id = ?"
         " WHERE establishment_id = ? AND series_code = ? AND number = ? AND cancelled = 0",

@@ -13,7 +13,8 @@ void createSchema(Database& database);
 
 enum class SchemaState { Empty, Ready };
 
-// Throws DatabaseError for a database of another version or of another program.
-SchemaState checkSchema(Database& database, const std::string& file);
+// Throws DatabaseError, which names the database as told, for one of another version
+// or of another program.
+SchemaState checkSchema(Database& database, const std::string& name);
 
 }  // namespace tarn::practice

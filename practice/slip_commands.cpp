@@ -117,10 +117,11 @@ OrRefusal<Conditions> receivableDocument(const Query& query, CommandContext& con
     return conditions;
 }
 
+// The desk lets a comma through, and sends the number as it was typed.
 OrRefusal<std::string> slipNumber(const Query& query) {
     const std::string& number = query.value("NR_BOL_BANC");
     if (number.empty() || number.size() > kLongestSlipNumber ||
-        number.find_first_not_of("0123456789") != std::string::npos) {
+        number.find_first_not_of("0123456789,") != std::string::npos) {
         return Refusal{"O número do boleto bancário \"" + number +
                        "\" não é válido. Digite só algarismos."};
     }

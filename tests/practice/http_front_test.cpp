@@ -40,6 +40,17 @@ TEST(HttpFront, HandsOnALongQueryWhole) {
     EXPECT_EQ(seen, query);
 }
 
+TEST(HttpFront, SendsTheBodyUncompressed) {
+    const Serving serving([](std::string_view) { return std::string(5000, ' ') + "<R/>"; });
+    httplib::Client client("127.0.0.1", serving.port());
+    client.set_decompress(false);
+    const auto result = client.Get(std::string(kPagePath) + "?comando=X",
+                                   {{"Accept-Encoding", "br, gzip, deflate"}});
+    ASSERT_TRUE(result);
+    EXPECT_FALSE(result->has_header("Content-Encoding"));
+    EXPECT_EQ(result->body.size(), 5004U);
+}
+
 TEST(HttpFront, ServesOnePageOnly) {
     const Serving serving([](std::string_view) { return std::string("<R/>"); });
     const auto other = serving.get("/outra?comando=X");

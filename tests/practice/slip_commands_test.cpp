@@ -153,6 +153,7 @@ TEST(SlipCommands, KeepTheNumberOfACollectionDocument) {
     EXPECT_EQ(desk.status(numberCollection(slip, "1234")), "OK");
     EXPECT_EQ(desk.status(numberCollection(slip, "")),
               "O número do boleto bancário \"\" não é válido. Digite só algarismos.");
+    EXPECT_EQ(desk.status(numberCollection(slip, "12,5")), "OK");
     EXPECT_NE(desk.status(numberCollection(slip, "12a")), "OK");
     EXPECT_NE(desk.status(numberCollection(slip, std::string(21, '1'))), "OK");
     Slip none = slip;

@@ -113,6 +113,10 @@ TEST(Tarnservidor, RefusesWrongValues) {
     expectRefusal({"--porta"}, "Falta o valor da opção --porta");
     expectRefusal({"--semente", "x"}, "A semente \"x\" não é um número inteiro");
     expectRefusal({"--hoje", "31/02/2012"}, "A data \"31/02/2012\" não existe");
+    expectRefusal({"--banco", "postgresql://ana:segredo@h"},
+                  "O endereço do banco de dados \"postgresql://ana@h\" não é válido");
+    expectRefusal({"--banco", "postgresql://127.0.0.1:1/pratica"},
+                  "Confira se o servidor PostgreSQL está no ar");
     expectRefusal({"--codificacao", "latin1"}, "A codificação \"latin1\" não existe");
     expectRefusal({"--nada"}, "A opção \"--nada\" não existe");
 }
