@@ -9,7 +9,8 @@ namespace {
 class PracticeLabels : public LabelScreens {
 protected:
     void SetUp() override {
-        ScreenTest::SetUp();
+        LabelScreens::SetUp();
+        menu.hide();
         entered(1361, 1361);
         sessao.UserCode = "101";
         sessao.SERVERNAME = "DADOS1361";
