@@ -34,6 +34,7 @@ comando::ItemEscolhido escolhido(const QComboBox& lista) {
 
 std::string montaURL(const QComboBox& lista) {
     std::vector<std::int32_t> dados;
+    dados.reserve(static_cast<std::size_t>(lista.count()));
     for (int i = 0; i < lista.count(); ++i) {
         dados.push_back(lista.itemData(i).toInt());
     }

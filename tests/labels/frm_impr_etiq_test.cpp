@@ -38,12 +38,18 @@ protected:
         server.on("sel_dados_etq", answers::rowset(customers(3)));
     }
     static std::string customers(int count) {
+        const std::vector<std::pair<const char*, const char*>> fields{
+            {"CD_CEP", "CEP"},    {"NM_PES_CPL", "NOME"}, {"DC_LG_CPL", "RUA"},
+            {"NM_BRR", "BAIRRO"}, {"SG_UF", "U"},         {"NM_MUN", "CIDADE"}};
         std::string rows;
         for (int i = 1; i <= count; ++i) {
-            const std::string n = std::to_string(i);
-            rows += "<z:row CD_CEP='CEP " + n + "' NM_PES_CPL='NOME " + n + "' DC_LG_CPL='RUA " +
-                    n + "' NM_BRR='BAIRRO " + n + "' SG_UF='U" + n + "' NM_MUN='CIDADE " + n +
-                    "'/>";
+            rows += "<z:row";
+            for (const auto& [name, text] : fields) {
+                rows.append(" ").append(name).append("='").append(text);
+                rows.append(name == std::string_view("SG_UF") ? "" : " ");
+                rows.append(std::to_string(i)).append("'");
+            }
+            rows += "/>";
         }
         return rows;
     }
@@ -64,15 +70,9 @@ protected:
             work(selection);
         });
     }
-    static void tick(const QWidget& selection, int row) {
-        auto& grid = named<QTableView>(selection, "sprDados");
-        const QModelIndex box = grid.model()->index(row - 1, 0);
-        grid.scrollTo(box);
-        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(box).center());
-    }
+    static void tick(const QWidget& selection, int row) { grid::click(gridOf(selection), row, 1); }
     static bool ticked(const QWidget& selection, int row) {
-        const QAbstractItemModel& model = *named<QTableView>(selection, "sprDados").model();
-        return model.index(row - 1, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        return grid::ticks(gridOf(selection)).at(static_cast<std::size_t>(row - 1));
     }
     static bool enabled(const QWidget& selection, const char* name) {
         return named<QWidget>(selection, name).isEnabled();
@@ -320,9 +320,7 @@ TEST_F(SelectionScreen, TickedCustomersPrint) {
 
 TEST_F(SelectionScreen, TheHeadingTicksNothing) {
     inFound([](QWidget& selection) {
-        QHeaderView& header = *named<QTableView>(selection, "sprDados").horizontalHeader();
-        QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
-                          QPoint(header.sectionSize(0) / 2, header.height() / 2));
+        grid::clickHeading(gridOf(selection), 1);
         for (int row = 1; row <= 3; ++row) {
             EXPECT_FALSE(ticked(selection, row));
         }

@@ -2,15 +2,14 @@
 #pragma once
 
 #include <QComboBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableView>
 #include <QTimer>
 #include <functional>
 
 #include "label_answers.h"
 #include "session/mdi_menu.h"
+#include "support/grid.h"
 #include "support/screen_test.h"
 
 namespace tarn::labels {
@@ -104,6 +103,7 @@ protected:
     static std::vector<std::string> items(const QWidget& screen, const char* list) {
         std::vector<std::string> all;
         const auto& box = named<QComboBox>(screen, list);
+        all.reserve(static_cast<std::size_t>(box.count()));
         for (int i = 0; i < box.count(); ++i) {
             all.push_back(box.itemText(i).toStdString());
         }
@@ -121,21 +121,16 @@ protected:
         }
         return "no label";
     }
+    static QTableView& gridOf(const QWidget& screen) {
+        return named<QTableView>(screen, "sprDados");
+    }
     static std::vector<std::string> headings(const QWidget& screen) {
-        const QAbstractItemModel& model = *named<QTableView>(screen, "sprDados").model();
-        std::vector<std::string> all;
-        for (int column = 0; column < model.columnCount(); ++column) {
-            all.push_back(model.headerData(column, Qt::Horizontal).toString().toStdString());
-        }
-        return all;
+        return grid::headings(gridOf(screen));
     }
-    static int rows(const QWidget& screen) {
-        return named<QTableView>(screen, "sprDados").model()->rowCount();
-    }
+    static int rows(const QWidget& screen) { return grid::rows(gridOf(screen)); }
     // From 1.
     static std::string cell(const QWidget& screen, int row, int column) {
-        const QAbstractItemModel& model = *named<QTableView>(screen, "sprDados").model();
-        return model.index(row - 1, column - 1).data().toString().toStdString();
+        return grid::cell(gridOf(screen), row, column);
     }
     // What the window of a long run has said by the time a box stands, or the run is over.
     std::vector<std::string> watchProgress(const QWidget& screen,
