@@ -3,7 +3,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::int64_t kLargestWhole = 1'000'000'000'000;
+constexpr std::int64_t kLargestWhole = 10'000'000'000'000;
 
 }  // namespace
 
@@ -56,6 +56,11 @@ std::optional<std::int64_t> screenQuantity(std::string_view text) {
         }
     }
     return digits ? std::optional(whole * 1000 + decimals) : std::nullopt;
+}
+
+std::optional<std::int64_t> screenMoney(std::string_view text) {
+    const std::optional<std::int64_t> thousandths = screenQuantity(text);
+    return thousandths && *thousandths % 10 == 0 ? std::optional(*thousandths / 10) : std::nullopt;
 }
 
 }  // namespace tarn::practice

@@ -25,5 +25,7 @@ inline std::int64_t percentOf(std::int64_t cents, std::int64_t rateHundredths) {
 // "1.234,5" in thousandths: points group, a comma parts up to three decimals.
 // Negative and unreadable texts give nothing.
 std::optional<std::int64_t> screenQuantity(std::string_view text);
+// The same in cents; a third decimal that isn't 0 gives nothing.
+std::optional<std::int64_t> screenMoney(std::string_view text);
 
 }  // namespace tarn::practice

@@ -1,9 +1,28 @@
 #include "practice/command.h"
 
+#include <array>
+
 namespace tarn::practice {
 
+namespace {
+
+std::array<std::span<const Command>, 8> subjects() {
+    return {sessionCommands(), orderCommands(),  noteCommands(),  documentCommands(),
+            slipCommands(),    chequeCommands(), labelCommands(), selectionCommands()};
+}
+
+}  // namespace
+
+std::vector<Command> allCommands() {
+    std::vector<Command> commands;
+    for (const auto& subject : subjects()) {
+        commands.insert(commands.end(), subject.begin(), subject.end());
+    }
+    return commands;
+}
+
 const Command* findCommand(std::string_view name) {
-    for (const auto& subject : {sessionCommands(), orderCommands(), noteCommands()}) {
+    for (const auto& subject : subjects()) {
         for (const Command& command : subject) {
             if (sameIgnoringCase(command.name, name)) {
                 return &command;
@@ -23,12 +42,28 @@ OrRefusal<std::int64_t> requestedCompany(const Query& query, CommandContext& con
     return rows.integer(0);
 }
 
+OrRefusal<std::int64_t> requestedCompany(const Query& query, std::string_view key,
+                                         CommandContext& context) {
+    auto company = requestedCompany(query, context);
+    if (const auto* id = std::get_if<std::int64_t>(&company);
+        id != nullptr && wholeNumber(query.value(key)) != *id) {
+        return Refusal{"A empresa \"" + query.value(key) +
+                       "\" não é a do servidor de dados. Saia do sistema e entre de novo."};
+    }
+    return company;
+}
+
 OrRefusal<Establishment> requestedEstablishment(const Query& query, CommandContext& context) {
+    return requestedEstablishment(query, "ID_ETB_TARN", context);
+}
+
+OrRefusal<Establishment> requestedEstablishment(const Query& query, std::string_view key,
+                                                CommandContext& context) {
     const auto company = requestedCompany(query, context);
     if (const auto* refusal = std::get_if<Refusal>(&company)) {
         return *refusal;
     }
-    const std::string& text = query.value("ID_ETB_TARN");
+    const std::string& text = query.value(key);
     const std::optional<std::int64_t> code = wholeNumber(text);
     Rows rows = context.database.select(
         "SELECT id, company_id FROM establishment"

@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "practice/answer.h"
 #include "practice/database.h"
@@ -30,7 +31,14 @@ struct Command {
 std::span<const Command> sessionCommands();
 std::span<const Command> orderCommands();
 std::span<const Command> noteCommands();
+std::span<const Command> documentCommands();
+std::span<const Command> slipCommands();
+std::span<const Command> chequeCommands();
+std::span<const Command> labelCommands();
+std::span<const Command> selectionCommands();
 
+// All subjects' commands, in the order of the subjects.
+std::vector<Command> allCommands();
 const Command* findCommand(std::string_view name);  // letters' case doesn't matter
 
 // What a request may see: the company whose data server it names, and of it the
@@ -41,7 +49,13 @@ struct Establishment {
 };
 
 OrRefusal<std::int64_t> requestedCompany(const Query& query, CommandContext& context);
+// Refuses also a company that isn't the data server's, where `key` names one.
+OrRefusal<std::int64_t> requestedCompany(const Query& query, std::string_view key,
+                                         CommandContext& context);
 OrRefusal<Establishment> requestedEstablishment(const Query& query, CommandContext& context);
+// The same, under a key of the command's own.
+OrRefusal<Establishment> requestedEstablishment(const Query& query, std::string_view key,
+                                                CommandContext& context);
 
 // Refuses a user that isn't of the company.
 OrRefusal<std::string> requestedUser(const Query& query, std::string_view key, std::int64_t company,

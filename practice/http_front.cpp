@@ -5,8 +5,11 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <condition_variable>
+#include <mutex>
 #include <stdexcept>
 #include <thread>
 #include <utility>
@@ -20,6 +23,7 @@ constexpr const char* kPlainText = "text/plain; charset=utf-8";
 constexpr int kServerError = 500;
 constexpr int kNotFound = 404;
 constexpr time_t kTurnMicroseconds = 50000;
+constexpr std::size_t kBlanksAtOnce = 1U << 16;
 
 // Without the library's own SO_REUSEPORT, under which a port already served
 // would be taken a second time in silence.
@@ -66,18 +70,55 @@ std::string_view queryOf(std::string_view target) {
 // One request a connection, so that the end waits for no idle one; its target
 // is handed on as it came.
 class PageServer : public httplib::Server {
+public:
+    // Keeps the request that this thread is serving without an answer.
+    static void sendNothing() { current_->mute(); }
+
 private:
     bool process_and_close_socket(socket_t socket) override {
         RequestStream stream(socket, read_timeout_sec_, write_timeout_sec_);
+        current_ = &stream;
         bool closed = false;
-        const bool done = process_request(
-            stream, true, closed,
-            [&stream](httplib::Request& request) { request.target = stream.target(); });
+        const bool done =
+            process_request(stream, true, closed, [&stream](httplib::Request& request) {
+                request.target = stream.target();
+                // Uncompressed: the library would spend a tenth of a second on a long list.
+                request.headers.erase("Accept-Encoding");
+            });
         shutdown(socket, SHUT_RDWR);
         close(socket);
         return done;
     }
+
+    static thread_local RequestStream* current_;  // of the request being served
 };
+
+thread_local RequestStream* PageServer::current_ = nullptr;
+
+// A body of which only the first half leaves before the connection closes.
+void sendHalf(httplib::Response& response, std::string body, const std::string& type) {
+    const std::size_t size = body.size();
+    response.set_content_provider(
+        size, type, [body = std::move(body)](std::size_t, std::size_t, httplib::DataSink& sink) {
+            sink.write(body.data(), body.size() / 2);
+            return false;
+        });
+}
+
+// A body and blanks behind it, sent in pieces.
+void sendWithBlanks(httplib::Response& response, std::string body, std::size_t blanks,
+                    const std::string& type) {
+    const std::size_t size = body.size() + blanks;
+    response.set_content_provider(
+        size, type,
+        [body = std::move(body)](std::size_t at, std::size_t left, httplib::DataSink& sink) {
+            if (at < body.size()) {
+                return sink.write(body.data() + at, body.size() - at);
+            }
+            const std::string piece(std::min(left, kBlanksAtOnce), ' ');
+            return sink.write(piece.data(), piece.size());
+        });
+}
 
 }  // namespace
 
@@ -86,7 +127,30 @@ struct HttpFront::State {
     std::string contentType;
     PageServer server;
     std::atomic<bool> finished = false;
+    std::mutex mutex;
+    std::condition_variable stopping;
+    bool stopped = false;
+
+    void send(Page page, httplib::Response& response);
 };
+
+void HttpFront::State::send(Page page, httplib::Response& response) {
+    if (page.wait > page.wait.zero()) {
+        std::unique_lock lock(mutex);
+        stopping.wait_for(lock, page.wait, [this] { return stopped; });
+    }
+    const std::string type = page.contentType.empty() ? contentType : page.contentType;
+    response.status = page.status;
+    if (page.ending == Ending::Before) {
+        PageServer::sendNothing();
+    } else if (page.ending == Ending::Within) {
+        sendHalf(response, std::move(page.body), type);
+    } else if (page.blanksBehind > 0) {
+        sendWithBlanks(response, std::move(page.body), page.blanksBehind, type);
+    } else {
+        response.set_content(page.body, type);
+    }
+}
 
 HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_unique<State>()) {
     state_->answer = std::move(answer);
@@ -95,10 +159,10 @@ HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_
     state->server.set_socket_options(reuseAddressOnly);
     // Waits for connections in short turns, so that a stop is always noticed.
     state->server.set_idle_interval(0, kTurnMicroseconds);
-    state->server.Get(std::string(kPagePath), [state](const httplib::Request& request,
-                                                      httplib::Response& response) {
-        response.set_content(state->answer(queryOf(request.target)), state->contentType);
-    });
+    state->server.Get(std::string(kPagePath),
+                      [state](const httplib::Request& request, httplib::Response& response) {
+                          state->send(state->answer(queryOf(request.target)), response);
+                      });
     state->server.set_exception_handler(
         [](const httplib::Request&, httplib::Response& response, std::exception_ptr thrown) {
             response.status = kServerError;
@@ -109,7 +173,7 @@ HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_
             }
         });
     state->server.set_error_handler([](const httplib::Request&, httplib::Response& response) {
-        if (response.status == kNotFound) {
+        if (response.status == kNotFound && response.body.empty()) {
             response.set_content(
                 "Esta página não existe. A página é " + std::string(kPagePath) + "?comando=...\n",
                 kPlainText);
@@ -145,6 +209,11 @@ void HttpFront::stop() {
     while (!state_->server.is_running() && !state_->finished) {
         std::this_thread::yield();
     }
+    {
+        const std::lock_guard lock(state_->mutex);
+        state_->stopped = true;
+    }
+    state_->stopping.notify_all();
     state_->server.stop();
 }
 

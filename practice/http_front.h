@@ -6,14 +6,16 @@
 #include <string>
 #include <string_view>
 
+#include "practice/page.h"
+
 namespace tarn::practice {
 
 inline constexpr std::string_view kPagePath = "/Kestomain/TarnEmissao.asp";
 
 class HttpFront {
 public:
-    // Gives the body for a query text, and throws where it can't.
-    using Answer = std::function<std::string(std::string_view rawQuery)>;
+    // Gives the page for a query text, and throws where it can't.
+    using Answer = std::function<Page(std::string_view rawQuery)>;
 
     HttpFront(Answer answer, std::string contentType);
     ~HttpFront();
@@ -24,7 +26,8 @@ public:
     // text for the user, for a bad address or a port that can't be had.
     int bind(const std::string& address, int port);
     void serve();  // blocks until stop()
-    // From any other thread; waits for a serve() that is about to begin.
+    // From any other thread; waits for a serve() that is about to begin. Ends the
+    // waiting of pages that are to be late.
     void stop();
 
 private:

@@ -4,6 +4,7 @@
 
 #include "practice/amounts.h"
 #include "practice/command.h"
+#include "practice/document.h"
 #include "practice/fields.h"
 #include "practice/note_document.h"
 #include "practice/order.h"
@@ -19,6 +20,14 @@ Refusal whyNotGenerated(const std::optional<Order>& order, const std::string& te
     return {"A Ordem de Faturamento nº " + text +
             (order->state == "C" ? " já foi cancelada" : " já virou Nota Fiscal") +
             ". Atualize a lista."};
+}
+
+// Notes of one establishment are made and cancelled one after the other: what the
+// stock holds is looked at before it is taken. The update changes nothing and locks
+// the row until the transaction ends.
+void takeTurn(Database& database, std::int64_t establishment) {
+    database.execute("UPDATE establishment SET item_lines = item_lines WHERE id = ?",
+                     {establishment});
 }
 
 // The series' next number, taken by the update itself: the row stays locked
@@ -73,6 +82,38 @@ void insertNote(CommandContext& context, const NoteKey& key, const Order& order,
     }
 }
 
+// What the note's recipient owes is found by the bill search from then on, and what
+// was sold by the label selection. Goods that come back leave neither.
+void insertSaleOf(CommandContext& context, const NoteKey& key, const Order& order) {
+    if (order.entry) {
+        return;
+    }
+    context.database.execute(
+        "INSERT INTO document (establishment_id, kind_id, number, receivable, customer_id,"
+        " series_code, note_number, issued_on, due_on, amount, interest_rate, fine_rate,"
+        " daily_interest)"
+        " SELECT n.establishment_id, ?, p.document, 0, o.customer_id, n.series_code, ?,"
+        " n.issued_on, p.due_on, p.amount, 0, 0, 0"
+        " FROM note n JOIN billing_order o ON o.id = n.order_id"
+        " JOIN note_parcel p ON p.establishment_id = n.establishment_id"
+        " AND p.series_code = n.series_code AND p.number = n.number"
+        " WHERE n.establishment_id = ? AND n.series_code = ? AND n.number = ?",
+        {kBillKind, std::to_string(key.number), key.establishment, key.series, key.number});
+    for (const OrderItem& item : order.items) {
+        context.database.execute(
+            "INSERT INTO sale (customer_id, product_id, sold_on, quantity, amount, order_id)"
+            " VALUES (?, ?, ?, ?, ?, ?)",
+            {order.customerId, item.productId, context.today, item.quantity, item.net(), order.id});
+    }
+}
+
+void deleteSaleOf(CommandContext& context, const NoteKey& key, std::int64_t order) {
+    context.database.execute(
+        "DELETE FROM document WHERE establishment_id = ? AND series_code = ? AND note_number = ?",
+        {key.establishment, key.series, std::to_string(key.number)});
+    context.database.execute("DELETE FROM sale WHERE order_id = ?", {order});
+}
+
 Reply generatedAnswer(const NoteKey& key) {
     Element number{"NOTA", {}, {}};
     number.set("ID_NF_KESTO", std::to_string(key.number));
@@ -111,6 +152,7 @@ Reply generateNote(const Query& query, CommandContext& context) {
     const std::string& text = query.value("ID_ORD_FAT");
     const std::int64_t id = wholeNumber(text).value_or(-1);
     Transaction transaction(context.database);
+    takeTurn(context.database, establishment.id);
     const int taken = context.database.execute(
         "UPDATE billing_order SET state = 'F'"
         " WHERE id = ? AND establishment_id = ? AND state = 'A'",
@@ -125,6 +167,7 @@ Reply generateNote(const Query& query, CommandContext& context) {
     const NoteKey key{establishment.id, order->seriesCode,
                       takeNumber(context.database, establishment.id, order->seriesCode)};
     insertNote(context, key, *order, std::get<std::string>(user));
+    insertSaleOf(context, key, *order);
     moveStock(context.database, establishment.id, id, -1);
     transaction.commit();
     return generatedAnswer(key);
@@ -200,6 +243,7 @@ void releaseOrder(CommandContext& context, const NoteKey& key, std::int64_t orde
     context.database.execute("UPDATE billing_order SET state = ? WHERE id = ?",
                              {again ? "A" : "C", order});
     moveStock(context.database, key.establishment, order, 1);
+    deleteSaleOf(context, key, order);
 }
 
 Reply cancelNote(const Query& query, CommandContext& context) {
@@ -217,6 +261,7 @@ Reply cancelNote(const Query& query, CommandContext& context) {
     }
     const auto key = std::get<NoteKey>(requestedNote(query, context));
     Transaction transaction(context.database);
+    takeTurn(context.database, key.establishment);
     const int touched = context.database.execute(
         "UPDATE note SET cancelled = 1, cancelled_by = ?, cancel_reason_id = ?"
         " WHERE establishment_id = ? AND series_code = ? AND number = ? AND cancelled = 0",

@@ -76,7 +76,7 @@ std::int64_t OrderItem::iss() const {
 std::optional<Order> loadOrder(Database& database, std::int64_t establishment, std::int64_t id) {
     Rows rows = database.select(
         "SELECT o.state, o.series_code, o.cfop, o.customer_id, c.credit_blocked, o.freight,"
-        " o.insurance, o.expenses, o.parcels, o.first_days, o.step_days"
+        " o.insurance, o.expenses, o.parcels, o.first_days, o.step_days, o.entry"
         " FROM billing_order o JOIN customer c ON c.id = o.customer_id"
         " WHERE o.id = ? AND o.establishment_id = ?",
         {id, establishment});
@@ -96,6 +96,7 @@ std::optional<Order> loadOrder(Database& database, std::int64_t establishment, s
     order.parcels = rows.integer(8);
     order.firstDays = rows.integer(9);
     order.stepDays = rows.integer(10);
+    order.entry = rows.integer(11) != 0;
     order.items = loadItems(database, id);
     return order;
 }

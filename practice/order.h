@@ -53,6 +53,7 @@ struct Order {
     std::string cfop;
     std::int64_t customerId = 0;
     bool creditBlocked = false;
+    bool entry = false;  // goods that come back
     std::int64_t freight = 0;
     std::int64_t insurance = 0;
     std::int64_t expenses = 0;

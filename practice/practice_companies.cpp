@@ -1,5 +1,6 @@
 #include "practice/practice_companies.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tarn::practice {
@@ -183,6 +184,34 @@ std::span<const CompanyRow> companyRows() {
 }
 std::span<const EstablishmentRow> establishmentRows() {
     return kEstablishments;
+}
+
+int companyIndex(int company) {
+    return static_cast<int>(std::ranges::find(kCompanies, company, &CompanyRow::id) -
+                            kCompanies.begin());
+}
+
+int establishmentId(int company, int code) {
+    int id = 0;
+    for (const EstablishmentRow& row : kEstablishments) {
+        ++id;
+        if (row.company == company && row.code == code) {
+            return id;
+        }
+    }
+    return 0;
+}
+
+Branches branchesOf(int company) {
+    Branches branches;
+    int id = 0;
+    for (const EstablishmentRow& row : kEstablishments) {
+        ++id;
+        if (row.company == company) {
+            branches.first = branches.count++ == 0 ? id : branches.first;
+        }
+    }
+    return branches;
 }
 
 }  // namespace tarn::practice

@@ -42,4 +42,16 @@ struct EstablishmentRow {
 std::span<const CompanyRow> companyRows();
 std::span<const EstablishmentRow> establishmentRows();
 
+int companyIndex(int company);  // place in its table, from 0
+// The database's own number: establishments are numbered in the order of their
+// table, from 1. 0 for one that isn't there.
+int establishmentId(int company, int code);
+
+// The establishments of a company, which stand together in their table.
+struct Branches {
+    int first = 0;  // the database's own number
+    int count = 0;
+};
+Branches branchesOf(int company);
+
 }  // namespace tarn::practice

@@ -4,8 +4,14 @@
 #include <QCryptographicHash>
 #include <array>
 
+#include "practice/dice.h"
 #include "practice/practice_companies.h"
+#include "practice/practice_customers.h"
+#include "practice/practice_documents.h"
+#include "practice/practice_finance.h"
+#include "practice/practice_labels.h"
 #include "practice/practice_orders.h"
+#include "practice/practice_places.h"
 #include "practice/practice_tables.h"
 #include "practice/tax_numbers.h"
 #include "runtime/text.h"
@@ -62,6 +68,9 @@ constexpr std::array kReasons = {
     "Erro de digitação", "Desistência do cliente", "Preço ou condição de pagamento incorretos",
     "Mercadoria avariada na expedição", "Formulário danificado na impressão"};
 
+// Beside the street's number, as a sender shows it; a blank one shows nothing.
+constexpr std::array<const char*, 4> kComplements = {nullptr, "2º ANDAR", "GALPÃO B", " "};
+
 struct TaxRates {
     const char* origin;
     const char* situation;
@@ -103,7 +112,8 @@ void insertCompanies(Database& database) {
         }
         database.insert("establishment",
                         "id, company_id, code, name, short_name, legal_name, tax_number,"
-                        " state_registration, street, street_number, district, postal_code, town,"
+                        " state_registration, street, street_number, complement,"
+                        " district, postal_code, town,"
                         " state, state_name, telephone, fax, email, item_lines, service_lines",
                         {++id,
                          row.company,
@@ -115,6 +125,7 @@ void insertCompanies(Database& database) {
                          row.stateRegistration,
                          row.street,
                          row.number,
+                         kComplements[static_cast<std::size_t>(id) % kComplements.size()],
                          row.district,
                          row.postalCode,
                          row.town,
@@ -127,18 +138,6 @@ void insertCompanies(Database& database) {
                          row.form.serviceLines > 0 ? Bind(std::to_string(row.form.serviceLines))
                                                    : Bind(std::nullopt)});
     }
-}
-
-// Establishments are numbered in the order of their table.
-int establishmentId(int company, int code) {
-    int id = 0;
-    for (const EstablishmentRow& row : establishmentRows()) {
-        ++id;
-        if (row.company == company && row.code == code) {
-            return id;
-        }
-    }
-    return 0;
 }
 
 void insertUsers(Database& database) {
@@ -155,33 +154,6 @@ void insertUsers(Database& database) {
                 database.insert("user_right", "user_code, right_code", {code, right});
             }
         }
-    }
-}
-
-void insertAddress(Database& database, int customer, const char* kind, const AddressRow& row) {
-    if (row.street != nullptr) {
-        database.insert("customer_address",
-                        "customer_id, kind, street, complement, district, postal_code, town, state",
-                        {customer, kind, row.street, row.complement, row.district, row.postalCode,
-                         row.town, row.state});
-    }
-}
-
-void insertCustomers(Database& database, int companyIndex, int company) {
-    int row = 0;
-    for (const CustomerRow& customer : customerRows()) {
-        const int id = customerId(companyIndex, row++);
-        const std::string tax = customer.naturalPerson ? personTaxNumber(customer.taxBase)
-                                                       : companyTaxNumber(customer.taxBase);
-        database.insert(
-            "customer",
-            "id, company_id, name, natural_person, tax_number, state_registration,"
-            " telephone, credit_blocked",
-            {id, company, customer.name, customer.naturalPerson ? 1 : 0, tax,
-             customer.stateRegistration, customer.telephone, customer.creditBlocked ? 1 : 0});
-        insertAddress(database, id, "P", customer.address);
-        insertAddress(database, id, "C", customer.billing);
-        insertAddress(database, id, "E", customer.delivery);
     }
 }
 
@@ -251,15 +223,21 @@ std::string passwordHash(std::int64_t company, std::string_view login, std::stri
 void insertPracticeData(Database& database, std::uint64_t seed, QDate today) {
     insertCompanies(database);
     insertUsers(database);
-    int companyIndex = 0;
+    insertPlaces(database);
+    insertBanksAndKinds(database);
+    Dice dice(seed + 1);  // apart from the orders' own
     for (const CompanyRow& company : companyRows()) {
-        insertCustomers(database, companyIndex, company.id);
-        insertCarriers(database, companyIndex, company.id);
-        insertProducts(database, companyIndex, company.id);
+        const int index = companyIndex(company.id);
+        insertCarriers(database, index, company.id);
+        insertProducts(database, index, company.id);
         if (company.sellsServices) {
-            insertServices(database, companyIndex, company.id);
+            insertServices(database, index, company.id);
         }
-        ++companyIndex;
+        const std::vector<PracticeCustomer> customers = insertCustomers(database, company, dice);
+        insertPortfoliosAndAccounts(database, company);
+        insertDocuments(database, company, customers, today, dice);
+        insertLabels(database, company, customers, today, dice);
+        insertSales(database, company, customers, today, dice);
     }
     insertPracticeOrders(database, seed, today);
 }

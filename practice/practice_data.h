@@ -1,5 +1,6 @@
 // The data the practice server starts with: companies, their clerks, customers,
-// products and billing orders, the same for the same seed and day.
+// products, billing orders, documents, accounts and labels, the same for the same
+// seed and day.
 #pragma once
 
 #include <QDate>

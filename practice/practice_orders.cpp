@@ -1,11 +1,11 @@
 #include "practice/practice_orders.h"
 
 #include <array>
-#include <random>
 #include <string_view>
 #include <vector>
 
 #include "practice/amounts.h"
+#include "practice/dice.h"
 #include "practice/order_scenarios.h"
 #include "practice/practice_companies.h"
 #include "practice/practice_tables.h"
@@ -15,6 +15,10 @@ namespace {
 
 constexpr int kFirstOrder = 45001;
 constexpr int kOrdersApart = 100;  // between the first orders of two establishments
+constexpr int kFirstOfLongList = 60001;
+constexpr int kLongListOrders = 300;
+constexpr int kLongListCompany = 1361;
+constexpr int kLongListEstablishment = 1363;
 constexpr int kItemsOverForm = 4;
 constexpr int kServicesOverForm = 2;
 constexpr int kParcelsUnseen = 9;  // where the form shows none
@@ -31,16 +35,6 @@ constexpr std::array kByWeight = {6, 7, 16, 11};
 constexpr std::array kWithheld = {4, 5, 14};
 constexpr std::array kExempt = {11, 12};
 constexpr std::array kEveryLegalText = {3, 4, 8, 11, 12, 0};
-
-class Dice {
-public:
-    explicit Dice(std::uint64_t seed) : engine_(seed) {}
-    // 0 to count - 1. The engine's sequence is the same on every machine.
-    int below(int count) { return static_cast<int>(engine_() % static_cast<std::uint64_t>(count)); }
-
-private:
-    std::mt19937_64 engine_;
-};
 
 struct Place {
     int companyIndex = 0;
@@ -273,25 +267,26 @@ void insertSeriesAndStock(Database& database, const Place& place, Dice& dice) {
     }
 }
 
-int companyIndexOf(int company) {
-    int index = 0;
-    for (const CompanyRow& row : companyRows()) {
-        if (row.id == company) {
-            break;
-        }
-        ++index;
+// The plain orders that make one establishment's list a long one.
+constexpr std::array kPlainScenarios = {0, 2, 12, 18};
+
+void insertLongList(Database& database, const Place& place, QDate today, Dice& dice) {
+    for (int i = 0; i < kLongListOrders; ++i) {
+        const auto row = static_cast<std::size_t>(kPlainScenarios[static_cast<std::size_t>(
+            dice.below(static_cast<int>(kPlainScenarios.size())))]);
+        insertOrder(database, kFirstOfLongList + i, orderScenarios()[row], place, today, dice);
     }
-    return index;
 }
 
 }  // namespace
 
 void insertPracticeOrders(Database& database, std::uint64_t seed, QDate today) {
     Dice dice(seed);
+    Place longList;
     int first = kFirstOrder;
     int id = 0;
     for (const EstablishmentRow& establishment : establishmentRows()) {
-        const Place place{companyIndexOf(establishment.company), ++id, &establishment};
+        const Place place{companyIndex(establishment.company), ++id, &establishment};
         insertSeriesAndStock(database, place, dice);
         int order = first;
         for (const Scenario& scenario : orderScenarios()) {
@@ -300,7 +295,12 @@ void insertPracticeOrders(Database& database, std::uint64_t seed, QDate today) {
             }
         }
         first += kOrdersApart;
+        if (establishment.code == kLongListEstablishment &&
+            establishment.company == kLongListCompany) {
+            longList = place;
+        }
     }
+    insertLongList(database, longList, today, dice);
 }
 
 }  // namespace tarn::practice

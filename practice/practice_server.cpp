@@ -1,6 +1,7 @@
 #include "practice/practice_server.h"
 
 #include "practice/command.h"
+#include "practice/database_address.h"
 #include "practice/executor.h"
 #include "practice/practice_data.h"
 #include "practice/schema.h"
@@ -13,22 +14,37 @@ QDate todayOf(const PracticeOptions& options) {
                          : QDate::currentDate();
 }
 
+// Two servers may begin on one empty database at the same moment: the second one
+// waits for the first one's tables.
+void takeTurn(Database& database) {
+    constexpr std::int64_t kKey = 8610;
+    if (database.isServer()) {
+        database.select("SELECT pg_advisory_xact_lock(" + std::to_string(kKey) + ')');
+    }
+}
+
 void prepare(Database& database, const PracticeOptions& options) {
-    if (checkSchema(database, options.database) == SchemaState::Ready) {
+    const std::string name = shownAddress(options.database);
+    if (checkSchema(database, name) == SchemaState::Ready) {
         return;
     }
     try {
         Transaction transaction(database);
-        createSchema(database);
-        insertPracticeData(database, options.seed, todayOf(options));
-        transaction.commit();
+        takeTurn(database);
+        if (database.isEmpty()) {
+            createSchema(database);
+            InsertBatch batch(database);
+            insertPracticeData(database, options.seed, todayOf(options));
+            batch.finish();
+            transaction.commit();
+        }
     } catch (const DatabaseError& error) {
-        throw DatabaseError("O banco de dados \"" + options.database +
-                            "\" não pôde ser preparado. Confira se o arquivo é um banco do "
-                            "servidor de prática e pode ser gravado, ou escolha outro com "
-                            "--banco. " +
+        throw DatabaseError("O banco de dados \"" + name +
+                            "\" não pôde ser preparado. Confira se é um banco do servidor de "
+                            "prática e pode ser gravado, ou escolha outro com --banco. " +
                             error.what());
     }
+    checkSchema(database, name);
 }
 
 Element unknownCommand(const Query& query) {
@@ -60,17 +76,38 @@ PracticeServer::PracticeServer(const PracticeOptions& options)
 
 PracticeServer::~PracticeServer() = default;
 
-std::string PracticeServer::answer(std::string_view rawQuery) {
+// A command undone because of another connection's is carried out again. Where the
+// connection itself is gone, the next request finds a new one.
+Reply PracticeServer::carryOut(const Command& command, const Query& query) {
+    constexpr int kAttempts = 5;
+    for (int attempt = 1;; ++attempt) {
+        try {
+            if (!state_->database) {
+                state_->database = std::make_unique<Database>(options_.database);
+            }
+            CommandContext context{*state_->database, todayOf(options_)};
+            return command.handler(query, context);
+        } catch (const DatabaseConflict&) {
+            if (attempt == kAttempts) {
+                throw;
+            }
+        } catch (const DatabaseError&) {
+            if (state_->database && state_->database->isServer() && !state_->database->isAlive()) {
+                state_->database.reset();
+            }
+            throw;
+        }
+    }
+}
+
+std::string PracticeServer::answer(std::string_view rawQuery, Encoding encoding) {
     const Query query(rawQuery);
     const Command* command = findCommand(query.command());
     if (command == nullptr) {
-        return writeAnswer(unknownCommand(query), options_.encoding);
+        return writeAnswer(unknownCommand(query), encoding);
     }
-    Reply reply = state_->executor.run([&] {
-        CommandContext context{*state_->database, todayOf(options_)};
-        return command->handler(query, context);
-    });
-    return writeAnswer(answerElement(command->shape, std::move(reply)), options_.encoding);
+    Reply reply = state_->executor.run([&] { return carryOut(*command, query); });
+    return writeAnswer(answerElement(command->shape, std::move(reply)), encoding);
 }
 
 }  // namespace tarn::practice

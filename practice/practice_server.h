@@ -12,9 +12,13 @@
 
 namespace tarn::practice {
 
+struct Command;
+class Query;
+
 struct PracticeOptions {
-    std::string database = ":memory:";  // or a file, made when it isn't there
-    std::uint64_t seed = 1;             // used where the database is made
+    // Or a file, made when it isn't there, or the address of a PostgreSQL database.
+    std::string database = ":memory:";
+    std::uint64_t seed = 1;  // used where the database is empty
     Encoding encoding = Encoding::Windows1252;
     std::optional<Date> today = std::nullopt;  // the machine's day where left out
 };
@@ -32,12 +36,15 @@ public:
 
     // The query from the command key on, as it came on the wire. Throws
     // DatabaseError where the database failed; nothing is then changed.
-    std::string answer(std::string_view rawQuery);
+    std::string answer(std::string_view rawQuery) { return answer(rawQuery, encoding()); }
+    std::string answer(std::string_view rawQuery, Encoding encoding);
 
     Encoding encoding() const { return options_.encoding; }
 
 private:
     struct State;
+    Reply carryOut(const Command& command, const Query& query);
+
     PracticeOptions options_;
     std::unique_ptr<State> state_;
 };

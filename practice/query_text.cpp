@@ -24,7 +24,8 @@ std::string percentDecoded(std::string_view text) {
         const int high = text[i] == '%' && i + 2 < text.size() ? hexDigit(text[i + 1]) : -1;
         const int low = high >= 0 ? hexDigit(text[i + 2]) : -1;
         if (low >= 0) {
-            bytes.push_back(static_cast<char>(high * 16 + low));
+            const auto byte = static_cast<char>(high * 16 + low);
+            bytes.push_back(byte == 0 ? ' ' : byte);
             i += 2;
         } else {
             bytes.push_back(text[i]);

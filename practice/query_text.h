@@ -12,7 +12,8 @@ namespace tarn::practice {
 
 // Names are matched without regard to case; of a name given twice the first
 // holds. Values are percent-decoded bytes of windows-1252, as UTF-8; "+" is a
-// plus, and a "%" without two hexadecimal digits behind it stays as it is.
+// plus, and a "%" without two hexadecimal digits behind it stays as it is. A zero
+// byte, which no text of the database can hold, is a blank.
 class Query {
 public:
     explicit Query(std::string_view raw);

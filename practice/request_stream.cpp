@@ -58,7 +58,7 @@ ssize_t RequestStream::read(char* bytes, size_t size) {
 }
 
 ssize_t RequestStream::write(const char* bytes, size_t size) {
-    if (!is_writable()) {
+    if (muted_ || !is_writable()) {
         return -1;
     }
     ssize_t sent = 0;

@@ -19,6 +19,8 @@ public:
     // The target of the request line as it came; complete once the line is read.
     std::string target() const;
 
+    void mute() { muted_ = true; }  // every write fails from then on
+
     bool is_readable() const override;
     bool is_writable() const override;
     ssize_t read(char* bytes, size_t size) override;
@@ -38,6 +40,7 @@ private:
     std::string line_;  // the request line as it came
     bool inLine_ = true;
     bool marked_ = false;
+    bool muted_ = false;
     std::string pending_;  // taken from the socket, not yet read
     std::size_t next_ = 0;
 };

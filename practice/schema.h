@@ -6,14 +6,15 @@
 namespace tarn::practice {
 
 // Raised when a table changes: a database of another version is refused.
-constexpr int kSchemaVersion = 2;
+constexpr int kSchemaVersion = 3;
 
 // Makes the tables in an empty database. The caller holds the transaction.
 void createSchema(Database& database);
 
 enum class SchemaState { Empty, Ready };
 
-// Throws DatabaseError for a database of another version or of another program.
-SchemaState checkSchema(Database& database, const std::string& file);
+// Throws DatabaseError, which names the database as told, for one of another version
+// or of another program.
+SchemaState checkSchema(Database& database, const std::string& name);
 
 }  // namespace tarn::practice

@@ -5,7 +5,6 @@
 #include "platform/directory/directory_spooler.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/system_spooler.h"
-#include "session/tela_futura.h"
 
 namespace tarn {
 
@@ -29,6 +28,9 @@ Mesa::Mesa(DeskApplication& programa, const Opcoes& opcoes, Impressoras impresso
                 .machine = maquina_,
                 .baseUrl = opcoes.baseUrl,
                 .codePage = opcoes.paginaDeCodigo} {
+    if (!opcoes.pastaFiguras.empty()) {
+        ambiente_.pastaFiguras = opcoes.pastaFiguras;
+    }
     programa_.setRelato([this](const std::exception_ptr& erro) { relataErro(desk_, erro); });
     QObject::connect(&fim_, &FimDoPrograma::encerrou, &programa_, [this](int status) {
         http_.close();
@@ -45,7 +47,7 @@ void Mesa::abre() {
     QTimer::singleShot(0, &menu_, [this] {
         menu_.carrega();
         if (selecaoEtiquetas_ && !fim_.encerrado()) {
-            avisaTelaFutura(ambiente_, "Seleção de Etiquetas");
+            menu_.abreSelecaoEtiquetas();
         }
     });
 }

@@ -12,7 +12,7 @@ struct Opcoes {
     std::string baseUrl;            // ends in "?"
     std::string impressoraVirtual;  // directory; empty: the machine's printer
     CodePage paginaDeCodigo = CodePage::Page1252;
-    std::string pastaFiguras;
+    std::string pastaFiguras;  // empty: the usual one
     bool selecaoEtiquetas = false;
 };
 

@@ -39,7 +39,12 @@ struct Escolha {
 
 void declaraNota(CLI::App& app, Escolha& escolha);
 void declaraEscada(CLI::App& app, Escolha& escolha);
+void declaraDuplicatas(CLI::App& app, Escolha& escolha);
 void declaraOrdem(CLI::App& app, Escolha& escolha);
+void declaraBoletos(CLI::App& app, Escolha& escolha);
+void declaraEtiquetas(CLI::App& app, Escolha& escolha);
+void declaraEtiquetasSelecao(CLI::App& app, Escolha& escolha);
+void declaraCheque(CLI::App& app, Escolha& escolha);
 void declaraRegras(CLI::App& app, Escolha& escolha);
 
 // A required code: an option when `nome` begins with "--", a value otherwise. Zeros in

@@ -10,6 +10,7 @@
 #include "runtime/mask.h"
 #include "runtime/numbers.h"
 #include "session/aviso_impressora.h"
+#include "slips/nosso_numero.h"
 
 namespace tarn::imprime {
 namespace {
@@ -101,6 +102,38 @@ void declaraMascara(CLI::App& app, Escolha& escolha) {
     });
 }
 
+void declaraDigito10(CLI::App& app, Escolha& escolha) {
+    struct Pedido {
+        std::string numero;
+        std::string agencia;
+        std::string conta;
+    };
+    CLI::App* comando =
+        app.add_subcommand("digito10", "Mostra o dígito do número de um boleto da carteira 57");
+    const auto pedido = std::make_shared<Pedido>();
+    comando->add_option("numero", pedido->numero, "Número do boleto")->required();
+    comando->add_option("agencia", pedido->agencia, "Agência da carteira")->required();
+    comando->add_option("conta", pedido->conta, "Conta da carteira")->required();
+    comando->callback([&escolha, pedido] {
+        escolha.faz = [pedido](Mesa&) {
+            mostra(std::to_string(DigitoModulo10(trezeDigitos(readComma(pedido->numero)),
+                                                 pedido->agencia, pedido->conta)));
+        };
+    });
+}
+
+void declaraDigito11(CLI::App& app, Escolha& escolha) {
+    CLI::App* comando = app.add_subcommand(
+        "digito11", "Mostra o dígito do número de um boleto das outras carteiras");
+    const auto numero = std::make_shared<std::string>();
+    comando->add_option("numero", *numero, "Número do boleto")->required();
+    comando->callback([&escolha, numero] {
+        escolha.faz = [numero](Mesa&) {
+            mostra(std::to_string(DigitoModulo11(seteDigitos(readComma(*numero)))));
+        };
+    });
+}
+
 }  // namespace
 
 void declaraRegras(CLI::App& app, Escolha& escolha) {
@@ -109,6 +142,8 @@ void declaraRegras(CLI::App& app, Escolha& escolha) {
     declaraQuantidade(app, escolha);
     declaraAviso(app, escolha);
     declaraMascara(app, escolha);
+    declaraDigito10(app, escolha);
+    declaraDigito11(app, escolha);
 }
 
 }  // namespace tarn::imprime

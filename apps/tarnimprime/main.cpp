@@ -1,8 +1,12 @@
 // Prints documents from saved answers, without server or window.
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <exception>
+#include <string>
+#include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "comandos.h"
 #include "mesa.h"
@@ -76,7 +80,12 @@ void declara(CLI::App& app, Geral& geral, Escolha& escolha) {
                    "Página de código da impressora: 1252 (usual), 850 ou 860");
     declaraNota(app, escolha);
     declaraEscada(app, escolha);
+    declaraDuplicatas(app, escolha);
     declaraOrdem(app, escolha);
+    declaraBoletos(app, escolha);
+    declaraEtiquetas(app, escolha);
+    declaraEtiquetasSelecao(app, escolha);
+    declaraCheque(app, escolha);
     declaraRegras(app, escolha);
     app.require_subcommand(1);
     for (CLI::App* comando : app.get_subcommands({})) {
@@ -85,13 +94,32 @@ void declara(CLI::App& app, Geral& geral, Escolha& escolha) {
     }
 }
 
+// As CLI11 takes them, the last one first. "--opcao=" gives the empty text, as
+// "--opcao ''" does; the library would take it for an option without its value.
+std::vector<std::string> argumentos(int argc, char** argv) {
+    std::vector<std::string> todos;
+    bool valores = false;  // after "--"
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view um = argv[i];
+        valores = valores || um == "--";
+        if (!valores && um.starts_with("--") && um.find('=') == um.size() - 1) {
+            todos.emplace_back(um.substr(0, um.size() - 1));
+            todos.emplace_back();
+        } else {
+            todos.emplace_back(um);
+        }
+    }
+    std::ranges::reverse(todos);
+    return todos;
+}
+
 int executa(int argc, char** argv) {
     Geral geral;
     Escolha escolha;
     CLI::App app("Imprime documentos a partir de respostas gravadas do servidor.", "tarnimprime");
     declara(app, geral, escolha);
     try {
-        app.parse(argc, argv);
+        app.parse(argumentos(argc, argv));
     } catch (const CLI::CallForHelp&) {
         std::fputs(app.help().c_str(), stdout);
         return statusFeito;

@@ -43,6 +43,8 @@ public:
 
     // For printing; FalhaDeUso when there is nowhere to print.
     Environment& ambiente();
+    // Directory of the jobs, if they go into one.
+    const std::optional<std::string>& destino() const { return geral_.destino; }
     // For looking at what would print: as `ambiente` where a directory was told, else
     // nothing is printed.
     Environment& ambienteDeConferencia();

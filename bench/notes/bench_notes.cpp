@@ -2,7 +2,6 @@
 // over the answer's bytes, and parse and layout together, in one run. The counter
 // `ratio` is the second over the first, `per_item` the time of an item.
 #include <benchmark/benchmark.h>
-#include <libxml/parser.h>
 
 #include <array>
 #include <cstdint>
@@ -22,12 +21,14 @@
 #include "platform/printer.h"
 #include "session/xml_document.h"
 #include "support/measure.h"
+#include "support/parse_alone.h"
 #include "support/test_environment.h"
 
 namespace {
 
 using tarn::bench::leastOf;
 using tarn::bench::medianOf;
+using tarn::bench::parseAlone;
 using tarn::bench::ratioOf;
 using tarn::bench::secondsOf;
 
@@ -92,15 +93,6 @@ std::string noteOf(int items) {
         xml.append("\" AQ_ISS=\"0\" VL_ISS=\"0\" VL_LIQ_IT=\"0\"/>\r\n");
     }
     return xml + "</PRINCIPAL>\r\n";
-}
-
-void parseAlone(const std::string& xml) {
-    constexpr int options =
-        XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_COMPACT;
-    const std::unique_ptr<xmlDoc, void (*)(xmlDoc*)> document(
-        xmlReadMemory(xml.data(), static_cast<int>(xml.size()), nullptr, nullptr, options),
-        xmlFreeDoc);
-    benchmark::DoNotOptimize(document.get());
 }
 
 struct Times {

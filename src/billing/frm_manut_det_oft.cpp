@@ -1,11 +1,11 @@
 #include "billing/frm_manut_det_oft.h"
 
-#include <QKeyEvent>
 #include <QTextDocument>
 #include <algorithm>
 #include <array>
 
 #include "billing/manutencao.h"
+#include "common/enter_no_botao.h"
 #include "common/field_families.h"
 #include "platform/message_boxes.h"
 #include "session/aparencia.h"
@@ -123,12 +123,9 @@ void frmManutDetOFT::cmdOk_Click() {
     }
 }
 
-// Enter presses a button that has the focus and no other.
 void frmManutDetOFT::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+    if (!enterNoBotao(*this, *event)) {
         QDialog::keyPressEvent(event);
-    } else if (auto* botao = qobject_cast<QPushButton*>(focusWidget())) {
-        botao->click();
     }
 }
 

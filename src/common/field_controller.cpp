@@ -88,6 +88,9 @@ bool FieldController::keyPressed(const QKeyEvent& key) {
 }
 
 bool FieldController::passes(QChar character) {
+    if (filter_ == KeyFilter::None) {
+        return true;
+    }
     auto tecla = static_cast<std::int16_t>(character.unicode());
     return (filter_ == KeyFilter::NumeroVirgula ? SoNumeroVirgula(tecla, ambiente_.machine)
                                                 : SoNumeroInteiro(tecla, ambiente_.machine)) != 0;
@@ -106,6 +109,7 @@ void FieldController::focusOut(Qt::FocusReason reason) {
     }
     editing_ = false;
     left();
+    emit wasLeft();
 }
 
 void FieldController::apply(const FieldResult& result) {

@@ -14,15 +14,15 @@ namespace tarn {
 
 struct Environment;
 
-enum class KeyFilter { NumeroVirgula, NumeroInteiro };
+enum class KeyFilter { None, NumeroVirgula, NumeroInteiro };
 
 // Sends the Tab stroke to the widget: the next field in tab order gets the focus.
 void sendTab(QWidget& widget);
 
-// A field whose keys are filtered: digits, backspace and perhaps the comma pass, any
-// other character is dropped with a beep. Keys without a character (arrows, Delete),
-// Esc and those with Ctrl or Alt pass, so that a text can be pasted.
-// Focus lost to a message box, a menu or another program is no leaving.
+// A field whose keys are filtered, unless by None: digits, backspace and perhaps the
+// comma pass, any other character is dropped with a beep. Keys without a character (arrows,
+// Delete), Esc and those with Ctrl or Alt pass, so that a text can be pasted. Focus lost to a
+// message box, a menu or another program is no leaving.
 class FieldController : public QObject {
     Q_OBJECT
 
@@ -33,6 +33,10 @@ public:
 
     FieldController(QLineEdit* edit, KeyFilter filter, Environment& ambiente,
                     EnterKey enterKey = EnterKey::TabAndBeep);
+
+signals:
+    // The user went to another field; what left() does has been done.
+    void wasLeft();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -24,13 +24,13 @@ void printBand(const Band& band, Run& run) {
     const std::string_view text =
         band.source == Source::LegalText ? legalTextOf(run) : run.document.text(band.source);
     const int calls = callsFor(band, static_cast<int>(lengthOf(text)));
-    for (int i = 0; i < calls; ++i) {
+    const auto piece = static_cast<std::size_t>(band.piece);
+    std::size_t from = 1;
+    for (int i = 0; i < calls; ++i, from += piece) {
         run.line.append(static_cast<std::size_t>(band.column - firstColumn), ' ');
-        appendBlankingControls(run.line, midOf(text, static_cast<std::size_t>(i * band.piece + 1),
-                                               static_cast<std::size_t>(band.piece)));
+        appendBlankingControls(run.line, midOf(text, from, piece));
         if (run.losses != nullptr && i + 1 == calls) {
-            const auto shown = static_cast<std::size_t>(calls * band.piece);
-            run.losses->band(band.source, band.column, midOf(text, shown + 1, text.size()));
+            run.losses->band(band.source, band.column, midOf(text, from + piece, text.size()));
         }
         run.send(i + 1 < calls ? 1 : band.lines - (calls - 1));
     }

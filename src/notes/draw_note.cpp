@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/falha_impressora.h"
 #include "notes/drawn_form.h"
 #include "notes/fields.h"
 #include "notes/imprime_texto_em.h"

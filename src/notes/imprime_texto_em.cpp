@@ -1,7 +1,7 @@
 #include "notes/imprime_texto_em.h"
 
+#include "common/falha_impressora.h"
 #include "platform/environment.h"
-#include "platform/message_boxes.h"
 #include "platform/printer.h"
 
 namespace tarn {
@@ -10,11 +10,6 @@ namespace {
 constexpr float halfCentimetre = 0.5F;
 
 }  // namespace
-
-void mostraFalha(Environment& ambiente, const PrinterFailure& falha) {
-    ambiente.boxes.show({.text = "Descrição :" + falha.description +
-                                 "\r   Numero :" + std::to_string(falha.number)});
-}
 
 void ImprimeTextoEm(Environment& ambiente, std::string_view texto, double x, double y, bool negrito,
                     double tamanho, std::string_view fonte, int margem) {

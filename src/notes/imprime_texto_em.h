@@ -6,15 +6,11 @@
 namespace tarn {
 
 struct Environment;
-struct PrinterFailure;
 
 // `x` and `y` are centimetres, `tamanho` points. With `margem` 0 the text lands half
 // a centimetre further left and up. A failure is shown to the user and the note
 // goes on.
 void ImprimeTextoEm(Environment& ambiente, std::string_view texto, double x, double y, bool negrito,
                     double tamanho, std::string_view fonte, int margem);
-
-// The box of such a failure.
-void mostraFalha(Environment& ambiente, const PrinterFailure& falha);
 
 }  // namespace tarn

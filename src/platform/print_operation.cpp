@@ -5,6 +5,8 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "runtime/text.h"
+
 namespace tarn {
 namespace {
 
@@ -23,29 +25,6 @@ std::string shortest(double value) {
     const auto end =
         std::to_chars(digits.begin(), digits.end(), value, std::chars_format::fixed).ptr;
     return {digits.begin(), end};
-}
-
-std::string escaped(std::string_view value) {
-    std::string out;
-    for (const char c : value) {
-        switch (c) {
-            case '\\':
-                out += "\\\\";
-                break;
-            case '\t':
-                out += "\\t";
-                break;
-            case '\r':
-                out += "\\r";
-                break;
-            case '\n':
-                out += "\\n";
-                break;
-            default:
-                out += c;
-        }
-    }
-    return out;
 }
 
 std::string joined(std::initializer_list<std::string> fields) {
@@ -68,16 +47,16 @@ struct LineOf {
     }
     std::string operator()(const Copies&) const { return {}; }
     std::string operator()(const DrawnText& text) const {
-        return joined({"text", centimetres(text.x), centimetres(text.y), escaped(text.font),
-                       shortest(text.size), text.bold ? "1" : "0", escaped(text.text)});
+        return joined({"text", centimetres(text.x), centimetres(text.y), escapedLine(text.font),
+                       shortest(text.size), text.bold ? "1" : "0", escapedLine(text.text)});
     }
     std::string operator()(const DrawnLine& line) const {
         return joined({"line", centimetres(line.x1), centimetres(line.y1), centimetres(line.x2),
                        centimetres(line.y2), std::to_string(line.width)});
     }
     std::string operator()(const DrawnPicture& drawn) const {
-        return joined(
-            {"picture", centimetres(drawn.x), centimetres(drawn.y), escaped(drawn.picture.name)});
+        return joined({"picture", centimetres(drawn.x), centimetres(drawn.y),
+                       escapedLine(drawn.picture.name)});
     }
     std::string operator()(const PageBreak&) const { return "newpage"; }
     std::string operator()(const DocumentEnd&) const { return "enddoc"; }

@@ -2,7 +2,9 @@
 // the top left corner of the sheet, x to the right, y down.
 #pragma once
 
+#include <memory>
 #include <string>
+#include <utility>
 #include <variant>
 
 namespace tarn {
@@ -29,10 +31,16 @@ struct DrawnLine {
     bool operator==(const DrawnLine&) const = default;
 };
 
+// Pages that show the same picture share its bytes.
 struct Picture {
     std::string name;
-    std::string bytes;  // the picture file's content (JPEG, PNG, ...)
-    bool operator==(const Picture&) const = default;
+    std::shared_ptr<const std::string> bytes;  // the file's content (JPEG, PNG, ...); never null
+
+    Picture(std::string called, std::string content)
+        : name(std::move(called)), bytes(std::make_shared<const std::string>(std::move(content))) {}
+    bool operator==(const Picture& other) const {
+        return name == other.name && *bytes == *other.bytes;
+    }
 };
 
 struct DrawnPicture {

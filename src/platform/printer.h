@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "platform/print_operation.h"
+#include "platform/progress.h"
 
 namespace tarn {
 
@@ -34,6 +35,9 @@ public:
     double CurrentX = 0;  // centimetres from the corner of the sheet
     double CurrentY = 0;
     int DrawWidth = 1;  // of lines, in dots of 1/600 inch
+
+    // Told page by page by a printer that takes its time over them in EndDoc.
+    Progress progress;
 
     // The page; likewise in force until set again.
     void setScaleMode(ScaleMode mode) { perform(mode); }

@@ -38,12 +38,14 @@ ErroExecucao::ErroExecucao(ErroNumero numero)
 ErroExecucao::ErroExecucao(ErroNumero numero, std::string_view detalhe)
     : std::runtime_error(comDetalhe(numero, detalhe)), numero_(numero) {}
 
+std::string textoDaFalha(const ErroExecucao& erro) {
+    return "Erro em tempo de execução '" + std::to_string(static_cast<int>(erro.numero())) +
+           "':\r\r" + erro.descricao() + ".";
+}
+
 std::string textoDoRelatorio(const ErroExecucao& erro, bool notaPodeExistir) {
-    std::string texto = "Erro em tempo de execução '";
-    texto += std::to_string(static_cast<int>(erro.numero()));
-    texto += "':\r\r";
-    texto += erro.descricao();
-    texto += ".\r\rO programa será encerrado. Anote esta mensagem e avise o suporte.";
+    std::string texto = textoDaFalha(erro);
+    texto += "\r\rO programa será encerrado. Anote esta mensagem e avise o suporte.";
     if (notaPodeExistir) {
         texto +=
             "\r\rA Nota Fiscal pode ter sido gerada no servidor. Caso tenha sido gerada, utilize a "

@@ -40,9 +40,12 @@ public:
 
 inline constexpr int statusErroExecucao = 3;  // exit status of a program that such an error ended
 
-// Text of the report's box: "Erro em tempo de execução 'N':", two line ends
-// (character 13), the description, and, when a fiscal note may already exist on
-// the server, how to print it.
+// "Erro em tempo de execução 'N':", two line ends (character 13), the description and a
+// full stop: what every report of such an error begins with.
+std::string textoDaFalha(const ErroExecucao& erro);
+
+// Text of the box that ends the program: textoDaFalha, that it ends, and, when a fiscal
+// note may already exist on the server, how to print it.
 std::string textoDoRelatorio(const ErroExecucao& erro, bool notaPodeExistir);
 
 }  // namespace tarn

@@ -25,4 +25,7 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
 std::string blankControls(std::string_view text);
 void appendBlankingControls(std::string& out, std::string_view text);
 
+// A value as part of a line of a text file: backslash, tab, CR and LF as \\, \t, \r, \n.
+std::string escapedLine(std::string_view text);
+
 }  // namespace tarn

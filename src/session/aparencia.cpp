@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QPushButton>
 #include <QTranslator>
 
 // Resources of a static library are linked in by this call; it must stand outside of
@@ -94,6 +95,12 @@ void aplicaAparencia(QApplication& programa) {
 
 QIcon figura(const QString& nome) {
     return QIcon(QStringLiteral(":/desk/%1.svg").arg(nome));
+}
+
+void poeFigura(QPushButton& botao, const char* nome) {
+    const int lado = botao.fontMetrics().height() * 3 / 2;
+    botao.setIcon(figura(QLatin1StringView(nome)));
+    botao.setIconSize({lado, lado});
 }
 
 }  // namespace tarn

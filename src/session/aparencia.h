@@ -3,6 +3,7 @@
 
 class QApplication;
 class QIcon;
+class QPushButton;
 class QString;
 
 namespace tarn {
@@ -12,5 +13,7 @@ void aplicaAparencia(QApplication& programa);
 // A picture drawn for the program (":/desk/<nome>.svg"), sharp at any scale. Drawn
 // when first shown.
 QIcon figura(const QString& nome);
+// The same on a button that also has a text.
+void poeFigura(QPushButton& botao, const char* nome);
 
 }  // namespace tarn

@@ -1,7 +1,6 @@
 #include "session/entrada.h"
 
 #include <exception>
-#include <vector>
 
 #include "platform/environment.h"
 #include "platform/machine.h"
@@ -9,6 +8,7 @@
 #include "runtime/dates.h"
 #include "runtime/erro_execucao.h"
 #include "runtime/numbers.h"
+#include "runtime/split.h"
 #include "runtime/text.h"
 #include "session/carrega_xml.h"
 #include "session/commands.h"
@@ -72,18 +72,6 @@ void preenche(Sessao& sessao, const XmlDocument& documento) {
     sessao.DATA = inverteData(pegaNumero(principal, 0, "DATA"));
 }
 
-std::vector<std::string_view> partes(std::string_view texto, char separador) {
-    std::vector<std::string_view> achadas;
-    std::size_t inicio = 0;
-    for (std::size_t fim = texto.find(separador); fim != std::string_view::npos;
-         fim = texto.find(separador, inicio)) {
-        achadas.push_back(texto.substr(inicio, fim - inicio));
-        inicio = fim + 1;
-    }
-    achadas.push_back(texto.substr(inicio));
-    return achadas;
-}
-
 std::string comZero(std::string_view parte) {
     std::string texto(lengthOf(parte) == 1 ? "0" : "");
     texto += parte;
@@ -137,7 +125,7 @@ bool entra(Environment& ambiente, Sessao& sessao, const std::string& empresa,
 }
 
 std::string inverteData(std::string_view data) {
-    const auto mesDiaAno = partes(data, '/');
+    const auto mesDiaAno = split(data, '/');
     if (mesDiaAno.size() < 3) {
         throw ErroExecucao(ErroNumero::ForaDoIntervalo);
     }

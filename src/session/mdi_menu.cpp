@@ -8,7 +8,11 @@
 #include <QShowEvent>
 
 #include "billing/frm_oft.h"
+#include "bills/frm_pesq_dupli.h"
+#include "cheques/frm_cheque.h"
 #include "common/frm_ajuda.h"
+#include "labels/frm_impr_etiq.h"
+#include "labels/frm_pesq_etiquetas.h"
 #include "platform/machine.h"
 #include "platform/qt/wait_cursor.h"
 #include "reprint/frm_reimprime_nf.h"
@@ -16,7 +20,8 @@
 #include "session/aviso_impressora.h"
 #include "session/entrada.h"
 #include "session/frm_logon.h"
-#include "session/tela_futura.h"
+#include "session/telas_de_cobranca.h"
+#include "slips/frm_pesq_boleto.h"
 #include "ui_mdi_menu.h"
 
 namespace tarn {
@@ -39,7 +44,10 @@ QLabel* novoPainel(QStatusBar& barra, const char* nome, const QString& acessivel
 
 }  // namespace
 
-MDIMenu::MDIMenu(DeskContext& desk) : desk_(desk), ui_(std::make_unique<Ui::MDIMenu>()) {
+MDIMenu::MDIMenu(DeskContext& desk)
+    : desk_(desk),
+      ui_(std::make_unique<Ui::MDIMenu>()),
+      cobranca_(std::make_unique<TelasDeCobranca>(desk, *this)) {
     ui_->setupUi(this);
     ui_->mnuNF->insertSeparator(ui_->mCNF)->setObjectName(QStringLiteral("NFtraco"));
     painel1_ = novoPainel(*ui_->StatusBar1, "Panel1", QStringLiteral("Impressora configurada"), 3);
@@ -56,13 +64,6 @@ MDIMenu::~MDIMenu() {
 }
 
 void MDIMenu::ligaMenu() {
-    const auto futura = [this](QAction* entrada, const char* transacao, const char* tela) {
-        connect(entrada, &QAction::triggered, this, [this, transacao, tela] {
-            if (transacao == nullptr || temDireito(transacao)) {
-                avisaTelaFutura(desk_.ambiente, tela);
-            }
-        });
-    };
     connect(ui_->mnuImprClientes, &QAction::triggered, this, [this] { etiquetas("C"); });
     connect(ui_->mnuImprFornecedores, &QAction::triggered, this, [this] { etiquetas("F"); });
     connect(ui_->mOFT, &QAction::triggered, this, &MDIMenu::mOFT_Click);
@@ -70,9 +71,9 @@ void MDIMenu::ligaMenu() {
             [this] { nota("EMI002", TrabalhoNota::Reimpressao); });
     connect(ui_->mCNF, &QAction::triggered, this,
             [this] { nota("EMI003", TrabalhoNota::Cancelamento); });
-    futura(ui_->mnuDuplicata, nullptr, "Duplicata/Recibo");
-    futura(ui_->mnuBoleto, nullptr, "Boleto Bancário");
-    futura(ui_->mnuChequeImpressao, "EMI005", "Impressão de Cheque");
+    connect(ui_->mnuDuplicata, &QAction::triggered, this, &MDIMenu::mnuDuplicata_Click);
+    connect(ui_->mnuBoleto, &QAction::triggered, this, &MDIMenu::mnuBoleto_Click);
+    connect(ui_->mnuChequeImpressao, &QAction::triggered, this, &MDIMenu::mnuChequeImpressao_Click);
     connect(ui_->mnuAjuda, &QAction::triggered, this, &MDIMenu::mnuAjuda_Click);
     connect(ui_->mSair, &QAction::triggered, this, [this] { desk_.fim.encerra(); });
 }
@@ -123,7 +124,15 @@ void MDIMenu::abreModal(QDialog& tela) {
 
 void MDIMenu::etiquetas(const char* tipo) {
     desk_.sessao.TipoEtiqueta = tipo;
-    avisaTelaFutura(desk_.ambiente, "Etiquetas");
+    frmPesqEtiquetas fila(desk_, valoresEtiquetas_, this);
+    fila.carrega();
+    abreModal(fila);
+}
+
+void MDIMenu::abreSelecaoEtiquetas() {
+    FrmImprEtiq selecao(desk_, this);
+    selecao.carrega();
+    selecao.exec();
 }
 
 void MDIMenu::mOFT_Click() {
@@ -150,6 +159,22 @@ void MDIMenu::abreNaArea(Tela* tela) {
     janela->resize(janela->sizeHint().boundedTo(ui_->mdiArea->size()));
     janela->show();
     tela->carrega();
+}
+
+void MDIMenu::mnuDuplicata_Click() {
+    abreModal(cobranca_->duplicatas());
+}
+
+void MDIMenu::mnuBoleto_Click() {
+    abreModal(cobranca_->boletos());
+}
+
+void MDIMenu::mnuChequeImpressao_Click() {
+    if (temDireito("EMI005")) {
+        frmCheque cheque(desk_, this);
+        cheque.carrega();
+        abreModal(cheque);
+    }
 }
 
 void MDIMenu::mnuAjuda_Click() {

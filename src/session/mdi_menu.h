@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <memory>
 
+#include "labels/valores_etiquetas.h"
 #include "session/desk_context.h"
 
 class QAction;
@@ -18,6 +19,7 @@ class MDIMenu;
 
 namespace tarn {
 
+class TelasDeCobranca;
 enum class TrabalhoNota;
 
 class MDIMenu : public QMainWindow {
@@ -30,6 +32,10 @@ public:
     // The start of the program: version gate, logon, first activation. Returns when the
     // user has logged on, or when the program must end. To be called in the event loop.
     void carrega();
+
+    // The bulk selection of labels, which no entry of the menu opens. Returns when it has
+    // been closed.
+    void abreSelecaoEtiquetas();
 
     // Enables mnuEtiquetas and mnuNF again when a screen that disabled them closes.
     void LiberaMenus();
@@ -54,12 +60,17 @@ private:
     void etiquetas(const char* tipo);
     void mOFT_Click();
     void nota(const char* transacao, TrabalhoNota trabalho);
+    void mnuDuplicata_Click();
+    void mnuBoleto_Click();
+    void mnuChequeImpressao_Click();
     void mnuAjuda_Click();
 
     DeskContext& desk_;
     std::unique_ptr<Ui::MDIMenu> ui_;
-    QLabel* painel1_ = nullptr;  // printer notice
-    QLabel* painel2_ = nullptr;  // establishment's name
+    std::unique_ptr<TelasDeCobranca> cobranca_;
+    labels::ValoresEtiquetas valoresEtiquetas_;  // from one opening to the next
+    QLabel* painel1_ = nullptr;                  // printer notice
+    QLabel* painel2_ = nullptr;                  // establishment's name
 };
 
 }  // namespace tarn

@@ -1,35 +1,18 @@
 // tarnimprime as its users run it: the program itself, its exit status, what it
 // says and the job files it leaves.
-#include <gtest/gtest.h>
-#include <sys/wait.h>
+#include "tarnimprime_run.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
 
+namespace tarn::imprime {
 namespace {
-
-namespace fs = std::filesystem;
-
-std::string contentOf(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-std::string quoted(const std::string& word) {
-    std::string out = "'";
-    for (const char c : word) {
-        out += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    }
-    return out + "'";
-}
 
 std::string data(const std::string& name) {
     return std::string(TARN_NOTE_DATA) + "/" + name;
@@ -38,45 +21,6 @@ std::string data(const std::string& name) {
 std::string orderData(const std::string& name) {
     return std::string(TARN_ORDER_DATA) + "/" + name;
 }
-
-struct Result {
-    int status = -1;
-    std::string out;
-    std::string err;
-};
-
-class Tarnimprime : public testing::Test {
-protected:
-    void SetUp() override {
-        std::string pattern = (fs::temp_directory_path() / "tarnimprime-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-        room_ = pattern;
-    }
-    void TearDown() override { fs::remove_all(room_); }
-
-    Result run(const std::vector<std::string>& words) const {
-        std::string command = quoted(TARNIMPRIME);
-        for (const std::string& word : words) {
-            command += " " + quoted(word);
-        }
-        command += " >" + quoted(file("out")) + " 2>" + quoted(file("err"));
-        const int ended = std::system(command.c_str());
-        return {WIFEXITED(ended) ? WEXITSTATUS(ended) : -1, contentOf(file("out")),
-                contentOf(file("err"))};
-    }
-    // A command whose one result is a line on stdout.
-    std::string shown(const std::vector<std::string>& words) const {
-        const Result result = run(words);
-        EXPECT_EQ(result.status, 0) << result.err;
-        EXPECT_EQ(result.err, "");
-        return result.out;
-    }
-    std::string file(const std::string& name) const { return (room_ / name).string(); }
-    std::string job(const std::string& name) const { return contentOf(room_ / "papel" / name); }
-    bool hasJob(const std::string& name) const { return fs::exists(room_ / "papel" / name); }
-
-    fs::path room_;
-};
 
 TEST_F(Tarnimprime, PrintsANoteIntoTheDirectoryItMakes) {
     const Result result =
@@ -439,6 +383,82 @@ TEST_F(Tarnimprime, AnOrderSheetWithoutACompanyOrADocumentIsWrongUsage) {
     }
 }
 
+std::vector<std::string> chequeWords(const std::string& bank, const std::string& amount,
+                                     const std::string& payee, const std::string& date) {
+    return {"cheque", "--banco", bank, "--valor",     amount,      "--favorecido",
+            payee,    "--data",  date, "--municipio", "SÃO CARLOS"};
+}
+
+TEST_F(Tarnimprime, PrintsAChequeOfAnyBank) {
+    std::vector<std::string> words = chequeWords("151", "1.234,56", "MARIA", "15/03/2012");
+    words.insert(words.end(), {"--destino", file("papel")});
+    const Result result = run(words);
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out + result.err, "");
+    EXPECT_EQ(job("job-001.prn"),
+              " \x0F\x1B\x1BG" + std::string(1 + 64 + 6, ' ') +
+                  "1.234,56\r\n\r\n"
+                  "               UM MIL, DUZENTOS E TRINTA E QUATRO REAIS E CINQUENTA E SEIS "
+                  "CENT\r\n"
+                  "   AVOS\r\n\r\n"
+                  "     MARIA\r\n\r\n" +
+                  std::string(1 + 29, ' ') + "S\xC3O CARLOS" + std::string(9 + 2, ' ') +
+                  "15   MARCO" + std::string(12 + 2, ' ') +
+                  "2012\r\n\r\n"
+                  " \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n");
+    EXPECT_FALSE(hasJob("job-002.prn"));
+}
+
+TEST_F(Tarnimprime, PrintsAChequeOfBank33WithoutAPayee) {
+    std::vector<std::string> words = chequeWords("033", "1,00", "", "5/12/2012");
+    words.insert(words.begin(), {"--destino", file("papel")});
+    const Result result = run(words);
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(job("job-001.prn"),
+              " \x1B\x41\x06 \x0F\x1B\x1BG \r\n\r\n" + std::string(1 + 93 + 19, ' ') +
+                  "#1,00#\r\n\r\n\r\n\r\n" + std::string(1 + 26, ' ') +
+                  "UM REAL\r\n\r\n"
+                  " \r\n\r\n" +
+                  std::string(1 + 12, ' ') + "\r\n\r\n\r\n\r\n" + std::string(1 + 61 + 9, ' ') +
+                  "S\xC3O CARLOS   5      DEZEMBRO" + std::string(9 + 9, ' ') +
+                  "12\r\n\r\n"
+                  " \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n"
+                  "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n");
+}
+
+TEST_F(Tarnimprime, AChequeThatCannotBeReadPrintsNothing) {
+    const struct {
+        std::vector<std::string> words;
+        const char* number;
+    } wrong[] = {{chequeWords("B1", "1,00", "X", "15/03/2012"), "'13'"},
+                 {chequeWords("40000", "1,00", "X", "15/03/2012"), "'6'"},
+                 {chequeWords("1", "um real", "X", "15/03/2012"), "'13'"},
+                 {chequeWords("1", "1,00", "X", "15/03"), "'9'"}};
+    for (auto one : wrong) {
+        one.words.insert(one.words.end(), {"--destino", file("papel")});
+        const Result result = run(one.words);
+        EXPECT_EQ(result.status, 3);
+        EXPECT_NE(result.err.find(std::string("Erro em tempo de execução ") + one.number),
+                  std::string::npos)
+            << result.err;
+        EXPECT_FALSE(hasJob("job-001.prn"));
+    }
+}
+
+TEST_F(Tarnimprime, AChequeNeedsAllItsOptions) {
+    const std::vector<std::string> all = chequeWords("1", "1,00", "X", "15/03/2012");
+    for (std::size_t option = 1; option < all.size(); option += 2) {
+        std::vector<std::string> words{"--destino", file("papel")};
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            if (i != option && i != option + 1) {
+                words.push_back(all[i]);
+            }
+        }
+        EXPECT_EQ(run(words).status, 1) << "without " << all[option];
+        EXPECT_FALSE(hasJob("job-001.prn"));
+    }
+}
+
 TEST_F(Tarnimprime, AmountsInWords) {
     EXPECT_EQ(shown({"extenso", "1234,50"}),
               "UM MIL, DUZENTOS E TRINTA E QUATRO REAIS E CINQUENTA CENTAVOS\n");
@@ -509,3 +529,4 @@ TEST_F(Tarnimprime, WrongUsageIsToldInPortuguese) {
 }
 
 }  // namespace
+}  // namespace tarn::imprime

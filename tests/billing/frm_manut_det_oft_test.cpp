@@ -66,6 +66,7 @@ protected:
     }
     static std::vector<std::string> texts(const QWidget& dialog) {
         std::vector<std::string> all;
+        all.reserve(fields.size());
         for (const char* name : fields) {
             all.push_back(text(dialog, name));
         }

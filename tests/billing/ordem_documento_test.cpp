@@ -24,7 +24,7 @@ const std::string blankLine(77, ' ');
 std::string element(const std::string& name, const Fields& fields) {
     std::string text = "<" + name;
     for (const auto& [field, value] : fields) {
-        text += " " + field + "=\"" + value + "\"";
+        text.append(" ").append(field).append("=\"").append(value).append("\"");
     }
     return text + "/>";
 }

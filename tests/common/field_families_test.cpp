@@ -315,5 +315,35 @@ TEST_F(FieldFamilies, AnotherWindowInFrontIsNoLeaving) {
     EXPECT_EQ(form.quantity.text(), QString());
 }
 
+TEST_F(FieldFamilies, AnUnfilteredFieldTakesAnyCharacterAndTabsInSilence) {
+    QLineEdit free(&form);
+    new FieldController(&free, KeyFilter::None, ambiente, FieldController::EnterKey::TabOnly);
+    free.show();
+    free.setFocus();
+    tarn::keys(free, "a-1,ç .");
+    EXPECT_EQ(free.text(), QStringLiteral("a-1,ç ."));
+    QTest::keyClick(&free, Qt::Key_Return);
+    EXPECT_FALSE(hasFocus(free));
+    EXPECT_EQ(machine.beeps, 0);
+}
+
+TEST_F(FieldFamilies, LeavingIsToldOnceAndAfterTheTextWasFormatted) {
+    const QSignalSpy left(form.money.findChild<FieldController*>(), &FieldController::wasLeft);
+    form.money.setFocus();
+    tarn::keys(form.money, "1234,5");
+    QWidget other;
+    other.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    EXPECT_EQ(left.count(), 0) << "another window in front is no leaving";
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    QString shown;
+    QObject::connect(form.money.findChild<FieldController*>(), &FieldController::wasLeft, &form,
+                     [&] { shown = form.money.text(); });
+    form.button.setFocus();
+    EXPECT_EQ(left.count(), 1);
+    EXPECT_EQ(shown, QStringLiteral("1.234,50"));
+}
+
 }  // namespace
 }  // namespace tarn

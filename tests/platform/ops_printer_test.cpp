@@ -49,7 +49,7 @@ TEST_F(OpsPrinterTest, OneLineAnOperation) {
     printer.Print("");
     printer.DrawWidth = 15;
     printer.Line(1.1, 0.9, 20.3, 0.9);
-    printer.PaintPicture({.name = "pic\\Logo", .bytes = "..."}, 1.6, 1.3);
+    printer.PaintPicture({"pic\\Logo", "..."}, 1.6, 1.3);
     printer.NewPage();
     EXPECT_EQ(printer.EndDoc(), std::nullopt);
     EXPECT_EQ(job("job-001.ops"),

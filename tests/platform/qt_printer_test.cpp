@@ -155,7 +155,7 @@ Picture black(const char* format, int dotsPerMetre) {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     EXPECT_TRUE(image.save(&buffer, format));
-    return {.name = "picLogo", .bytes = bytes.toStdString()};
+    return {"picLogo", bytes.toStdString()};
 }
 
 // Width and height of the ink around a point inside it, in dots.
@@ -182,7 +182,7 @@ TEST_F(QtPrinterTest, PicturesAtTheirNaturalSize) {
     constexpr int at192 = 7559;
     EXPECT_EQ(printer_.PaintPicture(black("PNG", at96), 2, 2), std::nullopt);
     printer_.PaintPicture(black("JPG", at192), 2, 6);
-    printer_.PaintPicture({.name = "picVert", .bytes = "no picture"}, 2, 9);
+    printer_.PaintPicture({"picVert", "no picture"}, 2, 9);
     printer_.EndDoc();
     const QImage page = pageOf("job-001.pdf");
     EXPECT_TRUE(isInk(page, 203, 203) && !isInk(page, 197, 203) && !isInk(page, 203, 197));
@@ -203,6 +203,41 @@ TEST_F(QtPrinterTest, APageBeginsWithTheFirstThingDrawnOnIt) {
     printer_.Print("TRÊS");
     printer_.EndDoc();
     EXPECT_EQ(info("job-002.pdf", QStringLiteral("Pages")), QStringLiteral("1"));
+}
+
+TEST_F(QtPrinterTest, TellsEachPageAsItGoesOnPaper) {
+    std::vector<std::pair<std::size_t, std::size_t>> told;
+    printer_.progress = [&told](std::size_t done, std::size_t total) {
+        told.emplace_back(done, total);
+    };
+    for (const char* word : {"UM", "DOIS", "TRÊS"}) {
+        printer_.Print(word);
+        printer_.NewPage();
+    }
+    EXPECT_TRUE(told.empty()) << "nothing is on paper yet";
+    printer_.EndDoc();
+    EXPECT_EQ(told, (std::vector<std::pair<std::size_t, std::size_t>>{{1, 3}, {2, 3}}));
+}
+
+TEST_F(QtPrinterTest, APictureOnEveryPageIsInTheFileOnce) {
+    constexpr int at96 = 3780;  // dots a metre
+    const Picture picture = black("JPG", at96);
+    for (int page = 0; page < 3; ++page) {
+        printer_.PaintPicture(picture, 2, 2);
+        printer_.NewPage();
+    }
+    printer_.EndDoc();
+    const QStringList images =
+        QString::fromUtf8(
+            output(QStringLiteral("pdfimages"), {QStringLiteral("-list"), file("job-001.pdf")}))
+            .split(u'\n', Qt::SkipEmptyParts)
+            .mid(2);
+    ASSERT_EQ(images.size(), 3) << "shown on each page";
+    const auto object = [](const QString& line) {
+        return line.split(u' ', Qt::SkipEmptyParts).at(10);
+    };
+    EXPECT_EQ(object(images[1]), object(images[0]));
+    EXPECT_EQ(object(images[2]), object(images[0]));
 }
 
 TEST_F(QtPrinterTest, WithNothingDrawnNothingIsPrinted) {

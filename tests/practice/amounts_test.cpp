@@ -38,6 +38,17 @@ TEST(PracticeAmounts, ReadsScreenQuantities) {
     }
 }
 
+TEST(PracticeAmounts, ReadsScreenMoney) {
+    EXPECT_EQ(screenMoney("1.234,56"), 123456);
+    EXPECT_EQ(screenMoney("7"), 700);
+    EXPECT_EQ(screenMoney("0,5"), 50);
+    EXPECT_EQ(screenMoney("1,500"), 150);
+    EXPECT_EQ(screenMoney("9.999.999.999.999,99"), 999999999999999);
+    for (const char* text : {"", "1,005", "-1", "R$ 1"}) {
+        EXPECT_EQ(screenMoney(text), std::nullopt) << text;
+    }
+}
+
 TEST(PracticeTaxNumbers, HaveTheirCheckDigits) {
     EXPECT_EQ(companyTaxNumber("112223330001"), "11222333000181");
     EXPECT_EQ(personTaxNumber("123456789"), "12345678909");

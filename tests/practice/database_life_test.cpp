@@ -5,10 +5,8 @@
 #include <QDate>
 #include <QTemporaryDir>
 #include <fstream>
-#include <mutex>
-#include <set>
-#include <thread>
 
+#include "practice/at_once.h"
 #include "practice/database.h"
 #include "practice/practice_desk.h"
 #include "practice/schema.h"
@@ -137,6 +135,35 @@ TEST_F(PracticeFile, AStatementThatFailsUndoesItsTransaction) {
     EXPECT_EQ(rows.integer(0), 0);
 }
 
+TEST_F(PracticeFile, ABatchInsertsWhatItsTablesReferToFirst) {
+    constexpr int kRows = 1000;
+    Database database(file());
+    database.execute("CREATE TABLE t (id BIGINT NOT NULL PRIMARY KEY)");
+    database.execute("CREATE TABLE u (t_id BIGINT NOT NULL REFERENCES t (id), text VARCHAR(5))");
+    const auto rows = [&database](const char* table) {
+        Rows count = database.select(std::string("SELECT COUNT(*) FROM ") + table);
+        return count.next() ? count.integer(0) : -1;
+    };
+    {
+        InsertBatch batch(database);
+        for (int i = 0; i < kRows; ++i) {
+            database.insert("t", "id", {i});
+            database.insert("u", "t_id, text", {i, nullptr});
+            database.insert("u", "t_id, text", {i, ""});
+        }
+        batch.finish();
+    }
+    EXPECT_EQ(rows("t"), kRows);
+    EXPECT_EQ(rows("u WHERE text IS NULL"), kRows);
+    EXPECT_EQ(rows("u WHERE text = ''"), kRows);
+    {
+        InsertBatch dropped(database);
+        database.insert("t", "id", {kRows});
+    }
+    database.insert("t", "id", {kRows});
+    EXPECT_EQ(rows("t"), kRows + 1);
+}
+
 TEST_F(PracticeFile, TellsTheEmptyTextFromNull) {
     Database database(file());
     database.execute("CREATE TABLE t (a VARCHAR(5), b VARCHAR(5), d DATE)");
@@ -148,53 +175,11 @@ TEST_F(PracticeFile, TellsTheEmptyTextFromNull) {
     EXPECT_EQ(rows.date(2), QDate(2012, 9, 5));
 }
 
-struct Outcome {
-    std::mutex mutex;
-    std::multiset<std::string> notes;  // series and number
-    int refused = 0;
-};
-
-// One desk of many: goes through the whole list from a place of its own.
-void generateAll(PracticeServer& server, const std::vector<std::string>& orders, std::size_t first,
-                 Outcome& outcome) {
-    for (std::size_t i = 0; i < orders.size(); ++i) {
-        const std::string body =
-            server.answer("COMANDO=SP_GERA_NF&ID_ETB_TARN=1361&ID_ORD_FAT=" +
-                          orders[(first + i) % orders.size()] + "&ID_PES=101&ServerName=DADOS1361");
-        XmlDocument document;
-        const bool loaded = document.loadXML(body);
-        const std::lock_guard lock(outcome.mutex);
-        ASSERT_TRUE(loaded);
-        if (statusOf(document) != "OK") {
-            ++outcome.refused;
-            continue;
-        }
-        const XmlNode root = document.documentElement();
-        outcome.notes.insert(std::string(root.child(1).attributes().item(0).text()) + '/' +
-                             std::string(root.child(0).attributes().item(0).text()));
-    }
-}
-
-constexpr std::size_t kDesks = 8;
-constexpr std::size_t kBillable = 21;  // of 23 orders one lacks stock, one is blocked
-
-void expectEachOnce(const Outcome& outcome) {
-    EXPECT_EQ(outcome.notes.size(), kBillable);
-    EXPECT_EQ(std::set<std::string>(outcome.notes.begin(), outcome.notes.end()).size(), kBillable);
-    EXPECT_EQ(outcome.refused, static_cast<int>(kDesks * 23 - kBillable));
-}
-
 TEST(PracticeConcurrency, EightDesksGetNoOrderAndNoNumberTwice) {
     Desk desk;
     const std::vector<std::string> orders = desk.orders();
     Outcome outcome;
-    std::vector<std::thread> threads;
-    for (std::size_t i = 0; i < kDesks; ++i) {
-        threads.emplace_back([&, i] { generateAll(desk.server(), orders, i * 3, outcome); });
-    }
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
+    generateAtOnce({&desk.server()}, orders, outcome);
     expectEachOnce(outcome);
     EXPECT_EQ(desk.orders(), (std::vector<std::string>{"45007", "45008"}));
 }
@@ -204,14 +189,7 @@ TEST_F(PracticeFile, TwoServersOverOneFileGiveNoNumberTwice) {
     Desk other(optionsOf(file()));
     const std::vector<std::string> orders = one.orders();
     Outcome outcome;
-    std::vector<std::thread> threads;
-    for (std::size_t i = 0; i < kDesks; ++i) {
-        PracticeServer& server = i % 2 == 0 ? one.server() : other.server();
-        threads.emplace_back([&, i] { generateAll(server, orders, i * 3, outcome); });
-    }
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
+    generateAtOnce({&one.server(), &other.server()}, orders, outcome);
     expectEachOnce(outcome);
 }
 

@@ -7,36 +7,10 @@
 #include <thread>
 
 #include "practice/practice_desk.h"
+#include "practice/serving.h"
 
 namespace tarn::practice::test {
 namespace {
-
-// A front that serves for the life of a test.
-class Serving {
-public:
-    explicit Serving(HttpFront::Answer answer)
-        : front_(std::move(answer), "text/xml; charset=windows-1252"),
-          port_(front_.bind("127.0.0.1", 0)),
-          thread_([this] { front_.serve(); }) {}
-    ~Serving() {
-        front_.stop();
-        thread_.join();
-    }
-    Serving(const Serving&) = delete;
-    Serving& operator=(const Serving&) = delete;
-
-    int port() const { return port_; }
-    httplib::Result get(const std::string& target) const {
-        httplib::Client client("127.0.0.1", port_);
-        client.set_url_encode(false);
-        return client.Get(target);
-    }
-
-private:
-    HttpFront front_;
-    int port_;
-    std::thread thread_;
-};
 
 TEST(HttpFront, HandsOnTheQueryAsItCame) {
     std::string seen;
@@ -64,6 +38,17 @@ TEST(HttpFront, HandsOnALongQueryWhole) {
     ASSERT_TRUE(result);
     EXPECT_EQ(result->status, 200);
     EXPECT_EQ(seen, query);
+}
+
+TEST(HttpFront, SendsTheBodyUncompressed) {
+    const Serving serving([](std::string_view) { return std::string(5000, ' ') + "<R/>"; });
+    httplib::Client client("127.0.0.1", serving.port());
+    client.set_decompress(false);
+    const auto result = client.Get(std::string(kPagePath) + "?comando=X",
+                                   {{"Accept-Encoding", "br, gzip, deflate"}});
+    ASSERT_TRUE(result);
+    EXPECT_FALSE(result->has_header("Content-Encoding"));
+    EXPECT_EQ(result->body.size(), 5004U);
 }
 
 TEST(HttpFront, ServesOnePageOnly) {

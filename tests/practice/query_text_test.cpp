@@ -21,6 +21,10 @@ TEST(QueryText, DecodesValuesAsWindows1252) {
     EXPECT_EQ(query.value("D"), "%zz%4");
 }
 
+TEST(QueryText, TakesAZeroByteForABlank) {
+    EXPECT_EQ(Query("A=x%00y").value("A"), "x y");
+}
+
 TEST(QueryText, CutsAtTheAmpersandBeforeDecoding) {
     const Query query("comando=X&NOME=A%26B&OUTRO=a=b&VAZIO=&&SOLTO");
     EXPECT_EQ(query.value("NOME"), "A&B");

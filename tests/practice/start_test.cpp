@@ -113,8 +113,37 @@ TEST(Tarnservidor, RefusesWrongValues) {
     expectRefusal({"--porta"}, "Falta o valor da opção --porta");
     expectRefusal({"--semente", "x"}, "A semente \"x\" não é um número inteiro");
     expectRefusal({"--hoje", "31/02/2012"}, "A data \"31/02/2012\" não existe");
+    expectRefusal({"--banco", "postgresql://ana:segredo@h"},
+                  "O endereço do banco de dados \"postgresql://ana@h\" não é válido");
+    expectRefusal({"--banco", "postgresql://127.0.0.1:1/pratica"},
+                  "Confira se o servidor PostgreSQL está no ar");
     expectRefusal({"--codificacao", "latin1"}, "A codificação \"latin1\" não existe");
     expectRefusal({"--nada"}, "A opção \"--nada\" não existe");
+}
+
+TEST(Tarnservidor, CommitsTheFaultsTold) {
+    Program program({"--porta", "0", "--falha", "LOGIN=404", "--falha", "SEL_SERIE_NF=vazio"});
+    const int port = program.port();
+    ASSERT_GT(port, 0);
+    httplib::Client client("127.0.0.1", port);
+    const std::string page = "/Kestomain/TarnEmissao.asp?comando=";
+    const auto logon = client.Get(page + "LOGIN&EMPRESA=1361&USUARIO=clara&SENHA=pratica");
+    ASSERT_TRUE(logon);
+    EXPECT_EQ(logon->status, 404);
+    const auto series = client.Get(page + "SEL_SERIE_NF&ServerName=DADOS1361");
+    ASSERT_TRUE(series);
+    EXPECT_EQ(series->status, 200);
+    EXPECT_EQ(series->body, "");
+    const auto version = client.Get(page + "VERSAO_TARN_EMISSAO&Versao=07/01/2009");
+    ASSERT_TRUE(version);
+    EXPECT_NE(version->body, "");
+}
+
+TEST(Tarnservidor, RefusesFaultsThatItDoesNotKnow) {
+    expectRefusal({"--falha", "LOGIN=501"}, "A falha \"501\" não existe. Use recusa");
+    expectRefusal({"--falha", "NADA=500"}, "O comando \"NADA\" não existe neste servidor");
+    expectRefusal({"--falha", "LOGIN"}, "não diz de que comando");
+    expectRefusal({"--falha"}, "Falta o valor da opção --falha");
 }
 
 TEST(Tarnservidor, RefusesABusyPort) {
@@ -164,7 +193,7 @@ TEST(Tarnservidor, ShowsItsHelp) {
     EXPECT_EQ(program.status(), 0);
     const std::string help = program.output();
     for (const char* option :
-         {"--porta", "--endereco", "--banco", "--semente", "--codificacao", "--hoje"}) {
+         {"--porta", "--endereco", "--banco", "--semente", "--codificacao", "--hoje", "--falha"}) {
         EXPECT_NE(help.find(option), std::string::npos) << option;
     }
 }

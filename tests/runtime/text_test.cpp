@@ -74,6 +74,12 @@ TEST(Text, ControlCharactersBecomeBlanks) {
     EXPECT_EQ(line, "\x1B X");  // what stood there stays
 }
 
+TEST(Text, APartOfALineIsEscaped) {
+    EXPECT_EQ(escapedLine(""), "");
+    EXPECT_EQ(escapedLine("São|&"), "São|&");
+    EXPECT_EQ(escapedLine("a\\n\tb\r\nc"), "a\\\\n\\tb\\r\\nc");
+}
+
 TEST(Text, OneByteThatIsNoPlainTextIsSeenWhereverItStands) {
     for (std::size_t length = 1; length <= 25; ++length) {
         EXPECT_TRUE(isPlain(std::string(length, '~')));

@@ -172,38 +172,36 @@ TEST_F(MDIMenuTest, ClosingTheWindowEndsTheProgram) {
     EXPECT_EQ(fim.status(), 0);
 }
 
-TEST_F(MDIMenuTest, TheEntriesAskForTheirRightAndSayThatTheScreenComesLater) {
+TEST_F(MDIMenuTest, TheChequeAsksForItsRightAndThenForItsAccounts) {
     logOn();
-    const struct {
-        const char* menuName;
-        const char* entry;
-        const char* right;
-    } asked[] = {{"mnuCheque", "mnuChequeImpressao", "EMI005"}};
-    for (const auto& one : asked) {
-        rights(one.right, "OK");
-        choose(menu, one.menuName, one.entry);
-        EXPECT_EQ(server.queries().back(),
-                  std::string("Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName=SRV1&"
-                              "sTransacao=") +
-                      one.right);
-        ASSERT_FALSE(boxes.shown.empty()) << one.entry;
-        EXPECT_EQ(boxes.shown.back().icon, BoxIcon::Information);
-        EXPECT_EQ(boxes.shown.back().title, "TarnEmissao");
-    }
-    EXPECT_EQ(boxes.shown.size(), 1U);
+    rights("EMI005", "OK");
+    server.on("sel_banco_agencia_conta", answers::rowset(""));
+    modals.then("frmCheque", [](QWidget& cheque) { click(cheque, "cmdCancelar"); });
+    server.addresses.clear();
+    choose(menu, "mnuCheque", "mnuChequeImpressao");
+    ASSERT_EQ(server.addresses.size(), 3U) << "right, accounts, and the desk's own activation";
+    EXPECT_EQ(server.queries()[0],
+              "Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName=SRV1&sTransacao=EMI005");
+    EXPECT_THAT(server.queries()[1], testing::StartsWith("comando=sel_banco_agencia_conta&"));
+    EXPECT_TRUE(boxes.shown.empty());
 }
 
-TEST_F(MDIMenuTest, EntriesWithoutARightAskNothing) {
+TEST_F(MDIMenuTest, TheLabelsOpenWithoutARightForClientsOrForSuppliers) {
     logOn();
-    const std::size_t sent = server.addresses.size();
-    choose(menu, "mnuDuplicata");
-    choose(menu, "mnuBoleto");
-    choose(menu, "mnuEtiquetas", "mnuImprClientes");
-    EXPECT_EQ(sessao.TipoEtiqueta, "C");
-    choose(menu, "mnuEtiquetas", "mnuImprFornecedores");
-    EXPECT_EQ(sessao.TipoEtiqueta, "F");
-    EXPECT_EQ(boxes.shown.size(), 4U);
-    EXPECT_EQ(server.addresses.size(), sent) << "a box is no modal screen: no activation";
+    for (const char* list : {"sel_filiais_remetente", "sel_motivos", "sel_etiquetas"}) {
+        server.on(list, answers::rowset(""));
+    }
+    for (const auto& [entry, kind] :
+         {std::pair{"mnuImprClientes", "C"}, std::pair{"mnuImprFornecedores", "F"}}) {
+        modals.then("frmPesqEtiquetas", [this, kind = kind](QWidget& queue) {
+            EXPECT_EQ(sessao.TipoEtiqueta, kind);
+            click(queue, "cmdVoltar");
+        });
+        const std::size_t sent = server.addresses.size();
+        choose(menu, "mnuEtiquetas", entry);
+        EXPECT_EQ(server.addresses.size(), sent + 4) << "three of the screen, one of the desk";
+    }
+    EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(MDIMenuTest, TheCollectorsEntriesDoNothing) {

@@ -5,8 +5,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
-#include <QPointer>
 #include <QTest>
+#include <QTimer>
 
 namespace tarn {
 
@@ -28,17 +28,20 @@ ModalSteps& ModalSteps::then(const std::string& window, Action action) {
 bool ModalSteps::eventFilter(QObject* receiver, QEvent* event) {
     auto* dialog = event->type() == QEvent::Show ? qobject_cast<QDialog*>(receiver) : nullptr;
     if (dialog != nullptr && dialog->isModal()) {
-        const QPointer<QDialog> window(dialog);
-        QMetaObject::invokeMethod(
-            this,
-            [this, window] {
-                if (window) {
-                    take(*window);
-                }
-            },
-            Qt::QueuedConnection);
+        whenReady(dialog);
     }
     return false;
+}
+
+// What the window asks of the server on opening has been answered: no hourglass.
+void ModalSteps::whenReady(const QPointer<QDialog>& window) {
+    QTimer::singleShot(1, this, [this, window] {
+        if (window && QGuiApplication::overrideCursor() != nullptr) {
+            whenReady(window);
+        } else if (window) {
+            take(*window);
+        }
+    });
 }
 
 void ModalSteps::take(QWidget& window) {

@@ -1,12 +1,16 @@
 // What a test does with the modal windows that open while a routine of a screen runs.
-// Each window takes the next step as soon as its own event loop turns.
+// Each window takes the next step as soon as its own event loop turns and it waits for
+// nothing.
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QWidget>
 #include <deque>
 #include <functional>
 #include <string>
+
+class QDialog;
 
 namespace tarn {
 
@@ -34,6 +38,7 @@ private:
         std::string window;
         Action action;
     };
+    void whenReady(const QPointer<QDialog>& window);
     void take(QWidget& window);
 
     std::deque<Step> steps_;

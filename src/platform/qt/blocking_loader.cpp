@@ -9,20 +9,6 @@
 #include "platform/qt/wait_cursor.h"
 
 namespace tarn {
-namespace {
-
-class ShutGate {
-public:
-    explicit ShutGate(InputGate& gate) : gate_(gate) { gate_.shut(); }
-    ~ShutGate() { gate_.open(); }
-    ShutGate(const ShutGate&) = delete;
-    ShutGate& operator=(const ShutGate&) = delete;
-
-private:
-    InputGate& gate_;
-};
-
-}  // namespace
 
 HttpAnswer BlockingLoader::get(const std::string& address) {
     if (closed_) {

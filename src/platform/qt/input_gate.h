@@ -1,5 +1,5 @@
-// While a request is under way nothing typed or clicked counts and no timer of a
-// screen fires; windows still repaint.
+// While a request or a long run is under way nothing typed or clicked counts and no
+// timer of a screen fires; windows still repaint.
 #pragma once
 
 #include <QObject>
@@ -32,6 +32,18 @@ private:
     bool shut_ = false;
     std::vector<QPointer<QTimer>> late_;
     QTimer lateTimersTurn_;
+};
+
+// The gate shut for as long as this lives.
+class ShutGate {
+public:
+    explicit ShutGate(InputGate& gate) : gate_(gate) { gate_.shut(); }
+    ~ShutGate() { gate_.open(); }
+    ShutGate(const ShutGate&) = delete;
+    ShutGate& operator=(const ShutGate&) = delete;
+
+private:
+    InputGate& gate_;
 };
 
 }  // namespace tarn

@@ -8,6 +8,8 @@
 #include <QPen>
 #include <QPrinter>
 #include <array>
+#include <map>
+#include <tuple>
 
 namespace tarn {
 namespace {
@@ -65,10 +67,27 @@ QSizeF naturalSize(const QImage& image) {  // inches
             image.height() / pictureResolution(image.dotsPerMeterY())};
 }
 
+// A page begins with the first thing drawn on it.
+std::size_t pagesOf(std::span<const PrintOperation> document) {
+    std::size_t pages = 0;
+    bool begun = false;
+    for (const PrintOperation& operation : document) {
+        if (std::holds_alternative<PageBreak>(operation)) {
+            begun = false;
+        } else if (!begun && draws(operation)) {
+            begun = true;
+            ++pages;
+        }
+    }
+    return pages;
+}
+
 class PagePainter {
 public:
-    explicit PagePainter(QPrinter& printer)
+    PagePainter(QPrinter& printer, std::size_t pages, const Progress& progress)
         : printer_(printer),
+          pages_(pages),
+          progress_(progress),
           dotsPerInch_(printer.resolution()),
           dotsPerCentimetre_(dotsPerInch_ / centimetresPerInch),
           begun_(painter_.begin(&printer)) {}
@@ -91,6 +110,9 @@ private:
     }
 
     bool beginPage() {
+        if (breakAsked_ && progress_) {
+            progress_(++done_, pages_);
+        }
         const bool turned = !breakAsked_ || printer_.newPage();
         breakAsked_ = false;
         pageBegun_ = true;
@@ -98,10 +120,9 @@ private:
     }
 
     void draw(const DrawnText& text) {
-        const QFont font = fontOf(text);
-        const double ascent = QFontMetricsF(font, &printer_).ascent();
-        painter_.setFont(font);
-        painter_.drawText(at(text.x, text.y) + QPointF(0, ascent),
+        const Type& type = typeOf(text);
+        painter_.setFont(type.font);
+        painter_.drawText(at(text.x, text.y) + QPointF(0, type.ascent),
                           QString::fromStdString(text.text));
     }
     void draw(const DrawnLine& line) {
@@ -110,8 +131,7 @@ private:
         painter_.drawLine(at(line.x1, line.y1), at(line.x2, line.y2));
     }
     void draw(const DrawnPicture& drawn) {
-        const QImage image = QImage::fromData(QByteArray::fromRawData(
-            drawn.picture.bytes.data(), static_cast<qsizetype>(drawn.picture.bytes.size())));
+        const QImage& image = imageOf(*drawn.picture.bytes);
         if (!image.isNull()) {
             painter_.drawImage(QRectF(at(drawn.x, drawn.y), naturalSize(image) * dotsPerInch_),
                                image);
@@ -120,7 +140,36 @@ private:
     template <typename Setting>
     void draw(const Setting&) {}
 
+    struct Type {
+        QFont font;
+        double ascent = 0;  // dots
+    };
+    // Finding a face costs more than drawing with it.
+    const Type& typeOf(const DrawnText& text) {
+        const auto [place, isNew] = types_.try_emplace({text.font, text.size, text.bold});
+        if (isNew) {
+            const QFont font = fontOf(text);
+            place->second = {font, QFontMetricsF(font, &printer_).ascent()};
+        }
+        return place->second;
+    }
+
+    // Pages that share a picture's bytes share the picture on paper, too.
+    const QImage& imageOf(const std::string& bytes) {
+        const auto [place, isNew] = images_.try_emplace(&bytes);
+        if (isNew) {
+            place->second = QImage::fromData(
+                QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
+        }
+        return place->second;
+    }
+
     QPrinter& printer_;
+    std::size_t pages_;
+    std::size_t done_ = 0;
+    const Progress& progress_;
+    std::map<std::tuple<std::string, double, bool>, Type> types_;
+    std::map<const std::string*, QImage> images_;
     double dotsPerInch_;
     double dotsPerCentimetre_;
     QPainter painter_;
@@ -131,8 +180,9 @@ private:
 
 }  // namespace
 
-bool paintDocument(QPrinter& printer, std::span<const PrintOperation> document) {
-    PagePainter page(printer);
+bool paintDocument(QPrinter& printer, std::span<const PrintOperation> document,
+                   const Progress& progress) {
+    PagePainter page(printer, pagesOf(document), progress);
     for (const PrintOperation& operation : document) {
         if (!page.take(operation)) {
             return false;

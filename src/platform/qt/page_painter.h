@@ -4,12 +4,15 @@
 #include <span>
 
 #include "platform/print_operation.h"
+#include "platform/progress.h"
 
 class QPrinter;
 
 namespace tarn {
 
-// False when the printer doesn't take the document.
-bool paintDocument(QPrinter& printer, std::span<const PrintOperation> document);
+// False when the printer doesn't take the document. `progress` is told of each page
+// that is done, but not of the end.
+bool paintDocument(QPrinter& printer, std::span<const PrintOperation> document,
+                   const Progress& progress);
 
 }  // namespace tarn

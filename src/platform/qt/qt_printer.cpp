@@ -34,14 +34,15 @@ bool isWhole(const QString& pdf) {
 }
 
 std::optional<PrinterFailure> printPdf(QPrinter& printer, JobFiles& files,
-                                       std::span<const PrintOperation> document) {
+                                       std::span<const PrintOperation> document,
+                                       const Progress& progress) {
     const auto file = files.create("pdf");
     if (!file) {
         return unwritable(files);
     }
     const QString name = QFile::decodeName(file->string().c_str());
     printer.setOutputFileName(name);
-    const bool written = paintDocument(printer, document) && isWhole(name);
+    const bool written = paintDocument(printer, document, progress) && isWhole(name);
     return written ? std::nullopt : std::optional(unwritable(files));
 }
 
@@ -91,9 +92,9 @@ std::optional<PrinterFailure> QtPrinter::end() {
     QPrinter printer(QPrinter::HighResolution);
     setUp(printer);
     if (files_) {
-        return printPdf(printer, *files_, document);
+        return printPdf(printer, *files_, document, progress);
     }
-    if (!paintDocument(printer, document)) {
+    if (!paintDocument(printer, document, progress)) {
         return trouble("a impressora \"" + printer.printerName().toStdString() +
                        "\" não aceitou o trabalho. Confira se está ligada e imprima de novo.");
     }

@@ -1,0 +1,193 @@
+// What a label costs on each form of stationery, in a run of 10 and in one of 10,000:
+// reading it from the answer and writing it to a printer that takes everything and
+// does nothing.
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <cstdio>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "labels/imprime_etiquetas.h"
+#include "labels/imprime_selecao.h"
+#include "labels/selecao.h"
+#include "platform/environment.h"
+#include "platform/printer.h"
+#include "platform/spooler.h"
+#include "support/answers.h"
+#include "support/measure.h"
+#include "support/test_environment.h"
+
+namespace {
+
+using tarn::bench::leastOf;
+using tarn::bench::ratioOf;
+using tarn::bench::secondsOf;
+using tarn::labels::Formulario;
+
+constexpr int small = 10;
+constexpr int large = 10000;
+constexpr int repeats = large / small;  // of a small run, in one measurement
+
+class CountingSpooler : public tarn::Spooler {
+public:
+    std::string defaultPrinter() override { return "nenhuma"; }
+    bool openPrinter(const std::string&) override { return true; }
+    bool startDocument(const tarn::JobDescription&) override { return true; }
+    bool startPage() override { return true; }
+    std::size_t write(std::string_view bytes) override {
+        bytes_ += bytes.size();
+        return bytes.size();
+    }
+    bool endPage() override { return true; }
+    bool endDocument() override { return true; }
+    bool closePrinter() override { return true; }
+
+private:
+    std::size_t bytes_ = 0;
+};
+
+class CountingPrinter : public tarn::Printer {
+public:
+    std::optional<tarn::PrinterFailure> perform(const tarn::PrintOperation&) override {
+        ++operations_;
+        return std::nullopt;
+    }
+
+private:
+    std::size_t operations_ = 0;
+};
+
+class SilentBoxes : public tarn::MessageBoxes {
+public:
+    tarn::BoxAnswer show(const tarn::Box&) override { return tarn::BoxAnswer::Ok; }
+};
+
+tarn::XmlDocument parsed(const std::string& rows) {
+    tarn::XmlDocument document;
+    document.loadXML(tarn::answers::rowset(rows));
+    return document;
+}
+
+// Labels as the server writes them: every attribute of a row, used or not.
+std::string labelsOf(int count) {
+    std::string rows;
+    for (int i = 1; i <= count; ++i) {
+        const std::string n = std::to_string(i);
+        rows.append("<z:row SEQUENCIAL='").append(n).append("' NOME='COMÉRCIO DE PEÇAS ").append(n);
+        rows.append(" LTDA' ENDERECO='AVENIDA BRASIL, ").append(n);
+        rows.append("' SOMENTE_ENDERECO='AVENIDA BRASIL' NUMERO='").append(n);
+        rows.append(
+            "' COMPLEMENTO='GALPÃO 2 SALA 34' BAIRRO='JARDIM AMÉRICA' MUNICIPIO='SÃO PAULO' "
+            "UF='SP' PAIS='BRASIL' CEP='01310-100' CODIGO='");
+        rows.append(n).append("'/>");
+    }
+    return rows;
+}
+
+std::string customersOf(int count) {
+    std::string rows;
+    for (int i = 1; i <= count; ++i) {
+        const std::string n = std::to_string(i);
+        rows.append("<z:row CD_CEP='01310-100' NM_PES_CPL='COMÉRCIO DE PEÇAS ").append(n);
+        rows.append(" LTDA' DC_LG_CPL='AVENIDA BRASIL, ").append(n);
+        rows.append("' NM_BRR='JARDIM AMÉRICA' SG_UF='SP' NM_MUN='SÃO PAULO'/>");
+    }
+    return rows;
+}
+
+tarn::labels::Impressao runOf(int count) {
+    const tarn::XmlDocument sender = parsed(
+        "<z:row NOME='DISTRIBUIDORA SÃO JORGE LTDA' ENDERECO='AV. DAS NAÇÕES' BAIRRO='CENTRO' "
+        "MUNICIPIO='SÃO PAULO' UF='SP' CEP='01310-000' DESCRICAO='LOJA' NUMERO='2000'/>");
+    return {parsed(labelsOf(count)), tarn::labels::leRemetente(sender)};
+}
+
+std::vector<tarn::LinhaGrade> tickedOf(int count) {
+    std::vector<tarn::LinhaGrade> rows = tarn::labels::clientesDa(parsed(customersOf(count)));
+    for (tarn::LinhaGrade& row : rows) {
+        row.marcada = true;
+    }
+    return rows;
+}
+
+// Seconds of as many labels in small runs and in a large one, round by round.
+struct Times {
+    std::vector<double> smallRuns;
+    std::vector<double> largeRun;
+};
+
+constexpr std::array<std::pair<const char*, Formulario>, 4> forms{
+    {{"form 1, drawn 3 by 10", Formulario::Pimaco6280},
+     {"form 2, raw 4 across", Formulario::Matricial},
+     {"form 3, drawn A5", Formulario::A5},
+     {"form 4, drawn with sender", Formulario::A4ComRemetente}}};
+constexpr const char* selection = "selection, drawn 2 across";
+
+std::map<std::string, Times>& measured() {
+    static std::map<std::string, Times> all;
+    return all;
+}
+
+template <typename Small, typename Large>
+void measure(const char* what, const Small& printSmall, const Large& printLarge) {
+    Times& times = measured()[what];
+    times.smallRuns.push_back(secondsOf([&] {
+        for (int i = 0; i < repeats; ++i) {
+            printSmall();
+        }
+    }));
+    times.largeRun.push_back(secondsOf(printLarge));
+}
+
+void labels(benchmark::State& state) {
+    tarn::TestEnvironment seams;
+    CountingSpooler spooler;
+    CountingPrinter printer;
+    SilentBoxes boxes;
+    tarn::Environment environment{.http = seams.loader,
+                                  .spooler = spooler,
+                                  .printer = printer,
+                                  .boxes = boxes,
+                                  .clock = seams.clock,
+                                  .machine = seams.machine,
+                                  .baseUrl = {}};
+    const tarn::labels::Impressao few = runOf(small);
+    const tarn::labels::Impressao many = runOf(large);
+    const std::vector<tarn::LinhaGrade> fewTicked = tickedOf(small);
+    const std::vector<tarn::LinhaGrade> manyTicked = tickedOf(large);
+    while (state.KeepRunning()) {
+        for (const auto& [name, form] : forms) {
+            const auto print = [&environment, form = form](const tarn::labels::Impressao& run) {
+                tarn::labels::imprimeEtiquetas(environment, form, run, {});
+            };
+            measure(
+                name, [&] { print(few); }, [&] { print(many); });
+        }
+        measure(
+            selection, [&] { tarn::labels::imprimeSelecao(environment, fewTicked, {}); },
+            [&] { tarn::labels::imprimeSelecao(environment, manyTicked, {}); });
+    }
+}
+BENCHMARK(labels)->Iterations(31)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    for (const auto& [what, times] : measured()) {
+        std::printf("%-26s %7.0f ns a label of 10,000\n", what.c_str(),
+                    leastOf(times.largeRun) * 1e9 / large);
+    }
+    tarn::bench::Limits limits;
+    for (const auto& [what, times] : measured()) {
+        limits.check(what + ": a label of 10,000 over one of 10",
+                     ratioOf(times.largeRun, times.smallRuns), 1.3);
+    }
+    return limits.exitStatus();
+}

@@ -1,0 +1,30 @@
+// The company whose name and address head each page.
+#pragma once
+
+#include <string>
+
+namespace tarn {
+
+class XmlDocument;
+
+struct DadosEmpresa {
+    std::string DC_LG;
+    std::string SG_UF;
+    std::string NM_BRR;
+    std::string NM_MUN;
+    std::string NM_UF;
+    std::string NR_LG;  // read, but no page prints it
+    std::string CD_CEP;
+    std::string CD_ICR_EST;
+    std::string DC_RAZ_SOC_ETB;
+    std::string TELEFONE;
+    std::string FAX;
+    std::string EMAIL;
+    std::string inscricaoFederal;  // "CPF nº " or "CNPJ nº " and the masked number
+};
+
+// The first row of the answer; an absent field is empty. VariavelObjeto when there is
+// no row, or a field is there in another case of letters only.
+DadosEmpresa dadosDaEmpresa(const XmlDocument& resposta);
+
+}  // namespace tarn

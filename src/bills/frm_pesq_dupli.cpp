@@ -1,0 +1,186 @@
+#include "bills/frm_pesq_dupli.h"
+
+#include <QKeyEvent>
+#include <array>
+
+#include "bills/imprime_duplicata.h"
+#include "bills/pesquisa_duplicata.h"
+#include "common/andamento.h"
+#include "common/enter_no_botao.h"
+#include "common/field_families.h"
+#include "common/grade_model.h"
+#include "common/lista_combo.h"
+#include "platform/message_boxes.h"
+#include "session/aparencia.h"
+#include "ui_frm_pesq_dupli.h"
+
+namespace tarn {
+namespace {
+
+// A field's tag: the code behind what it shows.
+constexpr char tag[] = "Tag";
+
+// The columns without a width are for the printing alone.
+constexpr std::array<ColunaGrade, colunasDuplicata> colunas{
+    {{"", 0, TipoColuna::Caixa},
+     {"Filial", 10},
+     {"Dt.de Vencimento", 21},
+     {"Dt.de Emissão", 17},
+     {"Nº do Documento", 20},
+     {"Cliente", 38},
+     {"Endereço", 38},
+     {"Vlr.do Documento", 21, TipoColuna::Numero},
+     {"CEP", 12},
+     {"Município", 24},
+     {"Filial", 8},
+     {"CNPJ / CPF", 22},
+     {"I.E.", 18},
+     {"TP_PES", 0},
+     {"TP_DOCTO1", 0},
+     {"TP_DOCTO2", 0},
+     {"ID_NR_CTL", 0},
+     {"IC_REF_REC", 0},
+     {"NR_DOC_NF", 0},
+     {"Endereço Cobrança", 38},
+     {"Município Cobrança", 24},
+     {"Estado Cobrança", 20},
+     {"CEP Cobrança", 17}}};
+constexpr int linhasVisiveis = 14;
+constexpr int larguraData = 13;    // characters
+constexpr int alturaDaFigura = 2;  // lines
+
+}  // namespace
+
+FrmPesqDupli::FrmPesqDupli(DeskContext& desk, QWidget* parent)
+    : QDialog(parent),
+      desk_(desk),
+      ui_(std::make_unique<Ui::FrmPesqDupli>()),
+      documentos_(new GradeModel(colunas, this)) {
+    ui_->setupUi(this);
+    preparaGrade(*ui_->sprDados, *documentos_);
+    preparaCampos();
+    preparaBotoes();
+    ajustaAGrade(*this, *ui_->sprDados, linhasVisiveis);
+}
+
+FrmPesqDupli::~FrmPesqDupli() = default;
+
+void FrmPesqDupli::preparaCampos() {
+    QPalette paraLeitura = palette();
+    paraLeitura.setColor(QPalette::Base, paraLeitura.color(QPalette::Window));
+    ui_->txtCliente->setPalette(paraLeitura);
+    for (QLineEdit* campo :
+         {ui_->txtDtEmsDe, ui_->txtDtEmsAte, ui_->txtDtVncDe, ui_->txtDtVncAte}) {
+        new DateField(campo, KeyFilter::NumeroVirgula, desk_.ambiente);
+        campo->setFixedWidth(larguraData * campo->fontMetrics().averageCharWidth());
+    }
+    for (QRadioButton* opcao : {ui_->optDupl, ui_->optTripl}) {
+        QSizePolicy lugar = opcao->sizePolicy();
+        lugar.setRetainSizeWhenHidden(true);
+        opcao->setSizePolicy(lugar);
+    }
+}
+
+void FrmPesqDupli::preparaBotoes() {
+    const auto prepara = [this](QPushButton* botao, const char* desenho, auto rotina) {
+        poeFigura(*botao, desenho);
+        botao->setAutoDefault(false);
+        connect(botao, &QPushButton::clicked, this, rotina);
+    };
+    prepara(ui_->cmdPesqCli, "pesquisar_cliente", &FrmPesqDupli::cmdPesqCli_Click);
+    prepara(ui_->cmdLimpar, "limpar", [this] { recebeCliente({}); });
+    prepara(ui_->cmdPesquisar, "pesquisar", &FrmPesqDupli::cmdPesquisar_Click);
+    prepara(ui_->cmdVoltar, "fechar", &QDialog::reject);
+    prepara(ui_->cmdImprimir, "imprimir", &FrmPesqDupli::cmdImprimir_Click);
+}
+
+void FrmPesqDupli::recebeCliente(const Cliente& cliente) {
+    ui_->txtCliente->setProperty(tag, QString::fromStdString(cliente.id));
+    ui_->txtCliente->setText(QString::fromStdString(cliente.nome));
+    ui_->txtCliente->setCursorPosition(0);
+}
+
+// The first activation comes when the screen stands before the user.
+void FrmPesqDupli::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!event->spontaneous()) {
+        QMetaObject::invokeMethod(this, &FrmPesqDupli::ativa, Qt::QueuedConnection);
+    }
+}
+
+void FrmPesqDupli::ativa() {
+    encheLista(*ui_->cboTpDocto, tiposDeDocumento());
+    encheLista(*ui_->cboFilial, filiaisParaFiltro(desk_.ambiente, desk_.sessao));
+    figuras_ = carregaFiguras(desk_.ambiente.pastaFiguras);
+    mostraFiguras();
+}
+
+// Small, so that the user sees what the pages will show.
+void FrmPesqDupli::mostraFiguras() {
+    const auto mostra = [](QLabel& onde, const std::optional<Picture>& figura) {
+        QPixmap desenho;
+        if (figura) {
+            desenho.loadFromData(reinterpret_cast<const uchar*>(figura->bytes->data()),
+                                 static_cast<uint>(figura->bytes->size()));
+        }
+        const int altura = onde.fontMetrics().height() * alturaDaFigura;
+        onde.setPixmap(desenho.isNull() ? desenho
+                                        : desenho.scaled(altura * 4, altura, Qt::KeepAspectRatio,
+                                                         Qt::SmoothTransformation));
+        onde.setVisible(!desenho.isNull());
+    };
+    mostra(*ui_->picLogo, figuras_.picLogo);
+    mostra(*ui_->picVert, figuras_.picVert);
+    mostra(*ui_->picAss, figuras_.picAss);
+}
+
+void FrmPesqDupli::cmdPesqCli_Click() {
+    emit procuraCliente();
+    if (!desk_.fim.encerrado()) {
+        ativa();
+    }
+}
+
+void FrmPesqDupli::cmdPesquisar_Click() {
+    const std::string vencimentoAte = ui_->txtDtVncAte->text().toStdString();
+    if (const auto recusa = recusaDaPesquisa(ui_->cboTpDocto->currentIndex(), vencimentoAte)) {
+        desk_.ambiente.boxes.show({std::string(recusa->texto), BoxIcon::Information, "TArn"});
+        const bool tipo = recusa->campo == CampoDaPesquisa::TipoDocumento;
+        (tipo ? static_cast<QWidget*>(ui_->cboTpDocto) : ui_->txtDtVncAte)->setFocus();
+        return;
+    }
+    const std::int32_t tipo = dadoDaLista(*ui_->cboTpDocto);
+    ui_->optDupl->setVisible(tipo == tipoDuplicata);
+    ui_->optTripl->setVisible(tipo == tipoDuplicata);
+    const std::string cliente = ui_->txtCliente->property(tag).toString().toStdString();
+    const std::string vencimentoDe = ui_->txtDtVncDe->text().toStdString();
+    const std::string emissaoDe = ui_->txtDtEmsDe->text().toStdString();
+    const std::string emissaoAte = ui_->txtDtEmsAte->text().toStdString();
+    const comando::Pesquisa filtro{.cliente = cliente,
+                                   .filial = dadoDaLista(*ui_->cboFilial),
+                                   .vencimentoDe = vencimentoDe,
+                                   .vencimentoAte = vencimentoAte,
+                                   .emissaoDe = emissaoDe,
+                                   .emissaoAte = emissaoAte};
+    if (auto linhas = pesquisaDuplicatas(desk_.ambiente, desk_.sessao, tipo, filtro)) {
+        documentos_->mostra(std::move(*linhas));
+        ui_->sprDados->setCurrentIndex(documentos_->index(0, 0));
+    }
+}
+
+void FrmPesqDupli::cmdImprimir_Click() {
+    Andamento andamento(*this);
+    imprimeSelecionados(desk_.ambiente, desk_.sessao,
+                        {.linhas = documentos_->linhas(),
+                         .triplicata = !ui_->optDupl->isChecked(),
+                         .figuras = figuras_},
+                        andamento.avisos());
+}
+
+void FrmPesqDupli::keyPressEvent(QKeyEvent* event) {
+    if (!enterNoBotao(*this, *event)) {
+        QDialog::keyPressEvent(event);
+    }
+}
+
+}  // namespace tarn

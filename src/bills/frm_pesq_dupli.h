@@ -1,0 +1,54 @@
+// Finds bills and receipts of the company and prints the ticked ones.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "bills/figuras.h"
+#include "bills/procura_cliente.h"
+#include "session/desk_context.h"
+
+namespace Ui {
+class FrmPesqDupli;
+}
+
+namespace tarn {
+
+class GradeModel;
+
+class FrmPesqDupli : public QDialog {
+    Q_OBJECT
+
+public:
+    FrmPesqDupli(DeskContext& desk, QWidget* parent);
+    ~FrmPesqDupli() override;
+
+    // The customer to search for, also before the screen is shown.
+    void recebeCliente(const Cliente& cliente);
+
+signals:
+    // To be answered by the customer dialog, which has closed when this returns.
+    void procuraCliente();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void preparaCampos();
+    void preparaBotoes();
+    // On every activation: both lists are filled anew, the pictures read again.
+    void ativa();
+    void mostraFiguras();
+
+    void cmdPesqCli_Click();
+    void cmdPesquisar_Click();
+    void cmdImprimir_Click();
+
+    DeskContext& desk_;
+    std::unique_ptr<Ui::FrmPesqDupli> ui_;
+    GradeModel* documentos_;
+    FigurasDuplicata figuras_;
+};
+
+}  // namespace tarn

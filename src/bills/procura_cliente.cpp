@@ -1,0 +1,54 @@
+#include "bills/procura_cliente.h"
+
+#include <array>
+
+#include "common/linhas_da_resposta.h"
+#include "platform/environment.h"
+#include "platform/message_boxes.h"
+#include "runtime/text.h"
+#include "session/commands.h"
+#include "session/failure_texts.h"
+#include "session/resposta.h"
+
+namespace tarn {
+namespace {
+
+constexpr std::size_t menorNome = 3;
+
+constexpr std::array<CampoGrade, 3> campos{
+    {{.nome = "NM_PES_CPL"}, {.nome = "DC_TIP_EMP"}, {.nome = "ID_PES_CLI"}}};
+
+void informa(Environment& ambiente, const std::string& texto) {
+    ambiente.boxes.show({.text = texto, .icon = BoxIcon::Information, .title = "Aviso"});
+}
+
+}  // namespace
+
+bool ProcuraCliente(Environment& ambiente, const Sessao& sessao, XmlDocument& resposta,
+                    const std::optional<std::string>& texto) {
+    return pede(ambiente, comando::Sel_Cliente(sessao, texto.value_or("")), resposta,
+                falha::Tarn0024);
+}
+
+std::vector<LinhaGrade> linhasDeClientes(const XmlDocument& resposta) {
+    return linhasDaResposta(resposta, campos);
+}
+
+PesquisaDeCliente pesquisaCliente(Environment& ambiente, const Sessao& sessao,
+                                  const std::string& texto) {
+    if (lengthOf(trimBlanks(texto)) < menorNome) {
+        informa(ambiente, "Nome do cliente deve ter no mínimo 3 letras.    ");
+        return {.linhas = {}, .nomeCurto = true};
+    }
+    XmlDocument resposta;
+    if (!ProcuraCliente(ambiente, sessao, resposta, texto)) {
+        return {};
+    }
+    PesquisaDeCliente feita{.linhas = linhasDeClientes(resposta)};
+    if (feita.linhas->empty()) {
+        informa(ambiente, "Pesquisa nao encontrou nenhum registro.     ");
+    }
+    return feita;
+}
+
+}  // namespace tarn

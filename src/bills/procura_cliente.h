@@ -1,0 +1,40 @@
+// Customers found by part of their name.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "common/linha_grade.h"
+#include "session/xml_document.h"
+
+namespace tarn {
+
+struct Environment;
+struct Sessao;
+
+// The one chosen: what the searches filter by and what they show.
+struct Cliente {
+    std::string id;  // ID_PES_CLI; empty: all customers
+    std::string nome;
+    bool operator==(const Cliente&) const = default;
+};
+
+// Sends the search text as typed ("&" as "|", nothing for none); true when the answer
+// was read, otherwise the user has been told.
+bool ProcuraCliente(Environment& ambiente, const Sessao& sessao, XmlDocument& resposta,
+                    const std::optional<std::string>& texto);
+
+// The rows of the grid: name, kind of company, identifier. Absent fields are empty.
+std::vector<LinhaGrade> linhasDeClientes(const XmlDocument& resposta);
+
+// What a click on the search button does apart from the grid: the rows to show, also
+// when there are none (the user has been told); nothing when the grid stays as it is.
+struct PesquisaDeCliente {
+    std::optional<std::vector<LinhaGrade>> linhas;
+    bool nomeCurto = false;  // refused: the focus goes to the name
+};
+PesquisaDeCliente pesquisaCliente(Environment& ambiente, const Sessao& sessao,
+                                  const std::string& texto);
+
+}  // namespace tarn

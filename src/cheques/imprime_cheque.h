@@ -1,0 +1,29 @@
+// One bank cheque, pre-printed by the bank, in a dot-matrix printer: only what varies
+// is sent, each field placed by blanks and line ends of the condensed pitch.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace tarn {
+
+struct Environment;
+
+// Official code of a bank, such as "033", as a 16-bit integer. Raises TipoIncompativel
+// for what is no number, Estouro for what doesn't fit.
+std::int16_t codigoDoBanco(std::string_view nrOfiBan);
+
+struct DadosCheque {
+    std::int16_t nNr_Ofi_Ban = 0;         // official code; 33 has a layout of its own
+    std::string_view sValor = {};         // as the field shows it, such as 1.234,56
+    std::string_view sFavorecido = {};    // in capitals; may be empty
+    std::string_view sDataDeposito = {};  // dd/mm/yyyy
+    std::string_view sNmMun = {};         // town of the establishment
+};
+
+// Prints it as one raw job. The amount is read and the date taken apart before the job
+// opens: TipoIncompativel for an amount that is no number, ForaDoIntervalo for a date
+// of less than three parts. A month outside 1 to 12 has no name.
+void ImprimeCheque(Environment& ambiente, const DadosCheque& cheque);
+
+}  // namespace tarn

@@ -1,0 +1,14 @@
+// A text broken at blanks into lines of about a given width.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+// Lines are joined by character 13. The blank between two words isn't counted, so a
+// line may be `largura` + 1 characters long; a longer word stands alone on its line.
+// Blanks ahead of the first word are lost, doubled ones inside a line stay.
+std::string QuebraTexto(std::string_view texto, std::size_t largura);
+
+}  // namespace tarn

@@ -1,0 +1,19 @@
+#include "common/enter_no_botao.h"
+
+#include <QDialog>
+#include <QKeyEvent>
+#include <QPushButton>
+
+namespace tarn {
+
+bool enterNoBotao(const QDialog& dialogo, const QKeyEvent& tecla) {
+    if (tecla.key() != Qt::Key_Return && tecla.key() != Qt::Key_Enter) {
+        return false;
+    }
+    if (auto* botao = qobject_cast<QPushButton*>(dialogo.focusWidget())) {
+        botao->click();
+    }
+    return true;
+}
+
+}  // namespace tarn

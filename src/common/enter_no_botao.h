@@ -1,0 +1,13 @@
+// What Enter does in a dialog that has no default button.
+#pragma once
+
+class QDialog;
+class QKeyEvent;
+
+namespace tarn {
+
+// Enter presses a button that has the focus and no other. False for any other key,
+// which is the dialog's own matter.
+bool enterNoBotao(const QDialog& dialogo, const QKeyEvent& tecla);
+
+}  // namespace tarn

@@ -1,0 +1,41 @@
+#include "labels/exclusao.h"
+
+#include "labels/avisos.h"
+#include "runtime/erro_execucao.h"
+#include "session/commands.h"
+#include "session/failure_texts.h"
+#include "session/resposta.h"
+
+namespace tarn::labels {
+namespace {
+
+constexpr const char* intervaloSemNumero =
+    "Nada foi excluído. Digite em De e Até os números da coluna Sequencial da lista e clique em "
+    "OK de novo.";
+
+}  // namespace
+
+Exclusao excluiEtiquetas(Environment& ambiente, const Sessao& sessao, const std::string& motivo,
+                         const std::string& de, const std::string& ate) {
+    if (de.empty()) {
+        informa(ambiente, "De é um campo obrigatório!  ");
+        return Exclusao::FaltaDe;
+    }
+    if (ate.empty()) {
+        informa(ambiente, "Até é um campo obrigatório!  ");
+        return Exclusao::FaltaAte;
+    }
+    std::string consulta;
+    try {
+        consulta = comando::exclui_etiquetas(sessao, motivo, de, ate);
+    } catch (const ErroExecucao& erro) {
+        relata(ambiente, erro, intervaloSemNumero);
+        return Exclusao::SemNumero;
+    }
+    XmlDocument resposta;
+    pede(ambiente, consulta, resposta, falha::Tarn0009);
+    informa(ambiente, "Etiquetas excluídas com sucesso!     ");
+    return Exclusao::Enviada;
+}
+
+}  // namespace tarn::labels

@@ -1,0 +1,39 @@
+// Takes a range of labels out of the queue of the reason shown there.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "session/desk_context.h"
+
+namespace Ui {
+class frmExcluirEtiqueta;
+}
+
+namespace tarn {
+
+namespace labels {
+struct ValoresEtiquetas;
+}
+
+class frmExcluirEtiqueta : public QDialog {
+    Q_OBJECT
+
+public:
+    frmExcluirEtiqueta(DeskContext& desk, const labels::ValoresEtiquetas& valores, QWidget* parent);
+    ~frmExcluirEtiqueta() override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void ativa();
+    void cmdOk_Click();
+
+    DeskContext& desk_;
+    const labels::ValoresEtiquetas& valores_;
+    std::unique_ptr<Ui::frmExcluirEtiqueta> ui_;
+};
+
+}  // namespace tarn

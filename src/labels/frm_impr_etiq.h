@@ -1,0 +1,50 @@
+// Selects customers by where they live and by what they bought, and prints address
+// labels of the ticked ones, without passing through the queue. No menu leads here.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "session/desk_context.h"
+
+class QComboBox;
+
+namespace Ui {
+class FrmImprEtiq;
+}
+
+namespace tarn {
+
+class GradeModel;
+
+class FrmImprEtiq : public QDialog {
+    Q_OBJECT
+
+public:
+    FrmImprEtiq(DeskContext& desk, QWidget* parent);
+    ~FrmImprEtiq() override;
+
+    // Before it shows: fills the lists.
+    void carrega();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void preparaCampos();
+    void preparaGradeDeClientes();
+    void preparaBotoes();
+    void CarregaCboPais();
+    void CarregaCboFilial();
+
+    void cboPais_Click();
+    void cboEstado_Click();
+    void cmdPesquisar_Click();
+    void cmdImprimir_Click();
+
+    DeskContext& desk_;
+    std::unique_ptr<Ui::FrmImprEtiq> ui_;
+    GradeModel* clientes_;
+};
+
+}  // namespace tarn

@@ -1,0 +1,40 @@
+// Prints a range of the label queue on the form chosen there.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "session/desk_context.h"
+
+namespace Ui {
+class frmImprimirEtiqueta;
+}
+
+namespace tarn {
+
+namespace labels {
+struct ValoresEtiquetas;
+}
+
+class frmImprimirEtiqueta : public QDialog {
+    Q_OBJECT
+
+public:
+    frmImprimirEtiqueta(DeskContext& desk, const labels::ValoresEtiquetas& valores,
+                        QWidget* parent);
+    ~frmImprimirEtiqueta() override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void ativa();
+    void cmdOk_Click();
+
+    DeskContext& desk_;
+    const labels::ValoresEtiquetas& valores_;
+    std::unique_ptr<Ui::frmImprimirEtiqueta> ui_;
+};
+
+}  // namespace tarn

@@ -1,0 +1,56 @@
+// The door to the labels: shows the queue of one reason of printing, takes the form of
+// stationery and the sender, and hands over to printing or to deletion.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "session/desk_context.h"
+
+namespace Ui {
+class frmPesqEtiquetas;
+}
+
+namespace tarn {
+
+class GradeModel;
+
+namespace labels {
+struct ValoresEtiquetas;
+}
+
+class frmPesqEtiquetas : public QDialog {
+    Q_OBJECT
+
+public:
+    frmPesqEtiquetas(DeskContext& desk, labels::ValoresEtiquetas& valores, QWidget* parent);
+    ~frmPesqEtiquetas() override;
+
+    // Before it shows: fills the lists, and the grid with the queue of no reason.
+    void carrega();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void preparaGradeDaFila();
+    void preparaBotoes();
+    void CarregaCboFilialRemet();
+    void Carrega_Cbo_Motivo();
+    void leFila();
+    // Shows a screen in front; when it has closed this one is the active one again.
+    void abreModal(QDialog& tela);
+    void ativa();
+
+    void cboTp_Form_Click();
+    void CboFilialRemet_Click();
+    void cmdImprimir_Click();
+    void cmdExcluir_Click();
+
+    DeskContext& desk_;
+    labels::ValoresEtiquetas& valores_;
+    std::unique_ptr<Ui::frmPesqEtiquetas> ui_;
+    GradeModel* fila_;
+};
+
+}  // namespace tarn

@@ -1,0 +1,227 @@
+#include "slips/frm_pesq_boleto.h"
+
+#include <QKeyEvent>
+#include <array>
+
+#include "common/andamento.h"
+#include "common/enter_no_botao.h"
+#include "common/field_families.h"
+#include "common/grade_model.h"
+#include "common/lista_combo.h"
+#include "platform/message_boxes.h"
+#include "session/aparencia.h"
+#include "session/resposta.h"
+#include "slips/imprime_boletos.h"
+#include "slips/pesquisa_boleto.h"
+#include "ui_frm_pesq_boleto.h"
+
+namespace tarn {
+namespace {
+
+// A field's tag: the code behind what it shows.
+constexpr char tag[] = "Tag";
+
+// The columns without a width are for the printing alone.
+constexpr std::array<ColunaGrade, colunasBoleto> colunas{
+    {{"", 0, TipoColuna::Caixa},
+     {"Filial", 8},
+     {"Vencimento", 13},
+     {"Tipo Documento", 18},
+     {"Nº Documento", 17},
+     {"Cliente", 32},
+     {"Dt.de Emissão", 16},
+     {"Endereço", 28},
+     {"Vlr.do Documento", 20, TipoColuna::Numero},
+     {"CEP", 0},
+     {"Município", 0},
+     {"Estado", 0},
+     {"CNPJ / CPF", 0},
+     {"I.E.", 0},
+     {"TP_PES", 0},
+     {"TP_DOCTO2", 0},
+     {"ID_NR_CTL", 0},
+     {"IC_REF_REC", 0},
+     {"TX_JUR_DIA", 0},
+     {"PC_MULTA", 0},
+     {"JUROS_DIA", 0},
+     {"VL_OUT_DSP", 0},
+     {"DC_REF_REC", 0},
+     {"ID_ETB", 0},
+     {"ID_TIP_DOC", 0},
+     {"NR_AGE", 0},
+     {"ID_PES_BAN", 0},
+     {"CD_EXT", 0},
+     {"NR_DOC_NF", 0}}};
+constexpr int linhasVisiveis = 14;
+constexpr int larguraData = 13;    // characters
+constexpr int larguraNumero = 18;  // characters
+
+std::string texto(const QLineEdit& campo) {
+    return campo.text().toStdString();
+}
+
+}  // namespace
+
+frmPesqBoleto::frmPesqBoleto(DeskContext& desk, QWidget* parent)
+    : QDialog(parent),
+      desk_(desk),
+      ui_(std::make_unique<Ui::frmPesqBoleto>()),
+      documentos_(new GradeModel(colunas, this)) {
+    ui_->setupUi(this);
+    preparaGrade(*ui_->sprDados, *documentos_);
+    preparaCampos();
+    preparaBotoes();
+    connect(this, &frmPesqBoleto::apareceu, this, &frmPesqBoleto::ativa, Qt::QueuedConnection);
+    ajustaAGrade(*this, *ui_->sprDados, linhasVisiveis);
+}
+
+frmPesqBoleto::~frmPesqBoleto() = default;
+
+void frmPesqBoleto::preparaCampos() {
+    QPalette paraLeitura = palette();
+    paraLeitura.setColor(QPalette::Base, paraLeitura.color(QPalette::Window));
+    ui_->txtCliente->setPalette(paraLeitura);
+    for (QLineEdit* campo :
+         {ui_->txtDtEmsDe, ui_->txtDtEmsAte, ui_->txtDtVncDe, ui_->txtDtVncAte}) {
+        new DateField(campo, KeyFilter::NumeroVirgula, desk_.ambiente);
+        campo->setFixedWidth(larguraData * campo->fontMetrics().averageCharWidth());
+    }
+    QLineEdit& numero = *ui_->txtNr_Bol_Banc;
+    new FieldController(&numero, KeyFilter::NumeroVirgula, desk_.ambiente);
+    numero.setFixedWidth(larguraNumero * numero.fontMetrics().averageCharWidth());
+}
+
+// An access key brings the focus along, so that the date being typed is completed.
+void frmPesqBoleto::preparaBotoes() {
+    const auto prepara = [this](QPushButton* botao, const char* desenho, auto rotina) {
+        poeFigura(*botao, desenho);
+        botao->setAutoDefault(false);
+        connect(botao, &QPushButton::pressed, botao, [botao] { botao->setFocus(); });
+        connect(botao, &QPushButton::clicked, this, rotina);
+    };
+    prepara(ui_->cmdPesqCli, "pesquisar_cliente", &frmPesqBoleto::cmdPesqCli_Click);
+    prepara(ui_->cmdLimpar, "limpar", [this] { recebeCliente({}); });
+    prepara(ui_->cmdPesquisar, "pesquisar", &frmPesqBoleto::cmdPesquisar_Click);
+    prepara(ui_->cmdImprimir, "imprimir", &frmPesqBoleto::cmdImprimir_Click);
+    prepara(ui_->cmdVoltar, "fechar", &QDialog::reject);
+    connect(ui_->chkInc_Carteira, &QCheckBox::clicked, this, &frmPesqBoleto::chkInc_Carteira_Click);
+}
+
+void frmPesqBoleto::recebeCliente(const Cliente& cliente) {
+    ui_->txtCliente->setProperty(tag, QString::fromStdString(cliente.id));
+    ui_->txtCliente->setText(QString::fromStdString(cliente.nome));
+    ui_->txtCliente->setCursorPosition(0);
+}
+
+// The first activation comes when the screen stands before the user.
+void frmPesqBoleto::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!event->spontaneous()) {
+        emit apareceu();
+    }
+}
+
+void frmPesqBoleto::ativa() {
+    encheLista(*ui_->cboFilial, filiaisParaFiltro(desk_.ambiente, desk_.sessao));
+    encheLista(*ui_->cboCartCob, carteirasParaFiltro(desk_.ambiente, desk_.sessao));
+}
+
+void frmPesqBoleto::recusa(const RecusaDeBoletos& motivo) {
+    desk_.ambiente.boxes.show({std::string(motivo.texto), BoxIcon::Information, "TArn"});
+    switch (motivo.campo) {
+        case CampoDeBoletos::EmissaoDe:
+            ui_->txtDtEmsDe->setFocus();
+            break;
+        case CampoDeBoletos::VencimentoAte:
+            ui_->txtDtVncAte->setFocus();
+            break;
+        case CampoDeBoletos::Carteira:
+            ui_->cboCartCob->setFocus();
+            break;
+        case CampoDeBoletos::NumeroBancario:
+            ui_->txtNr_Bol_Banc->setFocus();
+            break;
+    }
+}
+
+void frmPesqBoleto::cmdPesqCli_Click() {
+    emit procuraCliente();
+    if (!desk_.fim.encerrado()) {
+        ativa();
+    }
+}
+
+void frmPesqBoleto::cmdPesquisar_Click() {
+    const std::string cliente = ui_->txtCliente->property(tag).toString().toStdString();
+    const std::string vencimentoDe = texto(*ui_->txtDtVncDe);
+    const std::string vencimentoAte = texto(*ui_->txtDtVncAte);
+    const std::string emissaoDe = texto(*ui_->txtDtEmsDe);
+    const std::string emissaoAte = texto(*ui_->txtDtEmsAte);
+    const FiltroDeBoletos filtro{.documentos = {.cliente = cliente,
+                                                .filial = dadoDaLista(*ui_->cboFilial),
+                                                .vencimentoDe = vencimentoDe,
+                                                .vencimentoAte = vencimentoAte,
+                                                .emissaoDe = emissaoDe,
+                                                .emissaoAte = emissaoAte},
+                                 .carteira = dadoDaLista(*ui_->cboCartCob),
+                                 .incluiCarteira = ui_->chkInc_Carteira->isChecked()};
+    if (const auto motivo = recusaDaPesquisa(filtro.documentos, ui_->cboCartCob->currentIndex())) {
+        recusa(*motivo);
+        return;
+    }
+    mostra(filtro);
+}
+
+void frmPesqBoleto::mostra(const FiltroDeBoletos& filtro) {
+    auto linhas = pesquisaBoletos(desk_.ambiente, desk_.sessao, filtro);
+    if (!linhas) {
+        return;
+    }
+    documentos_->mostra(std::move(*linhas));
+    ui_->sprDados->setCurrentIndex(documentos_->index(0, 0));
+    if (documentos_->rowCount() == 0) {
+        exclama(desk_.ambiente, "Não foi encontrado nenhum documento para esta pesquisa. ");
+    }
+}
+
+void frmPesqBoleto::cmdImprimir_Click() {
+    const PedidoDeBoletos pedido{.proximo = texto(*ui_->txtNr_Bol_Banc),
+                                 .incluiCarteira = ui_->chkInc_Carteira->isChecked()};
+    if (const auto motivo = recusaDaImpressao(ui_->cboCartCob->currentIndex(), pedido.proximo)) {
+        recusa(*motivo);
+        return;
+    }
+    const auto carteira =
+        carregaCarteira(desk_.ambiente, desk_.sessao, dadoDaLista(*ui_->cboCartCob));
+    if (!carteira) {
+        return;
+    }
+    Andamento andamento(*this);
+    imprimeBoletos(
+        desk_.ambiente, desk_.sessao, *carteira, pedido, documentos_->linhas(),
+        {.desmarca = [this](std::size_t i) { documentos_->marca(static_cast<int>(i), false); },
+         .passou = [this] { ui_->txtNr_Bol_Banc->clear(); },
+         .andamento = andamento.avisos()});
+}
+
+void frmPesqBoleto::chkInc_Carteira_Click(bool marcado) {
+    if (marcado) {
+        desk_.ambiente.boxes.show(
+            {"Esta opção só deverá ser selecionada quando se deseja incluir, no momento da "
+             "impressão do boleto, um documento que esteja sem carteira de cobrança associada. A "
+             "carteira a ser associada é a selecionada no combo acima.      ",
+             BoxIcon::Information, "TArn"});
+    }
+}
+
+// Enter leaves the customer's name as it leaves the other fields.
+void frmPesqBoleto::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && ui_->txtCliente->hasFocus()) {
+        sendTab(*ui_->txtCliente);
+    } else if (!enterNoBotao(*this, *event)) {
+        QDialog::keyPressEvent(event);
+    }
+}
+
+}  // namespace tarn

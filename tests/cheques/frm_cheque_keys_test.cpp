@@ -1,0 +1,338 @@
+// The cheque's screen under the clerk's hands: keys, mouse, clipboard.
+#include "cheques/frm_cheque_fixture.h"
+
+namespace tarn {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr std::array<const char*, 7> fields{"cboBancoAgConta", "txtNumeroCheque", "txtSerie",
+                                            "txtValor",        "txtFavorecido",   "txtDtDeposito",
+                                            "txtObservacao"};
+
+// A real press or release, as the window system sends it.
+void mouse(QWidget& screen, const char* name, bool press) {
+    auto& target = named<QWidget>(screen, name);
+    const QPoint place = target.mapTo(&screen, target.rect().center());
+    if (press) {
+        QTest::mousePress(screen.windowHandle(), Qt::LeftButton, {}, place);
+    } else {
+        QTest::mouseRelease(screen.windowHandle(), Qt::LeftButton, {}, place);
+    }
+}
+
+TEST_F(FrmChequeTest, LabelsAndButtons) {
+    use([&](QWidget& screen) {
+        const std::array<const char*, 7> captions{
+            "Banco/Ag./Conta", "Nº Cheque",        "Série",         "Valor",
+            "Favorecido",      "Data p/ Depósito", "Utilizado Para"};
+        for (std::size_t i = 0; i < fields.size(); ++i) {
+            std::string found = "no label";
+            for (const QLabel* label : screen.findChildren<QLabel*>()) {
+                if (label->buddy() == &named<QWidget>(screen, fields[i])) {
+                    found = label->text().toStdString();
+                }
+            }
+            EXPECT_EQ(found, captions[i]);
+        }
+        for (const char* name : {"cmdImprimir", "cmdCancelar"}) {
+            auto& button = named<QPushButton>(screen, name);
+            EXPECT_FALSE(button.icon().pixmap(24).isNull()) << name;
+            EXPECT_FALSE(button.toolTip().isEmpty()) << name;
+            EXPECT_FALSE(button.accessibleName().isEmpty()) << name;
+        }
+    });
+}
+
+TEST_F(FrmChequeTest, TabFollowsTheFieldsThenTheButtons) {
+    use([&](QWidget& screen) {
+        std::vector<std::string> expected(fields.begin(), fields.end());
+        expected.insert(expected.end(), {"cmdImprimir", "cmdCancelar", "cboBancoAgConta"});
+        EXPECT_EQ(tabOrder(screen, "cboBancoAgConta", 10), expected);
+    });
+}
+
+TEST_F(FrmChequeTest, EnterMovesOnAndBeepsWhereKeysAreNumbers) {
+    useFilled([&](QWidget& screen) {
+        named<QWidget>(screen, "cboBancoAgConta").setFocus();
+        const struct {
+            const char* arrives;
+            int beeps;
+        } strokes[] = {{"txtNumeroCheque", 0}, {"txtSerie", 1},      {"txtValor", 0},
+                       {"txtFavorecido", 1},   {"txtDtDeposito", 0}, {"txtObservacao", 1},
+                       {"cmdImprimir", 0}};
+        for (const auto& stroke : strokes) {
+            machine.beeps = 0;
+            key(screen, Qt::Key_Return);
+            settle();
+            EXPECT_EQ(focused(screen), stroke.arrives);
+            EXPECT_EQ(machine.beeps, stroke.beeps) << "on the way to " << stroke.arrives;
+        }
+        EXPECT_THAT(server.queries(), ElementsAre(usualCheck, usualCheck));
+        EXPECT_EQ(account(screen), 1) << "no list opened";
+        expectFilled(screen);
+        key(screen, Qt::Key_Enter);
+        EXPECT_THAT(boxes.shown, ElementsAre(success)) << "on the button it is a click";
+    });
+}
+
+TEST_F(FrmChequeTest, FieldsTakeNoMoreThanTheirLimits) {
+    use([&](QWidget& screen) {
+        const std::string digits(60, '9');
+        const std::pair<const char*, std::size_t> limits[] = {
+            {"txtNumeroCheque", 15}, {"txtSerie", 15}, {"txtFavorecido", 50}, {"txtValor", 20}};
+        for (const auto& [name, limit] : limits) {
+            type(screen, name, digits.c_str());
+            EXPECT_EQ(text(screen, name), digits.substr(0, limit));
+        }
+        type(screen, "txtValor", "1");
+        purpose(screen, std::string(260, 'x').c_str());
+        EXPECT_EQ(purposeOf(screen), std::string(250, 'x'));
+        EXPECT_EQ(named<QLineEdit>(screen, "txtDtDeposito").maxLength(), 10);
+        settle();
+    });
+}
+
+TEST_F(FrmChequeTest, KeysThatMayNotPassBeep) {
+    use([&](QWidget& screen) {
+        type(screen, "txtNumeroCheque", "1a,2.-3 ");
+        EXPECT_EQ(text(screen, "txtNumeroCheque"), "123");
+        EXPECT_EQ(machine.beeps, 5);
+        QTest::keyClick(screen.focusWidget(), Qt::Key_Backspace);
+        EXPECT_EQ(text(screen, "txtNumeroCheque"), "12");
+        machine.beeps = 0;
+        type(screen, "txtValor", "1x.2,-5");
+        EXPECT_EQ(text(screen, "txtValor"), "12,5");
+        EXPECT_EQ(machine.beeps, 3);
+        machine.beeps = 0;
+        type(screen, "txtDtDeposito", "1,5");
+        EXPECT_EQ(text(screen, "txtDtDeposito"), "15");
+        EXPECT_EQ(machine.beeps, 1);
+        type(screen, "txtSerie", "a-1ç");
+        type(screen, "txtFavorecido", "D'Ávila & Cia. <ç>");
+        EXPECT_EQ(text(screen, "txtSerie") + text(screen, "txtFavorecido"),
+                  "a-1çD'Ávila & Cia. <ç>");
+        EXPECT_EQ(machine.beeps, 1);
+        settle();
+    });
+}
+
+TEST_F(FrmChequeTest, TheAmountIsSelectedAndFormatted) {
+    useFilled([&](QWidget& screen) {
+        auto& amount = named<QLineEdit>(screen, "txtValor");
+        amount.setFocus();
+        EXPECT_EQ(amount.selectedText(), QStringLiteral("1.234,22"));
+        for (const auto& [typed, shown] : {std::pair{"1234567,8", "1.234.567,80"},
+                                           {",5", "0,50"},
+                                           {"1,005", "1,01"},
+                                           {"9999999999999,99", "9.999.999.999.999,99"}}) {
+            type(screen, "txtValor", typed);
+            key(screen, Qt::Key_Tab);
+            settle();
+            EXPECT_EQ(text(screen, "txtValor"), shown);
+            EXPECT_EQ(focused(screen), "txtFavorecido");
+        }
+        type(screen, "txtValor", " ");
+        QTest::keyClick(&amount, Qt::Key_Delete);
+        key(screen, Qt::Key_Tab);
+        EXPECT_EQ(text(screen, "txtValor"), "");
+    });
+    EXPECT_THAT(boxes.shown, IsEmpty());
+}
+
+TEST_F(FrmChequeTest, AnAmountOverTheLimitIsRefusedOnLeaving) {
+    const Box refused = exclama("O valor máximo permitido é de R$ 9.999.999.999.999,99");
+    useFilled([&](QWidget& screen) {
+        type(screen, "txtValor", "10000000000000");
+        key(screen, Qt::Key_Tab);
+        settle();
+        EXPECT_THAT(boxes.shown, ElementsAre(refused));
+        EXPECT_EQ(text(screen, "txtValor"), "10000000000000") << "the text stays";
+        EXPECT_EQ(focused(screen), "txtValor");
+        click(screen, "cmdImprimir");
+        settle();
+        EXPECT_THAT(boxes.shown, ElementsAre(refused, refused)) << "the click doesn't count";
+        EXPECT_THAT(server.queries(), IsEmpty());
+        type(screen, "txtValor", "1");
+    });
+    EXPECT_THAT(spooler.calls, IsEmpty());
+}
+
+TEST_F(FrmChequeTest, ADateThatIsNoneIsEmptiedAndTheClickDoesntCount) {
+    const Box refused{"Data Inválida.      ", BoxIcon::Critical, "Aviso"};
+    useFilled([&](QWidget& screen) {
+        type(screen, "txtDtDeposito", "31022012");
+        click(screen, "cmdImprimir");
+        settle();
+        EXPECT_THAT(boxes.shown, ElementsAre(refused));
+        EXPECT_EQ(text(screen, "txtDtDeposito"), "");
+        EXPECT_EQ(focused(screen), "txtDtDeposito");
+        EXPECT_THAT(server.queries(), IsEmpty());
+        keys(*screen.focusWidget(), "1604");
+        key(screen, Qt::Key_Return);
+        EXPECT_EQ(text(screen, "txtDtDeposito"), "16/04/2012");
+        EXPECT_EQ(focused(screen), "txtObservacao");
+    });
+    EXPECT_THAT(spooler.calls, IsEmpty());
+}
+
+TEST_F(FrmChequeTest, TheDateIsEditedWithoutItsSlashes) {
+    use([&](QWidget& screen) {
+        auto& date = named<QLineEdit>(screen, "txtDtDeposito");
+        date.setFocus();
+        EXPECT_EQ(date.selectedText(), QStringLiteral("15032012"));
+        EXPECT_EQ(date.maxLength(), 8);
+        key(screen, Qt::Key_Tab);
+        EXPECT_EQ(text(screen, "txtDtDeposito"), "15/03/2012");
+    });
+    EXPECT_THAT(boxes.shown, IsEmpty());
+}
+
+TEST_F(FrmChequeTest, WhatIsPastedIntoANumberIsANumberOrNothing) {
+    use([&](QWidget& screen) {
+        auto& number = named<QLineEdit>(screen, "txtNumeroCheque");
+        number.setFocus();
+        paste(number, QStringLiteral("12a"));
+        EXPECT_EQ(text(screen, "txtNumeroCheque"), "");
+        EXPECT_EQ(machine.beeps, 1);
+        paste(number, QStringLiteral("000777"));
+        EXPECT_EQ(text(screen, "txtNumeroCheque"), "000777");
+        auto& amount = named<QLineEdit>(screen, "txtValor");
+        amount.setFocus();
+        for (const char* wrong : {"R$ 5,00", "-5", "cinco"}) {
+            paste(amount, QString::fromLatin1(wrong));
+            EXPECT_EQ(text(screen, "txtValor"), "") << wrong;
+        }
+        paste(amount, QStringLiteral("1.234,5"));
+        key(screen, Qt::Key_Tab);
+        EXPECT_EQ(text(screen, "txtValor"), "1.234,50");
+        EXPECT_EQ(machine.beeps, 4);
+    });
+    EXPECT_THAT(boxes.shown, IsEmpty());
+}
+
+TEST_F(FrmChequeTest, TheObservationStaysOneParagraph) {
+    use([&](QWidget& screen) {
+        auto& purposeField = named<FreeTextField>(screen, "txtObservacao");
+        purposeField.setFocus();
+        paste(purposeField, QStringLiteral("linha 1\r\nlinha 2\nlinha 3"));
+        EXPECT_EQ(purposeOf(screen), "linha 1 linha 2 linha 3");
+        key(screen, Qt::Key_Return);
+        EXPECT_EQ(purposeOf(screen), "linha 1 linha 2 linha 3");
+        EXPECT_EQ(focused(screen), "cmdImprimir");
+    });
+    EXPECT_EQ(machine.beeps, 0);
+}
+
+// The clerk's haste.
+
+TEST_F(FrmChequeTest, ADoubleClickPrintsOneCheque) {
+    useFilled([&](QWidget& screen) {
+        for (const bool press : {true, false, true, false}) {
+            mouse(screen, "cmdImprimir", press);
+        }
+        EXPECT_THAT(boxes.shown,
+                    ElementsAre(success, exclama("Nº Cheque é um campo obrigatório. ")));
+    });
+    EXPECT_EQ(spooler.jobs.size(), 1U);
+}
+
+TEST_F(FrmChequeTest, EnterHeldDownPrintsNothing) {
+    useFilled([&](QWidget& screen) {
+        named<QWidget>(screen, "txtFavorecido").setFocus();
+        for (int repeat = 0; repeat < 10; ++repeat) {
+            QWidget& target = *screen.focusWidget();
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"),
+                           true);
+            QCoreApplication::sendEvent(&target, &held);
+            settle();
+        }
+        EXPECT_EQ(focused(screen), "cmdImprimir");
+        EXPECT_THAT(server.queries(), IsEmpty());
+        EXPECT_THAT(boxes.shown, IsEmpty());
+    });
+    EXPECT_THAT(spooler.calls, IsEmpty());
+}
+
+TEST_F(FrmChequeTest, AClickThatLeavesTheSeriesIsAskedAboutWhenItIsWhole) {
+    useFilled([&](QWidget& screen) {
+        named<QWidget>(screen, "txtSerie").setFocus();
+        mouse(screen, "cmdImprimir", true);
+        settle();
+        EXPECT_EQ(focused(screen), "cmdImprimir");
+        EXPECT_THAT(server.queries(), IsEmpty()) << "the button is still down";
+        mouse(screen, "cmdImprimir", false);
+        settle();
+        EXPECT_THAT(server.queries(),
+                    ElementsAre(usualCheck, usualCheck, companyQuery, usualRecord));
+        EXPECT_THAT(boxes.shown, ElementsAre(success));
+    });
+}
+
+TEST_F(FrmChequeTest, AClickIntoAnotherFieldIsAskedAboutAfterIt) {
+    useFilled([&](QWidget& screen) {
+        named<QWidget>(screen, "txtNumeroCheque").setFocus();
+        mouse(screen, "txtFavorecido", true);
+        settle();
+        EXPECT_THAT(server.queries(), IsEmpty());
+        mouse(screen, "txtFavorecido", false);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !server.addresses.empty(); }));
+        EXPECT_THAT(server.queries(), ElementsAre(usualCheck));
+        EXPECT_EQ(focused(screen), "txtFavorecido");
+    });
+}
+
+TEST_F(FrmChequeTest, AClickOnTheListIsAskedAboutWhenItIsClosed) {
+    useFilled([&](QWidget& screen) {
+        named<QWidget>(screen, "txtNumeroCheque").setFocus();
+        chooseAccount(screen, 2);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !server.addresses.empty(); }));
+        EXPECT_THAT(
+            server.queries(),
+            ElementsAre(checkQuery("000123", "AÇ1", "&Id_Pes_Ban=902&Cd_Age_Ban=9&Nr_Ccor=1")));
+    });
+}
+
+TEST_F(FrmChequeTest, ClosingAsksNothingAndPrintsNothing) {
+    useFilled([&](QWidget& screen) { named<QWidget>(screen, "txtNumeroCheque").setFocus(); });
+    EXPECT_THAT(server.queries(), ElementsAre(companyQuery)) << "of the desk";
+    useFilled([&](QWidget& screen) {
+        named<QWidget>(screen, "txtNumeroCheque").setFocus();
+        screen.close();
+        EXPECT_FALSE(screen.isVisible());
+        EXPECT_THAT(server.queries(), IsEmpty());
+    });
+    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_THAT(spooler.calls, IsEmpty());
+}
+
+TEST_F(FrmChequeTest, TheCancelButtonClosesAndAClickOnItLeavesTheField) {
+    useFilled([&](QWidget& screen) {
+        click(screen, "cmdCancelar");
+        EXPECT_FALSE(screen.isVisible());
+        EXPECT_THAT(server.queries(), IsEmpty());
+    });
+    server.on("seleciona_um_controle_cheque_emitido", answers::rowset("<z:row/>"));
+    useFilled([&](QWidget& screen) {
+        named<QWidget>(screen, "txtNumeroCheque").setFocus();
+        click(screen, "cmdCancelar");
+        EXPECT_FALSE(screen.isVisible());
+        EXPECT_THAT(boxes.shown, ElementsAre(taken));
+    });
+    EXPECT_FALSE(fim.encerrado());
+}
+
+TEST_F(FrmChequeTest, ALoneCommaIsNoAmount) {
+    useFilled([&](QWidget& screen) {
+        type(screen, "txtValor", ",");
+        key(screen, Qt::Key_Tab);
+        settle();
+        ASSERT_EQ(boxes.shown.size(), 1U);
+        EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '13'", 0), 0U);
+        EXPECT_EQ(fim.status(), 3);
+    });
+}
+
+}  // namespace
+}  // namespace tarn

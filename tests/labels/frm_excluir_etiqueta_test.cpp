@@ -1,0 +1,144 @@
+#include "label_screens.h"
+
+namespace tarn::labels {
+namespace {
+
+using testing::ElementsAre;
+
+const Box deletedBox = information("Etiquetas excluídas com sucesso!     ");
+
+std::string deletionQuery(const std::string& from, const std::string& to,
+                          const std::string& reason) {
+    return "comando=exclui_etiquetas&ID_EMP_TARN=2161&nSeq_De=" + from + "&nSeq_Ate=" + to +
+           "&nId_Motivo=" + reason + "&ServerName=SRV1";
+}
+
+class DeletionScreen : public LabelScreens {
+protected:
+    void SetUp() override {
+        LabelScreens::SetUp();
+        server.on("exclui_etiquetas", answers::status("OK"));
+    }
+    void inDeletion(const Work& work) {
+        inReadQueue(0, [this, work](QWidget& queue) { deleting(queue, work); });
+    }
+};
+
+TEST_F(DeletionScreen, ShowsTheReason) {
+    inDeletion([](QWidget& deletion) {
+        EXPECT_EQ(named<QLabel>(deletion, "lblTitulo").text(), QStringLiteral("Excluir Etiqueta"));
+        EXPECT_EQ(named<QLabel>(deletion, "lblSequencial").text(), QStringLiteral("Seqüencial"));
+        EXPECT_EQ(labelOf(deletion, "cboMotivo"), "Motivo de Impressão");
+        EXPECT_EQ(labelOf(deletion, "txtDe"), "De");
+        EXPECT_EQ(labelOf(deletion, "txtAte"), "Até");
+        EXPECT_THAT(items(deletion, "cboMotivo"), ElementsAre("NATAL"));
+        EXPECT_EQ(named<QComboBox>(deletion, "cboMotivo").currentIndex(), 0);
+        EXPECT_EQ(focused(deletion), "txtDe");
+        EXPECT_THAT(
+            tabOrder(deletion, "cboMotivo", 6),
+            ElementsAre("cboMotivo", "txtDe", "txtAte", "cmdOk", "cmdCancelar", "cboMotivo"));
+        click(deletion, "cmdCancelar");
+    });
+}
+
+TEST_F(DeletionScreen, BothEndsMustBeFilled) {
+    inDeletion([this](QWidget& deletion) {
+        click(deletion, "cmdOk");
+        EXPECT_EQ(focused(deletion), "txtDe");
+        type(deletion, "txtDe", "1");
+        click(deletion, "cmdOk");
+        EXPECT_EQ(focused(deletion), "txtAte");
+        EXPECT_THAT(boxes.shown, ElementsAre(information("De é um campo obrigatório!  "),
+                                             information("Até é um campo obrigatório!  ")));
+        EXPECT_TRUE(server.addresses.empty());
+        EXPECT_TRUE(deletion.isVisible());
+        click(deletion, "cmdCancelar");
+    });
+}
+
+TEST_F(DeletionScreen, SendsTheRangeClosesAndTheQueueIsReadAgain) {
+    server.on("sDc_Mot_Imp=NATAL", labels(1));
+    inReadQueue(0, [this](QWidget& queue) {
+        EXPECT_EQ(rows(queue), 2);
+        deleting(queue, [this](QWidget& deletion) {
+            range(deletion, "007", "3");
+            click(deletion, "cmdOk");
+            EXPECT_FALSE(deletion.isVisible());
+        });
+        EXPECT_THAT(server.queries(),
+                    ElementsAre(deletionQuery("7", "3", "NATAL"), queueQuery("NATAL")));
+        EXPECT_EQ(rows(queue), 1) << "what is left";
+    });
+    EXPECT_THAT(boxes.shown, ElementsAre(deletedBox)) << "no question before";
+}
+
+TEST_F(DeletionScreen, AFailedDeletionIsCalledASuccessAndTheListTellsTheTruth) {
+    server = ScriptedLoader();
+    server.on("sel_dados_empresa", answers::branch("F"))
+        .on("sel_motivos", answers::rowset("<z:row DC_MOT_IMP='NATAL'/>"))
+        .on("sel_filiais_remetente", answers::rowset(""))
+        .on("sel_etiquetas", labels(2));
+    inReadQueue(0, [this](QWidget& queue) {
+        deleting(queue, [](QWidget& deletion) {
+            range(deletion, "1", "2");
+            click(deletion, "cmdOk");
+            EXPECT_FALSE(deletion.isVisible());
+        });
+        EXPECT_THAT(server.queries(),
+                    ElementsAre(deletionQuery("1", "2", "NATAL"), queueQuery("NATAL")));
+        EXPECT_EQ(rows(queue), 2);
+    });
+    EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, deletedBox));
+}
+
+TEST_F(DeletionScreen, WhatIsNoNumberIsReportedAndItStaysOpen) {
+    inDeletion([this](QWidget& deletion) {
+        for (const auto& [from, to] : {std::pair{",", "2"}, std::pair{"1", ",,"}}) {
+            boxes.shown.clear();
+            range(deletion, from, to);
+            click(deletion, "cmdOk");
+            ASSERT_EQ(boxes.shown.size(), 1U);
+            EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
+            EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
+            EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '13':\r\r", 0), 0U);
+            EXPECT_TRUE(deletion.isVisible());
+            EXPECT_EQ(text(deletion, "txtDe"), from);
+        }
+        EXPECT_TRUE(server.addresses.empty());
+        click(deletion, "cmdCancelar");
+    });
+    EXPECT_FALSE(fim.encerrado());
+}
+
+TEST_F(DeletionScreen, NoReasonTravelsAsItReads) {
+    inQueue([this](QWidget& queue) {
+        server.addresses.clear();
+        deleting(queue, [](QWidget& deletion) {
+            EXPECT_THAT(items(deletion, "cboMotivo"), ElementsAre("--------"));
+            range(deletion, "1", "2");
+            click(deletion, "cmdOk");
+        });
+        EXPECT_THAT(server.queries(), ElementsAre(deletionQuery("1", "2", "--------")));
+    });
+}
+
+TEST_F(DeletionScreen, KeysAreFilteredAndEnterGoesOn) {
+    inDeletion([this](QWidget& deletion) {
+        type(deletion, "txtDe", "1x,2");
+        EXPECT_EQ(text(deletion, "txtDe"), "1,2");
+        EXPECT_EQ(machine.beeps, 1);
+        key(deletion, Qt::Key_Return);
+        EXPECT_EQ(focused(deletion), "txtAte");
+        EXPECT_EQ(machine.beeps, 2);
+        type(deletion, "txtAte", "3.4");
+        EXPECT_EQ(text(deletion, "txtAte"), "34");
+        key(deletion, Qt::Key_Return);
+        EXPECT_EQ(focused(deletion), "cmdOk");
+        EXPECT_TRUE(server.addresses.empty());
+        key(deletion, Qt::Key_Escape);
+        EXPECT_FALSE(deletion.isVisible());
+    });
+}
+
+}  // namespace
+}  // namespace tarn::labels

@@ -1,0 +1,250 @@
+#include "label_screens.h"
+
+namespace tarn::labels {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using PrintScreen = LabelScreens;
+
+TEST_F(PrintScreen, ShowsTheFormAndWaitsForTheRange) {
+    const std::vector<std::string> names{"PIMACO 6280 - LASER", "PIMACO - XXX - MATRICIAL",
+                                         "PDF - A5 - LASER",
+                                         "PDF - A4 - DESTINATÁRIO - REMETENTE - LASER"};
+    for (int form = 1; form <= 4; ++form) {
+        inPrinting(form, [&](QWidget& print) {
+            EXPECT_EQ(print.windowTitle(), QStringLiteral("Imprimir Etiquetas"));
+            EXPECT_THAT(items(print, "cboTp_Form"),
+                        ElementsAre(names[static_cast<std::size_t>(form - 1)]));
+            const auto& list = named<QComboBox>(print, "cboTp_Form");
+            EXPECT_EQ(list.currentIndex(), 0);
+            EXPECT_EQ(list.currentData().toInt(), form);
+            EXPECT_EQ(focused(print), "txtDe");
+            click(print, "cmdCancelar");
+        });
+    }
+}
+
+TEST_F(PrintScreen, LabelsAndTabOrder) {
+    inPrinting(1, [](QWidget& print) {
+        EXPECT_EQ(labelOf(print, "cboTp_Form"), "Tipo de Formulário");
+        EXPECT_EQ(named<QLabel>(print, "lblImprimir").text(), QStringLiteral("Imprimir"));
+        EXPECT_EQ(named<QLabel>(print, "lblSequencial").text(), QStringLiteral("Seqüencial"));
+        EXPECT_EQ(labelOf(print, "txtDe"), "De");
+        EXPECT_EQ(labelOf(print, "txtAte"), "Até");
+        EXPECT_THAT(
+            tabOrder(print, "cboTp_Form", 6),
+            ElementsAre("cboTp_Form", "txtDe", "txtAte", "cmdOk", "cmdCancelar", "cboTp_Form"));
+        click(print, "cmdCancelar");
+    });
+}
+
+TEST_F(PrintScreen, OnlyDigitsAndTheCommaAreTyped) {
+    inPrinting(1, [this](QWidget& print) {
+        for (const char* name : {"txtDe", "txtAte"}) {
+            machine.beeps = 0;
+            type(print, name, "1a.2-,3 ");
+            EXPECT_EQ(text(print, name), "12,3");
+            EXPECT_EQ(machine.beeps, 4) << "a . - and the blank";
+            QTest::keyClick(&named<QWidget>(print, name), Qt::Key_Backspace);
+            EXPECT_EQ(text(print, name), "12,");
+            EXPECT_EQ(machine.beeps, 4);
+        }
+        click(print, "cmdCancelar");
+    });
+}
+
+TEST_F(PrintScreen, EnterGoesToTheNextControlWithABeep) {
+    inPrinting(1, [this](QWidget& print) {
+        named<QWidget>(print, "txtDe").setFocus();
+        key(print, Qt::Key_Return);
+        EXPECT_EQ(focused(print), "txtAte");
+        key(print, Qt::Key_Enter);
+        EXPECT_EQ(focused(print), "cmdOk");
+        EXPECT_EQ(machine.beeps, 2);
+        EXPECT_TRUE(boxes.shown.empty()) << "nothing was pressed";
+        click(print, "cmdCancelar");
+    });
+}
+
+TEST_F(PrintScreen, PrintsTheRangeAndCloses) {
+    inReadQueue(1, [this](QWidget& queue) {
+        printing(queue, [this](QWidget& print) {
+            range(print, "007", "1000");
+            boxes.onShow = [this](const Box&) { EXPECT_FALSE(printer.ended()); };
+            click(print, "cmdOk");
+            EXPECT_FALSE(print.isVisible());
+        });
+        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL", "7", "1000"),
+                                                  senderQuery("0"), queueQuery("NATAL")));
+    });
+    EXPECT_THAT(boxes.shown, ElementsAre(printedBox));
+    EXPECT_EQ(printer.operations.size(), 2U + 2U * 8U + 2U);
+    EXPECT_TRUE(printer.ended());
+}
+
+TEST_F(PrintScreen, TheRawFormPrintsWithoutAWord) {
+    inPrinting(2, [](QWidget& print) {
+        range(print, "1", "2");
+        click(print, "cmdOk");
+        EXPECT_FALSE(print.isVisible());
+    });
+    EXPECT_THAT(boxes.shown, IsEmpty());
+    ASSERT_EQ(spooler.jobs.size(), 2U);
+    EXPECT_EQ(spooler.jobs[0].bytes(), " \x0F\x1BM");
+    EXPECT_EQ(spooler.jobs[1].writes.size(), 15U);
+    EXPECT_TRUE(printer.operations.empty());
+}
+
+TEST_F(PrintScreen, ARangeWithoutLabelsSaysSoAndCloses) {
+    server.on("sDc_Mot_Imp=NATAL&nSeq_De=8", labels(0));
+    for (const int form : {1, 3, 4}) {
+        boxes.shown.clear();
+        printer.operations.clear();
+        inPrinting(form, [](QWidget& print) {
+            range(print, "8", "9");
+            click(print, "cmdOk");
+            EXPECT_FALSE(print.isVisible());
+        });
+        EXPECT_THAT(boxes.shown, ElementsAre(information(" Não há Etiquetas nesse intervalo!   ")));
+        EXPECT_THAT(printer.lines(), ElementsAre("scale\t7", "orientation\t1"));
+    }
+    inPrinting(2, [](QWidget& print) {
+        range(print, "8", "9");
+        click(print, "cmdOk");
+        EXPECT_FALSE(print.isVisible());
+    });
+    EXPECT_EQ(boxes.shown.size(), 1U) << "the raw form says nothing";
+}
+
+TEST_F(PrintScreen, AFailedRequestLeavesItOpenForAnotherTry) {
+    server.failOn("sDc_Mot_Imp=NATAL&nSeq_De=8").on("sDc_Mot_Imp=NATAL&nSeq_De=8", labels(1));
+    inPrinting(3, [this](QWidget& print) {
+        range(print, "8", "9");
+        click(print, "cmdOk");
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
+        EXPECT_TRUE(print.isVisible());
+        EXPECT_EQ(text(print, "txtDe") + "-" + text(print, "txtAte"), "8-9");
+        EXPECT_TRUE(printer.operations.empty());
+        EXPECT_EQ(server.queries().size(), 1U) << "the sender isn't asked for";
+        click(print, "cmdOk");
+        EXPECT_FALSE(print.isVisible());
+    });
+    EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, printedBox));
+}
+
+TEST_F(PrintScreen, AFailedSenderLeavesItOpenToo) {
+    server.failOn("comando=sel_dados_remetente");
+    inPrinting(2, [this](QWidget& print) {
+        range(print, "1", "2");
+        click(print, "cmdOk");
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
+        EXPECT_TRUE(print.isVisible());
+        EXPECT_TRUE(spooler.calls.empty());
+        click(print, "cmdCancelar");
+    });
+}
+
+TEST_F(PrintScreen, ASenderWithoutARowIsReportedAndItStaysOpen) {
+    server.on("comando=sel_dados_remetente", answers::rowset(""));
+    for (int form = 1; form <= 4; ++form) {
+        inPrinting(form, [this](QWidget& print) {
+            boxes.shown.clear();
+            range(print, "1", "2");
+            click(print, "cmdOk");
+            ASSERT_EQ(boxes.shown.size(), 1U);
+            EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
+            EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
+            EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '91':\r\r", 0), 0U);
+            EXPECT_TRUE(print.isVisible());
+            click(print, "cmdCancelar");
+        });
+    }
+    EXPECT_FALSE(fim.encerrado());
+    EXPECT_TRUE(printer.operations.empty());
+    EXPECT_TRUE(spooler.calls.empty());
+}
+
+TEST_F(PrintScreen, ARangeThatIsNoNumberIsReportedAndItStaysOpen) {
+    inPrinting(1, [this](QWidget& print) {
+        for (const auto& [from, to] :
+             {std::pair{"", ""}, std::pair{"1", ""}, std::pair{",", "2"}, std::pair{"1", "1,,2"}}) {
+            boxes.shown.clear();
+            range(print, from, to);
+            named<QWidget>(print, "cmdOk").setFocus();
+            key(print, Qt::Key_Return);
+            ASSERT_EQ(boxes.shown.size(), 1U);
+            EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
+            EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
+            EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '13':\r\r", 0), 0U);
+            EXPECT_TRUE(print.isVisible());
+            EXPECT_EQ(text(print, "txtDe"), from);
+            EXPECT_EQ(text(print, "txtAte"), to);
+            EXPECT_EQ(focused(print), "cmdOk") << "the focus isn't moved";
+        }
+        EXPECT_TRUE(server.addresses.empty());
+        range(print, "1,5", "2");
+        click(print, "cmdOk");
+        EXPECT_EQ(server.queries()[0], queueQuery("NATAL", "1,5", "2"));
+    });
+    EXPECT_FALSE(fim.encerrado());
+}
+
+TEST_F(PrintScreen, AFailureWhileDrawingIsShownAndPrintingGoesOn) {
+    printer.failAt = 4;
+    inPrinting(3, [](QWidget& print) {
+        range(print, "1", "2");
+        click(print, "cmdOk");
+        EXPECT_FALSE(print.isVisible());
+    });
+    EXPECT_THAT(boxes.shown,
+                ElementsAre(Box{"Descrição :impressora sem papel\r\n   Numero :482"}, printedBox));
+    EXPECT_EQ(printer.operations.size(), 2U + 2U * 8U + 2U);
+}
+
+TEST_F(PrintScreen, AFieldInAnotherCaseEndsTheProgramBeforeTheSheetComesOut) {
+    server.on("sDc_Mot_Imp=NATAL&nSeq_De=8", answers::rowset(label(1) + "<z:row nome='X'/>"));
+    inPrinting(1, [](QWidget& print) {
+        range(print, "8", "9");
+        click(print, "cmdOk");
+        click(print, "cmdCancelar");  // the program itself would be gone
+    });
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '91':", 0), 0U);
+    EXPECT_EQ(fim.status(), 3);
+    EXPECT_FALSE(printer.ended());
+}
+
+TEST_F(PrintScreen, EscLeavesWithoutPrinting) {
+    inPrinting(1, [this](QWidget& print) {
+        range(print, "1", "2");
+        key(print, Qt::Key_Escape);
+        EXPECT_FALSE(print.isVisible());
+        EXPECT_TRUE(printer.operations.empty());
+    });
+}
+
+TEST_F(PrintScreen, ALongRunShowsHowFarItIs) {
+    constexpr int many = 5000;
+    server.on("sDc_Mot_Imp=NATAL&nSeq_De=8", labels(many));
+    for (const int form : {1, 2, 3, 4}) {
+        boxes.shown.clear();
+        inPrinting(form, [&](QWidget& print) {
+            range(print, "8", "9000");
+            const std::vector<std::string> told =
+                watchProgress(print, [&] { click(print, "cmdOk"); });
+            ASSERT_FALSE(told.empty()) << "form " << form;
+            for (const std::string& line : told) {
+                EXPECT_THAT(line, testing::AllOf(testing::StartsWith("Imprimindo: "),
+                                                 testing::EndsWith(" de 5000")));
+            }
+            EXPECT_FALSE(print.isVisible());
+        });
+        EXPECT_EQ(boxes.shown.size(), form == 2 ? 0U : 1U);
+    }
+    EXPECT_EQ(spooler.jobs.at(1).writes.size(), 5U * many + 5U * many / 4U);
+}
+
+}  // namespace
+}  // namespace tarn::labels

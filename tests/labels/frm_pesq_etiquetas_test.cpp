@@ -1,0 +1,278 @@
+#include "label_screens.h"
+
+namespace tarn::labels {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using QueueScreen = LabelScreens;
+
+const Box chooseReason = information("É necessário escolher o Motivo de Impressão.     ");
+const Box chooseForm = information("Tipo de formulário é um campo obrigatório.     ");
+
+TEST_F(QueueScreen, OpensWithItsListsAndNoQueue) {
+    inQueue([this](QWidget& queue) {
+        EXPECT_TRUE(queue.isModal());
+        EXPECT_THAT(server.queries(),
+                    ElementsAre(branchesQuery, reasonsQuery, queueQuery("--------")));
+        EXPECT_EQ(named<QLabel>(queue, "lblPesq_Dpc").text(),
+                  QStringLiteral("Pesquisa de Etiquetas"));
+        EXPECT_EQ(text(queue, "txtTipo"), " CLIENTES");
+        EXPECT_THAT(items(queue, "cboMotivo"), ElementsAre("--------", "NATAL", "PÁSCOA"));
+        EXPECT_THAT(
+            items(queue, "cboTp_Form"),
+            ElementsAre("--------", "PIMACO 6280 - LASER", "PIMACO - XXX - MATRICIAL",
+                        "PDF - A5 - DESTINATÁRIO", "PDF - A4 - DESTINATÁRIO - REMETENTE - LASER"));
+        EXPECT_THAT(items(queue, "CboFilialRemet"), ElementsAre("--------", "SUL", "NORTE"));
+        for (const char* list : {"cboMotivo", "cboTp_Form", "CboFilialRemet"}) {
+            EXPECT_EQ(named<QComboBox>(queue, list).currentIndex(), 0) << list;
+        }
+        EXPECT_EQ(rows(queue), 0);
+        EXPECT_FALSE(named<QWidget>(queue, "CboFilialRemet").isVisible());
+        EXPECT_FALSE(named<QWidget>(queue, "LblFilialRemet").isVisible());
+    });
+    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(server.queries().back(), deskQuery) << "the desk is the active one again";
+    EXPECT_EQ(server.queries().size(), 4U);
+}
+
+TEST_F(QueueScreen, LabelsAndHeadingsAsGiven) {
+    inQueue([](QWidget& queue) {
+        EXPECT_EQ(labelOf(queue, "txtTipo"), "Tipo");
+        EXPECT_EQ(labelOf(queue, "cboMotivo"), "Motivo de Impressão");
+        EXPECT_EQ(labelOf(queue, "cboTp_Form"), "Tipo de Formulário");
+        EXPECT_EQ(labelOf(queue, "CboFilialRemet"), "Filial Remetente");
+        EXPECT_EQ(named<QLabel>(queue, "lblObs").text(),
+                  QStringLiteral("* Etiquetas que não excluídas no prazo de 15 dias, serão "
+                                 "excluídas automaticamente pelo sistema"));
+        EXPECT_THAT(headings(queue),
+                    ElementsAre("Sequencial", "Cep", "Nome", "Código", "Endereço Nº", "Complemento",
+                                "Bairro", "Município", "UF", "País"));
+        EXPECT_TRUE(named<QLineEdit>(queue, "txtTipo").isReadOnly());
+    });
+}
+
+TEST_F(QueueScreen, SuppliersHaveTheirOwnReasons) {
+    inQueue(
+        [this](QWidget& queue) {
+            EXPECT_EQ(text(queue, "txtTipo"), " FORNECEDORES");
+            EXPECT_EQ(server.queries()[1],
+                      "comando=sel_motivos&ID_EMP_TARN=2161&ServerName=SRV1&sIc_Ver_Eti=F");
+        },
+        "mnuImprFornecedores");
+    EXPECT_EQ(sessao.TipoEtiqueta, "F");
+}
+
+TEST_F(QueueScreen, TabFollowsTheFieldsThenTheButtons) {
+    inQueue([](QWidget& queue) {
+        EXPECT_EQ(focused(queue), "cboMotivo");
+        EXPECT_THAT(tabOrder(queue, "txtTipo", 8),
+                    ElementsAre("txtTipo", "cboMotivo", "cboTp_Form", "sprDados", "cmdImprimir",
+                                "cmdExcluir", "cmdVoltar", "txtTipo"));
+        pick(queue, "cboTp_Form", 4);
+        EXPECT_THAT(tabOrder(queue, "cboTp_Form", 3),
+                    ElementsAre("cboTp_Form", "CboFilialRemet", "sprDados"));
+    });
+}
+
+TEST_F(QueueScreen, AReasonShowsItsQueue) {
+    server.on("sDc_Mot_Imp=PÁSCOA&",
+              answers::rowset("<z:row SEQUENCIAL='40001' CEP='01000-000' NOME='&lt;b&gt;JOSÉ' "
+                              "CODIGO='7' ENDERECO='RUA A, 1' COMPLEMENTO='CJ' BAIRRO='SÉ' "
+                              "MUNICIPIO='SÃO PAULO' UF='SP' PAIS='BRASIL'/>"
+                              "<z:row SEQUENCIAL='40002' cep='1'/>"));
+    inQueue([this](QWidget& queue) {
+        server.addresses.clear();
+        pick(queue, "cboMotivo", pascoa);
+        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("PÁSCOA")));
+        ASSERT_EQ(rows(queue), 2);
+        std::vector<std::string> row;
+        for (int column = 1; column <= 10; ++column) {
+            row.push_back(cell(queue, 1, column));
+        }
+        EXPECT_THAT(row, ElementsAre("40001", "01000-000", "<b>JOSÉ", "7", "RUA A, 1", "CJ", "SÉ",
+                                     "SÃO PAULO", "SP", "BRASIL"));
+        EXPECT_EQ(cell(queue, 2, 1), "40002");
+        EXPECT_EQ(cell(queue, 2, 2), "") << "another case is absent";
+    });
+}
+
+TEST_F(QueueScreen, AnEmptyQueueAsksForTheReasonAllTheSame) {
+    inQueue([this](QWidget& queue) {
+        pick(queue, "cboMotivo", natal);
+        EXPECT_EQ(rows(queue), 2);
+        pick(queue, "cboMotivo", pascoa);
+        EXPECT_EQ(rows(queue), 0);
+        pick(queue, "cboTp_Form", 1);
+        click(queue, "cmdImprimir");
+        EXPECT_THAT(boxes.shown, ElementsAre(chooseReason));
+        EXPECT_EQ(focused(queue), "cboMotivo");
+    });
+}
+
+TEST_F(QueueScreen, PrintingNeedsAForm) {
+    inQueue([this](QWidget& queue) {
+        click(queue, "cmdImprimir");
+        EXPECT_EQ(focused(queue), "cboMotivo");
+        pick(queue, "cboMotivo", natal);
+        click(queue, "cmdImprimir");
+        EXPECT_THAT(boxes.shown, ElementsAre(chooseReason, chooseForm));
+        EXPECT_EQ(focused(queue), "cboTp_Form");
+    });
+}
+
+TEST_F(QueueScreen, ChoosingTheSameReasonAgainReadsItAgain) {
+    inQueue([this](QWidget& queue) {
+        pick(queue, "cboMotivo", natal);
+        server.addresses.clear();
+        pick(queue, "cboMotivo", natal);
+        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL")));
+    });
+}
+
+TEST_F(QueueScreen, NoReasonChosenByHandIsAskedForOnceAndNotOnReturning) {
+    inQueue([this](QWidget& queue) {
+        pick(queue, "cboMotivo", natal);
+        server.addresses.clear();
+        pick(queue, "cboMotivo", 0);
+        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("--------")));
+        deleting(queue, [](QWidget& deletion) {
+            EXPECT_THAT(items(deletion, "cboMotivo"), ElementsAre("--------"));
+            click(deletion, "cmdCancelar");
+        });
+        EXPECT_EQ(server.addresses.size(), 1U);
+    });
+}
+
+TEST_F(QueueScreen, ComingBackReadsTheQueueOfTheReason) {
+    inReadQueue(1, [this](QWidget& queue) {
+        printing(queue, [](QWidget& print) { click(print, "cmdCancelar"); });
+        deleting(queue, [](QWidget& deletion) { click(deletion, "cmdCancelar"); });
+        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL"), queueQuery("NATAL")));
+    });
+}
+
+TEST_F(QueueScreen, AFailedReadingKeepsTheGrid) {
+    inReadQueue(1, [this](QWidget& queue) {
+        server = ScriptedLoader();
+        server.on("sel_dados_empresa", answers::branch("F"));
+        pick(queue, "cboMotivo", pascoa);
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
+        EXPECT_EQ(rows(queue), 2);
+        EXPECT_EQ(cell(queue, 1, 3), "NOME 1");
+        // The rows still count, and the reason is the new one.
+        printing(queue, [this](QWidget& print) {
+            range(print, "1", "2");
+            server.addresses.clear();
+            click(print, "cmdOk");
+            EXPECT_EQ(server.queries()[0], queueQuery("PÁSCOA", "1", "2"));
+            click(print, "cmdCancelar");
+        });
+    });
+}
+
+TEST_F(QueueScreen, FailedReasonsLeaveNoneToChoose) {
+    server.failOn("comando=sel_motivos");
+    inQueue([this](QWidget& queue) {
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
+        EXPECT_THAT(items(queue, "cboMotivo"), ElementsAre("--------"));
+        EXPECT_EQ(server.queries().back(), queueQuery("--------"));
+        EXPECT_EQ(server.addresses.size(), 3U);
+    });
+}
+
+TEST_F(QueueScreen, FailedBranchesLeaveAnEmptyListAndTheFormerSender) {
+    inReadQueue(4, [](QWidget& queue) { pick(queue, "CboFilialRemet", sul); });
+    server.failOn("comando=sel_filiais_remetente");
+    inQueue([this](QWidget& queue) {
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
+        EXPECT_THAT(items(queue, "CboFilialRemet"), IsEmpty());
+        pick(queue, "cboMotivo", natal);
+        pick(queue, "cboTp_Form", 4);
+        printing(queue, [this](QWidget& print) {
+            range(print, "1", "2");
+            click(print, "cmdOk");
+        });
+        EXPECT_THAT(server.queries(), testing::Contains(senderQuery("12")));
+    });
+}
+
+TEST_F(QueueScreen, TheSenderIsAskedForOnTheFourthFormOnlyAndKept) {
+    inReadQueue(3, [this](QWidget& queue) {
+        const auto shown = [&queue] {
+            return named<QWidget>(queue, "CboFilialRemet").isVisible() &&
+                   named<QWidget>(queue, "LblFilialRemet").isVisible();
+        };
+        EXPECT_FALSE(shown());
+        pick(queue, "cboTp_Form", 4);
+        EXPECT_TRUE(shown());
+        pick(queue, "CboFilialRemet", sul);
+        pick(queue, "cboTp_Form", 1);
+        EXPECT_FALSE(shown());
+        printing(queue, [this](QWidget& print) {
+            range(print, "1", "2");
+            click(print, "cmdOk");
+        });
+        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL", "1", "2"), senderQuery("12"),
+                                                  queueQuery("NATAL")));
+        EXPECT_EQ(named<QComboBox>(queue, "CboFilialRemet").currentIndex(), sul);
+    });
+}
+
+TEST_F(QueueScreen, NoSenderChosenTravelsAsZero) {
+    inReadQueue(4, [this](QWidget& queue) {
+        pick(queue, "CboFilialRemet", sul);
+        pick(queue, "CboFilialRemet", 0);
+        printing(queue, [this](QWidget& print) {
+            range(print, "1", "2");
+            click(print, "cmdOk");
+        });
+        EXPECT_EQ(server.queries()[1], senderQuery("0"));
+    });
+}
+
+TEST_F(QueueScreen, ANewOpeningForgetsTheSender) {
+    inReadQueue(4, [](QWidget& queue) { pick(queue, "CboFilialRemet", sul); });
+    inReadQueue(4, [this](QWidget& queue) {
+        printing(queue, [this](QWidget& print) {
+            range(print, "1", "2");
+            click(print, "cmdOk");
+        });
+        EXPECT_EQ(server.queries()[1], senderQuery("0"));
+    });
+}
+
+TEST_F(QueueScreen, EscLeavesAndEnterPressesTheFocusedButtonOnly) {
+    inQueue([](QWidget& queue) {
+        named<QWidget>(queue, "cboMotivo").setFocus();
+        key(queue, Qt::Key_Return);
+        EXPECT_TRUE(queue.isVisible());
+        key(queue, Qt::Key_Escape);
+        EXPECT_FALSE(queue.isVisible());
+    });
+    inQueue([](QWidget& queue) {
+        named<QWidget>(queue, "cmdVoltar").setFocus();
+        key(queue, Qt::Key_Return);
+        EXPECT_FALSE(queue.isVisible());
+    });
+}
+
+TEST_F(QueueScreen, AQueueLongerThanAnyCounterOf16Bits) {
+    std::string many;
+    for (int i = 0; i < 40000; ++i) {
+        many += "<z:row SEQUENCIAL='" + std::to_string(i + 1) + "'/>";
+    }
+    server.on("sDc_Mot_Imp=NATAL&", answers::rowset(many));
+    inQueue([this](QWidget& queue) {
+        pick(queue, "cboMotivo", natal);
+        EXPECT_EQ(rows(queue), 40000);
+        EXPECT_EQ(cell(queue, 40000, 1), "40000");
+        pick(queue, "cboTp_Form", 1);
+        printing(queue, [](QWidget& print) { click(print, "cmdCancelar"); });
+    });
+    EXPECT_THAT(boxes.shown, IsEmpty());
+}
+
+}  // namespace
+}  // namespace tarn::labels

@@ -1,0 +1,174 @@
+#include "practice/busy_desk.h"
+
+#include "platform/curl/curl_loader.h"
+#include "practice/practice_desk.h"
+#include "session/commands.h"
+
+namespace tarn::practice::test {
+
+BusyDesk::BusyDesk(std::string baseUrl, int place, DoneAtOnce& done)
+    : loader_(std::make_unique<CurlLoader>()),
+      baseUrl_(std::move(baseUrl)),
+      place_(place),
+      done_(done),
+      random_(static_cast<std::uint64_t>(place)) {
+    clerk_.NCOMPANYCODE = 1361;
+    clerk_.ID_ETB_TARN = 1363;
+    clerk_.UserCode = "103";
+    clerk_.SERVERNAME = "DADOS1361";
+}
+
+void BusyDesk::workOnce() {
+    ++turns_;
+    switch (below(5)) {
+        case 0:
+        case 1:
+            return makeNote();
+        case 2:
+            return maintainOrder();
+        case 3:
+            return recordCheque();
+        default:
+            return numberSlip();
+    }
+}
+
+XmlDocument BusyDesk::ask(const std::string& query) {
+    const HttpAnswer answer = loader_->get(baseUrl_ + query);
+    XmlDocument document;
+    const bool loaded = answer.loaded && document.loadXML(answer.body);
+    const std::lock_guard lock(done_.mutex);
+    ++done_.requests;
+    if (!loaded) {
+        done_.failures.push_back(query);
+    }
+    return document;
+}
+
+bool BusyDesk::accepted(const std::string& query) {
+    const XmlDocument document = ask(query);
+    const bool ok = !document.empty() && statusOf(document) == "OK";
+    if (!ok) {
+        const std::lock_guard lock(done_.mutex);
+        ++done_.refusals;
+    }
+    return ok;
+}
+
+bool BusyDesk::isOwn(const std::string& number) const {
+    return std::stoll(number) % kBusyDesks == place_;
+}
+
+std::size_t BusyDesk::below(std::size_t count) {
+    return static_cast<std::size_t>(random_()) % count;
+}
+
+std::vector<std::string> BusyDesk::column(const std::string& query, const char* name) {
+    const XmlDocument document = ask(query);
+    std::vector<std::string> values;
+    if (!document.empty()) {
+        for (const XmlNode& row : rowsOf(document)) {
+            values.push_back(field(row, name));
+        }
+    }
+    return values;
+}
+
+// Any order of the list, so that several desks try the same one.
+void BusyDesk::makeNote() {
+    const std::vector<std::string> orders = column(comando::sel_ordem_fatu(clerk_), "ID_ORD_FAT");
+    if (orders.empty()) {
+        return;
+    }
+    const std::string& order = orders[below(std::min<std::size_t>(orders.size(), kBusyDesks))];
+    const XmlDocument made = ask(comando::SP_GERA_NF(clerk_, order));
+    if (made.empty() || statusOf(made) != "OK") {
+        const std::lock_guard lock(done_.mutex);
+        ++done_.refusals;
+        return;
+    }
+    const XmlNode root = made.documentElement();
+    const std::string note(root.child(0).attributes().item(0).text());
+    const std::string series(root.child(1).attributes().item(0).text());
+    {
+        const std::lock_guard lock(done_.mutex);
+        done_.notes.insert(series + '/' + note);
+    }
+    if (series == kBusySeries) {
+        keepOrCancel(note);
+    }
+}
+
+// Three of four are cancelled so that their orders can be billed again.
+void BusyDesk::keepOrCancel(const std::string& note) {
+    if (!accepted(comando::sel_gera_nf(clerk_, note, kBusySeries)) || below(4) == 0) {
+        return;
+    }
+    if (accepted(comando::sp_can_nf(
+            clerk_, {.tipoNota = "S", .nota = note, .serie = kBusySeries, .motivo = 1}))) {
+        const std::lock_guard lock(done_.mutex);
+        ++done_.cancelled;
+    }
+}
+
+void BusyDesk::maintainOrder() {
+    for (const std::string& order : column(comando::sel_ordem_fatu(clerk_), "ID_ORD_FAT")) {
+        if (!isOwn(order) || below(4) != 0) {
+            continue;
+        }
+        const std::string text =
+            "mesa " + std::to_string(place_) + " vez " + std::to_string(turns_) + " 100% & mais";
+        if (accepted(comando::MANUTENCAO_OFT(clerk_, {.ordem = order,
+                                                      .observacao = text,
+                                                      .quantidade = "1,000",
+                                                      .pesoBruto = "2,000",
+                                                      .pesoLiquido = "1,500"}))) {
+            const std::lock_guard lock(done_.mutex);
+            done_.observations[order] = text;
+        }
+        return;
+    }
+}
+
+void BusyDesk::recordCheque() {
+    const std::string number = std::to_string(done_.nextCheque++ / 2);
+    if (accepted(comando::adiciona_controle_cheque_emitido(
+            clerk_, {.banco = 1084,
+                     .agencia = "0384",
+                     .conta = "1300221-7",
+                     .numero = number,
+                     .serie = "AA",
+                     .valor = std::to_string(place_ + 1) + ",00",
+                     .dataDeposito = "05/09/2012"}))) {
+        const std::lock_guard lock(done_.mutex);
+        done_.cheques.insert(number);
+    }
+}
+
+void BusyDesk::numberSlip() {
+    const XmlDocument list = ask(comando::sel_boleto(
+        clerk_, {.filial = 1363, .vencimentoAte = "31/12/2012", .emissaoDe = "01/01/2012"}, 101,
+        true));
+    if (list.empty()) {
+        return;
+    }
+    for (const XmlNode& row : rowsOf(list)) {
+        const std::string number = field(row, "NR_DOC");
+        if (field(row, "TIPO_DOCTO") != "DOCTO_COBRANCA" || !isOwn(number.substr(0, 6)) ||
+            below(4) != 0) {
+            continue;
+        }
+        const std::string kind = field(row, "ID_TIP_DOC");
+        const std::string slip = std::to_string(place_ * 1000000 + turns_);
+        if (accepted(comando::altera_docto_cob(clerk_, {.filial = "1363",
+                                                        .tipoDocumento = kind,
+                                                        .documento = number,
+                                                        .numeroBancario = slip}))) {
+            const std::lock_guard lock(done_.mutex);
+            done_.slips[kind + ' ' + number] = slip;
+        }
+        return;
+    }
+}
+
+}  // namespace tarn::practice::test

@@ -1,0 +1,148 @@
+// The practice server over PostgreSQL: the same schema, data and answers as over a
+// file.
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "practice/at_once.h"
+#include "practice/database.h"
+#include "practice/every_command.h"
+#include "practice/practice_desk.h"
+#include "practice/private_postgres.h"
+#include "practice/schema.h"
+
+namespace tarn::practice::test {
+namespace {
+
+std::string errorOf(const std::string& address) {
+    try {
+        const PracticeServer server(optionsOf(address));
+        return "no error";
+    } catch (const DatabaseError& error) {
+        return error.what();
+    }
+}
+
+TEST(Postgres, AnswersEveryCommand) {
+    PrivatePostgres postgres;
+    expectEveryCommandAnswered(postgres.newDatabase());
+}
+
+TEST(Postgres, HoldsTheSameDataAsAFile) {
+    PrivatePostgres postgres;
+    Desk server(optionsOf(postgres.newDatabase(), 7));
+    Desk memory(optionsOf(":memory:", 7));
+    const std::string place = "&ID_EMP_TARN=1361&ID_PES_USU=101&ServerName=DADOS1361";
+    for (const std::string& query :
+         {"comando=sel_ordem_fatu&ID_ETB_TARN=1363" + place,
+          "comando=sel_dados_empresa&Id_Etb_Tarn=1362" + place,
+          "comando=sel_duplicata&ID_TIP_DOC=1,201,202,203,262,341,342,361" + place,
+          "comando=sel_boleto&ID_CRT_COB=102&IC_INC_CAR=N" + place,
+          "comando=Sel_Cliente&Filtro=LTDA" + place,
+          "comando=sel_etiquetas&sDc_Mot_Imp=MALA DIRETA DE NATAL" + place,
+          "comando=sel_banco_agencia_conta&ID_ETB_TARN=1361&UserCode=101&IC_ATV_INA=A" + place,
+          "comando=sel_dados_etq&nIdEtbTarn=1361, 1362&dDtDe=01/01/2012&nVlrDe=100&nIdOrd=CEP" +
+              place,
+          "comando=sel_impr_ordem_fatu&ID_ETB_TARN=1361&ID_ORD_FAT=45017" + place,
+          "comando=Seleciona_Obs_Ord_X_Est&ID_ETB_TARN=1361&ID_ORD_FAT=45007" + place}) {
+        EXPECT_EQ(server.server().answer(query), memory.server().answer(query)) << query;
+    }
+    EXPECT_EQ(server.generate("45001").number, memory.generate("45001").number);
+}
+
+// Numbers beyond any column's width, quotes and backslashes reach the database as
+// values.
+TEST(Postgres, TakesWhateverARequestCarries) {
+    PrivatePostgres postgres;
+    Desk desk(optionsOf(postgres.newDatabase()));
+    EXPECT_EQ(desk.status(desk.generateQuery("9223372036854775807")),
+              "A Ordem de Faturamento nº 9223372036854775807 não existe neste estabelecimento. "
+              "Atualize a lista.");
+    EXPECT_EQ(desk.status("comando=LOGIN&EMPRESA=4294967296&USUARIO=clara&SENHA=pratica"),
+              "Empresa não cadastrada. Confira o código da empresa.");
+    EXPECT_EQ(desk.status("COMANDO=MANUTENCAO_OFT&ID_ETB_TARN=1361&ID_ORD_FAT=45001"
+                          "&ServerName=DADOS1361&DC_OBS=it's \\ %5C' $1 %00 %80%93"
+                          "&QT_ESP=1&PESO_BRU=1&PESO_LIQ=1"),
+              "OK");
+    const XmlDocument list =
+        desk.ask("comando=sel_ordem_fatu&ID_ETB_TARN=1361&ServerName=DADOS1361");
+    EXPECT_EQ(field(rowsOf(list).front(), "DC_OBS"), "it's \\ \\' $1   €“");
+}
+
+TEST(Postgres, OutlivesTheServer) {
+    PrivatePostgres postgres;
+    const std::string address = postgres.newDatabase();
+    Generated note;
+    {
+        Desk desk(optionsOf(address));
+        note = desk.generate("45001");
+    }
+    Desk desk(optionsOf(address, 99));
+    EXPECT_EQ(desk.orders().size(), 22U);
+    EXPECT_EQ(statusOf(desk.note(note)), "OK");
+}
+
+TEST(Postgres, OfAnotherVersionOrProgramIsRefused) {
+    PrivatePostgres postgres;
+    const std::string old = postgres.newDatabase();
+    { const PracticeServer server(optionsOf(old)); }
+    {
+        Database database(old);
+        database.execute("UPDATE schema_version SET version = ?", {kSchemaVersion + 1});
+    }
+    EXPECT_NE(errorOf(old).find("é da versão " + std::to_string(kSchemaVersion + 1) +
+                                "; este servidor usa a versão " + std::to_string(kSchemaVersion) +
+                                ". Escolha outro com --banco, ou apague as tabelas deste para que "
+                                "sejam criadas de novo."),
+              std::string::npos)
+        << errorOf(old);
+    const std::string other = postgres.newDatabase();
+    {
+        Database database(other);
+        database.execute("CREATE TABLE other (id BIGINT)");
+    }
+    EXPECT_NE(errorOf(other).find("não é um banco do servidor de prática"), std::string::npos);
+}
+
+TEST(Postgres, TwoServersMakeOneDatabaseOnce) {
+    PrivatePostgres postgres;
+    const std::string address = postgres.newDatabase();
+    std::vector<std::string> errors(2);
+    std::vector<std::thread> threads;
+    for (std::string& error : errors) {
+        threads.emplace_back([&error, &address] { error = errorOf(address); });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    EXPECT_EQ(errors, (std::vector<std::string>{"no error", "no error"}));
+}
+
+TEST(Postgres, TwoServersGiveNoNumberTwice) {
+    PrivatePostgres postgres;
+    const std::string address = postgres.newDatabase();
+    Desk one(optionsOf(address));
+    Desk other(optionsOf(address));
+    Outcome outcome;
+    generateAtOnce({&one.server(), &other.server()}, one.orders(), outcome);
+    expectEachOnce(outcome);
+    EXPECT_EQ(one.orders(), (std::vector<std::string>{"45007", "45008"}));
+}
+
+TEST(Postgres, ConnectsAgainAfterTheConnectionWasEnded) {
+    PrivatePostgres postgres;
+    const std::string address = postgres.newDatabase();
+    Desk desk(optionsOf(address));
+    {
+        Database database(address);
+        database.select(
+            "SELECT pg_terminate_backend(pid) FROM pg_stat_activity"
+            " WHERE datname = current_database() AND pid <> pg_backend_pid()");
+    }
+    EXPECT_THROW(desk.server().answer(desk.generateQuery("45001")), DatabaseError);
+    EXPECT_EQ(desk.orders().size(), 23U);
+    desk.generate("45001");
+}
+
+}  // namespace
+}  // namespace tarn::practice::test

@@ -1,0 +1,174 @@
+// Ten desks at once against the practice server: no number is given twice and no
+// write is lost. TARN_DESKS_SECONDS tells how long they work, 3 seconds each time
+// where it is left out.
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+#include <chrono>
+#include <iostream>
+#include <optional>
+#include <set>
+#include <thread>
+
+#include "practice/busy_desk.h"
+#include "practice/database.h"
+#include "practice/practice_desk.h"
+#include "practice/private_postgres.h"
+#include "practice/serving.h"
+
+namespace tarn::practice::test {
+namespace {
+
+constexpr const char* kPlace =
+    "(SELECT id FROM establishment WHERE company_id = 1361 AND code = 1363)";
+
+std::chrono::seconds workingTime() {
+    const QByteArray seconds = qgetenv("TARN_DESKS_SECONDS");
+    return std::chrono::seconds(seconds.isEmpty() ? 3 : seconds.toInt());
+}
+
+std::map<std::string, std::string> twoColumns(Database& database, const std::string& sql) {
+    std::map<std::string, std::string> values;
+    Rows rows = database.select(sql);
+    while (rows.next()) {
+        values.emplace(rows.text(0), rows.text(1));
+    }
+    return values;
+}
+
+std::multiset<std::string> oneColumn(Database& database, const std::string& sql) {
+    std::multiset<std::string> values;
+    Rows rows = database.select(sql);
+    while (rows.next()) {
+        values.insert(rows.text(0));
+    }
+    return values;
+}
+
+std::int64_t number(Database& database, const std::string& sql) {
+    Rows rows = database.select(sql);
+    return rows.next() ? rows.integer(0) : -1;
+}
+
+// Each product's stock and what the notes that stand have taken from it.
+std::map<std::string, std::string> stockAndTaken(Database& database) {
+    return twoColumns(
+        database,
+        "SELECT s.product_id, s.quantity + COALESCE((SELECT SUM(CASE o.entry WHEN 1 THEN"
+        " -i.quantity ELSE i.quantity END) FROM order_item i"
+        " JOIN billing_order o ON o.id = i.order_id JOIN note n ON n.order_id = o.id"
+        " WHERE n.cancelled = 0 AND i.product_id = s.product_id"
+        " AND n.establishment_id = s.establishment_id), 0)"
+        " FROM stock s WHERE s.establishment_id = " +
+            std::string(kPlace));
+}
+
+std::int64_t numbersLeft(Database& database) {
+    return number(database, "SELECT SUM(next_number) FROM series WHERE establishment_id = " +
+                                std::string(kPlace));
+}
+
+void workAtOnce(const std::vector<std::string>& baseUrls, DoneAtOnce& done) {
+    const auto end = std::chrono::steady_clock::now() + workingTime();
+    std::vector<std::thread> desks;
+    for (int place = 0; place < kBusyDesks; ++place) {
+        const std::string& url = baseUrls[static_cast<std::size_t>(place) % baseUrls.size()];
+        desks.emplace_back([&done, &url, end, place] {
+            BusyDesk desk(url, place, done);
+            do {
+                desk.workOnce();
+            } while (std::chrono::steady_clock::now() < end);
+        });
+    }
+    for (std::thread& desk : desks) {
+        desk.join();
+    }
+}
+
+void expectNothingTwice(const DoneAtOnce& done) {
+    EXPECT_EQ(std::set<std::string>(done.notes.begin(), done.notes.end()).size(),
+              done.notes.size());
+    EXPECT_EQ(std::set<std::string>(done.cheques.begin(), done.cheques.end()).size(),
+              done.cheques.size());
+}
+
+// The notes stand as they were given, and without a gap.
+void expectNotes(Database& database, const DoneAtOnce& done, std::int64_t numbersBefore) {
+    const std::string place = kPlace;
+    EXPECT_EQ(oneColumn(database,
+                        "SELECT series_code || '/' || number FROM note"
+                        " WHERE establishment_id = " +
+                            place),
+              done.notes);
+    EXPECT_EQ(numbersLeft(database) - numbersBefore, static_cast<std::int64_t>(done.notes.size()));
+    EXPECT_EQ(number(database, "SELECT COUNT(*) FROM note WHERE cancelled = 1"), done.cancelled);
+    EXPECT_EQ(number(database, "SELECT COUNT(*) FROM billing_order WHERE state = 'F'"),
+              static_cast<std::int64_t>(done.notes.size()) - done.cancelled);
+    EXPECT_EQ(number(database,
+                     "SELECT COUNT(*) FROM note WHERE cancelled = 0 GROUP BY order_id"
+                     " HAVING COUNT(*) > 1"),
+              -1);
+}
+
+void expectNothingLost(Database& database, const DoneAtOnce& done) {
+    EXPECT_EQ(oneColumn(database, "SELECT number FROM cheque"), done.cheques);
+    EXPECT_EQ(twoColumns(database,
+                         "SELECT id, observation FROM billing_order"
+                         " WHERE observation LIKE 'mesa %'"),
+              done.observations);
+    EXPECT_EQ(twoColumns(database,
+                         "SELECT kind_id || ' ' || number, slip_number FROM document"
+                         " WHERE slip_number IS NOT NULL"),
+              done.slips);
+}
+
+// How many servers stand between the desks and the one database.
+class TenDesks : public testing::TestWithParam<int> {
+protected:
+    void work(const std::string& address) {
+        std::vector<std::unique_ptr<PracticeServer>> servers;
+        std::vector<std::unique_ptr<Serving>> fronts;
+        std::vector<std::string> urls;
+        for (int i = 0; i < GetParam(); ++i) {
+            servers.push_back(std::make_unique<PracticeServer>(optionsOf(address)));
+            fronts.push_back(
+                std::make_unique<Serving>([server = servers.back().get()](std::string_view query) {
+                    return server->answer(query);
+                }));
+            urls.push_back(fronts.back()->baseUrl());
+        }
+        Database database(address);
+        const std::int64_t numbersBefore = numbersLeft(database);
+        const auto stockBefore = stockAndTaken(database);
+        DoneAtOnce done;
+        workAtOnce(urls, done);
+        EXPECT_TRUE(done.failures.empty())
+            << done.failures.size() << " failed, the first: " << done.failures.front();
+        for (const std::size_t count : {done.notes.size(), done.cheques.size(),
+                                        done.observations.size(), done.slips.size()}) {
+            EXPECT_GT(count, 0U);
+        }
+        expectNothingTwice(done);
+        expectNotes(database, done, numbersBefore);
+        expectNothingLost(database, done);
+        EXPECT_EQ(stockAndTaken(database), stockBefore);
+        std::cout << done.requests << " requests, " << done.notes.size() << " notes ("
+                  << done.cancelled << " cancelled), " << done.cheques.size() << " cheques, "
+                  << done.refusals << " refusals\n";
+    }
+};
+
+TEST_P(TenDesks, OverAFileGetNothingTwiceAndLoseNothing) {
+    const QTemporaryDir directory;
+    work(directory.filePath("pratica.db").toStdString());
+}
+
+TEST_P(TenDesks, OverPostgresGetNothingTwiceAndLoseNothing) {
+    PrivatePostgres postgres;
+    work(postgres.newDatabase());
+}
+
+INSTANTIATE_TEST_SUITE_P(Servers, TenDesks, testing::Values(1, 2));
+
+}  // namespace
+}  // namespace tarn::practice::test
