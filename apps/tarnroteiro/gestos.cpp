@@ -36,10 +36,17 @@ void assinala(QWidget& janela, const char* opcao) {
     QTest::mouseClick(&marca, Qt::LeftButton, {}, {8, marca.height() / 2});
 }
 
+void tecla(QWidget& campo, const std::string& texto) {
+    const QString letras = QString::fromStdString(texto);
+    for (const QChar letra : letras) {
+        QTest::sendKeyEvent(QTest::Click, &campo, Qt::Key_unknown, QString(letra), Qt::NoModifier);
+    }
+}
+
 void digita(QWidget& janela, const char* campo, const std::string& texto) {
     auto& linha = filho<QLineEdit>(janela, campo);
     linha.setFocus();
-    QTest::keyClicks(&linha, QString::fromStdString(texto));
+    tecla(linha, texto);
 }
 
 void abreMenu(QWidget& janela, const char* menu) {

@@ -22,6 +22,8 @@ T& filho(QWidget& janela, const char* nome) {
 void clica(QWidget& janela, const char* botao);
 // Radio buttons and check boxes are clicked on their mark, not on the middle.
 void assinala(QWidget& janela, const char* opcao);
+// One key stroke a character, accented ones too, where the focus is.
+void tecla(QWidget& campo, const std::string& texto);
 void digita(QWidget& janela, const char* campo, const std::string& texto);
 
 // The menus of the main window.

@@ -68,6 +68,12 @@ void Roteiro::olha() {
         }
         return;
     }
+    // Off-screen the activation doesn't come back by itself from a window that closed;
+    // without it no field is ever left.
+    if (++olhadas_ < maximoDeOlhadas && !janela->isActiveWindow()) {
+        janela->activateWindow();
+        return;
+    }
     olhadas_ = 0;
     const Espera espera = std::exchange(passos_.front(), {});
     passos_.pop_front();

@@ -1,7 +1,6 @@
 #include "roteiro_cheque.h"
 
 #include <QLineEdit>
-#include <QTest>
 
 #include "gestos.h"
 
@@ -29,7 +28,7 @@ void escreveCheque(Roteiro& roteiro) {
                     digita(tela, "txtFavorecido", "Papelaria Três Pontes Ltda");
                     auto& uso = filho<QWidget>(tela, "txtObservacao");
                     uso.setFocus();
-                    QTest::keyClicks(&uso, "Material de escritório");
+                    tecla(uso, "Material de escritório");
                     roteiro.fotografa(tela, "cheque-preenchido");
                     clica(tela, "cmdImprimir");
                 })

@@ -27,7 +27,7 @@ void escreveDuplicatas(Roteiro& roteiro) {
         .quando("FrmPesqDupli", "", [](QWidget& tela) { clica(tela, "cmdPesqCli"); })
         .quando("FrmPesqCliente", "",
                 [&](QWidget& dialogo) {
-                    digita(dialogo, "txtNmCli", "panif");
+                    digita(dialogo, "txtNmCli", "pão de ara");
                     clica(dialogo, "cmdPesquisar");
                     clicaNaGrade(dialogo, 0, 0);
                     roteiro.fotografa(dialogo, "clientes");

@@ -60,7 +60,17 @@ void escreveEmissao(Roteiro& roteiro) {
                     clica(tela, "cmdDetOFT");
                 })
         .quando("frmManutDetOFT", "manutencao",
-                [](QWidget& dialogo) { clica(dialogo, "cmdCancelar"); })
+                [&](QWidget& dialogo) {
+                    digita(dialogo, "txtQtde", "12");
+                    digita(dialogo, "txtPesoBruto", "150,5");
+                    roteiro.fotografa(dialogo, "manutencao-preenchida");
+                    clica(dialogo, "cmdOk");
+                })
+        .quando("FrmOFT", "",
+                [](QWidget& tela) {
+                    clicaNaGrade(tela, primeira, cliente);
+                    clica(tela, "cmdImprimirOF");
+                })
         .quando("FrmOFT", "",
                 [](QWidget& tela) {
                     clicaNaGrade(tela, recusada, cliente);

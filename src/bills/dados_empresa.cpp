@@ -20,6 +20,7 @@ DadosEmpresa dadosDaEmpresa(const XmlDocument& resposta) {
             .NM_BRR = campo("NM_BRR"),
             .NM_MUN = campo("NM_MUN"),
             .NM_UF = campo("NM_UF"),
+            .NR_LG = campo("NR_LG"),
             .CD_CEP = campo("CD_CEP"),
             .CD_ICR_EST = campo("CD_ICR_EST"),
             .DC_RAZ_SOC_ETB = campo("DC_RAZ_SOC_ETB"),

@@ -13,6 +13,7 @@ struct DadosEmpresa {
     std::string NM_BRR;
     std::string NM_MUN;
     std::string NM_UF;
+    std::string NR_LG;  // read, but no page prints it
     std::string CD_CEP;
     std::string CD_ICR_EST;
     std::string DC_RAZ_SOC_ETB;

@@ -136,7 +136,9 @@ void FrmPesqDupli::mostraFiguras() {
 
 void FrmPesqDupli::cmdPesqCli_Click() {
     emit procuraCliente();
-    ativa();
+    if (!desk_.fim.encerrado()) {
+        ativa();
+    }
 }
 
 void FrmPesqDupli::cmdPesquisar_Click() {

@@ -40,7 +40,7 @@ std::vector<std::string> printed(const NossoNumero& number) {
 using Printed = std::vector<std::string>;
 
 TEST(DigitoModulo10, AddsUpByHand) {
-    // 1x1 3x1 .. over 0000000001234 1123 456789 add up to 63.
+    // Weights 1 and 2 in turn over 0000000001234 1123 456789 add up to 63.
     EXPECT_EQ(DigitoModulo10("0000000001234", "1123", "456789"), 7);
 }
 
