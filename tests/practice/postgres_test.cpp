@@ -139,6 +139,7 @@ TEST(Postgres, TwoServersMakeOneDatabaseOnce) {
     const std::string address = postgres.newDatabase();
     std::vector<std::string> errors(2);
     std::vector<std::thread> threads;
+    threads.reserve(errors.size());
     for (std::string& error : errors) {
         threads.emplace_back([&error, &address] { error = errorOf(address); });
     }
