@@ -72,8 +72,9 @@ int run(int argc, char** argv) {
         return showForm(options);
     }
     if (!options.writes() && !tarn::impressora::hasDisplay()) {
-        complain(QStringLiteral("não há tela para a janela; diga o que gravar: --pdf ARQUIVO, "
-                                "--png ARQUIVO ou --texto ARQUIVO."));
+        complain(
+            QStringLiteral("não há tela para a janela; diga o que gravar: --pdf ARQUIVO, "
+                           "--png ARQUIVO ou --texto ARQUIVO."));
         return 1;
     }
     tarn::dotmatrix::PaintOptions looks;

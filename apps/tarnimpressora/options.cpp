@@ -92,7 +92,8 @@ std::optional<Ending> readPanel(const Raw& raw, Options& options) {
     }
     dialect.codePage = *page;
     options.ownPitch = !raw.pitch.empty();
-    if (options.ownPitch && raw.pitch != "10" && raw.pitch != "12" && raw.pitch != "17" && raw.pitch != "20") {
+    if (options.ownPitch && raw.pitch != "10" && raw.pitch != "12" && raw.pitch != "17" &&
+        raw.pitch != "20") {
         return wrong("--passo pede 10, 12, 17 ou 20.");
     }
     dialect.elite = raw.pitch == "12" || raw.pitch == "20";
@@ -137,7 +138,8 @@ std::optional<Ending> readRest(const Raw& raw, Options& options) {
     if (!raw.endAfter.empty()) {
         const auto jobs = wholeOf(raw.endAfter, 1, kMostJobs);
         if (!jobs || !options.waits()) {
-            return wrong("--quantos pede um número inteiro de 1 a 1000000, com --porta ou --pasta.");
+            return wrong(
+                "--quantos pede um número inteiro de 1 a 1000000, com --porta ou --pasta.");
         }
         options.endAfter = static_cast<std::size_t>(*jobs);
     }

@@ -24,8 +24,9 @@ QString Reception::listen(const Options& options) {
     if (!server_->listen(address, *options.port)) {
         const QString why = server_->errorString();
         server_.reset();
-        return QStringLiteral("não foi possível receber em %1, porta %2 (%3). Outro programa pode "
-                              "estar usando a porta; escolha outra com --porta.")
+        return QStringLiteral(
+                   "não foi possível receber em %1, porta %2 (%3). Outro programa pode "
+                   "estar usando a porta; escolha outra com --porta.")
             .arg(address.toString())
             .arg(*options.port)
             .arg(why);

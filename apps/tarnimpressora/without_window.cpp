@@ -14,8 +14,8 @@ namespace {
 constexpr std::chrono::milliseconds kUntilQuiet(100);
 
 // Writes the files whenever jobs have ended and no other follows at once.
-int wait(QGuiApplication& application, const Options& options,
-         const dotmatrix::PaintOptions& looks, dotmatrix::PaperRoll& roll, std::size_t notices) {
+int wait(QGuiApplication& application, const Options& options, const dotmatrix::PaintOptions& looks,
+         dotmatrix::PaperRoll& roll, std::size_t notices) {
     dotmatrix::JobIntake intake(roll);
     Reception reception(intake);
     if (const QString wrong = reception.open(options); !wrong.isEmpty()) {

@@ -18,7 +18,7 @@ class Mesa;
 
 inline constexpr int statusFeito = 0;
 inline constexpr int statusPerda = 4;  // a note that was looked over loses something
-inline constexpr int statusUso = 1;  // wrong usage, unreadable input, nowhere to print
+inline constexpr int statusUso = 1;    // wrong usage, unreadable input, nowhere to print
 
 // Ends the program with `statusUso`; the text (Portuguese) goes to stderr.
 class FalhaDeUso : public std::runtime_error {

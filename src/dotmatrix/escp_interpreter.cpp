@@ -47,8 +47,7 @@ EscpInterpreter::EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect)
     reset();
 }
 
-EscpInterpreter::EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect,
-                                 PrinterState state)
+EscpInterpreter::EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect, PrinterState state)
     : paper_(paper), dialect_(dialect), state_(std::move(state)) {
     dialect_.carriageWidth = std::max(dialect_.carriageWidth, kNarrowestCarriage);
 }
@@ -361,7 +360,8 @@ void EscpInterpreter::printCharacter(char16_t character) {
 }
 
 void EscpInterpreter::passColumns(PaperUnits count) {
-    state_.column = static_cast<std::uint16_t>(std::min<PaperUnits>(state_.column + count, kMaxColumn));
+    state_.column =
+        static_cast<std::uint16_t>(std::min<PaperUnits>(state_.column + count, kMaxColumn));
 }
 
 void EscpInterpreter::newLine() {
@@ -397,7 +397,8 @@ void EscpInterpreter::backspace() {
 
 void EscpInterpreter::note(NoticeKind kind, std::string bytes) {
     notices_.add({kind, paper_.currentJob(), paper_.jobLine(),
-                  static_cast<std::size_t>(state_.column - state_.columnsBefore), std::move(bytes)});
+                  static_cast<std::size_t>(state_.column - state_.columnsBefore),
+                  std::move(bytes)});
 }
 
 }  // namespace tarn::dotmatrix

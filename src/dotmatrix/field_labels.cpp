@@ -15,7 +15,7 @@ struct Label {
 
 // clang-format off
 constexpr Label kLabels[] = {
-    {NatOper, "Natureza da operação"}, {CFOP, "CFOP"}, {NoteNumber, "Número da nota"},
+    {NatOper, "Natureza da operação"}, {CFOP, "CFOP"}, {NoteNumber, "Número"},
     {RAZAO, "Nome / razão social"}, {CGC_CPF, "CNPJ / CPF"}, {DT_EMS_NF, "Data da emissão"},
     {ENDERECO, "Endereço"}, {COMPLEMENTO, "Complemento"}, {BAIRRO, "Bairro"}, {CEP, "CEP"},
     {MUNICIPIO, "Município"}, {FONEFAX, "Fone / fax"}, {UF, "UF"},
@@ -28,7 +28,7 @@ constexpr Label kLabels[] = {
     {NR_DOC, "Duplicata"}, {VL_PRN_DOC, "Valor"}, {DT_VNC_DOC, "Vencimento"},
     {CD_PRO, "Código"}, {DESCRICAO, "Descrição dos produtos"}, {POS_NF, "Pos."},
     {CL_FISCAL, "Class. fiscal"}, {GF_AGRUP, "Grupo"}, {CFOP_ITEM, "CFOP"},
-    {OriginTax, "ST"}, {SIT_TRI, "ST"}, {UNIDADE, "Unid."}, {QTDE, "Quantidade"},
+    {OriginTax, "ST"}, {SIT_TRI, "ST"}, {UNIDADE, "Unid."}, {QTDE, "Quant."},
     {VALOR_UN, "Valor unitário"}, {LineTotal, "Valor total"}, {Discount, "Desc."},
     {ICMS, "ICMS"}, {AQ_IPI, "IPI"}, {IPI, "IPI"}, {VL_IPI, "Valor do IPI"},
     {VL_LIQ_IT, "Valor do serviço"}, {LastServiceRate, "ISS %"},

@@ -12,7 +12,7 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr qint64 kLargestText = 1024 * 1024;
+constexpr qint64 kLargestText = 1024LL * 1024;
 
 std::variant<LoadedForm, QString> withPicture(FormDesign design, const QString& file) {
     QImageReader reader(file);

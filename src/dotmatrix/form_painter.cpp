@@ -47,12 +47,15 @@ void paintLetters(QPainter& painter, const QPointF& at, double points, double wi
     }
     const QFont font = letters();
     const double scale = points / kFontPixels;
+    const QString shown = QFontMetricsF(font).elidedText(text, Qt::ElideRight, width / scale);
+    if (shown == QStringLiteral("\u2026")) {
+        return;  // no room for a single letter
+    }
     painter.save();
     painter.translate(at);
     painter.scale(scale, scale);
     painter.setFont(font);
-    painter.drawText(QPointF(0, 0),
-                     QFontMetricsF(font).elidedText(text, Qt::ElideRight, width / scale));
+    painter.drawText(QPointF(0, 0), shown);
     painter.restore();
 }
 

@@ -1,9 +1,9 @@
 #include "dotmatrix/form_text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
-#include <algorithm>
 #include <optional>
 
 namespace tarn::dotmatrix {
@@ -54,8 +54,7 @@ public:
         double value = 0;
         const char* end = text.data() + text.size();
         const auto read = std::from_chars(text.data(), end, value, std::chars_format::fixed);
-        const bool sound =
-            read.ec == std::errc() && read.ptr == end && value >= 0 && value <= most;
+        const bool sound = read.ec == std::errc() && read.ptr == end && value >= 0 && value <= most;
         return sound ? std::optional(value) : std::nullopt;
     }
     std::string rest() {

@@ -1,6 +1,7 @@
 #include "dotmatrix/layout_forms.h"
 
 #include <algorithm>
+#include <set>
 
 #include "dotmatrix/escp_interpreter.h"
 #include "dotmatrix/field_labels.h"
@@ -36,9 +37,10 @@ class Walk {
 public:
     explicit Walk(const FormPitch& pitch)
         : paper_(kEndless),
-          printer_(paper_, Dialect{.formHeight = kEndless,
-                                   .elite = pitch.elite,
-                                   .condensed = pitch.condensed}) {}
+          printer_(
+              paper_,
+              Dialect{.formHeight = kEndless, .elite = pitch.elite, .condensed = pitch.condensed}) {
+    }
 
     void run(const notes::Form& form, int itemLines) {
         itemLines_ = itemLines;
@@ -127,8 +129,8 @@ private:
             }
             call.end = std::max<int>(call.end, field.column + notes::check::roomOf(field));
             if (field.width > 0) {
-                reach_ = std::max(reach_, call.x + (field.column + field.width - call.column) *
-                                                       call.cell);
+                reach_ = std::max(reach_,
+                                  call.x + (field.column + field.width - call.column) * call.cell);
             }
         }
     }
@@ -219,24 +221,26 @@ private:
         walk(credit.rate);
     }
 
-    // A box grows half a line upwards for its words where nothing stands above it.
+    // The boxes of a line grow half a line upwards, for their words, where nothing stands
+    // above any of them.
     void giveHeadroom() {
-        std::vector<std::size_t> free;
-        for (std::size_t i = 0; i < boxes_.size(); ++i) {
-            const FormBox& one = boxes_[i];
+        std::set<PaperUnits> tight;
+        for (const FormBox& one : boxes_) {
             const bool taken =
                 one.y < kHeadroom ||
                 std::any_of(boxes_.begin(), boxes_.end(), [&one](const FormBox& other) {
                     return other.y < one.y && other.y + other.height > one.y - kHeadroom &&
                            other.x < one.x + one.width && one.x < other.x + other.width;
                 });
-            if (!taken && !one.label.empty()) {
-                free.push_back(i);
+            if (taken) {
+                tight.insert(one.y);
             }
         }
-        for (const std::size_t i : free) {
-            boxes_[i].y -= kHeadroom;
-            boxes_[i].height += kHeadroom;
+        for (FormBox& box : boxes_) {
+            if (tight.count(box.y) == 0) {
+                box.y -= kHeadroom;
+                box.height += kHeadroom;
+            }
         }
     }
 
@@ -259,11 +263,12 @@ std::vector<Named> namedForms() {
             continue;  // it draws on blank paper
         }
         if (layout->other != nullptr) {
-            forms.push_back({std::string(layout->name) + "_" + std::to_string(layout->establishment),
-                             layout->form});
+            forms.push_back(
+                {std::string(layout->name) + "_" + std::to_string(layout->establishment),
+                 layout->form});
         }
-        forms.push_back({std::string(layout->name),
-                         layout->other != nullptr ? layout->other : layout->form});
+        forms.push_back(
+            {std::string(layout->name), layout->other != nullptr ? layout->other : layout->form});
     }
     return forms;
 }

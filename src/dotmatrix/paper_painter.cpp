@@ -65,7 +65,8 @@ Sheet sheetFor(PaperUnits contentWidth, const PaintOptions& options) {
     return sheetFor(contentWidth);
 }
 
-PaperPainter::PaperPainter(Sheet sheet, PaintOptions options) : sheet_(sheet), options_(std::move(options)) {
+PaperPainter::PaperPainter(Sheet sheet, PaintOptions options)
+    : sheet_(sheet), options_(std::move(options)) {
     plain_.setFamilies({QStringLiteral("Liberation Mono"), QStringLiteral("DejaVu Sans Mono"),
                         QStringLiteral("Courier New"), QStringLiteral("monospace")});
     plain_.setStyleHint(QFont::Monospace);
@@ -83,8 +84,7 @@ void PaperPainter::paintForm(QPainter& painter, const FormPage& page) const {
     paintSheet(painter, height);
     paintPreprinted(painter, height);
     if (options_.ruler) {
-        paintRuler(painter, page, options_.rulerCell, strip,
-                   sheet_.width * kPointsPerInch - strip);
+        paintRuler(painter, page, options_.rulerCell, strip, sheet_.width * kPointsPerInch - strip);
     }
     for (const PaperLine& line : page.lines) {
         paintLine(painter, line, static_cast<double>(line.y - page.shape.top) * kPointsPerUnit);

@@ -30,9 +30,9 @@ struct PaintOptions {
     bool bands = false;  // faint green bands of half an inch
     QString title{};     // written along a strip of each form, beside the holes
     bool ruler = false;  // line and column numbers over the print
-    PaperUnits rulerCell = kUnitsPerInch / 10;         // width of a column on an empty form
-    std::shared_ptr<const FormDesign> design{};        // the pre-printed form; none: blank paper
-    std::shared_ptr<const QImage> picture{};           // of the design, null for none
+    PaperUnits rulerCell = kUnitsPerInch / 10;   // width of a column on an empty form
+    std::shared_ptr<const FormDesign> design{};  // the pre-printed form; none: blank paper
+    std::shared_ptr<const QImage> picture{};     // of the design, null for none
 };
 
 // The sheet for what was printed and for what the form has beside it.

@@ -9,8 +9,8 @@ namespace {
 
 constexpr std::size_t kSeenKept = 24;
 // A note has some 4,000 bytes, so printing again begins at most a few pages above.
-constexpr qint64 kBetweenMarks = 32 * 1024;
-constexpr qint64 kChunk = 64 * 1024;
+constexpr qint64 kBetweenMarks = 16LL * 1024;
+constexpr qint64 kChunk = 16LL * 1024;
 
 PaperPosition topOfPaper(const Dialect& dialect) {
     return {.form = 0,
@@ -50,8 +50,7 @@ void PaperRoll::markHere() {
 
 void PaperRoll::startJob(std::string name) {
     printer_->startJob();
-    jobs_.push_back(
-        {std::move(name), paper_->currentForm(), paper_->y(), length_});
+    jobs_.push_back({std::move(name), paper_->currentForm(), paper_->y(), length_});
     ++version_;
 }
 

@@ -47,6 +47,7 @@ public:
     const FormTable& forms() const { return paper_->forms(); }
     std::size_t printedForms() const { return paper_->printedForms(); }
     PaperUnits contentWidth() const { return paper_->contentWidth(); }
+    PaperUnits headY() const { return paper_->y(); }
     const std::vector<RollJob>& jobs() const { return jobs_; }
     const NoticeLog& notices() const { return printer_->notices(); }
     // Changes when the paper does, also on the form that was there before.

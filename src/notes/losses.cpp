@@ -68,7 +68,7 @@ std::string quoted(std::string_view text) {
 }  // namespace
 
 std::string describe(const Loss& loss) {
-    const std::string where = placeOf(loss) + loss.field;
+    std::string where = placeOf(loss) + loss.field;
     switch (loss.kind) {
         case Loss::Kind::Text:
             return where + ": não cabe; perde " + quoted(loss.lost);

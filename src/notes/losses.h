@@ -21,13 +21,13 @@ struct Loss {
         ParcelsOverflow  // none prints
     };
     Kind kind{};
-    int line = 0;       // printed line, from 1; 0 on a drawn page and where it has none
-    int column = 0;     // printed column of the field, from 1; 0 where it has none
-    int item = 0;       // item row, from 1; 0 outside the items
+    int line = 0;         // printed line, from 1; 0 on a drawn page and where it has none
+    int column = 0;       // printed column of the field, from 1; 0 where it has none
+    int item = 0;         // item row, from 1; 0 outside the items
     std::string field{};  // as the server spells it, or in words (Portuguese)
     std::string lost{};   // UTF-8
-    int count = 0;      // of lines or parcels
-    int limit = 0;      // how many the form has room for
+    int count = 0;        // of lines or parcels
+    int limit = 0;        // how many the form has room for
 };
 
 // One line in Portuguese, without a line end.

@@ -52,8 +52,9 @@ TEST_F(Tarnimprime, WhatANoteLosesIsToldWithStatusFour) {
         run({"--destino", file("papel"), "nota", "--empresa", "1361", "--estabelecimento", "1",
              "--numero", "4567", "--confere", data("nota_1361.xml"), wide});
     EXPECT_EQ(result.status, 4);
-    EXPECT_EQ(result.out, wide + ": linha 10, coluna 2, RAZAO: não cabe; perde \"PEÇAS SÃO JOÃO "
-                                 "LTDA\"\n");
+    EXPECT_EQ(result.out, wide +
+                              ": linha 10, coluna 2, RAZAO: não cabe; perde \"PEÇAS SÃO JOÃO "
+                              "LTDA\"\n");
     EXPECT_EQ(result.err, "");
     // With a directory told the notes are there to be looked at too.
     EXPECT_TRUE(hasJob("job-004.prn"));

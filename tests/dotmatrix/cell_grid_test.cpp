@@ -24,10 +24,14 @@ struct Command {
     std::string bytes;
     int cell;
 };
-const Command kCommands[] = {{"\x0F\x1B\x1B\x47", 126}, {"\x0F\x1B\x1B\x4D", 108},
-                             {"\x0F\x1B\x4D", 108},     {"\x0F\x1B\x47", 126},
-                             {"\x1B\x0F\x0F", 126},     {"\x1B\x17", 0},
-                             {"\x1B\x23", 0},           {"\x12", -1},
+const Command kCommands[] = {{"\x0F\x1B\x1B\x47", 126},
+                             {"\x0F\x1B\x1B\x4D", 108},
+                             {"\x0F\x1B\x4D", 108},
+                             {"\x0F\x1B\x47", 126},
+                             {"\x1B\x0F\x0F", 126},
+                             {"\x1B\x17", 0},
+                             {"\x1B\x23", 0},
+                             {"\x12", -1},
                              {"\x0F", 126}};
 
 // Counts along the jobs' bytes. Byte 12 goes back to ten an inch where nothing selects

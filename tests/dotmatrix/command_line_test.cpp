@@ -158,8 +158,8 @@ TEST_F(CommandLine, AFormSetsThePaperUp) {
     const QString form = file("f.txt", "altura 33\nligar 17\ncaixa 1 1 10 2 Caixa\n");
     EXPECT_EQ(run({"--formulario", form, "--texto", path("n.txt"), job}).status, 0);
     EXPECT_EQ(read("n.txt"), "a\n\fb\n");
-    EXPECT_EQ(
-        run({"--formulario", form, "--altura", "11", "--texto", path("n.txt"), job}).status, 0);
+    EXPECT_EQ(run({"--formulario", form, "--altura", "11", "--texto", path("n.txt"), job}).status,
+              0);
     EXPECT_FALSE(read("n.txt").contains('\f'));
     const Ran written = run({"--mostra-formulario", "ImprimeNF_821"});
     const QString again = file("g.txt", QByteArray::fromStdString(written.out));
@@ -184,7 +184,8 @@ TEST_F(CommandLine, TakesJobsFromTheNetworkAndWritesAfterEach) {
     while (!process.canReadLine() && process.waitForReadyRead()) {
     }
     const QString line = QString::fromUtf8(process.readLine()).trimmed();
-    ASSERT_TRUE(line.startsWith(QStringLiteral("Recebendo em 127.0.0.1, porta "))) << line.toStdString();
+    ASSERT_TRUE(line.startsWith(QStringLiteral("Recebendo em 127.0.0.1, porta ")))
+        << line.toStdString();
     const auto port = static_cast<quint16>(line.section(u' ', -1).toInt());
     for (const char* job : {"um\r\n", "dois\r\n"}) {
         QTcpSocket socket;
@@ -204,8 +205,7 @@ TEST_F(CommandLine, TakesJobsFromTheNetworkAndWritesAfterEach) {
 TEST_F(CommandLine, APortInUseIsTold) {
     QTcpServer other;
     ASSERT_TRUE(other.listen(QHostAddress::LocalHost));
-    const Ran ran =
-        run({"--porta", QString::number(other.serverPort()), "--texto", path("n.txt")});
+    const Ran ran = run({"--porta", QString::number(other.serverPort()), "--texto", path("n.txt")});
     EXPECT_EQ(ran.status, 1);
     EXPECT_NE(ran.err.find("escolha outra com --porta."), std::string::npos) << ran.err;
 }

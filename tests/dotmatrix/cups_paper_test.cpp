@@ -27,7 +27,8 @@ int portOf(QProcess& printer) {
     while (!printer.canReadLine() && printer.waitForReadyRead(kLimit)) {
     }
     const QString line = QString::fromUtf8(printer.readLine()).trimmed();
-    EXPECT_TRUE(line.startsWith(QStringLiteral("Recebendo em 127.0.0.1, porta "))) << line.toStdString();
+    EXPECT_TRUE(line.startsWith(QStringLiteral("Recebendo em 127.0.0.1, porta ")))
+        << line.toStdString();
     return line.section(u' ', -1).toInt();
 }
 
@@ -39,11 +40,11 @@ TEST(CupsPaper, ANoteComesOutAsPdfAndText) {
     const QString pdf = folder.filePath(QStringLiteral("nota.pdf"));
     const QString text = folder.filePath(QStringLiteral("nota.txt"));
     QProcess printer;
-    printer.start(QStringLiteral(TARNIMPRESSORA),
-                  {QStringLiteral("--porta"), QStringLiteral("0"), QStringLiteral("--quantos"),
-                   QStringLiteral("2"), QStringLiteral("--formulario"),
-                   QStringLiteral("ImprimeNF_1361"), QStringLiteral("--pdf"), pdf,
-                   QStringLiteral("--texto"), text});
+    printer.start(
+        QStringLiteral(TARNIMPRESSORA),
+        {QStringLiteral("--porta"), QStringLiteral("0"), QStringLiteral("--quantos"),
+         QStringLiteral("2"), QStringLiteral("--formulario"), QStringLiteral("ImprimeNF_1361"),
+         QStringLiteral("--pdf"), pdf, QStringLiteral("--texto"), text});
     ASSERT_TRUE(printer.waitForStarted());
     PrivateCupsd server;
     server.printTo(portOf(printer));

@@ -185,8 +185,8 @@ TEST_F(SmallServer, AJobOverItsSizeIsCutOffAndTheNextPrints) {
     big->write("123456789012345");
     ASSERT_TRUE(waitForJobs(1));
     EXPECT_FALSE(ended_[0].remark.isEmpty());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return big->state() == QAbstractSocket::UnconnectedState; },
-                                kLimit));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return big->state() == QAbstractSocket::UnconnectedState; }, kLimit));
     send("\r\nx");
     ASSERT_TRUE(waitForJobs(2));
     EXPECT_EQ(text(), "1234567890\nx\n");

@@ -50,8 +50,7 @@ const test::Word* nearest(const std::vector<test::Word>& words, const Expected& 
     const test::Word* found = nullptr;
     double least = 1e9;
     for (const test::Word& word : words) {
-        const double off =
-            std::hypot(word.left - wanted.left, word.top - rise - wanted.top);
+        const double off = std::hypot(word.left - wanted.left, word.top - rise - wanted.top);
         if (word.text == wanted.text && off < least) {
             least = off;
             found = &word;

@@ -102,7 +102,8 @@ TEST_F(Overlay, APictureCoversTheSheetFromEdgeToEdge) {
 }
 
 TEST_F(Overlay, WhatCannotBeLoadedIsTold) {
-    EXPECT_TRUE(refusal(file("nada.txt")).startsWith(QStringLiteral("não há formulário nem arquivo")));
+    EXPECT_TRUE(
+        refusal(file("nada.txt")).startsWith(QStringLiteral("não há formulário nem arquivo")));
     EXPECT_TRUE(refusal(written("a.txt", "caixa\n"))
                     .contains(QStringLiteral("tem um erro na linha 1: \"caixa\" pede")));
     EXPECT_TRUE(refusal(written("b.txt", "figura nada.png\n"))
@@ -125,7 +126,9 @@ double leftOf(const std::vector<test::Word>& words, const char* text) {
 TEST_F(Overlay, TheRulerCountsInThePrintedPitch) {
     PaintOptions options;
     options.ruler = true;
-    rig_.job("\x0F" "condensado\r\n");
+    rig_.job(
+        "\x0F"
+        "condensado\r\n");
     ASSERT_FALSE(writePdf(pagesOf(rig_.paper), options, file("r.pdf")));
     const auto words = test::wordsIn(file("r.pdf"));
     EXPECT_NEAR(leftOf(words, "110"), 36 + 109.5 * 4.2 + 0.5, 0.6);
@@ -138,7 +141,9 @@ TEST_F(Overlay, TheRulerCountsInThePrintedPitch) {
 TEST_F(Overlay, TheRulerCountsLinesAndChangesWithThePitch) {
     PaintOptions options;
     options.ruler = true;
-    rig_.job("normal\r\n\r\n\r\n\x0F" "condensado\r\n");
+    rig_.job(
+        "normal\r\n\r\n\r\n\x0F"
+        "condensado\r\n");
     ASSERT_FALSE(writePdf(pagesOf(rig_.paper), options, file("r.pdf")));
     const auto words = test::wordsIn(file("r.pdf"));
     std::vector<double> thirties;

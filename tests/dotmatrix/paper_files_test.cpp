@@ -173,8 +173,9 @@ TEST_F(PaperFiles, FailureToWriteIsTold) {
     PrinterRig rig;
     rig.job("x");
     const QString nowhere = file("missing/folder/x");
-    for (const auto& failure : {writePdf(pagesOf(rig.paper), {}, nowhere), writePng(pagesOf(rig.paper), {}, nowhere),
-                                writeText(pagesOf(rig.paper), nowhere)}) {
+    for (const auto& failure :
+         {writePdf(pagesOf(rig.paper), {}, nowhere), writePng(pagesOf(rig.paper), {}, nowhere),
+          writeText(pagesOf(rig.paper), nowhere)}) {
         ASSERT_TRUE(failure);
         EXPECT_FALSE(failure->isEmpty());
     }

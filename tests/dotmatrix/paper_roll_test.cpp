@@ -141,7 +141,9 @@ TEST(PaperRoll, AnotherPanelPrintsAllJobsAgain) {
 TEST(PaperRoll, TornOffPaperIsGoneAndThePrinterStaysAsItIs) {
     PaperRoll roll({});
     roll.startJob("a");
-    roll.feed("\x0F" "primeiro");
+    roll.feed(
+        "\x0F"
+        "primeiro");
     roll.tearOff(false);
     EXPECT_EQ(roll.forms().size(), 1U);
     EXPECT_TRUE(roll.jobs().empty());

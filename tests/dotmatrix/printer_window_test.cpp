@@ -61,6 +61,10 @@ protected:
         QWidget* target = window_.focusWidget() != nullptr ? window_.focusWidget() : &window_;
         QTest::keyClick(target, key, with);
     }
+    bool inSight(PaperUnits y) {
+        const auto height = view_.viewport()->height() * kUnitsPerInch / 96;
+        return y >= view_.topY() && y + 360 <= view_.topY() + height;
+    }
     int scrolled() { return view_.verticalScrollBar()->value(); }
     QString file(const char* name) const { return folder_.filePath(QLatin1StringView(name)); }
     QString complaint() {
@@ -98,13 +102,16 @@ protected:
     std::function<bool(QPrinter&)> print_ = [](QPrinter&) { return false; };
 };
 
-TEST_F(Window, ThePaperGrowsAndItsEndStaysInSight) {
+TEST_F(Window, TheViewFollowsThePrintUntilOneLooksElsewhere) {
     job("um\r\n");
     EXPECT_EQ(label("contagem"), QStringLiteral("1 trabalho(s), 1 formulário(s)  ·  100%"));
-    view_.verticalScrollBar()->setValue(view_.verticalScrollBar()->maximum());
+    EXPECT_EQ(scrolled(), 0);
     job("\f\f\fdois\r\n");
     EXPECT_EQ(label("contagem"), QStringLiteral("2 trabalho(s), 4 formulário(s)  ·  100%"));
-    EXPECT_EQ(scrolled(), view_.verticalScrollBar()->maximum());
+    EXPECT_TRUE(inSight(3 * 11 * kUnitsPerInch + 360));
+    // A job that begins where one sees it is shown from the top of its form.
+    job("x\r\ny");
+    EXPECT_EQ(scrolled(), 3 * 66);
     // Who looks further up is left in peace.
     press(Qt::Key_Home);
     EXPECT_EQ(scrolled(), 0);
@@ -112,6 +119,8 @@ TEST_F(Window, ThePaperGrowsAndItsEndStaysInSight) {
     EXPECT_EQ(scrolled(), 0);
     press(Qt::Key_End);
     EXPECT_EQ(scrolled(), view_.verticalScrollBar()->maximum());
+    job("\fquatro");
+    EXPECT_TRUE(inSight(roll_.headY()));
 }
 
 TEST_F(Window, ZoomByKeysAndWheel) {
@@ -178,8 +187,9 @@ TEST_F(Window, ARegionMarkedWithTheMouseIsCopiedAsText) {
     QTest::mousePress(view_.viewport(), Qt::LeftButton, {}, at(0.95, 0.01));
     QTest::mouseMove(view_.viewport(), at(2.0, 0.3));
     QTest::mouseRelease(view_.viewport(), Qt::LeftButton, {}, at(2.72, 0.49));
-    QMouseEvent drag(QEvent::MouseMove, at(2.72, 0.49), view_.viewport()->mapToGlobal(at(2.72, 0.49)),
-                     Qt::NoButton, Qt::LeftButton, {});
+    QMouseEvent drag(QEvent::MouseMove, at(2.72, 0.49),
+                     view_.viewport()->mapToGlobal(at(2.72, 0.49)), Qt::NoButton, Qt::LeftButton,
+                     {});
     QApplication::sendEvent(view_.viewport(), &drag);
     EXPECT_TRUE(named<QAction>(window_, "copiar").isEnabled());
     press(Qt::Key_C, Qt::ControlModifier);
@@ -353,7 +363,8 @@ TEST_F(Window, TheLogTellsWhatWasNotPrintedAndHowJobsEnded) {
 }
 
 TEST_F(Window, TheStatusBarTellsLineAndColumnUnderTheMouse) {
-    job("\x0F" "abcdefghij klm\r\n");
+    job("\x0F"
+        "abcdefghij klm\r\n");
     press(Qt::Key_Home);
     const double cell = 126.0 / 2160;
     QMouseEvent move(QEvent::MouseMove, at(11.5 * cell, 0.08),
@@ -361,8 +372,9 @@ TEST_F(Window, TheStatusBarTellsLineAndColumnUnderTheMouse) {
                      Qt::NoButton, {});
     QApplication::sendEvent(view_.viewport(), &move);
     EXPECT_EQ(label("posicao"), QStringLiteral("formulário 1, linha 1, coluna 12"));
-    QMouseEvent below(QEvent::MouseMove, at(2.05, 1.05), view_.viewport()->mapToGlobal(at(2.05, 1.05)),
-                      Qt::NoButton, Qt::NoButton, {});
+    QMouseEvent below(QEvent::MouseMove, at(2.05, 1.05),
+                      view_.viewport()->mapToGlobal(at(2.05, 1.05)), Qt::NoButton, Qt::NoButton,
+                      {});
     QApplication::sendEvent(view_.viewport(), &below);
     EXPECT_EQ(label("posicao"), QStringLiteral("formulário 1, linha 7, coluna 21"));
 }

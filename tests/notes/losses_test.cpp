@@ -57,8 +57,7 @@ TEST(Losses, ANoteThatFitsLosesNothing) {
 TEST(Losses, ATextTooLongForItsBox) {
     NoteText note = sampleNote();
     note.head["RAZAO"] = std::string(82, 'R') + " LTDA ÇÃO";
-    EXPECT_EQ(toldOf(1361, note),
-              Told{"linha 10, coluna 2, RAZAO: não cabe; perde \" LTDA ÇÃO\""});
+    EXPECT_EQ(toldOf(1361, note), Told{"linha 10, coluna 2, RAZAO: não cabe; perde \" LTDA ÇÃO\""});
     note.head["RAZAO"] = std::string(82, 'R') + "    ";  // blanks are no loss
     EXPECT_EQ(toldOf(1361, note), Told());
 }
@@ -88,8 +87,7 @@ TEST(Losses, DecimalsThatAreZeroAreNoLoss) {
 TEST(Losses, ParcelsAreNamedByTheirNumber) {
     NoteText note = sampleNote();
     note.head["DT_VNC_DOC2"] = "07/03/20099";
-    EXPECT_EQ(toldOf(1361, note),
-              Told{"linha 17, coluna 86, DT_VNC_DOC2: não cabe; perde \"9\""});
+    EXPECT_EQ(toldOf(1361, note), Told{"linha 17, coluna 86, DT_VNC_DOC2: não cabe; perde \"9\""});
 }
 
 TEST(Losses, TooManyParcels) {
@@ -184,7 +182,8 @@ TEST(Losses, LegalTextPastItsPieces) {
 // Characters 249 to 310 never print on this form.
 TEST(Losses, AHoleBetweenThePieces) {
     const std::string hole = std::string(62, 'h');
-    const Told told = toldOf(2161, withLegal(std::string(248, 'x') + hole + std::string(62, 'y')), 3383);
+    const Told told =
+        toldOf(2161, withLegal(std::string(248, 'x') + hole + std::string(62, 'y')), 3383);
     ASSERT_EQ(told.size(), 1U);
     EXPECT_NE(told[0].find("perde \"" + hole + "\""), std::string::npos) << told[0];
 }

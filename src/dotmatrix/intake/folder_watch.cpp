@@ -11,11 +11,10 @@ namespace {
 
 constexpr std::chrono::milliseconds kBetweenLooks(250);
 constexpr int kQuietLooks = 2;
-constexpr qint64 kReadAtOnce = 256 * 1024;
+constexpr qint64 kReadAtOnce = 256LL * 1024;
 
-QStringList jobsIn(QDir folder) {
-    folder.refresh();
-    QStringList names = folder.entryList({QStringLiteral("*.prn")}, QDir::Files);
+QStringList jobsIn(const QDir& folder) {
+    QStringList names = QDir(folder.path()).entryList({QStringLiteral("*.prn")}, QDir::Files);
     std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
         // job-999 before job-1000
         return a.size() != b.size() && a.startsWith(u"job-") && b.startsWith(u"job-")
@@ -32,8 +31,11 @@ FolderWatch::FolderWatch(JobIntake& intake, const QString& folder)
     watcher_.addPath(folder);
     connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, &FolderWatch::look);
     connect(&timer_, &QTimer::timeout, this, &FolderWatch::look);
+    connect(&soon_, &QTimer::timeout, this, &FolderWatch::look);
+    soon_.setSingleShot(true);
+    soon_.setInterval(0);
+    soon_.start();
     timer_.start(kBetweenLooks);
-    QTimer::singleShot(0, this, &FolderWatch::look);
 }
 
 bool FolderWatch::hasNews(const QString& name) const {
@@ -92,13 +94,14 @@ void FolderWatch::readOn(const QString& name, Seen& seen) {
     seen.taken += piece.size();
     if (piece.isEmpty() || !intake_.take(piece)) {
         if (piece.isEmpty()) {
-            intake_.end(QStringLiteral("não foi possível ler o arquivo (%1).").arg(file.errorString()));
+            intake_.end(
+                QStringLiteral("não foi possível ler o arquivo (%1).").arg(file.errorString()));
         }
         open_.clear();
         seen.taken = file.size();
         seen.done = true;
     }
-    QMetaObject::invokeMethod(this, &FolderWatch::look, Qt::QueuedConnection);
+    soon_.start();
 }
 
 // A file may still grow while no other waits.

@@ -39,8 +39,9 @@ private:
     QDir folder_;
     QFileSystemWatcher watcher_;
     QTimer timer_;
+    QTimer soon_;  // there is more to read
     QMap<QString, Seen> seen_;
-    QString open_;  // the file whose job is being taken; empty for none
+    QString open_;   // the file whose job is being taken; empty for none
     int quiet_ = 0;  // looks since it last grew
 };
 

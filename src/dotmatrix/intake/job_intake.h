@@ -14,7 +14,7 @@ class JobIntake : public QObject {
     Q_OBJECT
 
 public:
-    static constexpr qint64 kMostJobBytes = 64 * 1024 * 1024;
+    static constexpr qint64 kMostJobBytes = 64LL * 1024 * 1024;
 
     // `roll` must outlive this.
     explicit JobIntake(PaperRoll& roll, qint64 mostJobBytes = kMostJobBytes);

@@ -8,7 +8,7 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr qint64 kReadAtOnce = 256 * 1024;
+constexpr qint64 kReadAtOnce = 256LL * 1024;
 constexpr std::chrono::seconds kPatience(60);
 
 QString nameOf(const QTcpSocket& socket) {

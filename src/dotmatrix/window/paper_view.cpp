@@ -31,6 +31,9 @@ PaperView::PaperView(PaperRoll& roll, QWidget* parent)
     setAccessibleName(QStringLiteral("Papel da impressora"));
     viewport()->setMouseTracking(true);
     viewport()->setCursor(Qt::CrossCursor);
+    connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, [this] {
+        following_ = verticalScrollBar()->sliderPosition() == verticalScrollBar()->maximum();
+    });
     setOptions({});
 }
 
@@ -75,19 +78,28 @@ std::size_t PaperView::presentForm() const {
 }
 
 void PaperView::refresh() {
-    const bool atEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
     const Sheet sheet = sheetFor(roll_.contentWidth(), options_);
     if (sheet.width != painter_.sheet().width) {
         painter_ = PaperPainter(sheet, options_);
     }
     setRanges();
-    if (atEnd) {
-        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    if (following_) {
+        follow();
     }
     viewport()->update();
 }
 
+void PaperView::follow() {
+    const auto height = static_cast<PaperUnits>(viewport()->height() / scale());
+    const auto& jobs = roll_.jobs();
+    const PaperUnits head = roll_.headY() + 2 * kLine;
+    const PaperUnits begin = jobs.empty() ? 0 : roll_.forms().at(jobs.back().form).top;
+    const PaperUnits top = std::max(begin, head - height);
+    verticalScrollBar()->setValue(static_cast<int>((top + kLine - 1) / kLine));
+}
+
 void PaperView::showTop(PaperUnits y) {
+    following_ = false;
     verticalScrollBar()->setValue(static_cast<int>(y / kLine));
 }
 
@@ -105,11 +117,9 @@ void PaperView::reveal(const PaperRegion& region) {
 
 void PaperView::setZoom(double zoom) {
     const PaperUnits top = topY();
-    const bool atEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum() && top > 0;
     zoom_ = std::clamp(zoom, kLeastZoom, kMostZoom);
     setRanges();
-    verticalScrollBar()->setValue(atEnd ? verticalScrollBar()->maximum()
-                                        : static_cast<int>(top / kLine));
+    verticalScrollBar()->setValue(static_cast<int>(top / kLine));
     viewport()->update();
     emit zoomed();
 }
@@ -130,8 +140,7 @@ void PaperView::mark(const std::optional<PaperRegion>& found) {
 }
 
 PaperView::Point PaperView::pointAt(const QPointF& pixel) const {
-    return {static_cast<PaperUnits>((pixel.x() - leftEdge()) / scale()) -
-                stripOf(painter_.sheet()),
+    return {static_cast<PaperUnits>((pixel.x() - leftEdge()) / scale()) - stripOf(painter_.sheet()),
             topY() + static_cast<PaperUnits>(pixel.y() / scale())};
 }
 
@@ -234,10 +243,10 @@ void PaperView::keyPressEvent(QKeyEvent* event) {
     QScrollBar& bar = *verticalScrollBar();
     switch (event->key()) {
         case Qt::Key_Home:
-            bar.setValue(bar.minimum());
+            bar.triggerAction(QAbstractSlider::SliderToMinimum);
             break;
         case Qt::Key_End:
-            bar.setValue(bar.maximum());
+            bar.triggerAction(QAbstractSlider::SliderToMaximum);
             break;
         case Qt::Key_Escape:
             select(std::nullopt);

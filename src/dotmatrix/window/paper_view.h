@@ -32,7 +32,8 @@ public:
     void setZoom(double zoom);
     void fitWidth();
 
-    // The roll has changed; a view that showed its end goes on showing it.
+    // The roll has changed. Until the user looks elsewhere the view follows the print:
+    // the last job from its beginning, or its end where it is longer than the window.
     void refresh();
     void showTop(PaperUnits y);
     // Scrolls only if it isn't in sight.
@@ -66,6 +67,7 @@ private:
     double scale() const;  // pixels for each unit
     double leftEdge() const;
     void setRanges();
+    void follow();
     Point pointAt(const QPointF& pixel) const;
     QRectF pixelsOf(const PaperRegion& region) const;
     PaperSpot spotAt(const Point& point);
@@ -74,6 +76,7 @@ private:
     PaintOptions options_;
     PaperPainter painter_;
     double zoom_ = 1.0;
+    bool following_ = true;
     std::optional<PaperRegion> selection_;
     std::optional<PaperRegion> found_;
     Point pressed_;
