@@ -169,7 +169,15 @@ void Database::insert(std::string_view table, std::string_view columns,
     }
     auto pending = std::ranges::find(pending_, head, &Pending::head);
     if (pending == pending_.end()) {
-        pending = pending_.insert(pending, {head, values.size(), {}});
+        pending = pending_.insert(pending, {head, values.size(), {}, std::nullopt});
+    }
+    if (!server_) {
+        if (!pending->oneRow) {
+            pending->oneRow = prepared(head + placeholders(values.size()));
+        }
+        execute(*pending->oneRow, values);
+        pending->oneRow->finish();
+        return;
     }
     pending->values.insert(pending->values.end(), values.begin(), values.end());
     if (++pendingRows_ >= kRowsAtOnce) {

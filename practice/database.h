@@ -93,6 +93,7 @@ private:
         std::string head;  // of the statement, up to VALUES
         std::size_t width = 0;
         std::vector<Bind> values;
+        std::optional<QSqlQuery> oneRow;  // of a file, prepared once
     };
     QSqlQuery prepared(std::string_view sql);
     static void execute(QSqlQuery& query, const std::vector<Bind>& binds);
@@ -107,8 +108,9 @@ private:
     std::vector<Pending> pending_;  // in the order in which the tables were first named
 };
 
-// While it lives rows are kept and inserted by the hundred, table by table in the
-// order in which the tables were first named; what isn't finished is dropped.
+// Many rows one after the other. A file takes each at once through a statement that
+// is kept; a server gets them by the hundred, table by table in the order in which
+// the tables were first named, and what isn't finished is dropped.
 class InsertBatch {
 public:
     explicit InsertBatch(Database& database);

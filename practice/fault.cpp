@@ -65,7 +65,7 @@ std::string wronglyEncoded(std::string body) {
     return body + "<!-- \xE7 -->";
 }
 
-std::string withoutDeclaration(std::string body) {
+std::string withoutDeclaration(const std::string& body) {
     const std::size_t end = body.find("?>");
     const std::size_t root = body.find('<', end == std::string::npos ? 0 : end);
     return body.substr(root);

@@ -36,6 +36,9 @@ void prepare(Database& database, const PracticeOptions& options) {
             InsertBatch batch(database);
             insertPracticeData(database, options.seed, todayOf(options));
             batch.finish();
+            if (database.isServer()) {
+                database.execute("ANALYZE");  // its plans follow from what the tables hold
+            }
             transaction.commit();
         }
     } catch (const DatabaseError& error) {

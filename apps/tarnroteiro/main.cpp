@@ -7,6 +7,7 @@
 
 #include "gestos.h"
 #include "mesa.h"
+#include "retrato_impressora.h"
 #include "roteiro_cheque.h"
 #include "roteiro_cobranca.h"
 #include "roteiro_etiquetas.h"
@@ -94,16 +95,20 @@ int main(int argc, char** argv) {
     tarn::Entrada entrada;
     CLI::App app("Percorre o trabalho principal nas telas reais e guarda as imagens e o papel.",
                  "tarnroteiro");
-    app.add_option("--servidor", entrada.servidor, "endereço do servidor de treino")->required();
+    app.add_option("--servidor", entrada.servidor, "endereço do servidor de treino");
     app.add_option("--saida", entrada.pasta, "pasta das imagens e do papel")->required();
     app.add_option("--empresa", entrada.empresa, "empresa do logon de treino");
     app.add_option("--usuario", entrada.usuario, "usuário do logon de treino");
     app.add_option("--senha", entrada.senha, "senha do logon de treino");
     std::string nome = "dia";
     app.add_option("--roteiro", nome,
-                   "dia (usual), recusa (de quem não pode emitir) ou selecao (de etiquetas)")
-        ->check(CLI::IsMember({"dia", "recusa", "selecao"}));
+                   "dia (usual), recusa (de quem não pode emitir), selecao (de etiquetas) ou "
+                   "impressora (a janela da impressora virtual com a nota que já está na pasta)")
+        ->check(CLI::IsMember({"dia", "recusa", "selecao", "impressora"}));
     CLI11_PARSE(app, argc, argv);
     tarn::DeskApplication programa(argc, argv);
+    if (nome == "impressora") {
+        return tarn::retrataImpressora(entrada.pasta) ? 0 : 1;
+    }
     return tarn::anda(programa, entrada, nome);
 }

@@ -62,7 +62,7 @@ void escreveEmissao(Roteiro& roteiro) {
         .quando("frmManutDetOFT", "manutencao",
                 [&](QWidget& dialogo) {
                     digita(dialogo, "txtQtde", "12");
-                    digita(dialogo, "txtPesoBruto", "150,5");
+                    digita(dialogo, "txtPesoBruto", "350,5");
                     roteiro.fotografa(dialogo, "manutencao-preenchida");
                     clica(dialogo, "cmdOk");
                 })

@@ -5,57 +5,15 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include "platform/curl/curl_loader.h"
+#include "programs.h"
 #include "session/commands.h"
 #include "session/xml_document.h"
 
 namespace tarn {
 namespace {
-
-constexpr int patienceMs = 120000;  // for a slow machine under sanitizers
-
-std::string contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
-}
-
-// Runs a program to its end; its exit status, or -1 when it didn't end by itself.
-int run(const char* program, const QStringList& arguments) {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("QT_QPA_PLATFORM", "offscreen");
-    process.setProcessEnvironment(environment);
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(program, arguments);
-    const bool ended = process.waitForFinished(patienceMs);
-    return ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-}
-
-// The practice server's program; every one starts with the same data.
-class Server {
-public:
-    void start() {
-        process_.start(TARNSERVIDOR,
-                       {"--porta", "0", "--banco", ":memory:", "--hoje", "05/09/2012"});
-        while (!process_.canReadLine() && process_.waitForReadyRead(patienceMs)) {
-        }
-        const QString line = QString::fromUtf8(process_.readLine()).trimmed();
-        ASSERT_TRUE(line.startsWith("Servindo em ")) << line.toStdString();
-        address_ = line.mid(12);
-    }
-    void stop() {
-        process_.terminate();
-        EXPECT_TRUE(process_.waitForFinished(patienceMs));
-    }
-    const QString& address() const { return address_; }
-
-private:
-    QProcess process_;
-    QString address_;
-};
 
 class MainJob : public testing::Test {
 protected:
@@ -106,9 +64,10 @@ TEST_F(MainJob, AnOrderBecomesANoteOnPaper) {
     EXPECT_THAT(after, testing::Not(testing::Contains("45006")));
     EXPECT_THAT(after, testing::IsSupersetOf({"45007", "45008"}));
 
-    // One note, twice: its set-up job and its own.
-    EXPECT_EQ(contentOf(inFolder("job-001.prn")), " \x0F");
-    const std::string note = contentOf(inFolder("job-002.prn"));
+    // The order's sheet; then one note, twice: its set-up job and its own.
+    EXPECT_THAT(contentOf(inFolder("job-001.prn")), testing::HasSubstr("CTRL 000871-A"));
+    EXPECT_EQ(contentOf(inFolder("job-002.prn")), " \x0F");
+    const std::string note = contentOf(inFolder("job-003.prn"));
     ASSERT_GT(note.size(), 130U);
     EXPECT_EQ(note[89], 'X');  // column 90: an exit note
     const std::string number = note.substr(124, 6);
@@ -120,9 +79,8 @@ TEST_F(MainJob, AnOrderBecomesANoteOnPaper) {
         end += "\r\n";
     }
     EXPECT_THAT(note, testing::EndsWith(end));
-    EXPECT_EQ(contentOf(inFolder("job-003.prn")), " \x0F");
-    EXPECT_EQ(contentOf(inFolder("job-004.prn")), note);
-    EXPECT_FALSE(QFile::exists(inFolder("job-005.prn")));
+    EXPECT_EQ(contentOf(inFolder("job-004.prn")), " \x0F");
+    EXPECT_EQ(contentOf(inFolder("job-005.prn")), note);
 
     // It was cancelled in the end: the server has it no more.
     EXPECT_EQ(
@@ -132,9 +90,9 @@ TEST_F(MainJob, AnOrderBecomesANoteOnPaper) {
     // A picture of each step, and the paper.
     const QStringList pictures =
         QDir(folder_.path()).entryList({"passo-*.png"}, QDir::Files, QDir::Name);
-    EXPECT_EQ(pictures.size(), 18);
-    ASSERT_EQ(run(TARNIMPRESSORA, {"--pdf", inFolder("nota.pdf"), inFolder("job-001.prn"),
-                                   inFolder("job-002.prn")}),
+    EXPECT_EQ(pictures.size(), 34);
+    ASSERT_EQ(run(TARNIMPRESSORA, {"--pdf", inFolder("nota.pdf"), inFolder("job-002.prn"),
+                                   inFolder("job-003.prn")}),
               0);
     EXPECT_THAT(contentOf(inFolder("nota.pdf")), testing::StartsWith("%PDF-"));
 }
@@ -158,8 +116,8 @@ TEST_F(MainJob, TheProgramWithoutWindowsPrintsTheSameBytes) {
                                 "--numero", QString::fromStdString(number), "--destino",
                                 inFolder("de-novo"), saved.fileName()}),
               0);
-    EXPECT_EQ(contentOf(inFolder("de-novo/job-002.prn")), contentOf(inFolder("job-002.prn")));
-    EXPECT_GT(contentOf(inFolder("job-002.prn")).size(), 130U);
+    EXPECT_EQ(contentOf(inFolder("de-novo/job-002.prn")), contentOf(inFolder("job-003.prn")));
+    EXPECT_GT(contentOf(inFolder("job-003.prn")).size(), 130U);
 }
 
 TEST_F(MainJob, AWrongPasswordEndsTheWalkWithAWord) {

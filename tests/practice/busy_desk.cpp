@@ -165,7 +165,7 @@ void BusyDesk::numberSlip() {
                                                         .documento = number,
                                                         .numeroBancario = slip}))) {
             const std::lock_guard lock(done_.mutex);
-            done_.slips[kind + ' ' + number] = slip;
+            done_.slips[std::string(kind).append(" ").append(number)] = slip;
         }
         return;
     }

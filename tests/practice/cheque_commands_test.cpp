@@ -13,7 +13,7 @@ struct Typed {
     std::string value = "1.234,56";
     std::string payee = "JO%C3O";
     std::string day = "05/09/2012";
-    std::string purpose = "";
+    std::string purpose = {};
     std::string account = "1300221-7";
 };
 

@@ -135,35 +135,6 @@ TEST_F(PracticeFile, AStatementThatFailsUndoesItsTransaction) {
     EXPECT_EQ(rows.integer(0), 0);
 }
 
-TEST_F(PracticeFile, ABatchInsertsWhatItsTablesReferToFirst) {
-    constexpr int kRows = 1000;
-    Database database(file());
-    database.execute("CREATE TABLE t (id BIGINT NOT NULL PRIMARY KEY)");
-    database.execute("CREATE TABLE u (t_id BIGINT NOT NULL REFERENCES t (id), text VARCHAR(5))");
-    const auto rows = [&database](const char* table) {
-        Rows count = database.select(std::string("SELECT COUNT(*) FROM ") + table);
-        return count.next() ? count.integer(0) : -1;
-    };
-    {
-        InsertBatch batch(database);
-        for (int i = 0; i < kRows; ++i) {
-            database.insert("t", "id", {i});
-            database.insert("u", "t_id, text", {i, nullptr});
-            database.insert("u", "t_id, text", {i, ""});
-        }
-        batch.finish();
-    }
-    EXPECT_EQ(rows("t"), kRows);
-    EXPECT_EQ(rows("u WHERE text IS NULL"), kRows);
-    EXPECT_EQ(rows("u WHERE text = ''"), kRows);
-    {
-        InsertBatch dropped(database);
-        database.insert("t", "id", {kRows});
-    }
-    database.insert("t", "id", {kRows});
-    EXPECT_EQ(rows("t"), kRows + 1);
-}
-
 TEST_F(PracticeFile, TellsTheEmptyTextFromNull) {
     Database database(file());
     database.execute("CREATE TABLE t (a VARCHAR(5), b VARCHAR(5), d DATE)");

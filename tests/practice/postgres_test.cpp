@@ -104,11 +104,42 @@ TEST(Postgres, OfAnotherVersionOrProgramIsRefused) {
     EXPECT_NE(errorOf(other).find("não é um banco do servidor de prática"), std::string::npos);
 }
 
+TEST(Postgres, ABatchInsertsWhatItsTablesReferToFirst) {
+    constexpr int kRows = 1000;
+    PrivatePostgres postgres;
+    Database database(postgres.newDatabase());
+    database.execute("CREATE TABLE t (id BIGINT NOT NULL PRIMARY KEY)");
+    database.execute("CREATE TABLE u (t_id BIGINT NOT NULL REFERENCES t (id), text VARCHAR(5))");
+    const auto rows = [&database](const char* table) {
+        Rows count = database.select(std::string("SELECT COUNT(*) FROM ") + table);
+        return count.next() ? count.integer(0) : -1;
+    };
+    {
+        InsertBatch batch(database);
+        for (int i = 0; i < kRows; ++i) {
+            database.insert("t", "id", {i});
+            database.insert("u", "t_id, text", {i, nullptr});
+            database.insert("u", "t_id, text", {i, ""});
+        }
+        batch.finish();
+    }
+    EXPECT_EQ(rows("t"), kRows);
+    EXPECT_EQ(rows("u WHERE text IS NULL"), kRows);
+    EXPECT_EQ(rows("u WHERE text = ''"), kRows);
+    {
+        InsertBatch dropped(database);
+        database.insert("t", "id", {kRows});
+    }
+    database.insert("t", "id", {kRows});
+    EXPECT_EQ(rows("t"), kRows + 1);
+}
+
 TEST(Postgres, TwoServersMakeOneDatabaseOnce) {
     PrivatePostgres postgres;
     const std::string address = postgres.newDatabase();
     std::vector<std::string> errors(2);
     std::vector<std::thread> threads;
+    threads.reserve(errors.size());
     for (std::string& error : errors) {
         threads.emplace_back([&error, &address] { error = errorOf(address); });
     }

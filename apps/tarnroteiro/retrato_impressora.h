@@ -1,0 +1,13 @@
+// A picture of the virtual printer's window with jobs on its paper.
+#pragma once
+
+#include <string>
+
+namespace tarn {
+
+// The note of the walk (job-002.prn and job-003.prn of the folder) on its form, saved as
+// impressora-virtual.png in the same folder. False, with a word on stderr, when a job or
+// the form can't be read. Needs a QApplication.
+bool retrataImpressora(const std::string& pasta);
+
+}  // namespace tarn

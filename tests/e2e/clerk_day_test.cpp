@@ -1,0 +1,193 @@
+// A clerk's day with the programs themselves: what it leaves in the server's database and
+// on paper, row by row and job by job.
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "programs.h"
+
+namespace tarn {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+using Rows = std::vector<std::string>;  // sorted; values parted by "|"
+using Tables = std::map<std::string, Rows>;
+
+// Reads a database file that nobody writes any more.
+class Ledger {
+public:
+    explicit Ledger(const QString& file)
+        : database_(QSqlDatabase::addDatabase("QSQLITE", "ledger")) {
+        database_.setDatabaseName(file);
+        database_.setConnectOptions("QSQLITE_OPEN_READONLY");
+        EXPECT_TRUE(database_.open()) << database_.lastError().text().toStdString();
+    }
+    ~Ledger() {
+        database_.close();
+        database_ = {};
+        QSqlDatabase::removeDatabase("ledger");
+    }
+    Ledger(const Ledger&) = delete;
+    Ledger& operator=(const Ledger&) = delete;
+
+    Rows rows(const QString& sql) const {
+        QSqlQuery query(database_);
+        EXPECT_TRUE(query.exec(sql)) << query.lastError().text().toStdString();
+        Rows all;
+        while (query.next()) {
+            QStringList values;
+            for (int i = 0; i < query.record().count(); ++i) {
+                values += query.value(i).toString();
+            }
+            all.push_back(values.join('|').toStdString());
+        }
+        std::ranges::sort(all);
+        return all;
+    }
+    Tables everything() const {
+        Tables all;
+        for (const QString& table : database_.tables()) {
+            all[table.toStdString()] = rows("SELECT * FROM " + table);
+        }
+        return all;
+    }
+
+private:
+    QSqlDatabase database_;
+};
+
+Rows without(const Rows& rows, const Rows& others) {
+    Rows left;
+    std::ranges::set_difference(rows, others, std::back_inserter(left));
+    return left;
+}
+
+class ClerkDay : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(folder_.isValid());
+        ASSERT_NO_FATAL_FAILURE(server_.start(database()));
+        before_ = Ledger(database()).everything();
+        ASSERT_FALSE(before_.empty());
+    }
+    QString database() const { return folder_.filePath("empresa.sqlite"); }
+    int walk(const QStringList& more) {
+        return run(TARNROTEIRO,
+                   QStringList{"--servidor", server_.address(), "--saida", folder_.path()} + more);
+    }
+    std::string paper(const char* name) const { return contentOf(folder_.filePath(name)); }
+    // The names of the tables that differ from what they were.
+    std::vector<std::string> changed(const Tables& now) const {
+        std::vector<std::string> names;
+        for (const auto& [name, rows] : now) {
+            if (rows != before_.at(name)) {
+                names.push_back(name);
+            }
+        }
+        return names;
+    }
+
+    QTemporaryDir folder_;
+    Server server_;
+    Tables before_;
+};
+
+TEST_F(ClerkDay, TheDatabaseHoldsWhatTheDayDidAndNothingElse) {
+    ASSERT_EQ(walk({"--roteiro", "recusa", "--usuario", "otavio"}), 0);
+    ASSERT_EQ(walk({}), 0);
+    server_.stop();
+
+    const std::string number = paper("job-003.prn").substr(124, 6);
+    const std::string trimmed = number.substr(number.find_first_not_of(" 0"));
+    const Ledger ledger(database());
+    const Tables now = ledger.everything();
+    EXPECT_THAT(changed(now), ElementsAre("billing_order", "cheque", "document", "label", "note",
+                                          "note_parcel", "series"));
+
+    // The order that was corrected, and the one whose note was cancelled for good.
+    EXPECT_EQ(without(now.at("billing_order"), before_.at("billing_order")).size(), 2U);
+    EXPECT_THAT(ledger.rows("SELECT packages, gross_weight, net_weight, state FROM billing_order"
+                            " WHERE id = 45001"),
+                ElementsAre("12000|350500|325400|A"));
+    EXPECT_THAT(ledger.rows("SELECT state FROM billing_order WHERE id = 45006"), ElementsAre("C"));
+
+    // One note, cancelled by whom issued it; its number won't be given again.
+    EXPECT_EQ(now.at("note").size(), before_.at("note").size() + 1);
+    EXPECT_THAT(ledger.rows("SELECT series_code, order_id, issued_by, cancelled, cancelled_by,"
+                            " cancel_reason_id FROM note WHERE number = " +
+                            QString::fromStdString(trimmed)),
+                ElementsAre("1|45006|101|1|101|2"));
+    EXPECT_EQ(without(now.at("series"), before_.at("series")).size(), 1U);
+    EXPECT_EQ(without(now.at("note_parcel"), before_.at("note_parcel")).size(), 1U);
+
+    // Two slips with the numbers of their paper.
+    EXPECT_EQ(without(now.at("document"), before_.at("document")).size(), 2U);
+    EXPECT_THAT(ledger.rows("SELECT slip_number, entered_by FROM document"
+                            " WHERE slip_number IS NOT NULL"),
+                ElementsAre("1234|101", "1235|101"));
+    EXPECT_THAT(paper("job-009.prn"), HasSubstr("NOSSO NUMERO: 0000000001234/"));
+    EXPECT_THAT(paper("job-011.prn"), HasSubstr("NOSSO NUMERO: 0000000001235/"));
+
+    EXPECT_THAT(ledger.rows("SELECT bank_id, agency, account, number, series, amount, payee,"
+                            " deposit_on, purpose, issued_by FROM cheque"),
+                ElementsAre("1016|1123|00912-0|1001|A1|123456|PAPELARIA TRÊS PONTES LTDA|"
+                            "2012-09-05|MATERIAL DE ESCRITÓRIO|101"));
+
+    // Three labels went, the rest of the reason stays.
+    EXPECT_THAT(without(now.at("label"), before_.at("label")), IsEmpty());
+    EXPECT_EQ(without(before_.at("label"), now.at("label")).size(), 3U);
+    EXPECT_THAT(ledger.rows("SELECT COUNT(*), MIN(sequence) FROM label WHERE company_id = 1361"
+                            " AND reason_id = 1"),
+                ElementsAre("597|4"));
+}
+
+TEST_F(ClerkDay, EveryPaperOfTheDayIsThere) {
+    ASSERT_EQ(walk({}), 0);
+    server_.stop();
+    const QStringList jobs = QDir(folder_.path()).entryList({"job-*"}, QDir::Files, QDir::Name);
+    EXPECT_EQ(jobs.join(' ').toStdString(),
+              "job-001.prn job-002.prn job-003.prn job-004.prn job-005.prn "  // sheet, note twice
+              "job-006.pdf job-007.pdf "                                      // bills, receipt
+              "job-008.prn job-009.prn job-010.prn job-011.prn "              // two slips
+              "job-012.prn "                                                  // cheque
+              "job-013.pdf job-014.prn job-015.prn");                         // labels
+    for (const char* drawn : {"job-006.pdf", "job-007.pdf", "job-013.pdf"}) {
+        EXPECT_THAT(paper(drawn), StartsWith("%PDF-")) << drawn;
+    }
+    EXPECT_EQ(paper("job-008.prn"), " \x0F\x1BM");
+    EXPECT_EQ(paper("job-010.prn"), " \x0F\x1BM");
+    EXPECT_EQ(paper("job-014.prn"), " \x0F\x1BM");
+    EXPECT_THAT(paper("job-012.prn"), StartsWith(" \x0F\x1B\x1BG"));
+    EXPECT_THAT(paper("job-012.prn"), HasSubstr("PAPELARIA TR\xCAS PONTES LTDA"));
+    EXPECT_THAT(paper("job-015.prn"), HasSubstr("PANIFICADORA E CONFEITARIA"));
+}
+
+TEST_F(ClerkDay, ARefusedRightLeavesNothing) {
+    ASSERT_EQ(walk({"--roteiro", "recusa", "--usuario", "otavio"}), 0);
+    server_.stop();
+    EXPECT_THAT(changed(Ledger(database()).everything()), IsEmpty());
+    EXPECT_THAT(QDir(folder_.path()).entryList({"job-*"}), IsEmpty());
+}
+
+TEST_F(ClerkDay, TheBulkSelectionPrintsItsLabelsAndChangesNothing) {
+    ASSERT_EQ(walk({"--roteiro", "selecao"}), 0);
+    server_.stop();
+    EXPECT_THAT(changed(Ledger(database()).everything()), IsEmpty());
+    EXPECT_THAT(paper("job-001.pdf"), StartsWith("%PDF-"));
+}
+
+}  // namespace
+}  // namespace tarn
