@@ -349,6 +349,38 @@ TEST_F(FrmPesqBoletoTest, FailedListsLoseWhatTheyHeldOnTheNextActivation) {
     });
 }
 
+TEST_F(FrmPesqBoletoTest, TheDeskIsActivatedOnceAlsoBehindTheCustomerDialog) {
+    comATela([&](QWidget& tela) {
+        escolheCliente(tela);
+        server.addresses.clear();
+    });
+    EXPECT_THAT(server.queries(), ElementsAre(pedeDaMesa));
+}
+
+TEST_F(FrmPesqBoletoTest, LongTextsAndMarkupAreShownAsTheyAre) {
+    const std::string longo = "<b>A&B</b> " + std::string(3000, 'W');
+    const std::string noXml = "&lt;b>A&amp;B&lt;/b> " + std::string(3000, 'W');
+    server.on("sel_carteira&ID_EMP_TARN=2161",
+              answers::rowset("<z:row DC_CRT_COB='" + noXml + "' ID_CRT_COB='5'/>"));
+    comATela([&](QWidget& tela) {
+        const QSize menor = tela.minimumSizeHint();
+        encontra(tela, "<z:row SG_FIL='" + noXml + "' NM_CLI_ETB='" + noXml + "'/>");
+        server.on("Sel_Cliente",
+                  answers::rowset("<z:row NM_PES_CPL='" + noXml + "' ID_PES_CLI='1'/>"));
+        modals.then("FrmPesqCliente", [](QWidget& dialogo) {
+            type(dialogo, "txtNmCli", "ana");
+            click(dialogo, "cmdPesquisar");
+            click(dialogo, "cmdSelecionar");
+        });
+        click(tela, "cmdPesqCli");
+        EXPECT_EQ(lista(tela, "cboCartCob").itemText(1).toStdString(), longo);
+        EXPECT_EQ(mostrado(tela, "txtCliente"), longo);
+        EXPECT_EQ(named<QLineEdit>(tela, "txtCliente").cursorPosition(), 0) << "its head shows";
+        EXPECT_EQ(grid::cell(grade(tela), 1, 6), longo);
+        EXPECT_EQ(tela.minimumSizeHint(), menor);
+    });
+}
+
 // A branch's short name has up to 12 characters.
 TEST_F(FrmPesqBoletoTest, TheWidestShortNameOfABranchIsReadWhole) {
     comATela([&](QWidget& tela) {
