@@ -23,7 +23,7 @@ constexpr char tag[] = "Tag";
 // The columns without a width are for the printing alone.
 constexpr std::array<ColunaGrade, colunasDuplicata> colunas{
     {{"", 0, TipoColuna::Caixa},
-     {"Filial", 10},
+     {"Filial", 17},
      {"Dt.de Vencimento", 21},
      {"Dt.de Emissão", 17},
      {"Nº do Documento", 20},
@@ -69,6 +69,8 @@ void FrmPesqDupli::preparaCampos() {
     QPalette paraLeitura = palette();
     paraLeitura.setColor(QPalette::Base, paraLeitura.color(QPalette::Window));
     ui_->txtCliente->setPalette(paraLeitura);
+    new FieldController(ui_->txtCliente, KeyFilter::None, desk_.ambiente,
+                        FieldController::EnterKey::TabOnly);
     for (QLineEdit* campo :
          {ui_->txtDtEmsDe, ui_->txtDtEmsAte, ui_->txtDtVncDe, ui_->txtDtVncAte}) {
         new DateField(campo, KeyFilter::NumeroVirgula, desk_.ambiente);
@@ -81,10 +83,12 @@ void FrmPesqDupli::preparaCampos() {
     }
 }
 
+// An access key brings the focus along, so that the date being typed is completed.
 void FrmPesqDupli::preparaBotoes() {
     const auto prepara = [this](QPushButton* botao, const char* desenho, auto rotina) {
         poeFigura(*botao, desenho);
         botao->setAutoDefault(false);
+        connect(botao, &QPushButton::pressed, botao, [botao] { botao->setFocus(); });
         connect(botao, &QPushButton::clicked, this, rotina);
     };
     prepara(ui_->cmdPesqCli, "pesquisar_cliente", &FrmPesqDupli::cmdPesqCli_Click);

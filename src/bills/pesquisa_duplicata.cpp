@@ -42,7 +42,7 @@ std::vector<ItemLista> tiposDeDocumento() {
 
 std::optional<RecusaDaPesquisa> recusaDaPesquisa(int posicaoDoTipo,
                                                  std::string_view vencimentoAte) {
-    if (posicaoDoTipo == 0) {
+    if (posicaoDoTipo <= 0) {
         return RecusaDaPesquisa{"Tipo de Documento Obrigatório.     ",
                                 CampoDaPesquisa::TipoDocumento};
     }

@@ -2,11 +2,10 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QRegularExpressionValidator>
 #include <utility>
 
+#include "common/enter_no_botao.h"
 #include "common/field_families.h"
-#include "platform/machine.h"
 #include "session/aparencia.h"
 #include "session/resposta.h"
 #include "ui_frm_cheque.h"
@@ -27,13 +26,6 @@ constexpr int esperaDoClique = 20;  // milliseconds between two looks at the mou
 
 bool ehEnter(const QKeyEvent& tecla) {
     return tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter;
-}
-
-// Keys are filtered one by one; a pasted text comes in as a whole or, with a beep, not
-// at all.
-void sohAceita(QLineEdit& campo, const QString& caracteres, Machine& maquina) {
-    campo.setValidator(new QRegularExpressionValidator(QRegularExpression(caracteres), &campo));
-    QObject::connect(&campo, &QLineEdit::inputRejected, &campo, [&maquina] { maquina.beep(); });
 }
 
 }  // namespace
@@ -66,8 +58,8 @@ void frmCheque::preparaCampos() {
                         FieldController::EnterKey::TabOnly);
     new DateField(ui_->txtDtDeposito, KeyFilter::NumeroInteiro, ambiente,
                   DateField::Test::Calendar);
-    sohAceita(*ui_->txtNumeroCheque, QStringLiteral("[0-9]*"), ambiente.machine);
-    sohAceita(*ui_->txtValor, QStringLiteral("[0-9.,]*"), ambiente.machine);
+    onlyTakes(*ui_->txtNumeroCheque, QStringLiteral("[0-9]*"), ambiente.machine);
+    onlyTakes(*ui_->txtValor, QStringLiteral("[0-9.,]*"), ambiente.machine);
     for (const FieldController* chave : {numero, serie}) {
         connect(chave, &FieldController::wasLeft, &espera_, [this] { espera_.start(0); });
     }
@@ -208,20 +200,17 @@ bool frmCheque::eventFilter(QObject* watched, QEvent* event) {
     return QDialog::eventFilter(watched, event);
 }
 
-// Enter presses a button that has the focus, but not when it is held down since the
-// field before: a cheque would come out.
 void frmCheque::keyPressEvent(QKeyEvent* event) {
-    if (!ehEnter(*event)) {
+    if (!enterNoBotao(*this, *event)) {
         QDialog::keyPressEvent(event);
-    } else if (auto* botao = qobject_cast<QPushButton*>(focusWidget());
-               botao != nullptr && !event->isAutoRepeat()) {
-        botao->click();
     }
 }
 
 void frmCheque::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    ui_->cboBancoAgConta->setFocus();
+    if (!event->spontaneous()) {
+        ui_->cboBancoAgConta->setFocus();
+    }
 }
 
 }  // namespace tarn

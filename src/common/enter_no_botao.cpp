@@ -10,7 +10,8 @@ bool enterNoBotao(const QDialog& dialogo, const QKeyEvent& tecla) {
     if (tecla.key() != Qt::Key_Return && tecla.key() != Qt::Key_Enter) {
         return false;
     }
-    if (auto* botao = qobject_cast<QPushButton*>(dialogo.focusWidget())) {
+    auto* botao = qobject_cast<QPushButton*>(dialogo.focusWidget());
+    if (botao != nullptr && !tecla.isAutoRepeat()) {
         botao->click();
     }
     return true;

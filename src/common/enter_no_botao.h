@@ -6,8 +6,9 @@ class QKeyEvent;
 
 namespace tarn {
 
-// Enter presses a button that has the focus and no other. False for any other key,
-// which is the dialog's own matter.
+// Enter presses a button that has the focus and no other, but not when it is held down
+// since a field or a box before. False for any other key, which is the dialog's own
+// matter.
 bool enterNoBotao(const QDialog& dialogo, const QKeyEvent& tecla);
 
 }  // namespace tarn

@@ -4,10 +4,12 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QRegularExpressionValidator>
 #include <algorithm>
 #include <utility>
 
 #include "platform/environment.h"
+#include "platform/machine.h"
 #include "platform/message_boxes.h"
 
 namespace tarn {
@@ -38,6 +40,11 @@ bool isPassing(Qt::FocusReason reason) {
 void sendTab(QWidget& widget) {
     QKeyEvent stroke(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier, QStringLiteral("\t"));
     QCoreApplication::sendEvent(&widget, &stroke);
+}
+
+void onlyTakes(QLineEdit& edit, const QString& pattern, Machine& machine) {
+    edit.setValidator(new QRegularExpressionValidator(QRegularExpression(pattern), &edit));
+    QObject::connect(&edit, &QLineEdit::inputRejected, &edit, [&machine] { machine.beep(); });
 }
 
 FieldController::FieldController(QLineEdit* edit, KeyFilter filter, Environment& ambiente,

@@ -9,15 +9,21 @@
 
 class QKeyEvent;
 class QLineEdit;
+class QString;
 
 namespace tarn {
 
+class Machine;
 struct Environment;
 
 enum class KeyFilter { None, NumeroVirgula, NumeroInteiro };
 
 // Sends the Tab stroke to the widget: the next field in tab order gets the focus.
 void sendTab(QWidget& widget);
+
+// Lets in what fits the regular expression as a whole: a pasted text comes in or, with
+// a beep, leaves the field as it was.
+void onlyTakes(QLineEdit& edit, const QString& pattern, Machine& machine);
 
 // A field whose keys are filtered, unless by None: digits, backspace and perhaps the
 // comma pass, any other character is dropped with a beep. Keys without a character (arrows,

@@ -4,6 +4,7 @@
 
 #include "platform/clock.h"
 #include "platform/environment.h"
+#include "platform/machine.h"
 
 namespace tarn {
 namespace {
@@ -13,17 +14,23 @@ constexpr int quantityLength = 13;
 }  // namespace
 
 DateField::DateField(QLineEdit* edit, KeyFilter filter, Environment& ambiente, Test test)
-    : FieldController(edit, filter, ambiente), test_(test) {
+    : FieldController(edit, filter, ambiente),
+      test_(test),
+      digits_(QRegularExpression(filter == KeyFilter::NumeroVirgula ? QStringLiteral("[0-9,]*")
+                                                                    : QStringLiteral("[0-9]*"))) {
     edit->setMaxLength(dateLengthShown);
+    connect(edit, &QLineEdit::inputRejected, this, [&ambiente] { ambiente.machine.beep(); });
 }
 
 void DateField::entered() {
     edit().setText(QString::fromStdString(dateOnEnter(edit().text().toStdString())));
     edit().setMaxLength(dateLengthEditing);
+    edit().setValidator(&digits_);
     edit().selectAll();
 }
 
 void DateField::left() {
+    edit().setValidator(nullptr);
     edit().setMaxLength(dateLengthShown);
     const std::string typed = edit().text().toStdString();
     const Date today = ambiente().clock.today();

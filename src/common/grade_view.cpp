@@ -65,7 +65,7 @@ protected:
             return false;
         }
         const QModelIndex ativa = grade_.currentIndex();
-        if (ativa.isValid()) {
+        if (ativa.isValid() && !static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
             modelo_.marca(ativa.row(), !modelo_.marcada(ativa.row()));
         }
         return true;

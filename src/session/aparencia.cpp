@@ -1,6 +1,7 @@
 #include "session/aparencia.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -26,6 +27,16 @@ class DeskStyle : public QProxyStyle {
 public:
     DeskStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
+    // The wheel turns a drop-down list only while it is in use, and doesn't bring it the
+    // focus: a choice isn't lost by scrolling past it.
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override {
+        QProxyStyle::polish(widget);
+        if (qobject_cast<QComboBox*>(widget) != nullptr) {
+            widget->setFocusPolicy(Qt::StrongFocus);
+        }
+    }
+
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override {
         if (hint == SH_LineEdit_PasswordCharacter) {
@@ -33,6 +44,9 @@ public:
         }
         if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText) {
             return 0;
+        }
+        if (hint == SH_ComboBox_AllowWheelScrolling) {
+            return widget != nullptr && widget->hasFocus() ? 1 : 0;
         }
         return QProxyStyle::styleHint(hint, option, widget, data);
     }

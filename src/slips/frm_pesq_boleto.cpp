@@ -24,7 +24,7 @@ constexpr char tag[] = "Tag";
 // The columns without a width are for the printing alone.
 constexpr std::array<ColunaGrade, colunasBoleto> colunas{
     {{"", 0, TipoColuna::Caixa},
-     {"Filial", 8},
+     {"Filial", 17},
      {"Vencimento", 13},
      {"Tipo Documento", 18},
      {"Nº Documento", 17},
@@ -81,6 +81,8 @@ void frmPesqBoleto::preparaCampos() {
     QPalette paraLeitura = palette();
     paraLeitura.setColor(QPalette::Base, paraLeitura.color(QPalette::Window));
     ui_->txtCliente->setPalette(paraLeitura);
+    new FieldController(ui_->txtCliente, KeyFilter::None, desk_.ambiente,
+                        FieldController::EnterKey::TabOnly);
     for (QLineEdit* campo :
          {ui_->txtDtEmsDe, ui_->txtDtEmsAte, ui_->txtDtVncDe, ui_->txtDtVncAte}) {
         new DateField(campo, KeyFilter::NumeroVirgula, desk_.ambiente);
@@ -88,6 +90,7 @@ void frmPesqBoleto::preparaCampos() {
     }
     QLineEdit& numero = *ui_->txtNr_Bol_Banc;
     new FieldController(&numero, KeyFilter::NumeroVirgula, desk_.ambiente);
+    onlyTakes(numero, QStringLiteral("[0-9,]*"), desk_.ambiente.machine);
     numero.setFixedWidth(larguraNumero * numero.fontMetrics().averageCharWidth());
 }
 
@@ -214,12 +217,8 @@ void frmPesqBoleto::chkInc_Carteira_Click(bool marcado) {
     }
 }
 
-// Enter leaves the customer's name as it leaves the other fields.
 void frmPesqBoleto::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && ui_->txtCliente->hasFocus()) {
-        sendTab(*ui_->txtCliente);
-    } else if (!enterNoBotao(*this, *event)) {
+    if (!enterNoBotao(*this, *event)) {
         QDialog::keyPressEvent(event);
     }
 }

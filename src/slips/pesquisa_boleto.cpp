@@ -61,7 +61,7 @@ std::optional<RecusaDeBoletos> recusaDaPesquisa(const comando::Pesquisa& documen
         return RecusaDeBoletos{"Data de Vencimento Obrigatória.     ",
                                CampoDeBoletos::VencimentoAte};
     }
-    if (posicaoDaCarteira == 0) {
+    if (posicaoDaCarteira <= 0) {
         return RecusaDeBoletos{"Carteira Cobrança é um campo obrigatório.     ",
                                CampoDeBoletos::Carteira};
     }
@@ -70,7 +70,7 @@ std::optional<RecusaDeBoletos> recusaDaPesquisa(const comando::Pesquisa& documen
 
 std::optional<RecusaDeBoletos> recusaDaImpressao(int posicaoDaCarteira,
                                                  std::string_view proximoNumero) {
-    if (posicaoDaCarteira == 0) {
+    if (posicaoDaCarteira <= 0) {
         return RecusaDeBoletos{"Carteira Cobrança é um campo obrigatório!     ",
                                CampoDeBoletos::Carteira};
     }

@@ -56,7 +56,7 @@ TEST_F(FrmPesqClienteTest, SaysWhatItIs) {
         EXPECT_EQ(focused(dialogo), "txtNmCli");
         EXPECT_THAT(
             tabOrder(dialogo, "txtNmCli", 5),
-            ElementsAre("txtNmCli", "cmdPesquisar", "sprDados", "cmdSelecionar", "cmdVoltar"));
+            ElementsAre("txtNmCli", "sprDados", "cmdPesquisar", "cmdSelecionar", "cmdVoltar"));
     });
     EXPECT_THAT(boxes.shown, IsEmpty());
 }

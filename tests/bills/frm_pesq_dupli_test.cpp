@@ -123,13 +123,14 @@ TEST_F(FrmPesqDupliTest, TheGridHasItsHeadings) {
     });
 }
 
-TEST_F(FrmPesqDupliTest, TabFollowsTheEye) {
+TEST_F(FrmPesqDupliTest, TabGoesThroughTheFieldsThenTheButtons) {
     comATela([&](QWidget& tela) {
         EXPECT_EQ(focused(tela), "txtCliente");
-        EXPECT_THAT(tabOrder(tela, "txtCliente", 14),
-                    ElementsAre("txtCliente", "cmdPesqCli", "cmdLimpar", "cboFilial", "cboTpDocto",
-                                "txtDtEmsDe", "txtDtEmsAte", "txtDtVncDe", "txtDtVncAte",
-                                "cmdPesquisar", "sprDados", "optDupl", "cmdImprimir", "cmdVoltar"));
+        EXPECT_THAT(
+            tabOrder(tela, "txtCliente", 15),
+            ElementsAre("txtCliente", "cboFilial", "cboTpDocto", "txtDtEmsDe", "txtDtEmsAte",
+                        "txtDtVncDe", "txtDtVncAte", "optDupl", "sprDados", "cmdPesquisar",
+                        "cmdPesqCli", "cmdLimpar", "cmdImprimir", "cmdVoltar", "txtCliente"));
     });
 }
 
@@ -239,6 +240,43 @@ TEST_F(FrmPesqDupliTest, DateFieldsFilterAndEnterIsATabStroke) {
         EXPECT_EQ(focused(tela), "txtDtEmsAte");
         EXPECT_EQ(mostrado(tela, "txtDtEmsDe"), "15/03/2012");
         EXPECT_EQ(machine.beeps, 3);
+    });
+}
+
+// The focus goes along with an access key, and so the date being typed is finished.
+TEST_F(FrmPesqDupliTest, AnAccessKeyFinishesTheDate) {
+    comATela([&](QWidget& tela) {
+        server.on("sel_duplicata", answers::rowset(""));
+        escolhe(tela, "cboTpDocto", recibo);
+        type(tela, "txtDtVncAte", "31032012");
+        type(tela, "txtDtVncDe", "1");
+        server.addresses.clear();
+        QTest::keyClick(tela.focusWidget(), Qt::Key_P, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !server.addresses.empty(); }));
+        EXPECT_THAT(server.queries().at(0), testing::HasSubstr("&DT_VNC_DE=01/03/2012&"));
+        EXPECT_EQ(focused(tela), "cmdPesquisar");
+    });
+}
+
+TEST_F(FrmPesqDupliTest, EnterLeavesTheCustomersNameInSilence) {
+    comATela([&](QWidget& tela) {
+        named<QLineEdit>(tela, "txtCliente").setFocus();
+        key(tela, Qt::Key_Return);
+        EXPECT_EQ(focused(tela), "cboFilial");
+        EXPECT_EQ(machine.beeps, 0);
+    });
+}
+
+// A branch's short name has up to 12 characters.
+TEST_F(FrmPesqDupliTest, TheWidestShortNameOfABranchIsReadWhole) {
+    comATela([&](QWidget& tela) {
+        server.on("sel_duplicata", answers::rowset("<z:row SG_FIL='GUARATINGUET'/>"));
+        escolhe(tela, "cboTpDocto", recibo);
+        type(tela, "txtDtVncAte", "31032012");
+        click(tela, "cmdPesquisar");
+        const auto& grade = named<QTableView>(tela, "sprDados");
+        ASSERT_EQ(linhas(tela), 1);
+        EXPECT_GE(grade.columnWidth(1), grade.sizeHintForIndex(grade.model()->index(0, 1)).width());
     });
 }
 

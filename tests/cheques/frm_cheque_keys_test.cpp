@@ -149,6 +149,8 @@ TEST_F(FrmChequeTest, AnAmountOverTheLimitIsRefusedOnLeaving) {
         settle();
         EXPECT_THAT(boxes.shown, ElementsAre(refused));
         EXPECT_EQ(text(screen, "txtValor"), "10000000000000") << "the text stays";
+        EXPECT_EQ(named<QLineEdit>(screen, "txtValor").selectedText(),
+                  QStringLiteral("10000000000000"));
         EXPECT_EQ(focused(screen), "txtValor");
         click(screen, "cmdImprimir");
         settle();

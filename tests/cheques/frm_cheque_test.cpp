@@ -285,6 +285,17 @@ TEST_F(FrmChequeTest, AFailedListLeavesNoAccountToChoose) {
     EXPECT_THAT(spooler.calls, IsEmpty());
 }
 
+TEST_F(FrmChequeTest, ComingBackFromTheTaskBarKeepsTheFocus) {
+    use([&](QWidget& screen) {
+        EXPECT_EQ(focused(screen), "cboBancoAgConta");
+        named<QWidget>(screen, "txtFavorecido").setFocus();
+        QShowEvent fromOutside;
+        QSpontaneKeyEvent::setSpontaneous(&fromOutside);
+        qApp->notify(&screen, &fromOutside);
+        EXPECT_EQ(focused(screen), "txtFavorecido");
+    });
+}
+
 // Leaving the number or the series.
 
 TEST_F(FrmChequeTest, ATakenNumberIsToldOnLeavingEitherField) {

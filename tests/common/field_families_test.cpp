@@ -150,6 +150,29 @@ TEST_F(FieldFamilies, TextCanBePasted) {
     EXPECT_EQ(machine.beeps, 0);
 }
 
+// A date with its slashes would be cut in the middle of the year.
+TEST_F(FieldFamilies, WhatIsPastedIntoADateIsDigitsOrNothing) {
+    for (QLineEdit* field : {&form.first, &form.deposit}) {
+        left(*field, "15032012");
+        for (const char* pasted : {"31/03/2012", "31-03-12", "3\n4", "1,5"}) {
+            const bool passes = field == &form.first && std::string_view(pasted) == "1,5";
+            machine.beeps = 0;
+            field->setFocus();
+            QApplication::clipboard()->setText(QString::fromUtf8(pasted));
+            QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
+            EXPECT_EQ(field->text().toStdString(), passes ? pasted : "15032012") << pasted;
+            EXPECT_EQ(machine.beeps == 0, passes) << pasted;
+        }
+        field->selectAll();
+        QApplication::clipboard()->setText(QStringLiteral("31032012"));
+        QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
+        QTest::keyClick(field, Qt::Key_Tab);
+        EXPECT_EQ(field->text(), QStringLiteral("31/03/2012"));
+    }
+    settle();
+    EXPECT_TRUE(boxes.shown.empty());
+}
+
 TEST_F(FieldFamilies, AComposedCharacterIsFilteredToo) {
     form.plain.setFocus();
     QInputMethodEvent composed;

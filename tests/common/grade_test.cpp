@@ -89,6 +89,36 @@ TEST_F(GradeTest, SpaceTicksTheActiveRow) {
     EXPECT_THAT(marcas(), ElementsAre(false, false, true));
 }
 
+TEST_F(GradeTest, ADoubleClickIsTwoTicks) {
+    const QPoint caixa = grade.visualRect(modelo.index(1, 0)).center();
+    QTest::mouseClick(grade.viewport(), Qt::LeftButton, {}, caixa);
+    EXPECT_THAT(marcas(), ElementsAre(false, true, false));
+    QTest::mouseDClick(grade.viewport(), Qt::LeftButton, {}, caixa);
+    EXPECT_THAT(marcas(), ElementsAre(false, true, false));
+}
+
+TEST_F(GradeTest, AClickThatEndsInAnotherCellTicksNothing) {
+    const auto meio = [&](int linha, int coluna) {
+        return grade.visualRect(modelo.index(linha, coluna)).center();
+    };
+    QTest::mousePress(grade.viewport(), Qt::LeftButton, {}, meio(0, 0));
+    QTest::mouseRelease(grade.viewport(), Qt::LeftButton, {}, meio(2, 0));
+    QTest::mousePress(grade.viewport(), Qt::LeftButton, {}, meio(1, 1));
+    QTest::mouseRelease(grade.viewport(), Qt::LeftButton, {}, meio(1, 0));
+    EXPECT_THAT(marcas(), ElementsAre(false, false, false));
+}
+
+TEST_F(GradeTest, SpaceHeldDownTicksOnce) {
+    clica(1, 1);
+    QTest::keyPress(&grade, Qt::Key_Space);
+    for (int vez = 0; vez < 3; ++vez) {
+        QKeyEvent repetida(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "),
+                           true);
+        QCoreApplication::sendEvent(&grade, &repetida);
+    }
+    EXPECT_THAT(marcas(), ElementsAre(false, true, false));
+}
+
 TEST_F(GradeTest, TheHeadingSetsAllRowsByTheLastOne) {
     clica(0, 0);
     clicaCabecalho(0);

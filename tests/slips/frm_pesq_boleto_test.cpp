@@ -103,11 +103,12 @@ TEST_F(FrmPesqBoletoTest, SaysWhatItsFieldsAre) {
                   QStringLiteral("Inserir os Doctos abaixo na carteira selecionada"));
         EXPECT_TRUE(named<QLineEdit>(tela, "txtCliente").isReadOnly());
         EXPECT_EQ(named<QLineEdit>(tela, "txtNr_Bol_Banc").maxLength(), 13);
+        EXPECT_EQ(focused(tela), "txtCliente");
         EXPECT_THAT(tabOrder(tela, "txtCliente", 16),
-                    ElementsAre("txtCliente", "cmdPesqCli", "cmdLimpar", "cboFilial", "cboCartCob",
-                                "txtDtEmsDe", "txtDtEmsAte", "txtDtVncDe", "txtDtVncAte",
-                                "chkInc_Carteira", "cmdPesquisar", "sprDados", "txtNr_Bol_Banc",
-                                "cmdImprimir", "cmdVoltar", "txtCliente"));
+                    ElementsAre("txtCliente", "cboFilial", "cboCartCob", "txtDtEmsDe",
+                                "txtDtEmsAte", "txtDtVncDe", "txtDtVncAte", "chkInc_Carteira",
+                                "txtNr_Bol_Banc", "sprDados", "cmdPesqCli", "cmdPesquisar",
+                                "cmdLimpar", "cmdImprimir", "cmdVoltar", "txtCliente"));
     });
 }
 
@@ -331,51 +332,80 @@ TEST_F(FrmPesqBoletoTest, AChoiceInTheBillSearchWaitsHere) {
     });
 }
 
-TEST_F(FrmPesqBoletoTest, TheSlipNumberTakesDigitsAndCommas) {
+TEST_F(FrmPesqBoletoTest, FailedListsLoseWhatTheyHeldOnTheNextActivation) {
     comATela([&](QWidget& tela) {
-        type(tela, "txtNr_Bol_Banc", "12a,.-3");
-        EXPECT_EQ(mostrado(tela, "txtNr_Bol_Banc"), "12,3");
-        EXPECT_EQ(machine.beeps, 3);
-        type(tela, "txtNr_Bol_Banc", "12345678901234");
-        EXPECT_EQ(mostrado(tela, "txtNr_Bol_Banc"), "1234567890123");
-        machine.beeps = 0;
-        key(tela, Qt::Key_Return);
-        EXPECT_EQ(focused(tela), "cmdImprimir");
-        EXPECT_EQ(machine.beeps, 1);
-        EXPECT_THAT(boxes.shown, IsEmpty()) << "the button isn't pressed";
+        encontra(tela, linha("1"));
+        grid::click(grade(tela), 1, 1);
+        server.failOn("sel_filiais&ID_EMP_TARN=2161").failOn("sel_carteira&ID_EMP_TARN=2161");
+        modals.then("FrmPesqCliente", [](QWidget& dialogo) { key(dialogo, Qt::Key_Escape); });
+        click(tela, "cmdPesqCli");
+        EXPECT_THAT(boxes.shown, ElementsAre(falhaLarga(), falhaLarga()));
+        EXPECT_THAT(itens(lista(tela, "cboFilial")), ElementsAre("<-TODAS->=0"));
+        EXPECT_THAT(itens(lista(tela, "cboCartCob")), ElementsAre("--------=0"));
+        EXPECT_THAT(grid::ticks(grade(tela)), ElementsAre(true));
+        boxes.shown.clear();
+        click(tela, "cmdPesquisar");
+        EXPECT_THAT(boxes.shown, ElementsAre(faltaCarteira));
     });
 }
 
-TEST_F(FrmPesqBoletoTest, DatesAreCompletedAndEnterMovesOn) {
+TEST_F(FrmPesqBoletoTest, TheDeskIsActivatedOnceAlsoBehindTheCustomerDialog) {
     comATela([&](QWidget& tela) {
-        type(tela, "txtDtEmsDe", "15");
-        key(tela, Qt::Key_Return);
-        EXPECT_EQ(mostrado(tela, "txtDtEmsDe"), "15/03/2012");
-        EXPECT_EQ(focused(tela), "txtDtEmsAte");
-        EXPECT_EQ(machine.beeps, 1);
-        named<QLineEdit>(tela, "txtCliente").setFocus();
-        key(tela, Qt::Key_Return);
-        EXPECT_EQ(focused(tela), "cmdPesqCli");
-    });
-}
-
-// The focus goes along with an access key, and so the date being typed is finished.
-TEST_F(FrmPesqBoletoTest, AnAccessKeyFinishesTheDate) {
-    comATela([&](QWidget& tela) {
-        server.on("sel_boleto", answers::rowset(linha("1")));
-        preenche(tela);
-        type(tela, "txtDtVncDe", "1");
+        escolheCliente(tela);
         server.addresses.clear();
-        QTest::keyClick(&named<QLineEdit>(tela, "txtDtVncDe"), Qt::Key_P, Qt::AltModifier);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !server.addresses.empty(); }));
-        EXPECT_THAT(server.queries().at(0), testing::HasSubstr("&DT_VNC_DE=01/03/2012&"));
+    });
+    EXPECT_THAT(server.queries(), ElementsAre(pedeDaMesa));
+}
+
+TEST_F(FrmPesqBoletoTest, LongTextsAndMarkupAreShownAsTheyAre) {
+    const std::string longo = "<b>A&B</b> " + std::string(3000, 'W');
+    const std::string noXml = "&lt;b>A&amp;B&lt;/b> " + std::string(3000, 'W');
+    server.on("sel_carteira&ID_EMP_TARN=2161",
+              answers::rowset("<z:row DC_CRT_COB='" + noXml + "' ID_CRT_COB='5'/>"));
+    comATela([&](QWidget& tela) {
+        const QSize menor = tela.minimumSizeHint();
+        encontra(tela, "<z:row SG_FIL='" + noXml + "' NM_CLI_ETB='" + noXml + "'/>");
+        server.on("Sel_Cliente",
+                  answers::rowset("<z:row NM_PES_CPL='" + noXml + "' ID_PES_CLI='1'/>"));
+        modals.then("FrmPesqCliente", [](QWidget& dialogo) {
+            type(dialogo, "txtNmCli", "ana");
+            click(dialogo, "cmdPesquisar");
+            click(dialogo, "cmdSelecionar");
+        });
+        click(tela, "cmdPesqCli");
+        EXPECT_EQ(lista(tela, "cboCartCob").itemText(1).toStdString(), longo);
+        EXPECT_EQ(mostrado(tela, "txtCliente"), longo);
+        EXPECT_EQ(named<QLineEdit>(tela, "txtCliente").cursorPosition(), 0) << "its head shows";
+        EXPECT_EQ(grid::cell(grade(tela), 1, 6), longo);
+        EXPECT_EQ(tela.minimumSizeHint(), menor);
     });
 }
 
-TEST_F(FrmPesqBoletoTest, EscClosesIt) {
+// A branch's short name has up to 12 characters.
+TEST_F(FrmPesqBoletoTest, TheWidestShortNameOfABranchIsReadWhole) {
     comATela([&](QWidget& tela) {
-        key(tela, Qt::Key_Escape);
-        EXPECT_FALSE(tela.isVisible());
+        encontra(tela, "<z:row SG_FIL='GUARATINGUET' DT_VNC_DOC_FMA='10/04/2012'/>");
+        QTableView& dados = grade(tela);
+        for (const int coluna : {2, 3}) {
+            const QModelIndex celula = dados.model()->index(0, coluna - 1);
+            EXPECT_GE(dados.columnWidth(coluna - 1), dados.sizeHintForIndex(celula).width())
+                << coluna;
+        }
+    });
+}
+
+TEST_F(FrmPesqBoletoTest, TwentyThousandDocumentsAreShownAndTicked) {
+    comATela([&](QWidget& tela) {
+        std::string linhas;
+        for (int i = 1; i <= 20000; ++i) {
+            linhas += linha(std::to_string(i));
+        }
+        encontra(tela, linhas);
+        grid::clickHeading(grade(tela), 1);
+        EXPECT_THAT(grid::ticks(grade(tela)), testing::Each(true));
+        grid::click(grade(tela), 20000, 1);
+        EXPECT_FALSE(grid::ticks(grade(tela)).back());
+        EXPECT_EQ(grid::cell(grade(tela), 20000, 5), "20000");
     });
 }
 

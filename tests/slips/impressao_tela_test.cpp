@@ -1,4 +1,5 @@
 // Printing from frmPesqBoleto.
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QProgressBar>
 #include <QTimer>
@@ -204,6 +205,56 @@ TEST_F(ImpressaoNaTela, AfterTheLastSevenDigitNumberTheProgramEnds) {
         EXPECT_TRUE(spooler.jobs.back().closed);
         EXPECT_THAT(grid::ticks(grade(tela)), ElementsAre(false, true));
         EXPECT_EQ(mostrado(tela, "txtNr_Bol_Banc"), "9999999");
+    });
+}
+
+// Agency and account too short for the check digit: the row's tick is gone and its job
+// is open with the set-up only, nothing of it was written.
+TEST_F(ImpressaoNaTela, APortfolioTooShortForTheCheckDigitEndsTheProgram) {
+    server.on("sel_carteira_cob&ID_EMP_TARN=2161&ID_CRT_COB=5",
+              answers::rowset("<z:row ID_CRT_COB='5' ID_PES_BAN='1016' NR_CRT_CNAB='57' "
+                              "CD_AGE_BAN_CNAB='1123' NR_CCOR_CNAB='45-678'/>"));
+    comATela([&](QWidget& tela) {
+        encontra(tela, linha("1") + linha("2"));
+        grid::clickHeading(grade(tela), 1);
+        imprime(tela, "1234");
+        ASSERT_EQ(boxes.shown.size(), 1U);
+        EXPECT_THAT(boxes.shown[0].text, testing::StartsWith("Erro em tempo de execução '5':\r\r"));
+        EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
+        EXPECT_EQ(fim.status(), 3);
+        EXPECT_THAT(server.queries(), ElementsAre(pedeCarteira57));
+        ASSERT_EQ(spooler.jobs.size(), 2U);
+        EXPECT_TRUE(spooler.jobs[0].closed);
+        EXPECT_FALSE(spooler.jobs[1].closed);
+        EXPECT_EQ(spooler.jobs[1].bytes(), " \x1B\x32 \x0F\x1BG");
+        EXPECT_THAT(grid::ticks(grade(tela)), ElementsAre(false, true));
+        EXPECT_EQ(mostrado(tela, "txtNr_Bol_Banc"), "1234");
+    });
+}
+
+// The slip that is under way comes out whole; what was clicked and closed meanwhile
+// doesn't count.
+TEST_F(ImpressaoNaTela, ASecondClickOrClosingDuringTheRunDoesNothing) {
+    comATela([&](QWidget& tela) {
+        encontra(tela, linha("1") + linha("2"));
+        grid::clickHeading(grade(tela), 1);
+        type(tela, "txtNr_Bol_Banc", "1234");
+        auto& botao = named<QPushButton>(tela, "cmdImprimir");
+        const QPointF meio = botao.rect().center();
+        for (const QEvent::Type metade : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QCoreApplication::postEvent(
+                &botao, new QMouseEvent(metade, meio, botao.mapToGlobal(meio), Qt::LeftButton,
+                                        Qt::LeftButton, Qt::NoModifier));
+        }
+        QCoreApplication::postEvent(&tela, new QCloseEvent);
+        QCoreApplication::postEvent(&menu, new QCloseEvent);
+        click(tela, "cmdImprimir");
+        QCoreApplication::processEvents();
+        EXPECT_THAT(numeros(), ElementsAre("0000000001234/7", "0000000001235/6"));
+        EXPECT_EQ(server.queries().size(), 5U);
+        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_TRUE(tela.isVisible());
+        EXPECT_FALSE(fim.encerrado());
     });
 }
 

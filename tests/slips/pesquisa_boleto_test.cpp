@@ -227,11 +227,15 @@ TEST(RecusaDaPesquisa, AsksForThreeThingsInOrder) {
               "Data de Vencimento Obrigatória.     ");
     EXPECT_EQ(textOf(recusaDaPesquisa({.vencimentoAte = "x", .emissaoDe = "x"}, 0)),
               "Carteira Cobrança é um campo obrigatório.     ");
+    EXPECT_EQ(textOf(recusaDaPesquisa({.vencimentoAte = "x", .emissaoDe = "x"}, -1)),
+              "Carteira Cobrança é um campo obrigatório.     ")
+        << "a list without items";
     EXPECT_EQ(textOf(recusaDaPesquisa({.vencimentoAte = "x", .emissaoDe = "x"}, 1)), "");
 }
 
 TEST(RecusaDaImpressao, AsksForTwo) {
     EXPECT_EQ(textOf(recusaDaImpressao(0, "")), "Carteira Cobrança é um campo obrigatório!     ");
+    EXPECT_EQ(textOf(recusaDaImpressao(-1, "1")), "Carteira Cobrança é um campo obrigatório!     ");
     EXPECT_EQ(textOf(recusaDaImpressao(1, "")), "Nr. Boleto Bancário é um campo obrigatório!     ");
     EXPECT_EQ(textOf(recusaDaImpressao(1, "0")), "");
 }

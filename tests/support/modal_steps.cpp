@@ -33,10 +33,12 @@ bool ModalSteps::eventFilter(QObject* receiver, QEvent* event) {
     return false;
 }
 
-// What the window asks of the server on opening has been answered: no hourglass.
+// What the window asks of the server on opening has been answered: no hourglass. A
+// message box has an arrow of its own.
 void ModalSteps::whenReady(const QPointer<QDialog>& window) {
     QTimer::singleShot(1, this, [this, window] {
-        if (window && QGuiApplication::overrideCursor() != nullptr) {
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        if (window && cursor != nullptr && cursor->shape() == Qt::WaitCursor) {
             whenReady(window);
         } else if (window) {
             take(*window);

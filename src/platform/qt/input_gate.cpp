@@ -1,5 +1,6 @@
 #include "platform/qt/input_gate.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QEvent>
 #include <algorithm>
@@ -42,6 +43,12 @@ bool isInput(QEvent::Type type) {
     }
 }
 
+// A button that an access key holds down clicks when its timer ticks; the timer ticks
+// again until it may.
+bool isHeldClick(const QObject* receiver, QEvent::Type type) {
+    return type == QEvent::Timer && qobject_cast<const QAbstractButton*>(receiver) != nullptr;
+}
+
 // A close that is discarded must read as refused, a shortcut as taken.
 void settle(QEvent* event) {
     if (event->type() == QEvent::Close || event->type() == QEvent::DragEnter) {
@@ -75,6 +82,9 @@ void InputGate::open() {
 bool InputGate::eventFilter(QObject* receiver, QEvent* event) {
     if (isInput(event->type())) {
         settle(event);
+        return true;
+    }
+    if (isHeldClick(receiver, event->type())) {
         return true;
     }
     if (event->type() == QEvent::Timer && !receiver->objectName().isEmpty()) {

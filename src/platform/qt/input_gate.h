@@ -17,7 +17,8 @@ public:
 
     // From shut to open everything typed and clicked is discarded, and a tick of a
     // screen's timer (a QTimer with an object name) waits; a timer that came due more
-    // than once ticks once.
+    // than once ticks once. A button pressed by its access key before then clicks when
+    // the gate is open.
     void shut();
     void open();
     bool isShut() const { return shut_; }
