@@ -1,6 +1,8 @@
 // Opening, fields, search and grid of FrmPesqDupli.
+#include <QCloseEvent>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include "bills/tela_de_duplicatas.h"
 
@@ -410,6 +412,29 @@ TEST_F(FrmPesqDupliTest, EachWayOutUnloadsIt) {
         EXPECT_THAT(server.queries(), ElementsAre(pedeDaMesa));
     }
     EXPECT_FALSE(fim.encerrado());
+}
+
+TEST_F(FrmPesqDupliTest, WhatIsPressedDuringARequestIsLost) {
+    acha(3);
+    comATela([&](QWidget& tela) {
+        escolhe(tela, "cboTpDocto", duplicata);
+        type(tela, "txtDtVncAte", "31122012");
+        server.addresses.clear();
+        QTimer::singleShot(0, &tela, [&tela] {
+            for (const int tecla : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Space}) {
+                QCoreApplication::postEvent(&named<QWidget>(tela, "cmdPesquisar"),
+                                            new QKeyEvent(QEvent::KeyPress, tecla, Qt::NoModifier));
+                QCoreApplication::postEvent(&tela,
+                                            new QKeyEvent(QEvent::KeyPress, tecla, Qt::NoModifier));
+            }
+            QCoreApplication::postEvent(&tela, new QCloseEvent);
+        });
+        click(tela, "cmdPesquisar");
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(tela.isVisible());
+        EXPECT_EQ(linhas(tela), 3);
+        EXPECT_EQ(server.addresses.size(), 1U);
+    });
 }
 
 }  // namespace
