@@ -1,6 +1,7 @@
 // Opening, fields, search and grid of FrmPesqDupli.
 #include <QCloseEvent>
 #include <QFile>
+#include <QImageReader>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -435,6 +436,27 @@ TEST_F(FrmPesqDupliTest, WhatIsPressedDuringARequestIsLost) {
         EXPECT_EQ(linhas(tela), 3);
         EXPECT_EQ(server.addresses.size(), 1U);
     });
+}
+
+// Decoded whole, a scan of a sheet takes more memory than the toolkit allows a picture.
+TEST_F(FrmPesqDupliTest, APictureOfVeryManyDotsIsShownToo) {
+    const QTemporaryDir pasta;
+    ambiente.pastaFiguras = pasta.path().toStdString();
+    QImage folha(800, 600, QImage::Format_RGB32);
+    folha.fill(Qt::red);
+    ASSERT_TRUE(folha.save(pasta.filePath(QStringLiteral("LOGODUPL.jpg")), "JPG"));
+    QFile quebrada(pasta.filePath(QStringLiteral("VERTDUPL.jpg")));
+    ASSERT_TRUE(quebrada.open(QIODevice::WriteOnly) && quebrada.write("lixo") > 0);
+    quebrada.close();
+    constexpr int megabyte = 1;
+    const int usual = QImageReader::allocationLimit();
+    QImageReader::setAllocationLimit(megabyte);
+    comATela([&](QWidget& tela) {
+        EXPECT_TRUE(mostra(tela, "picLogo"));
+        EXPECT_FALSE(mostra(tela, "picVert")) << "no picture";
+    });
+    QImageReader::setAllocationLimit(usual);
+    EXPECT_THAT(boxes.shown, IsEmpty());
 }
 
 }  // namespace

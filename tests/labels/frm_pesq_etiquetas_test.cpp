@@ -165,6 +165,25 @@ TEST_F(QueueScreen, EachWayToChooseAReasonReadsItsQueueOnce) {
     });
 }
 
+TEST_F(QueueScreen, AnOpenListShowsItsReasonsWhole) {
+    const std::string campaign = "MALA DIRETA PARA OS CLIENTES DA REGIÃO METROPOLITANA DO ANO DE ";
+    server = ScriptedLoader();
+    server.on("sel_dados_empresa", answers::branch("F"))
+        .on("sel_motivos", answers::rowset("<z:row DC_MOT_IMP='" + campaign + "2011'/>" +
+                                           "<z:row DC_MOT_IMP='" + campaign + "2012'/>"))
+        .on("sel_filiais_remetente", answers::rowset(""))
+        .on("sel_etiquetas", labels(1));
+    inQueue([](QWidget& queue) {
+        auto& reasons = named<QComboBox>(queue, "cboMotivo");
+        reasons.setFocus();
+        QTest::keyClick(&reasons, Qt::Key_Space);
+        const QAbstractItemView& open = *reasons.view();
+        ASSERT_TRUE(open.isVisible());
+        EXPECT_GE(open.viewport()->width(), open.sizeHintForColumn(0));
+        QTest::keyClick(reasons.view(), Qt::Key_Escape);
+    });
+}
+
 TEST_F(QueueScreen, TheSenderIsChosenByKeyAndWheelToo) {
     inReadQueue(4, [this](QWidget& queue) {
         auto& senders = named<QComboBox>(queue, "CboFilialRemet");
