@@ -2,7 +2,9 @@
 #include <fstream>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "comandos.h"
@@ -65,28 +67,30 @@ bool confere(const Pedido& pedido, Mesa& mesa) {
     return algumaPerda;
 }
 
-// Empty for a file that can't be read: a stream would raise its own error on a directory.
-std::string conteudo(const std::string& arquivo) {
+// Nothing for a file that can't be read: a stream would raise its own error on a directory.
+std::optional<std::string> conteudo(const std::string& arquivo) {
     std::error_code falha;
-    if (!std::filesystem::is_directory(arquivo, falha)) {
-        std::ifstream entrada(arquivo, std::ios::binary);
-        std::string bytes((std::istreambuf_iterator<char>(entrada)),
-                          std::istreambuf_iterator<char>());
-        return entrada.bad() ? std::string() : bytes;
+    if (std::filesystem::is_directory(arquivo, falha)) {
+        return std::nullopt;
     }
-    return {};
+    std::ifstream entrada(arquivo, std::ios::binary);
+    if (!entrada.is_open()) {
+        return std::nullopt;
+    }
+    std::string bytes((std::istreambuf_iterator<char>(entrada)), std::istreambuf_iterator<char>());
+    return entrada.bad() ? std::nullopt : std::optional(std::move(bytes));
 }
 
 }  // namespace
 
 XmlDocument leResposta(const std::string& arquivo) {
-    const std::string bytes = conteudo(arquivo);
-    if (bytes.empty()) {
+    const std::optional<std::string> bytes = conteudo(arquivo);
+    if (!bytes) {
         throw FalhaDeUso("não foi possível ler \"" + arquivo +
                          "\". Confira o nome do arquivo e a permissão de leitura.");
     }
     XmlDocument documento;
-    if (!documento.loadXML(bytes)) {
+    if (!documento.loadXML(*bytes)) {
         throw FalhaDeUso("\"" + arquivo +
                          "\" não é uma resposta do servidor: o XML está incompleto ou errado.");
     }

@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <array>
 #include <exception>
+#include <utility>
+#include <vector>
 
 #include "common/grade_model.h"
 #include "platform/message_boxes.h"
@@ -49,14 +51,13 @@ void FrmPesqCliente::preparaBotoes() {
 void FrmPesqCliente::cmdPesquisar_Click() {
     const WaitCursor hourglass;
     try {
-        PesquisaDeCliente feita =
-            pesquisaCliente(desk_.ambiente, desk_.sessao, ui_->txtNmCli->text().toStdString());
-        if (feita.nomeCurto) {
-            ui_->txtNmCli->setFocus();
-        }
-        if (feita.linhas) {
-            clientes_->mostra(std::move(*feita.linhas));
+        const auto mostra = [this](std::vector<LinhaGrade> linhas) {
+            clientes_->mostra(std::move(linhas));
             ui_->sprDados->setCurrentIndex(clientes_->index(0, 0));
+        };
+        if (!pesquisaCliente(desk_.ambiente, desk_.sessao, ui_->txtNmCli->text().toStdString(),
+                             mostra)) {
+            ui_->txtNmCli->setFocus();
         }
     } catch (const std::exception&) {
         return;

@@ -1,5 +1,7 @@
 #include "bills/frm_pesq_dupli.h"
 
+#include <QBuffer>
+#include <QImageReader>
 #include <QKeyEvent>
 #include <array>
 
@@ -48,6 +50,20 @@ constexpr std::array<ColunaGrade, colunasDuplicata> colunas{
 constexpr int linhasVisiveis = 14;
 constexpr int larguraData = 13;    // characters
 constexpr int alturaDaFigura = 2;  // lines
+
+// Decoded at the size shown, however many dots the file has. Nothing for no picture.
+QPixmap miniatura(const Picture& figura, const QSize& espaco) {
+    QByteArray bytes =
+        QByteArray::fromRawData(figura.bytes->data(), static_cast<qsizetype>(figura.bytes->size()));
+    QBuffer buffer(&bytes);
+    QImageReader leitor(&buffer);
+    const QSize inteira = leitor.size();
+    if (!inteira.isValid()) {
+        return {};
+    }
+    leitor.setScaledSize(inteira.scaled(espaco, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    return QPixmap::fromImage(leitor.read());
+}
 
 }  // namespace
 
@@ -122,15 +138,9 @@ void FrmPesqDupli::ativa() {
 // Small, so that the user sees what the pages will show.
 void FrmPesqDupli::mostraFiguras() {
     const auto mostra = [](QLabel& onde, const std::optional<Picture>& figura) {
-        QPixmap desenho;
-        if (figura) {
-            desenho.loadFromData(reinterpret_cast<const uchar*>(figura->bytes->data()),
-                                 static_cast<uint>(figura->bytes->size()));
-        }
         const int altura = onde.fontMetrics().height() * alturaDaFigura;
-        onde.setPixmap(desenho.isNull() ? desenho
-                                        : desenho.scaled(altura * 4, altura, Qt::KeepAspectRatio,
-                                                         Qt::SmoothTransformation));
+        const QPixmap desenho = figura ? miniatura(*figura, {altura * 4, altura}) : QPixmap();
+        onde.setPixmap(desenho);
         onde.setVisible(!desenho.isNull());
     };
     mostra(*ui_->picLogo, figuras_.picLogo);

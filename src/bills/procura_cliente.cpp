@@ -1,6 +1,7 @@
 #include "bills/procura_cliente.h"
 
 #include <array>
+#include <utility>
 
 #include "common/linhas_da_resposta.h"
 #include "platform/environment.h"
@@ -34,21 +35,23 @@ std::vector<LinhaGrade> linhasDeClientes(const XmlDocument& resposta) {
     return linhasDaResposta(resposta, campos);
 }
 
-PesquisaDeCliente pesquisaCliente(Environment& ambiente, const Sessao& sessao,
-                                  const std::string& texto) {
+bool pesquisaCliente(Environment& ambiente, const Sessao& sessao, const std::string& texto,
+                     const MostraClientes& mostra) {
     if (lengthOf(trimBlanks(texto)) < menorNome) {
         informa(ambiente, "Nome do cliente deve ter no mínimo 3 letras.    ");
-        return {.linhas = {}, .nomeCurto = true};
+        return false;
     }
     XmlDocument resposta;
     if (!ProcuraCliente(ambiente, sessao, resposta, texto)) {
-        return {};
+        return true;
     }
-    PesquisaDeCliente feita{.linhas = linhasDeClientes(resposta)};
-    if (feita.linhas->empty()) {
+    std::vector<LinhaGrade> linhas = linhasDeClientes(resposta);
+    const bool nenhuma = linhas.empty();
+    mostra(std::move(linhas));
+    if (nenhuma) {
         informa(ambiente, "Pesquisa nao encontrou nenhum registro.     ");
     }
-    return feita;
+    return true;
 }
 
 }  // namespace tarn

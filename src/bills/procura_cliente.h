@@ -1,6 +1,7 @@
 // Customers found by part of their name.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -28,13 +29,11 @@ bool ProcuraCliente(Environment& ambiente, const Sessao& sessao, XmlDocument& re
 // The rows of the grid: name, kind of company, identifier. Absent fields are empty.
 std::vector<LinhaGrade> linhasDeClientes(const XmlDocument& resposta);
 
-// What a click on the search button does apart from the grid: the rows to show, also
-// when there are none (the user has been told); nothing when the grid stays as it is.
-struct PesquisaDeCliente {
-    std::optional<std::vector<LinhaGrade>> linhas;
-    bool nomeCurto = false;  // refused: the focus goes to the name
-};
-PesquisaDeCliente pesquisaCliente(Environment& ambiente, const Sessao& sessao,
-                                  const std::string& texto);
+// What a click on the search button does: `mostra` gets the rows for the grid, also none,
+// before the user is told that there are none. Not called: the grid stays as it is, and the
+// user has been told why. False: the name is too short.
+using MostraClientes = std::function<void(std::vector<LinhaGrade>)>;
+bool pesquisaCliente(Environment& ambiente, const Sessao& sessao, const std::string& texto,
+                     const MostraClientes& mostra);
 
 }  // namespace tarn

@@ -257,6 +257,17 @@ TEST_F(Tarnimprime, ADirectoryOrANamelessFileIsNoDocument) {
     }
 }
 
+TEST_F(Tarnimprime, AnEmptyFileIsNoAnswer) {
+    std::ofstream(file("vazio.xml")).close();
+    const Result result = run({"nota", "--destino", file("papel"), "--empresa", "1361",
+                               "--estabelecimento", "1", "--numero", "1", file("vazio.xml")});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.err.find("\"" + file("vazio.xml") + "\" não é uma resposta do servidor"),
+              std::string::npos)
+        << result.err;
+    EXPECT_FALSE(hasJob("job-001.prn"));
+}
+
 TEST_F(Tarnimprime, GlobalOptionsStandBeforeOrAfterTheCommandAndOnce) {
     const std::vector<std::string> note = {"nota", "--empresa", "1361", "--estabelecimento",
                                            "1",    "--numero",  "4567"};

@@ -107,12 +107,14 @@ TEST_F(FrmPesqClienteTest, NothingFoundEmptiesTheGridAndSaysSo) {
     achaDois();
     server.on(filtro("xyz"), answers::rowset("")).on(filtro("uvw"), "<?xml version='1.0'?><xml/>");
     comODialogo([&](QWidget& dialogo) {
+        boxes.onShow = [&](const Box&) { EXPECT_EQ(linhas(dialogo), 0) << "the box comes last"; };
         pesquisa(dialogo);
         pesquisa(dialogo, "xyz");
         EXPECT_EQ(linhas(dialogo), 0);
         pesquisa(dialogo);
         pesquisa(dialogo, "uvw");
         EXPECT_EQ(linhas(dialogo), 0);
+        boxes.onShow = nullptr;
     });
     EXPECT_THAT(boxes.shown,
                 ElementsAre(informa("Pesquisa nao encontrou nenhum registro.     ", "Aviso"),

@@ -1,6 +1,9 @@
 // Opening, fields, search and grid of FrmPesqDupli.
+#include <QCloseEvent>
 #include <QFile>
+#include <QImageReader>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include "bills/tela_de_duplicatas.h"
 
@@ -448,6 +451,50 @@ TEST_F(FrmPesqDupliTest, EachWayOutUnloadsIt) {
         EXPECT_THAT(server.queries(), ElementsAre(pedeDaMesa));
     }
     EXPECT_FALSE(fim.encerrado());
+}
+
+TEST_F(FrmPesqDupliTest, WhatIsPressedDuringARequestIsLost) {
+    acha(3);
+    comATela([&](QWidget& tela) {
+        escolhe(tela, "cboTpDocto", duplicata);
+        type(tela, "txtDtVncAte", "31122012");
+        server.addresses.clear();
+        QTimer::singleShot(0, &tela, [&tela] {
+            for (const int tecla : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Space}) {
+                QCoreApplication::postEvent(&named<QWidget>(tela, "cmdPesquisar"),
+                                            new QKeyEvent(QEvent::KeyPress, tecla, Qt::NoModifier));
+                QCoreApplication::postEvent(&tela,
+                                            new QKeyEvent(QEvent::KeyPress, tecla, Qt::NoModifier));
+            }
+            QCoreApplication::postEvent(&tela, new QCloseEvent);
+        });
+        click(tela, "cmdPesquisar");
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(tela.isVisible());
+        EXPECT_EQ(linhas(tela), 3);
+        EXPECT_EQ(server.addresses.size(), 1U);
+    });
+}
+
+// Decoded whole, a scan of a sheet takes more memory than the toolkit allows a picture.
+TEST_F(FrmPesqDupliTest, APictureOfVeryManyDotsIsShownToo) {
+    const QTemporaryDir pasta;
+    ambiente.pastaFiguras = pasta.path().toStdString();
+    QImage folha(800, 600, QImage::Format_RGB32);
+    folha.fill(Qt::red);
+    ASSERT_TRUE(folha.save(pasta.filePath(QStringLiteral("LOGODUPL.jpg")), "JPG"));
+    QFile quebrada(pasta.filePath(QStringLiteral("VERTDUPL.jpg")));
+    ASSERT_TRUE(quebrada.open(QIODevice::WriteOnly) && quebrada.write("lixo") > 0);
+    quebrada.close();
+    constexpr int megabyte = 1;
+    const int usual = QImageReader::allocationLimit();
+    QImageReader::setAllocationLimit(megabyte);
+    comATela([&](QWidget& tela) {
+        EXPECT_TRUE(mostra(tela, "picLogo"));
+        EXPECT_FALSE(mostra(tela, "picVert")) << "no picture";
+    });
+    QImageReader::setAllocationLimit(usual);
+    EXPECT_THAT(boxes.shown, IsEmpty());
 }
 
 }  // namespace

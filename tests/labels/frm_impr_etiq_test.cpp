@@ -157,6 +157,69 @@ TEST_F(SelectionScreen, PlacesDependOnEachOther) {
     });
 }
 
+TEST_F(SelectionScreen, EachWayToChooseAPlaceAsksOnce) {
+    inSelection([this](QWidget& selection) {
+        const auto expectAsked = [this](const std::vector<std::string>& queries) {
+            EXPECT_EQ(server.queries(), queries);
+            server.addresses.clear();
+        };
+        auto& countries = named<QComboBox>(selection, "cboPais");
+        auto& states = named<QComboBox>(selection, "cboEstado");
+        server.addresses.clear();
+        countries.setFocus();
+        QTest::keyClick(&countries, Qt::Key_Down);
+        expectAsked({"comando=sel_estado&Pais=55&ServerName=SRV1"});
+        wheelDown(countries);
+        expectAsked({"comando=sel_estado&Pais=56&ServerName=SRV1"});
+        states.setFocus();
+        QTest::keyClick(&states, Qt::Key_S);
+        expectAsked({"comando=sel_cidade&Estado=35&ServerName=SRV1"});
+        wheelDown(states);
+        QTest::keyClick(&states, Qt::Key_Down);
+        expectAsked({});
+        countries.setFocus();
+        QTest::keyClick(&countries, Qt::Key_Home);
+        expectAsked({});
+        EXPECT_FALSE(states.isEnabled() || enabled(selection, "cboCidade"));
+        EXPECT_EQ(states.count() + named<QComboBox>(selection, "cboCidade").count(), 0);
+    });
+}
+
+TEST_F(SelectionScreen, AFailedStateTakesTheCitiesOfTheFormerOneAway) {
+    server.on("sel_estado&Pais=56", answers::rowset("<z:row NM_UF='SUR' ID_UF='70'/>"));
+    server.failOn("sel_cidade&Estado=70");
+    inSelection([this](QWidget& selection) {
+        pick(selection, "cboPais", 1);
+        pick(selection, "cboEstado", 1);
+        pick(selection, "cboCidade", 1);
+        pick(selection, "cboPais", 2);
+        EXPECT_THAT(items(selection, "cboCidade"), IsEmpty());
+        EXPECT_FALSE(enabled(selection, "cboCidade"));
+        pick(selection, "cboEstado", 1);
+        EXPECT_THAT(items(selection, "cboCidade"), IsEmpty());
+        EXPECT_TRUE(enabled(selection, "cboCidade"));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
+        boxes.shown.clear();
+        click(selection, "cmdPesquisar");
+        EXPECT_THAT(boxes.shown,
+                    ElementsAre(Box{searchQuery("10, 20, 30", "56&nIdUf=70", noFilter)}));
+    });
+}
+
+TEST_F(SelectionScreen, WhatIsPressedDuringTheSearchIsLost) {
+    inSelection([this](QWidget& selection) {
+        server.addresses.clear();
+        boxes.onShow = [&selection](const Box&) { pressSoon(selection, "cmdPesquisar"); };
+        click(selection, "cmdPesquisar");
+        boxes.onShow = nullptr;
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(selection.isVisible());
+        EXPECT_EQ(server.addresses.size(), 1U);
+        EXPECT_EQ(boxes.shown.size(), 1U);
+        EXPECT_EQ(rows(selection), 3);
+    });
+}
+
 TEST_F(SelectionScreen, FailedPlacesLeaveTheirListsEmpty) {
     server.failOn("comando=sel_estado");
     inSelection([this](QWidget& selection) {

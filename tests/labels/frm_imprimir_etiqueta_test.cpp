@@ -1,3 +1,6 @@
+#include <QClipboard>
+#include <QDialog>
+
 #include "label_screens.h"
 
 namespace tarn::labels {
@@ -201,6 +204,110 @@ TEST_F(PrintScreen, AFailureWhileDrawingIsShownAndPrintingGoesOn) {
     EXPECT_THAT(boxes.shown,
                 ElementsAre(Box{"Descrição :impressora sem papel\r\n   Numero :482"}, printedBox));
     EXPECT_EQ(printer.operations.size(), 2U + 2U * 8U + 2U);
+}
+
+TEST_F(PrintScreen, WhatIsPastedIsReadWhole) {
+    inPrinting(1, [this](QWidget& print) {
+        auto& from = named<QLineEdit>(print, "txtDe");
+        const auto pasted = [&](const char* text) {
+            boxes.shown.clear();
+            server.addresses.clear();
+            QGuiApplication::clipboard()->setText(QString::fromUtf8(text));
+            from.selectAll();
+            QTest::keyClick(&from, Qt::Key_V, Qt::ControlModifier);
+            named<QLineEdit>(print, "txtAte").setText(QStringLiteral("9"));
+            click(print, "cmdOk");
+            return boxes.shown.empty() ? std::string() : boxes.shown[0].text;
+        };
+        for (const char* text : {"1a", "7\n8", "1e3", "R$ 1", "1 2", "--1", "<b>1</b>"}) {
+            EXPECT_EQ(pasted(text).rfind("Erro em tempo de execução '13':", 0), 0U) << text;
+            EXPECT_TRUE(server.addresses.empty()) << text;
+            EXPECT_TRUE(print.isVisible());
+        }
+        EXPECT_EQ(machine.beeps, 0) << "Ctrl V is no character";
+        server.failOn("sDc_Mot_Imp=NATAL&nSeq_De=");
+        for (const auto& [text, sent] :
+             {std::pair{" 007 ", "7"}, std::pair{"1.234", "1234"}, std::pair{"7,50", "7,5"},
+              std::pair{",5", "0,5"}, std::pair{"-3", "-3"}, std::pair{"0", "0"},
+              std::pair{"123456789012345678", "123456789012346000"}}) {
+            pasted(text);
+            ASSERT_EQ(server.addresses.size(), 1U) << text;
+            EXPECT_THAT(server.queries()[0],
+                        testing::HasSubstr(std::string("&nSeq_De=") + sent + "&nSeq_Ate=9&"));
+        }
+        click(print, "cmdCancelar");
+    });
+}
+
+TEST_F(PrintScreen, APrinterThatRefusesTheSheetOrTheDocumentIsToldAfterTheBox) {
+    const Box refused{"Descrição :impressora sem papel\r\n   Numero :482"};
+    // Two labels: the unit and the orientation, the texts, then what ends the document.
+    for (const auto& [form, failAt] : {std::pair{1, 18U}, std::pair{1, 19U}, std::pair{3, 18U},
+                                       std::pair{3, 19U}, std::pair{4, 2U + 2U * 26U}}) {
+        boxes.shown.clear();
+        printer = RecordingPrinter();
+        printer.failAt = failAt;
+        inPrinting(form, [](QWidget& print) {
+            range(print, "1", "2");
+            click(print, "cmdOk");
+            EXPECT_FALSE(print.isVisible());
+        });
+        EXPECT_THAT(boxes.shown, ElementsAre(printedBox, refused)) << form << " " << failAt;
+        EXPECT_TRUE(printer.ended());
+    }
+    boxes.shown.clear();
+    printer = RecordingPrinter();
+    printer.failAt = 2 + 25;  // the first page of the fourth form
+    inPrinting(4, [](QWidget& print) {
+        range(print, "1", "2");
+        click(print, "cmdOk");
+    });
+    EXPECT_THAT(boxes.shown, ElementsAre(refused, printedBox));
+}
+
+TEST_F(PrintScreen, WhatIsPressedWhileItFetchesAndPrintsIsLost) {
+    constexpr int many = 5000;
+    server.on("sDc_Mot_Imp=NATAL&nSeq_De=8", labels(many));
+    for (const int form : {1, 2, 3, 4}) {
+        boxes.shown.clear();
+        spooler.jobs.clear();
+        printer = RecordingPrinter();
+        inPrinting(form, [&](QWidget& print) {
+            range(print, "8", "9000");
+            QTimer impatience;
+            QObject::connect(&impatience, &QTimer::timeout, &impatience,
+                             [&print] { press(print, "cmdOk"); });
+            impatience.start(0);
+            click(print, "cmdOk");
+            impatience.stop();
+            EXPECT_FALSE(print.isVisible());
+            EXPECT_EQ(static_cast<QDialog&>(print).result(), QDialog::Accepted);
+        });
+        EXPECT_EQ(boxes.shown.size(), form == 2 ? 0U : 1U);
+        EXPECT_EQ(spooler.jobs.size(), form == 2 ? 2U : 0U);
+        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL", "8", "9000"),
+                                                  senderQuery("0"), queueQuery("NATAL"), deskQuery))
+            << "fetched once";
+    }
+}
+
+TEST_F(PrintScreen, ThirtyAndSixtyOneLabelsOnSheets) {
+    for (const auto& [count, documents] :
+         {std::pair{29, 1}, std::pair{30, 2}, std::pair{31, 2}, std::pair{61, 3}}) {
+        server.on("nSeq_De=8&nSeq_Ate=" + std::to_string(count) + "&", labels(count));
+        boxes.shown.clear();
+        printer = RecordingPrinter();
+        boxes.onShow = [&, documents](const Box&) {
+            EXPECT_THAT(printer.lines(), testing::Contains("enddoc").Times(documents - 1));
+        };
+        inPrinting(1, [count = count](QWidget& print) {
+            range(print, "8", std::to_string(count).c_str());
+            click(print, "cmdOk");
+        });
+        boxes.onShow = nullptr;
+        EXPECT_THAT(printer.lines(), testing::Contains("enddoc").Times(documents)) << count;
+        EXPECT_THAT(boxes.shown, ElementsAre(printedBox));
+    }
 }
 
 TEST_F(PrintScreen, AFieldInAnotherCaseEndsTheProgramBeforeTheSheetComesOut) {

@@ -131,6 +131,122 @@ TEST_F(QueueScreen, ChoosingTheSameReasonAgainReadsItAgain) {
     });
 }
 
+TEST_F(QueueScreen, EachWayToChooseAReasonReadsItsQueueOnce) {
+    inQueue([this](QWidget& queue) {
+        auto& reasons = named<QComboBox>(queue, "cboMotivo");
+        reasons.setFocus();
+        const auto expectRead = [this](const std::vector<std::string>& queries) {
+            EXPECT_EQ(server.queries(), queries);
+            server.addresses.clear();
+        };
+        server.addresses.clear();
+        QTest::keyClick(&reasons, Qt::Key_Down);
+        expectRead({queueQuery("NATAL")});
+        wheelDown(reasons);
+        expectRead({queueQuery("PÁSCOA")});
+        wheelDown(reasons);
+        QTest::keyClick(&reasons, Qt::Key_Down);
+        expectRead({});
+        QTest::keyClick(&reasons, Qt::Key_N);
+        expectRead({queueQuery("NATAL")});
+        QTest::keyClick(&reasons, Qt::Key_Home);
+        expectRead({queueQuery("--------")});
+        QTest::keyClick(&reasons, Qt::Key_Space);
+        QTest::keyClick(reasons.view(), Qt::Key_Down);
+        expectRead({});
+        QTest::keyClick(reasons.view(), Qt::Key_Escape);
+        expectRead({});
+        EXPECT_EQ(reasons.currentIndex(), 0) << "given up";
+        QTest::keyClick(&reasons, Qt::Key_Space);
+        QTest::keyClick(reasons.view(), Qt::Key_Down);
+        QTest::keyClick(reasons.view(), Qt::Key_Return);
+        expectRead({queueQuery("NATAL")});
+        EXPECT_TRUE(queue.isVisible());
+    });
+}
+
+TEST_F(QueueScreen, AnOpenListShowsItsReasonsWhole) {
+    const std::string campaign = "MALA DIRETA PARA OS CLIENTES DA REGIÃO METROPOLITANA DO ANO DE ";
+    server = ScriptedLoader();
+    server.on("sel_dados_empresa", answers::branch("F"))
+        .on("sel_motivos", answers::rowset("<z:row DC_MOT_IMP='" + campaign + "2011'/>" +
+                                           "<z:row DC_MOT_IMP='" + campaign + "2012'/>"))
+        .on("sel_filiais_remetente", answers::rowset(""))
+        .on("sel_etiquetas", labels(1));
+    inQueue([](QWidget& queue) {
+        auto& reasons = named<QComboBox>(queue, "cboMotivo");
+        reasons.setFocus();
+        QTest::keyClick(&reasons, Qt::Key_Space);
+        const QAbstractItemView& open = *reasons.view();
+        ASSERT_TRUE(open.isVisible());
+        EXPECT_GE(open.viewport()->width(), open.sizeHintForColumn(0));
+        QTest::keyClick(reasons.view(), Qt::Key_Escape);
+    });
+}
+
+TEST_F(QueueScreen, TheSenderIsChosenByKeyAndWheelToo) {
+    inReadQueue(4, [this](QWidget& queue) {
+        auto& senders = named<QComboBox>(queue, "CboFilialRemet");
+        senders.setFocus();
+        const auto printed = [&] {
+            server.addresses.clear();
+            printing(queue, [](QWidget& print) {
+                range(print, "1", "2");
+                click(print, "cmdOk");
+            });
+            return server.queries().at(1);
+        };
+        QTest::keyClick(&senders, Qt::Key_Down);
+        EXPECT_EQ(printed(), senderQuery("12"));
+        wheelDown(senders);
+        EXPECT_EQ(printed(), senderQuery("13"));
+    });
+}
+
+TEST_F(QueueScreen, WhatIsPressedDuringARequestIsLost) {
+    inQueue([this](QWidget& queue) {
+        server.addresses.clear();
+        pressSoon(queue, "cmdImprimir");
+        pick(queue, "cboMotivo", natal);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(queue.isVisible());
+        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL")));
+        EXPECT_EQ(rows(queue), 2);
+    });
+    EXPECT_THAT(boxes.shown, IsEmpty());
+}
+
+TEST_F(QueueScreen, ServerTextsAreShownAsTheyAre) {
+    server = ScriptedLoader();
+    server.on("sel_dados_empresa", answers::branch("F"))
+        .on("sel_motivos", answers::rowset("<z:row DC_MOT_IMP=' A &amp;B &lt;b&gt;x&lt;/b&gt; '/>"
+                                           "<z:row/>"))
+        .on("sel_filiais_remetente", answers::rowset("<z:row FILIAL='&lt;i&gt;Z' ID_ETB='-7'/>"))
+        .on("sel_etiquetas", labels(1))
+        .on("sel_dados_remetente", sender);
+    inQueue([this](QWidget& queue) {
+        const std::string reason = " A &B <b>x</b> ";
+        EXPECT_THAT(items(queue, "cboMotivo"), ElementsAre("--------", reason, ""));
+        EXPECT_THAT(items(queue, "CboFilialRemet"), ElementsAre("--------", "<i>Z"));
+        pick(queue, "cboMotivo", 2);
+        EXPECT_EQ(server.queries().back(), queueQuery("")) << "a reason without a text";
+        pick(queue, "cboMotivo", 1);
+        EXPECT_EQ(server.queries().back(), queueQuery(reason));
+        deleting(queue, [&reason](QWidget& deletion) {
+            EXPECT_THAT(items(deletion, "cboMotivo"), ElementsAre(reason));
+            click(deletion, "cmdCancelar");
+        });
+        pick(queue, "cboTp_Form", 4);
+        pick(queue, "CboFilialRemet", 1);
+        printing(queue, [this](QWidget& print) {
+            server.addresses.clear();
+            range(print, "1", "1");
+            click(print, "cmdOk");
+            EXPECT_EQ(server.queries()[1], senderQuery("-7"));
+        });
+    });
+}
+
 TEST_F(QueueScreen, NoReasonChosenByHandIsAskedForOnceAndNotOnReturning) {
     inQueue([this](QWidget& queue) {
         pick(queue, "cboMotivo", natal);

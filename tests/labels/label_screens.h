@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
+#include <QWheelEvent>
 #include <functional>
 
 #include "label_answers.h"
@@ -111,6 +112,28 @@ protected:
     }
     static std::string text(const QWidget& screen, const char* field) {
         return named<QLineEdit>(screen, field).text().toStdString();
+    }
+    // One notch of the mouse wheel over a drop-down list.
+    static void wheelDown(QWidget& list) {
+        const QPointF middle = list.rect().center();
+        QWheelEvent notch(middle, list.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&list, &notch);
+    }
+    // An impatient user: the next time that events are taken in, the button is pressed by
+    // key, and the screen left by Esc and by its frame.
+    static void press(QWidget& screen, const char* button) {
+        for (const Qt::Key stroke : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape}) {
+            for (QWidget* target : {&named<QWidget>(screen, button), &screen}) {
+                for (const QEvent::Type way : {QEvent::KeyPress, QEvent::KeyRelease}) {
+                    QCoreApplication::postEvent(target, new QKeyEvent(way, stroke, Qt::NoModifier));
+                }
+            }
+        }
+        QCoreApplication::postEvent(&screen, new QCloseEvent);
+    }
+    static void pressSoon(QWidget& screen, const char* button) {
+        QTimer::singleShot(0, &screen, [&screen, button] { press(screen, button); });
     }
     // What the label beside a field says.
     static std::string labelOf(const QWidget& screen, const char* field) {

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
+#include <QImageReader>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -190,6 +191,25 @@ TEST_F(QtPrinterTest, PicturesAtTheirNaturalSize) {
     EXPECT_NEAR(inkAround(page, 210, 210).height(), 127, 3);
     EXPECT_NEAR(inkAround(page, 210, 610).width(), 127, 3);
     EXPECT_NEAR(inkAround(page, 210, 610).height(), 63, 3);
+}
+
+// A scan of a whole sheet has more dots than the toolkit decodes of its own accord; here
+// its limit is lowered instead.
+TEST_F(QtPrinterTest, APictureOfVeryManyDotsPrintsToo) {
+    constexpr int megabyte = 1;
+    const int usual = QImageReader::allocationLimit();
+    QImageReader::setAllocationLimit(megabyte);
+    QImage scan(800, 600, QImage::Format_RGB32);
+    scan.fill(Qt::black);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(scan.save(&buffer, "JPG"));
+    ASSERT_TRUE(QImage::fromData(bytes).isNull()) << "beyond the limit";
+    printer_.PaintPicture({"picLogo", bytes.toStdString()}, 2, 2);
+    EXPECT_EQ(printer_.EndDoc(), std::nullopt);
+    QImageReader::setAllocationLimit(usual);
+    EXPECT_TRUE(isInk(pageOf("job-001.pdf"), 300, 300));
 }
 
 TEST_F(QtPrinterTest, APageBeginsWithTheFirstThingDrawnOnIt) {

@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QImage>
+#include <QImageReader>
 #include <QPainter>
 #include <QPen>
 #include <QPrinter>
@@ -20,6 +21,8 @@ constexpr double metresPerInch = 0.0254;
 constexpr double dotsPerInch = 600;
 // Size of a picture whose file doesn't tell one.
 constexpr double pictureDotsPerInch = 96;
+// Decoded: an A4 sheet scanned at 1200 dots per inch takes half of it.
+constexpr int pictureMegabytes = 1024;
 
 struct Substitute {
     const char* wanted;
@@ -158,6 +161,7 @@ private:
     const QImage& imageOf(const std::string& bytes) {
         const auto [place, isNew] = images_.try_emplace(&bytes);
         if (isNew) {
+            QImageReader::setAllocationLimit(pictureMegabytes);
             place->second = QImage::fromData(
                 QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
         }
