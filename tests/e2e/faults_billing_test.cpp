@@ -21,9 +21,7 @@ class BillingFaults : public NoteFaults {
 protected:
     void SetUp() override {
         NoteFaults::SetUp();
-        open("mOFT");
-        ASSERT_EQ(grid::rows(orders()), orderCount);
-        forget();
+        openOrders();
     }
     std::vector<FaultCase> lostAnswers() {
         std::vector<FaultCase> lost = leaving({Left::Nothing});

@@ -26,6 +26,11 @@ protected:
                                    45012, 45013, 45014, 45015, 45017, 45018, 45019};
         return std::to_string(plain.at(taken_++));
     }
+    void openOrders() {
+        open("mOFT");
+        ASSERT_EQ(grid::rows(orders()), orderCount);
+        forget();
+    }
     QTableView& orders() { return gridOf(menu); }
     // -1 for an order that isn't on the list.
     int rowOf(const std::string& order) {
@@ -37,12 +42,13 @@ protected:
         return -1;
     }
     bool timerRuns() { return named<QTimer>(menu, "Timer").isActive(); }
-    // Clicks the order and the button that makes its note.
-    void generate(const std::string& order) {
+    // Clicks the order and a button.
+    void press(const std::string& order, const char* button) {
         ASSERT_GE(rowOf(order), 1);
         grid::click(orders(), rowOf(order), 2);
-        click(menu, "cmdSelecionar");
+        click(menu, button);
     }
+    void generate(const std::string& order) { press(order, "cmdSelecionar"); }
     // The number of the order's note on the server; empty without one.
     std::string noteOf(const std::string& order) {
         const auto numbers = stored("SELECT number FROM note WHERE order_id = " + order, 1);
