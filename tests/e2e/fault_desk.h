@@ -53,15 +53,20 @@ inline constexpr FaultCase hugeAnswer{"huge", FaultKind::Huge, Left::Nothing, tr
 inline constexpr char refusalText[] =
     "Recusa de treino: o servidor de prática não atende a este comando. Tente mais tarde.";
 inline const Box refusal{refusalText, BoxIcon::Exclamation, "TarnEmissao"};
-inline const Box endReport{
-    "Erro em tempo de execução '91':\r\rFalta um dado na resposta do servidor.\r\rO programa será "
-    "encerrado. Anote esta mensagem e avise o suporte.",
-    BoxIcon::Critical, "TarnEmissao"};
-inline const Box endReportWithNote{
-    endReport.text +
+// What ends the program where an answer lacks what it must have; `detail` as the screen
+// adds it.
+inline Box endReport(const std::string& detail = "") {
+    return {"Erro em tempo de execução '91':\r\rFalta um dado na resposta do servidor" + detail +
+                ".\r\rO programa será encerrado. Anote esta mensagem e avise o suporte.",
+            BoxIcon::Critical, "TarnEmissao"};
+}
+inline Box endReportWithNote() {
+    Box report = endReport();
+    report.text +=
         "\r\rA Nota Fiscal pode ter sido gerada no servidor. Caso tenha sido gerada, utilize a "
-        "tela de Reimpressão de Nota Fiscal para imprimi-la.",
-    BoxIcon::Critical, "TarnEmissao"};
+        "tela de Reimpressão de Nota Fiscal para imprimi-la.";
+    return report;
+}
 
 // "ERRO Tarn0004" and so on.
 inline Box noInternet(const std::string& number) {

@@ -114,7 +114,7 @@ TEST_F(BillingFaults, AGenerationWithoutADeclarationEndsTheProgramWithTheWayToTh
     page.fail("SP_GERA_NF", {FaultKind::NoDeclaration, {}});
     const std::string order = takeOrder();
     generate(order);
-    EXPECT_THAT(boxes.shown, ElementsAre(endReportWithNote));
+    EXPECT_THAT(boxes.shown, ElementsAre(endReportWithNote()));
     EXPECT_EQ(fim.status(), 3);
     EXPECT_THAT(spooler.calls, IsEmpty());
     EXPECT_TRUE(found(noteOf(order)));
@@ -178,7 +178,7 @@ TEST_F(BillingFaults, ADocumentWithoutADeclarationEndsTheProgramWithTheWayToTheN
     page.fail("sel_gera_nf", {FaultKind::NoDeclaration, {}});
     const std::string order = takeOrder();
     generate(order);
-    EXPECT_THAT(boxes.shown, ElementsAre(endReportWithNote));
+    EXPECT_THAT(boxes.shown, ElementsAre(endReportWithNote()));
     EXPECT_EQ(fim.status(), 3);
     EXPECT_TRUE(found(noteOf(order)));
     EXPECT_THAT(spooler.calls, IsEmpty());

@@ -16,6 +16,8 @@ const Box noCustomers{
 const Box noCustomerFound{"Pesquisa nao encontrou nenhum registro.     ", BoxIcon::Information,
                           "Aviso"};
 
+const Box companyMissing = endReport(": os dados da empresa (sel_dados_empresa) não vieram");
+
 class BillFaults : public FaultDesk {
 protected:
     static constexpr int bills = 1;  // of cboTpDocto
@@ -88,6 +90,33 @@ TEST_F(BillFaults, BranchesThatDontComeLeaveTheFirstItem) {
             EXPECT_GT(search(screen), 0);
         });
     });
+}
+
+// The company stands on every page: without it none is drawn, and the program ends.
+TEST_F(BillFaults, WithoutTheCompanyNothingIsDrawnAndTheProgramEnds) {
+    inBills([this](QWidget& screen) {
+        search(screen);
+        grid::click(gridOf(screen), 1, 1);
+        forget();
+        page.fail("sel_dados_empresa", {FaultKind::CutXml, {}});
+        click(screen, "cmdImprimir");
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0009"), companyMissing));
+        EXPECT_THAT(printer.operations, IsEmpty());
+    });
+    EXPECT_EQ(fim.status(), 3);
+}
+
+TEST_F(BillFaults, ACompanyOfNoRowsEndsTheProgramToo) {
+    inBills([this](QWidget& screen) {
+        search(screen);
+        grid::click(gridOf(screen), 1, 1);
+        forget();
+        page.fail("sel_dados_empresa", {FaultKind::Refuse, {}});
+        click(screen, "cmdImprimir");
+        EXPECT_THAT(boxes.shown, ElementsAre(companyMissing));
+        EXPECT_THAT(printer.operations, IsEmpty());
+    });
+    EXPECT_EQ(fim.status(), 3);
 }
 
 TEST_F(BillFaults, CustomersThatDontComeLeaveTheOnesFoundBefore) {

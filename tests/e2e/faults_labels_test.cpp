@@ -90,6 +90,17 @@ TEST_F(LabelFaults, APrintWithoutItsLabelsOrItsSenderKeepsTheRange) {
                     EXPECT_EQ(text(print, "txtAte"), "2");
                 });
             }
+            under({"sel_dados_remetente"}, leaving({Left::Refusal}), [&](const FaultCase&) {
+                click(print, "cmdOk");
+                ASSERT_EQ(boxes.shown.size(), 1U);
+                EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
+                EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
+                EXPECT_THAT(boxes.shown[0].text,
+                            testing::StartsWith("Erro em tempo de execução '91':\r\r"));
+                EXPECT_THAT(printer.operations, IsEmpty());
+                EXPECT_TRUE(print.isVisible());
+                EXPECT_FALSE(fim.encerrado());
+            });
             forget();
             click(print, "cmdOk");
             EXPECT_THAT(boxes.shown, ElementsAre(printed));
@@ -147,6 +158,30 @@ TEST_F(LabelFaults, ReasonsThatDontComeLeaveTheFirstItem) {
               });
               choose(menu, "mnuEtiquetas", "mnuImprClientes");
           });
+}
+
+TEST_F(LabelFaults, ASelectionWithoutItsListsOrItsRowsStaysOpenAndEmpty) {
+    const Box noInternetWide = noInternet("ERRO    Tarn0009");
+    modals.then("FrmImprEtiq", [&](QWidget& selection) {
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternetWide, noInternetWide));
+        for (const char* list : {"cboPais", "cboFilial", "cboEstado", "cboCidade"}) {
+            EXPECT_EQ(named<QComboBox>(selection, list).count(), 0) << list;
+        }
+        page.heal();
+        under({"sel_dados_etq"}, leaving({Left::Nothing}), [&](const FaultCase&) {
+            click(selection, "cmdPesquisar");
+            ASSERT_EQ(boxes.shown.size(), 2U) << "the command, then its failure";
+            EXPECT_EQ(boxes.shown[0].icon, BoxIcon::None);
+            EXPECT_THAT(boxes.shown[0].text, testing::StartsWith("comando=sel_dados_etq&"));
+            EXPECT_EQ(boxes.shown[1], noInternetWide);
+            EXPECT_EQ(grid::rows(gridOf(selection)), 0);
+            EXPECT_TRUE(selection.isVisible());
+        });
+        click(selection, "cmdVoltar");
+    });
+    page.fail("sel_pais", {FaultKind::ServerError, {}});
+    page.fail("sel_filias", {FaultKind::Html, {}});
+    menu.abreSelecaoEtiquetas();
 }
 
 }  // namespace

@@ -82,7 +82,7 @@ TEST_F(OrderFaults, ARefusedObservationOrStockStopsTheNote) {
 TEST_F(OrderFaults, AStockWithoutADeclarationEndsTheProgram) {
     page.fail("Seleciona_Obs_Ord_X_Est", {FaultKind::NoDeclaration, {}});
     generate(takeOrder());
-    EXPECT_THAT(boxes.shown, ElementsAre(endReport));
+    EXPECT_THAT(boxes.shown, ElementsAre(endReport()));
     EXPECT_EQ(fim.status(), 3);
     EXPECT_EQ(notes(), 0U);
 }
@@ -112,7 +112,7 @@ TEST_F(OrderFaults, ACancellationWithoutADeclarationEndsTheProgram) {
     page.fail("sp_can_oft", {FaultKind::NoDeclaration, {}});
     const std::string order = takeOrder();
     press(order, "CmdCanOft");
-    EXPECT_EQ(boxes.shown.back(), endReport);
+    EXPECT_EQ(boxes.shown.back(), endReport());
     EXPECT_EQ(fim.status(), 3);
     EXPECT_FALSE(listed(order));
 }
@@ -176,7 +176,7 @@ TEST_F(OrderFaults, ASheetWithoutItsOrderIsntPrinted) {
     page.fail("sel_impr_ordem_fatu", {FaultKind::NoDeclaration, {}});
     forget();
     press(takeOrder(), "cmdImprimirOF");
-    EXPECT_THAT(boxes.shown, ElementsAre(endReport));
+    EXPECT_THAT(boxes.shown, ElementsAre(endReport()));
     EXPECT_THAT(spooler.calls, IsEmpty());
     EXPECT_EQ(fim.status(), 3);
 }

@@ -214,6 +214,25 @@ TEST_F(SlipFaults, ARefusedPortfolioLeavesTheBankToTheRowOrToNobody) {
     });
 }
 
+TEST_F(SlipFaults, ListsThatDontComeLeaveTheirFirstItems) {
+    under({"sel_filiais", "sel_carteira"}, leaving({Left::Nothing}), [this](const FaultCase&) {
+        modals.then("frmPesqBoleto", [this](QWidget& opened) {
+            const Box failed = noInternet("ERRO    Tarn0009");
+            EXPECT_THAT(boxes.shown, ElementsAre(failed, failed));
+            EXPECT_EQ(named<QComboBox>(opened, "cboFilial").currentText(),
+                      QStringLiteral("<-TODAS->"));
+            EXPECT_EQ(named<QComboBox>(opened, "cboCartCob").currentText(),
+                      QStringLiteral("--------"));
+            EXPECT_EQ(named<QComboBox>(opened, "cboCartCob").count(), 1);
+            click(opened, "cmdImprimir");
+            EXPECT_EQ(boxes.shown.back(),
+                      information("Carteira Cobrança é um campo obrigatório!     "));
+            click(opened, "cmdVoltar");
+        });
+        choose(menu, "mnuBoleto");
+    });
+}
+
 TEST_F(SlipFaults, ASearchWithoutAnAnswerLeavesTheGrid) {
     inSlips(wallet57, true, [this] {
         const int before = grid::rows(gridOf(*screen));

@@ -132,10 +132,10 @@ TEST_P(NameFaults, TheNameThatDoesntComeEndsTheProgram) {
     QTimer::singleShot(0, &menu, [this] { menu.carrega(); });
     ASSERT_TRUE(QTest::qWaitFor([this] { return fim.encerrado() || !branch().empty(); }));
     if (fault.left == Left::Nothing) {
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0009"), endReport));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0009"), endReport()));
         EXPECT_EQ(fim.status(), 3);
     } else if (fault.left == Left::Refusal) {
-        EXPECT_THAT(boxes.shown, ElementsAre(endReport)) << "no row";
+        EXPECT_THAT(boxes.shown, ElementsAre(endReport())) << "no row";
         EXPECT_EQ(fim.status(), 3);
     } else {
         EXPECT_THAT(boxes.shown, IsEmpty()) << "a list has no status";
@@ -176,7 +176,7 @@ TEST_F(StartFaults, ARightWithoutADeclarationEndsTheProgram) {
     logOn();
     page.fail("verifica_direito_acesso", {FaultKind::NoDeclaration, {}});
     open("mOFT");
-    EXPECT_THAT(boxes.shown, ElementsAre(endReport));
+    EXPECT_THAT(boxes.shown, ElementsAre(endReport()));
     EXPECT_EQ(fim.status(), 3);
     EXPECT_EQ(menu.findChild<FrmOFT*>(), nullptr);
 }
