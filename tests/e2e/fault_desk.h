@@ -9,6 +9,7 @@
 #include <array>
 #include <chrono>
 #include <functional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,10 @@ struct FaultCase {
     Left left;
     bool carriedOut;  // the command, by the server
 };
+
+inline void PrintTo(const FaultCase& fault, std::ostream* out) {
+    *out << fault.name;
+}
 
 inline constexpr std::array faultCases{
     FaultCase{"close-before", FaultKind::CloseBefore, Left::Nothing, false},

@@ -16,6 +16,11 @@ const Box noObservation = alertBox(
 const Box notSaved = alertBox("Favor verificar se os dados da Ordem de Faturamento foi gravado. ");
 constexpr char askedOrder[] = "45006";  // its sale has an observation
 
+Box questionFor(const std::string& order) {
+    return {"Confirma o cancelamento da Ordem de Faturamento nº " + order + " ?     ",
+            BoxIcon::Question, "Aviso", BoxButtons::YesNo};
+}
+
 class OrderFaults : public NoteFaults {
 protected:
     void SetUp() override {
@@ -71,7 +76,7 @@ TEST_F(OrderFaults, ARefusedObservationOrStockStopsTheNote) {
         under({command}, leaving({Left::Refusal}), [&](const FaultCase&) {
             generate(takeOrder());
             EXPECT_THAT(boxes.shown, ElementsAre(refusal));
-            EXPECT_EQ(takeCommands().back(), command);
+            EXPECT_THAT(takeCommands(), testing::Contains(command));
             EXPECT_EQ(notes(), 0U);
             EXPECT_FALSE(timerRuns());
         });
@@ -91,9 +96,7 @@ TEST_F(OrderFaults, ACancellationThatFailsIsToBeCheckedByHand) {
     under({"sp_can_oft"}, leaving({Left::Nothing, Left::Refusal}), [this](const FaultCase& fault) {
         const std::string order = takeOrder();
         press(order, "CmdCanOft");
-        const Box question{
-            "Confirma o cancelamento da Ordem de Faturamento nº " + order + " ?     ",
-            BoxIcon::Question, "Aviso", BoxButtons::YesNo};
+        const Box question = questionFor(order);
         if (fault.left == Left::Refusal) {
             EXPECT_THAT(boxes.shown, ElementsAre(question, refusal));
         } else {
@@ -112,7 +115,7 @@ TEST_F(OrderFaults, ACancellationWithoutADeclarationEndsTheProgram) {
     page.fail("sp_can_oft", {FaultKind::NoDeclaration, {}});
     const std::string order = takeOrder();
     press(order, "CmdCanOft");
-    EXPECT_EQ(boxes.shown.back(), endReport());
+    EXPECT_THAT(boxes.shown, ElementsAre(questionFor(order), endReport()));
     EXPECT_EQ(fim.status(), 3);
     EXPECT_FALSE(listed(order));
 }

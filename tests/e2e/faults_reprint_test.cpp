@@ -64,10 +64,12 @@ TEST_F(ReprintFaults, ASearchWithoutAnAnswerLeavesTheFields) {
         click(reprint(), "cmdPesquisar");
         EXPECT_EQ(shown("LBLNOTA"), "") << "what was typed forgot the note found before";
         EXPECT_EQ(text(reprint(), "txtNF"), note);
-        EXPECT_EQ(boxes.shown.size(), 2U);
         click(reprint(), "cmdSelecionar");
-        EXPECT_EQ(boxes.shown.back(),
-                  alertBox("Preencha o campo Nro da NF e a série e clique em pesquisar!!!"));
+        EXPECT_THAT(boxes.shown,
+                    ElementsAre(noInternet("ERRO Tarn0007"),
+                                alertBox("Houve um problema na Pesquisa da Nota Fiscal !!!"),
+                                alertBox("Preencha o campo Nro da NF e a série e clique em "
+                                         "pesquisar!!!")));
     });
     under({"SEL_NF"}, leaving({Left::NoDeclaration, Left::All}), [this](const FaultCase&) {
         type(reprint(), "txtNF", note.c_str());
