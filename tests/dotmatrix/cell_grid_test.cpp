@@ -3,9 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <utility>
+#include <vector>
 
+#include "cheques/imprime_cheque.h"
 #include "dotmatrix/note_streams.h"
 #include "dotmatrix/printer_rig.h"
+#include "support/test_environment.h"
 
 namespace tarn::dotmatrix {
 namespace {
@@ -31,10 +35,13 @@ const Command kCommands[] = {{"\x0F\x1B\x1B\x47", 126},
                              {"\x1B\x0F\x0F", 126},
                              {"\x1B\x17", 0},
                              {"\x1B\x23", 0},
+                             {"\x1B\x32", 0},
+                             {bytesOf("\x1B\x41\x06"), 0},
                              {"\x12", -1},
                              {"\x0F", 126}};
 
-// Counts along the jobs' bytes. Byte 12 goes back to ten an inch where nothing selects
+// Counts along the jobs' bytes. Twelve an inch, once selected by ESC M, stays: condensed
+// is then twenty. Byte 12 goes back to ten an inch where nothing selects
 // twelve, and to twelve where ESC M did.
 class Count {
 public:
@@ -47,7 +54,7 @@ public:
         for (std::size_t at = 0; at < bytes.size();) {
             if (const Command* command = commandAt(bytes, at)) {
                 elite_ |= command->bytes.back() == 'M';
-                cell_ = command->cell > 0   ? command->cell
+                cell_ = command->cell > 0   ? (elite_ ? 108 : command->cell)
                         : command->cell < 0 ? (elite_ ? 180 : 216)
                                             : cell_;
                 at += command->bytes.size();
@@ -134,6 +141,66 @@ TEST_P(CellGrid, TooManyParcels) {
     test::NoteCase note;
     note.parcels = 13;
     check(note);
+}
+
+// Prints the stream's jobs and holds the paper against the count.
+ContinuousPaper gridOf(const std::vector<std::string>& streams) {
+    PrinterRig rig;
+    Count count(216);
+    std::size_t job = 0;
+    for (const std::string& bytes : streams) {
+        rig.job(bytes);
+        EXPECT_EQ(printedBy(rig.paper, ++job), count.job(bytes)) << "job " << job;
+    }
+    EXPECT_EQ(rig.printer.notices().total(), rig.count(NoticeKind::RepeatedEscape));
+    return std::move(rig.paper);
+}
+
+ContinuousPaper chequeOf(std::int16_t bank) {
+    TestEnvironment desk;
+    ImprimeCheque(desk.environment, {.nNr_Ofi_Ban = bank,
+                                     .sValor = "1.234,56",
+                                     .sFavorecido = "FERRAGENS TRES IRMAOS",
+                                     .sDataDeposito = "07/03/2009",
+                                     .sNmMun = "CAMPINAS"});
+    std::vector<std::string> streams;
+    for (const auto& job : desk.spooler.jobs) {
+        streams.push_back(job.bytes());
+    }
+    EXPECT_EQ(streams.size(), 1U);
+    return gridOf(streams);
+}
+
+TEST(OtherStreams, AChequeIsCondensedAndStruckTwice) {
+    const ContinuousPaper paper = chequeOf(1);
+    ASSERT_GT(paper.lines().size(), 2U);
+    for (const PaperLine& line : paper.lines()) {
+        EXPECT_EQ(line.y % 360, 0);  // six lines an inch
+        EXPECT_EQ(line.cells.front().width, 126);
+        EXPECT_EQ(line.cells.front().style, kDoubleStrike);
+    }
+}
+
+// Bank 33 sets its lines 6/72 inch apart.
+TEST(OtherStreams, TheChequeOfBank33HasNarrowLines) {
+    const ContinuousPaper paper = chequeOf(33);
+    ASSERT_GT(paper.lines().size(), 2U);
+    for (const PaperLine& line : paper.lines()) {
+        EXPECT_EQ(line.y, static_cast<PaperUnits>(line.jobLine - 1) * 180);
+    }
+}
+
+// The set-up of a slip and of a matrix label: condensed at twelve an inch in a job of its
+// own; then six lines an inch, condensed, double strike.
+TEST(OtherStreams, ASlipIsTwentyAnInchAndStruckTwice) {
+    const ContinuousPaper paper =
+        gridOf({" \x0F\x1BM",
+                " \x1B"
+                "2 \x0F\x1BG    BANCO\r\n\r\n     07/03/2009   1.234,56\r\n"});
+    ASSERT_EQ(paper.lines().size(), 2U);
+    EXPECT_EQ(paper.lines()[1].y, 2 * 360);
+    EXPECT_EQ(paper.lines()[1].cells.front().x, 5 * 108);
+    EXPECT_EQ(paper.lines()[1].cells.front().style, kDoubleStrike);
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, CellGrid, testing::ValuesIn(test::allForms()),

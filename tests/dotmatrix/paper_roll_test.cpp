@@ -124,7 +124,7 @@ TEST(PaperRoll, AnotherPanelPrintsAllJobsAgain) {
     PrinterRig rig([] {
         Dialect panel;
         panel.condensed = true;
-        panel.formHeight = 33 * 360;
+        panel.formHeight = PaperUnits{33} * 360;
         return panel;
     }());
     roll.startJob("a");
