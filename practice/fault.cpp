@@ -147,8 +147,7 @@ std::optional<std::string> FaultPlan::add(std::string_view text) {
                "COMANDO=FALHA.";
     }
     const std::string_view name = text.substr(0, equals);
-    const Command* command = findCommand(name);
-    if (command == nullptr) {
+    if (findCommand(name) == nullptr) {
         return "O comando \"" + std::string(name) +
                "\" não existe neste servidor. Confira "
                "--falha.";
@@ -158,8 +157,16 @@ std::optional<std::string> FaultPlan::add(std::string_view text) {
     if (!fault) {
         return "A falha \"" + std::string(kind) + "\" não existe. Use " + faultNames() + '.';
     }
-    faults_.insert_or_assign(std::string(command->name), *fault);
+    add(name, *fault);
     return std::nullopt;
+}
+
+bool FaultPlan::add(std::string_view command, const Fault& fault) {
+    const Command* known = findCommand(command);
+    if (known != nullptr) {
+        faults_.insert_or_assign(std::string(known->name), fault);
+    }
+    return known != nullptr;
 }
 
 std::optional<Fault> FaultPlan::of(std::string_view command) const {

@@ -38,6 +38,8 @@ public:
     // "COMANDO=falha", as told on the command line. Gives the reason, for the user,
     // where it can't be taken. A command told twice keeps the last fault.
     std::optional<std::string> add(std::string_view text);
+    // False where the catalogue has no such command; nothing is then taken.
+    bool add(std::string_view command, const Fault& fault);
     std::optional<Fault> of(std::string_view command) const;
     bool empty() const { return faults_.empty(); }
 

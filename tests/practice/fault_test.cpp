@@ -204,6 +204,18 @@ TEST(Fault, IsToldByTheCommandsNameInAnyCase) {
     EXPECT_FALSE(plan.of("LOGIN"));
 }
 
+TEST(Fault, IsTakenAsItIsForACommandOfTheCatalogue) {
+    FaultPlan plan;
+    EXPECT_TRUE(plan.add("LOGIN", Fault{FaultKind::Refuse, {}}));
+    EXPECT_TRUE(plan.add("login", Fault{FaultKind::Slow, std::chrono::milliseconds(20)}));
+    ASSERT_TRUE(plan.of("LOGIN"));
+    EXPECT_EQ(plan.of("LOGIN")->kind, FaultKind::Slow);
+    EXPECT_EQ(plan.of("LOGIN")->wait, std::chrono::milliseconds(20));
+    FaultPlan none;
+    EXPECT_FALSE(none.add("NADA", Fault{}));
+    EXPECT_TRUE(none.empty());
+}
+
 TEST(Fault, SaysWhyItCannotBeTaken) {
     FaultPlan plan;
     EXPECT_EQ(plan.add("LOGIN"),

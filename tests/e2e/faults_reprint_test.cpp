@@ -1,0 +1,160 @@
+// A server that fails at the reprint screen, in both of its jobs.
+#include "note_faults.h"
+
+namespace tarn {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const Box notFound = alertBox("Nota Fiscal não encontrada ou Cancelada !!!    ");
+
+class ReprintFaults : public NoteFaults {
+protected:
+    void openWithNote(const char* entry) {
+        note = makeNote();
+        open(entry);
+        search(note);
+        expectFound();
+        forget();
+    }
+    void expectFound() {
+        EXPECT_EQ(shown("LBLNOTA"), note);
+        EXPECT_EQ(shown("LblTipoNf"), "Venda de mercadoria");
+        EXPECT_EQ(shown("LblDtEm"), "05/09/2012");
+        EXPECT_EQ(shown("LBLCliente"), "PANIFICADORA E CONFEITARIA PÃO DE ARAÇÁS LTDA");
+        EXPECT_EQ(text(reprint(), "txtNF"), note);
+        EXPECT_EQ(named<QComboBox>(reprint(), "cboSerie").currentIndex(), series1);
+    }
+
+    std::string note;
+};
+
+TEST_F(ReprintFaults, ListsThatDontComeOnOpeningShowTheirNumbersAlone) {
+    under({"SEL_SERIE_NF", "SEL_MOT_CAN"}, leaving({Left::Nothing}), [this](const FaultCase&) {
+        open("mCNF");
+        EXPECT_THAT(boxes.shown,
+                    ElementsAre(noInternet("ERRO Tarn0010"), noInternet("ERRO Tarn0011")));
+        boxes.shown.clear();
+        click(reprint(), "cmdPesquisar");
+        click(reprint(), "cmdSelecionar");
+        EXPECT_THAT(boxes.shown, ElementsAre(alertBox("Selecione a série da Nota.     "),
+                                             alertBox("Selecione a série da Nota ")));
+        close<FrmReImprimeNF>();
+    });
+}
+
+TEST_F(ReprintFaults, ASearchWithoutAnAnswerLeavesTheFields) {
+    openWithNote("mRINF");
+    under({"SEL_NF"}, leaving({Left::Nothing}), [this](const FaultCase&) {
+        click(reprint(), "cmdPesquisar");
+        EXPECT_THAT(boxes.shown,
+                    ElementsAre(noInternet("ERRO Tarn0007"),
+                                alertBox("Houve um problema na Pesquisa da Nota Fiscal !!!")));
+        EXPECT_THAT(takeCommands(), ElementsAre("SEL_NF"));
+        expectFound();
+    });
+    under({"SEL_NF"}, leaving({Left::Refusal}), [this](const FaultCase&) {
+        click(reprint(), "cmdPesquisar");
+        EXPECT_THAT(boxes.shown, ElementsAre(notFound)) << "no rows";
+        expectFound();
+    });
+    under({"SEL_NF"}, leaving({Left::Nothing}), [this](const FaultCase&) {
+        type(reprint(), "txtNF", note.c_str());
+        click(reprint(), "cmdPesquisar");
+        EXPECT_EQ(shown("LBLNOTA"), "") << "what was typed forgot the note found before";
+        EXPECT_EQ(text(reprint(), "txtNF"), note);
+        click(reprint(), "cmdSelecionar");
+        EXPECT_THAT(boxes.shown,
+                    ElementsAre(noInternet("ERRO Tarn0007"),
+                                alertBox("Houve um problema na Pesquisa da Nota Fiscal !!!"),
+                                alertBox("Preencha o campo Nro da NF e a série e clique em "
+                                         "pesquisar!!!")));
+    });
+    under({"SEL_NF"}, leaving({Left::NoDeclaration, Left::All}), [this](const FaultCase&) {
+        type(reprint(), "txtNF", note.c_str());
+        click(reprint(), "cmdPesquisar");
+        EXPECT_THAT(boxes.shown, IsEmpty()) << "its status isn't looked at";
+        expectFound();
+    });
+}
+
+TEST_F(ReprintFaults, APrintWithoutItsDocumentIsToldAndCanBeRepeated) {
+    openWithNote("mRINF");
+    under({"sel_gera_nf"}, leaving({Left::Nothing, Left::Refusal, Left::NoDeclaration}),
+          [this](const FaultCase& fault) {
+              click(reprint(), "cmdSelecionar");
+              switch (fault.left) {
+                  case Left::Refusal:
+                      EXPECT_THAT(boxes.shown, ElementsAre(refusal));
+                      break;
+                  case Left::NoDeclaration:
+                      EXPECT_THAT(boxes.shown,
+                                  ElementsAre(alertBox("Houve um problema na transferência dos "
+                                                       "dados da Nota Fiscal nº " +
+                                                       note + ". ")));
+                      break;
+                  default:
+                      EXPECT_THAT(boxes.shown,
+                                  ElementsAre(noInternet("ERRO Tarn0008"),
+                                              alertBox("Houve um problema na transferência dos "
+                                                       "dados da Nota Fiscal !!!")));
+              }
+              EXPECT_THAT(takeCommands(), ElementsAre("sel_gera_nf"));
+              EXPECT_THAT(spooler.calls, IsEmpty());
+              expectFound();
+              EXPECT_FALSE(fim.encerrado());
+              page.heal();
+              boxes.shown.clear();
+              click(reprint(), "cmdSelecionar");
+              EXPECT_THAT(boxes.shown, IsEmpty());
+              expectPrinted(note);
+          });
+}
+
+TEST_F(ReprintFaults, ASlowDocumentIsPrintedOnce) {
+    openWithNote("mRINF");
+    under({"sel_gera_nf"}, leaving({Left::All}), [this](const FaultCase&) {
+        QTimer::singleShot(slowWait / 2, &menu, [this] { click(reprint(), "cmdSelecionar"); });
+        click(reprint(), "cmdSelecionar");
+        EXPECT_THAT(takeCommands(), ElementsAre("sel_gera_nf"));
+        expectPrinted(note);
+    });
+}
+
+TEST_F(ReprintFaults, ACancellationThatFailsIsToldByWhatIsKnownOfIt) {
+    open("mCNF");
+    under({"sp_can_nf"}, leaving({Left::Nothing, Left::Refusal, Left::NoDeclaration}),
+          [this](const FaultCase& fault) {
+              note = makeNote();
+              search(note);
+              QTest::mouseClick(&named<QWidget>(reprint(), "OptionReimp_1"), Qt::LeftButton, {},
+                                {8, 8});
+              pickIn(menu, "CboMot_Can", 1);
+              click(reprint(), "cmdSelecionar");
+              switch (fault.left) {
+                  case Left::Refusal:
+                      EXPECT_THAT(boxes.shown, ElementsAre(refusal));
+                      break;
+                  case Left::NoDeclaration:
+                      EXPECT_THAT(boxes.shown,
+                                  ElementsAre(alertBox(
+                                      "Houve um problema no Cancelamento da Nota Fiscal nº " +
+                                      note + ". ")));
+                      break;
+                  default:
+                      EXPECT_THAT(boxes.shown,
+                                  ElementsAre(noInternet("ERRO Tarn0009"),
+                                              alertBox("Favor verificar se a Nota Fiscal foi "
+                                                       "cancelada. ")));
+              }
+              EXPECT_THAT(takeCommands(), ElementsAre("SEL_NF", "sp_can_nf"));
+              EXPECT_EQ(shown("LBLNOTA"), note);
+              EXPECT_EQ(named<QComboBox>(reprint(), "CboMot_Can").currentIndex(), 1);
+              EXPECT_EQ(found(note), !fault.carriedOut);
+              EXPECT_FALSE(fim.encerrado());
+          });
+}
+
+}  // namespace
+}  // namespace tarn
