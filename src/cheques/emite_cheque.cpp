@@ -146,9 +146,18 @@ bool emiteCheque(Environment& ambiente, const Sessao& sessao, const CamposCheque
     }
     imprime(ambiente, campos, pegaTexto(empresa.selectSingleNode("xml/rs:data"), 0, "NM_MUN"));
     XmlDocument resposta;
-    return pede(ambiente, comando::adiciona_controle_cheque_emitido(sessao, chequeDe(campos)),
-                resposta, falha::Tarn0009) &&
-           chequeGravado(ambiente, resposta);
+    if (!pede(ambiente, comando::adiciona_controle_cheque_emitido(sessao, chequeDe(campos)),
+              resposta, falha::Tarn0009)) {
+        return false;
+    }
+    try {
+        return chequeGravado(ambiente, resposta);
+    } catch (const ErroExecucao& erro) {
+        throw ErroExecucao(erro.numero(),
+                           "o cheque nº " + std::string(trimBlanks(campos.numero)) +
+                               " foi impresso e talvez não esteja gravado no servidor; confira-o "
+                               "pelo número e série antes de imprimir outro");
+    }
 }
 
 bool chequeGravado(Environment& ambiente, const XmlDocument& resposta) {

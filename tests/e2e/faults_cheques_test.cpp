@@ -138,7 +138,10 @@ TEST_F(ChequeFaults, ARecordWithoutADeclarationEndsTheProgramBehindThePaper) {
         forget();
         page.fail("adiciona_controle_cheque_emitido", {FaultKind::NoDeclaration, {}});
         click(*screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(endReport()));
+        EXPECT_THAT(boxes.shown, ElementsAre(endReport(
+                                     ": o cheque nº 901 foi impresso e talvez não esteja gravado "
+                                     "no servidor; confira-o pelo número e série antes de "
+                                     "imprimir outro"))));
         expectPaper(1);
         expectFilled("901");
     });
