@@ -141,7 +141,7 @@ TEST_F(ChequeFaults, ARecordWithoutADeclarationEndsTheProgramBehindThePaper) {
         EXPECT_THAT(boxes.shown, ElementsAre(endReport(
                                      ": o cheque nº 901 foi impresso e talvez não esteja gravado "
                                      "no servidor; confira-o pelo número e série antes de "
-                                     "imprimir outro"))));
+                                     "imprimir outro")));
         expectPaper(1);
         expectFilled("901");
     });
