@@ -198,6 +198,7 @@ TEST_F(QueueScreen, TheSenderIsChosenByKeyAndWheelToo) {
         };
         QTest::keyClick(&senders, Qt::Key_Down);
         EXPECT_EQ(printed(), senderQuery("12"));
+        senders.setFocus();  // a list that isn't in use doesn't turn
         wheelDown(senders);
         EXPECT_EQ(printed(), senderQuery("13"));
     });
