@@ -11,8 +11,8 @@ constexpr int recibo = 2;
 constexpr int carteira57 = 1;
 
 constexpr int caixa = 0;  // column of the check boxes
-constexpr const char* inicioDoAno = "01012012";
-constexpr const char* fimDoAno = "31122012";
+constexpr const char* desdeSempre = "01012000";
+constexpr const char* ateSempre = "31122099";
 
 void marcaAsPrimeiras(QWidget& tela, int quantas) {
     for (int linha = 0; linha < quantas; ++linha) {
@@ -36,7 +36,7 @@ void escreveDuplicatas(Roteiro& roteiro) {
         .quando("FrmPesqDupli", "",
                 [&](QWidget& tela) {
                     escolheNaLista(tela, "cboTpDocto", duplicata);
-                    digita(tela, "txtDtVncAte", fimDoAno);
+                    digita(tela, "txtDtVncAte", ateSempre);
                     clica(tela, "cmdPesquisar");
                     marcaAsPrimeiras(tela, 2);
                     roteiro.fotografa(tela, "duplicatas");
@@ -61,8 +61,8 @@ void escreveBoletos(Roteiro& roteiro) {
         .quando("frmPesqBoleto", "",
                 [](QWidget& tela) {
                     clica(tela, "cmdLimpar");
-                    digita(tela, "txtDtEmsDe", inicioDoAno);
-                    digita(tela, "txtDtVncAte", fimDoAno);
+                    digita(tela, "txtDtEmsDe", desdeSempre);
+                    digita(tela, "txtDtVncAte", ateSempre);
                     clica(tela, "cmdPesquisar");
                 })
         .quando("MessageBox", "carteira-obrigatoria", aceita)
