@@ -198,7 +198,11 @@ TEST_F(QueueScreen, TheSenderIsChosenByKeyAndWheelToo) {
         };
         QTest::keyClick(&senders, Qt::Key_Down);
         EXPECT_EQ(printed(), senderQuery("12"));
-        senders.setFocus();  // a list that isn't in use doesn't turn
+        // A list that isn't in use doesn't turn, and off-screen the activation doesn't
+        // come back by itself.
+        queue.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&queue));
+        senders.setFocus();
         wheelDown(senders);
         EXPECT_EQ(printed(), senderQuery("13"));
     });
