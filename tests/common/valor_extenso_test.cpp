@@ -136,7 +136,7 @@ TEST(ValorExtenso, EveryCentOfSmallAndLargeAmounts) {
             const double valor = static_cast<double>(whole * 100 + cents) / 100;
             std::string wanted = spelled(cents) + (cents == 1 ? " CENTAVO" : " CENTAVOS");
             if (whole > 0) {
-                wanted = spelled(whole) + (whole == 1 ? " REAL" : " REAIS") + " E " + wanted;
+                wanted.insert(0, spelled(whole) + (whole == 1 ? " REAL" : " REAIS") + " E ");
             }
             ASSERT_EQ(ValorExtenso(valor), wanted) << whole << "," << cents;
         }
