@@ -8,19 +8,15 @@
 #include "bills/imprime_duplicata.h"
 #include "bills/pesquisa_duplicata.h"
 #include "common/andamento.h"
+#include "common/campos_pesquisa.h"
 #include "common/enter_no_botao.h"
-#include "common/field_families.h"
 #include "common/grade_model.h"
 #include "common/lista_combo.h"
 #include "platform/message_boxes.h"
-#include "session/aparencia.h"
 #include "ui_frm_pesq_dupli.h"
 
 namespace tarn {
 namespace {
-
-// A field's tag: the code behind what it shows.
-constexpr char tag[] = "Tag";
 
 // The columns without a width are for the printing alone.
 constexpr std::array<ColunaGrade, colunasDuplicata> colunas{
@@ -48,7 +44,6 @@ constexpr std::array<ColunaGrade, colunasDuplicata> colunas{
      {"Estado Cobrança", 20},
      {"CEP Cobrança", 17}}};
 constexpr int linhasVisiveis = 14;
-constexpr int larguraData = 13;    // characters
 constexpr int alturaDaFigura = 2;  // lines
 
 // Decoded at the size shown, however many dots the file has. Nothing for no picture.
@@ -82,16 +77,9 @@ FrmPesqDupli::FrmPesqDupli(DeskContext& desk, QWidget* parent)
 FrmPesqDupli::~FrmPesqDupli() = default;
 
 void FrmPesqDupli::preparaCampos() {
-    QPalette paraLeitura = palette();
-    paraLeitura.setColor(QPalette::Base, paraLeitura.color(QPalette::Window));
-    ui_->txtCliente->setPalette(paraLeitura);
-    new FieldController(ui_->txtCliente, KeyFilter::None, desk_.ambiente,
-                        FieldController::EnterKey::TabOnly);
-    for (QLineEdit* campo :
-         {ui_->txtDtEmsDe, ui_->txtDtEmsAte, ui_->txtDtVncDe, ui_->txtDtVncAte}) {
-        new DateField(campo, KeyFilter::NumeroVirgula, desk_.ambiente);
-        campo->setFixedWidth(larguraData * campo->fontMetrics().averageCharWidth());
-    }
+    preparaCampoCliente(*ui_->txtCliente, desk_.ambiente);
+    preparaDatas({ui_->txtDtEmsDe, ui_->txtDtEmsAte, ui_->txtDtVncDe, ui_->txtDtVncAte},
+                 desk_.ambiente);
     for (QRadioButton* opcao : {ui_->optDupl, ui_->optTripl}) {
         QSizePolicy lugar = opcao->sizePolicy();
         lugar.setRetainSizeWhenHidden(true);
@@ -99,12 +87,9 @@ void FrmPesqDupli::preparaCampos() {
     }
 }
 
-// An access key brings the focus along, so that the date being typed is completed.
 void FrmPesqDupli::preparaBotoes() {
     const auto prepara = [this](QPushButton* botao, const char* desenho, auto rotina) {
-        poeFigura(*botao, desenho);
-        botao->setAutoDefault(false);
-        connect(botao, &QPushButton::pressed, botao, [botao] { botao->setFocus(); });
+        preparaBotao(*botao, desenho);
         connect(botao, &QPushButton::clicked, this, rotina);
     };
     prepara(ui_->cmdPesqCli, "pesquisar_cliente", &FrmPesqDupli::cmdPesqCli_Click);
@@ -115,9 +100,7 @@ void FrmPesqDupli::preparaBotoes() {
 }
 
 void FrmPesqDupli::recebeCliente(const Cliente& cliente) {
-    ui_->txtCliente->setProperty(tag, QString::fromStdString(cliente.id));
-    ui_->txtCliente->setText(QString::fromStdString(cliente.nome));
-    ui_->txtCliente->setCursorPosition(0);
+    mostraCliente(*ui_->txtCliente, cliente.id, cliente.nome);
 }
 
 // The first activation comes when the screen stands before the user.
@@ -166,7 +149,7 @@ void FrmPesqDupli::cmdPesquisar_Click() {
     const std::int32_t tipo = dadoDaLista(*ui_->cboTpDocto);
     ui_->optDupl->setVisible(tipo == tipoDuplicata);
     ui_->optTripl->setVisible(tipo == tipoDuplicata);
-    const std::string cliente = ui_->txtCliente->property(tag).toString().toStdString();
+    const std::string cliente = idDoCliente(*ui_->txtCliente);
     const std::string vencimentoDe = ui_->txtDtVncDe->text().toStdString();
     const std::string emissaoDe = ui_->txtDtEmsDe->text().toStdString();
     const std::string emissaoAte = ui_->txtDtEmsAte->text().toStdString();

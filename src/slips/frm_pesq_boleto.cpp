@@ -4,12 +4,12 @@
 #include <array>
 
 #include "common/andamento.h"
+#include "common/campos_pesquisa.h"
 #include "common/enter_no_botao.h"
-#include "common/field_families.h"
+#include "common/field_controller.h"
 #include "common/grade_model.h"
 #include "common/lista_combo.h"
 #include "platform/message_boxes.h"
-#include "session/aparencia.h"
 #include "session/resposta.h"
 #include "slips/imprime_boletos.h"
 #include "slips/pesquisa_boleto.h"
@@ -17,9 +17,6 @@
 
 namespace tarn {
 namespace {
-
-// A field's tag: the code behind what it shows.
-constexpr char tag[] = "Tag";
 
 // The columns without a width are for the printing alone.
 constexpr std::array<ColunaGrade, colunasBoleto> colunas{
@@ -53,7 +50,6 @@ constexpr std::array<ColunaGrade, colunasBoleto> colunas{
      {"CD_EXT", 0},
      {"NR_DOC_NF", 0}}};
 constexpr int linhasVisiveis = 14;
-constexpr int larguraData = 13;    // characters
 constexpr int larguraNumero = 18;  // characters
 
 std::string texto(const QLineEdit& campo) {
@@ -78,28 +74,18 @@ frmPesqBoleto::frmPesqBoleto(DeskContext& desk, QWidget* parent)
 frmPesqBoleto::~frmPesqBoleto() = default;
 
 void frmPesqBoleto::preparaCampos() {
-    QPalette paraLeitura = palette();
-    paraLeitura.setColor(QPalette::Base, paraLeitura.color(QPalette::Window));
-    ui_->txtCliente->setPalette(paraLeitura);
-    new FieldController(ui_->txtCliente, KeyFilter::None, desk_.ambiente,
-                        FieldController::EnterKey::TabOnly);
-    for (QLineEdit* campo :
-         {ui_->txtDtEmsDe, ui_->txtDtEmsAte, ui_->txtDtVncDe, ui_->txtDtVncAte}) {
-        new DateField(campo, KeyFilter::NumeroVirgula, desk_.ambiente);
-        campo->setFixedWidth(larguraData * campo->fontMetrics().averageCharWidth());
-    }
+    preparaCampoCliente(*ui_->txtCliente, desk_.ambiente);
+    preparaDatas({ui_->txtDtEmsDe, ui_->txtDtEmsAte, ui_->txtDtVncDe, ui_->txtDtVncAte},
+                 desk_.ambiente);
     QLineEdit& numero = *ui_->txtNr_Bol_Banc;
     new FieldController(&numero, KeyFilter::NumeroVirgula, desk_.ambiente);
     onlyTakes(numero, QStringLiteral("[0-9,]*"), desk_.ambiente.machine);
     numero.setFixedWidth(larguraNumero * numero.fontMetrics().averageCharWidth());
 }
 
-// An access key brings the focus along, so that the date being typed is completed.
 void frmPesqBoleto::preparaBotoes() {
     const auto prepara = [this](QPushButton* botao, const char* desenho, auto rotina) {
-        poeFigura(*botao, desenho);
-        botao->setAutoDefault(false);
-        connect(botao, &QPushButton::pressed, botao, [botao] { botao->setFocus(); });
+        preparaBotao(*botao, desenho);
         connect(botao, &QPushButton::clicked, this, rotina);
     };
     prepara(ui_->cmdPesqCli, "pesquisar_cliente", &frmPesqBoleto::cmdPesqCli_Click);
@@ -111,9 +97,7 @@ void frmPesqBoleto::preparaBotoes() {
 }
 
 void frmPesqBoleto::recebeCliente(const Cliente& cliente) {
-    ui_->txtCliente->setProperty(tag, QString::fromStdString(cliente.id));
-    ui_->txtCliente->setText(QString::fromStdString(cliente.nome));
-    ui_->txtCliente->setCursorPosition(0);
+    mostraCliente(*ui_->txtCliente, cliente.id, cliente.nome);
 }
 
 // The first activation comes when the screen stands before the user.
@@ -155,7 +139,7 @@ void frmPesqBoleto::cmdPesqCli_Click() {
 }
 
 void frmPesqBoleto::cmdPesquisar_Click() {
-    const std::string cliente = ui_->txtCliente->property(tag).toString().toStdString();
+    const std::string cliente = idDoCliente(*ui_->txtCliente);
     const std::string vencimentoDe = texto(*ui_->txtDtVncDe);
     const std::string vencimentoAte = texto(*ui_->txtDtVncAte);
     const std::string emissaoDe = texto(*ui_->txtDtEmsDe);
