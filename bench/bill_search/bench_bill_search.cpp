@@ -17,13 +17,15 @@
 #include "common/grade_model.h"
 #include "session/desk_application.h"
 #include "session/desk_context.h"
+#include "support/answer_at_hand.h"
 #include "support/answers.h"
 #include "support/measure.h"
 #include "support/parse_alone.h"
-#include "support/test_environment.h"
 
 namespace {
 
+using tarn::bench::AnswerAtHand;
+using tarn::bench::environmentOver;
 using tarn::bench::leastOf;
 using tarn::bench::parseAlone;
 using tarn::bench::secondsOf;
@@ -50,26 +52,10 @@ std::string documentsOf(int rows) {
     return tarn::answers::rowset(all);
 }
 
-class AnswerAtHand : public tarn::HttpLoader {
-public:
-    tarn::HttpAnswer get(const std::string& /*address*/) override { return {true, *answer_}; }
-    void setAnswer(const std::string& answer) { answer_ = &answer; }
-
-private:
-    const std::string* answer_ = nullptr;
-};
-
 // The search shown in a window of its own, its fields filled.
 class ShownSearch {
 public:
-    explicit ShownSearch(AnswerAtHand& server)
-        : environment_{.http = server,
-                       .spooler = seams_.spooler,
-                       .printer = seams_.printer,
-                       .boxes = seams_.boxes,
-                       .clock = seams_.clock,
-                       .machine = seams_.machine,
-                       .baseUrl = "http://servidor/p.asp?"} {
+    explicit ShownSearch(AnswerAtHand& server) : environment_(environmentOver(server, seams_)) {
         screen_.show();
         QCoreApplication::processEvents();
         screen_.findChild<QComboBox*>("cboTpDocto")->setCurrentIndex(kindOfBills);

@@ -12,12 +12,14 @@
 #include "billing/frm_oft.h"
 #include "session/desk_application.h"
 #include "session/desk_context.h"
+#include "support/answer_at_hand.h"
 #include "support/answers.h"
 #include "support/measure.h"
-#include "support/test_environment.h"
 
 namespace {
 
+using tarn::bench::AnswerAtHand;
+using tarn::bench::environmentOver;
 using tarn::bench::leastOf;
 using tarn::bench::secondsOf;
 
@@ -41,26 +43,10 @@ std::string ordersOf(int rows) {
     return tarn::answers::rowset(all);
 }
 
-class AnswerAtHand : public tarn::HttpLoader {
-public:
-    tarn::HttpAnswer get(const std::string& /*address*/) override { return {true, *answer_}; }
-    void setAnswer(const std::string& answer) { answer_ = &answer; }
-
-private:
-    const std::string* answer_ = nullptr;
-};
-
 // The order list shown in a window of its own.
 class ShownList {
 public:
-    explicit ShownList(AnswerAtHand& server)
-        : environment_{.http = server,
-                       .spooler = seams_.spooler,
-                       .printer = seams_.printer,
-                       .boxes = seams_.boxes,
-                       .clock = seams_.clock,
-                       .machine = seams_.machine,
-                       .baseUrl = "http://servidor/p.asp?"} {
+    explicit ShownList(AnswerAtHand& server) : environment_(environmentOver(server, seams_)) {
         screen_.show();
         QCoreApplication::processEvents();
     }
