@@ -154,8 +154,10 @@ void BusyDesk::numberSlip() {
     }
     for (const XmlNode& row : rowsOf(list)) {
         const std::string number = field(row, "NR_DOC");
-        if (field(row, "TIPO_DOCTO") != "DOCTO_COBRANCA" || !isOwn(number.substr(0, 6)) ||
-            below(4) != 0) {
+        // A note of this run may be cancelled by another desk, and takes its bills along.
+        const bool ofThisRun = number >= "001000";
+        if (field(row, "TIPO_DOCTO") != "DOCTO_COBRANCA" || ofThisRun ||
+            !isOwn(number.substr(0, 6)) || below(4) != 0) {
             continue;
         }
         const std::string kind = field(row, "ID_TIP_DOC");
