@@ -24,7 +24,8 @@ if(TARN_FUZZ)
   target_link_options(tarn_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# tarn_add_library(NAME): a static library whose rooms add their own sources.
+# tarn_add_library(NAME): a static library whose rooms add their own sources; apps and
+# practice include by their own folder's name.
 function(tarn_add_library name)
   add_library(${name} STATIC)
   target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
@@ -39,7 +40,7 @@ function(tarn_add_test name)
   find_package(GTest REQUIRED)
   include(GoogleTest)
   add_executable(${name} ${arg_SOURCES})
-  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
   if(arg_QT)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_link_libraries(${name} PRIVATE tarn_options ${arg_LIBRARIES} GTest::gtest GTest::gmock)

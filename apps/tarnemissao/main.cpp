@@ -1,7 +1,7 @@
 // The desk.
 #include <cstdio>
 
-#include "mesa.h"
+#include "desk/desk_assembly.h"
 
 int main(int argc, char** argv) {
     const auto lidas = tarn::leOpcoes(

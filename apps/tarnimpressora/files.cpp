@@ -1,4 +1,4 @@
-#include "files.h"
+#include "apps/tarnimpressora/files.h"
 
 #include <QFile>
 #include <cstdio>

@@ -4,9 +4,9 @@
 #include <QString>
 #include <cstddef>
 
+#include "apps/tarnimpressora/options.h"
 #include "dotmatrix/paper_painter.h"
 #include "dotmatrix/paper_roll.h"
-#include "options.h"
 
 namespace tarn::impressora {
 

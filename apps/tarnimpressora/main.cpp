@@ -3,14 +3,14 @@
 #include <cstdio>
 #include <variant>
 
-#include "dotmatrix/form_loader.h"
-#include "dotmatrix/form_text.h"
-#include "dotmatrix/layout_forms.h"
+#include "apps/tarnimpressora/files.h"
+#include "apps/tarnimpressora/options.h"
+#include "apps/tarnimpressora/with_window.h"
+#include "apps/tarnimpressora/without_window.h"
+#include "dotmatrix/form_file.h"
 #include "dotmatrix/print_mode.h"
-#include "files.h"
-#include "options.h"
-#include "with_window.h"
-#include "without_window.h"
+#include "forms/form_loader.h"
+#include "forms/layout_forms.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "options.h"
+#include "apps/tarnimpressora/options.h"
 
 #include <CLI/CLI.hpp>
 #include <cmath>

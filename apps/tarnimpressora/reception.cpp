@@ -1,4 +1,4 @@
-#include "reception.h"
+#include "apps/tarnimpressora/reception.h"
 
 #include <QDir>
 #include <QFile>

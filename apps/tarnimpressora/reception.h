@@ -4,10 +4,10 @@
 #include <QString>
 #include <memory>
 
-#include "dotmatrix/intake/folder_watch.h"
-#include "dotmatrix/intake/job_intake.h"
-#include "dotmatrix/intake/job_server.h"
-#include "options.h"
+#include "apps/tarnimpressora/options.h"
+#include "printer/folder_watch.h"
+#include "printer/job_intake.h"
+#include "printer/job_server.h"
 
 namespace tarn::impressora {
 

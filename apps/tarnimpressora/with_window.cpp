@@ -1,11 +1,11 @@
-#include "with_window.h"
+#include "apps/tarnimpressora/with_window.h"
 
 #include <QApplication>
 
-#include "dotmatrix/window/printer_window.h"
-#include "files.h"
-#include "reception.h"
-#include "session/aparencia.h"
+#include "apps/tarnimpressora/files.h"
+#include "apps/tarnimpressora/reception.h"
+#include "printer/printer_window.h"
+#include "widgets/look.h"
 
 namespace tarn::impressora {
 

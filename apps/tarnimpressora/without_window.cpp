@@ -1,11 +1,11 @@
-#include "without_window.h"
+#include "apps/tarnimpressora/without_window.h"
 
 #include <QGuiApplication>
 #include <QTimer>
 #include <cstdio>
 
-#include "files.h"
-#include "reception.h"
+#include "apps/tarnimpressora/files.h"
+#include "apps/tarnimpressora/reception.h"
 
 namespace tarn::impressora {
 

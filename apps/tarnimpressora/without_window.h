@@ -1,8 +1,8 @@
 // The program without a window: jobs in, files out.
 #pragma once
 
+#include "apps/tarnimpressora/options.h"
 #include "dotmatrix/paper_painter.h"
-#include "options.h"
 
 namespace tarn::impressora {
 

@@ -8,9 +8,9 @@
 #include <system_error>
 #include <vector>
 
-#include "comandos.h"
-#include "mesa.h"
-#include "runtime/erro_execucao.h"
+#include "apps/tarnimprime/commands.h"
+#include "apps/tarnimprime/print_environment.h"
+#include "runtime/runtime_error.h"
 #include "runtime/text.h"
 
 namespace tarn::imprime {

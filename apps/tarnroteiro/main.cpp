@@ -5,13 +5,13 @@
 #include <array>
 #include <cstdio>
 
-#include "gestos.h"
-#include "mesa.h"
-#include "retrato_impressora.h"
-#include "roteiro_cheque.h"
-#include "roteiro_cobranca.h"
-#include "roteiro_etiquetas.h"
-#include "roteiro_nota.h"
+#include "apps/tarnroteiro/cheque_walk.h"
+#include "apps/tarnroteiro/collection_walk.h"
+#include "apps/tarnroteiro/gestures.h"
+#include "apps/tarnroteiro/labels_walk.h"
+#include "apps/tarnroteiro/note_walk.h"
+#include "apps/tarnroteiro/printer_picture.h"
+#include "desk/desk_assembly.h"
 
 namespace tarn {
 namespace {

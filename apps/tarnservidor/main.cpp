@@ -8,10 +8,10 @@
 #include <thread>
 #include <vector>
 
-#include "practice/fault.h"
-#include "practice/http_front.h"
-#include "practice/practice_server.h"
-#include "practice/query_text.h"
+#include "practice/commands/query_text.h"
+#include "practice/server/fault.h"
+#include "practice/server/http_front.h"
+#include "practice/server/practice_server.h"
 #include "runtime/dates.h"
 
 namespace {

@@ -13,14 +13,14 @@
 #include <string>
 #include <vector>
 
+#include "bench/support/answer_at_hand.h"
+#include "bench/support/measure.h"
+#include "bench/support/parse_alone.h"
 #include "bills/frm_pesq_dupli.h"
-#include "common/grade_model.h"
-#include "session/desk_application.h"
-#include "session/desk_context.h"
-#include "support/answer_at_hand.h"
-#include "support/answers.h"
-#include "support/measure.h"
-#include "support/parse_alone.h"
+#include "desk/desk_application.h"
+#include "tests/support/answers.h"
+#include "widgets/desk_context.h"
+#include "widgets/grid_model.h"
 
 namespace {
 

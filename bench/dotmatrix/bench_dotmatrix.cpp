@@ -7,9 +7,9 @@
 #include <cstdlib>
 #include <fstream>
 
+#include "bench/support/measure.h"
 #include "dotmatrix/paper_export.h"
 #include "dotmatrix/paper_roll.h"
-#include "support/measure.h"
 
 namespace {
 

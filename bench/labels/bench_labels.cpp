@@ -12,15 +12,15 @@
 #include <utility>
 #include <vector>
 
-#include "labels/imprime_etiquetas.h"
-#include "labels/imprime_selecao.h"
-#include "labels/selecao.h"
+#include "bench/support/measure.h"
+#include "labels/customer_selection.h"
+#include "labels/print_labels.h"
+#include "labels/print_selection.h"
 #include "platform/environment.h"
 #include "platform/printer.h"
 #include "platform/spooler.h"
-#include "support/answers.h"
-#include "support/measure.h"
-#include "support/test_environment.h"
+#include "tests/support/answers.h"
+#include "tests/support/test_environment.h"
 
 namespace {
 

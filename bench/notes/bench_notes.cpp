@@ -13,16 +13,16 @@
 #include <string_view>
 #include <vector>
 
+#include "bench/support/measure.h"
+#include "bench/support/parse_alone.h"
 #include "common/raw_channel.h"
-#include "notes/imprime_nota.h"
+#include "gateway/xml_document.h"
 #include "notes/layouts/layouts.h"
 #include "notes/pipeline.h"
+#include "notes/print_note.h"
 #include "platform/environment.h"
 #include "platform/printer.h"
-#include "session/xml_document.h"
-#include "support/measure.h"
-#include "support/parse_alone.h"
-#include "support/test_environment.h"
+#include "tests/support/test_environment.h"
 
 namespace {
 

@@ -9,12 +9,12 @@
 #include <string>
 #include <vector>
 
+#include "bench/support/answer_at_hand.h"
+#include "bench/support/measure.h"
 #include "billing/frm_oft.h"
-#include "session/desk_application.h"
-#include "session/desk_context.h"
-#include "support/answer_at_hand.h"
-#include "support/answers.h"
-#include "support/measure.h"
+#include "desk/desk_application.h"
+#include "tests/support/answers.h"
+#include "widgets/desk_context.h"
 
 namespace {
 

@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
-#include "support/answers.h"
-#include "support/loopback_server.h"
-#include "support/measure.h"
+#include "bench/support/measure.h"
+#include "tests/support/answers.h"
+#include "tests/support/loopback_server.h"
 
 namespace {
 

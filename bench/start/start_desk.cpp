@@ -1,7 +1,7 @@
 // The desk as it is delivered, up to the painted logon. The argument is the server's
 // address.
-#include "end_at_paint.h"
-#include "mesa.h"
+#include "bench/start/end_at_paint.h"
+#include "desk/desk_assembly.h"
 
 int main(int argc, char** argv) {
     if (argc != 2) {

@@ -1,5 +1,5 @@
 // The least that Qt can show: a window with nothing in it.
-#include "end_at_paint.h"
+#include "bench/start/end_at_paint.h"
 
 int main(int argc, char** argv) {
     const QApplication program(argc, argv);

@@ -4,7 +4,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "end_at_paint.h"
+#include "bench/start/end_at_paint.h"
 
 int main(int argc, char** argv) {
     const QApplication program(argc, argv);

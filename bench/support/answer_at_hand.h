@@ -4,7 +4,7 @@
 #include <string>
 
 #include "platform/http_loader.h"
-#include "support/test_environment.h"
+#include "tests/support/test_environment.h"
 
 namespace tarn::bench {
 

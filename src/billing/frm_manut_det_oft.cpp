@@ -4,12 +4,12 @@
 #include <algorithm>
 #include <array>
 
-#include "billing/manutencao.h"
-#include "common/enter_no_botao.h"
-#include "common/field_families.h"
+#include "billing/order_maintenance.h"
 #include "platform/message_boxes.h"
-#include "session/aparencia.h"
 #include "ui_frm_manut_det_oft.h"
+#include "widgets/enter_presses_button.h"
+#include "widgets/field_families.h"
+#include "widgets/look.h"
 
 namespace tarn {
 namespace {
@@ -61,8 +61,8 @@ void frmManutDetOFT::preparaCampos() {
 
 void frmManutDetOFT::preparaBotoes() {
     const int lado = fontMetrics().height() * 2;
-    ui_->cmdOk->setIcon(figura(QStringLiteral("gravar")));
-    ui_->cmdCancelar->setIcon(figura(QStringLiteral("desistir")));
+    ui_->cmdOk->setIcon(figura(QStringLiteral("save")));
+    ui_->cmdCancelar->setIcon(figura(QStringLiteral("give_up")));
     for (QPushButton* botao : {ui_->cmdOk, ui_->cmdCancelar}) {
         botao->setIconSize({lado, lado});
     }

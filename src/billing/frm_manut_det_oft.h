@@ -5,8 +5,8 @@
 #include <QDialog>
 #include <memory>
 
-#include "billing/ordens.h"
-#include "session/desk_context.h"
+#include "billing/orders.h"
+#include "widgets/desk_context.h"
 
 class QLineEdit;
 

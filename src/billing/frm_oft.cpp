@@ -10,15 +10,15 @@
 #include <array>
 
 #include "billing/frm_manut_det_oft.h"
-#include "billing/gera_nota.h"
-#include "billing/imprime_ordem.h"
-#include "billing/observacoes.h"
-#include "billing/ordens_model.h"
-#include "common/frm_mensagem_alerta.h"
+#include "billing/frm_mensagem_alerta.h"
+#include "billing/generate_note.h"
+#include "billing/observations.h"
+#include "billing/order_model.h"
+#include "billing/print_order.h"
 #include "platform/message_boxes.h"
 #include "platform/qt/wait_cursor.h"
-#include "session/aparencia.h"
 #include "ui_frm_oft.h"
+#include "widgets/look.h"
 
 namespace tarn {
 namespace {
@@ -73,12 +73,12 @@ void FrmOFT::preparaBotoes() {
         botao->setIconSize({lado, lado});
         connect(botao, &QPushButton::clicked, this, rotina);
     };
-    prepara(ui_->cmdSelecionar, "gerar_nota", &FrmOFT::cmdSelecionar_Click);
-    prepara(ui_->CmdFechar, "fechar", &FrmOFT::CmdFechar_Click);
-    prepara(ui_->CmdAtualizar, "atualizar", &FrmOFT::loadSpread);
-    prepara(ui_->CmdCanOft, "cancelar_ordem", &FrmOFT::CmdCanOft_Click);
-    prepara(ui_->cmdImprimirOF, "imprimir_ordem", &FrmOFT::cmdImprimirOF_Click);
-    prepara(ui_->cmdDetOFT, "alterar_ordem", &FrmOFT::cmdDetOFT_Click);
+    prepara(ui_->cmdSelecionar, "generate_note", &FrmOFT::cmdSelecionar_Click);
+    prepara(ui_->CmdFechar, "close", &FrmOFT::CmdFechar_Click);
+    prepara(ui_->CmdAtualizar, "refresh", &FrmOFT::loadSpread);
+    prepara(ui_->CmdCanOft, "cancel_order", &FrmOFT::CmdCanOft_Click);
+    prepara(ui_->cmdImprimirOF, "print_order", &FrmOFT::cmdImprimirOF_Click);
+    prepara(ui_->cmdDetOFT, "edit_order", &FrmOFT::cmdDetOFT_Click);
 }
 
 // Wide enough for the columns that have a heading.

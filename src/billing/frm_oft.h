@@ -6,8 +6,8 @@
 #include <memory>
 #include <optional>
 
-#include "billing/ordens.h"
-#include "session/desk_context.h"
+#include "billing/orders.h"
+#include "widgets/desk_context.h"
 
 class QTimer;
 

@@ -5,15 +5,15 @@
 #include <QKeyEvent>
 #include <array>
 
-#include "bills/imprime_duplicata.h"
-#include "bills/pesquisa_duplicata.h"
-#include "common/andamento.h"
-#include "common/campos_pesquisa.h"
-#include "common/enter_no_botao.h"
-#include "common/grade_model.h"
-#include "common/lista_combo.h"
+#include "bills/bill_search.h"
+#include "bills/print_bills.h"
 #include "platform/message_boxes.h"
 #include "ui_frm_pesq_dupli.h"
+#include "widgets/combo_items.h"
+#include "widgets/enter_presses_button.h"
+#include "widgets/grid_model.h"
+#include "widgets/progress_window.h"
+#include "widgets/search_fields.h"
 
 namespace tarn {
 namespace {
@@ -92,11 +92,11 @@ void FrmPesqDupli::preparaBotoes() {
         preparaBotao(*botao, desenho);
         connect(botao, &QPushButton::clicked, this, rotina);
     };
-    prepara(ui_->cmdPesqCli, "pesquisar_cliente", &FrmPesqDupli::cmdPesqCli_Click);
-    prepara(ui_->cmdLimpar, "limpar", [this] { recebeCliente({}); });
-    prepara(ui_->cmdPesquisar, "pesquisar", &FrmPesqDupli::cmdPesquisar_Click);
-    prepara(ui_->cmdVoltar, "fechar", &QDialog::reject);
-    prepara(ui_->cmdImprimir, "imprimir", &FrmPesqDupli::cmdImprimir_Click);
+    prepara(ui_->cmdPesqCli, "search_customer", &FrmPesqDupli::cmdPesqCli_Click);
+    prepara(ui_->cmdLimpar, "clear", [this] { recebeCliente({}); });
+    prepara(ui_->cmdPesquisar, "search", &FrmPesqDupli::cmdPesquisar_Click);
+    prepara(ui_->cmdVoltar, "close", &QDialog::reject);
+    prepara(ui_->cmdImprimir, "print", &FrmPesqDupli::cmdImprimir_Click);
 }
 
 void FrmPesqDupli::recebeCliente(const Cliente& cliente) {

@@ -4,9 +4,9 @@
 #include <QDialog>
 #include <memory>
 
-#include "bills/figuras.h"
-#include "bills/procura_cliente.h"
-#include "session/desk_context.h"
+#include "bills/bill_pictures.h"
+#include "customers/procura_cliente.h"
+#include "widgets/desk_context.h"
 
 namespace Ui {
 class FrmPesqDupli;

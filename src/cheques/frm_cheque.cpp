@@ -4,11 +4,11 @@
 #include <QKeyEvent>
 #include <utility>
 
-#include "common/enter_no_botao.h"
-#include "common/field_families.h"
-#include "session/aparencia.h"
-#include "session/resposta.h"
+#include "gateway/answer.h"
 #include "ui_frm_cheque.h"
+#include "widgets/enter_presses_button.h"
+#include "widgets/field_families.h"
+#include "widgets/look.h"
 
 namespace tarn {
 namespace {
@@ -74,8 +74,8 @@ void frmCheque::preparaCampos() {
 
 void frmCheque::preparaBotoes() {
     const int lado = fontMetrics().height() * 2;
-    ui_->cmdImprimir->setIcon(figura(QStringLiteral("imprimir_cheque")));
-    ui_->cmdCancelar->setIcon(figura(QStringLiteral("desistir")));
+    ui_->cmdImprimir->setIcon(figura(QStringLiteral("print_cheque")));
+    ui_->cmdCancelar->setIcon(figura(QStringLiteral("give_up")));
     for (QPushButton* botao : {ui_->cmdImprimir, ui_->cmdCancelar}) {
         botao->setIconSize({lado, lado});
     }

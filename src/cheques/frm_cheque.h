@@ -7,8 +7,8 @@
 #include <memory>
 #include <vector>
 
-#include "cheques/emite_cheque.h"
-#include "session/desk_context.h"
+#include "cheques/issue_cheque.h"
+#include "widgets/desk_context.h"
 
 namespace Ui {
 class frmCheque;

@@ -9,8 +9,8 @@
 #include "common/raw_channel.h"
 #include "common/valor_extenso.h"
 #include "platform/environment.h"
-#include "runtime/erro_execucao.h"
 #include "runtime/numbers.h"
+#include "runtime/runtime_error.h"
 #include "runtime/split.h"
 #include "runtime/text.h"
 

@@ -1,7 +1,7 @@
 #include "common/raw_channel.h"
 
 #include "runtime/ascii.h"
-#include "runtime/erro_execucao.h"
+#include "runtime/runtime_error.h"
 #include "runtime/text.h"
 
 namespace tarn {

@@ -3,13 +3,13 @@
 #include <QKeyEvent>
 #include <QShowEvent>
 
-#include "common/enter_no_botao.h"
-#include "common/field_controller.h"
-#include "common/lista_combo.h"
-#include "labels/exclusao.h"
-#include "labels/valores_etiquetas.h"
-#include "session/aparencia.h"
+#include "labels/deletion.h"
+#include "labels/label_values.h"
 #include "ui_frm_excluir_etiqueta.h"
+#include "widgets/combo_items.h"
+#include "widgets/enter_presses_button.h"
+#include "widgets/field_controller.h"
+#include "widgets/look.h"
 
 namespace tarn {
 
@@ -23,8 +23,8 @@ frmExcluirEtiqueta::frmExcluirEtiqueta(DeskContext& desk, const labels::ValoresE
     for (QLineEdit* campo : {ui_->txtDe, ui_->txtAte}) {
         new FieldController(campo, KeyFilter::NumeroVirgula, desk.ambiente);
     }
-    poeFigura(*ui_->cmdOk, "cancelar_ordem");
-    poeFigura(*ui_->cmdCancelar, "desistir");
+    poeFigura(*ui_->cmdOk, "cancel_order");
+    poeFigura(*ui_->cmdCancelar, "give_up");
     connect(ui_->cmdOk, &QPushButton::clicked, this, &frmExcluirEtiqueta::cmdOk_Click);
     connect(ui_->cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
     ui_->txtDe->setFocus();

@@ -5,16 +5,16 @@
 #include <array>
 #include <vector>
 
-#include "common/andamento.h"
-#include "common/enter_no_botao.h"
-#include "common/field_families.h"
-#include "common/grade_model.h"
-#include "common/lista_combo.h"
-#include "labels/imprime_selecao.h"
-#include "labels/selecao.h"
+#include "labels/customer_selection.h"
+#include "labels/print_selection.h"
 #include "platform/qt/wait_cursor.h"
-#include "session/aparencia.h"
 #include "ui_frm_impr_etiq.h"
+#include "widgets/combo_items.h"
+#include "widgets/enter_presses_button.h"
+#include "widgets/field_families.h"
+#include "widgets/grid_model.h"
+#include "widgets/look.h"
+#include "widgets/progress_window.h"
 
 namespace tarn {
 namespace {
@@ -75,9 +75,9 @@ void FrmImprEtiq::preparaGradeDeClientes() {
 }
 
 void FrmImprEtiq::preparaBotoes() {
-    poeFigura(*ui_->cmdPesquisar, "pesquisar");
-    poeFigura(*ui_->cmdImprimir, "imprimir");
-    poeFigura(*ui_->cmdVoltar, "fechar");
+    poeFigura(*ui_->cmdPesquisar, "search");
+    poeFigura(*ui_->cmdImprimir, "print");
+    poeFigura(*ui_->cmdVoltar, "close");
     connect(ui_->cmdPesquisar, &QPushButton::clicked, this, &FrmImprEtiq::cmdPesquisar_Click);
     connect(ui_->cmdImprimir, &QPushButton::clicked, this, &FrmImprEtiq::cmdImprimir_Click);
     connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::reject);

@@ -3,14 +3,14 @@
 #include <QKeyEvent>
 #include <QShowEvent>
 
-#include "common/andamento.h"
-#include "common/enter_no_botao.h"
-#include "common/field_controller.h"
-#include "common/lista_combo.h"
-#include "labels/imprime_etiquetas.h"
-#include "labels/valores_etiquetas.h"
-#include "session/aparencia.h"
+#include "labels/label_values.h"
+#include "labels/print_labels.h"
 #include "ui_frm_imprimir_etiqueta.h"
+#include "widgets/combo_items.h"
+#include "widgets/enter_presses_button.h"
+#include "widgets/field_controller.h"
+#include "widgets/look.h"
+#include "widgets/progress_window.h"
 
 namespace tarn {
 
@@ -24,8 +24,8 @@ frmImprimirEtiqueta::frmImprimirEtiqueta(DeskContext& desk, const labels::Valore
     for (QLineEdit* campo : {ui_->txtDe, ui_->txtAte}) {
         new FieldController(campo, KeyFilter::NumeroVirgula, desk.ambiente);
     }
-    poeFigura(*ui_->cmdOk, "imprimir");
-    poeFigura(*ui_->cmdCancelar, "desistir");
+    poeFigura(*ui_->cmdOk, "print");
+    poeFigura(*ui_->cmdCancelar, "give_up");
     connect(ui_->cmdOk, &QPushButton::clicked, this, &frmImprimirEtiqueta::cmdOk_Click);
     connect(ui_->cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
 }

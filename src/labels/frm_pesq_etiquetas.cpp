@@ -4,16 +4,16 @@
 #include <array>
 #include <utility>
 
-#include "common/enter_no_botao.h"
-#include "common/grade_model.h"
-#include "common/lista_combo.h"
-#include "labels/fila.h"
 #include "labels/frm_excluir_etiqueta.h"
 #include "labels/frm_imprimir_etiqueta.h"
-#include "labels/valores_etiquetas.h"
+#include "labels/label_values.h"
+#include "labels/queue.h"
 #include "platform/qt/wait_cursor.h"
-#include "session/aparencia.h"
 #include "ui_frm_pesq_etiquetas.h"
+#include "widgets/combo_items.h"
+#include "widgets/enter_presses_button.h"
+#include "widgets/grid_model.h"
+#include "widgets/look.h"
 
 namespace tarn {
 namespace {
@@ -67,9 +67,9 @@ void frmPesqEtiquetas::preparaGradeDaFila() {
 }
 
 void frmPesqEtiquetas::preparaBotoes() {
-    poeFigura(*ui_->cmdImprimir, "imprimir");
-    poeFigura(*ui_->cmdExcluir, "cancelar_ordem");
-    poeFigura(*ui_->cmdVoltar, "fechar");
+    poeFigura(*ui_->cmdImprimir, "print");
+    poeFigura(*ui_->cmdExcluir, "cancel_order");
+    poeFigura(*ui_->cmdVoltar, "close");
     connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmPesqEtiquetas::cmdImprimir_Click);
     connect(ui_->cmdExcluir, &QPushButton::clicked, this, &frmPesqEtiquetas::cmdExcluir_Click);
     connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::reject);

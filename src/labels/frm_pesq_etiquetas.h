@@ -5,7 +5,7 @@
 #include <QDialog>
 #include <memory>
 
-#include "session/desk_context.h"
+#include "widgets/desk_context.h"
 
 namespace Ui {
 class frmPesqEtiquetas;

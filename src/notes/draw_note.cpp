@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "common/falha_impressora.h"
+#include "common/printer_failure.h"
 #include "notes/drawn_form.h"
 #include "notes/fields.h"
 #include "notes/imprime_texto_em.h"

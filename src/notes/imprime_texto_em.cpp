@@ -1,6 +1,6 @@
 #include "notes/imprime_texto_em.h"
 
-#include "common/falha_impressora.h"
+#include "common/printer_failure.h"
 #include "platform/environment.h"
 #include "platform/printer.h"
 

@@ -3,8 +3,8 @@
 #include <limits>
 
 #include "notes/run.h"
-#include "runtime/erro_execucao.h"
 #include "runtime/numbers.h"
+#include "runtime/runtime_error.h"
 
 namespace tarn::notes {
 namespace {

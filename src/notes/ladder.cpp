@@ -1,6 +1,6 @@
 // Which form a note goes on: the company and the establishment of the logon
 // decide, from top to bottom, the first row that fits.
-#include "notes/imprime_nota.h"
+#include "notes/print_note.h"
 
 namespace tarn {
 namespace {

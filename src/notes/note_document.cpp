@@ -4,8 +4,8 @@
 #include <span>
 #include <string>
 
-#include "runtime/erro_execucao.h"
 #include "runtime/numbers.h"
+#include "runtime/runtime_error.h"
 
 namespace tarn::notes {
 namespace {

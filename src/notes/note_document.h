@@ -6,9 +6,9 @@
 #include <optional>
 #include <string_view>
 
+#include "gateway/pega_valor.h"
+#include "gateway/xml_document.h"
 #include "notes/source.h"
-#include "session/pega_valor.h"
-#include "session/xml_document.h"
 
 namespace tarn::notes {
 

@@ -7,10 +7,10 @@
 #include <QStyledItemDelegate>
 #include <QVariant>
 
-#include "common/field_controller.h"
 #include "platform/qt/wait_cursor.h"
-#include "session/aparencia.h"
 #include "ui_frm_reimprime_nf.h"
+#include "widgets/field_controller.h"
+#include "widgets/look.h"
 
 namespace tarn {
 namespace {
@@ -91,10 +91,10 @@ void FrmReImprimeNF::preparaBotoes() {
         botao->setIconSize({lado, lado});
         connect(botao, &QPushButton::clicked, this, rotina);
     };
-    prepara(ui_->cmdPesquisar, "pesquisar_nota", &FrmReImprimeNF::cmdPesquisar_Click);
-    prepara(ui_->cmdSelecionar, cancelando() ? "cancelar_nota" : "reimprimir_nota",
+    prepara(ui_->cmdPesquisar, "search_note", &FrmReImprimeNF::cmdPesquisar_Click);
+    prepara(ui_->cmdSelecionar, cancelando() ? "cancel_note" : "reprint_note",
             &FrmReImprimeNF::cmdSelecionar_Click);
-    prepara(ui_->CmdFechar, "fechar", &FrmReImprimeNF::CmdFechar_Click);
+    prepara(ui_->CmdFechar, "close", &FrmReImprimeNF::CmdFechar_Click);
 }
 
 void FrmReImprimeNF::carrega() {

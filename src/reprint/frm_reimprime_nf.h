@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <memory>
 
-#include "reprint/reimpressao.h"
-#include "session/desk_context.h"
+#include "reprint/reprint_note.h"
+#include "widgets/desk_context.h"
 
 namespace Ui {
 class FrmReImprimeNF;

@@ -7,7 +7,7 @@
 #include <limits>
 #include <string>
 
-#include "runtime/erro_execucao.h"
+#include "runtime/runtime_error.h"
 #include "runtime/text.h"
 
 namespace tarn {

@@ -6,7 +6,7 @@
 #include <limits>
 
 #include "runtime/decimal.h"
-#include "runtime/erro_execucao.h"
+#include "runtime/runtime_error.h"
 #include "runtime/text.h"
 
 namespace tarn {

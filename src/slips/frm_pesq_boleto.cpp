@@ -3,17 +3,17 @@
 #include <QKeyEvent>
 #include <array>
 
-#include "common/andamento.h"
-#include "common/campos_pesquisa.h"
-#include "common/enter_no_botao.h"
-#include "common/field_controller.h"
-#include "common/grade_model.h"
-#include "common/lista_combo.h"
+#include "gateway/answer.h"
 #include "platform/message_boxes.h"
-#include "session/resposta.h"
-#include "slips/imprime_boletos.h"
-#include "slips/pesquisa_boleto.h"
+#include "slips/print_slips.h"
+#include "slips/slip_search.h"
 #include "ui_frm_pesq_boleto.h"
+#include "widgets/combo_items.h"
+#include "widgets/enter_presses_button.h"
+#include "widgets/field_controller.h"
+#include "widgets/grid_model.h"
+#include "widgets/progress_window.h"
+#include "widgets/search_fields.h"
 
 namespace tarn {
 namespace {
@@ -88,11 +88,11 @@ void frmPesqBoleto::preparaBotoes() {
         preparaBotao(*botao, desenho);
         connect(botao, &QPushButton::clicked, this, rotina);
     };
-    prepara(ui_->cmdPesqCli, "pesquisar_cliente", &frmPesqBoleto::cmdPesqCli_Click);
-    prepara(ui_->cmdLimpar, "limpar", [this] { recebeCliente({}); });
-    prepara(ui_->cmdPesquisar, "pesquisar", &frmPesqBoleto::cmdPesquisar_Click);
-    prepara(ui_->cmdImprimir, "imprimir", &frmPesqBoleto::cmdImprimir_Click);
-    prepara(ui_->cmdVoltar, "fechar", &QDialog::reject);
+    prepara(ui_->cmdPesqCli, "search_customer", &frmPesqBoleto::cmdPesqCli_Click);
+    prepara(ui_->cmdLimpar, "clear", [this] { recebeCliente({}); });
+    prepara(ui_->cmdPesquisar, "search", &frmPesqBoleto::cmdPesquisar_Click);
+    prepara(ui_->cmdImprimir, "print", &frmPesqBoleto::cmdImprimir_Click);
+    prepara(ui_->cmdVoltar, "close", &QDialog::reject);
     connect(ui_->chkInc_Carteira, &QCheckBox::clicked, this, &frmPesqBoleto::chkInc_Carteira_Click);
 }
 

@@ -5,8 +5,8 @@
 #include <QDialog>
 #include <memory>
 
-#include "bills/procura_cliente.h"
-#include "session/desk_context.h"
+#include "customers/procura_cliente.h"
+#include "widgets/desk_context.h"
 
 namespace Ui {
 class frmPesqBoleto;

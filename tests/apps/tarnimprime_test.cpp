@@ -1,6 +1,6 @@
 // tarnimprime as its users run it: the program itself, its exit status, what it
 // says and the job files it leaves.
-#include "tarnimprime_run.h"
+#include "tests/apps/tarnimprime_run.h"
 
 #include <algorithm>
 #include <cmath>

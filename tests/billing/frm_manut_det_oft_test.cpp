@@ -6,8 +6,8 @@
 #include <QMimeData>
 #include <QPushButton>
 
-#include "billing/frm_oft_fixture.h"
-#include "common/free_text_field.h"
+#include "tests/billing/frm_oft_fixture.h"
+#include "widgets/free_text_field.h"
 
 namespace tarn {
 namespace {

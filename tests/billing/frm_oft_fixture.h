@@ -9,9 +9,9 @@
 #include <string>
 
 #include "billing/frm_oft.h"
-#include "session/mdi_menu.h"
-#include "support/answers.h"
-#include "support/screen_test.h"
+#include "desk/mdi_menu.h"
+#include "tests/support/answers.h"
+#include "tests/support/screen_test.h"
 
 namespace tarn {
 

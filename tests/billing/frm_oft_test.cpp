@@ -2,7 +2,7 @@
 #include <QMdiSubWindow>
 #include <QPushButton>
 
-#include "billing/frm_oft_fixture.h"
+#include "tests/billing/frm_oft_fixture.h"
 
 namespace tarn {
 namespace {

@@ -3,11 +3,11 @@
 #include <thread>
 
 #include "billing/frm_oft.h"
-#include "common/free_text_field.h"
 #include "platform/curl/curl_loader.h"
-#include "practice/http_front.h"
-#include "practice/practice_server.h"
-#include "support/screen_test.h"
+#include "practice/server/http_front.h"
+#include "practice/server/practice_server.h"
+#include "tests/support/screen_test.h"
+#include "widgets/free_text_field.h"
 
 namespace tarn {
 namespace {

@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "bills/tela_de_duplicatas.h"
+#include "tests/bills/bill_screen_test.h"
 
 namespace tarn {
 namespace {

@@ -8,10 +8,10 @@
 #include <functional>
 
 #include "cheques/frm_cheque.h"
-#include "common/free_text_field.h"
-#include "session/mdi_menu.h"
-#include "support/answers.h"
-#include "support/screen_test.h"
+#include "desk/mdi_menu.h"
+#include "tests/support/answers.h"
+#include "tests/support/screen_test.h"
+#include "widgets/free_text_field.h"
 
 namespace tarn {
 

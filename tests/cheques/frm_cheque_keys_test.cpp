@@ -1,5 +1,5 @@
 // The cheque's screen under the clerk's hands: keys, mouse, clipboard.
-#include "cheques/frm_cheque_fixture.h"
+#include "tests/cheques/frm_cheque_fixture.h"
 
 namespace tarn {
 namespace {

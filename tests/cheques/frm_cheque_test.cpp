@@ -1,6 +1,6 @@
 #include "cheques/frm_cheque.h"
 
-#include "cheques/frm_cheque_fixture.h"
+#include "tests/cheques/frm_cheque_fixture.h"
 
 namespace tarn {
 namespace {

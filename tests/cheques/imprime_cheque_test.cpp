@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "runtime/erro_execucao.h"
-#include "support/test_environment.h"
+#include "runtime/runtime_error.h"
+#include "tests/support/test_environment.h"
 
 namespace tarn {
 namespace {

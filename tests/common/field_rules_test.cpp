@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "runtime/erro_execucao.h"
-#include "support/fixed_machine.h"
-#include "support/scripted_boxes.h"
+#include "runtime/runtime_error.h"
+#include "tests/support/fixed_machine.h"
+#include "tests/support/scripted_boxes.h"
 
 namespace tarn {
 namespace {

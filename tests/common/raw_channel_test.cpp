@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "runtime/erro_execucao.h"
-#include "support/recording_spooler.h"
+#include "runtime/runtime_error.h"
+#include "tests/support/recording_spooler.h"
 
 namespace tarn {
 namespace {

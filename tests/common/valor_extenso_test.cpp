@@ -7,7 +7,7 @@
 #include <limits>
 #include <vector>
 
-#include "runtime/erro_execucao.h"
+#include "runtime/runtime_error.h"
 
 namespace tarn {
 namespace {

@@ -6,11 +6,11 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "dotmatrix/poppler.h"
-#include "notes/imprime_nota.h"
+#include "notes/print_note.h"
 #include "platform/cups/cups_spooler.h"
-#include "support/private_cupsd.h"
-#include "support/test_environment.h"
+#include "tests/dotmatrix/poppler.h"
+#include "tests/support/private_cupsd.h"
+#include "tests/support/test_environment.h"
 
 namespace tarn {
 namespace {

@@ -5,10 +5,10 @@
 #include <QTemporaryDir>
 #include <cmath>
 
-#include "dotmatrix/note_streams.h"
 #include "dotmatrix/paper_export.h"
-#include "dotmatrix/poppler.h"
-#include "dotmatrix/printer_rig.h"
+#include "tests/dotmatrix/note_streams.h"
+#include "tests/dotmatrix/poppler.h"
+#include "tests/dotmatrix/printer_rig.h"
 
 namespace tarn::dotmatrix {
 namespace {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "dotmatrix/printer_rig.h"
+#include "tests/dotmatrix/printer_rig.h"
 
 namespace tarn::dotmatrix {
 namespace {

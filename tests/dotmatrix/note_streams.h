@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "dotmatrix/dialect.h"
-#include "dotmatrix/layout_forms.h"
-#include "notes/form_facts.h"
-#include "notes/note_press.h"
-#include "notes/plain_note.h"
+#include "forms/layout_forms.h"
+#include "tests/notes/form_facts.h"
+#include "tests/notes/note_press.h"
+#include "tests/notes/plain_note.h"
 
 namespace tarn::test {
 

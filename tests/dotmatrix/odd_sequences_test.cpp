@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <random>
 
-#include "dotmatrix/printer_rig.h"
+#include "tests/dotmatrix/printer_rig.h"
 
 namespace tarn::dotmatrix {
 namespace {

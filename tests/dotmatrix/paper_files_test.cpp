@@ -9,7 +9,7 @@
 #include <map>
 
 #include "dotmatrix/paper_export.h"
-#include "dotmatrix/printer_rig.h"
+#include "tests/dotmatrix/printer_rig.h"
 
 namespace tarn::dotmatrix {
 namespace {

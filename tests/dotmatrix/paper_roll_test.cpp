@@ -6,7 +6,7 @@
 #include <random>
 
 #include "dotmatrix/paper_text.h"
-#include "dotmatrix/printer_rig.h"
+#include "tests/dotmatrix/printer_rig.h"
 
 namespace tarn::dotmatrix {
 namespace {

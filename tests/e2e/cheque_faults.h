@@ -3,8 +3,8 @@
 
 #include <QComboBox>
 
-#include "common/free_text_field.h"
-#include "fault_desk.h"
+#include "tests/e2e/fault_desk.h"
+#include "widgets/free_text_field.h"
 
 namespace tarn {
 

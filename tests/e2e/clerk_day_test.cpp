@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "programs.h"
+#include "tests/e2e/programs.h"
 
 namespace tarn {
 namespace {

@@ -13,14 +13,14 @@
 #include <string>
 #include <vector>
 
+#include "desk/mdi_menu.h"
+#include "gateway/xml_document.h"
 #include "platform/curl/curl_loader.h"
-#include "practice/database.h"
-#include "session/mdi_menu.h"
-#include "session/request_line.h"
-#include "session/xml_document.h"
-#include "support/grid.h"
-#include "support/practice_page.h"
-#include "support/screen_test.h"
+#include "platform/request_line.h"
+#include "practice/database/database.h"
+#include "tests/support/grid.h"
+#include "tests/support/practice_page.h"
+#include "tests/support/screen_test.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
 // A server that fails at the billing desk: the list of orders, the note that is made,
 // the note's document.
-#include "note_faults.h"
+#include "tests/e2e/note_faults.h"
 
 namespace tarn {
 namespace {

@@ -1,7 +1,7 @@
 // A server that fails at the search of bills and of customers.
 #include <QComboBox>
 
-#include "fault_desk.h"
+#include "tests/e2e/fault_desk.h"
 
 namespace tarn {
 namespace {

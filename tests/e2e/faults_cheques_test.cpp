@@ -2,7 +2,7 @@
 // comes behind the paper.
 #include <QTimer>
 
-#include "cheque_faults.h"
+#include "tests/e2e/cheque_faults.h"
 
 namespace tarn {
 namespace {

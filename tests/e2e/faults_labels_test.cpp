@@ -1,7 +1,7 @@
 // A server that fails at the queue of labels: what is listed, printed and deleted.
 #include <QComboBox>
 
-#include "fault_desk.h"
+#include "tests/e2e/fault_desk.h"
 
 namespace tarn {
 namespace {

@@ -2,7 +2,7 @@
 // cancellation, its correction, its sheet.
 #include <QPlainTextEdit>
 
-#include "note_faults.h"
+#include "tests/e2e/note_faults.h"
 
 namespace tarn {
 namespace {

@@ -1,5 +1,5 @@
 // A server that fails at the reprint screen, in both of its jobs.
-#include "note_faults.h"
+#include "tests/e2e/note_faults.h"
 
 namespace tarn {
 namespace {

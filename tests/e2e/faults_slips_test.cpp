@@ -3,7 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 
-#include "fault_desk.h"
+#include "tests/e2e/fault_desk.h"
 
 namespace tarn {
 namespace {

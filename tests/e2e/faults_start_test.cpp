@@ -4,7 +4,7 @@
 #include <chrono>
 
 #include "billing/frm_oft.h"
-#include "fault_desk.h"
+#include "tests/e2e/fault_desk.h"
 
 namespace tarn {
 namespace {

@@ -7,10 +7,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "gateway/commands.h"
+#include "gateway/xml_document.h"
 #include "platform/curl/curl_loader.h"
-#include "programs.h"
-#include "session/commands.h"
-#include "session/xml_document.h"
+#include "tests/e2e/programs.h"
 
 namespace tarn {
 namespace {

@@ -6,8 +6,8 @@
 #include <QTimer>
 
 #include "billing/frm_oft.h"
-#include "fault_desk.h"
 #include "reprint/frm_reimprime_nf.h"
+#include "tests/e2e/fault_desk.h"
 
 namespace tarn {
 

@@ -5,13 +5,13 @@
 #include <QTableView>
 
 #include "billing/frm_oft.h"
+#include "desk/mdi_menu.h"
 #include "notes/layouts/layouts.h"
-#include "notes/note_fixture.h"
 #include "platform/curl/curl_loader.h"
 #include "reprint/frm_reimprime_nf.h"
-#include "session/mdi_menu.h"
-#include "support/practice_page.h"
-#include "support/screen_test.h"
+#include "tests/notes/note_fixture.h"
+#include "tests/support/practice_page.h"
+#include "tests/support/screen_test.h"
 
 namespace tarn {
 namespace {

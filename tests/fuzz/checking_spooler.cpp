@@ -1,4 +1,4 @@
-#include "fuzz/checking_spooler.h"
+#include "tests/fuzz/checking_spooler.h"
 
 #include <algorithm>
 #include <array>

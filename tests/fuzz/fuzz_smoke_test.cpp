@@ -6,7 +6,7 @@
 #include <random>
 #include <vector>
 
-#include "fuzz/fuzz_entries.h"
+#include "tests/fuzz/fuzz_entries.h"
 
 namespace tarn::fuzz {
 

@@ -1,7 +1,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "fuzz/fuzz_entries.h"
+#include "tests/fuzz/fuzz_entries.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     tarn::fuzz::printNotes({data, size});

@@ -4,18 +4,18 @@
 #include <string>
 #include <utility>
 
-#include "fuzz/byte_source.h"
-#include "fuzz/checking_spooler.h"
-#include "fuzz/fuzz_entries.h"
-#include "notes/imprime_nota.h"
-#include "notes/plain_note.h"
+#include "gateway/xml_document.h"
+#include "notes/print_note.h"
 #include "platform/environment.h"
-#include "runtime/erro_execucao.h"
-#include "session/xml_document.h"
-#include "support/fixed_machine.h"
-#include "support/recording_printer.h"
-#include "support/scripted_boxes.h"
-#include "support/scripted_loader.h"
+#include "runtime/runtime_error.h"
+#include "tests/fuzz/byte_source.h"
+#include "tests/fuzz/checking_spooler.h"
+#include "tests/fuzz/fuzz_entries.h"
+#include "tests/notes/plain_note.h"
+#include "tests/support/fixed_machine.h"
+#include "tests/support/recording_printer.h"
+#include "tests/support/scripted_boxes.h"
+#include "tests/support/scripted_loader.h"
 
 namespace tarn::fuzz {
 

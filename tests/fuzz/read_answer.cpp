@@ -1,12 +1,12 @@
 #include <array>
 #include <string>
 
-#include "fuzz/byte_source.h"
-#include "fuzz/checking_spooler.h"
-#include "fuzz/fuzz_entries.h"
-#include "runtime/erro_execucao.h"
-#include "session/pega_valor.h"
-#include "session/xml_document.h"
+#include "gateway/pega_valor.h"
+#include "gateway/xml_document.h"
+#include "runtime/runtime_error.h"
+#include "tests/fuzz/byte_source.h"
+#include "tests/fuzz/checking_spooler.h"
+#include "tests/fuzz/fuzz_entries.h"
 
 namespace tarn::fuzz {
 

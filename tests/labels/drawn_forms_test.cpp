@@ -4,10 +4,10 @@
 
 #include <array>
 
-#include "label_answers.h"
-#include "labels/imprime_etiquetas.h"
-#include "runtime/erro_execucao.h"
-#include "support/test_environment.h"
+#include "labels/print_labels.h"
+#include "runtime/runtime_error.h"
+#include "tests/labels/label_answers.h"
+#include "tests/support/test_environment.h"
 
 namespace tarn::labels {
 namespace {

@@ -1,6 +1,6 @@
 #include <QRadioButton>
 
-#include "label_screens.h"
+#include "tests/labels/label_screens.h"
 
 namespace tarn::labels {
 namespace {

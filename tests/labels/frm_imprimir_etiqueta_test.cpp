@@ -1,7 +1,7 @@
 #include <QClipboard>
 #include <QDialog>
 
-#include "label_screens.h"
+#include "tests/labels/label_screens.h"
 
 namespace tarn::labels {
 namespace {

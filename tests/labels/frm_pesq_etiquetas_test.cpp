@@ -1,4 +1,4 @@
-#include "label_screens.h"
+#include "tests/labels/label_screens.h"
 
 namespace tarn::labels {
 namespace {

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "labels/imprime_etiquetas.h"
-#include "session/xml_document.h"
-#include "support/answers.h"
+#include "gateway/xml_document.h"
+#include "labels/print_labels.h"
+#include "tests/support/answers.h"
 
 namespace tarn::labels {
 

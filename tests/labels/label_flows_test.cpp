@@ -2,15 +2,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "label_answers.h"
-#include "labels/exclusao.h"
-#include "labels/fila.h"
-#include "labels/imprime_etiquetas.h"
-#include "labels/imprime_selecao.h"
-#include "labels/selecao.h"
-#include "labels/valores_etiquetas.h"
-#include "session/sessao.h"
-#include "support/test_environment.h"
+#include "gateway/sessao.h"
+#include "labels/customer_selection.h"
+#include "labels/deletion.h"
+#include "labels/label_values.h"
+#include "labels/print_labels.h"
+#include "labels/print_selection.h"
+#include "labels/queue.h"
+#include "tests/labels/label_answers.h"
+#include "tests/support/test_environment.h"
 
 namespace tarn::labels {
 namespace {

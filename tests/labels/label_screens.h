@@ -8,10 +8,10 @@
 #include <QWheelEvent>
 #include <functional>
 
-#include "label_answers.h"
-#include "session/mdi_menu.h"
-#include "support/grid.h"
-#include "support/screen_test.h"
+#include "desk/mdi_menu.h"
+#include "tests/labels/label_answers.h"
+#include "tests/support/grid.h"
+#include "tests/support/screen_test.h"
 
 namespace tarn::labels {
 

@@ -1,7 +1,7 @@
 // The labels against the practice server itself, over a real connection.
-#include "label_screens.h"
 #include "platform/curl/curl_loader.h"
-#include "support/practice_page.h"
+#include "tests/labels/label_screens.h"
+#include "tests/support/practice_page.h"
 
 namespace tarn::labels {
 namespace {

@@ -2,9 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "label_answers.h"
-#include "labels/imprime_etiquetas.h"
-#include "support/test_environment.h"
+#include "labels/print_labels.h"
+#include "tests/labels/label_answers.h"
+#include "tests/support/test_environment.h"
 
 namespace tarn::labels {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "notes/form_check.h"
 #include "notes/form_rows.h"
-#include "notes/note_fixture.h"
+#include "tests/notes/note_fixture.h"
 
 namespace tarn::test {
 namespace {

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <functional>
 
-#include "notes/compare_notes.h"
-#include "notes/note_press.h"
+#include "tests/notes/compare_notes.h"
+#include "tests/notes/note_press.h"
 
 namespace tarn::test {
 

@@ -1,4 +1,4 @@
-#include "notes/compare_notes.h"
+#include "tests/notes/compare_notes.h"
 
 #include <gtest/gtest.h>
 

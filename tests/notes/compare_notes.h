@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "notes/expected_note.h"
+#include "tests/notes/expected_note.h"
 
 namespace tarn::test {
 

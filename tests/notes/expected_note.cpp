@@ -1,4 +1,4 @@
-#include "notes/expected_note.h"
+#include "tests/notes/expected_note.h"
 
 #include <algorithm>
 #include <set>

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "notes/form_facts.h"
-#include "notes/form_map.h"
-#include "notes/plain_note.h"
+#include "tests/notes/form_facts.h"
+#include "tests/notes/form_map.h"
+#include "tests/notes/plain_note.h"
 
 namespace tarn::test {
 

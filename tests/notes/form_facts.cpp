@@ -1,4 +1,4 @@
-#include "notes/form_facts.h"
+#include "tests/notes/form_facts.h"
 
 #include <algorithm>
 #include <stdexcept>

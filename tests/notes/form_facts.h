@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "notes/imprime_nota.h"
+#include "notes/print_note.h"
 
 namespace tarn::test {
 

@@ -1,4 +1,4 @@
-#include "notes/form_map.h"
+#include "tests/notes/form_map.h"
 
 #include <algorithm>
 #include <fstream>

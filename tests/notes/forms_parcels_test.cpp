@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "notes/layouts/layouts.h"
-#include "notes/paper.h"
+#include "tests/notes/paper.h"
 
 namespace tarn::test {
 namespace {

@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "notes/layouts/layouts.h"
-#include "notes/note_fixture.h"
+#include "tests/notes/note_fixture.h"
 
 namespace tarn::test {
 namespace {

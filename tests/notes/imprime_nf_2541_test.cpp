@@ -1,11 +1,11 @@
 // The drawn note of company 2541: every text with its place, widths and blanks.
 #include <gtest/gtest.h>
 
-#include "notes/imprime_nota.h"
-#include "notes/note_fixture.h"
+#include "gateway/xml_document.h"
+#include "notes/print_note.h"
 #include "runtime/text.h"
-#include "session/xml_document.h"
-#include "support/test_environment.h"
+#include "tests/notes/note_fixture.h"
+#include "tests/support/test_environment.h"
 
 namespace tarn::test {
 namespace {

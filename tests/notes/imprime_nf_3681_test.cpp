@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "notes/layouts/layouts.h"
-#include "notes/wide_note.h"
+#include "tests/notes/wide_note.h"
 
 namespace tarn::test {
 namespace {

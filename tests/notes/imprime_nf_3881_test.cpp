@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "notes/layouts/layouts.h"
-#include "notes/wide_note.h"
+#include "tests/notes/wide_note.h"
 
 namespace tarn::test {
 namespace {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "notes/layouts/layouts.h"
-#include "notes/paper.h"
+#include "tests/notes/paper.h"
 
 namespace tarn::test {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "notes/imprime_nota.h"
+#include "notes/print_note.h"
 
 namespace tarn {
 namespace {

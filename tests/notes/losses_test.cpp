@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include "common/raw_channel.h"
-#include "notes/imprime_nota.h"
 #include "notes/layouts/layouts.h"
-#include "notes/note_fixture.h"
 #include "notes/pipeline.h"
-#include "support/test_environment.h"
+#include "notes/print_note.h"
+#include "tests/notes/note_fixture.h"
+#include "tests/support/test_environment.h"
 
 namespace tarn::test {
 namespace {

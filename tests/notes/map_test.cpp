@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "notes/compare_notes.h"
-#include "notes/note_press.h"
+#include "tests/notes/compare_notes.h"
+#include "tests/notes/note_press.h"
 
 namespace tarn::test {
 

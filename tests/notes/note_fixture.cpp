@@ -1,10 +1,10 @@
-#include "notes/note_fixture.h"
+#include "tests/notes/note_fixture.h"
 
 #include <gtest/gtest.h>
 
 #include "common/raw_channel.h"
+#include "gateway/xml_document.h"
 #include "notes/pipeline.h"
-#include "session/xml_document.h"
 
 namespace tarn::test {
 namespace {

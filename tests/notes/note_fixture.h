@@ -11,7 +11,7 @@
 
 #include "notes/layout.h"
 #include "platform/spooler.h"
-#include "runtime/erro_execucao.h"
+#include "runtime/runtime_error.h"
 
 namespace tarn::test {
 

@@ -1,14 +1,14 @@
-#include "notes/note_press.h"
+#include "tests/notes/note_press.h"
 
 #include <stdexcept>
 
-#include "notes/imprime_nota.h"
+#include "gateway/xml_document.h"
+#include "notes/print_note.h"
 #include "platform/environment.h"
-#include "session/xml_document.h"
-#include "support/fixed_machine.h"
-#include "support/recording_printer.h"
-#include "support/scripted_boxes.h"
-#include "support/scripted_loader.h"
+#include "tests/support/fixed_machine.h"
+#include "tests/support/recording_printer.h"
+#include "tests/support/scripted_boxes.h"
+#include "tests/support/scripted_loader.h"
 
 namespace tarn::test {
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "notes/form_facts.h"
-#include "notes/plain_note.h"
-#include "runtime/erro_execucao.h"
-#include "support/recording_spooler.h"
+#include "runtime/runtime_error.h"
+#include "tests/notes/form_facts.h"
+#include "tests/notes/plain_note.h"
+#include "tests/support/recording_spooler.h"
 
 namespace tarn::test {
 

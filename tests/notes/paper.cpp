@@ -1,4 +1,4 @@
-#include "notes/paper.h"
+#include "tests/notes/paper.h"
 
 #include <gtest/gtest.h>
 

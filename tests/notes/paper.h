@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "notes/layout.h"
-#include "notes/note_fixture.h"
+#include "tests/notes/note_fixture.h"
 
 namespace tarn::test {
 

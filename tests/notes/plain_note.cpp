@@ -1,4 +1,4 @@
-#include "notes/plain_note.h"
+#include "tests/notes/plain_note.h"
 
 #include <algorithm>
 #include <array>

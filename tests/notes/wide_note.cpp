@@ -1,4 +1,4 @@
-#include "notes/wide_note.h"
+#include "tests/notes/wide_note.h"
 
 #include <gtest/gtest.h>
 

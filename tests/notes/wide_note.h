@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "notes/paper.h"
+#include "tests/notes/paper.h"
 
 namespace tarn::test {
 

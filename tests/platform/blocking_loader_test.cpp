@@ -11,7 +11,7 @@
 #include <stdexcept>
 #include <thread>
 
-#include "support/user.h"
+#include "tests/support/user.h"
 
 namespace tarn {
 namespace {

@@ -5,11 +5,11 @@
 #include <fstream>
 #include <iterator>
 
-#include "notes/imprime_nota.h"
+#include "notes/print_note.h"
 #include "platform/cups/cups_spooler.h"
-#include "runtime/erro_execucao.h"
-#include "support/cups_test.h"
-#include "support/test_environment.h"
+#include "runtime/runtime_error.h"
+#include "tests/support/cups_test.h"
+#include "tests/support/test_environment.h"
 
 namespace tarn {
 namespace {

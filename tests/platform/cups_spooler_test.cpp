@@ -7,7 +7,7 @@
 #include <random>
 
 #include "common/raw_channel.h"
-#include "support/cups_test.h"
+#include "tests/support/cups_test.h"
 
 namespace tarn {
 namespace {

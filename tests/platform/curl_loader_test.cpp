@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <future>
 
-#include "support/loopback_server.h"
+#include "tests/support/loopback_server.h"
 
 namespace tarn {
 namespace {

@@ -6,8 +6,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "support/modal_steps.h"
-#include "support/user.h"
+#include "tests/support/modal_steps.h"
+#include "tests/support/user.h"
 
 namespace tarn {
 namespace {

@@ -1,8 +1,8 @@
-#include "practice/amounts.h"
+#include "practice/commands/amounts.h"
 
 #include <gtest/gtest.h>
 
-#include "practice/tax_numbers.h"
+#include "practice/data/tax_numbers.h"
 
 namespace tarn::practice {
 namespace {

@@ -1,8 +1,8 @@
-#include "practice/answer_writer.h"
+#include "practice/commands/answer_writer.h"
 
 #include <gtest/gtest.h>
 
-#include "session/xml_document.h"
+#include "gateway/xml_document.h"
 
 namespace tarn::practice {
 namespace {

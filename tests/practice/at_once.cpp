@@ -1,10 +1,10 @@
-#include "practice/at_once.h"
+#include "tests/practice/at_once.h"
 
 #include <gtest/gtest.h>
 
 #include <thread>
 
-#include "practice/practice_desk.h"
+#include "tests/practice/practice_desk.h"
 
 namespace tarn::practice::test {
 namespace {

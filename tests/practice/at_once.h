@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "practice/practice_server.h"
+#include "practice/server/practice_server.h"
 
 namespace tarn::practice::test {
 

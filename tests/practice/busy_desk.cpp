@@ -1,8 +1,8 @@
-#include "practice/busy_desk.h"
+#include "tests/practice/busy_desk.h"
 
+#include "gateway/commands.h"
 #include "platform/curl/curl_loader.h"
-#include "practice/practice_desk.h"
-#include "session/commands.h"
+#include "tests/practice/practice_desk.h"
 
 namespace tarn::practice::test {
 

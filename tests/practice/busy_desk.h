@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
+#include "gateway/sessao.h"
+#include "gateway/xml_document.h"
 #include "platform/http_loader.h"
-#include "session/sessao.h"
-#include "session/xml_document.h"
 
 namespace tarn::practice::test {
 

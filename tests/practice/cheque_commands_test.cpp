@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "practice/practice_desk.h"
+#include "tests/practice/practice_desk.h"
 
 namespace tarn::practice::test {
 namespace {

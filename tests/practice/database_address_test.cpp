@@ -1,8 +1,8 @@
-#include "practice/database_address.h"
+#include "practice/database/database_address.h"
 
 #include <gtest/gtest.h>
 
-#include "practice/database.h"
+#include "practice/database/database.h"
 
 namespace tarn::practice::test {
 namespace {

@@ -6,10 +6,10 @@
 #include <QTemporaryDir>
 #include <fstream>
 
-#include "practice/at_once.h"
-#include "practice/database.h"
-#include "practice/practice_desk.h"
-#include "practice/schema.h"
+#include "practice/database/database.h"
+#include "practice/database/schema.h"
+#include "tests/practice/at_once.h"
+#include "tests/practice/practice_desk.h"
 
 namespace tarn::practice::test {
 namespace {

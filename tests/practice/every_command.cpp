@@ -1,14 +1,14 @@
-#include "practice/every_command.h"
+#include "tests/practice/every_command.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <functional>
 
-#include "practice/command.h"
-#include "practice/practice_desk.h"
-#include "session/commands.h"
-#include "session/request_line.h"
+#include "gateway/commands.h"
+#include "platform/request_line.h"
+#include "practice/commands/command.h"
+#include "tests/practice/practice_desk.h"
 
 namespace tarn::practice::test {
 namespace {

@@ -1,10 +1,10 @@
-#include "practice/every_command.h"
+#include "tests/practice/every_command.h"
 
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
 
-#include "practice/command.h"
+#include "practice/commands/command.h"
 
 namespace tarn::practice::test {
 namespace {

@@ -1,5 +1,5 @@
 // Faults told by command, seen from the network as the desk sees them.
-#include "practice/fault.h"
+#include "practice/server/fault.h"
 
 #include <gtest/gtest.h>
 
@@ -7,9 +7,9 @@
 #include <chrono>
 
 #include "platform/curl/curl_loader.h"
-#include "practice/practice_desk.h"
-#include "practice/serving.h"
-#include "session/request_line.h"
+#include "platform/request_line.h"
+#include "tests/practice/practice_desk.h"
+#include "tests/practice/serving.h"
 
 namespace tarn::practice::test {
 namespace {

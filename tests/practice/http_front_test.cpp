@@ -1,4 +1,4 @@
-#include "practice/http_front.h"
+#include "practice/server/http_front.h"
 
 #include <gtest/gtest.h>
 #include <httplib.h>
@@ -6,8 +6,8 @@
 #include <stdexcept>
 #include <thread>
 
-#include "practice/practice_desk.h"
-#include "practice/serving.h"
+#include "tests/practice/practice_desk.h"
+#include "tests/practice/serving.h"
 
 namespace tarn::practice::test {
 namespace {

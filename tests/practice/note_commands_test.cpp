@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "practice/practice_desk.h"
+#include "tests/practice/practice_desk.h"
 
 namespace tarn::practice::test {
 namespace {

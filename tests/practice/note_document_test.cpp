@@ -3,7 +3,7 @@
 #include <array>
 #include <set>
 
-#include "practice/practice_desk.h"
+#include "tests/practice/practice_desk.h"
 
 namespace tarn::practice::test {
 namespace {

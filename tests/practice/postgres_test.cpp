@@ -4,12 +4,12 @@
 
 #include <thread>
 
-#include "practice/at_once.h"
-#include "practice/database.h"
-#include "practice/every_command.h"
-#include "practice/practice_desk.h"
-#include "practice/private_postgres.h"
-#include "practice/schema.h"
+#include "practice/database/database.h"
+#include "practice/database/schema.h"
+#include "tests/practice/at_once.h"
+#include "tests/practice/every_command.h"
+#include "tests/practice/practice_desk.h"
+#include "tests/practice/private_postgres.h"
 
 namespace tarn::practice::test {
 namespace {

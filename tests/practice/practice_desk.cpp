@@ -1,4 +1,4 @@
-#include "practice/practice_desk.h"
+#include "tests/practice/practice_desk.h"
 
 #include <cmath>
 

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "practice/practice_server.h"
-#include "session/xml_document.h"
+#include "gateway/xml_document.h"
+#include "practice/server/practice_server.h"
 
 namespace tarn::practice::test {
 

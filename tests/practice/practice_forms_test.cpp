@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "practice/practice_companies.h"
-#include "practice/practice_data.h"
-#include "practice/practice_desk.h"
+#include "practice/data/companies.h"
+#include "practice/data/practice_data.h"
+#include "tests/practice/practice_desk.h"
 
 namespace tarn::practice::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "practice/private_postgres.h"
+#include "tests/practice/private_postgres.h"
 
 #include <gtest/gtest.h>
 #include <pwd.h>
@@ -9,7 +9,7 @@
 #include <QFile>
 #include <QThread>
 
-#include "practice/database.h"
+#include "practice/database/database.h"
 
 namespace tarn::practice::test {
 namespace {

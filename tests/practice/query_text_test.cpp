@@ -1,4 +1,4 @@
-#include "practice/query_text.h"
+#include "practice/commands/query_text.h"
 
 #include <gtest/gtest.h>
 

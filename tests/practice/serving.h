@@ -7,7 +7,7 @@
 #include <thread>
 #include <utility>
 
-#include "practice/http_front.h"
+#include "practice/server/http_front.h"
 
 namespace tarn::practice::test {
 

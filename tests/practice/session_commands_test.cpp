@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "practice/practice_data.h"
-#include "practice/practice_desk.h"
+#include "practice/data/practice_data.h"
+#include "tests/practice/practice_desk.h"
 
 namespace tarn::practice::test {
 namespace {

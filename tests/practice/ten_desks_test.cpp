@@ -10,11 +10,11 @@
 #include <set>
 #include <thread>
 
-#include "practice/busy_desk.h"
-#include "practice/database.h"
-#include "practice/practice_desk.h"
-#include "practice/private_postgres.h"
-#include "practice/serving.h"
+#include "practice/database/database.h"
+#include "tests/practice/busy_desk.h"
+#include "tests/practice/practice_desk.h"
+#include "tests/practice/private_postgres.h"
+#include "tests/practice/serving.h"
 
 namespace tarn::practice::test {
 namespace {

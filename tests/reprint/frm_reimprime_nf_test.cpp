@@ -4,7 +4,7 @@
 #include <QButtonGroup>
 #include <QStyledItemDelegate>
 
-#include "reprint/tela_de_nota.h"
+#include "tests/reprint/note_screen_test.h"
 
 namespace tarn {
 namespace {

@@ -8,8 +8,8 @@
 #include <limits>
 #include <random>
 
-#include "runtime/erro_execucao.h"
 #include "runtime/numbers.h"
+#include "runtime/runtime_error.h"
 
 namespace tarn {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-#include "runtime/erro_execucao.h"
+#include "runtime/runtime_error.h"
 
 namespace tarn {
 namespace {

@@ -5,7 +5,7 @@
 #include <QWheelEvent>
 #include <array>
 
-#include "slips/tela_de_boletos.h"
+#include "tests/slips/slip_screen_test.h"
 
 namespace tarn {
 namespace {

@@ -1,7 +1,7 @@
 // Opening, fields, search and grid of frmPesqBoleto.
 #include "slips/frm_pesq_boleto.h"
 
-#include "slips/tela_de_boletos.h"
+#include "tests/slips/slip_screen_test.h"
 
 namespace tarn {
 namespace {

@@ -9,7 +9,7 @@
 #include <optional>
 #include <string>
 
-#include "support/private_cupsd.h"
+#include "tests/support/private_cupsd.h"
 
 namespace tarn {
 

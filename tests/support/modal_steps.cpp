@@ -1,4 +1,4 @@
-#include "support/modal_steps.h"
+#include "tests/support/modal_steps.h"
 
 #include <gtest/gtest.h>
 

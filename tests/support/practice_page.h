@@ -10,9 +10,9 @@
 #include <utility>
 #include <vector>
 
-#include "practice/fault.h"
-#include "practice/http_front.h"
-#include "practice/practice_server.h"
+#include "practice/server/fault.h"
+#include "practice/server/http_front.h"
+#include "practice/server/practice_server.h"
 
 namespace tarn {
 

@@ -1,4 +1,4 @@
-#include "support/private_cupsd.h"
+#include "tests/support/private_cupsd.h"
 
 #include <arpa/inet.h>
 #include <netinet/in.h>

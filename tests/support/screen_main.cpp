@@ -1,7 +1,7 @@
 // The main of a program of screen tests: one application, off-screen, for all cases.
 #include <gtest/gtest.h>
 
-#include "session/desk_application.h"
+#include "desk/desk_application.h"
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {

@@ -6,16 +6,16 @@
 
 #include <memory>
 
+#include "desk/desk_application.h"
 #include "platform/qt/blocking_loader.h"
-#include "session/desk_application.h"
-#include "session/desk_context.h"
-#include "support/fixed_machine.h"
-#include "support/modal_steps.h"
-#include "support/recording_printer.h"
-#include "support/recording_spooler.h"
-#include "support/scripted_boxes.h"
-#include "support/scripted_loader.h"
-#include "support/user.h"
+#include "tests/support/fixed_machine.h"
+#include "tests/support/modal_steps.h"
+#include "tests/support/recording_printer.h"
+#include "tests/support/recording_spooler.h"
+#include "tests/support/scripted_boxes.h"
+#include "tests/support/scripted_loader.h"
+#include "tests/support/user.h"
+#include "widgets/desk_context.h"
 
 namespace tarn {
 

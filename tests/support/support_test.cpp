@@ -1,10 +1,10 @@
 // The recording seams must tell what happened, or every test above them is blind.
 #include <gtest/gtest.h>
 
-#include "support/fixed_machine.h"
-#include "support/recording_spooler.h"
-#include "support/scripted_boxes.h"
-#include "support/scripted_loader.h"
+#include "tests/support/fixed_machine.h"
+#include "tests/support/recording_spooler.h"
+#include "tests/support/scripted_boxes.h"
+#include "tests/support/scripted_loader.h"
 
 namespace tarn {
 namespace {

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "platform/environment.h"
-#include "support/fixed_machine.h"
-#include "support/recording_printer.h"
-#include "support/recording_spooler.h"
-#include "support/scripted_boxes.h"
-#include "support/scripted_loader.h"
+#include "tests/support/fixed_machine.h"
+#include "tests/support/recording_printer.h"
+#include "tests/support/recording_spooler.h"
+#include "tests/support/scripted_boxes.h"
+#include "tests/support/scripted_loader.h"
 
 namespace tarn {
 

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "session/request_line.h"
+#include "platform/request_line.h"
 
 namespace tarn {
 namespace {

@@ -1,0 +1,12 @@
+// Bills, receipts and slips of the practice company's open documents.
+#pragma once
+
+#include "apps/tarnroteiro/walk.h"
+
+namespace tarn {
+
+// Each begins and ends at the main window.
+void escreveDuplicatas(Roteiro& roteiro);
+void escreveBoletos(Roteiro& roteiro);
+
+}  // namespace tarn

@@ -1,0 +1,91 @@
+#include "practice/commands/command.h"
+
+#include <array>
+
+namespace tarn::practice {
+
+namespace {
+
+std::array<std::span<const Command>, 8> subjects() {
+    return {sessionCommands(), orderCommands(),  noteCommands(),  documentCommands(),
+            slipCommands(),    chequeCommands(), labelCommands(), selectionCommands()};
+}
+
+}  // namespace
+
+std::vector<Command> allCommands() {
+    std::vector<Command> commands;
+    for (const auto& subject : subjects()) {
+        commands.insert(commands.end(), subject.begin(), subject.end());
+    }
+    return commands;
+}
+
+const Command* findCommand(std::string_view name) {
+    for (const auto& subject : subjects()) {
+        for (const Command& command : subject) {
+            if (sameIgnoringCase(command.name, name)) {
+                return &command;
+            }
+        }
+    }
+    return nullptr;
+}
+
+OrRefusal<std::int64_t> requestedCompany(const Query& query, CommandContext& context) {
+    const std::string& server = query.value("ServerName");
+    Rows rows = context.database.select("SELECT id FROM company WHERE server_name = ?", {server});
+    if (!rows.next()) {
+        return Refusal{"O servidor de dados \"" + server +
+                       "\" não existe. Saia do sistema e entre de novo."};
+    }
+    return rows.integer(0);
+}
+
+OrRefusal<std::int64_t> requestedCompany(const Query& query, std::string_view key,
+                                         CommandContext& context) {
+    auto company = requestedCompany(query, context);
+    if (const auto* id = std::get_if<std::int64_t>(&company);
+        id != nullptr && wholeNumber(query.value(key)) != *id) {
+        return Refusal{"A empresa \"" + query.value(key) +
+                       "\" não é a do servidor de dados. Saia do sistema e entre de novo."};
+    }
+    return company;
+}
+
+OrRefusal<Establishment> requestedEstablishment(const Query& query, CommandContext& context) {
+    return requestedEstablishment(query, "ID_ETB_TARN", context);
+}
+
+OrRefusal<Establishment> requestedEstablishment(const Query& query, std::string_view key,
+                                                CommandContext& context) {
+    const auto company = requestedCompany(query, context);
+    if (const auto* refusal = std::get_if<Refusal>(&company)) {
+        return *refusal;
+    }
+    const std::string& text = query.value(key);
+    const std::optional<std::int64_t> code = wholeNumber(text);
+    Rows rows = context.database.select(
+        "SELECT id, company_id FROM establishment"
+        " WHERE code = ? AND company_id = ?",
+        {code.value_or(-1), std::get<std::int64_t>(company)});
+    if (!rows.next()) {
+        return Refusal{"O estabelecimento \"" + text +
+                       "\" não existe nesta empresa. Saia do sistema e entre de novo."};
+    }
+    return Establishment{rows.integer(0), rows.integer(1)};
+}
+
+OrRefusal<std::string> requestedUser(const Query& query, std::string_view key, std::int64_t company,
+                                     CommandContext& context) {
+    const std::string& code = query.value(key);
+    Rows rows = context.database.select(
+        "SELECT code FROM app_user WHERE code = ? AND company_id = ?", {code, company});
+    if (!rows.next()) {
+        return Refusal{"O usuário \"" + code +
+                       "\" não está cadastrado nesta empresa. Saia do sistema e entre de novo."};
+    }
+    return rows.text(0);
+}
+
+}  // namespace tarn::practice

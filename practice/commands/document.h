@@ -1,0 +1,26 @@
+// Open documents: their kinds, and the search that bills and slips share.
+#pragma once
+
+#include "practice/commands/command.h"
+#include "practice/commands/conditions.h"
+
+namespace tarn::practice {
+
+// Kinds of document, as the desk knows them.
+constexpr int kBillKind = 1;
+constexpr int kReceiptKind = 12;
+
+// The tables of a document: d itself, e its establishment, c the customer, a and b
+// the customer's own and billing address, k the kind.
+inline constexpr std::string_view kDocumentTables =
+    "FROM document d JOIN establishment e ON e.id = d.establishment_id"
+    " JOIN document_kind k ON k.id = d.kind_id"
+    " JOIN customer c ON c.id = d.customer_id"
+    " JOIN customer_address a ON a.customer_id = c.id AND a.kind = 'P'"
+    " LEFT JOIN customer_address b ON b.customer_id = c.id AND b.kind = 'C' ";
+
+// The filters of the request: company, customer, establishment, both ranges of
+// dates. Refuses what can't be read, and a user that isn't of the company.
+OrRefusal<Conditions> documentSearch(const Query& query, CommandContext& context);
+
+}  // namespace tarn::practice

@@ -1,0 +1,122 @@
+// The commands of bills and receipts: establishments, documents, customers.
+#include <array>
+
+#include "practice/commands/document.h"
+#include "practice/commands/fields.h"
+#include "practice/data/names.h"
+#include "runtime/text.h"
+
+namespace tarn::practice {
+namespace {
+
+constexpr std::array kBranchFields = {
+    Field{"SG_FIL", "short_name"},
+    Field{"ID_ETB_TARN", "code"},
+};
+
+Reply listBranches(const Query& query, CommandContext& context) {
+    const auto company = requestedCompany(query, "ID_EMP_TARN", context);
+    if (const auto* refusal = std::get_if<Refusal>(&company)) {
+        return *refusal;
+    }
+    const std::int64_t id = std::get<std::int64_t>(company);
+    const auto user = requestedUser(query, "UserCode", id, context);
+    if (const auto* refusal = std::get_if<Refusal>(&user)) {
+        return *refusal;
+    }
+    return readRowset(context.database, kBranchFields,
+                      "FROM establishment WHERE company_id = ? ORDER BY id", {id});
+}
+
+constexpr std::array kBillFields = {
+    Field{"SG_FIL", "e.short_name"},
+    Field{"DT_VNC_DOC_FMA", "d.due_on", Format::Date},
+    Field{"DT_EMS_DOC", "d.issued_on", Format::Date},
+    Field{"NR_DOC", "d.number"},
+    Field{"NM_CLI_ETB", "c.name"},
+    Field{"DC_LG_CPL", "a.street"},
+    Field{"VL_PRN_DOC", "d.amount", Format::Money},
+    Field{"CD_CEP", "a.postal_code"},
+    Field{"NM_MUN", "a.town"},
+    Field{"SG_UF", "a.state"},
+    Field{"PES_JUR", "CASE c.natural_person WHEN 1 THEN '0' ELSE '1' END"},
+    Field{"NR_CGC_CPL", "c.tax_number"},
+    Field{"CD_ICR_EST", "c.state_registration"},
+    Field{"TIPO_DOCTO", "CASE d.receivable WHEN 1 THEN 'DOCTO_RECEBER' ELSE 'DOCTO_COBRANCA' END"},
+    Field{"ID_TIP_DOC", "d.kind_id"},
+    Field{"ID_NR_CTL", "d.control_number"},
+    Field{"DC_REF_REC", "d.reference"},
+    Field{"NR_DOC_NF", "d.note_number"},
+    Field{"EG_COB", "COALESCE(b.street, a.street)"},
+    Field{"MUN_COB", "COALESCE(b.town, a.town)"},
+    Field{"ES_COB", "COALESCE(b.state, a.state)"},
+    Field{"CD_CEP_COB", "COALESCE(b.postal_code, a.postal_code)"},
+};
+
+Reply findBills(const Query& query, CommandContext& context) {
+    auto search = documentSearch(query, context);
+    if (const auto* refusal = std::get_if<Refusal>(&search)) {
+        return *refusal;
+    }
+    auto& conditions = std::get<Conditions>(search);
+    const auto kinds = numberList(query.value("ID_TIP_DOC"));
+    if (!kinds) {
+        return Refusal{"Tipo de documento inválido na pesquisa. Escolha o tipo na lista."};
+    }
+    conditions.addAnyOf("d.kind_id", *kinds);
+    return readRowset(context.database, kBillFields,
+                      std::string(kDocumentTables) + "WHERE " + conditions.sql() +
+                          " ORDER BY d.due_on, d.establishment_id, d.kind_id, d.number",
+                      conditions.binds());
+}
+
+constexpr std::array kCustomerFields = {
+    Field{"NM_PES_CPL", "name"},
+    Field{"DC_TIP_EMP",
+          "CASE natural_person WHEN 1 THEN 'PESSOA FÍSICA' ELSE 'PESSOA JURÍDICA' END"},
+    Field{"ID_PES_CLI", "id"},
+};
+
+// A pattern that finds the text anywhere in a name, whatever it holds.
+std::string anywhere(const std::string& text) {
+    std::string pattern = "%";
+    for (const char c : text) {
+        if (c == '%' || c == '_' || c == '!') {
+            pattern.push_back('!');
+        }
+        pattern.push_back(c);
+    }
+    return pattern + '%';
+}
+
+// The desk sends "|" for "&" here and leaves "%" alone, so that two bars are two
+// ampersands.
+Reply findCustomers(const Query& query, CommandContext& context) {
+    const auto company = requestedCompany(query, "id_emp_tarn", context);
+    if (const auto* refusal = std::get_if<Refusal>(&company)) {
+        return *refusal;
+    }
+    const std::string name = replaceAll(query.value("Filtro"), "|", "&");
+    const std::string wanted = searchName(trimBlanks(name));
+    if (wanted.empty()) {
+        return Refusal{"O nome do cliente não foi informado. Digite parte do nome."};
+    }
+    return readRowset(context.database, kCustomerFields,
+                      "FROM customer WHERE company_id = ? AND search_name LIKE ? ESCAPE '!'"
+                      " ORDER BY search_name, id",
+                      {std::get<std::int64_t>(company), anywhere(wanted)});
+}
+
+constexpr std::array kCommands = {
+    Command{"sel_filiais", Shape::Rows, listBranches},
+    Command{"sel_duplicata", Shape::Rows, findBills},
+    Command{"Sel_Cliente", Shape::Rows, findCustomers},
+};
+
+}  // namespace
+
+std::span<const Command> documentCommands() {
+    return kCommands;
+}
+
+}  // namespace tarn::practice

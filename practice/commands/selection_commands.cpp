@@ -1,0 +1,124 @@
+// The commands of the bulk label selection: branches, countries, states, towns,
+// and the customers who live and bought as told.
+#include <array>
+
+#include "practice/commands/branch_list.h"
+#include "practice/commands/conditions.h"
+#include "practice/commands/fields.h"
+#include "runtime/text.h"
+
+namespace tarn::practice {
+namespace {
+
+Reply listBranches(const Query& query, CommandContext& context) {
+    return listNamedBranches(query, "nId_Emp_Tarn", context);
+}
+
+constexpr std::array kCountryFields = {Field{"NM_PAIS", "name"}, Field{"ID_PAIS", "id"}};
+constexpr std::array kStateFields = {Field{"NM_UF", "name"}, Field{"ID_UF", "id"}};
+constexpr std::array kCityFields = {Field{"NM_MUN", "name"}, Field{"ID_MUN", "id"}};
+
+Reply listCountries(const Query& query, CommandContext& context) {
+    const auto company = requestedCompany(query, context);
+    if (const auto* refusal = std::get_if<Refusal>(&company)) {
+        return *refusal;
+    }
+    return readRowset(context.database, kCountryFields, "FROM country ORDER BY name", {});
+}
+
+Reply listStates(const Query& query, CommandContext& context) {
+    const auto company = requestedCompany(query, context);
+    if (const auto* refusal = std::get_if<Refusal>(&company)) {
+        return *refusal;
+    }
+    return readRowset(context.database, kStateFields,
+                      "FROM state WHERE country_id = ? ORDER BY name, id",
+                      {wholeNumber(query.value("Pais")).value_or(-1)});
+}
+
+Reply listCities(const Query& query, CommandContext& context) {
+    const auto company = requestedCompany(query, context);
+    if (const auto* refusal = std::get_if<Refusal>(&company)) {
+        return *refusal;
+    }
+    return readRowset(context.database, kCityFields,
+                      "FROM city WHERE state_id = ? ORDER BY name, id",
+                      {wholeNumber(query.value("Estado")).value_or(-1)});
+}
+
+constexpr std::array kAddresseeFields = {
+    Field{"CD_CEP", "a.postal_code"}, Field{"NM_PES_CPL", "c.name"}, Field{"DC_LG_CPL", "a.street"},
+    Field{"NM_BRR", "a.district"},    Field{"SG_UF", "a.state"},     Field{"NM_MUN", "a.town"},
+};
+
+constexpr std::string_view kAddresseeTables =
+    "FROM customer c JOIN customer_address a ON a.customer_id = c.id AND a.kind = 'P'"
+    " JOIN establishment e ON e.id = c.establishment_id"
+    " JOIN city m ON m.id = a.city_id JOIN state u ON u.id = m.state_id WHERE ";
+constexpr std::string_view kSaleTables = "sale s JOIN product p ON p.id = s.product_id";
+constexpr std::string_view kPostalCode = "CAST(a.postal_code AS BIGINT)";
+
+// A key left out, or with nothing behind it, restricts nothing.
+void addPlace(Conditions& conditions, std::string_view sql, const std::string& text) {
+    if (!trimBlanks(text).empty()) {
+        conditions.add(sql, wholeNumber(text).value_or(-1));
+    }
+}
+
+// Whoever has one sale of the product, on a day, for a value and of a quantity as
+// told. A search that tells nothing of a sale finds also who never bought.
+void addSales(Conditions& conditions, const Query& query) {
+    Conditions sale("s.customer_id = c.id", {});
+    if (const std::string product(trimBlanks(query.value("nIdMatPro"))); !product.empty()) {
+        sale.add("p.code = ?", product);
+    }
+    sale.addDays("s.sold_on", query, "dDtDe", "dDtAte");
+    sale.addMoney("s.amount", query, "nVlrDe", "nVlrAte");
+    sale.addQuantities("s.quantity", query, "nQtDe", "nQtAte");
+    if (!sale.binds().empty() || !sale.readable()) {
+        conditions.addExists(kSaleTables, sale);
+    }
+}
+
+Reply findAddressees(const Query& query, CommandContext& context) {
+    const auto company = requestedCompany(query, context);
+    if (const auto* refusal = std::get_if<Refusal>(&company)) {
+        return *refusal;
+    }
+    const auto branches = numberList(query.value("nIdEtbTarn"));
+    if (!branches) {
+        return Refusal{"A filial não foi informada. Escolha a filial na lista."};
+    }
+    Conditions conditions("c.company_id = ?", {std::get<std::int64_t>(company)});
+    conditions.addAnyOf("e.code", *branches);
+    addPlace(conditions, "u.country_id = ?", query.value("nIdPais"));
+    addPlace(conditions, "u.id = ?", query.value("nIdUf"));
+    addPlace(conditions, "m.id = ?", query.value("nIdMun"));
+    conditions.addNumbers(kPostalCode, query, "nCepDe", "nCepAte");
+    addSales(conditions, query);
+    if (!conditions.readable()) {
+        return Refusal{"Um dos filtros da pesquisa não é válido. Confira datas e valores."};
+    }
+    const std::string order = query.value("nIdOrd") == "CEP"
+                                  ? std::string(kPostalCode) + ", c.search_name, c.id"
+                                  : "c.search_name, c.id";
+    return readRowset(context.database, kAddresseeFields,
+                      std::string(kAddresseeTables) + conditions.sql() + " ORDER BY " + order,
+                      conditions.binds());
+}
+
+constexpr std::array kCommands = {
+    Command{"sel_filias", Shape::Rows, listBranches},
+    Command{"sel_pais", Shape::Rows, listCountries},
+    Command{"sel_estado", Shape::Rows, listStates},
+    Command{"sel_cidade", Shape::Rows, listCities},
+    Command{"sel_dados_etq", Shape::Rows, findAddressees},
+};
+
+}  // namespace
+
+std::span<const Command> selectionCommands() {
+    return kCommands;
+}
+
+}  // namespace tarn::practice

@@ -1,0 +1,220 @@
+#include "practice/server/http_front.h"
+
+#include <httplib.h>
+#include <netdb.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <condition_variable>
+#include <mutex>
+#include <stdexcept>
+#include <thread>
+#include <utility>
+
+#include "practice/server/request_stream.h"
+
+namespace tarn::practice {
+namespace {
+
+constexpr const char* kPlainText = "text/plain; charset=utf-8";
+constexpr int kServerError = 500;
+constexpr int kNotFound = 404;
+constexpr time_t kTurnMicroseconds = 50000;
+constexpr std::size_t kBlanksAtOnce = 1U << 16;
+
+// Without the library's own SO_REUSEPORT, under which a port already served
+// would be taken a second time in silence.
+void reuseAddressOnly(socket_t socket) {
+    const int yes = 1;
+    setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
+}
+
+bool isAddress(const std::string& address) {
+    addrinfo hints{};
+    hints.ai_socktype = SOCK_STREAM;
+    addrinfo* found = nullptr;
+    const bool known =
+        !address.empty() && getaddrinfo(address.c_str(), nullptr, &hints, &found) == 0;
+    if (found != nullptr) {
+        freeaddrinfo(found);
+    }
+    return known;
+}
+
+std::string whyNotBound(const std::string& address, int port, int error) {
+    const std::string place = "a porta " + std::to_string(port) + " do endereço " + address;
+    switch (error) {
+        case EADDRINUSE:
+            return "Não foi possível usar " + place +
+                   ": já está ocupada por outro programa. Escolha outra com --porta, ou 0 para "
+                   "uma porta livre qualquer.";
+        case EACCES:
+            return "Não foi possível usar " + place +
+                   ": o sistema não permite. Escolha uma porta acima de 1023 com --porta.";
+        case EADDRNOTAVAIL:
+            return "O endereço " + address +
+                   " não é desta máquina. Escolha outro com --endereco, por exemplo 127.0.0.1.";
+        default:
+            return "Não foi possível usar " + place + ". Escolha outros com --endereco e --porta.";
+    }
+}
+
+std::string_view queryOf(std::string_view target) {
+    const std::size_t mark = target.find('?');
+    return mark == std::string_view::npos ? std::string_view{} : target.substr(mark + 1);
+}
+
+// One request a connection, so that the end waits for no idle one; its target
+// is handed on as it came.
+class PageServer : public httplib::Server {
+public:
+    // Keeps the request that this thread is serving without an answer.
+    static void sendNothing() { current_->mute(); }
+
+private:
+    bool process_and_close_socket(socket_t socket) override {
+        RequestStream stream(socket, read_timeout_sec_, write_timeout_sec_);
+        current_ = &stream;
+        bool closed = false;
+        const bool done =
+            process_request(stream, true, closed, [&stream](httplib::Request& request) {
+                request.target = stream.target();
+                // Uncompressed: the library would spend a tenth of a second on a long list.
+                request.headers.erase("Accept-Encoding");
+            });
+        shutdown(socket, SHUT_RDWR);
+        close(socket);
+        return done;
+    }
+
+    static thread_local RequestStream* current_;  // of the request being served
+};
+
+thread_local RequestStream* PageServer::current_ = nullptr;
+
+// A body of which only the first half leaves before the connection closes.
+void sendHalf(httplib::Response& response, std::string body, const std::string& type) {
+    const std::size_t size = body.size();
+    response.set_content_provider(
+        size, type, [body = std::move(body)](std::size_t, std::size_t, httplib::DataSink& sink) {
+            sink.write(body.data(), body.size() / 2);
+            return false;
+        });
+}
+
+// A body and blanks behind it, sent in pieces.
+void sendWithBlanks(httplib::Response& response, std::string body, std::size_t blanks,
+                    const std::string& type) {
+    const std::size_t size = body.size() + blanks;
+    response.set_content_provider(
+        size, type,
+        [body = std::move(body)](std::size_t at, std::size_t left, httplib::DataSink& sink) {
+            if (at < body.size()) {
+                return sink.write(body.data() + at, body.size() - at);
+            }
+            const std::string piece(std::min(left, kBlanksAtOnce), ' ');
+            return sink.write(piece.data(), piece.size());
+        });
+}
+
+}  // namespace
+
+struct HttpFront::State {
+    Answer answer;
+    std::string contentType;
+    PageServer server;
+    std::atomic<bool> finished = false;
+    std::mutex mutex;
+    std::condition_variable stopping;
+    bool stopped = false;
+
+    void send(Page page, httplib::Response& response);
+};
+
+void HttpFront::State::send(Page page, httplib::Response& response) {
+    if (page.wait > page.wait.zero()) {
+        std::unique_lock lock(mutex);
+        stopping.wait_for(lock, page.wait, [this] { return stopped; });
+    }
+    const std::string type = page.contentType.empty() ? contentType : page.contentType;
+    response.status = page.status;
+    if (page.ending == Ending::Before) {
+        PageServer::sendNothing();
+    } else if (page.ending == Ending::Within) {
+        sendHalf(response, std::move(page.body), type);
+    } else if (page.blanksBehind > 0) {
+        sendWithBlanks(response, std::move(page.body), page.blanksBehind, type);
+    } else {
+        response.set_content(page.body, type);
+    }
+}
+
+HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_unique<State>()) {
+    state_->answer = std::move(answer);
+    state_->contentType = std::move(contentType);
+    State* state = state_.get();
+    state->server.set_socket_options(reuseAddressOnly);
+    // Waits for connections in short turns, so that a stop is always noticed.
+    state->server.set_idle_interval(0, kTurnMicroseconds);
+    state->server.Get(std::string(kPagePath),
+                      [state](const httplib::Request& request, httplib::Response& response) {
+                          state->send(state->answer(queryOf(request.target)), response);
+                      });
+    state->server.set_exception_handler(
+        [](const httplib::Request&, httplib::Response& response, std::exception_ptr thrown) {
+            response.status = kServerError;
+            try {
+                std::rethrow_exception(std::move(thrown));
+            } catch (const std::exception& error) {
+                response.set_content(error.what(), kPlainText);
+            }
+        });
+    state->server.set_error_handler([](const httplib::Request&, httplib::Response& response) {
+        if (response.status == kNotFound && response.body.empty()) {
+            response.set_content(
+                "Esta página não existe. A página é " + std::string(kPagePath) + "?comando=...\n",
+                kPlainText);
+        }
+    });
+}
+
+HttpFront::~HttpFront() = default;
+
+int HttpFront::bind(const std::string& address, int port) {
+    if (!isAddress(address)) {
+        throw std::runtime_error("O endereço \"" + address +
+                                 "\" não existe. Escolha outro com --endereco, por exemplo "
+                                 "127.0.0.1.");
+    }
+    errno = 0;
+    const int bound = port == 0 ? state_->server.bind_to_any_port(address)
+                      : state_->server.bind_to_port(address, port) ? port
+                                                                   : -1;
+    if (bound < 0) {
+        throw std::runtime_error(whyNotBound(address, port, errno));
+    }
+    return bound;
+}
+
+void HttpFront::serve() {
+    state_->server.listen_after_bind();
+    state_->finished = true;
+}
+
+// The library takes no notice of a stop that comes before it listens.
+void HttpFront::stop() {
+    while (!state_->server.is_running() && !state_->finished) {
+        std::this_thread::yield();
+    }
+    {
+        const std::lock_guard lock(state_->mutex);
+        state_->stopped = true;
+    }
+    state_->stopping.notify_all();
+    state_->server.stop();
+}
+
+}  // namespace tarn::practice

@@ -1,0 +1,22 @@
+// What the user must see of an order before going on.
+#pragma once
+
+#include <string>
+
+#include "gateway/sessao.h"
+
+namespace tarn {
+
+class AlertaDialogo;
+struct Environment;
+
+// The observations of the order's sales, to be confirmed. `continua` comes back
+// true when the action may go on.
+void Seleciona_Obs_Vnd_X_Ord(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
+                             const std::string& ordem, bool& continua);
+
+// The stock check: with something missing the order can't go on.
+void Seleciona_Obs_Ord_X_Est(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
+                             const std::string& ordem, bool& continua);
+
+}  // namespace tarn

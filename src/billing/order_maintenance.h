@@ -1,0 +1,29 @@
+// Maintenance of an order: the tests on what was typed, and the write.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "gateway/commands.h"
+#include "gateway/sessao.h"
+
+namespace tarn {
+
+struct Environment;
+
+enum class CampoDaOrdem { Quantidade, PesoBruto, PesoLiquido };
+
+struct RecusaDeCampo {
+    CampoDaOrdem campo;
+    std::string_view texto;  // of the box
+};
+
+// The first test that fails, in the order in which the fields are tested. A text that
+// is no number raises TipoIncompativel.
+std::optional<RecusaDeCampo> recusaDosDados(const comando::DadosOrdem& dados);
+
+// Sends the order's data and tells what went wrong. False: refused, nothing changed.
+// True also where the answer was lost: the list must show what the server has.
+bool gravaOrdem(Environment& ambiente, const Sessao& sessao, const comando::DadosOrdem& dados);
+
+}  // namespace tarn

@@ -1,0 +1,24 @@
+// The sheet of a billing order, for the warehouse and the clerk to check before the
+// note is generated: 77 columns on plain paper, one raw job, no page break.
+#pragma once
+
+#include "gateway/sessao.h"
+#include "gateway/xml_document.h"
+
+namespace tarn {
+
+struct Environment;
+
+// The standard sheet. `documento` is read as it prints: what raises VariavelObjeto (no
+// header row, a missing field of an ITEM or PARCELA) leaves the lines before it in the
+// job, which stays open. Released at the end.
+void ImprimeOrdemFaturamento(Environment& ambiente, XmlDocument& documento);
+
+// The sheet of company 1361, for a form that brings its title and headings: control
+// number, net value of each item, room for observations.
+void ImprimeOrdemFaturamentoPreco(Environment& ambiente, XmlDocument& documento);
+
+// The one of the two that the company uses.
+void imprimeOrdem(Environment& ambiente, const Sessao& sessao, XmlDocument& documento);
+
+}  // namespace tarn

@@ -1,0 +1,30 @@
+// The billing orders that are ready for a note: reading the list, cancelling one.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "gateway/sessao.h"
+
+namespace tarn {
+
+struct Environment;
+
+// One order: the twelve cells of its row, as shown; an absent field is empty.
+// Cells 10 to 12 (quantity and the two weights) are formatted numbers.
+struct OrdemFaturamento {
+    std::array<std::string, 12> celulas;
+
+    const std::string& ordem() const { return celulas[0]; }
+    const std::string& ordemCarga() const { return celulas[5]; }
+};
+
+// The list as the server has it now; empty when it could not be had (the user has
+// been told).
+std::vector<OrdemFaturamento> carregaOrdens(Environment& ambiente, const Sessao& sessao);
+
+// Asks, cancels, tells. True: cancelled, the list must be read again.
+bool cancelaOrdem(Environment& ambiente, const Sessao& sessao, const OrdemFaturamento& ordem);
+
+}  // namespace tarn

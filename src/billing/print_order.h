@@ -1,0 +1,15 @@
+// From the selected order to its sheet on paper.
+#pragma once
+
+#include <string>
+
+#include "gateway/sessao.h"
+
+namespace tarn {
+
+struct Environment;
+
+// Fetches the order's document and prints it; every failure to have it is told.
+void imprimeOrdemSelecionada(Environment& ambiente, const Sessao& sessao, const std::string& ordem);
+
+}  // namespace tarn

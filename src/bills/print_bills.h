@@ -1,0 +1,33 @@
+// Prints the ticked rows of the bill search: a page each, a bill or a receipt.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "bills/bill_pictures.h"
+#include "common/grid_row.h"
+#include "platform/progress.h"
+
+namespace tarn {
+
+class XmlDocument;
+struct Environment;
+struct Sessao;
+
+struct DocumentosAImprimir {
+    const std::vector<LinhaGrade>& linhas;  // all rows of the grid
+    bool triplicata = false;
+    const FigurasDuplicata& figuras;
+};
+
+// Asks for the company's data and prints; tells how it ended.
+void imprimeSelecionados(Environment& ambiente, const Sessao& sessao,
+                         const DocumentosAImprimir& documentos, const Progress& progress);
+
+// The same with the company's data at hand. A ticked row without an amount raises
+// TipoIncompativel before its page, and the document is never ended. Where the printer
+// fails at more than a text the user reads its words instead of the success.
+void imprimeDocumentos(Environment& ambiente, std::int32_t empresa, const XmlDocument& dadosEmpresa,
+                       const DocumentosAImprimir& documentos, const Progress& progress);
+
+}  // namespace tarn

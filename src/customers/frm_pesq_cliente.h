@@ -1,0 +1,44 @@
+// Chooses one customer by part of the name, for the searches of bills and of slips.
+// It is hidden when left: what was typed and found is there at the next opening.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "customers/procura_cliente.h"
+#include "widgets/desk_context.h"
+
+namespace Ui {
+class FrmPesqCliente;
+}
+
+namespace tarn {
+
+class GradeModel;
+
+class FrmPesqCliente : public QDialog {
+    Q_OBJECT
+
+public:
+    FrmPesqCliente(DeskContext& desk, QWidget* parent);
+    ~FrmPesqCliente() override;
+
+signals:
+    // Comes before the dialog hides.
+    void escolheu(const tarn::Cliente& cliente);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void preparaBotoes();
+
+    void cmdPesquisar_Click();
+    void cmdSelecionar_Click();
+
+    DeskContext& desk_;
+    std::unique_ptr<Ui::FrmPesqCliente> ui_;
+    GradeModel* clientes_;
+};
+
+}  // namespace tarn

@@ -1,0 +1,32 @@
+#include "desk/frm_ajuda.h"
+
+#include <QIcon>
+
+#include "desk/start.h"
+#include "maker.h"
+#include "ui_frm_ajuda.h"
+#include "widgets/look.h"
+
+namespace tarn {
+
+frmAjuda::frmAjuda(DeskContext& desk, QWidget* parent)
+    : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::frmAjuda>()) {
+    ui_->setupUi(this);
+    const int lado = fontMetrics().height() * 5;
+    ui_->Image1->setPixmap(
+        figura(QStringLiteral("help")).pixmap(QSize(lado, lado), devicePixelRatio()));
+    ui_->Label1->setText(QString::fromUtf8(makerName));
+    ui_->Label2->setText(QStringLiteral("Telefone: %1").arg(QString::fromUtf8(supportPhone)));
+    ui_->Label3->setText(QStringLiteral("Suporte: %1").arg(QString::fromUtf8(supportAddress)));
+    ui_->Label5->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+frmAjuda::~frmAjuda() = default;
+
+bool frmAjuda::carrega() {
+    return impoeFormatoData(desk_.ambiente);
+}
+
+}  // namespace tarn

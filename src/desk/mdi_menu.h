@@ -1,0 +1,76 @@
+// The main desk: the frame that checks the version, lets the user log on and opens
+// the screens from its menu.
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+#include "labels/label_values.h"
+#include "widgets/desk_context.h"
+
+class QAction;
+class QDialog;
+class QLabel;
+class QMdiSubWindow;
+
+namespace Ui {
+class MDIMenu;
+}
+
+namespace tarn {
+
+class TelasDeCobranca;
+enum class TrabalhoNota;
+
+class MDIMenu : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MDIMenu(DeskContext& desk);
+    ~MDIMenu() override;
+
+    // The start of the program: version gate, logon, first activation. Returns when the
+    // user has logged on, or when the program must end. To be called in the event loop.
+    void carrega();
+
+    // The bulk selection of labels, which no entry of the menu opens. Returns when it has
+    // been closed.
+    void abreSelecaoEtiquetas();
+
+    // Enables mnuEtiquetas and mnuNF again when a screen that disabled them closes.
+    void LiberaMenus();
+
+protected:
+    // Closing the window by any means ends the program at once.
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void ligaMenu();
+    void travaMenus();
+    bool entra();
+    void ativa();
+    bool temDireito(const char* transacao);
+    void abreModal(QDialog& tela);
+    // Puts a screen that stays open beside the menu into the desk's area; while it is
+    // there mnuEtiquetas and mnuNF are disabled.
+    template <typename Tela>
+    void abreNaArea(Tela* tela);
+    void centraliza(QMdiSubWindow* janela);
+
+    void etiquetas(const char* tipo);
+    void mOFT_Click();
+    void nota(const char* transacao, TrabalhoNota trabalho);
+    void mnuDuplicata_Click();
+    void mnuBoleto_Click();
+    void mnuChequeImpressao_Click();
+    void mnuAjuda_Click();
+
+    DeskContext& desk_;
+    std::unique_ptr<Ui::MDIMenu> ui_;
+    std::unique_ptr<TelasDeCobranca> cobranca_;
+    labels::ValoresEtiquetas valoresEtiquetas_;  // from one opening to the next
+    QLabel* painel1_ = nullptr;                  // printer notice
+    QLabel* painel2_ = nullptr;                  // establishment's name
+};
+
+}  // namespace tarn

@@ -1,0 +1,244 @@
+#include "dotmatrix/form_file.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <optional>
+
+namespace tarn::dotmatrix {
+
+namespace {
+
+constexpr PaperUnits kLine = kUnitsPerInch / 6;
+constexpr double kMostLines = 22 * 6;
+constexpr double kMostColumns = 1000;
+constexpr std::string_view kBlanks = " \t\r";
+
+struct PitchName {
+    std::string_view name;
+    FormPitch pitch;
+    double column;  // units
+};
+constexpr PitchName kPitches[] = {{"10", {false, false}, 216},
+                                  {"12", {true, false}, 180},
+                                  {"17", {false, true}, 126},
+                                  {"20", {true, true}, 108}};
+
+const PitchName* pitchNamed(std::string_view name) {
+    for (const PitchName& pitch : kPitches) {
+        if (pitch.name == name) {
+            return &pitch;
+        }
+    }
+    return nullptr;
+}
+
+// The words of one line, taken off from the left.
+class Words {
+public:
+    explicit Words(std::string_view line) : rest_(line) {}
+
+    std::string_view next() {
+        skipBlanks();
+        const std::string_view word = rest_.substr(0, rest_.find_first_of(kBlanks));
+        rest_.remove_prefix(word.size());
+        return word;
+    }
+    // A number of at most `most`, with a decimal comma or point.
+    std::optional<double> number(double most) {
+        std::string text(next());
+        for (char& c : text) {
+            c = c == ',' ? '.' : c;
+        }
+        double value = 0;
+        const char* end = text.data() + text.size();
+        const auto read = std::from_chars(text.data(), end, value, std::chars_format::fixed);
+        const bool sound = read.ec == std::errc() && read.ptr == end && value >= 0 && value <= most;
+        return sound ? std::optional(value) : std::nullopt;
+    }
+    std::string rest() {
+        skipBlanks();
+        const std::size_t last = rest_.find_last_not_of(kBlanks);
+        return std::string(rest_.substr(0, last == std::string_view::npos ? 0 : last + 1));
+    }
+
+private:
+    void skipBlanks() {
+        rest_.remove_prefix(std::min(rest_.size(), rest_.find_first_not_of(kBlanks)));
+    }
+    std::string_view rest_;
+};
+
+class Reader {
+public:
+    // What is wrong with the line; empty for nothing.
+    std::string read(std::string_view line) {
+        Words words(line);
+        const std::string_view word = words.next();
+        if (word.empty() || word.front() == '#') {
+            return {};
+        }
+        if (word == "nome") {
+            form.name = words.rest();
+            return {};
+        }
+        if (word == "figura") {
+            form.picture = words.rest();
+            return form.picture.empty() ? "\"figura\" pede o nome de um arquivo." : "";
+        }
+        if (word == "altura") {
+            return readHeight(words);
+        }
+        if (word == "ligar" || word == "passo") {
+            return readPitch(word, words);
+        }
+        if (word == "caixa") {
+            return readBox(words);
+        }
+        if (word == "texto") {
+            return readText(words);
+        }
+        return "\"" + std::string(word) +
+               "\" não é palavra de formulário; use nome, altura, ligar, passo, caixa, texto ou "
+               "figura.";
+    }
+
+    FormDesign form;
+
+private:
+    std::string readHeight(Words& words) {
+        const auto lines = words.number(kMostLines);
+        if (!lines || *lines < 3) {
+            return "\"altura\" pede um número de linhas de 3 a 132.";
+        }
+        form.height = std::llround(*lines * static_cast<double>(kLine));
+        return {};
+    }
+
+    std::string readPitch(std::string_view word, Words& words) {
+        const PitchName* pitch = pitchNamed(words.next());
+        if (pitch == nullptr) {
+            return "\"" + std::string(word) + "\" pede 10, 12, 17 ou 20.";
+        }
+        if (word == "ligar") {
+            form.pitch = pitch->pitch;
+        }
+        column_ = pitch->column;
+        return {};
+    }
+
+    std::string readBox(Words& words) {
+        const auto line = words.number(kMostLines);
+        const auto column = words.number(kMostColumns);
+        const auto width = words.number(kMostColumns);
+        const auto height = words.number(kMostLines);
+        if (!line || !column || !width || !height || *width <= 0 || *height <= 0) {
+            return "\"caixa\" pede linha, coluna, largura e altura em números, e depois o "
+                   "rótulo.";
+        }
+        form.boxes.push_back({xOf(*column), yOf(*line), std::llround(*width * column_),
+                              std::llround(*height * static_cast<double>(kLine)), words.rest()});
+        return {};
+    }
+
+    std::string readText(Words& words) {
+        const auto line = words.number(kMostLines);
+        const auto column = words.number(kMostColumns);
+        std::string text = words.rest();
+        if (!line || !column || text.empty()) {
+            return "\"texto\" pede linha e coluna em números, e depois o texto.";
+        }
+        form.texts.push_back({xOf(*column), yOf(*line), std::move(text)});
+        return {};
+    }
+
+    PaperUnits xOf(double column) const { return std::llround((column - 1) * column_); }
+    static PaperUnits yOf(double line) {
+        return std::llround((line - 1) * static_cast<double>(kLine));
+    }
+
+    double column_ = 216;
+};
+
+// With a decimal comma, and no more decimals than it has.
+std::string decimal(double value) {
+    char digits[32];
+    std::snprintf(digits, sizeof digits, "%.4f", value);
+    std::string text = digits;
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.back() == '.') {
+        text.pop_back();
+    }
+    const std::size_t point = text.find('.');
+    if (point != std::string::npos) {
+        text[point] = ',';
+    }
+    return text;
+}
+
+const PitchName& nameOf(const FormPitch& wanted) {
+    for (const PitchName& pitch : kPitches) {
+        if (pitch.pitch.elite == wanted.elite && pitch.pitch.condensed == wanted.condensed) {
+            return pitch;
+        }
+    }
+    return kPitches[0];
+}
+
+std::string lineOf(PaperUnits y) {
+    return decimal(static_cast<double>(y) / static_cast<double>(kLine) + 1);
+}
+
+}  // namespace
+
+Dialect panelFor(const FormDesign& form, Dialect dialect) {
+    dialect.formHeight = form.height;
+    dialect.elite = form.pitch.elite;
+    dialect.condensed = form.pitch.condensed;
+    return dialect;
+}
+
+std::variant<FormDesign, FormTextError> readForm(std::string_view text) {
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    if (text.starts_with(kMark)) {
+        text.remove_prefix(kMark.size());
+    }
+    Reader reader;
+    for (std::size_t number = 1; !text.empty(); ++number) {
+        const std::size_t end = std::min(text.size(), text.find('\n'));
+        if (std::string what = reader.read(text.substr(0, end)); !what.empty()) {
+            return FormTextError{number, std::move(what)};
+        }
+        text.remove_prefix(std::min(text.size(), end + 1));
+    }
+    return std::move(reader.form);
+}
+
+std::string writeForm(const FormDesign& form) {
+    const PitchName& pitch = nameOf(form.pitch);
+    // Columns are counted condensed, as most fields of these forms are printed.
+    constexpr double kCounted = 126;
+    const auto columns = [](PaperUnits x) { return decimal(static_cast<double>(x) / kCounted); };
+    const auto columnOf = [](PaperUnits x) {
+        return decimal(static_cast<double>(x) / kCounted + 1);
+    };
+    const auto lines = [](PaperUnits y) {
+        return decimal(static_cast<double>(y) / static_cast<double>(kLine));
+    };
+    std::string out = "nome " + form.name + "\naltura " + lines(form.height) + "\nligar " +
+                      std::string(pitch.name) + "\npasso 17\n";
+    if (!form.picture.empty()) {
+        out += "figura " + form.picture + "\n";
+    }
+    for (const FormBox& box : form.boxes) {
+        out += "caixa " + lineOf(box.y) + " " + columnOf(box.x) + " " + columns(box.width) + " " +
+               lines(box.height) + (box.label.empty() ? "" : " " + box.label) + "\n";
+    }
+    for (const FormText& text : form.texts) {
+        out += "texto " + lineOf(text.y) + " " + columnOf(text.x) + " " + text.text + "\n";
+    }
+    return out;
+}
+
+}  // namespace tarn::dotmatrix

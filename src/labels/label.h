@@ -1,0 +1,63 @@
+// What the server tells of a label and of the branch that sends it.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "gateway/pega_valor.h"
+#include "platform/progress.h"
+
+namespace tarn::labels {
+
+// An address of the queue, by the names of its fields; absent is empty.
+struct Etiqueta {
+    std::string_view NOME;
+    std::string_view ENDERECO;          // the address line as a whole
+    std::string_view SOMENTE_ENDERECO;  // the street alone, for use with the number
+    std::string_view NUMERO;
+    std::string_view COMPLEMENTO;
+    std::string_view BAIRRO;
+    std::string_view MUNICIPIO;
+    std::string_view UF;
+    std::string_view CEP;
+    std::string_view CODIGO;
+};
+
+// The labels of an answer, which must outlive this, in its order.
+class Etiquetas {
+public:
+    explicit Etiquetas(const XmlDocument& resposta);
+
+    std::size_t quantas() const { return quantas_; }
+    // Its texts live until the next label is read. VariavelObjeto for a field that the
+    // answer spells in another case.
+    Etiqueta le(std::size_t indice);
+
+private:
+    XmlNode linhas_;
+    std::size_t quantas_ = 0;
+    LeitorLinha leitor_;
+};
+
+// Tells who follows the run, if anyone, that so many of the labels are printed.
+void avisa(const Progress& andamento, std::size_t feitas, const Etiquetas& etiquetas);
+
+struct Remetente {
+    std::string NOME;
+    std::string ENDERECO;
+    std::string BAIRRO;
+    std::string MUNICIPIO;
+    std::string UF;
+    std::string CEP;
+    std::string DESCRICAO;  // empty when blank
+    std::string NUMERO;     // empty when its value is 0
+};
+
+// The first row. VariavelObjeto when there is none.
+Remetente leRemetente(const XmlDocument& resposta);
+
+// A house number as it prints: nothing for what counts as 0.
+std::string_view semZero(std::string_view numero);
+
+}  // namespace tarn::labels

@@ -1,0 +1,50 @@
+// The queue of labels that the server keeps under reasons of printing.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "common/grid_row.h"
+#include "common/list_items.h"
+
+namespace tarn {
+struct Environment;
+struct Sessao;
+}  // namespace tarn
+
+namespace tarn::labels {
+
+struct ValoresEtiquetas;
+
+// The item that stands for none.
+inline constexpr std::string_view semEscolha = "--------";
+
+// The items of the queue screen's list of forms; the position is the TipoFormulario.
+inline constexpr std::array<std::string_view, 5> formulariosDaFila{
+    semEscolha, "PIMACO 6280 - LASER", "PIMACO - XXX - MATRICIAL", "PDF - A5 - DESTINATÁRIO",
+    "PDF - A4 - DESTINATÁRIO - REMETENTE - LASER"};
+inline constexpr int posicaoComRemetente = 4;
+
+// "--------" and the reasons for the kind of label that the session holds; the first item
+// alone after a failed request.
+std::vector<ItemLista> carregaMotivos(Environment& ambiente, const Sessao& sessao);
+
+// "--------" and the branches that can send; nothing after a failed request.
+std::optional<std::vector<ItemLista>> carregaFiliaisRemetente(Environment& ambiente,
+                                                              const Sessao& sessao);
+
+// The whole queue of a reason, which from here on is the MotivoImpressao; its size is
+// told there too. Nothing, and the former size, after a failed request. Columns of a row:
+// sequence, CEP, name, code, address, complement, district, town, state, country.
+std::optional<std::vector<LinhaGrade>> leFila(Environment& ambiente, const Sessao& sessao,
+                                              const std::string& motivo, ValoresEtiquetas& valores);
+
+// Before printing: what the user, who has been told, must choose first.
+enum class FaltaEscolher { Nada, Motivo, Formulario };
+FaltaEscolher verificaEscolhas(Environment& ambiente, const ValoresEtiquetas& valores,
+                               int posicaoDoFormulario);
+
+}  // namespace tarn::labels

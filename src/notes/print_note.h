@@ -1,0 +1,32 @@
+// From a note document to paper: the ladder picks the layout of the logged-on
+// company and establishment, the layout prints.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "gateway/sessao.h"
+#include "gateway/xml_document.h"
+
+namespace tarn {
+
+struct Environment;
+namespace notes {
+class LossLog;
+}
+
+// The two screens run ladders that differ in two steps.
+enum class Escada { Emissao, Reimpressao };
+
+// Name of the layout ("ImprimeNF_1361"), or "" where nothing is printed.
+std::string_view layoutFor(Escada escada, std::int32_t empresa, std::int32_t estabelecimento);
+
+// Prints the note of an answer whose status reads "OK" and lets go of the document.
+// `numeroNota` holds the note's number as digits. What was sent before an
+// ErroExecucao stays sent and the job stays open. `perdas`, if given, keeps what the form
+// has no room for.
+void imprimeNota(Escada escada, Environment& ambiente, const Sessao& sessao, XmlDocument& documento,
+                 const std::string& numeroNota, notes::LossLog* perdas = nullptr);
+
+}  // namespace tarn

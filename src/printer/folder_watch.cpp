@@ -1,0 +1,118 @@
+#include "printer/folder_watch.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <algorithm>
+#include <chrono>
+
+namespace tarn::dotmatrix {
+
+namespace {
+
+constexpr std::chrono::milliseconds kBetweenLooks(250);
+constexpr int kQuietLooks = 2;
+constexpr qint64 kReadAtOnce = 256LL * 1024;
+
+QStringList jobsIn(const QDir& folder) {
+    QStringList names = QDir(folder.path()).entryList({QStringLiteral("*.prn")}, QDir::Files);
+    std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
+        // job-999 before job-1000
+        return a.size() != b.size() && a.startsWith(u"job-") && b.startsWith(u"job-")
+                   ? a.size() < b.size()
+                   : a < b;
+    });
+    return names;
+}
+
+}  // namespace
+
+FolderWatch::FolderWatch(JobIntake& intake, const QString& folder)
+    : intake_(intake), folder_(folder) {
+    watcher_.addPath(folder);
+    connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, &FolderWatch::look);
+    connect(&timer_, &QTimer::timeout, this, &FolderWatch::look);
+    connect(&soon_, &QTimer::timeout, this, &FolderWatch::look);
+    soon_.setSingleShot(true);
+    soon_.setInterval(0);
+    soon_.start();
+    timer_.start(kBetweenLooks);
+}
+
+bool FolderWatch::hasNews(const QString& name) const {
+    const QFileInfo file(folder_, name);
+    const Seen seen = seen_.value(name);
+    return file.size() != seen.taken || (seen.done && file.lastModified() != seen.written);
+}
+
+void FolderWatch::look() {
+    const QStringList names = jobsIn(folder_);
+    if (!open_.isEmpty()) {
+        if (hasNews(open_)) {
+            return takePiece(QString(open_));
+        }
+        const bool others = std::any_of(names.begin(), names.end(),
+                                        [this](const QString& name) { return hasNews(name); });
+        rest(others);
+        if (!open_.isEmpty()) {
+            return;
+        }
+    }
+    const auto next = std::find_if(names.begin(), names.end(),
+                                   [this](const QString& name) { return hasNews(name); });
+    if (next != names.end()) {
+        takePiece(*next);
+    }
+}
+
+void FolderWatch::takePiece(const QString& name) {
+    const QFileInfo file(folder_, name);
+    Seen& seen = seen_[name];
+    if (seen.done || file.size() < seen.taken) {
+        if (open_ == name) {
+            rest(true);
+        }
+        seen = Seen{};
+    }
+    if (open_ != name) {
+        if (file.size() == 0 || !intake_.begin(name)) {
+            return;
+        }
+        open_ = name;
+    }
+    seen.written = file.lastModified();
+    readOn(name, seen);
+}
+
+// One piece a look, so that a long job doesn't hold the window.
+void FolderWatch::readOn(const QString& name, Seen& seen) {
+    quiet_ = 0;
+    QFile file(folder_.filePath(name));
+    QByteArray piece;
+    if (file.open(QIODevice::ReadOnly) && file.seek(seen.taken)) {
+        piece = file.read(kReadAtOnce);
+    }
+    seen.taken += piece.size();
+    if (piece.isEmpty() || !intake_.take(piece)) {
+        if (piece.isEmpty()) {
+            intake_.end(
+                QStringLiteral("não foi possível ler o arquivo (%1).").arg(file.errorString()));
+        }
+        open_.clear();
+        seen.taken = file.size();
+        seen.done = true;
+    }
+    soon_.start();
+}
+
+// A file may still grow while no other waits.
+void FolderWatch::rest(bool atOnce) {
+    if (!atOnce && ++quiet_ < kQuietLooks) {
+        return;
+    }
+    quiet_ = 0;
+    seen_[open_].done = true;
+    open_.clear();
+    intake_.end();
+}
+
+}  // namespace tarn::dotmatrix

@@ -1,0 +1,85 @@
+// The strip of paper on the screen. Only what is seen is printed again and painted.
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <optional>
+
+#include "dotmatrix/paper_painter.h"
+#include "printer/paper_region.h"
+
+namespace tarn::dotmatrix {
+
+// What lies under the mouse.
+struct PaperSpot {
+    std::size_t form = 0;    // from 0
+    std::size_t line = 0;    // of the form, from 1
+    std::size_t column = 0;  // from 1, 0 outside the print
+};
+
+class PaperView : public QAbstractScrollArea {
+    Q_OBJECT
+
+public:
+    static constexpr double kLeastZoom = 0.25;
+    static constexpr double kMostZoom = 4.0;
+
+    // `roll` must outlive this.
+    explicit PaperView(PaperRoll& roll, QWidget* parent = nullptr);
+
+    void setOptions(const PaintOptions& options);
+    // 1 is true size on a screen of 96 dots an inch.
+    double zoom() const { return zoom_; }
+    void setZoom(double zoom);
+    void fitWidth();
+
+    // The roll has changed. Until the user looks elsewhere the view follows the print:
+    // the last job from its beginning, or its end where it is longer than the window.
+    void refresh();
+    void showTop(PaperUnits y);
+    // Scrolls only if it isn't in sight.
+    void reveal(const PaperRegion& region);
+    // y at the upper edge of the window.
+    PaperUnits topY() const;
+    std::size_t presentForm() const;
+
+    const std::optional<PaperRegion>& selection() const { return selection_; }
+    void select(const std::optional<PaperRegion>& region);
+    void mark(const std::optional<PaperRegion>& found);
+
+signals:
+    void zoomed();
+    void selected(bool any);
+    void hovered(const tarn::dotmatrix::PaperSpot& spot);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct Point {
+        PaperUnits x = 0;
+        PaperUnits y = 0;
+    };
+    double scale() const;  // pixels for each unit
+    double leftEdge() const;
+    void setRanges();
+    void follow();
+    Point pointAt(const QPointF& pixel) const;
+    QRectF pixelsOf(const PaperRegion& region) const;
+    PaperSpot spotAt(const Point& point);
+
+    PaperRoll& roll_;
+    PaintOptions options_;
+    PaperPainter painter_;
+    double zoom_ = 1.0;
+    bool following_ = true;
+    std::optional<PaperRegion> selection_;
+    std::optional<PaperRegion> found_;
+    Point pressed_;
+};
+
+}  // namespace tarn::dotmatrix

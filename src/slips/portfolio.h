@@ -1,0 +1,33 @@
+// The collection portfolio under which slips are printed.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "gateway/sessao.h"
+#include "gateway/xml_document.h"
+
+namespace tarn {
+
+struct Environment;
+
+// All as text, as the server has them; empty when it has none.
+struct CarteiraCobranca {
+    std::string ID_CRT_COB;
+    std::string ID_PES_BAN;
+    std::string NR_CRT_CNAB;  // wallet
+    std::string CD_AGE_BAN_CNAB;
+    std::string NR_CCOR_CNAB;
+
+    bool carteira57() const;
+};
+
+// With several rows the last one stands, each field on its own.
+CarteiraCobranca carteiraDe(const XmlDocument& resposta);
+
+// By the item data of the list; nothing: the user has been told.
+std::optional<CarteiraCobranca> carregaCarteira(Environment& ambiente, const Sessao& sessao,
+                                                std::int32_t idCarteira);
+
+}  // namespace tarn

@@ -1,0 +1,17 @@
+// The lines of a slip on its pre-printed form: blanks and line ends are all the form
+// knows of positions. The job is open and set up, and stays open.
+#pragma once
+
+#include "common/grid_row.h"
+#include "common/raw_channel.h"
+#include "slips/slip_number.h"
+
+namespace tarn {
+
+void imprimeLinhasCarteira57(RawChannel& canal, const LinhaGrade& documento,
+                             const NossoNumero& numero);
+// Every other wallet.
+void imprimeLinhasSeteDigitos(RawChannel& canal, const LinhaGrade& documento,
+                              const NossoNumero& numero);
+
+}  // namespace tarn

@@ -1,0 +1,63 @@
+#include "widgets/field_families.h"
+
+#include <algorithm>
+
+#include "platform/clock.h"
+#include "platform/environment.h"
+#include "platform/machine.h"
+
+namespace tarn {
+namespace {
+
+constexpr int quantityLength = 13;
+
+}  // namespace
+
+DateField::DateField(QLineEdit* edit, KeyFilter filter, Environment& ambiente, Test test)
+    : FieldController(edit, filter, ambiente),
+      test_(test),
+      digits_(QRegularExpression(filter == KeyFilter::NumeroVirgula ? QStringLiteral("[0-9,]*")
+                                                                    : QStringLiteral("[0-9]*"))) {
+    edit->setMaxLength(dateLengthShown);
+    connect(edit, &QLineEdit::inputRejected, this, [&ambiente] { ambiente.machine.beep(); });
+}
+
+void DateField::entered() {
+    edit().setText(QString::fromStdString(dateOnEnter(edit().text().toStdString())));
+    edit().setMaxLength(dateLengthEditing);
+    edit().setValidator(&digits_);
+    edit().selectAll();
+}
+
+void DateField::left() {
+    edit().setValidator(nullptr);
+    edit().setMaxLength(dateLengthShown);
+    const std::string typed = edit().text().toStdString();
+    const Date today = ambiente().clock.today();
+    apply(test_ == Test::Calendar ? testedDateOnLeave(typed, today)
+                                  : FieldResult{dateOnLeave(typed, today), {}, false});
+}
+
+QuantityField::QuantityField(QLineEdit* edit, const QuantityMessages& messages,
+                             Environment& ambiente)
+    : FieldController(edit, KeyFilter::NumeroVirgula, ambiente, EnterKey::TabOnly),
+      messages_(messages) {
+    edit->setMaxLength(quantityLength);
+    edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+// Rounding may leave one character more than can be typed; it is shown all the same.
+void QuantityField::left() {
+    const FieldResult result = quantityOnLeave(edit().text().toStdString(), messages_);
+    edit().setMaxLength(std::max(quantityLength, static_cast<int>(result.text.size())));
+    apply(result);
+}
+
+MoneyField::MoneyField(QLineEdit* edit, Environment& ambiente)
+    : FieldController(edit, KeyFilter::NumeroVirgula, ambiente) {}
+
+void MoneyField::left() {
+    apply(moneyOnLeave(edit().text().toStdString()));
+}
+
+}  // namespace tarn

@@ -1,0 +1,59 @@
+// The field families: date, quantity of three decimals, money. Fields that are only
+// filtered take a FieldController as it is.
+#pragma once
+
+#include <QLineEdit>
+#include <QRegularExpressionValidator>
+
+#include "widgets/field_controller.h"
+
+namespace tarn {
+
+// Bare digits while edited, dd/mm/yyyy when left; what was left out of the date is
+// today's. A pasted text with anything but those digits (and commas, by its filter) is
+// refused. A tested one refuses what is no day of the calendar.
+class DateField : public FieldController {
+    Q_OBJECT
+
+public:
+    enum class Test { None, Calendar };
+
+    DateField(QLineEdit* edit, KeyFilter filter, Environment& ambiente, Test test = Test::None);
+
+protected:
+    void entered() override;
+    void left() override;
+
+private:
+    Test test_;
+    QRegularExpressionValidator digits_;  // in force while the field is edited
+};
+
+// Three decimals, up to 9.999.999,999. The messages' texts must outlive the field.
+class QuantityField : public FieldController {
+    Q_OBJECT
+
+public:
+    QuantityField(QLineEdit* edit, const QuantityMessages& messages, Environment& ambiente);
+
+protected:
+    void entered() override { edit().selectAll(); }
+    void left() override;
+
+private:
+    QuantityMessages messages_;
+};
+
+// Two decimals. Leaving it with a text that is no number raises TipoIncompativel.
+class MoneyField : public FieldController {
+    Q_OBJECT
+
+public:
+    MoneyField(QLineEdit* edit, Environment& ambiente);
+
+protected:
+    void entered() override { edit().selectAll(); }
+    void left() override;
+};
+
+}  // namespace tarn

@@ -1,0 +1,101 @@
+#include "billing/order_maintenance.h"
+
+#include <gtest/gtest.h>
+
+#include "runtime/runtime_error.h"
+#include "tests/support/answers.h"
+#include "tests/support/test_environment.h"
+
+namespace tarn {
+namespace {
+
+comando::DadosOrdem values(std::string_view quantity, std::string_view gross,
+                           std::string_view net) {
+    return {.ordem = "12",
+            .observacao = "50% & | já",
+            .quantidade = quantity,
+            .pesoBruto = gross,
+            .pesoLiquido = net};
+}
+
+std::string refused(const comando::DadosOrdem& data, CampoDaOrdem field) {
+    const auto refusal = recusaDosDados(data);
+    if (!refusal) {
+        return "-";
+    }
+    EXPECT_EQ(refusal->campo, field);
+    return std::string(refusal->texto);
+}
+
+TEST(RecusaDosDados, ZeroAndMorePass) {
+    EXPECT_FALSE(recusaDosDados(values("0,000", "0", "1.234,500")));
+    EXPECT_FALSE(recusaDosDados(values("-0", "0,0", "99.999.999,999")));
+}
+
+TEST(RecusaDosDados, EachTestHasItsTextAndTheFirstCounts) {
+    using enum CampoDaOrdem;
+    EXPECT_EQ(refused(values("", "", ""), Quantidade), "Quantidade Espécie é obrigatório!     ");
+    EXPECT_EQ(refused(values("-1", "", ""), Quantidade), "Quantidade Espécie inválido!     ");
+    EXPECT_EQ(refused(values("0", "", "-1"), PesoBruto), "Peso Bruto é obrigatório!     ");
+    EXPECT_EQ(refused(values("0", "-0,001", ""), PesoBruto), "Peso Bruto inválido!     ");
+    EXPECT_EQ(refused(values("0", "0", ""), PesoLiquido), "Peso Líquido é obrigatório!     ");
+    EXPECT_EQ(refused(values("0", "0", "-1.000,5"), PesoLiquido), "Peso Líquido inválido!     ");
+}
+
+TEST(RecusaDosDados, ATextThatIsNoNumberRaisesTheError) {
+    EXPECT_THROW(recusaDosDados(values(" ", "", "")), ErroExecucao);
+    EXPECT_THROW(recusaDosDados(values("0", "abc", "")), ErroExecucao);
+    EXPECT_FALSE(refused(values("", "abc", ""), CampoDaOrdem::Quantidade).empty());
+}
+
+class GravaOrdemTest : public testing::Test {
+protected:
+    GravaOrdemTest() {
+        session_.ID_ETB_TARN = 9;
+        session_.SERVERNAME = "SRV";
+    }
+    bool write() {
+        const bool sent = gravaOrdem(seams_.environment, session_, values("1,000", "0,000", "2,5"));
+        EXPECT_EQ(seams_.loader.queries(),
+                  std::vector<std::string>{
+                      "COMANDO=MANUTENCAO_OFT&ID_ETB_TARN=9&ID_ORD_FAT=12&ServerName=SRV&DC_OBS="
+                      "50|| | | já&QT_ESP=1,000&PESO_BRU=0,000&PESO_LIQ=2,5"})
+            << "once and never again";
+        return sent;
+    }
+
+    TestEnvironment seams_;
+    Sessao session_;
+};
+
+TEST_F(GravaOrdemTest, Written) {
+    seams_.loader.on("MANUTENCAO_OFT", answers::status("OK"));
+    EXPECT_TRUE(write());
+    EXPECT_TRUE(seams_.boxes.shown.empty());
+}
+
+TEST_F(GravaOrdemTest, Refused) {
+    seams_.loader.on("MANUTENCAO_OFT", answers::status("Ordem em uso. "));
+    EXPECT_FALSE(write());
+    EXPECT_EQ(seams_.boxes.shown,
+              (std::vector<Box>{{"Ordem em uso. ", BoxIcon::Exclamation, "TarnEmissao"}}));
+}
+
+TEST_F(GravaOrdemTest, ALostAnswerIsToBeCheckedByHand) {
+    EXPECT_TRUE(write());
+    EXPECT_EQ(
+        seams_.boxes.shown,
+        (std::vector<Box>{{"ERRO Tarn0013 - Não foi possível obter os dados da Internet. Verifique "
+                           "a conexão com a Internet.",
+                           BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"},
+                          {"Favor verificar se os dados da Ordem de Faturamento foi gravado. ",
+                           BoxIcon::Exclamation, "Aviso"}}));
+}
+
+TEST_F(GravaOrdemTest, AnAnswerWithoutAStatusRaisesTheError) {
+    seams_.loader.on("MANUTENCAO_OFT", "<R a='0' s='OK'/>");
+    EXPECT_THROW(write(), ErroExecucao);
+}
+
+}  // namespace
+}  // namespace tarn

@@ -1,0 +1,87 @@
+#include "desk/desk_options.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace tarn {
+namespace {
+
+constexpr char padrao[] = "http://fixo/Kestomain/TarnEmissao.asp?";
+
+std::variant<Opcoes, SemPartida> read(std::vector<const char*> words, const char* env = "") {
+    words.insert(words.begin(), "tarnemissao");
+    return leOpcoes(static_cast<int>(words.size()), words.data(), env, padrao);
+}
+Opcoes options(const std::vector<const char*>& words, const char* env = "") {
+    return std::get<Opcoes>(read(words, env));
+}
+SemPartida stop(const std::vector<const char*>& words) {
+    return std::get<SemPartida>(read(words));
+}
+
+TEST(Opcoes, WithoutOptionsTheBuildsServerAndTheMachinesPrinter) {
+    const Opcoes opcoes = options({});
+    EXPECT_EQ(opcoes.baseUrl, padrao);
+    EXPECT_EQ(opcoes.impressoraVirtual, "");
+    EXPECT_EQ(opcoes.paginaDeCodigo, CodePage::Page1252);
+    EXPECT_FALSE(opcoes.selecaoEtiquetas);
+}
+
+TEST(Opcoes, TheServerOfTheCommandLineGoesBeforeTheEnvironments) {
+    EXPECT_EQ(options({}, "http://amb/p.asp?").baseUrl, "http://amb/p.asp?");
+    EXPECT_EQ(options({"--servidor", "https://linha/p.asp?"}, "http://amb/p.asp?").baseUrl,
+              "https://linha/p.asp?");
+}
+
+TEST(Opcoes, AServerGetsThePathOfTheOnePage) {
+    EXPECT_EQ(enderecoDoServidor("http://h:8610"), "http://h:8610/Kestomain/TarnEmissao.asp?");
+    EXPECT_EQ(enderecoDoServidor("https://h/"), "https://h/Kestomain/TarnEmissao.asp?");
+    EXPECT_EQ(enderecoDoServidor("http://h/x.asp"), "http://h/x.asp?");
+    EXPECT_EQ(enderecoDoServidor("http://h/x.asp?"), "http://h/x.asp?");
+    for (const char* wrong : {"", "h:8610", "ftp://h", "http://", "file:///etc/passwd"}) {
+        EXPECT_EQ(enderecoDoServidor(wrong), "") << wrong;
+    }
+}
+
+TEST(Opcoes, ReadsTheOthers) {
+    const Opcoes opcoes = options({"--impressora-virtual", "saida", "--pagina-de-codigo", "850",
+                                   "--pasta-figuras", "fig", "--selecao-etiquetas"});
+    EXPECT_EQ(opcoes.impressoraVirtual, "saida");
+    EXPECT_EQ(opcoes.paginaDeCodigo, CodePage::Page850);
+    EXPECT_EQ(opcoes.pastaFiguras, "fig");
+    EXPECT_TRUE(opcoes.selecaoEtiquetas);
+}
+
+TEST(Opcoes, HelpAndVersionEndWellInPortuguese) {
+    for (const char* word : {"--ajuda", "--help", "-h"}) {
+        EXPECT_EQ(stop({word}).status, 0);
+        EXPECT_NE(stop({word}).texto.find("--impressora-virtual"), std::string::npos);
+        EXPECT_EQ(stop({word}).texto.find("Options"), std::string::npos);
+    }
+    EXPECT_EQ(stop({"--versao"}).status, 0);
+    EXPECT_EQ(stop({"--versao"}).texto.rfind("TarnEmissao ", 0), 0U);
+}
+
+TEST(Opcoes, WrongUsageSaysWhat) {
+    const std::pair<std::vector<const char*>, const char*> cases[] = {
+        {{"--foo"}, "tarnemissao: opção ou argumento desconhecido: --foo.\n"},
+        {{"--servidor"}, "tarnemissao: falta o valor da opção --servidor.\n"},
+        {{"--pagina-de-codigo", "437"},
+         "tarnemissao: --pagina-de-codigo aceita 1252, 850 ou 860.\n"},
+        {{"--pagina-de-codigo", "abc"},
+         "tarnemissao: valor que não serve: --pagina-de-codigo = abc.\n"},
+        {{"--impressora-virtual", ""},
+         "tarnemissao: --impressora-virtual pede o nome de uma pasta.\n"},
+        {{"--servidor", "ftp://x"},
+         "tarnemissao: o endereço do servidor deve começar com http:// ou https://: "
+         "\"ftp://x\".\n"}};
+    for (const auto& [words, text] : cases) {
+        EXPECT_EQ(stop(words).status, 1);
+        EXPECT_EQ(stop(words).texto,
+                  std::string(text) + "Use tarnemissao --ajuda para ver as opções.\n");
+    }
+}
+
+}  // namespace
+}  // namespace tarn

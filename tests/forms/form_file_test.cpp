@@ -1,0 +1,99 @@
+#include "dotmatrix/form_file.h"
+
+#include <gtest/gtest.h>
+
+#include "forms/layout_forms.h"
+
+namespace tarn::dotmatrix {
+namespace {
+
+FormDesign read(std::string_view text) {
+    auto form = readForm(text);
+    if (const auto* error = std::get_if<FormTextError>(&form)) {
+        throw std::runtime_error(error->what);
+    }
+    return std::get<FormDesign>(form);
+}
+
+FormTextError errorOf(std::string_view text) {
+    auto form = readForm(text);
+    return std::holds_alternative<FormTextError>(form) ? std::get<FormTextError>(form)
+                                                       : FormTextError{};
+}
+
+TEST(FormText, EveryWord) {
+    const FormDesign form = read(
+        "\xEF\xBB\xBF# da gráfica\r\n"
+        "nome Nota da empresa 99\r\n"
+        "altura 33\r\n"
+        "ligar 17\r\n"
+        "figura fundo.png\r\n"
+        "\r\n"
+        "caixa 10 2 82 1 Nome / razão social\r\n"
+        "  texto 3 5,5 NOTA FISCAL  \r\n"
+        "passo 10\n"
+        "caixa 1.5 11 4 2\n");
+    EXPECT_EQ(form.name, "Nota da empresa 99");
+    EXPECT_EQ(form.height, 33 * 360);
+    EXPECT_TRUE(form.pitch.condensed);
+    EXPECT_FALSE(form.pitch.elite);
+    EXPECT_EQ(form.picture, "fundo.png");
+    ASSERT_EQ(form.boxes.size(), 2U);
+    EXPECT_EQ(form.boxes[0].x, 126);
+    EXPECT_EQ(form.boxes[0].y, 9 * 360);
+    EXPECT_EQ(form.boxes[0].width, 82 * 126);
+    EXPECT_EQ(form.boxes[0].height, 360);
+    EXPECT_EQ(form.boxes[0].label, "Nome / razão social");
+    EXPECT_EQ(form.boxes[1].x, 10 * 216);
+    EXPECT_EQ(form.boxes[1].y, 180);
+    EXPECT_EQ(form.boxes[1].label, "");
+    ASSERT_EQ(form.texts.size(), 1U);
+    EXPECT_EQ(form.texts[0].x, 567);  // 4,5 columns of 126
+    EXPECT_EQ(form.texts[0].text, "NOTA FISCAL");
+}
+
+TEST(FormText, EmptyIsABlankSheet) {
+    EXPECT_TRUE(read("").boxes.empty());
+    EXPECT_EQ(read("").height, 11 * kUnitsPerInch);
+}
+
+TEST(FormText, EveryFaultIsToldWithItsLine) {
+    const std::pair<const char*, const char*> faults[] = {
+        {"caixa 1 2 3", "\"caixa\" pede linha, coluna, largura e altura em números"},
+        {"caixa 1 2 0 1 x", "\"caixa\" pede"},
+        {"caixa 1 2 -3 1 x", "\"caixa\" pede"},
+        {"caixa 1 2 1e3 1 x", "\"caixa\" pede"},
+        {"texto 1 2", "\"texto\" pede linha e coluna"},
+        {"altura 2", "\"altura\" pede um número de linhas de 3 a 132."},
+        {"altura", "\"altura\" pede"},
+        {"ligar 15", "\"ligar\" pede 10, 12, 17 ou 20."},
+        {"passo", "\"passo\" pede 10, 12, 17 ou 20."},
+        {"figura", "\"figura\" pede o nome de um arquivo."},
+        {"quadro 1 2 3 4", "\"quadro\" não é palavra de formulário"}};
+    for (const auto& [line, expected] : faults) {
+        const FormTextError error = errorOf(std::string("nome x\n\n") + line);
+        EXPECT_EQ(error.line, 3U) << line;
+        EXPECT_EQ(error.what.find(expected), 0U) << error.what;
+    }
+}
+
+TEST(FormText, WrittenFormsReadTheSame) {
+    for (const std::string& name : layoutFormNames()) {
+        const FormDesign form = *layoutForm(name);
+        const FormDesign again = read(writeForm(form));
+        EXPECT_EQ(again.name, form.name);
+        EXPECT_EQ(again.height, form.height);
+        EXPECT_EQ(again.pitch.condensed, form.pitch.condensed);
+        ASSERT_EQ(again.boxes.size(), form.boxes.size()) << name;
+        for (std::size_t i = 0; i < form.boxes.size(); ++i) {
+            EXPECT_EQ(again.boxes[i].x, form.boxes[i].x) << name;
+            EXPECT_EQ(again.boxes[i].y, form.boxes[i].y) << name;
+            EXPECT_EQ(again.boxes[i].width, form.boxes[i].width) << name;
+            EXPECT_EQ(again.boxes[i].height, form.boxes[i].height) << name;
+            EXPECT_EQ(again.boxes[i].label, form.boxes[i].label) << name;
+        }
+    }
+}
+
+}  // namespace
+}  // namespace tarn::dotmatrix

@@ -1,0 +1,288 @@
+// Jobs over real loopback sockets and from a real directory.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <QTest>
+#include <memory>
+
+#include "dotmatrix/paper_text.h"
+#include "printer/folder_watch.h"
+#include "printer/job_intake.h"
+#include "printer/job_server.h"
+
+namespace tarn::dotmatrix {
+namespace {
+
+constexpr int kLimit = 10000;  // milliseconds; for a machine that is busy
+
+struct Ended {
+    QString name;
+    QString remark;
+};
+
+class Intake : public testing::Test {
+protected:
+    explicit Intake(qint64 mostBytes = JobIntake::kMostJobBytes) : intake_(roll_, mostBytes) {
+        QObject::connect(&intake_, &JobIntake::jobEnded, &intake_,
+                         [this](const QString& name, const QString& remark) {
+                             ended_.push_back({name, remark});
+                         });
+    }
+    bool waitForJobs(std::size_t count) {
+        return QTest::qWaitFor([&] { return ended_.size() >= count; }, kLimit);
+    }
+    std::string text() {
+        std::string out;
+        for (std::size_t form = 0; form < roll_.printedForms(); ++form) {
+            out += form > 0 ? "\f" : "";
+            appendText(out, *roll_.page(form));
+        }
+        return out;
+    }
+
+    PaperRoll roll_{Dialect{}};
+    JobIntake intake_;
+    std::vector<Ended> ended_;
+};
+
+TEST_F(Intake, OneJobAtATime) {
+    EXPECT_TRUE(intake_.begin(QStringLiteral("a")));
+    EXPECT_FALSE(intake_.begin(QStringLiteral("b")));
+    EXPECT_TRUE(intake_.take("um\r\n"));
+    QSignalSpy idle(&intake_, &JobIntake::idle);
+    intake_.end();
+    EXPECT_EQ(idle.count(), 1);
+    EXPECT_TRUE(intake_.begin(QStringLiteral("b")));
+    intake_.take("dois");
+    intake_.end();
+    EXPECT_EQ(text(), "um\ndois\n");
+    EXPECT_EQ(intake_.ended(), 2U);
+    ASSERT_EQ(roll_.jobs().size(), 2U);
+    EXPECT_EQ(roll_.jobs()[1].name, "b");
+}
+
+class SmallIntake : public Intake {
+protected:
+    SmallIntake() : Intake(10) {}
+};
+
+TEST_F(SmallIntake, AJobOverItsSizeIsCutAndTold) {
+    intake_.begin(QStringLiteral("grande"));
+    EXPECT_TRUE(intake_.take("12345"));
+    EXPECT_TRUE(intake_.take("67890"));
+    EXPECT_FALSE(intake_.take("x"));
+    EXPECT_FALSE(intake_.busy());
+    ASSERT_EQ(ended_.size(), 1U);
+    EXPECT_EQ(ended_[0].remark, QStringLiteral("o trabalho passa de 10 bytes; o resto foi "
+                                               "desprezado."));
+    EXPECT_EQ(text(), "1234567890\n");
+    intake_.begin(QStringLiteral("outro"));
+    EXPECT_TRUE(intake_.take("12345"));
+}
+
+template <typename Base>
+class Served : public Base {
+protected:
+    void SetUp() override { ASSERT_TRUE(server_.listen(QHostAddress::LocalHost, 0)); }
+
+    std::unique_ptr<QTcpSocket> connected() {
+        auto socket = std::make_unique<QTcpSocket>();
+        socket->connectToHost(QHostAddress::LocalHost, server_.serverPort());
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return socket->state() == QAbstractSocket::ConnectedState; }, kLimit));
+        return socket;
+    }
+    void send(const QByteArray& bytes) {
+        const auto socket = connected();
+        socket->write(bytes);
+        socket->disconnectFromHost();
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return socket->state() == QAbstractSocket::UnconnectedState; }, kLimit));
+    }
+
+    JobServer server_{this->intake_};
+};
+using Server = Served<Intake>;
+using SmallServer = Served<SmallIntake>;
+
+TEST_F(Server, ListensOnLoopbackAsToldAndTakesManyJobs) {
+    EXPECT_EQ(server_.serverAddress(), QHostAddress(QHostAddress::LocalHost));
+    for (int job = 1; job <= 5; ++job) {
+        send(QByteArray("trabalho ") + QByteArray::number(job) + "\r\n");
+    }
+    ASSERT_TRUE(waitForJobs(5));
+    EXPECT_EQ(text(), "trabalho 1\ntrabalho 2\ntrabalho 3\ntrabalho 4\ntrabalho 5\n");
+    EXPECT_TRUE(ended_[0].name.startsWith(QStringLiteral("rede 127.0.0.1, ")));
+    EXPECT_EQ(ended_[0].remark, QString());
+}
+
+TEST_F(Server, ASecondConnectionWaitsForTheFirst) {
+    const auto first = connected();
+    const auto second = connected();
+    first->write("primeiro ");
+    second->write("segundo\r\n");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "primeiro\n"; }, kLimit));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server_.waiting() == 1; }, kLimit));
+    second->disconnectFromHost();
+    first->write("ainda\r\n");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "primeiro ainda\n"; }, kLimit));
+    EXPECT_EQ(ended_.size(), 0U);
+    first->disconnectFromHost();
+    ASSERT_TRUE(waitForJobs(2));
+    EXPECT_EQ(text(), "primeiro ainda\nsegundo\n");
+}
+
+// Much more than any buffer on the way, sent while another job holds the printer.
+TEST_F(Server, WhatWaitsIsWholeWhenItsTurnComes) {
+    const auto first = connected();
+    first->write("a\r\n");
+    const auto second = connected();
+    const QByteArray lines = QByteArray("linha de um trabalho longo\r\n").repeated(200'000);
+    second->write(lines);
+    second->disconnectFromHost();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "a\n"; }, kLimit));
+    first->disconnectFromHost();
+    ASSERT_TRUE(waitForJobs(2));
+    EXPECT_EQ(roll_.printedForms(), (200'001U + 65) / 66);
+    EXPECT_EQ(ended_[1].remark, QString());
+}
+
+TEST_F(Server, AnAbortedConnectionLeavesWhatCameAndTheNextJobPrints) {
+    auto first = connected();
+    first->write("meia linha");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "meia linha\n"; }, kLimit));
+    first->abort();
+    send("\r\noutro\r\n");
+    ASSERT_TRUE(waitForJobs(2));
+    EXPECT_EQ(text(), "meia linha\noutro\n");
+}
+
+TEST_F(Server, AConnectionWithoutAByteIsNoJob) {
+    send("");
+    send("x");
+    ASSERT_TRUE(waitForJobs(1));
+    EXPECT_EQ(roll_.jobs().size(), 1U);
+}
+
+TEST_F(Server, ASilentConnectionEndsWhenOthersWait) {
+    server_.setPatience(std::chrono::milliseconds(50));
+    const auto silent = connected();
+    silent->write("um");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "um\n"; }, kLimit));
+    EXPECT_EQ(ended_.size(), 0U);
+    send("\r\ndois");
+    ASSERT_TRUE(waitForJobs(2));
+    EXPECT_EQ(ended_[0].remark,
+              QStringLiteral("a conexão ficou em silêncio e outros trabalhos esperavam."));
+    EXPECT_EQ(text(), "um\ndois\n");
+}
+
+TEST_F(SmallServer, AJobOverItsSizeIsCutOffAndTheNextPrints) {
+    const auto big = connected();
+    big->write("123456789012345");
+    ASSERT_TRUE(waitForJobs(1));
+    EXPECT_FALSE(ended_[0].remark.isEmpty());
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return big->state() == QAbstractSocket::UnconnectedState; }, kLimit));
+    send("\r\nx");
+    ASSERT_TRUE(waitForJobs(2));
+    EXPECT_EQ(text(), "1234567890\nx\n");
+}
+
+TEST_F(Server, TooManyAtOnceAreTurnedAway) {
+    const auto first = connected();
+    first->write("a");
+    std::vector<std::unique_ptr<QTcpSocket>> crowd;
+    for (std::size_t i = 0; i < JobServer::kMostWaiting + 1; ++i) {
+        crowd.push_back(connected());
+    }
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return crowd.back()->state() == QAbstractSocket::UnconnectedState; }, kLimit));
+    EXPECT_EQ(server_.waiting(), JobServer::kMostWaiting);
+}
+
+class Watched : public Intake {
+protected:
+    void write(const char* name, const QByteArray& bytes,
+               QIODevice::OpenMode mode = QIODevice::WriteOnly) {
+        QFile file(folder_.filePath(QLatin1StringView(name)));
+        ASSERT_TRUE(file.open(mode));
+        file.write(bytes);
+    }
+    bool waitForText(const std::string& expected) {
+        return QTest::qWaitFor([&] { return text() == expected; }, kLimit);
+    }
+    QTemporaryDir folder_;
+};
+
+TEST_F(Watched, FilesThereAndFilesThatComeInTheOrderOfTheirNumbers) {
+    write("job-002.prn", "dois\r\n");
+    write("job-001.prn", "um\r\n");
+    write("job-003.pdf", "nunca");
+    FolderWatch watch(intake_, folder_.path());
+    ASSERT_TRUE(waitForJobs(2));
+    write("job-1000.prn", "mil\r\n");
+    write("job-999.prn", "novecentos\r\n");
+    ASSERT_TRUE(waitForJobs(4));
+    EXPECT_EQ(text(), "um\ndois\nnovecentos\nmil\n");
+    ASSERT_EQ(roll_.jobs().size(), 4U);
+    EXPECT_EQ(roll_.jobs()[2].name, "job-999.prn");
+}
+
+TEST_F(Watched, AFileThatGrowsIsPrintedAsItGrows) {
+    FolderWatch watch(intake_, folder_.path());
+    write("job-001.prn", "um ");
+    ASSERT_TRUE(waitForText("um\n"));
+    write("job-001.prn", "dois", QIODevice::WriteOnly | QIODevice::Append);
+    ASSERT_TRUE(waitForText("um dois\n"));
+    ASSERT_TRUE(waitForJobs(1));
+}
+
+TEST_F(Watched, AFileWrittenAnewIsANewJob) {
+    FolderWatch watch(intake_, folder_.path());
+    write("job-001.prn", "primeira vez\r\n");
+    ASSERT_TRUE(waitForJobs(1));
+    write("job-001.prn", "outra\r\n");
+    ASSERT_TRUE(waitForJobs(2));
+    EXPECT_EQ(text(), "primeira vez\noutra\n");
+}
+
+TEST_F(Watched, AnEmptyFileIsNoJobAndHoldsNothingUp) {
+    write("job-001.prn", "");
+    write("job-002.prn", "x");
+    FolderWatch watch(intake_, folder_.path());
+    ASSERT_TRUE(waitForJobs(1));
+    EXPECT_EQ(roll_.jobs().size(), 1U);
+}
+
+TEST_F(Watched, WaitsWhileAnotherJobIsTaken) {
+    intake_.begin(QStringLiteral("rede"));
+    intake_.take("primeiro\r\n");
+    write("job-001.prn", "depois\r\n");
+    FolderWatch watch(intake_, folder_.path());
+    watch.look();
+    watch.look();
+    EXPECT_EQ(text(), "primeiro\n");
+    intake_.end();
+    ASSERT_TRUE(waitForJobs(2));
+    EXPECT_EQ(text(), "primeiro\ndepois\n");
+}
+
+TEST_F(Watched, ALongFileComesInPieces) {
+    write("job-001.prn", QByteArray("uma linha\r\n").repeated(100'000));
+    FolderWatch watch(intake_, folder_.path());
+    ASSERT_TRUE(waitForJobs(1));
+    EXPECT_EQ(roll_.printedForms(), (100'000U + 65) / 66);
+}
+
+}  // namespace
+}  // namespace tarn::dotmatrix
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,423 @@
+// The window of the virtual printer, by real keys and clicks.
+#include "printer/printer_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QDockWidget>
+#include <QFile>
+#include <QImage>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPrinter>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QToolBar>
+#include <QWheelEvent>
+
+#include "tests/dotmatrix/note_streams.h"
+#include "tests/dotmatrix/poppler.h"
+#include "tests/support/user.h"
+
+namespace tarn::dotmatrix {
+namespace {
+
+constexpr int kLimit = 20000;  // milliseconds; for a machine that is busy
+
+class Window : public testing::Test {
+protected:
+    void SetUp() override {
+        window_.setQuestions({[this](const QString& title, const QString&, const QString&) {
+                                  asked_ << title;
+                                  return saveAs_;
+                              },
+                              [this](const QString& title, const QString&) {
+                                  asked_ << title;
+                                  return open_;
+                              },
+                              [this](QPrinter& printer) { return print_(printer); }});
+        window_.show();
+        window_.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+    }
+
+    void job(const QByteArray& bytes, const char* name = "job") {
+        ASSERT_TRUE(intake_.begin(QLatin1StringView(name)));
+        ASSERT_TRUE(intake_.take(bytes));
+        intake_.end();
+        ASSERT_TRUE(settled());
+    }
+    bool settled() {
+        const QString jobs = QString::number(roll_.jobs().size()) + QStringLiteral(" trabalho(s)");
+        const QString forms =
+            QString::number(roll_.printedForms()) + QStringLiteral(" formulário(s)");
+        return QTest::qWaitFor(
+            [&] { return label("contagem").startsWith(jobs) && label("contagem").contains(forms); },
+            kLimit);
+    }
+    QString label(const char* name) { return named<QLabel>(window_, name).text(); }
+    void press(Qt::Key key, Qt::KeyboardModifiers with = {}) {
+        QWidget* target = window_.focusWidget() != nullptr ? window_.focusWidget() : &window_;
+        QTest::keyClick(target, key, with);
+    }
+    bool inSight(PaperUnits y) {
+        const auto height = view_.viewport()->height() * kUnitsPerInch / 96;
+        return y >= view_.topY() && y + 360 <= view_.topY() + height;
+    }
+    int scrolled() { return view_.verticalScrollBar()->value(); }
+    QString file(const char* name) const { return folder_.filePath(QLatin1StringView(name)); }
+    QString complaint() {
+        auto* box = qobject_cast<QMessageBox*>(window_.errorBox());
+        if (box == nullptr) {
+            return {};
+        }
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        QString text = box->text();
+        QTest::keyClick(box, Qt::Key_Return);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return window_.errorBox() == nullptr; }, kLimit));
+        return text;
+    }
+    bool searched() {
+        return QTest::qWaitFor(
+            [this] { return label("resultadoLocalizar") != QStringLiteral("Procurando..."); },
+            kLimit);
+    }
+    // Pixel of a place on the paper, in inches from the first print position and from the
+    // top of the view.
+    QPoint at(double x, double y) {
+        const double width = 9.5 * 96 * view_.zoom();
+        const double spare = std::max(0.0, std::floor((view_.viewport()->width() - width) / 2));
+        return {qRound(spare + (x + 0.5) * 96 * view_.zoom()), qRound(y * 96 * view_.zoom())};
+    }
+
+    QTemporaryDir folder_;
+    PaperRoll roll_{Dialect{}};
+    JobIntake intake_{roll_};
+    PrinterWindow window_{roll_, intake_, {}};
+    PaperView& view_ = window_.view();
+    QStringList asked_;
+    QString saveAs_;
+    QStringList open_;
+    std::function<bool(QPrinter&)> print_ = [](QPrinter&) { return false; };
+};
+
+TEST_F(Window, TheViewFollowsThePrintUntilOneLooksElsewhere) {
+    job("um\r\n");
+    EXPECT_EQ(label("contagem"), QStringLiteral("1 trabalho(s), 1 formulário(s)  ·  100%"));
+    EXPECT_EQ(scrolled(), 0);
+    job("\f\f\fdois\r\n");
+    EXPECT_EQ(label("contagem"), QStringLiteral("2 trabalho(s), 4 formulário(s)  ·  100%"));
+    EXPECT_TRUE(inSight(33 * kUnitsPerInch + 360));
+    // A job that begins where one sees it is shown from the top of its form.
+    job("x\r\ny");
+    EXPECT_EQ(scrolled(), 3 * 66);
+    // Who looks further up is left in peace.
+    press(Qt::Key_Home);
+    EXPECT_EQ(scrolled(), 0);
+    job("\f\ftrês");
+    EXPECT_EQ(scrolled(), 0);
+    press(Qt::Key_End);
+    EXPECT_EQ(scrolled(), view_.verticalScrollBar()->maximum());
+    job("\fquatro");
+    EXPECT_TRUE(inSight(roll_.headY()));
+}
+
+TEST_F(Window, ZoomByKeysAndWheel) {
+    press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_DOUBLE_EQ(view_.zoom(), 1.25);
+    EXPECT_TRUE(label("contagem").endsWith(QStringLiteral("125%")));
+    press(Qt::Key_Minus, Qt::ControlModifier);
+    press(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_DOUBLE_EQ(view_.zoom(), 0.8);
+    press(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_DOUBLE_EQ(view_.zoom(), 1.0);
+    press(Qt::Key_1, Qt::ControlModifier);
+    EXPECT_NEAR(view_.zoom() * 9.5 * 96, view_.viewport()->width(), 1);
+    view_.setZoom(1);
+    QWheelEvent wheel(QPointF(50, 50), view_.viewport()->mapToGlobal(QPointF(50, 50)), {},
+                      QPoint(0, 120), Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view_.viewport(), &wheel);
+    EXPECT_DOUBLE_EQ(view_.zoom(), 1.15);
+    view_.setZoom(100);
+    EXPECT_DOUBLE_EQ(view_.zoom(), PaperView::kMostZoom);
+}
+
+TEST_F(Window, FindsCapitalsAndAccentsAlikeDownUpAndAround) {
+    job("nada\fA\xC7\xC3O aqui\r\n\f\f\fa\xE7\xE3o de novo a\xE7\xE3o\r\n");
+    press(Qt::Key_Home);
+    press(Qt::Key_F, Qt::ControlModifier);
+    auto& text = named<QLineEdit>(window_, "textoLocalizar");
+    EXPECT_TRUE(text.hasFocus());
+    keys(text, "acao");
+    QTest::keyClick(&text, Qt::Key_Return);
+    ASSERT_TRUE(searched());
+    EXPECT_EQ(label("resultadoLocalizar"), QString());
+    const int first = scrolled();
+    EXPECT_GT(first, 0);
+    EXPECT_LE(first, 66);
+    press(Qt::Key_F3);
+    ASSERT_TRUE(searched());
+    const int second = scrolled();
+    EXPECT_GT(second, 200);
+    press(Qt::Key_F3);  // the second one of that line
+    ASSERT_TRUE(searched());
+    EXPECT_EQ(label("resultadoLocalizar"), QString());
+    press(Qt::Key_F3);
+    ASSERT_TRUE(searched());
+    EXPECT_EQ(label("resultadoLocalizar"), QStringLiteral("A busca deu a volta no papel."));
+    EXPECT_LE(scrolled(), 66);
+    press(Qt::Key_F3, Qt::ShiftModifier);
+    ASSERT_TRUE(searched());
+    EXPECT_GT(scrolled(), 200);
+    text.clear();
+    keys(text, "zebra");
+    QTest::keyClick(&text, Qt::Key_Return);
+    ASSERT_TRUE(searched());
+    EXPECT_EQ(label("resultadoLocalizar"), QStringLiteral("O papel não tem este texto."));
+    QTest::keyClick(&text, Qt::Key_Escape);
+    EXPECT_FALSE(named<QToolBar>(window_, "barraLocalizar").isVisible());
+    EXPECT_TRUE(view_.hasFocus());
+}
+
+TEST_F(Window, ARegionMarkedWithTheMouseIsCopiedAsText) {
+    job("          primeira coluna   resto\r\n\r\n            terceira  linha   resto\r\n");
+    press(Qt::Key_Home);
+    EXPECT_FALSE(named<QAction>(window_, "copiar").isEnabled());
+    QTest::mousePress(view_.viewport(), Qt::LeftButton, {}, at(0.95, 0.01));
+    QTest::mouseMove(view_.viewport(), at(2.0, 0.3));
+    QTest::mouseRelease(view_.viewport(), Qt::LeftButton, {}, at(2.72, 0.49));
+    QMouseEvent drag(QEvent::MouseMove, at(2.72, 0.49),
+                     view_.viewport()->mapToGlobal(at(2.72, 0.49)), Qt::NoButton, Qt::LeftButton,
+                     {});
+    QApplication::sendEvent(view_.viewport(), &drag);
+    EXPECT_TRUE(named<QAction>(window_, "copiar").isEnabled());
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
+              "primeira coluna\n\n  terceira  linha");
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(view_.selection());
+}
+
+TEST_F(Window, TheFormInSightIsMarkedAndCopied) {
+    job("um\fdois\r\nlinha\f");
+    view_.showTop(11 * kUnitsPerInch);
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "dois\nlinha");
+}
+
+TEST_F(Window, JobsAreSteppedThrough) {
+    job("a\f\f", "um");
+    job("b\f\f", "dois");
+    job("c\f\f", "três");
+    press(Qt::Key_Home);
+    press(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(scrolled(), 2 * 66);
+    press(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(scrolled(), 4 * 66);
+    press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(scrolled(), 2 * 66);
+    press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(scrolled(), 0);
+    press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(scrolled(), 0);
+}
+
+TEST_F(Window, TornOffPaperIsGone) {
+    job("um\f\fdois");
+    choose(window_, "menuPapel", "destacar");
+    EXPECT_EQ(label("contagem"), QStringLiteral("0 trabalho(s), 1 formulário(s)  ·  100%"));
+    EXPECT_EQ(view_.verticalScrollBar()->value(), 0);
+    job("novo");
+    ASSERT_EQ(roll_.page(0)->lines.size(), 1U);
+    EXPECT_EQ(roll_.page(0)->lines[0].y, 0);
+}
+
+TEST_F(Window, ThePaperIsSavedAsPdfPicturesAndText) {
+    job("um\f\r\ndois\r\n");
+    saveAs_ = file("p.pdf");
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(test::output(QStringLiteral("pdfinfo"), {saveAs_})
+                    .contains(QRegularExpression(QStringLiteral("Pages: +2\\b"))));
+    saveAs_ = file("p.png");
+    press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_FALSE(QImage(file("p.png")).isNull());
+    EXPECT_FALSE(QImage(file("p-002.png")).isNull());
+    saveAs_ = file("p.txt");
+    choose(window_, "menuArquivo", "salvarTexto");
+    QFile text(saveAs_);
+    ASSERT_TRUE(text.open(QIODevice::ReadOnly));
+    EXPECT_EQ(text.readAll(), QByteArray("um\n\f\ndois\n"));
+    EXPECT_EQ(asked_, QStringList({"Salvar PDF", "Salvar figuras", "Salvar texto"}));
+    EXPECT_EQ(window_.errorBox(), nullptr);
+}
+
+TEST_F(Window, AFileThatCannotBeWrittenIsToldAndThePaperStays) {
+    job("um");
+    saveAs_ = file("nada/p.pdf");
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(complaint().startsWith(QStringLiteral("Não foi possível gravar o papel (")));
+    EXPECT_EQ(roll_.page(0)->lines.size(), 1U);
+    saveAs_.clear();  // the user wants no file after all
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(window_.errorBox(), nullptr);
+}
+
+TEST_F(Window, ThePaperIsPrintedFormByForm) {
+    job("um\fdois\ftres\fquatro");
+    print_ = [this](QPrinter& printer) {
+        EXPECT_EQ(printer.toPage(), 4);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(file("saida.pdf"));
+        printer.setFromTo(2, 3);
+        return true;
+    };
+    press(Qt::Key_P, Qt::ControlModifier);
+    const QString info = test::output(QStringLiteral("pdfinfo"), {file("saida.pdf")});
+    EXPECT_TRUE(info.contains(QRegularExpression(QStringLiteral("Pages: +2\\b"))));
+    EXPECT_TRUE(info.contains(QStringLiteral("684 x 792"))) << info.toStdString();
+    const QString text =
+        test::output(QStringLiteral("pdftotext"), {file("saida.pdf"), QStringLiteral("-")});
+    EXPECT_TRUE(text.contains(QStringLiteral("dois")));
+    EXPECT_TRUE(text.contains(QStringLiteral("tres")));
+    EXPECT_FALSE(text.contains(QStringLiteral("quatro")));
+}
+
+TEST_F(Window, JobFilesAreOpenedOneAfterTheOther) {
+    for (const char* name : {"a.prn", "b.prn"}) {
+        QFile out(file(name));
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(QByteArray("trabalho ") + name + "\r\n");
+    }
+    open_ = {file("a.prn"), file("nada.prn"), file("b.prn")};
+    press(Qt::Key_O, Qt::ControlModifier);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return intake_.ended() == 2; }, kLimit));
+    ASSERT_TRUE(settled());
+    EXPECT_TRUE(complaint().startsWith(QStringLiteral("Não foi possível ler o trabalho \"") +
+                                       file("nada.prn")));
+    ASSERT_EQ(roll_.jobs().size(), 2U);
+    EXPECT_EQ(roll_.jobs()[1].name, "b.prn");
+    EXPECT_EQ(textIn(roll_, regionOf(roll_, 0)).toStdString(), "trabalho a.prn\ntrabalho b.prn");
+}
+
+// With its form the note's printer is set up for it, and the boxes stand under the text.
+TEST_F(Window, AFormIsChosenFromTheMenu) {
+    for (const std::string& bytes : test::streamsOf(test::formNamed("1521"), {}, 15)) {
+        job(QByteArray::fromStdString(bytes));
+    }
+    const QImage blank = view_.grab().toImage();
+    choose(window_, "menuFormulario", "formulario_ImprimeNF_1521");
+    EXPECT_TRUE(roll_.dialect().condensed);
+    EXPECT_EQ(roll_.dialect().formHeight, 11 * kUnitsPerInch);
+    EXPECT_EQ(roll_.printedForms(), 1U);
+    EXPECT_NE(view_.grab().toImage(), blank);
+    EXPECT_TRUE(named<QAction>(window_, "formulario_ImprimeNF_1521").isChecked());
+    choose(window_, "menuFormulario", "formulario_");
+    EXPECT_TRUE(named<QAction>(window_, "formulario_").isChecked());
+}
+
+TEST_F(Window, AFormOfAFileIsChosenOrRefused) {
+    open_ = {file("nada.txt")};
+    choose(window_, "menuFormulario", "formulario_arquivo");
+    EXPECT_TRUE(complaint().startsWith(QStringLiteral("não há formulário nem arquivo")));
+    EXPECT_TRUE(named<QAction>(window_, "formulario_").isChecked());
+    QFile form(file("meu.txt"));
+    ASSERT_TRUE(form.open(QIODevice::WriteOnly));
+    form.write("altura 33\ncaixa 3 3 10 2 Meu\n");
+    form.close();
+    open_ = {file("meu.txt")};
+    choose(window_, "menuFormulario", "formulario_arquivo");
+    EXPECT_EQ(window_.errorBox(), nullptr);
+    EXPECT_EQ(roll_.dialect().formHeight, 33 * 360);
+    EXPECT_TRUE(named<QAction>(window_, "formulario_arquivo").isChecked());
+    open_.clear();
+    choose(window_, "menuFormulario", "formulario_arquivo");
+    EXPECT_TRUE(named<QAction>(window_, "formulario_arquivo").isChecked());
+}
+
+TEST_F(Window, RulerAndBandsAreSwitched) {
+    const QImage plain = view_.grab().toImage();
+    press(Qt::Key_R, Qt::ControlModifier);
+    const QImage ruled = view_.grab().toImage();
+    EXPECT_NE(ruled, plain);
+    press(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(view_.grab().toImage(), plain);
+    choose(window_, "menuExibir", "zebrado");
+    EXPECT_NE(view_.grab().toImage(), plain);
+}
+
+TEST_F(Window, TheLogTellsWhatWasNotPrintedAndHowJobsEnded) {
+    job(" \x1B#3", "mistério.prn");
+    intake_.begin(QStringLiteral("rede"));
+    intake_.end(QStringLiteral("a conexão foi interrompida."));
+    auto& dock = named<QDockWidget>(window_, "painelRegistro");
+    EXPECT_FALSE(dock.isVisible());
+    press(Qt::Key_F8);
+    EXPECT_TRUE(dock.isVisible());
+    const QString log = named<QPlainTextEdit>(window_, "registro").toPlainText();
+    EXPECT_TRUE(log.contains(QStringLiteral("trabalho 1, linha 1, coluna 2, bytes 1B 23: ")));
+    EXPECT_TRUE(log.contains(QStringLiteral("rede: a conexão foi interrompida.")));
+    press(Qt::Key_F8);
+    EXPECT_FALSE(dock.isVisible());
+}
+
+TEST_F(Window, TheStatusBarTellsLineAndColumnUnderTheMouse) {
+    job("\x0F"
+        "abcdefghij klm\r\n");
+    press(Qt::Key_Home);
+    const double cell = 126.0 / 2160;
+    QMouseEvent move(QEvent::MouseMove, at(11.5 * cell, 0.08),
+                     view_.viewport()->mapToGlobal(at(11.5 * cell, 0.08)), Qt::NoButton,
+                     Qt::NoButton, {});
+    QApplication::sendEvent(view_.viewport(), &move);
+    EXPECT_EQ(label("posicao"), QStringLiteral("formulário 1, linha 1, coluna 12"));
+    QMouseEvent below(QEvent::MouseMove, at(2.05, 1.05),
+                      view_.viewport()->mapToGlobal(at(2.05, 1.05)), Qt::NoButton, Qt::NoButton,
+                      {});
+    QApplication::sendEvent(view_.viewport(), &below);
+    EXPECT_EQ(label("posicao"), QStringLiteral("formulário 1, linha 7, coluna 21"));
+}
+
+// A job of 10,000 forms comes in pieces: the window takes keys and paints in between.
+TEST_F(Window, StaysAwakeWhileTenThousandFormsComeIn) {
+    QFile out(file("longo.prn"));
+    ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+    const QByteArray form = QByteArray("uma linha do formulario, com algum texto\r\n").repeated(66);
+    for (int i = 0; i < 10'000; ++i) {
+        out.write(form);
+    }
+    out.close();
+    open_ = {file("longo.prn")};
+    int turns = 0;
+    QTimer awake;
+    QObject::connect(&awake, &QTimer::timeout, [&turns] { ++turns; });
+    awake.start(0);
+    press(Qt::Key_O, Qt::ControlModifier);
+    press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_DOUBLE_EQ(view_.zoom(), 1.25);
+    EXPECT_TRUE(intake_.busy());
+    ASSERT_TRUE(QTest::qWaitFor([this] { return intake_.ended() == 1; }, 6 * kLimit));
+    // 28 MB in pieces of 256 KB, and the event loop turned between any two.
+    EXPECT_GT(turns, 90);
+    ASSERT_TRUE(settled());
+    EXPECT_EQ(roll_.printedForms(), 10'000U);
+    press(Qt::Key_End);
+    EXPECT_GE(view_.presentForm(), 9'999U);
+}
+
+TEST_F(Window, EveryCommandHasATextAndAHint) {
+    int seen = 0;
+    for (const QAction* action : window_.findChildren<QAction*>()) {
+        if (!action->objectName().isEmpty() && !action->objectName().startsWith(u"formulario_") &&
+            action->menu() == nullptr && !action->objectName().startsWith(u"_q_")) {
+            EXPECT_FALSE(action->text().isEmpty()) << action->objectName().toStdString();
+            EXPECT_FALSE(action->toolTip().isEmpty()) << action->objectName().toStdString();
+            ++seen;
+        }
+    }
+    EXPECT_GT(seen, 18);
+}
+
+}  // namespace
+}  // namespace tarn::dotmatrix

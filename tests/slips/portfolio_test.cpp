@@ -1,0 +1,88 @@
+// The portfolio's record as it is read from the answer.
+#include "slips/portfolio.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "runtime/runtime_error.h"
+#include "tests/support/answers.h"
+#include "tests/support/test_environment.h"
+
+namespace tarn {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class CarteiraCobrancaTest : public testing::Test {
+protected:
+    std::vector<std::string> read(const std::string& rows) {
+        seams.loader.on("sel_carteira_cob", answers::rowset(rows));
+        const auto carteira = carregaCarteira(seams.environment, sessao, 12);
+        EXPECT_TRUE(carteira);
+        return {carteira->ID_CRT_COB, carteira->ID_PES_BAN, carteira->NR_CRT_CNAB,
+                carteira->CD_AGE_BAN_CNAB, carteira->NR_CCOR_CNAB};
+    }
+
+    TestEnvironment seams;
+    Sessao sessao{.NCOMPANYCODE = 2161,
+                  .ID_ETB_TARN = 9,
+                  .COMPANYNAME = {},
+                  .UserCode = "77",
+                  .SERVERNAME = "SRV1",
+                  .DATA = {},
+                  .VersaoServidor = {},
+                  .TextoMensagem = {},
+                  .ConfirmaMensagem = {},
+                  .TipoEtiqueta = {},
+                  .DirSistema = {},
+                  .PrefixoArquivo = {}};
+};
+
+TEST_F(CarteiraCobrancaTest, AllFieldsAreTexts) {
+    EXPECT_THAT(read("<z:row ID_CRT_COB='012' ID_PES_BAN='1016' NR_CRT_CNAB='057' "
+                     "CD_AGE_BAN_CNAB='112-3' NR_CCOR_CNAB='0456.78'/>"),
+                ElementsAre("012", "1016", "057", "112-3", "0456.78"));
+    EXPECT_THAT(seams.loader.queries(),
+                ElementsAre("comando=sel_carteira_cob&ID_EMP_TARN=2161&ID_CRT_COB=12"
+                            "&ServerName=SRV1"));
+    EXPECT_THAT(seams.boxes.shown, IsEmpty());
+}
+
+TEST_F(CarteiraCobrancaTest, TheLastRowStandsEachFieldOnItsOwn) {
+    EXPECT_THAT(read("<z:row ID_CRT_COB='1' ID_PES_BAN='1016' NR_CRT_CNAB='57' "
+                     "CD_AGE_BAN_CNAB='1123' NR_CCOR_CNAB='456789'/>"
+                     "<z:row ID_CRT_COB='2' NR_CRT_CNAB='101'/>"),
+                ElementsAre("2", "", "101", "", ""));
+}
+
+TEST_F(CarteiraCobrancaTest, WithoutRowsAllIsEmpty) {
+    EXPECT_THAT(read(""), ElementsAre("", "", "", "", ""));
+    seams.loader.on("sel_carteira_cob", "<xml/>");
+    const auto carteira = carregaCarteira(seams.environment, sessao, 0);
+    ASSERT_TRUE(carteira);
+    EXPECT_EQ(carteira->ID_PES_BAN, "");
+    EXPECT_EQ(seams.loader.queries().back(),
+              "comando=sel_carteira_cob&ID_EMP_TARN=2161&ID_CRT_COB=&ServerName=SRV1");
+}
+
+TEST_F(CarteiraCobrancaTest, AFieldSpelledInAnotherCaseIsAFailure) {
+    try {
+        read("<z:row ID_CRT_COB='1' id_pes_ban='1016'/><z:row ID_CRT_COB='2'/>");
+        FAIL() << "no error";
+    } catch (const ErroExecucao& error) {
+        EXPECT_EQ(error.numero(), ErroNumero::VariavelObjeto);
+    }
+}
+
+TEST_F(CarteiraCobrancaTest, AFailedRequestIsTold) {
+    seams.loader.failOn("sel_carteira_cob");
+    EXPECT_FALSE(carregaCarteira(seams.environment, sessao, 12));
+    EXPECT_THAT(seams.boxes.shown,
+                ElementsAre(Box{"ERRO Tarn0009 - Não foi possível obter os dados da Internet. "
+                                "Verifique a conexão com a Internet.",
+                                BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"}));
+}
+
+}  // namespace
+}  // namespace tarn
