@@ -4,23 +4,23 @@
 #include "desk/desk_assembly.h"
 
 int main(int argc, char** argv) {
-    const auto lidas = tarn::leOpcoes(
+    const auto readItems = tarn::readOptions(
         argc, argv, qEnvironmentVariable("TARN_SERVIDOR").toStdString(), TARN_BASE_URL);
-    if (const auto* parada = std::get_if<tarn::SemPartida>(&lidas)) {
-        std::fputs(parada->texto.c_str(), parada->status == 0 ? stdout : stderr);
-        return parada->status;
+    if (const auto* stop = std::get_if<tarn::NoStart>(&readItems)) {
+        std::fputs(stop->texto.c_str(), stop->status == 0 ? stdout : stderr);
+        return stop->status;
     }
-    const auto& opcoes = std::get<tarn::Opcoes>(lidas);
-    auto impressoras = tarn::impressorasDe(opcoes);
-    if (!impressoras.bruta) {
+    const auto& options = std::get<tarn::Options>(readItems);
+    auto printers = tarn::printersOf(options);
+    if (!printers.raw) {
         std::fputs(
             "tarnemissao: este programa foi compilado sem impressora do sistema; use "
             "--impressora-virtual PASTA.\n",
             stderr);
         return 1;
     }
-    tarn::DeskApplication programa(argc, argv);
-    tarn::Mesa mesa(programa, opcoes, std::move(impressoras));
-    mesa.abre();
-    return programa.exec();
+    tarn::DeskApplication program(argc, argv);
+    tarn::Mesa desk(program, options, std::move(printers));
+    desk.open();
+    return program.exec();
 }

@@ -6,7 +6,7 @@
 
 #include "dotmatrix/paper_export.h"
 
-namespace tarn::impressora {
+namespace tarn::printer {
 
 namespace {
 
@@ -88,4 +88,4 @@ bool writeFiles(const Options& options, const dotmatrix::PaintOptions& looks,
            (options.text.empty() || written(writeText(paper, name(options.text)), options.text));
 }
 
-}  // namespace tarn::impressora
+}  // namespace tarn::printer

@@ -8,7 +8,7 @@
 #include "dotmatrix/paper_painter.h"
 #include "dotmatrix/paper_roll.h"
 
-namespace tarn::impressora {
+namespace tarn::printer {
 
 void complain(const QString& text);
 
@@ -19,4 +19,4 @@ bool writeFiles(const Options& options, const dotmatrix::PaintOptions& looks,
 // The notices from number `from` on; returns how many there are.
 std::size_t showNotices(const dotmatrix::NoticeLog& notices, std::size_t from);
 
-}  // namespace tarn::impressora
+}  // namespace tarn::printer

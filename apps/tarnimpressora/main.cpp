@@ -14,9 +14,9 @@
 
 namespace {
 
-using tarn::impressora::complain;
-using tarn::impressora::Ending;
-using tarn::impressora::Options;
+using tarn::printer::complain;
+using tarn::printer::Ending;
+using tarn::printer::Options;
 
 int listForms() {
     for (const std::string& name : tarn::dotmatrix::layoutFormNames()) {
@@ -59,7 +59,7 @@ bool useForm(Options& options, tarn::dotmatrix::PaintOptions& looks) {
 }
 
 int run(int argc, char** argv) {
-    auto read = tarn::impressora::readCommandLine(argc, argv);
+    auto read = tarn::printer::readCommandLine(argc, argv);
     if (const auto* ending = std::get_if<Ending>(&read)) {
         std::fputs(ending->text.c_str(), ending->status == 0 ? stdout : stderr);
         return ending->status;
@@ -71,7 +71,7 @@ int run(int argc, char** argv) {
     if (!options.writtenForm.empty()) {
         return showForm(options);
     }
-    if (!options.writes() && !tarn::impressora::hasDisplay()) {
+    if (!options.writes() && !tarn::printer::hasDisplay()) {
         complain(
             QStringLiteral("não há tela para a janela; diga o que gravar: --pdf ARQUIVO, "
                            "--png ARQUIVO ou --texto ARQUIVO."));

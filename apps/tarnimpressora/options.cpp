@@ -5,7 +5,7 @@
 #include <memory>
 #include <optional>
 
-namespace tarn::impressora {
+namespace tarn::printer {
 
 namespace {
 
@@ -217,4 +217,4 @@ std::variant<Options, Ending> readCommandLine(int argc, const char* const* argv)
     return options;
 }
 
-}  // namespace tarn::impressora
+}  // namespace tarn::printer

@@ -9,7 +9,7 @@
 
 #include "dotmatrix/dialect.h"
 
-namespace tarn::impressora {
+namespace tarn::printer {
 
 struct Options {
     std::string pdf;  // output files, empty where not asked for
@@ -45,4 +45,4 @@ struct Ending {
 
 std::variant<Options, Ending> readCommandLine(int argc, const char* const* argv);
 
-}  // namespace tarn::impressora
+}  // namespace tarn::printer

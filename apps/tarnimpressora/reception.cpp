@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QHostAddress>
 
-namespace tarn::impressora {
+namespace tarn::printer {
 
 QString Reception::open(const Options& options) {
     if (options.port) {
@@ -49,4 +49,4 @@ QString Reception::watch(const Options& options) {
     return {};
 }
 
-}  // namespace tarn::impressora
+}  // namespace tarn::printer

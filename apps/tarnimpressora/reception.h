@@ -9,7 +9,7 @@
 #include "printer/job_intake.h"
 #include "printer/job_server.h"
 
-namespace tarn::impressora {
+namespace tarn::printer {
 
 class Reception {
 public:
@@ -30,4 +30,4 @@ private:
     QString places_;
 };
 
-}  // namespace tarn::impressora
+}  // namespace tarn::printer

@@ -7,7 +7,7 @@
 #include "printer/printer_window.h"
 #include "widgets/look.h"
 
-namespace tarn::impressora {
+namespace tarn::printer {
 
 bool hasDisplay() {
 #ifdef Q_OS_LINUX
@@ -22,7 +22,7 @@ int runWithWindow(int argc, char** argv, const Options& options,
                   const dotmatrix::PaintOptions& looks) {
     const QApplication application(argc, argv);
     QApplication::setApplicationDisplayName(QStringLiteral("Impressora virtual"));
-    aplicaAparencia(*qApp);
+    applyLook(*qApp);
     dotmatrix::PaperRoll roll(options.dialect);
     if (!printFiles(options, roll)) {
         return 1;
@@ -43,4 +43,4 @@ int runWithWindow(int argc, char** argv, const Options& options,
     return QApplication::exec();
 }
 
-}  // namespace tarn::impressora
+}  // namespace tarn::printer

@@ -7,7 +7,7 @@
 #include "apps/tarnimpressora/files.h"
 #include "apps/tarnimpressora/reception.h"
 
-namespace tarn::impressora {
+namespace tarn::printer {
 
 namespace {
 
@@ -68,4 +68,4 @@ int runWithoutWindow(int argc, char** argv, const Options& options,
     return options.waits() ? wait(application, options, looks, roll, notices) : 0;
 }
 
-}  // namespace tarn::impressora
+}  // namespace tarn::printer

@@ -4,9 +4,9 @@
 #include "apps/tarnimpressora/options.h"
 #include "dotmatrix/paper_painter.h"
 
-namespace tarn::impressora {
+namespace tarn::printer {
 
 int runWithoutWindow(int argc, char** argv, const Options& options,
                      const dotmatrix::PaintOptions& looks);
 
-}  // namespace tarn::impressora
+}  // namespace tarn::printer

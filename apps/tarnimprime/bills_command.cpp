@@ -7,56 +7,55 @@
 #include "bills/bill_search.h"
 #include "bills/print_bills.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
-struct Pedido {
-    std::int32_t empresa = 0;
-    std::string dados;
-    bool triplicata = false;
-    Marca marca;
-    std::optional<std::string> pastaFiguras;
-    std::vector<std::string> documentos;
+struct Request {
+    std::int32_t company = 0;
+    std::string data;
+    bool triplicate = false;
+    TickedRows tick;
+    std::optional<std::string> pictureFolder;
+    std::vector<std::string> documents;
 };
 
 // The grid of each file, ticked, before anything prints.
-std::vector<std::vector<LinhaGrade>> gradesDe(const Pedido& pedido) {
-    std::vector<std::vector<LinhaGrade>> grades;
-    for (const XmlDocument& resposta : leRespostas(pedido.documentos)) {
-        grades.push_back(linhasDeDuplicatas(resposta));
-        marcaLinhas(grades.back(), pedido.marca);
+std::vector<std::vector<GridRow>> gridsOf(const Request& request) {
+    std::vector<std::vector<GridRow>> grades;
+    for (const XmlDocument& answer : readAnswers(request.documents)) {
+        grades.push_back(billRows(answer));
+        tickRows(grades.back(), request.tick);
     }
     return grades;
 }
 
-void imprime(const Pedido& pedido, Mesa& mesa) {
-    const XmlDocument dados = leResposta(pedido.dados);
-    const std::vector<std::vector<LinhaGrade>> grades = gradesDe(pedido);
-    Environment& ambiente = mesa.ambiente();
-    const FigurasDuplicata figuras =
-        carregaFiguras(pedido.pastaFiguras.value_or(ambiente.pastaFiguras));
-    for (const std::vector<LinhaGrade>& linhas : grades) {
-        imprimeDocumentos(ambiente, pedido.empresa, dados,
-                          {.linhas = linhas, .triplicata = pedido.triplicata, .figuras = figuras},
-                          {});
+void print(const Request& request, Mesa& desk) {
+    const XmlDocument data = readAnswer(request.data);
+    const std::vector<std::vector<GridRow>> grades = gridsOf(request);
+    Environment& environment = desk.environment();
+    const BillPictures pictures =
+        loadPictures(request.pictureFolder.value_or(environment.pictureFolder));
+    for (const std::vector<GridRow>& linhas : grades) {
+        printBills(environment, request.company, data,
+                   {.linhas = linhas, .triplicate = request.triplicate, .pictures = pictures}, {});
     }
 }
 
 }  // namespace
 
-void declaraDuplicatas(CLI::App& app, Escolha& escolha) {
-    CLI::App* comando = app.add_subcommand("duplicatas", "Imprime duplicatas e recibos");
-    const auto pedido = std::make_shared<Pedido>();
-    declaraCodigo(*comando, "--empresa", pedido->empresa, "Código da empresa");
-    comando->add_option("--dados", pedido->dados, "Dados da empresa (EMP.xml)")->required();
-    comando->add_flag("--triplicata", pedido->triplicata, "Triplicatas em vez de duplicatas");
-    declaraMarca(*comando, pedido->marca);
-    comando->add_option("--pasta-figuras", pedido->pastaFiguras,
-                        "Pasta das figuras da página (LOGODUPL.jpg e outras)");
-    comando->add_option("documentos", pedido->documentos, "Documentos da pesquisa (DOCS.xml)")
+void declareBills(CLI::App& app, Choice& choice) {
+    CLI::App* commands = app.add_subcommand("duplicatas", "Imprime duplicatas e recibos");
+    const auto request = std::make_shared<Request>();
+    declareCode(*commands, "--empresa", request->company, "Código da empresa");
+    commands->add_option("--dados", request->data, "Dados da empresa (EMP.xml)")->required();
+    commands->add_flag("--triplicata", request->triplicate, "Triplicatas em vez de duplicatas");
+    declareTicks(*commands, request->tick);
+    commands->add_option("--pasta-figuras", request->pictureFolder,
+                         "Pasta das figuras da página (LOGODUPL.jpg e outras)");
+    commands->add_option("documentos", request->documents, "Documentos da pesquisa (DOCS.xml)")
         ->required();
-    comando->callback(
-        [&escolha, pedido] { escolha.faz = [pedido](Mesa& mesa) { imprime(*pedido, mesa); }; });
+    commands->callback(
+        [&choice, request] { choice.run = [request](Mesa& desk) { print(*request, desk); }; });
 }
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

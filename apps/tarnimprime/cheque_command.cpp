@@ -4,43 +4,41 @@
 #include "apps/tarnimprime/print_environment.h"
 #include "cheques/imprime_cheque.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
-struct Pedido {
-    std::string banco;
+struct Request {
+    std::string bank;
     std::string valor;
-    std::string favorecido;
+    std::string payee;
     std::string data;
-    std::string municipio;
+    std::string town;
 };
 
-void imprime(const Pedido& pedido, Mesa& mesa) {
-    const std::int16_t banco = codigoDoBanco(pedido.banco);
-    ImprimeCheque(mesa.ambiente(), {.nNr_Ofi_Ban = banco,
-                                    .sValor = pedido.valor,
-                                    .sFavorecido = pedido.favorecido,
-                                    .sDataDeposito = pedido.data,
-                                    .sNmMun = pedido.municipio});
+void print(const Request& request, Mesa& desk) {
+    const std::int16_t bank = bankCode(request.bank);
+    ImprimeCheque(desk.environment(), {.nNr_Ofi_Ban = bank,
+                                       .sValor = request.valor,
+                                       .sFavorecido = request.payee,
+                                       .sDataDeposito = request.data,
+                                       .sNmMun = request.town});
 }
 
 }  // namespace
 
-void declaraCheque(CLI::App& app, Escolha& escolha) {
-    CLI::App* comando = app.add_subcommand("cheque", "Imprime um cheque");
-    const auto pedido = std::make_shared<Pedido>();
-    comando->add_option("--banco", pedido->banco, "Código oficial do banco")->required();
-    comando->add_option("--valor", pedido->valor, "Valor como o campo o mostra: 1.234,56")
+void declareCheque(CLI::App& app, Choice& choice) {
+    CLI::App* commands = app.add_subcommand("cheque", "Imprime um cheque");
+    const auto request = std::make_shared<Request>();
+    commands->add_option("--banco", request->bank, "Código oficial do banco")->required();
+    commands->add_option("--valor", request->valor, "Valor como o campo o mostra: 1.234,56")
         ->required();
-    comando
-        ->add_option("--favorecido", pedido->favorecido,
-                     "Favorecido, em maiúsculas; pode ser vazio")
+    commands
+        ->add_option("--favorecido", request->payee, "Favorecido, em maiúsculas; pode ser vazio")
         ->required();
-    comando->add_option("--data", pedido->data, "Data para depósito, dd/mm/yyyy")->required();
-    comando->add_option("--municipio", pedido->municipio, "Município do estabelecimento")
-        ->required();
-    comando->callback(
-        [&escolha, pedido] { escolha.faz = [pedido](Mesa& mesa) { imprime(*pedido, mesa); }; });
+    commands->add_option("--data", request->data, "Data para depósito, dd/mm/yyyy")->required();
+    commands->add_option("--municipio", request->town, "Município do estabelecimento")->required();
+    commands->callback(
+        [&choice, request] { choice.run = [request](Mesa& desk) { print(*request, desk); }; });
 }
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

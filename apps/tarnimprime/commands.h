@@ -1,5 +1,5 @@
 // The commands of tarnimprime. Each declares itself on the command line and, when
-// it is the one given, leaves what to do in `Escolha`.
+// it is the one given, leaves what to do in `Choice`.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -12,52 +12,52 @@
 
 #include "gateway/xml_document.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 
 class Mesa;
 
-inline constexpr int statusFeito = 0;
-inline constexpr int statusPerda = 4;  // a note that was looked over loses something
-inline constexpr int statusUso = 1;    // wrong usage, unreadable input, nowhere to print
+inline constexpr int statusDone = 0;
+inline constexpr int statusLoss = 4;   // a note that was looked over loses something
+inline constexpr int statusUsage = 1;  // wrong usage, unreadable input, nowhere to print
 
-// Ends the program with `statusUso`; the text (Portuguese) goes to stderr.
-class FalhaDeUso : public std::runtime_error {
+// Ends the program with `statusUsage`; the text (Portuguese) goes to stderr.
+class UsageError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
 // Options that stand before or after any command.
-struct Geral {
-    std::optional<std::string> destino;  // directory for the jobs; none: the machine's printer
-    std::string formato = "pdf";         // of drawn pages in that directory
-    std::string paginaDeCodigo = "1252";
+struct GlobalOptions {
+    std::optional<std::string> destination;  // directory for the jobs; none: the machine's printer
+    std::string format = "pdf";              // of drawn pages in that directory
+    std::string codePage = "1252";
 };
 
-struct Escolha {
-    std::function<void(Mesa&)> faz;
-    int status = statusFeito;  // of a command that went through
+struct Choice {
+    std::function<void(Mesa&)> run;
+    int status = statusDone;  // of a command that went through
 };
 
-void declaraNota(CLI::App& app, Escolha& escolha);
-void declaraEscada(CLI::App& app, Escolha& escolha);
-void declaraDuplicatas(CLI::App& app, Escolha& escolha);
-void declaraOrdem(CLI::App& app, Escolha& escolha);
-void declaraBoletos(CLI::App& app, Escolha& escolha);
-void declaraEtiquetas(CLI::App& app, Escolha& escolha);
-void declaraEtiquetasSelecao(CLI::App& app, Escolha& escolha);
-void declaraCheque(CLI::App& app, Escolha& escolha);
-void declaraRegras(CLI::App& app, Escolha& escolha);
+void declareNote(CLI::App& app, Choice& choice);
+void declareLadder(CLI::App& app, Choice& choice);
+void declareBills(CLI::App& app, Choice& choice);
+void declareOrder(CLI::App& app, Choice& choice);
+void declareSlips(CLI::App& app, Choice& choice);
+void declareLabels(CLI::App& app, Choice& choice);
+void declareLabelSelection(CLI::App& app, Choice& choice);
+void declareCheque(CLI::App& app, Choice& choice);
+void declareRules(CLI::App& app, Choice& choice);
 
 // A required code: an option when `nome` begins with "--", a value otherwise. Zeros in
 // front change nothing.
-void declaraCodigo(CLI::App& comando, const std::string& nome, std::int32_t& codigo,
-                   const std::string& descricao);
+void declareCode(CLI::App& commands, const std::string& nome, std::int32_t& code,
+                 const std::string& description);
 
 // A saved answer; FalhaDeUso when the file can't be read or isn't an answer.
-XmlDocument leResposta(const std::string& arquivo);
+XmlDocument readAnswer(const std::string& file);
 // All of them, before anything is printed: a wrong file name must not spend paper.
-std::vector<XmlDocument> leRespostas(const std::vector<std::string>& arquivos);
+std::vector<XmlDocument> readAnswers(const std::vector<std::string>& files);
 
 // One line on stdout.
-void mostra(std::string_view linha);
+void show(std::string_view linha);
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

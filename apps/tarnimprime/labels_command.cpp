@@ -10,70 +10,70 @@
 #include "labels/print_selection.h"
 #include "runtime/numbers.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
-struct PedidoEtiquetas {
-    std::string formulario;
-    std::string remetente;
-    std::vector<std::string> arquivos;
+struct LabelRequest {
+    std::string form;
+    std::string sender;
+    std::vector<std::string> files;
 };
 
-void imprime(const PedidoEtiquetas& pedido, Mesa& mesa) {
-    if (!isNumeric(pedido.formulario)) {
-        throw FalhaDeUso("--formulario pede um número de 1 a 4.");
+void print(const LabelRequest& request, Mesa& desk) {
+    if (!isNumeric(request.form)) {
+        throw UsageError("--formulario pede um número de 1 a 4.");
     }
-    const labels::Formulario formulario = labels::formularioDe(pedido.formulario);
-    const labels::Remetente remetente = labels::leRemetente(leResposta(pedido.remetente));
-    std::vector<XmlDocument> documentos = leRespostas(pedido.arquivos);
-    Environment& ambiente = mesa.ambiente();
-    for (XmlDocument& documento : documentos) {
-        labels::imprimeEtiquetas(ambiente, formulario, {std::move(documento), remetente}, {});
+    const labels::LabelForm form = labels::labelFormOf(request.form);
+    const labels::Sender sender = labels::readSender(readAnswer(request.sender));
+    std::vector<XmlDocument> documents = readAnswers(request.files);
+    Environment& environment = desk.environment();
+    for (XmlDocument& documento : documents) {
+        labels::printLabels(environment, form, {std::move(documento), sender}, {});
     }
 }
 
-struct PedidoSelecao {
-    Marca marca;
-    std::vector<std::string> arquivos;
+struct SelectionRequest {
+    TickedRows tick;
+    std::vector<std::string> files;
 };
 
-void imprime(const PedidoSelecao& pedido, Mesa& mesa) {
-    std::vector<std::vector<LinhaGrade>> listas;
-    for (const XmlDocument& documento : leRespostas(pedido.arquivos)) {
-        listas.push_back(labels::clientesDa(documento));
-        marcaLinhas(listas.back(), pedido.marca);
+void print(const SelectionRequest& request, Mesa& desk) {
+    std::vector<std::vector<GridRow>> lists;
+    for (const XmlDocument& documento : readAnswers(request.files)) {
+        lists.push_back(labels::customersOf(documento));
+        tickRows(lists.back(), request.tick);
     }
-    Environment& ambiente = mesa.ambiente();
-    for (const std::vector<LinhaGrade>& clientes : listas) {
-        labels::imprimeSelecao(ambiente, clientes, {});
+    Environment& environment = desk.environment();
+    for (const std::vector<GridRow>& customers : lists) {
+        labels::printSelection(environment, customers, {});
     }
 }
 
 }  // namespace
 
-void declaraEtiquetas(CLI::App& app, Escolha& escolha) {
-    CLI::App* comando = app.add_subcommand("etiquetas", "Imprime etiquetas da fila");
-    const auto pedido = std::make_shared<PedidoEtiquetas>();
-    comando
-        ->add_option("--formulario", pedido->formulario,
+void declareLabels(CLI::App& app, Choice& choice) {
+    CLI::App* commands = app.add_subcommand("etiquetas", "Imprime etiquetas da fila");
+    const auto request = std::make_shared<LabelRequest>();
+    commands
+        ->add_option("--formulario", request->form,
                      "1 PIMACO 6280, 2 matricial, 3 A5, 4 A4 com remetente")
         ->required();
-    comando->add_option("--remetente", pedido->remetente, "Dados do remetente (REM.xml)")
+    commands->add_option("--remetente", request->sender, "Dados do remetente (REM.xml)")
         ->required();
-    comando->add_option("documentos", pedido->arquivos, "Etiquetas (ETQ.xml)")->required();
-    comando->callback(
-        [&escolha, pedido] { escolha.faz = [pedido](Mesa& mesa) { imprime(*pedido, mesa); }; });
+    commands->add_option("documentos", request->files, "Etiquetas (ETQ.xml)")->required();
+    commands->callback(
+        [&choice, request] { choice.run = [request](Mesa& desk) { print(*request, desk); }; });
 }
 
-void declaraEtiquetasSelecao(CLI::App& app, Escolha& escolha) {
-    CLI::App* comando =
+void declareLabelSelection(CLI::App& app, Choice& choice) {
+    CLI::App* commands =
         app.add_subcommand("etiquetas-selecao", "Imprime etiquetas da seleção de clientes");
-    const auto pedido = std::make_shared<PedidoSelecao>();
-    declaraMarca(*comando, pedido->marca);
-    comando->add_option("documentos", pedido->arquivos, "Clientes da pesquisa (ROWS.xml)")
+    const auto request = std::make_shared<SelectionRequest>();
+    declareTicks(*commands, request->tick);
+    commands->add_option("documentos", request->files, "Clientes da pesquisa (ROWS.xml)")
         ->required();
-    comando->callback(
-        [&escolha, pedido] { escolha.faz = [pedido](Mesa& mesa) { imprime(*pedido, mesa); }; });
+    commands->callback(
+        [&choice, request] { choice.run = [request](Mesa& desk) { print(*request, desk); }; });
 }
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

@@ -13,129 +13,129 @@
 #include "notes/print_note.h"
 #include "runtime/runtime_error.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
-struct Pedido {
-    Sessao sessao;
-    bool reimpressao = false;
-    bool confere = false;
-    std::string numero;
-    std::vector<std::string> arquivos;
+struct Request {
+    Sessao session;
+    bool reprint = false;
+    bool check = false;
+    std::string number;
+    std::vector<std::string> files;
 
-    Escada escada() const { return reimpressao ? Escada::Reimpressao : Escada::Emissao; }
+    Ladder ladder() const { return reprint ? Ladder::Reprint : Ladder::Issuing; }
 };
 
-void declaraSessao(CLI::App& comando, Pedido& pedido) {
-    declaraCodigo(comando, "--empresa", pedido.sessao.NCOMPANYCODE, "Código da empresa");
-    declaraCodigo(comando, "--estabelecimento", pedido.sessao.ID_ETB_TARN,
-                  "Código do estabelecimento");
-    comando.add_flag("--reimpressao", pedido.reimpressao, "Escada da tela de reimpressão");
+void declareSession(CLI::App& commands, Request& request) {
+    declareCode(commands, "--empresa", request.session.NCOMPANYCODE, "Código da empresa");
+    declareCode(commands, "--estabelecimento", request.session.ID_ETB_TARN,
+                "Código do estabelecimento");
+    commands.add_flag("--reimpressao", request.reprint, "Escada da tela de reimpressão");
 }
 
-void imprime(const Pedido& pedido, Mesa& mesa) {
-    std::vector<XmlDocument> documentos = leRespostas(pedido.arquivos);
-    Environment& ambiente = mesa.ambiente();
-    for (XmlDocument& documento : documentos) {
-        imprimeNota(pedido.escada(), ambiente, pedido.sessao, documento, pedido.numero);
+void print(const Request& request, Mesa& desk) {
+    std::vector<XmlDocument> documents = readAnswers(request.files);
+    Environment& environment = desk.environment();
+    for (XmlDocument& documento : documents) {
+        printNote(request.ladder(), environment, request.session, documento, request.number);
     }
 }
 
 // Says what each document loses; true where one loses anything. What was found before an
 // error of the run time is said too.
-bool confere(const Pedido& pedido, Mesa& mesa) {
-    std::vector<XmlDocument> documentos = leRespostas(pedido.arquivos);
-    Environment& ambiente = mesa.ambienteDeConferencia();
-    bool algumaPerda = false;
-    for (std::size_t i = 0; i < documentos.size(); ++i) {
-        notes::LossLog perdas;
-        const auto diz = [&] {
-            for (const notes::Loss& perda : perdas.losses()) {
-                mostra(pedido.arquivos[i] + ": " + describe(perda));
+bool check(const Request& request, Mesa& desk) {
+    std::vector<XmlDocument> documents = readAnswers(request.files);
+    Environment& environment = desk.dryRunEnvironment();
+    bool anyLoss = false;
+    for (std::size_t i = 0; i < documents.size(); ++i) {
+        notes::LossLog losses;
+        const auto say = [&] {
+            for (const notes::Loss& loss : losses.losses()) {
+                show(request.files[i] + ": " + describe(loss));
             }
         };
         try {
-            imprimeNota(pedido.escada(), ambiente, pedido.sessao, documentos[i], pedido.numero,
-                        &perdas);
-        } catch (const ErroExecucao&) {
-            diz();
+            printNote(request.ladder(), environment, request.session, documents[i], request.number,
+                      &losses);
+        } catch (const RuntimeError&) {
+            say();
             throw;
         }
-        diz();
-        algumaPerda |= !perdas.losses().empty();
+        say();
+        anyLoss |= !losses.losses().empty();
     }
-    return algumaPerda;
+    return anyLoss;
 }
 
 // Nothing for a file that can't be read: a stream would raise its own error on a directory.
-std::optional<std::string> conteudo(const std::string& arquivo) {
-    std::error_code falha;
-    if (std::filesystem::is_directory(arquivo, falha)) {
+std::optional<std::string> content(const std::string& file) {
+    std::error_code failure;
+    if (std::filesystem::is_directory(file, failure)) {
         return std::nullopt;
     }
-    std::ifstream entrada(arquivo, std::ios::binary);
-    if (!entrada.is_open()) {
+    std::ifstream input(file, std::ios::binary);
+    if (!input.is_open()) {
         return std::nullopt;
     }
-    std::string bytes((std::istreambuf_iterator<char>(entrada)), std::istreambuf_iterator<char>());
-    return entrada.bad() ? std::nullopt : std::optional(std::move(bytes));
+    std::string bytes((std::istreambuf_iterator<char>(input)), std::istreambuf_iterator<char>());
+    return input.bad() ? std::nullopt : std::optional(std::move(bytes));
 }
 
 }  // namespace
 
-XmlDocument leResposta(const std::string& arquivo) {
-    const std::optional<std::string> bytes = conteudo(arquivo);
+XmlDocument readAnswer(const std::string& file) {
+    const std::optional<std::string> bytes = content(file);
     if (!bytes) {
-        throw FalhaDeUso("não foi possível ler \"" + arquivo +
+        throw UsageError("não foi possível ler \"" + file +
                          "\". Confira o nome do arquivo e a permissão de leitura.");
     }
     XmlDocument documento;
     if (!documento.loadXML(*bytes)) {
-        throw FalhaDeUso("\"" + arquivo +
+        throw UsageError("\"" + file +
                          "\" não é uma resposta do servidor: o XML está incompleto ou errado.");
     }
     return documento;
 }
 
-std::vector<XmlDocument> leRespostas(const std::vector<std::string>& arquivos) {
-    std::vector<XmlDocument> documentos;
-    documentos.reserve(arquivos.size());
-    for (const std::string& arquivo : arquivos) {
-        documentos.push_back(leResposta(arquivo));
+std::vector<XmlDocument> readAnswers(const std::vector<std::string>& files) {
+    std::vector<XmlDocument> documents;
+    documents.reserve(files.size());
+    for (const std::string& file : files) {
+        documents.push_back(readAnswer(file));
     }
-    return documentos;
+    return documents;
 }
 
-void declaraNota(CLI::App& app, Escolha& escolha) {
-    CLI::App* comando = app.add_subcommand("nota", "Imprime notas fiscais pela escada");
-    const auto pedido = std::make_shared<Pedido>();
-    declaraSessao(*comando, *pedido);
-    comando->add_option("--numero", pedido->numero, "Número da nota")->required();
-    comando->add_option("documentos", pedido->arquivos, "Documentos de nota (DOC.xml)")->required();
-    comando->add_flag("--confere", pedido->confere,
-                      "Não imprime: diz o que a nota perde no seu formulário (status 4 se perde)");
-    comando->callback([&escolha, pedido] {
-        escolha.faz = [&escolha, pedido](Mesa& mesa) {
-            if (!pedido->confere) {
-                imprime(*pedido, mesa);
-            } else if (confere(*pedido, mesa)) {
-                escolha.status = statusPerda;
+void declareNote(CLI::App& app, Choice& choice) {
+    CLI::App* commands = app.add_subcommand("nota", "Imprime notas fiscais pela escada");
+    const auto request = std::make_shared<Request>();
+    declareSession(*commands, *request);
+    commands->add_option("--numero", request->number, "Número da nota")->required();
+    commands->add_option("documentos", request->files, "Documentos de nota (DOC.xml)")->required();
+    commands->add_flag("--confere", request->check,
+                       "Não imprime: diz o que a nota perde no seu formulário (status 4 se perde)");
+    commands->callback([&choice, request] {
+        choice.run = [&choice, request](Mesa& desk) {
+            if (!request->check) {
+                print(*request, desk);
+            } else if (check(*request, desk)) {
+                choice.status = statusLoss;
             }
         };
     });
 }
 
-void declaraEscada(CLI::App& app, Escolha& escolha) {
-    CLI::App* comando = app.add_subcommand("escada", "Mostra o layout de uma empresa");
-    const auto pedido = std::make_shared<Pedido>();
-    declaraSessao(*comando, *pedido);
-    comando->callback([&escolha, pedido] {
-        escolha.faz = [pedido](Mesa&) {
-            const std::string_view nome = layoutFor(pedido->escada(), pedido->sessao.NCOMPANYCODE,
-                                                    pedido->sessao.ID_ETB_TARN);
-            mostra(nome.empty() ? "-" : nome);
+void declareLadder(CLI::App& app, Choice& choice) {
+    CLI::App* commands = app.add_subcommand("escada", "Mostra o layout de uma empresa");
+    const auto request = std::make_shared<Request>();
+    declareSession(*commands, *request);
+    commands->callback([&choice, request] {
+        choice.run = [request](Mesa&) {
+            const std::string_view nome = layoutFor(
+                request->ladder(), request->session.NCOMPANYCODE, request->session.ID_ETB_TARN);
+            show(nome.empty() ? "-" : nome);
         };
     });
 }
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

@@ -5,32 +5,32 @@
 #include "apps/tarnimprime/print_environment.h"
 #include "billing/order_sheet.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
-struct Pedido {
-    Sessao sessao;
-    std::vector<std::string> arquivos;
+struct Request {
+    Sessao session;
+    std::vector<std::string> files;
 };
 
-void imprime(const Pedido& pedido, Mesa& mesa) {
-    std::vector<XmlDocument> documentos = leRespostas(pedido.arquivos);
-    Environment& ambiente = mesa.ambiente();
-    for (XmlDocument& documento : documentos) {
-        imprimeOrdem(ambiente, pedido.sessao, documento);
+void print(const Request& request, Mesa& desk) {
+    std::vector<XmlDocument> documents = readAnswers(request.files);
+    Environment& environment = desk.environment();
+    for (XmlDocument& documento : documents) {
+        printOrder(environment, request.session, documento);
     }
 }
 
 }  // namespace
 
-void declaraOrdem(CLI::App& app, Escolha& escolha) {
-    CLI::App* comando = app.add_subcommand("ordem", "Imprime folhas de ordem de faturamento");
-    const auto pedido = std::make_shared<Pedido>();
-    comando->add_option("--empresa", pedido->sessao.NCOMPANYCODE, "Código da empresa")->required();
-    comando->add_option("documentos", pedido->arquivos, "Documentos de ordem (DOC.xml)")
+void declareOrder(CLI::App& app, Choice& choice) {
+    CLI::App* commands = app.add_subcommand("ordem", "Imprime folhas de ordem de faturamento");
+    const auto request = std::make_shared<Request>();
+    commands->add_option("--empresa", request->session.NCOMPANYCODE, "Código da empresa")
         ->required();
-    comando->callback(
-        [&escolha, pedido] { escolha.faz = [pedido](Mesa& mesa) { imprime(*pedido, mesa); }; });
+    commands->add_option("documentos", request->files, "Documentos de ordem (DOC.xml)")->required();
+    commands->callback(
+        [&choice, request] { choice.run = [request](Mesa& desk) { print(*request, desk); }; });
 }
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

@@ -9,10 +9,10 @@
 #include "platform/system_spooler.h"
 #include "runtime/text.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
-class SemPapel : public Spooler {
+class NoPaper : public Spooler {
 public:
     std::string defaultPrinter() override { return "nenhuma"; }
     bool openPrinter(const std::string&) override { return true; }
@@ -24,29 +24,29 @@ public:
     bool closePrinter() override { return true; }
 };
 
-class SemPaginas : public Printer {
+class NoPages : public Printer {
 public:
     std::optional<PrinterFailure> perform(const PrintOperation&) override { return std::nullopt; }
 };
 
-CodePage paginaDe(const std::string& numero) {
-    for (const int conhecida : {1252, 850, 860}) {
-        if (numero == std::to_string(conhecida)) {
-            return *codePageByNumber(conhecida);
+CodePage pageOf(const std::string& number) {
+    for (const int known : {1252, 850, 860}) {
+        if (number == std::to_string(known)) {
+            return *codePageByNumber(known);
         }
     }
-    throw FalhaDeUso("--pagina-de-codigo pede 1252, 850 ou 860.");
+    throw UsageError("--pagina-de-codigo pede 1252, 850 ou 860.");
 }
 
 }  // namespace
 
-BoxAnswer CaixasNoTerminal::show(const Box& box) {
+BoxAnswer TerminalBoxes::show(const Box& box) {
     const std::string texto = replaceAll(replaceAll(box.text, "\r\n", "\n"), "\r", "\n");
     std::fprintf(stderr, "%s: %s\n", box.title.c_str(), texto.c_str());
     return box.buttons == BoxButtons::YesNo ? BoxAnswer::Yes : BoxAnswer::Ok;
 }
 
-Date Relogio::today() {
+Date SystemClock::today() {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
 #ifdef _WIN32
@@ -57,77 +57,77 @@ Date Relogio::today() {
     return {local.tm_mday, local.tm_mon + 1, local.tm_year + 1900};
 }
 
-Mesa::Mesa(const Geral& geral) : geral_(geral) {}
+Mesa::Mesa(const GlobalOptions& options) : options_(options) {}
 
-void Mesa::preparaPasta() {
-    const auto files =
-        std::make_shared<JobFiles>(std::filesystem::path(*geral_.destino), JobNumbering::FromOne);
+void Mesa::prepareFolder() {
+    const auto files = std::make_shared<JobFiles>(std::filesystem::path(*options_.destination),
+                                                  JobNumbering::FromOne);
     if (!files->makeDirectory()) {
-        throw FalhaDeUso("não foi possível criar a pasta \"" + *geral_.destino +
+        throw UsageError("não foi possível criar a pasta \"" + *options_.destination +
                          "\". Confira o nome e a permissão de gravação.");
     }
     spooler_ = std::make_unique<DirectorySpooler>(files);
-    if (geral_.formato == "ops") {
-        paginas_ = std::make_unique<OpsPrinter>(files);
+    if (options_.format == "ops") {
+        pages_ = std::make_unique<OpsPrinter>(files);
     } else {
-        paginas_ = std::make_unique<PaginasSemJanela>(files);
+        pages_ = std::make_unique<WindowlessPages>(files);
     }
 }
 
-void Mesa::preparaImpressora() {
-    if (geral_.formato == "ops") {
-        throw FalhaDeUso("--formato ops grava em uma pasta: dê também --destino PASTA.");
+void Mesa::preparePrinter() {
+    if (options_.format == "ops") {
+        throw UsageError("--formato ops grava em uma pasta: dê também --destino PASTA.");
     }
     spooler_ = makeSystemSpooler();
     if (!spooler_ || spooler_->defaultPrinter().empty()) {
-        throw FalhaDeUso(
+        throw UsageError(
             "esta máquina não tem impressora padrão. Defina uma, ou grave os trabalhos em uma "
             "pasta com --destino PASTA.");
     }
-    paginas_ = std::make_unique<PaginasSemJanela>(nullptr);
+    pages_ = std::make_unique<WindowlessPages>(nullptr);
 }
 
-void Mesa::preparaNada() {
-    spooler_ = std::make_unique<SemPapel>();
-    paginas_ = std::make_unique<SemPaginas>();
+void Mesa::prepareNothing() {
+    spooler_ = std::make_unique<NoPaper>();
+    pages_ = std::make_unique<NoPages>();
 }
 
-CodePage Mesa::confereOpcoes() const {
-    const CodePage pagina = paginaDe(geral_.paginaDeCodigo);
-    if (geral_.formato != "pdf" && geral_.formato != "ops") {
-        throw FalhaDeUso("--formato pede pdf ou ops.");
+CodePage Mesa::checkOptions() const {
+    const CodePage page = pageOf(options_.codePage);
+    if (options_.format != "pdf" && options_.format != "ops") {
+        throw UsageError("--formato pede pdf ou ops.");
     }
-    return pagina;
+    return page;
 }
 
-Environment& Mesa::ambiente() {
-    const CodePage pagina = confereOpcoes();
-    if (!ambiente_) {
-        geral_.destino ? preparaPasta() : preparaImpressora();
+Environment& Mesa::environment() {
+    const CodePage page = checkOptions();
+    if (!environment_) {
+        options_.destination ? prepareFolder() : preparePrinter();
     }
-    return monta(pagina);
+    return assemble(page);
 }
 
-Environment& Mesa::ambienteDeConferencia() {
-    const CodePage pagina = confereOpcoes();
-    if (!ambiente_) {
-        geral_.destino ? preparaPasta() : preparaNada();
+Environment& Mesa::dryRunEnvironment() {
+    const CodePage page = checkOptions();
+    if (!environment_) {
+        options_.destination ? prepareFolder() : prepareNothing();
     }
-    return monta(pagina);
+    return assemble(page);
 }
 
-Environment& Mesa::monta(CodePage pagina) {
-    if (!ambiente_) {
-        ambiente_ = std::make_unique<Environment>(Environment{.http = servidor_,
-                                                              .spooler = *spooler_,
-                                                              .printer = *paginas_,
-                                                              .boxes = caixas_,
-                                                              .clock = relogio_,
-                                                              .machine = maquina_,
-                                                              .baseUrl = {},
-                                                              .codePage = pagina});
+Environment& Mesa::assemble(CodePage page) {
+    if (!environment_) {
+        environment_ = std::make_unique<Environment>(Environment{.http = server_,
+                                                                 .spooler = *spooler_,
+                                                                 .printer = *pages_,
+                                                                 .boxes = boxes_,
+                                                                 .clock = clock_,
+                                                                 .machine = machine_,
+                                                                 .baseUrl = {},
+                                                                 .codePage = page});
     }
-    return *ambiente_;
+    return *environment_;
 }
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

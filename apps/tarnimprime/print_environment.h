@@ -12,25 +12,25 @@
 #include "platform/printer.h"
 #include "platform/spooler.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 
-class SemServidor : public HttpLoader {
+class NoServer : public HttpLoader {
 public:
     HttpAnswer get(const std::string&) override { return {}; }
 };
 
 // A box's text on stderr; the default button is its answer.
-class CaixasNoTerminal : public MessageBoxes {
+class TerminalBoxes : public MessageBoxes {
 public:
     BoxAnswer show(const Box& box) override;
 };
 
-class Relogio : public Clock {
+class SystemClock : public Clock {
 public:
     Date today() override;
 };
 
-class SemMaquina : public Machine {
+class NoMachine : public Machine {
 public:
     bool setShortDateFormat(const std::string&) override { return true; }
     std::string systemDirectory() override { return {}; }
@@ -39,31 +39,31 @@ public:
 
 class Mesa {
 public:
-    explicit Mesa(const Geral& geral);
+    explicit Mesa(const GlobalOptions& options);
 
     // For printing; FalhaDeUso when there is nowhere to print.
-    Environment& ambiente();
+    Environment& environment();
     // Directory of the jobs, if they go into one.
-    const std::optional<std::string>& destino() const { return geral_.destino; }
-    // For looking at what would print: as `ambiente` where a directory was told, else
+    const std::optional<std::string>& destination() const { return options_.destination; }
+    // For looking at what would print: as `environment` where a directory was told, else
     // nothing is printed.
-    Environment& ambienteDeConferencia();
+    Environment& dryRunEnvironment();
 
 private:
-    void preparaPasta();
-    void preparaImpressora();
-    void preparaNada();
-    Environment& monta(CodePage pagina);
-    CodePage confereOpcoes() const;
+    void prepareFolder();
+    void preparePrinter();
+    void prepareNothing();
+    Environment& assemble(CodePage page);
+    CodePage checkOptions() const;
 
-    const Geral& geral_;
-    SemServidor servidor_;
-    CaixasNoTerminal caixas_;
-    Relogio relogio_;
-    SemMaquina maquina_;
+    const GlobalOptions& options_;
+    NoServer server_;
+    TerminalBoxes boxes_;
+    SystemClock clock_;
+    NoMachine machine_;
     std::unique_ptr<Spooler> spooler_;
-    std::unique_ptr<Printer> paginas_;
-    std::unique_ptr<Environment> ambiente_;
+    std::unique_ptr<Printer> pages_;
+    std::unique_ptr<Environment> environment_;
 };
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

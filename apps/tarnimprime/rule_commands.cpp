@@ -12,138 +12,137 @@
 #include "runtime/numbers.h"
 #include "slips/slip_number.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
-constexpr std::string_view mascaraDeData = "dd/mm/yyyy";
+constexpr std::string_view dateMask = "dd/mm/yyyy";
 
-void declaraExtenso(CLI::App& app, Escolha& escolha) {
-    CLI::App* comando = app.add_subcommand("extenso", "Escreve um valor por extenso");
+void declareAmountInWords(CLI::App& app, Choice& choice) {
+    CLI::App* commands = app.add_subcommand("extenso", "Escreve um valor por extenso");
     const auto valor = std::make_shared<std::string>();
-    comando->add_option("valor", *valor, "Valor, com vírgula decimal")->required();
-    comando->callback([&escolha, valor] {
-        escolha.faz = [valor](Mesa&) { mostra(ValorExtenso(readComma(*valor))); };
+    commands->add_option("valor", *valor, "Valor, com vírgula decimal")->required();
+    commands->callback([&choice, valor] {
+        choice.run = [valor](Mesa&) { show(ValorExtenso(readComma(*valor))); };
     });
 }
 
-void declaraData(CLI::App& app, Escolha& escolha) {
-    struct Pedido {
+void declareDate(CLI::App& app, Choice& choice) {
+    struct Request {
         std::string texto;
-        std::string hoje;
+        std::string today;
     };
-    CLI::App* comando = app.add_subcommand("data", "Mostra como fica um campo de data");
-    const auto pedido = std::make_shared<Pedido>();
-    comando->add_option("texto", pedido->texto, "O que foi digitado")->required();
-    comando->add_option("--hoje", pedido->hoje, "Data de hoje, dd/mm/yyyy")->required();
-    comando->callback([&escolha, pedido] {
-        escolha.faz = [pedido](Mesa&) {
-            const std::optional<Date> hoje = parseStrictDate(pedido->hoje);
-            if (!hoje) {
-                throw FalhaDeUso("--hoje pede uma data dd/mm/yyyy do calendário.");
+    CLI::App* commands = app.add_subcommand("data", "Mostra como fica um campo de data");
+    const auto request = std::make_shared<Request>();
+    commands->add_option("texto", request->texto, "O que foi digitado")->required();
+    commands->add_option("--hoje", request->today, "Data de hoje, dd/mm/yyyy")->required();
+    commands->callback([&choice, request] {
+        choice.run = [request](Mesa&) {
+            const std::optional<Date> today = parseStrictDate(request->today);
+            if (!today) {
+                throw UsageError("--hoje pede uma data dd/mm/yyyy do calendário.");
             }
-            mostra(dateOnLeave(pedido->texto, *hoje));
+            show(dateOnLeave(request->texto, *today));
         };
     });
 }
 
-void declaraQuantidade(CLI::App& app, Escolha& escolha) {
-    CLI::App* comando =
+void declareQuantity(CLI::App& app, Choice& choice) {
+    CLI::App* commands =
         app.add_subcommand("quantidade", "Mostra como fica um campo de quantidade, ou a mensagem");
     const auto texto = std::make_shared<std::string>();
-    comando->add_option("texto", *texto, "O que foi digitado")->required();
-    comando->callback([&escolha, texto] {
-        escolha.faz = [texto](Mesa&) {
-            const FieldResult campo = quantityOnLeave(*texto, messagesQtde);
-            mostra(campo.box ? campo.box->text : campo.text);
+    commands->add_option("texto", *texto, "O que foi digitado")->required();
+    commands->callback([&choice, texto] {
+        choice.run = [texto](Mesa&) {
+            const FieldResult field = quantityOnLeave(*texto, messagesQtde);
+            show(field.box ? field.box->text : field.text);
         };
     });
 }
 
-void declaraAviso(CLI::App& app, Escolha& escolha) {
-    struct Pedido {
-        std::int32_t empresa = 0;
-        std::int32_t estabelecimento = 0;
+void declareNotice(CLI::App& app, Choice& choice) {
+    struct Request {
+        std::int32_t company = 0;
+        std::int32_t establishment = 0;
     };
-    CLI::App* comando =
+    CLI::App* commands =
         app.add_subcommand("aviso-impressora", "Mostra o aviso de impressora da mesa");
-    const auto pedido = std::make_shared<Pedido>();
-    declaraCodigo(*comando, "empresa", pedido->empresa, "Código da empresa");
-    declaraCodigo(*comando, "estabelecimento", pedido->estabelecimento,
-                  "Código do estabelecimento");
-    comando->callback([&escolha, pedido] {
-        escolha.faz = [pedido](Mesa&) {
-            mostra(avisoImpressora(pedido->empresa, pedido->estabelecimento));
+    const auto request = std::make_shared<Request>();
+    declareCode(*commands, "empresa", request->company, "Código da empresa");
+    declareCode(*commands, "estabelecimento", request->establishment, "Código do estabelecimento");
+    commands->callback([&choice, request] {
+        choice.run = [request](Mesa&) {
+            show(printerNotice(request->company, request->establishment));
         };
     });
 }
 
-std::string pelaMascara(std::string_view valor, std::string_view mascara) {
-    if (mascara == mascaraDeData) {
+std::string byMask(std::string_view valor, std::string_view mask) {
+    if (mask == dateMask) {
         return formatDateText(valor);
     }
-    if (mascara.find('@') != std::string_view::npos) {
-        return fillMask(valor, mascara);
+    if (mask.find('@') != std::string_view::npos) {
+        return fillMask(valor, mask);
     }
-    return formatText(valor, NumberMask(mascara));
+    return formatText(valor, NumberMask(mask));
 }
 
-void declaraMascara(CLI::App& app, Escolha& escolha) {
-    struct Pedido {
-        std::string mascara;
+void declareMask(CLI::App& app, Choice& choice) {
+    struct Request {
+        std::string mask;
         std::string valor;
     };
-    CLI::App* comando = app.add_subcommand("mascara", "Mostra um valor sob uma máscara");
-    const auto pedido = std::make_shared<Pedido>();
-    comando->add_option("mascara", pedido->mascara, "Máscara de número, de \"@\" ou dd/mm/yyyy")
+    CLI::App* commands = app.add_subcommand("mascara", "Mostra um valor sob uma máscara");
+    const auto request = std::make_shared<Request>();
+    commands->add_option("mascara", request->mask, "Máscara de número, de \"@\" ou dd/mm/yyyy")
         ->required();
-    comando->add_option("valor", pedido->valor, "Valor como texto")->required();
-    comando->callback([&escolha, pedido] {
-        escolha.faz = [pedido](Mesa&) { mostra(pelaMascara(pedido->valor, pedido->mascara)); };
+    commands->add_option("valor", request->valor, "Valor como texto")->required();
+    commands->callback([&choice, request] {
+        choice.run = [request](Mesa&) { show(byMask(request->valor, request->mask)); };
     });
 }
 
-void declaraDigito10(CLI::App& app, Escolha& escolha) {
-    struct Pedido {
-        std::string numero;
-        std::string agencia;
-        std::string conta;
+void declareDigit10(CLI::App& app, Choice& choice) {
+    struct Request {
+        std::string number;
+        std::string agency;
+        std::string account;
     };
-    CLI::App* comando =
+    CLI::App* commands =
         app.add_subcommand("digito10", "Mostra o dígito do número de um boleto da carteira 57");
-    const auto pedido = std::make_shared<Pedido>();
-    comando->add_option("numero", pedido->numero, "Número do boleto")->required();
-    comando->add_option("agencia", pedido->agencia, "Agência da carteira")->required();
-    comando->add_option("conta", pedido->conta, "Conta da carteira")->required();
-    comando->callback([&escolha, pedido] {
-        escolha.faz = [pedido](Mesa&) {
-            mostra(std::to_string(DigitoModulo10(trezeDigitos(readComma(pedido->numero)),
-                                                 pedido->agencia, pedido->conta)));
+    const auto request = std::make_shared<Request>();
+    commands->add_option("numero", request->number, "Número do boleto")->required();
+    commands->add_option("agencia", request->agency, "Agência da carteira")->required();
+    commands->add_option("conta", request->account, "Conta da carteira")->required();
+    commands->callback([&choice, request] {
+        choice.run = [request](Mesa&) {
+            show(std::to_string(DigitoModulo10(thirteenDigits(readComma(request->number)),
+                                               request->agency, request->account)));
         };
     });
 }
 
-void declaraDigito11(CLI::App& app, Escolha& escolha) {
-    CLI::App* comando = app.add_subcommand(
+void declareDigit11(CLI::App& app, Choice& choice) {
+    CLI::App* commands = app.add_subcommand(
         "digito11", "Mostra o dígito do número de um boleto das outras carteiras");
-    const auto numero = std::make_shared<std::string>();
-    comando->add_option("numero", *numero, "Número do boleto")->required();
-    comando->callback([&escolha, numero] {
-        escolha.faz = [numero](Mesa&) {
-            mostra(std::to_string(DigitoModulo11(seteDigitos(readComma(*numero)))));
+    const auto number = std::make_shared<std::string>();
+    commands->add_option("numero", *number, "Número do boleto")->required();
+    commands->callback([&choice, number] {
+        choice.run = [number](Mesa&) {
+            show(std::to_string(DigitoModulo11(sevenDigits(readComma(*number)))));
         };
     });
 }
 
 }  // namespace
 
-void declaraRegras(CLI::App& app, Escolha& escolha) {
-    declaraExtenso(app, escolha);
-    declaraData(app, escolha);
-    declaraQuantidade(app, escolha);
-    declaraAviso(app, escolha);
-    declaraMascara(app, escolha);
-    declaraDigito10(app, escolha);
-    declaraDigito11(app, escolha);
+void declareRules(CLI::App& app, Choice& choice) {
+    declareAmountInWords(app, choice);
+    declareDate(app, choice);
+    declareQuantity(app, choice);
+    declareNotice(app, choice);
+    declareMask(app, choice);
+    declareDigit10(app, choice);
+    declareDigit11(app, choice);
 }
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

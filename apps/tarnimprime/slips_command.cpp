@@ -12,105 +12,105 @@
 #include "slips/print_slips.h"
 #include "slips/slip_search.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
-constexpr int posicaoEscolhida = 1;  // any but the one that stands for no portfolio
+constexpr int chosenPosition = 1;  // any but the one that stands for no portfolio
 
-struct Pedido {
-    Sessao sessao;
-    std::string carteira;
-    PedidoDeBoletos boletos;
-    Marca marca;
-    std::vector<std::string> documentos;
+struct Request {
+    Sessao session;
+    std::string portfolio;
+    SlipRun slips;
+    TickedRows tick;
+    std::vector<std::string> documents;
 };
 
 // What would be written to the server, one request a line. There is none, so each write
 // fails, which the run doesn't look at.
-class PedidosEmArquivo : public HttpLoader {
+class RequestsInFile : public HttpLoader {
 public:
     // Without a directory they are dropped.
-    explicit PedidosEmArquivo(const std::optional<std::string>& pasta) {
-        if (!pasta) {
+    explicit RequestsInFile(const std::optional<std::string>& folder) {
+        if (!folder) {
             return;
         }
-        const std::string arquivo = *pasta + "/requests.txt";
-        saida_.open(arquivo, std::ios::binary | std::ios::trunc);
-        if (!saida_) {
-            throw FalhaDeUso("não foi possível gravar \"" + arquivo +
+        const std::string file = *folder + "/requests.txt";
+        output_.open(file, std::ios::binary | std::ios::trunc);
+        if (!output_) {
+            throw UsageError("não foi possível gravar \"" + file +
                              "\". Confira a permissão de gravação.");
         }
     }
-    HttpAnswer get(const std::string& pedido) override {
-        if (saida_.is_open()) {
-            saida_ << escapedLine(pedido) << '\n' << std::flush;
+    HttpAnswer get(const std::string& request) override {
+        if (output_.is_open()) {
+            output_ << escapedLine(request) << '\n' << std::flush;
         }
         return {};
     }
 
 private:
-    std::ofstream saida_;
+    std::ofstream output_;
 };
 
-Environment comPedidos(const Environment& mesa, HttpLoader& pedidos) {
-    return {.http = pedidos,
-            .spooler = mesa.spooler,
-            .printer = mesa.printer,
-            .boxes = mesa.boxes,
-            .clock = mesa.clock,
-            .machine = mesa.machine,
+Environment withRequests(const Environment& desk, HttpLoader& requests) {
+    return {.http = requests,
+            .spooler = desk.spooler,
+            .printer = desk.printer,
+            .boxes = desk.boxes,
+            .clock = desk.clock,
+            .machine = desk.machine,
             .baseUrl = {},
-            .codePage = mesa.codePage};
+            .codePage = desk.codePage};
 }
 
-// The rows of all files, one number after the other; `marca` holds for each file.
-std::vector<LinhaGrade> linhasMarcadas(const Pedido& pedido) {
-    std::vector<LinhaGrade> todas;
-    for (const XmlDocument& resposta : leRespostas(pedido.documentos)) {
-        std::vector<LinhaGrade> linhas = linhasDeBoletos(resposta);
-        marcaLinhas(linhas, pedido.marca);
-        std::move(linhas.begin(), linhas.end(), std::back_inserter(todas));
+// The rows of all files, one number after the other; `tick` holds for each file.
+std::vector<GridRow> tickedRows(const Request& request) {
+    std::vector<GridRow> all;
+    for (const XmlDocument& answer : readAnswers(request.documents)) {
+        std::vector<GridRow> linhas = slipRows(answer);
+        tickRows(linhas, request.tick);
+        std::move(linhas.begin(), linhas.end(), std::back_inserter(all));
     }
-    return todas;
+    return all;
 }
 
-void imprime(const Pedido& pedido, Mesa& mesa) {
-    const CarteiraCobranca carteira = carteiraDe(leResposta(pedido.carteira));
-    std::vector<LinhaGrade> linhas = linhasMarcadas(pedido);
-    const Environment& semServidor = mesa.ambiente();
-    PedidosEmArquivo pedidos(mesa.destino());
-    Environment ambiente = comPedidos(semServidor, pedidos);
-    if (const auto recusa = recusaDaImpressao(posicaoEscolhida, pedido.boletos.proximo)) {
-        ambiente.boxes.show({std::string(recusa->texto), BoxIcon::Information, "TArn"});
+void print(const Request& request, Mesa& desk) {
+    const Portfolio portfolio = portfolioOf(readAnswer(request.portfolio));
+    std::vector<GridRow> linhas = tickedRows(request);
+    const Environment& noServer = desk.environment();
+    RequestsInFile requests(desk.destination());
+    Environment environment = withRequests(noServer, requests);
+    if (const auto refuse = printRefusal(chosenPosition, request.slips.next)) {
+        environment.boxes.show({std::string(refuse->texto), BoxIcon::Information, "TArn"});
         return;
     }
-    imprimeBoletos(ambiente, pedido.sessao, carteira, pedido.boletos, linhas,
-                   {.desmarca = [&linhas](std::size_t i) { linhas[i].marcada = false; }});
+    printSlips(environment, request.session, portfolio, request.slips, linhas,
+               {.untick = [&linhas](std::size_t i) { linhas[i].ticked = false; }});
 }
 
 }  // namespace
 
-void declaraBoletos(CLI::App& app, Escolha& escolha) {
-    CLI::App* comando = app.add_subcommand("boletos", "Imprime boletos bancários");
-    const auto pedido = std::make_shared<Pedido>();
-    pedido->sessao.SERVERNAME = "SRV";
-    pedido->sessao.UserCode = "U1";
-    declaraCodigo(*comando, "--empresa", pedido->sessao.NCOMPANYCODE, "Código da empresa");
-    declaraCodigo(*comando, "--estabelecimento", pedido->sessao.ID_ETB_TARN,
-                  "Código do estabelecimento");
-    comando->add_option("--carteira", pedido->carteira, "Carteira de cobrança (CART.xml)")
+void declareSlips(CLI::App& app, Choice& choice) {
+    CLI::App* commands = app.add_subcommand("boletos", "Imprime boletos bancários");
+    const auto request = std::make_shared<Request>();
+    request->session.SERVERNAME = "SRV";
+    request->session.UserCode = "U1";
+    declareCode(*commands, "--empresa", request->session.NCOMPANYCODE, "Código da empresa");
+    declareCode(*commands, "--estabelecimento", request->session.ID_ETB_TARN,
+                "Código do estabelecimento");
+    commands->add_option("--carteira", request->portfolio, "Carteira de cobrança (CART.xml)")
         ->required();
-    comando
-        ->add_option("--proximo", pedido->boletos.proximo,
+    commands
+        ->add_option("--proximo", request->slips.next,
                      "Número do próximo boleto, sem agência e sem dígito verificador")
         ->required();
-    comando->add_flag("--inclui-carteira", pedido->boletos.incluiCarteira,
-                      "Inclui os documentos na carteira: vale o banco dela, não o de cada um");
-    declaraMarca(*comando, pedido->marca);
-    comando->add_option("documentos", pedido->documentos, "Documentos da pesquisa (DOCS.xml)")
+    commands->add_flag("--inclui-carteira", request->slips.includesPortfolio,
+                       "Inclui os documentos na carteira: vale o banco dela, não o de cada um");
+    declareTicks(*commands, request->tick);
+    commands->add_option("documentos", request->documents, "Documentos da pesquisa (DOCS.xml)")
         ->required();
-    comando->callback(
-        [&escolha, pedido] { escolha.faz = [pedido](Mesa& mesa) { imprime(*pedido, mesa); }; });
+    commands->callback(
+        [&choice, request] { choice.run = [request](Mesa& desk) { print(*request, desk); }; });
 }
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

@@ -6,16 +6,16 @@
 
 #include "runtime/text.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
-std::size_t linhaDe(std::string_view texto, std::size_t quantas) {
-    const std::string_view numero = trimBlanks(texto);
+std::size_t rowOf(std::string_view texto, std::size_t count) {
+    const std::string_view number = trimBlanks(texto);
     std::size_t linha = 0;
-    const char* const fim = numero.data() + numero.size();
-    const auto lido = std::from_chars(numero.data(), fim, linha);
-    if (lido.ec != std::errc() || lido.ptr != fim || linha < 1 || linha > quantas) {
-        throw FalhaDeUso("--marca pede números de linha de 1 a " + std::to_string(quantas) +
+    const char* const end = number.data() + number.size();
+    const auto readValue = std::from_chars(number.data(), end, linha);
+    if (readValue.ec != std::errc() || readValue.ptr != end || linha < 1 || linha > count) {
+        throw UsageError("--marca pede números de linha de 1 a " + std::to_string(count) +
                          ", separados por vírgula: \"" + std::string(texto) + "\" não é um deles.");
     }
     return linha;
@@ -23,24 +23,24 @@ std::size_t linhaDe(std::string_view texto, std::size_t quantas) {
 
 }  // namespace
 
-void declaraMarca(CLI::App& comando, Marca& marca) {
-    comando.add_option("--marca", marca,
-                       "Linhas que imprimem, a partir de 1 (1,3); sem ela, todas; vazia, nenhuma");
+void declareTicks(CLI::App& commands, TickedRows& tick) {
+    commands.add_option("--marca", tick,
+                        "Linhas que imprimem, a partir de 1 (1,3); sem ela, todas; vazia, nenhuma");
 }
 
-void marcaLinhas(std::vector<LinhaGrade>& linhas, const Marca& marca) {
-    for (LinhaGrade& linha : linhas) {
-        linha.marcada = !marca;
+void tickRows(std::vector<GridRow>& linhas, const TickedRows& tick) {
+    for (GridRow& linha : linhas) {
+        linha.ticked = !tick;
     }
-    if (!marca || trimBlanks(*marca).empty()) {
+    if (!tick || trimBlanks(*tick).empty()) {
         return;
     }
-    std::string_view resto = *marca;
-    for (std::size_t virgula = 0; virgula != std::string_view::npos;) {
-        virgula = resto.find(',');
-        linhas[linhaDe(resto.substr(0, virgula), linhas.size()) - 1].marcada = true;
-        resto = virgula == std::string_view::npos ? "" : resto.substr(virgula + 1);
+    std::string_view rest = *tick;
+    for (std::size_t comma = 0; comma != std::string_view::npos;) {
+        comma = rest.find(',');
+        linhas[rowOf(rest.substr(0, comma), linhas.size()) - 1].ticked = true;
+        rest = comma == std::string_view::npos ? "" : rest.substr(comma + 1);
     }
 }
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

@@ -8,15 +8,15 @@
 #include "apps/tarnimprime/commands.h"
 #include "common/grid_row.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 
 // Left out: every row prints.
-using Marca = std::optional<std::string>;
+using TickedRows = std::optional<std::string>;
 
-void declaraMarca(CLI::App& comando, Marca& marca);
+void declareTicks(CLI::App& commands, TickedRows& tick);
 
 // Ticks the rows that it names, from 1, parted by commas; none for an empty one.
 // FalhaDeUso for a number that no row has.
-void marcaLinhas(std::vector<LinhaGrade>& linhas, const Marca& marca);
+void tickRows(std::vector<GridRow>& linhas, const TickedRows& tick);
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

@@ -3,41 +3,41 @@
 #include <QGuiApplication>
 #include <cstdio>
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
 // What Qt remarks about the machine (no session directory, no theme) is nothing
 // that the user could act on; what goes wrong with a page is told by the page.
-void soOFatal(QtMsgType tipo, const QMessageLogContext&, const QString& texto) {
-    if (tipo == QtFatalMsg) {
+void fatalOnly(QtMsgType kind, const QMessageLogContext&, const QString& texto) {
+    if (kind == QtFatalMsg) {
         std::fprintf(stderr, "tarnimprime: %s\n", qPrintable(texto));
     }
 }
 
 // The platform that a shell may have set needs a display; this one doesn't.
-std::unique_ptr<QGuiApplication> semTela() {
+std::unique_ptr<QGuiApplication> noScreen() {
 #ifndef _WIN32
     qputenv("QT_QPA_PLATFORM", "offscreen");
 #endif
-    qInstallMessageHandler(soOFatal);
+    qInstallMessageHandler(fatalOnly);
     static char nome[] = "tarnimprime";
-    static char* palavras[] = {nome, nullptr};
-    static int quantas = 1;
-    return std::make_unique<QGuiApplication>(quantas, palavras);
+    static char* words[] = {nome, nullptr};
+    static int count = 1;
+    return std::make_unique<QGuiApplication>(count, words);
 }
 
 }  // namespace
 
-PaginasSemJanela::PaginasSemJanela(const std::shared_ptr<JobFiles>& files)
-    : impressora_(files ? std::make_unique<QtPrinter>(files) : std::make_unique<QtPrinter>()) {}
+WindowlessPages::WindowlessPages(const std::shared_ptr<JobFiles>& files)
+    : printer_(files ? std::make_unique<QtPrinter>(files) : std::make_unique<QtPrinter>()) {}
 
-PaginasSemJanela::~PaginasSemJanela() = default;
+WindowlessPages::~WindowlessPages() = default;
 
-std::optional<PrinterFailure> PaginasSemJanela::perform(const PrintOperation& operation) {
-    if (!aplicacao_ && draws(operation)) {
-        aplicacao_ = semTela();
+std::optional<PrinterFailure> WindowlessPages::perform(const PrintOperation& operation) {
+    if (!application_ && draws(operation)) {
+        application_ = noScreen();
     }
-    return impressora_->perform(operation);
+    return printer_->perform(operation);
 }
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

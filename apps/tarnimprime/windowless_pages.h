@@ -8,21 +8,21 @@
 
 class QGuiApplication;
 
-namespace tarn::imprime {
+namespace tarn::print {
 
-class PaginasSemJanela : public Printer {
+class WindowlessPages : public Printer {
 public:
     // Null: the machine's default printer.
-    explicit PaginasSemJanela(const std::shared_ptr<JobFiles>& files);
-    ~PaginasSemJanela() override;
-    PaginasSemJanela(const PaginasSemJanela&) = delete;
-    PaginasSemJanela& operator=(const PaginasSemJanela&) = delete;
+    explicit WindowlessPages(const std::shared_ptr<JobFiles>& files);
+    ~WindowlessPages() override;
+    WindowlessPages(const WindowlessPages&) = delete;
+    WindowlessPages& operator=(const WindowlessPages&) = delete;
 
     std::optional<PrinterFailure> perform(const PrintOperation& operation) override;
 
 private:
-    std::unique_ptr<QGuiApplication> aplicacao_;
-    std::unique_ptr<QtPrinter> impressora_;
+    std::unique_ptr<QGuiApplication> application_;
+    std::unique_ptr<QtPrinter> printer_;
 };
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

@@ -7,39 +7,38 @@
 namespace tarn {
 namespace {
 
-constexpr int primeiraConta = 1;  // item of the list, counted from 0
-constexpr const char* numero = "1001";
+constexpr int firstAccount = 1;  // item of the list, counted from 0
+constexpr const char* number = "1001";
 
 }  // namespace
 
-void escreveCheque(Roteiro& roteiro) {
-    roteiro
-        .quando("MDIMenu", "",
-                [](QWidget& janela) {
-                    abreMenu(janela, "mnuCheque");
-                    escolhe(janela, "mnuCheque", "mnuChequeImpressao");
-                })
-        .quando("frmCheque", "",
-                [&](QWidget& tela) {
-                    escolheNaLista(tela, "cboBancoAgConta", primeiraConta);
-                    digita(tela, "txtNumeroCheque", numero);
-                    digita(tela, "txtSerie", "A1");
-                    digita(tela, "txtValor", "1234,56");
-                    digita(tela, "txtFavorecido", "Papelaria Três Pontes Ltda");
-                    auto& uso = filho<QWidget>(tela, "txtObservacao");
-                    uso.setFocus();
-                    tecla(uso, "Material de escritório");
-                    roteiro.fotografa(tela, "cheque-preenchido");
-                    clica(tela, "cmdImprimir");
-                })
-        .quando("MessageBox", "cheque-emitido", aceita)
-        .quando("frmCheque", "",
-                [](QWidget& tela) {
-                    digita(tela, "txtNumeroCheque", numero);
-                    filho<QLineEdit>(tela, "txtValor").setFocus();
-                })
-        .quando("MessageBox", "cheque-repetido", aceita)
-        .quando("frmCheque", "", [](QWidget& tela) { clica(tela, "cmdCancelar"); });
+void walkCheque(Walk& walk) {
+    walk.when("MDIMenu", "",
+              [](QWidget& window) {
+                  openMenu(window, "mnuCheque");
+                  choose(window, "mnuCheque", "mnuChequeImpressao");
+              })
+        .when("frmCheque", "",
+              [&](QWidget& screen) {
+                  chooseInList(screen, "cboBancoAgConta", firstAccount);
+                  typeIn(screen, "txtNumeroCheque", number);
+                  typeIn(screen, "txtSerie", "A1");
+                  typeIn(screen, "txtValor", "1234,56");
+                  typeIn(screen, "txtFavorecido", "Papelaria Três Pontes Ltda");
+                  auto& usage = child<QWidget>(screen, "txtObservacao");
+                  usage.setFocus();
+                  tecla(usage, "Material de escritório");
+                  walk.photograph(screen, "cheque-preenchido");
+                  click(screen, "cmdImprimir");
+              })
+        .when("MessageBox", "cheque-emitido", accept)
+        .when("frmCheque", "",
+              [](QWidget& screen) {
+                  typeIn(screen, "txtNumeroCheque", number);
+                  child<QLineEdit>(screen, "txtValor").setFocus();
+              })
+        .when("MessageBox", "cheque-repetido", accept)
+        .when("frmCheque", "", [](QWidget& screen) { click(screen, "cmdCancelar"); });
 }
 
 }  // namespace tarn

@@ -6,6 +6,6 @@
 namespace tarn {
 
 // Begins and ends at the main window.
-void escreveCheque(Roteiro& roteiro);
+void walkCheque(Walk& walk);
 
 }  // namespace tarn

@@ -6,77 +6,77 @@ namespace tarn {
 namespace {
 
 // Items of the lists, counted from 0.
-constexpr int duplicata = 1;
-constexpr int recibo = 2;
-constexpr int carteira57 = 1;
+constexpr int bill = 1;
+constexpr int receipt = 2;
+constexpr int isWallet57 = 1;
 
-constexpr int caixa = 0;  // column of the check boxes
-constexpr const char* desdeSempre = "01012000";
-constexpr const char* ateSempre = "31122099";
+constexpr int box = 0;  // column of the check boxes
+constexpr const char* sinceEver = "01012000";
+constexpr const char* untilEver = "31122099";
 
-void marcaAsPrimeiras(QWidget& tela, int quantas) {
-    for (int linha = 0; linha < quantas; ++linha) {
-        clicaNaGrade(tela, linha, caixa);
+void tickFirst(QWidget& screen, int count) {
+    for (int linha = 0; linha < count; ++linha) {
+        clickInGrid(screen, linha, box);
     }
 }
 
 }  // namespace
 
-void escreveDuplicatas(Roteiro& roteiro) {
-    roteiro.quando("MDIMenu", "", [](QWidget& janela) { clicaNaBarra(janela, "mnuDuplicata"); })
-        .quando("FrmPesqDupli", "", [](QWidget& tela) { clica(tela, "cmdPesqCli"); })
-        .quando("FrmPesqCliente", "",
-                [&](QWidget& dialogo) {
-                    digita(dialogo, "txtNmCli", "pão de ara");
-                    clica(dialogo, "cmdPesquisar");
-                    clicaNaGrade(dialogo, 0, 0);
-                    roteiro.fotografa(dialogo, "clientes");
-                    clica(dialogo, "cmdSelecionar");
-                })
-        .quando("FrmPesqDupli", "",
-                [&](QWidget& tela) {
-                    escolheNaLista(tela, "cboTpDocto", duplicata);
-                    digita(tela, "txtDtVncAte", ateSempre);
-                    clica(tela, "cmdPesquisar");
-                    marcaAsPrimeiras(tela, 2);
-                    roteiro.fotografa(tela, "duplicatas");
-                    clica(tela, "cmdImprimir");
-                })
-        .quando("MessageBox", "duplicatas-impressas", aceita)
-        .quando("FrmPesqDupli", "",
-                [&](QWidget& tela) {
-                    clica(tela, "cmdLimpar");
-                    escolheNaLista(tela, "cboTpDocto", recibo);
-                    clica(tela, "cmdPesquisar");
-                    marcaAsPrimeiras(tela, 1);
-                    roteiro.fotografa(tela, "recibos");
-                    clica(tela, "cmdImprimir");
-                })
-        .quando("MessageBox", "", aceita)
-        .quando("FrmPesqDupli", "", [](QWidget& tela) { clica(tela, "cmdVoltar"); });
+void walkBills(Walk& walk) {
+    walk.when("MDIMenu", "", [](QWidget& window) { clickInBar(window, "mnuDuplicata"); })
+        .when("FrmPesqDupli", "", [](QWidget& screen) { click(screen, "cmdPesqCli"); })
+        .when("FrmPesqCliente", "",
+              [&](QWidget& dialog) {
+                  typeIn(dialog, "txtNmCli", "pão de ara");
+                  click(dialog, "cmdPesquisar");
+                  clickInGrid(dialog, 0, 0);
+                  walk.photograph(dialog, "clientes");
+                  click(dialog, "cmdSelecionar");
+              })
+        .when("FrmPesqDupli", "",
+              [&](QWidget& screen) {
+                  chooseInList(screen, "cboTpDocto", bill);
+                  typeIn(screen, "txtDtVncAte", untilEver);
+                  click(screen, "cmdPesquisar");
+                  tickFirst(screen, 2);
+                  walk.photograph(screen, "duplicatas");
+                  click(screen, "cmdImprimir");
+              })
+        .when("MessageBox", "duplicatas-impressas", accept)
+        .when("FrmPesqDupli", "",
+              [&](QWidget& screen) {
+                  click(screen, "cmdLimpar");
+                  chooseInList(screen, "cboTpDocto", receipt);
+                  click(screen, "cmdPesquisar");
+                  tickFirst(screen, 1);
+                  walk.photograph(screen, "recibos");
+                  click(screen, "cmdImprimir");
+              })
+        .when("MessageBox", "", accept)
+        .when("FrmPesqDupli", "", [](QWidget& screen) { click(screen, "cmdVoltar"); });
 }
 
-void escreveBoletos(Roteiro& roteiro) {
-    roteiro.quando("MDIMenu", "", [](QWidget& janela) { clicaNaBarra(janela, "mnuBoleto"); })
-        .quando("frmPesqBoleto", "",
-                [](QWidget& tela) {
-                    clica(tela, "cmdLimpar");
-                    digita(tela, "txtDtEmsDe", desdeSempre);
-                    digita(tela, "txtDtVncAte", ateSempre);
-                    clica(tela, "cmdPesquisar");
-                })
-        .quando("MessageBox", "carteira-obrigatoria", aceita)
-        .quando("frmPesqBoleto", "",
-                [&](QWidget& tela) {
-                    escolheNaLista(tela, "cboCartCob", carteira57);
-                    clica(tela, "cmdPesquisar");
-                    marcaAsPrimeiras(tela, 2);
-                    digita(tela, "txtNr_Bol_Banc", "1234");
-                    roteiro.fotografa(tela, "boletos");
-                    clica(tela, "cmdImprimir");
-                    roteiro.fotografa(tela, "boleto-impresso");
-                })
-        .quando("frmPesqBoleto", "", [](QWidget& tela) { clica(tela, "cmdVoltar"); });
+void walkSlips(Walk& walk) {
+    walk.when("MDIMenu", "", [](QWidget& window) { clickInBar(window, "mnuBoleto"); })
+        .when("frmPesqBoleto", "",
+              [](QWidget& screen) {
+                  click(screen, "cmdLimpar");
+                  typeIn(screen, "txtDtEmsDe", sinceEver);
+                  typeIn(screen, "txtDtVncAte", untilEver);
+                  click(screen, "cmdPesquisar");
+              })
+        .when("MessageBox", "carteira-obrigatoria", accept)
+        .when("frmPesqBoleto", "",
+              [&](QWidget& screen) {
+                  chooseInList(screen, "cboCartCob", isWallet57);
+                  click(screen, "cmdPesquisar");
+                  tickFirst(screen, 2);
+                  typeIn(screen, "txtNr_Bol_Banc", "1234");
+                  walk.photograph(screen, "boletos");
+                  click(screen, "cmdImprimir");
+                  walk.photograph(screen, "boleto-impresso");
+              })
+        .when("frmPesqBoleto", "", [](QWidget& screen) { click(screen, "cmdVoltar"); });
 }
 
 }  // namespace tarn

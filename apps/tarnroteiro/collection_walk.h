@@ -6,7 +6,7 @@
 namespace tarn {
 
 // Each begins and ends at the main window.
-void escreveDuplicatas(Roteiro& roteiro);
-void escreveBoletos(Roteiro& roteiro);
+void walkBills(Walk& walk);
+void walkSlips(Walk& walk);
 
 }  // namespace tarn

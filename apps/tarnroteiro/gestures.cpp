@@ -13,74 +13,74 @@
 namespace tarn {
 namespace {
 
-QMenuBar& barraDe(QWidget& janela) {
-    return *static_cast<QMainWindow&>(janela).menuBar();
+QMenuBar& barOf(QWidget& window) {
+    return *static_cast<QMainWindow&>(window).menuBar();
 }
 
-void clicaNaAcao(QMenuBar& barra, QAction* acao) {
-    QTest::mouseClick(&barra, Qt::LeftButton, {}, barra.actionGeometry(acao).center());
+void clickAction(QMenuBar& bar, QAction* action) {
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(action).center());
 }
 
 }  // namespace
 
-void faltaNaTela(const char* nome) {
+void missingOnScreen(const char* nome) {
     qFatal("%s não está na tela", nome);
 }
 
-void clica(QWidget& janela, const char* botao) {
-    QTest::mouseClick(&filho<QPushButton>(janela, botao), Qt::LeftButton);
+void click(QWidget& window, const char* button) {
+    QTest::mouseClick(&child<QPushButton>(window, button), Qt::LeftButton);
 }
 
-void assinala(QWidget& janela, const char* opcao) {
-    auto& marca = filho<QWidget>(janela, opcao);
-    QTest::mouseClick(&marca, Qt::LeftButton, {}, {8, marca.height() / 2});
+void tickOption(QWidget& window, const char* option) {
+    auto& tick = child<QWidget>(window, option);
+    QTest::mouseClick(&tick, Qt::LeftButton, {}, {8, tick.height() / 2});
 }
 
-void tecla(QWidget& campo, const std::string& texto) {
-    const QString letras = QString::fromStdString(texto);
-    for (const QChar letra : letras) {
-        QTest::sendKeyEvent(QTest::Click, &campo, Qt::Key_unknown, QString(letra), Qt::NoModifier);
+void tecla(QWidget& field, const std::string& texto) {
+    const QString letters = QString::fromStdString(texto);
+    for (const QChar letter : letters) {
+        QTest::sendKeyEvent(QTest::Click, &field, Qt::Key_unknown, QString(letter), Qt::NoModifier);
     }
 }
 
-void digita(QWidget& janela, const char* campo, const std::string& texto) {
-    auto& linha = filho<QLineEdit>(janela, campo);
+void typeIn(QWidget& window, const char* field, const std::string& texto) {
+    auto& linha = child<QLineEdit>(window, field);
     linha.setFocus();
     tecla(linha, texto);
 }
 
-void abreMenu(QWidget& janela, const char* menu) {
-    clicaNaAcao(barraDe(janela), filho<QMenu>(janela, menu).menuAction());
+void openMenu(QWidget& window, const char* menu) {
+    clickAction(barOf(window), child<QMenu>(window, menu).menuAction());
 }
 
-void escolhe(QWidget& janela, const char* menu, const char* entrada) {
-    auto& aberto = filho<QMenu>(janela, menu);
-    const QRect lugar = aberto.actionGeometry(&filho<QAction>(janela, entrada));
-    QTest::mouseClick(&aberto, Qt::LeftButton, {}, lugar.center());
+void choose(QWidget& window, const char* menu, const char* input) {
+    auto& open = child<QMenu>(window, menu);
+    const QRect place = open.actionGeometry(&child<QAction>(window, input));
+    QTest::mouseClick(&open, Qt::LeftButton, {}, place.center());
 }
 
-void clicaNaBarra(QWidget& janela, const char* entrada) {
-    clicaNaAcao(barraDe(janela), &filho<QAction>(janela, entrada));
+void clickInBar(QWidget& window, const char* input) {
+    clickAction(barOf(window), &child<QAction>(window, input));
 }
 
-void clicaNaGrade(QWidget& tela, int linha, int coluna) {
-    auto& grade = filho<QTableView>(tela, "sprDados");
-    const QModelIndex celula = grade.model()->index(linha, coluna);
-    grade.scrollTo(celula);
-    QTest::mouseClick(grade.viewport(), Qt::LeftButton, {}, grade.visualRect(celula).center());
+void clickInGrid(QWidget& screen, int linha, int coluna) {
+    auto& grid = child<QTableView>(screen, "sprDados");
+    const QModelIndex cell = grid.model()->index(linha, coluna);
+    grid.scrollTo(cell);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(cell).center());
 }
 
-void escolheNaLista(QWidget& tela, const char* lista, int linha) {
-    auto& combo = filho<QComboBox>(tela, lista);
+void chooseInList(QWidget& screen, const char* list, int linha) {
+    auto& combo = child<QComboBox>(screen, list);
     combo.setFocus();
     QTest::keyClick(&combo, Qt::Key_Space);
-    QAbstractItemView& itens = *combo.view();
-    const QRect lugar = itens.visualRect(itens.model()->index(linha, 0));
-    QTest::mouseClick(itens.viewport(), Qt::LeftButton, {}, lugar.center());
+    QAbstractItemView& items = *combo.view();
+    const QRect place = items.visualRect(items.model()->index(linha, 0));
+    QTest::mouseClick(items.viewport(), Qt::LeftButton, {}, place.center());
 }
 
-void aceita(QWidget& caixa) {
-    QTest::keyClick(&caixa, Qt::Key_Return);
+void accept(QWidget& box) {
+    QTest::keyClick(&box, Qt::Key_Return);
 }
 
 }  // namespace tarn

@@ -8,36 +8,36 @@
 
 namespace tarn {
 
-[[noreturn]] void faltaNaTela(const char* nome);
+[[noreturn]] void missingOnScreen(const char* nome);
 
 template <typename T>
-T& filho(QWidget& janela, const char* nome) {
-    T* achado = janela.findChild<T*>(QLatin1StringView(nome));
-    if (achado == nullptr) {
-        faltaNaTela(nome);
+T& child(QWidget& window, const char* nome) {
+    T* match = window.findChild<T*>(QLatin1StringView(nome));
+    if (match == nullptr) {
+        missingOnScreen(nome);
     }
-    return *achado;
+    return *match;
 }
 
-void clica(QWidget& janela, const char* botao);
+void click(QWidget& window, const char* button);
 // Radio buttons and check boxes are clicked on their mark, not on the middle.
-void assinala(QWidget& janela, const char* opcao);
+void tickOption(QWidget& window, const char* option);
 // One key stroke a character, accented ones too, where the focus is.
-void tecla(QWidget& campo, const std::string& texto);
-void digita(QWidget& janela, const char* campo, const std::string& texto);
+void tecla(QWidget& field, const std::string& texto);
+void typeIn(QWidget& window, const char* field, const std::string& texto);
 
 // The menus of the main window.
-void abreMenu(QWidget& janela, const char* menu);
-void escolhe(QWidget& janela, const char* menu, const char* entrada);
+void openMenu(QWidget& window, const char* menu);
+void choose(QWidget& window, const char* menu, const char* input);
 // An entry that stands in the bar itself.
-void clicaNaBarra(QWidget& janela, const char* entrada);
+void clickInBar(QWidget& window, const char* input);
 
 // Clicks a cell of sprDados; row and column are counted from 0.
-void clicaNaGrade(QWidget& tela, int linha, int coluna);
+void clickInGrid(QWidget& screen, int linha, int coluna);
 // Opens the list and clicks the item of that row.
-void escolheNaLista(QWidget& tela, const char* lista, int linha);
+void chooseInList(QWidget& screen, const char* list, int linha);
 
 // Answers a message box by its default button.
-void aceita(QWidget& caixa);
+void accept(QWidget& box);
 
 }  // namespace tarn

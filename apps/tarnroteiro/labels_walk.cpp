@@ -6,80 +6,78 @@ namespace tarn {
 namespace {
 
 // Items of the lists, counted from 0.
-constexpr int primeiroMotivo = 1;
-constexpr int comRemetente = 4;
-constexpr int matricial = 2;
-constexpr int primeiraFilial = 1;
+constexpr int firstReason = 1;
+constexpr int withSender = 4;
+constexpr int dotMatrix = 2;
+constexpr int firstBranch = 1;
 
-void digitaFaixa(QWidget& tela, const char* de, const char* ate) {
-    digita(tela, "txtDe", de);
-    digita(tela, "txtAte", ate);
+void typeRange(QWidget& screen, const char* de, const char* to) {
+    typeIn(screen, "txtDe", de);
+    typeIn(screen, "txtAte", to);
 }
 
 }  // namespace
 
-void escreveEtiquetas(Roteiro& roteiro) {
-    roteiro
-        .quando("MDIMenu", "",
-                [](QWidget& janela) {
-                    abreMenu(janela, "mnuEtiquetas");
-                    escolhe(janela, "mnuEtiquetas", "mnuImprClientes");
-                })
-        .quando("frmPesqEtiquetas", "",
-                [&](QWidget& tela) {
-                    escolheNaLista(tela, "cboMotivo", primeiroMotivo);
-                    escolheNaLista(tela, "cboTp_Form", comRemetente);
-                    escolheNaLista(tela, "CboFilialRemet", primeiraFilial);
-                    roteiro.fotografa(tela, "etiquetas");
-                    clica(tela, "cmdImprimir");
-                })
-        .quando("frmImprimirEtiqueta", "",
-                [&](QWidget& tela) {
-                    digitaFaixa(tela, "1", "3");
-                    roteiro.fotografa(tela, "etiquetas-imprimir");
-                    clica(tela, "cmdOk");
-                })
-        .quando("MessageBox", "etiquetas-impressas", aceita)
-        .quando("frmPesqEtiquetas", "",
-                [](QWidget& tela) {
-                    escolheNaLista(tela, "cboTp_Form", matricial);
-                    clica(tela, "cmdImprimir");
-                })
-        .quando("frmImprimirEtiqueta", "",
-                [](QWidget& tela) {
-                    digitaFaixa(tela, "1", "5");
-                    clica(tela, "cmdOk");
-                })
-        .quando("frmPesqEtiquetas", "", [](QWidget& tela) { clica(tela, "cmdExcluir"); })
-        .quando("frmExcluirEtiqueta", "",
-                [&](QWidget& tela) {
-                    digitaFaixa(tela, "1", "3");
-                    roteiro.fotografa(tela, "etiquetas-excluir");
-                    clica(tela, "cmdOk");
-                })
-        .quando("MessageBox", "etiquetas-excluidas", aceita)
-        .quando("frmPesqEtiquetas", "", [](QWidget& tela) { clica(tela, "cmdVoltar"); });
+void walkLabels(Walk& walk) {
+    walk.when("MDIMenu", "",
+              [](QWidget& window) {
+                  openMenu(window, "mnuEtiquetas");
+                  choose(window, "mnuEtiquetas", "mnuImprClientes");
+              })
+        .when("frmPesqEtiquetas", "",
+              [&](QWidget& screen) {
+                  chooseInList(screen, "cboMotivo", firstReason);
+                  chooseInList(screen, "cboTp_Form", withSender);
+                  chooseInList(screen, "CboFilialRemet", firstBranch);
+                  walk.photograph(screen, "etiquetas");
+                  click(screen, "cmdImprimir");
+              })
+        .when("frmImprimirEtiqueta", "",
+              [&](QWidget& screen) {
+                  typeRange(screen, "1", "3");
+                  walk.photograph(screen, "etiquetas-imprimir");
+                  click(screen, "cmdOk");
+              })
+        .when("MessageBox", "etiquetas-impressas", accept)
+        .when("frmPesqEtiquetas", "",
+              [](QWidget& screen) {
+                  chooseInList(screen, "cboTp_Form", dotMatrix);
+                  click(screen, "cmdImprimir");
+              })
+        .when("frmImprimirEtiqueta", "",
+              [](QWidget& screen) {
+                  typeRange(screen, "1", "5");
+                  click(screen, "cmdOk");
+              })
+        .when("frmPesqEtiquetas", "", [](QWidget& screen) { click(screen, "cmdExcluir"); })
+        .when("frmExcluirEtiqueta", "",
+              [&](QWidget& screen) {
+                  typeRange(screen, "1", "3");
+                  walk.photograph(screen, "etiquetas-excluir");
+                  click(screen, "cmdOk");
+              })
+        .when("MessageBox", "etiquetas-excluidas", accept)
+        .when("frmPesqEtiquetas", "", [](QWidget& screen) { click(screen, "cmdVoltar"); });
 }
 
-void escreveSelecaoEtiquetas(Roteiro& roteiro) {
-    roteiro
-        .quando("FrmImprEtiq", "",
-                [](QWidget& tela) {
-                    digita(tela, "txtCepDe", "01000000");
-                    digita(tela, "txtCepAte", "09999999");
-                    clica(tela, "cmdPesquisar");
-                })
-        .quando("MessageBox", "selecao-consulta", aceita)
-        .quando("FrmImprEtiq", "",
-                [&](QWidget& tela) {
-                    for (int linha = 0; linha < 3; ++linha) {
-                        clicaNaGrade(tela, linha, 0);
-                    }
-                    roteiro.fotografa(tela, "selecao-etiquetas");
-                    clica(tela, "cmdImprimir");
-                })
-        .quando("MessageBox", "", aceita)
-        .quando("FrmImprEtiq", "", [](QWidget& tela) { clica(tela, "cmdVoltar"); });
+void walkLabelSelection(Walk& walk) {
+    walk.when("FrmImprEtiq", "",
+              [](QWidget& screen) {
+                  typeIn(screen, "txtCepDe", "01000000");
+                  typeIn(screen, "txtCepAte", "09999999");
+                  click(screen, "cmdPesquisar");
+              })
+        .when("MessageBox", "selecao-consulta", accept)
+        .when("FrmImprEtiq", "",
+              [&](QWidget& screen) {
+                  for (int linha = 0; linha < 3; ++linha) {
+                      clickInGrid(screen, linha, 0);
+                  }
+                  walk.photograph(screen, "selecao-etiquetas");
+                  click(screen, "cmdImprimir");
+              })
+        .when("MessageBox", "", accept)
+        .when("FrmImprEtiq", "", [](QWidget& screen) { click(screen, "cmdVoltar"); });
 }
 
 }  // namespace tarn

@@ -6,8 +6,8 @@
 namespace tarn {
 
 // Begins and ends at the main window.
-void escreveEtiquetas(Roteiro& roteiro);
+void walkLabels(Walk& walk);
 // Of a desk opened with the bulk selection, which is there after the logon.
-void escreveSelecaoEtiquetas(Roteiro& roteiro);
+void walkLabelSelection(Walk& walk);
 
 }  // namespace tarn

@@ -17,63 +17,62 @@ namespace tarn {
 namespace {
 
 // The desk as a clerk's screen shows it, whatever the size of the screen that is lacking.
-constexpr int larguraDaMesa = 1280;
-constexpr int alturaDaMesa = 820;
+constexpr int deskWidth = 1280;
+constexpr int deskHeight = 820;
 
-void escreveDia(Roteiro& roteiro, const Entrada& entrada) {
-    escreveEmissao(roteiro);
-    escreveReimpressao(roteiro, entrada);
-    escreveCancelamento(roteiro, entrada);
-    escreveDuplicatas(roteiro);
-    escreveBoletos(roteiro);
-    escreveCheque(roteiro);
-    escreveEtiquetas(roteiro);
+void walkDay(Walk& walk, const WalkLogon& input) {
+    walkIssuing(walk);
+    walkReprint(walk, input);
+    walkCancellation(walk, input);
+    walkBills(walk);
+    walkSlips(walk);
+    walkCheque(walk);
+    walkLabels(walk);
 }
 
 // Whose user may not issue.
-void escreveRecusa(Roteiro& roteiro, const Entrada&) {
-    roteiro
-        .quando("MDIMenu", "",
-                [](QWidget& janela) {
-                    abreMenu(janela, "mnuNF");
-                    escolhe(janela, "mnuNF", "mOFT");
-                })
-        .quando("MessageBox", "direito-recusado", aceita);
+void walkRefusal(Walk& walk, const WalkLogon&) {
+    walk.when("MDIMenu", "",
+              [](QWidget& window) {
+                  openMenu(window, "mnuNF");
+                  choose(window, "mnuNF", "mOFT");
+              })
+        .when("MessageBox", "direito-recusado", accept);
 }
 
-void escreveSelecao(Roteiro& roteiro, const Entrada&) {
-    escreveSelecaoEtiquetas(roteiro);
+void walkSelection(Walk& walk, const WalkLogon&) {
+    walkLabelSelection(walk);
 }
 
-struct Andanca {
+struct NamedWalk {
     const char* nome;
-    void (*escreve)(Roteiro& roteiro, const Entrada& entrada);
+    void (*write)(Walk& walk, const WalkLogon& input);
 };
-constexpr std::array andancas{Andanca{"dia", escreveDia}, Andanca{"recusa", escreveRecusa},
-                              Andanca{"selecao", escreveSelecao}};
+constexpr std::array namedWalks{NamedWalk{"dia", walkDay}, NamedWalk{"recusa", walkRefusal},
+                                NamedWalk{"selecao", walkSelection}};
 
-int anda(DeskApplication& programa, const Entrada& entrada, const std::string& nome) {
-    const auto andanca = std::ranges::find(andancas, nome, &Andanca::nome);
-    Opcoes opcoes;
-    opcoes.baseUrl = enderecoDoServidor(entrada.servidor);
-    opcoes.impressoraVirtual = entrada.pasta;
-    opcoes.selecaoEtiquetas = nome == "selecao";
-    Mesa mesa(programa, opcoes, impressorasDe(opcoes));
-    Roteiro roteiro(QString::fromStdString(entrada.pasta));
-    escreveLogon(roteiro, entrada);
-    andanca->escreve(roteiro, entrada);
-    roteiro.quando("MDIMenu", "fim", [](QWidget& janela) { janela.close(); });
-    QObject::connect(&roteiro, &Roteiro::acabou, [](const QString& motivo) {
-        if (!motivo.isEmpty()) {
-            std::fprintf(stderr, "tarnroteiro: %s.\n", qPrintable(motivo));
+int advance(DeskApplication& program, const WalkLogon& input, const std::string& nome) {
+    const auto namedWalk = std::ranges::find(namedWalks, nome, &NamedWalk::nome);
+    Options options;
+    options.baseUrl = serverAddress(input.server);
+    options.virtualPrinter = input.folder;
+    options.labelSelection = nome == "selecao";
+    Mesa desk(program, options, printersOf(options));
+    Walk walk(QString::fromStdString(input.folder));
+    walkLogon(walk, input);
+    namedWalk->write(walk, input);
+    walk.when("MDIMenu", "fim", [](QWidget& window) { window.close(); });
+    QObject::connect(&walk, &Walk::finished, [](const QString& reason) {
+        if (!reason.isEmpty()) {
+            std::fprintf(stderr, "tarnroteiro: %s.\n", qPrintable(reason));
             QCoreApplication::exit(1);
         }
     });
-    mesa.menu().resize(larguraDaMesa, alturaDaMesa);
-    mesa.abre();
-    roteiro.comeca();
-    const int status = programa.exec();
-    if (status == 0 && !roteiro.completo()) {
+    desk.menu().resize(deskWidth, deskHeight);
+    desk.open();
+    walk.start();
+    const int status = program.exec();
+    if (status == 0 && !walk.complete()) {
         std::fputs("tarnroteiro: a mesa fechou antes do fim do roteiro.\n", stderr);
         return 1;
     }
@@ -84,31 +83,31 @@ int anda(DeskApplication& programa, const Entrada& entrada, const std::string& n
 }  // namespace tarn
 
 // The off-screen platform complains of what it can't do; only what ends the walk counts.
-static void soFatais(QtMsgType tipo, const QMessageLogContext&, const QString& texto) {
-    if (tipo == QtFatalMsg) {
+static void fatalOnly(QtMsgType kind, const QMessageLogContext&, const QString& texto) {
+    if (kind == QtFatalMsg) {
         std::fprintf(stderr, "tarnroteiro: %s\n", qPrintable(texto));
     }
 }
 
 int main(int argc, char** argv) {
-    qInstallMessageHandler(soFatais);
-    tarn::Entrada entrada;
+    qInstallMessageHandler(fatalOnly);
+    tarn::WalkLogon input;
     CLI::App app("Percorre o trabalho principal nas telas reais e guarda as imagens e o papel.",
                  "tarnroteiro");
-    app.add_option("--servidor", entrada.servidor, "endereço do servidor de treino");
-    app.add_option("--saida", entrada.pasta, "pasta das imagens e do papel")->required();
-    app.add_option("--empresa", entrada.empresa, "empresa do logon de treino");
-    app.add_option("--usuario", entrada.usuario, "usuário do logon de treino");
-    app.add_option("--senha", entrada.senha, "senha do logon de treino");
+    app.add_option("--servidor", input.server, "endereço do servidor de treino");
+    app.add_option("--saida", input.folder, "pasta das imagens e do papel")->required();
+    app.add_option("--empresa", input.company, "empresa do logon de treino");
+    app.add_option("--usuario", input.user, "usuário do logon de treino");
+    app.add_option("--senha", input.password, "senha do logon de treino");
     std::string nome = "dia";
     app.add_option("--roteiro", nome,
                    "dia (usual), recusa (de quem não pode emitir), selecao (de etiquetas) ou "
                    "impressora (a janela da impressora virtual com a nota que já está na pasta)")
         ->check(CLI::IsMember({"dia", "recusa", "selecao", "impressora"}));
     CLI11_PARSE(app, argc, argv);
-    tarn::DeskApplication programa(argc, argv);
+    tarn::DeskApplication program(argc, argv);
     if (nome == "impressora") {
-        return tarn::retrataImpressora(entrada.pasta) ? 0 : 1;
+        return tarn::pictureOfPrinter(input.folder) ? 0 : 1;
     }
-    return tarn::anda(programa, entrada, nome);
+    return tarn::advance(program, input, nome);
 }

@@ -11,126 +11,122 @@ namespace {
 
 // The number of the note that came out last, read off its paper: the first line's
 // columns 125 to 130.
-std::string numeroNoPapel(const std::string& pasta) {
-    const QDir folhas(QString::fromStdString(pasta));
-    const QStringList jobs = folhas.entryList({"job-*.prn"}, QDir::Files, QDir::Name);
-    QFile nota(jobs.isEmpty() ? QString() : folhas.filePath(jobs.last()));
-    if (!nota.open(QIODevice::ReadOnly)) {
+std::string numberOnPaper(const std::string& folder) {
+    const QDir sheets(QString::fromStdString(folder));
+    const QStringList jobs = sheets.entryList({"job-*.prn"}, QDir::Files, QDir::Name);
+    QFile note(jobs.isEmpty() ? QString() : sheets.filePath(jobs.last()));
+    if (!note.open(QIODevice::ReadOnly)) {
         qFatal("a nota não saiu na impressora");
     }
-    return nota.readAll().mid(124, 6).toStdString();
+    return note.readAll().mid(124, 6).toStdString();
 }
 
-void pesquisa(QWidget& tela, const std::string& numero) {
-    escolheNaLista(tela, "cboSerie", 0);
-    digita(tela, "txtNF", numero);
-    clica(tela, "cmdPesquisar");
+void search(QWidget& screen, const std::string& number) {
+    chooseInList(screen, "cboSerie", 0);
+    typeIn(screen, "txtNF", number);
+    click(screen, "cmdPesquisar");
 }
 
 // Rows of the practice data, counted from 0.
-constexpr int primeira = 0;
-constexpr int comObservacao = 5;
-constexpr int semEstoque = 6;
-constexpr int recusada = 7;
-constexpr int cliente = 1;  // column
+constexpr int first = 0;
+constexpr int withObservation = 5;
+constexpr int noStock = 6;
+constexpr int refused = 7;
+constexpr int customer = 1;  // column
 
 }  // namespace
 
-void escreveLogon(Roteiro& roteiro, const Entrada& entrada) {
-    roteiro.quando("FrmLogon", "logon", [&](QWidget& janela) {
-        digita(janela, "txtEmpresa", entrada.empresa);
-        digita(janela, "txtUsuario", entrada.usuario);
-        digita(janela, "txtSenha", entrada.senha);
-        roteiro.fotografa(janela, "logon-preenchido");
-        clica(janela, "btnLogin");
+void walkLogon(Walk& walk, const WalkLogon& input) {
+    walk.when("FrmLogon", "logon", [&](QWidget& window) {
+        typeIn(window, "txtEmpresa", input.company);
+        typeIn(window, "txtUsuario", input.user);
+        typeIn(window, "txtSenha", input.password);
+        walk.photograph(window, "logon-preenchido");
+        click(window, "btnLogin");
     });
 }
 
-void escreveEmissao(Roteiro& roteiro) {
-    roteiro
-        .quando("MDIMenu", "mesa",
-                [&](QWidget& janela) {
-                    abreMenu(janela, "mnuNF");
-                    roteiro.fotografa(filho<QMenu>(janela, "mnuNF"), "menu-nota-fiscal");
-                    escolhe(janela, "mnuNF", "mOFT");
-                })
-        .quando("FrmOFT", "ordens",
-                [](QWidget& tela) {
-                    clicaNaGrade(tela, primeira, cliente);
-                    clica(tela, "cmdDetOFT");
-                })
-        .quando("frmManutDetOFT", "manutencao",
-                [&](QWidget& dialogo) {
-                    digita(dialogo, "txtQtde", "12");
-                    digita(dialogo, "txtPesoBruto", "350,5");
-                    roteiro.fotografa(dialogo, "manutencao-preenchida");
-                    clica(dialogo, "cmdOk");
-                })
-        .quando("FrmOFT", "",
-                [](QWidget& tela) {
-                    clicaNaGrade(tela, primeira, cliente);
-                    clica(tela, "cmdImprimirOF");
-                })
-        .quando("FrmOFT", "",
-                [](QWidget& tela) {
-                    clicaNaGrade(tela, recusada, cliente);
-                    clica(tela, "cmdSelecionar");
-                })
-        .quando("MessageBox", "recusa-do-servidor", aceita)
-        .quando("FrmOFT", "",
-                [](QWidget& tela) {
-                    clicaNaGrade(tela, semEstoque, cliente);
-                    clica(tela, "cmdSelecionar");
-                })
-        .quando("frmMensagemAlerta", "sem-estoque",
-                [](QWidget& dialogo) { clica(dialogo, "cmdVoltar"); })
-        .quando("FrmOFT", "",
-                [](QWidget& tela) {
-                    clicaNaGrade(tela, comObservacao, cliente);
-                    clica(tela, "cmdSelecionar");
-                })
-        .quando("frmMensagemAlerta", "observacao",
-                [](QWidget& dialogo) { clica(dialogo, "cmdOk"); })
-        .quando("FrmOFT", "nota-emitida", [](QWidget& tela) { clica(tela, "CmdFechar"); })
-        .quando("MDIMenu", "", [](QWidget& janela) { clicaNaBarra(janela, "mnuAjuda"); })
-        .quando("frmAjuda", "ajuda", [](QWidget& dialogo) { clica(dialogo, "cmdVoltar"); });
+void walkIssuing(Walk& walk) {
+    walk.when("MDIMenu", "mesa",
+              [&](QWidget& window) {
+                  openMenu(window, "mnuNF");
+                  walk.photograph(child<QMenu>(window, "mnuNF"), "menu-nota-fiscal");
+                  choose(window, "mnuNF", "mOFT");
+              })
+        .when("FrmOFT", "ordens",
+              [](QWidget& screen) {
+                  clickInGrid(screen, first, customer);
+                  click(screen, "cmdDetOFT");
+              })
+        .when("frmManutDetOFT", "manutencao",
+              [&](QWidget& dialog) {
+                  typeIn(dialog, "txtQtde", "12");
+                  typeIn(dialog, "txtPesoBruto", "350,5");
+                  walk.photograph(dialog, "manutencao-preenchida");
+                  click(dialog, "cmdOk");
+              })
+        .when("FrmOFT", "",
+              [](QWidget& screen) {
+                  clickInGrid(screen, first, customer);
+                  click(screen, "cmdImprimirOF");
+              })
+        .when("FrmOFT", "",
+              [](QWidget& screen) {
+                  clickInGrid(screen, refused, customer);
+                  click(screen, "cmdSelecionar");
+              })
+        .when("MessageBox", "recusa-do-servidor", accept)
+        .when("FrmOFT", "",
+              [](QWidget& screen) {
+                  clickInGrid(screen, noStock, customer);
+                  click(screen, "cmdSelecionar");
+              })
+        .when("frmMensagemAlerta", "sem-estoque",
+              [](QWidget& dialog) { click(dialog, "cmdVoltar"); })
+        .when("FrmOFT", "",
+              [](QWidget& screen) {
+                  clickInGrid(screen, withObservation, customer);
+                  click(screen, "cmdSelecionar");
+              })
+        .when("frmMensagemAlerta", "observacao", [](QWidget& dialog) { click(dialog, "cmdOk"); })
+        .when("FrmOFT", "nota-emitida", [](QWidget& screen) { click(screen, "CmdFechar"); })
+        .when("MDIMenu", "", [](QWidget& window) { clickInBar(window, "mnuAjuda"); })
+        .when("frmAjuda", "ajuda", [](QWidget& dialog) { click(dialog, "cmdVoltar"); });
 }
 
-void escreveReimpressao(Roteiro& roteiro, const Entrada& entrada) {
-    roteiro
-        .quando("MDIMenu", "",
-                [](QWidget& janela) {
-                    abreMenu(janela, "mnuNF");
-                    escolhe(janela, "mnuNF", "mRINF");
-                })
-        .quando("FrmReImprimeNF", "reimpressao",
-                [&](QWidget& tela) {
-                    pesquisa(tela, numeroNoPapel(entrada.pasta));
-                    roteiro.fotografa(tela, "reimpressao-preenchida");
-                    clica(tela, "cmdSelecionar");
-                })
-        .quando("FrmReImprimeNF", "", [](QWidget& tela) { clica(tela, "CmdFechar"); });
+void walkReprint(Walk& walk, const WalkLogon& input) {
+    walk.when("MDIMenu", "",
+              [](QWidget& window) {
+                  openMenu(window, "mnuNF");
+                  choose(window, "mnuNF", "mRINF");
+              })
+        .when("FrmReImprimeNF", "reimpressao",
+              [&](QWidget& screen) {
+                  search(screen, numberOnPaper(input.folder));
+                  walk.photograph(screen, "reimpressao-preenchida");
+                  click(screen, "cmdSelecionar");
+              })
+        .when("FrmReImprimeNF", "", [](QWidget& screen) { click(screen, "CmdFechar"); });
 }
 
-void escreveCancelamento(Roteiro& roteiro, const Entrada& entrada) {
-    roteiro
-        .quando("MDIMenu", "",
-                [](QWidget& janela) {
-                    abreMenu(janela, "mnuNF");
-                    escolhe(janela, "mnuNF", "mCNF");
-                })
-        .quando("FrmReImprimeNF", "cancelamento",
-                [&](QWidget& tela) {
-                    pesquisa(tela, numeroNoPapel(entrada.pasta));
-                    assinala(tela, "OptionReimp_1");
-                    escolheNaLista(tela, "CboMot_Can", 1);
-                    roteiro.fotografa(tela, "cancelamento-preenchido");
-                    clica(tela, "cmdSelecionar");
-                })
-        .quando("MessageBox", "nota-cancelada", aceita)
-        .quando("FrmReImprimeNF", "", [](QWidget& tela) { clica(tela, "cmdPesquisar"); })
-        .quando("MessageBox", "nota-nao-encontrada", aceita)
-        .quando("FrmReImprimeNF", "", [](QWidget& tela) { clica(tela, "CmdFechar"); });
+void walkCancellation(Walk& walk, const WalkLogon& input) {
+    walk.when("MDIMenu", "",
+              [](QWidget& window) {
+                  openMenu(window, "mnuNF");
+                  choose(window, "mnuNF", "mCNF");
+              })
+        .when("FrmReImprimeNF", "cancelamento",
+              [&](QWidget& screen) {
+                  search(screen, numberOnPaper(input.folder));
+                  tickOption(screen, "OptionReimp_1");
+                  chooseInList(screen, "CboMot_Can", 1);
+                  walk.photograph(screen, "cancelamento-preenchido");
+                  click(screen, "cmdSelecionar");
+              })
+        .when("MessageBox", "nota-cancelada", accept)
+        .when("FrmReImprimeNF", "", [](QWidget& screen) { click(screen, "cmdPesquisar"); })
+        .when("MessageBox", "nota-nao-encontrada", accept)
+        .when("FrmReImprimeNF", "", [](QWidget& screen) { click(screen, "CmdFechar"); });
 }
 
 }  // namespace tarn

@@ -8,18 +8,18 @@
 
 namespace tarn {
 
-struct Entrada {
-    std::string servidor;
-    std::string pasta;  // of the pictures and of the printed jobs
-    std::string empresa = "1361";
-    std::string usuario = "clara";
-    std::string senha = "pratica";
+struct WalkLogon {
+    std::string server;
+    std::string folder;  // of the pictures and of the printed jobs
+    std::string company = "1361";
+    std::string user = "clara";
+    std::string password = "pratica";
 };
 
-// Each begins and ends at the main window. `entrada` must outlive the walk.
-void escreveLogon(Roteiro& roteiro, const Entrada& entrada);
-void escreveEmissao(Roteiro& roteiro);
-void escreveReimpressao(Roteiro& roteiro, const Entrada& entrada);
-void escreveCancelamento(Roteiro& roteiro, const Entrada& entrada);
+// Each begins and ends at the main window. `input` must outlive the walk.
+void walkLogon(Walk& walk, const WalkLogon& input);
+void walkIssuing(Walk& walk);
+void walkReprint(Walk& walk, const WalkLogon& input);
+void walkCancellation(Walk& walk, const WalkLogon& input);
 
 }  // namespace tarn

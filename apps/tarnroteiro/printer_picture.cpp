@@ -12,46 +12,46 @@ namespace tarn {
 namespace {
 
 constexpr int largura = 1280;
-constexpr int altura = 820;
+constexpr int height = 820;
 
-bool imprime(dotmatrix::PaperRoll& rolo, const QString& arquivo) {
-    QFile trabalho(arquivo);
-    if (!trabalho.open(QIODevice::ReadOnly)) {
+bool print(dotmatrix::PaperRoll& roll, const QString& file) {
+    QFile job(file);
+    if (!job.open(QIODevice::ReadOnly)) {
         std::fprintf(stderr, "tarnroteiro: não há %s; ande primeiro o roteiro do dia.\n",
-                     qPrintable(arquivo));
+                     qPrintable(file));
         return false;
     }
-    rolo.startJob(QFileInfo(arquivo).fileName().toStdString());
-    return !rolo.feed(trabalho.readAll().toStdString());
+    roll.startJob(QFileInfo(file).fileName().toStdString());
+    return !roll.feed(job.readAll().toStdString());
 }
 
 }  // namespace
 
-bool retrataImpressora(const std::string& pasta) {
-    const QDir folhas(QString::fromStdString(pasta));
-    dotmatrix::PaperRoll rolo{dotmatrix::Dialect{}};
-    if (!imprime(rolo, folhas.filePath("job-002.prn")) ||
-        !imprime(rolo, folhas.filePath("job-003.prn"))) {
+bool pictureOfPrinter(const std::string& folder) {
+    const QDir sheets(QString::fromStdString(folder));
+    dotmatrix::PaperRoll roll{dotmatrix::Dialect{}};
+    if (!print(roll, sheets.filePath("job-002.prn")) ||
+        !print(roll, sheets.filePath("job-003.prn"))) {
         return false;
     }
-    const auto formulario = dotmatrix::loadForm("ImprimeNF_1361");
-    if (const auto* erro = std::get_if<QString>(&formulario)) {
-        std::fprintf(stderr, "tarnroteiro: %s\n", qPrintable(*erro));
+    const auto form = dotmatrix::loadForm("ImprimeNF_1361");
+    if (const auto* error = std::get_if<QString>(&form)) {
+        std::fprintf(stderr, "tarnroteiro: %s\n", qPrintable(*error));
         return false;
     }
-    dotmatrix::PaintOptions aparencia;
-    aparencia.bands = true;
-    dotmatrix::lay(std::get<dotmatrix::LoadedForm>(formulario), aparencia);
-    dotmatrix::JobIntake entrada(rolo);
-    dotmatrix::PrinterWindow janela(rolo, entrada, aparencia);
-    janela.setWaitingText(QStringLiteral("Esperando trabalhos em 127.0.0.1:9100"));
-    janela.resize(largura, altura);
-    janela.show();
-    if (!QTest::qWaitForWindowExposed(&janela)) {
+    dotmatrix::PaintOptions look;
+    look.bands = true;
+    dotmatrix::lay(std::get<dotmatrix::LoadedForm>(form), look);
+    dotmatrix::JobIntake input(roll);
+    dotmatrix::PrinterWindow window(roll, input, look);
+    window.setWaitingText(QStringLiteral("Esperando trabalhos em 127.0.0.1:9100"));
+    window.resize(largura, height);
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window)) {
         std::fputs("tarnroteiro: a janela da impressora não abriu.\n", stderr);
         return false;
     }
-    return janela.grab().save(folhas.filePath("impressora-virtual.png"));
+    return window.grab().save(sheets.filePath("impressora-virtual.png"));
 }
 
 }  // namespace tarn

@@ -11,102 +11,102 @@
 namespace tarn {
 namespace {
 
-constexpr int intervaloMs = 20;
-constexpr int maximoDeOlhadas = 60 * 1000 / intervaloMs;  // a minute for each step
+constexpr int intervalMs = 20;
+constexpr int maxLooks = 60 * 1000 / intervalMs;  // a minute for each step
 
 }  // namespace
 
-Roteiro::Roteiro(QString pasta) : pasta_(std::move(pasta)) {
-    relogio_.setInterval(intervaloMs);
-    relogio_.setSingleShot(true);
-    connect(&relogio_, &QTimer::timeout, this, &Roteiro::olha);
+Walk::Walk(QString folder) : folder_(std::move(folder)) {
+    clock_.setInterval(intervalMs);
+    clock_.setSingleShot(true);
+    connect(&clock_, &QTimer::timeout, this, &Walk::look);
 }
 
-Roteiro& Roteiro::quando(const QString& janela, const QString& nome, Passo passo) {
-    passos_.push_back({janela, nome, std::move(passo)});
+Walk& Walk::when(const QString& window, const QString& nome, Step step) {
+    steps_.push_back({window, nome, std::move(step)});
     return *this;
 }
 
-void Roteiro::comeca() {
-    relogio_.start();
+void Walk::start() {
+    clock_.start();
 }
 
-QWidget* Roteiro::naFrente(const QString& nome) const {
+QWidget* Walk::frontWindow(const QString& nome) const {
     QWidget* modal = QApplication::activeModalWidget();
     if (modal != nullptr) {
         return modal->objectName() == nome ? modal : nullptr;
     }
-    for (QWidget* janela : QApplication::topLevelWidgets()) {
-        QWidget* achada = janela->objectName() == nome ? janela : janela->findChild<QWidget*>(nome);
-        if (achada != nullptr && achada->isVisible()) {
-            return achada;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        QWidget* found = window->objectName() == nome ? window : window->findChild<QWidget*>(nome);
+        if (found != nullptr && found->isVisible()) {
+            return found;
         }
     }
     return nullptr;
 }
 
-void Roteiro::olha() {
-    relogio_.start();  // a step may stay in a modal window's loop, in which the next one comes
+void Walk::look() {
+    clock_.start();  // a step may stay in a modal window's loop, in which the next one comes
     // While a request is under way what is clicked is discarded.
     if (QGuiApplication::overrideCursor() != nullptr &&
         QGuiApplication::overrideCursor()->shape() == Qt::WaitCursor) {
         return;
     }
-    if (passos_.empty()) {
-        termina({});
+    if (steps_.empty()) {
+        finish({});
         return;
     }
-    QWidget* janela = naFrente(passos_.front().janela);
-    if (janela == nullptr) {
-        ++olhadas_;
-        const auto* aviso = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (aviso != nullptr) {
-            termina(
-                QStringLiteral("uma caixa que não faz parte do roteiro: %1").arg(aviso->text()));
-        } else if (olhadas_ == maximoDeOlhadas) {
-            termina(QStringLiteral("a janela %1 não abriu").arg(passos_.front().janela));
+    QWidget* window = frontWindow(steps_.front().window);
+    if (window == nullptr) {
+        ++looks_;
+        const auto* notice = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (notice != nullptr) {
+            finish(
+                QStringLiteral("uma caixa que não faz parte do roteiro: %1").arg(notice->text()));
+        } else if (looks_ == maxLooks) {
+            finish(QStringLiteral("a janela %1 não abriu").arg(steps_.front().window));
         }
         return;
     }
     // Off-screen the activation doesn't come back by itself from a window that closed;
     // without it no field is ever left.
-    if (++olhadas_ < maximoDeOlhadas && !janela->isActiveWindow()) {
-        janela->activateWindow();
+    if (++looks_ < maxLooks && !window->isActiveWindow()) {
+        window->activateWindow();
         return;
     }
-    olhadas_ = 0;
-    const Espera espera = std::exchange(passos_.front(), {});
-    passos_.pop_front();
-    if (!espera.nome.isEmpty()) {
-        fotografa(*janela, espera.nome);
+    looks_ = 0;
+    const Wait wait = std::exchange(steps_.front(), {});
+    steps_.pop_front();
+    if (!wait.nome.isEmpty()) {
+        photograph(*window, wait.nome);
     }
-    espera.passo(*janela);
+    wait.step(*window);
 }
 
-void Roteiro::termina(const QString& motivo) {
-    relogio_.stop();
-    emit acabou(motivo);
+void Walk::finish(const QString& reason) {
+    clock_.stop();
+    emit finished(reason);
 }
 
-void Roteiro::fotografa(QWidget& janela, const QString& nome) {
+void Walk::photograph(QWidget& window, const QString& nome) {
     // A dialog is shown over the desk, as the clerk sees it.
-    QWidget* mesa = nullptr;
-    for (QWidget* topo : QApplication::topLevelWidgets()) {
-        mesa = topo->objectName() == QStringLiteral("MDIMenu") ? topo : mesa;
+    QWidget* desk = nullptr;
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+        desk = top->objectName() == QStringLiteral("MDIMenu") ? top : desk;
     }
-    QPixmap foto = mesa == nullptr ? janela.grab() : mesa->grab();
-    if (mesa != nullptr && janela.isWindow() && &janela != mesa) {
-        const QPixmap dialogo = janela.grab();
-        QPainter pintor(&foto);
-        const QPoint lugar((mesa->width() - janela.width()) / 2,
-                           (mesa->height() - janela.height()) / 2);
-        pintor.drawPixmap(lugar, dialogo);
-        pintor.setPen(Qt::darkGray);
-        pintor.drawRect(QRect(lugar, janela.size()).adjusted(-1, -1, 0, 0));
+    QPixmap photo = desk == nullptr ? window.grab() : desk->grab();
+    if (desk != nullptr && window.isWindow() && &window != desk) {
+        const QPixmap dialog = window.grab();
+        QPainter painter(&photo);
+        const QPoint place((desk->width() - window.width()) / 2,
+                           (desk->height() - window.height()) / 2);
+        painter.drawPixmap(place, dialog);
+        painter.setPen(Qt::darkGray);
+        painter.drawRect(QRect(place, window.size()).adjusted(-1, -1, 0, 0));
     }
-    ++fotos_;
-    foto.save(QDir(pasta_).filePath(
-        QStringLiteral("passo-%1-%2.png").arg(fotos_, 2, 10, QLatin1Char('0')).arg(nome)));
+    ++photos_;
+    photo.save(QDir(folder_).filePath(
+        QStringLiteral("passo-%1-%2.png").arg(photos_, 2, 10, QLatin1Char('0')).arg(nome)));
 }
 
 }  // namespace tarn

@@ -10,45 +10,45 @@
 
 namespace tarn {
 
-class Roteiro : public QObject {
+class Walk : public QObject {
     Q_OBJECT
 
 public:
-    // Pictures go to `pasta` as passo-01-NAME.png.
-    explicit Roteiro(QString pasta);
+    // Pictures go to `folder` as passo-01-NAME.png.
+    explicit Walk(QString folder);
 
-    using Passo = std::function<void(QWidget& janela)>;
+    using Step = std::function<void(QWidget& window)>;
     // Waits until the window in front (modal, else a visible one) has this object name,
     // takes its picture under `nome` unless that is empty, and acts. A message box that
     // isn't awaited ends the walk.
-    Roteiro& quando(const QString& janela, const QString& nome, Passo passo);
+    Walk& when(const QString& window, const QString& nome, Step step);
 
     // From now on the steps run in the event loop. A window that doesn't come within the
     // time limit ends the walk.
-    void comeca();
-    bool completo() const { return passos_.empty(); }
+    void start();
+    bool complete() const { return steps_.empty(); }
 
-    void fotografa(QWidget& janela, const QString& nome);
+    void photograph(QWidget& window, const QString& nome);
 
 signals:
-    // `motivo` is empty when every step was taken.
-    void acabou(const QString& motivo);
+    // `reason` is empty when every step was taken.
+    void finished(const QString& reason);
 
 private:
-    struct Espera {
-        QString janela;
+    struct Wait {
+        QString window;
         QString nome;
-        Passo passo;
+        Step step;
     };
-    void olha();
-    void termina(const QString& motivo);
-    QWidget* naFrente(const QString& nome) const;
+    void look();
+    void finish(const QString& reason);
+    QWidget* frontWindow(const QString& nome) const;
 
-    QString pasta_;
-    std::deque<Espera> passos_;
-    QTimer relogio_;
-    int olhadas_ = 0;
-    int fotos_ = 0;
+    QString folder_;
+    std::deque<Wait> steps_;
+    QTimer clock_;
+    int looks_ = 0;
+    int photos_ = 0;
 };
 
 }  // namespace tarn

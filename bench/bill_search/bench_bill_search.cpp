@@ -67,7 +67,7 @@ public:
         QCoreApplication::processEvents();  // paints it
     }
     void tickAll() {
-        rows_->alternaPelaUltima();
+        rows_->toggleByLastRow();
         QCoreApplication::processEvents();
     }
 
@@ -75,12 +75,12 @@ private:
     tarn::TestEnvironment seams_;
     tarn::Environment environment_;
     tarn::Sessao session_;
-    tarn::FimDoPrograma end_;
+    tarn::ProgramEnd end_;
     tarn::DeskContext desk_{environment_, session_, end_};
     tarn::FrmPesqDupli screen_{desk_, nullptr};
     QAbstractButton* search_ = screen_.findChild<QAbstractButton*>("cmdPesquisar");
-    tarn::GradeModel* rows_ =
-        static_cast<tarn::GradeModel*>(screen_.findChild<QTableView*>("sprDados")->model());
+    tarn::GridModel* rows_ =
+        static_cast<tarn::GridModel*>(screen_.findChild<QTableView*>("sprDados")->model());
 };
 
 std::map<int, std::vector<double>> filled;

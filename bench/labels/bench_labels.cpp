@@ -27,7 +27,7 @@ namespace {
 using tarn::bench::leastOf;
 using tarn::bench::ratioOf;
 using tarn::bench::secondsOf;
-using tarn::labels::Formulario;
+using tarn::labels::LabelForm;
 
 constexpr int small = 10;
 constexpr int large = 10000;
@@ -100,17 +100,17 @@ std::string customersOf(int count) {
     return rows;
 }
 
-tarn::labels::Impressao runOf(int count) {
+tarn::labels::PrintRun runOf(int count) {
     const tarn::XmlDocument sender = parsed(
         "<z:row NOME='DISTRIBUIDORA SÃO JORGE LTDA' ENDERECO='AV. DAS NAÇÕES' BAIRRO='CENTRO' "
         "MUNICIPIO='SÃO PAULO' UF='SP' CEP='01310-000' DESCRICAO='LOJA' NUMERO='2000'/>");
-    return {parsed(labelsOf(count)), tarn::labels::leRemetente(sender)};
+    return {parsed(labelsOf(count)), tarn::labels::readSender(sender)};
 }
 
-std::vector<tarn::LinhaGrade> tickedOf(int count) {
-    std::vector<tarn::LinhaGrade> rows = tarn::labels::clientesDa(parsed(customersOf(count)));
-    for (tarn::LinhaGrade& row : rows) {
-        row.marcada = true;
+std::vector<tarn::GridRow> tickedOf(int count) {
+    std::vector<tarn::GridRow> rows = tarn::labels::customersOf(parsed(customersOf(count)));
+    for (tarn::GridRow& row : rows) {
+        row.ticked = true;
     }
     return rows;
 }
@@ -121,11 +121,11 @@ struct Times {
     std::vector<double> largeRun;
 };
 
-constexpr std::array<std::pair<const char*, Formulario>, 4> forms{
-    {{"form 1, drawn 3 by 10", Formulario::Pimaco6280},
-     {"form 2, raw 4 across", Formulario::Matricial},
-     {"form 3, drawn A5", Formulario::A5},
-     {"form 4, drawn with sender", Formulario::A4ComRemetente}}};
+constexpr std::array<std::pair<const char*, LabelForm>, 4> forms{
+    {{"form 1, drawn 3 by 10", LabelForm::Pimaco6280},
+     {"form 2, raw 4 across", LabelForm::DotMatrix},
+     {"form 3, drawn A5", LabelForm::A5},
+     {"form 4, drawn with sender", LabelForm::A4WithSender}}};
 constexpr const char* selection = "selection, drawn 2 across";
 
 std::map<std::string, Times>& measured() {
@@ -156,21 +156,21 @@ void labels(benchmark::State& state) {
                                   .clock = seams.clock,
                                   .machine = seams.machine,
                                   .baseUrl = {}};
-    const tarn::labels::Impressao few = runOf(small);
-    const tarn::labels::Impressao many = runOf(large);
-    const std::vector<tarn::LinhaGrade> fewTicked = tickedOf(small);
-    const std::vector<tarn::LinhaGrade> manyTicked = tickedOf(large);
+    const tarn::labels::PrintRun few = runOf(small);
+    const tarn::labels::PrintRun many = runOf(large);
+    const std::vector<tarn::GridRow> fewTicked = tickedOf(small);
+    const std::vector<tarn::GridRow> manyTicked = tickedOf(large);
     while (state.KeepRunning()) {
         for (const auto& [name, form] : forms) {
-            const auto print = [&environment, form = form](const tarn::labels::Impressao& run) {
-                tarn::labels::imprimeEtiquetas(environment, form, run, {});
+            const auto print = [&environment, form = form](const tarn::labels::PrintRun& run) {
+                tarn::labels::printLabels(environment, form, run, {});
             };
             measure(
                 name, [&] { print(few); }, [&] { print(many); });
         }
         measure(
-            selection, [&] { tarn::labels::imprimeSelecao(environment, fewTicked, {}); },
-            [&] { tarn::labels::imprimeSelecao(environment, manyTicked, {}); });
+            selection, [&] { tarn::labels::printSelection(environment, fewTicked, {}); },
+            [&] { tarn::labels::printSelection(environment, manyTicked, {}); });
     }
 }
 BENCHMARK(labels)->Iterations(31)->Unit(benchmark::kMillisecond);

@@ -214,7 +214,7 @@ double ratioOfForm(const LadderForm& form, const std::string& xml) {
         times.whole.push_back(secondsOf([&] {
             tarn::XmlDocument document;
             document.loadXML(xml);
-            tarn::imprimeNota(tarn::Escada::Reimpressao, environment, session, document, "4567");
+            tarn::printNote(tarn::Ladder::Reprint, environment, session, document, "4567");
         }));
     }
     return ratioOf(times.whole, times.bare);

@@ -60,7 +60,7 @@ private:
     tarn::TestEnvironment seams_;
     tarn::Environment environment_;
     tarn::Sessao session_;
-    tarn::FimDoPrograma end_;
+    tarn::ProgramEnd end_;
     tarn::DeskContext desk_{environment_, session_, end_};
     tarn::FrmOFT screen_{desk_};
 };

@@ -7,12 +7,12 @@ int main(int argc, char** argv) {
     if (argc != 2) {
         return 1;
     }
-    tarn::Opcoes options;
+    tarn::Options options;
     options.baseUrl = argv[1];
-    auto printers = tarn::impressorasDe(options);
+    auto printers = tarn::printersOf(options);
     tarn::DeskApplication program(argc, argv);
     const tarn::bench::EndAtPaint end(QStringLiteral("FrmLogon"));
     tarn::Mesa desk(program, options, std::move(printers));
-    desk.abre();
+    desk.open();
     return tarn::DeskApplication::exec() + 1;  // it should have ended at the paint
 }

@@ -5,14 +5,14 @@ namespace tarn {
 
 // How frmMensagemAlerta shows itself: an observation to confirm (cmdOk and
 // cmdCancelar), or a stock notice with nothing to decide (cmdVoltar alone).
-enum class ModoAlerta { Confirma, SemSaldo };
+enum class AlertMode { Confirm, OutOfStock };
 
-class AlertaDialogo {
+class AlertDialog {
 public:
-    virtual ~AlertaDialogo() = default;
+    virtual ~AlertDialog() = default;
     // Shows Sessao::TextoMensagem and returns when the dialog has closed;
     // Sessao::ConfirmaMensagem is then "S", "N" or as the caller left it.
-    virtual void mostra(ModoAlerta modo) = 0;
+    virtual void show(AlertMode mode) = 0;
 };
 
 }  // namespace tarn

@@ -14,88 +14,88 @@
 namespace tarn {
 namespace {
 
-constexpr int maximoObservacao = 500;
+constexpr int maxObservation = 500;
 // Widths and heights in characters and lines.
-constexpr int larguraCampo = 40;
-constexpr int larguraNumero = 15;
-constexpr int linhasObservacao = 7;  // all of its characters
+constexpr int fieldWidth = 40;
+constexpr int numberWidth = 15;
+constexpr int observationLines = 7;  // all of its characters
 
 // A number that the server holds is shown whole, also where it couldn't be typed.
-void mostraNumero(QLineEdit& campo, const std::string& texto) {
-    campo.setMaxLength(std::max(campo.maxLength(), static_cast<int>(texto.size())));
-    campo.setText(QString::fromStdString(texto));
+void showNumber(QLineEdit& field, const std::string& texto) {
+    field.setMaxLength(std::max(field.maxLength(), static_cast<int>(texto.size())));
+    field.setText(QString::fromStdString(texto));
 }
 
 }  // namespace
 
-frmManutDetOFT::frmManutDetOFT(DeskContext& desk, const OrdemFaturamento& ordem, QWidget* parent)
+frmManutDetOFT::frmManutDetOFT(DeskContext& desk, const BillingOrder& ordem, QWidget* parent)
     : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::frmManutDetOFT>()) {
     ui_->setupUi(this);
-    preparaCampos();
-    preparaBotoes();
-    carrega(ordem);
+    prepareFields();
+    prepareButtons();
+    load(ordem);
     ui_->txtObs->setFocus();
 }
 
 frmManutDetOFT::~frmManutDetOFT() = default;
 
-void frmManutDetOFT::preparaCampos() {
-    const int caractere = fontMetrics().averageCharWidth();
-    QPalette paraLeitura = palette();
-    paraLeitura.setColor(QPalette::Base, paraLeitura.color(QPalette::Window));
-    for (QLineEdit* campo : findChildren<QLineEdit*>()) {
-        campo->setMinimumWidth(caractere * larguraCampo);
-        if (campo->isReadOnly()) {
-            campo->setPalette(paraLeitura);
+void frmManutDetOFT::prepareFields() {
+    const int character = fontMetrics().averageCharWidth();
+    QPalette forReading = palette();
+    forReading.setColor(QPalette::Base, forReading.color(QPalette::Window));
+    for (QLineEdit* field : findChildren<QLineEdit*>()) {
+        field->setMinimumWidth(character * fieldWidth);
+        if (field->isReadOnly()) {
+            field->setPalette(forReading);
         }
     }
-    for (QLineEdit* campo : {ui_->txtQtde, ui_->txtPesoBruto, ui_->txtPesoLiquido}) {
-        campo->setMinimumWidth(caractere * larguraNumero);
+    for (QLineEdit* field : {ui_->txtQtde, ui_->txtPesoBruto, ui_->txtPesoLiquido}) {
+        field->setMinimumWidth(character * numberWidth);
     }
-    new QuantityField(ui_->txtQtde, messagesQtde, desk_.ambiente);
-    new QuantityField(ui_->txtPesoBruto, messagesPesoBruto, desk_.ambiente);
-    new QuantityField(ui_->txtPesoLiquido, messagesPesoLiquido, desk_.ambiente);
-    ui_->txtObs->setMaxLength(maximoObservacao);
-    ui_->txtObs->setVisibleLines(linhasObservacao);
+    new QuantityField(ui_->txtQtde, messagesQtde, desk_.environment);
+    new QuantityField(ui_->txtPesoBruto, grossWeightMessages, desk_.environment);
+    new QuantityField(ui_->txtPesoLiquido, netWeightMessages, desk_.environment);
+    ui_->txtObs->setMaxLength(maxObservation);
+    ui_->txtObs->setVisibleLines(observationLines);
 }
 
-void frmManutDetOFT::preparaBotoes() {
-    const int lado = fontMetrics().height() * 2;
-    ui_->cmdOk->setIcon(figura(QStringLiteral("save")));
-    ui_->cmdCancelar->setIcon(figura(QStringLiteral("give_up")));
-    for (QPushButton* botao : {ui_->cmdOk, ui_->cmdCancelar}) {
-        botao->setIconSize({lado, lado});
+void frmManutDetOFT::prepareButtons() {
+    const int side = fontMetrics().height() * 2;
+    ui_->cmdOk->setIcon(picture(QStringLiteral("save")));
+    ui_->cmdCancelar->setIcon(picture(QStringLiteral("give_up")));
+    for (QPushButton* button : {ui_->cmdOk, ui_->cmdCancelar}) {
+        button->setIconSize({side, side});
     }
     connect(ui_->cmdOk, &QPushButton::clicked, this, &frmManutDetOFT::cmdOk_Click);
     connect(ui_->cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-void frmManutDetOFT::carrega(const OrdemFaturamento& ordem) {
-    const auto& celulas = ordem.celulas;
-    const std::array<QLineEdit*, 8> paraLeitura{ui_->txtOrdFat, ui_->txtCliente,   ui_->txtEstab,
-                                                ui_->txtTpNF,   ui_->txtDtEmissao, ui_->txtOrdCarga,
-                                                ui_->txtTransp, ui_->txtMotorista};
-    for (std::size_t i = 0; i < paraLeitura.size(); ++i) {
-        const QString texto = QString::fromStdString(celulas[i]);
-        paraLeitura[i]->setText(texto);
-        paraLeitura[i]->setCursorPosition(0);
+void frmManutDetOFT::load(const BillingOrder& ordem) {
+    const auto& cells = ordem.cells;
+    const std::array<QLineEdit*, 8> forReading{ui_->txtOrdFat, ui_->txtCliente,   ui_->txtEstab,
+                                               ui_->txtTpNF,   ui_->txtDtEmissao, ui_->txtOrdCarga,
+                                               ui_->txtTransp, ui_->txtMotorista};
+    for (std::size_t i = 0; i < forReading.size(); ++i) {
+        const QString texto = QString::fromStdString(cells[i]);
+        forReading[i]->setText(texto);
+        forReading[i]->setCursorPosition(0);
         if (!texto.isEmpty()) {  // whole, where the field is short
-            paraLeitura[i]->setToolTip(Qt::convertFromPlainText(texto, Qt::WhiteSpaceNormal));
+            forReading[i]->setToolTip(Qt::convertFromPlainText(texto, Qt::WhiteSpaceNormal));
         }
     }
-    ui_->txtObs->loadText(celulas[8]);
-    mostraNumero(*ui_->txtQtde, celulas[9]);
-    mostraNumero(*ui_->txtPesoBruto, celulas[10]);
-    mostraNumero(*ui_->txtPesoLiquido, celulas[11]);
+    ui_->txtObs->loadText(cells[8]);
+    showNumber(*ui_->txtQtde, cells[9]);
+    showNumber(*ui_->txtPesoBruto, cells[10]);
+    showNumber(*ui_->txtPesoLiquido, cells[11]);
 }
 
-QLineEdit& frmManutDetOFT::campo(CampoDaOrdem qual) const {
-    switch (qual) {
-        case CampoDaOrdem::PesoBruto:
+QLineEdit& frmManutDetOFT::field(OrderField which) const {
+    switch (which) {
+        case OrderField::GrossWeight:
             return *ui_->txtPesoBruto;
-        case CampoDaOrdem::PesoLiquido:
+        case OrderField::NetWeight:
             return *ui_->txtPesoLiquido;
-        case CampoDaOrdem::Quantidade:
+        case OrderField::Quantity:
             break;
     }
     return *ui_->txtQtde;
@@ -103,28 +103,28 @@ QLineEdit& frmManutDetOFT::campo(CampoDaOrdem qual) const {
 
 void frmManutDetOFT::cmdOk_Click() {
     const std::string ordem = ui_->txtOrdFat->text().toStdString();
-    const std::string observacao = ui_->txtObs->text();
-    const std::string quantidade = ui_->txtQtde->text().toStdString();
-    const std::string pesoBruto = ui_->txtPesoBruto->text().toStdString();
-    const std::string pesoLiquido = ui_->txtPesoLiquido->text().toStdString();
-    const comando::DadosOrdem dados{.ordem = ordem,
-                                    .observacao = observacao,
-                                    .quantidade = quantidade,
-                                    .pesoBruto = pesoBruto,
-                                    .pesoLiquido = pesoLiquido};
-    if (const auto recusa = recusaDosDados(dados)) {
-        desk_.ambiente.boxes.show({std::string(recusa->texto), BoxIcon::Information, "Atenção"});
-        campo(recusa->campo).setFocus();
+    const std::string observation = ui_->txtObs->text();
+    const std::string quantity = ui_->txtQtde->text().toStdString();
+    const std::string grossWeight = ui_->txtPesoBruto->text().toStdString();
+    const std::string netWeight = ui_->txtPesoLiquido->text().toStdString();
+    const commands::OrderData data{.ordem = ordem,
+                                   .observation = observation,
+                                   .quantity = quantity,
+                                   .grossWeight = grossWeight,
+                                   .netWeight = netWeight};
+    if (const auto refuse = dataRefusal(data)) {
+        desk_.environment.boxes.show({std::string(refuse->texto), BoxIcon::Information, "Atenção"});
+        field(refuse->field).setFocus();
         return;
     }
-    if (gravaOrdem(desk_.ambiente, desk_.sessao, dados)) {
-        emit gravou();
+    if (saveOrder(desk_.environment, desk_.session, data)) {
+        emit savedIt();
         accept();
     }
 }
 
 void frmManutDetOFT::keyPressEvent(QKeyEvent* event) {
-    if (!enterNoBotao(*this, *event)) {
+    if (!enterPressesButton(*this, *event)) {
         QDialog::keyPressEvent(event);
     }
 }

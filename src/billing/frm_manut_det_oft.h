@@ -16,28 +16,28 @@ class frmManutDetOFT;
 
 namespace tarn {
 
-enum class CampoDaOrdem;
+enum class OrderField;
 
 class frmManutDetOFT : public QDialog {
     Q_OBJECT
 
 public:
     // Shows the order's cells as they are now; what becomes of the list is not followed.
-    frmManutDetOFT(DeskContext& desk, const OrdemFaturamento& ordem, QWidget* parent);
+    frmManutDetOFT(DeskContext& desk, const BillingOrder& ordem, QWidget* parent);
     ~frmManutDetOFT() override;
 
 signals:
     // The write was sent: the list must be read again. Comes before the dialog closes.
-    void gravou();
+    void savedIt();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void preparaCampos();
-    void preparaBotoes();
-    void carrega(const OrdemFaturamento& ordem);
-    QLineEdit& campo(CampoDaOrdem qual) const;
+    void prepareFields();
+    void prepareButtons();
+    void load(const BillingOrder& ordem);
+    QLineEdit& field(OrderField which) const;
 
     void cmdOk_Click();
 

@@ -17,25 +17,25 @@ class frmMensagemAlerta : public QDialog {
     Q_OBJECT
 
 public:
-    frmMensagemAlerta(Sessao& sessao, ModoAlerta modo, QWidget* parent);
+    frmMensagemAlerta(Sessao& session, AlertMode mode, QWidget* parent);
     ~frmMensagemAlerta() override;
 
 private:
-    void responde(const char* resposta);
+    void respond(const char* answer);
 
-    Sessao& sessao_;
+    Sessao& session_;
     std::unique_ptr<Ui::frmMensagemAlerta> ui_;
 };
 
 // The dialog as the billing flows see it, in front of a screen.
-class AlertaNaTela : public AlertaDialogo {
+class ScreenAlert : public AlertDialog {
 public:
-    AlertaNaTela(Sessao& sessao, QWidget* tela) : sessao_(sessao), tela_(tela) {}
-    void mostra(ModoAlerta modo) override;
+    ScreenAlert(Sessao& session, QWidget* screen) : session_(session), screen_(screen) {}
+    void show(AlertMode mode) override;
 
 private:
-    Sessao& sessao_;
-    QWidget* tela_;
+    Sessao& session_;
+    QWidget* screen_;
 };
 
 }  // namespace tarn

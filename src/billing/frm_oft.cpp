@@ -23,14 +23,14 @@
 namespace tarn {
 namespace {
 
-constexpr int intervaloMs = 60000;
+constexpr int intervalMs = 60000;
 // Widths of the grid's columns in characters.
-constexpr std::array<int, 12> larguras{12, 34, 19, 18, 14, 13, 24, 24, 26, 17, 17, 17};
-constexpr int colunasComTitulo = 8;
-constexpr int linhasVisiveis = 18;
+constexpr std::array<int, 12> widths{12, 34, 19, 18, 14, 13, 24, 24, 26, 17, 17, 17};
+constexpr int columnsWithTitle = 8;
+constexpr int visibleLines = 18;
 
 // What follows a click or a key without the user having looked again.
-bool repeteOGesto(const QEvent& event) {
+bool isRepeatedGesture(const QEvent& event) {
     return event.type() == QEvent::MouseButtonDblClick ||
            (event.type() == QEvent::KeyPress &&
             static_cast<const QKeyEvent&>(event).isAutoRepeat());
@@ -41,70 +41,70 @@ bool repeteOGesto(const QEvent& event) {
 FrmOFT::FrmOFT(DeskContext& desk)
     : desk_(desk),
       ui_(std::make_unique<Ui::FrmOFT>()),
-      ordens_(new OrdensModel(this)),
+      orders_(new OrderModel(this)),
       timer_(new QTimer(this)) {
     ui_->setupUi(this);
-    preparaGrade();
-    preparaBotoes();
+    prepareGrid();
+    prepareButtons();
     timer_->setObjectName(QStringLiteral("Timer"));
-    timer_->setInterval(intervaloMs);
+    timer_->setInterval(intervalMs);
     connect(timer_, &QTimer::timeout, this, &FrmOFT::Timer_Tick);
     ui_->cmdSelecionar->installEventFilter(this);
 }
 
 FrmOFT::~FrmOFT() = default;
 
-void FrmOFT::preparaGrade() {
-    QTableView& grade = *ui_->sprDados;
-    grade.setModel(ordens_);
-    const int caractere = grade.fontMetrics().averageCharWidth();
-    for (int coluna = 0; coluna < ordens_->columnCount(); ++coluna) {
-        grade.setColumnWidth(coluna, larguras.at(static_cast<std::size_t>(coluna)) * caractere);
+void FrmOFT::prepareGrid() {
+    QTableView& grid = *ui_->sprDados;
+    grid.setModel(orders_);
+    const int character = grid.fontMetrics().averageCharWidth();
+    for (int coluna = 0; coluna < orders_->columnCount(); ++coluna) {
+        grid.setColumnWidth(coluna, widths.at(static_cast<std::size_t>(coluna)) * character);
     }
-    grade.horizontalHeader()->setHighlightSections(false);
-    grade.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    grade.verticalHeader()->setDefaultSectionSize(grade.fontMetrics().height() * 3 / 2);
+    grid.horizontalHeader()->setHighlightSections(false);
+    grid.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    grid.verticalHeader()->setDefaultSectionSize(grid.fontMetrics().height() * 3 / 2);
 }
 
-void FrmOFT::preparaBotoes() {
-    const int lado = fontMetrics().height() * 2;
-    const auto prepara = [this, lado](QPushButton* botao, const char* desenho, auto rotina) {
-        botao->setIcon(figura(QLatin1StringView(desenho)));
-        botao->setIconSize({lado, lado});
-        connect(botao, &QPushButton::clicked, this, rotina);
+void FrmOFT::prepareButtons() {
+    const int side = fontMetrics().height() * 2;
+    const auto prepare = [this, side](QPushButton* button, const char* pictureName, auto routine) {
+        button->setIcon(picture(QLatin1StringView(pictureName)));
+        button->setIconSize({side, side});
+        connect(button, &QPushButton::clicked, this, routine);
     };
-    prepara(ui_->cmdSelecionar, "generate_note", &FrmOFT::cmdSelecionar_Click);
-    prepara(ui_->CmdFechar, "close", &FrmOFT::CmdFechar_Click);
-    prepara(ui_->CmdAtualizar, "refresh", &FrmOFT::loadSpread);
-    prepara(ui_->CmdCanOft, "cancel_order", &FrmOFT::CmdCanOft_Click);
-    prepara(ui_->cmdImprimirOF, "print_order", &FrmOFT::cmdImprimirOF_Click);
-    prepara(ui_->cmdDetOFT, "edit_order", &FrmOFT::cmdDetOFT_Click);
+    prepare(ui_->cmdSelecionar, "generate_note", &FrmOFT::cmdSelecionar_Click);
+    prepare(ui_->CmdFechar, "close", &FrmOFT::CmdFechar_Click);
+    prepare(ui_->CmdAtualizar, "refresh", &FrmOFT::loadSpread);
+    prepare(ui_->CmdCanOft, "cancel_order", &FrmOFT::CmdCanOft_Click);
+    prepare(ui_->cmdImprimirOF, "print_order", &FrmOFT::cmdImprimirOF_Click);
+    prepare(ui_->cmdDetOFT, "edit_order", &FrmOFT::cmdDetOFT_Click);
 }
 
 // Wide enough for the columns that have a heading.
 QSize FrmOFT::sizeHint() const {
-    const QTableView& grade = *ui_->sprDados;
-    int largura = grade.verticalHeader()->sizeHint().width() + 2 * grade.frameWidth() +
-                  grade.verticalScrollBar()->sizeHint().width();
-    for (int coluna = 0; coluna < colunasComTitulo; ++coluna) {
-        largura += grade.columnWidth(coluna);
+    const QTableView& grid = *ui_->sprDados;
+    int largura = grid.verticalHeader()->sizeHint().width() + 2 * grid.frameWidth() +
+                  grid.verticalScrollBar()->sizeHint().width();
+    for (int coluna = 0; coluna < columnsWithTitle; ++coluna) {
+        largura += grid.columnWidth(coluna);
     }
-    const int altura = grade.verticalHeader()->defaultSectionSize() * linhasVisiveis;
-    return QWidget::sizeHint() - grade.sizeHint() + QSize(largura, altura);
+    const int height = grid.verticalHeader()->defaultSectionSize() * visibleLines;
+    return QWidget::sizeHint() - grid.sizeHint() + QSize(largura, height);
 }
 
-void FrmOFT::carrega() {
+void FrmOFT::load() {
     const WaitCursor hourglass;
-    emit carregou();
+    emit loadedIt();
     timer_->start();
     loadSpread();
     ui_->sprDados->setFocus();
 }
 
 void FrmOFT::loadSpread() {
-    ordens_->mostra({});
-    ordens_->mostra(carregaOrdens(desk_.ambiente, desk_.sessao));
-    ui_->sprDados->setCurrentIndex(ordens_->index(0, 0));
+    orders_->show({});
+    orders_->show(loadOrders(desk_.environment, desk_.session));
+    ui_->sprDados->setCurrentIndex(orders_->index(0, 0));
 }
 
 // A tick that comes while the one before still shows its box is dropped, so that boxes
@@ -113,76 +113,77 @@ void FrmOFT::Timer_Tick() {
     if (noTick_) {
         return;
     }
-    const QScopedValueRollback<bool> guarda(noTick_, true);
+    const QScopedValueRollback<bool> keep(noTick_, true);
     loadSpread();
 }
 
-std::optional<OrdemFaturamento> FrmOFT::ordemSelecionada() {
-    if (ordens_->rowCount() == 0) {
-        desk_.ambiente.boxes.show(
+std::optional<BillingOrder> FrmOFT::selectedOrder() {
+    if (orders_->rowCount() == 0) {
+        desk_.environment.boxes.show(
             {"Selecione a ordem de faturamento.     ", BoxIcon::Exclamation, "Aviso"});
         return std::nullopt;
     }
-    const QModelIndex ativa = ui_->sprDados->currentIndex();
-    return ordens_->ordem(ativa.isValid() ? ativa.row() : 0);
+    const QModelIndex activate = ui_->sprDados->currentIndex();
+    return orders_->ordem(activate.isValid() ? activate.row() : 0);
 }
 
-bool FrmOFT::observacoesAceitas(const OrdemFaturamento& ordem) {
-    AlertaNaTela alerta(desk_.sessao, this);
+bool FrmOFT::observationsAccepted(const BillingOrder& ordem) {
+    ScreenAlert alert(desk_.session, this);
     bool continua = false;
-    Seleciona_Obs_Vnd_X_Ord(desk_.ambiente, desk_.sessao, alerta, ordem.ordem(), continua);
+    Seleciona_Obs_Vnd_X_Ord(desk_.environment, desk_.session, alert, ordem.ordem(), continua);
     return continua;
 }
 
 void FrmOFT::cmdSelecionar_Click() {
     timer_->stop();
-    const auto ordem = ordemSelecionada();
+    const auto ordem = selectedOrder();
     if (!ordem) {
         return;
     }
-    AlertaNaTela alerta(desk_.sessao, this);
-    if (geraNota(desk_.ambiente, desk_.sessao, alerta, ordem->ordem()) == FimDaGeracao::Completa) {
+    ScreenAlert alert(desk_.session, this);
+    if (generateNote(desk_.environment, desk_.session, alert, ordem->ordem()) ==
+        GenerationEnd::Finished) {
         loadSpread();
         timer_->start();
     }
 }
 
 void FrmOFT::CmdCanOft_Click() {
-    const auto ordem = ordemSelecionada();
-    if (ordem && cancelaOrdem(desk_.ambiente, desk_.sessao, *ordem)) {
+    const auto ordem = selectedOrder();
+    if (ordem && cancelOrder(desk_.environment, desk_.session, *ordem)) {
         loadSpread();
     }
 }
 
 void FrmOFT::cmdImprimirOF_Click() {
-    const auto ordem = ordemSelecionada();
-    if (ordem && observacoesAceitas(*ordem)) {
-        imprimeOrdemSelecionada(desk_.ambiente, desk_.sessao, ordem->ordem());
+    const auto ordem = selectedOrder();
+    if (ordem && observationsAccepted(*ordem)) {
+        printSelectedOrder(desk_.environment, desk_.session, ordem->ordem());
     }
 }
 
 void FrmOFT::cmdDetOFT_Click() {
-    const auto ordem = ordemSelecionada();
-    if (!ordem || !observacoesAceitas(*ordem)) {
+    const auto ordem = selectedOrder();
+    if (!ordem || !observationsAccepted(*ordem)) {
         return;
     }
     // The list may have been renewed under the observation: the row that is active now
     // is the one that opens.
-    const auto ativa = ordemSelecionada();
-    if (!ativa) {
+    const auto activate = selectedOrder();
+    if (!activate) {
         return;
     }
-    frmManutDetOFT dialogo(desk_, *ativa, this);
-    connect(&dialogo, &frmManutDetOFT::gravou, this, [this] {
+    frmManutDetOFT dialog(desk_, *activate, this);
+    connect(&dialog, &frmManutDetOFT::savedIt, this, [this] {
         loadSpread();
         timer_->start();
     });
-    dialogo.exec();
+    dialog.exec();
 }
 
 void FrmOFT::CmdFechar_Click() {
-    if (auto* janela = qobject_cast<QMdiSubWindow*>(parentWidget())) {
-        janela->close();
+    if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget())) {
+        window->close();
     } else {
         close();
     }
@@ -191,7 +192,7 @@ void FrmOFT::CmdFechar_Click() {
 // After a note the next order is the selected one: the second click of a double click
 // and a key held down would generate its note too.
 bool FrmOFT::eventFilter(QObject* /*watched*/, QEvent* event) {
-    return repeteOGesto(*event);
+    return isRepeatedGesture(*event);
 }
 
 // No shortcut: that would also be taken from a dialog that is just opening over this
@@ -206,7 +207,7 @@ void FrmOFT::keyPressEvent(QKeyEvent* event) {
 
 void FrmOFT::closeEvent(QCloseEvent* event) {
     timer_->stop();
-    emit fechou();
+    emit closed();
     event->accept();
 }
 

@@ -17,7 +17,7 @@ class FrmOFT;
 
 namespace tarn {
 
-class OrdensModel;
+class OrderModel;
 
 class FrmOFT : public QWidget {
     Q_OBJECT
@@ -27,15 +27,15 @@ public:
     ~FrmOFT() override;
 
     // On opening: the desk's menus are disabled (carregou), the list is read.
-    void carrega();
+    void load();
     // Reads the list anew; selection and scroll position are lost.
     void loadSpread();
 
     QSize sizeHint() const override;
 
 signals:
-    void carregou();
-    void fechou();
+    void loadedIt();
+    void closed();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -43,11 +43,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void preparaGrade();
-    void preparaBotoes();
+    void prepareGrid();
+    void prepareButtons();
     // The active row, the first one when none is; with an empty grid tells the user.
-    std::optional<OrdemFaturamento> ordemSelecionada();
-    bool observacoesAceitas(const OrdemFaturamento& ordem);
+    std::optional<BillingOrder> selectedOrder();
+    bool observationsAccepted(const BillingOrder& ordem);
 
     void Timer_Tick();
     void cmdSelecionar_Click();
@@ -58,7 +58,7 @@ private:
 
     DeskContext& desk_;
     std::unique_ptr<Ui::FrmOFT> ui_;
-    OrdensModel* ordens_;
+    OrderModel* orders_;
     QTimer* timer_;
     bool noTick_ = false;
 };

@@ -12,76 +12,80 @@ namespace tarn {
 namespace {
 
 // The one customer whose notes come out of the reprint screen alone.
-constexpr std::int32_t empresaSemNumero = 2161;
-constexpr std::int32_t estabelecimentoSemNumero = 3383;
+constexpr std::int32_t companyNotANumber = 2161;
+constexpr std::int32_t establishmentNotANumber = 3383;
 
-bool avisosAceitos(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
-                   const std::string& ordem) {
+bool acceptedNotices(Environment& environment, Sessao& session, AlertDialog& alert,
+                     const std::string& ordem) {
     bool continua = false;
-    Seleciona_Obs_Vnd_X_Ord(ambiente, sessao, alerta, ordem, continua);
+    Seleciona_Obs_Vnd_X_Ord(environment, session, alert, ordem, continua);
     if (continua) {
-        Seleciona_Obs_Ord_X_Est(ambiente, sessao, alerta, ordem, continua);
+        Seleciona_Obs_Ord_X_Est(environment, session, alert, ordem, continua);
     }
     return continua;
 }
 
 // The value of a child of the root, found by its place alone.
-std::string valorPorPosicao(const XmlDocument& documento, std::size_t indice) {
+std::string valueByPosition(const XmlDocument& documento, std::size_t indice) {
     return std::string(documento.documentElement().child(indice).attributes().item(0).text());
 }
 
-FimDaGeracao imprimeGerada(Environment& ambiente, const Sessao& sessao, const std::string& nota,
-                           const std::string& serie, const PassoImpressao& imprime) {
+GenerationEnd printGenerated(Environment& environment, const Sessao& session,
+                             const std::string& note, const std::string& series,
+                             const PrintStep& print) {
     XmlDocument documento;
-    if (!pede(ambiente, comando::sel_gera_nf(sessao, nota, serie), documento, falha::Tarn0005)) {
-        exclama(ambiente,
-                "Houve um problema na transferência dos dados da Nota Fiscal nº " + nota +
-                    ". Utilize a tela de Reimpressão de Nota Fiscal.",
-                "Aviso");
-        return FimDaGeracao::Completa;
+    if (!requestAnswer(environment, commands::sel_gera_nf(session, note, series), documento,
+                       failure::Tarn0005)) {
+        warn(environment,
+             "Houve um problema na transferência dos dados da Nota Fiscal nº " + note +
+                 ". Utilize a tela de Reimpressão de Nota Fiscal.",
+             "Aviso");
+        return GenerationEnd::Finished;
     }
     if (documento.empty()) {
-        throw ErroExecucao(ErroNumero::ObjetoObrigatorio);
+        throw RuntimeError(RuntimeErrorCode::ObjectRequired);
     }
-    if (!respostaAceita(ambiente, documento, "")) {
-        return FimDaGeracao::Parada;
+    if (!answerAccepted(environment, documento, "")) {
+        return GenerationEnd::Stopped;
     }
-    if (sessao.NCOMPANYCODE == empresaSemNumero && sessao.ID_ETB_TARN == estabelecimentoSemNumero) {
-        throw ErroExecucao(ErroNumero::ObjetoObrigatorio);
+    if (session.NCOMPANYCODE == companyNotANumber &&
+        session.ID_ETB_TARN == establishmentNotANumber) {
+        throw RuntimeError(RuntimeErrorCode::ObjectRequired);
     }
-    imprime(ambiente, sessao, documento, nota);
-    return FimDaGeracao::Completa;
+    print(environment, session, documento, note);
+    return GenerationEnd::Finished;
 }
 
-FimDaGeracao pedeNota(Environment& ambiente, const Sessao& sessao, const std::string& ordem,
-                      const PassoImpressao& imprime) {
+GenerationEnd noteQuery(Environment& environment, const Sessao& session, const std::string& ordem,
+                        const PrintStep& print) {
     XmlDocument documento;
-    if (!pede(ambiente, comando::SP_GERA_NF(sessao, ordem), documento, falha::Tarn0004)) {
-        exclama(ambiente,
-                "Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, utilize a "
-                "tela de Reimpressão de Nota Fiscal. ",
-                "Aviso");
-        return FimDaGeracao::Completa;
+    if (!requestAnswer(environment, commands::SP_GERA_NF(session, ordem), documento,
+                       failure::Tarn0004)) {
+        warn(environment,
+             "Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, utilize a "
+             "tela de Reimpressão de Nota Fiscal. ",
+             "Aviso");
+        return GenerationEnd::Finished;
     }
-    if (!respostaAceita(ambiente, documento, "Houve um problema para gerar a Nota Fiscal. ")) {
-        return FimDaGeracao::Parada;
+    if (!answerAccepted(environment, documento, "Houve um problema para gerar a Nota Fiscal. ")) {
+        return GenerationEnd::Stopped;
     }
-    const std::string nota = valorPorPosicao(documento, 0);
-    const std::string serie = valorPorPosicao(documento, 1);
-    return imprimeGerada(ambiente, sessao, nota, serie, imprime);
+    const std::string note = valueByPosition(documento, 0);
+    const std::string series = valueByPosition(documento, 1);
+    return printGenerated(environment, session, note, series, print);
 }
 
 }  // namespace
 
-FimDaGeracao geraNota(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
-                      const std::string& ordem, const PassoImpressao& imprime) {
-    if (!avisosAceitos(ambiente, sessao, alerta, ordem)) {
-        return FimDaGeracao::Parada;
+GenerationEnd generateNote(Environment& environment, Sessao& session, AlertDialog& alert,
+                           const std::string& ordem, const PrintStep& print) {
+    if (!acceptedNotices(environment, session, alert, ordem)) {
+        return GenerationEnd::Stopped;
     }
     try {
-        return pedeNota(ambiente, sessao, ordem, imprime);
-    } catch (const ErroExecucao& erro) {
-        throw ErroComNota(erro);
+        return noteQuery(environment, session, ordem, print);
+    } catch (const RuntimeError& error) {
+        throw ErrorAfterNote(error);
     }
 }
 

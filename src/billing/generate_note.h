@@ -11,30 +11,30 @@
 
 namespace tarn {
 
-class AlertaDialogo;
+class AlertDialog;
 struct Environment;
 
 // How a generation ended for the screen: stopped (the timer stays off), or ran
 // its way (the list is to be read again and the timer switched on).
-enum class FimDaGeracao { Parada, Completa };
+enum class GenerationEnd { Stopped, Finished };
 
 // Brings a generated note to paper: its document and its number.
-using PassoImpressao =
-    std::function<void(Environment&, const Sessao&, XmlDocument&, const std::string& nota)>;
+using PrintStep =
+    std::function<void(Environment&, const Sessao&, XmlDocument&, const std::string& note)>;
 
 // Everything from the observations to the printed note. The caller has switched
 // its timer off. The two cases in which the note stands on the server and can't be
 // printed here, and every error of a layout, come out as ErroComNota.
-FimDaGeracao geraNota(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
-                      const std::string& ordem, const PassoImpressao& imprime);
+GenerationEnd generateNote(Environment& environment, Sessao& session, AlertDialog& alert,
+                           const std::string& ordem, const PrintStep& print);
 
 // The same, printed by the issuing screen's ladder.
-inline FimDaGeracao geraNota(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
-                             const std::string& ordem) {
-    return geraNota(
-        ambiente, sessao, alerta, ordem,
-        [](Environment& onde, const Sessao& quem, XmlDocument& documento, const std::string& nota) {
-            imprimeNota(Escada::Emissao, onde, quem, documento, nota);
+inline GenerationEnd generateNote(Environment& environment, Sessao& session, AlertDialog& alert,
+                                  const std::string& ordem) {
+    return generateNote(
+        environment, session, alert, ordem,
+        [](Environment& where, const Sessao& who, XmlDocument& documento, const std::string& note) {
+            printNote(Ladder::Issuing, where, who, documento, note);
         });
 }
 

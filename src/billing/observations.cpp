@@ -12,54 +12,54 @@ namespace {
 
 // Reads the answer's text into TextoMensagem. A failed load leaves the text of the
 // order before and still goes on; false: the action ends here, the user has been told.
-bool buscaTexto(Environment& ambiente, Sessao& sessao, const std::string& consulta) {
+bool textSearch(Environment& environment, Sessao& session, const std::string& query) {
     XmlDocument documento;
-    if (!pede(ambiente, consulta, documento, falha::Tarn0004)) {
-        exclama(ambiente,
-                "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e "
-                "tente novamente.",
-                "Aviso");
+    if (!requestAnswer(environment, query, documento, failure::Tarn0004)) {
+        warn(environment,
+             "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e "
+             "tente novamente.",
+             "Aviso");
         return true;
     }
-    if (!respostaAceita(
-            ambiente, documento,
+    if (!answerAccepted(
+            environment, documento,
             "Houve um problema para selecionar as mensagens de observação da(s) venda(s). ")) {
         return false;
     }
-    sessao.TextoMensagem = pegaTexto(documento.documentElement(), 0, "OBSERVACAO");
+    session.TextoMensagem = textAttribute(documento.documentElement(), 0, "OBSERVACAO");
     return true;
 }
 
 }  // namespace
 
-void Seleciona_Obs_Vnd_X_Ord(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
+void Seleciona_Obs_Vnd_X_Ord(Environment& environment, Sessao& session, AlertDialog& alert,
                              const std::string& ordem, bool& continua) {
     continua = false;
-    if (!buscaTexto(ambiente, sessao, comando::Seleciona_Obs_Vnd_X_Ord(sessao, ordem))) {
+    if (!textSearch(environment, session, commands::Seleciona_Obs_Vnd_X_Ord(session, ordem))) {
         return;
     }
-    sessao.ConfirmaMensagem = "N";
-    if (sessao.TextoMensagem.empty()) {
+    session.ConfirmaMensagem = "N";
+    if (session.TextoMensagem.empty()) {
         continua = true;
     } else {
-        alerta.mostra(ModoAlerta::Confirma);
+        alert.show(AlertMode::Confirm);
     }
-    if (sessao.ConfirmaMensagem == "S") {
+    if (session.ConfirmaMensagem == "S") {
         continua = true;
     }
 }
 
-void Seleciona_Obs_Ord_X_Est(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
+void Seleciona_Obs_Ord_X_Est(Environment& environment, Sessao& session, AlertDialog& alert,
                              const std::string& ordem, bool& continua) {
     continua = false;
-    if (!buscaTexto(ambiente, sessao, comando::Seleciona_Obs_Ord_X_Est(sessao, ordem))) {
+    if (!textSearch(environment, session, commands::Seleciona_Obs_Ord_X_Est(session, ordem))) {
         return;
     }
-    sessao.ConfirmaMensagem = "N";
-    if (sessao.TextoMensagem.empty()) {
+    session.ConfirmaMensagem = "N";
+    if (session.TextoMensagem.empty()) {
         continua = true;
     } else {
-        alerta.mostra(ModoAlerta::SemSaldo);
+        alert.show(AlertMode::OutOfStock);
     }
 }
 

@@ -7,16 +7,16 @@
 
 namespace tarn {
 
-class AlertaDialogo;
+class AlertDialog;
 struct Environment;
 
 // The observations of the order's sales, to be confirmed. `continua` comes back
 // true when the action may go on.
-void Seleciona_Obs_Vnd_X_Ord(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
+void Seleciona_Obs_Vnd_X_Ord(Environment& environment, Sessao& session, AlertDialog& alert,
                              const std::string& ordem, bool& continua);
 
 // The stock check: with something missing the order can't go on.
-void Seleciona_Obs_Ord_X_Est(Environment& ambiente, Sessao& sessao, AlertaDialogo& alerta,
+void Seleciona_Obs_Ord_X_Est(Environment& environment, Sessao& session, AlertDialog& alert,
                              const std::string& ordem, bool& continua);
 
 }  // namespace tarn

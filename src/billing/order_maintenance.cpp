@@ -10,44 +10,45 @@
 namespace tarn {
 namespace {
 
-struct Teste {
-    CampoDaOrdem campo;
-    std::string_view comando::DadosOrdem::*valor;
-    std::string_view vazio;
-    std::string_view negativo;
+struct Test {
+    OrderField field;
+    std::string_view commands::OrderData::*valor;
+    std::string_view empty;
+    std::string_view negative;
 };
 
-constexpr std::array<Teste, 3> testes{
-    {{CampoDaOrdem::Quantidade, &comando::DadosOrdem::quantidade,
+constexpr std::array<Test, 3> tests{
+    {{OrderField::Quantity, &commands::OrderData::quantity,
       "Quantidade Espécie é obrigatório!     ", "Quantidade Espécie inválido!     "},
-     {CampoDaOrdem::PesoBruto, &comando::DadosOrdem::pesoBruto, "Peso Bruto é obrigatório!     ",
+     {OrderField::GrossWeight, &commands::OrderData::grossWeight, "Peso Bruto é obrigatório!     ",
       "Peso Bruto inválido!     "},
-     {CampoDaOrdem::PesoLiquido, &comando::DadosOrdem::pesoLiquido,
-      "Peso Líquido é obrigatório!     ", "Peso Líquido inválido!     "}}};
+     {OrderField::NetWeight, &commands::OrderData::netWeight, "Peso Líquido é obrigatório!     ",
+      "Peso Líquido inválido!     "}}};
 
 }  // namespace
 
-std::optional<RecusaDeCampo> recusaDosDados(const comando::DadosOrdem& dados) {
-    for (const Teste& teste : testes) {
-        const std::string_view valor = dados.*teste.valor;
+std::optional<OrderRefusal> dataRefusal(const commands::OrderData& data) {
+    for (const Test& test : tests) {
+        const std::string_view valor = data.*test.valor;
         if (valor.empty()) {
-            return RecusaDeCampo{teste.campo, teste.vazio};
+            return OrderRefusal{test.field, test.empty};
         }
         if (readComma(valor) < 0) {
-            return RecusaDeCampo{teste.campo, teste.negativo};
+            return OrderRefusal{test.field, test.negative};
         }
     }
     return std::nullopt;
 }
 
-bool gravaOrdem(Environment& ambiente, const Sessao& sessao, const comando::DadosOrdem& dados) {
+bool saveOrder(Environment& environment, const Sessao& session, const commands::OrderData& data) {
     XmlDocument documento;
-    if (!pede(ambiente, comando::MANUTENCAO_OFT(sessao, dados), documento, falha::Tarn0013)) {
-        exclama(ambiente, "Favor verificar se os dados da Ordem de Faturamento foi gravado. ",
-                "Aviso");
+    if (!requestAnswer(environment, commands::MANUTENCAO_OFT(session, data), documento,
+                       failure::Tarn0013)) {
+        warn(environment, "Favor verificar se os dados da Ordem de Faturamento foi gravado. ",
+             "Aviso");
         return true;
     }
-    return respostaAceita(ambiente, documento,
+    return answerAccepted(environment, documento,
                           "Houve um problema para gravar a Ordem de Faturamento. ");
 }
 

@@ -11,19 +11,19 @@ namespace tarn {
 
 struct Environment;
 
-enum class CampoDaOrdem { Quantidade, PesoBruto, PesoLiquido };
+enum class OrderField { Quantity, GrossWeight, NetWeight };
 
-struct RecusaDeCampo {
-    CampoDaOrdem campo;
+struct OrderRefusal {
+    OrderField field;
     std::string_view texto;  // of the box
 };
 
 // The first test that fails, in the order in which the fields are tested. A text that
 // is no number raises TipoIncompativel.
-std::optional<RecusaDeCampo> recusaDosDados(const comando::DadosOrdem& dados);
+std::optional<OrderRefusal> dataRefusal(const commands::OrderData& data);
 
 // Sends the order's data and tells what went wrong. False: refused, nothing changed.
 // True also where the answer was lost: the list must show what the server has.
-bool gravaOrdem(Environment& ambiente, const Sessao& sessao, const comando::DadosOrdem& dados);
+bool saveOrder(Environment& environment, const Sessao& session, const commands::OrderData& data);
 
 }  // namespace tarn

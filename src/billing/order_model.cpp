@@ -7,14 +7,14 @@
 namespace tarn {
 namespace {
 
-struct Coluna {
-    const char* titulo;
-    const char* dica;
-    bool numero = false;
+struct Column {
+    const char* title;
+    const char* hint;
+    bool number = false;
 };
 
 // The last four columns have no heading; their tool tip says what they hold.
-constexpr std::array<Coluna, 12> colunas{{{"Ord. Fat.", "Número da ordem de faturamento"},
+constexpr std::array<Column, 12> columns{{{"Ord. Fat.", "Número da ordem de faturamento"},
                                           {"Cliente", "Cliente"},
                                           {"Estabelecimento", "Estabelecimento"},
                                           {"Tipo de NF", "Tipo de nota fiscal"},
@@ -27,49 +27,49 @@ constexpr std::array<Coluna, 12> colunas{{{"Ord. Fat.", "Número da ordem de fat
                                           {"", "Peso bruto", true},
                                           {"", "Peso líquido", true}}};
 
-const Coluna& coluna(int numero) {
-    return colunas.at(static_cast<std::size_t>(numero));
+const Column& coluna(int number) {
+    return columns.at(static_cast<std::size_t>(number));
 }
 
 }  // namespace
 
-void OrdensModel::mostra(std::vector<OrdemFaturamento> ordens) {
+void OrderModel::show(std::vector<BillingOrder> orders) {
     beginResetModel();
-    ordens_ = std::move(ordens);
+    orders_ = std::move(orders);
     endResetModel();
 }
 
-int OrdensModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(ordens_.size());
+int OrderModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(orders_.size());
 }
 
-int OrdensModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(colunas.size());
+int OrderModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(columns.size());
 }
 
-QVariant OrdensModel::data(const QModelIndex& index, int role) const {
+QVariant OrderModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) {
         return {};
     }
-    if (role == Qt::TextAlignmentRole && coluna(index.column()).numero) {
+    if (role == Qt::TextAlignmentRole && coluna(index.column()).number) {
         return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
     }
     if (role != Qt::DisplayRole) {
         return {};
     }
     return QString::fromStdString(
-        ordem(index.row()).celulas.at(static_cast<std::size_t>(index.column())));
+        ordem(index.row()).cells.at(static_cast<std::size_t>(index.column())));
 }
 
-QVariant OrdensModel::headerData(int section, Qt::Orientation orientation, int role) const {
+QVariant OrderModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Vertical) {
         return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
     }
     if (role == Qt::DisplayRole) {
-        return QString::fromUtf8(coluna(section).titulo);
+        return QString::fromUtf8(coluna(section).title);
     }
     if (role == Qt::ToolTipRole) {
-        return QString::fromUtf8(coluna(section).dica);
+        return QString::fromUtf8(coluna(section).hint);
     }
     if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);

@@ -8,16 +8,16 @@
 
 namespace tarn {
 
-class OrdensModel : public QAbstractTableModel {
+class OrderModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
     // Takes the place of all rows; costs O(1) a row.
-    void mostra(std::vector<OrdemFaturamento> ordens);
-    const OrdemFaturamento& ordem(int linha) const {
-        return ordens_.at(static_cast<std::size_t>(linha));
+    void show(std::vector<BillingOrder> orders);
+    const BillingOrder& ordem(int linha) const {
+        return orders_.at(static_cast<std::size_t>(linha));
     }
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -26,7 +26,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    std::vector<OrdemFaturamento> ordens_;
+    std::vector<BillingOrder> orders_;
 };
 
 }  // namespace tarn

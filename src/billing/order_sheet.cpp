@@ -13,291 +13,294 @@
 namespace tarn {
 namespace {
 
-constexpr std::int32_t empresaDaFolhaComPreco = 1361;
-constexpr int larguraDaFolha = 77;
-constexpr int colunaDosTotais = 65;  // where the labels of the totals end
-constexpr int larguraDoTotal = 11;
-constexpr int larguraDoValor = 12;
-constexpr NumberMask duasCasas{"##,###0.00"};
-constexpr NumberMask tresCasas{"##,###0.000"};
+constexpr std::int32_t priceSheetCompany = 1361;
+constexpr int sheetWidth = 77;
+constexpr int totalsColumn = 65;  // where the labels of the totals end
+constexpr int totalWidth = 11;
+constexpr int amountWidth = 12;
+constexpr NumberMask twoPlaces{"##,###0.00"};
+constexpr NumberMask threePlaces{"##,###0.000"};
 
 // The amounts of one item, or their totals.
-struct Valores {
-    double bruto = 0;
-    double desconto = 0;
+struct Values {
+    double gross = 0;
+    double discount = 0;
     double ipi = 0;
-    double icmsRetido = 0;
-    double descontoIcms = 0;
-    double frete = 0;
-    double despesas = 0;
-    double seguro = 0;
+    double icmsWithheld = 0;
+    double icmsDiscount = 0;
+    double freight = 0;
+    double expenses = 0;
+    double insurance = 0;
 
-    void soma(const Valores& item) {
-        bruto += item.bruto;
-        desconto += item.desconto;
+    void sum(const Values& item) {
+        gross += item.gross;
+        discount += item.discount;
         ipi += item.ipi;
-        icmsRetido += item.icmsRetido;
-        descontoIcms += item.descontoIcms;
-        frete += item.frete;
-        despesas += item.despesas;
-        seguro += item.seguro;
+        icmsWithheld += item.icmsWithheld;
+        icmsDiscount += item.icmsDiscount;
+        freight += item.freight;
+        expenses += item.expenses;
+        insurance += item.insurance;
     }
-    double ateFrete() const { return bruto - desconto + ipi + icmsRetido - descontoIcms + frete; }
+    double upToFreight() const {
+        return gross - discount + ipi + icmsWithheld - icmsDiscount + freight;
+    }
     // An item adds its insurance before its expenses, the order the other way round;
     // the last cent may depend on it.
-    double liquidoDoItem() const { return ateFrete() + seguro + despesas; }
-    double liquidoDaOrdem() const { return ateFrete() + despesas + seguro; }
+    double itemNet() const { return upToFreight() + insurance + expenses; }
+    double orderNet() const { return upToFreight() + expenses + insurance; }
 };
 
 struct Item {
-    std::string_view codigo;
-    std::string_view descricao;
-    double quantidade = 0;
-    double unitario = 0;
-    Valores valores;
+    std::string_view code;
+    std::string_view description;
+    double quantity = 0;
+    double unitPrice = 0;
+    Values values;
 };
 
-std::string_view campoDe(const XmlNode& linha, std::string_view nome) {
-    const XmlAttribute atributo = linha.attributes().getNamedItem(nome);
-    if (!atributo) {
-        throw ErroExecucao(ErroNumero::VariavelObjeto, nome);
+std::string_view fieldOf(const XmlNode& linha, std::string_view nome) {
+    const XmlAttribute attribute = linha.attributes().getNamedItem(nome);
+    if (!attribute) {
+        throw RuntimeError(RuntimeErrorCode::ObjectVariable, nome);
     }
-    return atributo.text();
+    return attribute.text();
 }
 
-double numeroDe(const XmlNode& linha, std::string_view nome) {
-    return readPoint(campoDe(linha, nome));
+double numberOf(const XmlNode& linha, std::string_view nome) {
+    return readPoint(fieldOf(linha, nome));
 }
 
 // Every field is read, also those that the sheet doesn't print.
-Item leItem(const XmlNode& linha) {
-    Item item{.codigo = campoDe(linha, "CD_PRO"),
-              .descricao = campoDe(linha, "DESCRICAO"),
-              .quantidade = numeroDe(linha, "QTDE"),
-              .unitario = numeroDe(linha, "UNITARIO"),
-              .valores = {.desconto = numeroDe(linha, "VL_DSC"),
-                          .ipi = numeroDe(linha, "VL_IPI"),
-                          .icmsRetido = numeroDe(linha, "VL_ICMS_RTD"),
-                          .descontoIcms = numeroDe(linha, "VL_DSC_ICMS"),
-                          .frete = numeroDe(linha, "VL_FRT"),
-                          .despesas = numeroDe(linha, "VL_DSP_ACS"),
-                          .seguro = numeroDe(linha, "VL_SEG")}};
-    item.valores.bruto = item.quantidade * item.unitario;
+Item readItem(const XmlNode& linha) {
+    Item item{.code = fieldOf(linha, "CD_PRO"),
+              .description = fieldOf(linha, "DESCRICAO"),
+              .quantity = numberOf(linha, "QTDE"),
+              .unitPrice = numberOf(linha, "UNITARIO"),
+              .values = {.discount = numberOf(linha, "VL_DSC"),
+                         .ipi = numberOf(linha, "VL_IPI"),
+                         .icmsWithheld = numberOf(linha, "VL_ICMS_RTD"),
+                         .icmsDiscount = numberOf(linha, "VL_DSC_ICMS"),
+                         .freight = numberOf(linha, "VL_FRT"),
+                         .expenses = numberOf(linha, "VL_DSP_ACS"),
+                         .insurance = numberOf(linha, "VL_SEG")}};
+    item.values.gross = item.quantity * item.unitPrice;
     return item;
 }
 
 // One job, line by line. Nothing of a line goes out before sai().
-class Folha {
+class OrderSheet {
 public:
-    explicit Folha(Environment& ambiente) : canal_(ambiente.spooler, ambiente.codePage) {
-        canal_.abre();
+    explicit OrderSheet(Environment& environment)
+        : channel_(environment.spooler, environment.codePage) {
+        channel_.open();
     }
 
-    Folha& texto(std::string_view fixo) {
-        linha_ += fixo;
+    OrderSheet& texto(std::string_view fixedText) {
+        linha_ += fixedText;
         return *this;
     }
-    Folha& brancos(int quantos) {
-        linha_.append(static_cast<std::size_t>(quantos), ' ');
+    OrderSheet& blanks(int count) {
+        linha_.append(static_cast<std::size_t>(count), ' ');
         return *this;
     }
-    Folha& campo(std::string_view valor, int largura) {
-        appendCampo(linha_, valor, largura, false);
+    OrderSheet& field(std::string_view valor, int largura) {
+        appendField(linha_, valor, largura, false);
         return *this;
     }
-    Folha& valor(double numero, const NumberMask& mascara, int largura) {
-        return aDireita(formatNumber(numero, mascara), largura);
+    OrderSheet& valor(double number, const NumberMask& mask, int largura) {
+        return aDireita(formatNumber(number, mask), largura);
     }
-    Folha& entreParenteses(double numero, int largura) {
-        return aDireita("(" + formatNumber(numero, duasCasas) + ")", largura);
+    OrderSheet& inParentheses(double number, int largura) {
+        return aDireita("(" + formatNumber(number, twoPlaces) + ")", largura);
     }
-    void sai() {
-        canal_.ImprimeRaw(1, linha_, 1);
+    void out() {
+        channel_.ImprimeRaw(1, linha_, 1);
         linha_.clear();
     }
 
-    void regua(char traco) {
-        linha_.append(larguraDaFolha, traco);
-        sai();
+    void ruler(char stroke) {
+        linha_.append(sheetWidth, stroke);
+        out();
     }
-    void emBranco() { brancos(larguraDaFolha).sai(); }
-    void fecha() { canal_.fecha(); }
+    void isBlank() { blanks(sheetWidth).out(); }
+    void close() { channel_.close(); }
 
 private:
-    Folha& aDireita(std::string_view valor, int largura) {
-        appendCampo(linha_, valor, largura, true);
+    OrderSheet& aDireita(std::string_view valor, int largura) {
+        appendField(linha_, valor, largura, true);
         return *this;
     }
 
-    RawChannel canal_;
+    RawChannel channel_;
     std::string linha_;
 };
 
-std::string cabecalho(const XmlDocument& documento, std::string_view nome) {
-    return pegaTexto(documento.selectSingleNode("PRINCIPAL"), 0, nome);
+std::string header(const XmlDocument& documento, std::string_view nome) {
+    return textAttribute(documento.selectSingleNode("PRINCIPAL"), 0, nome);
 }
 
 // Quantity, code, description; what follows differs.
-Folha& comecoDoItem(Folha& folha, const Item& item) {
-    return folha.valor(item.quantidade, tresCasas, 8)
-        .brancos(1)
-        .campo(item.codigo, 7)
-        .brancos(1)
-        .campo(item.descricao, 36)
-        .brancos(1);
+OrderSheet& itemStart(OrderSheet& sheet, const Item& item) {
+    return sheet.valor(item.quantity, threePlaces, 8)
+        .blanks(1)
+        .field(item.code, 7)
+        .blanks(1)
+        .field(item.description, 36)
+        .blanks(1);
 }
 
 // Reads and prints the items in turn; returns their totals.
-template <typename FimDaLinha>
-Valores imprimeItens(Folha& folha, const XmlDocument& documento, FimDaLinha fimDaLinha) {
-    Valores totais;
+template <typename EndOfLine>
+Values printItems(OrderSheet& sheet, const XmlDocument& documento, EndOfLine endOfLine) {
+    Values totals;
     const XmlNodeList linhas = documento.selectNodes("//ITEM");
     for (std::size_t i = 0; i < linhas.length(); ++i) {
-        const Item item = leItem(linhas.item(i));
-        totais.soma(item.valores);
-        comecoDoItem(folha, item);
-        fimDaLinha(item);
-        folha.sai();
+        const Item item = readItem(linhas.item(i));
+        totals.sum(item.values);
+        itemStart(sheet, item);
+        endOfLine(item);
+        sheet.out();
     }
-    return totais;
+    return totals;
 }
 
-// `titulos` prints the two lines above the instalments, when there are any.
-template <typename Titulos>
-void imprimeParcelas(Folha& folha, const XmlDocument& documento, Titulos titulos) {
+// `titles` prints the two lines above the instalments, when there are any.
+template <typename Titles>
+void printParcels(OrderSheet& sheet, const XmlDocument& documento, Titles titles) {
     const XmlNodeList linhas = documento.selectNodes("//PARCELA");
     if (linhas.length() > 0) {
-        titulos();
+        titles();
     }
     for (std::size_t i = 0; i < linhas.length(); ++i) {
-        const std::string_view vencimento = campoDe(linhas.item(i), "DT_PRL");
-        const double valor = numeroDe(linhas.item(i), "VL_PRL");
-        folha.brancos(28)
-            .campo(vencimento, 10)
-            .brancos(1)
-            .valor(valor, duasCasas, larguraDoValor)
-            .brancos(1)
-            .sai();
+        const std::string_view due = fieldOf(linhas.item(i), "DT_PRL");
+        const double valor = numberOf(linhas.item(i), "VL_PRL");
+        sheet.blanks(28)
+            .field(due, 10)
+            .blanks(1)
+            .valor(valor, twoPlaces, amountWidth)
+            .blanks(1)
+            .out();
     }
 }
 
-void rotulo(Folha& folha, std::string_view texto) {
-    folha.brancos(colunaDosTotais - static_cast<int>(texto.size())).texto(texto);
+void label(OrderSheet& sheet, std::string_view texto) {
+    sheet.blanks(totalsColumn - static_cast<int>(texto.size())).texto(texto);
 }
 
-void imprimeTotais(Folha& folha, const Valores& totais) {
-    const auto total = [&folha](std::string_view texto, double valor) {
-        rotulo(folha, texto);
-        folha.valor(valor, duasCasas, larguraDoTotal).sai();
+void printTotals(OrderSheet& sheet, const Values& totals) {
+    const auto total = [&sheet](std::string_view texto, double valor) {
+        label(sheet, texto);
+        sheet.valor(valor, twoPlaces, totalWidth).out();
     };
     // The closing bracket stands one column behind the digits of the other totals.
-    const auto desconto = [&folha](std::string_view texto, double valor) {
-        rotulo(folha, texto);
-        folha.entreParenteses(valor, larguraDoValor).sai();
+    const auto discount = [&sheet](std::string_view texto, double valor) {
+        label(sheet, texto);
+        sheet.inParentheses(valor, amountWidth).out();
     };
-    desconto("VALOR DE DESCONTO: ", totais.desconto);
-    total("VALOR DE IPI: ", totais.ipi);
-    total("VALOR DE ICMS RETIDO: ", totais.icmsRetido);
-    desconto("VALOR DE DESCONTO ICMS: ", totais.descontoIcms);
-    total("VALOR DE FRETE: ", totais.frete);
-    total("VALOR DE SEGURO: ", totais.seguro);
-    total("VALOR DE DESPESAS ACESSORIAS: ", totais.despesas);
-    folha.brancos(43).texto("----------------------------------").sai();
-    total("VALOR LIQUIDO: ", totais.liquidoDaOrdem());
+    discount("VALOR DE DESCONTO: ", totals.discount);
+    total("VALOR DE IPI: ", totals.ipi);
+    total("VALOR DE ICMS RETIDO: ", totals.icmsWithheld);
+    discount("VALOR DE DESCONTO ICMS: ", totals.icmsDiscount);
+    total("VALOR DE FRETE: ", totals.freight);
+    total("VALOR DE SEGURO: ", totals.insurance);
+    total("VALOR DE DESPESAS ACESSORIAS: ", totals.expenses);
+    sheet.blanks(43).texto("----------------------------------").out();
+    total("VALOR LIQUIDO: ", totals.orderNet());
 }
 
-void imprimeCabecalhoPadrao(Folha& folha, const XmlDocument& documento) {
-    folha.sai();
-    folha.texto("                            ORDEM DE FATURAMENTO                             ")
-        .sai();
-    folha.regua('-');
-    folha.texto("Cliente:  ").campo(cabecalho(documento, "RAZAO"), 50).brancos(1);
-    folha.texto("Data: ").campo(cabecalho(documento, "DT_EMS_NF"), 10).sai();
-    folha.texto("Vendedor: ").campo(cabecalho(documento, "VENDEDOR"), 67).sai();
-    folha.texto("                                  PRODUTOS                                   ")
-        .sai();
-    folha.regua('-');
-    folha.texto("  QTDE    CODIGO         DESCRICAO DO PRODUTO          UNITARIO   VLR.BRUTO  ")
-        .sai();
-    folha.texto("-------- ------- ------------------------------------ ---------- ------------")
-        .sai();
+void printPlainHeader(OrderSheet& sheet, const XmlDocument& documento) {
+    sheet.out();
+    sheet.texto("                            ORDEM DE FATURAMENTO                             ")
+        .out();
+    sheet.ruler('-');
+    sheet.texto("Cliente:  ").field(header(documento, "RAZAO"), 50).blanks(1);
+    sheet.texto("Data: ").field(header(documento, "DT_EMS_NF"), 10).out();
+    sheet.texto("Vendedor: ").field(header(documento, "VENDEDOR"), 67).out();
+    sheet.texto("                                  PRODUTOS                                   ")
+        .out();
+    sheet.ruler('-');
+    sheet.texto("  QTDE    CODIGO         DESCRICAO DO PRODUTO          UNITARIO   VLR.BRUTO  ")
+        .out();
+    sheet.texto("-------- ------- ------------------------------------ ---------- ------------")
+        .out();
 }
 
-void imprimeCabecalhoPreco(Folha& folha, const XmlDocument& documento) {
-    folha.sai();
-    const std::string controle = cabecalho(documento, "NR_CTRL_INT");
-    if (controle != "0") {
-        folha.campo(controle, 40);
+void printPriceHeader(OrderSheet& sheet, const XmlDocument& documento) {
+    sheet.out();
+    const std::string control = header(documento, "NR_CTRL_INT");
+    if (control != "0") {
+        sheet.field(control, 40);
     }
-    folha.sai();
-    folha.regua('-');
-    folha.campo(cabecalho(documento, "RAZAO"), 50).brancos(17);
-    folha.campo(cabecalho(documento, "DT_EMS_NF"), 10).sai();
-    folha.campo(cabecalho(documento, "VENDEDOR"), 67).sai();
-    folha.emBranco();
-    folha.regua('-');
+    sheet.out();
+    sheet.ruler('-');
+    sheet.field(header(documento, "RAZAO"), 50).blanks(17);
+    sheet.field(header(documento, "DT_EMS_NF"), 10).out();
+    sheet.field(header(documento, "VENDEDOR"), 67).out();
+    sheet.isBlank();
+    sheet.ruler('-');
 }
 
-void imprimeObservacoes(Folha& folha) {
-    constexpr int linhasParaEscrever = 4;
-    folha.emBranco();
-    folha.emBranco();
-    folha.texto("OBS:_________________________________________________________________________")
-        .sai();
-    for (int i = 0; i < linhasParaEscrever; ++i) {
-        folha.emBranco();
-        folha.regua('_');
+void printObservations(OrderSheet& sheet) {
+    constexpr int linesToWrite = 4;
+    sheet.isBlank();
+    sheet.isBlank();
+    sheet.texto("OBS:_________________________________________________________________________")
+        .out();
+    for (int i = 0; i < linesToWrite; ++i) {
+        sheet.isBlank();
+        sheet.ruler('_');
     }
 }
 
 }  // namespace
 
-void ImprimeOrdemFaturamento(Environment& ambiente, XmlDocument& documento) {
-    Folha folha(ambiente);
-    imprimeCabecalhoPadrao(folha, documento);
-    const Valores totais = imprimeItens(folha, documento, [&folha](const Item& item) {
-        folha.valor(item.unitario, duasCasas, 10).brancos(1);
-        folha.valor(item.valores.bruto, duasCasas, larguraDoTotal);
+void ImprimeOrdemFaturamento(Environment& environment, XmlDocument& documento) {
+    OrderSheet sheet(environment);
+    printPlainHeader(sheet, documento);
+    const Values totals = printItems(sheet, documento, [&sheet](const Item& item) {
+        sheet.valor(item.unitPrice, twoPlaces, 10).blanks(1);
+        sheet.valor(item.values.gross, twoPlaces, totalWidth);
     });
-    folha.regua('-');
-    imprimeTotais(folha, totais);
-    imprimeParcelas(folha, documento, [&folha] {
-        folha.texto("                        VENCTO PREVISTO      VALOR                           ")
-            .sai();
-        folha.texto("                      ------------------- -------------                      ")
-            .sai();
+    sheet.ruler('-');
+    printTotals(sheet, totals);
+    printParcels(sheet, documento, [&sheet] {
+        sheet.texto("                        VENCTO PREVISTO      VALOR                           ")
+            .out();
+        sheet.texto("                      ------------------- -------------                      ")
+            .out();
     });
-    folha.fecha();
+    sheet.close();
     documento = XmlDocument();
 }
 
-void ImprimeOrdemFaturamentoPreco(Environment& ambiente, XmlDocument& documento) {
-    Folha folha(ambiente);
-    imprimeCabecalhoPreco(folha, documento);
-    const Valores totais = imprimeItens(folha, documento, [&folha](const Item& item) {
-        folha.valor(item.unitario, tresCasas, 10).brancos(1);
-        folha.valor(item.valores.liquidoDoItem(), duasCasas, larguraDoValor);
+void ImprimeOrdemFaturamentoPreco(Environment& environment, XmlDocument& documento) {
+    OrderSheet sheet(environment);
+    printPriceHeader(sheet, documento);
+    const Values totals = printItems(sheet, documento, [&sheet](const Item& item) {
+        sheet.valor(item.unitPrice, threePlaces, 10).blanks(1);
+        sheet.valor(item.values.itemNet(), twoPlaces, amountWidth);
     });
-    folha.regua('-');
-    folha.brancos(colunaDosTotais).valor(totais.desconto, duasCasas, larguraDoValor).sai();
-    folha.brancos(60).texto("-----------------").sai();
-    folha.brancos(colunaDosTotais);
-    folha.valor(totais.liquidoDaOrdem(), duasCasas, larguraDoValor).sai();
-    imprimeParcelas(folha, documento, [&folha] {
-        folha.emBranco();
-        folha.texto("                         ---------------- -------------                      ")
-            .sai();
+    sheet.ruler('-');
+    sheet.blanks(totalsColumn).valor(totals.discount, twoPlaces, amountWidth).out();
+    sheet.blanks(60).texto("-----------------").out();
+    sheet.blanks(totalsColumn);
+    sheet.valor(totals.orderNet(), twoPlaces, amountWidth).out();
+    printParcels(sheet, documento, [&sheet] {
+        sheet.isBlank();
+        sheet.texto("                         ---------------- -------------                      ")
+            .out();
     });
-    imprimeObservacoes(folha);
-    folha.fecha();
+    printObservations(sheet);
+    sheet.close();
     documento = XmlDocument();
 }
 
-void imprimeOrdem(Environment& ambiente, const Sessao& sessao, XmlDocument& documento) {
-    if (sessao.NCOMPANYCODE == empresaDaFolhaComPreco) {
-        ImprimeOrdemFaturamentoPreco(ambiente, documento);
+void printOrder(Environment& environment, const Sessao& session, XmlDocument& documento) {
+    if (session.NCOMPANYCODE == priceSheetCompany) {
+        ImprimeOrdemFaturamentoPreco(environment, documento);
     } else {
-        ImprimeOrdemFaturamento(ambiente, documento);
+        ImprimeOrdemFaturamento(environment, documento);
     }
 }
 

@@ -13,80 +13,81 @@
 namespace tarn {
 namespace {
 
-constexpr std::array<std::string_view, 12> campos{
+constexpr std::array<std::string_view, 12> fields{
     "ID_ORD_FAT",     "NM_PES_CPL", "NM_RDU", "DC_TIP_NF", "DT_GER_OFT", "ID_ORD_CRG",
     "TRANSPORTADORA", "NM_PES_MOT", "DC_OBS", "QT_ESP",    "PESO_BRU",   "PESO_LIQ"};
-constexpr std::size_t primeiroNumero = 9;  // quantity and the two weights
-constexpr NumberMask mascara{"###,###,###,##0.000"};
+constexpr std::size_t firstNumber = 9;  // quantity and the two weights
+constexpr NumberMask mask{"###,###,###,##0.000"};
 
-OrdemFaturamento ordemDe(const XmlNode& linha) {
-    OrdemFaturamento ordem;
-    const XmlAttributes atributos = linha.attributes();
-    for (std::size_t i = 0; i < campos.size(); ++i) {
-        const XmlAttribute atributo = atributos.getNamedItem(campos[i]);
-        if (!atributo) {
+BillingOrder orderOf(const XmlNode& linha) {
+    BillingOrder ordem;
+    const XmlAttributes attributes = linha.attributes();
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const XmlAttribute attribute = attributes.getNamedItem(fields[i]);
+        if (!attribute) {
             continue;
         }
-        ordem.celulas[i] = i < primeiroNumero ? std::string(atributo.text())
-                                              : formatNumber(readPoint(atributo.text()), mascara);
+        ordem.cells[i] = i < firstNumber ? std::string(attribute.text())
+                                         : formatNumber(readPoint(attribute.text()), mask);
     }
     return ordem;
 }
 
-bool confirma(Environment& ambiente, const std::string& ordem) {
-    const BoxAnswer resposta = ambiente.boxes.show(
+bool confirm(Environment& environment, const std::string& ordem) {
+    const BoxAnswer answer = environment.boxes.show(
         {.text = "Confirma o cancelamento da Ordem de Faturamento nº " + ordem + " ?     ",
          .icon = BoxIcon::Question,
          .title = "Aviso",
          .buttons = BoxButtons::YesNo});
-    return resposta == BoxAnswer::Yes;
+    return answer == BoxAnswer::Yes;
 }
 
 }  // namespace
 
-std::vector<OrdemFaturamento> carregaOrdens(Environment& ambiente, const Sessao& sessao) {
-    std::vector<OrdemFaturamento> ordens;
+std::vector<BillingOrder> loadOrders(Environment& environment, const Sessao& session) {
+    std::vector<BillingOrder> orders;
     XmlDocument documento;
-    if (!pede(ambiente, comando::sel_ordem_fatu(sessao), documento, falha::Tarn0006)) {
-        return ordens;
+    if (!requestAnswer(environment, commands::sel_ordem_fatu(session), documento,
+                       failure::Tarn0006)) {
+        return orders;
     }
     if (documento.empty()) {
-        exclama(ambiente, "Houve um problema na transferência das Ordens de Faturamento.");
-        return ordens;
+        warn(environment, "Houve um problema na transferência das Ordens de Faturamento.");
+        return orders;
     }
     const XmlNode linhas = documento.selectSingleNode("xml/rs:data");
     if (!linhas) {
-        return ordens;
+        return orders;
     }
-    const std::size_t quantas = linhas.childCount();
-    ordens.reserve(quantas);
-    for (std::size_t i = 0; i < quantas; ++i) {
-        ordens.push_back(ordemDe(linhas.child(i)));
+    const std::size_t count = linhas.childCount();
+    orders.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        orders.push_back(orderOf(linhas.child(i)));
     }
-    return ordens;
+    return orders;
 }
 
-bool cancelaOrdem(Environment& ambiente, const Sessao& sessao, const OrdemFaturamento& ordem) {
-    const std::string& numero = ordem.ordem();
-    if (!confirma(ambiente, numero)) {
+bool cancelOrder(Environment& environment, const Sessao& session, const BillingOrder& ordem) {
+    const std::string& number = ordem.ordem();
+    if (!confirm(environment, number)) {
         return false;
     }
     XmlDocument documento;
-    if (!pede(ambiente, comando::sp_can_oft(sessao, numero, ordem.ordemCarga()), documento,
-              falha::Tarn0003)) {
-        exclama(ambiente,
-                "Favor verificar se a Ordem de Faturamento nº " + numero + " foi cancelada. ",
-                "Aviso");
+    if (!requestAnswer(environment, commands::sp_can_oft(session, number, ordem.loadOrder()),
+                       documento, failure::Tarn0003)) {
+        warn(environment,
+             "Favor verificar se a Ordem de Faturamento nº " + number + " foi cancelada. ",
+             "Aviso");
         return false;
     }
-    const std::string problema =
-        "Houve um problema no Cancelamento da Ordem de Faturamento nº " + numero + ". ";
-    if (!respostaAceita(ambiente, documento, problema)) {
+    const std::string problem =
+        "Houve um problema no Cancelamento da Ordem de Faturamento nº " + number + ". ";
+    if (!answerAccepted(environment, documento, problem)) {
         return false;
     }
-    ambiente.boxes.show({.text = "Ordem de Faturamento cancelada.      ",
-                         .icon = BoxIcon::Information,
-                         .title = "Aviso "});
+    environment.boxes.show({.text = "Ordem de Faturamento cancelada.      ",
+                            .icon = BoxIcon::Information,
+                            .title = "Aviso "});
     return true;
 }
 

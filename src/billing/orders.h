@@ -13,18 +13,18 @@ struct Environment;
 
 // One order: the twelve cells of its row, as shown; an absent field is empty.
 // Cells 10 to 12 (quantity and the two weights) are formatted numbers.
-struct OrdemFaturamento {
-    std::array<std::string, 12> celulas;
+struct BillingOrder {
+    std::array<std::string, 12> cells;
 
-    const std::string& ordem() const { return celulas[0]; }
-    const std::string& ordemCarga() const { return celulas[5]; }
+    const std::string& ordem() const { return cells[0]; }
+    const std::string& loadOrder() const { return cells[5]; }
 };
 
 // The list as the server has it now; empty when it could not be had (the user has
 // been told).
-std::vector<OrdemFaturamento> carregaOrdens(Environment& ambiente, const Sessao& sessao);
+std::vector<BillingOrder> loadOrders(Environment& environment, const Sessao& session);
 
 // Asks, cancels, tells. True: cancelled, the list must be read again.
-bool cancelaOrdem(Environment& ambiente, const Sessao& sessao, const OrdemFaturamento& ordem);
+bool cancelOrder(Environment& environment, const Sessao& session, const BillingOrder& ordem);
 
 }  // namespace tarn

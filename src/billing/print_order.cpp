@@ -8,17 +8,17 @@
 
 namespace tarn {
 
-void imprimeOrdemSelecionada(Environment& ambiente, const Sessao& sessao,
-                             const std::string& ordem) {
-    const std::string problema =
+void printSelectedOrder(Environment& environment, const Sessao& session, const std::string& ordem) {
+    const std::string problem =
         "Houve um problema na transferência dos dados da Ordem de Faturamento nº " + ordem + ".";
     XmlDocument documento;
-    if (!pede(ambiente, comando::sel_impr_ordem_fatu(sessao, ordem), documento, falha::Tarn0012)) {
-        exclama(ambiente, problema, "Aviso");
+    if (!requestAnswer(environment, commands::sel_impr_ordem_fatu(session, ordem), documento,
+                       failure::Tarn0012)) {
+        warn(environment, problem, "Aviso");
         return;
     }
-    if (respostaAceita(ambiente, documento, problema + " ")) {
-        imprimeOrdem(ambiente, sessao, documento);
+    if (answerAccepted(environment, documento, problem + " ")) {
+        printOrder(environment, session, documento);
     }
 }
 

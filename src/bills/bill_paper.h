@@ -8,34 +8,34 @@
 
 namespace tarn {
 
-class Papel {
+class BillPage {
 public:
-    explicit Papel(Printer& impressora) : impressora_(impressora) {}
+    explicit BillPage(Printer& printer) : printer_(printer) {}
 
     // Centimetres, portrait, one copy.
-    void prepara();
+    void prepare();
 
     // Half a centimetre left of and above the point, size in points. A text that fails
     // is dropped and the page goes on.
     void ImprimeLinha(std::string_view texto, double x, double y, double tamanho,
                       bool negrito = true, std::string_view fonte = "Arial");
     // At the points as they are, in dots.
-    void risca(double x1, double y1, double x2, double y2, int largura);
+    void drawLine(double x1, double y1, double x2, double y2, int largura);
     // At the point as it is; nothing for no picture.
-    void figura(const std::optional<Picture>& qual, double x, double y);
+    void picture(const std::optional<Picture>& which, double x, double y);
 
-    void novaPagina();
+    void newPage();
     // Prints the document; while it does so `progress` is told.
-    void termina(const Progress& progress);
+    void finish(const Progress& progress);
 
     // The first thing other than a text that failed.
-    const std::optional<PrinterFailure>& falha() const { return falha_; }
+    const std::optional<PrinterFailure>& failure() const { return failure_; }
 
 private:
-    void guarda(const std::optional<PrinterFailure>& falha);
+    void keep(const std::optional<PrinterFailure>& failure);
 
-    Printer& impressora_;
-    std::optional<PrinterFailure> falha_;
+    Printer& printer_;
+    std::optional<PrinterFailure> failure_;
 };
 
 }  // namespace tarn

@@ -8,15 +8,15 @@
 namespace tarn {
 namespace {
 
-std::optional<Picture> figuraDe(const std::string& pasta, const char* arquivo, const char* nome) {
-    const std::filesystem::path caminho = std::filesystem::path(pasta) / arquivo;
-    std::error_code falha;
-    if (!std::filesystem::is_regular_file(caminho, falha)) {
+std::optional<Picture> pictureOf(const std::string& folder, const char* file, const char* nome) {
+    const std::filesystem::path path = std::filesystem::path(folder) / file;
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(path, failure)) {
         return std::nullopt;
     }
-    std::ifstream entrada(caminho, std::ios::binary);
-    std::string bytes((std::istreambuf_iterator<char>(entrada)), std::istreambuf_iterator<char>());
-    if (!entrada || bytes.empty()) {
+    std::ifstream input(path, std::ios::binary);
+    std::string bytes((std::istreambuf_iterator<char>(input)), std::istreambuf_iterator<char>());
+    if (!input || bytes.empty()) {
         return std::nullopt;
     }
     return Picture(nome, std::move(bytes));
@@ -24,10 +24,10 @@ std::optional<Picture> figuraDe(const std::string& pasta, const char* arquivo, c
 
 }  // namespace
 
-FigurasDuplicata carregaFiguras(const std::string& pasta) {
-    return {.picLogo = figuraDe(pasta, "LOGODUPL.jpg", "picLogo"),
-            .picVert = figuraDe(pasta, "VERTDUPL.jpg", "picVert"),
-            .picAss = figuraDe(pasta, "ASSEMITENTE.jpg", "picAss")};
+BillPictures loadPictures(const std::string& folder) {
+    return {.picLogo = pictureOf(folder, "LOGODUPL.jpg", "picLogo"),
+            .picVert = pictureOf(folder, "VERTDUPL.jpg", "picVert"),
+            .picAss = pictureOf(folder, "ASSEMITENTE.jpg", "picAss")};
 }
 
 }  // namespace tarn

@@ -9,7 +9,7 @@
 namespace tarn {
 
 // Without its file a picture is nothing, and the page has none there.
-struct FigurasDuplicata {
+struct BillPictures {
     std::optional<Picture> picLogo;
     std::optional<Picture> picVert;
     std::optional<Picture> picAss;
@@ -17,6 +17,6 @@ struct FigurasDuplicata {
 
 // LOGODUPL.jpg, VERTDUPL.jpg and ASSEMITENTE.jpg of that folder. A file that can't be
 // read is no failure.
-FigurasDuplicata carregaFiguras(const std::string& pasta);
+BillPictures loadPictures(const std::string& folder);
 
 }  // namespace tarn

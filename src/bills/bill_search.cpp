@@ -8,63 +8,61 @@
 namespace tarn {
 namespace {
 
-constexpr std::array<CampoGrade, colunasDuplicata> campos{{{},
-                                                           {"SG_FIL"},
-                                                           {"DT_VNC_DOC_FMA"},
-                                                           {"DT_EMS_DOC"},
-                                                           {"NR_DOC"},
-                                                           {"NM_CLI_ETB"},
-                                                           {"DC_LG_CPL"},
-                                                           {"VL_PRN_DOC", Tratamento::Valor},
-                                                           {"CD_CEP"},
-                                                           {"NM_MUN"},
-                                                           {"SG_UF"},
-                                                           {"NR_CGC_CPL", Tratamento::CpfCnpj},
-                                                           {"CD_ICR_EST"},
-                                                           {{}, Tratamento::TipoPessoa},
-                                                           {"TIPO_DOCTO"},
-                                                           {"ID_TIP_DOC"},
-                                                           {"ID_NR_CTL", Tratamento::SoReceber},
-                                                           {"DC_REF_REC", Tratamento::SoNaoReceber},
-                                                           {"NR_DOC_NF"},
-                                                           {"EG_COB"},
-                                                           {"MUN_COB"},
-                                                           {"ES_COB"},
-                                                           {"CD_CEP_COB"}}};
+constexpr std::array<GridField, billColumns> fields{{{},
+                                                     {"SG_FIL"},
+                                                     {"DT_VNC_DOC_FMA"},
+                                                     {"DT_EMS_DOC"},
+                                                     {"NR_DOC"},
+                                                     {"NM_CLI_ETB"},
+                                                     {"DC_LG_CPL"},
+                                                     {"VL_PRN_DOC", Treatment::Amount},
+                                                     {"CD_CEP"},
+                                                     {"NM_MUN"},
+                                                     {"SG_UF"},
+                                                     {"NR_CGC_CPL", Treatment::CpfCnpj},
+                                                     {"CD_ICR_EST"},
+                                                     {{}, Treatment::PersonKind},
+                                                     {"TIPO_DOCTO"},
+                                                     {"ID_TIP_DOC"},
+                                                     {"ID_NR_CTL", Treatment::ReceivableOnly},
+                                                     {"DC_REF_REC", Treatment::NotReceivableOnly},
+                                                     {"NR_DOC_NF"},
+                                                     {"EG_COB"},
+                                                     {"MUN_COB"},
+                                                     {"ES_COB"},
+                                                     {"CD_CEP_COB"}}};
 
-constexpr std::int32_t tipoRecibo = 12;
+constexpr std::int32_t receiptKind = 12;
 
 }  // namespace
 
-std::vector<ItemLista> tiposDeDocumento() {
-    return {{"-------------", 0}, {"DUPLICATA", tipoDuplicata}, {"RECIBO", tipoRecibo}};
+std::vector<ListItem> documentKinds() {
+    return {{"-------------", 0}, {"DUPLICATA", billKind}, {"RECIBO", receiptKind}};
 }
 
-std::optional<RecusaDaPesquisa> recusaDaPesquisa(int posicaoDoTipo,
-                                                 std::string_view vencimentoAte) {
-    if (posicaoDoTipo <= 0) {
-        return RecusaDaPesquisa{"Tipo de Documento Obrigatório.     ",
-                                CampoDaPesquisa::TipoDocumento};
+std::optional<SearchRefusal> searchRefusal(int kindPosition, std::string_view dueTo) {
+    if (kindPosition <= 0) {
+        return SearchRefusal{"Tipo de Documento Obrigatório.     ", BillSearchField::DocumentKind};
     }
-    if (vencimentoAte.empty()) {
-        return RecusaDaPesquisa{"Data de Vencimento Obrigatória.     ",
-                                CampoDaPesquisa::VencimentoAte};
+    if (dueTo.empty()) {
+        return SearchRefusal{"Data de Vencimento Obrigatória.     ", BillSearchField::DueTo};
     }
     return std::nullopt;
 }
 
-std::optional<std::vector<LinhaGrade>> pesquisaDuplicatas(Environment& ambiente,
-                                                          const Sessao& sessao, std::int32_t tipo,
-                                                          const comando::Pesquisa& filtro) {
-    XmlDocument resposta;
-    if (!pede(ambiente, comando::sel_duplicata(sessao, tipo, filtro), resposta, falha::Tarn0009)) {
+std::optional<std::vector<GridRow>> searchBills(Environment& environment, const Sessao& session,
+                                                std::int32_t kind,
+                                                const commands::SearchFilter& filter) {
+    XmlDocument answer;
+    if (!requestAnswer(environment, commands::sel_duplicata(session, kind, filter), answer,
+                       failure::Tarn0009)) {
         return std::nullopt;
     }
-    return linhasDeDuplicatas(resposta);
+    return billRows(answer);
 }
 
-std::vector<LinhaGrade> linhasDeDuplicatas(const XmlDocument& resposta) {
-    return linhasDaResposta(resposta, campos);
+std::vector<GridRow> billRows(const XmlDocument& answer) {
+    return rowsOf(answer, fields);
 }
 
 }  // namespace tarn

@@ -19,46 +19,46 @@ struct Environment;
 struct Sessao;
 
 // Columns of the grid that are read for the printing.
-namespace coluna_duplicata {
-inline constexpr std::size_t vencimento = 3;
-inline constexpr std::size_t emissao = 4;
-inline constexpr std::size_t numero = 5;
-inline constexpr std::size_t cliente = 6;
-inline constexpr std::size_t endereco = 7;
+namespace bill_column {
+inline constexpr std::size_t due = 3;
+inline constexpr std::size_t issued = 4;
+inline constexpr std::size_t number = 5;
+inline constexpr std::size_t customer = 6;
+inline constexpr std::size_t address = 7;
 inline constexpr std::size_t valor = 8;
 inline constexpr std::size_t cep = 9;
-inline constexpr std::size_t municipio = 10;
-inline constexpr std::size_t estado = 11;
+inline constexpr std::size_t town = 10;
+inline constexpr std::size_t state = 11;
 inline constexpr std::size_t cpfCnpj = 12;
-inline constexpr std::size_t inscricao = 13;
-inline constexpr std::size_t tipoPessoa = 14;
-inline constexpr std::size_t tipoDocumento = 16;
-inline constexpr std::size_t referencia = 18;
-inline constexpr std::size_t notaFiscal = 19;
-inline constexpr std::size_t enderecoCobranca = 20;
-inline constexpr std::size_t municipioCobranca = 21;
-inline constexpr std::size_t estadoCobranca = 22;
-inline constexpr std::size_t cepCobranca = 23;
-}  // namespace coluna_duplicata
-inline constexpr std::size_t colunasDuplicata = 23;
+inline constexpr std::size_t registration = 13;
+inline constexpr std::size_t personKind = 14;
+inline constexpr std::size_t documentKind = 16;
+inline constexpr std::size_t reference = 18;
+inline constexpr std::size_t fiscalNote = 19;
+inline constexpr std::size_t billingAddress = 20;
+inline constexpr std::size_t billingTown = 21;
+inline constexpr std::size_t billingState = 22;
+inline constexpr std::size_t billingPostalCode = 23;
+}  // namespace bill_column
+inline constexpr std::size_t billColumns = 23;
 
-inline constexpr std::int32_t tipoDuplicata = 1;  // item data of cboTpDocto
+inline constexpr std::int32_t billKind = 1;  // item data of cboTpDocto
 
 // The fixed items of cboTpDocto; the first one is no kind of document.
-std::vector<ItemLista> tiposDeDocumento();
+std::vector<ListItem> documentKinds();
 
 // Why a search isn't sent: what the box says, and where the focus goes.
-enum class CampoDaPesquisa { TipoDocumento, VencimentoAte };
-struct RecusaDaPesquisa {
+enum class BillSearchField { DocumentKind, DueTo };
+struct SearchRefusal {
     std::string_view texto;
-    CampoDaPesquisa campo;
+    BillSearchField field;
 };
-std::optional<RecusaDaPesquisa> recusaDaPesquisa(int posicaoDoTipo, std::string_view vencimentoAte);
+std::optional<SearchRefusal> searchRefusal(int kindPosition, std::string_view dueTo);
 
 // The rows of the grid; nothing when the request failed (the user has been told).
-std::optional<std::vector<LinhaGrade>> pesquisaDuplicatas(Environment& ambiente,
-                                                          const Sessao& sessao, std::int32_t tipo,
-                                                          const comando::Pesquisa& filtro);
-std::vector<LinhaGrade> linhasDeDuplicatas(const XmlDocument& resposta);
+std::optional<std::vector<GridRow>> searchBills(Environment& environment, const Sessao& session,
+                                                std::int32_t kind,
+                                                const commands::SearchFilter& filter);
+std::vector<GridRow> billRows(const XmlDocument& answer);
 
 }  // namespace tarn

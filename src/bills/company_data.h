@@ -7,7 +7,7 @@ namespace tarn {
 
 class XmlDocument;
 
-struct DadosEmpresa {
+struct CompanyData {
     std::string DC_LG;
     std::string SG_UF;
     std::string NM_BRR;
@@ -20,11 +20,11 @@ struct DadosEmpresa {
     std::string TELEFONE;
     std::string FAX;
     std::string EMAIL;
-    std::string inscricaoFederal;  // "CPF nº " or "CNPJ nº " and the masked number
+    std::string federalNumber;  // "CPF nº " or "CNPJ nº " and the masked number
 };
 
 // The first row of the answer; an absent field is empty. VariavelObjeto when there is
 // no row, or a field is there in another case of letters only.
-DadosEmpresa dadosDaEmpresa(const XmlDocument& resposta);
+CompanyData companyDataOf(const XmlDocument& answer);
 
 }  // namespace tarn

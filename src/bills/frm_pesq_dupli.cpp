@@ -19,45 +19,44 @@ namespace tarn {
 namespace {
 
 // The columns without a width are for the printing alone.
-constexpr std::array<ColunaGrade, colunasDuplicata> colunas{
-    {{"", 0, TipoColuna::Caixa},
-     {"Filial", 17},
-     {"Dt.de Vencimento", 21},
-     {"Dt.de Emissão", 17},
-     {"Nº do Documento", 20},
-     {"Cliente", 38},
-     {"Endereço", 38},
-     {"Vlr.do Documento", 21, TipoColuna::Numero},
-     {"CEP", 12},
-     {"Município", 24},
-     {"Filial", 8},
-     {"CNPJ / CPF", 22},
-     {"I.E.", 18},
-     {"TP_PES", 0},
-     {"TP_DOCTO1", 0},
-     {"TP_DOCTO2", 0},
-     {"ID_NR_CTL", 0},
-     {"IC_REF_REC", 0},
-     {"NR_DOC_NF", 0},
-     {"Endereço Cobrança", 38},
-     {"Município Cobrança", 24},
-     {"Estado Cobrança", 20},
-     {"CEP Cobrança", 17}}};
-constexpr int linhasVisiveis = 14;
-constexpr int alturaDaFigura = 2;  // lines
+constexpr std::array<GridColumn, billColumns> columns{{{"", 0, ColumnKind::CheckBox},
+                                                       {"Filial", 17},
+                                                       {"Dt.de Vencimento", 21},
+                                                       {"Dt.de Emissão", 17},
+                                                       {"Nº do Documento", 20},
+                                                       {"Cliente", 38},
+                                                       {"Endereço", 38},
+                                                       {"Vlr.do Documento", 21, ColumnKind::Number},
+                                                       {"CEP", 12},
+                                                       {"Município", 24},
+                                                       {"Filial", 8},
+                                                       {"CNPJ / CPF", 22},
+                                                       {"I.E.", 18},
+                                                       {"TP_PES", 0},
+                                                       {"TP_DOCTO1", 0},
+                                                       {"TP_DOCTO2", 0},
+                                                       {"ID_NR_CTL", 0},
+                                                       {"IC_REF_REC", 0},
+                                                       {"NR_DOC_NF", 0},
+                                                       {"Endereço Cobrança", 38},
+                                                       {"Município Cobrança", 24},
+                                                       {"Estado Cobrança", 20},
+                                                       {"CEP Cobrança", 17}}};
+constexpr int visibleLines = 14;
+constexpr int pictureHeight = 2;  // lines
 
 // Decoded at the size shown, however many dots the file has. Nothing for no picture.
-QPixmap miniatura(const Picture& figura, const QSize& espaco) {
-    QByteArray bytes =
-        QByteArray::fromRawData(figura.bytes->data(), static_cast<qsizetype>(figura.bytes->size()));
+QPixmap thumbnail(const Picture& picture, const QSize& space) {
+    QByteArray bytes = QByteArray::fromRawData(picture.bytes->data(),
+                                               static_cast<qsizetype>(picture.bytes->size()));
     QBuffer buffer(&bytes);
-    QImageReader leitor(&buffer);
-    const QSize inteira = leitor.size();
-    if (!inteira.isValid()) {
+    QImageReader reader(&buffer);
+    const QSize whole = reader.size();
+    if (!whole.isValid()) {
         return {};
     }
-    leitor.setScaledSize(inteira.scaled(espaco, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    return QPixmap::fromImage(leitor.read());
+    reader.setScaledSize(whole.scaled(space, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    return QPixmap::fromImage(reader.read());
 }
 
 }  // namespace
@@ -66,116 +65,116 @@ FrmPesqDupli::FrmPesqDupli(DeskContext& desk, QWidget* parent)
     : QDialog(parent),
       desk_(desk),
       ui_(std::make_unique<Ui::FrmPesqDupli>()),
-      documentos_(new GradeModel(colunas, this)) {
+      documents_(new GridModel(columns, this)) {
     ui_->setupUi(this);
-    preparaGrade(*ui_->sprDados, *documentos_);
-    preparaCampos();
-    preparaBotoes();
-    ajustaAGrade(*this, *ui_->sprDados, linhasVisiveis);
+    prepareGrid(*ui_->sprDados, *documents_);
+    prepareFields();
+    prepareButtons();
+    fitToGrid(*this, *ui_->sprDados, visibleLines);
 }
 
 FrmPesqDupli::~FrmPesqDupli() = default;
 
-void FrmPesqDupli::preparaCampos() {
-    preparaCampoCliente(*ui_->txtCliente, desk_.ambiente);
-    preparaDatas({ui_->txtDtEmsDe, ui_->txtDtEmsAte, ui_->txtDtVncDe, ui_->txtDtVncAte},
-                 desk_.ambiente);
-    for (QRadioButton* opcao : {ui_->optDupl, ui_->optTripl}) {
-        QSizePolicy lugar = opcao->sizePolicy();
-        lugar.setRetainSizeWhenHidden(true);
-        opcao->setSizePolicy(lugar);
+void FrmPesqDupli::prepareFields() {
+    prepareCustomerField(*ui_->txtCliente, desk_.environment);
+    prepareDates({ui_->txtDtEmsDe, ui_->txtDtEmsAte, ui_->txtDtVncDe, ui_->txtDtVncAte},
+                 desk_.environment);
+    for (QRadioButton* option : {ui_->optDupl, ui_->optTripl}) {
+        QSizePolicy place = option->sizePolicy();
+        place.setRetainSizeWhenHidden(true);
+        option->setSizePolicy(place);
     }
 }
 
-void FrmPesqDupli::preparaBotoes() {
-    const auto prepara = [this](QPushButton* botao, const char* desenho, auto rotina) {
-        preparaBotao(*botao, desenho);
-        connect(botao, &QPushButton::clicked, this, rotina);
+void FrmPesqDupli::prepareButtons() {
+    const auto prepare = [this](QPushButton* button, const char* pictureName, auto routine) {
+        prepareButton(*button, pictureName);
+        connect(button, &QPushButton::clicked, this, routine);
     };
-    prepara(ui_->cmdPesqCli, "search_customer", &FrmPesqDupli::cmdPesqCli_Click);
-    prepara(ui_->cmdLimpar, "clear", [this] { recebeCliente({}); });
-    prepara(ui_->cmdPesquisar, "search", &FrmPesqDupli::cmdPesquisar_Click);
-    prepara(ui_->cmdVoltar, "close", &QDialog::reject);
-    prepara(ui_->cmdImprimir, "print", &FrmPesqDupli::cmdImprimir_Click);
+    prepare(ui_->cmdPesqCli, "search_customer", &FrmPesqDupli::cmdPesqCli_Click);
+    prepare(ui_->cmdLimpar, "clear", [this] { takeCustomer({}); });
+    prepare(ui_->cmdPesquisar, "search", &FrmPesqDupli::cmdPesquisar_Click);
+    prepare(ui_->cmdVoltar, "close", &QDialog::reject);
+    prepare(ui_->cmdImprimir, "print", &FrmPesqDupli::cmdImprimir_Click);
 }
 
-void FrmPesqDupli::recebeCliente(const Cliente& cliente) {
-    mostraCliente(*ui_->txtCliente, cliente.id, cliente.nome);
+void FrmPesqDupli::takeCustomer(const Customer& customer) {
+    showCustomer(*ui_->txtCliente, customer.id, customer.nome);
 }
 
 // The first activation comes when the screen stands before the user.
 void FrmPesqDupli::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!event->spontaneous()) {
-        QMetaObject::invokeMethod(this, &FrmPesqDupli::ativa, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &FrmPesqDupli::activate, Qt::QueuedConnection);
     }
 }
 
-void FrmPesqDupli::ativa() {
-    encheLista(*ui_->cboTpDocto, tiposDeDocumento());
-    encheLista(*ui_->cboFilial, filiaisParaFiltro(desk_.ambiente, desk_.sessao));
-    figuras_ = carregaFiguras(desk_.ambiente.pastaFiguras);
-    mostraFiguras();
+void FrmPesqDupli::activate() {
+    fillList(*ui_->cboTpDocto, documentKinds());
+    fillList(*ui_->cboFilial, branchesForFilter(desk_.environment, desk_.session));
+    pictures_ = loadPictures(desk_.environment.pictureFolder);
+    showPictures();
 }
 
 // Small, so that the user sees what the pages will show.
-void FrmPesqDupli::mostraFiguras() {
-    const auto mostra = [](QLabel& onde, const std::optional<Picture>& figura) {
-        const int altura = onde.fontMetrics().height() * alturaDaFigura;
-        const QPixmap desenho = figura ? miniatura(*figura, {altura * 4, altura}) : QPixmap();
-        onde.setPixmap(desenho);
-        onde.setVisible(!desenho.isNull());
+void FrmPesqDupli::showPictures() {
+    const auto show = [](QLabel& where, const std::optional<Picture>& picture) {
+        const int height = where.fontMetrics().height() * pictureHeight;
+        const QPixmap pictureName = picture ? thumbnail(*picture, {height * 4, height}) : QPixmap();
+        where.setPixmap(pictureName);
+        where.setVisible(!pictureName.isNull());
     };
-    mostra(*ui_->picLogo, figuras_.picLogo);
-    mostra(*ui_->picVert, figuras_.picVert);
-    mostra(*ui_->picAss, figuras_.picAss);
+    show(*ui_->picLogo, pictures_.picLogo);
+    show(*ui_->picVert, pictures_.picVert);
+    show(*ui_->picAss, pictures_.picAss);
 }
 
 void FrmPesqDupli::cmdPesqCli_Click() {
-    emit procuraCliente();
-    if (!desk_.fim.encerrado()) {
-        ativa();
+    emit customerWanted();
+    if (!desk_.end.ended()) {
+        activate();
     }
 }
 
 void FrmPesqDupli::cmdPesquisar_Click() {
-    const std::string vencimentoAte = ui_->txtDtVncAte->text().toStdString();
-    if (const auto recusa = recusaDaPesquisa(ui_->cboTpDocto->currentIndex(), vencimentoAte)) {
-        desk_.ambiente.boxes.show({std::string(recusa->texto), BoxIcon::Information, "TArn"});
-        const bool tipo = recusa->campo == CampoDaPesquisa::TipoDocumento;
-        (tipo ? static_cast<QWidget*>(ui_->cboTpDocto) : ui_->txtDtVncAte)->setFocus();
+    const std::string dueTo = ui_->txtDtVncAte->text().toStdString();
+    if (const auto refuse = searchRefusal(ui_->cboTpDocto->currentIndex(), dueTo)) {
+        desk_.environment.boxes.show({std::string(refuse->texto), BoxIcon::Information, "TArn"});
+        const bool kind = refuse->field == BillSearchField::DocumentKind;
+        (kind ? static_cast<QWidget*>(ui_->cboTpDocto) : ui_->txtDtVncAte)->setFocus();
         return;
     }
-    const std::int32_t tipo = dadoDaLista(*ui_->cboTpDocto);
-    ui_->optDupl->setVisible(tipo == tipoDuplicata);
-    ui_->optTripl->setVisible(tipo == tipoDuplicata);
-    const std::string cliente = idDoCliente(*ui_->txtCliente);
-    const std::string vencimentoDe = ui_->txtDtVncDe->text().toStdString();
-    const std::string emissaoDe = ui_->txtDtEmsDe->text().toStdString();
-    const std::string emissaoAte = ui_->txtDtEmsAte->text().toStdString();
-    const comando::Pesquisa filtro{.cliente = cliente,
-                                   .filial = dadoDaLista(*ui_->cboFilial),
-                                   .vencimentoDe = vencimentoDe,
-                                   .vencimentoAte = vencimentoAte,
-                                   .emissaoDe = emissaoDe,
-                                   .emissaoAte = emissaoAte};
-    if (auto linhas = pesquisaDuplicatas(desk_.ambiente, desk_.sessao, tipo, filtro)) {
-        documentos_->mostra(std::move(*linhas));
-        ui_->sprDados->setCurrentIndex(documentos_->index(0, 0));
+    const std::int32_t kind = currentItemData(*ui_->cboTpDocto);
+    ui_->optDupl->setVisible(kind == billKind);
+    ui_->optTripl->setVisible(kind == billKind);
+    const std::string customer = customerId(*ui_->txtCliente);
+    const std::string dueFrom = ui_->txtDtVncDe->text().toStdString();
+    const std::string issuedFrom = ui_->txtDtEmsDe->text().toStdString();
+    const std::string issuedTo = ui_->txtDtEmsAte->text().toStdString();
+    const commands::SearchFilter filter{.customer = customer,
+                                        .branch = currentItemData(*ui_->cboFilial),
+                                        .dueFrom = dueFrom,
+                                        .dueTo = dueTo,
+                                        .issuedFrom = issuedFrom,
+                                        .issuedTo = issuedTo};
+    if (auto linhas = searchBills(desk_.environment, desk_.session, kind, filter)) {
+        documents_->show(std::move(*linhas));
+        ui_->sprDados->setCurrentIndex(documents_->index(0, 0));
     }
 }
 
 void FrmPesqDupli::cmdImprimir_Click() {
-    Andamento andamento(*this);
-    imprimeSelecionados(desk_.ambiente, desk_.sessao,
-                        {.linhas = documentos_->linhas(),
-                         .triplicata = !ui_->optDupl->isChecked(),
-                         .figuras = figuras_},
-                        andamento.avisos());
+    ProgressWindow progress(*this);
+    printSelected(desk_.environment, desk_.session,
+                  {.linhas = documents_->linhas(),
+                   .triplicate = !ui_->optDupl->isChecked(),
+                   .pictures = pictures_},
+                  progress.notices());
 }
 
 void FrmPesqDupli::keyPressEvent(QKeyEvent* event) {
-    if (!enterNoBotao(*this, *event)) {
+    if (!enterPressesButton(*this, *event)) {
         QDialog::keyPressEvent(event);
     }
 }

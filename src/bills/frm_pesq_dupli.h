@@ -14,7 +14,7 @@ class FrmPesqDupli;
 
 namespace tarn {
 
-class GradeModel;
+class GridModel;
 
 class FrmPesqDupli : public QDialog {
     Q_OBJECT
@@ -24,22 +24,22 @@ public:
     ~FrmPesqDupli() override;
 
     // The customer to search for, also before the screen is shown.
-    void recebeCliente(const Cliente& cliente);
+    void takeCustomer(const Customer& customer);
 
 signals:
     // To be answered by the customer dialog, which has closed when this returns.
-    void procuraCliente();
+    void customerWanted();
 
 protected:
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void preparaCampos();
-    void preparaBotoes();
+    void prepareFields();
+    void prepareButtons();
     // On every activation: both lists are filled anew, the pictures read again.
-    void ativa();
-    void mostraFiguras();
+    void activate();
+    void showPictures();
 
     void cmdPesqCli_Click();
     void cmdPesquisar_Click();
@@ -47,8 +47,8 @@ private:
 
     DeskContext& desk_;
     std::unique_ptr<Ui::FrmPesqDupli> ui_;
-    GradeModel* documentos_;
-    FigurasDuplicata figuras_;
+    GridModel* documents_;
+    BillPictures pictures_;
 };
 
 }  // namespace tarn

@@ -4,28 +4,28 @@
 
 namespace tarn {
 
-void desenhaCabecalho(Papel& papel, const Emitente& emitente, const LinhaGrade& documento,
-                      const Cabecalho& cabecalho) {
-    const DadosEmpresa& dados = emitente.dados;
-    papel.risca(margemEsquerda, 0.9, margemDireita, 0.9, 15);
-    papel.figura(emitente.figuras.picLogo, 1.6, 1.3);
-    papel.ImprimeLinha(dados.DC_RAZ_SOC_ETB, 11, 1.6, 9);
-    papel.ImprimeLinha(dados.DC_LG + " - " + " - " + dados.NM_BRR, 11, 2.0, 6);
-    papel.ImprimeLinha("CEP: " + dados.CD_CEP + cabecalho.localidade, 11, 2.4, 6);
-    papel.ImprimeLinha("Inscrição " + dados.inscricaoFederal, 11, 2.8, 6);
-    papel.ImprimeLinha("Inscrição Estadual - " + dados.CD_ICR_EST, 11, 3.2, 6);
-    papel.ImprimeLinha(
-        "TEL.:" + dados.TELEFONE + " - FAX.:" + dados.FAX + " - E-MAIL:" + dados.EMAIL, 11, 3.6, 6);
-    papel.ImprimeLinha(cabecalho.rotuloEmissao, 11, 4.0, 8);
-    papel.ImprimeLinha(documento.coluna(coluna_duplicata::emissao), 14.3, 4.0, 8);
+void drawHeader(BillPage& paper, const Issuer& issuer, const GridRow& documento,
+                const PageHeader& header) {
+    const CompanyData& data = issuer.data;
+    paper.drawLine(leftMargin, 0.9, rightMargin, 0.9, 15);
+    paper.picture(issuer.pictures.picLogo, 1.6, 1.3);
+    paper.ImprimeLinha(data.DC_RAZ_SOC_ETB, 11, 1.6, 9);
+    paper.ImprimeLinha(data.DC_LG + " - " + " - " + data.NM_BRR, 11, 2.0, 6);
+    paper.ImprimeLinha("CEP: " + data.CD_CEP + header.place, 11, 2.4, 6);
+    paper.ImprimeLinha("Inscrição " + data.federalNumber, 11, 2.8, 6);
+    paper.ImprimeLinha("Inscrição Estadual - " + data.CD_ICR_EST, 11, 3.2, 6);
+    paper.ImprimeLinha("TEL.:" + data.TELEFONE + " - FAX.:" + data.FAX + " - E-MAIL:" + data.EMAIL,
+                       11, 3.6, 6);
+    paper.ImprimeLinha(header.issuedLabel, 11, 4.0, 8);
+    paper.ImprimeLinha(documento.coluna(bill_column::issued), 14.3, 4.0, 8);
 }
 
-void desenhaPedacos(Papel& papel, std::string_view tira, std::size_t caracteres, double x,
-                    std::initializer_list<double> alturas, double tamanho) {
-    std::size_t inicio = 1;
-    for (const double y : alturas) {
-        papel.ImprimeLinha(midOf(tira, inicio, caracteres), x, y, tamanho, true, "Courier New");
-        inicio += caracteres;
+void drawPieces(BillPage& paper, std::string_view strip, std::size_t characters, double x,
+                std::initializer_list<double> heights, double tamanho) {
+    std::size_t start = 1;
+    for (const double y : heights) {
+        paper.ImprimeLinha(midOf(strip, start, characters), x, y, tamanho, true, "Courier New");
+        start += characters;
     }
 }
 

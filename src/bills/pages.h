@@ -13,32 +13,32 @@
 namespace tarn {
 
 // What all pages of a run have in common.
-struct Emitente {
-    std::int32_t empresa = 0;  // the session's company
-    DadosEmpresa dados;
-    FigurasDuplicata figuras;
-    bool triplicata = false;
+struct Issuer {
+    std::int32_t company = 0;  // the session's company
+    CompanyData data;
+    BillPictures pictures;
+    bool triplicate = false;
 };
 
-// `extenso` is the amount in words.
-void desenhaDuplicata(Papel& papel, const Emitente& emitente, const LinhaGrade& documento,
-                      const std::string& extenso);
-void desenhaRecibo(Papel& papel, const Emitente& emitente, const LinhaGrade& documento,
-                   const std::string& extenso);
+// `inWords` is the amount in words.
+void drawBill(BillPage& paper, const Issuer& issuer, const GridRow& documento,
+              const std::string& inWords);
+void drawReceipt(BillPage& paper, const Issuer& issuer, const GridRow& documento,
+                 const std::string& inWords);
 
 // What tells the two headers apart.
-struct Cabecalho {
-    std::string_view rotuloEmissao;
-    std::string localidade;
+struct PageHeader {
+    std::string_view issuedLabel;
+    std::string place;
 };
-void desenhaCabecalho(Papel& papel, const Emitente& emitente, const LinhaGrade& documento,
-                      const Cabecalho& cabecalho);
+void drawHeader(BillPage& paper, const Issuer& issuer, const GridRow& documento,
+                const PageHeader& header);
 
 // Piece after piece of so many characters, one at each height, in the typewriter face.
-void desenhaPedacos(Papel& papel, std::string_view tira, std::size_t caracteres, double x,
-                    std::initializer_list<double> alturas, double tamanho);
+void drawPieces(BillPage& paper, std::string_view strip, std::size_t characters, double x,
+                std::initializer_list<double> heights, double tamanho);
 
-inline constexpr double margemEsquerda = 1.1;
-inline constexpr double margemDireita = 20.3;
+inline constexpr double leftMargin = 1.1;
+inline constexpr double rightMargin = 20.3;
 
 }  // namespace tarn

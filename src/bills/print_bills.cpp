@@ -21,88 +21,88 @@ namespace tarn {
 namespace {
 
 // Types drawn as bills. The report at the end knows fewer of them.
-constexpr std::array<double, 5> tiposDesenhados{1, 201, 202, 203, 262};
-constexpr std::size_t tiposRelatados = 4;
+constexpr std::array<double, 5> drawnKinds{1, 201, 202, 203, 262};
+constexpr std::size_t reportedKinds = 4;
 
-bool eUmDe(std::span<const double> tipos, const LinhaGrade& documento) {
-    const auto tipo = parseComma(documento.coluna(coluna_duplicata::tipoDocumento));
-    return tipo && std::ranges::find(tipos, *tipo) != tipos.end();
+bool isOneOf(std::span<const double> kinds, const GridRow& documento) {
+    const auto kind = parseComma(documento.coluna(bill_column::documentKind));
+    return kind && std::ranges::find(kinds, *kind) != kinds.end();
 }
 
-std::string extensoDe(const LinhaGrade& documento) {
-    const std::string& valor = documento.coluna(coluna_duplicata::valor);
-    const auto numero = parseComma(valor);
-    if (!numero) {
-        throw ErroExecucao(ErroNumero::TipoIncompativel,
-                           "o documento nº " + documento.coluna(coluna_duplicata::numero) +
+std::string wordsOf(const GridRow& documento) {
+    const std::string& valor = documento.coluna(bill_column::valor);
+    const auto number = parseComma(valor);
+    if (!number) {
+        throw RuntimeError(RuntimeErrorCode::TypeMismatch,
+                           "o documento nº " + documento.coluna(bill_column::number) +
                                " está sem valor (\"" + valor + "\")");
     }
-    return ValorExtenso(*numero, "REAIS", "REAL");
+    return ValorExtenso(*number, "REAIS", "REAL");
 }
 
-void desenha(Papel& papel, const Emitente& emitente, const LinhaGrade& documento) {
-    const std::string extenso = extensoDe(documento);
-    if (eUmDe(tiposDesenhados, documento)) {
-        desenhaDuplicata(papel, emitente, documento, extenso);
+void draw(BillPage& paper, const Issuer& issuer, const GridRow& documento) {
+    const std::string inWords = wordsOf(documento);
+    if (isOneOf(drawnKinds, documento)) {
+        drawBill(paper, issuer, documento, inWords);
     } else {
-        desenhaRecibo(papel, emitente, documento, extenso);
+        drawReceipt(paper, issuer, documento, inWords);
     }
-    papel.novaPagina();
+    paper.newPage();
 }
 
-void informa(Environment& ambiente, const std::string& texto) {
-    ambiente.boxes.show({.text = texto, .icon = BoxIcon::Information, .title = "TArn"});
+void inform(Environment& environment, const std::string& texto) {
+    environment.boxes.show({.text = texto, .icon = BoxIcon::Information, .title = "TArn"});
 }
 
-std::string mensagemFinal(const DocumentosAImprimir& documentos) {
-    const auto relatados = std::span(tiposDesenhados).first<tiposRelatados>();
-    if (!eUmDe(relatados, documentos.linhas.back())) {
+std::string finalMessage(const BillRun& documents) {
+    const auto reported = std::span(drawnKinds).first<reportedKinds>();
+    if (!isOneOf(reported, documents.linhas.back())) {
         return "Recibo(s) impresso(s) com sucesso!     ";
     }
-    const std::string especie = documentos.triplicata ? "Triplicata(s) " : "Duplicata(s) ";
-    return especie + " impressa(s) com sucesso!     ";
+    const std::string kindName = documents.triplicate ? "Triplicata(s) " : "Duplicata(s) ";
+    return kindName + " impressa(s) com sucesso!     ";
 }
 
 }  // namespace
 
-void imprimeSelecionados(Environment& ambiente, const Sessao& sessao,
-                         const DocumentosAImprimir& documentos, const Progress& progress) {
-    XmlDocument resposta;
+void printSelected(Environment& environment, const Sessao& session, const BillRun& documents,
+                   const Progress& progress) {
+    XmlDocument answer;
     // Without an answer the row is missing, which ends the program.
-    pede(ambiente, comando::sel_dados_empresa(sessao), resposta, falha::Tarn0009);
-    imprimeDocumentos(ambiente, sessao.NCOMPANYCODE, resposta, documentos, progress);
+    requestAnswer(environment, commands::sel_dados_empresa(session), answer, failure::Tarn0009);
+    printBills(environment, session.NCOMPANYCODE, answer, documents, progress);
 }
 
-void imprimeDocumentos(Environment& ambiente, std::int32_t empresa, const XmlDocument& dadosEmpresa,
-                       const DocumentosAImprimir& documentos, const Progress& progress) {
-    const Emitente emitente{.empresa = empresa,
-                            .dados = dadosDaEmpresa(dadosEmpresa),
-                            .figuras = documentos.figuras,
-                            .triplicata = documentos.triplicata};
-    const auto paginas =
-        static_cast<std::size_t>(std::ranges::count(documentos.linhas, true, &LinhaGrade::marcada));
-    if (paginas == 0) {
-        return informa(ambiente, "Selecione um documento.     ");
+void printBills(Environment& environment, std::int32_t company, const XmlDocument& companyData,
+                const BillRun& documents, const Progress& progress) {
+    const Issuer issuer{.company = company,
+                        .data = companyDataOf(companyData),
+                        .pictures = documents.pictures,
+                        .triplicate = documents.triplicate};
+    const auto pages =
+        static_cast<std::size_t>(std::ranges::count(documents.linhas, true, &GridRow::ticked));
+    if (pages == 0) {
+        return inform(environment, "Selecione um documento.     ");
     }
-    const auto avisa = [&progress, paginas](std::size_t feitas) {
+    const auto report = [&progress, pages](std::size_t done) {
         if (progress) {
-            progress(feitas, paginas);
+            progress(done, pages);
         }
     };
-    avisa(0);
-    Papel papel(ambiente.printer);
-    papel.prepara();
-    for (const LinhaGrade& documento : documentos.linhas) {
-        if (documento.marcada) {
-            desenha(papel, emitente, documento);
+    report(0);
+    BillPage paper(environment.printer);
+    paper.prepare();
+    for (const GridRow& documento : documents.linhas) {
+        if (documento.ticked) {
+            draw(paper, issuer, documento);
         }
     }
-    papel.termina(progress);
-    avisa(paginas);
-    if (papel.falha()) {
-        return mostraFalha(ambiente, *papel.falha());
+    paper.finish(progress);
+    report(pages);
+    if (paper.failure()) {
+        return showFailure(environment, *paper.failure());
     }
-    informa(ambiente, mensagemFinal(documentos));
+    inform(environment, finalMessage(documents));
 }
 
 }  // namespace tarn

@@ -14,20 +14,20 @@ class XmlDocument;
 struct Environment;
 struct Sessao;
 
-struct DocumentosAImprimir {
-    const std::vector<LinhaGrade>& linhas;  // all rows of the grid
-    bool triplicata = false;
-    const FigurasDuplicata& figuras;
+struct BillRun {
+    const std::vector<GridRow>& linhas;  // all rows of the grid
+    bool triplicate = false;
+    const BillPictures& pictures;
 };
 
 // Asks for the company's data and prints; tells how it ended.
-void imprimeSelecionados(Environment& ambiente, const Sessao& sessao,
-                         const DocumentosAImprimir& documentos, const Progress& progress);
+void printSelected(Environment& environment, const Sessao& session, const BillRun& documents,
+                   const Progress& progress);
 
 // The same with the company's data at hand. A ticked row without an amount raises
 // TipoIncompativel before its page, and the document is never ended. Where the printer
 // fails at more than a text the user reads its words instead of the success.
-void imprimeDocumentos(Environment& ambiente, std::int32_t empresa, const XmlDocument& dadosEmpresa,
-                       const DocumentosAImprimir& documentos, const Progress& progress);
+void printBills(Environment& environment, std::int32_t company, const XmlDocument& companyData,
+                const BillRun& documents, const Progress& progress);
 
 }  // namespace tarn

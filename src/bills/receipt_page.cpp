@@ -4,76 +4,75 @@
 namespace tarn {
 namespace {
 
-namespace coluna = coluna_duplicata;
+namespace coluna = bill_column;
 
-constexpr std::size_t pedaco = 60;  // characters of a line of words or reference
+constexpr std::size_t piece = 60;  // characters of a line of words or reference
 
-std::string tiraDoValor(const std::string& extenso) {
-    constexpr std::size_t hifens = 282;
-    return extenso + " " + std::string(hifens, '-');
+std::string amountStrip(const std::string& inWords) {
+    constexpr std::size_t hyphens = 282;
+    return inWords + " " + std::string(hyphens, '-');
 }
 
-std::string tiraDaReferencia(const std::string& referencia) {
-    constexpr std::size_t brancos = 300;
-    return referencia + std::string(brancos, ' ');
+std::string referenceStrip(const std::string& reference) {
+    constexpr std::size_t blanks = 300;
+    return reference + std::string(blanks, ' ');
 }
 
-void titulo(Papel& papel, const LinhaGrade& documento) {
-    papel.risca(margemEsquerda, 4.05, margemDireita, 4.05, 6);
-    papel.ImprimeLinha("Nº " + documento.coluna(coluna::numero), 2, 5, 14);
-    papel.ImprimeLinha("RECIBO", 9.8, 5, 16);
-    papel.ImprimeLinha("R$ " + documento.coluna(coluna::valor), 16, 5, 14);
-    papel.risca(margemEsquerda, 5.5, margemDireita, 5.5, 6);
+void title(BillPage& paper, const GridRow& documento) {
+    paper.drawLine(leftMargin, 4.05, rightMargin, 4.05, 6);
+    paper.ImprimeLinha("Nº " + documento.coluna(coluna::number), 2, 5, 14);
+    paper.ImprimeLinha("RECIBO", 9.8, 5, 16);
+    paper.ImprimeLinha("R$ " + documento.coluna(coluna::valor), 16, 5, 14);
+    paper.drawLine(leftMargin, 5.5, rightMargin, 5.5, 6);
 }
 
-void sacado(Papel& papel, const LinhaGrade& documento) {
-    const bool juridica = documento.coluna(coluna::tipoPessoa) == "J";
-    papel.ImprimeLinha("Nome do Sacado", 2, 6.5, 10);
-    papel.ImprimeLinha(documento.coluna(coluna::cliente), 5, 6.5, 10);
-    papel.ImprimeLinha("Endereço", 2, 7.2, 10);
-    papel.ImprimeLinha(documento.coluna(coluna::endereco), 5, 7.2, 10);
-    papel.ImprimeLinha("Município", 2, 7.9, 10);
-    papel.ImprimeLinha(documento.coluna(coluna::municipio), 5, 7.9, 10);
-    papel.ImprimeLinha("Estado", 10, 7.9, 10);
-    papel.ImprimeLinha(documento.coluna(coluna::estado), 11.5, 7.9, 10);
-    papel.ImprimeLinha("CEP", 16.5, 7.9, 10);
-    papel.ImprimeLinha(documento.coluna(coluna::cep), 18, 7.9, 10);
-    papel.ImprimeLinha(juridica ? "CNPJ Nº" : "CPF Nº", 2, 8.6, 10);
-    papel.ImprimeLinha(documento.coluna(coluna::cpfCnpj), 5, 8.6, 10);
-    papel.ImprimeLinha("I.E. Nº", 14.5, 8.6, 10);
-    papel.ImprimeLinha(documento.coluna(coluna::inscricao), 16, 8.6, 10);
+void payer(BillPage& paper, const GridRow& documento) {
+    const bool legalPerson = documento.coluna(coluna::personKind) == "J";
+    paper.ImprimeLinha("Nome do Sacado", 2, 6.5, 10);
+    paper.ImprimeLinha(documento.coluna(coluna::customer), 5, 6.5, 10);
+    paper.ImprimeLinha("Endereço", 2, 7.2, 10);
+    paper.ImprimeLinha(documento.coluna(coluna::address), 5, 7.2, 10);
+    paper.ImprimeLinha("Município", 2, 7.9, 10);
+    paper.ImprimeLinha(documento.coluna(coluna::town), 5, 7.9, 10);
+    paper.ImprimeLinha("Estado", 10, 7.9, 10);
+    paper.ImprimeLinha(documento.coluna(coluna::state), 11.5, 7.9, 10);
+    paper.ImprimeLinha("CEP", 16.5, 7.9, 10);
+    paper.ImprimeLinha(documento.coluna(coluna::cep), 18, 7.9, 10);
+    paper.ImprimeLinha(legalPerson ? "CNPJ Nº" : "CPF Nº", 2, 8.6, 10);
+    paper.ImprimeLinha(documento.coluna(coluna::cpfCnpj), 5, 8.6, 10);
+    paper.ImprimeLinha("I.E. Nº", 14.5, 8.6, 10);
+    paper.ImprimeLinha(documento.coluna(coluna::registration), 16, 8.6, 10);
 }
 
-void valorEReferencia(Papel& papel, const LinhaGrade& documento, const std::string& extenso) {
-    papel.ImprimeLinha(" VALOR ", 2, 9.3, 10);
-    papel.ImprimeLinha("  POR  ", 2, 9.7, 10);
-    papel.ImprimeLinha("EXTENSO", 2, 10.1, 10);
-    desenhaPedacos(papel, tiraDoValor(extenso), pedaco, 5, {9.3, 9.7, 10.1}, 11);
-    papel.ImprimeLinha("Referente a ", 2, 10.8, 10);
-    desenhaPedacos(papel, tiraDaReferencia(documento.coluna(coluna::referencia)), pedaco, 5,
-                   {10.8, 11.2, 11.6, 12, 12.4}, 11);
+void amountAndReference(BillPage& paper, const GridRow& documento, const std::string& inWords) {
+    paper.ImprimeLinha(" VALOR ", 2, 9.3, 10);
+    paper.ImprimeLinha("  POR  ", 2, 9.7, 10);
+    paper.ImprimeLinha("EXTENSO", 2, 10.1, 10);
+    drawPieces(paper, amountStrip(inWords), piece, 5, {9.3, 9.7, 10.1}, 11);
+    paper.ImprimeLinha("Referente a ", 2, 10.8, 10);
+    drawPieces(paper, referenceStrip(documento.coluna(coluna::reference)), piece, 5,
+               {10.8, 11.2, 11.6, 12, 12.4}, 11);
 }
 
-void assinatura(Papel& papel) {
-    papel.risca(2.8, 13.2, 7, 13.2, 2);
-    papel.ImprimeLinha(" /          /", 4.2, 13.3, 10);
-    papel.ImprimeLinha("DATA RECEBIMENTO", 3.7, 13.7, 10);
-    papel.risca(13, 13.2, 19, 13.2, 3);
-    papel.ImprimeLinha("ASSINATURA EMPRESA", 14.7, 13.7, 10);
-    papel.risca(margemEsquerda, 13.8, margemDireita, 13.8, 10);
+void signature(BillPage& paper) {
+    paper.drawLine(2.8, 13.2, 7, 13.2, 2);
+    paper.ImprimeLinha(" /          /", 4.2, 13.3, 10);
+    paper.ImprimeLinha("DATA RECEBIMENTO", 3.7, 13.7, 10);
+    paper.drawLine(13, 13.2, 19, 13.2, 3);
+    paper.ImprimeLinha("ASSINATURA EMPRESA", 14.7, 13.7, 10);
+    paper.drawLine(leftMargin, 13.8, rightMargin, 13.8, 10);
 }
 
 }  // namespace
 
-void desenhaRecibo(Papel& papel, const Emitente& emitente, const LinhaGrade& documento,
-                   const std::string& extenso) {
-    desenhaCabecalho(papel, emitente, documento,
-                     {.rotuloEmissao = "DATA DE EMISSAO:",
-                      .localidade = " - Estado de " + emitente.dados.NM_UF});
-    titulo(papel, documento);
-    sacado(papel, documento);
-    valorEReferencia(papel, documento, extenso);
-    assinatura(papel);
+void drawReceipt(BillPage& paper, const Issuer& issuer, const GridRow& documento,
+                 const std::string& inWords) {
+    drawHeader(paper, issuer, documento,
+               {.issuedLabel = "DATA DE EMISSAO:", .place = " - Estado de " + issuer.data.NM_UF});
+    title(paper, documento);
+    payer(paper, documento);
+    amountAndReference(paper, documento, inWords);
+    signature(paper);
 }
 
 }  // namespace tarn

@@ -13,18 +13,18 @@
 namespace tarn {
 namespace {
 
-constexpr int maximoNumero = 15;
-constexpr int maximoSerie = 15;
-constexpr int maximoValor = 20;
-constexpr int maximoFavorecido = 50;
-constexpr int maximoObservacao = 250;
+constexpr int maxNumber = 15;
+constexpr int maxSeries = 15;
+constexpr int maxAmount = 20;
+constexpr int maxPayee = 50;
+constexpr int maxObservation = 250;
 // Widths and heights in characters and lines.
-constexpr int larguraTela = 76;
-constexpr int larguraCurta = 26;
-constexpr int linhasObservacao = 5;
-constexpr int esperaDoClique = 20;  // milliseconds between two looks at the mouse
+constexpr int screenWidth = 76;
+constexpr int shortWidth = 26;
+constexpr int observationLines = 5;
+constexpr int clickWait = 20;  // milliseconds between two looks at the mouse
 
-bool ehEnter(const QKeyEvent& tecla) {
+bool isEnter(const QKeyEvent& tecla) {
     return tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter;
 }
 
@@ -33,117 +33,117 @@ bool ehEnter(const QKeyEvent& tecla) {
 frmCheque::frmCheque(DeskContext& desk, QWidget* parent)
     : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::frmCheque>()) {
     ui_->setupUi(this);
-    espera_.setObjectName(QStringLiteral("Espera"));
-    espera_.setSingleShot(true);
-    connect(&espera_, &QTimer::timeout, this, &frmCheque::Espera_Timer);
-    preparaCampos();
-    preparaBotoes();
+    wait_.setObjectName(QStringLiteral("Espera"));
+    wait_.setSingleShot(true);
+    connect(&wait_, &QTimer::timeout, this, &frmCheque::Espera_Timer);
+    prepareFields();
+    prepareButtons();
 }
 
 frmCheque::~frmCheque() = default;
 
-void frmCheque::preparaCampos() {
-    Environment& ambiente = desk_.ambiente;
+void frmCheque::prepareFields() {
+    Environment& environment = desk_.environment;
     ui_->cboBancoAgConta->installEventFilter(this);
-    ui_->txtNumeroCheque->setMaxLength(maximoNumero);
-    ui_->txtSerie->setMaxLength(maximoSerie);
-    ui_->txtValor->setMaxLength(maximoValor);
-    ui_->txtFavorecido->setMaxLength(maximoFavorecido);
-    ui_->txtObservacao->setMaxLength(maximoObservacao);
-    auto* numero = new FieldController(ui_->txtNumeroCheque, KeyFilter::NumeroInteiro, ambiente);
-    auto* serie = new FieldController(ui_->txtSerie, KeyFilter::None, ambiente,
-                                      FieldController::EnterKey::TabOnly);
-    new MoneyField(ui_->txtValor, ambiente);
-    new FieldController(ui_->txtFavorecido, KeyFilter::None, ambiente,
+    ui_->txtNumeroCheque->setMaxLength(maxNumber);
+    ui_->txtSerie->setMaxLength(maxSeries);
+    ui_->txtValor->setMaxLength(maxAmount);
+    ui_->txtFavorecido->setMaxLength(maxPayee);
+    ui_->txtObservacao->setMaxLength(maxObservation);
+    auto* number = new FieldController(ui_->txtNumeroCheque, KeyFilter::Integer, environment);
+    auto* series = new FieldController(ui_->txtSerie, KeyFilter::None, environment,
+                                       FieldController::EnterKey::TabOnly);
+    new MoneyField(ui_->txtValor, environment);
+    new FieldController(ui_->txtFavorecido, KeyFilter::None, environment,
                         FieldController::EnterKey::TabOnly);
-    new DateField(ui_->txtDtDeposito, KeyFilter::NumeroInteiro, ambiente,
-                  DateField::Test::Calendar);
-    onlyTakes(*ui_->txtNumeroCheque, QStringLiteral("[0-9]*"), ambiente.machine);
-    onlyTakes(*ui_->txtValor, QStringLiteral("[0-9.,]*"), ambiente.machine);
-    for (const FieldController* chave : {numero, serie}) {
-        connect(chave, &FieldController::wasLeft, &espera_, [this] { espera_.start(0); });
+    new DateField(ui_->txtDtDeposito, KeyFilter::Integer, environment, DateField::Test::Calendar);
+    onlyTakes(*ui_->txtNumeroCheque, QStringLiteral("[0-9]*"), environment.machine);
+    onlyTakes(*ui_->txtValor, QStringLiteral("[0-9.,]*"), environment.machine);
+    for (const FieldController* key : {number, series}) {
+        connect(key, &FieldController::wasLeft, &wait_, [this] { wait_.start(0); });
     }
-    const int caractere = fontMetrics().averageCharWidth();
-    ui_->cboBancoAgConta->setMinimumWidth(caractere * larguraTela);
-    for (QLineEdit* curto :
+    const int character = fontMetrics().averageCharWidth();
+    ui_->cboBancoAgConta->setMinimumWidth(character * screenWidth);
+    for (QLineEdit* shortField :
          {ui_->txtNumeroCheque, ui_->txtSerie, ui_->txtValor, ui_->txtDtDeposito}) {
-        curto->setFixedWidth(caractere * larguraCurta);
+        shortField->setFixedWidth(character * shortWidth);
     }
-    ui_->txtObservacao->setVisibleLines(linhasObservacao);
+    ui_->txtObservacao->setVisibleLines(observationLines);
 }
 
-void frmCheque::preparaBotoes() {
-    const int lado = fontMetrics().height() * 2;
-    ui_->cmdImprimir->setIcon(figura(QStringLiteral("print_cheque")));
-    ui_->cmdCancelar->setIcon(figura(QStringLiteral("give_up")));
-    for (QPushButton* botao : {ui_->cmdImprimir, ui_->cmdCancelar}) {
-        botao->setIconSize({lado, lado});
+void frmCheque::prepareButtons() {
+    const int side = fontMetrics().height() * 2;
+    ui_->cmdImprimir->setIcon(picture(QStringLiteral("print_cheque")));
+    ui_->cmdCancelar->setIcon(picture(QStringLiteral("give_up")));
+    for (QPushButton* button : {ui_->cmdImprimir, ui_->cmdCancelar}) {
+        button->setIconSize({side, side});
     }
     connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmCheque::cmdImprimir_Click);
     connect(ui_->cmdCancelar, &QPushButton::clicked, this, &frmCheque::cmdCancelar_Click);
 }
 
-void frmCheque::carrega() {
+void frmCheque::load() {
     Carrega_CboBancoAgConta();
-    ui_->txtDtDeposito->setText(QString::fromStdString(desk_.sessao.DATA));
+    ui_->txtDtDeposito->setText(QString::fromStdString(desk_.session.DATA));
 }
 
 void frmCheque::Carrega_CboBancoAgConta() {
-    auto contas = carregaContas(desk_.ambiente, desk_.sessao);
-    if (!contas) {
+    auto accounts = loadAccounts(desk_.environment, desk_.session);
+    if (!accounts) {
         return;
     }
-    contas_ = std::move(*contas);
+    accounts_ = std::move(*accounts);
     ui_->cboBancoAgConta->clear();
-    for (const ContaBancaria& conta : contas_) {
-        ui_->cboBancoAgConta->addItem(QString::fromStdString(conta.descricao), conta.ID_PES_BAN);
+    for (const BankAccount& account : accounts_) {
+        ui_->cboBancoAgConta->addItem(QString::fromStdString(account.description),
+                                      account.ID_PES_BAN);
     }
     ui_->cboBancoAgConta->setCurrentIndex(0);
 }
 
-CamposCheque frmCheque::campos() const {
-    CamposCheque campos{.numero = ui_->txtNumeroCheque->text().toStdString(),
-                        .serie = ui_->txtSerie->text().toStdString(),
+ChequeFields frmCheque::fields() const {
+    ChequeFields fields{.number = ui_->txtNumeroCheque->text().toStdString(),
+                        .series = ui_->txtSerie->text().toStdString(),
                         .valor = ui_->txtValor->text().toStdString(),
-                        .favorecido = ui_->txtFavorecido->text().toStdString(),
-                        .dataDeposito = ui_->txtDtDeposito->text().toStdString(),
-                        .observacao = ui_->txtObservacao->text()};
-    if (const int posicao = ui_->cboBancoAgConta->currentIndex(); posicao > 0) {
-        campos.conta = contas_[static_cast<std::size_t>(posicao)];
+                        .payee = ui_->txtFavorecido->text().toStdString(),
+                        .depositDate = ui_->txtDtDeposito->text().toStdString(),
+                        .observation = ui_->txtObservacao->text()};
+    if (const int position = ui_->cboBancoAgConta->currentIndex(); position > 0) {
+        fields.account = accounts_[static_cast<std::size_t>(position)];
     }
-    return campos;
+    return fields;
 }
 
-QWidget& frmCheque::campo(CampoDoCheque qual) const {
-    switch (qual) {
-        case CampoDoCheque::Numero:
+QWidget& frmCheque::field(ChequeField which) const {
+    switch (which) {
+        case ChequeField::Number:
             return *ui_->txtNumeroCheque;
-        case CampoDoCheque::Serie:
+        case ChequeField::Series:
             return *ui_->txtSerie;
-        case CampoDoCheque::Valor:
+        case ChequeField::Amount:
             return *ui_->txtValor;
-        case CampoDoCheque::Favorecido:
+        case ChequeField::Payee:
             return *ui_->txtFavorecido;
-        case CampoDoCheque::DataDeposito:
+        case ChequeField::DepositDate:
             return *ui_->txtDtDeposito;
-        case CampoDoCheque::Conta:
+        case ChequeField::Account:
             break;
     }
     return *ui_->cboBancoAgConta;
 }
 
-bool frmCheque::recusado(const std::optional<RecusaDoCheque>& recusa) {
-    if (recusa) {
-        exclama(desk_.ambiente, recusa->texto);
-        campo(recusa->campo).setFocus();
+bool frmCheque::refused(const std::optional<ChequeRefusal>& refuse) {
+    if (refuse) {
+        warn(desk_.environment, refuse->texto);
+        field(refuse->field).setFocus();
     }
-    return recusa.has_value();
+    return refuse.has_value();
 }
 
 // Account, series and date stay for the next cheque of the book.
-void frmCheque::esvazia() {
-    for (QLineEdit* campo : {ui_->txtNumeroCheque, ui_->txtValor, ui_->txtFavorecido}) {
-        campo->setText({});
+void frmCheque::clearFields() {
+    for (QLineEdit* field : {ui_->txtNumeroCheque, ui_->txtValor, ui_->txtFavorecido}) {
+        field->setText({});
     }
     ui_->txtObservacao->loadText({});
 }
@@ -153,47 +153,47 @@ void frmCheque::esvazia() {
 void frmCheque::Espera_Timer() {
     if (QGuiApplication::mouseButtons() != Qt::NoButton ||
         QApplication::activePopupWidget() != nullptr) {
-        espera_.start(esperaDoClique);
+        wait_.start(clickWait);
     } else {
-        confereNumero();
+        checkNumber();
     }
 }
 
-void frmCheque::confereNumero() {
-    if (const auto recusa = recusaDoNumero(desk_.ambiente, desk_.sessao, campos())) {
-        exclama(desk_.ambiente, recusa->texto);
+void frmCheque::checkNumber() {
+    if (const auto refuse = numberRefusal(desk_.environment, desk_.session, fields())) {
+        warn(desk_.environment, refuse->texto);
     }
 }
 
 // A click that took the focus counts after what its leaving asks for.
-void frmCheque::confereAntesDoClique() {
-    if (espera_.isActive()) {
-        espera_.stop();
-        confereNumero();
+void frmCheque::checkBeforeClick() {
+    if (wait_.isActive()) {
+        wait_.stop();
+        checkNumber();
     }
 }
 
 void frmCheque::cmdImprimir_Click() {
-    confereAntesDoClique();
-    const CamposCheque cheque = campos();
-    if (recusado(recusaDosCampos(cheque)) ||
-        recusado(recusaDoNumero(desk_.ambiente, desk_.sessao, cheque))) {
+    checkBeforeClick();
+    const ChequeFields cheque = fields();
+    if (refused(fieldRefusal(cheque)) ||
+        refused(numberRefusal(desk_.environment, desk_.session, cheque))) {
         return;
     }
-    if (emiteCheque(desk_.ambiente, desk_.sessao, cheque)) {
-        esvazia();
+    if (issueCheque(desk_.environment, desk_.session, cheque)) {
+        clearFields();
         ui_->txtNumeroCheque->setFocus();
     }
 }
 
 void frmCheque::cmdCancelar_Click() {
-    confereAntesDoClique();
+    checkBeforeClick();
     reject();
 }
 
 bool frmCheque::eventFilter(QObject* watched, QEvent* event) {
     if (watched == ui_->cboBancoAgConta && event->type() == QEvent::KeyPress &&
-        ehEnter(*static_cast<QKeyEvent*>(event))) {
+        isEnter(*static_cast<QKeyEvent*>(event))) {
         sendTab(*ui_->cboBancoAgConta);
         return true;
     }
@@ -201,7 +201,7 @@ bool frmCheque::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmCheque::keyPressEvent(QKeyEvent* event) {
-    if (!enterNoBotao(*this, *event)) {
+    if (!enterPressesButton(*this, *event)) {
         QDialog::keyPressEvent(event);
     }
 }

@@ -24,7 +24,7 @@ public:
     ~frmCheque() override;
 
     // On opening: reads the list of accounts and proposes the session's date.
-    void carrega();
+    void load();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -32,26 +32,26 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void preparaCampos();
-    void preparaBotoes();
+    void prepareFields();
+    void prepareButtons();
     void Carrega_CboBancoAgConta();
 
-    CamposCheque campos() const;
-    QWidget& campo(CampoDoCheque qual) const;
+    ChequeFields fields() const;
+    QWidget& field(ChequeField which) const;
     // Whether there is a refusal; the user is told.
-    bool recusado(const std::optional<RecusaDoCheque>& recusa);
-    void esvazia();
+    bool refused(const std::optional<ChequeRefusal>& refuse);
+    void clearFields();
 
     void Espera_Timer();
-    void confereNumero();
-    void confereAntesDoClique();
+    void checkNumber();
+    void checkBeforeClick();
     void cmdImprimir_Click();
     void cmdCancelar_Click();
 
     DeskContext& desk_;
     std::unique_ptr<Ui::frmCheque> ui_;
-    std::vector<ContaBancaria> contas_;  // by position of the list
-    QTimer espera_;                      // runs from leaving number or series to its check
+    std::vector<BankAccount> accounts_;  // by position of the list
+    QTimer wait_;                        // runs from leaving number or series to its check
 };
 
 }  // namespace tarn

@@ -17,100 +17,101 @@
 namespace tarn {
 namespace {
 
-constexpr std::int16_t banco33 = 33;
-constexpr std::size_t larguraDoFavorecido = 70;
-constexpr int larguraDoMunicipio = 19;
-constexpr int larguraDoDia = 2;
-constexpr int larguraDoMes = 17;
+constexpr std::int16_t bank33 = 33;
+constexpr std::size_t payeeWidth = 70;
+constexpr int townWidth = 19;
+constexpr int dayWidth = 2;
+constexpr int monthWidth = 17;
 // ESC/P: condensed print, then double strike behind a doubled escape.
-constexpr std::string_view condensadoDuplo = "\x0F\x1B\x1BG";
-constexpr std::string_view espacoDe6Por72 = "\x1B\x41\x06";  // ESC "A": line spacing in 1/72 inch
+constexpr std::string_view condensedDouble = "\x0F\x1B\x1BG";
+constexpr std::string_view spacing6Over72 = "\x1B\x41\x06";  // ESC "A": line spacing in 1/72 inch
 
-constexpr std::array<std::string_view, 12> meses{"JANEIRO",  "FEVEREIRO", "MARCO",    "ABRIL",
-                                                 "MAIO",     "JUNHO",     "JULHO",    "AGOSTO",
-                                                 "SETEMBRO", "OUTUBRO",   "NOVEMBRO", "DEZEMBRO"};
+constexpr std::array<std::string_view, 12> months{"JANEIRO",  "FEVEREIRO", "MARCO",    "ABRIL",
+                                                  "MAIO",     "JUNHO",     "JULHO",    "AGOSTO",
+                                                  "SETEMBRO", "OUTUBRO",   "NOVEMBRO", "DEZEMBRO"};
 
-std::string_view nomeDoMes(std::string_view numero) {
-    const double mes = readPoint(numero);
-    if (mes < 1 || mes > static_cast<double>(meses.size()) || mes != std::floor(mes)) {
+std::string_view monthName(std::string_view number) {
+    const double month = readPoint(number);
+    if (month < 1 || month > static_cast<double>(months.size()) || month != std::floor(month)) {
         return {};
     }
-    return meses[static_cast<std::size_t>(mes) - 1];
+    return months[static_cast<std::size_t>(month) - 1];
 }
 
 struct Data {
-    std::string_view dia;
-    std::string_view mes;  // name
-    std::string_view ano;
+    std::string_view day;
+    std::string_view month;  // name
+    std::string_view year;
 };
 
 Data dataDe(std::string_view texto) {
-    const std::vector<std::string_view> pedacos = split(texto, '/');
-    if (pedacos.size() < 3) {
-        throw ErroExecucao(ErroNumero::ForaDoIntervalo, "\"" + std::string(texto) + "\"");
+    const std::vector<std::string_view> pieces = split(texto, '/');
+    if (pieces.size() < 3) {
+        throw RuntimeError(RuntimeErrorCode::OutOfRange, "\"" + std::string(texto) + "\"");
     }
-    return {pedacos[0], nomeDoMes(pedacos[1]), pedacos[2]};
+    return {pieces[0], monthName(pieces[1]), pieces[2]};
 }
 
 // Lines of the cheque's one job. Nothing of a line goes out before sai().
-class Formulario {
+class LabelForm {
 public:
-    explicit Formulario(Environment& ambiente) : canal_(ambiente.spooler, ambiente.codePage) {
-        canal_.abre({.docName = "Impressao de Cheque", .outputFile = "", .dataType = ""});
+    explicit LabelForm(Environment& environment)
+        : channel_(environment.spooler, environment.codePage) {
+        channel_.open({.docName = "Impressao de Cheque", .outputFile = "", .dataType = ""});
     }
 
-    void comando(std::string_view bytes) {
+    void commands(std::string_view bytes) {
         linha_ = bytes;
-        sai(0);
+        out(0);
     }
-    Formulario& brancos(std::size_t quantos) {
-        linha_.append(quantos, ' ');
+    LabelForm& blanks(std::size_t count) {
+        linha_.append(count, ' ');
         return *this;
     }
-    Formulario& texto(std::string_view valor) {
+    LabelForm& texto(std::string_view valor) {
         appendBlankingControls(linha_, valor);
         return *this;
     }
-    Formulario& aEsquerda(std::string_view valor, int largura) {
-        appendCampo(linha_, valor, largura, false);
+    LabelForm& alignLeft(std::string_view valor, int largura) {
+        appendField(linha_, valor, largura, false);
         return *this;
     }
-    Formulario& aDireita(std::string_view valor, int largura) {
-        appendCampo(linha_, valor, largura, true);
+    LabelForm& aDireita(std::string_view valor, int largura) {
+        appendField(linha_, valor, largura, true);
         return *this;
     }
-    void sai(int fins) {
-        canal_.ImprimeRaw(1, linha_, fins);
+    void out(int lineEnds) {
+        channel_.ImprimeRaw(1, linha_, lineEnds);
         linha_.clear();
     }
-    void fecha() { canal_.fecha(); }
+    void close() { channel_.close(); }
 
 private:
-    RawChannel canal_;
+    RawChannel channel_;
     std::string linha_;
 };
 
-void imprimeGeral(Formulario& papel, const DadosCheque& cheque, const std::string& extenso,
+void printGeneral(LabelForm& paper, const ChequeData& cheque, const std::string& inWords,
                   const Data& data) {
-    constexpr std::size_t larguraDoExtenso = 64;
-    constexpr int larguraDoValor = 14;
-    papel.comando(condensadoDuplo);
-    papel.brancos(64).aDireita(cheque.sValor, larguraDoValor).sai(2);
-    papel.brancos(14).texto(leftOf(extenso, larguraDoExtenso)).sai(1);
-    if (extenso.size() > larguraDoExtenso) {
-        papel.brancos(2).texto(extenso.substr(larguraDoExtenso));
+    constexpr std::size_t wordsWidth = 64;
+    constexpr int amountWidth = 14;
+    paper.commands(condensedDouble);
+    paper.blanks(64).aDireita(cheque.sValor, amountWidth).out(2);
+    paper.blanks(14).texto(leftOf(inWords, wordsWidth)).out(1);
+    if (inWords.size() > wordsWidth) {
+        paper.blanks(2).texto(inWords.substr(wordsWidth));
     }
-    papel.sai(2);
-    papel.brancos(4).texto(leftOf(cheque.sFavorecido, larguraDoFavorecido)).sai(2);
-    papel.brancos(29).aEsquerda(cheque.sNmMun, larguraDoMunicipio);
-    papel.brancos(2).aDireita(data.dia, larguraDoDia);
-    papel.brancos(3).aEsquerda(data.mes, larguraDoMes);
-    papel.brancos(2).texto(data.ano).sai(2);
-    papel.sai(9);
+    paper.out(2);
+    paper.blanks(4).texto(leftOf(cheque.sFavorecido, payeeWidth)).out(2);
+    paper.blanks(29).alignLeft(cheque.sNmMun, townWidth);
+    paper.blanks(2).aDireita(data.day, dayWidth);
+    paper.blanks(3).alignLeft(data.month, monthWidth);
+    paper.blanks(2).texto(data.year).out(2);
+    paper.out(9);
 }
 
 // The lines under the first one: a third joins the second, a fourth has no room.
-std::string segundaLinha(const std::vector<std::string_view>& linhas) {
+std::string secondLine(const std::vector<std::string_view>& linhas) {
     std::string texto;
     if (linhas.size() > 1) {
         texto = linhas[1];
@@ -121,46 +122,46 @@ std::string segundaLinha(const std::vector<std::string_view>& linhas) {
     return texto;
 }
 
-void imprimeBanco33(Formulario& papel, const DadosCheque& cheque, const std::string& extenso,
-                    const Data& data) {
-    constexpr std::size_t recuo = 26;
-    constexpr std::size_t larguraDoExtenso = 90;
-    constexpr int larguraDoValor = 25;
-    const std::string quebrado = QuebraTexto(std::string(recuo, ' ') + extenso, larguraDoExtenso);
-    const std::vector<std::string_view> linhas = split(quebrado, '\r');
-    papel.comando(espacoDe6Por72);
-    papel.comando(condensadoDuplo);
-    papel.sai(2);
-    papel.brancos(93).aDireita("#" + std::string(cheque.sValor) + "#", larguraDoValor).sai(4);
-    papel.brancos(recuo).texto(linhas.front()).sai(2);
+void printBank33(LabelForm& paper, const ChequeData& cheque, const std::string& inWords,
+                 const Data& data) {
+    constexpr std::size_t indent = 26;
+    constexpr std::size_t wordsWidth = 90;
+    constexpr int amountWidth = 25;
+    const std::string broken = QuebraTexto(std::string(indent, ' ') + inWords, wordsWidth);
+    const std::vector<std::string_view> linhas = split(broken, '\r');
+    paper.commands(spacing6Over72);
+    paper.commands(condensedDouble);
+    paper.out(2);
+    paper.blanks(93).aDireita("#" + std::string(cheque.sValor) + "#", amountWidth).out(4);
+    paper.blanks(indent).texto(linhas.front()).out(2);
     if (linhas.size() > 1) {
-        papel.brancos(10).texto(segundaLinha(linhas));
+        paper.blanks(10).texto(secondLine(linhas));
     }
-    papel.sai(2);
-    papel.brancos(12).texto(leftOf(cheque.sFavorecido, larguraDoFavorecido)).sai(4);
-    papel.brancos(61).aDireita(cheque.sNmMun, larguraDoMunicipio);
-    papel.brancos(2).aDireita(data.dia, larguraDoDia);
-    papel.brancos(6).aEsquerda(data.mes, larguraDoMes);
-    papel.brancos(9).texto(rightOf(data.ano, 2)).sai(2);
-    papel.sai(20);
+    paper.out(2);
+    paper.blanks(12).texto(leftOf(cheque.sFavorecido, payeeWidth)).out(4);
+    paper.blanks(61).aDireita(cheque.sNmMun, townWidth);
+    paper.blanks(2).aDireita(data.day, dayWidth);
+    paper.blanks(6).alignLeft(data.month, monthWidth);
+    paper.blanks(9).texto(rightOf(data.year, 2)).out(2);
+    paper.out(20);
 }
 
 }  // namespace
 
-std::int16_t codigoDoBanco(std::string_view nrOfiBan) {
+std::int16_t bankCode(std::string_view nrOfiBan) {
     return readInt16(trimBlanks(nrOfiBan));
 }
 
-void ImprimeCheque(Environment& ambiente, const DadosCheque& cheque) {
-    const std::string extenso = ValorExtenso(readComma(cheque.sValor), "REAIS", "REAL");
+void ImprimeCheque(Environment& environment, const ChequeData& cheque) {
+    const std::string inWords = ValorExtenso(readComma(cheque.sValor), "REAIS", "REAL");
     const Data data = dataDe(cheque.sDataDeposito);
-    Formulario papel(ambiente);
-    if (cheque.nNr_Ofi_Ban == banco33) {
-        imprimeBanco33(papel, cheque, extenso, data);
+    LabelForm paper(environment);
+    if (cheque.nNr_Ofi_Ban == bank33) {
+        printBank33(paper, cheque, inWords, data);
     } else {
-        imprimeGeral(papel, cheque, extenso, data);
+        printGeneral(paper, cheque, inWords, data);
     }
-    papel.fecha();
+    paper.close();
 }
 
 }  // namespace tarn

@@ -11,9 +11,9 @@ struct Environment;
 
 // Official code of a bank, such as "033", as a 16-bit integer. Raises TipoIncompativel
 // for what is no number, Estouro for what doesn't fit.
-std::int16_t codigoDoBanco(std::string_view nrOfiBan);
+std::int16_t bankCode(std::string_view nrOfiBan);
 
-struct DadosCheque {
+struct ChequeData {
     std::int16_t nNr_Ofi_Ban = 0;         // official code; 33 has a layout of its own
     std::string_view sValor = {};         // as the field shows it, such as 1.234,56
     std::string_view sFavorecido = {};    // in capitals; may be empty
@@ -24,6 +24,6 @@ struct DadosCheque {
 // Prints it as one raw job. The amount is read and the date taken apart before the job
 // opens: TipoIncompativel for an amount that is no number, ForaDoIntervalo for a date
 // of less than three parts. A month outside 1 to 12 has no name.
-void ImprimeCheque(Environment& ambiente, const DadosCheque& cheque);
+void ImprimeCheque(Environment& environment, const ChequeData& cheque);
 
 }  // namespace tarn

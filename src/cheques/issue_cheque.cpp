@@ -14,160 +14,166 @@
 namespace tarn {
 namespace {
 
-constexpr double maiorValorSemFavorecido = 100;
+constexpr double largestAmountWithoutPayee = 100;
 
-bool emBranco(std::string_view texto) {
+bool isBlank(std::string_view texto) {
     return trimBlanks(texto).empty();
 }
 
-std::string emMaiusculas(std::string_view texto) {
+std::string inUpperCase(std::string_view texto) {
     return upperCase(trimBlanks(texto));
 }
 
-std::int32_t dadoDoItem(std::string_view texto) {
+std::int32_t itemData(std::string_view texto) {
     try {
         return readInt32(trimBlanks(texto));
-    } catch (const ErroExecucao&) {
+    } catch (const RuntimeError&) {
         return 0;
     }
 }
 
-ContaBancaria contaDe(const XmlNode& linhas, std::size_t indice) {
-    ContaBancaria conta{.descricao = pegaTexto(linhas, indice, "BANCO"),
-                        .ID_PES_BAN = dadoDoItem(pegaTexto(linhas, indice, "ID_PES_BAN")),
-                        .CD_AGE_BAN = pegaTexto(linhas, indice, "CD_AGE_BAN"),
-                        .NR_CCOR = pegaTexto(linhas, indice, "NR_CCOR"),
-                        .NR_OFI_BAN = pegaTexto(linhas, indice, "NR_OFI_BAN")};
-    conta.descricao.append(" - ").append(conta.CD_AGE_BAN).append(" - ").append(conta.NR_CCOR);
+BankAccount accountOf(const XmlNode& linhas, std::size_t indice) {
+    BankAccount account{.description = textAttribute(linhas, indice, "BANCO"),
+                        .ID_PES_BAN = itemData(textAttribute(linhas, indice, "ID_PES_BAN")),
+                        .CD_AGE_BAN = textAttribute(linhas, indice, "CD_AGE_BAN"),
+                        .NR_CCOR = textAttribute(linhas, indice, "NR_CCOR"),
+                        .NR_OFI_BAN = textAttribute(linhas, indice, "NR_OFI_BAN")};
+    account.description.append(" - ")
+        .append(account.CD_AGE_BAN)
+        .append(" - ")
+        .append(account.NR_CCOR);
     if (const XmlAttribute nome = linhas.child(indice).attributes().getNamedItem("DC_CCOR")) {
-        conta.descricao.append(" - ").append(nome.text());
+        account.description.append(" - ").append(nome.text());
     }
-    return conta;
+    return account;
 }
 
-// The texts live as long as `campos`.
-comando::Cheque chequeDe(const CamposCheque& campos) {
-    comando::Cheque cheque{.numero = campos.numero,
-                           .serie = campos.serie,
-                           .valor = campos.valor,
-                           .favorecido = campos.favorecido,
-                           .dataDeposito = campos.dataDeposito,
-                           .observacao = campos.observacao};
-    if (campos.conta) {
-        cheque.banco = campos.conta->ID_PES_BAN;
-        cheque.agencia = campos.conta->CD_AGE_BAN;
-        cheque.conta = campos.conta->NR_CCOR;
+// The texts live as long as `fields`.
+commands::Cheque chequeFrom(const ChequeFields& fields) {
+    commands::Cheque cheque{.number = fields.number,
+                            .series = fields.series,
+                            .valor = fields.valor,
+                            .payee = fields.payee,
+                            .depositDate = fields.depositDate,
+                            .observation = fields.observation};
+    if (fields.account) {
+        cheque.bank = fields.account->ID_PES_BAN;
+        cheque.agency = fields.account->CD_AGE_BAN;
+        cheque.account = fields.account->NR_CCOR;
     }
     return cheque;
 }
 
-void imprime(Environment& ambiente, const CamposCheque& campos, const std::string& municipio) {
-    const std::string favorecido = emMaiusculas(campos.favorecido);
-    ImprimeCheque(ambiente,
-                  {.nNr_Ofi_Ban = codigoDoBanco(campos.conta ? campos.conta->NR_OFI_BAN : ""),
-                   .sValor = trimBlanks(campos.valor),
-                   .sFavorecido = favorecido,
-                   .sDataDeposito = trimBlanks(campos.dataDeposito),
-                   .sNmMun = municipio});
+void print(Environment& environment, const ChequeFields& fields, const std::string& town) {
+    const std::string payee = inUpperCase(fields.payee);
+    ImprimeCheque(environment,
+                  {.nNr_Ofi_Ban = bankCode(fields.account ? fields.account->NR_OFI_BAN : ""),
+                   .sValor = trimBlanks(fields.valor),
+                   .sFavorecido = payee,
+                   .sDataDeposito = trimBlanks(fields.depositDate),
+                   .sNmMun = town});
 }
 
 }  // namespace
 
-std::optional<std::vector<ContaBancaria>> carregaContas(Environment& ambiente,
-                                                        const Sessao& sessao) {
+std::optional<std::vector<BankAccount>> loadAccounts(Environment& environment,
+                                                     const Sessao& session) {
     XmlDocument documento;
-    if (!pede(ambiente, comando::sel_banco_agencia_conta(sessao), documento,
-              falha::Tarn0009Largo)) {
+    if (!requestAnswer(environment, commands::sel_banco_agencia_conta(session), documento,
+                       failure::Tarn0009Wide)) {
         return std::nullopt;
     }
-    std::vector<ContaBancaria> contas{{.descricao = "------------"}};
+    std::vector<BankAccount> accounts{{.description = "------------"}};
     const XmlNode linhas = documento.selectSingleNode("xml/rs:data");
     for (std::size_t i = 0; linhas && i < linhas.childCount(); ++i) {
-        contas.push_back(contaDe(linhas, i));
+        accounts.push_back(accountOf(linhas, i));
     }
-    return contas;
+    return accounts;
 }
 
-std::optional<RecusaDoCheque> recusaDosCampos(const CamposCheque& campos) {
-    if (!campos.conta) {
-        return RecusaDoCheque{CampoDoCheque::Conta, "Banco/Ag./Conta é um campo obrigatório. "};
+std::optional<ChequeRefusal> fieldRefusal(const ChequeFields& fields) {
+    if (!fields.account) {
+        return ChequeRefusal{ChequeField::Account, "Banco/Ag./Conta é um campo obrigatório. "};
     }
-    if (emBranco(campos.numero)) {
-        return RecusaDoCheque{CampoDoCheque::Numero, "Nº Cheque é um campo obrigatório. "};
+    if (isBlank(fields.number)) {
+        return ChequeRefusal{ChequeField::Number, "Nº Cheque é um campo obrigatório. "};
     }
-    if (emBranco(campos.serie)) {
-        return RecusaDoCheque{CampoDoCheque::Serie, "Série é um campo obrigatório. "};
+    if (isBlank(fields.series)) {
+        return ChequeRefusal{ChequeField::Series, "Série é um campo obrigatório. "};
     }
-    if (emBranco(campos.valor)) {
-        return RecusaDoCheque{CampoDoCheque::Valor, "Valor é um campo obrigatório. "};
+    if (isBlank(fields.valor)) {
+        return ChequeRefusal{ChequeField::Amount, "Valor é um campo obrigatório. "};
     }
-    const double valor = readComma(campos.valor);
+    const double valor = readComma(fields.valor);
     if (valor == 0) {
-        return RecusaDoCheque{CampoDoCheque::Valor, "Valor deve ser maior que R$ 0,00. "};
+        return ChequeRefusal{ChequeField::Amount, "Valor deve ser maior que R$ 0,00. "};
     }
-    if (valor > maiorValorSemFavorecido && emBranco(campos.favorecido)) {
-        return RecusaDoCheque{CampoDoCheque::Favorecido,
-                              "Favorecido é um campo obrigatório para cheques com valores maiores "
-                              "que R$ 100,00. "};
+    if (valor > largestAmountWithoutPayee && isBlank(fields.payee)) {
+        return ChequeRefusal{ChequeField::Payee,
+                             "Favorecido é um campo obrigatório para cheques com valores maiores "
+                             "que R$ 100,00. "};
     }
-    if (emBranco(campos.dataDeposito)) {
-        return RecusaDoCheque{CampoDoCheque::DataDeposito,
-                              "Data para Depósito é um campo obrigatório. "};
+    if (isBlank(fields.depositDate)) {
+        return ChequeRefusal{ChequeField::DepositDate,
+                             "Data para Depósito é um campo obrigatório. "};
     }
     return std::nullopt;
 }
 
-bool ValidaCheque(Environment& ambiente, const Sessao& sessao, const CamposCheque& campos) {
+bool ValidaCheque(Environment& environment, const Sessao& session, const ChequeFields& fields) {
     XmlDocument documento;
-    pede(ambiente, comando::seleciona_um_controle_cheque_emitido(sessao, chequeDe(campos)),
-         documento, falha::Tarn0009Largo);
+    requestAnswer(environment,
+                  commands::seleciona_um_controle_cheque_emitido(session, chequeFrom(fields)),
+                  documento, failure::Tarn0009Wide);
     const XmlNode linhas = documento.selectSingleNode("xml/rs:data");
     return !linhas || linhas.childCount() == 0;
 }
 
-std::optional<RecusaDoCheque> recusaDoNumero(Environment& ambiente, const Sessao& sessao,
-                                             const CamposCheque& campos) {
-    if (emBranco(campos.numero) || emBranco(campos.serie) ||
-        ValidaCheque(ambiente, sessao, campos)) {
+std::optional<ChequeRefusal> numberRefusal(Environment& environment, const Sessao& session,
+                                           const ChequeFields& fields) {
+    if (isBlank(fields.number) || isBlank(fields.series) ||
+        ValidaCheque(environment, session, fields)) {
         return std::nullopt;
     }
     std::string texto = "Cheque com este número e série já foi emitido já emitido. ";
-    texto.append("\rNúmero: ").append(trimBlanks(campos.numero));
-    texto.append("\rSérie: ").append(emMaiusculas(campos.serie));
-    return RecusaDoCheque{CampoDoCheque::Numero, std::move(texto)};
+    texto.append("\rNúmero: ").append(trimBlanks(fields.number));
+    texto.append("\rSérie: ").append(inUpperCase(fields.series));
+    return ChequeRefusal{ChequeField::Number, std::move(texto)};
 }
 
 // The paper comes first: a record that fails leaves a real cheque without one, and the
 // fields that tell which it was.
-bool emiteCheque(Environment& ambiente, const Sessao& sessao, const CamposCheque& campos) {
-    XmlDocument empresa;
-    if (!pede(ambiente, comando::sel_dados_empresa(sessao), empresa, falha::Tarn0009)) {
+bool issueCheque(Environment& environment, const Sessao& session, const ChequeFields& fields) {
+    XmlDocument company;
+    if (!requestAnswer(environment, commands::sel_dados_empresa(session), company,
+                       failure::Tarn0009)) {
         return false;
     }
-    imprime(ambiente, campos, pegaTexto(empresa.selectSingleNode("xml/rs:data"), 0, "NM_MUN"));
-    XmlDocument resposta;
-    if (!pede(ambiente, comando::adiciona_controle_cheque_emitido(sessao, chequeDe(campos)),
-              resposta, falha::Tarn0009)) {
+    print(environment, fields, textAttribute(company.selectSingleNode("xml/rs:data"), 0, "NM_MUN"));
+    XmlDocument answer;
+    if (!requestAnswer(environment,
+                       commands::adiciona_controle_cheque_emitido(session, chequeFrom(fields)),
+                       answer, failure::Tarn0009)) {
         return false;
     }
     try {
-        return chequeGravado(ambiente, resposta);
-    } catch (const ErroExecucao& erro) {
-        throw ErroExecucao(erro.numero(),
-                           "o cheque nº " + std::string(trimBlanks(campos.numero)) +
+        return chequeRecorded(environment, answer);
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(error.number(),
+                           "o cheque nº " + std::string(trimBlanks(fields.number)) +
                                " foi impresso e talvez não esteja gravado no servidor; confira-o "
                                "pelo número e série antes de imprimir outro");
     }
 }
 
-bool chequeGravado(Environment& ambiente, const XmlDocument& resposta) {
-    if (!respostaAceita(ambiente, resposta,
+bool chequeRecorded(Environment& environment, const XmlDocument& answer) {
+    if (!answerAccepted(environment, answer,
                         "Houve um problema para gravar cheque no banco de dados. ")) {
         return false;
     }
-    ambiente.boxes.show({.text = "Cheque emitido com sucesso!     ",
-                         .icon = BoxIcon::Information,
-                         .title = "TArn"});
+    environment.boxes.show({.text = "Cheque emitido com sucesso!     ",
+                            .icon = BoxIcon::Information,
+                            .title = "TArn"});
     return true;
 }
 

@@ -15,8 +15,8 @@ namespace tarn {
 struct Environment;
 
 // An account of the list. The first item of a list is none: 0 and empty texts.
-struct ContaBancaria {
-    std::string descricao;        // what the list shows
+struct BankAccount {
+    std::string description;      // what the list shows
     std::int32_t ID_PES_BAN = 0;  // item data
     std::string CD_AGE_BAN = {};
     std::string NR_CCOR = {};
@@ -25,48 +25,48 @@ struct ContaBancaria {
 
 // The list's items, the first one without an account. Nothing: the request failed, the
 // user has been told and the list stays as it was.
-std::optional<std::vector<ContaBancaria>> carregaContas(Environment& ambiente,
-                                                        const Sessao& sessao);
+std::optional<std::vector<BankAccount>> loadAccounts(Environment& environment,
+                                                     const Sessao& session);
 
 // The screen's fields as they stand.
-struct CamposCheque {
-    std::optional<ContaBancaria> conta = std::nullopt;  // none: the first item, or no item at all
-    std::string numero = {};
-    std::string serie = {};
+struct ChequeFields {
+    std::optional<BankAccount> account = std::nullopt;  // none: the first item, or no item at all
+    std::string number = {};
+    std::string series = {};
     std::string valor = {};
-    std::string favorecido = {};
-    std::string dataDeposito = {};
-    std::string observacao = {};
+    std::string payee = {};
+    std::string depositDate = {};
+    std::string observation = {};
 };
 
-enum class CampoDoCheque { Conta, Numero, Serie, Valor, Favorecido, DataDeposito };
+enum class ChequeField { Account, Number, Series, Amount, Payee, DepositDate };
 
-struct RecusaDoCheque {
-    CampoDoCheque campo;  // where the focus goes
-    std::string texto;    // of the box
+struct ChequeRefusal {
+    ChequeField field;  // where the focus goes
+    std::string texto;  // of the box
 };
 
 // The first test that fails. The server isn't asked. An amount that is no number
 // raises TipoIncompativel.
-std::optional<RecusaDoCheque> recusaDosCampos(const CamposCheque& campos);
+std::optional<ChequeRefusal> fieldRefusal(const ChequeFields& fields);
 
 // False: the server has a cheque of this account, number and series. A request that
 // fails leaves it true.
-bool ValidaCheque(Environment& ambiente, const Sessao& sessao, const CamposCheque& campos);
+bool ValidaCheque(Environment& environment, const Sessao& session, const ChequeFields& fields);
 
 // ValidaCheque's refusal as the user reads it; nothing for a number that is free, or
 // while number or series isn't filled in.
-std::optional<RecusaDoCheque> recusaDoNumero(Environment& ambiente, const Sessao& sessao,
-                                             const CamposCheque& campos);
+std::optional<ChequeRefusal> numberRefusal(Environment& environment, const Sessao& session,
+                                           const ChequeFields& fields);
 
 // Prints the cheque and records it. True: recorded. The user has been told how it went
 // in any case; nothing is undone or sent twice. Errors before the print: no
 // establishment in the answer (VariavelObjeto), a bank code, amount or date that can't
 // be read.
-bool emiteCheque(Environment& ambiente, const Sessao& sessao, const CamposCheque& campos);
+bool issueCheque(Environment& environment, const Sessao& session, const ChequeFields& fields);
 
 // Whether the record's answer says that it was made; the user is told. VariavelObjeto
 // for an answer without a status.
-bool chequeGravado(Environment& ambiente, const XmlDocument& resposta);
+bool chequeRecorded(Environment& environment, const XmlDocument& answer);
 
 }  // namespace tarn

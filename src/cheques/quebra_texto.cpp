@@ -8,47 +8,47 @@
 namespace tarn {
 namespace {
 
-constexpr char fimDeLinha = 13;
+constexpr char lineEnd = 13;
 
-class Linhas {
+class Lines {
 public:
-    explicit Linhas(std::size_t largura) : largura_(largura) {}
+    explicit Lines(std::size_t largura) : largura_(largura) {}
 
-    void junta(std::string_view pedaco) {
-        if (lengthOf(pedaco) + lengthOf(linha_) > largura_) {
-            fechaLinha();
+    void join(std::string_view piece) {
+        if (lengthOf(piece) + lengthOf(linha_) > largura_) {
+            closeLine();
         } else if (!linha_.empty()) {
             linha_ += ' ';
         }
-        linha_ += pedaco;
+        linha_ += piece;
     }
-    std::string termina() {
-        fechaLinha();
-        return std::move(resultado_);
+    std::string finish() {
+        closeLine();
+        return std::move(result_);
     }
 
 private:
-    void fechaLinha() {
-        if (!resultado_.empty()) {
-            resultado_ += fimDeLinha;
+    void closeLine() {
+        if (!result_.empty()) {
+            result_ += lineEnd;
         }
-        resultado_ += linha_;
+        result_ += linha_;
         linha_.clear();
     }
 
     std::size_t largura_;
     std::string linha_;
-    std::string resultado_;
+    std::string result_;
 };
 
 }  // namespace
 
 std::string QuebraTexto(std::string_view texto, std::size_t largura) {
-    Linhas linhas(largura);
-    for (const std::string_view pedaco : split(texto, ' ')) {
-        linhas.junta(pedaco);
+    Lines linhas(largura);
+    for (const std::string_view piece : split(texto, ' ')) {
+        linhas.join(piece);
     }
-    return linhas.termina();
+    return linhas.finish();
 }
 
 }  // namespace tarn

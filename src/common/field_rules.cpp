@@ -9,8 +9,8 @@ namespace tarn {
 
 namespace {
 
-constexpr std::int16_t teclaBackspace = 8;
-constexpr std::int16_t teclaVirgula = 44;
+constexpr std::int16_t backspaceKey = 8;
+constexpr std::int16_t commaKey = 44;
 
 std::int16_t filter(std::int16_t& tecla, bool passes, Machine& machine) {
     if (!passes) {
@@ -21,7 +21,7 @@ std::int16_t filter(std::int16_t& tecla, bool passes, Machine& machine) {
 }
 
 bool isIntegerKey(std::int16_t tecla) {
-    return (tecla >= '0' && tecla <= '9') || tecla == teclaBackspace;
+    return (tecla >= '0' && tecla <= '9') || tecla == backspaceKey;
 }
 
 std::string monthOf(std::string_view typed, const Date& today) {
@@ -55,7 +55,7 @@ FieldResult refusedQuantity(std::string_view message) {
 }  // namespace
 
 std::int16_t SoNumeroVirgula(std::int16_t& tecla, Machine& machine) {
-    return filter(tecla, isIntegerKey(tecla) || tecla == teclaVirgula, machine);
+    return filter(tecla, isIntegerKey(tecla) || tecla == commaKey, machine);
 }
 
 std::int16_t SoNumeroInteiro(std::int16_t& tecla, Machine& machine) {

@@ -42,9 +42,9 @@ struct QuantityMessages {
 };
 inline constexpr QuantityMessages messagesQtde{"Quantidade inválido.     ",
                                                "Quantidade máxima permitida é 9.999.999,999 "};
-inline constexpr QuantityMessages messagesPesoBruto{"Peso Bruto inválido.     ",
-                                                    "Peso Bruto máximo permitido é 9.999.999,999 "};
-inline constexpr QuantityMessages messagesPesoLiquido{
+inline constexpr QuantityMessages grossWeightMessages{
+    "Peso Bruto inválido.     ", "Peso Bruto máximo permitido é 9.999.999,999 "};
+inline constexpr QuantityMessages netWeightMessages{
     "Peso Líquido inválido.     ", "Peso Líquido máximo permitido é 9.999.999,999 "};
 FieldResult quantityOnLeave(std::string_view text, const QuantityMessages& messages);
 

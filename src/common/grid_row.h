@@ -8,13 +8,13 @@
 namespace tarn {
 
 // One row. Columns count from 1; the cell of a check box column stays empty, what it
-// holds is `marcada`.
-struct LinhaGrade {
-    std::vector<std::string> celulas;
-    bool marcada = false;
+// holds is `ticked`.
+struct GridRow {
+    std::vector<std::string> cells;
+    bool ticked = false;
 
-    const std::string& coluna(std::size_t numero) const { return celulas.at(numero - 1); }
-    std::string& coluna(std::size_t numero) { return celulas.at(numero - 1); }
+    const std::string& coluna(std::size_t number) const { return cells.at(number - 1); }
+    std::string& coluna(std::size_t number) { return cells.at(number - 1); }
 };
 
 }  // namespace tarn

@@ -8,68 +8,67 @@
 namespace tarn {
 namespace {
 
-constexpr NumberMask mascaraValor{"###,##0.00"};
+constexpr NumberMask amountMask{"###,##0.00"};
 
-std::string_view textoDe(const XmlAttributes& atributos, std::string_view nome) {
-    const XmlAttribute atributo = atributos.getNamedItem(nome);
-    return atributo ? atributo.text() : std::string_view();
+std::string_view textOf(const XmlAttributes& attributes, std::string_view nome) {
+    const XmlAttribute attribute = attributes.getNamedItem(nome);
+    return attribute ? attribute.text() : std::string_view();
 }
 
 // What a row's treatments look at.
-struct LinhaLida {
-    XmlAttributes atributos;
-    bool fisica;
-    bool receber;
+struct RowRead {
+    XmlAttributes attributes;
+    bool naturalPerson;
+    bool receivable;
 };
 
-std::string celula(const LinhaLida& linha, const CampoGrade& campo) {
-    if (campo.tratamento == Tratamento::TipoPessoa) {
-        return linha.fisica ? "F" : "J";
+std::string cell(const RowRead& linha, const GridField& field) {
+    if (field.treatment == Treatment::PersonKind) {
+        return linha.naturalPerson ? "F" : "J";
     }
-    const XmlAttribute atributo = linha.atributos.getNamedItem(campo.nome);
-    if (!atributo) {
+    const XmlAttribute attribute = linha.attributes.getNamedItem(field.nome);
+    if (!attribute) {
         return {};
     }
-    const std::string_view texto = atributo.text();
-    switch (campo.tratamento) {
-        case Tratamento::Valor:
-            return formatNumber(readPoint(texto), mascaraValor);
-        case Tratamento::CpfCnpj:
-            return cpfCnpj(linha.fisica, texto);
-        case Tratamento::SoReceber:
-            return std::string(linha.receber ? texto : std::string_view());
-        case Tratamento::SoNaoReceber:
-            return std::string(linha.receber ? std::string_view() : texto);
-        case Tratamento::TipoPessoa:
-        case Tratamento::Texto:
+    const std::string_view texto = attribute.text();
+    switch (field.treatment) {
+        case Treatment::Amount:
+            return formatNumber(readPoint(texto), amountMask);
+        case Treatment::CpfCnpj:
+            return cpfCnpj(linha.naturalPerson, texto);
+        case Treatment::ReceivableOnly:
+            return std::string(linha.receivable ? texto : std::string_view());
+        case Treatment::NotReceivableOnly:
+            return std::string(linha.receivable ? std::string_view() : texto);
+        case Treatment::PersonKind:
+        case Treatment::Texto:
             break;
     }
     return std::string(texto);
 }
 
-LinhaGrade linhaDe(const XmlNode& no, std::span<const CampoGrade> campos) {
-    const XmlAttributes atributos = no.attributes();
-    const LinhaLida lida{.atributos = atributos,
-                         .fisica = pessoaFisica(textoDe(atributos, "PES_JUR")),
-                         .receber = textoDe(atributos, "TIPO_DOCTO") == "DOCTO_RECEBER"};
-    LinhaGrade linha;
-    linha.celulas.reserve(campos.size());
-    for (const CampoGrade& campo : campos) {
-        linha.celulas.push_back(celula(lida, campo));
+GridRow rowOf(const XmlNode& no, std::span<const GridField> fields) {
+    const XmlAttributes attributes = no.attributes();
+    const RowRead read{.attributes = attributes,
+                       .naturalPerson = isNaturalPerson(textOf(attributes, "PES_JUR")),
+                       .receivable = textOf(attributes, "TIPO_DOCTO") == "DOCTO_RECEBER"};
+    GridRow linha;
+    linha.cells.reserve(fields.size());
+    for (const GridField& field : fields) {
+        linha.cells.push_back(cell(read, field));
     }
     return linha;
 }
 
 }  // namespace
 
-std::vector<LinhaGrade> linhasDaResposta(const XmlDocument& resposta,
-                                         std::span<const CampoGrade> campos) {
-    std::vector<LinhaGrade> linhas;
-    const XmlNode dados = resposta.selectSingleNode("xml/rs:data");
-    const std::size_t quantas = dados ? dados.childCount() : 0;
-    linhas.reserve(quantas);
-    for (std::size_t i = 0; i < quantas; ++i) {
-        linhas.push_back(linhaDe(dados.child(i), campos));
+std::vector<GridRow> rowsOf(const XmlDocument& answer, std::span<const GridField> fields) {
+    std::vector<GridRow> linhas;
+    const XmlNode data = answer.selectSingleNode("xml/rs:data");
+    const std::size_t count = data ? data.childCount() : 0;
+    linhas.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        linhas.push_back(rowOf(data.child(i), fields));
     }
     return linhas;
 }

@@ -12,24 +12,23 @@ namespace tarn {
 class XmlDocument;
 
 // What becomes of the attribute on its way into the cell.
-enum class Tratamento {
-    Texto,         // as it stands
-    Valor,         // read with a point as decimal mark, shown under "###,##0.00"
-    CpfCnpj,       // masked for the kind of person that PES_JUR tells
-    TipoPessoa,    // needs no attribute: "F" or "J" by PES_JUR
-    SoReceber,     // only of a receivable (TIPO_DOCTO is "DOCTO_RECEBER")
-    SoNaoReceber,  // only of anything else
+enum class Treatment {
+    Texto,              // as it stands
+    Amount,             // read with a point as decimal mark, shown under "###,##0.00"
+    CpfCnpj,            // masked for the kind of person that PES_JUR tells
+    PersonKind,         // needs no attribute: "F" or "J" by PES_JUR
+    ReceivableOnly,     // only of a receivable (TIPO_DOCTO is "DOCTO_RECEBER")
+    NotReceivableOnly,  // only of anything else
 };
 
 // One for each column, the first one included; no name: the cell stays empty.
-struct CampoGrade {
+struct GridField {
     std::string_view nome = {};
-    Tratamento tratamento = Tratamento::Texto;
+    Treatment treatment = Treatment::Texto;
 };
 
 // Unticked rows; costs O(1) a row. An absent attribute leaves its cell empty, also in a
 // treated column; a present but empty amount reads 0.
-std::vector<LinhaGrade> linhasDaResposta(const XmlDocument& resposta,
-                                         std::span<const CampoGrade> campos);
+std::vector<GridRow> rowsOf(const XmlDocument& answer, std::span<const GridField> fields);
 
 }  // namespace tarn

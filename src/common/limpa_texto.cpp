@@ -9,8 +9,8 @@ std::optional<std::string> TrocaAspas(const std::optional<std::string>& valor) {
         return std::nullopt;
     }
     std::string texto = *valor;
-    for (const char* aspa : {"'", "\"", "‘", "’"}) {
-        texto = replaceAll(texto, aspa, "´");
+    for (const char* quote : {"'", "\"", "‘", "’"}) {
+        texto = replaceAll(texto, quote, "´");
     }
     return texto;
 }

@@ -10,43 +10,43 @@
 namespace tarn {
 namespace {
 
-std::string_view textoDe(const XmlAttributes& atributos, std::string_view campo) {
-    const XmlAttribute atributo = atributos.getNamedItem(campo);
-    return atributo ? atributo.text() : std::string_view();
+std::string_view textOf(const XmlAttributes& attributes, std::string_view field) {
+    const XmlAttribute attribute = attributes.getNamedItem(field);
+    return attribute ? attribute.text() : std::string_view();
 }
 
-std::int32_t dadoDe(std::string_view texto) {
+std::int32_t itemDataOf(std::string_view texto) {
     try {
         return readInt32(texto);
-    } catch (const ErroExecucao&) {
+    } catch (const RuntimeError&) {
         return 0;
     }
 }
 
 }  // namespace
 
-std::vector<ItemLista> itensDaResposta(const XmlDocument& resposta, std::string_view campoTexto,
-                                       std::string_view campoDado) {
-    std::vector<ItemLista> itens;
-    const XmlNode linhas = resposta.selectSingleNode("xml/rs:data");
-    const std::size_t quantas = linhas ? linhas.childCount() : 0;
-    itens.reserve(quantas);
-    for (std::size_t i = 0; i < quantas; ++i) {
-        const XmlAttributes atributos = linhas.child(i).attributes();
-        itens.push_back(
-            {std::string(textoDe(atributos, campoTexto)), dadoDe(textoDe(atributos, campoDado))});
+std::vector<ListItem> listItemsOf(const XmlDocument& answer, std::string_view textField,
+                                  std::string_view dataField) {
+    std::vector<ListItem> items;
+    const XmlNode linhas = answer.selectSingleNode("xml/rs:data");
+    const std::size_t count = linhas ? linhas.childCount() : 0;
+    items.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const XmlAttributes attributes = linhas.child(i).attributes();
+        items.push_back({std::string(textOf(attributes, textField)),
+                         itemDataOf(textOf(attributes, dataField))});
     }
-    return itens;
+    return items;
 }
 
-std::vector<ItemLista> filiaisParaFiltro(Environment& ambiente, const Sessao& sessao) {
-    std::vector<ItemLista> filiais{{"<-TODAS->", 0}};
-    XmlDocument resposta;
-    if (pede(ambiente, comando::sel_filiais(sessao), resposta, falha::Tarn0009Largo)) {
-        const std::vector<ItemLista> lidas = itensDaResposta(resposta, "SG_FIL", "ID_ETB_TARN");
-        filiais.insert(filiais.end(), lidas.begin(), lidas.end());
+std::vector<ListItem> branchesForFilter(Environment& environment, const Sessao& session) {
+    std::vector<ListItem> branches{{"<-TODAS->", 0}};
+    XmlDocument answer;
+    if (requestAnswer(environment, commands::sel_filiais(session), answer, failure::Tarn0009Wide)) {
+        const std::vector<ListItem> readItems = listItemsOf(answer, "SG_FIL", "ID_ETB_TARN");
+        branches.insert(branches.end(), readItems.begin(), readItems.end());
     }
-    return filiais;
+    return branches;
 }
 
 }  // namespace tarn

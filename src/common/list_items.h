@@ -12,19 +12,19 @@ class XmlDocument;
 struct Environment;
 struct Sessao;
 
-struct ItemLista {
+struct ListItem {
     std::string texto;
-    std::int32_t dado = 0;  // item data; 0 of the first item: none chosen
-    bool operator==(const ItemLista&) const = default;
+    std::int32_t data = 0;  // item data; 0 of the first item: none chosen
+    bool operator==(const ListItem&) const = default;
 };
 
 // One for each row of the answer, in its order. An absent text is empty; item data
 // that is absent or no 32-bit number is 0.
-std::vector<ItemLista> itensDaResposta(const XmlDocument& resposta, std::string_view campoTexto,
-                                       std::string_view campoDado);
+std::vector<ListItem> listItemsOf(const XmlDocument& answer, std::string_view textField,
+                                  std::string_view dataField);
 
 // "<-TODAS->" and the company's branches; the first item alone when the request failed
 // (the user has been told).
-std::vector<ItemLista> filiaisParaFiltro(Environment& ambiente, const Sessao& sessao);
+std::vector<ListItem> branchesForFilter(Environment& environment, const Sessao& session);
 
 }  // namespace tarn

@@ -6,9 +6,9 @@
 
 namespace tarn {
 
-void mostraFalha(Environment& ambiente, const PrinterFailure& falha) {
-    ambiente.boxes.show({.text = "Descrição :" + falha.description +
-                                 "\r   Numero :" + std::to_string(falha.number)});
+void showFailure(Environment& environment, const PrinterFailure& failure) {
+    environment.boxes.show({.text = "Descrição :" + failure.description +
+                                    "\r   Numero :" + std::to_string(failure.number)});
 }
 
 }  // namespace tarn

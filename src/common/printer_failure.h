@@ -6,6 +6,6 @@ namespace tarn {
 struct Environment;
 struct PrinterFailure;
 
-void mostraFalha(Environment& ambiente, const PrinterFailure& falha);
+void showFailure(Environment& environment, const PrinterFailure& failure);
 
 }  // namespace tarn

@@ -10,7 +10,7 @@ namespace {
 
 std::size_t countOf(int value) {
     if (value < 0) {
-        throw ErroExecucao(ErroNumero::ArgumentoInvalido);
+        throw RuntimeError(RuntimeErrorCode::InvalidArgument);
     }
     return static_cast<std::size_t>(value);
 }
@@ -27,7 +27,7 @@ std::string FormataCampo(std::string& texto, int largura, bool aDireita) {
     return texto;
 }
 
-void appendCampo(std::string& linha, std::string_view texto, int largura, bool aDireita) {
+void appendField(std::string& linha, std::string_view texto, int largura, bool aDireita) {
     const std::size_t width = countOf(largura);
     const std::string_view head = texto.substr(0, width);
     if (isPlain(head)) {  // as many bytes as characters
@@ -49,13 +49,13 @@ void appendCampo(std::string& linha, std::string_view texto, int largura, bool a
 
 // Nobody looks at a spooler's results: a document that doesn't come out is printed
 // again from the screens that allow it.
-void RawChannel::abre(const JobDescription& job) {
+void RawChannel::open(const JobDescription& job) {
     spooler_.openPrinter(spooler_.defaultPrinter());
     spooler_.startDocument(job);
     spooler_.startPage();
 }
 
-void RawChannel::fecha() {
+void RawChannel::close() {
     spooler_.endPage();
     spooler_.endDocument();
     spooler_.closePrinter();

@@ -17,16 +17,16 @@ std::string FormataCampo(std::string& texto, int largura, bool aDireita);
 
 // The same for building lines: appends the field to `linha`, each control
 // character of the value as one blank.
-void appendCampo(std::string& linha, std::string_view texto, int largura, bool aDireita);
+void appendField(std::string& linha, std::string_view texto, int largura, bool aDireita);
 
 class RawChannel {
 public:
     RawChannel(Spooler& spooler, CodePage page) : spooler_(spooler), page_(page) {}
 
     // Opens the default printer and starts a document and its only page.
-    void abre(const JobDescription& job = {});
+    void open(const JobDescription& job = {});
     // Ends page and document and closes the printer.
-    void fecha();
+    void close();
 
     // Appends `linhas` times CR LF to `texto` (the caller's variable changes), puts
     // `coluna` blanks before it and sends it in one write. Raises ArgumentoInvalido

@@ -6,19 +6,20 @@
 namespace tarn {
 namespace {
 
-constexpr std::size_t digitosCpf = 11;
-constexpr std::size_t digitosCnpj = 14;
+constexpr std::size_t cpfDigits = 11;
+constexpr std::size_t cnpjDigits = 14;
 
 }  // namespace
 
-bool pessoaFisica(std::string_view pesJur) {
+bool isNaturalPerson(std::string_view pesJur) {
     return pesJur == "0";
 }
 
-std::string cpfCnpj(bool fisica, std::string_view numero) {
-    const std::size_t digitos = fisica ? digitosCpf : digitosCnpj;
-    const std::string comZeros = std::string(digitos, '0').append(numero);
-    return fillMask(rightOf(comZeros, digitos), fisica ? "@@@.@@@.@@@-@@" : "@@.@@@.@@@/@@@@-@@");
+std::string cpfCnpj(bool naturalPerson, std::string_view number) {
+    const std::size_t digits = naturalPerson ? cpfDigits : cnpjDigits;
+    const std::string withZeros = std::string(digits, '0').append(number);
+    return fillMask(rightOf(withZeros, digits),
+                    naturalPerson ? "@@@.@@@.@@@-@@" : "@@.@@@.@@@/@@@@-@@");
 }
 
 }  // namespace tarn

@@ -7,10 +7,10 @@
 namespace tarn {
 
 // What the server's PES_JUR says: only the text "0" is a natural person.
-bool pessoaFisica(std::string_view pesJur);
+bool isNaturalPerson(std::string_view pesJur);
 
 // Zeros in front, the last 11 (natural person) or 14 characters, whatever they are,
 // under "@@@.@@@.@@@-@@" or "@@.@@@.@@@/@@@@-@@".
-std::string cpfCnpj(bool fisica, std::string_view numero);
+std::string cpfCnpj(bool naturalPerson, std::string_view number);
 
 }  // namespace tarn

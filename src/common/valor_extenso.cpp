@@ -9,19 +9,19 @@ namespace tarn {
 
 namespace {
 
-constexpr std::array<std::string_view, 20> unidades = {
+constexpr std::array<std::string_view, 20> units = {
     "",         "UM",     "DOIS",      "TRES",      "QUATRO",  "CINCO",   "SEIS",
     "SETE",     "OITO",   "NOVE",      "DEZ",       "ONZE",    "DOZE",    "TREZE",
     "QUATORZE", "QUINZE", "DEZESSEIS", "DEZESSETE", "DEZOITO", "DEZENOVE"};
-constexpr std::array<std::string_view, 10> dezenas = {
-    "",          "",         "VINTE",   "TRINTA",  "QUARENTA",
-    "CINQUENTA", "SESSENTA", "SETENTA", "OITENTA", "NOVENTA"};
-constexpr std::array<std::string_view, 10> centenas = {
+constexpr std::array<std::string_view, 10> tens = {"",         "",          "VINTE",    "TRINTA",
+                                                   "QUARENTA", "CINQUENTA", "SESSENTA", "SETENTA",
+                                                   "OITENTA",  "NOVENTA"};
+constexpr std::array<std::string_view, 10> hundreds = {
     "",           "CENTO",      "DUZENTOS",   "TREZENTOS",  "QUATROCENTOS",
     "QUINHENTOS", "SEISCENTOS", "SETECENTOS", "OITOCENTOS", "NOVECENTOS"};
-constexpr std::array<std::string_view, 6> grupoSingular = {"",        " MIL",     " MILHAO",
+constexpr std::array<std::string_view, 6> groupSingular = {"",        " MIL",     " MILHAO",
                                                            " BILHAO", " TRILHAO", " QUATRILHAO"};
-constexpr std::array<std::string_view, 6> grupoPlural = {"",         " MIL",      " MILHOES",
+constexpr std::array<std::string_view, 6> groupPlural = {"",         " MIL",      " MILHOES",
                                                          " BILHOES", " TRILHOES", " QUATRILHOES"};
 
 constexpr std::size_t wholeDigits = 18;
@@ -31,9 +31,9 @@ constexpr NumberMask wholeMask("000000000000000000.000");
 // singular name, as 1 does.
 std::string groupWords(std::size_t group, std::size_t name) {
     if (group == 1 || group == 100) {
-        return std::string(group == 1 ? "UM" : "CEM").append(grupoSingular[name]);
+        return std::string(group == 1 ? "UM" : "CEM").append(groupSingular[name]);
     }
-    std::string words(centenas[group / 100]);
+    std::string words(hundreds[group / 100]);
     std::size_t rest = group % 100;
     const auto join = [&words, &rest] {
         if (!words.empty() && rest != 0) {
@@ -42,12 +42,12 @@ std::string groupWords(std::size_t group, std::size_t name) {
     };
     join();
     if (rest >= 20) {
-        words += dezenas[rest / 10];
+        words += tens[rest / 10];
         rest %= 10;
         join();
     }
-    words += unidades[rest];
-    return words.append(grupoPlural[name]);
+    words += units[rest];
+    return words.append(groupPlural[name]);
 }
 
 std::string_view separatorBefore(std::size_t group, bool last) {

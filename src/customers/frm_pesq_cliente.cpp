@@ -15,11 +15,11 @@
 namespace tarn {
 namespace {
 
-constexpr std::array<ColunaGrade, 4> colunas{
+constexpr std::array<GridColumn, 4> columns{
     {{"Cliente", 52}, {"Tipo de Empresa", 26}, {"ID_PES_CLI", 14}, {"ID_ETB_CLI", 0}}};
-constexpr std::size_t colunaNome = 1;
-constexpr std::size_t colunaId = 3;
-constexpr int linhasVisiveis = 12;
+constexpr std::size_t nameColumn = 1;
+constexpr std::size_t idColumn = 3;
+constexpr int visibleLines = 12;
 
 }  // namespace
 
@@ -27,19 +27,19 @@ FrmPesqCliente::FrmPesqCliente(DeskContext& desk, QWidget* parent)
     : QDialog(parent),
       desk_(desk),
       ui_(std::make_unique<Ui::FrmPesqCliente>()),
-      clientes_(new GradeModel(colunas, this)) {
+      customers_(new GridModel(columns, this)) {
     ui_->setupUi(this);
-    preparaGrade(*ui_->sprDados, *clientes_);
-    preparaBotoes();
-    ajustaAGrade(*this, *ui_->sprDados, linhasVisiveis);
+    prepareGrid(*ui_->sprDados, *customers_);
+    prepareButtons();
+    fitToGrid(*this, *ui_->sprDados, visibleLines);
 }
 
 FrmPesqCliente::~FrmPesqCliente() = default;
 
-void FrmPesqCliente::preparaBotoes() {
-    poeFigura(*ui_->cmdPesquisar, "search");
-    poeFigura(*ui_->cmdSelecionar, "select");
-    poeFigura(*ui_->cmdVoltar, "close");
+void FrmPesqCliente::prepareButtons() {
+    setIcon(*ui_->cmdPesquisar, "search");
+    setIcon(*ui_->cmdSelecionar, "select");
+    setIcon(*ui_->cmdVoltar, "close");
     connect(ui_->cmdPesquisar, &QPushButton::clicked, this, &FrmPesqCliente::cmdPesquisar_Click);
     connect(ui_->cmdSelecionar, &QPushButton::clicked, this, &FrmPesqCliente::cmdSelecionar_Click);
     connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::reject);
@@ -51,12 +51,12 @@ void FrmPesqCliente::preparaBotoes() {
 void FrmPesqCliente::cmdPesquisar_Click() {
     const WaitCursor hourglass;
     try {
-        const auto mostra = [this](std::vector<LinhaGrade> linhas) {
-            clientes_->mostra(std::move(linhas));
-            ui_->sprDados->setCurrentIndex(clientes_->index(0, 0));
+        const auto show = [this](std::vector<GridRow> linhas) {
+            customers_->show(std::move(linhas));
+            ui_->sprDados->setCurrentIndex(customers_->index(0, 0));
         };
-        if (!pesquisaCliente(desk_.ambiente, desk_.sessao, ui_->txtNmCli->text().toStdString(),
-                             mostra)) {
+        if (!searchCustomer(desk_.environment, desk_.session, ui_->txtNmCli->text().toStdString(),
+                            show)) {
             ui_->txtNmCli->setFocus();
         }
     } catch (const std::exception&) {
@@ -65,14 +65,14 @@ void FrmPesqCliente::cmdPesquisar_Click() {
 }
 
 void FrmPesqCliente::cmdSelecionar_Click() {
-    if (clientes_->rowCount() == 0) {
-        desk_.ambiente.boxes.show(
+    if (customers_->rowCount() == 0) {
+        desk_.environment.boxes.show(
             {"Faça uma pesquisa para selecionar um cliente.     ", BoxIcon::Information, "Aviso"});
         return;
     }
-    const QModelIndex ativa = ui_->sprDados->currentIndex();
-    const LinhaGrade& linha = clientes_->linha(ativa.isValid() ? ativa.row() : 0);
-    emit escolheu({.id = linha.coluna(colunaId), .nome = linha.coluna(colunaNome)});
+    const QModelIndex activate = ui_->sprDados->currentIndex();
+    const GridRow& linha = customers_->linha(activate.isValid() ? activate.row() : 0);
+    emit chosen({.id = linha.coluna(idColumn), .nome = linha.coluna(nameColumn)});
     accept();
 }
 

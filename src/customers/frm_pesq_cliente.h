@@ -14,7 +14,7 @@ class FrmPesqCliente;
 
 namespace tarn {
 
-class GradeModel;
+class GridModel;
 
 class FrmPesqCliente : public QDialog {
     Q_OBJECT
@@ -25,20 +25,20 @@ public:
 
 signals:
     // Comes before the dialog hides.
-    void escolheu(const tarn::Cliente& cliente);
+    void chosen(const tarn::Customer& customer);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void preparaBotoes();
+    void prepareButtons();
 
     void cmdPesquisar_Click();
     void cmdSelecionar_Click();
 
     DeskContext& desk_;
     std::unique_ptr<Ui::FrmPesqCliente> ui_;
-    GradeModel* clientes_;
+    GridModel* customers_;
 };
 
 }  // namespace tarn

@@ -14,42 +14,42 @@
 namespace tarn {
 namespace {
 
-constexpr std::size_t menorNome = 3;
+constexpr std::size_t smallestName = 3;
 
-constexpr std::array<CampoGrade, 3> campos{
+constexpr std::array<GridField, 3> fields{
     {{.nome = "NM_PES_CPL"}, {.nome = "DC_TIP_EMP"}, {.nome = "ID_PES_CLI"}}};
 
-void informa(Environment& ambiente, const std::string& texto) {
-    ambiente.boxes.show({.text = texto, .icon = BoxIcon::Information, .title = "Aviso"});
+void inform(Environment& environment, const std::string& texto) {
+    environment.boxes.show({.text = texto, .icon = BoxIcon::Information, .title = "Aviso"});
 }
 
 }  // namespace
 
-bool ProcuraCliente(Environment& ambiente, const Sessao& sessao, XmlDocument& resposta,
+bool ProcuraCliente(Environment& environment, const Sessao& session, XmlDocument& answer,
                     const std::optional<std::string>& texto) {
-    return pede(ambiente, comando::Sel_Cliente(sessao, texto.value_or("")), resposta,
-                falha::Tarn0024);
+    return requestAnswer(environment, commands::Sel_Cliente(session, texto.value_or("")), answer,
+                         failure::Tarn0024);
 }
 
-std::vector<LinhaGrade> linhasDeClientes(const XmlDocument& resposta) {
-    return linhasDaResposta(resposta, campos);
+std::vector<GridRow> customerRows(const XmlDocument& answer) {
+    return rowsOf(answer, fields);
 }
 
-bool pesquisaCliente(Environment& ambiente, const Sessao& sessao, const std::string& texto,
-                     const MostraClientes& mostra) {
-    if (lengthOf(trimBlanks(texto)) < menorNome) {
-        informa(ambiente, "Nome do cliente deve ter no mínimo 3 letras.    ");
+bool searchCustomer(Environment& environment, const Sessao& session, const std::string& texto,
+                    const ShowCustomers& show) {
+    if (lengthOf(trimBlanks(texto)) < smallestName) {
+        inform(environment, "Nome do cliente deve ter no mínimo 3 letras.    ");
         return false;
     }
-    XmlDocument resposta;
-    if (!ProcuraCliente(ambiente, sessao, resposta, texto)) {
+    XmlDocument answer;
+    if (!ProcuraCliente(environment, session, answer, texto)) {
         return true;
     }
-    std::vector<LinhaGrade> linhas = linhasDeClientes(resposta);
-    const bool nenhuma = linhas.empty();
-    mostra(std::move(linhas));
-    if (nenhuma) {
-        informa(ambiente, "Pesquisa nao encontrou nenhum registro.     ");
+    std::vector<GridRow> linhas = customerRows(answer);
+    const bool none = linhas.empty();
+    show(std::move(linhas));
+    if (none) {
+        inform(environment, "Pesquisa nao encontrou nenhum registro.     ");
     }
     return true;
 }

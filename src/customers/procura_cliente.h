@@ -15,25 +15,25 @@ struct Environment;
 struct Sessao;
 
 // The one chosen: what the searches filter by and what they show.
-struct Cliente {
+struct Customer {
     std::string id;  // ID_PES_CLI; empty: all customers
     std::string nome;
-    bool operator==(const Cliente&) const = default;
+    bool operator==(const Customer&) const = default;
 };
 
 // Sends the search text as typed ("&" as "|", nothing for none); true when the answer
 // was read, otherwise the user has been told.
-bool ProcuraCliente(Environment& ambiente, const Sessao& sessao, XmlDocument& resposta,
+bool ProcuraCliente(Environment& environment, const Sessao& session, XmlDocument& answer,
                     const std::optional<std::string>& texto);
 
 // The rows of the grid: name, kind of company, identifier. Absent fields are empty.
-std::vector<LinhaGrade> linhasDeClientes(const XmlDocument& resposta);
+std::vector<GridRow> customerRows(const XmlDocument& answer);
 
-// What a click on the search button does: `mostra` gets the rows for the grid, also none,
+// What a click on the search button does: `show` gets the rows for the grid, also none,
 // before the user is told that there are none. Not called: the grid stays as it is, and the
 // user has been told why. False: the name is too short.
-using MostraClientes = std::function<void(std::vector<LinhaGrade>)>;
-bool pesquisaCliente(Environment& ambiente, const Sessao& sessao, const std::string& texto,
-                     const MostraClientes& mostra);
+using ShowCustomers = std::function<void(std::vector<GridRow>)>;
+bool searchCustomer(Environment& environment, const Sessao& session, const std::string& texto,
+                    const ShowCustomers& show);
 
 }  // namespace tarn

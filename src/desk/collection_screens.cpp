@@ -6,47 +6,48 @@
 
 namespace tarn {
 
-TelasDeCobranca::TelasDeCobranca(DeskContext& desk, QWidget& mesa) : desk_(desk), mesa_(mesa) {}
+CollectionScreens::CollectionScreens(DeskContext& desk, QWidget& mainWindow)
+    : desk_(desk), mainWindow_(mainWindow) {}
 
-TelasDeCobranca::~TelasDeCobranca() = default;
+CollectionScreens::~CollectionScreens() = default;
 
-FrmPesqDupli& TelasDeCobranca::duplicatas() {
-    return carregada(duplicatas_);
+FrmPesqDupli& CollectionScreens::bills() {
+    return loaded(bills_);
 }
 
-frmPesqBoleto& TelasDeCobranca::boletos() {
-    return carregada(boletos_);
+frmPesqBoleto& CollectionScreens::slips() {
+    return loaded(slips_);
 }
 
 template <typename Tela>
-Tela& TelasDeCobranca::carregada(QPointer<Tela>& guardada) {
-    if (!guardada) {
-        auto* tela = new Tela(desk_, &mesa_);
-        guardada = tela;
-        connect(tela, &Tela::procuraCliente, this, [this, tela] { procuraCliente(*tela); });
-        connect(tela, &QDialog::finished, this, [&guardada, tela] {
-            guardada.clear();
-            tela->deleteLater();
+Tela& CollectionScreens::loaded(QPointer<Tela>& kept) {
+    if (!kept) {
+        auto* screen = new Tela(desk_, &mainWindow_);
+        kept = screen;
+        connect(screen, &Tela::customerWanted, this, [this, screen] { customerWanted(*screen); });
+        connect(screen, &QDialog::finished, this, [&kept, screen] {
+            kept.clear();
+            screen->deleteLater();
         });
     }
-    return *guardada;
+    return *kept;
 }
 
 // The dialog belongs to the screen only while it stands in front of it, so that it
 // outlives the screen.
-void TelasDeCobranca::procuraCliente(QDialog& tela) {
-    if (!clientes_) {
-        clientes_ = std::make_unique<FrmPesqCliente>(desk_, &mesa_);
-        connect(clientes_.get(), &FrmPesqCliente::escolheu, this, &TelasDeCobranca::recebeCliente);
+void CollectionScreens::customerWanted(QDialog& screen) {
+    if (!customers_) {
+        customers_ = std::make_unique<FrmPesqCliente>(desk_, &mainWindow_);
+        connect(customers_.get(), &FrmPesqCliente::chosen, this, &CollectionScreens::takeCustomer);
     }
-    clientes_->setParent(&tela, clientes_->windowFlags());
-    clientes_->exec();
-    clientes_->setParent(&mesa_, clientes_->windowFlags());
+    customers_->setParent(&screen, customers_->windowFlags());
+    customers_->exec();
+    customers_->setParent(&mainWindow_, customers_->windowFlags());
 }
 
-void TelasDeCobranca::recebeCliente(const Cliente& cliente) {
-    duplicatas().recebeCliente(cliente);
-    boletos().recebeCliente(cliente);
+void CollectionScreens::takeCustomer(const Customer& customer) {
+    bills().takeCustomer(customer);
+    slips().takeCustomer(customer);
 }
 
 }  // namespace tarn

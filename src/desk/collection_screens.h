@@ -17,31 +17,31 @@ namespace tarn {
 class FrmPesqCliente;
 class FrmPesqDupli;
 class frmPesqBoleto;
-struct Cliente;
+struct Customer;
 
-class TelasDeCobranca : public QObject {
+class CollectionScreens : public QObject {
     Q_OBJECT
 
 public:
-    // `mesa` is the window in front of which the screens open.
-    TelasDeCobranca(DeskContext& desk, QWidget& mesa);
-    ~TelasDeCobranca() override;
+    // `mainWindow` is the window in front of which the screens open.
+    CollectionScreens(DeskContext& desk, QWidget& mainWindow);
+    ~CollectionScreens() override;
 
     // A screen, loaded now if it isn't; unloaded when it closes.
-    FrmPesqDupli& duplicatas();
-    frmPesqBoleto& boletos();
+    FrmPesqDupli& bills();
+    frmPesqBoleto& slips();
 
 private:
     template <typename Tela>
-    Tela& carregada(QPointer<Tela>& guardada);
-    void procuraCliente(QDialog& tela);
-    void recebeCliente(const Cliente& cliente);
+    Tela& loaded(QPointer<Tela>& kept);
+    void customerWanted(QDialog& screen);
+    void takeCustomer(const Customer& customer);
 
     DeskContext& desk_;
-    QWidget& mesa_;
-    std::unique_ptr<FrmPesqCliente> clientes_;
-    QPointer<FrmPesqDupli> duplicatas_;
-    QPointer<frmPesqBoleto> boletos_;
+    QWidget& mainWindow_;
+    std::unique_ptr<FrmPesqCliente> customers_;
+    QPointer<FrmPesqDupli> bills_;
+    QPointer<frmPesqBoleto> slips_;
 };
 
 }  // namespace tarn

@@ -9,39 +9,38 @@ namespace tarn {
 DeskApplication::DeskApplication(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("TarnEmissao"));
     setQuitOnLastWindowClosed(false);  // the program ends where it says so, nowhere else
-    aplicaAparencia(*this);
+    applyLook(*this);
 }
 
 bool DeskApplication::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (...) {
-        if (!relato_) {
+        if (!report_) {
             throw;
         }
-        relato_(std::current_exception());
+        report_(std::current_exception());
         return false;
     }
 }
 
-void relataErro(const DeskContext& desk, const std::exception_ptr& erro) {
+void reportError(const DeskContext& desk, const std::exception_ptr& error) {
     Box box;
     box.icon = BoxIcon::Critical;
     try {
-        std::rethrow_exception(erro);
-    } catch (const ErroExecucao& conhecido) {
-        box.text =
-            textoDoRelatorio(conhecido, dynamic_cast<const ErroComNota*>(&conhecido) != nullptr);
-    } catch (const std::exception& outro) {
+        std::rethrow_exception(error);
+    } catch (const RuntimeError& known) {
+        box.text = reportText(known, dynamic_cast<const ErrorAfterNote*>(&known) != nullptr);
+    } catch (const std::exception& other) {
         box.text = std::string(
                        "Aconteceu um erro inesperado e o programa será encerrado. Anote o "
                        "texto abaixo e fale com o suporte.\r\r") +
-                   outro.what();
+                   other.what();
     }
-    if (!desk.fim.encerrado()) {
-        desk.ambiente.boxes.show(box);
+    if (!desk.end.ended()) {
+        desk.environment.boxes.show(box);
     }
-    desk.fim.encerra(statusErroExecucao);
+    desk.end.endProgram(runtimeErrorStatus);
 }
 
 }  // namespace tarn

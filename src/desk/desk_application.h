@@ -14,21 +14,21 @@ class DeskApplication : public QApplication {
     Q_OBJECT
 
 public:
-    using Relato = std::function<void(std::exception_ptr)>;
+    using ErrorReport = std::function<void(std::exception_ptr)>;
 
     // `argc` and `argv` must outlive the application. Sets the program's look.
     DeskApplication(int& argc, char** argv);
 
     // Who is told of an exception that came out of an event handler.
-    void setRelato(Relato relato) { relato_ = std::move(relato); }
+    void setErrorReport(ErrorReport report) { report_ = std::move(report); }
 
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:
-    Relato relato_;
+    ErrorReport report_;
 };
 
 // Shows the run time's report of the exception and ends the program with status 3.
-void relataErro(const DeskContext& desk, const std::exception_ptr& erro);
+void reportError(const DeskContext& desk, const std::exception_ptr& error);
 
 }  // namespace tarn

@@ -8,46 +8,46 @@
 
 namespace tarn {
 
-Impressoras impressorasDe(const Opcoes& opcoes) {
-    if (opcoes.impressoraVirtual.empty()) {
+Printers printersOf(const Options& options) {
+    if (options.virtualPrinter.empty()) {
         return {makeSystemSpooler(), std::make_unique<QtPrinter>()};
     }
-    const auto files = std::make_shared<JobFiles>(opcoes.impressoraVirtual);
+    const auto files = std::make_shared<JobFiles>(options.virtualPrinter);
     return {std::make_unique<DirectorySpooler>(files), std::make_unique<QtPrinter>(files)};
 }
 
-Mesa::Mesa(DeskApplication& programa, const Opcoes& opcoes, Impressoras impressoras)
-    : programa_(programa),
-      selecaoEtiquetas_(opcoes.selecaoEtiquetas),
-      impressoras_(std::move(impressoras)),
-      ambiente_{.http = http_,
-                .spooler = *impressoras_.bruta,
-                .printer = *impressoras_.paginas,
-                .boxes = caixas_,
-                .clock = relogio_,
-                .machine = maquina_,
-                .baseUrl = opcoes.baseUrl,
-                .codePage = opcoes.paginaDeCodigo} {
-    if (!opcoes.pastaFiguras.empty()) {
-        ambiente_.pastaFiguras = opcoes.pastaFiguras;
+Mesa::Mesa(DeskApplication& program, const Options& options, Printers printers)
+    : program_(program),
+      labelSelection_(options.labelSelection),
+      printers_(std::move(printers)),
+      environment_{.http = http_,
+                   .spooler = *printers_.raw,
+                   .printer = *printers_.pages,
+                   .boxes = boxes_,
+                   .clock = clock_,
+                   .machine = machine_,
+                   .baseUrl = options.baseUrl,
+                   .codePage = options.codePage} {
+    if (!options.pictureFolder.empty()) {
+        environment_.pictureFolder = options.pictureFolder;
     }
-    programa_.setRelato([this](const std::exception_ptr& erro) { relataErro(desk_, erro); });
-    QObject::connect(&fim_, &FimDoPrograma::encerrou, &programa_, [this](int status) {
+    program_.setErrorReport([this](const std::exception_ptr& error) { reportError(desk_, error); });
+    QObject::connect(&end_, &ProgramEnd::didEnd, &program_, [this](int status) {
         http_.close();
         QCoreApplication::exit(status);
     });
 }
 
 Mesa::~Mesa() {
-    programa_.setRelato(nullptr);
+    program_.setErrorReport(nullptr);
 }
 
-void Mesa::abre() {
+void Mesa::open() {
     menu_.show();
     QTimer::singleShot(0, &menu_, [this] {
-        menu_.carrega();
-        if (selecaoEtiquetas_ && !fim_.encerrado()) {
-            menu_.abreSelecaoEtiquetas();
+        menu_.load();
+        if (labelSelection_ && !end_.ended()) {
+            menu_.openLabelSelection();
         }
     });
 }

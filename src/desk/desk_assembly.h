@@ -18,40 +18,40 @@
 namespace tarn {
 
 // The printer that the options name, as raw jobs and drawn pages reach it.
-struct Impressoras {
-    std::unique_ptr<Spooler> bruta;
-    std::unique_ptr<Printer> paginas;
+struct Printers {
+    std::unique_ptr<Spooler> raw;
+    std::unique_ptr<Printer> pages;
 };
 
-// `bruta` is null where the program was built without a printer of the system and
+// `raw` is null where the program was built without a printer of the system and
 // the options name none.
-Impressoras impressorasDe(const Opcoes& opcoes);
+Printers printersOf(const Options& options);
 
 class Mesa {
 public:
-    // Both of `impressoras` must be there.
-    Mesa(DeskApplication& programa, const Opcoes& opcoes, Impressoras impressoras);
+    // Both of `printers` must be there.
+    Mesa(DeskApplication& program, const Options& options, Printers printers);
     ~Mesa();
 
     // Shows the main window, then runs the start of the program in its event loop.
-    void abre();
+    void open();
 
     MDIMenu& menu() { return menu_; }
-    const FimDoPrograma& fim() const { return fim_; }
+    const ProgramEnd& end() const { return end_; }
 
 private:
-    DeskApplication& programa_;
-    bool selecaoEtiquetas_;
-    CurlLoader rede_;
-    BlockingLoader http_{rede_};
-    Impressoras impressoras_;
-    QtMessageBoxes caixas_;
-    QtClock relogio_;
-    QtMachine maquina_;
-    Environment ambiente_;
-    Sessao sessao_;
-    FimDoPrograma fim_;
-    DeskContext desk_{ambiente_, sessao_, fim_};
+    DeskApplication& program_;
+    bool labelSelection_;
+    CurlLoader network_;
+    BlockingLoader http_{network_};
+    Printers printers_;
+    QtMessageBoxes boxes_;
+    QtClock clock_;
+    QtMachine machine_;
+    Environment environment_;
+    Sessao session_;
+    ProgramEnd end_;
+    DeskContext desk_{environment_, session_, end_};
     MDIMenu menu_{desk_};
 };
 

@@ -5,14 +5,14 @@
 namespace tarn {
 namespace {
 
-constexpr char pagina[] = "/Kestomain/TarnEmissao.asp?";
+constexpr char page[] = "/Kestomain/TarnEmissao.asp?";
 
-constexpr char rodape[] =
+constexpr char footer[] =
     "\nVariável de ambiente: TARN_SERVIDOR, endereço do servidor quando falta --servidor.\n"
     "Fim do programa: 0 encerrado pelo usuário ou por um aviso; 1 uso errado; 3 erro em tempo\n"
     "de execução.";
 
-std::string erroDeUso(const std::string& texto) {
+std::string usageError(const std::string& texto) {
     return "tarnemissao: " + texto + "\nUse tarnemissao --ajuda para ver as opções.\n";
 }
 
@@ -25,44 +25,42 @@ void portugueseLabels(CLI::App& app) {
 }
 
 // The option's or argument's own words out of the parser's English sentence.
-std::string comoMensagem(const CLI::ParseError& erro) {
-    const std::string frase = erro.what();
-    const std::size_t doisPontos = frase.find(": ");
-    if (dynamic_cast<const CLI::ArgumentMismatch*>(&erro) != nullptr) {
-        return "falta o valor da opção " + frase.substr(0, doisPontos) + ".";
+std::string asMessage(const CLI::ParseError& error) {
+    const std::string sentence = error.what();
+    const std::size_t colonAt = sentence.find(": ");
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+        return "falta o valor da opção " + sentence.substr(0, colonAt) + ".";
     }
-    const std::string palavras =
-        doisPontos == std::string::npos ? "" : frase.substr(doisPontos + 2);
-    if (dynamic_cast<const CLI::ExtrasError*>(&erro) != nullptr) {
-        return "opção ou argumento desconhecido: " + palavras + ".";
+    const std::string words = colonAt == std::string::npos ? "" : sentence.substr(colonAt + 2);
+    if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
+        return "opção ou argumento desconhecido: " + words + ".";
     }
-    return "valor que não serve: " + palavras + ".";
+    return "valor que não serve: " + words + ".";
 }
 
 }  // namespace
 
-std::string enderecoDoServidor(const std::string& digitado) {
-    for (const std::string esquema : {"http://", "https://"}) {
-        if (digitado.size() <= esquema.size() ||
-            digitado.compare(0, esquema.size(), esquema) != 0) {
+std::string serverAddress(const std::string& typed) {
+    for (const std::string scheme : {"http://", "https://"}) {
+        if (typed.size() <= scheme.size() || typed.compare(0, scheme.size(), scheme) != 0) {
             continue;
         }
-        if (digitado.find('?') != std::string::npos) {
-            return digitado;
+        if (typed.find('?') != std::string::npos) {
+            return typed;
         }
-        const std::size_t barra = digitado.find('/', esquema.size());
-        const bool semPagina = barra == std::string::npos || barra + 1 == digitado.size();
-        return semPagina ? digitado.substr(0, barra) + pagina : digitado + "?";
+        const std::size_t bar = typed.find('/', scheme.size());
+        const bool noPage = bar == std::string::npos || bar + 1 == typed.size();
+        return noPage ? typed.substr(0, bar) + page : typed + "?";
     }
     return {};
 }
 
-std::variant<Opcoes, SemPartida> leOpcoes(int argc, const char* const* argv,
-                                          const std::string& servidorDoAmbiente,
-                                          const std::string& padrao) {
-    Opcoes opcoes;
-    std::string servidor = servidorDoAmbiente.empty() ? padrao : servidorDoAmbiente;
-    int pagina8Bits = 1252;
+std::variant<Options, NoStart> readOptions(int argc, const char* const* argv,
+                                           const std::string& environmentServer,
+                                           const std::string& padrao) {
+    Options options;
+    std::string server = environmentServer.empty() ? padrao : environmentServer;
+    int page8Bits = 1252;
     CLI::App app("TarnEmissao: emissão de notas, duplicatas, boletos, cheques e etiquetas.",
                  "tarnemissao");
     portugueseLabels(app);
@@ -70,46 +68,46 @@ std::variant<Opcoes, SemPartida> leOpcoes(int argc, const char* const* argv,
     app.set_help_flag("-h,--ajuda,--help", "mostra esta ajuda e termina")->group("Opções");
     app.set_version_flag("--versao,--version", std::string("TarnEmissao ") + TARN_VERSION,
                          "mostra a versão e termina");
-    app.add_option("--servidor", servidor, "endereço do servidor (http:// ou https://)")
+    app.add_option("--servidor", server, "endereço do servidor (http:// ou https://)")
         ->type_name("URL");
     const CLI::Option* virtualPrinter =
-        app.add_option("--impressora-virtual", opcoes.impressoraVirtual,
+        app.add_option("--impressora-virtual", options.virtualPrinter,
                        "grava cada impressão em um arquivo desta pasta")
             ->type_name("PASTA");
-    app.add_option("--pagina-de-codigo", pagina8Bits,
+    app.add_option("--pagina-de-codigo", page8Bits,
                    "página de caracteres da impressora: 1252, 850 ou 860")
         ->type_name("NUM");
-    app.add_option("--pasta-figuras", opcoes.pastaFiguras,
+    app.add_option("--pasta-figuras", options.pictureFolder,
                    "pasta das figuras das duplicatas (LOGODUPL.jpg e outras)")
         ->type_name("PASTA");
-    app.add_flag("--selecao-etiquetas", opcoes.selecaoEtiquetas,
+    app.add_flag("--selecao-etiquetas", options.labelSelection,
                  "abre a seleção de etiquetas depois da entrada");
-    app.footer(rodape);
+    app.footer(footer);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
-        return SemPartida{0, app.help()};
+        return NoStart{0, app.help()};
     } catch (const CLI::CallForVersion& versao) {
-        return SemPartida{0, std::string(versao.what()) + "\n"};
-    } catch (const CLI::ParseError& erro) {
-        return SemPartida{1, erroDeUso(comoMensagem(erro))};
+        return NoStart{0, std::string(versao.what()) + "\n"};
+    } catch (const CLI::ParseError& error) {
+        return NoStart{1, usageError(asMessage(error))};
     }
     // Taken as not given, it would send the notes to the real printer.
-    if (virtualPrinter->count() > 0 && opcoes.impressoraVirtual.empty()) {
-        return SemPartida{1, erroDeUso("--impressora-virtual pede o nome de uma pasta.")};
+    if (virtualPrinter->count() > 0 && options.virtualPrinter.empty()) {
+        return NoStart{1, usageError("--impressora-virtual pede o nome de uma pasta.")};
     }
-    const auto page = codePageByNumber(pagina8Bits);
+    const auto page = codePageByNumber(page8Bits);
     if (!page) {
-        return SemPartida{1, erroDeUso("--pagina-de-codigo aceita 1252, 850 ou 860.")};
+        return NoStart{1, usageError("--pagina-de-codigo aceita 1252, 850 ou 860.")};
     }
-    opcoes.paginaDeCodigo = *page;
-    opcoes.baseUrl = enderecoDoServidor(servidor);
-    if (opcoes.baseUrl.empty()) {
-        return SemPartida{1, erroDeUso("o endereço do servidor deve começar com http:// ou "
-                                       "https://: \"" +
-                                       servidor + "\".")};
+    options.codePage = *page;
+    options.baseUrl = serverAddress(server);
+    if (options.baseUrl.empty()) {
+        return NoStart{1, usageError("o endereço do servidor deve começar com http:// ou "
+                                     "https://: \"" +
+                                     server + "\".")};
     }
-    return opcoes;
+    return options;
 }
 
 }  // namespace tarn

@@ -12,9 +12,9 @@ namespace tarn {
 frmAjuda::frmAjuda(DeskContext& desk, QWidget* parent)
     : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::frmAjuda>()) {
     ui_->setupUi(this);
-    const int lado = fontMetrics().height() * 5;
+    const int side = fontMetrics().height() * 5;
     ui_->Image1->setPixmap(
-        figura(QStringLiteral("help")).pixmap(QSize(lado, lado), devicePixelRatio()));
+        picture(QStringLiteral("help")).pixmap(QSize(side, side), devicePixelRatio()));
     ui_->Label1->setText(QString::fromUtf8(makerName));
     ui_->Label2->setText(QStringLiteral("Telefone: %1").arg(QString::fromUtf8(supportPhone)));
     ui_->Label3->setText(QStringLiteral("Suporte: %1").arg(QString::fromUtf8(supportAddress)));
@@ -25,8 +25,8 @@ frmAjuda::frmAjuda(DeskContext& desk, QWidget* parent)
 
 frmAjuda::~frmAjuda() = default;
 
-bool frmAjuda::carrega() {
-    return impoeFormatoData(desk_.ambiente);
+bool frmAjuda::load() {
+    return imposeDateFormat(desk_.environment);
 }
 
 }  // namespace tarn

@@ -21,7 +21,7 @@ public:
 
     // Before it shows: imposes the date format, as the logon does. False: refused, the
     // user was told, the program must end.
-    bool carrega();
+    bool load();
 
 private:
     DeskContext& desk_;

@@ -18,11 +18,11 @@ FrmLogon::FrmLogon(DeskContext& desk, QWidget* parent)
     : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::FrmLogon>()) {
     ui_->setupUi(this);
     ui_->lblFabricante->setText(QString::fromUtf8(makerName));
-    const int lado = fontMetrics().height() * 5 / 2;
-    ui_->imgPrograma->setPixmap(windowIcon().pixmap(QSize(lado, lado), devicePixelRatio()));
-    for (QLineEdit* campo : {ui_->txtEmpresa, ui_->txtUsuario}) {
-        campo->installEventFilter(this);
-        campo->setMinimumWidth(campo->fontMetrics().averageCharWidth() * 32);
+    const int side = fontMetrics().height() * 5 / 2;
+    ui_->imgPrograma->setPixmap(windowIcon().pixmap(QSize(side, side), devicePixelRatio()));
+    for (QLineEdit* field : {ui_->txtEmpresa, ui_->txtUsuario}) {
+        field->installEventFilter(this);
+        field->setMinimumWidth(field->fontMetrics().averageCharWidth() * 32);
     }
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     connect(ui_->btnLogin, &QPushButton::clicked, this, &FrmLogon::btnLogin_Click);
@@ -31,12 +31,12 @@ FrmLogon::FrmLogon(DeskContext& desk, QWidget* parent)
 
 FrmLogon::~FrmLogon() = default;
 
-bool FrmLogon::carrega() {
-    return impoeFormatoData(desk_.ambiente);
+bool FrmLogon::load() {
+    return imposeDateFormat(desk_.environment);
 }
 
 void FrmLogon::reject() {
-    desk_.fim.encerra();
+    desk_.end.endProgram();
     QDialog::reject();
 }
 
@@ -58,10 +58,10 @@ bool FrmLogon::eventFilter(QObject* watched, QEvent* event) {
 }
 
 // Where the focus goes for another try: the first field left empty, else the company.
-QLineEdit& FrmLogon::campoDaVolta() const {
-    for (QLineEdit* campo : {ui_->txtEmpresa, ui_->txtUsuario, ui_->txtSenha}) {
-        if (campo->text().isEmpty()) {
-            return *campo;
+QLineEdit& FrmLogon::fieldToReturnTo() const {
+    for (QLineEdit* field : {ui_->txtEmpresa, ui_->txtUsuario, ui_->txtSenha}) {
+        if (field->text().isEmpty()) {
+            return *field;
         }
     }
     return *ui_->txtEmpresa;
@@ -69,24 +69,24 @@ QLineEdit& FrmLogon::campoDaVolta() const {
 
 void FrmLogon::btnLogin_Click() {
     try {
-        if (tentaEntrar()) {
+        if (tryLogon()) {
             accept();
         } else {
-            campoDaVolta().setFocus();
+            fieldToReturnTo().setFocus();
         }
-    } catch (const std::exception& erro) {
-        desk_.ambiente.boxes.show(
+    } catch (const std::exception& error) {
+        desk_.environment.boxes.show(
             {"Aconteceu um erro inesperado no sistema. Por favor avise a RVL\nErro = " +
-                 std::string(erro.what()),
+                 std::string(error.what()),
              BoxIcon::Critical, "Aviso"});
-        desk_.fim.encerra(statusErroExecucao);
+        desk_.end.endProgram(runtimeErrorStatus);
         QDialog::reject();
     }
 }
 
-bool FrmLogon::tentaEntrar() {
+bool FrmLogon::tryLogon() {
     const WaitCursor hourglass;
-    return entra(desk_.ambiente, desk_.sessao, ui_->txtEmpresa->text().toStdString(),
+    return logOn(desk_.environment, desk_.session, ui_->txtEmpresa->text().toStdString(),
                  ui_->txtUsuario->text().toStdString(), ui_->txtSenha->text().toStdString());
 }
 

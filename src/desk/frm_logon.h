@@ -23,7 +23,7 @@ public:
 
     // Before it shows: imposes the date format. False: refused, the user was told, the
     // program must end.
-    bool carrega();
+    bool load();
 
     // Esc, cmdFechar and the window's own close button end the program.
     void reject() override;
@@ -33,8 +33,8 @@ protected:
 
 private:
     void btnLogin_Click();
-    QLineEdit& campoDaVolta() const;
-    bool tentaEntrar();
+    QLineEdit& fieldToReturnTo() const;
+    bool tryLogon();
 
     DeskContext& desk_;
     std::unique_ptr<Ui::FrmLogon> ui_;

@@ -27,19 +27,19 @@
 namespace tarn {
 namespace {
 
-const auto tituloComSessao =
+const auto titleWithSession =
     QStringLiteral("TARN EMISSÕES - Rotina Mercantil - Versão de 07/01/2009 - Release 17 - G");
 
-QLabel* novoPainel(QStatusBar& barra, const char* nome, const QString& acessivel, int largura) {
-    auto* painel = new QLabel(&barra);
-    painel->setObjectName(QLatin1StringView(nome));
-    painel->setAccessibleName(acessivel);
-    painel->setTextFormat(Qt::PlainText);
-    painel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    painel->setMargin(2);
-    painel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    barra.addWidget(painel, largura);
-    return painel;
+QLabel* newPanel(QStatusBar& bar, const char* nome, const QString& accessible, int largura) {
+    auto* panel = new QLabel(&bar);
+    panel->setObjectName(QLatin1StringView(nome));
+    panel->setAccessibleName(accessible);
+    panel->setTextFormat(Qt::PlainText);
+    panel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    panel->setMargin(2);
+    panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    bar.addWidget(panel, largura);
+    return panel;
 }
 
 }  // namespace
@@ -47,15 +47,15 @@ QLabel* novoPainel(QStatusBar& barra, const char* nome, const QString& acessivel
 MDIMenu::MDIMenu(DeskContext& desk)
     : desk_(desk),
       ui_(std::make_unique<Ui::MDIMenu>()),
-      cobranca_(std::make_unique<TelasDeCobranca>(desk, *this)) {
+      collection_(std::make_unique<CollectionScreens>(desk, *this)) {
     ui_->setupUi(this);
     ui_->mnuNF->insertSeparator(ui_->mCNF)->setObjectName(QStringLiteral("NFtraco"));
-    painel1_ = novoPainel(*ui_->StatusBar1, "Panel1", QStringLiteral("Impressora configurada"), 3);
-    painel2_ = novoPainel(*ui_->StatusBar1, "Panel2", QStringLiteral("Estabelecimento"), 2);
+    panel1_ = newPanel(*ui_->StatusBar1, "Panel1", QStringLiteral("Impressora configurada"), 3);
+    panel2_ = newPanel(*ui_->StatusBar1, "Panel2", QStringLiteral("Estabelecimento"), 2);
     ui_->mdiArea->setBackground(palette().brush(QPalette::Mid));
     resize(screen()->availableSize() * 0.85);
-    connect(ui_->mdiArea, &QMdiArea::subWindowActivated, this, &MDIMenu::centraliza);
-    ligaMenu();
+    connect(ui_->mdiArea, &QMdiArea::subWindowActivated, this, &MDIMenu::centre);
+    connectMenu();
 }
 
 // Its screens are destroyed after it: what they tell then may not reach it any more.
@@ -63,130 +63,129 @@ MDIMenu::~MDIMenu() {
     ui_->mdiArea->disconnect(this);
 }
 
-void MDIMenu::ligaMenu() {
-    connect(ui_->mnuImprClientes, &QAction::triggered, this, [this] { etiquetas("C"); });
-    connect(ui_->mnuImprFornecedores, &QAction::triggered, this, [this] { etiquetas("F"); });
+void MDIMenu::connectMenu() {
+    connect(ui_->mnuImprClientes, &QAction::triggered, this, [this] { labels("C"); });
+    connect(ui_->mnuImprFornecedores, &QAction::triggered, this, [this] { labels("F"); });
     connect(ui_->mOFT, &QAction::triggered, this, &MDIMenu::mOFT_Click);
-    connect(ui_->mRINF, &QAction::triggered, this,
-            [this] { nota("EMI002", TrabalhoNota::Reimpressao); });
+    connect(ui_->mRINF, &QAction::triggered, this, [this] { note("EMI002", NoteJob::Reprint); });
     connect(ui_->mCNF, &QAction::triggered, this,
-            [this] { nota("EMI003", TrabalhoNota::Cancelamento); });
+            [this] { note("EMI003", NoteJob::Cancellation); });
     connect(ui_->mnuDuplicata, &QAction::triggered, this, &MDIMenu::mnuDuplicata_Click);
     connect(ui_->mnuBoleto, &QAction::triggered, this, &MDIMenu::mnuBoleto_Click);
     connect(ui_->mnuChequeImpressao, &QAction::triggered, this, &MDIMenu::mnuChequeImpressao_Click);
     connect(ui_->mnuAjuda, &QAction::triggered, this, &MDIMenu::mnuAjuda_Click);
-    connect(ui_->mSair, &QAction::triggered, this, [this] { desk_.fim.encerra(); });
+    connect(ui_->mSair, &QAction::triggered, this, [this] { desk_.end.endProgram(); });
 }
 
-void MDIMenu::carrega() {
+void MDIMenu::load() {
     {
         const WaitCursor hourglass;
-        desk_.sessao.DirSistema = desk_.ambiente.machine.systemDirectory() + "\\";
+        desk_.session.DirSistema = desk_.environment.machine.systemDirectory() + "\\";
     }
-    if (!VerVersao(desk_.ambiente, desk_.sessao, versaoPrograma)) {
-        desk_.fim.encerra();
+    if (!VerVersao(desk_.environment, desk_.session, programVersion)) {
+        desk_.end.endProgram();
         return;
     }
-    if (entra()) {
-        ativa();
+    if (logOn()) {
+        activate();
     }
 }
 
-bool MDIMenu::entra() {
+bool MDIMenu::logOn() {
     FrmLogon logon(desk_, this);
-    if (!logon.carrega()) {
-        desk_.fim.encerra();
+    if (!logon.load()) {
+        desk_.end.endProgram();
         return false;
     }
-    return logon.exec() == QDialog::Accepted && !desk_.fim.encerrado();
+    return logon.exec() == QDialog::Accepted && !desk_.end.ended();
 }
 
-void MDIMenu::ativa() {
-    setWindowTitle(tituloComSessao);
-    const std::string_view aviso =
-        avisoImpressora(desk_.sessao.NCOMPANYCODE, desk_.sessao.ID_ETB_TARN);
-    if (!aviso.empty()) {
-        painel1_->setText(QString::fromUtf8(aviso.data(), static_cast<qsizetype>(aviso.size())));
+void MDIMenu::activate() {
+    setWindowTitle(titleWithSession);
+    const std::string_view notice =
+        printerNotice(desk_.session.NCOMPANYCODE, desk_.session.ID_ETB_TARN);
+    if (!notice.empty()) {
+        panel1_->setText(QString::fromUtf8(notice.data(), static_cast<qsizetype>(notice.size())));
     }
-    painel2_->setText(QString::fromStdString(nomeFilial(desk_.ambiente, desk_.sessao)));
+    panel2_->setText(QString::fromStdString(branchName(desk_.environment, desk_.session)));
 }
 
-bool MDIMenu::temDireito(const char* transacao) {
-    return VerificaDireitoAcesso(desk_.ambiente, desk_.sessao, transacao);
+bool MDIMenu::hasRight(const char* transacao) {
+    return VerificaDireitoAcesso(desk_.environment, desk_.session, transacao);
 }
 
-void MDIMenu::abreModal(QDialog& tela) {
-    tela.exec();
-    if (!desk_.fim.encerrado()) {
-        ativa();
+void MDIMenu::runModal(QDialog& screen) {
+    screen.exec();
+    if (!desk_.end.ended()) {
+        activate();
     }
 }
 
-void MDIMenu::etiquetas(const char* tipo) {
-    desk_.sessao.TipoEtiqueta = tipo;
-    frmPesqEtiquetas fila(desk_, valoresEtiquetas_, this);
-    fila.carrega();
-    abreModal(fila);
+void MDIMenu::labels(const char* kind) {
+    desk_.session.TipoEtiqueta = kind;
+    frmPesqEtiquetas queue(desk_, labelValues_, this);
+    queue.load();
+    runModal(queue);
 }
 
-void MDIMenu::abreSelecaoEtiquetas() {
-    FrmImprEtiq selecao(desk_, this);
-    selecao.carrega();
-    selecao.exec();
+void MDIMenu::openLabelSelection() {
+    FrmImprEtiq selection(desk_, this);
+    selection.load();
+    selection.exec();
 }
 
 void MDIMenu::mOFT_Click() {
-    if (temDireito("EMI001")) {
-        abreNaArea(new FrmOFT(desk_));
+    if (hasRight("EMI001")) {
+        openInArea(new FrmOFT(desk_));
     }
 }
 
-void MDIMenu::nota(const char* transacao, TrabalhoNota trabalho) {
-    if (temDireito(transacao)) {
-        abreNaArea(new FrmReImprimeNF(desk_, trabalho));
+void MDIMenu::note(const char* transacao, NoteJob job) {
+    if (hasRight(transacao)) {
+        openInArea(new FrmReImprimeNF(desk_, job));
     }
 }
 
 template <typename Tela>
-void MDIMenu::abreNaArea(Tela* tela) {
-    tela->setAttribute(Qt::WA_DeleteOnClose);
-    connect(tela, &Tela::carregou, this, &MDIMenu::travaMenus);
-    connect(tela, &Tela::fechou, this, &MDIMenu::LiberaMenus);
-    QMdiSubWindow* janela =
-        ui_->mdiArea->addSubWindow(tela, Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
-    janela->setAttribute(Qt::WA_DeleteOnClose);
-    janela->resize(janela->sizeHint().boundedTo(ui_->mdiArea->size()));
-    janela->show();
-    tela->carrega();
+void MDIMenu::openInArea(Tela* screen) {
+    screen->setAttribute(Qt::WA_DeleteOnClose);
+    connect(screen, &Tela::loadedIt, this, &MDIMenu::lockMenus);
+    connect(screen, &Tela::closed, this, &MDIMenu::LiberaMenus);
+    QMdiSubWindow* window = ui_->mdiArea->addSubWindow(
+        screen, Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                    Qt::WindowCloseButtonHint);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->resize(window->sizeHint().boundedTo(ui_->mdiArea->size()));
+    window->show();
+    screen->load();
 }
 
 void MDIMenu::mnuDuplicata_Click() {
-    abreModal(cobranca_->duplicatas());
+    runModal(collection_->bills());
 }
 
 void MDIMenu::mnuBoleto_Click() {
-    abreModal(cobranca_->boletos());
+    runModal(collection_->slips());
 }
 
 void MDIMenu::mnuChequeImpressao_Click() {
-    if (temDireito("EMI005")) {
+    if (hasRight("EMI005")) {
         frmCheque cheque(desk_, this);
-        cheque.carrega();
-        abreModal(cheque);
+        cheque.load();
+        runModal(cheque);
     }
 }
 
 void MDIMenu::mnuAjuda_Click() {
-    frmAjuda ajuda(desk_, this);
-    if (!ajuda.carrega()) {
-        desk_.fim.encerra();
+    frmAjuda help(desk_, this);
+    if (!help.load()) {
+        desk_.end.endProgram();
         return;
     }
-    abreModal(ajuda);
+    runModal(help);
 }
 
-void MDIMenu::travaMenus() {
+void MDIMenu::lockMenus() {
     ui_->mnuEtiquetas->setEnabled(false);
     ui_->mnuNF->setEnabled(false);
 }
@@ -197,14 +196,14 @@ void MDIMenu::LiberaMenus() {
 }
 
 // Screens stand in the middle of the desk's width, at its top.
-void MDIMenu::centraliza(QMdiSubWindow* janela) {
-    if (janela != nullptr && !janela->isMaximized()) {
-        janela->move((ui_->mdiArea->viewport()->width() - janela->width()) / 2, 0);
+void MDIMenu::centre(QMdiSubWindow* window) {
+    if (window != nullptr && !window->isMaximized()) {
+        window->move((ui_->mdiArea->viewport()->width() - window->width()) / 2, 0);
     }
 }
 
 void MDIMenu::closeEvent(QCloseEvent* event) {
-    desk_.fim.encerra();
+    desk_.end.endProgram();
     event->accept();
 }
 

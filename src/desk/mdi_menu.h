@@ -19,8 +19,8 @@ class MDIMenu;
 
 namespace tarn {
 
-class TelasDeCobranca;
-enum class TrabalhoNota;
+class CollectionScreens;
+enum class NoteJob;
 
 class MDIMenu : public QMainWindow {
     Q_OBJECT
@@ -31,11 +31,11 @@ public:
 
     // The start of the program: version gate, logon, first activation. Returns when the
     // user has logged on, or when the program must end. To be called in the event loop.
-    void carrega();
+    void load();
 
     // The bulk selection of labels, which no entry of the menu opens. Returns when it has
     // been closed.
-    void abreSelecaoEtiquetas();
+    void openLabelSelection();
 
     // Enables mnuEtiquetas and mnuNF again when a screen that disabled them closes.
     void LiberaMenus();
@@ -45,21 +45,21 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void ligaMenu();
-    void travaMenus();
-    bool entra();
-    void ativa();
-    bool temDireito(const char* transacao);
-    void abreModal(QDialog& tela);
+    void connectMenu();
+    void lockMenus();
+    bool logOn();
+    void activate();
+    bool hasRight(const char* transacao);
+    void runModal(QDialog& screen);
     // Puts a screen that stays open beside the menu into the desk's area; while it is
     // there mnuEtiquetas and mnuNF are disabled.
     template <typename Tela>
-    void abreNaArea(Tela* tela);
-    void centraliza(QMdiSubWindow* janela);
+    void openInArea(Tela* screen);
+    void centre(QMdiSubWindow* window);
 
-    void etiquetas(const char* tipo);
+    void labels(const char* kind);
     void mOFT_Click();
-    void nota(const char* transacao, TrabalhoNota trabalho);
+    void note(const char* transacao, NoteJob job);
     void mnuDuplicata_Click();
     void mnuBoleto_Click();
     void mnuChequeImpressao_Click();
@@ -67,10 +67,10 @@ private:
 
     DeskContext& desk_;
     std::unique_ptr<Ui::MDIMenu> ui_;
-    std::unique_ptr<TelasDeCobranca> cobranca_;
-    labels::ValoresEtiquetas valoresEtiquetas_;  // from one opening to the next
-    QLabel* painel1_ = nullptr;                  // printer notice
-    QLabel* painel2_ = nullptr;                  // establishment's name
+    std::unique_ptr<CollectionScreens> collection_;
+    labels::LabelValues labelValues_;  // from one opening to the next
+    QLabel* panel1_ = nullptr;         // printer notice
+    QLabel* panel2_ = nullptr;         // establishment's name
 };
 
 }  // namespace tarn

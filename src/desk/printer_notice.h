@@ -7,6 +7,6 @@
 namespace tarn {
 
 // Text of the notice; empty where there is none (the panel then keeps what it had).
-std::string_view avisoImpressora(std::int32_t empresa, std::int32_t estabelecimento);
+std::string_view printerNotice(std::int32_t company, std::int32_t establishment);
 
 }  // namespace tarn

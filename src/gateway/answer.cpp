@@ -7,32 +7,32 @@
 
 namespace tarn {
 
-bool pede(Environment& ambiente, const std::string& consulta, XmlDocument& documento,
-          std::string_view mensagemFalha) {
-    return CarregaXML(ambiente, ambiente.baseUrl + consulta, documento, false, "", 0, "",
+bool requestAnswer(Environment& environment, const std::string& query, XmlDocument& documento,
+                   std::string_view mensagemFalha) {
+    return CarregaXML(environment, environment.baseUrl + query, documento, false, "", 0, "",
                       std::string(mensagemFalha));
 }
 
-bool respostaAceita(Environment& ambiente, const XmlDocument& documento,
-                    const std::string& mensagemVazia) {
+bool answerAccepted(Environment& environment, const XmlDocument& documento,
+                    const std::string& emptyMessage) {
     if (documento.empty()) {
-        exclama(ambiente, mensagemVazia);
+        warn(environment, emptyMessage);
         return false;
     }
     const std::string status = statusOf(documento);
     if (status != "OK") {
-        exclama(ambiente, status);
+        warn(environment, status);
         return false;
     }
     return true;
 }
 
-void exclama(Environment& ambiente, const std::string& texto) {
-    ambiente.boxes.show({.text = texto, .icon = BoxIcon::Exclamation});
+void warn(Environment& environment, const std::string& texto) {
+    environment.boxes.show({.text = texto, .icon = BoxIcon::Exclamation});
 }
 
-void exclama(Environment& ambiente, const std::string& texto, const std::string& titulo) {
-    ambiente.boxes.show({.text = texto, .icon = BoxIcon::Exclamation, .title = titulo});
+void warn(Environment& environment, const std::string& texto, const std::string& title) {
+    environment.boxes.show({.text = texto, .icon = BoxIcon::Exclamation, .title = title});
 }
 
 }  // namespace tarn

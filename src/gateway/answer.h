@@ -10,17 +10,17 @@ namespace tarn {
 
 struct Environment;
 
-// CarregaXML of BaseUrl and `consulta`, without a copy.
-bool pede(Environment& ambiente, const std::string& consulta, XmlDocument& documento,
-          std::string_view mensagemFalha);
+// CarregaXML of BaseUrl and `query`, without a copy.
+bool requestAnswer(Environment& environment, const std::string& query, XmlDocument& documento,
+                   std::string_view mensagemFalha);
 
-// False, with the user told, when the answer is empty (`mensagemVazia`) or its status
+// False, with the user told, when the answer is empty (`emptyMessage`) or its status
 // isn't exactly "OK" (the server's own text). VariavelObjeto when it has no status.
-bool respostaAceita(Environment& ambiente, const XmlDocument& documento,
-                    const std::string& mensagemVazia);
+bool answerAccepted(Environment& environment, const XmlDocument& documento,
+                    const std::string& emptyMessage);
 
 // A box with the exclamation icon, by default without a title of its own.
-void exclama(Environment& ambiente, const std::string& texto);
-void exclama(Environment& ambiente, const std::string& texto, const std::string& titulo);
+void warn(Environment& environment, const std::string& texto);
+void warn(Environment& environment, const std::string& texto, const std::string& title);
 
 }  // namespace tarn

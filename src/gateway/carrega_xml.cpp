@@ -14,47 +14,47 @@ namespace tarn {
 namespace {
 
 // No prefix is ever set: the copy lands in the current directory.
-std::string nomeDaCopia(const std::string& nomeArquivo) {
+std::string copyName(const std::string& nomeArquivo) {
     return nomeArquivo + ".XML";
 }
 
-void apaga(const std::string& arquivo) {
-    std::error_code ignorado;
-    std::filesystem::remove(arquivo, ignorado);
+void erase(const std::string& file) {
+    std::error_code ignored;
+    std::filesystem::remove(file, ignored);
 }
 
-bool carrega(Environment& ambiente, const std::string& url, XmlDocument& documento,
-             const std::string& copia, const std::string& mensagemFalha) {
-    const HttpAnswer resposta = ambiente.http.get(url);
-    if (resposta.loaded && documento.loadXML(resposta.body)) {
-        if (!copia.empty() && !documento.save(copia)) {
-            throw std::runtime_error("Não foi possível gravar o arquivo " + copia + ".");
+bool load(Environment& environment, const std::string& url, XmlDocument& documento,
+          const std::string& copy, const std::string& mensagemFalha) {
+    const HttpAnswer answer = environment.http.get(url);
+    if (answer.loaded && documento.loadXML(answer.body)) {
+        if (!copy.empty() && !documento.save(copy)) {
+            throw std::runtime_error("Não foi possível gravar o arquivo " + copy + ".");
         }
         return true;
     }
     documento = XmlDocument();
     if (!mensagemFalha.empty()) {
-        ambiente.boxes.show({.text = mensagemFalha,
-                             .icon = BoxIcon::Critical,
-                             .title = std::string(falha::tituloTransporte)});
+        environment.boxes.show({.text = mensagemFalha,
+                                .icon = BoxIcon::Critical,
+                                .title = std::string(failure::transportTitle)});
     }
-    if (!copia.empty()) {
-        apaga(copia);
+    if (!copy.empty()) {
+        erase(copy);
     }
     return false;
 }
 
 }  // namespace
 
-bool CarregaXML(Environment& ambiente, const std::string& url, XmlDocument& documento,
+bool CarregaXML(Environment& environment, const std::string& url, XmlDocument& documento,
                 bool /*assincrono*/, const std::string& nomeArquivo, int gravarArquivo,
                 const std::string& /*reservado*/, const std::string& mensagemFalha) {
-    const bool querCopia = !nomeArquivo.empty() && gravarArquivo > 0;
+    const bool wantsCopy = !nomeArquivo.empty() && gravarArquivo > 0;
     try {
-        return carrega(ambiente, url, documento, querCopia ? nomeDaCopia(nomeArquivo) : "",
-                       mensagemFalha);
-    } catch (const std::exception& erro) {
-        ambiente.boxes.show({.text = erro.what(), .icon = BoxIcon::Critical, .title = "Aviso"});
+        return load(environment, url, documento, wantsCopy ? copyName(nomeArquivo) : "",
+                    mensagemFalha);
+    } catch (const std::exception& error) {
+        environment.boxes.show({.text = error.what(), .icon = BoxIcon::Critical, .title = "Aviso"});
         return false;
     }
 }

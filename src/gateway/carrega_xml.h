@@ -14,7 +14,7 @@ struct Environment;
 // `mensagemFalha` is empty it shows it in a critical box. `nomeArquivo` not empty
 // and `gravarArquivo` above 0 keep a copy of the answer in `nomeArquivo`.XML, which
 // a failed load deletes. `assincrono` and `reservado` are not used.
-bool CarregaXML(Environment& ambiente, const std::string& url, XmlDocument& documento,
+bool CarregaXML(Environment& environment, const std::string& url, XmlDocument& documento,
                 bool assincrono, const std::string& nomeArquivo, int gravarArquivo,
                 const std::string& reservado, const std::string& mensagemFalha);
 

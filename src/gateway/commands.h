@@ -10,131 +10,131 @@
 
 #include "gateway/sessao.h"
 
-namespace tarn::comando {
+namespace tarn::commands {
 
 // Start
 std::string VERSAO_TARN_EMISSAO(std::string_view versao);
-std::string LOGIN(std::string_view empresa, std::string_view usuario, std::string_view senha);
-std::string verifica_direito_acesso(const Sessao& sessao, std::string_view transacao);
-std::string sel_dados_empresa(const Sessao& sessao);
+std::string LOGIN(std::string_view company, std::string_view user, std::string_view password);
+std::string verifica_direito_acesso(const Sessao& session, std::string_view transacao);
+std::string sel_dados_empresa(const Sessao& session);
 
 // Billing orders and notes
-std::string sel_ordem_fatu(const Sessao& sessao);
-std::string sp_can_oft(const Sessao& sessao, std::string_view ordem, std::string_view ordemCarga);
-std::string Seleciona_Obs_Vnd_X_Ord(const Sessao& sessao, std::string_view ordem);
-std::string Seleciona_Obs_Ord_X_Est(const Sessao& sessao, std::string_view ordem);
-std::string SP_GERA_NF(const Sessao& sessao, std::string_view ordem);
-std::string sel_gera_nf(const Sessao& sessao, std::string_view nota, std::string_view serie);
-struct DadosOrdem {
+std::string sel_ordem_fatu(const Sessao& session);
+std::string sp_can_oft(const Sessao& session, std::string_view ordem, std::string_view loadOrder);
+std::string Seleciona_Obs_Vnd_X_Ord(const Sessao& session, std::string_view ordem);
+std::string Seleciona_Obs_Ord_X_Est(const Sessao& session, std::string_view ordem);
+std::string SP_GERA_NF(const Sessao& session, std::string_view ordem);
+std::string sel_gera_nf(const Sessao& session, std::string_view note, std::string_view series);
+struct OrderData {
     std::string_view ordem = {};
-    std::string_view observacao = {};  // "%" goes as "||", then "&" as "|"
-    std::string_view quantidade = {};
-    std::string_view pesoBruto = {};
-    std::string_view pesoLiquido = {};
+    std::string_view observation = {};  // "%" goes as "||", then "&" as "|"
+    std::string_view quantity = {};
+    std::string_view grossWeight = {};
+    std::string_view netWeight = {};
 };
-std::string MANUTENCAO_OFT(const Sessao& sessao, const DadosOrdem& dados);
-std::string sel_impr_ordem_fatu(const Sessao& sessao, std::string_view ordem);
+std::string MANUTENCAO_OFT(const Sessao& session, const OrderData& data);
+std::string sel_impr_ordem_fatu(const Sessao& session, std::string_view ordem);
 
 // Reprint and cancellation
-std::string SEL_NF(const Sessao& sessao, std::string_view nota, std::string_view serie);
-struct Cancelamento {
-    std::string_view tipoNota = {};
-    std::string_view nota = {};
-    std::string_view serie = {};
-    std::int32_t motivo = 0;          // item data
-    bool semNovoFaturamento = false;  // Tipo_Can: S, otherwise C
+std::string SEL_NF(const Sessao& session, std::string_view note, std::string_view series);
+struct Cancellation {
+    std::string_view noteKind = {};
+    std::string_view note = {};
+    std::string_view series = {};
+    std::int32_t reason = 0;        // item data
+    bool withoutRebilling = false;  // Tipo_Can: S, otherwise C
 };
-std::string sp_can_nf(const Sessao& sessao, const Cancelamento& dados);
-std::string SEL_SERIE_NF(const Sessao& sessao);
-std::string SEL_MOT_CAN(const Sessao& sessao);
+std::string sp_can_nf(const Sessao& session, const Cancellation& data);
+std::string SEL_SERIE_NF(const Sessao& session);
+std::string SEL_MOT_CAN(const Sessao& session);
 
 // Bills, receipts, slips
-struct Pesquisa {
-    std::string_view cliente = {};  // its identifier, empty for all
-    std::int32_t filial = 0;        // item data; 0: all
-    std::string_view vencimentoDe = {};
-    std::string_view vencimentoAte = {};
-    std::string_view emissaoDe = {};
-    std::string_view emissaoAte = {};
+struct SearchFilter {
+    std::string_view customer = {};  // its identifier, empty for all
+    std::int32_t branch = 0;         // item data; 0: all
+    std::string_view dueFrom = {};
+    std::string_view dueTo = {};
+    std::string_view issuedFrom = {};
+    std::string_view issuedTo = {};
 };
-// `tipo` is the item data of the kind of document: 0 both, 1 bills, 12 receipts.
-std::string sel_duplicata(const Sessao& sessao, std::int32_t tipo, const Pesquisa& filtro);
-std::string sel_filiais(const Sessao& sessao);
-std::string Sel_Cliente(const Sessao& sessao, std::string_view filtro);  // "&" goes as "|"
-std::string sel_boleto(const Sessao& sessao, const Pesquisa& filtro, std::int32_t carteira,
-                       bool incluiCarteira);
-std::string sel_carteira(const Sessao& sessao);
-std::string sel_carteira_cob(const Sessao& sessao, std::int32_t carteira);
-struct Boleto {
-    std::string_view filial = {};  // ID_ETB of the row
-    std::string_view tipoDocumento = {};
+// `kind` is the item data of the kind of document: 0 both, 1 bills, 12 receipts.
+std::string sel_duplicata(const Sessao& session, std::int32_t kind, const SearchFilter& filter);
+std::string sel_filiais(const Sessao& session);
+std::string Sel_Cliente(const Sessao& session, std::string_view filter);  // "&" goes as "|"
+std::string sel_boleto(const Sessao& session, const SearchFilter& filter, std::int32_t portfolio,
+                       bool includesPortfolio);
+std::string sel_carteira(const Sessao& session);
+std::string sel_carteira_cob(const Sessao& session, std::int32_t portfolio);
+struct Slip {
+    std::string_view branch = {};  // ID_ETB of the row
+    std::string_view documentKind = {};
     std::string_view documento = {};
-    std::string_view numeroControle = {};
-    std::string_view carteira = {};  // ID_CRT_COB of the portfolio's record
-    std::string_view numeroBancario = {};
+    std::string_view controlNumber = {};
+    std::string_view portfolio = {};  // ID_CRT_COB of the portfolio's record
+    std::string_view bankNumber = {};
 };
-std::string altera_docto_cob(const Sessao& sessao, const Boleto& boleto);
+std::string altera_docto_cob(const Sessao& session, const Slip& slip);
 // One of the two layouts that send it spells the control number's key its own way.
-enum class ChaveControle { ID_NR_CTL, ID_NR_CLT };
-std::string altera_docto_rec(const Sessao& sessao, const Boleto& boleto, ChaveControle chave);
-std::string insere_car_cob(const Sessao& sessao, const Boleto& boleto);
-std::string insere_car_rec(const Sessao& sessao, const Boleto& boleto);
+enum class ControlKey { ID_NR_CTL, ID_NR_CLT };
+std::string altera_docto_rec(const Sessao& session, const Slip& slip, ControlKey key);
+std::string insere_car_cob(const Sessao& session, const Slip& slip);
+std::string insere_car_rec(const Sessao& session, const Slip& slip);
 
 // Cheques
-std::string sel_banco_agencia_conta(const Sessao& sessao);
+std::string sel_banco_agencia_conta(const Sessao& session);
 struct Cheque {
-    std::int32_t banco = 0;  // item data
-    std::string_view agencia = {};
-    std::string_view conta = {};
-    std::string_view numero = {};
-    std::string_view serie = {};
+    std::int32_t bank = 0;  // item data
+    std::string_view agency = {};
+    std::string_view account = {};
+    std::string_view number = {};
+    std::string_view series = {};
     std::string_view valor = {};
-    std::string_view favorecido = {};
-    std::string_view dataDeposito = {};
-    std::string_view observacao = {};
+    std::string_view payee = {};
+    std::string_view depositDate = {};
+    std::string_view observation = {};
 };
 // Number and series go trimmed, the series in capitals.
-std::string seleciona_um_controle_cheque_emitido(const Sessao& sessao, const Cheque& cheque);
+std::string seleciona_um_controle_cheque_emitido(const Sessao& session, const Cheque& cheque);
 // All texts go trimmed; series, payee and purpose in capitals.
-std::string adiciona_controle_cheque_emitido(const Sessao& sessao, const Cheque& cheque);
+std::string adiciona_controle_cheque_emitido(const Sessao& session, const Cheque& cheque);
 
 // Labels. A range's ends are converted to numbers and back: TipoIncompativel for a
 // text that is none.
-std::string sel_etiquetas(const Sessao& sessao, std::string_view motivo);  // the whole queue
-std::string sel_etiquetas(const Sessao& sessao, std::string_view motivo, std::string_view de,
-                          std::string_view ate);
-std::string sel_motivos(const Sessao& sessao);
-std::string sel_filiais_remetente(const Sessao& sessao);
-std::string exclui_etiquetas(const Sessao& sessao, std::string_view motivo, std::string_view de,
-                             std::string_view ate);
-std::string sel_dados_remetente(const Sessao& sessao, std::int32_t filialRemetente);
+std::string sel_etiquetas(const Sessao& session, std::string_view reason);  // the whole queue
+std::string sel_etiquetas(const Sessao& session, std::string_view reason, std::string_view de,
+                          std::string_view to);
+std::string sel_motivos(const Sessao& session);
+std::string sel_filiais_remetente(const Sessao& session);
+std::string exclui_etiquetas(const Sessao& session, std::string_view reason, std::string_view de,
+                             std::string_view to);
+std::string sel_dados_remetente(const Sessao& session, std::int32_t senderBranch);
 
 // Bulk label selection
-std::string sel_filias(const Sessao& sessao);
-std::string sel_pais(const Sessao& sessao);
-std::string sel_estado(const Sessao& sessao, std::int32_t pais);
-std::string sel_cidade(const Sessao& sessao, std::int32_t estado);
+std::string sel_filias(const Sessao& session);
+std::string sel_pais(const Sessao& session);
+std::string sel_estado(const Sessao& session, std::int32_t country);
+std::string sel_cidade(const Sessao& session, std::int32_t state);
 // An item chosen in a list; at position 0 nothing is chosen.
-struct ItemEscolhido {
-    int posicao = 0;
-    std::int32_t dado = 0;
+struct ChosenItem {
+    int position = 0;
+    std::int32_t data = 0;
 };
-struct FiltroEtiquetas {
-    std::string_view filiais = {};  // identifiers, joined by ", "
-    ItemEscolhido pais = {};        // key always sent
-    ItemEscolhido estado = {};      // key left out at position 0
-    ItemEscolhido cidade = {};      // key left out at position 0
-    std::string_view produto = {};
+struct LabelFilter {
+    std::string_view branches = {};  // identifiers, joined by ", "
+    ChosenItem country = {};         // key always sent
+    ChosenItem state = {};           // key left out at position 0
+    ChosenItem town = {};            // key left out at position 0
+    std::string_view product = {};
     std::string_view cepDe = {};
-    std::string_view cepAte = {};
-    std::string_view vendaDe = {};
-    std::string_view vendaAte = {};
-    std::string_view valorDe = {};
-    std::string_view valorAte = {};
-    std::string_view quantidadeDe = {};
-    std::string_view quantidadeAte = {};
-    bool porCep = false;  // order by CEP, otherwise by name
+    std::string_view postalCodeTo = {};
+    std::string_view saleFrom = {};
+    std::string_view saleTo = {};
+    std::string_view amountFrom = {};
+    std::string_view amountTo = {};
+    std::string_view quantityFrom = {};
+    std::string_view quantityTo = {};
+    bool byPostalCode = false;  // order by CEP, otherwise by name
 };
-std::string sel_dados_etq(const Sessao& sessao, const FiltroEtiquetas& filtro);
+std::string sel_dados_etq(const Sessao& session, const LabelFilter& filter);
 
-}  // namespace tarn::comando
+}  // namespace tarn::commands

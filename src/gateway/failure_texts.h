@@ -4,9 +4,9 @@
 
 #include <string_view>
 
-namespace tarn::falha {
+namespace tarn::failure {
 
-inline constexpr std::string_view tituloTransporte = "TarnEMISSAO - ERRO INESPERADO";
+inline constexpr std::string_view transportTitle = "TarnEMISSAO - ERRO INESPERADO";
 
 inline constexpr std::string_view Tarn0001 =
     "ERRO Tarn0001 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
@@ -36,7 +36,7 @@ inline constexpr std::string_view Tarn0009 =
     "ERRO Tarn0009 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
     "Internet.";
 // The same number with four blanks, as half of its call sites spell it.
-inline constexpr std::string_view Tarn0009Largo =
+inline constexpr std::string_view Tarn0009Wide =
     "ERRO    Tarn0009 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
     "Internet.";
 inline constexpr std::string_view Tarn0010 =
@@ -54,7 +54,7 @@ inline constexpr std::string_view Tarn0013 =
 inline constexpr std::string_view Tarn0024 =
     "Tarn0024 - Erro na pesquisa de cliente - Não foi possível obter os dados da Internet. "
     "Verifique a conexão com a Internet.";
-inline constexpr std::string_view semVersao =
+inline constexpr std::string_view noVersion =
     "Não consegui verificar a versão do TarnEMISSAO porque não tive acesso à internet!!!";
 
-}  // namespace tarn::falha
+}  // namespace tarn::failure

@@ -9,44 +9,45 @@ namespace {
 
 // The presence test ignores the case of letters and the prefix; the lookup that
 // follows ignores neither. Null: absent.
-XmlAttribute encontra(const XmlNode& no, std::size_t indice, std::string_view nome,
-                      std::string_view nomeDaConsulta) {
-    const XmlAttributes atributos = no.child(indice).attributes();
-    const XmlAttribute achado = atributos.firstWithBaseName(nome);
-    if (!achado || achado.name() == nomeDaConsulta) {
-        return achado;
+XmlAttribute find(const XmlNode& no, std::size_t indice, std::string_view nome,
+                  std::string_view queryName) {
+    const XmlAttributes attributes = no.child(indice).attributes();
+    const XmlAttribute match = attributes.firstWithBaseName(nome);
+    if (!match || match.name() == queryName) {
+        return match;
     }
-    const XmlAttribute consultado = atributos.getNamedItem(nomeDaConsulta);
-    if (!consultado) {
-        throw ErroExecucao(ErroNumero::VariavelObjeto);
+    const XmlAttribute queried = attributes.getNamedItem(queryName);
+    if (!queried) {
+        throw RuntimeError(RuntimeErrorCode::ObjectVariable);
     }
-    return consultado;
+    return queried;
 }
 
-bool leituraNumerica(const Valor& padrao) {
-    const double* numero = std::get_if<double>(&padrao);
-    return numero != nullptr && *numero == 0.0;
+bool isNumericReading(const Amount& padrao) {
+    const double* number = std::get_if<double>(&padrao);
+    return number != nullptr && *number == 0.0;
 }
 
 }  // namespace
 
-Valor PegaValor(const XmlNode& no, std::size_t indice, std::string_view nome, const Valor& padrao) {
-    if (leituraNumerica(padrao)) {
-        const XmlAttribute atributo = encontra(no, indice, nome, asciiUpper(nome));
-        return atributo ? Valor(pointToComma(atributo.text())) : padrao;
+Amount PegaValor(const XmlNode& no, std::size_t indice, std::string_view nome,
+                 const Amount& padrao) {
+    if (isNumericReading(padrao)) {
+        const XmlAttribute attribute = find(no, indice, nome, asciiUpper(nome));
+        return attribute ? Amount(pointToComma(attribute.text())) : padrao;
     }
-    const XmlAttribute atributo = encontra(no, indice, nome, nome);
-    return atributo ? Valor(std::string(atributo.text())) : padrao;
+    const XmlAttribute attribute = find(no, indice, nome, nome);
+    return attribute ? Amount(std::string(attribute.text())) : padrao;
 }
 
-std::string pegaTexto(const XmlNode& no, std::size_t indice, std::string_view nome) {
-    const XmlAttribute atributo = encontra(no, indice, nome, nome);
-    return atributo ? std::string(atributo.text()) : std::string();
+std::string textAttribute(const XmlNode& no, std::size_t indice, std::string_view nome) {
+    const XmlAttribute attribute = find(no, indice, nome, nome);
+    return attribute ? std::string(attribute.text()) : std::string();
 }
 
-std::string pegaNumero(const XmlNode& no, std::size_t indice, std::string_view nome) {
-    const XmlAttribute atributo = encontra(no, indice, nome, asciiUpper(nome));
-    return atributo ? pointToComma(atributo.text()) : "0";
+std::string numberAttribute(const XmlNode& no, std::size_t indice, std::string_view nome) {
+    const XmlAttribute attribute = find(no, indice, nome, asciiUpper(nome));
+    return attribute ? pointToComma(attribute.text()) : "0";
 }
 
 std::string statusOf(const XmlDocument& documento) {

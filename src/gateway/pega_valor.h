@@ -15,88 +15,89 @@
 namespace tarn {
 
 // What a read gives back: the padrao of whichever type was passed, or a text.
-using Valor = std::variant<std::string, double>;
+using Amount = std::variant<std::string, double>;
 
 // `indice` counts the element children of `no` from 0. A padrao equal to the
 // number 0 makes the read numeric: looked up by the upper-cased name, "." turned
 // into ",". Any other padrao makes it a text read, looked up by the name exactly
 // as given. Absent in any case of letters: the padrao as passed. Present in another
 // case than the lookup's, or no such row: ErroExecucao VariavelObjeto.
-Valor PegaValor(const XmlNode& no, std::size_t indice, std::string_view nome, const Valor& padrao);
+Amount PegaValor(const XmlNode& no, std::size_t indice, std::string_view nome,
+                 const Amount& padrao);
 
 // The two readings in use, as text: absent gives "" and "0".
-std::string pegaTexto(const XmlNode& no, std::size_t indice, std::string_view nome);
-std::string pegaNumero(const XmlNode& no, std::size_t indice, std::string_view nome);
+std::string textAttribute(const XmlNode& no, std::size_t indice, std::string_view nome);
+std::string numberAttribute(const XmlNode& no, std::size_t indice, std::string_view nome);
 
 // The names of a row's fields, found without regard to the case of letters. Made
 // once for any number of readers.
-class NomesLinha {
+class RowNames {
 public:
     // The texts must outlive this object.
-    explicit NomesLinha(std::span<const std::string_view> nomes);
+    explicit RowNames(std::span<const std::string_view> names);
 
-    struct Nome {
+    struct Name {
         std::string_view nome;  // as PegaValor takes it
-        std::string maiusculo;  // as a numeric read looks it up
+        std::string upperCase;  // as a numeric read looks it up
     };
-    std::size_t quantos() const { return nomes_.size(); }
-    const Nome& operator[](std::size_t campo) const { return nomes_[campo]; }
+    std::size_t count() const { return names_.size(); }
+    const Name& operator[](std::size_t field) const { return names_[field]; }
     // Which one is called so in any case of letters.
-    struct Encontro {
-        int campo = -1;      // -1: none
-        bool exato = false;  // spelled as `nome`
+    struct Match {
+        int field = -1;      // -1: none
+        bool exact = false;  // spelled as `nome`
     };
-    Encontro encontra(std::string_view nome) const;
+    Match find(std::string_view nome) const;
 
 private:
-    std::vector<Nome> nomes_;
-    std::vector<std::int16_t> tabela_;  // open addressing, a power of two long; -1: free
+    std::vector<Name> names_;
+    std::vector<std::int16_t> table_;  // open addressing, a power of two long; -1: free
 };
 
 // PegaValor for many rows of the same fields: one pass over the attributes of a
 // row answers for all of them. Rows that repeat the order of the names cost least.
-class LeitorLinha {
+class RowReader {
 public:
-    explicit LeitorLinha(std::shared_ptr<const NomesLinha> nomes);
-    explicit LeitorLinha(std::span<const std::string_view> nomes)
-        : LeitorLinha(std::make_shared<const NomesLinha>(nomes)) {}
+    explicit RowReader(std::shared_ptr<const RowNames> names);
+    explicit RowReader(std::span<const std::string_view> names)
+        : RowReader(std::make_shared<const RowNames>(names)) {}
 
     // Goes to a row. VariavelObjeto for a null one. What was read of the row before
     // is no longer valid.
-    void le(const XmlNode& linha);
-    void le(const XmlNode& no, std::size_t indice) { le(no.child(indice)); }
+    void read(const XmlNode& linha);
+    void read(const XmlNode& no, std::size_t indice) { read(no.child(indice)); }
 
-    // `campo` is the place of the name in `nomes`. Results live until the next row.
-    bool presente(std::size_t campo) const { return achados_[campo].vez == vez_; }
-    std::string_view texto(std::size_t campo) const;
-    std::string_view numero(std::size_t campo, std::string_view padrao = "0");
+    // `field` is the place of the name in `names`. Results live until the next row.
+    bool present(std::size_t field) const { return matches_[field].turn == turn_; }
+    std::string_view texto(std::size_t field) const;
+    std::string_view number(std::size_t field, std::string_view padrao = "0");
 
 private:
-    // First attribute of that name in any case; of this row when `vez` is the reader's.
-    struct Achado {
-        const void* atributo = nullptr;
-        std::uint64_t vez = 0;
-        bool exato = false;   // spelled as the name
-        std::string trocado;  // its text with commas, when it has points
+    // First attribute of that name in any case; of this row when `turn` is the reader's.
+    struct MatchedField {
+        const void* attribute = nullptr;
+        std::uint64_t turn = 0;
+        bool exact = false;      // spelled as the name
+        std::string withCommas;  // its text with commas, when it has points
     };
     // A name as the document interns it, and the field it stands for (-1: none).
-    struct Conhecido {
+    struct KnownName {
         const void* nome = nullptr;
-        std::int16_t campo = -1;
-        bool exato = false;
+        std::int16_t field = -1;
+        bool exact = false;
     };
 
-    void comeca(const void* elemento);
-    std::size_t lugarDe(const void* nome, std::size_t desde);
-    Conhecido reconhece(const void* nome) const;
-    std::string_view consulta(const Achado& achado, std::string_view nome) const;
+    void start(const void* element);
+    std::size_t placeOf(const void* nome, std::size_t since);
+    KnownName recognise(const void* nome) const;
+    std::string_view query(const MatchedField& match, std::string_view nome) const;
 
-    std::shared_ptr<const NomesLinha> nomes_;
-    std::vector<Achado> achados_;
-    std::vector<Conhecido> sequencia_;  // names of the row before, in its order
+    std::shared_ptr<const RowNames> names_;
+    std::vector<MatchedField> matches_;
+    std::vector<KnownName> sequence_;  // names of the row before, in its order
     std::uint64_t documento_ = 0;
-    bool semPrefixo_ = false;  // the document's names hold prefixes that it never declares
-    std::uint64_t vez_ = 0;    // rows read
+    bool withoutPrefix_ = false;  // the document's names hold prefixes that it never declares
+    std::uint64_t turn_ = 0;      // rows read
     XmlNode linha_;
 };
 

@@ -12,191 +12,192 @@
 namespace tarn {
 namespace {
 
-constexpr std::size_t menorTabela = 64;
+constexpr std::size_t smallestTable = 64;
 // How many names of the row before may be missing in a row without losing its order.
-constexpr std::size_t maiorSalto = 4;
+constexpr std::size_t largestSkip = 4;
 
-std::string_view comoTexto(const void* nome) {
+std::string_view asText(const void* nome) {
     return static_cast<const char*>(nome);
 }
 
-char maiuscula(char c) {
+char upperByte(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
 // Of the length and both ends of the name. The bit that parts small letters from
 // capitals doesn't count, so that spellings of one name fall together.
-std::size_t espalha(std::string_view nome) {
-    constexpr std::uint64_t semCaixa = 0xDFDFDFDFDFDFDFDFU;
-    constexpr std::uint64_t primo = 0x9E3779B97F4A7C15U;
-    using Meio = std::uint32_t;
-    std::uint64_t comeco = 0;
-    std::uint64_t fim = 0;
-    if (nome.size() >= sizeof comeco) {
-        comeco = ascii::load<std::uint64_t>(nome.data());
-        fim = ascii::load<std::uint64_t>(nome.data() + nome.size() - sizeof fim);
-    } else if (nome.size() >= sizeof(Meio)) {
-        comeco = ascii::load<Meio>(nome.data());
-        fim = ascii::load<Meio>(nome.data() + nome.size() - sizeof(Meio));
+std::size_t hashOf(std::string_view nome) {
+    constexpr std::uint64_t withoutCase = 0xDFDFDFDFDFDFDFDFU;
+    constexpr std::uint64_t prime = 0x9E3779B97F4A7C15U;
+    using Half = std::uint32_t;
+    std::uint64_t first = 0;
+    std::uint64_t end = 0;
+    if (nome.size() >= sizeof first) {
+        first = ascii::load<std::uint64_t>(nome.data());
+        end = ascii::load<std::uint64_t>(nome.data() + nome.size() - sizeof end);
+    } else if (nome.size() >= sizeof(Half)) {
+        first = ascii::load<Half>(nome.data());
+        end = ascii::load<Half>(nome.data() + nome.size() - sizeof(Half));
     } else {
         for (const char c : nome) {
-            comeco = comeco << 8U | static_cast<unsigned char>(c);
+            first = first << 8U | static_cast<unsigned char>(c);
         }
     }
-    const std::uint64_t misto =
-        ((comeco & semCaixa) * primo ^ (fim & semCaixa)) * primo + nome.size();
-    return static_cast<std::size_t>(misto ^ (misto >> 32U));
+    const std::uint64_t mixed =
+        ((first & withoutCase) * prime ^ (end & withoutCase)) * prime + nome.size();
+    return static_cast<std::size_t>(mixed ^ (mixed >> 32U));
 }
 
-bool iguaisSemCaixa(std::string_view nome, std::string_view maiusculo) {
-    return nome.size() == maiusculo.size() &&
-           std::equal(nome.begin(), nome.end(), maiusculo.begin(),
-                      [](char a, char b) { return maiuscula(a) == b; });
+bool equalIgnoringCase(std::string_view nome, std::string_view upperCase) {
+    return nome.size() == upperCase.size() &&
+           std::equal(nome.begin(), nome.end(), upperCase.begin(),
+                      [](char a, char b) { return upperByte(a) == b; });
 }
 
 // The value of an attribute is one text node, or none.
-std::string_view conteudo(const void* atributo) {
-    const xmlNode* texto = static_cast<const xmlAttr*>(atributo)->children;
+std::string_view content(const void* attribute) {
+    const xmlNode* texto = static_cast<const xmlAttr*>(attribute)->children;
     return texto == nullptr || texto->content == nullptr ? std::string_view{}
-                                                         : comoTexto(texto->content);
+                                                         : asText(texto->content);
 }
 
-std::size_t tabelaPara(std::size_t nomes) {
-    return std::max(menorTabela, std::bit_ceil(2 * nomes + 1));
+std::size_t tableFor(std::size_t names) {
+    return std::max(smallestTable, std::bit_ceil(2 * names + 1));
 }
 
 }  // namespace
 
-NomesLinha::NomesLinha(std::span<const std::string_view> nomes)
-    : tabela_(tabelaPara(nomes.size()), std::int16_t{-1}) {
-    nomes_.reserve(nomes.size());
-    for (const std::string_view nome : nomes) {
-        std::size_t lugar = espalha(nome) & (tabela_.size() - 1);
-        while (tabela_[lugar] >= 0) {
-            lugar = (lugar + 1) & (tabela_.size() - 1);
+RowNames::RowNames(std::span<const std::string_view> names)
+    : table_(tableFor(names.size()), std::int16_t{-1}) {
+    names_.reserve(names.size());
+    for (const std::string_view nome : names) {
+        std::size_t place = hashOf(nome) & (table_.size() - 1);
+        while (table_[place] >= 0) {
+            place = (place + 1) & (table_.size() - 1);
         }
-        tabela_[lugar] = static_cast<std::int16_t>(nomes_.size());
-        nomes_.push_back({.nome = nome, .maiusculo = asciiUpper(nome)});
+        table_[place] = static_cast<std::int16_t>(names_.size());
+        names_.push_back({.nome = nome, .upperCase = asciiUpper(nome)});
     }
 }
 
-NomesLinha::Encontro NomesLinha::encontra(std::string_view nome) const {
-    std::size_t lugar = espalha(nome) & (tabela_.size() - 1);
-    while (tabela_[lugar] >= 0) {
-        const std::int16_t campo = tabela_[lugar];
-        const Nome& candidato = nomes_[static_cast<std::size_t>(campo)];
-        if (nome == candidato.nome) {
-            return {campo, true};
+RowNames::Match RowNames::find(std::string_view nome) const {
+    std::size_t place = hashOf(nome) & (table_.size() - 1);
+    while (table_[place] >= 0) {
+        const std::int16_t field = table_[place];
+        const Name& candidate = names_[static_cast<std::size_t>(field)];
+        if (nome == candidate.nome) {
+            return {field, true};
         }
-        if (iguaisSemCaixa(nome, candidato.maiusculo)) {
-            return {campo, false};
+        if (equalIgnoringCase(nome, candidate.upperCase)) {
+            return {field, false};
         }
-        lugar = (lugar + 1) & (tabela_.size() - 1);
+        place = (place + 1) & (table_.size() - 1);
     }
     return {};
 }
 
-LeitorLinha::LeitorLinha(std::shared_ptr<const NomesLinha> nomes)
-    : nomes_(std::move(nomes)), achados_(nomes_->quantos()) {
-    sequencia_.reserve(nomes_->quantos());
+RowReader::RowReader(std::shared_ptr<const RowNames> names)
+    : names_(std::move(names)), matches_(names_->count()) {
+    sequence_.reserve(names_->count());
 }
 
-void LeitorLinha::le(const XmlNode& linha) {
+void RowReader::read(const XmlNode& linha) {
     if (!linha) {
-        throw ErroExecucao(ErroNumero::VariavelObjeto);
+        throw RuntimeError(RuntimeErrorCode::ObjectVariable);
     }
     linha_ = linha;
-    ++vez_;
-    const auto* elemento = static_cast<const xmlNode*>(linha.node_);
-    if (elemento->type != XML_ELEMENT_NODE) {
+    ++turn_;
+    const auto* element = static_cast<const xmlNode*>(linha.node_);
+    if (element->type != XML_ELEMENT_NODE) {
         return;
     }
-    comeca(elemento);
-    std::size_t lugar = 0;
-    for (const xmlAttr* a = elemento->properties; a != nullptr; a = a->next) {
-        if (lugar >= sequencia_.size() || sequencia_[lugar].nome != a->name) {
-            lugar = lugarDe(a->name, lugar);
+    start(element);
+    std::size_t place = 0;
+    for (const xmlAttr* a = element->properties; a != nullptr; a = a->next) {
+        if (place >= sequence_.size() || sequence_[place].nome != a->name) {
+            place = placeOf(a->name, place);
         }
-        const Conhecido& nome = sequencia_[lugar++];
-        if (nome.campo < 0) {
+        const KnownName& nome = sequence_[place++];
+        if (nome.field < 0) {
             continue;
         }
-        Achado& achado = achados_[static_cast<std::size_t>(nome.campo)];
-        if (achado.vez != vez_) {
-            achado.atributo = a;
-            achado.vez = vez_;
-            achado.exato = nome.exato && a->ns == nullptr;
+        MatchedField& match = matches_[static_cast<std::size_t>(nome.field)];
+        if (match.turn != turn_) {
+            match.attribute = a;
+            match.turn = turn_;
+            match.exact = nome.exact && a->ns == nullptr;
         }
     }
 }
 
-std::string_view LeitorLinha::texto(std::size_t campo) const {
-    const Achado& achado = achados_[campo];
-    if (achado.vez != vez_) {
+std::string_view RowReader::texto(std::size_t field) const {
+    const MatchedField& match = matches_[field];
+    if (match.turn != turn_) {
         return {};
     }
-    return achado.exato ? conteudo(achado.atributo) : consulta(achado, (*nomes_)[campo].nome);
+    return match.exact ? content(match.attribute) : query(match, (*names_)[field].nome);
 }
 
-std::string_view LeitorLinha::numero(std::size_t campo, std::string_view padrao) {
-    Achado& achado = achados_[campo];
-    if (achado.vez != vez_) {
+std::string_view RowReader::number(std::size_t field, std::string_view padrao) {
+    MatchedField& match = matches_[field];
+    if (match.turn != turn_) {
         return padrao;
     }
-    const NomesLinha::Nome& nome = (*nomes_)[campo];
-    const std::string_view texto = achado.exato && nome.nome == nome.maiusculo
-                                       ? conteudo(achado.atributo)
-                                       : consulta(achado, nome.maiusculo);
-    const auto ponto = std::find(texto.begin(), texto.end(), '.');
-    if (ponto == texto.end()) {
+    const RowNames::Name& nome = (*names_)[field];
+    const std::string_view texto = match.exact && nome.nome == nome.upperCase
+                                       ? content(match.attribute)
+                                       : query(match, nome.upperCase);
+    const auto point = std::find(texto.begin(), texto.end(), '.');
+    if (point == texto.end()) {
         return texto;
     }
-    achado.trocado.assign(texto);
-    std::replace(achado.trocado.begin() + (ponto - texto.begin()), achado.trocado.end(), '.', ',');
-    return achado.trocado;
+    match.withCommas.assign(texto);
+    std::replace(match.withCommas.begin() + (point - texto.begin()), match.withCommas.end(), '.',
+                 ',');
+    return match.withCommas;
 }
 
-std::string_view LeitorLinha::consulta(const Achado& achado, std::string_view nome) const {
-    const auto* atributo = static_cast<const xmlAttr*>(achado.atributo);
-    if (atributo->ns == nullptr && comoTexto(atributo->name) == nome) {
-        return conteudo(atributo);
+std::string_view RowReader::query(const MatchedField& match, std::string_view nome) const {
+    const auto* attribute = static_cast<const xmlAttr*>(match.attribute);
+    if (attribute->ns == nullptr && asText(attribute->name) == nome) {
+        return content(attribute);
     }
     return linha_.attributes().getNamedItem(nome).text();
 }
 
 // What is known of names belongs to one document.
-void LeitorLinha::comeca(const void* elemento) {
-    const std::uint64_t documento = XmlDocument::serialOf(elemento);
+void RowReader::start(const void* element) {
+    const std::uint64_t documento = XmlDocument::serialOf(element);
     if (documento != documento_) {
-        sequencia_.clear();
+        sequence_.clear();
         documento_ = documento;
-        semPrefixo_ = XmlDocument::undeclaredPrefixes(elemento);
+        withoutPrefix_ = XmlDocument::undeclaredPrefixes(element);
     }
 }
 
-// Where the name stands in the sequence from `desde` on. A document holds each name
+// Where the name stands in the sequence from `since` on. A document holds each name
 // once, so that its address tells it. A name that isn't near takes the place.
-std::size_t LeitorLinha::lugarDe(const void* nome, std::size_t desde) {
-    const std::size_t ate = std::min(desde + 1 + maiorSalto, sequencia_.size());
-    for (std::size_t lugar = desde; lugar < ate; ++lugar) {
-        if (sequencia_[lugar].nome == nome) {
-            return lugar;
+std::size_t RowReader::placeOf(const void* nome, std::size_t since) {
+    const std::size_t to = std::min(since + 1 + largestSkip, sequence_.size());
+    for (std::size_t place = since; place < to; ++place) {
+        if (sequence_[place].nome == nome) {
+            return place;
         }
     }
-    if (desde == sequencia_.size()) {
-        sequencia_.push_back(reconhece(nome));
+    if (since == sequence_.size()) {
+        sequence_.push_back(recognise(nome));
     } else {
-        sequencia_[desde] = reconhece(nome);
+        sequence_[since] = recognise(nome);
     }
-    return desde;
+    return since;
 }
 
-LeitorLinha::Conhecido LeitorLinha::reconhece(const void* nome) const {
-    const std::string_view inteiro = comoTexto(nome);
-    const std::string_view base = semPrefixo_ ? inteiro.substr(inteiro.find(':') + 1) : inteiro;
-    const NomesLinha::Encontro achado = nomes_->encontra(base);
-    return {nome, static_cast<std::int16_t>(achado.campo),
-            achado.exato && base.size() == inteiro.size()};
+RowReader::KnownName RowReader::recognise(const void* nome) const {
+    const std::string_view whole = asText(nome);
+    const std::string_view base = withoutPrefix_ ? whole.substr(whole.find(':') + 1) : whole;
+    const RowNames::Match match = names_->find(base);
+    return {nome, static_cast<std::int16_t>(match.field),
+            match.exact && base.size() == whole.size()};
 }
 
 }  // namespace tarn

@@ -20,7 +20,7 @@ using SharedNodes = std::shared_ptr<const NodeVector>;
 
 const void* given(const void* object) {
     if (object == nullptr) {
-        throw ErroExecucao(ErroNumero::VariavelObjeto);
+        throw RuntimeError(RuntimeErrorCode::ObjectVariable);
     }
     return object;
 }

@@ -28,7 +28,7 @@ public:
 
 private:
     friend class XmlAttributes;
-    friend class LeitorLinha;
+    friend class RowReader;
     explicit XmlAttribute(const void* attribute) : attribute_(attribute) {}
     const void* attribute_ = nullptr;
 };
@@ -82,7 +82,7 @@ public:
 private:
     friend class XmlDocument;
     friend class XmlNodeList;
-    friend class LeitorLinha;
+    friend class RowReader;
     explicit XmlNode(const void* node) : node_(node) {}
     const void* node_ = nullptr;
 };
@@ -114,7 +114,7 @@ public:
 private:
     friend class XmlAttributes;
     friend class XmlNode;
-    friend class LeitorLinha;
+    friend class RowReader;
     struct State;
     static bool undeclaredPrefixes(const void* node);
     static std::uint64_t serialOf(const void* node);  // another one for every load

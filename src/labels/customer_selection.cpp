@@ -13,76 +13,76 @@ namespace tarn::labels {
 namespace {
 
 // The tick is the user's own.
-constexpr std::array<CampoGrade, 7> campos{
+constexpr std::array<GridField, 7> fields{
     {{}, {"CD_CEP"}, {"NM_PES_CPL"}, {"DC_LG_CPL"}, {"NM_BRR"}, {"SG_UF"}, {"NM_MUN"}}};
 
-std::vector<ItemLista> carrega(Environment& ambiente, const std::string& consulta,
-                               std::string_view campoTexto, std::string_view campoDado) {
-    XmlDocument resposta;
-    if (!pede(ambiente, consulta, resposta, falha::Tarn0009Largo)) {
+std::vector<ListItem> load(Environment& environment, const std::string& query,
+                           std::string_view textField, std::string_view dataField) {
+    XmlDocument answer;
+    if (!requestAnswer(environment, query, answer, failure::Tarn0009Wide)) {
         return {};
     }
-    std::vector<ItemLista> itens = itensDaResposta(resposta, campoTexto, campoDado);
-    itens.insert(itens.begin(), ItemLista{"<-TODAS->", dadoTodas});
-    return itens;
+    std::vector<ListItem> items = listItemsOf(answer, textField, dataField);
+    items.insert(items.begin(), ListItem{"<-TODAS->", allItemsData});
+    return items;
 }
 
 }  // namespace
 
-std::vector<ItemLista> carregaFiliais(Environment& ambiente, const Sessao& sessao) {
-    return carrega(ambiente, comando::sel_filias(sessao), "FILIAL", "ID_ETB");
+std::vector<ListItem> loadBranches(Environment& environment, const Sessao& session) {
+    return load(environment, commands::sel_filias(session), "FILIAL", "ID_ETB");
 }
 
-std::vector<ItemLista> carregaPaises(Environment& ambiente, const Sessao& sessao) {
-    return carrega(ambiente, comando::sel_pais(sessao), "NM_PAIS", "ID_PAIS");
+std::vector<ListItem> loadCountries(Environment& environment, const Sessao& session) {
+    return load(environment, commands::sel_pais(session), "NM_PAIS", "ID_PAIS");
 }
 
-std::vector<ItemLista> carregaEstados(Environment& ambiente, const Sessao& sessao,
-                                      std::int32_t pais) {
-    return carrega(ambiente, comando::sel_estado(sessao, pais), "NM_UF", "ID_UF");
+std::vector<ListItem> loadStates(Environment& environment, const Sessao& session,
+                                 std::int32_t country) {
+    return load(environment, commands::sel_estado(session, country), "NM_UF", "ID_UF");
 }
 
-std::vector<ItemLista> carregaCidades(Environment& ambiente, const Sessao& sessao,
-                                      std::int32_t estado) {
-    return carrega(ambiente, comando::sel_cidade(sessao, estado), "NM_MUN", "ID_MUN");
+std::vector<ListItem> loadTowns(Environment& environment, const Sessao& session,
+                                std::int32_t state) {
+    return load(environment, commands::sel_cidade(session, state), "NM_MUN", "ID_MUN");
 }
 
-std::string MontaURL(std::span<const std::int32_t> dados, int posicao) {
-    if (posicao > 0) {
-        return std::to_string(dados[static_cast<std::size_t>(posicao)]);
+std::string MontaURL(std::span<const std::int32_t> data, int position) {
+    if (position > 0) {
+        return std::to_string(data[static_cast<std::size_t>(position)]);
     }
     std::string texto;
-    for (std::size_t i = 1; i < dados.size(); ++i) {
-        texto.append(texto.empty() ? "" : ", ").append(std::to_string(dados[i]));
+    for (std::size_t i = 1; i < data.size(); ++i) {
+        texto.append(texto.empty() ? "" : ", ").append(std::to_string(data[i]));
     }
     return texto;
 }
 
-FaltaData verificaDatas(Environment& ambiente, const comando::FiltroEtiquetas& filtro) {
-    const auto vendas = {filtro.produto, filtro.valorDe, filtro.valorAte, filtro.quantidadeDe,
-                         filtro.quantidadeAte};
-    const bool precisa = std::any_of(vendas.begin(), vendas.end(),
-                                     [](std::string_view texto) { return !texto.empty(); });
-    if (!precisa || (!filtro.vendaDe.empty() && !filtro.vendaAte.empty())) {
-        return FaltaData::Nenhuma;
+MissingDate checkDates(Environment& environment, const commands::LabelFilter& filter) {
+    const auto sales = {filter.product, filter.amountFrom, filter.amountTo, filter.quantityFrom,
+                        filter.quantityTo};
+    const bool needs = std::any_of(sales.begin(), sales.end(),
+                                   [](std::string_view texto) { return !texto.empty(); });
+    if (!needs || (!filter.saleFrom.empty() && !filter.saleTo.empty())) {
+        return MissingDate::None;
     }
-    ambiente.boxes.show({.text = "Data de Venda obrigatoria nesta ocasião!", .title = "Alert"});
-    return filtro.vendaDe.empty() ? FaltaData::De : FaltaData::Ate;
+    environment.boxes.show({.text = "Data de Venda obrigatoria nesta ocasião!", .title = "Alert"});
+    return filter.saleFrom.empty() ? MissingDate::De : MissingDate::To;
 }
 
-std::vector<LinhaGrade> clientesDa(const XmlDocument& resposta) {
-    return linhasDaResposta(resposta, campos);
+std::vector<GridRow> customersOf(const XmlDocument& answer) {
+    return rowsOf(answer, fields);
 }
 
-std::vector<LinhaGrade> pesquisaClientes(Environment& ambiente, const Sessao& sessao,
-                                         const comando::FiltroEtiquetas& filtro) {
-    const std::string consulta = comando::sel_dados_etq(sessao, filtro);
-    ambiente.boxes.show({.text = consulta});
-    XmlDocument resposta;
-    if (!pede(ambiente, consulta, resposta, falha::Tarn0009Largo)) {
+std::vector<GridRow> searchCustomers(Environment& environment, const Sessao& session,
+                                     const commands::LabelFilter& filter) {
+    const std::string query = commands::sel_dados_etq(session, filter);
+    environment.boxes.show({.text = query});
+    XmlDocument answer;
+    if (!requestAnswer(environment, query, answer, failure::Tarn0009Wide)) {
         return {};
     }
-    return clientesDa(resposta);
+    return customersOf(answer);
 }
 
 }  // namespace tarn::labels

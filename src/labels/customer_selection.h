@@ -17,31 +17,31 @@ struct Environment;
 
 namespace tarn::labels {
 
-inline constexpr std::int32_t dadoTodas = -1;
+inline constexpr std::int32_t allItemsData = -1;
 
 // The four lists: "<-TODAS->" and what the server has; empty after a failed request.
-std::vector<ItemLista> carregaFiliais(Environment& ambiente, const Sessao& sessao);
-std::vector<ItemLista> carregaPaises(Environment& ambiente, const Sessao& sessao);
-std::vector<ItemLista> carregaEstados(Environment& ambiente, const Sessao& sessao,
-                                      std::int32_t pais);
-std::vector<ItemLista> carregaCidades(Environment& ambiente, const Sessao& sessao,
-                                      std::int32_t estado);
+std::vector<ListItem> loadBranches(Environment& environment, const Sessao& session);
+std::vector<ListItem> loadCountries(Environment& environment, const Sessao& session);
+std::vector<ListItem> loadStates(Environment& environment, const Sessao& session,
+                                 std::int32_t country);
+std::vector<ListItem> loadTowns(Environment& environment, const Sessao& session,
+                                std::int32_t state);
 
 // The identity of the item chosen in a list, as text; at the first position those of all
-// others, joined by a comma and a blank. `dados` are the item data of the whole list; an
+// others, joined by a comma and a blank. `data` are the item data of the whole list; an
 // empty list has no position and gives the empty text.
-std::string MontaURL(std::span<const std::int32_t> dados, int posicao);
+std::string MontaURL(std::span<const std::int32_t> data, int position);
 
 // Before a search: the sale's date that the other filters ask for and that the user, who
 // has been told, must fill in first.
-enum class FaltaData { Nenhuma, De, Ate };
-FaltaData verificaDatas(Environment& ambiente, const comando::FiltroEtiquetas& filtro);
+enum class MissingDate { None, De, To };
+MissingDate checkDates(Environment& environment, const commands::LabelFilter& filter);
 
 // A customer is a row of the grid: tick, CEP, name, address, district, state, town.
-std::vector<LinhaGrade> clientesDa(const XmlDocument& resposta);
+std::vector<GridRow> customersOf(const XmlDocument& answer);
 
 // Shows the query, then sends it. No customers after a failed request.
-std::vector<LinhaGrade> pesquisaClientes(Environment& ambiente, const Sessao& sessao,
-                                         const comando::FiltroEtiquetas& filtro);
+std::vector<GridRow> searchCustomers(Environment& environment, const Sessao& session,
+                                     const commands::LabelFilter& filter);
 
 }  // namespace tarn::labels

@@ -9,33 +9,33 @@
 namespace tarn::labels {
 namespace {
 
-constexpr const char* intervaloSemNumero =
+constexpr const char* rangeNotANumber =
     "Nada foi excluído. Digite em De e Até os números da coluna Sequencial da lista e clique em "
     "OK de novo.";
 
 }  // namespace
 
-Exclusao excluiEtiquetas(Environment& ambiente, const Sessao& sessao, const std::string& motivo,
-                         const std::string& de, const std::string& ate) {
+Deletion deleteLabels(Environment& environment, const Sessao& session, const std::string& reason,
+                      const std::string& de, const std::string& to) {
     if (de.empty()) {
-        informa(ambiente, "De é um campo obrigatório!  ");
-        return Exclusao::FaltaDe;
+        inform(environment, "De é um campo obrigatório!  ");
+        return Deletion::MissingFrom;
     }
-    if (ate.empty()) {
-        informa(ambiente, "Até é um campo obrigatório!  ");
-        return Exclusao::FaltaAte;
+    if (to.empty()) {
+        inform(environment, "Até é um campo obrigatório!  ");
+        return Deletion::MissingTo;
     }
-    std::string consulta;
+    std::string query;
     try {
-        consulta = comando::exclui_etiquetas(sessao, motivo, de, ate);
-    } catch (const ErroExecucao& erro) {
-        relata(ambiente, erro, intervaloSemNumero);
-        return Exclusao::SemNumero;
+        query = commands::exclui_etiquetas(session, reason, de, to);
+    } catch (const RuntimeError& error) {
+        reportError(environment, error, rangeNotANumber);
+        return Deletion::NotANumber;
     }
-    XmlDocument resposta;
-    pede(ambiente, consulta, resposta, falha::Tarn0009);
-    informa(ambiente, "Etiquetas excluídas com sucesso!     ");
-    return Exclusao::Enviada;
+    XmlDocument answer;
+    requestAnswer(environment, query, answer, failure::Tarn0009);
+    inform(environment, "Etiquetas excluídas com sucesso!     ");
+    return Deletion::Sent;
 }
 
 }  // namespace tarn::labels

@@ -12,10 +12,10 @@ namespace tarn::labels {
 
 // Enviada: the request was made and success told, whatever became of it; the queue, read
 // anew, tells the truth. Otherwise nothing was sent and the user told why.
-enum class Exclusao { Enviada, FaltaDe, FaltaAte, SemNumero };
+enum class Deletion { Sent, MissingFrom, MissingTo, NotANumber };
 
 // The ends of the range are sequence numbers as they were typed.
-Exclusao excluiEtiquetas(Environment& ambiente, const Sessao& sessao, const std::string& motivo,
-                         const std::string& de, const std::string& ate);
+Deletion deleteLabels(Environment& environment, const Sessao& session, const std::string& reason,
+                      const std::string& de, const std::string& to);
 
 }  // namespace tarn::labels

@@ -10,64 +10,64 @@
 namespace tarn::labels {
 namespace {
 
-constexpr std::size_t corte = 24;  // characters of the fields that share a line
+constexpr std::size_t cutAt = 24;  // characters of the fields that share a line
 
 // A text of a label, centimetres from where its form begins each label.
-struct Linha {
-    std::string_view Etiqueta::*campo = nullptr;
+struct Line {
+    std::string_view Label::*field = nullptr;
     double x = 0;
     double y = 0;
-    bool cortada = false;
+    bool cut = false;
 };
 
-struct Origem {
+struct Origin {
     double x = 0;
     double y = 0;
 };
 
-void escreveLinha(Environment& ambiente, const Linha& linha, const Etiqueta& etiqueta,
-                  const Origem& origem, double tamanho) {
-    const std::string_view texto = etiqueta.*linha.campo;
-    escreve(ambiente, linha.cortada ? leftOf(texto, corte) : texto, origem.x + linha.x,
-            origem.y + linha.y, tamanho);
+void writeLine(Environment& environment, const Line& linha, const Label& label,
+               const Origin& origin, double tamanho) {
+    const std::string_view texto = label.*linha.field;
+    write(environment, linha.cut ? leftOf(texto, cutAt) : texto, origin.x + linha.x,
+          origin.y + linha.y, tamanho);
 }
 
 // PIMACO 6280
 
-constexpr double tamanhoPimaco = 6;
-constexpr std::array<Linha, 8> linhasPimaco{{{&Etiqueta::NOME, 0, 0},
-                                             {&Etiqueta::ENDERECO, 0, 0.3},
-                                             {&Etiqueta::COMPLEMENTO, 0, 0.6, true},
-                                             {&Etiqueta::BAIRRO, 3.4, 0.6, true},
-                                             {&Etiqueta::MUNICIPIO, 0, 0.9, true},
-                                             {&Etiqueta::UF, 3.4, 0.9},
-                                             {&Etiqueta::CEP, 0, 1.2},
-                                             {&Etiqueta::CODIGO, 0, 1.5}}};
+constexpr double pimacoSize = 6;
+constexpr std::array<Line, 8> pimacoLines{{{&Label::NOME, 0, 0},
+                                           {&Label::ENDERECO, 0, 0.3},
+                                           {&Label::COMPLEMENTO, 0, 0.6, true},
+                                           {&Label::BAIRRO, 3.4, 0.6, true},
+                                           {&Label::MUNICIPIO, 0, 0.9, true},
+                                           {&Label::UF, 3.4, 0.9},
+                                           {&Label::CEP, 0, 1.2},
+                                           {&Label::CODIGO, 0, 1.5}}};
 
 // Where the next label goes on the sheet.
-struct Lugar {
-    static constexpr int colunas = 3;
+struct Place {
+    static constexpr int columns = 3;
     static constexpr int linhas = 10;
-    static constexpr double esquerda = 1;
-    static constexpr double topo = 1.7;
-    static constexpr double passoDaColuna = 7;
+    static constexpr double left = 1;
+    static constexpr double top = 1.7;
+    static constexpr double columnStep = 7;
 
-    Origem origem{esquerda, topo};
+    Origin origin{left, top};
     int coluna = 0;  // labels that the row holds
     int linha = 1;
 
     // False: the sheet is full.
-    bool avanca() {
-        if (++coluna < colunas) {
-            origem.x += passoDaColuna;
+    bool advance() {
+        if (++coluna < columns) {
+            origin.x += columnStep;
             return true;
         }
         if (linha == linhas) {
             return false;
         }
         // The stationery's rows are 2.54 cm apart: now and then a shorter step.
-        origem.y += linha == 1 || linha == 5 || linha == 8 ? 2.5 : 2.6;
-        origem.x = esquerda;
+        origin.y += linha == 1 || linha == 5 || linha == 8 ? 2.5 : 2.6;
+        origin.x = left;
         coluna = 0;
         ++linha;
         return true;
@@ -76,46 +76,46 @@ struct Lugar {
 
 // A5
 
-constexpr double tamanhoA5 = 15;
-constexpr std::size_t nomeLongo = 10;  // characters; a longer name is drawn twice, for weight
-constexpr Linha nomeA5{&Etiqueta::NOME, 1, 1.7};
-constexpr std::array<Linha, 7> linhasA5{{{&Etiqueta::ENDERECO, 1, 2.3},
-                                         {&Etiqueta::BAIRRO, 1, 2.9, true},
-                                         {&Etiqueta::COMPLEMENTO, 10.5, 2.9, true},
-                                         {&Etiqueta::MUNICIPIO, 1, 3.5, true},
-                                         {&Etiqueta::UF, 10.5, 3.5},
-                                         {&Etiqueta::CEP, 1, 4.1},
-                                         {&Etiqueta::CODIGO, 1, 4.7}}};
+constexpr double a5Size = 15;
+constexpr std::size_t longName = 10;  // characters; a longer name is drawn twice, for weight
+constexpr Line a5Name{&Label::NOME, 1, 1.7};
+constexpr std::array<Line, 7> a5Lines{{{&Label::ENDERECO, 1, 2.3},
+                                       {&Label::BAIRRO, 1, 2.9, true},
+                                       {&Label::COMPLEMENTO, 10.5, 2.9, true},
+                                       {&Label::MUNICIPIO, 1, 3.5, true},
+                                       {&Label::UF, 10.5, 3.5},
+                                       {&Label::CEP, 1, 4.1},
+                                       {&Label::CODIGO, 1, 4.7}}};
 
 }  // namespace
 
-void imprimePimaco6280(Environment& ambiente, Etiquetas& etiquetas, const Progress& andamento) {
-    Lugar lugar;
-    for (std::size_t i = 0; i < etiquetas.quantas(); ++i) {
-        const Etiqueta etiqueta = etiquetas.le(i);
-        for (const Linha& linha : linhasPimaco) {
-            escreveLinha(ambiente, linha, etiqueta, lugar.origem, tamanhoPimaco);
+void printPimaco6280(Environment& environment, Labels& labels, const Progress& progress) {
+    Place place;
+    for (std::size_t i = 0; i < labels.count(); ++i) {
+        const Label label = labels.read(i);
+        for (const Line& linha : pimacoLines) {
+            writeLine(environment, linha, label, place.origin, pimacoSize);
         }
-        if (!lugar.avanca()) {
-            mostraFalha(ambiente, ambiente.printer.NewPage());
-            mostraFalha(ambiente, ambiente.printer.EndDoc());
-            lugar = {};
+        if (!place.advance()) {
+            showFailure(environment, environment.printer.NewPage());
+            showFailure(environment, environment.printer.EndDoc());
+            place = {};
         }
-        avisa(andamento, i + 1, etiquetas);
+        report(progress, i + 1, labels);
     }
 }
 
-void imprimeA5(Environment& ambiente, Etiquetas& etiquetas, const Progress& andamento) {
-    for (std::size_t i = 0; i < etiquetas.quantas(); ++i) {
-        const Etiqueta etiqueta = etiquetas.le(i);
-        escreveLinha(ambiente, nomeA5, etiqueta, {}, tamanhoA5);
-        if (lengthOf(etiqueta.NOME) > nomeLongo) {
-            escreveLinha(ambiente, nomeA5, etiqueta, {}, tamanhoA5);
+void printA5(Environment& environment, Labels& labels, const Progress& progress) {
+    for (std::size_t i = 0; i < labels.count(); ++i) {
+        const Label label = labels.read(i);
+        writeLine(environment, a5Name, label, {}, a5Size);
+        if (lengthOf(label.NOME) > longName) {
+            writeLine(environment, a5Name, label, {}, a5Size);
         }
-        for (const Linha& linha : linhasA5) {
-            escreveLinha(ambiente, linha, etiqueta, {}, tamanhoA5);
+        for (const Line& linha : a5Lines) {
+            writeLine(environment, linha, label, {}, a5Size);
         }
-        avisa(andamento, i + 1, etiquetas);
+        report(progress, i + 1, labels);
     }
 }
 

@@ -13,18 +13,18 @@
 
 namespace tarn {
 
-frmExcluirEtiqueta::frmExcluirEtiqueta(DeskContext& desk, const labels::ValoresEtiquetas& valores,
+frmExcluirEtiqueta::frmExcluirEtiqueta(DeskContext& desk, const labels::LabelValues& values,
                                        QWidget* parent)
     : QDialog(parent),
       desk_(desk),
-      valores_(valores),
+      values_(values),
       ui_(std::make_unique<Ui::frmExcluirEtiqueta>()) {
     ui_->setupUi(this);
-    for (QLineEdit* campo : {ui_->txtDe, ui_->txtAte}) {
-        new FieldController(campo, KeyFilter::NumeroVirgula, desk.ambiente);
+    for (QLineEdit* field : {ui_->txtDe, ui_->txtAte}) {
+        new FieldController(field, KeyFilter::Decimal, desk.environment);
     }
-    poeFigura(*ui_->cmdOk, "cancel_order");
-    poeFigura(*ui_->cmdCancelar, "give_up");
+    setIcon(*ui_->cmdOk, "cancel_order");
+    setIcon(*ui_->cmdCancelar, "give_up");
     connect(ui_->cmdOk, &QPushButton::clicked, this, &frmExcluirEtiqueta::cmdOk_Click);
     connect(ui_->cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
     ui_->txtDe->setFocus();
@@ -35,36 +35,36 @@ frmExcluirEtiqueta::~frmExcluirEtiqueta() = default;
 void frmExcluirEtiqueta::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!event->spontaneous()) {
-        ativa();
+        activate();
     }
 }
 
-void frmExcluirEtiqueta::ativa() {
-    const ItemLista item{valores_.MotivoImpressao, 0};
-    encheLista(*ui_->cboMotivo, std::span(&item, 1));
+void frmExcluirEtiqueta::activate() {
+    const ListItem item{values_.MotivoImpressao, 0};
+    fillList(*ui_->cboMotivo, std::span(&item, 1));
 }
 
 void frmExcluirEtiqueta::cmdOk_Click() {
     const std::string de = ui_->txtDe->text().toStdString();
-    const std::string ate = ui_->txtAte->text().toStdString();
+    const std::string to = ui_->txtAte->text().toStdString();
     switch (
-        labels::excluiEtiquetas(desk_.ambiente, desk_.sessao, valores_.MotivoImpressao, de, ate)) {
-        case labels::Exclusao::FaltaDe:
+        labels::deleteLabels(desk_.environment, desk_.session, values_.MotivoImpressao, de, to)) {
+        case labels::Deletion::MissingFrom:
             ui_->txtDe->setFocus();
             break;
-        case labels::Exclusao::FaltaAte:
+        case labels::Deletion::MissingTo:
             ui_->txtAte->setFocus();
             break;
-        case labels::Exclusao::SemNumero:
+        case labels::Deletion::NotANumber:
             break;
-        case labels::Exclusao::Enviada:
+        case labels::Deletion::Sent:
             accept();
             break;
     }
 }
 
 void frmExcluirEtiqueta::keyPressEvent(QKeyEvent* event) {
-    if (!enterNoBotao(*this, *event)) {
+    if (!enterPressesButton(*this, *event)) {
         QDialog::keyPressEvent(event);
     }
 }

@@ -13,14 +13,14 @@ class frmExcluirEtiqueta;
 namespace tarn {
 
 namespace labels {
-struct ValoresEtiquetas;
+struct LabelValues;
 }
 
 class frmExcluirEtiqueta : public QDialog {
     Q_OBJECT
 
 public:
-    frmExcluirEtiqueta(DeskContext& desk, const labels::ValoresEtiquetas& valores, QWidget* parent);
+    frmExcluirEtiqueta(DeskContext& desk, const labels::LabelValues& values, QWidget* parent);
     ~frmExcluirEtiqueta() override;
 
 protected:
@@ -28,11 +28,11 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void ativa();
+    void activate();
     void cmdOk_Click();
 
     DeskContext& desk_;
-    const labels::ValoresEtiquetas& valores_;
+    const labels::LabelValues& values_;
     std::unique_ptr<Ui::frmExcluirEtiqueta> ui_;
 };
 

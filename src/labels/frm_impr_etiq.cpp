@@ -19,26 +19,26 @@
 namespace tarn {
 namespace {
 
-constexpr std::array<ColunaGrade, 7> colunas{{{" ", 0, TipoColuna::Caixa, false},
-                                              {"Cep", 13},
-                                              {"Cliente", 46},
-                                              {"Endereço", 46},
-                                              {"Bairro", 26},
-                                              {"Estado", 8},
-                                              {"Cidade", 28}}};
-constexpr int linhasVisiveis = 12;
+constexpr std::array<GridColumn, 7> columns{{{" ", 0, ColumnKind::CheckBox, false},
+                                             {"Cep", 13},
+                                             {"Cliente", 46},
+                                             {"Endereço", 46},
+                                             {"Bairro", 26},
+                                             {"Estado", 8},
+                                             {"Cidade", 28}}};
+constexpr int visibleLines = 12;
 
-comando::ItemEscolhido escolhido(const QComboBox& lista) {
-    return {.posicao = std::max(lista.currentIndex(), 0), .dado = dadoDaLista(lista)};
+commands::ChosenItem chosen(const QComboBox& list) {
+    return {.position = std::max(list.currentIndex(), 0), .data = currentItemData(list)};
 }
 
-std::string montaURL(const QComboBox& lista) {
-    std::vector<std::int32_t> dados;
-    dados.reserve(static_cast<std::size_t>(lista.count()));
-    for (int i = 0; i < lista.count(); ++i) {
-        dados.push_back(lista.itemData(i).toInt());
+std::string listParameter(const QComboBox& list) {
+    std::vector<std::int32_t> data;
+    data.reserve(static_cast<std::size_t>(list.count()));
+    for (int i = 0; i < list.count(); ++i) {
+        data.push_back(list.itemData(i).toInt());
     }
-    return labels::MontaURL(dados, lista.currentIndex());
+    return labels::MontaURL(data, list.currentIndex());
 }
 
 }  // namespace
@@ -47,11 +47,11 @@ FrmImprEtiq::FrmImprEtiq(DeskContext& desk, QWidget* parent)
     : QDialog(parent),
       desk_(desk),
       ui_(std::make_unique<Ui::FrmImprEtiq>()),
-      clientes_(new GradeModel(colunas, this)) {
+      customers_(new GridModel(columns, this)) {
     ui_->setupUi(this);
-    preparaCampos();
-    preparaBotoes();
-    preparaGradeDeClientes();
+    prepareFields();
+    prepareButtons();
+    prepareCustomerGrid();
     connect(ui_->cboPais, &QComboBox::activated, this, &FrmImprEtiq::cboPais_Click);
     connect(ui_->cboEstado, &QComboBox::activated, this, &FrmImprEtiq::cboEstado_Click);
     ui_->cboFilial->setFocus();
@@ -59,31 +59,31 @@ FrmImprEtiq::FrmImprEtiq(DeskContext& desk, QWidget* parent)
 
 FrmImprEtiq::~FrmImprEtiq() = default;
 
-void FrmImprEtiq::preparaCampos() {
-    for (QLineEdit* campo : {ui_->txtCepDe, ui_->txtCepAte, ui_->txtVlrDe, ui_->txtVlrAte,
+void FrmImprEtiq::prepareFields() {
+    for (QLineEdit* field : {ui_->txtCepDe, ui_->txtCepAte, ui_->txtVlrDe, ui_->txtVlrAte,
                              ui_->txtQtde, ui_->txtQtAte}) {
-        new FieldController(campo, KeyFilter::NumeroVirgula, desk_.ambiente);
+        new FieldController(field, KeyFilter::Decimal, desk_.environment);
     }
-    for (QLineEdit* campo : {ui_->txtDtVndDe, ui_->txtDtVndAte}) {
-        new DateField(campo, KeyFilter::NumeroVirgula, desk_.ambiente);
+    for (QLineEdit* field : {ui_->txtDtVndDe, ui_->txtDtVndAte}) {
+        new DateField(field, KeyFilter::Decimal, desk_.environment);
     }
 }
 
-void FrmImprEtiq::preparaGradeDeClientes() {
-    preparaGrade(*ui_->sprDados, *clientes_);
-    ajustaAGrade(*this, *ui_->sprDados, linhasVisiveis);
+void FrmImprEtiq::prepareCustomerGrid() {
+    prepareGrid(*ui_->sprDados, *customers_);
+    fitToGrid(*this, *ui_->sprDados, visibleLines);
 }
 
-void FrmImprEtiq::preparaBotoes() {
-    poeFigura(*ui_->cmdPesquisar, "search");
-    poeFigura(*ui_->cmdImprimir, "print");
-    poeFigura(*ui_->cmdVoltar, "close");
+void FrmImprEtiq::prepareButtons() {
+    setIcon(*ui_->cmdPesquisar, "search");
+    setIcon(*ui_->cmdImprimir, "print");
+    setIcon(*ui_->cmdVoltar, "close");
     connect(ui_->cmdPesquisar, &QPushButton::clicked, this, &FrmImprEtiq::cmdPesquisar_Click);
     connect(ui_->cmdImprimir, &QPushButton::clicked, this, &FrmImprEtiq::cmdImprimir_Click);
     connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-void FrmImprEtiq::carrega() {
+void FrmImprEtiq::load() {
     const WaitCursor hourglass;
     CarregaCboPais();
     CarregaCboFilial();
@@ -91,26 +91,26 @@ void FrmImprEtiq::carrega() {
 
 // Standing on the first item counts as a click, where there is an item to stand on.
 void FrmImprEtiq::CarregaCboPais() {
-    encheLista(*ui_->cboPais, labels::carregaPaises(desk_.ambiente, desk_.sessao));
+    fillList(*ui_->cboPais, labels::loadCountries(desk_.environment, desk_.session));
     if (ui_->cboPais->count() > 0) {
         cboPais_Click();
     }
 }
 
 void FrmImprEtiq::CarregaCboFilial() {
-    encheLista(*ui_->cboFilial, labels::carregaFiliais(desk_.ambiente, desk_.sessao));
+    fillList(*ui_->cboFilial, labels::loadBranches(desk_.environment, desk_.session));
 }
 
 void FrmImprEtiq::cboPais_Click() {
     ui_->cboEstado->clear();
     ui_->cboCidade->clear();
-    const std::int32_t pais = dadoDaLista(*ui_->cboPais);
-    ui_->cboEstado->setEnabled(pais != labels::dadoTodas);
-    if (pais == labels::dadoTodas) {
+    const std::int32_t country = currentItemData(*ui_->cboPais);
+    ui_->cboEstado->setEnabled(country != labels::allItemsData);
+    if (country == labels::allItemsData) {
         ui_->cboCidade->setEnabled(false);
         return;
     }
-    encheLista(*ui_->cboEstado, labels::carregaEstados(desk_.ambiente, desk_.sessao, pais));
+    fillList(*ui_->cboEstado, labels::loadStates(desk_.environment, desk_.session, country));
     if (ui_->cboEstado->count() > 0) {
         cboEstado_Click();
     }
@@ -118,60 +118,60 @@ void FrmImprEtiq::cboPais_Click() {
 
 void FrmImprEtiq::cboEstado_Click() {
     ui_->cboCidade->clear();
-    const std::int32_t estado = dadoDaLista(*ui_->cboEstado);
-    ui_->cboCidade->setEnabled(estado != labels::dadoTodas);
-    if (estado != labels::dadoTodas) {
-        encheLista(*ui_->cboCidade, labels::carregaCidades(desk_.ambiente, desk_.sessao, estado));
+    const std::int32_t state = currentItemData(*ui_->cboEstado);
+    ui_->cboCidade->setEnabled(state != labels::allItemsData);
+    if (state != labels::allItemsData) {
+        fillList(*ui_->cboCidade, labels::loadTowns(desk_.environment, desk_.session, state));
     }
 }
 
 void FrmImprEtiq::cmdPesquisar_Click() {
     ui_->cmdPesquisar->setFocus();  // pressed by its key, too: a date field completes its date
-    const auto texto = [](const QLineEdit* campo) { return campo->text().toStdString(); };
-    const std::string filiais = montaURL(*ui_->cboFilial);
-    const std::string produto = texto(ui_->txtProd);
+    const auto texto = [](const QLineEdit* field) { return field->text().toStdString(); };
+    const std::string branches = listParameter(*ui_->cboFilial);
+    const std::string product = texto(ui_->txtProd);
     const std::string cepDe = texto(ui_->txtCepDe);
-    const std::string cepAte = texto(ui_->txtCepAte);
-    const std::string vendaDe = texto(ui_->txtDtVndDe);
-    const std::string vendaAte = texto(ui_->txtDtVndAte);
-    const std::string valorDe = texto(ui_->txtVlrDe);
-    const std::string valorAte = texto(ui_->txtVlrAte);
-    const std::string quantidadeDe = texto(ui_->txtQtde);
-    const std::string quantidadeAte = texto(ui_->txtQtAte);
-    const comando::FiltroEtiquetas filtro{.filiais = filiais,
-                                          .pais = escolhido(*ui_->cboPais),
-                                          .estado = escolhido(*ui_->cboEstado),
-                                          .cidade = escolhido(*ui_->cboCidade),
-                                          .produto = produto,
-                                          .cepDe = cepDe,
-                                          .cepAte = cepAte,
-                                          .vendaDe = vendaDe,
-                                          .vendaAte = vendaAte,
-                                          .valorDe = valorDe,
-                                          .valorAte = valorAte,
-                                          .quantidadeDe = quantidadeDe,
-                                          .quantidadeAte = quantidadeAte,
-                                          .porCep = ui_->optCep->isChecked()};
-    switch (labels::verificaDatas(desk_.ambiente, filtro)) {
-        case labels::FaltaData::De:
+    const std::string postalCodeTo = texto(ui_->txtCepAte);
+    const std::string saleFrom = texto(ui_->txtDtVndDe);
+    const std::string saleTo = texto(ui_->txtDtVndAte);
+    const std::string amountFrom = texto(ui_->txtVlrDe);
+    const std::string amountTo = texto(ui_->txtVlrAte);
+    const std::string quantityFrom = texto(ui_->txtQtde);
+    const std::string quantityTo = texto(ui_->txtQtAte);
+    const commands::LabelFilter filter{.branches = branches,
+                                       .country = chosen(*ui_->cboPais),
+                                       .state = chosen(*ui_->cboEstado),
+                                       .town = chosen(*ui_->cboCidade),
+                                       .product = product,
+                                       .cepDe = cepDe,
+                                       .postalCodeTo = postalCodeTo,
+                                       .saleFrom = saleFrom,
+                                       .saleTo = saleTo,
+                                       .amountFrom = amountFrom,
+                                       .amountTo = amountTo,
+                                       .quantityFrom = quantityFrom,
+                                       .quantityTo = quantityTo,
+                                       .byPostalCode = ui_->optCep->isChecked()};
+    switch (labels::checkDates(desk_.environment, filter)) {
+        case labels::MissingDate::De:
             ui_->txtDtVndDe->setFocus();
             return;
-        case labels::FaltaData::Ate:
+        case labels::MissingDate::To:
             ui_->txtDtVndAte->setFocus();
             return;
-        case labels::FaltaData::Nenhuma:
+        case labels::MissingDate::None:
             break;
     }
-    clientes_->mostra(labels::pesquisaClientes(desk_.ambiente, desk_.sessao, filtro));
+    customers_->show(labels::searchCustomers(desk_.environment, desk_.session, filter));
 }
 
 void FrmImprEtiq::cmdImprimir_Click() {
-    Andamento andamento(*this);
-    labels::imprimeSelecao(desk_.ambiente, clientes_->linhas(), andamento.avisos());
+    ProgressWindow progress(*this);
+    labels::printSelection(desk_.environment, customers_->linhas(), progress.notices());
 }
 
 void FrmImprEtiq::keyPressEvent(QKeyEvent* event) {
-    if (!enterNoBotao(*this, *event)) {
+    if (!enterPressesButton(*this, *event)) {
         QDialog::keyPressEvent(event);
     }
 }

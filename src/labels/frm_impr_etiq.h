@@ -15,7 +15,7 @@ class FrmImprEtiq;
 
 namespace tarn {
 
-class GradeModel;
+class GridModel;
 
 class FrmImprEtiq : public QDialog {
     Q_OBJECT
@@ -25,15 +25,15 @@ public:
     ~FrmImprEtiq() override;
 
     // Before it shows: fills the lists.
-    void carrega();
+    void load();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void preparaCampos();
-    void preparaGradeDeClientes();
-    void preparaBotoes();
+    void prepareFields();
+    void prepareCustomerGrid();
+    void prepareButtons();
     void CarregaCboPais();
     void CarregaCboFilial();
 
@@ -44,7 +44,7 @@ private:
 
     DeskContext& desk_;
     std::unique_ptr<Ui::FrmImprEtiq> ui_;
-    GradeModel* clientes_;
+    GridModel* customers_;
 };
 
 }  // namespace tarn

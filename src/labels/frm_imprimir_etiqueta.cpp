@@ -14,18 +14,18 @@
 
 namespace tarn {
 
-frmImprimirEtiqueta::frmImprimirEtiqueta(DeskContext& desk, const labels::ValoresEtiquetas& valores,
+frmImprimirEtiqueta::frmImprimirEtiqueta(DeskContext& desk, const labels::LabelValues& values,
                                          QWidget* parent)
     : QDialog(parent),
       desk_(desk),
-      valores_(valores),
+      values_(values),
       ui_(std::make_unique<Ui::frmImprimirEtiqueta>()) {
     ui_->setupUi(this);
-    for (QLineEdit* campo : {ui_->txtDe, ui_->txtAte}) {
-        new FieldController(campo, KeyFilter::NumeroVirgula, desk.ambiente);
+    for (QLineEdit* field : {ui_->txtDe, ui_->txtAte}) {
+        new FieldController(field, KeyFilter::Decimal, desk.environment);
     }
-    poeFigura(*ui_->cmdOk, "print");
-    poeFigura(*ui_->cmdCancelar, "give_up");
+    setIcon(*ui_->cmdOk, "print");
+    setIcon(*ui_->cmdCancelar, "give_up");
     connect(ui_->cmdOk, &QPushButton::clicked, this, &frmImprimirEtiqueta::cmdOk_Click);
     connect(ui_->cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -35,33 +35,32 @@ frmImprimirEtiqueta::~frmImprimirEtiqueta() = default;
 void frmImprimirEtiqueta::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!event->spontaneous()) {
-        ativa();
+        activate();
     }
 }
 
-void frmImprimirEtiqueta::ativa() {
-    const labels::Formulario formulario = labels::formularioDe(valores_.TipoFormulario);
-    const ItemLista item{std::string(labels::nomeDoFormulario(formulario)),
-                         static_cast<std::int32_t>(formulario)};
-    encheLista(*ui_->cboTp_Form, std::span(&item, 1));
+void frmImprimirEtiqueta::activate() {
+    const labels::LabelForm form = labels::labelFormOf(values_.TipoFormulario);
+    const ListItem item{std::string(labels::labelFormName(form)), static_cast<std::int32_t>(form)};
+    fillList(*ui_->cboTp_Form, std::span(&item, 1));
     ui_->txtDe->setFocus();
 }
 
 void frmImprimirEtiqueta::cmdOk_Click() {
-    const auto impressao = labels::buscaIntervalo(
-        desk_.ambiente, desk_.sessao, valores_,
-        {ui_->txtDe->text().toStdString(), ui_->txtAte->text().toStdString()});
-    if (!impressao) {
+    const auto run =
+        labels::fetchRange(desk_.environment, desk_.session, values_,
+                           {ui_->txtDe->text().toStdString(), ui_->txtAte->text().toStdString()});
+    if (!run) {
         return;
     }
-    Andamento andamento(*this);
-    labels::imprimeEtiquetas(desk_.ambiente, labels::formularioDe(valores_.TipoFormulario),
-                             *impressao, andamento.avisos());
+    ProgressWindow progress(*this);
+    labels::printLabels(desk_.environment, labels::labelFormOf(values_.TipoFormulario), *run,
+                        progress.notices());
     accept();
 }
 
 void frmImprimirEtiqueta::keyPressEvent(QKeyEvent* event) {
-    if (!enterNoBotao(*this, *event)) {
+    if (!enterPressesButton(*this, *event)) {
         QDialog::keyPressEvent(event);
     }
 }

@@ -13,15 +13,14 @@ class frmImprimirEtiqueta;
 namespace tarn {
 
 namespace labels {
-struct ValoresEtiquetas;
+struct LabelValues;
 }
 
 class frmImprimirEtiqueta : public QDialog {
     Q_OBJECT
 
 public:
-    frmImprimirEtiqueta(DeskContext& desk, const labels::ValoresEtiquetas& valores,
-                        QWidget* parent);
+    frmImprimirEtiqueta(DeskContext& desk, const labels::LabelValues& values, QWidget* parent);
     ~frmImprimirEtiqueta() override;
 
 protected:
@@ -29,11 +28,11 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void ativa();
+    void activate();
     void cmdOk_Click();
 
     DeskContext& desk_;
-    const labels::ValoresEtiquetas& valores_;
+    const labels::LabelValues& values_;
     std::unique_ptr<Ui::frmImprimirEtiqueta> ui_;
 };
 

@@ -18,40 +18,39 @@
 namespace tarn {
 namespace {
 
-constexpr std::array<ColunaGrade, 10> colunas{{{"Sequencial", 13, TipoColuna::Numero},
-                                               {"Cep", 13},
-                                               {"Nome", 46},
-                                               {"Código", 12},
-                                               {"Endereço Nº", 46},
-                                               {"Complemento", 20},
-                                               {"Bairro", 26},
-                                               {"Município", 28},
-                                               {"UF", 5},
-                                               {"País", 14}}};
-constexpr int linhasVisiveis = 14;
+constexpr std::array<GridColumn, 10> columns{{{"Sequencial", 13, ColumnKind::Number},
+                                              {"Cep", 13},
+                                              {"Nome", 46},
+                                              {"Código", 12},
+                                              {"Endereço Nº", 46},
+                                              {"Complemento", 20},
+                                              {"Bairro", 26},
+                                              {"Município", 28},
+                                              {"UF", 5},
+                                              {"País", 14}}};
+constexpr int visibleLines = 14;
 
 }  // namespace
 
-frmPesqEtiquetas::frmPesqEtiquetas(DeskContext& desk, labels::ValoresEtiquetas& valores,
-                                   QWidget* parent)
+frmPesqEtiquetas::frmPesqEtiquetas(DeskContext& desk, labels::LabelValues& values, QWidget* parent)
     : QDialog(parent),
       desk_(desk),
-      valores_(valores),
+      values_(values),
       ui_(std::make_unique<Ui::frmPesqEtiquetas>()),
-      fila_(new GradeModel(colunas, this)) {
+      queue_(new GridModel(columns, this)) {
     ui_->setupUi(this);
-    for (QWidget* doRemetente :
+    for (QWidget* ofSender :
          {static_cast<QWidget*>(ui_->LblFilialRemet), static_cast<QWidget*>(ui_->CboFilialRemet)}) {
-        QSizePolicy lugar = doRemetente->sizePolicy();
-        lugar.setRetainSizeWhenHidden(true);  // the other fields stay where they are
-        doRemetente->setSizePolicy(lugar);
+        QSizePolicy place = ofSender->sizePolicy();
+        place.setRetainSizeWhenHidden(true);  // the other fields stay where they are
+        ofSender->setSizePolicy(place);
     }
-    QPalette paraLeitura = palette();
-    paraLeitura.setColor(QPalette::Base, paraLeitura.color(QPalette::Window));
-    ui_->txtTipo->setPalette(paraLeitura);
-    preparaBotoes();
-    preparaGradeDaFila();
-    connect(ui_->cboMotivo, &QComboBox::activated, this, &frmPesqEtiquetas::leFila);
+    QPalette forReading = palette();
+    forReading.setColor(QPalette::Base, forReading.color(QPalette::Window));
+    ui_->txtTipo->setPalette(forReading);
+    prepareButtons();
+    prepareQueueGrid();
+    connect(ui_->cboMotivo, &QComboBox::activated, this, &frmPesqEtiquetas::readQueue);
     connect(ui_->cboTp_Form, &QComboBox::currentIndexChanged, this,
             &frmPesqEtiquetas::cboTp_Form_Click);
     connect(ui_->CboFilialRemet, &QComboBox::activated, this,
@@ -61,26 +60,26 @@ frmPesqEtiquetas::frmPesqEtiquetas(DeskContext& desk, labels::ValoresEtiquetas& 
 
 frmPesqEtiquetas::~frmPesqEtiquetas() = default;
 
-void frmPesqEtiquetas::preparaGradeDaFila() {
-    preparaGrade(*ui_->sprDados, *fila_);
-    ajustaAGrade(*this, *ui_->sprDados, linhasVisiveis);
+void frmPesqEtiquetas::prepareQueueGrid() {
+    prepareGrid(*ui_->sprDados, *queue_);
+    fitToGrid(*this, *ui_->sprDados, visibleLines);
 }
 
-void frmPesqEtiquetas::preparaBotoes() {
-    poeFigura(*ui_->cmdImprimir, "print");
-    poeFigura(*ui_->cmdExcluir, "cancel_order");
-    poeFigura(*ui_->cmdVoltar, "close");
+void frmPesqEtiquetas::prepareButtons() {
+    setIcon(*ui_->cmdImprimir, "print");
+    setIcon(*ui_->cmdExcluir, "cancel_order");
+    setIcon(*ui_->cmdVoltar, "close");
     connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmPesqEtiquetas::cmdImprimir_Click);
     connect(ui_->cmdExcluir, &QPushButton::clicked, this, &frmPesqEtiquetas::cmdExcluir_Click);
     connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-void frmPesqEtiquetas::carrega() {
+void frmPesqEtiquetas::load() {
     const WaitCursor hourglass;
-    ui_->txtTipo->setText(desk_.sessao.TipoEtiqueta == "C" ? QStringLiteral(" CLIENTES")
-                                                           : QStringLiteral(" FORNECEDORES"));
-    for (const std::string_view formulario : labels::formulariosDaFila) {
-        ui_->cboTp_Form->addItem(QString::fromStdString(std::string(formulario)),
+    ui_->txtTipo->setText(desk_.session.TipoEtiqueta == "C" ? QStringLiteral(" CLIENTES")
+                                                            : QStringLiteral(" FORNECEDORES"));
+    for (const std::string_view form : labels::queueForms) {
+        ui_->cboTp_Form->addItem(QString::fromStdString(std::string(form)),
                                  ui_->cboTp_Form->count());
     }
     cboTp_Form_Click();
@@ -89,73 +88,73 @@ void frmPesqEtiquetas::carrega() {
 }
 
 void frmPesqEtiquetas::CarregaCboFilialRemet() {
-    const auto filiais = labels::carregaFiliaisRemetente(desk_.ambiente, desk_.sessao);
-    if (!filiais) {
+    const auto branches = labels::loadSenderBranches(desk_.environment, desk_.session);
+    if (!branches) {
         return;
     }
-    encheLista(*ui_->CboFilialRemet, *filiais);
+    fillList(*ui_->CboFilialRemet, *branches);
     CboFilialRemet_Click();
 }
 
 void frmPesqEtiquetas::Carrega_Cbo_Motivo() {
-    encheLista(*ui_->cboMotivo, labels::carregaMotivos(desk_.ambiente, desk_.sessao));
-    leFila();
+    fillList(*ui_->cboMotivo, labels::loadReasons(desk_.environment, desk_.session));
+    readQueue();
 }
 
-void frmPesqEtiquetas::leFila() {
-    const std::string motivo = ui_->cboMotivo->currentText().toStdString();
-    if (auto fila = labels::leFila(desk_.ambiente, desk_.sessao, motivo, valores_)) {
-        fila_->mostra(std::move(*fila));
+void frmPesqEtiquetas::readQueue() {
+    const std::string reason = ui_->cboMotivo->currentText().toStdString();
+    if (auto queue = labels::readQueue(desk_.environment, desk_.session, reason, values_)) {
+        queue_->show(std::move(*queue));
     }
 }
 
-void frmPesqEtiquetas::abreModal(QDialog& tela) {
-    tela.exec();
-    if (!desk_.fim.encerrado()) {
-        ativa();
+void frmPesqEtiquetas::runModal(QDialog& screen) {
+    screen.exec();
+    if (!desk_.end.ended()) {
+        activate();
     }
 }
 
-void frmPesqEtiquetas::ativa() {
+void frmPesqEtiquetas::activate() {
     if (ui_->cboMotivo->currentIndex() != 0) {
-        leFila();
+        readQueue();
     }
 }
 
 void frmPesqEtiquetas::cboTp_Form_Click() {
-    const bool comRemetente = ui_->cboTp_Form->currentIndex() == labels::posicaoComRemetente;
-    ui_->LblFilialRemet->setVisible(comRemetente);
-    ui_->CboFilialRemet->setVisible(comRemetente);
+    const bool withSender = ui_->cboTp_Form->currentIndex() == labels::positionWithSender;
+    ui_->LblFilialRemet->setVisible(withSender);
+    ui_->CboFilialRemet->setVisible(withSender);
 }
 
 void frmPesqEtiquetas::CboFilialRemet_Click() {
-    valores_.FilialRemetente = dadoDaLista(*ui_->CboFilialRemet);
+    values_.FilialRemetente = currentItemData(*ui_->CboFilialRemet);
 }
 
 void frmPesqEtiquetas::cmdImprimir_Click() {
-    const int posicao = ui_->cboTp_Form->currentIndex();
-    switch (labels::verificaEscolhas(desk_.ambiente, valores_, posicao)) {
-        case labels::FaltaEscolher::Motivo:
+    const int position = ui_->cboTp_Form->currentIndex();
+    switch (labels::checkChoices(desk_.environment, values_, position)) {
+        case labels::MissingChoice::Reason:
             ui_->cboMotivo->setFocus();
             return;
-        case labels::FaltaEscolher::Formulario:
+        case labels::MissingChoice::LabelForm:
             ui_->cboTp_Form->setFocus();
             return;
-        case labels::FaltaEscolher::Nada:
+        case labels::MissingChoice::Nothing:
             break;
     }
-    valores_.TipoFormulario = std::to_string(posicao);
-    frmImprimirEtiqueta impressao(desk_, valores_, this);
-    abreModal(impressao);
+    values_.TipoFormulario = std::to_string(position);
+    frmImprimirEtiqueta run(desk_, values_, this);
+    runModal(run);
 }
 
 void frmPesqEtiquetas::cmdExcluir_Click() {
-    frmExcluirEtiqueta exclusao(desk_, valores_, this);
-    abreModal(exclusao);
+    frmExcluirEtiqueta deletion(desk_, values_, this);
+    runModal(deletion);
 }
 
 void frmPesqEtiquetas::keyPressEvent(QKeyEvent* event) {
-    if (!enterNoBotao(*this, *event)) {
+    if (!enterPressesButton(*this, *event)) {
         QDialog::keyPressEvent(event);
     }
 }

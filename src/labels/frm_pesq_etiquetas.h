@@ -13,34 +13,34 @@ class frmPesqEtiquetas;
 
 namespace tarn {
 
-class GradeModel;
+class GridModel;
 
 namespace labels {
-struct ValoresEtiquetas;
+struct LabelValues;
 }
 
 class frmPesqEtiquetas : public QDialog {
     Q_OBJECT
 
 public:
-    frmPesqEtiquetas(DeskContext& desk, labels::ValoresEtiquetas& valores, QWidget* parent);
+    frmPesqEtiquetas(DeskContext& desk, labels::LabelValues& values, QWidget* parent);
     ~frmPesqEtiquetas() override;
 
     // Before it shows: fills the lists, and the grid with the queue of no reason.
-    void carrega();
+    void load();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void preparaGradeDaFila();
-    void preparaBotoes();
+    void prepareQueueGrid();
+    void prepareButtons();
     void CarregaCboFilialRemet();
     void Carrega_Cbo_Motivo();
-    void leFila();
+    void readQueue();
     // Shows a screen in front; when it has closed this one is the active one again.
-    void abreModal(QDialog& tela);
-    void ativa();
+    void runModal(QDialog& screen);
+    void activate();
 
     void cboTp_Form_Click();
     void CboFilialRemet_Click();
@@ -48,9 +48,9 @@ private:
     void cmdExcluir_Click();
 
     DeskContext& desk_;
-    labels::ValoresEtiquetas& valores_;
+    labels::LabelValues& values_;
     std::unique_ptr<Ui::frmPesqEtiquetas> ui_;
-    GradeModel* fila_;
+    GridModel* queue_;
 };
 
 }  // namespace tarn

@@ -7,36 +7,37 @@
 namespace tarn::labels {
 namespace {
 
-constexpr double meioCentimetro = 0.5;
+constexpr double halfCentimetre = 0.5;
 
 }  // namespace
 
-void mostraFalha(Environment& ambiente, const std::optional<PrinterFailure>& falha) {
-    if (falha) {
-        ambiente.boxes.show({.text = "Descrição :" + falha->description +
-                                     "\r\n   Numero :" + std::to_string(falha->number)});
+void showFailure(Environment& environment, const std::optional<PrinterFailure>& failure) {
+    if (failure) {
+        environment.boxes.show({.text = "Descrição :" + failure->description +
+                                        "\r\n   Numero :" + std::to_string(failure->number)});
     }
 }
 
-void ImprimeLinha(Environment& ambiente, std::string_view texto, double x, double y, bool negrito,
-                  double tamanho, std::string_view fonte, bool /*reservado*/, bool posicaoExata) {
-    Printer& impressora = ambiente.printer;
-    impressora.FontName = fonte;
-    impressora.FontSize = tamanho;
-    impressora.FontBold = negrito;
-    const double recuo = posicaoExata ? 0 : meioCentimetro;
-    impressora.CurrentY = y - recuo;
-    impressora.CurrentX = x - recuo;
-    mostraFalha(ambiente, impressora.Print(texto));
+void ImprimeLinha(Environment& environment, std::string_view texto, double x, double y,
+                  bool negrito, double tamanho, std::string_view fonte, bool /*reservado*/,
+                  bool posicaoExata) {
+    Printer& printer = environment.printer;
+    printer.FontName = fonte;
+    printer.FontSize = tamanho;
+    printer.FontBold = negrito;
+    const double indent = posicaoExata ? 0 : halfCentimetre;
+    printer.CurrentY = y - indent;
+    printer.CurrentX = x - indent;
+    showFailure(environment, printer.Print(texto));
 }
 
-void escreve(Environment& ambiente, std::string_view texto, double x, double y, double tamanho) {
-    ImprimeLinha(ambiente, texto, x, y, true, tamanho, "Arial", false, false);
+void write(Environment& environment, std::string_view texto, double x, double y, double tamanho) {
+    ImprimeLinha(environment, texto, x, y, true, tamanho, "Arial", false, false);
 }
 
-void preparaPagina(Environment& ambiente) {
-    ambiente.printer.setScaleMode(ScaleMode::Centimetres);
-    ambiente.printer.setOrientation(Orientation::Portrait);
+void preparePage(Environment& environment) {
+    environment.printer.setScaleMode(ScaleMode::Centimetres);
+    environment.printer.setOrientation(Orientation::Portrait);
 }
 
 }  // namespace tarn::labels

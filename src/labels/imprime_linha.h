@@ -14,16 +14,17 @@ namespace tarn::labels {
 // `x` and `y` are centimetres, `tamanho` points. Unless `posicaoExata` the text lands
 // half a centimetre further left and up. A failure is shown to the user and printing
 // goes on. `reservado` is not used.
-void ImprimeLinha(Environment& ambiente, std::string_view texto, double x, double y, bool negrito,
-                  double tamanho, std::string_view fonte, bool reservado, bool posicaoExata);
+void ImprimeLinha(Environment& environment, std::string_view texto, double x, double y,
+                  bool negrito, double tamanho, std::string_view fonte, bool reservado,
+                  bool posicaoExata);
 
 // The same as every label is written: Arial bold, off the exact position.
-void escreve(Environment& ambiente, std::string_view texto, double x, double y, double tamanho);
+void write(Environment& environment, std::string_view texto, double x, double y, double tamanho);
 
 // Centimetres, portrait.
-void preparaPagina(Environment& ambiente);
+void preparePage(Environment& environment);
 
 // Shows why something couldn't be drawn or printed, if there is a reason.
-void mostraFalha(Environment& ambiente, const std::optional<PrinterFailure>& falha);
+void showFailure(Environment& environment, const std::optional<PrinterFailure>& failure);
 
 }  // namespace tarn::labels

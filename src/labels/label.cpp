@@ -8,7 +8,7 @@
 namespace tarn::labels {
 namespace {
 
-enum Campo : std::size_t {
+enum Field : std::size_t {
     NOME,
     ENDERECO,
     SOMENTE_ENDERECO,
@@ -21,58 +21,58 @@ enum Campo : std::size_t {
     CODIGO
 };
 
-constexpr std::array<std::string_view, 10> campos{
+constexpr std::array<std::string_view, 10> fields{
     "NOME", "ENDERECO", "SOMENTE_ENDERECO", "NUMERO", "COMPLEMENTO", "BAIRRO", "MUNICIPIO", "UF",
     "CEP",  "CODIGO"};
 
-XmlNode linhasDe(const XmlDocument& resposta) {
-    return resposta.selectSingleNode("xml/rs:data");
+XmlNode rowsOf(const XmlDocument& answer) {
+    return answer.selectSingleNode("xml/rs:data");
 }
 
 }  // namespace
 
-Etiquetas::Etiquetas(const XmlDocument& resposta)
-    : linhas_(linhasDe(resposta)), quantas_(linhas_ ? linhas_.childCount() : 0), leitor_(campos) {}
+Labels::Labels(const XmlDocument& answer)
+    : linhas_(rowsOf(answer)), count_(linhas_ ? linhas_.childCount() : 0), reader_(fields) {}
 
-Etiqueta Etiquetas::le(std::size_t indice) {
-    leitor_.le(linhas_, indice);
-    return {.NOME = leitor_.texto(NOME),
-            .ENDERECO = leitor_.texto(ENDERECO),
-            .SOMENTE_ENDERECO = leitor_.texto(SOMENTE_ENDERECO),
-            .NUMERO = leitor_.texto(NUMERO),
-            .COMPLEMENTO = leitor_.texto(COMPLEMENTO),
-            .BAIRRO = leitor_.texto(BAIRRO),
-            .MUNICIPIO = leitor_.texto(MUNICIPIO),
-            .UF = leitor_.texto(UF),
-            .CEP = leitor_.texto(CEP),
-            .CODIGO = leitor_.texto(CODIGO)};
+Label Labels::read(std::size_t indice) {
+    reader_.read(linhas_, indice);
+    return {.NOME = reader_.texto(NOME),
+            .ENDERECO = reader_.texto(ENDERECO),
+            .SOMENTE_ENDERECO = reader_.texto(SOMENTE_ENDERECO),
+            .NUMERO = reader_.texto(NUMERO),
+            .COMPLEMENTO = reader_.texto(COMPLEMENTO),
+            .BAIRRO = reader_.texto(BAIRRO),
+            .MUNICIPIO = reader_.texto(MUNICIPIO),
+            .UF = reader_.texto(UF),
+            .CEP = reader_.texto(CEP),
+            .CODIGO = reader_.texto(CODIGO)};
 }
 
-void avisa(const Progress& andamento, std::size_t feitas, const Etiquetas& etiquetas) {
-    if (andamento) {
-        andamento(feitas, etiquetas.quantas());
+void report(const Progress& progress, std::size_t done, const Labels& labels) {
+    if (progress) {
+        progress(done, labels.count());
     }
 }
 
-Remetente leRemetente(const XmlDocument& resposta) {
-    const XmlNode linhas = linhasDe(resposta);
-    Remetente remetente{.NOME = pegaTexto(linhas, 0, "NOME"),
-                        .ENDERECO = pegaTexto(linhas, 0, "ENDERECO"),
-                        .BAIRRO = pegaTexto(linhas, 0, "BAIRRO"),
-                        .MUNICIPIO = pegaTexto(linhas, 0, "MUNICIPIO"),
-                        .UF = pegaTexto(linhas, 0, "UF"),
-                        .CEP = pegaTexto(linhas, 0, "CEP"),
-                        .DESCRICAO = pegaTexto(linhas, 0, "DESCRICAO"),
-                        .NUMERO = {}};
-    if (trimBlanks(remetente.DESCRICAO).empty()) {
-        remetente.DESCRICAO.clear();
+Sender readSender(const XmlDocument& answer) {
+    const XmlNode linhas = rowsOf(answer);
+    Sender sender{.NOME = textAttribute(linhas, 0, "NOME"),
+                  .ENDERECO = textAttribute(linhas, 0, "ENDERECO"),
+                  .BAIRRO = textAttribute(linhas, 0, "BAIRRO"),
+                  .MUNICIPIO = textAttribute(linhas, 0, "MUNICIPIO"),
+                  .UF = textAttribute(linhas, 0, "UF"),
+                  .CEP = textAttribute(linhas, 0, "CEP"),
+                  .DESCRICAO = textAttribute(linhas, 0, "DESCRICAO"),
+                  .NUMERO = {}};
+    if (trimBlanks(sender.DESCRICAO).empty()) {
+        sender.DESCRICAO.clear();
     }
-    remetente.NUMERO = semZero(pegaTexto(linhas, 0, "NUMERO"));
-    return remetente;
+    sender.NUMERO = blankIfZero(textAttribute(linhas, 0, "NUMERO"));
+    return sender;
 }
 
-std::string_view semZero(std::string_view numero) {
-    return readPoint(numero) == 0 ? std::string_view() : numero;
+std::string_view blankIfZero(std::string_view number) {
+    return readPoint(number) == 0 ? std::string_view() : number;
 }
 
 }  // namespace tarn::labels

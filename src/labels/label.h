@@ -11,7 +11,7 @@
 namespace tarn::labels {
 
 // An address of the queue, by the names of its fields; absent is empty.
-struct Etiqueta {
+struct Label {
     std::string_view NOME;
     std::string_view ENDERECO;          // the address line as a whole
     std::string_view SOMENTE_ENDERECO;  // the street alone, for use with the number
@@ -25,25 +25,25 @@ struct Etiqueta {
 };
 
 // The labels of an answer, which must outlive this, in its order.
-class Etiquetas {
+class Labels {
 public:
-    explicit Etiquetas(const XmlDocument& resposta);
+    explicit Labels(const XmlDocument& answer);
 
-    std::size_t quantas() const { return quantas_; }
+    std::size_t count() const { return count_; }
     // Its texts live until the next label is read. VariavelObjeto for a field that the
     // answer spells in another case.
-    Etiqueta le(std::size_t indice);
+    Label read(std::size_t indice);
 
 private:
     XmlNode linhas_;
-    std::size_t quantas_ = 0;
-    LeitorLinha leitor_;
+    std::size_t count_ = 0;
+    RowReader reader_;
 };
 
 // Tells who follows the run, if anyone, that so many of the labels are printed.
-void avisa(const Progress& andamento, std::size_t feitas, const Etiquetas& etiquetas);
+void report(const Progress& progress, std::size_t done, const Labels& labels);
 
-struct Remetente {
+struct Sender {
     std::string NOME;
     std::string ENDERECO;
     std::string BAIRRO;
@@ -55,9 +55,9 @@ struct Remetente {
 };
 
 // The first row. VariavelObjeto when there is none.
-Remetente leRemetente(const XmlDocument& resposta);
+Sender readSender(const XmlDocument& answer);
 
 // A house number as it prints: nothing for what counts as 0.
-std::string_view semZero(std::string_view numero);
+std::string_view blankIfZero(std::string_view number);
 
 }  // namespace tarn::labels

@@ -6,13 +6,13 @@
 
 namespace tarn::labels {
 
-void informa(Environment& ambiente, const std::string& texto) {
-    ambiente.boxes.show({.text = texto, .icon = BoxIcon::Information, .title = "TArn"});
+void inform(Environment& environment, const std::string& texto) {
+    environment.boxes.show({.text = texto, .icon = BoxIcon::Information, .title = "TArn"});
 }
 
-void relata(Environment& ambiente, const ErroExecucao& erro, const std::string& oQueFazer) {
-    ambiente.boxes.show(
-        {.text = textoDaFalha(erro) + "\r\r" + oQueFazer, .icon = BoxIcon::Critical});
+void reportError(Environment& environment, const RuntimeError& error, const std::string& whatToDo) {
+    environment.boxes.show(
+        {.text = failureText(error) + "\r\r" + whatToDo, .icon = BoxIcon::Critical});
 }
 
 }  // namespace tarn::labels

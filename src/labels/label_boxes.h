@@ -4,16 +4,16 @@
 #include <string>
 
 namespace tarn {
-class ErroExecucao;
+class RuntimeError;
 struct Environment;
 }  // namespace tarn
 
 namespace tarn::labels {
 
 // Information, titled as the label screens title their boxes.
-void informa(Environment& ambiente, const std::string& texto);
+void inform(Environment& environment, const std::string& texto);
 
-// An error that ends nothing but the action; `oQueFazer` (Portuguese) follows its report.
-void relata(Environment& ambiente, const ErroExecucao& erro, const std::string& oQueFazer);
+// An error that ends nothing but the action; `whatToDo` (Portuguese) follows its report.
+void reportError(Environment& environment, const RuntimeError& error, const std::string& whatToDo);
 
 }  // namespace tarn::labels

@@ -10,22 +10,22 @@ struct Environment;
 
 namespace tarn::labels {
 
-class Etiquetas;
-struct Remetente;
+class Labels;
+struct Sender;
 
 // Drawn, three across and ten down. A full page is printed at once; the last, partly
 // filled one is left for whoever ends the run.
-void imprimePimaco6280(Environment& ambiente, Etiquetas& etiquetas, const Progress& andamento);
+void printPimaco6280(Environment& environment, Labels& labels, const Progress& progress);
 
 // Raw text, four across on continuous stationery: a job that sets the pitch, then one
 // with all labels.
-void imprimeMatricial(Environment& ambiente, Etiquetas& etiquetas, const Progress& andamento);
+void printDotMatrix(Environment& environment, Labels& labels, const Progress& progress);
 
 // Drawn, one place on one page: each label falls on the one before.
-void imprimeA5(Environment& ambiente, Etiquetas& etiquetas, const Progress& andamento);
+void printA5(Environment& environment, Labels& labels, const Progress& progress);
 
 // Drawn, a page each, the sender below the addressee.
-void imprimeA4ComRemetente(Environment& ambiente, Etiquetas& etiquetas, const Remetente& remetente,
-                           const Progress& andamento);
+void printA4WithSender(Environment& environment, Labels& labels, const Sender& sender,
+                       const Progress& progress);
 
 }  // namespace tarn::labels

@@ -8,11 +8,11 @@
 
 namespace tarn::labels {
 
-struct ValoresEtiquetas {
+struct LabelValues {
     std::string TipoFormulario;        // "1" to "4"
     std::string MotivoImpressao;       // the reason's description
     std::int32_t FilialRemetente = 0;  // identifier; 0: none chosen
-    std::size_t quantidade = 0;        // rows of the queue as it was last read
+    std::size_t quantity = 0;          // rows of the queue as it was last read
 };
 
 }  // namespace tarn::labels

@@ -18,130 +18,128 @@
 namespace tarn::labels {
 namespace {
 
-constexpr const char* intervaloSemNumero =
+constexpr const char* rangeNotANumber =
     "Nada foi impresso. Digite em De e Até os números da coluna Sequencial da lista e clique em "
     "OK de novo.";
-constexpr const char* remetenteIlegivel =
+constexpr const char* unreadableSender =
     "Nada foi impresso: o servidor não tem os dados da Filial Remetente. Cancele, escolha na lista "
     "o formulário com REMETENTE, uma Filial Remetente e de novo o formulário desejado, e imprima "
     "outra vez. Se continuar, avise o suporte.";
 
-void desenha(Environment& ambiente, Formulario formulario, Etiquetas& etiquetas,
-             const Remetente& remetente, const Progress& andamento) {
-    preparaPagina(ambiente);
-    switch (formulario) {
-        case Formulario::Pimaco6280:
-            return imprimePimaco6280(ambiente, etiquetas, andamento);
-        case Formulario::A5:
-            return imprimeA5(ambiente, etiquetas, andamento);
+void draw(Environment& environment, LabelForm form, Labels& labels, const Sender& sender,
+          const Progress& progress) {
+    preparePage(environment);
+    switch (form) {
+        case LabelForm::Pimaco6280:
+            return printPimaco6280(environment, labels, progress);
+        case LabelForm::A5:
+            return printA5(environment, labels, progress);
         default:
-            return imprimeA4ComRemetente(ambiente, etiquetas, remetente, andamento);
+            return printA4WithSender(environment, labels, sender, progress);
     }
 }
 
 // A printer takes its time over a document of many pages, and tells of them.
-void imprimeDocumento(Environment& ambiente, const Progress& andamento) {
-    std::size_t paginas = 0;
-    if (andamento) {
-        ambiente.printer.progress = [&andamento, &paginas](std::size_t feitas, std::size_t total) {
-            paginas = total;
-            andamento(feitas, total);
+void printDocument(Environment& environment, const Progress& progress) {
+    std::size_t pages = 0;
+    if (progress) {
+        environment.printer.progress = [&progress, &pages](std::size_t done, std::size_t total) {
+            pages = total;
+            progress(done, total);
         };
     }
-    const auto falha = ambiente.printer.EndDoc();
-    ambiente.printer.progress = nullptr;
-    if (paginas > 0) {
-        andamento(paginas, paginas);
+    const auto failure = environment.printer.EndDoc();
+    environment.printer.progress = nullptr;
+    if (pages > 0) {
+        progress(pages, pages);
     }
-    mostraFalha(ambiente, falha);
+    showFailure(environment, failure);
 }
 
 // The raw channel is closed along with the drawn document, open or not.
-void encerra(Environment& ambiente, Formulario formulario, const Progress& andamento) {
-    if (formulario != Formulario::A4ComRemetente) {
-        mostraFalha(ambiente, ambiente.printer.NewPage());
+void endProgram(Environment& environment, LabelForm form, const Progress& progress) {
+    if (form != LabelForm::A4WithSender) {
+        showFailure(environment, environment.printer.NewPage());
     }
-    imprimeDocumento(ambiente, andamento);
-    RawChannel(ambiente.spooler, ambiente.codePage).fecha();
+    printDocument(environment, progress);
+    RawChannel(environment.spooler, environment.codePage).close();
 }
 
 // The range's query; nothing, with the user told, when an end of it is no number.
-std::optional<std::string> consultaDo(const Intervalo& intervalo, Environment& ambiente,
-                                      const Sessao& sessao, const std::string& motivo) {
+std::optional<std::string> queryOf(const Range& range, Environment& environment,
+                                   const Sessao& session, const std::string& reason) {
     try {
-        return comando::sel_etiquetas(sessao, motivo, intervalo.de, intervalo.ate);
-    } catch (const ErroExecucao& erro) {
-        relata(ambiente, erro, intervaloSemNumero);
+        return commands::sel_etiquetas(session, reason, range.de, range.to);
+    } catch (const RuntimeError& error) {
+        reportError(environment, error, rangeNotANumber);
         return std::nullopt;
     }
 }
 
-std::optional<Remetente> remetenteDe(const XmlDocument& resposta, Environment& ambiente) {
+std::optional<Sender> senderFrom(const XmlDocument& answer, Environment& environment) {
     try {
-        return leRemetente(resposta);
-    } catch (const ErroExecucao& erro) {
-        relata(ambiente, erro, remetenteIlegivel);
+        return readSender(answer);
+    } catch (const RuntimeError& error) {
+        reportError(environment, error, unreadableSender);
         return std::nullopt;
     }
 }
 
 }  // namespace
 
-Formulario formularioDe(std::string_view tipoFormulario) {
-    const std::optional<double> numero = parseComma(tipoFormulario);
-    for (const Formulario formulario :
-         {Formulario::Pimaco6280, Formulario::Matricial, Formulario::A5}) {
-        if (numero == static_cast<double>(formulario)) {
-            return formulario;
+LabelForm labelFormOf(std::string_view formKind) {
+    const std::optional<double> number = parseComma(formKind);
+    for (const LabelForm form : {LabelForm::Pimaco6280, LabelForm::DotMatrix, LabelForm::A5}) {
+        if (number == static_cast<double>(form)) {
+            return form;
         }
     }
-    return Formulario::A4ComRemetente;
+    return LabelForm::A4WithSender;
 }
 
-std::string_view nomeDoFormulario(Formulario formulario) {
-    switch (formulario) {
-        case Formulario::Pimaco6280:
+std::string_view labelFormName(LabelForm form) {
+    switch (form) {
+        case LabelForm::Pimaco6280:
             return "PIMACO 6280 - LASER";
-        case Formulario::Matricial:
+        case LabelForm::DotMatrix:
             return "PIMACO - XXX - MATRICIAL";
-        case Formulario::A5:
+        case LabelForm::A5:
             return "PDF - A5 - LASER";
-        case Formulario::A4ComRemetente:
+        case LabelForm::A4WithSender:
             break;
     }
     return "PDF - A4 - DESTINATÁRIO - REMETENTE - LASER";
 }
 
-std::optional<Impressao> buscaIntervalo(Environment& ambiente, const Sessao& sessao,
-                                        const ValoresEtiquetas& valores,
-                                        const Intervalo& intervalo) {
-    const auto consulta = consultaDo(intervalo, ambiente, sessao, valores.MotivoImpressao);
-    XmlDocument etiquetas;
-    XmlDocument resposta;
-    if (!consulta || !pede(ambiente, *consulta, etiquetas, falha::Tarn0009) ||
-        !pede(ambiente, comando::sel_dados_remetente(sessao, valores.FilialRemetente), resposta,
-              falha::Tarn0009)) {
+std::optional<PrintRun> fetchRange(Environment& environment, const Sessao& session,
+                                   const LabelValues& values, const Range& range) {
+    const auto query = queryOf(range, environment, session, values.MotivoImpressao);
+    XmlDocument labels;
+    XmlDocument answer;
+    if (!query || !requestAnswer(environment, *query, labels, failure::Tarn0009) ||
+        !requestAnswer(environment, commands::sel_dados_remetente(session, values.FilialRemetente),
+                       answer, failure::Tarn0009)) {
         return std::nullopt;
     }
-    auto remetente = remetenteDe(resposta, ambiente);
-    if (!remetente) {
+    auto sender = senderFrom(answer, environment);
+    if (!sender) {
         return std::nullopt;
     }
-    return Impressao{std::move(etiquetas), std::move(*remetente)};
+    return PrintRun{std::move(labels), std::move(*sender)};
 }
 
-void imprimeEtiquetas(Environment& ambiente, Formulario formulario, const Impressao& impressao,
-                      const Progress& andamento) {
-    Etiquetas etiquetas(impressao.etiquetas);
-    if (formulario == Formulario::Matricial) {
-        return imprimeMatricial(ambiente, etiquetas, andamento);
+void printLabels(Environment& environment, LabelForm form, const PrintRun& run,
+                 const Progress& progress) {
+    Labels labels(run.labels);
+    if (form == LabelForm::DotMatrix) {
+        return printDotMatrix(environment, labels, progress);
     }
-    desenha(ambiente, formulario, etiquetas, impressao.remetente, andamento);
-    if (etiquetas.quantas() == 0) {
-        return informa(ambiente, " Não há Etiquetas nesse intervalo!   ");
+    draw(environment, form, labels, run.sender, progress);
+    if (labels.count() == 0) {
+        return inform(environment, " Não há Etiquetas nesse intervalo!   ");
     }
-    informa(ambiente, " Etiquetas impressas com sucesso!   ");
-    encerra(ambiente, formulario, andamento);
+    inform(environment, " Etiquetas impressas com sucesso!   ");
+    endProgram(environment, form, progress);
 }
 
 }  // namespace tarn::labels

@@ -17,38 +17,37 @@ struct Sessao;
 
 namespace tarn::labels {
 
-struct ValoresEtiquetas;
+struct LabelValues;
 
-enum class Formulario : int { Pimaco6280 = 1, Matricial = 2, A5 = 3, A4ComRemetente = 4 };
+enum class LabelForm : int { Pimaco6280 = 1, DotMatrix = 2, A5 = 3, A4WithSender = 4 };
 
 // A TipoFormulario is compared as a number; whatever is none of the first three is the
 // fourth form.
-Formulario formularioDe(std::string_view tipoFormulario);
+LabelForm labelFormOf(std::string_view formKind);
 
 // What the print screen calls the form.
-std::string_view nomeDoFormulario(Formulario formulario);
+std::string_view labelFormName(LabelForm form);
 
 // What a run prints.
-struct Impressao {
-    XmlDocument etiquetas;  // answer of sel_etiquetas
-    Remetente remetente;
+struct PrintRun {
+    XmlDocument labels;  // answer of sel_etiquetas
+    Sender sender;
 };
 
 // Sequence numbers as they were typed.
-struct Intervalo {
+struct Range {
     std::string de;
-    std::string ate;
+    std::string to;
 };
 
 // Fetches the labels of a range and their sender. Nothing, with the user told why, when
 // the range is no pair of numbers, a request fails or the sender is unknown.
-std::optional<Impressao> buscaIntervalo(Environment& ambiente, const Sessao& sessao,
-                                        const ValoresEtiquetas& valores,
-                                        const Intervalo& intervalo);
+std::optional<PrintRun> fetchRange(Environment& environment, const Sessao& session,
+                                   const LabelValues& values, const Range& range);
 
 // Prints all labels. The last sheet of a drawn form goes to the printer after the user
 // has been told that all is printed.
-void imprimeEtiquetas(Environment& ambiente, Formulario formulario, const Impressao& impressao,
-                      const Progress& andamento);
+void printLabels(Environment& environment, LabelForm form, const PrintRun& run,
+                 const Progress& progress);
 
 }  // namespace tarn::labels

@@ -15,7 +15,7 @@ namespace tarn::labels {
 // Prints the ticked rows of the grid of customers. Ends with the user being told that it
 // is printed, whatever was ticked. The one page is never broken: labels beyond its foot
 // are lost.
-void imprimeSelecao(Environment& ambiente, std::span<const LinhaGrade> clientes,
-                    const Progress& andamento);
+void printSelection(Environment& environment, std::span<const GridRow> customers,
+                    const Progress& progress);
 
 }  // namespace tarn::labels

@@ -10,65 +10,66 @@
 namespace tarn::labels {
 namespace {
 
-constexpr std::array<CampoGrade, 10> campos{{{"SEQUENCIAL"},
-                                             {"CEP"},
-                                             {"NOME"},
-                                             {"CODIGO"},
-                                             {"ENDERECO"},
-                                             {"COMPLEMENTO"},
-                                             {"BAIRRO"},
-                                             {"MUNICIPIO"},
-                                             {"UF"},
-                                             {"PAIS"}}};
+constexpr std::array<GridField, 10> fields{{{"SEQUENCIAL"},
+                                            {"CEP"},
+                                            {"NOME"},
+                                            {"CODIGO"},
+                                            {"ENDERECO"},
+                                            {"COMPLEMENTO"},
+                                            {"BAIRRO"},
+                                            {"MUNICIPIO"},
+                                            {"UF"},
+                                            {"PAIS"}}};
 
-std::vector<ItemLista> comNenhum(std::vector<ItemLista> itens) {
-    itens.insert(itens.begin(), ItemLista{std::string(semEscolha), 0});
-    return itens;
+std::vector<ListItem> withNone(std::vector<ListItem> items) {
+    items.insert(items.begin(), ListItem{std::string(noChoice), 0});
+    return items;
 }
 
 }  // namespace
 
-std::vector<ItemLista> carregaMotivos(Environment& ambiente, const Sessao& sessao) {
-    XmlDocument resposta;
-    if (!pede(ambiente, comando::sel_motivos(sessao), resposta, falha::Tarn0009Largo)) {
-        return comNenhum({});
+std::vector<ListItem> loadReasons(Environment& environment, const Sessao& session) {
+    XmlDocument answer;
+    if (!requestAnswer(environment, commands::sel_motivos(session), answer,
+                       failure::Tarn0009Wide)) {
+        return withNone({});
     }
-    return comNenhum(itensDaResposta(resposta, "DC_MOT_IMP", {}));
+    return withNone(listItemsOf(answer, "DC_MOT_IMP", {}));
 }
 
-std::optional<std::vector<ItemLista>> carregaFiliaisRemetente(Environment& ambiente,
-                                                              const Sessao& sessao) {
-    XmlDocument resposta;
-    if (!pede(ambiente, comando::sel_filiais_remetente(sessao), resposta, falha::Tarn0009)) {
+std::optional<std::vector<ListItem>> loadSenderBranches(Environment& environment,
+                                                        const Sessao& session) {
+    XmlDocument answer;
+    if (!requestAnswer(environment, commands::sel_filiais_remetente(session), answer,
+                       failure::Tarn0009)) {
         return std::nullopt;
     }
-    return comNenhum(itensDaResposta(resposta, "FILIAL", "ID_ETB"));
+    return withNone(listItemsOf(answer, "FILIAL", "ID_ETB"));
 }
 
-std::optional<std::vector<LinhaGrade>> leFila(Environment& ambiente, const Sessao& sessao,
-                                              const std::string& motivo,
-                                              ValoresEtiquetas& valores) {
-    valores.MotivoImpressao = motivo;
-    XmlDocument resposta;
-    if (!pede(ambiente, comando::sel_etiquetas(sessao, motivo), resposta, falha::Tarn0009)) {
+std::optional<std::vector<GridRow>> readQueue(Environment& environment, const Sessao& session,
+                                              const std::string& reason, LabelValues& values) {
+    values.MotivoImpressao = reason;
+    XmlDocument answer;
+    if (!requestAnswer(environment, commands::sel_etiquetas(session, reason), answer,
+                       failure::Tarn0009)) {
         return std::nullopt;
     }
-    std::vector<LinhaGrade> fila = linhasDaResposta(resposta, campos);
-    valores.quantidade = fila.size();
-    return fila;
+    std::vector<GridRow> queue = rowsOf(answer, fields);
+    values.quantity = queue.size();
+    return queue;
 }
 
-FaltaEscolher verificaEscolhas(Environment& ambiente, const ValoresEtiquetas& valores,
-                               int posicaoDoFormulario) {
-    if (valores.quantidade == 0) {
-        informa(ambiente, "É necessário escolher o Motivo de Impressão.     ");
-        return FaltaEscolher::Motivo;
+MissingChoice checkChoices(Environment& environment, const LabelValues& values, int formPosition) {
+    if (values.quantity == 0) {
+        inform(environment, "É necessário escolher o Motivo de Impressão.     ");
+        return MissingChoice::Reason;
     }
-    if (posicaoDoFormulario == 0) {
-        informa(ambiente, "Tipo de formulário é um campo obrigatório.     ");
-        return FaltaEscolher::Formulario;
+    if (formPosition == 0) {
+        inform(environment, "Tipo de formulário é um campo obrigatório.     ");
+        return MissingChoice::LabelForm;
     }
-    return FaltaEscolher::Nada;
+    return MissingChoice::Nothing;
 }
 
 }  // namespace tarn::labels

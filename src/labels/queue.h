@@ -17,34 +17,33 @@ struct Sessao;
 
 namespace tarn::labels {
 
-struct ValoresEtiquetas;
+struct LabelValues;
 
 // The item that stands for none.
-inline constexpr std::string_view semEscolha = "--------";
+inline constexpr std::string_view noChoice = "--------";
 
 // The items of the queue screen's list of forms; the position is the TipoFormulario.
-inline constexpr std::array<std::string_view, 5> formulariosDaFila{
-    semEscolha, "PIMACO 6280 - LASER", "PIMACO - XXX - MATRICIAL", "PDF - A5 - DESTINATÁRIO",
+inline constexpr std::array<std::string_view, 5> queueForms{
+    noChoice, "PIMACO 6280 - LASER", "PIMACO - XXX - MATRICIAL", "PDF - A5 - DESTINATÁRIO",
     "PDF - A4 - DESTINATÁRIO - REMETENTE - LASER"};
-inline constexpr int posicaoComRemetente = 4;
+inline constexpr int positionWithSender = 4;
 
 // "--------" and the reasons for the kind of label that the session holds; the first item
 // alone after a failed request.
-std::vector<ItemLista> carregaMotivos(Environment& ambiente, const Sessao& sessao);
+std::vector<ListItem> loadReasons(Environment& environment, const Sessao& session);
 
 // "--------" and the branches that can send; nothing after a failed request.
-std::optional<std::vector<ItemLista>> carregaFiliaisRemetente(Environment& ambiente,
-                                                              const Sessao& sessao);
+std::optional<std::vector<ListItem>> loadSenderBranches(Environment& environment,
+                                                        const Sessao& session);
 
 // The whole queue of a reason, which from here on is the MotivoImpressao; its size is
 // told there too. Nothing, and the former size, after a failed request. Columns of a row:
 // sequence, CEP, name, code, address, complement, district, town, state, country.
-std::optional<std::vector<LinhaGrade>> leFila(Environment& ambiente, const Sessao& sessao,
-                                              const std::string& motivo, ValoresEtiquetas& valores);
+std::optional<std::vector<GridRow>> readQueue(Environment& environment, const Sessao& session,
+                                              const std::string& reason, LabelValues& values);
 
 // Before printing: what the user, who has been told, must choose first.
-enum class FaltaEscolher { Nada, Motivo, Formulario };
-FaltaEscolher verificaEscolhas(Environment& ambiente, const ValoresEtiquetas& valores,
-                               int posicaoDoFormulario);
+enum class MissingChoice { Nothing, Reason, LabelForm };
+MissingChoice checkChoices(Environment& environment, const LabelValues& values, int formPosition);
 
 }  // namespace tarn::labels

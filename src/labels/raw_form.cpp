@@ -10,67 +10,67 @@ namespace tarn::labels {
 namespace {
 
 constexpr int margem = 1;          // blanks ahead of every text
-constexpr std::size_t lado = 4;    // labels across
+constexpr std::size_t side = 4;    // labels across
 constexpr std::size_t linhas = 5;  // of a label
 constexpr int largura = 55;        // characters
-constexpr int larguraEsquerda = 27;
-constexpr int larguraDireita = 26;
-constexpr char passoCondensado[] =
+constexpr int leftWidth = 27;
+constexpr int rightWidth = 26;
+constexpr char condensedStep[] =
     "\x0F\x1B"
     "M";  // condensed, 12 characters an inch
 
 // Blanks between a label and the one at its left, the margin not counted.
-constexpr std::array<std::size_t, lado> vao{0, 7, 12, 12};
+constexpr std::array<std::size_t, side> gap{0, 7, 12, 12};
 
-using Textos = std::array<std::string, linhas>;
+using Texts = std::array<std::string, linhas>;
 
-void duplo(std::string& linha, std::string_view esquerda, std::string_view direita) {
-    appendCampo(linha, esquerda, larguraEsquerda, false);
+void doubled(std::string& linha, std::string_view left, std::string_view right) {
+    appendField(linha, left, leftWidth, false);
     linha += "  ";
-    appendCampo(linha, direita, larguraDireita, false);
+    appendField(linha, right, rightWidth, false);
 }
 
-void monta(Textos& textos, const Etiqueta& etiqueta, std::size_t coluna) {
-    for (std::string& texto : textos) {
-        texto.assign(vao[coluna], ' ');
+void assemble(Texts& texts, const Label& label, std::size_t coluna) {
+    for (std::string& texto : texts) {
+        texto.assign(gap[coluna], ' ');
     }
-    appendCampo(textos[0], etiqueta.NOME, largura, false);
-    appendCampo(textos[1], etiqueta.ENDERECO, largura, false);
-    duplo(textos[2], etiqueta.COMPLEMENTO, etiqueta.BAIRRO);
-    duplo(textos[3], etiqueta.MUNICIPIO, etiqueta.UF);
-    duplo(textos[4], etiqueta.CEP, etiqueta.CODIGO);
+    appendField(texts[0], label.NOME, largura, false);
+    appendField(texts[1], label.ENDERECO, largura, false);
+    doubled(texts[2], label.COMPLEMENTO, label.BAIRRO);
+    doubled(texts[3], label.MUNICIPIO, label.UF);
+    doubled(texts[4], label.CEP, label.CODIGO);
 }
 
-void imprimeGrupo(RawChannel& canal, std::array<Textos, lado>& grupo, std::size_t quantas) {
-    std::string fim;
+void printGroup(RawChannel& channel, std::array<Texts, side>& group, std::size_t count) {
+    std::string end;
     for (std::size_t linha = 0; linha < linhas; ++linha) {
-        for (std::size_t coluna = 0; coluna < quantas; ++coluna) {
-            canal.ImprimeRaw(margem, grupo[coluna][linha], 0);
+        for (std::size_t coluna = 0; coluna < count; ++coluna) {
+            channel.ImprimeRaw(margem, group[coluna][linha], 0);
         }
-        fim.clear();
-        canal.ImprimeRaw(margem, fim, linha + 1 < linhas ? 1 : 2);
+        end.clear();
+        channel.ImprimeRaw(margem, end, linha + 1 < linhas ? 1 : 2);
     }
 }
 
 }  // namespace
 
-void imprimeMatricial(Environment& ambiente, Etiquetas& etiquetas, const Progress& andamento) {
-    RawChannel canal(ambiente.spooler, ambiente.codePage);
-    canal.abre();
-    std::string preparo = passoCondensado;
-    canal.ImprimeRaw(margem, preparo, 0);
-    canal.fecha();
-    canal.abre();
-    std::array<Textos, lado> grupo;
-    for (std::size_t i = 0; i < etiquetas.quantas();) {
-        const std::size_t quantas = std::min(lado, etiquetas.quantas() - i);
-        for (std::size_t coluna = 0; coluna < quantas; ++coluna, ++i) {
-            monta(grupo[coluna], etiquetas.le(i), coluna);
+void printDotMatrix(Environment& environment, Labels& labels, const Progress& progress) {
+    RawChannel channel(environment.spooler, environment.codePage);
+    channel.open();
+    std::string preparation = condensedStep;
+    channel.ImprimeRaw(margem, preparation, 0);
+    channel.close();
+    channel.open();
+    std::array<Texts, side> group;
+    for (std::size_t i = 0; i < labels.count();) {
+        const std::size_t count = std::min(side, labels.count() - i);
+        for (std::size_t coluna = 0; coluna < count; ++coluna, ++i) {
+            assemble(group[coluna], labels.read(i), coluna);
         }
-        imprimeGrupo(canal, grupo, quantas);
-        avisa(andamento, i, etiquetas);
+        printGroup(channel, group, count);
+        report(progress, i, labels);
     }
-    canal.fecha();
+    channel.close();
 }
 
 }  // namespace tarn::labels

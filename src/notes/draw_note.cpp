@@ -97,7 +97,7 @@ void drawNote(const DrawnForm& form, const XmlDocument& document, std::string_vi
         std::visit([&page](const auto& s) { drawStep(s, page); }, step);
     }
     if (const auto failure = printer.EndDoc()) {
-        mostraFalha(environment, *failure);
+        showFailure(environment, *failure);
     }
 }
 

@@ -210,7 +210,7 @@ std::string_view valueOf(std::string& out, const Field& field, Run& run) {
     return usualValue(out, field, run);
 }
 
-void appendField(std::string& line, const Field& field, int column, Run& run) {
+void appendFormField(std::string& line, const Field& field, int column, Run& run) {
     run.value.clear();
     if (field.width == 0) {
         if (run.losses != nullptr && field.length > 0) {
@@ -232,7 +232,7 @@ void appendField(std::string& line, const Field& field, int column, Run& run) {
     if (run.losses != nullptr) {
         run.losses->field(field, column, run.parcel, value);
     }
-    appendCampo(line, value, field.width, field.right);
+    appendField(line, value, field.width, field.right);
 }
 
 }  // namespace
@@ -242,7 +242,7 @@ int appendFields(std::string& line, int column, std::span<const Field> fields, R
         const bool entry = field.source == Source::Mark && isEntry(run);
         const int start = entry ? field.entryColumn : field.column;
         line.append(static_cast<std::size_t>(start - column), ' ');
-        appendField(line, field, start, run);
+        appendFormField(line, field, start, run);
         column = start + (field.width > 0 ? field.width : field.room);
     }
     return column;

@@ -11,9 +11,9 @@ constexpr float halfCentimetre = 0.5F;
 
 }  // namespace
 
-void ImprimeTextoEm(Environment& ambiente, std::string_view texto, double x, double y, bool negrito,
-                    double tamanho, std::string_view fonte, int margem) {
-    Printer& printer = ambiente.printer;
+void ImprimeTextoEm(Environment& environment, std::string_view texto, double x, double y,
+                    bool negrito, double tamanho, std::string_view fonte, int margem) {
+    Printer& printer = environment.printer;
     printer.FontName = fonte;
     printer.FontSize = tamanho;
     printer.FontBold = negrito;
@@ -21,8 +21,8 @@ void ImprimeTextoEm(Environment& ambiente, std::string_view texto, double x, dou
     const float shift = margem == 0 ? halfCentimetre : 0.0F;
     printer.CurrentX = static_cast<float>(x) - shift;
     printer.CurrentY = static_cast<float>(y) - shift;
-    if (const auto falha = printer.Print(texto)) {
-        mostraFalha(ambiente, *falha);
+    if (const auto failure = printer.Print(texto)) {
+        showFailure(environment, *failure);
     }
 }
 

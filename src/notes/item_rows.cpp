@@ -47,14 +47,14 @@ std::string nameOfItem(NoteDocument& document) {
         std::string name(document.text(Source::CD_PRO));
         const std::string_view description = document.text(Source::DESCRICAO);
         return name.append(name.empty() || description.empty() ? "" : " ").append(description);
-    } catch (const ErroExecucao&) {
+    } catch (const RuntimeError&) {
         return {};  // nothing prints of this row, and so nothing stops for it
     }
 }
 
 std::size_t positionAfter(std::size_t position) {
     if (position == static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
-        throw ErroExecucao(ErroNumero::Estouro, "a nota tem itens demais");
+        throw RuntimeError(RuntimeErrorCode::Overflow, "a nota tem itens demais");
     }
     return position + 1;
 }

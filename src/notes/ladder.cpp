@@ -84,19 +84,19 @@ std::string_view layoutOfRest(std::int32_t company, std::int32_t establishment) 
 
 }  // namespace
 
-std::string_view layoutFor(Escada escada, std::int32_t empresa, std::int32_t estabelecimento) {
+std::string_view layoutFor(Ladder ladder, std::int32_t company, std::int32_t establishment) {
     // The reprint screen knows nothing of company 761 and asks for 2541 early.
-    if (escada == Escada::Emissao && empresa == 761) {
+    if (ladder == Ladder::Issuing && company == 761) {
         return "ImprimeNF_1361";
     }
-    if (escada == Escada::Reimpressao && empresa == 2541) {
+    if (ladder == Ladder::Reprint && company == 2541) {
         return "ImprimeNF_2541";
     }
-    if (empresa == 2161) {
-        return layoutOf2161(estabelecimento);
+    if (company == 2161) {
+        return layoutOf2161(establishment);
     }
-    const std::string_view layout = layoutOfCompany(empresa);
-    return layout.empty() ? layoutOfRest(empresa, estabelecimento) : layout;
+    const std::string_view layout = layoutOfCompany(company);
+    return layout.empty() ? layoutOfRest(company, establishment) : layout;
 }
 
 }  // namespace tarn

@@ -18,10 +18,10 @@ constexpr std::size_t firstTotal = indexOf(Source::VALOR_BASE_ICMS);
 constexpr std::size_t firstOfForm = indexOf(Source::QT_MAX_IT);
 constexpr std::size_t firstOfItem = indexOf(Source::CD_PRO);
 
-using Names = std::shared_ptr<const NomesLinha>;
+using Names = std::shared_ptr<const RowNames>;
 
 Names namesOf(std::size_t from, std::size_t to) {
-    return std::make_shared<const NomesLinha>(std::span(attributeNames).subspan(from, to - from));
+    return std::make_shared<const RowNames>(std::span(attributeNames).subspan(from, to - from));
 }
 
 // The names of each kind of row, the same for every note.
@@ -48,13 +48,13 @@ NoteDocument::NoteDocument(const XmlDocument& document)
 
 XmlNode NoteDocument::row(std::size_t position) const {
     if (!principal_) {
-        throw ErroExecucao(ErroNumero::VariavelObjeto,
+        throw RuntimeError(RuntimeErrorCode::ObjectVariable,
                            "o documento da nota não traz o nó PRINCIPAL");
     }
     const XmlNode found = children_.item(position);
     if (!found) {
-        throw ErroExecucao(
-            ErroNumero::VariavelObjeto,
+        throw RuntimeError(
+            RuntimeErrorCode::ObjectVariable,
             "falta no documento da nota a linha de posição " + std::to_string(position));
     }
     return found;
@@ -71,12 +71,12 @@ std::size_t NoteDocument::fieldOf(Source source) {
     return index >= firstTotal ? index - firstTotal : index;
 }
 
-LeitorLinha& NoteDocument::readerOf(Source source) {
-    const auto reader = [this](std::optional<LeitorLinha>& slot, std::size_t position,
-                               const Names& names) -> LeitorLinha& {
+RowReader& NoteDocument::readerOf(Source source) {
+    const auto reader = [this](std::optional<RowReader>& slot, std::size_t position,
+                               const Names& names) -> RowReader& {
         if (!slot) {
             const XmlNode node = row(position);
-            slot.emplace(names).le(node);
+            slot.emplace(names).read(node);
         }
         return *slot;
     };
@@ -98,7 +98,7 @@ void NoteDocument::goToItem(std::size_t position) {
     if (!item_) {
         item_.emplace(rowNames().item);
     }
-    item_->le(node);
+    item_->read(node);
 }
 
 bool NoteDocument::isItem(std::size_t position) const {
@@ -121,7 +121,7 @@ void refuseNumber(Source source, std::string_view text) {
     std::string detail = "o campo ";
     detail.append(attributeName(source)).append(" da nota traz \"").append(text);
     detail += "\", que não é um número";
-    throw ErroExecucao(ErroNumero::TipoIncompativel, detail);
+    throw RuntimeError(RuntimeErrorCode::TypeMismatch, detail);
 }
 
 }  // namespace tarn::notes

@@ -22,12 +22,12 @@ class NoteDocument {
 public:
     explicit NoteDocument(const XmlDocument& document);
 
-    bool present(Source source) { return readerOf(source).presente(fieldOf(source)); }
+    bool present(Source source) { return readerOf(source).present(fieldOf(source)); }
     // Text reading: the text as it stands, "" when absent.
     std::string_view text(Source source) { return readerOf(source).texto(fieldOf(source)); }
     // Amount reading: "." turned into ",", `absent` when absent.
     std::string_view amount(Source source, std::string_view absent = "0") {
-        return readerOf(source).numero(fieldOf(source), absent);
+        return readerOf(source).number(fieldOf(source), absent);
     }
     // An amount as a number; TipoIncompativel, naming the field, for anything else.
     double number(Source source, std::string_view absent = "0");
@@ -38,16 +38,16 @@ public:
     bool isItem(std::size_t position) const;
 
 private:
-    LeitorLinha& readerOf(Source source);
+    RowReader& readerOf(Source source);
     static std::size_t fieldOf(Source source);
     XmlNode row(std::size_t position) const;
 
     XmlNode principal_;
     XmlNodeList children_;
-    std::optional<LeitorLinha> head_;
-    std::optional<LeitorLinha> totals_;
-    std::optional<LeitorLinha> form_;
-    std::optional<LeitorLinha> item_;
+    std::optional<RowReader> head_;
+    std::optional<RowReader> totals_;
+    std::optional<RowReader> form_;
+    std::optional<RowReader> item_;
 };
 
 // The text of `source` as a number by the comma reading.

@@ -35,10 +35,10 @@ void print(const Credit& credit, Run& run) {
 }
 
 void setUpPrinter(std::string_view bytes, RawChannel& channel) {
-    channel.abre();
+    channel.open();
     std::string text(bytes);
     channel.ImprimeRaw(1, text, 0);
-    channel.fecha();
+    channel.close();
 }
 
 }  // namespace
@@ -48,7 +48,7 @@ void printNote(const Form& form, const XmlDocument& document, std::string_view n
     if (!form.setUp.empty()) {
         setUpPrinter(form.setUp, channel);
     }
-    channel.abre();
+    channel.open();
     Run run{.document = NoteDocument(document),
             .channel = &channel,
             .noteNumber = formatText(noteNumber, noteNumberMask),
@@ -60,7 +60,7 @@ void printNote(const Form& form, const XmlDocument& document, std::string_view n
         std::visit([&run](const auto& s) { print(s, run); }, step);
     }
     closeTexts(run);
-    channel.fecha();
+    channel.close();
 }
 
 }  // namespace tarn::notes

@@ -17,7 +17,7 @@ constexpr std::string_view onlyFromReprint = "ImprimeNF_2161_3383";
 const notes::Layout& installed(std::string_view name) {
     const notes::Layout* layout = notes::layoutByName(name);
     if (layout == nullptr) {
-        throw ErroExecucao(ErroNumero::ObjetoObrigatorio,
+        throw RuntimeError(RuntimeErrorCode::ObjectRequired,
                            std::string(name) +
                                ": este layout de nota não está instalado nesta versão. Quando "
                                "estiver, a nota pode ser impressa pela tela de reimpressão");
@@ -25,27 +25,27 @@ const notes::Layout& installed(std::string_view name) {
     return *layout;
 }
 
-void print(const notes::Layout& layout, Environment& ambiente, const Sessao& sessao,
-           const XmlDocument& documento, const std::string& numeroNota, notes::LossLog* perdas) {
+void print(const notes::Layout& layout, Environment& environment, const Sessao& session,
+           const XmlDocument& documento, const std::string& numeroNota, notes::LossLog* losses) {
     if (layout.drawn != nullptr) {
-        return notes::drawNote(*layout.drawn, documento, numeroNota, ambiente, perdas);
+        return notes::drawNote(*layout.drawn, documento, numeroNota, environment, losses);
     }
-    RawChannel channel(ambiente.spooler, ambiente.codePage);
-    notes::printNote(layout.formFor(sessao.ID_ETB_TARN), documento, numeroNota, channel, perdas);
+    RawChannel channel(environment.spooler, environment.codePage);
+    notes::printNote(layout.formFor(session.ID_ETB_TARN), documento, numeroNota, channel, losses);
 }
 
 }  // namespace
 
-void imprimeNota(Escada escada, Environment& ambiente, const Sessao& sessao, XmlDocument& documento,
-                 const std::string& numeroNota, notes::LossLog* perdas) {
-    const std::string_view name = layoutFor(escada, sessao.NCOMPANYCODE, sessao.ID_ETB_TARN);
-    if (escada == Escada::Emissao && name == onlyFromReprint) {
-        throw ErroExecucao(ErroNumero::ObjetoObrigatorio,
+void printNote(Ladder ladder, Environment& environment, const Sessao& session,
+               XmlDocument& documento, const std::string& numeroNota, notes::LossLog* losses) {
+    const std::string_view name = layoutFor(ladder, session.NCOMPANYCODE, session.ID_ETB_TARN);
+    if (ladder == Ladder::Issuing && name == onlyFromReprint) {
+        throw RuntimeError(RuntimeErrorCode::ObjectRequired,
                            std::string(name) +
                                ": as notas deste estabelecimento só saem pela tela de reimpressão");
     }
     if (!name.empty()) {
-        print(installed(name), ambiente, sessao, documento, numeroNota, perdas);
+        print(installed(name), environment, session, documento, numeroNota, losses);
     }
     documento = XmlDocument();
 }

@@ -17,16 +17,17 @@ class LossLog;
 }
 
 // The two screens run ladders that differ in two steps.
-enum class Escada { Emissao, Reimpressao };
+enum class Ladder { Issuing, Reprint };
 
 // Name of the layout ("ImprimeNF_1361"), or "" where nothing is printed.
-std::string_view layoutFor(Escada escada, std::int32_t empresa, std::int32_t estabelecimento);
+std::string_view layoutFor(Ladder ladder, std::int32_t company, std::int32_t establishment);
 
 // Prints the note of an answer whose status reads "OK" and lets go of the document.
 // `numeroNota` holds the note's number as digits. What was sent before an
-// ErroExecucao stays sent and the job stays open. `perdas`, if given, keeps what the form
+// ErroExecucao stays sent and the job stays open. `losses`, if given, keeps what the form
 // has no room for.
-void imprimeNota(Escada escada, Environment& ambiente, const Sessao& sessao, XmlDocument& documento,
-                 const std::string& numeroNota, notes::LossLog* perdas = nullptr);
+void printNote(Ladder ladder, Environment& environment, const Sessao& session,
+               XmlDocument& documento, const std::string& numeroNota,
+               notes::LossLog* losses = nullptr);
 
 }  // namespace tarn

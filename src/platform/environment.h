@@ -23,7 +23,7 @@ struct Environment {
     Machine& machine;
     std::string baseUrl;  // ends in "?", the query follows at once
     CodePage codePage = CodePage::Page1252;
-    std::string pastaFiguras = "C:/TARN/";  // of the pictures of bills and receipts
+    std::string pictureFolder = "C:/TARN/";  // of the pictures of bills and receipts
 };
 
 }  // namespace tarn

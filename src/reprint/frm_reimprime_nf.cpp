@@ -17,53 +17,53 @@ namespace {
 
 // A label's tag: the code behind what it shows.
 constexpr char tag[] = "Tag";
-constexpr int folgaDoItem = 6;  // pixels added to the height of an open list's item
+constexpr int itemGap = 6;  // pixels added to the height of an open list's item
 
-std::string texto(const QLabel& rotulo) {
-    return rotulo.text().toStdString();
+std::string texto(const QLabel& label) {
+    return label.text().toStdString();
 }
 
-std::string tagDe(const QLabel& rotulo) {
-    return rotulo.property(tag).toString().toStdString();
+std::string tagDe(const QLabel& label) {
+    return label.property(tag).toString().toStdString();
 }
 
-void poe(QLabel& rotulo, const std::string& valor) {
-    rotulo.setText(QString::fromStdString(valor));
+void put(QLabel& label, const std::string& valor) {
+    label.setText(QString::fromStdString(valor));
 }
 
-void poe(QLabel& rotulo, const std::string& valor, const std::string& codigo) {
-    poe(rotulo, valor);
-    rotulo.setProperty(tag, QString::fromStdString(codigo));
+void put(QLabel& label, const std::string& valor, const std::string& code) {
+    put(label, valor);
+    label.setProperty(tag, QString::fromStdString(code));
 }
 
 // An open list is as wide as its items; the code behind a series' gap isn't shown.
-class ItemDeSerie : public QStyledItemDelegate {
+class SeriesItem : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QString displayText(const QVariant& item, const QLocale& /*locale*/) const override {
-        const QString inteiro = item.toString();
-        return inteiro.left(inteiro.lastIndexOf(u'|')).trimmed();
+        const QString whole = item.toString();
+        return whole.left(whole.lastIndexOf(u'|')).trimmed();
     }
-    QSize sizeHint(const QStyleOptionViewItem& opcao, const QModelIndex& item) const override {
-        return QStyledItemDelegate::sizeHint(opcao, item) + QSize(0, folgaDoItem);
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& item) const override {
+        return QStyledItemDelegate::sizeHint(option, item) + QSize(0, itemGap);
     }
 };
 
 }  // namespace
 
-FrmReImprimeNF::FrmReImprimeNF(DeskContext& desk, TrabalhoNota trabalho)
+FrmReImprimeNF::FrmReImprimeNF(DeskContext& desk, NoteJob job)
     : desk_(desk), ui_(std::make_unique<Ui::FrmReImprimeNF>()) {
     ui_->setupUi(this);
-    new FieldController(ui_->txtNF, KeyFilter::NumeroVirgula, desk.ambiente,
+    new FieldController(ui_->txtNF, KeyFilter::Decimal, desk.environment,
                         FieldController::EnterKey::BeepOnly);
-    ui_->cboSerie->setItemDelegate(new ItemDeSerie(this));
+    ui_->cboSerie->setItemDelegate(new SeriesItem(this));
     // A customer's name may take two lines.
-    const QLabel& cliente = *ui_->LBLCliente;
-    ui_->LBLCliente->setMinimumHeight(2 * cliente.fontMetrics().lineSpacing() +
-                                      2 * (cliente.margin() + cliente.frameWidth()));
-    prepara(trabalho);
-    preparaBotoes();
+    const QLabel& customer = *ui_->LBLCliente;
+    ui_->LBLCliente->setMinimumHeight(2 * customer.fontMetrics().lineSpacing() +
+                                      2 * (customer.margin() + customer.frameWidth()));
+    prepare(job);
+    prepareButtons();
     connect(ui_->txtNF, &QLineEdit::textChanged, this, &FrmReImprimeNF::LimpaDados);
     connect(ui_->cboSerie, &QComboBox::activated, this, &FrmReImprimeNF::LimpaDados);
     auto* esc =
@@ -73,80 +73,80 @@ FrmReImprimeNF::FrmReImprimeNF(DeskContext& desk, TrabalhoNota trabalho)
 
 FrmReImprimeNF::~FrmReImprimeNF() = default;
 
-void FrmReImprimeNF::prepara(TrabalhoNota trabalho) {
-    const bool cancela = trabalho == TrabalhoNota::Cancelamento;
-    ui_->FrmCancelaNF->setVisible(cancela);
-    ui_->Label5->setText(cancela ? QStringLiteral("Cancelamento de Nota Fiscal")
-                                 : QStringLiteral("Reimpressão de Nota Fiscal"));
-    const QString oQueFaz = cancela ? QStringLiteral("Cancelar a nota fiscal encontrada")
-                                    : QStringLiteral("Imprimir de novo a nota fiscal encontrada");
-    ui_->cmdSelecionar->setToolTip(oQueFaz);
-    ui_->cmdSelecionar->setAccessibleName(oQueFaz);
+void FrmReImprimeNF::prepare(NoteJob job) {
+    const bool cancel = job == NoteJob::Cancellation;
+    ui_->FrmCancelaNF->setVisible(cancel);
+    ui_->Label5->setText(cancel ? QStringLiteral("Cancelamento de Nota Fiscal")
+                                : QStringLiteral("Reimpressão de Nota Fiscal"));
+    const QString whatItDoes = cancel ? QStringLiteral("Cancelar a nota fiscal encontrada")
+                                      : QStringLiteral("Imprimir de novo a nota fiscal encontrada");
+    ui_->cmdSelecionar->setToolTip(whatItDoes);
+    ui_->cmdSelecionar->setAccessibleName(whatItDoes);
 }
 
-void FrmReImprimeNF::preparaBotoes() {
-    const int lado = fontMetrics().height() * 2;
-    const auto prepara = [this, lado](QPushButton* botao, const char* desenho, auto rotina) {
-        botao->setIcon(figura(QLatin1StringView(desenho)));
-        botao->setIconSize({lado, lado});
-        connect(botao, &QPushButton::clicked, this, rotina);
+void FrmReImprimeNF::prepareButtons() {
+    const int side = fontMetrics().height() * 2;
+    const auto prepare = [this, side](QPushButton* button, const char* pictureName, auto routine) {
+        button->setIcon(picture(QLatin1StringView(pictureName)));
+        button->setIconSize({side, side});
+        connect(button, &QPushButton::clicked, this, routine);
     };
-    prepara(ui_->cmdPesquisar, "search_note", &FrmReImprimeNF::cmdPesquisar_Click);
-    prepara(ui_->cmdSelecionar, cancelando() ? "cancel_note" : "reprint_note",
+    prepare(ui_->cmdPesquisar, "search_note", &FrmReImprimeNF::cmdPesquisar_Click);
+    prepare(ui_->cmdSelecionar, cancelling() ? "cancel_note" : "reprint_note",
             &FrmReImprimeNF::cmdSelecionar_Click);
-    prepara(ui_->CmdFechar, "close", &FrmReImprimeNF::CmdFechar_Click);
+    prepare(ui_->CmdFechar, "close", &FrmReImprimeNF::CmdFechar_Click);
 }
 
-void FrmReImprimeNF::carrega() {
+void FrmReImprimeNF::load() {
     const WaitCursor hourglass;
-    emit carregou();
-    encheListas();
+    emit loadedIt();
+    fillLists();
     ui_->cboSerie->setFocus();
 }
 
-void FrmReImprimeNF::encheListas() {
+void FrmReImprimeNF::fillLists() {
     std::vector<std::string> series;
-    const bool continua = carregaSeries(desk_.ambiente, desk_.sessao, series);
-    for (const std::string& serie : series) {
-        ui_->cboSerie->addItem(QString::fromStdString(serie));
+    const bool continua = loadSeries(desk_.environment, desk_.session, series);
+    for (const std::string& series : series) {
+        ui_->cboSerie->addItem(QString::fromStdString(series));
     }
     ui_->cboSerie->setCurrentIndex(-1);
     if (!continua) {
         return;
     }
-    for (const MotivoCancelamento& motivo : carregaMotivos(desk_.ambiente, desk_.sessao)) {
-        ui_->CboMot_Can->addItem(QString::fromStdString(motivo.descricao), motivo.id);
+    for (const CancelReason& reason : loadReasons(desk_.environment, desk_.session)) {
+        ui_->CboMot_Can->addItem(QString::fromStdString(reason.description), reason.id);
     }
     ui_->CboMot_Can->setCurrentIndex(-1);
 }
 
-CamposNota FrmReImprimeNF::campos() const {
-    CamposNota campos;
+NoteFields FrmReImprimeNF::fields() const {
+    NoteFields fields;
     if (ui_->cboSerie->currentIndex() >= 0) {
-        campos.serie = ui_->cboSerie->currentText().toStdString();
+        fields.series = ui_->cboSerie->currentText().toStdString();
     }
-    campos.numero = ui_->txtNF->text().toStdString();
-    return campos;
+    fields.number = ui_->txtNF->text().toStdString();
+    return fields;
 }
 
-bool FrmReImprimeNF::cancelando() const {
+bool FrmReImprimeNF::cancelling() const {
     return !ui_->FrmCancelaNF->isHidden();
 }
 
-void FrmReImprimeNF::mostra(const NotaEncontrada& nota) {
-    poe(*ui_->LblTipoNf, nota.descricaoTipo, nota.tipo);
-    poe(*ui_->LblDtEm, nota.emissao);
-    poe(*ui_->LBLCliente, nota.cliente);
-    poe(*ui_->LBLNOTA, nota.numero, nota.serie);
-    ui_->OptionReimp_0->setEnabled(nota.tipo != tipoSemCancelamento);
-    ui_->OptionReimp_1->setEnabled(nota.tipo != tipoSemCancelamento);
+void FrmReImprimeNF::show(const FoundNote& note) {
+    put(*ui_->LblTipoNf, note.kindText, note.kind);
+    put(*ui_->LblDtEm, note.issued);
+    put(*ui_->LBLCliente, note.customer);
+    put(*ui_->LBLNOTA, note.number, note.series);
+    ui_->OptionReimp_0->setEnabled(note.kind != uncancellableKind);
+    ui_->OptionReimp_1->setEnabled(note.kind != uncancellableKind);
 }
 
 void FrmReImprimeNF::LimpaDados() {
-    poe(*ui_->LBLCliente, "");
-    poe(*ui_->LblTipoNf, "");
-    poe(*ui_->LblDtEm, "");
-    poe(*ui_->LBLNOTA, "", "");
+    put(*ui_->LBLCliente, "");
+    put(*ui_->LblTipoNf, "");
+    put(*ui_->LblDtEm, "");
+    put(*ui_->LBLNOTA, "", "");
     ui_->OptionReimp->setExclusive(false);  // an exclusive group keeps one option selected
     ui_->OptionReimp_0->setChecked(false);
     ui_->OptionReimp_1->setChecked(false);
@@ -155,44 +155,43 @@ void FrmReImprimeNF::LimpaDados() {
 }
 
 void FrmReImprimeNF::cmdPesquisar_Click() {
-    if (const auto nota = pesquisaNota(desk_.ambiente, desk_.sessao, campos())) {
-        mostra(*nota);
+    if (const auto note = searchNote(desk_.environment, desk_.session, fields())) {
+        show(*note);
     }
 }
 
 void FrmReImprimeNF::cmdSelecionar_Click() {
-    const std::string numero = texto(*ui_->LBLNOTA);
-    if (!notaSelecionada(desk_.ambiente, campos(), numero)) {
+    const std::string number = texto(*ui_->LBLNOTA);
+    if (!noteSelected(desk_.environment, fields(), number)) {
         return;
     }
-    const std::string serie = tagDe(*ui_->LBLNOTA);
-    if (!cancelando()) {
-        reimprimeNota(desk_.ambiente, desk_.sessao, numero, serie);
+    const std::string series = tagDe(*ui_->LBLNOTA);
+    if (!cancelling()) {
+        reprintNote(desk_.environment, desk_.session, number, series);
         return;
     }
-    PedidoCancelamento pedido{.numero = numero, .serie = serie, .tipoNota = tagDe(*ui_->LblTipoNf)};
+    CancelRequest request{.number = number, .series = series, .noteKind = tagDe(*ui_->LblTipoNf)};
     if (ui_->OptionReimp->checkedButton() != nullptr) {
-        pedido.opcao =
-            ui_->OptionReimp_1->isChecked() ? NovoFaturamento::Sem : NovoFaturamento::Com;
+        request.option = ui_->OptionReimp_1->isChecked() ? Rebilling::Without : Rebilling::Com;
     }
     if (ui_->CboMot_Can->currentIndex() >= 0) {
-        pedido.motivo = ui_->CboMot_Can->currentData().toInt();
+        request.reason = ui_->CboMot_Can->currentData().toInt();
     }
-    if (cancelaNota(desk_.ambiente, desk_.sessao, pedido)) {
+    if (cancelNote(desk_.environment, desk_.session, request)) {
         LimpaDados();
     }
 }
 
 void FrmReImprimeNF::CmdFechar_Click() {
-    if (auto* janela = qobject_cast<QMdiSubWindow*>(parentWidget())) {
-        janela->close();
+    if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget())) {
+        window->close();
     } else {
         close();
     }
 }
 
 void FrmReImprimeNF::closeEvent(QCloseEvent* event) {
-    emit fechou();
+    emit closed();
     event->accept();
 }
 

@@ -14,32 +14,32 @@ class FrmReImprimeNF;
 
 namespace tarn {
 
-enum class TrabalhoNota { Reimpressao, Cancelamento };
+enum class NoteJob { Reprint, Cancellation };
 
 class FrmReImprimeNF : public QWidget {
     Q_OBJECT
 
 public:
-    FrmReImprimeNF(DeskContext& desk, TrabalhoNota trabalho);
+    FrmReImprimeNF(DeskContext& desk, NoteJob job);
     ~FrmReImprimeNF() override;
 
     // On opening: the desk's menus are disabled (carregou), the two lists are read.
-    void carrega();
+    void load();
 
 signals:
-    void carregou();
-    void fechou();
+    void loadedIt();
+    void closed();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void prepara(TrabalhoNota trabalho);
-    void preparaBotoes();
-    void encheListas();
-    CamposNota campos() const;
-    void mostra(const NotaEncontrada& nota);
-    bool cancelando() const;
+    void prepare(NoteJob job);
+    void prepareButtons();
+    void fillLists();
+    NoteFields fields() const;
+    void show(const FoundNote& note);
+    bool cancelling() const;
     // Forgets the note that was found.
     void LimpaDados();
 

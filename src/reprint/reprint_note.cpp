@@ -15,50 +15,50 @@
 namespace tarn {
 namespace {
 
-constexpr std::size_t vaoDaSerie = 50;  // blanks
+constexpr std::size_t seriesGap = 50;  // blanks
 
 // Both jobs name the note in the box for an answer that can't be used.
-constexpr const char* problemaDados =
+constexpr const char* dataProblem =
     "Houve um problema na transferência dos dados da Nota Fiscal nº ";
-constexpr const char* problemaCancelamento = "Houve um problema no Cancelamento da Nota Fiscal nº ";
+constexpr const char* cancellationProblem = "Houve um problema no Cancelamento da Nota Fiscal nº ";
 
-void alerta(Environment& ambiente, const std::string& texto) {
-    exclama(ambiente, texto, "Aviso");
+void alert(Environment& environment, const std::string& texto) {
+    warn(environment, texto, "Aviso");
 }
 
 // An attribute of a list's row; absent is empty.
-std::string_view campo(const XmlNode& linha, std::string_view nome) {
-    const XmlAttribute atributo = linha.attributes().getNamedItem(nome);
-    return atributo ? atributo.text() : std::string_view();
+std::string_view field(const XmlNode& linha, std::string_view nome) {
+    const XmlAttribute attribute = linha.attributes().getNamedItem(nome);
+    return attribute ? attribute.text() : std::string_view();
 }
 
-template <typename Rotina>
-void paraCadaLinha(const XmlDocument& documento, const Rotina& rotina) {
+template <typename Routine>
+void forEachLine(const XmlDocument& documento, const Routine& routine) {
     const XmlNode linhas = documento.selectSingleNode("xml/rs:data");
     for (std::size_t i = 0; linhas && i < linhas.childCount(); ++i) {
-        rotina(linhas.child(i));
+        routine(linhas.child(i));
     }
 }
 
-std::int32_t idDoMotivo(std::string_view texto) {
+std::int32_t reasonId(std::string_view texto) {
     try {
         return readInt32(trimBlanks(texto));
-    } catch (const ErroExecucao&) {
+    } catch (const RuntimeError&) {
         return 0;
     }
 }
 
 // An answer without a status to read is no more use than an empty one.
-bool aceita(Environment& ambiente, const XmlDocument& documento, const std::string& problema) {
+bool accept(Environment& environment, const XmlDocument& documento, const std::string& problem) {
     std::string status;
     try {
         status = statusOf(documento);
-    } catch (const ErroExecucao&) {
-        alerta(ambiente, problema);
+    } catch (const RuntimeError&) {
+        alert(environment, problem);
         return false;
     }
     if (status != "OK") {
-        exclama(ambiente, status);
+        warn(environment, status);
         return false;
     }
     return true;
@@ -66,131 +66,133 @@ bool aceita(Environment& ambiente, const XmlDocument& documento, const std::stri
 
 }  // namespace
 
-bool carregaSeries(Environment& ambiente, const Sessao& sessao, std::vector<std::string>& itens) {
+bool loadSeries(Environment& environment, const Sessao& session, std::vector<std::string>& items) {
     XmlDocument documento;
-    if (!pede(ambiente, comando::SEL_SERIE_NF(sessao), documento, falha::Tarn0010)) {
+    if (!requestAnswer(environment, commands::SEL_SERIE_NF(session), documento,
+                       failure::Tarn0010)) {
         return true;
     }
     if (documento.empty()) {
-        alerta(ambiente, "Houve um problema na transferência das Séries da Nota Fiscal. ");
+        alert(environment, "Houve um problema na transferência das Séries da Nota Fiscal. ");
         return false;
     }
-    paraCadaLinha(documento, [&itens](const XmlNode& linha) {
-        std::string item(campo(linha, "DC_SER_NF"));
-        item.append(vaoDaSerie, ' ').append("|").append(trimBlanks(campo(linha, "CD_SER_NF")));
-        itens.push_back(std::move(item));
+    forEachLine(documento, [&items](const XmlNode& linha) {
+        std::string item(field(linha, "DC_SER_NF"));
+        item.append(seriesGap, ' ').append("|").append(trimBlanks(field(linha, "CD_SER_NF")));
+        items.push_back(std::move(item));
     });
     return true;
 }
 
-std::string codigoDaSerie(std::string_view item) {
-    const std::size_t inicio = item.find('|') + 1;
-    return std::string(item.substr(inicio, item.find('|', inicio) - inicio));
+std::string seriesCode(std::string_view item) {
+    const std::size_t start = item.find('|') + 1;
+    return std::string(item.substr(start, item.find('|', start) - start));
 }
 
-std::vector<MotivoCancelamento> carregaMotivos(Environment& ambiente, const Sessao& sessao) {
-    std::vector<MotivoCancelamento> motivos;
+std::vector<CancelReason> loadReasons(Environment& environment, const Sessao& session) {
+    std::vector<CancelReason> reasons;
     XmlDocument documento;
-    if (!pede(ambiente, comando::SEL_MOT_CAN(sessao), documento, falha::Tarn0011)) {
-        return motivos;
+    if (!requestAnswer(environment, commands::SEL_MOT_CAN(session), documento, failure::Tarn0011)) {
+        return reasons;
     }
     if (documento.empty()) {
-        alerta(ambiente, "Houve um problema na transferência dos Motivos de Cancelamento. ");
-        return motivos;
+        alert(environment, "Houve um problema na transferência dos Motivos de Cancelamento. ");
+        return reasons;
     }
-    paraCadaLinha(documento, [&motivos](const XmlNode& linha) {
-        motivos.push_back(
-            {std::string(campo(linha, "DC_MOT_CAN")), idDoMotivo(campo(linha, "ID_MOT_CAN"))});
+    forEachLine(documento, [&reasons](const XmlNode& linha) {
+        reasons.push_back(
+            {std::string(field(linha, "DC_MOT_CAN")), reasonId(field(linha, "ID_MOT_CAN"))});
     });
-    return motivos;
+    return reasons;
 }
 
-std::optional<NotaEncontrada> pesquisaNota(Environment& ambiente, const Sessao& sessao,
-                                           const CamposNota& campos) {
-    if (!campos.serie) {
-        alerta(ambiente, "Selecione a série da Nota.     ");
+std::optional<FoundNote> searchNote(Environment& environment, const Sessao& session,
+                                    const NoteFields& fields) {
+    if (!fields.series) {
+        alert(environment, "Selecione a série da Nota.     ");
         return std::nullopt;
     }
-    if (campos.numero.empty()) {
-        alerta(ambiente, "Digite o Nº Nota !!!    ");
+    if (fields.number.empty()) {
+        alert(environment, "Digite o Nº Nota !!!    ");
         return std::nullopt;
     }
-    const std::string serie = codigoDaSerie(*campos.serie);
+    const std::string series = seriesCode(*fields.series);
     XmlDocument documento;
-    if (!pede(ambiente, comando::SEL_NF(sessao, campos.numero, serie), documento,
-              falha::Tarn0007)) {
-        alerta(ambiente, "Houve um problema na Pesquisa da Nota Fiscal !!!");
+    if (!requestAnswer(environment, commands::SEL_NF(session, fields.number, series), documento,
+                       failure::Tarn0007)) {
+        alert(environment, "Houve um problema na Pesquisa da Nota Fiscal !!!");
         return std::nullopt;
     }
     const XmlNode linhas = documento.selectSingleNode("xml/rs:data");
     if (!linhas || linhas.childCount() == 0) {
-        alerta(ambiente, "Nota Fiscal não encontrada ou Cancelada !!!    ");
+        alert(environment, "Nota Fiscal não encontrada ou Cancelada !!!    ");
         return std::nullopt;
     }
-    return NotaEncontrada{.numero = campos.numero,
-                          .serie = serie,
-                          .tipo = pegaTexto(linhas, 0, "IC_TIP_NF"),
-                          .descricaoTipo = pegaTexto(linhas, 0, "DC_TIP_NF"),
-                          .emissao = formatDateText(pegaTexto(linhas, 0, "DT_EMS_NF")),
-                          .cliente = pegaTexto(linhas, 0, "NM_PES_CPL")};
+    return FoundNote{.number = fields.number,
+                     .series = series,
+                     .kind = textAttribute(linhas, 0, "IC_TIP_NF"),
+                     .kindText = textAttribute(linhas, 0, "DC_TIP_NF"),
+                     .issued = formatDateText(textAttribute(linhas, 0, "DT_EMS_NF")),
+                     .customer = textAttribute(linhas, 0, "NM_PES_CPL")};
 }
 
-bool notaSelecionada(Environment& ambiente, const CamposNota& campos,
-                     std::string_view notaEncontrada) {
-    if (!campos.serie) {
-        alerta(ambiente, "Selecione a série da Nota ");
-    } else if (campos.numero.empty()) {
-        alerta(ambiente, "Digite o Nº Nota !!!");
-    } else if (notaEncontrada.empty()) {
-        alerta(ambiente, "Preencha o campo Nro da NF e a série e clique em pesquisar!!!");
+bool noteSelected(Environment& environment, const NoteFields& fields, std::string_view foundNote) {
+    if (!fields.series) {
+        alert(environment, "Selecione a série da Nota ");
+    } else if (fields.number.empty()) {
+        alert(environment, "Digite o Nº Nota !!!");
+    } else if (foundNote.empty()) {
+        alert(environment, "Preencha o campo Nro da NF e a série e clique em pesquisar!!!");
     } else {
         return true;
     }
     return false;
 }
 
-void reimprimeNota(Environment& ambiente, const Sessao& sessao, const std::string& numero,
-                   const std::string& serie) {
+void reprintNote(Environment& environment, const Sessao& session, const std::string& number,
+                 const std::string& series) {
     XmlDocument documento;
-    if (!pede(ambiente, comando::sel_gera_nf(sessao, numero, serie), documento, falha::Tarn0008)) {
-        alerta(ambiente, "Houve um problema na transferência dos dados da Nota Fiscal !!!");
+    if (!requestAnswer(environment, commands::sel_gera_nf(session, number, series), documento,
+                       failure::Tarn0008)) {
+        alert(environment, "Houve um problema na transferência dos dados da Nota Fiscal !!!");
         return;
     }
-    if (!aceita(ambiente, documento, problemaDados + numero + ". ")) {
+    if (!accept(environment, documento, dataProblem + number + ". ")) {
         return;
     }
     try {
-        imprimeNota(Escada::Reimpressao, ambiente, sessao, documento, numero);
-    } catch (const ErroExecucao& erro) {
-        throw ErroComNota(erro);
+        printNote(Ladder::Reprint, environment, session, documento, number);
+    } catch (const RuntimeError& error) {
+        throw ErrorAfterNote(error);
     }
 }
 
-bool cancelaNota(Environment& ambiente, const Sessao& sessao, const PedidoCancelamento& pedido) {
-    if (!pedido.opcao) {
-        alerta(ambiente, "Selecione o Tipo de Cancelamento !!!");
+bool cancelNote(Environment& environment, const Sessao& session, const CancelRequest& request) {
+    if (!request.option) {
+        alert(environment, "Selecione o Tipo de Cancelamento !!!");
         return false;
     }
-    if (!pedido.motivo) {
-        alerta(ambiente, "Selecione o Motivo do Cancelamento !!!");
+    if (!request.reason) {
+        alert(environment, "Selecione o Motivo do Cancelamento !!!");
         return false;
     }
-    const comando::Cancelamento dados{.tipoNota = pedido.tipoNota,
-                                      .nota = pedido.numero,
-                                      .serie = pedido.serie,
-                                      .motivo = *pedido.motivo,
-                                      .semNovoFaturamento = *pedido.opcao == NovoFaturamento::Sem};
+    const commands::Cancellation data{.noteKind = request.noteKind,
+                                      .note = request.number,
+                                      .series = request.series,
+                                      .reason = *request.reason,
+                                      .withoutRebilling = *request.option == Rebilling::Without};
     XmlDocument documento;
-    if (!pede(ambiente, comando::sp_can_nf(sessao, dados), documento, falha::Tarn0009)) {
-        alerta(ambiente, "Favor verificar se a Nota Fiscal foi cancelada. ");
+    if (!requestAnswer(environment, commands::sp_can_nf(session, data), documento,
+                       failure::Tarn0009)) {
+        alert(environment, "Favor verificar se a Nota Fiscal foi cancelada. ");
         return false;
     }
-    if (!aceita(ambiente, documento, problemaCancelamento + pedido.numero + ". ")) {
+    if (!accept(environment, documento, cancellationProblem + request.number + ". ")) {
         return false;
     }
-    ambiente.boxes.show({.text = "Nota fiscal cancelada com sucesso",
-                         .icon = BoxIcon::Information,
-                         .title = "Aviso"});
+    environment.boxes.show({.text = "Nota fiscal cancelada com sucesso",
+                            .icon = BoxIcon::Information,
+                            .title = "Aviso"});
     return true;
 }
 

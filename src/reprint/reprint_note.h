@@ -16,62 +16,61 @@ struct Environment;
 
 // Adds an item for each series: its description, a gap that keeps the code out of
 // sight, "|" and the code. False: the loading of the screen ends here.
-bool carregaSeries(Environment& ambiente, const Sessao& sessao, std::vector<std::string>& itens);
+bool loadSeries(Environment& environment, const Sessao& session, std::vector<std::string>& items);
 
 // The code that an item carries: its second piece between bars.
-std::string codigoDaSerie(std::string_view item);
+std::string seriesCode(std::string_view item);
 
-struct MotivoCancelamento {
-    std::string descricao;
+struct CancelReason {
+    std::string description;
     std::int32_t id = 0;
 };
-std::vector<MotivoCancelamento> carregaMotivos(Environment& ambiente, const Sessao& sessao);
+std::vector<CancelReason> loadReasons(Environment& environment, const Sessao& session);
 
 // What the user chose and typed.
-struct CamposNota {
-    std::optional<std::string> serie;  // the chosen item, whole
-    std::string numero;
+struct NoteFields {
+    std::optional<std::string> series;  // the chosen item, whole
+    std::string number;
 };
 
 // What a search shows of a note.
-struct NotaEncontrada {
-    std::string numero;  // as it was typed
-    std::string serie;   // code
-    std::string tipo;    // code
-    std::string descricaoTipo;
-    std::string emissao;  // dd/mm/yyyy
-    std::string cliente;
+struct FoundNote {
+    std::string number;  // as it was typed
+    std::string series;  // code
+    std::string kind;    // code
+    std::string kindText;
+    std::string issued;  // dd/mm/yyyy
+    std::string customer;
 };
 
 // Notes of this type are printed again, but never cancelled here.
-inline constexpr std::string_view tipoSemCancelamento = "D";
+inline constexpr std::string_view uncancellableKind = "D";
 
 // Nothing: the user has been told.
-std::optional<NotaEncontrada> pesquisaNota(Environment& ambiente, const Sessao& sessao,
-                                           const CamposNota& campos);
+std::optional<FoundNote> searchNote(Environment& environment, const Sessao& session,
+                                    const NoteFields& fields);
 
 // Before either job: true when series and number are there and a note has been found
-// (`notaEncontrada`, its number, isn't empty). Otherwise the user has been told.
-bool notaSelecionada(Environment& ambiente, const CamposNota& campos,
-                     std::string_view notaEncontrada);
+// (`foundNote`, its number, isn't empty). Otherwise the user has been told.
+bool noteSelected(Environment& environment, const NoteFields& fields, std::string_view foundNote);
 
 // Fetches the note and prints it by the ladder of this screen. An error of the layout
 // comes out as ErroComNota.
-void reimprimeNota(Environment& ambiente, const Sessao& sessao, const std::string& numero,
-                   const std::string& serie);
+void reprintNote(Environment& environment, const Sessao& session, const std::string& number,
+                 const std::string& series);
 
-enum class NovoFaturamento { Com, Sem };
+enum class Rebilling { Com, Without };
 
-struct PedidoCancelamento {
-    std::string numero;
-    std::string serie;     // code
-    std::string tipoNota;  // code
-    std::optional<NovoFaturamento> opcao = std::nullopt;
-    std::optional<std::int32_t> motivo = std::nullopt;
+struct CancelRequest {
+    std::string number;
+    std::string series;    // code
+    std::string noteKind;  // code
+    std::optional<Rebilling> option = std::nullopt;
+    std::optional<std::int32_t> reason = std::nullopt;
 };
 
 // True: cancelled. The user has been told how it went in any case; nothing is asked
 // before and nothing is sent twice.
-bool cancelaNota(Environment& ambiente, const Sessao& sessao, const PedidoCancelamento& pedido);
+bool cancelNote(Environment& environment, const Sessao& session, const CancelRequest& request);
 
 }  // namespace tarn

@@ -124,7 +124,7 @@ void digitsByText(double magnitude, Decimal& decimal) {
 
 Decimal decimalOf(double value) {
     if (!std::isfinite(value)) {
-        throw ErroExecucao(ErroNumero::Estouro);
+        throw RuntimeError(RuntimeErrorCode::Overflow);
     }
     Decimal decimal;
     decimal.negative = std::signbit(value);

@@ -116,7 +116,7 @@ Integer readInteger(std::string_view text) {
     const double value = std::nearbyint(readComma(text));
     if (value < std::numeric_limits<Integer>::min() ||
         value > std::numeric_limits<Integer>::max()) {
-        throw ErroExecucao(ErroNumero::Estouro, text);
+        throw RuntimeError(RuntimeErrorCode::Overflow, text);
     }
     return static_cast<Integer>(value);
 }
@@ -139,7 +139,7 @@ bool isNumeric(std::string_view text) {
 double readComma(std::string_view text) {
     const std::optional<double> value = parseComma(text);
     if (!value) {
-        throw ErroExecucao(ErroNumero::TipoIncompativel, "\"" + std::string(text) + "\"");
+        throw RuntimeError(RuntimeErrorCode::TypeMismatch, "\"" + std::string(text) + "\"");
     }
     return *value;
 }

@@ -4,49 +4,49 @@ namespace tarn {
 
 namespace {
 
-std::string_view descricaoDe(ErroNumero numero) {
-    switch (numero) {
-        case ErroNumero::ArgumentoInvalido:
+std::string_view descriptionOf(RuntimeErrorCode number) {
+    switch (number) {
+        case RuntimeErrorCode::InvalidArgument:
             return "Um valor está fora do que a rotina aceita";
-        case ErroNumero::Estouro:
+        case RuntimeErrorCode::Overflow:
             return "Um número é grande demais";
-        case ErroNumero::ForaDoIntervalo:
+        case RuntimeErrorCode::OutOfRange:
             return "Falta uma parte de um dado";
-        case ErroNumero::TipoIncompativel:
+        case RuntimeErrorCode::TypeMismatch:
             return "Há um texto onde era esperado um número";
-        case ErroNumero::VariavelObjeto:
+        case RuntimeErrorCode::ObjectVariable:
             return "Falta um dado na resposta do servidor";
-        case ErroNumero::ObjetoObrigatorio:
+        case RuntimeErrorCode::ObjectRequired:
             return "O objeto é obrigatório";
     }
     return "Erro não previsto";
 }
 
-std::string comDetalhe(ErroNumero numero, std::string_view detalhe) {
-    std::string texto(descricaoDe(numero));
-    if (!detalhe.empty()) {
-        texto.append(": ").append(detalhe);
+std::string withDetail(RuntimeErrorCode number, std::string_view detail) {
+    std::string texto(descriptionOf(number));
+    if (!detail.empty()) {
+        texto.append(": ").append(detail);
     }
     return texto;
 }
 
 }  // namespace
 
-ErroExecucao::ErroExecucao(ErroNumero numero)
-    : std::runtime_error(std::string(descricaoDe(numero))), numero_(numero) {}
+RuntimeError::RuntimeError(RuntimeErrorCode number)
+    : std::runtime_error(std::string(descriptionOf(number))), number_(number) {}
 
-ErroExecucao::ErroExecucao(ErroNumero numero, std::string_view detalhe)
-    : std::runtime_error(comDetalhe(numero, detalhe)), numero_(numero) {}
+RuntimeError::RuntimeError(RuntimeErrorCode number, std::string_view detail)
+    : std::runtime_error(withDetail(number, detail)), number_(number) {}
 
-std::string textoDaFalha(const ErroExecucao& erro) {
-    return "Erro em tempo de execução '" + std::to_string(static_cast<int>(erro.numero())) +
-           "':\r\r" + erro.descricao() + ".";
+std::string failureText(const RuntimeError& error) {
+    return "Erro em tempo de execução '" + std::to_string(static_cast<int>(error.number())) +
+           "':\r\r" + error.description() + ".";
 }
 
-std::string textoDoRelatorio(const ErroExecucao& erro, bool notaPodeExistir) {
-    std::string texto = textoDaFalha(erro);
+std::string reportText(const RuntimeError& error, bool noteMayExist) {
+    std::string texto = failureText(error);
     texto += "\r\rO programa será encerrado. Anote esta mensagem e avise o suporte.";
-    if (notaPodeExistir) {
+    if (noteMayExist) {
         texto +=
             "\r\rA Nota Fiscal pode ter sido gerada no servidor. Caso tenha sido gerada, utilize a "
             "tela de Reimpressão de Nota Fiscal para imprimi-la.";

@@ -9,43 +9,43 @@
 
 namespace tarn {
 
-enum class ErroNumero : int {
-    ArgumentoInvalido = 5,
-    Estouro = 6,
-    ForaDoIntervalo = 9,
-    TipoIncompativel = 13,
-    VariavelObjeto = 91,
-    ObjetoObrigatorio = 424,
+enum class RuntimeErrorCode : int {
+    InvalidArgument = 5,
+    Overflow = 6,
+    OutOfRange = 9,
+    TypeMismatch = 13,
+    ObjectVariable = 91,
+    ObjectRequired = 424,
 };
 
-class ErroExecucao : public std::runtime_error {
+class RuntimeError : public std::runtime_error {
 public:
     // Describes itself in Portuguese by its number.
-    explicit ErroExecucao(ErroNumero numero);
-    // `detalhe` (Portuguese, UTF-8) follows the number's own description after ": ".
-    ErroExecucao(ErroNumero numero, std::string_view detalhe);
+    explicit RuntimeError(RuntimeErrorCode number);
+    // `detail` (Portuguese, UTF-8) follows the number's own description after ": ".
+    RuntimeError(RuntimeErrorCode number, std::string_view detail);
 
-    ErroNumero numero() const noexcept { return numero_; }
-    std::string descricao() const { return what(); }
+    RuntimeErrorCode number() const noexcept { return number_; }
+    std::string description() const { return what(); }
 
 private:
-    ErroNumero numero_;
+    RuntimeErrorCode number_;
 };
 
 // The same after a fiscal note was asked of the server: it may exist there, unprinted.
-class ErroComNota : public ErroExecucao {
+class ErrorAfterNote : public RuntimeError {
 public:
-    explicit ErroComNota(const ErroExecucao& erro) : ErroExecucao(erro) {}
+    explicit ErrorAfterNote(const RuntimeError& error) : RuntimeError(error) {}
 };
 
-inline constexpr int statusErroExecucao = 3;  // exit status of a program that such an error ended
+inline constexpr int runtimeErrorStatus = 3;  // exit status of a program that such an error ended
 
 // "Erro em tempo de execução 'N':", two line ends (character 13), the description and a
 // full stop: what every report of such an error begins with.
-std::string textoDaFalha(const ErroExecucao& erro);
+std::string failureText(const RuntimeError& error);
 
 // Text of the box that ends the program: textoDaFalha, that it ends, and, when a fiscal
 // note may already exist on the server, how to print it.
-std::string textoDoRelatorio(const ErroExecucao& erro, bool notaPodeExistir);
+std::string reportText(const RuntimeError& error, bool noteMayExist);
 
 }  // namespace tarn

@@ -14,9 +14,9 @@ class frmPesqBoleto;
 
 namespace tarn {
 
-class GradeModel;
-struct FiltroDeBoletos;
-struct RecusaDeBoletos;
+class GridModel;
+struct SlipFilter;
+struct SlipRefusal;
 
 class frmPesqBoleto : public QDialog {
     Q_OBJECT
@@ -26,35 +26,35 @@ public:
     ~frmPesqBoleto() override;
 
     // The customer to search for, also before the screen is shown.
-    void recebeCliente(const Cliente& cliente);
+    void takeCustomer(const Customer& customer);
 
 signals:
     // To be answered by the customer dialog, which has closed when this returns.
-    void procuraCliente();
+    void customerWanted();
     // It has come before the user.
-    void apareceu();
+    void shown();
 
 protected:
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void preparaCampos();
-    void preparaBotoes();
+    void prepareFields();
+    void prepareButtons();
     // On every activation: both lists are filled anew.
-    void ativa();
+    void activate();
     // Tells why, and brings the focus to the field.
-    void recusa(const RecusaDeBoletos& motivo);
-    void mostra(const FiltroDeBoletos& filtro);
+    void refuse(const SlipRefusal& reason);
+    void show(const SlipFilter& filter);
 
     void cmdPesqCli_Click();
     void cmdPesquisar_Click();
     void cmdImprimir_Click();
-    void chkInc_Carteira_Click(bool marcado);
+    void chkInc_Carteira_Click(bool ticked);
 
     DeskContext& desk_;
     std::unique_ptr<Ui::frmPesqBoleto> ui_;
-    GradeModel* documentos_;
+    GridModel* documents_;
 };
 
 }  // namespace tarn

@@ -8,31 +8,32 @@
 
 namespace tarn {
 
-bool CarteiraCobranca::carteira57() const {
+bool Portfolio::isWallet57() const {
     return parseComma(NR_CRT_CNAB) == 57.0;
 }
 
-CarteiraCobranca carteiraDe(const XmlDocument& resposta) {
-    CarteiraCobranca carteira;
-    const XmlNode linhas = resposta.selectSingleNode("xml/rs:data");
-    const std::size_t quantas = linhas ? linhas.childCount() : 0;
-    for (std::size_t i = 0; i < quantas; ++i) {
-        carteira = {.ID_CRT_COB = pegaTexto(linhas, i, "ID_CRT_COB"),
-                    .ID_PES_BAN = pegaTexto(linhas, i, "ID_PES_BAN"),
-                    .NR_CRT_CNAB = pegaTexto(linhas, i, "NR_CRT_CNAB"),
-                    .CD_AGE_BAN_CNAB = pegaTexto(linhas, i, "CD_AGE_BAN_CNAB"),
-                    .NR_CCOR_CNAB = pegaTexto(linhas, i, "NR_CCOR_CNAB")};
+Portfolio portfolioOf(const XmlDocument& answer) {
+    Portfolio portfolio;
+    const XmlNode linhas = answer.selectSingleNode("xml/rs:data");
+    const std::size_t count = linhas ? linhas.childCount() : 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        portfolio = {.ID_CRT_COB = textAttribute(linhas, i, "ID_CRT_COB"),
+                     .ID_PES_BAN = textAttribute(linhas, i, "ID_PES_BAN"),
+                     .NR_CRT_CNAB = textAttribute(linhas, i, "NR_CRT_CNAB"),
+                     .CD_AGE_BAN_CNAB = textAttribute(linhas, i, "CD_AGE_BAN_CNAB"),
+                     .NR_CCOR_CNAB = textAttribute(linhas, i, "NR_CCOR_CNAB")};
     }
-    return carteira;
+    return portfolio;
 }
 
-std::optional<CarteiraCobranca> carregaCarteira(Environment& ambiente, const Sessao& sessao,
-                                                std::int32_t idCarteira) {
-    XmlDocument resposta;
-    if (!pede(ambiente, comando::sel_carteira_cob(sessao, idCarteira), resposta, falha::Tarn0009)) {
+std::optional<Portfolio> loadPortfolio(Environment& environment, const Sessao& session,
+                                       std::int32_t portfolioId) {
+    XmlDocument answer;
+    if (!requestAnswer(environment, commands::sel_carteira_cob(session, portfolioId), answer,
+                       failure::Tarn0009)) {
         return std::nullopt;
     }
-    return carteiraDe(resposta);
+    return portfolioOf(answer);
 }
 
 }  // namespace tarn

@@ -13,21 +13,21 @@ namespace tarn {
 struct Environment;
 
 // All as text, as the server has them; empty when it has none.
-struct CarteiraCobranca {
+struct Portfolio {
     std::string ID_CRT_COB;
     std::string ID_PES_BAN;
     std::string NR_CRT_CNAB;  // wallet
     std::string CD_AGE_BAN_CNAB;
     std::string NR_CCOR_CNAB;
 
-    bool carteira57() const;
+    bool isWallet57() const;
 };
 
 // With several rows the last one stands, each field on its own.
-CarteiraCobranca carteiraDe(const XmlDocument& resposta);
+Portfolio portfolioOf(const XmlDocument& answer);
 
 // By the item data of the list; nothing: the user has been told.
-std::optional<CarteiraCobranca> carregaCarteira(Environment& ambiente, const Sessao& sessao,
-                                                std::int32_t idCarteira);
+std::optional<Portfolio> loadPortfolio(Environment& environment, const Sessao& session,
+                                       std::int32_t portfolioId);
 
 }  // namespace tarn

@@ -22,160 +22,159 @@ namespace {
 
 // ESC/P.
 constexpr std::string_view doze = "\x0F\x1BM";  // condensed, 12 characters an inch
-constexpr std::string_view seisPorPolegada =
+constexpr std::string_view sixPerInch =
     "\x1B"
-    "2";                                               // lines
-constexpr std::string_view batidaDupla = "\x0F\x1BG";  // condensed, double strike
+    "2";                                                // lines
+constexpr std::string_view doubleStrike = "\x0F\x1BG";  // condensed, double strike
 
 // ID_PES_BAN of the banks whose forms these are.
-constexpr std::array<double, 3> bancosAtendidos{1016, 1084, 1095};
+constexpr std::array<double, 3> servedBanks{1016, 1084, 1095};
 
-bool bancoAtendido(std::string_view banco) {
-    const auto numero = parseComma(banco);
-    return numero && std::find(bancosAtendidos.begin(), bancosAtendidos.end(), *numero) !=
-                         bancosAtendidos.end();
+bool isServedBank(std::string_view bank) {
+    const auto number = parseComma(bank);
+    return number &&
+           std::find(servedBanks.begin(), servedBanks.end(), *number) != servedBanks.end();
 }
 
-class Corrida {
+class SlipJob {
 public:
-    Corrida(Environment& ambiente, const Sessao& sessao, const CarteiraCobranca& carteira,
-            const PedidoDeBoletos& pedido)
-        : ambiente_(ambiente),
-          sessao_(sessao),
-          carteira_(carteira),
-          incluiCarteira_(pedido.incluiCarteira),
-          corrente_(carteira, pedido.proximo),
-          canal_(ambiente.spooler, ambiente.codePage) {}
+    SlipJob(Environment& environment, const Sessao& session, const Portfolio& portfolio,
+            const SlipRun& request)
+        : environment_(environment),
+          session_(session),
+          portfolio_(portfolio),
+          includesPortfolio_(request.includesPortfolio),
+          running_(portfolio, request.next),
+          channel_(environment.spooler, environment.codePage) {}
 
-    void preparaImpressora();
+    void preparePrinter();
     // The job for it is open.
-    void imprime(const LinhaGrade& documento);
-    int impressos() const { return impressos_; }
+    void print(const GridRow& documento);
+    int printed() const { return printed_; }
 
 private:
-    void manda(const std::string& consulta);
-    void grava(const LinhaGrade& documento, const NossoNumero& numero);
-    void conta();
-    void envia(std::string_view sequencia);
+    void sendQuery(const std::string& query);
+    void save(const GridRow& documento, const SlipNumber& number);
+    void account();
+    void send(std::string_view sequence);
 
-    Environment& ambiente_;
-    const Sessao& sessao_;
-    const CarteiraCobranca& carteira_;
-    bool incluiCarteira_;
-    NumeroCorrente corrente_;
-    RawChannel canal_;
-    std::int16_t impressos_ = 0;
+    Environment& environment_;
+    const Sessao& session_;
+    const Portfolio& portfolio_;
+    bool includesPortfolio_;
+    RunningNumber running_;
+    RawChannel channel_;
+    std::int16_t printed_ = 0;
 };
 
-void Corrida::envia(std::string_view sequencia) {
-    std::string texto(sequencia);
-    canal_.ImprimeRaw(1, texto, 0);
+void SlipJob::send(std::string_view sequence) {
+    std::string texto(sequence);
+    channel_.ImprimeRaw(1, texto, 0);
 }
 
 // A job of its own, then the slip's.
-void Corrida::preparaImpressora() {
-    canal_.abre();
-    envia(doze);
-    canal_.fecha();
-    canal_.abre();
-    envia(seisPorPolegada);
-    envia(batidaDupla);
+void SlipJob::preparePrinter() {
+    channel_.open();
+    send(doze);
+    channel_.close();
+    channel_.open();
+    send(sixPerInch);
+    send(doubleStrike);
 }
 
-void Corrida::manda(const std::string& consulta) {
-    ambiente_.http.get(ambiente_.baseUrl + consulta);
+void SlipJob::sendQuery(const std::string& query) {
+    environment_.http.get(environment_.baseUrl + query);
 }
 
-void Corrida::grava(const LinhaGrade& documento, const NossoNumero& numero) {
-    const comando::Boleto boleto{.filial = documento.coluna(coluna_boleto::estabelecimento),
-                                 .tipoDocumento = documento.coluna(coluna_boleto::tipoDocumento),
-                                 .documento = documento.coluna(coluna_boleto::numero),
-                                 .numeroControle = documento.coluna(coluna_boleto::numeroControle),
-                                 .carteira = carteira_.ID_CRT_COB,
-                                 .numeroBancario = numero.NR_BOL_BANC};
-    const bool deCobranca = documento.coluna(coluna_boleto::tabela) == "DOCTO_COBRANCA";
-    const bool carteira57 = carteira_.carteira57();
-    const auto chave =
-        carteira57 ? comando::ChaveControle::ID_NR_CTL : comando::ChaveControle::ID_NR_CLT;
-    manda(deCobranca ? comando::altera_docto_cob(sessao_, boleto)
-                     : comando::altera_docto_rec(sessao_, boleto, chave));
-    if (carteira57) {
-        manda(deCobranca ? comando::insere_car_cob(sessao_, boleto)
-                         : comando::insere_car_rec(sessao_, boleto));
+void SlipJob::save(const GridRow& documento, const SlipNumber& number) {
+    const commands::Slip slip{.branch = documento.coluna(slip_column::establishment),
+                              .documentKind = documento.coluna(slip_column::documentKind),
+                              .documento = documento.coluna(slip_column::number),
+                              .controlNumber = documento.coluna(slip_column::controlNumber),
+                              .portfolio = portfolio_.ID_CRT_COB,
+                              .bankNumber = number.NR_BOL_BANC};
+    const bool forCollection = documento.coluna(slip_column::table) == "DOCTO_COBRANCA";
+    const bool isWallet57 = portfolio_.isWallet57();
+    const auto key = isWallet57 ? commands::ControlKey::ID_NR_CTL : commands::ControlKey::ID_NR_CLT;
+    sendQuery(forCollection ? commands::altera_docto_cob(session_, slip)
+                            : commands::altera_docto_rec(session_, slip, key));
+    if (isWallet57) {
+        sendQuery(forCollection ? commands::insere_car_cob(session_, slip)
+                                : commands::insere_car_rec(session_, slip));
     }
 }
 
 // The document of a bank without a form leaves its job open.
-void Corrida::imprime(const LinhaGrade& documento) {
-    if (!bancoAtendido(incluiCarteira_ ? carteira_.ID_PES_BAN
-                                       : documento.coluna(coluna_boleto::banco))) {
+void SlipJob::print(const GridRow& documento) {
+    if (!isServedBank(includesPortfolio_ ? portfolio_.ID_PES_BAN
+                                         : documento.coluna(slip_column::bank))) {
         return;
     }
-    const NossoNumero numero = corrente_.nossoNumero();
-    grava(documento, numero);
-    if (carteira_.carteira57()) {
-        imprimeLinhasCarteira57(canal_, documento, numero);
+    const SlipNumber number = running_.slipNumber();
+    save(documento, number);
+    if (portfolio_.isWallet57()) {
+        printWallet57Lines(channel_, documento, number);
     } else {
-        imprimeLinhasSeteDigitos(canal_, documento, numero);
+        printSevenDigitLines(channel_, documento, number);
     }
-    canal_.fecha();
-    conta();
+    channel_.close();
+    account();
 }
 
-void Corrida::conta() {
-    corrente_.avanca();
-    if (impressos_ == std::numeric_limits<std::int16_t>::max()) {
-        throw ErroExecucao(ErroNumero::Estouro, "boletos impressos de uma vez");
+void SlipJob::account() {
+    running_.advance();
+    if (printed_ == std::numeric_limits<std::int16_t>::max()) {
+        throw RuntimeError(RuntimeErrorCode::Overflow, "boletos impressos de uma vez");
     }
-    ++impressos_;
+    ++printed_;
 }
 
 // Tells how many of the ticked rows are done with.
-class Contagem {
+class Count {
 public:
-    Contagem(const Progress& avisa, std::span<const LinhaGrade> linhas)
-        : avisa_(avisa),
+    Count(const Progress& report, std::span<const GridRow> linhas)
+        : callback_(report),
           total_(static_cast<std::size_t>(std::count_if(
-              linhas.begin(), linhas.end(), [](const LinhaGrade& l) { return l.marcada; }))) {
-        diz();
+              linhas.begin(), linhas.end(), [](const GridRow& l) { return l.ticked; }))) {
+        say();
     }
-    void avanca() {
-        ++feitas_;
-        diz();
+    void advance() {
+        ++done_;
+        say();
     }
 
 private:
-    void diz() const {
-        if (avisa_ && total_ > 0) {
-            avisa_(feitas_, total_);
+    void say() const {
+        if (callback_ && total_ > 0) {
+            callback_(done_, total_);
         }
     }
 
-    const Progress& avisa_;
+    const Progress& callback_;
     std::size_t total_;
-    std::size_t feitas_ = 0;
+    std::size_t done_ = 0;
 };
 
 }  // namespace
 
-void imprimeBoletos(Environment& ambiente, const Sessao& sessao, const CarteiraCobranca& carteira,
-                    const PedidoDeBoletos& pedido, std::span<const LinhaGrade> linhas,
-                    const TelaDeBoletos& tela) {
-    Corrida corrida(ambiente, sessao, carteira, pedido);
-    Contagem contagem(tela.andamento, linhas);
+void printSlips(Environment& environment, const Sessao& session, const Portfolio& portfolio,
+                const SlipRun& request, std::span<const GridRow> linhas,
+                const SlipRunView& screen) {
+    SlipJob slipJob(environment, session, portfolio, request);
+    Count count(screen.progress, linhas);
     for (std::size_t i = 0; i < linhas.size(); ++i) {
-        if (linhas[i].marcada) {
-            corrida.preparaImpressora();
-            tela.desmarca(i);
-            corrida.imprime(linhas[i]);
-            contagem.avanca();
+        if (linhas[i].ticked) {
+            slipJob.preparePrinter();
+            screen.untick(i);
+            slipJob.print(linhas[i]);
+            count.advance();
         }
-        tela.passou();
+        screen.passed();
     }
-    if (corrida.impressos() == 0) {
-        ambiente.boxes.show({.text = "Selecione um item na Lista!     ",
-                             .icon = BoxIcon::Information,
-                             .title = "TArn"});
+    if (slipJob.printed() == 0) {
+        environment.boxes.show({.text = "Selecione um item na Lista!     ",
+                                .icon = BoxIcon::Information,
+                                .title = "TArn"});
     }
 }
 

@@ -17,23 +17,22 @@ namespace tarn {
 struct Environment;
 
 // What shows of a run on the screen that began it; rows count from 0.
-struct TelaDeBoletos {
-    std::function<void(std::size_t)> desmarca;  // sets `marcada` of the row to false
-    std::function<void()> passou = [] {};       // after each row, ticked or not
-    Progress andamento = {};                    // counts the ticked rows
+struct SlipRunView {
+    std::function<void(std::size_t)> untick;  // sets `ticked` of the row to false
+    std::function<void()> passed = [] {};     // after each row, ticked or not
+    Progress progress = {};                   // counts the ticked rows
 };
 
-struct PedidoDeBoletos {
-    std::string proximo;          // number of the first slip, as typed
-    bool incluiCarteira = false;  // the portfolio's bank counts, not each row's own
+struct SlipRun {
+    std::string next;                // number of the first slip, as typed
+    bool includesPortfolio = false;  // the portfolio's bank counts, not each row's own
 };
 
 // The writes are sent and nothing of them is looked at: a slip is printed whatever
 // became of them. Tells the user when no slip was printed. Raises TipoIncompativel for a
 // number or a portfolio that can't be worked with, ArgumentoInvalido when the number
 // has no next one, Estouro past 32767 slips; what was written and printed stays.
-void imprimeBoletos(Environment& ambiente, const Sessao& sessao, const CarteiraCobranca& carteira,
-                    const PedidoDeBoletos& pedido, std::span<const LinhaGrade> linhas,
-                    const TelaDeBoletos& tela);
+void printSlips(Environment& environment, const Sessao& session, const Portfolio& portfolio,
+                const SlipRun& request, std::span<const GridRow> linhas, const SlipRunView& screen);
 
 }  // namespace tarn

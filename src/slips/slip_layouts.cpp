@@ -12,143 +12,141 @@
 namespace tarn {
 namespace {
 
-constexpr NumberMask duasCasas{"###,##0.00"};
-constexpr std::size_t larguraDaInstrucao = 79;
+constexpr NumberMask twoPlaces{"###,##0.00"};
+constexpr std::size_t instructionWidth = 79;
 
 // One slip, line by line. A value's control characters print as blanks.
-class Boleto {
+class Slip {
 public:
-    Boleto(RawChannel& canal, const LinhaGrade& documento) : canal_(canal), documento_(documento) {}
+    Slip(RawChannel& channel, const GridRow& documento)
+        : channel_(channel), documento_(documento) {}
 
     const std::string& operator[](std::size_t coluna) const { return documento_.coluna(coluna); }
 
-    Boleto& brancos(std::size_t quantos) {
-        linha_.append(quantos, ' ');
+    Slip& blanks(std::size_t count) {
+        linha_.append(count, ' ');
         return *this;
     }
-    Boleto& texto(std::string_view valor) {
+    Slip& texto(std::string_view valor) {
         appendBlankingControls(linha_, valor);
         return *this;
     }
-    Boleto& campo(std::string_view valor, int largura) {
-        appendCampo(linha_, valor, largura, false);
+    Slip& field(std::string_view valor, int largura) {
+        appendField(linha_, valor, largura, false);
         return *this;
     }
-    Boleto& data(std::size_t coluna, int largura) {
-        return campo(formatDateText(documento_.coluna(coluna)), largura);
+    Slip& data(std::size_t coluna, int largura) {
+        return field(formatDateText(documento_.coluna(coluna)), largura);
     }
-    Boleto& valor() {
-        appendCampo(linha_, formatText(documento_.coluna(coluna_boleto::valor), duasCasas), 16,
-                    true);
+    Slip& valor() {
+        appendField(linha_, formatText(documento_.coluna(slip_column::valor), twoPlaces), 16, true);
         return *this;
     }
     // Sends the line; an empty one is the blank of its column alone.
-    void sai(int linhas) {
-        canal_.ImprimeRaw(1, linha_, linhas);
+    void out(int linhas) {
+        channel_.ImprimeRaw(1, linha_, linhas);
         linha_.clear();
     }
 
     // Pieces of the instruction, a line each; what the text doesn't reach is one blank.
-    void instrucao(int pedacos) {
-        std::size_t inicio = 1;
-        for (int i = 0; i < pedacos; ++i) {
-            const std::string_view pedaco =
-                midOf(documento_.coluna(coluna_boleto::instrucao), inicio, larguraDaInstrucao);
-            texto(pedaco.empty() ? " " : pedaco).sai(1);
-            inicio += larguraDaInstrucao;
+    void instruction(int pieces) {
+        std::size_t start = 1;
+        for (int i = 0; i < pieces; ++i) {
+            const std::string_view piece =
+                midOf(documento_.coluna(slip_column::instruction), start, instructionWidth);
+            texto(piece.empty() ? " " : piece).out(1);
+            start += instructionWidth;
         }
     }
 
 private:
-    RawChannel& canal_;
-    const LinhaGrade& documento_;
+    RawChannel& channel_;
+    const GridRow& documento_;
     std::string linha_;
 };
 
 // The point-reading conversion stops at the comma of the grid: 2,50 is 2.
-double multaDe(const Boleto& boleto) {
-    return readPoint(boleto[coluna_boleto::multa]);
+double fineOf(const Slip& slip) {
+    return readPoint(slip[slip_column::fine]);
 }
 
-std::string multaFormatada(const Boleto& boleto) {
-    return formatNumber(multaDe(boleto), duasCasas);
+std::string formattedFine(const Slip& slip) {
+    return formatNumber(fineOf(slip), twoPlaces);
 }
 
-std::string jurosFormatados(const Boleto& boleto) {
-    return formatText(boleto[coluna_boleto::jurosAoDia], duasCasas);
+std::string formattedInterest(const Slip& slip) {
+    return formatText(slip[slip_column::dailyInterest], twoPlaces);
 }
 
-std::string encargos(const Boleto& boleto) {
-    const std::string& juros = boleto[coluna_boleto::jurosAoDia];
-    const bool temJuros = !juros.empty() && readComma(juros) != 0;
-    const bool temMulta = multaDe(boleto) != 0;
-    if (temJuros && !temMulta) {
-        return "COBRAR JUROS DE " + jurosFormatados(boleto) + " AO DIA";
+std::string charges(const Slip& slip) {
+    const std::string& interest = slip[slip_column::dailyInterest];
+    const bool hasInterest = !interest.empty() && readComma(interest) != 0;
+    const bool hasFine = fineOf(slip) != 0;
+    if (hasInterest && !hasFine) {
+        return "COBRAR JUROS DE " + formattedInterest(slip) + " AO DIA";
     }
-    if (!temJuros && temMulta) {
-        return "COBRAR MULTA DE " + multaFormatada(boleto) + "% AO DIA";
+    if (!hasInterest && hasFine) {
+        return "COBRAR MULTA DE " + formattedFine(slip) + "% AO DIA";
     }
-    return "COBRAR MULTA DE " + multaFormatada(boleto) + "% + JUROS DE " + jurosFormatados(boleto) +
+    return "COBRAR MULTA DE " + formattedFine(slip) + "% + JUROS DE " + formattedInterest(slip) +
            " AO DIA";
 }
 
-std::string municipio(const Boleto& boleto) {
-    return boleto[coluna_boleto::municipio] + " - " + boleto[coluna_boleto::estado] + "   " +
-           boleto[coluna_boleto::cep];
+std::string town(const Slip& slip) {
+    return slip[slip_column::town] + " - " + slip[slip_column::state] + "   " +
+           slip[slip_column::cep];
 }
 
-void sacadoCarteira57(Boleto& boleto) {
-    boleto.brancos(3).campo(boleto[coluna_boleto::cliente], 54);
-    boleto.brancos(42).campo(boleto[coluna_boleto::cpfCnpj], 49).sai(1);
-    boleto.campo(boleto[coluna_boleto::endereco], 54).brancos(45);
-    boleto.texto("I.E. ").campo(boleto[coluna_boleto::inscricao], 20).sai(1);
-    boleto.campo(municipio(boleto), 70).sai(1);
+void wallet57Payer(Slip& slip) {
+    slip.blanks(3).field(slip[slip_column::customer], 54);
+    slip.blanks(42).field(slip[slip_column::cpfCnpj], 49).out(1);
+    slip.field(slip[slip_column::address], 54).blanks(45);
+    slip.texto("I.E. ").field(slip[slip_column::registration], 20).out(1);
+    slip.field(town(slip), 70).out(1);
 }
 
-void sacadoSeteDigitos(Boleto& boleto, const NossoNumero& numero) {
-    boleto.brancos(3).campo(boleto[coluna_boleto::cliente], 60).brancos(10);
-    boleto.texto("CNPJ/CPF ").campo(boleto[coluna_boleto::cpfCnpj], 49).sai(1);
-    boleto.brancos(3).campo(boleto[coluna_boleto::endereco], 69).brancos(1);
-    boleto.texto("I.E. ").campo(boleto[coluna_boleto::inscricao], 20).sai(1);
-    boleto.campo("   " + municipio(boleto), 63).brancos(10).texto("N.N.  ").texto(numero.digitos);
-    boleto.texto("-").texto(std::to_string(numero.digito)).sai(1);
+void sevenDigitPayer(Slip& slip, const SlipNumber& number) {
+    slip.blanks(3).field(slip[slip_column::customer], 60).blanks(10);
+    slip.texto("CNPJ/CPF ").field(slip[slip_column::cpfCnpj], 49).out(1);
+    slip.blanks(3).field(slip[slip_column::address], 69).blanks(1);
+    slip.texto("I.E. ").field(slip[slip_column::registration], 20).out(1);
+    slip.field("   " + town(slip), 63).blanks(10).texto("N.N.  ").texto(number.digits);
+    slip.texto("-").texto(std::to_string(number.digit)).out(1);
 }
 
 }  // namespace
 
-void imprimeLinhasCarteira57(RawChannel& canal, const LinhaGrade& documento,
-                             const NossoNumero& numero) {
-    Boleto boleto(canal, documento);
-    boleto.brancos(1).sai(1);
-    boleto.brancos(100).data(coluna_boleto::vencimento, 16).sai(3);
-    boleto.data(coluna_boleto::emissao, 14).brancos(3);
-    boleto.campo(boleto[coluna_boleto::numero], 30).sai(1);
-    boleto.brancos(111).valor().brancos(1).sai(2);
-    boleto.instrucao(3);
-    boleto.brancos(1).sai(1);
-    boleto.texto(encargos(boleto)).sai(1);
-    boleto.texto("NOSSO NUMERO: ").texto(numero.digitos).texto("/");
-    boleto.texto(std::to_string(numero.digito)).brancos(3);
-    boleto.texto("CODIGO CLIENTE: ").texto(boleto[coluna_boleto::codigoExterno]).sai(2);
-    sacadoCarteira57(boleto);
-    boleto.brancos(1).sai(7);
+void printWallet57Lines(RawChannel& channel, const GridRow& documento, const SlipNumber& number) {
+    Slip slip(channel, documento);
+    slip.blanks(1).out(1);
+    slip.blanks(100).data(slip_column::due, 16).out(3);
+    slip.data(slip_column::issued, 14).blanks(3);
+    slip.field(slip[slip_column::number], 30).out(1);
+    slip.blanks(111).valor().blanks(1).out(2);
+    slip.instruction(3);
+    slip.blanks(1).out(1);
+    slip.texto(charges(slip)).out(1);
+    slip.texto("NOSSO NUMERO: ").texto(number.digits).texto("/");
+    slip.texto(std::to_string(number.digit)).blanks(3);
+    slip.texto("CODIGO CLIENTE: ").texto(slip[slip_column::externalCode]).out(2);
+    wallet57Payer(slip);
+    slip.blanks(1).out(7);
 }
 
-void imprimeLinhasSeteDigitos(RawChannel& canal, const LinhaGrade& documento,
-                              const NossoNumero& numero) {
-    Boleto boleto(canal, documento);
-    boleto.sai(1);
-    boleto.texto("ATE O VENCIMENTO, PREFERENCIALMENTE NO SANTANDER").sai(1);
-    boleto.texto("APOS O VENCIMENTO, SOMENTE NO SANTANDER").brancos(45);
-    boleto.data(coluna_boleto::vencimento, 16).sai(3);
-    boleto.data(coluna_boleto::emissao, 14).brancos(1);
-    boleto.campo(boleto[coluna_boleto::numero], 30).sai(1);
-    boleto.brancos(90).valor().brancos(1).sai(2);
-    boleto.instrucao(4);
-    boleto.texto("COBRAR MULTA DE ").texto(multaFormatada(boleto)).texto("% + JUROS DE").sai(1);
-    boleto.texto(jurosFormatados(boleto)).texto(" AO DIA").sai(2);
-    sacadoSeteDigitos(boleto, numero);
-    boleto.sai(6);
+void printSevenDigitLines(RawChannel& channel, const GridRow& documento, const SlipNumber& number) {
+    Slip slip(channel, documento);
+    slip.out(1);
+    slip.texto("ATE O VENCIMENTO, PREFERENCIALMENTE NO SANTANDER").out(1);
+    slip.texto("APOS O VENCIMENTO, SOMENTE NO SANTANDER").blanks(45);
+    slip.data(slip_column::due, 16).out(3);
+    slip.data(slip_column::issued, 14).blanks(1);
+    slip.field(slip[slip_column::number], 30).out(1);
+    slip.blanks(90).valor().blanks(1).out(2);
+    slip.instruction(4);
+    slip.texto("COBRAR MULTA DE ").texto(formattedFine(slip)).texto("% + JUROS DE").out(1);
+    slip.texto(formattedInterest(slip)).texto(" AO DIA").out(2);
+    sevenDigitPayer(slip, number);
+    slip.out(6);
 }
 
 }  // namespace tarn

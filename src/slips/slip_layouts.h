@@ -8,10 +8,8 @@
 
 namespace tarn {
 
-void imprimeLinhasCarteira57(RawChannel& canal, const LinhaGrade& documento,
-                             const NossoNumero& numero);
+void printWallet57Lines(RawChannel& channel, const GridRow& documento, const SlipNumber& number);
 // Every other wallet.
-void imprimeLinhasSeteDigitos(RawChannel& canal, const LinhaGrade& documento,
-                              const NossoNumero& numero);
+void printSevenDigitLines(RawChannel& channel, const GridRow& documento, const SlipNumber& number);
 
 }  // namespace tarn

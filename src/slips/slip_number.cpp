@@ -12,91 +12,91 @@
 namespace tarn {
 namespace {
 
-constexpr std::size_t caracteresDoModulo10 = 23;
-constexpr std::array<int, 7> pesosDoModulo11{8, 7, 6, 5, 4, 3, 2};
+constexpr std::size_t modulo10Characters = 23;
+constexpr std::array<int, 7> modulo11Weights{8, 7, 6, 5, 4, 3, 2};
 
-int valorDoDigito(char caractere) {
-    if (caractere < '0' || caractere > '9') {
-        throw ErroExecucao(ErroNumero::TipoIncompativel,
+int digitValue(char character) {
+    if (character < '0' || character > '9') {
+        throw RuntimeError(RuntimeErrorCode::TypeMismatch,
                            "número do boleto, agência ou conta da carteira");
     }
-    return caractere - '0';
+    return character - '0';
 }
 
-void exigeTamanho(std::string_view texto, std::size_t minimo, std::string_view detalhe) {
-    if (lengthOf(texto) < minimo) {
-        throw ErroExecucao(ErroNumero::ArgumentoInvalido, detalhe);
+void requireSize(std::string_view texto, std::size_t minimum, std::string_view detail) {
+    if (lengthOf(texto) < minimum) {
+        throw RuntimeError(RuntimeErrorCode::InvalidArgument, detail);
     }
 }
 
 }  // namespace
 
-int DigitoModulo10(std::string_view digitos, std::string_view agencia, std::string_view conta) {
-    std::string juntos(digitos);
-    juntos.append(agencia).append(conta);
-    juntos = replaceAll(juntos, "-", "");
-    exigeTamanho(juntos, caracteresDoModulo10,
-                 "número do boleto, agência e conta da carteira têm menos de 23 algarismos");
-    int soma = 0;
-    for (std::size_t i = 0; i < caracteresDoModulo10; ++i) {
-        const int produto = valorDoDigito(juntos[i]) * (i % 2 == 0 ? 1 : 2);
-        soma += produto / 10 + produto % 10;
+int DigitoModulo10(std::string_view digits, std::string_view agency, std::string_view account) {
+    std::string together(digits);
+    together.append(agency).append(account);
+    together = replaceAll(together, "-", "");
+    requireSize(together, modulo10Characters,
+                "número do boleto, agência e conta da carteira têm menos de 23 algarismos");
+    int sum = 0;
+    for (std::size_t i = 0; i < modulo10Characters; ++i) {
+        const int product = digitValue(together[i]) * (i % 2 == 0 ? 1 : 2);
+        sum += product / 10 + product % 10;
     }
-    return (10 - soma % 10) % 10;
+    return (10 - sum % 10) % 10;
 }
 
-int DigitoModulo11(std::string_view digitos) {
-    exigeTamanho(digitos, pesosDoModulo11.size(), "número do boleto com menos de 7 algarismos");
-    int soma = 0;
-    for (std::size_t i = 0; i < pesosDoModulo11.size(); ++i) {
-        soma += valorDoDigito(digitos[i]) * pesosDoModulo11[i];
+int DigitoModulo11(std::string_view digits) {
+    requireSize(digits, modulo11Weights.size(), "número do boleto com menos de 7 algarismos");
+    int sum = 0;
+    for (std::size_t i = 0; i < modulo11Weights.size(); ++i) {
+        sum += digitValue(digits[i]) * modulo11Weights[i];
     }
-    const int resto = soma % 11;
-    if (resto == 10) {
+    const int rest = sum % 11;
+    if (rest == 10) {
         return 1;
     }
-    return resto <= 1 ? 0 : 11 - resto;
+    return rest <= 1 ? 0 : 11 - rest;
 }
 
-std::string trezeDigitos(double numero) {
-    return formatNumber(numero, "0000000000000");
+std::string thirteenDigits(double number) {
+    return formatNumber(number, "0000000000000");
 }
 
-std::string seteDigitos(double numero) {
-    return formatNumber(numero, "0000000");
+std::string sevenDigits(double number) {
+    return formatNumber(number, "0000000");
 }
 
-NumeroCorrente::NumeroCorrente(const CarteiraCobranca& carteira, std::string_view digitado)
-    : carteira_(carteira) {
-    if (!isNumeric(digitado)) {
-        throw ErroExecucao(ErroNumero::TipoIncompativel, "número do próximo boleto");
+RunningNumber::RunningNumber(const Portfolio& portfolio, std::string_view typed)
+    : portfolio_(portfolio) {
+    if (!isNumeric(typed)) {
+        throw RuntimeError(RuntimeErrorCode::TypeMismatch, "número do próximo boleto");
     }
-    const double numero = readComma(digitado);
-    texto_ = carteira.carteira57() ? numberText(numero) : seteDigitos(numero);
+    const double number = readComma(typed);
+    texto_ = portfolio.isWallet57() ? numberText(number) : sevenDigits(number);
 }
 
-NossoNumero NumeroCorrente::nossoNumero() const {
-    if (carteira_.carteira57()) {
-        std::string digitos = trezeDigitos(readComma(texto_));
-        const int digito =
-            DigitoModulo10(digitos, carteira_.CD_AGE_BAN_CNAB, carteira_.NR_CCOR_CNAB);
-        return {.digitos = std::move(digitos), .digito = digito, .NR_BOL_BANC = texto_};
+SlipNumber RunningNumber::slipNumber() const {
+    if (portfolio_.isWallet57()) {
+        std::string digits = thirteenDigits(readComma(texto_));
+        const int digit =
+            DigitoModulo10(digits, portfolio_.CD_AGE_BAN_CNAB, portfolio_.NR_CCOR_CNAB);
+        return {.digits = std::move(digits), .digit = digit, .NR_BOL_BANC = texto_};
     }
-    const int digito = DigitoModulo11(texto_);
-    return {.digitos = texto_, .digito = digito, .NR_BOL_BANC = texto_ + std::to_string(digito)};
+    const int digit = DigitoModulo11(texto_);
+    return {.digits = texto_, .digit = digit, .NR_BOL_BANC = texto_ + std::to_string(digit)};
 }
 
-void NumeroCorrente::avanca() {
+void RunningNumber::advance() {
     texto_ = numberText(readComma(texto_) + 1);
-    if (carteira_.carteira57()) {
+    if (portfolio_.isWallet57()) {
         return;
     }
-    constexpr std::size_t algarismos = pesosDoModulo11.size();
-    if (texto_.size() > algarismos) {
-        throw ErroExecucao(ErroNumero::ArgumentoInvalido,
+    constexpr std::size_t figures = modulo11Weights.size();
+    if (texto_.size() > figures) {
+        throw RuntimeError(RuntimeErrorCode::InvalidArgument,
                            "o número do próximo boleto tem mais de 7 algarismos");
     }
-    texto_.insert(0, algarismos - texto_.size(), '0');
+    texto_.insert(0, figures - texto_.size(), '0');
 }
 
 }  // namespace tarn

@@ -12,33 +12,33 @@ namespace tarn {
 // TipoIncompativel for one that is no digit.
 // Of the 13 digits of wallet 57, joined with agency and account; "-" doesn't count, the
 // first 23 characters do.
-int DigitoModulo10(std::string_view digitos, std::string_view agencia, std::string_view conta);
+int DigitoModulo10(std::string_view digits, std::string_view agency, std::string_view account);
 // Of the first seven digits.
-int DigitoModulo11(std::string_view digitos);
+int DigitoModulo11(std::string_view digits);
 
 // A number as each layout has it: under its mask of thirteen or of seven zeros.
-std::string trezeDigitos(double numero);
-std::string seteDigitos(double numero);
+std::string thirteenDigits(double number);
+std::string sevenDigits(double number);
 
-struct NossoNumero {
-    std::string digitos;  // as printed
-    int digito = 0;       // check digit
+struct SlipNumber {
+    std::string digits;  // as printed
+    int digit = 0;       // check digit
     std::string NR_BOL_BANC;
 };
 
 // The running number of one run. Wallet 57 counts with the number as typed; the others
 // with a text of seven digits.
-class NumeroCorrente {
+class RunningNumber {
 public:
     // TipoIncompativel when what was typed is no number.
-    NumeroCorrente(const CarteiraCobranca& carteira, std::string_view digitado);
+    RunningNumber(const Portfolio& portfolio, std::string_view typed);
 
-    NossoNumero nossoNumero() const;
+    SlipNumber slipNumber() const;
     // ArgumentoInvalido when seven digits no longer hold it.
-    void avanca();
+    void advance();
 
 private:
-    const CarteiraCobranca& carteira_;
+    const Portfolio& portfolio_;
     std::string texto_;
 };
 

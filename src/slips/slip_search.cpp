@@ -10,91 +10,90 @@
 namespace tarn {
 namespace {
 
-constexpr std::array<CampoGrade, colunasBoleto> campos{{{},
-                                                        {"SG_FIL"},
-                                                        {"DT_VNC_DOC_FMA"},
-                                                        {"DC_TIP_DOC"},
-                                                        {"NR_DOC"},
-                                                        {"NM_CLI_ETB"},
-                                                        {"DT_EMS_DOC"},
-                                                        {"DC_LG_CPL"},
-                                                        {"VL_PRN_DOC", Tratamento::Valor},
-                                                        {"CD_CEP"},
-                                                        {"NM_MUN"},
-                                                        {"SG_UF"},
-                                                        {"NR_CGC_CPL", Tratamento::CpfCnpj},
-                                                        {"CD_ICR_EST"},
-                                                        {{}, Tratamento::TipoPessoa},
-                                                        {"TIPO_DOCTO"},
-                                                        {"ID_NR_CTL", Tratamento::SoReceber},
-                                                        {"DC_REF_REC", Tratamento::SoNaoReceber},
-                                                        {"TX_JUR_DIA", Tratamento::Valor},
-                                                        {"PC_MULTA", Tratamento::Valor},
-                                                        {"JUROS_AO_DIA", Tratamento::Valor},
-                                                        {"VL_OUT_DSP"},
-                                                        {"DC_REF_REC"},
-                                                        {"ID_ETB_TARN"},
-                                                        {"ID_TIP_DOC"},
-                                                        {"CD_AGE_BAN"},
-                                                        {"ID_PES_BAN"},
-                                                        {"CD_EXT"},
-                                                        {"NR_DOC_NF"}}};
+constexpr std::array<GridField, slipColumns> fields{{{},
+                                                     {"SG_FIL"},
+                                                     {"DT_VNC_DOC_FMA"},
+                                                     {"DC_TIP_DOC"},
+                                                     {"NR_DOC"},
+                                                     {"NM_CLI_ETB"},
+                                                     {"DT_EMS_DOC"},
+                                                     {"DC_LG_CPL"},
+                                                     {"VL_PRN_DOC", Treatment::Amount},
+                                                     {"CD_CEP"},
+                                                     {"NM_MUN"},
+                                                     {"SG_UF"},
+                                                     {"NR_CGC_CPL", Treatment::CpfCnpj},
+                                                     {"CD_ICR_EST"},
+                                                     {{}, Treatment::PersonKind},
+                                                     {"TIPO_DOCTO"},
+                                                     {"ID_NR_CTL", Treatment::ReceivableOnly},
+                                                     {"DC_REF_REC", Treatment::NotReceivableOnly},
+                                                     {"TX_JUR_DIA", Treatment::Amount},
+                                                     {"PC_MULTA", Treatment::Amount},
+                                                     {"JUROS_AO_DIA", Treatment::Amount},
+                                                     {"VL_OUT_DSP"},
+                                                     {"DC_REF_REC"},
+                                                     {"ID_ETB_TARN"},
+                                                     {"ID_TIP_DOC"},
+                                                     {"CD_AGE_BAN"},
+                                                     {"ID_PES_BAN"},
+                                                     {"CD_EXT"},
+                                                     {"NR_DOC_NF"}}};
 
 }  // namespace
 
-std::vector<ItemLista> carteirasParaFiltro(Environment& ambiente, const Sessao& sessao) {
-    std::vector<ItemLista> carteiras{{"--------", 0}};
-    XmlDocument resposta;
-    if (pede(ambiente, comando::sel_carteira(sessao), resposta, falha::Tarn0009Largo)) {
-        const std::vector<ItemLista> lidas = itensDaResposta(resposta, "DC_CRT_COB", "ID_CRT_COB");
-        carteiras.insert(carteiras.end(), lidas.begin(), lidas.end());
+std::vector<ListItem> portfoliosForFilter(Environment& environment, const Sessao& session) {
+    std::vector<ListItem> portfolios{{"--------", 0}};
+    XmlDocument answer;
+    if (requestAnswer(environment, commands::sel_carteira(session), answer,
+                      failure::Tarn0009Wide)) {
+        const std::vector<ListItem> readItems = listItemsOf(answer, "DC_CRT_COB", "ID_CRT_COB");
+        portfolios.insert(portfolios.end(), readItems.begin(), readItems.end());
     }
-    return carteiras;
+    return portfolios;
 }
 
-std::optional<RecusaDeBoletos> recusaDaPesquisa(const comando::Pesquisa& documentos,
-                                                int posicaoDaCarteira) {
-    if (documentos.emissaoDe.empty()) {
-        return RecusaDeBoletos{"Data Emissão De é Obrigatório.     ", CampoDeBoletos::EmissaoDe};
+std::optional<SlipRefusal> searchRefusal(const commands::SearchFilter& documents,
+                                         int portfolioPosition) {
+    if (documents.issuedFrom.empty()) {
+        return SlipRefusal{"Data Emissão De é Obrigatório.     ", SlipSearchField::IssuedFrom};
     }
-    if (documentos.vencimentoAte.empty()) {
-        return RecusaDeBoletos{"Data de Vencimento Obrigatória.     ",
-                               CampoDeBoletos::VencimentoAte};
+    if (documents.dueTo.empty()) {
+        return SlipRefusal{"Data de Vencimento Obrigatória.     ", SlipSearchField::DueTo};
     }
-    if (posicaoDaCarteira <= 0) {
-        return RecusaDeBoletos{"Carteira Cobrança é um campo obrigatório.     ",
-                               CampoDeBoletos::Carteira};
+    if (portfolioPosition <= 0) {
+        return SlipRefusal{"Carteira Cobrança é um campo obrigatório.     ",
+                           SlipSearchField::PortfolioField};
     }
     return std::nullopt;
 }
 
-std::optional<RecusaDeBoletos> recusaDaImpressao(int posicaoDaCarteira,
-                                                 std::string_view proximoNumero) {
-    if (posicaoDaCarteira <= 0) {
-        return RecusaDeBoletos{"Carteira Cobrança é um campo obrigatório!     ",
-                               CampoDeBoletos::Carteira};
+std::optional<SlipRefusal> printRefusal(int portfolioPosition, std::string_view nextNumber) {
+    if (portfolioPosition <= 0) {
+        return SlipRefusal{"Carteira Cobrança é um campo obrigatório!     ",
+                           SlipSearchField::PortfolioField};
     }
-    if (proximoNumero.empty()) {
-        return RecusaDeBoletos{"Nr. Boleto Bancário é um campo obrigatório!     ",
-                               CampoDeBoletos::NumeroBancario};
+    if (nextNumber.empty()) {
+        return SlipRefusal{"Nr. Boleto Bancário é um campo obrigatório!     ",
+                           SlipSearchField::BankNumber};
     }
     return std::nullopt;
 }
 
-std::optional<std::vector<LinhaGrade>> pesquisaBoletos(Environment& ambiente, const Sessao& sessao,
-                                                       const FiltroDeBoletos& filtro) {
-    XmlDocument resposta;
-    if (!pede(
-            ambiente,
-            comando::sel_boleto(sessao, filtro.documentos, filtro.carteira, filtro.incluiCarteira),
-            resposta, falha::Tarn0009)) {
+std::optional<std::vector<GridRow>> searchSlips(Environment& environment, const Sessao& session,
+                                                const SlipFilter& filter) {
+    XmlDocument answer;
+    if (!requestAnswer(environment,
+                       commands::sel_boleto(session, filter.documents, filter.portfolio,
+                                            filter.includesPortfolio),
+                       answer, failure::Tarn0009)) {
         return std::nullopt;
     }
-    return linhasDeBoletos(resposta);
+    return slipRows(answer);
 }
 
-std::vector<LinhaGrade> linhasDeBoletos(const XmlDocument& resposta) {
-    return linhasDaResposta(resposta, campos);
+std::vector<GridRow> slipRows(const XmlDocument& answer) {
+    return rowsOf(answer, fields);
 }
 
 }  // namespace tarn

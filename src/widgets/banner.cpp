@@ -6,17 +6,17 @@
 
 namespace tarn {
 
-Faixa::Faixa(QWidget* parent) : QWidget(parent) {
+Banner::Banner(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-QSize Faixa::sizeHint() const {
+QSize Banner::sizeHint() const {
     const int height = fontMetrics().height() * 3;
     return {height * 10, height};
 }
 
 // The ground goes over the whole width; the drawing keeps its proportions at the left.
-void Faixa::paintEvent(QPaintEvent* /*event*/) {
+void Banner::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     QLinearGradient ground(0, 0, width(), 0);
     ground.setColorAt(0, palette().color(QPalette::Highlight));

@@ -5,11 +5,11 @@
 
 namespace tarn {
 
-class Faixa : public QWidget {
+class Banner : public QWidget {
     Q_OBJECT
 
 public:
-    explicit Faixa(QWidget* parent);
+    explicit Banner(QWidget* parent);
 
     QSize sizeHint() const override;
 

@@ -4,16 +4,16 @@
 
 namespace tarn {
 
-void encheLista(QComboBox& lista, std::span<const ItemLista> itens) {
-    lista.clear();
-    for (const ItemLista& item : itens) {
-        lista.addItem(QString::fromStdString(item.texto), item.dado);
+void fillList(QComboBox& list, std::span<const ListItem> items) {
+    list.clear();
+    for (const ListItem& item : items) {
+        list.addItem(QString::fromStdString(item.texto), item.data);
     }
-    lista.setCurrentIndex(0);
+    list.setCurrentIndex(0);
 }
 
-std::int32_t dadoDaLista(const QComboBox& lista) {
-    return lista.currentData().toInt();
+std::int32_t currentItemData(const QComboBox& list) {
+    return list.currentData().toInt();
 }
 
 }  // namespace tarn

@@ -11,9 +11,9 @@ class QComboBox;
 namespace tarn {
 
 // Empties the list, adds the items and stands on the first one.
-void encheLista(QComboBox& lista, std::span<const ItemLista> itens);
+void fillList(QComboBox& list, std::span<const ListItem> items);
 
 // Item data of the current item; 0 when none is.
-std::int32_t dadoDaLista(const QComboBox& lista);
+std::int32_t currentItemData(const QComboBox& list);
 
 }  // namespace tarn

@@ -8,9 +8,9 @@
 namespace tarn {
 
 struct DeskContext {
-    Environment& ambiente;
-    Sessao& sessao;
-    FimDoPrograma& fim;
+    Environment& environment;
+    Sessao& session;
+    ProgramEnd& end;
 };
 
 }  // namespace tarn

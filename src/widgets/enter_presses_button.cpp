@@ -6,13 +6,13 @@
 
 namespace tarn {
 
-bool enterNoBotao(const QDialog& dialogo, const QKeyEvent& tecla) {
+bool enterPressesButton(const QDialog& dialog, const QKeyEvent& tecla) {
     if (tecla.key() != Qt::Key_Return && tecla.key() != Qt::Key_Enter) {
         return false;
     }
-    auto* botao = qobject_cast<QPushButton*>(dialogo.focusWidget());
-    if (botao != nullptr && !tecla.isAutoRepeat()) {
-        botao->click();
+    auto* button = qobject_cast<QPushButton*>(dialog.focusWidget());
+    if (button != nullptr && !tecla.isAutoRepeat()) {
+        button->click();
     }
     return true;
 }

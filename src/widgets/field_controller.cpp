@@ -47,9 +47,9 @@ void onlyTakes(QLineEdit& edit, const QString& pattern, Machine& machine) {
     QObject::connect(&edit, &QLineEdit::inputRejected, &edit, [&machine] { machine.beep(); });
 }
 
-FieldController::FieldController(QLineEdit* edit, KeyFilter filter, Environment& ambiente,
+FieldController::FieldController(QLineEdit* edit, KeyFilter filter, Environment& environment,
                                  EnterKey enterKey)
-    : QObject(edit), edit_(edit), filter_(filter), ambiente_(ambiente), enterKey_(enterKey) {
+    : QObject(edit), edit_(edit), filter_(filter), environment_(environment), enterKey_(enterKey) {
     edit->installEventFilter(this);
 }
 
@@ -99,8 +99,8 @@ bool FieldController::passes(QChar character) {
         return true;
     }
     auto tecla = static_cast<std::int16_t>(character.unicode());
-    return (filter_ == KeyFilter::NumeroVirgula ? SoNumeroVirgula(tecla, ambiente_.machine)
-                                                : SoNumeroInteiro(tecla, ambiente_.machine)) != 0;
+    return (filter_ == KeyFilter::Decimal ? SoNumeroVirgula(tecla, environment_.machine)
+                                          : SoNumeroInteiro(tecla, environment_.machine)) != 0;
 }
 
 void FieldController::focusIn(Qt::FocusReason reason) {
@@ -131,7 +131,7 @@ void FieldController::apply(const FieldResult& result) {
 
 void FieldController::refuse(const FieldResult& result) {
     gate_.open();
-    ambiente_.boxes.show(*result.box);
+    environment_.boxes.show(*result.box);
     edit_->setText(QString::fromStdString(result.text));
     if (result.refocus) {
         edit_->setFocus(Qt::OtherFocusReason);

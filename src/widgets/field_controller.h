@@ -16,7 +16,7 @@ namespace tarn {
 class Machine;
 struct Environment;
 
-enum class KeyFilter { None, NumeroVirgula, NumeroInteiro };
+enum class KeyFilter { None, Decimal, Integer };
 
 // Sends the Tab stroke to the widget: the next field in tab order gets the focus.
 void sendTab(QWidget& widget);
@@ -37,7 +37,7 @@ public:
     // with its beep. TabOnly: the stroke and nothing else. BeepOnly: the filter alone.
     enum class EnterKey { TabAndBeep, TabOnly, BeepOnly };
 
-    FieldController(QLineEdit* edit, KeyFilter filter, Environment& ambiente,
+    FieldController(QLineEdit* edit, KeyFilter filter, Environment& environment,
                     EnterKey enterKey = EnterKey::TabAndBeep);
 
 signals:
@@ -51,7 +51,7 @@ protected:
     virtual void left() {}
 
     QLineEdit& edit() const { return *edit_; }
-    Environment& ambiente() const { return ambiente_; }
+    Environment& environment() const { return environment_; }
     // Shows what a rule made of the text. A refusal comes once the focus has settled:
     // the box, then the text, then the focus back; what is typed or clicked in
     // between is discarded.
@@ -66,7 +66,7 @@ private:
 
     QLineEdit* edit_;
     KeyFilter filter_;
-    Environment& ambiente_;
+    Environment& environment_;
     EnterKey enterKey_;
     InputGate gate_;
     bool editing_ = false;

@@ -13,13 +13,13 @@ constexpr int quantityLength = 13;
 
 }  // namespace
 
-DateField::DateField(QLineEdit* edit, KeyFilter filter, Environment& ambiente, Test test)
-    : FieldController(edit, filter, ambiente),
+DateField::DateField(QLineEdit* edit, KeyFilter filter, Environment& environment, Test test)
+    : FieldController(edit, filter, environment),
       test_(test),
-      digits_(QRegularExpression(filter == KeyFilter::NumeroVirgula ? QStringLiteral("[0-9,]*")
-                                                                    : QStringLiteral("[0-9]*"))) {
+      digits_(QRegularExpression(filter == KeyFilter::Decimal ? QStringLiteral("[0-9,]*")
+                                                              : QStringLiteral("[0-9]*"))) {
     edit->setMaxLength(dateLengthShown);
-    connect(edit, &QLineEdit::inputRejected, this, [&ambiente] { ambiente.machine.beep(); });
+    connect(edit, &QLineEdit::inputRejected, this, [&environment] { environment.machine.beep(); });
 }
 
 void DateField::entered() {
@@ -33,14 +33,14 @@ void DateField::left() {
     edit().setValidator(nullptr);
     edit().setMaxLength(dateLengthShown);
     const std::string typed = edit().text().toStdString();
-    const Date today = ambiente().clock.today();
+    const Date today = environment().clock.today();
     apply(test_ == Test::Calendar ? testedDateOnLeave(typed, today)
                                   : FieldResult{dateOnLeave(typed, today), {}, false});
 }
 
 QuantityField::QuantityField(QLineEdit* edit, const QuantityMessages& messages,
-                             Environment& ambiente)
-    : FieldController(edit, KeyFilter::NumeroVirgula, ambiente, EnterKey::TabOnly),
+                             Environment& environment)
+    : FieldController(edit, KeyFilter::Decimal, environment, EnterKey::TabOnly),
       messages_(messages) {
     edit->setMaxLength(quantityLength);
     edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -53,8 +53,8 @@ void QuantityField::left() {
     apply(result);
 }
 
-MoneyField::MoneyField(QLineEdit* edit, Environment& ambiente)
-    : FieldController(edit, KeyFilter::NumeroVirgula, ambiente) {}
+MoneyField::MoneyField(QLineEdit* edit, Environment& environment)
+    : FieldController(edit, KeyFilter::Decimal, environment) {}
 
 void MoneyField::left() {
     apply(moneyOnLeave(edit().text().toStdString()));

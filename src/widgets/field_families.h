@@ -18,7 +18,7 @@ class DateField : public FieldController {
 public:
     enum class Test { None, Calendar };
 
-    DateField(QLineEdit* edit, KeyFilter filter, Environment& ambiente, Test test = Test::None);
+    DateField(QLineEdit* edit, KeyFilter filter, Environment& environment, Test test = Test::None);
 
 protected:
     void entered() override;
@@ -34,7 +34,7 @@ class QuantityField : public FieldController {
     Q_OBJECT
 
 public:
-    QuantityField(QLineEdit* edit, const QuantityMessages& messages, Environment& ambiente);
+    QuantityField(QLineEdit* edit, const QuantityMessages& messages, Environment& environment);
 
 protected:
     void entered() override { edit().selectAll(); }
@@ -49,7 +49,7 @@ class MoneyField : public FieldController {
     Q_OBJECT
 
 public:
-    MoneyField(QLineEdit* edit, Environment& ambiente);
+    MoneyField(QLineEdit* edit, Environment& environment);
 
 protected:
     void entered() override { edit().selectAll(); }

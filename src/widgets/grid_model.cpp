@@ -4,84 +4,84 @@
 
 namespace tarn {
 
-GradeModel::GradeModel(std::span<const ColunaGrade> colunas, QObject* parent)
-    : QAbstractTableModel(parent), colunas_(colunas) {}
+GridModel::GridModel(std::span<const GridColumn> columns, QObject* parent)
+    : QAbstractTableModel(parent), columns_(columns) {}
 
-void GradeModel::mostra(std::vector<LinhaGrade> linhas) {
+void GridModel::show(std::vector<GridRow> linhas) {
     beginResetModel();
     linhas_ = std::move(linhas);
     endResetModel();
 }
 
-void GradeModel::marca(int numero, bool valor) {
-    linhas_.at(static_cast<std::size_t>(numero)).marcada = valor;
-    const QModelIndex caixa = index(numero, 0);
-    emit dataChanged(caixa, caixa, {Qt::CheckStateRole});
+void GridModel::tick(int number, bool valor) {
+    linhas_.at(static_cast<std::size_t>(number)).ticked = valor;
+    const QModelIndex box = index(number, 0);
+    emit dataChanged(box, box, {Qt::CheckStateRole});
 }
 
-void GradeModel::alternaPelaUltima() {
+void GridModel::toggleByLastRow() {
     if (linhas_.empty()) {
         return;
     }
-    const bool valor = !linhas_.back().marcada;
-    for (LinhaGrade& linha : linhas_) {
-        linha.marcada = valor;
+    const bool valor = !linhas_.back().ticked;
+    for (GridRow& linha : linhas_) {
+        linha.ticked = valor;
     }
     emit dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::CheckStateRole});
 }
 
-int GradeModel::rowCount(const QModelIndex& parent) const {
+int GridModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(linhas_.size());
 }
 
-int GradeModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(colunas_.size());
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
 }
 
-QVariant GradeModel::data(const QModelIndex& index, int role) const {
+QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) {
         return {};
     }
-    const TipoColuna tipo = coluna(index.column()).tipo;
-    if (tipo == TipoColuna::Caixa) {
+    const ColumnKind kind = coluna(index.column()).kind;
+    if (kind == ColumnKind::CheckBox) {
         return role == Qt::CheckStateRole
-                   ? QVariant(marcada(index.row()) ? Qt::Checked : Qt::Unchecked)
+                   ? QVariant(ticked(index.row()) ? Qt::Checked : Qt::Unchecked)
                    : QVariant();
     }
-    if (role == Qt::TextAlignmentRole && tipo == TipoColuna::Numero) {
+    if (role == Qt::TextAlignmentRole && kind == ColumnKind::Number) {
         return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
     }
-    const auto celula = static_cast<std::size_t>(index.column());
-    const std::vector<std::string>& celulas = linha(index.row()).celulas;
-    if (role != Qt::DisplayRole || celula >= celulas.size()) {
+    const auto cell = static_cast<std::size_t>(index.column());
+    const std::vector<std::string>& cells = linha(index.row()).cells;
+    if (role != Qt::DisplayRole || cell >= cells.size()) {
         return {};
     }
-    return QString::fromStdString(celulas[celula]);
+    return QString::fromStdString(cells[cell]);
 }
 
-bool GradeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    if (!index.isValid() || role != Qt::CheckStateRole || index.column() != 0 || !temCaixa()) {
+bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (!index.isValid() || role != Qt::CheckStateRole || index.column() != 0 || !hasCheckBox()) {
         return false;
     }
-    marca(index.row(), value.toInt() == Qt::Checked);
+    tick(index.row(), value.toInt() == Qt::Checked);
     return true;
 }
 
-Qt::ItemFlags GradeModel::flags(const QModelIndex& index) const {
-    const Qt::ItemFlags comuns = QAbstractTableModel::flags(index);
-    const bool caixa = index.isValid() && coluna(index.column()).tipo == TipoColuna::Caixa;
-    return caixa ? comuns | Qt::ItemIsUserCheckable : comuns;
+Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags shared = QAbstractTableModel::flags(index);
+    const bool box = index.isValid() && coluna(index.column()).kind == ColumnKind::CheckBox;
+    return box ? shared | Qt::ItemIsUserCheckable : shared;
 }
 
-QVariant GradeModel::headerData(int section, Qt::Orientation orientation, int role) const {
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Vertical) {
         return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
     }
-    const ColunaGrade& qual = coluna(section);
+    const GridColumn& which = coluna(section);
     if (role == Qt::DisplayRole) {
-        return QString::fromUtf8(qual.titulo);
+        return QString::fromUtf8(which.title);
     }
-    if (qual.tipo == TipoColuna::Caixa && qual.tituloMarcaTodas &&
+    if (which.kind == ColumnKind::CheckBox && which.headingTicksAll &&
         (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole)) {
         return QStringLiteral("Marcar ou desmarcar todas as linhas");
     }

@@ -13,38 +13,36 @@ class QWidget;
 
 namespace tarn {
 
-enum class TipoColuna { Texto, Numero, Caixa };  // a check box stands in the first column
+enum class ColumnKind { Texto, Number, CheckBox };  // a check box stands in the first column
 
-struct ColunaGrade {
-    const char* titulo;
+struct GridColumn {
+    const char* title;
     int largura;  // characters; 0: kept for the printing, not shown
-    TipoColuna tipo = TipoColuna::Texto;
-    bool tituloMarcaTodas = true;  // of a check box column
+    ColumnKind kind = ColumnKind::Texto;
+    bool headingTicksAll = true;  // of a check box column
 };
 
-class GradeModel : public QAbstractTableModel {
+class GridModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
     // The columns must outlive the model.
-    GradeModel(std::span<const ColunaGrade> colunas, QObject* parent);
+    GridModel(std::span<const GridColumn> columns, QObject* parent);
 
     // Takes the place of all rows; costs O(1) a row.
-    void mostra(std::vector<LinhaGrade> linhas);
-    const std::vector<LinhaGrade>& linhas() const { return linhas_; }
-    const LinhaGrade& linha(int numero) const {
-        return linhas_.at(static_cast<std::size_t>(numero));
-    }
+    void show(std::vector<GridRow> linhas);
+    const std::vector<GridRow>& linhas() const { return linhas_; }
+    const GridRow& linha(int number) const { return linhas_.at(static_cast<std::size_t>(number)); }
 
-    bool marcada(int numero) const { return linha(numero).marcada; }
-    void marca(int numero, bool valor);
+    bool ticked(int number) const { return linha(number).ticked; }
+    void tick(int number, bool valor);
     // Every row gets the opposite of the last row's tick.
-    void alternaPelaUltima();
+    void toggleByLastRow();
 
-    const ColunaGrade& coluna(int numero) const {
-        return colunas_[static_cast<std::size_t>(numero)];
+    const GridColumn& coluna(int number) const {
+        return columns_[static_cast<std::size_t>(number)];
     }
-    bool temCaixa() const { return coluna(0).tipo == TipoColuna::Caixa; }
+    bool hasCheckBox() const { return coluna(0).kind == ColumnKind::CheckBox; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -54,17 +52,17 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    std::span<const ColunaGrade> colunas_;
-    std::vector<LinhaGrade> linhas_;
+    std::span<const GridColumn> columns_;
+    std::vector<GridRow> linhas_;
 };
 
 // Shows the model in the grid: widths, hidden columns, row heights. With a check box
 // column: a click in its cell and the space key anywhere in the row tick it, a click on
 // its heading is alternaPelaUltima, unless the column says otherwise.
-void preparaGrade(QTableView& grade, GradeModel& modelo);
+void prepareGrid(QTableView& grid, GridModel& model);
 
 // Makes the screen large enough for so many rows and all shown columns of its grid, as
 // far as the monitor goes.
-void ajustaAGrade(QWidget& tela, const QTableView& grade, int linhas);
+void fitToGrid(QWidget& screen, const QTableView& grid, int linhas);
 
 }  // namespace tarn

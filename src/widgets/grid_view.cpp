@@ -13,11 +13,11 @@
 namespace tarn {
 namespace {
 
-constexpr int larguraDaCaixa = 4;  // characters, when the column names no width
-constexpr double parteDoMonitor = 0.9;
+constexpr int checkBoxWidth = 4;  // characters, when the column names no width
+constexpr double monitorPart = 0.9;
 
 // A check box in the middle of its cell; the whole cell takes the click.
-class CaixaNaCelula : public QStyledItemDelegate {
+class CheckBoxInCell : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
@@ -25,37 +25,36 @@ public:
                const QModelIndex& index) const override {
         QStyleOptionViewItem item = option;
         initStyleOption(&item, index);
-        const QStyle& estilo = item.widget != nullptr ? *item.widget->style() : *qApp->style();
-        estilo.drawPrimitive(QStyle::PE_PanelItemViewItem, &item, painter, item.widget);
-        const QSize lado(estilo.pixelMetric(QStyle::PM_IndicatorWidth, &item, item.widget),
-                         estilo.pixelMetric(QStyle::PM_IndicatorHeight, &item, item.widget));
-        QStyleOptionButton caixa;
-        caixa.rect = QStyle::alignedRect(item.direction, Qt::AlignCenter, lado, item.rect);
-        caixa.state = QStyle::State_Enabled |
-                      (item.checkState == Qt::Checked ? QStyle::State_On : QStyle::State_Off);
-        caixa.palette = item.palette;
-        estilo.drawPrimitive(QStyle::PE_IndicatorCheckBox, &caixa, painter, item.widget);
+        const QStyle& style = item.widget != nullptr ? *item.widget->style() : *qApp->style();
+        style.drawPrimitive(QStyle::PE_PanelItemViewItem, &item, painter, item.widget);
+        const QSize side(style.pixelMetric(QStyle::PM_IndicatorWidth, &item, item.widget),
+                         style.pixelMetric(QStyle::PM_IndicatorHeight, &item, item.widget));
+        QStyleOptionButton box;
+        box.rect = QStyle::alignedRect(item.direction, Qt::AlignCenter, side, item.rect);
+        box.state = QStyle::State_Enabled |
+                    (item.checkState == Qt::Checked ? QStyle::State_On : QStyle::State_Off);
+        box.palette = item.palette;
+        style.drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter, item.widget);
     }
 
 protected:
     bool editorEvent(QEvent* event, QAbstractItemModel* model,
                      const QStyleOptionViewItem& /*option*/, const QModelIndex& index) override {
-        const bool solta = event->type() == QEvent::MouseButtonRelease &&
-                           static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
-        if (!solta) {
+        const bool released = event->type() == QEvent::MouseButtonRelease &&
+                              static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+        if (!released) {
             return false;
         }
-        const bool marcada = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
-        return model->setData(index, marcada ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+        const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        return model->setData(index, ticked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
     }
 };
 
 // The space key in any column of a row is for its check box.
-class TeclaEspaco : public QObject {
+class SpaceKey : public QObject {
 public:
-    TeclaEspaco(QTableView& grade, GradeModel& modelo)
-        : QObject(&grade), grade_(grade), modelo_(modelo) {
-        grade.installEventFilter(this);
+    SpaceKey(QTableView& grid, GridModel& model) : QObject(&grid), grid_(grid), model_(model) {
+        grid.installEventFilter(this);
     }
 
 protected:
@@ -64,65 +63,65 @@ protected:
             static_cast<QKeyEvent*>(event)->key() != Qt::Key_Space) {
             return false;
         }
-        const QModelIndex ativa = grade_.currentIndex();
-        if (ativa.isValid() && !static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
-            modelo_.marca(ativa.row(), !modelo_.marcada(ativa.row()));
+        const QModelIndex activate = grid_.currentIndex();
+        if (activate.isValid() && !static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
+            model_.tick(activate.row(), !model_.ticked(activate.row()));
         }
         return true;
     }
 
 private:
-    QTableView& grade_;
-    GradeModel& modelo_;
+    QTableView& grid_;
+    GridModel& model_;
 };
 
-void preparaCaixa(QTableView& grade, GradeModel& modelo) {
-    grade.setItemDelegateForColumn(0, new CaixaNaCelula(&grade));
-    new TeclaEspaco(grade, modelo);
-    if (!modelo.coluna(0).tituloMarcaTodas) {
+void prepareBox(QTableView& grid, GridModel& model) {
+    grid.setItemDelegateForColumn(0, new CheckBoxInCell(&grid));
+    new SpaceKey(grid, model);
+    if (!model.coluna(0).headingTicksAll) {
         return;
     }
-    QObject::connect(grade.horizontalHeader(), &QHeaderView::sectionClicked, &modelo,
-                     [&modelo](int coluna) {
+    QObject::connect(grid.horizontalHeader(), &QHeaderView::sectionClicked, &model,
+                     [&model](int coluna) {
                          if (coluna == 0) {
-                             modelo.alternaPelaUltima();
+                             model.toggleByLastRow();
                          }
                      });
 }
 
 }  // namespace
 
-void preparaGrade(QTableView& grade, GradeModel& modelo) {
-    grade.setModel(&modelo);
-    const int caractere = grade.fontMetrics().averageCharWidth();
-    for (int coluna = 0; coluna < modelo.columnCount(); ++coluna) {
-        const ColunaGrade& qual = modelo.coluna(coluna);
-        const bool caixa = qual.tipo == TipoColuna::Caixa;
-        grade.setColumnHidden(coluna, qual.largura == 0 && !caixa);
-        grade.setColumnWidth(coluna,
-                             (qual.largura == 0 ? larguraDaCaixa : qual.largura) * caractere);
+void prepareGrid(QTableView& grid, GridModel& model) {
+    grid.setModel(&model);
+    const int character = grid.fontMetrics().averageCharWidth();
+    for (int coluna = 0; coluna < model.columnCount(); ++coluna) {
+        const GridColumn& which = model.coluna(coluna);
+        const bool box = which.kind == ColumnKind::CheckBox;
+        grid.setColumnHidden(coluna, which.largura == 0 && !box);
+        grid.setColumnWidth(coluna,
+                            (which.largura == 0 ? checkBoxWidth : which.largura) * character);
     }
-    grade.horizontalHeader()->setSectionsClickable(true);
-    grade.horizontalHeader()->setHighlightSections(false);
-    grade.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    grade.verticalHeader()->setDefaultSectionSize(grade.fontMetrics().height() * 3 / 2);
-    if (modelo.temCaixa()) {
-        preparaCaixa(grade, modelo);
+    grid.horizontalHeader()->setSectionsClickable(true);
+    grid.horizontalHeader()->setHighlightSections(false);
+    grid.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    grid.verticalHeader()->setDefaultSectionSize(grid.fontMetrics().height() * 3 / 2);
+    if (model.hasCheckBox()) {
+        prepareBox(grid, model);
     }
 }
 
-void ajustaAGrade(QWidget& tela, const QTableView& grade, int linhas) {
-    tela.ensurePolished();
-    const int moldura = 2 * grade.frameWidth();
-    const int altura = grade.horizontalHeader()->sizeHint().height() +
-                       grade.verticalHeader()->defaultSectionSize() * linhas + moldura;
-    const int largura = grade.horizontalHeader()->length() +
-                        grade.verticalHeader()->sizeHint().width() +
-                        grade.verticalScrollBar()->sizeHint().width() + moldura;
-    const QSize falta = QSize(largura, altura) - grade.sizeHint();
-    tela.resize((tela.sizeHint() + falta)
-                    .expandedTo(tela.sizeHint())
-                    .boundedTo(tela.screen()->availableSize() * parteDoMonitor));
+void fitToGrid(QWidget& screen, const QTableView& grid, int linhas) {
+    screen.ensurePolished();
+    const int frame = 2 * grid.frameWidth();
+    const int height = grid.horizontalHeader()->sizeHint().height() +
+                       grid.verticalHeader()->defaultSectionSize() * linhas + frame;
+    const int largura = grid.horizontalHeader()->length() +
+                        grid.verticalHeader()->sizeHint().width() +
+                        grid.verticalScrollBar()->sizeHint().width() + frame;
+    const QSize missing = QSize(largura, height) - grid.sizeHint();
+    screen.resize((screen.sizeHint() + missing)
+                      .expandedTo(screen.sizeHint())
+                      .boundedTo(screen.screen()->availableSize() * monitorPart));
 }
 
 }  // namespace tarn

@@ -55,13 +55,13 @@ public:
                        const QWidget* widget) const override {
         switch (icon) {
             case SP_MessageBoxInformation:
-                return figura(QStringLiteral("box_information"));
+                return picture(QStringLiteral("box_information"));
             case SP_MessageBoxWarning:
-                return figura(QStringLiteral("box_exclamation"));
+                return picture(QStringLiteral("box_exclamation"));
             case SP_MessageBoxQuestion:
-                return figura(QStringLiteral("box_question"));
+                return picture(QStringLiteral("box_question"));
             case SP_MessageBoxCritical:
-                return figura(QStringLiteral("box_critical"));
+                return picture(QStringLiteral("box_critical"));
             default:
                 return QProxyStyle::standardIcon(icon, option, widget);
         }
@@ -98,23 +98,23 @@ void translateToolkit(QApplication& program) {
 
 }  // namespace
 
-void aplicaAparencia(QApplication& programa) {
+void applyLook(QApplication& program) {
     initDeskResources();
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
     QApplication::setStyle(new DeskStyle);
     QApplication::setPalette(deskPalette());
-    QApplication::setWindowIcon(figura(QStringLiteral("tarnemissao")));
-    translateToolkit(programa);
+    QApplication::setWindowIcon(picture(QStringLiteral("tarnemissao")));
+    translateToolkit(program);
 }
 
-QIcon figura(const QString& nome) {
+QIcon picture(const QString& nome) {
     return QIcon(QStringLiteral(":/desk/%1.svg").arg(nome));
 }
 
-void poeFigura(QPushButton& botao, const char* nome) {
-    const int lado = botao.fontMetrics().height() * 3 / 2;
-    botao.setIcon(figura(QLatin1StringView(nome)));
-    botao.setIconSize({lado, lado});
+void setIcon(QPushButton& button, const char* nome) {
+    const int side = button.fontMetrics().height() * 3 / 2;
+    button.setIcon(picture(QLatin1StringView(nome)));
+    button.setIconSize({side, side});
 }
 
 }  // namespace tarn

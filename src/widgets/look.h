@@ -8,12 +8,12 @@ class QString;
 
 namespace tarn {
 
-void aplicaAparencia(QApplication& programa);
+void applyLook(QApplication& program);
 
 // A picture drawn for the program (":/desk/<nome>.svg"), sharp at any scale. Drawn
 // when first shown.
-QIcon figura(const QString& nome);
+QIcon picture(const QString& nome);
 // The same on a button that also has a text.
-void poeFigura(QPushButton& botao, const char* nome);
+void setIcon(QPushButton& button, const char* nome);
 
 }  // namespace tarn

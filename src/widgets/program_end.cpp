@@ -2,13 +2,13 @@
 
 namespace tarn {
 
-void FimDoPrograma::encerra(int status) {
-    if (encerrado_) {
+void ProgramEnd::endProgram(int status) {
+    if (ended_) {
         return;
     }
-    encerrado_ = true;
+    ended_ = true;
     status_ = status;
-    emit encerrou(status);
+    emit didEnd(status);
 }
 
 }  // namespace tarn

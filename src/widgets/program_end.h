@@ -5,21 +5,21 @@
 
 namespace tarn {
 
-class FimDoPrograma : public QObject {
+class ProgramEnd : public QObject {
     Q_OBJECT
 
 public:
     // Nothing is asked, sent or saved. The first call decides the exit status.
-    void encerra(int status = 0);
+    void endProgram(int status = 0);
 
-    bool encerrado() const { return encerrado_; }
+    bool ended() const { return ended_; }
     int status() const { return status_; }
 
 signals:
-    void encerrou(int status);
+    void didEnd(int status);
 
 private:
-    bool encerrado_ = false;
+    bool ended_ = false;
     int status_ = 0;
 };
 

@@ -8,72 +8,72 @@
 namespace tarn {
 namespace {
 
-constexpr std::size_t muitos = 50;
-constexpr qint64 demoraMs = 400;    // a run that lasts longer is shown
-constexpr qint64 intervaloMs = 50;  // between two repaints
-constexpr int larguraDaBarra = 40;  // characters
+constexpr std::size_t many = 50;
+constexpr qint64 delayMs = 400;    // a run that lasts longer is shown
+constexpr qint64 intervalMs = 50;  // between two repaints
+constexpr int barWidth = 40;       // characters
 
 }  // namespace
 
-Andamento::Andamento(QWidget& tela) : tela_(tela) {
-    inicio_.start();
-    pintura_.start();
+ProgressWindow::ProgressWindow(QWidget& screen) : screen_(screen) {
+    start_.start();
+    painting_.start();
 }
 
-Andamento::~Andamento() = default;
+ProgressWindow::~ProgressWindow() = default;
 
-Progress Andamento::avisos() {
-    return [this](std::size_t feitos, std::size_t total) { avisa(feitos, total); };
+Progress ProgressWindow::notices() {
+    return [this](std::size_t doneRows, std::size_t total) { report(doneRows, total); };
 }
 
-void Andamento::avisa(std::size_t feitos, std::size_t total) {
-    const bool fim = feitos >= total;
-    const bool abriu = !fim && !janela_ && (total >= muitos || inicio_.elapsed() >= demoraMs);
-    if (abriu) {
-        abre();
+void ProgressWindow::report(std::size_t doneRows, std::size_t total) {
+    const bool end = doneRows >= total;
+    const bool opened = !end && !window_ && (total >= many || start_.elapsed() >= delayMs);
+    if (opened) {
+        open();
     }
-    if (janela_) {
-        barra_->setRange(0, static_cast<int>(total));
-        barra_->setValue(static_cast<int>(feitos));
-        texto_->setText(QStringLiteral("Imprimindo: %1 de %2").arg(feitos).arg(total));
+    if (window_) {
+        bar_->setRange(0, static_cast<int>(total));
+        bar_->setValue(static_cast<int>(doneRows));
+        texto_->setText(QStringLiteral("Imprimindo: %1 de %2").arg(doneRows).arg(total));
     }
-    if (abriu || fim || pintura_.elapsed() >= intervaloMs) {
-        repinta();
+    if (opened || end || painting_.elapsed() >= intervalMs) {
+        repaint();
     }
-    if (fim) {
-        fecha();
+    if (end) {
+        close();
     }
 }
 
-void Andamento::abre() {
-    janela_ = std::make_unique<QWidget>(&tela_,
+void ProgressWindow::open() {
+    window_ = std::make_unique<QWidget>(&screen_,
                                         Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
-    janela_->setObjectName(QStringLiteral("andamento"));
-    janela_->setWindowTitle(QStringLiteral("Impressão"));
-    auto* coluna = new QVBoxLayout(janela_.get());
-    texto_ = new QLabel(janela_.get());
+    window_->setObjectName(QStringLiteral("andamento"));
+    window_->setWindowTitle(QStringLiteral("Impressão"));
+    auto* coluna = new QVBoxLayout(window_.get());
+    texto_ = new QLabel(window_.get());
     texto_->setObjectName(QStringLiteral("lblAndamento"));
-    barra_ = new QProgressBar(janela_.get());
-    barra_->setObjectName(QStringLiteral("barAndamento"));
-    barra_->setAccessibleName(QStringLiteral("Andamento da impressão"));
-    barra_->setMinimumWidth(larguraDaBarra * janela_->fontMetrics().averageCharWidth());
+    bar_ = new QProgressBar(window_.get());
+    bar_->setObjectName(QStringLiteral("barAndamento"));
+    bar_->setAccessibleName(QStringLiteral("Andamento da impressão"));
+    bar_->setMinimumWidth(barWidth * window_->fontMetrics().averageCharWidth());
     coluna->addWidget(texto_);
-    coluna->addWidget(barra_);
-    janela_->adjustSize();
-    janela_->move(tela_.mapToGlobal(tela_.rect().center()) - janela_->rect().center());
-    ampulheta_.emplace();
-    janela_->show();
+    coluna->addWidget(bar_);
+    window_->adjustSize();
+    window_->move(screen_.mapToGlobal(screen_.rect().center()) - window_->rect().center());
+    hourglass_.emplace();
+    window_->show();
 }
 
-void Andamento::fecha() {
-    janela_.reset();
-    ampulheta_.reset();
+void ProgressWindow::close() {
+    window_.reset();
+    hourglass_.reset();
 }
 
-void Andamento::repinta() {
-    const ShutGate fechada(porta_);
+void ProgressWindow::repaint() {
+    const ShutGate closedGate(gate_);
     QCoreApplication::processEvents();
-    pintura_.restart();
+    painting_.restart();
 }
 
 }  // namespace tarn

@@ -19,30 +19,30 @@ namespace tarn {
 // repaint, what is typed and clicked is discarded and no timer of a screen fires. Its
 // window comes at once for many items, otherwise when the run has lasted a while, and
 // goes at the end. A message box shown by the run itself works as ever.
-class Andamento {
+class ProgressWindow {
 public:
-    explicit Andamento(QWidget& tela);
-    ~Andamento();
-    Andamento(const Andamento&) = delete;
-    Andamento& operator=(const Andamento&) = delete;
+    explicit ProgressWindow(QWidget& screen);
+    ~ProgressWindow();
+    ProgressWindow(const ProgressWindow&) = delete;
+    ProgressWindow& operator=(const ProgressWindow&) = delete;
 
     // For the run; not to be called after this object is gone.
-    Progress avisos();
+    Progress notices();
 
 private:
-    void avisa(std::size_t feitos, std::size_t total);
-    void abre();
-    void fecha();
-    void repinta();
+    void report(std::size_t doneRows, std::size_t total);
+    void open();
+    void close();
+    void repaint();
 
-    QWidget& tela_;
-    InputGate porta_;
-    QElapsedTimer inicio_;
-    QElapsedTimer pintura_;  // since the windows last repainted
-    std::unique_ptr<QWidget> janela_;
+    QWidget& screen_;
+    InputGate gate_;
+    QElapsedTimer start_;
+    QElapsedTimer painting_;  // since the windows last repainted
+    std::unique_ptr<QWidget> window_;
     QLabel* texto_ = nullptr;
-    QProgressBar* barra_ = nullptr;
-    std::optional<WaitCursor> ampulheta_;
+    QProgressBar* bar_ = nullptr;
+    std::optional<WaitCursor> hourglass_;
 };
 
 }  // namespace tarn

@@ -12,38 +12,38 @@ namespace {
 
 // A field's tag: the code behind what it shows.
 constexpr char tag[] = "Tag";
-constexpr int larguraData = 13;  // characters
+constexpr int dateWidth = 13;  // characters
 
 }  // namespace
 
-void preparaCampoCliente(QLineEdit& campo, Environment& ambiente) {
-    QPalette paraLeitura = campo.palette();
-    paraLeitura.setColor(QPalette::Base, paraLeitura.color(QPalette::Window));
-    campo.setPalette(paraLeitura);
-    new FieldController(&campo, KeyFilter::None, ambiente, FieldController::EnterKey::TabOnly);
+void prepareCustomerField(QLineEdit& field, Environment& environment) {
+    QPalette forReading = field.palette();
+    forReading.setColor(QPalette::Base, forReading.color(QPalette::Window));
+    field.setPalette(forReading);
+    new FieldController(&field, KeyFilter::None, environment, FieldController::EnterKey::TabOnly);
 }
 
-void mostraCliente(QLineEdit& campo, const std::string& id, const std::string& nome) {
-    campo.setProperty(tag, QString::fromStdString(id));
-    campo.setText(QString::fromStdString(nome));
-    campo.setCursorPosition(0);
+void showCustomer(QLineEdit& field, const std::string& id, const std::string& nome) {
+    field.setProperty(tag, QString::fromStdString(id));
+    field.setText(QString::fromStdString(nome));
+    field.setCursorPosition(0);
 }
 
-std::string idDoCliente(const QLineEdit& campo) {
-    return campo.property(tag).toString().toStdString();
+std::string customerId(const QLineEdit& field) {
+    return field.property(tag).toString().toStdString();
 }
 
-void preparaDatas(std::initializer_list<QLineEdit*> campos, Environment& ambiente) {
-    for (QLineEdit* campo : campos) {
-        new DateField(campo, KeyFilter::NumeroVirgula, ambiente);
-        campo->setFixedWidth(larguraData * campo->fontMetrics().averageCharWidth());
+void prepareDates(std::initializer_list<QLineEdit*> fields, Environment& environment) {
+    for (QLineEdit* field : fields) {
+        new DateField(field, KeyFilter::Decimal, environment);
+        field->setFixedWidth(dateWidth * field->fontMetrics().averageCharWidth());
     }
 }
 
-void preparaBotao(QPushButton& botao, const char* desenho) {
-    poeFigura(botao, desenho);
-    botao.setAutoDefault(false);
-    QObject::connect(&botao, &QPushButton::pressed, &botao, [&botao] { botao.setFocus(); });
+void prepareButton(QPushButton& button, const char* pictureName) {
+    setIcon(button, pictureName);
+    button.setAutoDefault(false);
+    QObject::connect(&button, &QPushButton::pressed, &button, [&button] { button.setFocus(); });
 }
 
 }  // namespace tarn

@@ -12,16 +12,16 @@ namespace tarn {
 struct Environment;
 
 // Shows a name that is chosen elsewhere; looks read-only, and Enter is a Tab stroke.
-void preparaCampoCliente(QLineEdit& campo, Environment& ambiente);
+void prepareCustomerField(QLineEdit& field, Environment& environment);
 // `id` goes along behind the name; both empty for all customers.
-void mostraCliente(QLineEdit& campo, const std::string& id, const std::string& nome);
-std::string idDoCliente(const QLineEdit& campo);
+void showCustomer(QLineEdit& field, const std::string& id, const std::string& nome);
+std::string customerId(const QLineEdit& field);
 
 // Date fields as wide as a date. They belong to their screens.
-void preparaDatas(std::initializer_list<QLineEdit*> campos, Environment& ambiente);
+void prepareDates(std::initializer_list<QLineEdit*> fields, Environment& environment);
 
 // With its picture. An access key brings the focus along, so that the field being typed
 // in is completed.
-void preparaBotao(QPushButton& botao, const char* desenho);
+void prepareButton(QPushButton& button, const char* pictureName);
 
 }  // namespace tarn

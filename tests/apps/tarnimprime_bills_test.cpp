@@ -4,7 +4,7 @@
 
 #include "tests/apps/tarnimprime_run.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
 std::string billData(const std::string& name) {
@@ -20,7 +20,7 @@ std::vector<std::string> linesOf(const std::string& text) {
     return lines;
 }
 
-class TarnimprimeDuplicatas : public Tarnimprime {
+class TarnimprimeBills : public Tarnimprime {
 protected:
     Result print(const std::vector<std::string>& more = {}) const {
         std::vector<std::string> words = {
@@ -43,7 +43,7 @@ constexpr char acceptance[] =
     "MERCANTIL na importância acima, que pagarei(emos)";
 constexpr char thirdNumber[] = "text\t10.900\t5.000\tArial\t9\t1\t4570/B";
 
-TEST_F(TarnimprimeDuplicatas, PrintsAllRowsAsOneJob) {
+TEST_F(TarnimprimeBills, PrintsAllRowsAsOneJob) {
     const Result result = print();
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out, "");
@@ -63,36 +63,36 @@ TEST_F(TarnimprimeDuplicatas, PrintsAllRowsAsOneJob) {
     EXPECT_FALSE(hasJob("job-002.ops"));
 }
 
-TEST_F(TarnimprimeDuplicatas, TickedRows) {
+TEST_F(TarnimprimeBills, TickedRows) {
     EXPECT_EQ(print({"--marca", "1,3"}).status, 0);
     EXPECT_EQ(count("newpage"), 2);
     EXPECT_EQ(count(receipt), 0);
     EXPECT_EQ(count(thirdNumber), 1);
 }
 
-TEST_F(TarnimprimeDuplicatas, NoneTickedPrintsNothing) {
+TEST_F(TarnimprimeBills, NoneTickedPrintsNothing) {
     const Result result = print({"--marca", ""});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.err, "TArn: Selecione um documento.     \n");
     EXPECT_FALSE(hasJob("job-001.ops"));
 }
 
-TEST_F(TarnimprimeDuplicatas, ATickBehindTheLastRowIsWrongUsage) {
-    for (const char* marca : {"4", "0", "1,,2", "x"}) {
-        EXPECT_EQ(print({"--marca", marca}).status, 1) << marca;
+TEST_F(TarnimprimeBills, ATickBehindTheLastRowIsWrongUsage) {
+    for (const char* tick : {"4", "0", "1,,2", "x"}) {
+        EXPECT_EQ(print({"--marca", tick}).status, 1) << tick;
         EXPECT_FALSE(hasJob("job-001.ops"));
     }
 }
 
-TEST_F(TarnimprimeDuplicatas, Triplicatas) {
+TEST_F(TarnimprimeBills, Triplicatas) {
     EXPECT_EQ(print({"--triplicata", "--marca", "1"}).status, 0);
-    std::string triplicata = acceptance;
-    triplicata.replace(triplicata.find("DUPLICATA"), 9, "TRIPLICATA");
-    EXPECT_EQ(count(triplicata), 1);
+    std::string triplicate = acceptance;
+    triplicate.replace(triplicate.find("DUPLICATA"), 9, "TRIPLICATA");
+    EXPECT_EQ(count(triplicate), 1);
     EXPECT_EQ(count(acceptance), 0);
 }
 
-TEST_F(TarnimprimeDuplicatas, PicturesOfTheFolder) {
+TEST_F(TarnimprimeBills, PicturesOfTheFolder) {
     fs::create_directories(file("figuras"));
     std::ofstream(file("figuras/LOGODUPL.jpg")) << "l";
     std::ofstream(file("figuras/ASSEMITENTE.jpg")) << "a";
@@ -102,7 +102,7 @@ TEST_F(TarnimprimeDuplicatas, PicturesOfTheFolder) {
     EXPECT_EQ(job("job-001.ops").find("picVert"), std::string::npos);
 }
 
-TEST_F(TarnimprimeDuplicatas, AsPaper) {
+TEST_F(TarnimprimeBills, AsPaper) {
     const Result result = run({"--destino", file("papel"), "duplicatas", "--empresa", "1361",
                                "--dados", billData("empresa.xml"), billData("documentos.xml")});
     EXPECT_EQ(result.status, 0) << result.err;
@@ -114,13 +114,13 @@ TEST_F(TarnimprimeDuplicatas, AsPaper) {
     EXPECT_NE(contentOf(file("texto")).find("ASSINATURA DO SACADO"), std::string::npos);
 }
 
-TEST_F(TarnimprimeDuplicatas, EachFileIsAJob) {
+TEST_F(TarnimprimeBills, EachFileIsAJob) {
     EXPECT_EQ(print({"--marca", "2", billData("documentos.xml")}).status, 0);
     EXPECT_EQ(count(receipt, "job-001.ops"), 1);
     EXPECT_EQ(count(receipt, "job-002.ops"), 1);
 }
 
-TEST_F(TarnimprimeDuplicatas, WithoutTheCompanysRowItStops) {
+TEST_F(TarnimprimeBills, WithoutTheCompanysRowItStops) {
     std::ofstream(file("vazia.xml")) << "<?xml version=\"1.0\"?><xml/>";
     const Result result =
         run({"duplicatas", "--empresa", "1361", "--dados", file("vazia.xml"), "--destino",
@@ -130,7 +130,7 @@ TEST_F(TarnimprimeDuplicatas, WithoutTheCompanysRowItStops) {
     EXPECT_FALSE(hasJob("job-001.ops"));
 }
 
-TEST_F(TarnimprimeDuplicatas, ARowWithoutAnAmountKeepsThePagesBeforeIt) {
+TEST_F(TarnimprimeBills, ARowWithoutAnAmountKeepsThePagesBeforeIt) {
     std::string documents = contentOf(billData("documentos.xml"));
     documents.erase(documents.find("VL_PRN_DOC=\"1234.5\" "), 20);
     std::ofstream(file("docs.xml")) << documents;
@@ -143,7 +143,7 @@ TEST_F(TarnimprimeDuplicatas, ARowWithoutAnAmountKeepsThePagesBeforeIt) {
     EXPECT_EQ(count("enddoc"), 0);
 }
 
-TEST_F(TarnimprimeDuplicatas, WhatIsMissingOnTheCommandLineIsWrongUsage) {
+TEST_F(TarnimprimeBills, WhatIsMissingOnTheCommandLineIsWrongUsage) {
     for (const std::vector<std::string>& words :
          {std::vector<std::string>{"duplicatas", "--empresa", "1361", billData("documentos.xml")},
           {"duplicatas", "--dados", billData("empresa.xml"), billData("documentos.xml")},
@@ -158,4 +158,4 @@ TEST_F(TarnimprimeDuplicatas, WhatIsMissingOnTheCommandLineIsWrongUsage) {
 }
 
 }  // namespace
-}  // namespace tarn::imprime
+}  // namespace tarn::print

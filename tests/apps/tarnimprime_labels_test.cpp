@@ -4,7 +4,7 @@
 
 #include "tests/apps/tarnimprime_run.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
 std::string labelData(const std::string& name) {
@@ -21,7 +21,7 @@ std::string latin1(const std::string& utf8) {
     return out;
 }
 
-class TarnimprimeEtiquetas : public Tarnimprime {
+class TarnimprimeLabels : public Tarnimprime {
 protected:
     Result print(const std::string& form, const std::vector<std::string>& more = {}) const {
         std::vector<std::string> words = {
@@ -51,7 +51,7 @@ protected:
 constexpr char printed[] = "TArn:  Etiquetas impressas com sucesso!   \n";
 constexpr char made[] = "Alerta: Impressão Gerada com Sucesso !\n";
 
-TEST_F(TarnimprimeEtiquetas, ThreeAcrossOnTheFirstForm) {
+TEST_F(TarnimprimeLabels, ThreeAcrossOnTheFirstForm) {
     const Result result = print("1", {"--formato", "ops"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.err, printed);
@@ -68,7 +68,7 @@ TEST_F(TarnimprimeEtiquetas, ThreeAcrossOnTheFirstForm) {
     EXPECT_FALSE(hasJob("job-002.ops"));
 }
 
-TEST_F(TarnimprimeEtiquetas, TheRawFormIsTwoJobs) {
+TEST_F(TarnimprimeLabels, TheRawFormIsTwoJobs) {
     const Result result = print("2");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.err, "") << "no box";
@@ -95,7 +95,7 @@ TEST_F(TarnimprimeEtiquetas, TheRawFormIsTwoJobs) {
     EXPECT_FALSE(hasJob("job-003.prn"));
 }
 
-TEST_F(TarnimprimeEtiquetas, TheThirdAndFourthForm) {
+TEST_F(TarnimprimeLabels, TheThirdAndFourthForm) {
     EXPECT_EQ(print("3", {"--formato", "ops"}).status, 0);
     // Three of the five names have more than ten characters.
     EXPECT_EQ(ops().size(), 2U + 5U * 8U + 3U + 2U);
@@ -111,12 +111,12 @@ TEST_F(TarnimprimeEtiquetas, TheThirdAndFourthForm) {
     EXPECT_EQ(ops(), withSender) << "any other number is the fourth form";
 }
 
-TEST_F(TarnimprimeEtiquetas, DrawnFormsAsPdf) {
+TEST_F(TarnimprimeLabels, DrawnFormsAsPdf) {
     EXPECT_EQ(print("1").status, 0);
     EXPECT_EQ(job("job-001.pdf").substr(0, 5), "%PDF-");
 }
 
-TEST_F(TarnimprimeEtiquetas, WithoutLabelsNothingIsEnded) {
+TEST_F(TarnimprimeLabels, WithoutLabelsNothingIsEnded) {
     std::ofstream(file("vazio.xml")) << "<xml xmlns:rs='r'><rs:data/></xml>";
     const Result result =
         run({"etiquetas", "--formulario", "1", "--remetente", labelData("remetente.xml"),
@@ -126,7 +126,7 @@ TEST_F(TarnimprimeEtiquetas, WithoutLabelsNothingIsEnded) {
     EXPECT_EQ(job("job-001.ops"), "scale\t7\norientation\t1\n");
 }
 
-TEST_F(TarnimprimeEtiquetas, ASenderWithoutARowIsTheRunTimesError) {
+TEST_F(TarnimprimeLabels, ASenderWithoutARowIsTheRunTimesError) {
     std::ofstream(file("vazio.xml")) << "<xml xmlns:rs='r'><rs:data/></xml>";
     const Result result = run({"etiquetas", "--formulario", "2", "--remetente", file("vazio.xml"),
                                "--destino", file("papel"), labelData("etiquetas.xml")});
@@ -135,7 +135,7 @@ TEST_F(TarnimprimeEtiquetas, ASenderWithoutARowIsTheRunTimesError) {
     EXPECT_FALSE(hasJob("job-001.prn"));
 }
 
-TEST_F(TarnimprimeEtiquetas, WrongUsage) {
+TEST_F(TarnimprimeLabels, WrongUsage) {
     EXPECT_EQ(print("x").status, 1);
     EXPECT_EQ(print("").status, 1);
     for (const std::vector<std::string>& words :
@@ -153,7 +153,7 @@ TEST_F(TarnimprimeEtiquetas, WrongUsage) {
     }
 }
 
-TEST_F(TarnimprimeEtiquetas, SelectedCustomersTwoAcross) {
+TEST_F(TarnimprimeLabels, SelectedCustomersTwoAcross) {
     const Result result = printSelected({"--marca", "1,3"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.err, made);
@@ -170,14 +170,14 @@ TEST_F(TarnimprimeEtiquetas, SelectedCustomersTwoAcross) {
               "enddoc\n");
 }
 
-TEST_F(TarnimprimeEtiquetas, AllCustomersOrNone) {
+TEST_F(TarnimprimeLabels, AllCustomersOrNone) {
     EXPECT_EQ(printSelected({}).status, 0);
     EXPECT_EQ(ops().size(), 2U + 3U * 4U + 1U);
     EXPECT_EQ(printSelected({"--marca", ""}).err, made);
     EXPECT_EQ(job("job-001.ops"), "scale\t7\norientation\t1\nenddoc\n");
 }
 
-TEST_F(TarnimprimeEtiquetas, ARowThatIsNotThereIsWrongUsage) {
+TEST_F(TarnimprimeLabels, ARowThatIsNotThereIsWrongUsage) {
     for (const char* rows : {"4", "0", "1,,3", "x"}) {
         const Result result = printSelected({"--marca", rows});
         EXPECT_EQ(result.status, 1) << rows;
@@ -187,4 +187,4 @@ TEST_F(TarnimprimeEtiquetas, ARowThatIsNotThereIsWrongUsage) {
 }
 
 }  // namespace
-}  // namespace tarn::imprime
+}  // namespace tarn::print

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace tarn::imprime {
+namespace tarn::print {
 
 namespace fs = std::filesystem;
 
@@ -68,4 +68,4 @@ protected:
     fs::path room_;
 };
 
-}  // namespace tarn::imprime
+}  // namespace tarn::print

@@ -1,16 +1,16 @@
 // The slips of tarnimprime and the rules of their numbers.
 #include "tests/apps/tarnimprime_run.h"
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
-constexpr char selecione[] = "TArn: Selecione um item na Lista!     \n";
+constexpr char selectOne[] = "TArn: Selecione um item na Lista!     \n";
 
 std::string slipData(const std::string& name) {
     return std::string(TARN_SLIP_DATA) + "/" + name;
 }
 
-class TarnimprimeBoletos : public Tarnimprime {
+class TarnimprimeSlips : public Tarnimprime {
 protected:
     Result print(const std::string& portfolio, const std::string& first,
                  const std::vector<std::string>& more = {}) const {
@@ -25,20 +25,20 @@ protected:
     std::string requests() const { return job("requests.txt"); }
 };
 
-const std::string preparo = " \x0F\x1BM";
+const std::string preparation = " \x0F\x1BM";
 
-TEST_F(TarnimprimeBoletos, EachTickedRowIsASlipButForAForeignBanks) {
+TEST_F(TarnimprimeSlips, EachTickedRowIsASlipButForAForeignBanks) {
     const Result result = print("carteira_57.xml", "1234");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out + result.err, "");
-    EXPECT_EQ(job("job-001.prn"), preparo);
+    EXPECT_EQ(job("job-001.prn"), preparation);
     EXPECT_EQ(job("job-002.prn"), contentOf(slipData("boleto_57_jose.prn")));
-    EXPECT_EQ(job("job-003.prn"), preparo);
+    EXPECT_EQ(job("job-003.prn"), preparation);
     EXPECT_EQ(job("job-004.prn"),
               " \x1B"
               "2 \x0F\x1BG")
         << "left open";
-    EXPECT_EQ(job("job-005.prn"), preparo);
+    EXPECT_EQ(job("job-005.prn"), preparation);
     EXPECT_EQ(job("job-006.prn"), contentOf(slipData("boleto_57_maria.prn")));
     EXPECT_FALSE(hasJob("job-007.prn"));
     EXPECT_EQ(requests(),
@@ -52,7 +52,7 @@ TEST_F(TarnimprimeBoletos, EachTickedRowIsASlipButForAForeignBanks) {
               "&ID_CRT_COB=5&NR_BOL_BANC=1235&ID_PES_USU=U1&ServerName=SRV\n");
 }
 
-TEST_F(TarnimprimeBoletos, TheOtherWalletsWriteOnceUnderTheirSpelling) {
+TEST_F(TarnimprimeSlips, TheOtherWalletsWriteOnceUnderTheirSpelling) {
     const Result result = print("carteira_101.xml", "9", {"--marca", "1,3"});
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(job("job-002.prn"), contentOf(slipData("boleto_7_jose.prn")));
@@ -65,41 +65,41 @@ TEST_F(TarnimprimeBoletos, TheOtherWalletsWriteOnceUnderTheirSpelling) {
               "&NR_BOL_BANC=00000108\n");
 }
 
-TEST_F(TarnimprimeBoletos, WithThePortfolioIncludedItsBankCounts) {
+TEST_F(TarnimprimeSlips, WithThePortfolioIncludedItsBankCounts) {
     EXPECT_EQ(print("carteira_57.xml", "1234", {"--inclui-carteira", "--marca", "2"}).status, 0);
     EXPECT_NE(job("job-002.prn").find("OUTRO BANCO LTDA"), std::string::npos);
 }
 
-TEST_F(TarnimprimeBoletos, NothingTicked) {
+TEST_F(TarnimprimeSlips, NothingTicked) {
     for (const std::vector<std::string>& none :
          {std::vector<std::string>{"--marca", ""}, std::vector<std::string>{"--marca="}}) {
         const Result result = print("carteira_57.xml", "1234", none);
         EXPECT_EQ(result.status, 0);
-        EXPECT_EQ(result.err, selecione);
+        EXPECT_EQ(result.err, selectOne);
         EXPECT_FALSE(hasJob("job-001.prn"));
         EXPECT_TRUE(hasJob("requests.txt"));
         EXPECT_EQ(requests(), "");
     }
 }
 
-TEST_F(TarnimprimeBoletos, OnlyAForeignBanksRow) {
+TEST_F(TarnimprimeSlips, OnlyAForeignBanksRow) {
     const Result result = print("carteira_57.xml", "1234", {"--marca", "2"});
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.err, selecione);
+    EXPECT_EQ(result.err, selectOne);
     EXPECT_EQ(job("job-002.prn"),
               " \x1B"
               "2 \x0F\x1BG");
     EXPECT_EQ(requests(), "");
 }
 
-TEST_F(TarnimprimeBoletos, AnEmptyNumberIsAskedFor) {
+TEST_F(TarnimprimeSlips, AnEmptyNumberIsAskedFor) {
     const Result result = print("carteira_57.xml", "");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.err, "TArn: Nr. Boleto Bancário é um campo obrigatório!     \n");
     EXPECT_FALSE(hasJob("job-001.prn"));
 }
 
-TEST_F(TarnimprimeBoletos, RunTimeErrorsKeepWhatIsOut) {
+TEST_F(TarnimprimeSlips, RunTimeErrorsKeepWhatIsOut) {
     Result result = print("carteira_curta.xml", "1234");
     EXPECT_EQ(result.status, 3);
     EXPECT_NE(result.err.find("Erro em tempo de execução '5'"), std::string::npos) << result.err;
@@ -117,7 +117,7 @@ TEST_F(TarnimprimeBoletos, RunTimeErrorsKeepWhatIsOut) {
     EXPECT_NE(result.err.find("Erro em tempo de execução '13'"), std::string::npos) << result.err;
 }
 
-TEST_F(TarnimprimeBoletos, RowsThatAreNoneAreWrongUsage) {
+TEST_F(TarnimprimeSlips, RowsThatAreNoneAreWrongUsage) {
     for (const char* rows : {"0", "4", "x", "1,,2", "-1", "1;2", "1.5"}) {
         const Result result = print("carteira_57.xml", "1", {std::string("--marca=") + rows});
         EXPECT_EQ(result.status, 1) << rows;
@@ -128,7 +128,7 @@ TEST_F(TarnimprimeBoletos, RowsThatAreNoneAreWrongUsage) {
     EXPECT_TRUE(hasJob("job-004.prn"));
 }
 
-TEST_F(TarnimprimeBoletos, SeveralFilesGoOnWithTheNumbers) {
+TEST_F(TarnimprimeSlips, SeveralFilesGoOnWithTheNumbers) {
     EXPECT_EQ(print("carteira_101.xml", "8", {"--marca", "1", slipData("documentos.xml")}).status,
               0);
     EXPECT_NE(job("job-002.prn").find("N.N.  0000008-6"), std::string::npos);
@@ -136,7 +136,7 @@ TEST_F(TarnimprimeBoletos, SeveralFilesGoOnWithTheNumbers) {
     EXPECT_FALSE(hasJob("job-005.prn"));
 }
 
-TEST_F(TarnimprimeBoletos, RequestsThatCannotBeKeptAreToldBeforePaperIsSpent) {
+TEST_F(TarnimprimeSlips, RequestsThatCannotBeKeptAreToldBeforePaperIsSpent) {
     fs::create_directories(room_ / "papel" / "requests.txt");
     const Result result = print("carteira_57.xml", "1");
     EXPECT_EQ(result.status, 1);
@@ -144,7 +144,7 @@ TEST_F(TarnimprimeBoletos, RequestsThatCannotBeKeptAreToldBeforePaperIsSpent) {
     EXPECT_FALSE(hasJob("job-001.prn"));
 }
 
-TEST_F(TarnimprimeBoletos, WrongUsage) {
+TEST_F(TarnimprimeSlips, WrongUsage) {
     EXPECT_EQ(print("falta.xml", "1").status, 1);
     EXPECT_EQ(run({"boletos", "--destino", file("papel"), "--empresa", "1", "--estabelecimento",
                    "1", "--proximo", "1", slipData("documentos.xml")})
@@ -167,4 +167,4 @@ TEST_F(Tarnimprime, CheckDigits) {
 }
 
 }  // namespace
-}  // namespace tarn::imprime
+}  // namespace tarn::print

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace tarn::imprime {
+namespace tarn::print {
 namespace {
 
 std::string data(const std::string& name) {
@@ -129,15 +129,15 @@ TEST_F(Tarnimprime, TheDrawnNoteAsOperations) {
 }
 
 TEST_F(Tarnimprime, TheDrawnNoteAsPdfNeedsNoDisplay) {
-    const std::vector<std::string> nota = {
+    const std::vector<std::string> note = {
         "nota",          "--empresa", "2541", "--estabelecimento",       "1",
         "--reimpressao", "--numero",  "4567", data("nota_completa.xml"), "--destino",
         file("papel")};
-    std::vector<std::string> ops = nota;
+    std::vector<std::string> ops = note;
     ops.insert(ops.end(), {"--formato", "ops"});
     ::setenv("QT_QPA_PLATFORM", "xcb", 1);
     ::unsetenv("DISPLAY");
-    const Result result = run(nota);
+    const Result result = run(note);
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out + result.err, "");
     ASSERT_TRUE(hasJob("job-001.pdf"));
@@ -166,13 +166,13 @@ TEST_F(Tarnimprime, TheDrawnNoteAsPdfNeedsNoDisplay) {
 }
 
 TEST_F(Tarnimprime, ADrawnNoteThatStopsLeavesNoPaper) {
-    const std::vector<std::string> nota = {
+    const std::vector<std::string> note = {
         "nota",      "--empresa",  "2541", "--estabelecimento",
         "1",         "--numero",   "4567", data("nota_quantidade_errada.xml"),
         "--destino", file("papel")};
-    std::vector<std::string> ops = nota;
+    std::vector<std::string> ops = note;
     ops.insert(ops.end(), {"--formato", "ops"});
-    const Result result = run(nota);
+    const Result result = run(note);
     EXPECT_EQ(result.status, 3);
     EXPECT_NE(result.err.find("QTDE"), std::string::npos) << result.err;
     EXPECT_FALSE(hasJob("job-001.pdf"));
@@ -183,14 +183,14 @@ TEST_F(Tarnimprime, ADrawnNoteThatStopsLeavesNoPaper) {
 }
 
 TEST_F(Tarnimprime, TheFormatOfDrawnPages) {
-    const std::vector<std::string> nota = {"nota", "--empresa", "2541", "--estabelecimento",
+    const std::vector<std::string> note = {"nota", "--empresa", "2541", "--estabelecimento",
                                            "1",    "--numero",  "1",    data("nota_completa.xml")};
-    std::vector<std::string> words = nota;
+    std::vector<std::string> words = note;
     words.insert(words.end(), {"--formato", "ops"});
     Result result = run(words);
     EXPECT_EQ(result.status, 1);
     EXPECT_NE(result.err.find("--destino"), std::string::npos) << result.err;
-    words = nota;
+    words = note;
     words.insert(words.end(), {"--formato", "png", "--destino", file("papel")});
     result = run(words);
     EXPECT_EQ(result.status, 1);
@@ -540,4 +540,4 @@ TEST_F(Tarnimprime, WrongUsageIsToldInPortuguese) {
 }
 
 }  // namespace
-}  // namespace tarn::imprime
+}  // namespace tarn::print

@@ -24,7 +24,7 @@ std::string written(const std::string& order, const std::string& observation,
 }
 const std::string untouched = written("1001", "obs", "12,500", "1.234.567,892", "0,000");
 
-Box atencao(const std::string& text) {
+Box attention(const std::string& text) {
     return {text, BoxIcon::Information, "Atenção"};
 }
 
@@ -236,7 +236,7 @@ TEST_F(FrmManutDetOFTTest, ALostWriteIsToldOnceAndTheListRead) {
     EXPECT_THAT(boxes.shown,
                 testing::ElementsAre(
                     critical("0013"),
-                    aviso("Favor verificar se os dados da Ordem de Faturamento foi gravado. ")));
+                    notice("Favor verificar se os dados da Ordem de Faturamento foi gravado. ")));
     EXPECT_THAT(server.queries(), testing::ElementsAre(untouched, listQuery));
     EXPECT_TRUE(timer().isActive());
 }
@@ -251,7 +251,7 @@ TEST_F(FrmManutDetOFTTest, ARefusalLeavesWhatWasTyped) {
         server.addresses.clear();
         click(dialog, "cmdOk");
         EXPECT_TRUE(dialog.isVisible());
-        EXPECT_THAT(boxes.shown, testing::ElementsAre(exclama("Ordem em uso por outro <usuário>")));
+        EXPECT_THAT(boxes.shown, testing::ElementsAre(warn("Ordem em uso por outro <usuário>")));
         EXPECT_EQ(text(dialog, "txtObs"), "novo texto");
         EXPECT_EQ(text(dialog, "txtQtde"), "7,000");
         EXPECT_EQ(server.addresses.size(), 1U) << "the list isn't read";
@@ -271,7 +271,7 @@ TEST_F(FrmManutDetOFTTest, AnAnswerWithoutAStatusEndsTheProgram) {
         click(dialog, "cmdOk");
         ASSERT_EQ(boxes.shown.size(), 1U);
         EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '91'", 0), 0U);
-        EXPECT_EQ(fim.status(), 3);
+        EXPECT_EQ(end.status(), 3);
         key(dialog, Qt::Key_Escape);
     });
 }
@@ -293,9 +293,10 @@ TEST_F(FrmManutDetOFTTest, FieldsLeftEmptyByTheListAreAskedForInOrder) {
         type(dialog, "txtPesoLiquido", "3");
         click(dialog, "cmdOk");
     });
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(atencao("Quantidade Espécie é obrigatório!     "),
-                                                  atencao("Peso Bruto é obrigatório!     "),
-                                                  atencao("Peso Líquido é obrigatório!     ")));
+    EXPECT_THAT(boxes.shown,
+                testing::ElementsAre(attention("Quantidade Espécie é obrigatório!     "),
+                                     attention("Peso Bruto é obrigatório!     "),
+                                     attention("Peso Líquido é obrigatório!     ")));
     EXPECT_THAT(saved(), testing::ElementsAre(written("1001", "o", "1,000", "2,000", "3,000")));
 }
 
@@ -311,9 +312,9 @@ TEST_F(FrmManutDetOFTTest, NegativeFieldsAreRefusedInOrder) {
         EXPECT_TRUE(server.addresses.empty());
         click(dialog, "cmdCancelar");
     });
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(atencao("Quantidade Espécie inválido!     "),
-                                                  atencao("Peso Bruto inválido!     "),
-                                                  atencao("Peso Líquido inválido!     ")));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(attention("Quantidade Espécie inválido!     "),
+                                                  attention("Peso Bruto inválido!     "),
+                                                  attention("Peso Líquido inválido!     ")));
 }
 
 TEST_F(FrmManutDetOFTTest, EachNumberFieldHasItsOwnMessages) {
@@ -330,14 +331,14 @@ TEST_F(FrmManutDetOFTTest, EachNumberFieldHasItsOwnMessages) {
             key(dialog, Qt::Key_Delete);
             key(dialog, Qt::Key_Return);
             settle();
-            EXPECT_THAT(boxes.shown, testing::ElementsAre(atencao(invalid)));
+            EXPECT_THAT(boxes.shown, testing::ElementsAre(attention(invalid)));
             EXPECT_EQ(text(dialog, field), "0,000");
             EXPECT_EQ(focused(dialog), field);
             boxes.shown.clear();
             type(dialog, field, "10000000");
             key(dialog, Qt::Key_Tab);
             settle();
-            EXPECT_THAT(boxes.shown, testing::ElementsAre(atencao(large)));
+            EXPECT_THAT(boxes.shown, testing::ElementsAre(attention(large)));
             EXPECT_EQ(text(dialog, field), "0,000");
             EXPECT_EQ(focused(dialog), field);
         }
@@ -367,7 +368,7 @@ TEST_F(FrmManutDetOFTTest, ABadFieldKeepsTheClickOnOkFromCounting) {
         key(dialog, Qt::Key_Delete);
         click(dialog, "cmdOk");
         settle();
-        EXPECT_THAT(boxes.shown, testing::ElementsAre(atencao("Quantidade inválido.     ")));
+        EXPECT_THAT(boxes.shown, testing::ElementsAre(attention("Quantidade inválido.     ")));
         EXPECT_TRUE(server.addresses.empty());
         EXPECT_EQ(focused(dialog), "txtQtde");
         key(dialog, Qt::Key_Escape);
@@ -535,7 +536,7 @@ TEST_F(FrmManutDetOFTTest, TheListEmptiedUnderTheObservationOpensNothing) {
         click(alert, "cmdOk");
     });
     click(screen(), "cmdDetOFT");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(selecione));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(selectOne));
 }
 
 }  // namespace

@@ -36,13 +36,13 @@ inline const std::string twoOrders = answers::rowset(
 inline Box critical(const std::string& number) {
     return {"ERRO Tarn" + number + internet, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
 }
-inline Box aviso(const std::string& text) {
+inline Box notice(const std::string& text) {
     return {text, BoxIcon::Exclamation, "Aviso"};
 }
-inline Box exclama(const std::string& text) {
+inline Box warn(const std::string& text) {
     return {text, BoxIcon::Exclamation};
 }
-inline const Box selecione = aviso("Selecione a ordem de faturamento.     ");
+inline const Box selectOne = notice("Selecione a ordem de faturamento.     ");
 
 class FrmOFTTest : public ScreenTest {
 protected:
@@ -88,7 +88,7 @@ protected:
             EXPECT_TRUE(closed());
             EXPECT_TRUE(server.addresses.empty());
         }
-        EXPECT_FALSE(fim.encerrado());
+        EXPECT_FALSE(end.ended());
     }
     void observation(const std::string& text) {
         server.on("Seleciona_Obs_Vnd_X_Ord", answers::observation(text));

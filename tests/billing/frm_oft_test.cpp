@@ -84,7 +84,7 @@ TEST_F(FrmOFTTest, AnEmptyListSaysNothingAndEachButtonAsksForAnOrder) {
     for (const char* button : {"cmdDetOFT", "CmdCanOft", "cmdImprimirOF", "cmdSelecionar"}) {
         click(screen(), button);
     }
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(selecione, selecione, selecione, selecione));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(selectOne, selectOne, selectOne, selectOne));
     EXPECT_TRUE(server.addresses.empty());
     EXPECT_FALSE(timer().isActive()) << "the generation's first step switches it off";
 }
@@ -152,8 +152,8 @@ TEST_F(FrmOFTTest, ACancelThatFailsOrIsRefusedLeavesTheList) {
     ASSERT_EQ(boxes.shown.size(), 5U);
     EXPECT_EQ(boxes.shown[1], critical("0003"));
     EXPECT_EQ(boxes.shown[2],
-              aviso("Favor verificar se a Ordem de Faturamento nº 1001 foi cancelada. "));
-    EXPECT_EQ(boxes.shown[4], exclama("Ordem em uso"));
+              notice("Favor verificar se a Ordem de Faturamento nº 1001 foi cancelada. "));
+    EXPECT_EQ(boxes.shown[4], warn("Ordem em uso"));
     EXPECT_EQ(server.addresses.size(), 2U) << "no refresh";
 }
 
@@ -187,7 +187,7 @@ TEST_F(FrmOFTTest, ACancelledObservationStopsMaintenanceAndSheet) {
     EXPECT_TRUE(boxes.shown.empty());
     EXPECT_TRUE(spooler.calls.empty());
     EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, obsQuery));
-    EXPECT_EQ(sessao.ConfirmaMensagem, "N");
+    EXPECT_EQ(session.ConfirmaMensagem, "N");
 }
 
 TEST_F(FrmOFTTest, TheAlertHasAPairOfButtonsOrOne) {
@@ -224,9 +224,9 @@ TEST_F(FrmOFTTest, AFailedObservationGoesOnWithWhatTextIsLeft) {
     click(screen(), "cmdDetOFT");
     ASSERT_EQ(boxes.shown.size(), 2U);
     EXPECT_EQ(boxes.shown[0], critical("0004"));
-    EXPECT_EQ(boxes.shown[1], aviso("Aconteceu um erro na busca da observação da(s) venda(s). "
-                                    "Cancele esta tela e tente novamente."));
-    sessao.TextoMensagem = "da ordem anterior";
+    EXPECT_EQ(boxes.shown[1], notice("Aconteceu um erro na busca da observação da(s) venda(s). "
+                                     "Cancele esta tela e tente novamente."));
+    session.TextoMensagem = "da ordem anterior";
     answerAlert("cmdCancelar", "da ordem anterior");
     click(screen(), "cmdDetOFT");
     EXPECT_EQ(boxes.shown.size(), 4U);
@@ -249,7 +249,7 @@ TEST_F(FrmOFTTest, PrintsTheSheetOfTheSelectedOrder) {
 
 TEST_F(FrmOFTTest, PrintsTheCompanysOwnSheet) {
     open();
-    sessao.NCOMPANYCODE = 1361;
+    session.NCOMPANYCODE = 1361;
     server.on("sel_impr_ordem_fatu", orderDocument);
     click(screen(), "cmdImprimirOF");
     ASSERT_EQ(spooler.jobs.size(), 1U);
@@ -264,9 +264,9 @@ TEST_F(FrmOFTTest, ASheetThatCantBeHadIsToldAndTheDeskStaysAsItIs) {
     click(screen(), "cmdImprimirOF");
     EXPECT_THAT(boxes.shown,
                 testing::ElementsAre(critical("0012"),
-                                     aviso("Houve um problema na transferência dos dados da Ordem "
-                                           "de Faturamento nº 1001."),
-                                     exclama("Ordem faturada")));
+                                     notice("Houve um problema na transferência dos dados da Ordem "
+                                            "de Faturamento nº 1001."),
+                                     warn("Ordem faturada")));
     EXPECT_TRUE(spooler.calls.empty());
     EXPECT_EQ(rows(), 2);
     EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, sheetQuery, obsQuery, sheetQuery));
@@ -288,7 +288,7 @@ TEST_F(FrmOFTTest, ABrokenSheetEndsTheProgramAndKeepsWhatWasPrinted) {
     ASSERT_EQ(boxes.shown.size(), 1U);
     EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '91'", 0), 0U);
     EXPECT_EQ(boxes.shown[0].text.find("Nota Fiscal"), std::string::npos);
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
     ASSERT_EQ(spooler.jobs.size(), 1U);
     EXPECT_EQ(spooler.jobs[0].writes.size(), 9U);
     EXPECT_FALSE(spooler.jobs[0].ended);
@@ -312,7 +312,7 @@ TEST_F(FrmOFTTest, TheWindowsButtonFreesTheMenus) {
 TEST_F(FrmOFTTest, TheDeskCanBeLeftWithTheListOpen) {
     open();
     menu.close();
-    EXPECT_TRUE(fim.encerrado());
+    EXPECT_TRUE(end.ended());
     EXPECT_TRUE(server.addresses.empty());
     EXPECT_TRUE(boxes.shown.empty());
 }

@@ -13,12 +13,12 @@ std::string noteFile(const char* name) {
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
-class GeraNotaNaTela : public FrmOFTTest {
+class GenerateNoteScreen : public FrmOFTTest {
 protected:
     // A company whose form is known byte for byte; the note's number is 4567.
     FrmOFT& openAt1361(const char* noteDocument) {
         FrmOFT& opened = open();
-        sessao.NCOMPANYCODE = 1361;
+        session.NCOMPANYCODE = 1361;
         server.on("SP_GERA_NF", answers::generatedNote("4567", "U"));
         server.on("sel_gera_nf", noteFile(noteDocument));
         return opened;
@@ -33,12 +33,12 @@ protected:
         EXPECT_EQ(report.text.find("tela de Reimpressão de Nota Fiscal") != std::string::npos,
                   tellsOfANote)
             << report.text;
-        EXPECT_EQ(fim.status(), 3);
+        EXPECT_EQ(end.status(), 3);
         EXPECT_FALSE(timer().isActive());
     }
 };
 
-TEST_F(GeraNotaNaTela, GeneratesTheNoteAndRefreshes) {
+TEST_F(GenerateNoteScreen, GeneratesTheNoteAndRefreshes) {
     open();
     noteComesOut();
     bool timerRan = true;
@@ -55,7 +55,7 @@ TEST_F(GeraNotaNaTela, GeneratesTheNoteAndRefreshes) {
     EXPECT_TRUE(timer().isActive());
 }
 
-TEST_F(GeraNotaNaTela, ARefusedObservationGeneratesNothing) {
+TEST_F(GenerateNoteScreen, ARefusedObservationGeneratesNothing) {
     open();
     noteComesOut();
     observation("x");
@@ -68,30 +68,30 @@ TEST_F(GeraNotaNaTela, ARefusedObservationGeneratesNothing) {
     EXPECT_FALSE(timer().isActive());
 }
 
-TEST_F(GeraNotaNaTela, AnUnknownGenerationIsToldAndTheListRead) {
+TEST_F(GenerateNoteScreen, AnUnknownGenerationIsToldAndTheListRead) {
     open();
     server.failOn("SP_GERA_NF");
     click(screen(), "cmdSelecionar");
     EXPECT_THAT(boxes.shown,
                 testing::ElementsAre(
                     critical("0004"),
-                    aviso("Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, "
-                          "utilize a tela de Reimpressão de Nota Fiscal. ")));
+                    notice("Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, "
+                           "utilize a tela de Reimpressão de Nota Fiscal. ")));
     EXPECT_EQ(server.queries().back(), listQuery);
     EXPECT_TRUE(timer().isActive());
 }
 
-TEST_F(GeraNotaNaTela, ARefusedGenerationShowsOneBoxAndLeavesTheList) {
+TEST_F(GenerateNoteScreen, ARefusedGenerationShowsOneBoxAndLeavesTheList) {
     open();
     server.on("SP_GERA_NF", answers::status("Limite de crédito"));
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclama("Limite de crédito")));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(warn("Limite de crédito")));
     EXPECT_EQ(server.queries().back(), noteQuery);
     EXPECT_EQ(rows(), 2);
     EXPECT_FALSE(timer().isActive());
 }
 
-TEST_F(GeraNotaNaTela, ALostDocumentIsToldAndTheListRead) {
+TEST_F(GenerateNoteScreen, ALostDocumentIsToldAndTheListRead) {
     open();
     noteComesOut();
     server.failOn("sel_gera_nf&ID_ETB_TARN=6001");
@@ -99,17 +99,17 @@ TEST_F(GeraNotaNaTela, ALostDocumentIsToldAndTheListRead) {
     EXPECT_THAT(boxes.shown,
                 testing::ElementsAre(
                     critical("0005"),
-                    aviso("Houve um problema na transferência dos dados da Nota Fiscal nº 555. "
-                          "Utilize a tela de Reimpressão de Nota Fiscal.")));
+                    notice("Houve um problema na transferência dos dados da Nota Fiscal nº 555. "
+                           "Utilize a tela de Reimpressão de Nota Fiscal.")));
     EXPECT_EQ(server.queries().back(), listQuery);
     EXPECT_TRUE(timer().isActive());
 }
 
-TEST_F(GeraNotaNaTela, TheCustomerWithoutANumberEndsTheProgramWithTheReport) {
+TEST_F(GenerateNoteScreen, TheCustomerWithoutANumberEndsTheProgramWithTheReport) {
     open();
     noteComesOut();
-    sessao.NCOMPANYCODE = 2161;
-    sessao.ID_ETB_TARN = 3383;
+    session.NCOMPANYCODE = 2161;
+    session.ID_ETB_TARN = 3383;
     click(screen(), "cmdSelecionar");
     ASSERT_EQ(boxes.shown.size(), 1U);
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
@@ -119,21 +119,21 @@ TEST_F(GeraNotaNaTela, TheCustomerWithoutANumberEndsTheProgramWithTheReport) {
         0U)
         << boxes.shown[0].text;
     EXPECT_NE(boxes.shown[0].text.find("tela de Reimpressão de Nota Fiscal"), std::string::npos);
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
     EXPECT_TRUE(spooler.jobs.empty());
     EXPECT_FALSE(timer().isActive());
 }
 
-TEST_F(GeraNotaNaTela, AnUnreadableObservationEndsTheProgramWithNoWordOfANote) {
+TEST_F(GenerateNoteScreen, AnUnreadableObservationEndsTheProgramWithNoWordOfANote) {
     open();
     server.on("Seleciona_Obs_Vnd_X_Ord", "<R a='0' b='OK'/>");
     click(screen(), "cmdSelecionar");
     ASSERT_EQ(boxes.shown.size(), 1U);
     EXPECT_EQ(boxes.shown[0].text.find("Nota Fiscal"), std::string::npos);
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
 }
 
-TEST_F(GeraNotaNaTela, ThePrintedNoteIsTheFormsByteForByte) {
+TEST_F(GenerateNoteScreen, ThePrintedNoteIsTheFormsByteForByte) {
     openAt1361("nota_1361.xml");
     ASSERT_FALSE(noteFile("nota_1361.prn").empty());
     click(screen(), "cmdSelecionar");
@@ -153,7 +153,7 @@ TEST_F(GeraNotaNaTela, ThePrintedNoteIsTheFormsByteForByte) {
 }
 
 // The second click comes before the user can have seen the new list.
-TEST_F(GeraNotaNaTela, ADoubleClickGeneratesOnce) {
+TEST_F(GenerateNoteScreen, ADoubleClickGeneratesOnce) {
     openAt1361("nota_1361.xml");
     auto& button = named<QWidget>(screen(), "cmdSelecionar");
     QTest::mouseClick(&button, Qt::LeftButton);
@@ -165,7 +165,7 @@ TEST_F(GeraNotaNaTela, ADoubleClickGeneratesOnce) {
     EXPECT_EQ(spooler.jobs.size(), 4U) << "a click of its own counts";
 }
 
-TEST_F(GeraNotaNaTela, AHeldKeyGeneratesOnce) {
+TEST_F(GenerateNoteScreen, AHeldKeyGeneratesOnce) {
     openAt1361("nota_1361.xml");
     for (const Qt::Key held : {Qt::Key_Return, Qt::Key_Space}) {
         spooler.jobs.clear();
@@ -181,7 +181,7 @@ TEST_F(GeraNotaNaTela, AHeldKeyGeneratesOnce) {
     }
 }
 
-TEST_F(GeraNotaNaTela, AnErrorOfTheFormIsReportedWithTheWayToTheNote) {
+TEST_F(GenerateNoteScreen, AnErrorOfTheFormIsReportedWithTheWayToTheNote) {
     openAt1361("nota_quantidade_errada.xml");
     click(screen(), "cmdSelecionar");
     expectReport("13", true);
@@ -192,30 +192,30 @@ TEST_F(GeraNotaNaTela, AnErrorOfTheFormIsReportedWithTheWayToTheNote) {
     EXPECT_NE(server.queries().back(), listQuery);
 }
 
-TEST_F(GeraNotaNaTela, ObservationsThatTheServerRefusesStopBeforeTheNote) {
+TEST_F(GenerateNoteScreen, ObservationsThatTheServerRefusesStopBeforeTheNote) {
     open();
     server.on("Seleciona_Obs_Vnd_X_Ord", answers::status("ok"));
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclama("ok")));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(warn("ok")));
     EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery));
     EXPECT_FALSE(timer().isActive());
 }
 
-TEST_F(GeraNotaNaTela, AStockCheckThatTheServerRefusesStopsBeforeTheNote) {
+TEST_F(GenerateNoteScreen, AStockCheckThatTheServerRefusesStopsBeforeTheNote) {
     open();
     server.on("Seleciona_Obs_Ord_X_Est", answers::status("Cliente &lt;A &amp; B&gt; Ltda"));
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclama("Cliente <A & B> Ltda")));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(warn("Cliente <A & B> Ltda")));
     EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, stockQuery));
     EXPECT_FALSE(timer().isActive());
 }
 
-TEST_F(GeraNotaNaTela, ObservationsOutOfReachDontStopTheNote) {
+TEST_F(GenerateNoteScreen, ObservationsOutOfReachDontStopTheNote) {
     open();
     noteComesOut();
     server.failOn("Seleciona_Obs_Vnd_X_Ord").failOn("Seleciona_Obs_Ord_X_Est");
     click(screen(), "cmdSelecionar");
-    const Box searchFailed = aviso(
+    const Box searchFailed = notice(
         "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e tente "
         "novamente.");
     EXPECT_THAT(boxes.shown, testing::ElementsAre(critical("0004"), searchFailed, critical("0004"),
@@ -226,14 +226,14 @@ TEST_F(GeraNotaNaTela, ObservationsOutOfReachDontStopTheNote) {
 }
 
 // Esc and the window's own button leave the alert unanswered, which is a refusal.
-TEST_F(GeraNotaNaTela, AnAlertLeftUnansweredGeneratesNothing) {
+TEST_F(GenerateNoteScreen, AnAlertLeftUnansweredGeneratesNothing) {
     open();
     noteComesOut();
     observation("x");
     const std::function<void(QWidget&)> leaves[] = {
         [](QWidget& alert) { key(alert, Qt::Key_Escape); }, [](QWidget& alert) { alert.close(); }};
     for (const auto& leave : leaves) {
-        sessao.ConfirmaMensagem = "S";
+        session.ConfirmaMensagem = "S";
         modals.then("frmMensagemAlerta", leave);
         click(screen(), "cmdSelecionar");
     }
@@ -241,7 +241,7 @@ TEST_F(GeraNotaNaTela, AnAlertLeftUnansweredGeneratesNothing) {
     EXPECT_FALSE(timer().isActive());
 }
 
-TEST_F(GeraNotaNaTela, EnterConfirmsTheObservationAndLeavesTheStockNotice) {
+TEST_F(GenerateNoteScreen, EnterConfirmsTheObservationAndLeavesTheStockNotice) {
     open();
     noteComesOut();
     observation("x");
@@ -255,19 +255,19 @@ TEST_F(GeraNotaNaTela, EnterConfirmsTheObservationAndLeavesTheStockNotice) {
     EXPECT_FALSE(timer().isActive());
 }
 
-TEST_F(GeraNotaNaTela, ARefusedDocumentIsToldInTheServersWords) {
+TEST_F(GenerateNoteScreen, ARefusedDocumentIsToldInTheServersWords) {
     open();
     noteComesOut();
     server.on("sel_gera_nf&ID_ETB_TARN=6001", answers::status("Nota em uso"));
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclama("Nota em uso")));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(warn("Nota em uso")));
     EXPECT_EQ(server.queries().back(), documentQuery);
     EXPECT_EQ(rows(), 2);
     EXPECT_TRUE(spooler.calls.empty());
     EXPECT_FALSE(timer().isActive());
 }
 
-TEST_F(GeraNotaNaTela, AGenerationWhoseStatusCantBeReadTellsOfTheNote) {
+TEST_F(GenerateNoteScreen, AGenerationWhoseStatusCantBeReadTellsOfTheNote) {
     open();
     server.on("SP_GERA_NF", "<R a='0' b='OK'><NF i='555'/><S c='U'/></R>");
     click(screen(), "cmdSelecionar");
@@ -275,7 +275,7 @@ TEST_F(GeraNotaNaTela, AGenerationWhoseStatusCantBeReadTellsOfTheNote) {
     EXPECT_EQ(server.queries().back(), noteQuery);
 }
 
-TEST_F(GeraNotaNaTela, ADocumentWhoseStatusCantBeReadTellsOfTheNote) {
+TEST_F(GenerateNoteScreen, ADocumentWhoseStatusCantBeReadTellsOfTheNote) {
     open();
     noteComesOut();
     server.on("sel_gera_nf&ID_ETB_TARN=6001", "<R a='0' b='OK'/>");

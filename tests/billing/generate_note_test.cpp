@@ -10,266 +10,266 @@
 namespace tarn {
 namespace {
 
-const std::string cabecalho = "<?xml version='1.0'?>";
-const std::string transporte =
+const std::string header = "<?xml version='1.0'?>";
+const std::string transport =
     " - Não foi possível obter os dados da Internet. Verifique a conexão com a Internet.";
 
-Box critica(const std::string& numero) {
-    return {.text = "ERRO " + numero + transporte,
+Box transportFailure(const std::string& number) {
+    return {.text = "ERRO " + number + transport,
             .icon = BoxIcon::Critical,
             .title = "TarnEMISSAO - ERRO INESPERADO"};
 }
-Box exclamacao(const std::string& texto, const std::string& titulo = "TarnEmissao") {
-    return {.text = texto, .icon = BoxIcon::Exclamation, .title = titulo};
+Box exclamation(const std::string& texto, const std::string& title = "TarnEmissao") {
+    return {.text = texto, .icon = BoxIcon::Exclamation, .title = title};
 }
-const Box buscaFalhou = exclamacao(
+const Box searchFailed = exclamation(
     "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e tente "
     "novamente.",
     "Aviso");
 
-std::string observacao(const std::string& texto) {
-    return cabecalho + "<R a='' s='OK'><L OBSERVACAO='" + texto + "'/></R>";
+std::string observation(const std::string& texto) {
+    return header + "<R a='' s='OK'><L OBSERVACAO='" + texto + "'/></R>";
 }
-std::string recusa(const std::string& texto) {
-    return cabecalho + "<R a='' s='" + texto + "'><L OBSERVACAO=''/></R>";
+std::string refuse(const std::string& texto) {
+    return header + "<R a='' s='" + texto + "'><L OBSERVACAO=''/></R>";
 }
 
-struct AlertaRoteirizado : AlertaDialogo {
-    explicit AlertaRoteirizado(Sessao& s) : sessao(s) {}
-    void mostra(ModoAlerta modo) override {
-        vistos.emplace_back(modo, sessao.TextoMensagem);
-        antes.push_back(sessao.ConfirmaMensagem);
-        if (!resposta.empty()) {
-            sessao.ConfirmaMensagem = resposta;
+struct ScriptedAlert : AlertDialog {
+    explicit ScriptedAlert(Sessao& s) : session(s) {}
+    void show(AlertMode mode) override {
+        seen.emplace_back(mode, session.TextoMensagem);
+        before.push_back(session.ConfirmaMensagem);
+        if (!answer.empty()) {
+            session.ConfirmaMensagem = answer;
         }
     }
-    Sessao& sessao;
-    std::string resposta;  // empty: closed without an answer
-    std::vector<std::pair<ModoAlerta, std::string>> vistos;
-    std::vector<std::string> antes;
+    Sessao& session;
+    std::string answer;  // empty: closed without an answer
+    std::vector<std::pair<AlertMode, std::string>> seen;
+    std::vector<std::string> before;
 };
 
-class GeraNotaTest : public testing::Test {
+class GenerateNoteTest : public testing::Test {
 protected:
-    GeraNotaTest() {
-        sessao_.NCOMPANYCODE = 1361;
-        sessao_.ID_ETB_TARN = 9;
-        sessao_.UserCode = "u1";
-        sessao_.SERVERNAME = "SRV";
-        seams_.loader.on("Seleciona_Obs_Vnd_X_Ord", observacao(""))
-            .on("Seleciona_Obs_Ord_X_Est", observacao(""));
+    GenerateNoteTest() {
+        session_.NCOMPANYCODE = 1361;
+        session_.ID_ETB_TARN = 9;
+        session_.UserCode = "u1";
+        session_.SERVERNAME = "SRV";
+        seams_.loader.on("Seleciona_Obs_Vnd_X_Ord", observation(""))
+            .on("Seleciona_Obs_Ord_X_Est", observation(""));
     }
 
     // The observations are in order; these answer the rest.
-    void respostas(const std::string& geracao, const std::string& documento) {
-        seams_.loader.on("SP_GERA_NF", geracao).on("sel_gera_nf", documento);
+    void answers(const std::string& generation, const std::string& documento) {
+        seams_.loader.on("SP_GERA_NF", generation).on("sel_gera_nf", documento);
     }
-    FimDaGeracao gera() {
-        return geraNota(seams_.environment, sessao_, alerta_, "12",
-                        [this](Environment&, const Sessao& sessao, XmlDocument& documento,
-                               const std::string& nota) {
-                            impressas_.push_back(nota + " " + std::to_string(sessao.ID_ETB_TARN) +
-                                                 " " + documento.xml());
-                        });
+    GenerationEnd generate() {
+        return generateNote(seams_.environment, session_, alert_, "12",
+                            [this](Environment&, const Sessao& session, XmlDocument& documento,
+                                   const std::string& note) {
+                                printed_.push_back(note + " " +
+                                                   std::to_string(session.ID_ETB_TARN) + " " +
+                                                   documento.xml());
+                            });
     }
-    void esperaFatal() {
+    void expectFatal() {
         try {
-            gera();
+            generate();
             ADD_FAILURE() << "no error";
-        } catch (const ErroExecucao& erro) {
-            EXPECT_EQ(erro.numero(), ErroNumero::ObjetoObrigatorio);
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.number(), RuntimeErrorCode::ObjectRequired);
         }
-        EXPECT_TRUE(impressas_.empty());
+        EXPECT_TRUE(printed_.empty());
         EXPECT_TRUE(seams_.spooler.calls.empty());
     }
 
-    const std::string pedidoVenda_ =
+    const std::string saleQuery_ =
         "comando=Seleciona_Obs_Vnd_X_Ord&Id_Etb_Tarn=9&Id_Ord_Fat=12&ServerName=SRV";
-    const std::string pedidoEstoque_ =
+    const std::string stockQuery_ =
         "comando=Seleciona_Obs_Ord_X_Est&Id_Etb_Tarn=9&Id_Ord_Fat=12&ServerName=SRV";
-    const std::string pedidoGera_ =
+    const std::string generateQuery_ =
         "COMANDO=SP_GERA_NF&ID_ETB_TARN=9&ID_ORD_FAT=12&ID_PES=u1&ServerName=SRV";
-    const std::string pedidoNota_ =
+    const std::string noteQuery_ =
         "comando=sel_gera_nf&ID_ETB_TARN=9&ID_NF_KESTO=555&CD_SER_NF=A1&ServerName=SRV";
-    const std::string gerada_ =
-        cabecalho + "<R a='' s='OK'>\n <x qualquer='555' b='1'/>\n <y z='A1'/></R>";
-    const std::string documentoNota_ = cabecalho + "<PRINCIPAL a=\"\" s=\"OK\"><C/></PRINCIPAL>";
+    const std::string generated_ =
+        header + "<R a='' s='OK'>\n <x qualquer='555' b='1'/>\n <y z='A1'/></R>";
+    const std::string noteDocument_ = header + "<PRINCIPAL a=\"\" s=\"OK\"><C/></PRINCIPAL>";
 
     TestEnvironment seams_;
-    Sessao sessao_;
-    AlertaRoteirizado alerta_{sessao_};
-    std::vector<std::string> impressas_;
+    Sessao session_;
+    ScriptedAlert alert_{session_};
+    std::vector<std::string> printed_;
 };
 
-using Textos = std::vector<std::string>;
-using Caixas = std::vector<Box>;
+using Texts = std::vector<std::string>;
+using Boxes = std::vector<Box>;
 
-TEST_F(GeraNotaTest, GeneratedAndPrinted) {
-    respostas(gerada_, documentoNota_);
-    EXPECT_EQ(gera(), FimDaGeracao::Completa);
+TEST_F(GenerateNoteTest, GeneratedAndPrinted) {
+    answers(generated_, noteDocument_);
+    EXPECT_EQ(generate(), GenerationEnd::Finished);
     EXPECT_EQ(seams_.loader.queries(),
-              (Textos{pedidoVenda_, pedidoEstoque_, pedidoGera_, pedidoNota_}));
-    EXPECT_EQ(seams_.boxes.shown, Caixas{});
-    EXPECT_TRUE(alerta_.vistos.empty());
-    EXPECT_EQ(impressas_, Textos{"555 9 <?xml version=\"1.0\"?>\r\n<PRINCIPAL a=\"\" s=\"OK\"><C/>"
-                                 "</PRINCIPAL>\r\n"});
+              (Texts{saleQuery_, stockQuery_, generateQuery_, noteQuery_}));
+    EXPECT_EQ(seams_.boxes.shown, Boxes{});
+    EXPECT_TRUE(alert_.seen.empty());
+    EXPECT_EQ(printed_, Texts{"555 9 <?xml version=\"1.0\"?>\r\n<PRINCIPAL a=\"\" s=\"OK\"><C/>"
+                              "</PRINCIPAL>\r\n"});
 }
 
-TEST_F(GeraNotaTest, AnErrorOfTheLayoutComesOut) {
-    respostas(gerada_, documentoNota_);
-    EXPECT_THROW(geraNota(seams_.environment, sessao_, alerta_, "12",
-                          [](auto&, auto&, auto&, auto&) {
-                              throw ErroExecucao(ErroNumero::TipoIncompativel);
-                          }),
-                 ErroExecucao);
+TEST_F(GenerateNoteTest, AnErrorOfTheLayoutComesOut) {
+    answers(generated_, noteDocument_);
+    EXPECT_THROW(generateNote(seams_.environment, session_, alert_, "12",
+                              [](auto&, auto&, auto&, auto&) {
+                                  throw RuntimeError(RuntimeErrorCode::TypeMismatch);
+                              }),
+                 RuntimeError);
 }
 
-TEST_F(GeraNotaTest, RefusedObservationMakesNoNote) {
-    seams_.loader.on("Seleciona_Obs_Vnd_X_Ord&", observacao("ver &lt;b&gt;prazo&lt;/b&gt;"));
-    alerta_.resposta = "N";
-    EXPECT_EQ(gera(), FimDaGeracao::Parada);
-    EXPECT_EQ(seams_.loader.queries(), Textos{pedidoVenda_});
-    ASSERT_EQ(alerta_.vistos.size(), 1U);
-    EXPECT_EQ(alerta_.vistos[0].first, ModoAlerta::Confirma);
-    EXPECT_EQ(alerta_.vistos[0].second, "ver <b>prazo</b>");
-    EXPECT_EQ(alerta_.antes, Textos{"N"});
-    EXPECT_EQ(seams_.boxes.shown, Caixas{});
+TEST_F(GenerateNoteTest, RefusedObservationMakesNoNote) {
+    seams_.loader.on("Seleciona_Obs_Vnd_X_Ord&", observation("ver &lt;b&gt;prazo&lt;/b&gt;"));
+    alert_.answer = "N";
+    EXPECT_EQ(generate(), GenerationEnd::Stopped);
+    EXPECT_EQ(seams_.loader.queries(), Texts{saleQuery_});
+    ASSERT_EQ(alert_.seen.size(), 1U);
+    EXPECT_EQ(alert_.seen[0].first, AlertMode::Confirm);
+    EXPECT_EQ(alert_.seen[0].second, "ver <b>prazo</b>");
+    EXPECT_EQ(alert_.before, Texts{"N"});
+    EXPECT_EQ(seams_.boxes.shown, Boxes{});
 }
 
-TEST_F(GeraNotaTest, ADialogClosedWithoutAnAnswerIsARefusal) {
-    seams_.loader.on("Seleciona_Obs_Vnd_X_Ord&", observacao("x"));
-    sessao_.ConfirmaMensagem = "S";  // left from the order before
-    EXPECT_EQ(gera(), FimDaGeracao::Parada);
-    EXPECT_EQ(seams_.loader.queries(), Textos{pedidoVenda_});
+TEST_F(GenerateNoteTest, ADialogClosedWithoutAnAnswerIsARefusal) {
+    seams_.loader.on("Seleciona_Obs_Vnd_X_Ord&", observation("x"));
+    session_.ConfirmaMensagem = "S";  // left from the order before
+    EXPECT_EQ(generate(), GenerationEnd::Stopped);
+    EXPECT_EQ(seams_.loader.queries(), Texts{saleQuery_});
 }
 
-TEST_F(GeraNotaTest, ConfirmedObservationGoesOn) {
-    seams_.loader.on("Seleciona_Obs_Vnd_X_Ord&", observacao("x"));
-    alerta_.resposta = "S";
-    respostas(gerada_, documentoNota_);
-    EXPECT_EQ(gera(), FimDaGeracao::Completa);
-    EXPECT_EQ(impressas_.size(), 1U);
+TEST_F(GenerateNoteTest, ConfirmedObservationGoesOn) {
+    seams_.loader.on("Seleciona_Obs_Vnd_X_Ord&", observation("x"));
+    alert_.answer = "S";
+    answers(generated_, noteDocument_);
+    EXPECT_EQ(generate(), GenerationEnd::Finished);
+    EXPECT_EQ(printed_.size(), 1U);
 }
 
-TEST_F(GeraNotaTest, MissingStockMakesNoNote) {
-    seams_.loader.on("Seleciona_Obs_Ord_X_Est&", observacao("produto 1"));
-    alerta_.resposta = "S";  // the notice leaves nothing to decide
-    EXPECT_EQ(gera(), FimDaGeracao::Parada);
-    EXPECT_EQ(seams_.loader.queries(), (Textos{pedidoVenda_, pedidoEstoque_}));
-    ASSERT_EQ(alerta_.vistos.size(), 1U);
-    EXPECT_EQ(alerta_.vistos[0].first, ModoAlerta::SemSaldo);
-    EXPECT_EQ(alerta_.vistos[0].second, "produto 1");
-    EXPECT_EQ(seams_.boxes.shown, Caixas{});
+TEST_F(GenerateNoteTest, MissingStockMakesNoNote) {
+    seams_.loader.on("Seleciona_Obs_Ord_X_Est&", observation("produto 1"));
+    alert_.answer = "S";  // the notice leaves nothing to decide
+    EXPECT_EQ(generate(), GenerationEnd::Stopped);
+    EXPECT_EQ(seams_.loader.queries(), (Texts{saleQuery_, stockQuery_}));
+    ASSERT_EQ(alert_.seen.size(), 1U);
+    EXPECT_EQ(alert_.seen[0].first, AlertMode::OutOfStock);
+    EXPECT_EQ(alert_.seen[0].second, "produto 1");
+    EXPECT_EQ(seams_.boxes.shown, Boxes{});
 }
 
-TEST_F(GeraNotaTest, ObservationsOutOfReachDoNotStopTheNote) {
+TEST_F(GenerateNoteTest, ObservationsOutOfReachDoNotStopTheNote) {
     seams_.loader.failOn("Seleciona_Obs_Vnd_X_Ord&").failOn("Seleciona_Obs_Ord_X_Est&");
-    respostas(gerada_, documentoNota_);
-    EXPECT_EQ(gera(), FimDaGeracao::Completa);
-    EXPECT_EQ(seams_.boxes.shown,
-              (Caixas{critica("Tarn0004"), buscaFalhou, critica("Tarn0004"), buscaFalhou}));
-    EXPECT_EQ(impressas_.size(), 1U);
+    answers(generated_, noteDocument_);
+    EXPECT_EQ(generate(), GenerationEnd::Finished);
+    EXPECT_EQ(seams_.boxes.shown, (Boxes{transportFailure("Tarn0004"), searchFailed,
+                                         transportFailure("Tarn0004"), searchFailed}));
+    EXPECT_EQ(printed_.size(), 1U);
 }
 
-TEST_F(GeraNotaTest, ATextLeftFromTheOrderBeforeIsShownAgain) {
+TEST_F(GenerateNoteTest, ATextLeftFromTheOrderBeforeIsShownAgain) {
     seams_.loader.failOn("Seleciona_Obs_Vnd_X_Ord&");
-    sessao_.TextoMensagem = "da ordem anterior";
-    EXPECT_EQ(gera(), FimDaGeracao::Parada);
-    ASSERT_EQ(alerta_.vistos.size(), 1U);
-    EXPECT_EQ(alerta_.vistos[0].second, "da ordem anterior");
+    session_.TextoMensagem = "da ordem anterior";
+    EXPECT_EQ(generate(), GenerationEnd::Stopped);
+    ASSERT_EQ(alert_.seen.size(), 1U);
+    EXPECT_EQ(alert_.seen[0].second, "da ordem anterior");
 }
 
-TEST_F(GeraNotaTest, ObservationsRefusedByTheServer) {
-    seams_.loader.on("Seleciona_Obs_Vnd_X_Ord&", recusa("Ordem bloqueada"));
-    EXPECT_EQ(gera(), FimDaGeracao::Parada);
-    EXPECT_EQ(seams_.boxes.shown, Caixas{exclamacao("Ordem bloqueada")});
-    EXPECT_EQ(seams_.loader.queries(), Textos{pedidoVenda_});
+TEST_F(GenerateNoteTest, ObservationsRefusedByTheServer) {
+    seams_.loader.on("Seleciona_Obs_Vnd_X_Ord&", refuse("Ordem bloqueada"));
+    EXPECT_EQ(generate(), GenerationEnd::Stopped);
+    EXPECT_EQ(seams_.boxes.shown, Boxes{exclamation("Ordem bloqueada")});
+    EXPECT_EQ(seams_.loader.queries(), Texts{saleQuery_});
 }
 
-TEST_F(GeraNotaTest, StockCheckRefusedByTheServer) {
-    seams_.loader.on("Seleciona_Obs_Ord_X_Est&", recusa("ok"));
-    EXPECT_EQ(gera(), FimDaGeracao::Parada);
-    EXPECT_EQ(seams_.boxes.shown, Caixas{exclamacao("ok")});
-    EXPECT_EQ(seams_.loader.queries(), (Textos{pedidoVenda_, pedidoEstoque_}));
+TEST_F(GenerateNoteTest, StockCheckRefusedByTheServer) {
+    seams_.loader.on("Seleciona_Obs_Ord_X_Est&", refuse("ok"));
+    EXPECT_EQ(generate(), GenerationEnd::Stopped);
+    EXPECT_EQ(seams_.boxes.shown, Boxes{exclamation("ok")});
+    EXPECT_EQ(seams_.loader.queries(), (Texts{saleQuery_, stockQuery_}));
 }
 
-TEST_F(GeraNotaTest, GenerationUnknown) {
+TEST_F(GenerateNoteTest, GenerationUnknown) {
     seams_.loader.failOn("SP_GERA_NF");
-    EXPECT_EQ(gera(), FimDaGeracao::Completa);
+    EXPECT_EQ(generate(), GenerationEnd::Finished);
     EXPECT_EQ(seams_.boxes.shown,
-              (Caixas{critica("Tarn0004"),
-                      exclamacao("Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido "
+              (Boxes{transportFailure("Tarn0004"),
+                     exclamation("Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido "
                                  "gerada, utilize a tela de Reimpressão de Nota Fiscal. ",
                                  "Aviso")}));
-    EXPECT_EQ(seams_.loader.queries(), (Textos{pedidoVenda_, pedidoEstoque_, pedidoGera_}));
-    EXPECT_TRUE(impressas_.empty());
+    EXPECT_EQ(seams_.loader.queries(), (Texts{saleQuery_, stockQuery_, generateQuery_}));
+    EXPECT_TRUE(printed_.empty());
 }
 
-TEST_F(GeraNotaTest, GenerationRefused) {
-    respostas(recusa("Cliente sem cr&#233;dito. "), documentoNota_);
-    EXPECT_EQ(gera(), FimDaGeracao::Parada);
-    EXPECT_EQ(seams_.boxes.shown, Caixas{exclamacao("Cliente sem crédito. ")});
-    EXPECT_EQ(seams_.loader.queries(), (Textos{pedidoVenda_, pedidoEstoque_, pedidoGera_}));
+TEST_F(GenerateNoteTest, GenerationRefused) {
+    answers(refuse("Cliente sem cr&#233;dito. "), noteDocument_);
+    EXPECT_EQ(generate(), GenerationEnd::Stopped);
+    EXPECT_EQ(seams_.boxes.shown, Boxes{exclamation("Cliente sem crédito. ")});
+    EXPECT_EQ(seams_.loader.queries(), (Texts{saleQuery_, stockQuery_, generateQuery_}));
 }
 
-TEST_F(GeraNotaTest, GenerationWithoutStatusOrIdentity) {
-    for (const std::string& resposta :
-         {std::string("<R a='' s='OK'><x q='1'/><y z='A'/></R>"), cabecalho + "<R a='' s='OK'/>",
-          cabecalho + "<R a='' s='OK'><x q='1'/></R>",
-          cabecalho + "<R a='' s='OK'><x/><y z='A'/></R>"}) {
-        TestEnvironment outro;
-        outro.loader.on("Seleciona", observacao("")).on("SP_GERA_NF", resposta);
-        EXPECT_THROW(geraNota(outro.environment, sessao_, alerta_, "12",
-                              [](auto&, auto&, auto&, auto&) { FAIL() << "printed"; }),
-                     ErroExecucao)
-            << resposta;
-        EXPECT_EQ(outro.loader.addresses.size(), 3U);
+TEST_F(GenerateNoteTest, GenerationWithoutStatusOrIdentity) {
+    for (const std::string& answer :
+         {std::string("<R a='' s='OK'><x q='1'/><y z='A'/></R>"), header + "<R a='' s='OK'/>",
+          header + "<R a='' s='OK'><x q='1'/></R>", header + "<R a='' s='OK'><x/><y z='A'/></R>"}) {
+        TestEnvironment other;
+        other.loader.on("Seleciona", observation("")).on("SP_GERA_NF", answer);
+        EXPECT_THROW(generateNote(other.environment, session_, alert_, "12",
+                                  [](auto&, auto&, auto&, auto&) { FAIL() << "printed"; }),
+                     RuntimeError)
+            << answer;
+        EXPECT_EQ(other.loader.addresses.size(), 3U);
     }
 }
 
-TEST_F(GeraNotaTest, DocumentOutOfReach) {
-    seams_.loader.on("SP_GERA_NF", gerada_).failOn("sel_gera_nf");
-    EXPECT_EQ(gera(), FimDaGeracao::Completa);
+TEST_F(GenerateNoteTest, DocumentOutOfReach) {
+    seams_.loader.on("SP_GERA_NF", generated_).failOn("sel_gera_nf");
+    EXPECT_EQ(generate(), GenerationEnd::Finished);
     EXPECT_EQ(seams_.boxes.shown,
-              (Caixas{critica("Tarn0005"),
-                      exclamacao("Houve um problema na transferência dos dados da Nota Fiscal nº "
+              (Boxes{transportFailure("Tarn0005"),
+                     exclamation("Houve um problema na transferência dos dados da Nota Fiscal nº "
                                  "555. Utilize a tela de Reimpressão de Nota Fiscal.",
                                  "Aviso")}));
     EXPECT_EQ(seams_.loader.queries(),
-              (Textos{pedidoVenda_, pedidoEstoque_, pedidoGera_, pedidoNota_}));
-    EXPECT_TRUE(impressas_.empty());
+              (Texts{saleQuery_, stockQuery_, generateQuery_, noteQuery_}));
+    EXPECT_TRUE(printed_.empty());
 }
 
-TEST_F(GeraNotaTest, DocumentRefused) {
-    respostas(gerada_, recusa("Nota não encontrada"));
-    EXPECT_EQ(gera(), FimDaGeracao::Parada);
-    EXPECT_EQ(seams_.boxes.shown, Caixas{exclamacao("Nota não encontrada")});
-    EXPECT_TRUE(impressas_.empty());
+TEST_F(GenerateNoteTest, DocumentRefused) {
+    answers(generated_, refuse("Nota não encontrada"));
+    EXPECT_EQ(generate(), GenerationEnd::Stopped);
+    EXPECT_EQ(seams_.boxes.shown, Boxes{exclamation("Nota não encontrada")});
+    EXPECT_TRUE(printed_.empty());
 }
 
-TEST_F(GeraNotaTest, TheCustomerWhoseNumberIsLostEndsTheProgramBeforeAnyByte) {
-    sessao_.NCOMPANYCODE = 2161;
-    sessao_.ID_ETB_TARN = 3383;
-    respostas(gerada_, documentoNota_);
-    esperaFatal();
-    EXPECT_EQ(seams_.boxes.shown, Caixas{});
+TEST_F(GenerateNoteTest, TheCustomerWhoseNumberIsLostEndsTheProgramBeforeAnyByte) {
+    session_.NCOMPANYCODE = 2161;
+    session_.ID_ETB_TARN = 3383;
+    answers(generated_, noteDocument_);
+    expectFatal();
+    EXPECT_EQ(seams_.boxes.shown, Boxes{});
     EXPECT_EQ(seams_.loader.addresses.size(), 4U);
 }
 
-TEST_F(GeraNotaTest, OtherEstablishmentsOfThatCustomerPrint) {
-    sessao_.NCOMPANYCODE = 2161;
-    sessao_.ID_ETB_TARN = 3381;
-    respostas(gerada_, documentoNota_);
-    EXPECT_EQ(gera(), FimDaGeracao::Completa);
-    EXPECT_EQ(impressas_.size(), 1U);
+TEST_F(GenerateNoteTest, OtherEstablishmentsOfThatCustomerPrint) {
+    session_.NCOMPANYCODE = 2161;
+    session_.ID_ETB_TARN = 3381;
+    answers(generated_, noteDocument_);
+    EXPECT_EQ(generate(), GenerationEnd::Finished);
+    EXPECT_EQ(printed_.size(), 1U);
 }
 
-TEST_F(GeraNotaTest, ThatCustomersRefusedDocumentIsOnlyShown) {
-    sessao_.NCOMPANYCODE = 2161;
-    sessao_.ID_ETB_TARN = 3383;
-    respostas(gerada_, recusa("x"));
-    EXPECT_EQ(gera(), FimDaGeracao::Parada);
-    EXPECT_EQ(seams_.boxes.shown, Caixas{exclamacao("x")});
+TEST_F(GenerateNoteTest, ThatCustomersRefusedDocumentIsOnlyShown) {
+    session_.NCOMPANYCODE = 2161;
+    session_.ID_ETB_TARN = 3383;
+    answers(generated_, refuse("x"));
+    EXPECT_EQ(generate(), GenerationEnd::Stopped);
+    EXPECT_EQ(seams_.boxes.shown, Boxes{exclamation("x")});
 }
 
 }  // namespace

@@ -9,53 +9,53 @@
 namespace tarn {
 namespace {
 
-comando::DadosOrdem values(std::string_view quantity, std::string_view gross,
+commands::OrderData values(std::string_view quantity, std::string_view gross,
                            std::string_view net) {
     return {.ordem = "12",
-            .observacao = "50% & | já",
-            .quantidade = quantity,
-            .pesoBruto = gross,
-            .pesoLiquido = net};
+            .observation = "50% & | já",
+            .quantity = quantity,
+            .grossWeight = gross,
+            .netWeight = net};
 }
 
-std::string refused(const comando::DadosOrdem& data, CampoDaOrdem field) {
-    const auto refusal = recusaDosDados(data);
+std::string refused(const commands::OrderData& data, OrderField field) {
+    const auto refusal = dataRefusal(data);
     if (!refusal) {
         return "-";
     }
-    EXPECT_EQ(refusal->campo, field);
+    EXPECT_EQ(refusal->field, field);
     return std::string(refusal->texto);
 }
 
-TEST(RecusaDosDados, ZeroAndMorePass) {
-    EXPECT_FALSE(recusaDosDados(values("0,000", "0", "1.234,500")));
-    EXPECT_FALSE(recusaDosDados(values("-0", "0,0", "99.999.999,999")));
+TEST(DataRefusal, ZeroAndMorePass) {
+    EXPECT_FALSE(dataRefusal(values("0,000", "0", "1.234,500")));
+    EXPECT_FALSE(dataRefusal(values("-0", "0,0", "99.999.999,999")));
 }
 
-TEST(RecusaDosDados, EachTestHasItsTextAndTheFirstCounts) {
-    using enum CampoDaOrdem;
-    EXPECT_EQ(refused(values("", "", ""), Quantidade), "Quantidade Espécie é obrigatório!     ");
-    EXPECT_EQ(refused(values("-1", "", ""), Quantidade), "Quantidade Espécie inválido!     ");
-    EXPECT_EQ(refused(values("0", "", "-1"), PesoBruto), "Peso Bruto é obrigatório!     ");
-    EXPECT_EQ(refused(values("0", "-0,001", ""), PesoBruto), "Peso Bruto inválido!     ");
-    EXPECT_EQ(refused(values("0", "0", ""), PesoLiquido), "Peso Líquido é obrigatório!     ");
-    EXPECT_EQ(refused(values("0", "0", "-1.000,5"), PesoLiquido), "Peso Líquido inválido!     ");
+TEST(DataRefusal, EachTestHasItsTextAndTheFirstCounts) {
+    using enum OrderField;
+    EXPECT_EQ(refused(values("", "", ""), Quantity), "Quantidade Espécie é obrigatório!     ");
+    EXPECT_EQ(refused(values("-1", "", ""), Quantity), "Quantidade Espécie inválido!     ");
+    EXPECT_EQ(refused(values("0", "", "-1"), GrossWeight), "Peso Bruto é obrigatório!     ");
+    EXPECT_EQ(refused(values("0", "-0,001", ""), GrossWeight), "Peso Bruto inválido!     ");
+    EXPECT_EQ(refused(values("0", "0", ""), NetWeight), "Peso Líquido é obrigatório!     ");
+    EXPECT_EQ(refused(values("0", "0", "-1.000,5"), NetWeight), "Peso Líquido inválido!     ");
 }
 
-TEST(RecusaDosDados, ATextThatIsNoNumberRaisesTheError) {
-    EXPECT_THROW(recusaDosDados(values(" ", "", "")), ErroExecucao);
-    EXPECT_THROW(recusaDosDados(values("0", "abc", "")), ErroExecucao);
-    EXPECT_FALSE(refused(values("", "abc", ""), CampoDaOrdem::Quantidade).empty());
+TEST(DataRefusal, ATextThatIsNoNumberRaisesTheError) {
+    EXPECT_THROW(dataRefusal(values(" ", "", "")), RuntimeError);
+    EXPECT_THROW(dataRefusal(values("0", "abc", "")), RuntimeError);
+    EXPECT_FALSE(refused(values("", "abc", ""), OrderField::Quantity).empty());
 }
 
-class GravaOrdemTest : public testing::Test {
+class SaveOrderTest : public testing::Test {
 protected:
-    GravaOrdemTest() {
+    SaveOrderTest() {
         session_.ID_ETB_TARN = 9;
         session_.SERVERNAME = "SRV";
     }
     bool write() {
-        const bool sent = gravaOrdem(seams_.environment, session_, values("1,000", "0,000", "2,5"));
+        const bool sent = saveOrder(seams_.environment, session_, values("1,000", "0,000", "2,5"));
         EXPECT_EQ(seams_.loader.queries(),
                   std::vector<std::string>{
                       "COMANDO=MANUTENCAO_OFT&ID_ETB_TARN=9&ID_ORD_FAT=12&ServerName=SRV&DC_OBS="
@@ -68,20 +68,20 @@ protected:
     Sessao session_;
 };
 
-TEST_F(GravaOrdemTest, Written) {
+TEST_F(SaveOrderTest, Written) {
     seams_.loader.on("MANUTENCAO_OFT", answers::status("OK"));
     EXPECT_TRUE(write());
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
 
-TEST_F(GravaOrdemTest, Refused) {
+TEST_F(SaveOrderTest, Refused) {
     seams_.loader.on("MANUTENCAO_OFT", answers::status("Ordem em uso. "));
     EXPECT_FALSE(write());
     EXPECT_EQ(seams_.boxes.shown,
               (std::vector<Box>{{"Ordem em uso. ", BoxIcon::Exclamation, "TarnEmissao"}}));
 }
 
-TEST_F(GravaOrdemTest, ALostAnswerIsToBeCheckedByHand) {
+TEST_F(SaveOrderTest, ALostAnswerIsToBeCheckedByHand) {
     EXPECT_TRUE(write());
     EXPECT_EQ(
         seams_.boxes.shown,
@@ -92,9 +92,9 @@ TEST_F(GravaOrdemTest, ALostAnswerIsToBeCheckedByHand) {
                            BoxIcon::Exclamation, "Aviso"}}));
 }
 
-TEST_F(GravaOrdemTest, AnAnswerWithoutAStatusRaisesTheError) {
+TEST_F(SaveOrderTest, AnAnswerWithoutAStatusRaisesTheError) {
     seams_.loader.on("MANUTENCAO_OFT", "<R a='0' s='OK'/>");
-    EXPECT_THROW(write(), ErroExecucao);
+    EXPECT_THROW(write(), RuntimeError);
 }
 
 }  // namespace

@@ -66,7 +66,7 @@ std::string parcel(const std::string& due, const std::string& amount) {
     return element("PARCELA", {{"DT_PRL", due}, {"VL_PRL", amount}});
 }
 
-class OrdemDocumentoTest : public testing::Test {
+class OrderSheetTest : public testing::Test {
 protected:
     // The job's lines; each must have come in one write of its own.
     Lines standard(const std::string& xml) { return printed(ImprimeOrdemFaturamento, xml, true); }
@@ -94,8 +94,8 @@ private:
             try {
                 sheet(seams.environment, document);
                 ADD_FAILURE() << "no error";
-            } catch (const ErroExecucao& error) {
-                EXPECT_EQ(error.numero(), ErroNumero::VariavelObjeto);
+            } catch (const RuntimeError& error) {
+                EXPECT_EQ(error.number(), RuntimeErrorCode::ObjectVariable);
             }
         }
         EXPECT_EQ(seams.spooler.opened, Lines{"Impressora de teste"});
@@ -170,7 +170,7 @@ const std::string writingLine(77, '_');
 const Lines priceFoot{blankLine,   blankLine, observation, blankLine, writingLine, blankLine,
                       writingLine, blankLine, writingLine, blankLine, writingLine};
 
-TEST_F(OrdemDocumentoTest, StandardSheetWithoutInstalments) {
+TEST_F(OrderSheetTest, StandardSheetWithoutInstalments) {
     const Lines body{"   2,500 P1      PARAFUSO" + b(28) + "      10,00       25,00",
                      rule,
                      b(46) + "VALOR DE DESCONTO:       (1,50)",
@@ -185,7 +185,7 @@ TEST_F(OrdemDocumentoTest, StandardSheetWithoutInstalments) {
     EXPECT_EQ(standard(order(header, element("ITEM", fullItem))), joined({standardHead, body}));
 }
 
-TEST_F(OrdemDocumentoTest, StandardSheetWithInstalments) {
+TEST_F(OrderSheetTest, StandardSheetWithInstalments) {
     const Lines lines =
         standard(order(header, element("ITEM", item()) + parcel("12/04/2012", "14.2") +
                                    parcel("A VISTA", "1234567.895")));
@@ -197,11 +197,11 @@ TEST_F(OrdemDocumentoTest, StandardSheetWithInstalments) {
                b(28) + "12/04/2012" + b(8) + "14,20 ", b(28) + "A VISTA   " + " 1.234.567,90 "}));
 }
 
-TEST_F(OrdemDocumentoTest, AnOrderWithoutItemsHasItsTotals) {
+TEST_F(OrderSheetTest, AnOrderWithoutItemsHasItsTotals) {
     EXPECT_EQ(standard(order(header, "")), joined({standardHead, {rule}, emptyTotals}));
 }
 
-TEST_F(OrdemDocumentoTest, ItemsAndInstalmentsAreFoundAnywhereInTheDocument) {
+TEST_F(OrderSheetTest, ItemsAndInstalmentsAreFoundAnywhereInTheDocument) {
     const Lines lines = standard(
         documentOf(element("CAB", header) + "<A>" + element("ITEM", item()) + "<B>" +
                    parcel("1", "2") + "</B></A>" + element("ITEM", item({{"CD_PRO", "P2"}}))));
@@ -210,7 +210,7 @@ TEST_F(OrdemDocumentoTest, ItemsAndInstalmentsAreFoundAnywhereInTheDocument) {
     EXPECT_EQ(lines.back(), b(28) + "1" + b(9) + " " + b(8) + "2,00 ");
 }
 
-TEST_F(OrdemDocumentoTest, AmountsUpToTheirWidthAndAboveIt) {
+TEST_F(OrderSheetTest, AmountsUpToTheirWidthAndAboveIt) {
     // 9.999,999 has 9 characters for 8, 1.234.567,89 has 12 for 10 and for 11.
     const Lines lines = standard(
         order(header, element("ITEM", item({{"QTDE", "999.999"}, {"UNITARIO", "99999.99"}})) +
@@ -224,7 +224,7 @@ TEST_F(OrdemDocumentoTest, AmountsUpToTheirWidthAndAboveIt) {
     EXPECT_EQ(lines.at(12), "1.000,00" + middle + "    123,45  123.450,00");
 }
 
-TEST_F(OrdemDocumentoTest, TotalsUpToTheirWidthAndAboveIt) {
+TEST_F(OrderSheetTest, TotalsUpToTheirWidthAndAboveIt) {
     const Lines lines =
         standard(order(header, element("ITEM", item({{"VL_DSC", "123456.78"},
                                                      {"VL_IPI", "999999.99"},
@@ -238,7 +238,7 @@ TEST_F(OrdemDocumentoTest, TotalsUpToTheirWidthAndAboveIt) {
     EXPECT_EQ(lines.at(12).size(), 76U);
 }
 
-TEST_F(OrdemDocumentoTest, TextsAreCutAtTheirWidth) {
+TEST_F(OrderSheetTest, TextsAreCutAtTheirWidth) {
     const std::string description = "ÃBCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";  // 36 characters
     const Lines lines = standard(order(
         {{"RAZAO", std::string(51, 'R')}, {"DT_EMS_NF", "2012-03-12T00:00"}, {"VENDEDOR", ""}},
@@ -252,7 +252,7 @@ TEST_F(OrdemDocumentoTest, TextsAreCutAtTheirWidth) {
     EXPECT_EQ(lines.at(10), lines.at(9));
 }
 
-TEST_F(OrdemDocumentoTest, ControlCharactersInsideValuesAreBlanks) {
+TEST_F(OrderSheetTest, ControlCharactersInsideValuesAreBlanks) {
     const Lines lines = standard(
         order({{"RAZAO", "A&#10;B&#13;C"}, {"DT_EMS_NF", "1&#9;2"}, {"VENDEDOR", "V&#127;"}},
               element("ITEM", item({{"CD_PRO", "&#10;"}, {"DESCRICAO", "&#13;&#10;Z"}}))));
@@ -261,7 +261,7 @@ TEST_F(OrdemDocumentoTest, ControlCharactersInsideValuesAreBlanks) {
     EXPECT_EQ(lines.at(9), "   1,000 " + b(7) + "   Z" + b(33) + "       1,00        1,00");
 }
 
-TEST_F(OrdemDocumentoTest, AmountsAreReadUpToTheFirstStrangeCharacter) {
+TEST_F(OrderSheetTest, AmountsAreReadUpToTheFirstStrangeCharacter) {
     const Lines lines = standard(order(
         header, element("ITEM", item({{"QTDE", "2,5"}, {"UNITARIO", "1.234,50"}})) +
                     element("ITEM", item({{"QTDE", ""}, {"UNITARIO", "S/N"}, {"CD_PRO", ""}}))));
@@ -270,7 +270,7 @@ TEST_F(OrdemDocumentoTest, AmountsAreReadUpToTheFirstStrangeCharacter) {
     EXPECT_EQ(lines.at(10), "   0,000 " + b(7) + " " + middle + "      0,00        0,00");
 }
 
-TEST_F(OrdemDocumentoTest, TheNetIsThatOfTheTotalsNotOfThePrintedLines) {
+TEST_F(OrderSheetTest, TheNetIsThatOfTheTotalsNotOfThePrintedLines) {
     // Each item is 0,005, shown as 0,01; together they are 0,01.
     const std::string half = element("ITEM", item({{"UNITARIO", "0.005"}}));
     const Lines lines = standard(order(header, half + half));
@@ -278,14 +278,14 @@ TEST_F(OrdemDocumentoTest, TheNetIsThatOfTheTotalsNotOfThePrintedLines) {
     EXPECT_EQ(lines.back(), b(50) + "VALOR LIQUIDO:        0,01");
 }
 
-TEST_F(OrdemDocumentoTest, ANegativeNetAndOneOfNothing) {
+TEST_F(OrderSheetTest, ANegativeNetAndOneOfNothing) {
     const Lines lines = standard(order(header, element("ITEM", item({{"VL_DSC", "3.5"}}))));
     EXPECT_EQ(lines.back(), b(50) + "VALOR LIQUIDO:       -2,50");
     EXPECT_EQ(standard(order(header, element("ITEM", item({{"VL_DSC", "1.001"}})))).back(),
               b(50) + "VALOR LIQUIDO:        0,00");
 }
 
-TEST_F(OrdemDocumentoTest, PriceSheetWithoutInstalments) {
+TEST_F(OrderSheetTest, PriceSheetWithoutInstalments) {
     const Lines body{"   2,500 P1      PARAFUSO" + b(28) + "     10,000        28,40",
                      "   1,000 P1      PARAFUSO" + b(28) + "      1,000         1,00",
                      rule,
@@ -296,7 +296,7 @@ TEST_F(OrdemDocumentoTest, PriceSheetWithoutInstalments) {
               joined({priceHead, body, priceFoot}));
 }
 
-TEST_F(OrdemDocumentoTest, PriceSheetWithInstalments) {
+TEST_F(OrderSheetTest, PriceSheetWithInstalments) {
     const Lines body{
         rule,
         b(65) + "        0,00",
@@ -311,7 +311,7 @@ TEST_F(OrdemDocumentoTest, PriceSheetWithInstalments) {
         joined({priceHead, body, priceFoot}));
 }
 
-TEST_F(OrdemDocumentoTest, TheControlNumberOfThePriceSheet) {
+TEST_F(OrderSheetTest, TheControlNumberOfThePriceSheet) {
     const auto secondLine = [this](const std::string& attribute) {
         return withPrice(documentOf("<CAB" + attribute + "/>")).at(1);
     };
@@ -324,7 +324,7 @@ TEST_F(OrdemDocumentoTest, TheControlNumberOfThePriceSheet) {
     EXPECT_EQ(secondLine(" NR_CTRL_INT='A&#10;'"), "A" + b(39));
 }
 
-TEST_F(OrdemDocumentoTest, AmountsOfThePriceSheetAboveTheirWidth) {
+TEST_F(OrderSheetTest, AmountsOfThePriceSheetAboveTheirWidth) {
     const Lines lines = withPrice(order(
         header, element("ITEM", item({{"QTDE", "12345"}, {"UNITARIO", "1234567.8912"}})) +
                     element("ITEM", item({{"UNITARIO", "9999999.99"}, {"VL_DSC", "12345678.9"}}))));
@@ -334,13 +334,13 @@ TEST_F(OrdemDocumentoTest, AmountsOfThePriceSheetAboveTheirWidth) {
     EXPECT_EQ(lines.at(10), b(65) + "12.345.678,9");
 }
 
-TEST_F(OrdemDocumentoTest, AbsentHeaderFieldsAreEmpty) {
+TEST_F(OrderSheetTest, AbsentHeaderFieldsAreEmpty) {
     EXPECT_EQ(part(standard(documentOf("<CAB/>")), 3, 2),
               (Lines{"Cliente:  " + b(50) + " Data: " + b(10), "Vendedor: " + b(67)}));
     EXPECT_EQ(part(withPrice(documentOf("<CAB/>")), 3, 2), (Lines{b(77), b(67)}));
 }
 
-TEST_F(OrdemDocumentoTest, WithoutAHeaderRowTheSheetStopsWhereItFirstReadsIt) {
+TEST_F(OrderSheetTest, WithoutAHeaderRowTheSheetStopsWhereItFirstReadsIt) {
     for (const std::string& xml : {documentOf(""), documentOf("<!-- none -->"),
                                    declaration + "<OUTRA a='0' b='OK'><CAB/></OUTRA>"}) {
         EXPECT_EQ(standardUpToError(xml), part(standardHead, 0, 3)) << xml;
@@ -348,7 +348,7 @@ TEST_F(OrdemDocumentoTest, WithoutAHeaderRowTheSheetStopsWhereItFirstReadsIt) {
     }
 }
 
-TEST_F(OrdemDocumentoTest, AHeaderFieldSpelledOtherwiseStopsBeforeItsLine) {
+TEST_F(OrderSheetTest, AHeaderFieldSpelledOtherwiseStopsBeforeItsLine) {
     EXPECT_EQ(standardUpToError(documentOf("<CAB razao='R'/>")), part(standardHead, 0, 3));
     Fields fields = header;
     fields.erase("VENDEDOR");
@@ -357,7 +357,7 @@ TEST_F(OrdemDocumentoTest, AHeaderFieldSpelledOtherwiseStopsBeforeItsLine) {
     EXPECT_EQ(withPriceUpToError(order(fields, "")), part(priceHead, 0, 4));
 }
 
-TEST_F(OrdemDocumentoTest, AMissingFieldOfAnItemStopsBeforeItsLine) {
+TEST_F(OrderSheetTest, AMissingFieldOfAnItemStopsBeforeItsLine) {
     for (const auto& [field, value] : fullItem) {
         Fields second = fullItem;
         second.erase(field);
@@ -374,14 +374,14 @@ TEST_F(OrdemDocumentoTest, AMissingFieldOfAnItemStopsBeforeItsLine) {
     }
 }
 
-TEST_F(OrdemDocumentoTest, AnItemsFieldInAnotherCaseIsMissing) {
+TEST_F(OrderSheetTest, AnItemsFieldInAnotherCaseIsMissing) {
     Fields fields = item();
     fields.erase("QTDE");
     fields["Qtde"] = "1";
     EXPECT_EQ(standardUpToError(order(header, element("ITEM", fields))), standardHead);
 }
 
-TEST_F(OrdemDocumentoTest, AMissingFieldOfAnInstalmentStopsBeforeItsLine) {
+TEST_F(OrderSheetTest, AMissingFieldOfAnInstalmentStopsBeforeItsLine) {
     for (const char* broken : {"<PARCELA DT_PRL='1'/>", "<PARCELA VL_PRL='1'/>"}) {
         const std::string xml = order(header, parcel("1", "2") + broken);
         const Lines lines = standardUpToError(xml);
@@ -391,19 +391,19 @@ TEST_F(OrdemDocumentoTest, AMissingFieldOfAnInstalmentStopsBeforeItsLine) {
     }
 }
 
-TEST_F(OrdemDocumentoTest, TheReportNamesTheMissingField) {
+TEST_F(OrderSheetTest, TheReportNamesTheMissingField) {
     TestEnvironment seams;
     XmlDocument document;
     ASSERT_TRUE(document.loadXML(order(header, "<ITEM CD_PRO='1' DESCRICAO='2'/>")));
     try {
         ImprimeOrdemFaturamento(seams.environment, document);
         ADD_FAILURE() << "no error";
-    } catch (const ErroExecucao& error) {
-        EXPECT_NE(error.descricao().find("QTDE"), std::string::npos) << error.descricao();
+    } catch (const RuntimeError& error) {
+        EXPECT_NE(error.description().find("QTDE"), std::string::npos) << error.description();
     }
 }
 
-TEST_F(OrdemDocumentoTest, OnlyOneCompanyHasTheSheetWithThePrice) {
+TEST_F(OrderSheetTest, OnlyOneCompanyHasTheSheetWithThePrice) {
     for (const auto& [company, second] : std::initializer_list<std::pair<int, std::string>>{
              {1361, "CTRL-77" + b(33)}, {2041, standardHead[1]}, {136, standardHead[1]}}) {
         TestEnvironment seams;
@@ -411,7 +411,7 @@ TEST_F(OrdemDocumentoTest, OnlyOneCompanyHasTheSheetWithThePrice) {
         session.NCOMPANYCODE = company;
         XmlDocument document;
         ASSERT_TRUE(document.loadXML(order(header, "")));
-        imprimeOrdem(seams.environment, session, document);
+        printOrder(seams.environment, session, document);
         EXPECT_EQ(seams.spooler.jobs.at(0).writes.at(1), " " + second + "\r\n") << company;
     }
 }

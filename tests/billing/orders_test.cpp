@@ -8,149 +8,149 @@
 namespace tarn {
 namespace {
 
-const std::string cabecalho = "<?xml version='1.0'?>";
-const std::string falha6 =
+const std::string header = "<?xml version='1.0'?>";
+const std::string failure6 =
     "ERRO Tarn0006 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
     "Internet.";
-const std::string falha3 =
+const std::string failure3 =
     "ERRO Tarn0003 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
     "Internet.";
 
-Box critica(const std::string& texto) {
+Box transportFailure(const std::string& texto) {
     return {.text = texto, .icon = BoxIcon::Critical, .title = "TarnEMISSAO - ERRO INESPERADO"};
 }
-Box exclamacao(const std::string& texto, const std::string& titulo = "TarnEmissao") {
-    return {.text = texto, .icon = BoxIcon::Exclamation, .title = titulo};
+Box exclamation(const std::string& texto, const std::string& title = "TarnEmissao") {
+    return {.text = texto, .icon = BoxIcon::Exclamation, .title = title};
 }
 
-class OrdensTest : public testing::Test {
+class OrdersTest : public testing::Test {
 protected:
-    OrdensTest() {
-        sessao_.ID_ETB_TARN = 3381;
-        sessao_.SERVERNAME = "SRV";
-        ordem_.celulas[0] = "12";
-        ordem_.celulas[5] = "34";
+    OrdersTest() {
+        session_.ID_ETB_TARN = 3381;
+        session_.SERVERNAME = "SRV";
+        ordem_.cells[0] = "12";
+        ordem_.cells[5] = "34";
     }
 
-    std::vector<OrdemFaturamento> carrega(const std::string& linhas) {
-        seams_.loader.on("sel_ordem_fatu", cabecalho + "<xml xmlns:rs='r' xmlns:z='z'><rs:data>" +
+    std::vector<BillingOrder> load(const std::string& linhas) {
+        seams_.loader.on("sel_ordem_fatu", header + "<xml xmlns:rs='r' xmlns:z='z'><rs:data>" +
                                                linhas + "</rs:data></xml>");
-        return carregaOrdens(seams_.environment, sessao_);
+        return loadOrders(seams_.environment, session_);
     }
-    bool cancela() { return cancelaOrdem(seams_.environment, sessao_, ordem_); }
+    bool cancel() { return cancelOrder(seams_.environment, session_, ordem_); }
 
-    const Box pergunta_{.text = "Confirma o cancelamento da Ordem de Faturamento nº 12 ?     ",
+    const Box question_{.text = "Confirma o cancelamento da Ordem de Faturamento nº 12 ?     ",
                         .icon = BoxIcon::Question,
                         .title = "Aviso",
                         .buttons = BoxButtons::YesNo};
-    const std::string pedido_ =
+    const std::string request_ =
         "comando=sp_can_oft&id_etb_tarn=3381&id_ord_fat=12&id_ord_crg=34&ServerName=SRV";
     TestEnvironment seams_;
-    Sessao sessao_;
-    OrdemFaturamento ordem_;
+    Sessao session_;
+    BillingOrder ordem_;
 };
 
-TEST_F(OrdensTest, TwelveCellsARow) {
-    const auto ordens = carrega(
+TEST_F(OrdersTest, TwelveCellsARow) {
+    const auto orders = load(
         "<z:row ID_ORD_FAT='0012' NM_PES_CPL='Jo&#227;o' NM_RDU='MATRIZ' DC_TIP_NF='VENDA' "
         "DT_GER_OFT='1/2/2012' ID_ORD_CRG='34' TRANSPORTADORA='T' NM_PES_MOT='M' DC_OBS='a&#10;b' "
         "QT_ESP='1234567.5' PESO_BRU='0.0005' PESO_LIQ='12,9'/>");
-    ASSERT_EQ(ordens.size(), 1U);
-    const std::array<std::string, 12> esperadas{
-        "0012", "João", "MATRIZ", "VENDA",         "1/2/2012", "34",
-        "T",    "M",    "a\nb",   "1.234.567,500", "0,001",    "12,000"};
-    EXPECT_EQ(ordens[0].celulas, esperadas);
-    EXPECT_EQ(ordens[0].ordem(), "0012");
-    EXPECT_EQ(ordens[0].ordemCarga(), "34");
+    ASSERT_EQ(orders.size(), 1U);
+    const std::array<std::string, 12> expected{"0012",  "João",  "MATRIZ", "VENDA", "1/2/2012",
+                                               "34",    "T",     "M",      "a\nb",  "1.234.567,500",
+                                               "0,001", "12,000"};
+    EXPECT_EQ(orders[0].cells, expected);
+    EXPECT_EQ(orders[0].ordem(), "0012");
+    EXPECT_EQ(orders[0].loadOrder(), "34");
     EXPECT_EQ(seams_.loader.queries(),
               std::vector<std::string>{"comando=sel_ordem_fatu&ID_ETB_TARN=3381&ServerName=SRV"});
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
 
-TEST_F(OrdensTest, NoValueOfARowBreaksTheList) {
+TEST_F(OrdersTest, NoValueOfARowBreaksTheList) {
     const std::string longText(100000, 'x');
-    const auto ordens = carrega("<z:row ID_ORD_FAT='1' NM_PES_CPL='" + longText +
-                                "' QT_ESP='1e308' PESO_BRU='-1e999' PESO_LIQ='1.234.5'/>"
-                                "<z:row z:ID_ORD_FAT='2' Nm_Pes_Cpl='y' QT_ESP='&#10; 1 2 &#9;x'/>"
-                                "<outra ID_ORD_FAT='3'/>");
-    ASSERT_EQ(ordens.size(), 3U);
-    EXPECT_EQ(ordens[0].celulas[1], longText);
-    EXPECT_EQ(ordens[0].celulas[9].substr(0, 8), "100.000.");
-    EXPECT_EQ(ordens[0].celulas[9].size(), 309U + 102U + 4U);
-    EXPECT_EQ(ordens[0].celulas[10].substr(0, 20), "-179.769.313.486.232");
-    EXPECT_EQ(ordens[0].celulas[11], "1,234");
-    EXPECT_EQ(ordens[1].celulas[0], "") << "a prefixed name is another name";
-    EXPECT_EQ(ordens[1].celulas[1], "") << "so is one in another case of letters";
-    EXPECT_EQ(ordens[1].celulas[9], "12,000");
-    EXPECT_EQ(ordens[2].ordem(), "3");
+    const auto orders = load("<z:row ID_ORD_FAT='1' NM_PES_CPL='" + longText +
+                             "' QT_ESP='1e308' PESO_BRU='-1e999' PESO_LIQ='1.234.5'/>"
+                             "<z:row z:ID_ORD_FAT='2' Nm_Pes_Cpl='y' QT_ESP='&#10; 1 2 &#9;x'/>"
+                             "<outra ID_ORD_FAT='3'/>");
+    ASSERT_EQ(orders.size(), 3U);
+    EXPECT_EQ(orders[0].cells[1], longText);
+    EXPECT_EQ(orders[0].cells[9].substr(0, 8), "100.000.");
+    EXPECT_EQ(orders[0].cells[9].size(), 309U + 102U + 4U);
+    EXPECT_EQ(orders[0].cells[10].substr(0, 20), "-179.769.313.486.232");
+    EXPECT_EQ(orders[0].cells[11], "1,234");
+    EXPECT_EQ(orders[1].cells[0], "") << "a prefixed name is another name";
+    EXPECT_EQ(orders[1].cells[1], "") << "so is one in another case of letters";
+    EXPECT_EQ(orders[1].cells[9], "12,000");
+    EXPECT_EQ(orders[2].ordem(), "3");
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
 
-TEST_F(OrdensTest, AbsentAndEmptyFields) {
-    const auto ordens = carrega(
+TEST_F(OrdersTest, AbsentAndEmptyFields) {
+    const auto orders = load(
         "<z:row ID_ORD_FAT='1' id_ord_crg='9' QT_ESP='' PESO_BRU='S/N'/>"
         "<z:row/>");
-    ASSERT_EQ(ordens.size(), 2U);
-    EXPECT_EQ(ordens[0].celulas[0], "1");
-    EXPECT_EQ(ordens[0].celulas[5], "");  // another spelling counts as absent
-    EXPECT_EQ(ordens[0].celulas[8], "");
-    EXPECT_EQ(ordens[0].celulas[9], "0,000");
-    EXPECT_EQ(ordens[0].celulas[10], "0,000");
-    EXPECT_EQ(ordens[0].celulas[11], "");
-    EXPECT_EQ(ordens[1].celulas, (std::array<std::string, 12>{}));
+    ASSERT_EQ(orders.size(), 2U);
+    EXPECT_EQ(orders[0].cells[0], "1");
+    EXPECT_EQ(orders[0].cells[5], "");  // another spelling counts as absent
+    EXPECT_EQ(orders[0].cells[8], "");
+    EXPECT_EQ(orders[0].cells[9], "0,000");
+    EXPECT_EQ(orders[0].cells[10], "0,000");
+    EXPECT_EQ(orders[0].cells[11], "");
+    EXPECT_EQ(orders[1].cells, (std::array<std::string, 12>{}));
 }
 
-TEST_F(OrdensTest, NoRowsAndNoMessage) {
-    EXPECT_TRUE(carrega("").empty());
-    TestEnvironment outro;
-    outro.loader.on("sel_ordem_fatu", "<outra/>");
-    EXPECT_TRUE(carregaOrdens(outro.environment, sessao_).empty());
+TEST_F(OrdersTest, NoRowsAndNoMessage) {
+    EXPECT_TRUE(load("").empty());
+    TestEnvironment other;
+    other.loader.on("sel_ordem_fatu", "<outra/>");
+    EXPECT_TRUE(loadOrders(other.environment, session_).empty());
     EXPECT_TRUE(seams_.boxes.shown.empty());
-    EXPECT_TRUE(outro.boxes.shown.empty());
+    EXPECT_TRUE(other.boxes.shown.empty());
 }
 
-TEST_F(OrdensTest, AFailedRefreshLeavesAnEmptyList) {
-    EXPECT_TRUE(carregaOrdens(seams_.environment, sessao_).empty());
-    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{critica(falha6)});
+TEST_F(OrdersTest, AFailedRefreshLeavesAnEmptyList) {
+    EXPECT_TRUE(loadOrders(seams_.environment, session_).empty());
+    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{transportFailure(failure6)});
 }
 
-TEST_F(OrdensTest, ACancelAnsweredWithNoSendsNothing) {
+TEST_F(OrdersTest, ACancelAnsweredWithNoSendsNothing) {
     seams_.boxes.answers = {BoxAnswer::No};
-    EXPECT_FALSE(cancela());
-    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{pergunta_});
+    EXPECT_FALSE(cancel());
+    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{question_});
     EXPECT_TRUE(seams_.loader.addresses.empty());
 }
 
-TEST_F(OrdensTest, Cancelled) {
-    seams_.loader.on("sp_can_oft", cabecalho + "<R a='' s='OK'/>");
-    EXPECT_TRUE(cancela());
+TEST_F(OrdersTest, Cancelled) {
+    seams_.loader.on("sp_can_oft", header + "<R a='' s='OK'/>");
+    EXPECT_TRUE(cancel());
     EXPECT_EQ(seams_.boxes.shown,
-              (std::vector<Box>{pergunta_,
+              (std::vector<Box>{question_,
                                 {.text = "Ordem de Faturamento cancelada.      ",
                                  .icon = BoxIcon::Information,
                                  .title = "Aviso "}}));
-    EXPECT_EQ(seams_.loader.queries(), std::vector<std::string>{pedido_});
+    EXPECT_EQ(seams_.loader.queries(), std::vector<std::string>{request_});
 }
 
-TEST_F(OrdensTest, CancelRefused) {
-    seams_.loader.on("sp_can_oft", cabecalho + "<R a='' s='Ordem em uso. '/>");
-    EXPECT_FALSE(cancela());
-    EXPECT_EQ(seams_.boxes.shown, (std::vector<Box>{pergunta_, exclamacao("Ordem em uso. ")}));
+TEST_F(OrdersTest, CancelRefused) {
+    seams_.loader.on("sp_can_oft", header + "<R a='' s='Ordem em uso. '/>");
+    EXPECT_FALSE(cancel());
+    EXPECT_EQ(seams_.boxes.shown, (std::vector<Box>{question_, exclamation("Ordem em uso. ")}));
 }
 
-TEST_F(OrdensTest, CancelWithoutAnAnswerIsToBeCheckedByHandAndNotSentAgain) {
-    EXPECT_FALSE(cancela());
+TEST_F(OrdersTest, CancelWithoutAnAnswerIsToBeCheckedByHandAndNotSentAgain) {
+    EXPECT_FALSE(cancel());
     EXPECT_EQ(seams_.boxes.shown,
               (std::vector<Box>{
-                  pergunta_, critica(falha3),
-                  exclamacao("Favor verificar se a Ordem de Faturamento nº 12 foi cancelada. ",
-                             "Aviso")}));
-    EXPECT_EQ(seams_.loader.queries(), std::vector<std::string>{pedido_});
+                  question_, transportFailure(failure3),
+                  exclamation("Favor verificar se a Ordem de Faturamento nº 12 foi cancelada. ",
+                              "Aviso")}));
+    EXPECT_EQ(seams_.loader.queries(), std::vector<std::string>{request_});
 }
 
-TEST_F(OrdensTest, CancelWithoutAStatus) {
+TEST_F(OrdersTest, CancelWithoutAStatus) {
     seams_.loader.on("sp_can_oft", "<R a='' s='OK'/>");
-    EXPECT_THROW(cancela(), ErroExecucao);
+    EXPECT_THROW(cancel(), RuntimeError);
 }
 
 }  // namespace

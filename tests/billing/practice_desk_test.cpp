@@ -40,10 +40,10 @@ protected:
     void SetUp() override {
         ScreenTest::SetUp();
         entered(1361, 1361);
-        sessao.UserCode = "101";
-        sessao.SERVERNAME = "DADOS1361";
+        session.UserCode = "101";
+        session.SERVERNAME = "DADOS1361";
         list.show();
-        list.carrega();
+        list.load();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&list));
         ASSERT_GT(grid().model()->rowCount(), 0);
     }
@@ -56,7 +56,7 @@ protected:
     CurlLoader curl;
     BlockingLoader real{curl};
     Environment overNetwork{real, spooler, printer, boxes, clock, machine, practice.baseUrl()};
-    DeskContext realDesk{overNetwork, sessao, fim};
+    DeskContext realDesk{overNetwork, session, end};
     FrmOFT list{realDesk};
 };
 

@@ -12,14 +12,14 @@ namespace {
 const std::string problem =
     "Houve um problema na transferência dos dados da Ordem de Faturamento nº 0012.";
 
-class ImprimeOrdemTest : public testing::Test {
+class PrintSelectedOrderTest : public testing::Test {
 protected:
-    ImprimeOrdemTest() {
+    PrintSelectedOrderTest() {
         session_.ID_ETB_TARN = 9;
         session_.SERVERNAME = "SRV";
     }
     void answer(const std::string& body) { seams_.loader.on("sel_impr_ordem_fatu", body); }
-    void print() { imprimeOrdemSelecionada(seams_.environment, session_, "0012"); }
+    void print() { printSelectedOrder(seams_.environment, session_, "0012"); }
     // One request in any case, and not a byte to the printer.
     void expectNothingPrinted() {
         EXPECT_EQ(seams_.loader.queries(),
@@ -32,7 +32,7 @@ protected:
     Sessao session_;
 };
 
-TEST_F(ImprimeOrdemTest, FetchesAndPrintsWithoutAWord) {
+TEST_F(PrintSelectedOrderTest, FetchesAndPrintsWithoutAWord) {
     answer(answers::declaration +
            "<PRINCIPAL cod='0' status='OK'><CAB RAZAO='CLIENTE'/></PRINCIPAL>");
     print();
@@ -43,7 +43,7 @@ TEST_F(ImprimeOrdemTest, FetchesAndPrintsWithoutAWord) {
     EXPECT_EQ(seams_.loader.addresses.size(), 1U);
 }
 
-TEST_F(ImprimeOrdemTest, AFailedLoadHasTwoBoxes) {
+TEST_F(PrintSelectedOrderTest, AFailedLoadHasTwoBoxes) {
     print();
     EXPECT_EQ(seams_.boxes.shown,
               (std::vector<Box>{{"ERRO Tarn0012 - Não foi possível obter os dados da Internet. "
@@ -53,7 +53,7 @@ TEST_F(ImprimeOrdemTest, AFailedLoadHasTwoBoxes) {
     expectNothingPrinted();
 }
 
-TEST_F(ImprimeOrdemTest, ARefusalShowsTheServersText) {
+TEST_F(PrintSelectedOrderTest, ARefusalShowsTheServersText) {
     answer(answers::status("Ordem já faturada. "));
     print();
     EXPECT_EQ(seams_.boxes.shown,
@@ -61,16 +61,16 @@ TEST_F(ImprimeOrdemTest, ARefusalShowsTheServersText) {
     expectNothingPrinted();
 }
 
-TEST_F(ImprimeOrdemTest, AStatusIsComparedExactly) {
+TEST_F(PrintSelectedOrderTest, AStatusIsComparedExactly) {
     answer(answers::status("ok"));
     print();
     EXPECT_EQ(seams_.boxes.texts(), std::vector<std::string>{"ok"});
     expectNothingPrinted();
 }
 
-TEST_F(ImprimeOrdemTest, AnAnswerWithoutAStatusRaisesTheError) {
+TEST_F(PrintSelectedOrderTest, AnAnswerWithoutAStatusRaisesTheError) {
     answer("<PRINCIPAL cod='0' status='OK'><CAB/></PRINCIPAL>");
-    EXPECT_THROW(print(), ErroExecucao);
+    EXPECT_THROW(print(), RuntimeError);
     EXPECT_TRUE(seams_.boxes.shown.empty());
     expectNothingPrinted();
 }

@@ -11,41 +11,42 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class FigurasTest : public testing::Test {
+class BillPicturesTest : public testing::Test {
 protected:
     void SetUp() override {
-        pasta_ = fs::temp_directory_path() / ("figuras-" + std::to_string(::getpid()));
-        fs::create_directories(pasta_);
+        folder_ = fs::temp_directory_path() / ("figuras-" + std::to_string(::getpid()));
+        fs::create_directories(folder_);
     }
-    void TearDown() override { fs::remove_all(pasta_); }
-    void grava(const char* nome, const std::string& bytes) const {
-        std::ofstream(pasta_ / nome, std::ios::binary) << bytes;
+    void TearDown() override { fs::remove_all(folder_); }
+    void save(const char* nome, const std::string& bytes) const {
+        std::ofstream(folder_ / nome, std::ios::binary) << bytes;
     }
 
-    fs::path pasta_;
+    fs::path folder_;
 };
 
-TEST_F(FigurasTest, EachHasItsFile) {
-    grava("LOGODUPL.jpg", std::string("l\0\n", 3));
-    grava("VERTDUPL.jpg", "v");
-    grava("ASSEMITENTE.jpg", "a");
-    for (const std::string& pasta : {pasta_.string(), pasta_.string() + "/"}) {
-        const FigurasDuplicata figuras = carregaFiguras(pasta);
-        EXPECT_EQ(figuras.picLogo, Picture("picLogo", std::string("l\0\n", 3)));
-        EXPECT_EQ(figuras.picVert, Picture("picVert", "v"));
-        EXPECT_EQ(figuras.picAss, Picture("picAss", "a"));
+TEST_F(BillPicturesTest, EachHasItsFile) {
+    save("LOGODUPL.jpg", std::string("l\0\n", 3));
+    save("VERTDUPL.jpg", "v");
+    save("ASSEMITENTE.jpg", "a");
+    for (const std::string& folder : {folder_.string(), folder_.string() + "/"}) {
+        const BillPictures pictures = loadPictures(folder);
+        EXPECT_EQ(pictures.picLogo, Picture("picLogo", std::string("l\0\n", 3)));
+        EXPECT_EQ(pictures.picVert, Picture("picVert", "v"));
+        EXPECT_EQ(pictures.picAss, Picture("picAss", "a"));
     }
 }
 
-TEST_F(FigurasTest, WithoutAReadableFileThereIsNone) {
-    fs::create_directory(pasta_ / "LOGODUPL.jpg");
-    grava("VERTDUPL.jpg", "");
-    grava("assemitente.jpg", "a");
-    for (const std::string& pasta : {pasta_.string(), pasta_.string() + "/falta", std::string()}) {
-        const FigurasDuplicata figuras = carregaFiguras(pasta);
-        EXPECT_EQ(figuras.picLogo, std::nullopt);
-        EXPECT_EQ(figuras.picVert, std::nullopt);
-        EXPECT_EQ(figuras.picAss, std::nullopt);
+TEST_F(BillPicturesTest, WithoutAReadableFileThereIsNone) {
+    fs::create_directory(folder_ / "LOGODUPL.jpg");
+    save("VERTDUPL.jpg", "");
+    save("assemitente.jpg", "a");
+    for (const std::string& folder :
+         {folder_.string(), folder_.string() + "/falta", std::string()}) {
+        const BillPictures pictures = loadPictures(folder);
+        EXPECT_EQ(pictures.picLogo, std::nullopt);
+        EXPECT_EQ(pictures.picVert, std::nullopt);
+        EXPECT_EQ(pictures.picAss, std::nullopt);
     }
 }
 

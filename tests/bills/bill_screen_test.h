@@ -14,23 +14,23 @@
 
 namespace tarn {
 
-inline Box informa(const std::string& texto, const std::string& titulo = "TArn") {
-    return {texto, BoxIcon::Information, titulo};
+inline Box inform(const std::string& texto, const std::string& title = "TArn") {
+    return {texto, BoxIcon::Information, title};
 }
 
-inline Box critica(const std::string& texto) {
+inline Box transportFailure(const std::string& texto) {
     return {texto, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
 }
 
-class TelaDeDuplicatas : public ScreenTest {
+class BillScreenTest : public ScreenTest {
 protected:
-    static constexpr char pedeFiliais[] =
+    static constexpr char branchesQuery[] =
         "comando=sel_filiais&ID_EMP_TARN=1361&UserCode=77&ServerName=SRV1";
     // What the desk sends when a modal screen has closed.
-    static constexpr char pedeDaMesa[] = "comando=sel_dados_empresa&Id_Etb_Tarn=9&ServerName=SRV1";
+    static constexpr char deskQuery[] = "comando=sel_dados_empresa&Id_Etb_Tarn=9&ServerName=SRV1";
     // Positions of cboTpDocto.
-    static constexpr int duplicata = 1;
-    static constexpr int recibo = 2;
+    static constexpr int bill = 1;
+    static constexpr int receipt = 2;
 
     void SetUp() override {
         ScreenTest::SetUp();
@@ -42,55 +42,55 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(&menu));
     }
 
-    // Opens the screen by its menu entry; it is closed again behind `usa`.
-    void comATela(const std::function<void(QWidget&)>& usa) {
-        modals.then("FrmPesqDupli", [usa](QWidget& tela) {
-            usa(tela);
-            if (tela.isVisible()) {
-                click(tela, "cmdVoltar");
+    // Opens the screen by its menu entry; it is closed again behind `use`.
+    void withScreen(const std::function<void(QWidget&)>& use) {
+        modals.then("FrmPesqDupli", [use](QWidget& screen) {
+            use(screen);
+            if (screen.isVisible()) {
+                click(screen, "cmdVoltar");
             }
         });
         choose(menu, "mnuDuplicata");
     }
     // Opens the customer dialog from a screen.
-    void comOsClientes(QWidget& tela, const std::function<void(QWidget&)>& usa) {
-        modals.then("FrmPesqCliente", usa);
-        click(tela, "cmdPesqCli");
+    void withCustomers(QWidget& screen, const std::function<void(QWidget&)>& use) {
+        modals.then("FrmPesqCliente", use);
+        click(screen, "cmdPesqCli");
     }
 
     // Off-screen an open list takes the activation along.
-    static void escolhe(QWidget& tela, const char* lista, int linha) {
-        pick(tela, lista, linha);
-        tela.activateWindow();
-        ASSERT_TRUE(QTest::qWaitFor([&tela] { return QApplication::activeWindow() == &tela; }));
+    static void choose(QWidget& screen, const char* list, int linha) {
+        pick(screen, list, linha);
+        screen.activateWindow();
+        ASSERT_TRUE(QTest::qWaitFor([&screen] { return QApplication::activeWindow() == &screen; }));
     }
-    static std::string mostrado(const QWidget& tela, const char* campo) {
-        return named<QLineEdit>(tela, campo).text().toStdString();
+    static std::string shown(const QWidget& screen, const char* field) {
+        return named<QLineEdit>(screen, field).text().toStdString();
     }
-    static int linhas(const QWidget& tela) {
-        return named<QTableView>(tela, "sprDados").model()->rowCount();
+    static int linhas(const QWidget& screen) {
+        return named<QTableView>(screen, "sprDados").model()->rowCount();
     }
     // Text of a cell; row and column from 1.
-    static std::string celula(const QWidget& tela, int linha, int coluna) {
-        const QAbstractItemModel& modelo = *named<QTableView>(tela, "sprDados").model();
-        return modelo.index(linha - 1, coluna - 1).data().toString().toStdString();
+    static std::string cell(const QWidget& screen, int linha, int coluna) {
+        const QAbstractItemModel& model = *named<QTableView>(screen, "sprDados").model();
+        return model.index(linha - 1, coluna - 1).data().toString().toStdString();
     }
-    static bool marcada(const QWidget& tela, int linha) {
-        const QAbstractItemModel& modelo = *named<QTableView>(tela, "sprDados").model();
-        return modelo.index(linha - 1, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    static bool ticked(const QWidget& screen, int linha) {
+        const QAbstractItemModel& model = *named<QTableView>(screen, "sprDados").model();
+        return model.index(linha - 1, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked;
     }
-    static void clicaCelula(const QWidget& tela, int linha, int coluna) {
-        auto& grade = named<QTableView>(tela, "sprDados");
-        const QModelIndex celula = grade.model()->index(linha - 1, coluna - 1);
-        grade.scrollTo(celula);
-        QTest::mouseClick(grade.viewport(), Qt::LeftButton, {}, grade.visualRect(celula).center());
+    static void clickCell(const QWidget& screen, int linha, int coluna) {
+        auto& grid = named<QTableView>(screen, "sprDados");
+        const QModelIndex cell = grid.model()->index(linha - 1, coluna - 1);
+        grid.scrollTo(cell);
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(cell).center());
     }
-    static void clicaCabecalho(const QWidget& tela, int coluna) {
-        QHeaderView& cabecalho = *named<QTableView>(tela, "sprDados").horizontalHeader();
-        const int meio =
-            cabecalho.sectionViewportPosition(coluna - 1) + cabecalho.sectionSize(coluna - 1) / 2;
-        QTest::mouseClick(cabecalho.viewport(), Qt::LeftButton, {},
-                          QPoint(meio, cabecalho.height() / 2));
+    static void clickHeading(const QWidget& screen, int coluna) {
+        QHeaderView& header = *named<QTableView>(screen, "sprDados").horizontalHeader();
+        const int middle =
+            header.sectionViewportPosition(coluna - 1) + header.sectionSize(coluna - 1) / 2;
+        QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
+                          QPoint(middle, header.height() / 2));
     }
 
     MDIMenu menu{desk};

@@ -12,29 +12,29 @@ namespace {
 
 using testing::ElementsAre;
 
-std::vector<LinhaGrade> linhasDe(const std::string& linhas) {
-    XmlDocument resposta;
-    EXPECT_TRUE(resposta.loadXML(answers::rowset(linhas)));
-    return linhasDeDuplicatas(resposta);
+std::vector<GridRow> rowsOf(const std::string& linhas) {
+    XmlDocument answer;
+    EXPECT_TRUE(answer.loadXML(answers::rowset(linhas)));
+    return billRows(answer);
 }
 
-TEST(LinhasDeDuplicatas, EachColumnTakesItsAttribute) {
-    const auto linhas = linhasDe(
+TEST(BillRows, EachColumnTakesItsAttribute) {
+    const auto linhas = rowsOf(
         "<z:row SG_FIL='c2' DT_VNC_DOC_FMA='c3' DT_EMS_DOC='c4' NR_DOC='c5' NM_CLI_ETB='c6' "
         "DC_LG_CPL='c7' VL_PRN_DOC='1234567.895' CD_CEP='c9' NM_MUN='c10' SG_UF='c11' "
         "NR_CGC_CPL='1234567000189' CD_ICR_EST='c13' PES_JUR='1' TIPO_DOCTO='DOCTO_COBRANCA' "
         "ID_TIP_DOC='c16' ID_NR_CTL='c17' DC_REF_REC='c18' NR_DOC_NF='c19' EG_COB='c20' "
         "MUN_COB='c21' ES_COB='c22' CD_CEP_COB='c23'/>");
     ASSERT_EQ(linhas.size(), 1U);
-    EXPECT_FALSE(linhas[0].marcada);
-    EXPECT_THAT(linhas[0].celulas,
+    EXPECT_FALSE(linhas[0].ticked);
+    EXPECT_THAT(linhas[0].cells,
                 ElementsAre("", "c2", "c3", "c4", "c5", "c6", "c7", "1.234.567,90", "c9", "c10",
                             "c11", "01.234.567/0001-89", "c13", "J", "DOCTO_COBRANCA", "c16", "",
                             "c18", "c19", "c20", "c21", "c22", "c23"));
 }
 
-TEST(LinhasDeDuplicatas, AReceivableHasItsControlNumberInsteadOfTheReference) {
-    const auto linhas = linhasDe(
+TEST(BillRows, AReceivableHasItsControlNumberInsteadOfTheReference) {
+    const auto linhas = rowsOf(
         "<z:row TIPO_DOCTO='DOCTO_RECEBER' ID_NR_CTL='55' DC_REF_REC='x'/>"
         "<z:row ID_NR_CTL='55' DC_REF_REC='x'/>"
         "<z:row TIPO_DOCTO='docto_receber' ID_NR_CTL='55' DC_REF_REC='x'/>");
@@ -46,48 +46,47 @@ TEST(LinhasDeDuplicatas, AReceivableHasItsControlNumberInsteadOfTheReference) {
     }
 }
 
-TEST(LinhasDeDuplicatas, TaxNumbersByTheKindOfPerson) {
-    const auto linhas = linhasDe(
+TEST(BillRows, TaxNumbersByTheKindOfPerson) {
+    const auto linhas = rowsOf(
         "<z:row PES_JUR='0' NR_CGC_CPL='7654321'/>"
         "<z:row PES_JUR='0' NR_CGC_CPL='9912345678901'/>"
         "<z:row PES_JUR='00' NR_CGC_CPL='12345678901'/>"
         "<z:row NR_CGC_CPL=''/>"
         "<z:row PES_JUR='0'/>"
         "<z:row NR_CGC_CPL='ISENTO-é'/>");
-    const auto par = [&](std::size_t i) {
+    const auto pair = [&](std::size_t i) {
         return linhas[i].coluna(12) + " " + linhas[i].coluna(14);
     };
-    EXPECT_EQ(par(0), "000.076.543-21 F");
-    EXPECT_EQ(par(1), "123.456.789-01 F");
-    EXPECT_EQ(par(2), "00.012.345/6789-01 J");
-    EXPECT_EQ(par(3), "00.000.000/0000-00 J");
-    EXPECT_EQ(par(4), " F") << "absent";
-    EXPECT_EQ(par(5), "00.000.0IS/ENTO--é J");
+    EXPECT_EQ(pair(0), "000.076.543-21 F");
+    EXPECT_EQ(pair(1), "123.456.789-01 F");
+    EXPECT_EQ(pair(2), "00.012.345/6789-01 J");
+    EXPECT_EQ(pair(3), "00.000.000/0000-00 J");
+    EXPECT_EQ(pair(4), " F") << "absent";
+    EXPECT_EQ(pair(5), "00.000.0IS/ENTO--é J");
 }
 
-TEST(LinhasDeDuplicatas, AmountsAreReadWithAPoint) {
-    const auto linhas = linhasDe(
+TEST(BillRows, AmountsAreReadWithAPoint) {
+    const auto linhas = rowsOf(
         "<z:row VL_PRN_DOC='0.5'/><z:row VL_PRN_DOC=''/><z:row/><z:row VL_PRN_DOC='1.234,5'/>"
         "<z:row VL_PRN_DOC='-1234.005'/><z:row VL_PRN_DOC='A VISTA'/><z:row vl_prn_doc='7'/>");
-    std::vector<std::string> valores;
-    for (const LinhaGrade& linha : linhas) {
-        valores.push_back(linha.coluna(8));
+    std::vector<std::string> values;
+    for (const GridRow& linha : linhas) {
+        values.push_back(linha.coluna(8));
     }
-    EXPECT_THAT(valores, ElementsAre("0,50", "0,00", "", "1,23", "-1.234,01", "0,00", ""));
+    EXPECT_THAT(values, ElementsAre("0,50", "0,00", "", "1,23", "-1.234,01", "0,00", ""));
 }
 
-TEST(LinhasDeDuplicatas, WithoutRowsThereAreNone) {
-    EXPECT_TRUE(linhasDe("").empty());
-    XmlDocument semDados;
-    ASSERT_TRUE(semDados.loadXML("<?xml version='1.0'?><xml/>"));
-    EXPECT_TRUE(linhasDeDuplicatas(semDados).empty());
-    EXPECT_TRUE(linhasDeDuplicatas(XmlDocument()).empty());
+TEST(BillRows, WithoutRowsThereAreNone) {
+    EXPECT_TRUE(rowsOf("").empty());
+    XmlDocument noData;
+    ASSERT_TRUE(noData.loadXML("<?xml version='1.0'?><xml/>"));
+    EXPECT_TRUE(billRows(noData).empty());
+    EXPECT_TRUE(billRows(XmlDocument()).empty());
 }
 
-TEST(TiposDeDocumento, AreFixed) {
-    EXPECT_THAT(tiposDeDocumento(),
-                ElementsAre(ItemLista{"-------------", 0}, ItemLista{"DUPLICATA", 1},
-                            ItemLista{"RECIBO", 12}));
+TEST(DocumentKinds, AreFixed) {
+    EXPECT_THAT(documentKinds(), ElementsAre(ListItem{"-------------", 0}, ListItem{"DUPLICATA", 1},
+                                             ListItem{"RECIBO", 12}));
 }
 
 }  // namespace

@@ -13,66 +13,66 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class FrmPesqDupliTest : public TelaDeDuplicatas {
+class FrmPesqDupliTest : public BillScreenTest {
 protected:
-    static constexpr char falhou[] =
+    static constexpr char failed[] =
         "ERRO Tarn0009 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
         "Internet.";
 
     // Searches for all bills that fall due up to 31/12/2012.
-    void pesquisa(QWidget& tela, int tipo = duplicata) {
-        escolhe(tela, "cboTpDocto", tipo);
-        type(tela, "txtDtVncAte", "31122012");
-        click(tela, "cmdPesquisar");
+    void search(QWidget& screen, int kind = bill) {
+        choose(screen, "cboTpDocto", kind);
+        type(screen, "txtDtVncAte", "31122012");
+        click(screen, "cmdPesquisar");
     }
-    void acha(int quantas) {
+    void findBill(int count) {
         std::string linhas;
-        for (int i = 1; i <= quantas; ++i) {
+        for (int i = 1; i <= count; ++i) {
             linhas += "<z:row NR_DOC='" + std::to_string(i) + "' ID_TIP_DOC='1'/>";
         }
         server.on("sel_duplicata", answers::rowset(linhas));
     }
-    void gravaFigura(const QString& arquivo) const {
-        QImage figura(96, 48, QImage::Format_RGB32);
-        figura.fill(Qt::red);
-        ASSERT_TRUE(figura.save(arquivo, "JPG"));
+    void savePicture(const QString& file) const {
+        QImage picture(96, 48, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        ASSERT_TRUE(picture.save(file, "JPG"));
     }
-    static bool mostra(const QWidget& tela, const char* figura) {
-        const auto& rotulo = named<QLabel>(tela, figura);
-        return rotulo.isVisible() && !rotulo.pixmap(Qt::ReturnByValue).isNull();
+    static bool show(const QWidget& screen, const char* picture) {
+        const auto& label = named<QLabel>(screen, picture);
+        return label.isVisible() && !label.pixmap(Qt::ReturnByValue).isNull();
     }
-    static std::vector<std::string> itens(const QWidget& tela, const char* lista) {
-        const auto& combo = named<QComboBox>(tela, lista);
-        std::vector<std::string> todos;
+    static std::vector<std::string> items(const QWidget& screen, const char* list) {
+        const auto& combo = named<QComboBox>(screen, list);
+        std::vector<std::string> all;
         for (int i = 0; i < combo.count(); ++i) {
-            todos.push_back(combo.itemText(i).toStdString() + "=" +
-                            combo.itemData(i).toString().toStdString());
+            all.push_back(combo.itemText(i).toStdString() + "=" +
+                          combo.itemData(i).toString().toStdString());
         }
-        return todos;
+        return all;
     }
-    static int posicao(const QWidget& tela, const char* lista) {
-        return named<QComboBox>(tela, lista).currentIndex();
+    static int position(const QWidget& screen, const char* list) {
+        return named<QComboBox>(screen, list).currentIndex();
     }
 };
 
 TEST_F(FrmPesqDupliTest, OpensWithItsLists) {
-    comATela([&](QWidget& tela) {
-        EXPECT_THAT(server.queries(), ElementsAre(pedeFiliais)) << "no right is asked";
-        EXPECT_TRUE(tela.isModal());
-        EXPECT_THAT(itens(tela, "cboFilial"), ElementsAre("<-TODAS->=0", "MATRIZ=9", "SUL=12"));
-        EXPECT_THAT(itens(tela, "cboTpDocto"),
+    withScreen([&](QWidget& screen) {
+        EXPECT_THAT(server.queries(), ElementsAre(branchesQuery)) << "no right is asked";
+        EXPECT_TRUE(screen.isModal());
+        EXPECT_THAT(items(screen, "cboFilial"), ElementsAre("<-TODAS->=0", "MATRIZ=9", "SUL=12"));
+        EXPECT_THAT(items(screen, "cboTpDocto"),
                     ElementsAre("-------------=0", "DUPLICATA=1", "RECIBO=12"));
-        EXPECT_EQ(posicao(tela, "cboFilial"), 0);
-        EXPECT_EQ(posicao(tela, "cboTpDocto"), 0);
-        EXPECT_EQ(linhas(tela), 0);
+        EXPECT_EQ(position(screen, "cboFilial"), 0);
+        EXPECT_EQ(position(screen, "cboTpDocto"), 0);
+        EXPECT_EQ(linhas(screen), 0);
     });
-    EXPECT_THAT(server.queries(), ElementsAre(pedeFiliais, pedeDaMesa));
+    EXPECT_THAT(server.queries(), ElementsAre(branchesQuery, deskQuery));
     EXPECT_THAT(boxes.shown, IsEmpty());
 }
 
 TEST_F(FrmPesqDupliTest, SaysWhatItsFieldsAre) {
-    comATela([&](QWidget& tela) {
-        EXPECT_EQ(tela.windowTitle(), QStringLiteral(" Duplicata/Recibo"));
+    withScreen([&](QWidget& screen) {
+        EXPECT_EQ(screen.windowTitle(), QStringLiteral(" Duplicata/Recibo"));
         const std::pair<const char*, const char*> legendas[] = {
             {"lblTitulo", " Pesquisa de Documentos"},
             {"lblCliente", "Cliente"},
@@ -84,53 +84,52 @@ TEST_F(FrmPesqDupliTest, SaysWhatItsFieldsAre) {
             {"lblVencimento", "Data Vencto:"},
             {"lblVncDe", "De"},
             {"lblVncAte", "Até"}};
-        for (const auto& [nome, legenda] : legendas) {
-            EXPECT_EQ(named<QLabel>(tela, nome).text().toStdString(), legenda);
+        for (const auto& [nome, caption] : legendas) {
+            EXPECT_EQ(named<QLabel>(screen, nome).text().toStdString(), caption);
         }
-        EXPECT_EQ(named<QRadioButton>(tela, "optDupl").text(), QStringLiteral("Duplicata"));
-        EXPECT_EQ(named<QRadioButton>(tela, "optTripl").text(), QStringLiteral("Triplicata"));
-        EXPECT_TRUE(named<QRadioButton>(tela, "optDupl").isChecked());
-        EXPECT_TRUE(named<QLineEdit>(tela, "txtCliente").isReadOnly());
-        EXPECT_FALSE(named<QLineEdit>(tela, "txtSlip").isVisible());
+        EXPECT_EQ(named<QRadioButton>(screen, "optDupl").text(), QStringLiteral("Duplicata"));
+        EXPECT_EQ(named<QRadioButton>(screen, "optTripl").text(), QStringLiteral("Triplicata"));
+        EXPECT_TRUE(named<QRadioButton>(screen, "optDupl").isChecked());
+        EXPECT_TRUE(named<QLineEdit>(screen, "txtCliente").isReadOnly());
+        EXPECT_FALSE(named<QLineEdit>(screen, "txtSlip").isVisible());
         for (const char* nome :
              {"cmdPesqCli", "cmdLimpar", "cmdPesquisar", "cmdImprimir", "cmdVoltar"}) {
-            EXPECT_FALSE(named<QPushButton>(tela, nome).toolTip().isEmpty()) << nome;
-            EXPECT_FALSE(named<QPushButton>(tela, nome).icon().isNull()) << nome;
+            EXPECT_FALSE(named<QPushButton>(screen, nome).toolTip().isEmpty()) << nome;
+            EXPECT_FALSE(named<QPushButton>(screen, nome).icon().isNull()) << nome;
         }
         for (const char* nome : {"cmdPesqCli", "cmdLimpar"}) {
-            EXPECT_FALSE(named<QPushButton>(tela, nome).accessibleName().isEmpty()) << nome;
+            EXPECT_FALSE(named<QPushButton>(screen, nome).accessibleName().isEmpty()) << nome;
         }
     });
 }
 
 TEST_F(FrmPesqDupliTest, TheGridHasItsHeadings) {
-    comATela([&](QWidget& tela) {
-        const auto& grade = named<QTableView>(tela, "sprDados");
-        std::vector<std::string> titulos;
-        std::vector<int> guardadas;
-        for (int coluna = 0; coluna < grade.model()->columnCount(); ++coluna) {
-            titulos.push_back(
-                grade.model()->headerData(coluna, Qt::Horizontal).toString().toStdString());
-            if (grade.isColumnHidden(coluna)) {
-                guardadas.push_back(coluna + 1);
+    withScreen([&](QWidget& screen) {
+        const auto& grid = named<QTableView>(screen, "sprDados");
+        std::vector<std::string> titles;
+        std::vector<int> kept;
+        for (int coluna = 0; coluna < grid.model()->columnCount(); ++coluna) {
+            titles.push_back(
+                grid.model()->headerData(coluna, Qt::Horizontal).toString().toStdString());
+            if (grid.isColumnHidden(coluna)) {
+                kept.push_back(coluna + 1);
             }
         }
-        EXPECT_THAT(
-            titulos,
-            ElementsAre("", "Filial", "Dt.de Vencimento", "Dt.de Emissão", "Nº do Documento",
-                        "Cliente", "Endereço", "Vlr.do Documento", "CEP", "Município", "Filial",
-                        "CNPJ / CPF", "I.E.", "TP_PES", "TP_DOCTO1", "TP_DOCTO2", "ID_NR_CTL",
-                        "IC_REF_REC", "NR_DOC_NF", "Endereço Cobrança", "Município Cobrança",
-                        "Estado Cobrança", "CEP Cobrança"));
-        EXPECT_THAT(guardadas, ElementsAre(14, 15, 16, 17, 18, 19));
+        EXPECT_THAT(titles, ElementsAre("", "Filial", "Dt.de Vencimento", "Dt.de Emissão",
+                                        "Nº do Documento", "Cliente", "Endereço",
+                                        "Vlr.do Documento", "CEP", "Município", "Filial",
+                                        "CNPJ / CPF", "I.E.", "TP_PES", "TP_DOCTO1", "TP_DOCTO2",
+                                        "ID_NR_CTL", "IC_REF_REC", "NR_DOC_NF", "Endereço Cobrança",
+                                        "Município Cobrança", "Estado Cobrança", "CEP Cobrança"));
+        EXPECT_THAT(kept, ElementsAre(14, 15, 16, 17, 18, 19));
     });
 }
 
 TEST_F(FrmPesqDupliTest, TabGoesThroughTheFieldsThenTheButtons) {
-    comATela([&](QWidget& tela) {
-        EXPECT_EQ(focused(tela), "txtCliente");
+    withScreen([&](QWidget& screen) {
+        EXPECT_EQ(focused(screen), "txtCliente");
         EXPECT_THAT(
-            tabOrder(tela, "txtCliente", 15),
+            tabOrder(screen, "txtCliente", 15),
             ElementsAre("txtCliente", "cboFilial", "cboTpDocto", "txtDtEmsDe", "txtDtEmsAte",
                         "txtDtVncDe", "txtDtVncAte", "optDupl", "sprDados", "cmdPesquisar",
                         "cmdPesqCli", "cmdLimpar", "cmdImprimir", "cmdVoltar", "txtCliente"));
@@ -138,15 +137,15 @@ TEST_F(FrmPesqDupliTest, TabGoesThroughTheFieldsThenTheButtons) {
 }
 
 TEST_F(FrmPesqDupliTest, WithoutTheBranchesItOpensWithAllOfThem) {
-    ScriptedLoader fora;
-    server = fora.failOn("sel_filiais").on("sel_dados_empresa", answers::branch("F"));
-    comATela([&](QWidget& tela) {
-        EXPECT_THAT(itens(tela, "cboFilial"), ElementsAre("<-TODAS->=0"));
-        EXPECT_THAT(itens(tela, "cboTpDocto"), testing::SizeIs(3));
+    ScriptedLoader outside;
+    server = outside.failOn("sel_filiais").on("sel_dados_empresa", answers::branch("F"));
+    withScreen([&](QWidget& screen) {
+        EXPECT_THAT(items(screen, "cboFilial"), ElementsAre("<-TODAS->=0"));
+        EXPECT_THAT(items(screen, "cboTpDocto"), testing::SizeIs(3));
     });
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(critica("ERRO    Tarn0009 - Não foi possível obter os dados da "
-                                    "Internet. Verifique a conexão com a Internet.")));
+    EXPECT_THAT(boxes.shown, ElementsAre(transportFailure(
+                                 "ERRO    Tarn0009 - Não foi possível obter os dados da "
+                                 "Internet. Verifique a conexão com a Internet.")));
 }
 
 TEST_F(FrmPesqDupliTest, BranchesAsTheyCome) {
@@ -156,40 +155,40 @@ TEST_F(FrmPesqDupliTest, BranchesAsTheyCome) {
                                            "<z:row ID_ETB_TARN=' 007 '/>"
                                            "<z:row SG_FIL='B' ID_ETB_TARN='x'/>"
                                            "<z:row SG_FIL='C' ID_ETB_TARN='99999999999'/>"));
-    comATela([&](QWidget& tela) {
-        EXPECT_THAT(itens(tela, "cboFilial"),
+    withScreen([&](QWidget& screen) {
+        EXPECT_THAT(items(screen, "cboFilial"),
                     ElementsAre("<-TODAS->=0", " <b>A =0", "=7", "B=0", "C=0"));
     });
 }
 
 TEST_F(FrmPesqDupliTest, TheSearchWantsAKindThenADueDate) {
-    acha(1);
-    comATela([&](QWidget& tela) {
+    findBill(1);
+    withScreen([&](QWidget& screen) {
         server.addresses.clear();
-        click(tela, "cmdPesquisar");
-        EXPECT_EQ(focused(tela), "cboTpDocto");
-        type(tela, "txtDtVncAte", "31122012");
-        click(tela, "cmdPesquisar");
-        EXPECT_EQ(focused(tela), "cboTpDocto");
-        escolhe(tela, "cboTpDocto", duplicata);
-        type(tela, "txtDtVncAte", "");
-        key(tela, Qt::Key_Backspace);
-        click(tela, "cmdPesquisar");
-        EXPECT_EQ(focused(tela), "txtDtVncAte");
-        EXPECT_EQ(posicao(tela, "cboTpDocto"), duplicata) << "a box is no activation";
+        click(screen, "cmdPesquisar");
+        EXPECT_EQ(focused(screen), "cboTpDocto");
+        type(screen, "txtDtVncAte", "31122012");
+        click(screen, "cmdPesquisar");
+        EXPECT_EQ(focused(screen), "cboTpDocto");
+        choose(screen, "cboTpDocto", bill);
+        type(screen, "txtDtVncAte", "");
+        key(screen, Qt::Key_Backspace);
+        click(screen, "cmdPesquisar");
+        EXPECT_EQ(focused(screen), "txtDtVncAte");
+        EXPECT_EQ(position(screen, "cboTpDocto"), bill) << "a box is no activation";
         EXPECT_THAT(server.addresses, IsEmpty());
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(informa("Tipo de Documento Obrigatório.     "),
-                                         informa("Tipo de Documento Obrigatório.     "),
-                                         informa("Data de Vencimento Obrigatória.     ")));
+    EXPECT_THAT(boxes.shown, ElementsAre(inform("Tipo de Documento Obrigatório.     "),
+                                         inform("Tipo de Documento Obrigatório.     "),
+                                         inform("Data de Vencimento Obrigatória.     ")));
 }
 
 TEST_F(FrmPesqDupliTest, ASearchForAll) {
-    acha(2);
-    comATela([&](QWidget& tela) {
+    findBill(2);
+    withScreen([&](QWidget& screen) {
         server.addresses.clear();
-        pesquisa(tela);
-        pesquisa(tela, recibo);
+        search(screen);
+        search(screen, receipt);
         EXPECT_THAT(
             server.queries(),
             ElementsAre("comando=sel_duplicata&ID_EMP_TARN=1361"
@@ -199,32 +198,32 @@ TEST_F(FrmPesqDupliTest, ASearchForAll) {
                         "comando=sel_duplicata&ID_EMP_TARN=1361&ID_TIP_DOC=12&ID_PES_CLI="
                         "&ID_ETB_TARN=&DT_VNC_DE=&DT_VNC_ATE=31/12/2012&DT_EMS_DE=&DT_EMS_ATE="
                         "&ID_PES_USU=77&ServerName=SRV1"));
-        EXPECT_EQ(linhas(tela), 2);
-        EXPECT_EQ(celula(tela, 2, 5), "2");
-        EXPECT_FALSE(marcada(tela, 1) || marcada(tela, 2));
+        EXPECT_EQ(linhas(screen), 2);
+        EXPECT_EQ(cell(screen, 2, 5), "2");
+        EXPECT_FALSE(ticked(screen, 1) || ticked(screen, 2));
     });
     EXPECT_THAT(boxes.shown, IsEmpty());
 }
 
 TEST_F(FrmPesqDupliTest, ASearchWithEverything) {
-    acha(1);
+    findBill(1);
     server.on("Sel_Cliente",
               answers::rowset("<z:row NM_PES_CPL='ANA &lt;b>&amp; CIA' ID_PES_CLI='0071'/>"));
-    comATela([&](QWidget& tela) {
-        comOsClientes(tela, [](QWidget& dialogo) {
-            type(dialogo, "txtNmCli", "ana");
-            click(dialogo, "cmdPesquisar");
-            click(dialogo, "cmdSelecionar");
+    withScreen([&](QWidget& screen) {
+        withCustomers(screen, [](QWidget& dialog) {
+            type(dialog, "txtNmCli", "ana");
+            click(dialog, "cmdPesquisar");
+            click(dialog, "cmdSelecionar");
         });
-        EXPECT_EQ(mostrado(tela, "txtCliente"), "ANA <b>& CIA");
+        EXPECT_EQ(shown(screen, "txtCliente"), "ANA <b>& CIA");
         server.addresses.clear();
-        escolhe(tela, "cboFilial", 2);
-        escolhe(tela, "cboTpDocto", duplicata);
-        type(tela, "txtDtEmsDe", "01012012");
-        type(tela, "txtDtEmsAte", "3101");
-        type(tela, "txtDtVncDe", "5");
-        type(tela, "txtDtVncAte", "311212");
-        click(tela, "cmdPesquisar");
+        choose(screen, "cboFilial", 2);
+        choose(screen, "cboTpDocto", bill);
+        type(screen, "txtDtEmsDe", "01012012");
+        type(screen, "txtDtEmsAte", "3101");
+        type(screen, "txtDtVncDe", "5");
+        type(screen, "txtDtVncAte", "311212");
+        click(screen, "cmdPesquisar");
         EXPECT_THAT(server.queries(),
                     ElementsAre("comando=sel_duplicata&ID_EMP_TARN=1361"
                                 "&ID_TIP_DOC=1,201,202,203,262,341,342,361&ID_PES_CLI=0071"
@@ -235,263 +234,264 @@ TEST_F(FrmPesqDupliTest, ASearchWithEverything) {
 }
 
 TEST_F(FrmPesqDupliTest, DateFieldsFilterAndEnterIsATabStroke) {
-    comATela([&](QWidget& tela) {
-        type(tela, "txtDtEmsDe", "1a5/03");
-        EXPECT_EQ(mostrado(tela, "txtDtEmsDe"), "1503");
+    withScreen([&](QWidget& screen) {
+        type(screen, "txtDtEmsDe", "1a5/03");
+        EXPECT_EQ(shown(screen, "txtDtEmsDe"), "1503");
         EXPECT_EQ(machine.beeps, 2);
-        key(tela, Qt::Key_Return);
-        EXPECT_EQ(focused(tela), "txtDtEmsAte");
-        EXPECT_EQ(mostrado(tela, "txtDtEmsDe"), "15/03/2012");
+        key(screen, Qt::Key_Return);
+        EXPECT_EQ(focused(screen), "txtDtEmsAte");
+        EXPECT_EQ(shown(screen, "txtDtEmsDe"), "15/03/2012");
         EXPECT_EQ(machine.beeps, 3);
     });
 }
 
 // The focus goes along with an access key, and so the date being typed is finished.
 TEST_F(FrmPesqDupliTest, AnAccessKeyFinishesTheDate) {
-    comATela([&](QWidget& tela) {
+    withScreen([&](QWidget& screen) {
         server.on("sel_duplicata", answers::rowset(""));
-        escolhe(tela, "cboTpDocto", recibo);
-        type(tela, "txtDtVncAte", "31032012");
-        type(tela, "txtDtVncDe", "1");
+        choose(screen, "cboTpDocto", receipt);
+        type(screen, "txtDtVncAte", "31032012");
+        type(screen, "txtDtVncDe", "1");
         server.addresses.clear();
-        QTest::keyClick(tela.focusWidget(), Qt::Key_P, Qt::AltModifier);
+        QTest::keyClick(screen.focusWidget(), Qt::Key_P, Qt::AltModifier);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !server.addresses.empty(); }));
         EXPECT_THAT(server.queries().at(0), testing::HasSubstr("&DT_VNC_DE=01/03/2012&"));
-        EXPECT_EQ(focused(tela), "cmdPesquisar");
+        EXPECT_EQ(focused(screen), "cmdPesquisar");
     });
 }
 
 TEST_F(FrmPesqDupliTest, EnterLeavesTheCustomersNameInSilence) {
-    comATela([&](QWidget& tela) {
-        named<QLineEdit>(tela, "txtCliente").setFocus();
-        key(tela, Qt::Key_Return);
-        EXPECT_EQ(focused(tela), "cboFilial");
+    withScreen([&](QWidget& screen) {
+        named<QLineEdit>(screen, "txtCliente").setFocus();
+        key(screen, Qt::Key_Return);
+        EXPECT_EQ(focused(screen), "cboFilial");
         EXPECT_EQ(machine.beeps, 0);
     });
 }
 
 // A branch's short name has up to 12 characters.
 TEST_F(FrmPesqDupliTest, TheWidestShortNameOfABranchIsReadWhole) {
-    comATela([&](QWidget& tela) {
+    withScreen([&](QWidget& screen) {
         server.on("sel_duplicata", answers::rowset("<z:row SG_FIL='GUARATINGUET'/>"));
-        escolhe(tela, "cboTpDocto", recibo);
-        type(tela, "txtDtVncAte", "31032012");
-        click(tela, "cmdPesquisar");
-        const auto& grade = named<QTableView>(tela, "sprDados");
-        ASSERT_EQ(linhas(tela), 1);
-        EXPECT_GE(grade.columnWidth(1), grade.sizeHintForIndex(grade.model()->index(0, 1)).width());
+        choose(screen, "cboTpDocto", receipt);
+        type(screen, "txtDtVncAte", "31032012");
+        click(screen, "cmdPesquisar");
+        const auto& grid = named<QTableView>(screen, "sprDados");
+        ASSERT_EQ(linhas(screen), 1);
+        EXPECT_GE(grid.columnWidth(1), grid.sizeHintForIndex(grid.model()->index(0, 1)).width());
     });
 }
 
 TEST_F(FrmPesqDupliTest, EnterPressesOnlyAButtonThatHasTheFocus) {
-    acha(3);
-    comATela([&](QWidget& tela) {
-        escolhe(tela, "cboTpDocto", duplicata);
-        type(tela, "txtDtVncAte", "31122012");
+    findBill(3);
+    withScreen([&](QWidget& screen) {
+        choose(screen, "cboTpDocto", bill);
+        type(screen, "txtDtVncAte", "31122012");
         server.addresses.clear();
         for (const char* nome : {"txtCliente", "cboFilial", "cboTpDocto", "sprDados", "optDupl"}) {
-            named<QWidget>(tela, nome).setFocus();
-            key(tela, Qt::Key_Return);
+            named<QWidget>(screen, nome).setFocus();
+            key(screen, Qt::Key_Return);
         }
         EXPECT_THAT(server.addresses, IsEmpty());
-        EXPECT_TRUE(tela.isVisible());
-        named<QWidget>(tela, "cmdPesquisar").setFocus();
-        key(tela, Qt::Key_Return);
+        EXPECT_TRUE(screen.isVisible());
+        named<QWidget>(screen, "cmdPesquisar").setFocus();
+        key(screen, Qt::Key_Return);
         EXPECT_EQ(server.addresses.size(), 1U);
     });
     EXPECT_THAT(boxes.shown, IsEmpty());
 }
 
 TEST_F(FrmPesqDupliTest, ReceiptsHideTheKindOfBillUntilTheNextSearchForBills) {
-    acha(1);
-    comATela([&](QWidget& tela) {
-        const auto visiveis = [&tela] {
-            return named<QWidget>(tela, "optDupl").isVisible() &&
-                   named<QWidget>(tela, "optTripl").isVisible();
+    findBill(1);
+    withScreen([&](QWidget& screen) {
+        const auto visible = [&screen] {
+            return named<QWidget>(screen, "optDupl").isVisible() &&
+                   named<QWidget>(screen, "optTripl").isVisible();
         };
-        const auto escondidas = [&tela] {
-            return !named<QWidget>(tela, "optDupl").isVisible() &&
-                   !named<QWidget>(tela, "optTripl").isVisible();
+        const auto hidden = [&screen] {
+            return !named<QWidget>(screen, "optDupl").isVisible() &&
+                   !named<QWidget>(screen, "optTripl").isVisible();
         };
-        EXPECT_TRUE(visiveis());
-        click(tela, "optTripl");
-        pesquisa(tela, recibo);
-        EXPECT_TRUE(escondidas());
-        escolhe(tela, "cboTpDocto", duplicata);
-        EXPECT_TRUE(escondidas()) << "the choice alone changes nothing";
-        pesquisa(tela, duplicata);
-        EXPECT_TRUE(visiveis());
-        EXPECT_TRUE(named<QRadioButton>(tela, "optTripl").isChecked()) << "its value stays";
+        EXPECT_TRUE(visible());
+        click(screen, "optTripl");
+        search(screen, receipt);
+        EXPECT_TRUE(hidden());
+        choose(screen, "cboTpDocto", bill);
+        EXPECT_TRUE(hidden()) << "the choice alone changes nothing";
+        search(screen, bill);
+        EXPECT_TRUE(visible());
+        EXPECT_TRUE(named<QRadioButton>(screen, "optTripl").isChecked()) << "its value stays";
     });
 }
 
 TEST_F(FrmPesqDupliTest, AFailedSearchLeavesTheGrid) {
-    acha(2);
+    findBill(2);
     server.failOn("sel_duplicata&ID_EMP_TARN=1361&ID_TIP_DOC=12&");
-    comATela([&](QWidget& tela) {
-        pesquisa(tela);
-        clicaCelula(tela, 2, 1);
-        pesquisa(tela, recibo);
-        EXPECT_EQ(linhas(tela), 2);
-        EXPECT_TRUE(marcada(tela, 2));
-        EXPECT_FALSE(named<QWidget>(tela, "optDupl").isVisible());
+    withScreen([&](QWidget& screen) {
+        search(screen);
+        clickCell(screen, 2, 1);
+        search(screen, receipt);
+        EXPECT_EQ(linhas(screen), 2);
+        EXPECT_TRUE(ticked(screen, 2));
+        EXPECT_FALSE(named<QWidget>(screen, "optDupl").isVisible());
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(critica(falhou)));
+    EXPECT_THAT(boxes.shown, ElementsAre(transportFailure(failed)));
 }
 
 TEST_F(FrmPesqDupliTest, NothingFoundEmptiesTheGridInSilence) {
-    acha(2);
+    findBill(2);
     server.on("sel_duplicata", answers::rowset(""))
         .on("sel_duplicata", answers::rowset("<z:row/>"));
     server.on("sel_duplicata", "<?xml version='1.0'?><xml/>");
-    comATela([&](QWidget& tela) {
-        for (const int esperadas : {2, 0, 1, 0}) {
-            pesquisa(tela);
-            EXPECT_EQ(linhas(tela), esperadas);
+    withScreen([&](QWidget& screen) {
+        for (const int expected : {2, 0, 1, 0}) {
+            search(screen);
+            EXPECT_EQ(linhas(screen), expected);
         }
     });
     EXPECT_THAT(boxes.shown, IsEmpty());
 }
 
 TEST_F(FrmPesqDupliTest, TicksByMouseKeyAndHeading) {
-    acha(3);
-    comATela([&](QWidget& tela) {
-        clicaCabecalho(tela, 1);
-        pesquisa(tela);
-        clicaCelula(tela, 1, 1);
-        EXPECT_TRUE(marcada(tela, 1));
-        clicaCabecalho(tela, 1);
-        EXPECT_TRUE(marcada(tela, 1) && marcada(tela, 2) && marcada(tela, 3));
-        clicaCelula(tela, 2, 4);
-        QTest::keyClick(&named<QTableView>(tela, "sprDados"), Qt::Key_Space);
-        EXPECT_FALSE(marcada(tela, 2));
-        clicaCabecalho(tela, 2);
-        EXPECT_TRUE(marcada(tela, 1)) << "another heading";
-        clicaCabecalho(tela, 1);
-        EXPECT_FALSE(marcada(tela, 1) || marcada(tela, 2) || marcada(tela, 3));
+    findBill(3);
+    withScreen([&](QWidget& screen) {
+        clickHeading(screen, 1);
+        search(screen);
+        clickCell(screen, 1, 1);
+        EXPECT_TRUE(ticked(screen, 1));
+        clickHeading(screen, 1);
+        EXPECT_TRUE(ticked(screen, 1) && ticked(screen, 2) && ticked(screen, 3));
+        clickCell(screen, 2, 4);
+        QTest::keyClick(&named<QTableView>(screen, "sprDados"), Qt::Key_Space);
+        EXPECT_FALSE(ticked(screen, 2));
+        clickHeading(screen, 2);
+        EXPECT_TRUE(ticked(screen, 1)) << "another heading";
+        clickHeading(screen, 1);
+        EXPECT_FALSE(ticked(screen, 1) || ticked(screen, 2) || ticked(screen, 3));
     });
 }
 
 TEST_F(FrmPesqDupliTest, LimparEmptiesTheCustomerAlone) {
-    acha(1);
+    findBill(1);
     server.on("Sel_Cliente", answers::rowset("<z:row NM_PES_CPL='ANA' ID_PES_CLI='71'/>"));
-    comATela([&](QWidget& tela) {
-        comOsClientes(tela, [](QWidget& dialogo) {
-            type(dialogo, "txtNmCli", "ana");
-            click(dialogo, "cmdPesquisar");
-            click(dialogo, "cmdSelecionar");
+    withScreen([&](QWidget& screen) {
+        withCustomers(screen, [](QWidget& dialog) {
+            type(dialog, "txtNmCli", "ana");
+            click(dialog, "cmdPesquisar");
+            click(dialog, "cmdSelecionar");
         });
-        escolhe(tela, "cboFilial", 1);
-        pesquisa(tela);
+        choose(screen, "cboFilial", 1);
+        search(screen);
         server.addresses.clear();
-        click(tela, "cmdLimpar");
-        EXPECT_EQ(mostrado(tela, "txtCliente"), "");
-        EXPECT_EQ(named<QLineEdit>(tela, "txtCliente").property("Tag").toString(), QString());
-        EXPECT_EQ(posicao(tela, "cboFilial"), 1);
-        EXPECT_EQ(posicao(tela, "cboTpDocto"), duplicata);
-        EXPECT_EQ(mostrado(tela, "txtDtVncAte"), "31/12/2012");
-        EXPECT_EQ(linhas(tela), 1);
+        click(screen, "cmdLimpar");
+        EXPECT_EQ(shown(screen, "txtCliente"), "");
+        EXPECT_EQ(named<QLineEdit>(screen, "txtCliente").property("Tag").toString(), QString());
+        EXPECT_EQ(position(screen, "cboFilial"), 1);
+        EXPECT_EQ(position(screen, "cboTpDocto"), bill);
+        EXPECT_EQ(shown(screen, "txtDtVncAte"), "31/12/2012");
+        EXPECT_EQ(linhas(screen), 1);
         EXPECT_THAT(server.addresses, IsEmpty());
-        click(tela, "cmdPesquisar");
+        click(screen, "cmdPesquisar");
         EXPECT_NE(server.queries().back().find("&ID_PES_CLI=&"), std::string::npos);
     });
 }
 
 TEST_F(FrmPesqDupliTest, TheCustomerDialogActivatesTheScreenAgain) {
-    acha(2);
-    comATela([&](QWidget& tela) {
-        escolhe(tela, "cboFilial", 1);
-        pesquisa(tela);
-        clicaCelula(tela, 1, 1);
+    findBill(2);
+    withScreen([&](QWidget& screen) {
+        choose(screen, "cboFilial", 1);
+        search(screen);
+        clickCell(screen, 1, 1);
         server.addresses.clear();
-        comOsClientes(tela, [](QWidget& dialogo) { click(dialogo, "cmdVoltar"); });
-        EXPECT_THAT(server.queries(), ElementsAre(pedeFiliais));
-        EXPECT_EQ(posicao(tela, "cboFilial"), 0) << "the choices are lost";
-        EXPECT_EQ(posicao(tela, "cboTpDocto"), 0);
-        EXPECT_EQ(mostrado(tela, "txtDtVncAte"), "31/12/2012");
-        EXPECT_EQ(linhas(tela), 2);
-        EXPECT_TRUE(marcada(tela, 1));
+        withCustomers(screen, [](QWidget& dialog) { click(dialog, "cmdVoltar"); });
+        EXPECT_THAT(server.queries(), ElementsAre(branchesQuery));
+        EXPECT_EQ(position(screen, "cboFilial"), 0) << "the choices are lost";
+        EXPECT_EQ(position(screen, "cboTpDocto"), 0);
+        EXPECT_EQ(shown(screen, "txtDtVncAte"), "31/12/2012");
+        EXPECT_EQ(linhas(screen), 2);
+        EXPECT_TRUE(ticked(screen, 1));
     });
 }
 
 TEST_F(FrmPesqDupliTest, PicturesAreReadOnEachActivation) {
-    const QTemporaryDir pasta;
-    ambiente.pastaFiguras = pasta.path().toStdString();
-    gravaFigura(pasta.filePath(QStringLiteral("VERTDUPL.jpg")));
-    comATela([&](QWidget& tela) {
-        EXPECT_TRUE(mostra(tela, "picVert"));
-        EXPECT_FALSE(mostra(tela, "picLogo") || mostra(tela, "picAss"));
-        gravaFigura(pasta.filePath(QStringLiteral("LOGODUPL.jpg")));
-        gravaFigura(pasta.filePath(QStringLiteral("ASSEMITENTE.jpg")));
-        QFile::remove(pasta.filePath(QStringLiteral("VERTDUPL.jpg")));
-        EXPECT_TRUE(mostra(tela, "picVert")) << "until then as they were";
-        comOsClientes(tela, [](QWidget& dialogo) { click(dialogo, "cmdVoltar"); });
-        EXPECT_TRUE(mostra(tela, "picLogo") && mostra(tela, "picAss"));
-        EXPECT_FALSE(mostra(tela, "picVert"));
+    const QTemporaryDir folder;
+    environment.pictureFolder = folder.path().toStdString();
+    savePicture(folder.filePath(QStringLiteral("VERTDUPL.jpg")));
+    withScreen([&](QWidget& screen) {
+        EXPECT_TRUE(show(screen, "picVert"));
+        EXPECT_FALSE(show(screen, "picLogo") || show(screen, "picAss"));
+        savePicture(folder.filePath(QStringLiteral("LOGODUPL.jpg")));
+        savePicture(folder.filePath(QStringLiteral("ASSEMITENTE.jpg")));
+        QFile::remove(folder.filePath(QStringLiteral("VERTDUPL.jpg")));
+        EXPECT_TRUE(show(screen, "picVert")) << "until then as they were";
+        withCustomers(screen, [](QWidget& dialog) { click(dialog, "cmdVoltar"); });
+        EXPECT_TRUE(show(screen, "picLogo") && show(screen, "picAss"));
+        EXPECT_FALSE(show(screen, "picVert"));
     });
     EXPECT_THAT(boxes.shown, IsEmpty());
 }
 
 TEST_F(FrmPesqDupliTest, EachWayOutUnloadsIt) {
-    acha(1);
-    const std::function<void(QWidget&)> saidas[] = {
-        [](QWidget& tela) { click(tela, "cmdVoltar"); },
-        [](QWidget& tela) { key(tela, Qt::Key_Escape); }, [](QWidget& tela) { tela.close(); }};
-    for (const auto& sai : saidas) {
-        comATela([&](QWidget& tela) {
-            EXPECT_EQ(linhas(tela), 0);
-            EXPECT_TRUE(named<QRadioButton>(tela, "optDupl").isChecked());
-            EXPECT_EQ(mostrado(tela, "txtDtVncAte"), "");
-            click(tela, "optTripl");
-            pesquisa(tela);
+    findBill(1);
+    const std::function<void(QWidget&)> ways[] = {
+        [](QWidget& screen) { click(screen, "cmdVoltar"); },
+        [](QWidget& screen) { key(screen, Qt::Key_Escape); },
+        [](QWidget& screen) { screen.close(); }};
+    for (const auto& out : ways) {
+        withScreen([&](QWidget& screen) {
+            EXPECT_EQ(linhas(screen), 0);
+            EXPECT_TRUE(named<QRadioButton>(screen, "optDupl").isChecked());
+            EXPECT_EQ(shown(screen, "txtDtVncAte"), "");
+            click(screen, "optTripl");
+            search(screen);
             server.addresses.clear();
-            sai(tela);
-            EXPECT_FALSE(tela.isVisible());
+            out(screen);
+            EXPECT_FALSE(screen.isVisible());
         });
-        EXPECT_THAT(server.queries(), ElementsAre(pedeDaMesa));
+        EXPECT_THAT(server.queries(), ElementsAre(deskQuery));
     }
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(FrmPesqDupliTest, WhatIsPressedDuringARequestIsLost) {
-    acha(3);
-    comATela([&](QWidget& tela) {
-        escolhe(tela, "cboTpDocto", duplicata);
-        type(tela, "txtDtVncAte", "31122012");
+    findBill(3);
+    withScreen([&](QWidget& screen) {
+        choose(screen, "cboTpDocto", bill);
+        type(screen, "txtDtVncAte", "31122012");
         server.addresses.clear();
-        QTimer::singleShot(0, &tela, [&tela] {
+        QTimer::singleShot(0, &screen, [&screen] {
             for (const int tecla : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Space}) {
-                QCoreApplication::postEvent(&named<QWidget>(tela, "cmdPesquisar"),
+                QCoreApplication::postEvent(&named<QWidget>(screen, "cmdPesquisar"),
                                             new QKeyEvent(QEvent::KeyPress, tecla, Qt::NoModifier));
-                QCoreApplication::postEvent(&tela,
+                QCoreApplication::postEvent(&screen,
                                             new QKeyEvent(QEvent::KeyPress, tecla, Qt::NoModifier));
             }
-            QCoreApplication::postEvent(&tela, new QCloseEvent);
+            QCoreApplication::postEvent(&screen, new QCloseEvent);
         });
-        click(tela, "cmdPesquisar");
+        click(screen, "cmdPesquisar");
         QCoreApplication::processEvents();
-        EXPECT_TRUE(tela.isVisible());
-        EXPECT_EQ(linhas(tela), 3);
+        EXPECT_TRUE(screen.isVisible());
+        EXPECT_EQ(linhas(screen), 3);
         EXPECT_EQ(server.addresses.size(), 1U);
     });
 }
 
 // Decoded whole, a scan of a sheet takes more memory than the toolkit allows a picture.
 TEST_F(FrmPesqDupliTest, APictureOfVeryManyDotsIsShownToo) {
-    const QTemporaryDir pasta;
-    ambiente.pastaFiguras = pasta.path().toStdString();
-    QImage folha(800, 600, QImage::Format_RGB32);
-    folha.fill(Qt::red);
-    ASSERT_TRUE(folha.save(pasta.filePath(QStringLiteral("LOGODUPL.jpg")), "JPG"));
-    QFile quebrada(pasta.filePath(QStringLiteral("VERTDUPL.jpg")));
-    ASSERT_TRUE(quebrada.open(QIODevice::WriteOnly) && quebrada.write("lixo") > 0);
-    quebrada.close();
+    const QTemporaryDir folder;
+    environment.pictureFolder = folder.path().toStdString();
+    QImage sheet(800, 600, QImage::Format_RGB32);
+    sheet.fill(Qt::red);
+    ASSERT_TRUE(sheet.save(folder.filePath(QStringLiteral("LOGODUPL.jpg")), "JPG"));
+    QFile broken(folder.filePath(QStringLiteral("VERTDUPL.jpg")));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write("lixo") > 0);
+    broken.close();
     constexpr int megabyte = 1;
     const int usual = QImageReader::allocationLimit();
     QImageReader::setAllocationLimit(megabyte);
-    comATela([&](QWidget& tela) {
-        EXPECT_TRUE(mostra(tela, "picLogo"));
-        EXPECT_FALSE(mostra(tela, "picVert")) << "no picture";
+    withScreen([&](QWidget& screen) {
+        EXPECT_TRUE(show(screen, "picLogo"));
+        EXPECT_FALSE(show(screen, "picVert")) << "no picture";
     });
     QImageReader::setAllocationLimit(usual);
     EXPECT_THAT(boxes.shown, IsEmpty());

@@ -21,13 +21,13 @@ using testing::ElementsAreArray;
 using testing::IsEmpty;
 using testing::Not;
 
-constexpr char empresaCompleta[] =
+constexpr char wholeCompany[] =
     "<z:row DC_LG='AV. BRASIL' SG_UF='SP' NM_BRR='CENTRO' NM_MUN='SÃO PAULO' NM_UF='São Paulo' "
     "NR_LG='999' CD_CEP='01234-567' CD_ICR_EST='111.222.333' DC_RAZ_SOC_ETB='PEÇAS SÃO JOÃO LTDA' "
     "TELEFONE='(11)5555-0101' FAX='(11)5555-0102' EMAIL='a@b.example' PES_JUR='1' "
     "NR_CGC_CPL='1234567000189'/>";
 
-constexpr char linhaDuplicata[] =
+constexpr char billRow[] =
     "<z:row SG_FIL='MATRIZ' DT_VNC_DOC_FMA='15/04/2012' DT_EMS_DOC='2012-03-15' NR_DOC='4567/A' "
     "NM_CLI_ETB='JOSÉ &amp; &lt;b>FILHOS' DC_LG_CPL='RUA DAS FLORES, 10' VL_PRN_DOC='1234.5' "
     "CD_CEP='13000-000' NM_MUN='CAMPINAS' SG_UF='SP' NR_CGC_CPL='98765432000110' "
@@ -35,46 +35,44 @@ constexpr char linhaDuplicata[] =
     "DC_REF_REC='nota 4567' NR_DOC_NF='NF 88' EG_COB='RUA DO PORTO, 3' MUN_COB='SANTOS' "
     "ES_COB='RJ' CD_CEP_COB='11000-000'/>";
 
-constexpr char linhaRecibo[] =
+constexpr char receiptRow[] =
     "<z:row DT_VNC_DOC_FMA='15/04/2012' DT_EMS_DOC='15/03/2012' NR_DOC='77' NM_CLI_ETB='MARIA' "
     "DC_LG_CPL='RUA B, 2' VL_PRN_DOC='1' CD_CEP='13000-001' NM_MUN='ITU' SG_UF='SP' "
     "NR_CGC_CPL='12345678901' CD_ICR_EST='' PES_JUR='0' TIPO_DOCTO='DOCTO_COBRANCA' "
     "ID_TIP_DOC='12' DC_REF_REC='serviços de março' NR_DOC_NF='' EG_COB='RUA B, 2'/>";
 
 // The line "UM MIL, ..." behind which the filler begins.
-constexpr char palavras[] = "UM MIL, DUZENTOS E TRINTA E QUATRO REAIS E CINQUENTA CENTAVOS";
+constexpr char words[] = "UM MIL, DUZENTOS E TRINTA E QUATRO REAIS E CINQUENTA CENTAVOS";
 
-Operacoes cabecalho(const std::string& rotulo, const std::string& localidade,
-                    const std::string& emissao) {
-    return {risco(1.1, 0.9, 20.3, 0.9, 15),
-            figura(1.6, 1.3, "picLogo"),
+Operations header(const std::string& label, const std::string& place, const std::string& issued) {
+    return {ruledLine(1.1, 0.9, 20.3, 0.9, 15),
+            picture(1.6, 1.3, "picLogo"),
             arial(11, 1.6, 9, "PEÇAS SÃO JOÃO LTDA"),
             arial(11, 2.0, 6, "AV. BRASIL -  - CENTRO"),
-            arial(11, 2.4, 6, localidade),
+            arial(11, 2.4, 6, place),
             arial(11, 2.8, 6, "Inscrição CNPJ nº 01.234.567/0001-89"),
             arial(11, 3.2, 6, "Inscrição Estadual - 111.222.333"),
             arial(11, 3.6, 6, "TEL.:(11)5555-0101 - FAX.:(11)5555-0102 - E-MAIL:a@b.example"),
-            arial(11, 4.0, 8, rotulo),
-            arial(14.3, 4.0, 8, emissao)};
+            arial(11, 4.0, 8, label),
+            arial(14.3, 4.0, 8, issued)};
 }
 
-Operacoes paginaDuplicata(const std::string& especie = "DUPLICATA",
-                          const std::string& favorecido = "PEÇAS SÃO JOÃO LTDA") {
-    Operacoes pagina =
-        cabecalho("DATA DE EMISSÃO:", "CEP: 01234-567 - SÃO PAULO - SP", "2012-03-15");
-    const Operacoes resto = {
-        risco(1.1, 4.05, 20.3, 4.05, 10), risco(3.0, 4.3, 3.0, 13.5, 3), figura(3.2, 7.0, "picAss"),
-        figura(1.1, 4.6, "picVert"), arial(6, 5, 9, "Fatura/NF"), arial(6.2, 5.5, 9, "NF 88"),
-        arial(8.8, 4.8, 8, "Fatura/NF"), arial(8.8, 5.1, 8, "Valor R$"),
-        arial(8.3, 5.5, 9, "R$ 1.234,50"), arial(11, 5, 8, " Duplicata Nº "),
-        arial(11.4, 5.5, 9, "4567/A"), arial(14.1, 5, 8, "Vencimento"),
-        arial(14.2, 5.5, 9, "15/04/2012"), fino(5.3, 6.2, 7, "Desconto de"),
-        fino(5.3, 6.5, 7, "Condições Especiais"), fino(13, 6.2, 7, "Até"),
-        risco(4.8, 6.55, 20.3, 6.55, 10), arial(5.4, 7.5, 8, "Nome do Sacado"),
-        arial(9, 7.5, 8, "JOSÉ & <b>FILHOS"), arial(5.4, 7.9, 8, "Endereço"),
-        arial(9, 7.9, 8, "RUA DAS FLORES, 10"), arial(5.4, 8.3, 8, "Município"),
-        arial(9, 8.3, 8, "CAMPINAS"), arial(13, 8.3, 8, "Estado"), arial(14.3, 8.3, 8, "SP"),
-        arial(16.5, 8.3, 8, "CEP"), arial(18, 8.3, 8, "13000-000"),
+Operations billPageOf(const std::string& kindName = "DUPLICATA",
+                      const std::string& payee = "PEÇAS SÃO JOÃO LTDA") {
+    Operations page = header("DATA DE EMISSÃO:", "CEP: 01234-567 - SÃO PAULO - SP", "2012-03-15");
+    const Operations rest = {
+        ruledLine(1.1, 4.05, 20.3, 4.05, 10), ruledLine(3.0, 4.3, 3.0, 13.5, 3),
+        picture(3.2, 7.0, "picAss"), picture(1.1, 4.6, "picVert"), arial(6, 5, 9, "Fatura/NF"),
+        arial(6.2, 5.5, 9, "NF 88"), arial(8.8, 4.8, 8, "Fatura/NF"),
+        arial(8.8, 5.1, 8, "Valor R$"), arial(8.3, 5.5, 9, "R$ 1.234,50"),
+        arial(11, 5, 8, " Duplicata Nº "), arial(11.4, 5.5, 9, "4567/A"),
+        arial(14.1, 5, 8, "Vencimento"), arial(14.2, 5.5, 9, "15/04/2012"),
+        thin(5.3, 6.2, 7, "Desconto de"), thin(5.3, 6.5, 7, "Condições Especiais"),
+        thin(13, 6.2, 7, "Até"), ruledLine(4.8, 6.55, 20.3, 6.55, 10),
+        arial(5.4, 7.5, 8, "Nome do Sacado"), arial(9, 7.5, 8, "JOSÉ & <b>FILHOS"),
+        arial(5.4, 7.9, 8, "Endereço"), arial(9, 7.9, 8, "RUA DAS FLORES, 10"),
+        arial(5.4, 8.3, 8, "Município"), arial(9, 8.3, 8, "CAMPINAS"), arial(13, 8.3, 8, "Estado"),
+        arial(14.3, 8.3, 8, "SP"), arial(16.5, 8.3, 8, "CEP"), arial(18, 8.3, 8, "13000-000"),
         arial(5.4, 8.7, 8, "C.N.P.J. (M.F.) Nº"), arial(9, 8.7, 8, "98.765.432/0001-10"),
         arial(15, 8.7, 8, "I.E. Nº"), arial(16, 8.7, 8, "ISENTO"),
         arial(5.4, 9.5, 8, "Endereço de Cobrança"), arial(9, 9.5, 8, "RUA DO PORTO, 3"),
@@ -86,28 +84,29 @@ Operacoes paginaDuplicata(const std::string& especie = "DUPLICATA",
         courier(9, 11.6, 10, "CENTAVOS .X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X"),
         courier(9, 12, 10, ".X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X."),
         arial(5.4, 12.6, 7,
-              "Reconheço(cemos) a exatidão desta " + especie +
+              "Reconheço(cemos) a exatidão desta " + kindName +
                   " DE VENDA MERCANTIL na importância acima, que pagarei(emos)"),
         arial(5.4, 12.9, 7,
-              "à " + favorecido + ", ou à sua ordem na praça e vencimento acima indicado."),
-        risco(4.8, 13.2, 9, 13.2, 2), arial(6.2, 13.3, 10, " /          /"),
-        arial(6.2, 13.7, 8, "DATA DE ACEITE"), risco(14, 13.2, 19, 13.2, 2),
-        arial(15.2, 13.7, 8, "ASSINATURA DO SACADO"), risco(1.1, 13.8, 20.3, 13.8, 10), "newpage"};
-    pagina.insert(pagina.end(), resto.begin(), resto.end());
-    return pagina;
+              "à " + payee + ", ou à sua ordem na praça e vencimento acima indicado."),
+        ruledLine(4.8, 13.2, 9, 13.2, 2), arial(6.2, 13.3, 10, " /          /"),
+        arial(6.2, 13.7, 8, "DATA DE ACEITE"), ruledLine(14, 13.2, 19, 13.2, 2),
+        arial(15.2, 13.7, 8, "ASSINATURA DO SACADO"), ruledLine(1.1, 13.8, 20.3, 13.8, 10),
+        "newpage"};
+    page.insert(page.end(), rest.begin(), rest.end());
+    return page;
 }
 
-Operacoes paginaRecibo() {
-    Operacoes pagina =
-        cabecalho("DATA DE EMISSAO:", "CEP: 01234-567 - Estado de São Paulo", "15/03/2012");
-    const std::string brancos60(60, ' ');
-    const std::string hifens60(60, '-');
-    const Operacoes resto = {
-        risco(1.1, 4.05, 20.3, 4.05, 6),
+Operations receiptPageOf() {
+    Operations page =
+        header("DATA DE EMISSAO:", "CEP: 01234-567 - Estado de São Paulo", "15/03/2012");
+    const std::string blanks60(60, ' ');
+    const std::string hyphens60(60, '-');
+    const Operations rest = {
+        ruledLine(1.1, 4.05, 20.3, 4.05, 6),
         arial(2, 5, 14, "Nº 77"),
         arial(9.8, 5, 16, "RECIBO"),
         arial(16, 5, 14, "R$ 1,00"),
-        risco(1.1, 5.5, 20.3, 5.5, 6),
+        ruledLine(1.1, 5.5, 20.3, 5.5, 6),
         arial(2, 6.5, 10, "Nome do Sacado"),
         arial(5, 6.5, 10, "MARIA"),
         arial(2, 7.2, 10, "Endereço"),
@@ -126,110 +125,110 @@ Operacoes paginaRecibo() {
         arial(2, 9.7, 10, "  POR  "),
         arial(2, 10.1, 10, "EXTENSO"),
         courier(5, 9.3, 11, "UM REAL ----------------------------------------------------"),
-        courier(5, 9.7, 11, hifens60),
-        courier(5, 10.1, 11, hifens60),
+        courier(5, 9.7, 11, hyphens60),
+        courier(5, 10.1, 11, hyphens60),
         arial(2, 10.8, 10, "Referente a "),
         courier(5, 10.8, 11, "serviços de março" + std::string(43, ' ')),
-        courier(5, 11.2, 11, brancos60),
-        courier(5, 11.6, 11, brancos60),
-        courier(5, 12, 11, brancos60),
-        courier(5, 12.4, 11, brancos60),
-        risco(2.8, 13.2, 7, 13.2, 2),
+        courier(5, 11.2, 11, blanks60),
+        courier(5, 11.6, 11, blanks60),
+        courier(5, 12, 11, blanks60),
+        courier(5, 12.4, 11, blanks60),
+        ruledLine(2.8, 13.2, 7, 13.2, 2),
         arial(4.2, 13.3, 10, " /          /"),
         arial(3.7, 13.7, 10, "DATA RECEBIMENTO"),
-        risco(13, 13.2, 19, 13.2, 3),
+        ruledLine(13, 13.2, 19, 13.2, 3),
         arial(14.7, 13.7, 10, "ASSINATURA EMPRESA"),
-        risco(1.1, 13.8, 20.3, 13.8, 10),
+        ruledLine(1.1, 13.8, 20.3, 13.8, 10),
         "newpage"};
-    pagina.insert(pagina.end(), resto.begin(), resto.end());
-    return pagina;
+    page.insert(page.end(), rest.begin(), rest.end());
+    return page;
 }
 
-Operacoes trabalho(std::initializer_list<Operacoes> paginas) {
-    Operacoes tudo{"scale\t7", "orientation\t1"};
-    for (const Operacoes& pagina : paginas) {
-        tudo.insert(tudo.end(), pagina.begin(), pagina.end());
+Operations job(std::initializer_list<Operations> pages) {
+    Operations all{"scale\t7", "orientation\t1"};
+    for (const Operations& page : pages) {
+        all.insert(all.end(), page.begin(), page.end());
     }
-    tudo.emplace_back("enddoc");
-    return tudo;
+    all.emplace_back("enddoc");
+    return all;
 }
 
-std::string com(std::string linha, const std::string& campo, const std::string& valor) {
-    const std::size_t inicio = linha.find(" " + campo + "='") + campo.size() + 3;
-    return linha.replace(inicio, linha.find('\'', inicio) - inicio, valor);
+std::string com(std::string linha, const std::string& field, const std::string& valor) {
+    const std::size_t start = linha.find(" " + field + "='") + field.size() + 3;
+    return linha.replace(start, linha.find('\'', start) - start, valor);
 }
-std::string sem(std::string linha, const std::string& campo) {
-    const std::size_t inicio = linha.find(" " + campo + "='");
-    const std::size_t fim = linha.find('\'', inicio + campo.size() + 3);
-    return linha.erase(inicio, fim + 1 - inicio);
+std::string without(std::string linha, const std::string& field) {
+    const std::size_t start = linha.find(" " + field + "='");
+    const std::size_t end = linha.find('\'', start + field.size() + 3);
+    return linha.erase(start, end + 1 - start);
 }
 
-class ImprimeDuplicataTest : public testing::Test {
+class PrintBillsTest : public testing::Test {
 protected:
-    ImprimeDuplicataTest() {
-        sessao_.NCOMPANYCODE = 1361;
-        sessao_.ID_ETB_TARN = 9;
-        sessao_.SERVERNAME = "SRV1";
-        seams_.loader.on("sel_dados_empresa", answers::rowset(empresaCompleta));
+    PrintBillsTest() {
+        session_.NCOMPANYCODE = 1361;
+        session_.ID_ETB_TARN = 9;
+        session_.SERVERNAME = "SRV1";
+        seams_.loader.on("sel_dados_empresa", answers::rowset(wholeCompany));
     }
     // The rows of the grid, all of them ticked.
-    void acha(const std::string& linhas) {
-        XmlDocument resposta;
-        ASSERT_TRUE(resposta.loadXML(answers::rowset(linhas)));
-        linhas_ = linhasDeDuplicatas(resposta);
-        for (LinhaGrade& linha : linhas_) {
-            linha.marcada = true;
+    void findBill(const std::string& linhas) {
+        XmlDocument answer;
+        ASSERT_TRUE(answer.loadXML(answers::rowset(linhas)));
+        linhas_ = billRows(answer);
+        for (GridRow& linha : linhas_) {
+            linha.ticked = true;
         }
     }
-    void empresa(const std::string& linha) {
-        ScriptedLoader outro;
-        seams_.loader = outro.on("sel_dados_empresa", answers::rowset(linha));
+    void company(const std::string& linha) {
+        ScriptedLoader other;
+        seams_.loader = other.on("sel_dados_empresa", answers::rowset(linha));
     }
-    void imprime() {
-        imprimeSelecionados(seams_.environment, sessao_,
-                            {.linhas = linhas_, .triplicata = triplicata_, .figuras = figuras_},
-                            progresso_);
+    void print() {
+        printSelected(seams_.environment, session_,
+                      {.linhas = linhas_, .triplicate = triplicate_, .pictures = pictures_},
+                      progress_);
     }
-    Operacoes desenhado() const { return seams_.printer.lines(); }
-    void esquece() {
+    Operations drawn() const { return seams_.printer.lines(); }
+    void forget() {
         seams_.printer.operations.clear();
         seams_.boxes.shown.clear();
     }
-    static Box mensagem(const std::string& texto) { return {texto, BoxIcon::Information, "TArn"}; }
-    static Box sucesso(const std::string& especie) {
-        return mensagem(especie + " com sucesso!     ");
+    static Box message(const std::string& texto) { return {texto, BoxIcon::Information, "TArn"}; }
+    static Box success(const std::string& kindName) {
+        return message(kindName + " com sucesso!     ");
     }
 
     TestEnvironment seams_;
-    Sessao sessao_;
-    std::vector<LinhaGrade> linhas_;
-    bool triplicata_ = false;
-    FigurasDuplicata figuras_{Picture("picLogo", "l"), Picture("picVert", "v"),
-                              Picture("picAss", "a")};
-    Progress progresso_;
+    Sessao session_;
+    std::vector<GridRow> linhas_;
+    bool triplicate_ = false;
+    BillPictures pictures_{Picture("picLogo", "l"), Picture("picVert", "v"),
+                           Picture("picAss", "a")};
+    Progress progress_;
 };
 
-TEST_F(ImprimeDuplicataTest, DrawsABill) {
-    acha(linhaDuplicata);
-    imprime();
+TEST_F(PrintBillsTest, DrawsABill) {
+    findBill(billRow);
+    print();
     EXPECT_THAT(seams_.loader.queries(),
                 ElementsAre("comando=sel_dados_empresa&Id_Etb_Tarn=9&ServerName=SRV1"));
-    EXPECT_THAT(desenhado(), ElementsAreArray(trabalho({paginaDuplicata()})));
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(sucesso("Duplicata(s)  impressa(s)")));
+    EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf()})));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(success("Duplicata(s)  impressa(s)")));
 }
 
-TEST_F(ImprimeDuplicataTest, OneCopyIsSetAfterTheOrientation) {
-    acha(linhaDuplicata);
-    imprime();
+TEST_F(PrintBillsTest, OneCopyIsSetAfterTheOrientation) {
+    findBill(billRow);
+    print();
     ASSERT_GE(seams_.printer.operations.size(), 3U);
     EXPECT_EQ(seams_.printer.operations[2], PrintOperation(Copies{1}));
 }
 
 // The same lines as bytes, not by way of this test's own arithmetic.
-TEST_F(ImprimeDuplicataTest, WhereThingsLand) {
-    acha(linhaDuplicata);
-    imprime();
-    EXPECT_THAT(desenhado(),
+TEST_F(PrintBillsTest, WhereThingsLand) {
+    findBill(billRow);
+    print();
+    EXPECT_THAT(drawn(),
                 testing::IsSupersetOf({"text\t5.500\t4.500\tArial\t9\t1\tFatura/NF",
                                        "text\t4.800\t6.000\tArial\t7\t0\tCondições Especiais",
                                        "line\t4.800\t6.550\t20.300\t6.550\t10",
@@ -238,69 +237,67 @@ TEST_F(ImprimeDuplicataTest, WhereThingsLand) {
                                        "X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X."}));
 }
 
-TEST_F(ImprimeDuplicataTest, DrawsATriplicata) {
-    acha(linhaDuplicata);
-    triplicata_ = true;
-    imprime();
-    EXPECT_THAT(desenhado(), ElementsAreArray(trabalho({paginaDuplicata("TRIPLICATA")})));
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(sucesso("Triplicata(s)  impressa(s)")));
+TEST_F(PrintBillsTest, DrawsATriplicata) {
+    findBill(billRow);
+    triplicate_ = true;
+    print();
+    EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf("TRIPLICATA")})));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(success("Triplicata(s)  impressa(s)")));
 }
 
-TEST_F(ImprimeDuplicataTest, DrawsAReceipt) {
-    acha(linhaRecibo);
-    triplicata_ = true;  // has no say here
-    imprime();
-    EXPECT_THAT(desenhado(), ElementsAreArray(trabalho({paginaRecibo()})));
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(sucesso("Recibo(s) impresso(s)")));
+TEST_F(PrintBillsTest, DrawsAReceipt) {
+    findBill(receiptRow);
+    triplicate_ = true;  // has no say here
+    print();
+    EXPECT_THAT(drawn(), ElementsAreArray(job({receiptPageOf()})));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(success("Recibo(s) impresso(s)")));
 }
 
-TEST_F(ImprimeDuplicataTest, TwoCompaniesHaveAPayeeOfTheirOwn) {
-    acha(linhaDuplicata);
-    sessao_.NCOMPANYCODE = 1521;
-    imprime();
-    EXPECT_THAT(desenhado(),
-                ElementsAreArray(trabalho({paginaDuplicata("DUPLICATA", "ORVALHO MÓVEIS LTDA.")})));
-    esquece();
-    sessao_.NCOMPANYCODE = 2801;
-    imprime();
-    EXPECT_THAT(desenhado(),
-                ElementsAreArray(trabalho({paginaDuplicata(
-                    "DUPLICATA", "ZENTRA COM. E REPRES. DE PEÇAS HIDRÁULICAS LTDA.")})));
+TEST_F(PrintBillsTest, TwoCompaniesHaveAPayeeOfTheirOwn) {
+    findBill(billRow);
+    session_.NCOMPANYCODE = 1521;
+    print();
+    EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf("DUPLICATA", "ORVALHO MÓVEIS LTDA.")})));
+    forget();
+    session_.NCOMPANYCODE = 2801;
+    print();
+    EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf(
+                             "DUPLICATA", "ZENTRA COM. E REPRES. DE PEÇAS HIDRÁULICAS LTDA.")})));
 }
 
-TEST_F(ImprimeDuplicataTest, NothingTickedStillAsksForTheCompany) {
-    acha(linhaDuplicata);
-    linhas_[0].marcada = false;
-    imprime();
+TEST_F(PrintBillsTest, NothingTickedStillAsksForTheCompany) {
+    findBill(billRow);
+    linhas_[0].ticked = false;
+    print();
     linhas_.clear();
-    imprime();
+    print();
     EXPECT_EQ(seams_.loader.addresses.size(), 2U);
     EXPECT_THAT(seams_.printer.operations, IsEmpty());
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(mensagem("Selecione um documento.     "),
-                                                mensagem("Selecione um documento.     ")));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(message("Selecione um documento.     "),
+                                                message("Selecione um documento.     ")));
 }
 
-TEST_F(ImprimeDuplicataTest, EachRowHasItsPageAndTheLastRowTheMessage) {
-    acha(std::string(linhaDuplicata) + linhaRecibo + linhaDuplicata);
-    linhas_[2].marcada = false;
-    imprime();
-    EXPECT_THAT(desenhado(), ElementsAreArray(trabalho({paginaDuplicata(), paginaRecibo()})));
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(sucesso("Duplicata(s)  impressa(s)")));
-    esquece();
-    acha(std::string(linhaRecibo) + linhaDuplicata + linhaRecibo);
-    linhas_[0].marcada = linhas_[2].marcada = false;
-    imprime();
-    EXPECT_THAT(desenhado(), ElementsAreArray(trabalho({paginaDuplicata()})));
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(sucesso("Recibo(s) impresso(s)")));
-    EXPECT_TRUE(linhas_[1].marcada) << "ticks stay";
+TEST_F(PrintBillsTest, EachRowHasItsPageAndTheLastRowTheMessage) {
+    findBill(std::string(billRow) + receiptRow + billRow);
+    linhas_[2].ticked = false;
+    print();
+    EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf(), receiptPageOf()})));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(success("Duplicata(s)  impressa(s)")));
+    forget();
+    findBill(std::string(receiptRow) + billRow + receiptRow);
+    linhas_[0].ticked = linhas_[2].ticked = false;
+    print();
+    EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf()})));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(success("Recibo(s) impresso(s)")));
+    EXPECT_TRUE(linhas_[1].ticked) << "ticks stay";
 }
 
-TEST_F(ImprimeDuplicataTest, TypesAreNumbers) {
+TEST_F(PrintBillsTest, TypesAreNumbers) {
     const struct {
-        const char* tipo;
-        bool duplicata;
-        const char* mensagem;
-    } casos[] = {
+        const char* kind;
+        bool bill;
+        const char* message;
+    } cases[] = {
         {"1", true, "Duplicata(s)  impressa(s)"},     {"001", true, "Duplicata(s)  impressa(s)"},
         {" 1,0 ", true, "Duplicata(s)  impressa(s)"}, {"201", true, "Duplicata(s)  impressa(s)"},
         {"202", true, "Duplicata(s)  impressa(s)"},   {"203", true, "Duplicata(s)  impressa(s)"},
@@ -308,153 +305,151 @@ TEST_F(ImprimeDuplicataTest, TypesAreNumbers) {
         {"342", false, "Recibo(s) impresso(s)"},      {"361", false, "Recibo(s) impresso(s)"},
         {"12", false, "Recibo(s) impresso(s)"},       {"", false, "Recibo(s) impresso(s)"},
         {"1A", false, "Recibo(s) impresso(s)"}};
-    for (const auto& caso : casos) {
-        acha(com(linhaDuplicata, "ID_TIP_DOC", caso.tipo));
-        imprime();
-        EXPECT_EQ(testing::Value(desenhado(), Contains(arial(9.8, 5, 16, "RECIBO"))),
-                  !caso.duplicata)
-            << caso.tipo;
-        EXPECT_THAT(seams_.boxes.shown, ElementsAre(sucesso(caso.mensagem))) << caso.tipo;
-        esquece();
+    for (const auto& testCase : cases) {
+        findBill(com(billRow, "ID_TIP_DOC", testCase.kind));
+        print();
+        EXPECT_EQ(testing::Value(drawn(), Contains(arial(9.8, 5, 16, "RECIBO"))), !testCase.bill)
+            << testCase.kind;
+        EXPECT_THAT(seams_.boxes.shown, ElementsAre(success(testCase.message))) << testCase.kind;
+        forget();
     }
 }
 
-TEST_F(ImprimeDuplicataTest, ABillToAPerson) {
-    acha(com(com(linhaDuplicata, "PES_JUR", "0"), "NR_CGC_CPL", "12345678901"));
-    imprime();
-    EXPECT_THAT(desenhado(), Contains(arial(5.4, 8.7, 8, "CPF Nº")));
-    EXPECT_THAT(desenhado(), Contains(arial(9, 8.7, 8, "123.456.789-01")));
+TEST_F(PrintBillsTest, ABillToAPerson) {
+    findBill(com(com(billRow, "PES_JUR", "0"), "NR_CGC_CPL", "12345678901"));
+    print();
+    EXPECT_THAT(drawn(), Contains(arial(5.4, 8.7, 8, "CPF Nº")));
+    EXPECT_THAT(drawn(), Contains(arial(9, 8.7, 8, "123.456.789-01")));
 }
 
-TEST_F(ImprimeDuplicataTest, AReceiptToACompany) {
-    acha(com(linhaRecibo, "PES_JUR", "1"));
-    imprime();
-    EXPECT_THAT(desenhado(), Contains(arial(2, 8.6, 10, "CNPJ Nº")));
-    EXPECT_THAT(desenhado(), Contains(arial(5, 8.6, 10, "00.012.345/6789-01")));
+TEST_F(PrintBillsTest, AReceiptToACompany) {
+    findBill(com(receiptRow, "PES_JUR", "1"));
+    print();
+    EXPECT_THAT(drawn(), Contains(arial(2, 8.6, 10, "CNPJ Nº")));
+    EXPECT_THAT(drawn(), Contains(arial(5, 8.6, 10, "00.012.345/6789-01")));
 }
 
-TEST_F(ImprimeDuplicataTest, TheBillingAddress) {
-    const auto municipios = [this] {
-        return std::ranges::count(desenhado(), arial(5.4, 9.9, 8, "Município"));
+TEST_F(PrintBillsTest, TheBillingAddress) {
+    const auto towns = [this] {
+        return std::ranges::count(drawn(), arial(5.4, 9.9, 8, "Município"));
     };
-    acha(com(linhaDuplicata, "EG_COB", "RUA DAS FLORES, 10"));
-    imprime();
-    EXPECT_THAT(desenhado(), Contains(arial(9, 9.5, 8, "O MESMO")));
-    EXPECT_EQ(municipios(), 0);
-    esquece();
-    acha(com(com(linhaDuplicata, "EG_COB", ""), "DC_LG_CPL", ""));
-    imprime();
-    EXPECT_THAT(desenhado(), Contains(arial(9, 9.5, 8, "O MESMO"))) << "both empty";
-    esquece();
-    acha(com(linhaDuplicata, "EG_COB", ""));
-    imprime();
-    EXPECT_THAT(desenhado(), Contains(arial(9, 9.5, 8, "")));
-    EXPECT_EQ(municipios(), 1);
-    esquece();
-    acha(com(linhaDuplicata, "EG_COB", "RUA DAS FLORES, 10 "));
-    imprime();
-    EXPECT_EQ(municipios(), 1) << "a blank makes another address";
+    findBill(com(billRow, "EG_COB", "RUA DAS FLORES, 10"));
+    print();
+    EXPECT_THAT(drawn(), Contains(arial(9, 9.5, 8, "O MESMO")));
+    EXPECT_EQ(towns(), 0);
+    forget();
+    findBill(com(com(billRow, "EG_COB", ""), "DC_LG_CPL", ""));
+    print();
+    EXPECT_THAT(drawn(), Contains(arial(9, 9.5, 8, "O MESMO"))) << "both empty";
+    forget();
+    findBill(com(billRow, "EG_COB", ""));
+    print();
+    EXPECT_THAT(drawn(), Contains(arial(9, 9.5, 8, "")));
+    EXPECT_EQ(towns(), 1);
+    forget();
+    findBill(com(billRow, "EG_COB", "RUA DAS FLORES, 10 "));
+    print();
+    EXPECT_EQ(towns(), 1) << "a blank makes another address";
 }
 
-TEST_F(ImprimeDuplicataTest, AReceivableHasNoReference) {
-    acha(com(linhaRecibo, "TIPO_DOCTO", "DOCTO_RECEBER"));
-    imprime();
-    const std::string brancos60(60, ' ');
-    EXPECT_THAT(desenhado(), Contains(arial(2, 10.8, 10, "Referente a ")));
-    EXPECT_THAT(desenhado(), Contains(courier(5, 10.8, 11, brancos60)));
+TEST_F(PrintBillsTest, AReceivableHasNoReference) {
+    findBill(com(receiptRow, "TIPO_DOCTO", "DOCTO_RECEBER"));
+    print();
+    const std::string blanks60(60, ' ');
+    EXPECT_THAT(drawn(), Contains(arial(2, 10.8, 10, "Referente a ")));
+    EXPECT_THAT(drawn(), Contains(courier(5, 10.8, 11, blanks60)));
 }
 
-TEST_F(ImprimeDuplicataTest, ALongReferenceTakesFiveLines) {
-    const std::string referencia = std::string(59, 'a') + "çb" + std::string(238, 'c') + "dE" + "F";
-    acha(com(linhaRecibo, "DC_REF_REC", referencia));  // 302 characters
-    imprime();
-    EXPECT_THAT(desenhado(),
-                testing::IsSupersetOf({courier(5, 10.8, 11, std::string(59, 'a') + "ç"),
-                                       courier(5, 11.2, 11, "b" + std::string(59, 'c')),
-                                       courier(5, 12.4, 11, std::string(59, 'c') + "d")}));
+TEST_F(PrintBillsTest, ALongReferenceTakesFiveLines) {
+    const std::string reference = std::string(59, 'a') + "çb" + std::string(238, 'c') + "dE" + "F";
+    findBill(com(receiptRow, "DC_REF_REC", reference));  // 302 characters
+    print();
+    EXPECT_THAT(drawn(), testing::IsSupersetOf({courier(5, 10.8, 11, std::string(59, 'a') + "ç"),
+                                                courier(5, 11.2, 11, "b" + std::string(59, 'c')),
+                                                courier(5, 12.4, 11, std::string(59, 'c') + "d")}));
 }
 
-TEST_F(ImprimeDuplicataTest, WordsThatAreTooLongAreCut) {
+TEST_F(PrintBillsTest, WordsThatAreTooLongAreCut) {
     constexpr char valor[] = "777777777777.77";
-    acha(com(linhaDuplicata, "VL_PRN_DOC", valor));
-    imprime();
-    std::string tira;
+    findBill(com(billRow, "VL_PRN_DOC", valor));
+    print();
+    std::string strip;
     for (const double y : {11.2, 11.6, 12.0}) {
-        for (const std::string& linha : desenhado()) {
-            const std::string inicio = courier(9, y, 10, "");
-            if (linha.rfind(inicio, 0) == 0) {
-                tira += linha.substr(inicio.size());
+        for (const std::string& linha : drawn()) {
+            const std::string start = courier(9, y, 10, "");
+            if (linha.rfind(start, 0) == 0) {
+                strip += linha.substr(start.size());
             }
         }
     }
-    EXPECT_EQ(tira.size(), 159U);
-    EXPECT_EQ(tira.rfind("SETECENTOS E SETENTA E SETE BILHOES, SETECENTOS E SETENTA E SETE ", 0),
+    EXPECT_EQ(strip.size(), 159U);
+    EXPECT_EQ(strip.rfind("SETECENTOS E SETENTA E SETE BILHOES, SETECENTOS E SETENTA E SETE ", 0),
               0U);
-    EXPECT_EQ(tira.find(".X"), std::string::npos) << "no room for the filler";
-    EXPECT_THAT(desenhado(), Not(Contains(testing::HasSubstr("CENTAVOS"))));
+    EXPECT_EQ(strip.find(".X"), std::string::npos) << "no room for the filler";
+    EXPECT_THAT(drawn(), Not(Contains(testing::HasSubstr("CENTAVOS"))));
 }
 
-TEST_F(ImprimeDuplicataTest, ZeroHasNoWords) {
-    acha(com(linhaDuplicata, "VL_PRN_DOC", "0") + com(linhaRecibo, "VL_PRN_DOC", ""));
-    imprime();
-    EXPECT_THAT(desenhado(), Contains(courier(9, 11.2, 10,
-                                              " .X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X."
-                                              "X.X")));
-    EXPECT_THAT(desenhado(), Contains(courier(5, 9.3, 11, " " + std::string(59, '-'))));
-    EXPECT_THAT(desenhado(), Contains(arial(16, 5, 14, "R$ 0,00"))) << "present but empty";
+TEST_F(PrintBillsTest, ZeroHasNoWords) {
+    findBill(com(billRow, "VL_PRN_DOC", "0") + com(receiptRow, "VL_PRN_DOC", ""));
+    print();
+    EXPECT_THAT(drawn(), Contains(courier(9, 11.2, 10,
+                                          " .X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X."
+                                          "X.X")));
+    EXPECT_THAT(drawn(), Contains(courier(5, 9.3, 11, " " + std::string(59, '-'))));
+    EXPECT_THAT(drawn(), Contains(arial(16, 5, 14, "R$ 0,00"))) << "present but empty";
 }
 
-TEST_F(ImprimeDuplicataTest, ARowWithoutAnAmountStopsBeforeItsPage) {
-    acha(std::string(linhaDuplicata) + sem(linhaDuplicata, "VL_PRN_DOC"));
+TEST_F(PrintBillsTest, ARowWithoutAnAmountStopsBeforeItsPage) {
+    findBill(std::string(billRow) + without(billRow, "VL_PRN_DOC"));
     try {
-        imprime();
+        print();
         FAIL() << "no failure";
-    } catch (const ErroExecucao& erro) {
-        EXPECT_EQ(erro.numero(), ErroNumero::TipoIncompativel);
-        EXPECT_NE(erro.descricao().find("4567/A"), std::string::npos) << erro.descricao();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), RuntimeErrorCode::TypeMismatch);
+        EXPECT_NE(error.description().find("4567/A"), std::string::npos) << error.description();
     }
-    Operacoes primeira = trabalho({paginaDuplicata()});
-    primeira.pop_back();
-    EXPECT_THAT(desenhado(), ElementsAreArray(primeira)) << "not ended";
+    Operations first = job({billPageOf()});
+    first.pop_back();
+    EXPECT_THAT(drawn(), ElementsAreArray(first)) << "not ended";
     EXPECT_THAT(seams_.boxes.shown, IsEmpty());
-    esquece();
-    linhas_[1].marcada = false;
-    imprime();
-    EXPECT_THAT(desenhado(), ElementsAreArray(trabalho({paginaDuplicata()})));
+    forget();
+    linhas_[1].ticked = false;
+    print();
+    EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf()})));
 }
 
-TEST_F(ImprimeDuplicataTest, EmptyFieldsOfTheCompanyKeepTheirLabels) {
-    empresa("<z:row/>");
-    acha(linhaDuplicata);
-    imprime();
-    const Operacoes tudo = desenhado();
-    const Operacoes inicio(tudo.begin() + 4, tudo.begin() + 10);
-    EXPECT_THAT(inicio, ElementsAre(arial(11, 1.6, 9, ""), arial(11, 2.0, 6, " -  - "),
-                                    arial(11, 2.4, 6, "CEP:  -  - "),
-                                    arial(11, 2.8, 6, "Inscrição CNPJ nº 00.000.000/0000-00"),
-                                    arial(11, 3.2, 6, "Inscrição Estadual - "),
-                                    arial(11, 3.6, 6, "TEL.: - FAX.: - E-MAIL:")));
+TEST_F(PrintBillsTest, EmptyFieldsOfTheCompanyKeepTheirLabels) {
+    company("<z:row/>");
+    findBill(billRow);
+    print();
+    const Operations all = drawn();
+    const Operations start(all.begin() + 4, all.begin() + 10);
+    EXPECT_THAT(start, ElementsAre(arial(11, 1.6, 9, ""), arial(11, 2.0, 6, " -  - "),
+                                   arial(11, 2.4, 6, "CEP:  -  - "),
+                                   arial(11, 2.8, 6, "Inscrição CNPJ nº 00.000.000/0000-00"),
+                                   arial(11, 3.2, 6, "Inscrição Estadual - "),
+                                   arial(11, 3.6, 6, "TEL.: - FAX.: - E-MAIL:")));
 }
 
-TEST_F(ImprimeDuplicataTest, ACompanyThatIsAPerson) {
-    empresa("<z:row PES_JUR='0' NR_CGC_CPL='54321'/><z:row PES_JUR='1'/>");
-    acha(linhaDuplicata);
-    imprime();
-    EXPECT_THAT(desenhado(), Contains(arial(11, 2.8, 6, "Inscrição CPF nº 000.000.543-21")));
+TEST_F(PrintBillsTest, ACompanyThatIsAPerson) {
+    company("<z:row PES_JUR='0' NR_CGC_CPL='54321'/><z:row PES_JUR='1'/>");
+    findBill(billRow);
+    print();
+    EXPECT_THAT(drawn(), Contains(arial(11, 2.8, 6, "Inscrição CPF nº 000.000.543-21")));
 }
 
-TEST_F(ImprimeDuplicataTest, WithoutTheCompanyTheRunFailsBeforeTheTicksAreLookedAt) {
-    ScriptedLoader fora;
-    ScriptedLoader vazia;
-    fora.failOn("sel_dados_empresa");
-    vazia.on("sel_dados_empresa", answers::rowset(""));
-    for (const ScriptedLoader& servidor : {fora, vazia}) {
-        seams_.loader = servidor;
+TEST_F(PrintBillsTest, WithoutTheCompanyTheRunFailsBeforeTheTicksAreLookedAt) {
+    ScriptedLoader outside;
+    ScriptedLoader empty;
+    outside.failOn("sel_dados_empresa");
+    empty.on("sel_dados_empresa", answers::rowset(""));
+    for (const ScriptedLoader& server : {outside, empty}) {
+        seams_.loader = server;
         try {
-            imprime();
+            print();
             FAIL() << "no failure";
-        } catch (const ErroExecucao& erro) {
-            EXPECT_EQ(erro.numero(), ErroNumero::VariavelObjeto);
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.number(), RuntimeErrorCode::ObjectVariable);
         }
         EXPECT_THAT(seams_.printer.operations, IsEmpty());
     }
@@ -464,63 +459,65 @@ TEST_F(ImprimeDuplicataTest, WithoutTheCompanyTheRunFailsBeforeTheTicksAreLooked
                                 BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"}));
 }
 
-TEST_F(ImprimeDuplicataTest, AFieldOfTheCompanyInAnotherCaseFails) {
-    empresa("<z:row dc_lg='x'/>");
-    acha(linhaDuplicata);
-    EXPECT_THROW(imprime(), ErroExecucao);
+TEST_F(PrintBillsTest, AFieldOfTheCompanyInAnotherCaseFails) {
+    company("<z:row dc_lg='x'/>");
+    findBill(billRow);
+    EXPECT_THROW(print(), RuntimeError);
     EXPECT_THAT(seams_.printer.operations, IsEmpty());
 }
 
-TEST_F(ImprimeDuplicataTest, PicturesThatAreMissingLeaveTheRestInPlace) {
-    figuras_ = {};
-    acha(std::string(linhaDuplicata) + linhaRecibo);
-    imprime();
-    Operacoes esperado = trabalho({paginaDuplicata(), paginaRecibo()});
-    std::erase_if(esperado, [](const std::string& linha) { return linha.starts_with("picture"); });
-    EXPECT_THAT(desenhado(), ElementsAreArray(esperado));
+TEST_F(PrintBillsTest, PicturesThatAreMissingLeaveTheRestInPlace) {
+    pictures_ = {};
+    findBill(std::string(billRow) + receiptRow);
+    print();
+    Operations expected = job({billPageOf(), receiptPageOf()});
+    std::erase_if(expected, [](const std::string& linha) { return linha.starts_with("picture"); });
+    EXPECT_THAT(drawn(), ElementsAreArray(expected));
 }
 
-TEST_F(ImprimeDuplicataTest, ControlCharactersMoveNothing) {
-    acha(com(com(linhaDuplicata, "NM_CLI_ETB", "A&#10;B&#9;C"), "EG_COB", "RUA&#13;X"));
-    imprime();
-    EXPECT_THAT(desenhado(), Contains(arial(9, 7.5, 8, "A B C")));
-    EXPECT_THAT(desenhado(), Contains(arial(9, 9.5, 8, "RUA X")));
+TEST_F(PrintBillsTest, ControlCharactersMoveNothing) {
+    findBill(com(com(billRow, "NM_CLI_ETB", "A&#10;B&#9;C"), "EG_COB", "RUA&#13;X"));
+    print();
+    EXPECT_THAT(drawn(), Contains(arial(9, 7.5, 8, "A B C")));
+    EXPECT_THAT(drawn(), Contains(arial(9, 9.5, 8, "RUA X")));
 }
 
-TEST_F(ImprimeDuplicataTest, ATextThatFailsIsDroppedInSilence) {
-    acha(linhaDuplicata);
+TEST_F(PrintBillsTest, ATextThatFailsIsDroppedInSilence) {
+    findBill(billRow);
     seams_.printer.failAt = 5;  // the company's name: unit, orientation, copies, line, logo
-    ASSERT_EQ(trabalho({paginaDuplicata()})[4], arial(11, 1.6, 9, "PEÇAS SÃO JOÃO LTDA"));
-    imprime();
-    EXPECT_THAT(desenhado(), ElementsAreArray(trabalho({paginaDuplicata()})));
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(sucesso("Duplicata(s)  impressa(s)")));
+    ASSERT_EQ(job({billPageOf()})[4], arial(11, 1.6, 9, "PEÇAS SÃO JOÃO LTDA"));
+    print();
+    EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf()})));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(success("Duplicata(s)  impressa(s)")));
 }
 
-TEST_F(ImprimeDuplicataTest, WhatElseThePrinterRefusesIsToldOnceInsteadOfTheSuccess) {
-    const std::size_t fim = trabalho({paginaDuplicata()}).size();  // one more with the copies
-    for (const std::size_t onde : {std::size_t{3}, std::size_t{4}, fim - 1, fim}) {
-        acha(linhaDuplicata);
-        seams_.printer.failAt = onde;
-        imprime();
-        EXPECT_THAT(desenhado(), ElementsAreArray(trabalho({paginaDuplicata()}))) << onde;
+TEST_F(PrintBillsTest, WhatElseThePrinterRefusesIsToldOnceInsteadOfTheSuccess) {
+    const std::size_t end = job({billPageOf()}).size();  // one more with the copies
+    for (const std::size_t where : {std::size_t{3}, std::size_t{4}, end - 1, end}) {
+        findBill(billRow);
+        seams_.printer.failAt = where;
+        print();
+        EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf()}))) << where;
         EXPECT_THAT(seams_.boxes.shown,
                     ElementsAre(Box{"Descrição :impressora sem papel\r   Numero :482"}))
-            << onde;
-        esquece();
+            << where;
+        forget();
     }
 }
 
-TEST_F(ImprimeDuplicataTest, TellsItsProgress) {
-    std::string muitas;
+TEST_F(PrintBillsTest, TellsItsProgress) {
+    std::string many;
     for (int i = 0; i < 3; ++i) {
-        muitas += linhaRecibo;
+        many += receiptRow;
     }
-    acha(muitas);
-    linhas_[1].marcada = false;
-    std::vector<std::pair<std::size_t, std::size_t>> avisos;
-    progresso_ = [&](std::size_t feitos, std::size_t total) { avisos.emplace_back(feitos, total); };
-    imprime();
-    EXPECT_THAT(avisos, ElementsAre(std::pair(0U, 2U), std::pair(2U, 2U)));
+    findBill(many);
+    linhas_[1].ticked = false;
+    std::vector<std::pair<std::size_t, std::size_t>> notices;
+    progress_ = [&](std::size_t doneRows, std::size_t total) {
+        notices.emplace_back(doneRows, total);
+    };
+    print();
+    EXPECT_THAT(notices, ElementsAre(std::pair(0U, 2U), std::pair(2U, 2U)));
     EXPECT_FALSE(seams_.printer.progress) << "no longer told";
 }
 

@@ -40,7 +40,7 @@ inline const std::string usualCheck = checkQuery("000123", "AÇ1");
 inline const std::string usualRecord =
     recordQuery("000123", "1.234,22", "JOÃO & FILHOS", "COMPRA DE PEÇAS");
 
-inline Box exclama(const std::string& text) {
+inline Box warn(const std::string& text) {
     return {text, BoxIcon::Exclamation};
 }
 inline Box failed(const std::string& number) {
@@ -52,8 +52,8 @@ inline Box failed(const std::string& number) {
 inline const Box failedWide = failed("ERRO    Tarn0009");  // of the list and the check
 inline const Box failedNarrow = failed("ERRO Tarn0009");
 inline const Box success{"Cheque emitido com sucesso!     ", BoxIcon::Information, "TArn"};
-inline const Box taken = exclama(
-    "Cheque com este número e série já foi emitido já emitido. \rNúmero: 000123\rSérie: AÇ1");
+inline const Box taken =
+    warn("Cheque com este número e série já foi emitido já emitido. \rNúmero: 000123\rSérie: AÇ1");
 
 class FrmChequeTest : public ScreenTest {
 protected:

@@ -142,7 +142,7 @@ TEST_F(FrmChequeTest, TheAmountIsSelectedAndFormatted) {
 }
 
 TEST_F(FrmChequeTest, AnAmountOverTheLimitIsRefusedOnLeaving) {
-    const Box refused = exclama("O valor máximo permitido é de R$ 9.999.999.999.999,99");
+    const Box refused = warn("O valor máximo permitido é de R$ 9.999.999.999.999,99");
     useFilled([&](QWidget& screen) {
         type(screen, "txtValor", "10000000000000");
         key(screen, Qt::Key_Tab);
@@ -234,8 +234,7 @@ TEST_F(FrmChequeTest, ADoubleClickPrintsOneCheque) {
         for (const bool press : {true, false, true, false}) {
             mouse(screen, "cmdImprimir", press);
         }
-        EXPECT_THAT(boxes.shown,
-                    ElementsAre(success, exclama("Nº Cheque é um campo obrigatório. ")));
+        EXPECT_THAT(boxes.shown, ElementsAre(success, warn("Nº Cheque é um campo obrigatório. ")));
     });
     EXPECT_EQ(spooler.jobs.size(), 1U);
 }
@@ -322,7 +321,7 @@ TEST_F(FrmChequeTest, TheCancelButtonClosesAndAClickOnItLeavesTheField) {
         EXPECT_FALSE(screen.isVisible());
         EXPECT_THAT(boxes.shown, ElementsAre(taken));
     });
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(FrmChequeTest, ALoneCommaIsNoAmount) {
@@ -332,7 +331,7 @@ TEST_F(FrmChequeTest, ALoneCommaIsNoAmount) {
         settle();
         ASSERT_EQ(boxes.shown.size(), 1U);
         EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '13'", 0), 0U);
-        EXPECT_EQ(fim.status(), 3);
+        EXPECT_EQ(end.status(), 3);
     });
 }
 

@@ -38,7 +38,7 @@ TEST_F(FrmChequeTest, OpensWithTheAccountsAndTheSessionsDate) {
 TEST_F(FrmChequeTest, WithoutTheRightItDoesntOpen) {
     server.on("ServerName=SRV1&sTransacao=EMI005", answers::status("Sem direito a cheques. "));
     choose(menu, "mnuCheque", "mnuChequeImpressao");
-    EXPECT_THAT(boxes.shown, ElementsAre(exclama("Sem direito a cheques. ")));
+    EXPECT_THAT(boxes.shown, ElementsAre(warn("Sem direito a cheques. ")));
     EXPECT_THAT(server.queries(), ElementsAre(rightQuery));
     EXPECT_EQ(modals.taken(), 0);
 }
@@ -96,7 +96,7 @@ TEST_F(FrmChequeTest, TheClicksTestsInTheirOrderAndWhereTheFocusGoes) {
         const auto refuses = [&](const char* focus, const char* message) {
             boxes.shown.clear();
             click(screen, "cmdImprimir");
-            EXPECT_THAT(boxes.shown, ElementsAre(exclama(message)));
+            EXPECT_THAT(boxes.shown, ElementsAre(warn(message)));
             EXPECT_EQ(focused(screen), focus);
         };
         chooseAccount(screen, 0);
@@ -210,7 +210,7 @@ TEST_F(FrmChequeTest, ARefusedRecordShowsTheServersWordsAndLeavesTheFields) {
     server.on("adiciona_controle_cheque_emitido", answers::status("Talão &lt;b&gt; bloqueado"));
     useFilled([&](QWidget& screen) {
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(exclama("Talão <b> bloqueado")));
+        EXPECT_THAT(boxes.shown, ElementsAre(warn("Talão <b> bloqueado")));
         expectFilled(screen);
         EXPECT_EQ(focused(screen), "cmdImprimir") << "the focus isn't moved";
     });
@@ -223,7 +223,7 @@ TEST_F(FrmChequeTest, AnAnswerWithoutAStatusEndsTheProgramAfterThePrint) {
         click(screen, "cmdImprimir");
         ASSERT_EQ(boxes.shown.size(), 1U);
         EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '91'", 0), 0U);
-        EXPECT_EQ(fim.status(), 3);
+        EXPECT_EQ(end.status(), 3);
         expectFilled(screen);
     });
     EXPECT_EQ(spooler.jobs.size(), 1U);
@@ -237,7 +237,7 @@ TEST_F(FrmChequeTest, ABankCodeThatIsNoNumberEndsTheProgramBeforeThePrint) {
         click(screen, "cmdImprimir");
         ASSERT_EQ(boxes.shown.size(), 1U);
         EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '13'", 0), 0U);
-        EXPECT_EQ(fim.status(), 3);
+        EXPECT_EQ(end.status(), 3);
     });
     EXPECT_THAT(spooler.calls, IsEmpty());
 }
@@ -279,7 +279,7 @@ TEST_F(FrmChequeTest, AFailedListLeavesNoAccountToChoose) {
                     ElementsAre(checkQuery("000123", "AÇ1", "&Id_Pes_Ban=0&Cd_Age_Ban=&Nr_Ccor=")));
         boxes.shown.clear();
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(exclama("Banco/Ag./Conta é um campo obrigatório. ")));
+        EXPECT_THAT(boxes.shown, ElementsAre(warn("Banco/Ag./Conta é um campo obrigatório. ")));
         EXPECT_EQ(focused(screen), "cboBancoAgConta");
     });
     EXPECT_THAT(spooler.calls, IsEmpty());

@@ -41,7 +41,7 @@ const std::string date =
 const std::string date33 =
     b(61) + "           CAMPINAS" + b(2) + "15" + b(6) + "MARCO            " + b(9) + "12";
 
-DadosCheque cheque(std::string_view amount) {
+ChequeData cheque(std::string_view amount) {
     return {.nNr_Ofi_Ban = 341,
             .sValor = amount,
             .sFavorecido = "JOÃO & FILHOS",
@@ -52,7 +52,7 @@ DadosCheque cheque(std::string_view amount) {
 class ImprimeChequeTest : public testing::Test {
 protected:
     // The writes of the cheque's one job.
-    Writes print(const DadosCheque& data) {
+    Writes print(const ChequeData& data) {
         seams_.spooler = RecordingSpooler();
         ImprimeCheque(seams_.environment, data);
         EXPECT_EQ(seams_.spooler.jobs.size(), 1U);
@@ -60,9 +60,7 @@ protected:
         return seams_.spooler.jobs.at(0).writes;
     }
     // One of them: the set-up is number 0.
-    std::string printed(const DadosCheque& data, std::size_t write) {
-        return print(data).at(write);
-    }
+    std::string printed(const ChequeData& data, std::size_t write) { return print(data).at(write); }
 
     TestEnvironment seams_;
 };
@@ -75,7 +73,7 @@ TEST_F(ImprimeChequeTest, TheGeneralLayout) {
 }
 
 TEST_F(ImprimeChequeTest, TheLayoutOfBank33) {
-    DadosCheque data = cheque("1.234,22");
+    ChequeData data = cheque("1.234,22");
     data.nNr_Ofi_Ban = 33;
     EXPECT_EQ(print(data),
               (Writes{spacing, condensed, line("", 2), line(b(93) + "               #1.234,22#", 4),
@@ -97,10 +95,10 @@ TEST_F(ImprimeChequeTest, OneJobWithANameAndTwoEmptyTexts) {
 }
 
 TEST_F(ImprimeChequeTest, Bank151PrintsAsAnyOther) {
-    DadosCheque data = cheque("1.234,25");
+    ChequeData data = cheque("1.234,25");
     const Writes general = print(data);
     for (const char* bank : {"151", "1", "237", "0", "-33", "133"}) {
-        data.nNr_Ofi_Ban = codigoDoBanco(bank);
+        data.nNr_Ofi_Ban = bankCode(bank);
         EXPECT_EQ(print(data), general) << bank;
     }
 }
@@ -127,7 +125,7 @@ TEST_F(ImprimeChequeTest, WordsOf200Characters) {
 }
 
 TEST_F(ImprimeChequeTest, Bank33JoinsTheThirdLineOfWordsToTheSecond) {
-    DadosCheque data = cheque("2.444.444.444.466,49");
+    ChequeData data = cheque("2.444.444.444.466,49");
     data.nNr_Ofi_Ban = 33;
     const Writes writes = print(data);
     EXPECT_EQ(writes.at(3), line(b(93) + "   #2.444.444.444.466,49#", 4));
@@ -142,7 +140,7 @@ TEST_F(ImprimeChequeTest, Bank33JoinsTheThirdLineOfWordsToTheSecond) {
 }
 
 TEST_F(ImprimeChequeTest, Bank33WithTwoLinesOfWords) {
-    DadosCheque data = cheque("444.444,44");
+    ChequeData data = cheque("444.444,44");
     data.nNr_Ofi_Ban = 33;
     const Writes writes = print(data);
     EXPECT_EQ(writes.at(4), line(b(26) + "QUATROCENTOS E QUARENTA E QUATRO MIL, QUATROCENTOS E "
@@ -152,7 +150,7 @@ TEST_F(ImprimeChequeTest, Bank33WithTwoLinesOfWords) {
 }
 
 TEST_F(ImprimeChequeTest, AnEmptyPayeeKeepsItsLine) {
-    DadosCheque data = cheque("100,00");
+    ChequeData data = cheque("100,00");
     data.sFavorecido = "";
     Writes writes = print(data);
     EXPECT_EQ(writes.at(4), line(b(4), 2));
@@ -165,11 +163,11 @@ TEST_F(ImprimeChequeTest, AnEmptyPayeeKeepsItsLine) {
 
 TEST_F(ImprimeChequeTest, WhatIsTooLongKeepsItsHead) {
     const std::string payee = std::string(69, 'F') + "ÉG";
-    DadosCheque data{.nNr_Ofi_Ban = 1,
-                     .sValor = "0000000000000001,50",
-                     .sFavorecido = payee,
-                     .sDataDeposito = "123/3/20125",
-                     .sNmMun = "SÃO JOSÉ DOS CAMPOS DO JORDÃO"};
+    ChequeData data{.nNr_Ofi_Ban = 1,
+                    .sValor = "0000000000000001,50",
+                    .sFavorecido = payee,
+                    .sDataDeposito = "123/3/20125",
+                    .sNmMun = "SÃO JOSÉ DOS CAMPOS DO JORDÃO"};
     Writes writes = print(data);
     EXPECT_EQ(writes.at(1), line(b(64) + "00000000000000", 2));
     EXPECT_EQ(writes.at(4), line(b(4) + std::string(69, 'F') + "\xC9", 2));
@@ -202,7 +200,7 @@ TEST_F(ImprimeChequeTest, TheDayAsTypedAndTheMonthByItsNumber) {
         {"5/6/2012/8", " 5", "JUNHO"},
     };
     for (const auto& one : dates) {
-        DadosCheque data = cheque("1,00");
+        ChequeData data = cheque("1,00");
         data.sDataDeposito = one.typed;
         EXPECT_EQ(printed(data, 5), line(b(29) + "CAMPINAS           " + b(2) + one.day + b(3) +
                                              one.month + b(17 - one.month.size()) + b(2) + "2012",
@@ -214,7 +212,7 @@ TEST_F(ImprimeChequeTest, TheDayAsTypedAndTheMonthByItsNumber) {
 TEST_F(ImprimeChequeTest, Bank33PrintsTwoDigitsOfTheYear) {
     for (const auto& [typed, year] :
          {std::pair{"15/03/2012", "12"}, {"15/03/7", "7"}, {"15/03/", ""}}) {
-        DadosCheque data = cheque("1,00");
+        ChequeData data = cheque("1,00");
         data.nNr_Ofi_Ban = 33;
         data.sDataDeposito = typed;
         EXPECT_EQ(printed(data, 7), line(date33.substr(0, date33.size() - 2) + year, 2)) << typed;
@@ -222,7 +220,7 @@ TEST_F(ImprimeChequeTest, Bank33PrintsTwoDigitsOfTheYear) {
 }
 
 TEST_F(ImprimeChequeTest, AnAmountOfNothingHasNoWords) {
-    DadosCheque data = cheque("0,00");
+    ChequeData data = cheque("0,00");
     Writes writes = print(data);
     EXPECT_EQ(writes.at(2), line(b(14), 1));
     EXPECT_EQ(writes.at(3), line("", 2));
@@ -233,11 +231,11 @@ TEST_F(ImprimeChequeTest, AnAmountOfNothingHasNoWords) {
 }
 
 TEST_F(ImprimeChequeTest, NoValueMovesALineOrCommandsThePrinter) {
-    DadosCheque data{.nNr_Ofi_Ban = 1,
-                     .sValor = "1,00",
-                     .sFavorecido = "A\r\nB\x1B@\tC\x7F",
-                     .sDataDeposito = "1\n/03/20\x0C",
-                     .sNmMun = "X\rY"};
+    ChequeData data{.nNr_Ofi_Ban = 1,
+                    .sValor = "1,00",
+                    .sFavorecido = "A\r\nB\x1B@\tC\x7F",
+                    .sDataDeposito = "1\n/03/20\x0C",
+                    .sNmMun = "X\rY"};
     Writes writes = print(data);
     EXPECT_EQ(writes.at(4), line(b(4) + "A  B @ C ", 2));
     EXPECT_EQ(writes.at(5), line(b(29) + "X Y" + b(18) + "1 " + b(3) + "MARCO" + b(14) + "20 ", 2));
@@ -249,23 +247,23 @@ TEST_F(ImprimeChequeTest, NoValueMovesALineOrCommandsThePrinter) {
 }
 
 TEST_F(ImprimeChequeTest, NothingIsPrintedOfWhatCannotBeRead) {
-    const auto refused = [this](const DadosCheque& data) {
+    const auto refused = [this](const ChequeData& data) {
         try {
             ImprimeCheque(seams_.environment, data);
-        } catch (const ErroExecucao& error) {
-            return error.numero();
+        } catch (const RuntimeError& error) {
+            return error.number();
         }
         ADD_FAILURE() << "printed";
-        return ErroNumero::ObjetoObrigatorio;
+        return RuntimeErrorCode::ObjectRequired;
     };
-    DadosCheque data = cheque("");
-    EXPECT_EQ(refused(data), ErroNumero::TipoIncompativel);
+    ChequeData data = cheque("");
+    EXPECT_EQ(refused(data), RuntimeErrorCode::TypeMismatch);
     data.sValor = "R$ 1,00";
-    EXPECT_EQ(refused(data), ErroNumero::TipoIncompativel);
+    EXPECT_EQ(refused(data), RuntimeErrorCode::TypeMismatch);
     data.sValor = "1,00";
     for (const char* typed : {"", "15", "15/03", "15-03-2012"}) {
         data.sDataDeposito = typed;
-        EXPECT_EQ(refused(data), ErroNumero::ForaDoIntervalo) << typed;
+        EXPECT_EQ(refused(data), RuntimeErrorCode::OutOfRange) << typed;
     }
     EXPECT_TRUE(seams_.spooler.calls.empty());
 }
@@ -277,21 +275,21 @@ TEST_F(ImprimeChequeTest, ThePrintersAnswersAreNotLookedAt) {
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
 
-TEST(CodigoDoBanco, IsA16BitInteger) {
-    EXPECT_EQ(codigoDoBanco("033"), 33);
-    EXPECT_EQ(codigoDoBanco("  151 "), 151);
-    EXPECT_EQ(codigoDoBanco("32767"), 32767);
+TEST(BankCode, IsA16BitInteger) {
+    EXPECT_EQ(bankCode("033"), 33);
+    EXPECT_EQ(bankCode("  151 "), 151);
+    EXPECT_EQ(bankCode("32767"), 32767);
     const auto number = [](const char* text) {
         try {
-            codigoDoBanco(text);
-        } catch (const ErroExecucao& error) {
-            return error.numero();
+            bankCode(text);
+        } catch (const RuntimeError& error) {
+            return error.number();
         }
-        return ErroNumero::ObjetoObrigatorio;
+        return RuntimeErrorCode::ObjectRequired;
     };
-    EXPECT_EQ(number("32768"), ErroNumero::Estouro);
-    EXPECT_EQ(number(""), ErroNumero::TipoIncompativel);
-    EXPECT_EQ(number("B33"), ErroNumero::TipoIncompativel);
+    EXPECT_EQ(number("32768"), RuntimeErrorCode::Overflow);
+    EXPECT_EQ(number(""), RuntimeErrorCode::TypeMismatch);
+    EXPECT_EQ(number("B33"), RuntimeErrorCode::TypeMismatch);
 }
 
 }  // namespace

@@ -34,30 +34,30 @@ Box critical(const std::string& text) {
             BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
 }
 
-class EmiteChequeTest : public testing::Test {
+class IssueChequeTest : public testing::Test {
 protected:
-    EmiteChequeTest() {
+    IssueChequeTest() {
         session_.NCOMPANYCODE = 2041;
         session_.ID_ETB_TARN = 6001;
         session_.UserCode = "77";
         session_.SERVERNAME = "SRV1";
     }
     std::vector<std::string> queries() { return seams_.loader.queries(); }
-    ErroNumero errorOfIssuing() {
+    RuntimeErrorCode errorOfIssuing() {
         try {
-            emiteCheque(environment_, session_, fields_);
-        } catch (const ErroExecucao& error) {
-            return error.numero();
+            issueCheque(environment_, session_, fields_);
+        } catch (const RuntimeError& error) {
+            return error.number();
         }
         ADD_FAILURE() << "no error";
-        return ErroNumero::ObjetoObrigatorio;
+        return RuntimeErrorCode::ObjectRequired;
     }
-    std::string refusedAt(CampoDoCheque field) {
-        const auto refusal = recusaDosCampos(fields_);
+    std::string refusedAt(ChequeField field) {
+        const auto refusal = fieldRefusal(fields_);
         if (!refusal) {
             return "-";
         }
-        EXPECT_EQ(refusal->campo, field);
+        EXPECT_EQ(refusal->field, field);
         return refusal->texto;
     }
     void townIs(const std::string& attributes) {
@@ -67,20 +67,20 @@ protected:
     TestEnvironment seams_;
     Environment& environment_ = seams_.environment;
     Sessao session_;
-    CamposCheque fields_{.conta = ContaBancaria{.descricao = "BANCO",
+    ChequeFields fields_{.account = BankAccount{.description = "BANCO",
                                                 .ID_PES_BAN = 901,
                                                 .CD_AGE_BAN = " 0123 ",
                                                 .NR_CCOR = " 4567-8 ",
                                                 .NR_OFI_BAN = " 033 "},
-                         .numero = " 000123 ",
-                         .serie = " aç1 ",
+                         .number = " 000123 ",
+                         .series = " aç1 ",
                          .valor = " 1.234,22 ",
-                         .favorecido = " João & Filhos ",
-                         .dataDeposito = " 15/03/2012 ",
-                         .observacao = " Compra de material, 2ª via "};
+                         .payee = " João & Filhos ",
+                         .depositDate = " 15/03/2012 ",
+                         .observation = " Compra de material, 2ª via "};
 };
 
-TEST_F(EmiteChequeTest, TheListOfAccounts) {
+TEST_F(IssueChequeTest, TheListOfAccounts) {
     seams_.loader.on(
         "sel_banco_agencia_conta",
         answers::rowset(
@@ -90,12 +90,12 @@ TEST_F(EmiteChequeTest, TheListOfAccounts) {
             "NR_CCOR='1'/>"
             "<z:row ID_PES_BAN='x' BANCO='C' CD_AGE_BAN='2' NR_CCOR='3' DC_CCOR='' dc_ccor='Z'/>"
             "<z:row/>"));
-    const auto accounts = carregaContas(environment_, session_);
+    const auto accounts = loadAccounts(environment_, session_);
     ASSERT_TRUE(accounts);
     std::vector<std::string> shown;
     std::vector<std::int32_t> data;
-    for (const ContaBancaria& account : *accounts) {
-        shown.push_back(account.descricao);
+    for (const BankAccount& account : *accounts) {
+        shown.push_back(account.description);
         data.push_back(account.ID_PES_BAN);
     }
     EXPECT_THAT(shown, ElementsAre("------------", "ITAU - 0123 - 4567-8 - MATRIZ",
@@ -109,103 +109,102 @@ TEST_F(EmiteChequeTest, TheListOfAccounts) {
     EXPECT_THAT(seams_.boxes.shown, IsEmpty());
 }
 
-TEST_F(EmiteChequeTest, WithoutAccountsTheListHasItsFirstItem) {
+TEST_F(IssueChequeTest, WithoutAccountsTheListHasItsFirstItem) {
     for (const std::string& answer : {answers::rowset(""), std::string("<xml/>")}) {
         seams_.loader.on("sel_banco_agencia_conta", answer);
-        const auto accounts = carregaContas(environment_, session_);
+        const auto accounts = loadAccounts(environment_, session_);
         ASSERT_TRUE(accounts);
         ASSERT_EQ(accounts->size(), 1U);
-        EXPECT_EQ(accounts->front().descricao, "------------");
+        EXPECT_EQ(accounts->front().description, "------------");
     }
 }
 
-TEST_F(EmiteChequeTest, AFailedListIsNone) {
+TEST_F(IssueChequeTest, AFailedListIsNone) {
     seams_.loader.failOn("sel_banco_agencia_conta");
-    EXPECT_FALSE(carregaContas(environment_, session_));
+    EXPECT_FALSE(loadAccounts(environment_, session_));
     EXPECT_THAT(seams_.boxes.shown, ElementsAre(critical("ERRO    Tarn0009")));
 }
 
-TEST_F(EmiteChequeTest, AnAccountSpelledInAnotherCaseIsAnObjectError) {
+TEST_F(IssueChequeTest, AnAccountSpelledInAnotherCaseIsAnObjectError) {
     seams_.loader.on("sel_banco_agencia_conta", answers::rowset("<z:row Banco='ITAU'/>"));
-    EXPECT_THROW(carregaContas(environment_, session_), ErroExecucao);
+    EXPECT_THROW(loadAccounts(environment_, session_), RuntimeError);
 }
 
-TEST_F(EmiteChequeTest, TheTestsOfTheFieldsInTheirOrder) {
-    const CamposCheque filled = fields_;
-    fields_ = {.conta = std::nullopt, .numero = " ", .serie = " ", .valor = " "};
-    EXPECT_EQ(refusedAt(CampoDoCheque::Conta), "Banco/Ag./Conta é um campo obrigatório. ");
-    fields_.conta = filled.conta;
-    EXPECT_EQ(refusedAt(CampoDoCheque::Numero), "Nº Cheque é um campo obrigatório. ");
-    fields_.numero = "1";
-    EXPECT_EQ(refusedAt(CampoDoCheque::Serie), "Série é um campo obrigatório. ");
-    fields_.serie = "A";
-    EXPECT_EQ(refusedAt(CampoDoCheque::Valor), "Valor é um campo obrigatório. ");
+TEST_F(IssueChequeTest, TheTestsOfTheFieldsInTheirOrder) {
+    const ChequeFields filled = fields_;
+    fields_ = {.account = std::nullopt, .number = " ", .series = " ", .valor = " "};
+    EXPECT_EQ(refusedAt(ChequeField::Account), "Banco/Ag./Conta é um campo obrigatório. ");
+    fields_.account = filled.account;
+    EXPECT_EQ(refusedAt(ChequeField::Number), "Nº Cheque é um campo obrigatório. ");
+    fields_.number = "1";
+    EXPECT_EQ(refusedAt(ChequeField::Series), "Série é um campo obrigatório. ");
+    fields_.series = "A";
+    EXPECT_EQ(refusedAt(ChequeField::Amount), "Valor é um campo obrigatório. ");
     fields_.valor = "0,00";
-    EXPECT_EQ(refusedAt(CampoDoCheque::Valor), "Valor deve ser maior que R$ 0,00. ");
+    EXPECT_EQ(refusedAt(ChequeField::Amount), "Valor deve ser maior que R$ 0,00. ");
     fields_.valor = "100,01";
-    EXPECT_EQ(refusedAt(CampoDoCheque::Favorecido),
+    EXPECT_EQ(refusedAt(ChequeField::Payee),
               "Favorecido é um campo obrigatório para cheques com valores maiores que R$ 100,00. ");
-    fields_.favorecido = "   ";
-    EXPECT_NE(refusedAt(CampoDoCheque::Favorecido), "-") << "blanks are no payee";
+    fields_.payee = "   ";
+    EXPECT_NE(refusedAt(ChequeField::Payee), "-") << "blanks are no payee";
     fields_.valor = "100,00";
-    EXPECT_EQ(refusedAt(CampoDoCheque::DataDeposito),
-              "Data para Depósito é um campo obrigatório. ");
-    fields_.dataDeposito = "15/03/2012";
-    EXPECT_EQ(refusedAt(CampoDoCheque::Conta), "-") << "100,00 needs no payee";
+    EXPECT_EQ(refusedAt(ChequeField::DepositDate), "Data para Depósito é um campo obrigatório. ");
+    fields_.depositDate = "15/03/2012";
+    EXPECT_EQ(refusedAt(ChequeField::Account), "-") << "100,00 needs no payee";
     fields_.valor = "0,01";
-    EXPECT_EQ(refusedAt(CampoDoCheque::Conta), "-");
+    EXPECT_EQ(refusedAt(ChequeField::Account), "-");
     EXPECT_THAT(queries(), IsEmpty());
     EXPECT_THAT(seams_.boxes.shown, IsEmpty());
 }
 
-TEST_F(EmiteChequeTest, AnAmountThatIsNoNumberIsTheTypeError) {
+TEST_F(IssueChequeTest, AnAmountThatIsNoNumberIsTheTypeError) {
     fields_.valor = ",";
     try {
-        recusaDosCampos(fields_);
+        fieldRefusal(fields_);
         ADD_FAILURE() << "no error";
-    } catch (const ErroExecucao& error) {
-        EXPECT_EQ(error.numero(), ErroNumero::TipoIncompativel);
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), RuntimeErrorCode::TypeMismatch);
     }
 }
 
-TEST_F(EmiteChequeTest, ANumberWithoutARowIsFree) {
+TEST_F(IssueChequeTest, ANumberWithoutARowIsFree) {
     seams_.loader.on("seleciona_um", answers::rowset(""));
     EXPECT_TRUE(ValidaCheque(environment_, session_, fields_));
     EXPECT_THAT(queries(), ElementsAre(checkQuery));
     EXPECT_THAT(seams_.boxes.shown, IsEmpty());
 }
 
-TEST_F(EmiteChequeTest, ANumberWithARowIsTaken) {
+TEST_F(IssueChequeTest, ANumberWithARowIsTaken) {
     seams_.loader.on("seleciona_um", answers::rowset("<z:row/>"));
     EXPECT_FALSE(ValidaCheque(environment_, session_, fields_));
-    const auto refusal = recusaDoNumero(environment_, session_, fields_);
+    const auto refusal = numberRefusal(environment_, session_, fields_);
     ASSERT_TRUE(refusal);
-    EXPECT_EQ(refusal->campo, CampoDoCheque::Numero);
+    EXPECT_EQ(refusal->field, ChequeField::Number);
     EXPECT_EQ(refusal->texto,
               "Cheque com este número e série já foi emitido já emitido. \r"
               "Número: 000123\r"
               "Série: AÇ1");
 }
 
-TEST_F(EmiteChequeTest, AFailedCheckLetsTheNumberThrough) {
+TEST_F(IssueChequeTest, AFailedCheckLetsTheNumberThrough) {
     seams_.loader.failOn("seleciona_um");
     EXPECT_TRUE(ValidaCheque(environment_, session_, fields_));
     EXPECT_THAT(seams_.boxes.shown, ElementsAre(critical("ERRO    Tarn0009")));
 }
 
-TEST_F(EmiteChequeTest, TheCheckWaitsForNumberAndSeries) {
+TEST_F(IssueChequeTest, TheCheckWaitsForNumberAndSeries) {
     seams_.loader.on("seleciona_um", answers::rowset("<z:row/>"));
-    fields_.numero = "  ";
-    EXPECT_FALSE(recusaDoNumero(environment_, session_, fields_));
-    fields_.numero = "1";
-    fields_.serie = " ";
-    EXPECT_FALSE(recusaDoNumero(environment_, session_, fields_));
+    fields_.number = "  ";
+    EXPECT_FALSE(numberRefusal(environment_, session_, fields_));
+    fields_.number = "1";
+    fields_.series = " ";
+    EXPECT_FALSE(numberRefusal(environment_, session_, fields_));
     EXPECT_THAT(queries(), IsEmpty());
 }
 
-TEST_F(EmiteChequeTest, TheCheckWithoutAnAccount) {
+TEST_F(IssueChequeTest, TheCheckWithoutAnAccount) {
     seams_.loader.on("seleciona_um", answers::rowset(""));
-    fields_.conta = std::nullopt;
+    fields_.account = std::nullopt;
     ValidaCheque(environment_, session_, fields_);
     EXPECT_THAT(queries(),
                 ElementsAre("comando=seleciona_um_controle_cheque_emitido&ID_EMP_TARN=2041"
@@ -213,10 +212,10 @@ TEST_F(EmiteChequeTest, TheCheckWithoutAnAccount) {
                             "&Nr_Ser=AÇ1&ServerName=SRV1"));
 }
 
-TEST_F(EmiteChequeTest, PrintsThenRecords) {
+TEST_F(IssueChequeTest, PrintsThenRecords) {
     townIs("NM_MUN='Campinas'");
     seams_.loader.on("adiciona", answers::status("OK"));
-    EXPECT_TRUE(emiteCheque(environment_, session_, fields_));
+    EXPECT_TRUE(issueCheque(environment_, session_, fields_));
     EXPECT_THAT(queries(), ElementsAre(townQuery, recordQuery));
     ASSERT_EQ(seams_.spooler.jobs.size(), 1U);
     const auto& writes = seams_.spooler.jobs[0].writes;
@@ -229,31 +228,31 @@ TEST_F(EmiteChequeTest, PrintsThenRecords) {
                 ElementsAre(Box{"Cheque emitido com sucesso!     ", BoxIcon::Information, "TArn"}));
 }
 
-TEST_F(EmiteChequeTest, TheRecordComesAfterThePrint) {
+TEST_F(IssueChequeTest, TheRecordComesAfterThePrint) {
     townIs("NM_MUN='C'");
     seams_.loader.failOn("adiciona");
     std::size_t closedAtTheBox = 0;
     seams_.boxes.onShow = [&](const Box&) {
         closedAtTheBox = seams_.spooler.jobs.size() + (seams_.spooler.jobs.at(0).closed ? 1 : 0);
     };
-    EXPECT_FALSE(emiteCheque(environment_, session_, fields_));
+    EXPECT_FALSE(issueCheque(environment_, session_, fields_));
     EXPECT_EQ(closedAtTheBox, 2U) << "one job, closed";
     EXPECT_THAT(seams_.boxes.shown, ElementsAre(critical("ERRO Tarn0009")));
     EXPECT_THAT(queries(), ElementsAre(townQuery, recordQuery)) << "not sent again";
 }
 
-TEST_F(EmiteChequeTest, WithoutTheTownNothingIsPrintedOrRecorded) {
+TEST_F(IssueChequeTest, WithoutTheTownNothingIsPrintedOrRecorded) {
     seams_.loader.failOn("sel_dados_empresa");
-    EXPECT_FALSE(emiteCheque(environment_, session_, fields_));
+    EXPECT_FALSE(issueCheque(environment_, session_, fields_));
     EXPECT_THAT(queries(), ElementsAre(townQuery));
     EXPECT_THAT(seams_.spooler.calls, IsEmpty());
     EXPECT_THAT(seams_.boxes.shown, ElementsAre(critical("ERRO Tarn0009")));
 }
 
-TEST_F(EmiteChequeTest, AnAbsentTownIsEmptyAndAMissingRowAnError) {
+TEST_F(IssueChequeTest, AnAbsentTownIsEmptyAndAMissingRowAnError) {
     townIs("NM_FIL='F'");
     seams_.loader.on("adiciona", answers::status("OK"));
-    EXPECT_TRUE(emiteCheque(environment_, session_, fields_));
+    EXPECT_TRUE(issueCheque(environment_, session_, fields_));
     EXPECT_EQ(seams_.spooler.jobs.at(0).writes.at(7).substr(0, 85),
               " " + std::string(80, ' ') + "  15");
     seams_.loader = ScriptedLoader();
@@ -261,56 +260,56 @@ TEST_F(EmiteChequeTest, AnAbsentTownIsEmptyAndAMissingRowAnError) {
          {answers::rowset(""), answers::rowset("<z:row nm_mun='C'/>")}) {
         seams_.loader.on("sel_dados_empresa", answer);
         seams_.spooler = RecordingSpooler();
-        EXPECT_EQ(errorOfIssuing(), ErroNumero::VariavelObjeto);
+        EXPECT_EQ(errorOfIssuing(), RuntimeErrorCode::ObjectVariable);
         EXPECT_THAT(seams_.spooler.calls, IsEmpty());
         EXPECT_THAT(queries().back(), townQuery);
     }
 }
 
-TEST_F(EmiteChequeTest, WhatCannotBeReadIsFoundBeforeThePrint) {
+TEST_F(IssueChequeTest, WhatCannotBeReadIsFoundBeforeThePrint) {
     townIs("NM_MUN='C'");
-    for (const auto& [bank, number] : {std::pair{"", ErroNumero::TipoIncompativel},
-                                       {"B1", ErroNumero::TipoIncompativel},
-                                       {"40000", ErroNumero::Estouro}}) {
-        fields_.conta->NR_OFI_BAN = bank;
+    for (const auto& [bank, number] : {std::pair{"", RuntimeErrorCode::TypeMismatch},
+                                       {"B1", RuntimeErrorCode::TypeMismatch},
+                                       {"40000", RuntimeErrorCode::Overflow}}) {
+        fields_.account->NR_OFI_BAN = bank;
         EXPECT_EQ(errorOfIssuing(), number) << bank;
     }
-    fields_.conta->NR_OFI_BAN = "1";
-    fields_.dataDeposito = "15/03";
-    EXPECT_EQ(errorOfIssuing(), ErroNumero::ForaDoIntervalo);
+    fields_.account->NR_OFI_BAN = "1";
+    fields_.depositDate = "15/03";
+    EXPECT_EQ(errorOfIssuing(), RuntimeErrorCode::OutOfRange);
     EXPECT_THAT(seams_.spooler.calls, IsEmpty());
     EXPECT_THAT(queries(), testing::Each(townQuery)) << "and before the record";
 }
 
-TEST_F(EmiteChequeTest, APrinterThatIsntThereChangesNothing) {
+TEST_F(IssueChequeTest, APrinterThatIsntThereChangesNothing) {
     townIs("NM_MUN='C'");
     seams_.loader.on("adiciona", answers::status("OK"));
     seams_.spooler.failOpen = 0;
-    EXPECT_TRUE(emiteCheque(environment_, session_, fields_));
+    EXPECT_TRUE(issueCheque(environment_, session_, fields_));
     EXPECT_THAT(seams_.spooler.jobs, IsEmpty());
     EXPECT_THAT(queries(), ElementsAre(townQuery, recordQuery));
     EXPECT_EQ(seams_.boxes.shown.size(), 1U);
 }
 
-TEST_F(EmiteChequeTest, ARefusedRecordShowsTheServersWords) {
+TEST_F(IssueChequeTest, ARefusedRecordShowsTheServersWords) {
     townIs("NM_MUN='C'");
     seams_.loader.on("adiciona", answers::status("Cheque &lt;b&gt; bloqueado. "))
         .on("adiciona", answers::status("ok"));
-    EXPECT_FALSE(emiteCheque(environment_, session_, fields_));
-    EXPECT_FALSE(emiteCheque(environment_, session_, fields_));
+    EXPECT_FALSE(issueCheque(environment_, session_, fields_));
+    EXPECT_FALSE(issueCheque(environment_, session_, fields_));
     EXPECT_THAT(seams_.boxes.shown, ElementsAre(Box{"Cheque <b> bloqueado. ", BoxIcon::Exclamation},
                                                 Box{"ok", BoxIcon::Exclamation}));
     EXPECT_EQ(seams_.spooler.jobs.size(), 2U) << "a new click prints again";
 }
 
-TEST_F(EmiteChequeTest, AnEmptyAnswerIsToldAndOneWithoutAStatusIsAnError) {
-    EXPECT_FALSE(chequeGravado(environment_, XmlDocument()));
+TEST_F(IssueChequeTest, AnEmptyAnswerIsToldAndOneWithoutAStatusIsAnError) {
+    EXPECT_FALSE(chequeRecorded(environment_, XmlDocument()));
     EXPECT_THAT(seams_.boxes.shown,
                 ElementsAre(Box{"Houve um problema para gravar cheque no banco de dados. ",
                                 BoxIcon::Exclamation}));
     townIs("NM_MUN='C'");
     seams_.loader.on("adiciona", "<R a='0' s='OK'/>");
-    EXPECT_EQ(errorOfIssuing(), ErroNumero::VariavelObjeto);
+    EXPECT_EQ(errorOfIssuing(), RuntimeErrorCode::ObjectVariable);
     EXPECT_EQ(seams_.spooler.jobs.size(), 1U);
 }
 

@@ -138,12 +138,11 @@ TEST(QuantityField, RefusesTenMillionAndMore) {
 }
 
 TEST(QuantityField, MessagesOfTheWeights) {
-    EXPECT_EQ(quantityOnLeave("", messagesPesoBruto).box, attention("Peso Bruto inválido.     "));
-    EXPECT_EQ(quantityOnLeave("10000000", messagesPesoBruto).box,
+    EXPECT_EQ(quantityOnLeave("", grossWeightMessages).box, attention("Peso Bruto inválido.     "));
+    EXPECT_EQ(quantityOnLeave("10000000", grossWeightMessages).box,
               attention("Peso Bruto máximo permitido é 9.999.999,999 "));
-    EXPECT_EQ(quantityOnLeave("", messagesPesoLiquido).box,
-              attention("Peso Líquido inválido.     "));
-    EXPECT_EQ(quantityOnLeave("10000000", messagesPesoLiquido).box,
+    EXPECT_EQ(quantityOnLeave("", netWeightMessages).box, attention("Peso Líquido inválido.     "));
+    EXPECT_EQ(quantityOnLeave("10000000", netWeightMessages).box,
               attention("Peso Líquido máximo permitido é 9.999.999,999 "));
 }
 
@@ -173,8 +172,8 @@ TEST(MoneyField, ATextThatIsNoNumberIsARunTimeError) {
     try {
         moneyOnLeave(",");
         FAIL() << "no error";
-    } catch (const ErroExecucao& erro) {
-        EXPECT_EQ(erro.numero(), ErroNumero::TipoIncompativel);
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), RuntimeErrorCode::TypeMismatch);
     }
 }
 

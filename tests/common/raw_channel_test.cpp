@@ -22,9 +22,9 @@ protected:
 };
 
 TEST_F(RawChannelTest, LifeOfAJob) {
-    channel_.abre();
+    channel_.open();
     print(1, "A", 1);
-    channel_.fecha();
+    channel_.close();
     EXPECT_EQ(spooler_.calls,
               (std::vector{Call::Open, Call::StartDocument, Call::StartPage, Call::Write,
                            Call::EndPage, Call::EndDocument, Call::Close}));
@@ -35,27 +35,27 @@ TEST_F(RawChannelTest, LifeOfAJob) {
 }
 
 TEST_F(RawChannelTest, DescriptionReachesTheSpooler) {
-    channel_.abre({.docName = "Impressao de Cheque", .outputFile = "", .dataType = ""});
+    channel_.open({.docName = "Impressao de Cheque", .outputFile = "", .dataType = ""});
     EXPECT_EQ(spooler_.jobs.at(0).description.docName, "Impressao de Cheque");
     EXPECT_EQ(spooler_.jobs.at(0).description.dataType, "");
 }
 
 TEST_F(RawChannelTest, TheDefaultPrinterIsAskedForAtEachOpening) {
-    channel_.abre();
-    channel_.fecha();
+    channel_.open();
+    channel_.close();
     spooler_.printer = "Outra";
-    channel_.abre();
+    channel_.open();
     EXPECT_EQ(spooler_.opened, (std::vector<std::string>{"Impressora de teste", "Outra"}));
 }
 
 TEST_F(RawChannelTest, AnEmptyTextIsStillOneWrite) {
-    channel_.abre();
+    channel_.open();
     print(0, "", 0);
     EXPECT_EQ(spooler_.jobs.at(0).writes, (std::vector<std::string>{""}));
 }
 
 TEST_F(RawChannelTest, ColumnAndLineEnds) {
-    channel_.abre();
+    channel_.open();
     print(1, "", 2);
     print(3, "X", 0);
     print(0, "Y", 1);
@@ -65,7 +65,7 @@ TEST_F(RawChannelTest, ColumnAndLineEnds) {
 }
 
 TEST_F(RawChannelTest, TheCallersTextKeepsItsLineEnds) {
-    channel_.abre();
+    channel_.open();
     std::string texto = "AB";
     channel_.ImprimeRaw(1, texto, 1);
     EXPECT_EQ(texto, "AB\r\n");
@@ -75,7 +75,7 @@ TEST_F(RawChannelTest, TheCallersTextKeepsItsLineEnds) {
 }
 
 TEST_F(RawChannelTest, OneByteACharacterOfTheConfiguredPage) {
-    channel_.abre();
+    channel_.open();
     print(0, "AÇÃO “1”", 0);
     RawChannel other(spooler_, CodePage::Page850);
     std::string texto = "ção";
@@ -85,13 +85,13 @@ TEST_F(RawChannelTest, OneByteACharacterOfTheConfiguredPage) {
 }
 
 TEST_F(RawChannelTest, NegativeCountsAreAnErrorAndWriteNothing) {
-    channel_.abre();
+    channel_.open();
     for (const auto& [coluna, linhas] : {std::pair{-1, 0}, std::pair{0, -1}}) {
         try {
             print(coluna, "A", linhas);
             FAIL() << "no error";
-        } catch (const ErroExecucao& erro) {
-            EXPECT_EQ(erro.numero(), ErroNumero::ArgumentoInvalido);
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.number(), RuntimeErrorCode::InvalidArgument);
         }
     }
     EXPECT_EQ(spooler_.writes, 0U);
@@ -99,13 +99,13 @@ TEST_F(RawChannelTest, NegativeCountsAreAnErrorAndWriteNothing) {
 
 TEST_F(RawChannelTest, FailuresPassUnnoticed) {
     spooler_.failOpen = 0;
-    channel_.abre();
+    channel_.open();
     print(1, "A", 1);
-    channel_.fecha();
+    channel_.close();
     EXPECT_EQ(spooler_.calls.size(), 7U);
     EXPECT_TRUE(spooler_.jobs.empty());
     spooler_.failWrite = spooler_.writes + 1;
-    channel_.abre();
+    channel_.open();
     print(0, "A", 0);
     print(0, "B", 0);
     print(0, "C", 0);
@@ -113,11 +113,11 @@ TEST_F(RawChannelTest, FailuresPassUnnoticed) {
 }
 
 TEST_F(RawChannelTest, AJobNeverClosedIsNotContinued) {
-    channel_.abre();
+    channel_.open();
     print(0, "A", 0);
-    channel_.abre();
+    channel_.open();
     print(0, "B", 0);
-    channel_.fecha();
+    channel_.close();
     EXPECT_EQ(spooler_.bytes(0), "A");
     EXPECT_EQ(spooler_.bytes(1), "B");
     EXPECT_FALSE(spooler_.jobs.at(0).closed);
@@ -163,22 +163,22 @@ TEST(FormataCampo, WidthZeroAndBelow) {
     try {
         FormataCampo(texto, -1, false);
         FAIL() << "no error";
-    } catch (const ErroExecucao& erro) {
-        EXPECT_EQ(erro.numero(), ErroNumero::ArgumentoInvalido);
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), RuntimeErrorCode::InvalidArgument);
     }
 }
 
-TEST(AppendCampo, PadsCutsAndBlanksControls) {
+TEST(AppendField, PadsCutsAndBlanksControls) {
     std::string linha = "\x0F";
-    appendCampo(linha, "AB", 4, false);
-    appendCampo(linha, "12,5", 6, true);
-    appendCampo(linha, "ABCDEF", 3, true);
-    appendCampo(linha,
+    appendField(linha, "AB", 4, false);
+    appendField(linha, "12,5", 6, true);
+    appendField(linha, "ABCDEF", 3, true);
+    appendField(linha,
                 "A\r\n\x1B"
                 "B\tC",
                 8, false);
-    appendCampo(linha, "ÇÃ", 3, true);
-    appendCampo(linha, "X", 0, false);
+    appendField(linha, "ÇÃ", 3, true);
+    appendField(linha, "X", 0, false);
     EXPECT_EQ(linha,
               "\x0F"
               "AB    12,5ABCA   B C  ÇÃ");

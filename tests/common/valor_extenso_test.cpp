@@ -79,7 +79,7 @@ TEST(ValorExtenso, OtherUnits) {
 }
 
 TEST(ValorExtenso, WhatIsNotFiniteOverflows) {
-    EXPECT_THROW(ValorExtenso(std::numeric_limits<double>::infinity()), ErroExecucao);
+    EXPECT_THROW(ValorExtenso(std::numeric_limits<double>::infinity()), RuntimeError);
 }
 
 // A plain recursion over school numbers up to a million, with this system's joining:

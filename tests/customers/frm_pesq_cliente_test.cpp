@@ -9,77 +9,77 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class FrmPesqClienteTest : public TelaDeDuplicatas {
+class FrmPesqClienteTest : public BillScreenTest {
 protected:
     // Opens the dialog from the bill search.
-    void comODialogo(const std::function<void(QWidget&)>& usa) {
-        comATela([&](QWidget& tela) {
+    void withDialog(const std::function<void(QWidget&)>& use) {
+        withScreen([&](QWidget& screen) {
             server.addresses.clear();
-            comOsClientes(tela, [&](QWidget& dialogo) {
-                usa(dialogo);
-                if (dialogo.isVisible()) {
-                    click(dialogo, "cmdVoltar");
+            withCustomers(screen, [&](QWidget& dialog) {
+                use(dialog);
+                if (dialog.isVisible()) {
+                    click(dialog, "cmdVoltar");
                 }
             });
         });
     }
-    void achaDois() {
+    void findTwo() {
         server.on("Sel_Cliente",
                   answers::rowset("<z:row NM_PES_CPL='ANA &amp; &lt;b>CIA' DC_TIP_EMP='COMÉRCIO' "
                                   "ID_PES_CLI='0071'/>"
                                   "<z:row NM_PES_CPL='ANABELA' ID_PES_CLI='82'/>"));
     }
-    void pesquisa(QWidget& dialogo, const char* nome = "ana") {
-        type(dialogo, "txtNmCli", nome);
-        click(dialogo, "cmdPesquisar");
+    void search(QWidget& dialog, const char* nome = "ana") {
+        type(dialog, "txtNmCli", nome);
+        click(dialog, "cmdPesquisar");
     }
-    static std::string filtro(const std::string& nome) {
+    static std::string filter(const std::string& nome) {
         return "Sel_Cliente&id_emp_tarn=1361&Filtro=" + nome;
     }
     // The tag that the search sends.
-    std::string codigo(const QWidget& tela) {
-        return named<QLineEdit>(tela, "txtCliente").property("Tag").toString().toStdString();
+    std::string code(const QWidget& screen) {
+        return named<QLineEdit>(screen, "txtCliente").property("Tag").toString().toStdString();
     }
 };
 
 TEST_F(FrmPesqClienteTest, SaysWhatItIs) {
-    comODialogo([&](QWidget& dialogo) {
-        EXPECT_EQ(dialogo.windowTitle(), QStringLiteral("Pesquisa de Clientes"));
-        EXPECT_EQ(named<QLabel>(dialogo, "Label1").text(), QStringLiteral("Cliente"));
-        const QAbstractItemModel& grade = *named<QTableView>(dialogo, "sprDados").model();
-        std::vector<std::string> titulos;
-        for (int coluna = 0; coluna < grade.columnCount(); ++coluna) {
-            titulos.push_back(grade.headerData(coluna, Qt::Horizontal).toString().toStdString());
+    withDialog([&](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Pesquisa de Clientes"));
+        EXPECT_EQ(named<QLabel>(dialog, "Label1").text(), QStringLiteral("Cliente"));
+        const QAbstractItemModel& grid = *named<QTableView>(dialog, "sprDados").model();
+        std::vector<std::string> titles;
+        for (int coluna = 0; coluna < grid.columnCount(); ++coluna) {
+            titles.push_back(grid.headerData(coluna, Qt::Horizontal).toString().toStdString());
         }
-        EXPECT_THAT(titulos, ElementsAre("Cliente", "Tipo de Empresa", "ID_PES_CLI", "ID_ETB_CLI"));
-        EXPECT_EQ(linhas(dialogo), 0);
-        EXPECT_EQ(focused(dialogo), "txtNmCli");
+        EXPECT_THAT(titles, ElementsAre("Cliente", "Tipo de Empresa", "ID_PES_CLI", "ID_ETB_CLI"));
+        EXPECT_EQ(linhas(dialog), 0);
+        EXPECT_EQ(focused(dialog), "txtNmCli");
         EXPECT_THAT(
-            tabOrder(dialogo, "txtNmCli", 5),
+            tabOrder(dialog, "txtNmCli", 5),
             ElementsAre("txtNmCli", "sprDados", "cmdPesquisar", "cmdSelecionar", "cmdVoltar"));
     });
     EXPECT_THAT(boxes.shown, IsEmpty());
 }
 
 TEST_F(FrmPesqClienteTest, AShortNameIsRefusedBeforeAnyRequest) {
-    comODialogo([&](QWidget& dialogo) {
+    withDialog([&](QWidget& dialog) {
         for (const char* nome : {"", "an", "   ", " ab "}) {
-            pesquisa(dialogo, nome);
-            EXPECT_EQ(focused(dialogo), "txtNmCli");
-            EXPECT_EQ(mostrado(dialogo, "txtNmCli"), nome);
+            search(dialog, nome);
+            EXPECT_EQ(focused(dialog), "txtNmCli");
+            EXPECT_EQ(shown(dialog, "txtNmCli"), nome);
         }
         EXPECT_THAT(server.addresses, IsEmpty());
     });
-    EXPECT_THAT(boxes.shown, testing::Each(informa(
-                                 "Nome do cliente deve ter no mínimo 3 letras.    ", "Aviso")));
+    EXPECT_THAT(boxes.shown,
+                testing::Each(inform("Nome do cliente deve ter no mínimo 3 letras.    ", "Aviso")));
     EXPECT_EQ(boxes.shown.size(), 4U);
 }
 
 TEST_F(FrmPesqClienteTest, TheNameGoesOutAsTyped) {
-    achaDois();
-    comODialogo([&](QWidget& dialogo) {
-        pesquisa(dialogo, " abc ");
-        pesquisa(dialogo, "A&B&");
+    findTwo();
+    withDialog([&](QWidget& dialog) {
+        search(dialog, " abc ");
+        search(dialog, "A&B&");
         EXPECT_THAT(server.queries(),
                     ElementsAre("comando=Sel_Cliente&id_emp_tarn=1361&Filtro= abc &"
                                 "ServerName=SRV1",
@@ -90,58 +90,58 @@ TEST_F(FrmPesqClienteTest, TheNameGoesOutAsTyped) {
 }
 
 TEST_F(FrmPesqClienteTest, ShowsWhatWasFound) {
-    achaDois();
-    comODialogo([&](QWidget& dialogo) {
-        pesquisa(dialogo);
-        ASSERT_EQ(linhas(dialogo), 2);
-        EXPECT_EQ(celula(dialogo, 1, 1), "ANA & <b>CIA");
-        EXPECT_EQ(celula(dialogo, 1, 2), "COMÉRCIO");
-        EXPECT_EQ(celula(dialogo, 1, 3), "0071");
-        EXPECT_EQ(celula(dialogo, 1, 4), "");
-        EXPECT_EQ(celula(dialogo, 2, 2), "") << "absent";
-        EXPECT_EQ(focused(dialogo), "cmdPesquisar") << "the focus isn't moved";
+    findTwo();
+    withDialog([&](QWidget& dialog) {
+        search(dialog);
+        ASSERT_EQ(linhas(dialog), 2);
+        EXPECT_EQ(cell(dialog, 1, 1), "ANA & <b>CIA");
+        EXPECT_EQ(cell(dialog, 1, 2), "COMÉRCIO");
+        EXPECT_EQ(cell(dialog, 1, 3), "0071");
+        EXPECT_EQ(cell(dialog, 1, 4), "");
+        EXPECT_EQ(cell(dialog, 2, 2), "") << "absent";
+        EXPECT_EQ(focused(dialog), "cmdPesquisar") << "the focus isn't moved";
     });
 }
 
 TEST_F(FrmPesqClienteTest, NothingFoundEmptiesTheGridAndSaysSo) {
-    achaDois();
-    server.on(filtro("xyz"), answers::rowset("")).on(filtro("uvw"), "<?xml version='1.0'?><xml/>");
-    comODialogo([&](QWidget& dialogo) {
-        boxes.onShow = [&](const Box&) { EXPECT_EQ(linhas(dialogo), 0) << "the box comes last"; };
-        pesquisa(dialogo);
-        pesquisa(dialogo, "xyz");
-        EXPECT_EQ(linhas(dialogo), 0);
-        pesquisa(dialogo);
-        pesquisa(dialogo, "uvw");
-        EXPECT_EQ(linhas(dialogo), 0);
+    findTwo();
+    server.on(filter("xyz"), answers::rowset("")).on(filter("uvw"), "<?xml version='1.0'?><xml/>");
+    withDialog([&](QWidget& dialog) {
+        boxes.onShow = [&](const Box&) { EXPECT_EQ(linhas(dialog), 0) << "the box comes last"; };
+        search(dialog);
+        search(dialog, "xyz");
+        EXPECT_EQ(linhas(dialog), 0);
+        search(dialog);
+        search(dialog, "uvw");
+        EXPECT_EQ(linhas(dialog), 0);
         boxes.onShow = nullptr;
     });
     EXPECT_THAT(boxes.shown,
-                ElementsAre(informa("Pesquisa nao encontrou nenhum registro.     ", "Aviso"),
-                            informa("Pesquisa nao encontrou nenhum registro.     ", "Aviso")));
+                ElementsAre(inform("Pesquisa nao encontrou nenhum registro.     ", "Aviso"),
+                            inform("Pesquisa nao encontrou nenhum registro.     ", "Aviso")));
 }
 
 TEST_F(FrmPesqClienteTest, AFailedRequestLeavesTheGrid) {
-    achaDois();
-    server.failOn(filtro("xyz"));
-    comODialogo([&](QWidget& dialogo) {
-        pesquisa(dialogo);
-        pesquisa(dialogo, "xyz");
-        EXPECT_EQ(linhas(dialogo), 2);
+    findTwo();
+    server.failOn(filter("xyz"));
+    withDialog([&](QWidget& dialog) {
+        search(dialog);
+        search(dialog, "xyz");
+        EXPECT_EQ(linhas(dialog), 2);
     });
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(critica("Tarn0024 - Erro na pesquisa de cliente - Não foi possível "
-                                    "obter os dados da Internet. Verifique a conexão com a "
-                                    "Internet.")));
+    EXPECT_THAT(boxes.shown, ElementsAre(transportFailure(
+                                 "Tarn0024 - Erro na pesquisa de cliente - Não foi possível "
+                                 "obter os dados da Internet. Verifique a conexão com a "
+                                 "Internet.")));
 }
 
 TEST_F(FrmPesqClienteTest, ThePointerIsBusyForTheWholeSearch) {
-    comODialogo([&](QWidget& dialogo) {
+    withDialog([&](QWidget& dialog) {
         boxes.onShow = [](const Box&) {
             ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
             EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
         };
-        pesquisa(dialogo, "a");
+        search(dialog, "a");
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
         boxes.onShow = nullptr;
     });
@@ -149,123 +149,123 @@ TEST_F(FrmPesqClienteTest, ThePointerIsBusyForTheWholeSearch) {
 }
 
 TEST_F(FrmPesqClienteTest, WhatElseGoesWrongGivesThePointerBackAndSaysNothing) {
-    comODialogo([&](QWidget& dialogo) {
+    withDialog([&](QWidget& dialog) {
         boxes.onShow = [](const Box&) { throw std::runtime_error("inesperado"); };
-        pesquisa(dialogo, "a");
+        search(dialog, "a");
         boxes.onShow = nullptr;
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-        EXPECT_TRUE(dialogo.isVisible());
+        EXPECT_TRUE(dialog.isVisible());
     });
     EXPECT_EQ(boxes.shown.size(), 1U) << "the refusal alone";
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(FrmPesqClienteTest, WithoutRowsNothingCanBeChosen) {
-    comODialogo([&](QWidget& dialogo) {
-        click(dialogo, "cmdSelecionar");
-        EXPECT_TRUE(dialogo.isVisible());
+    withDialog([&](QWidget& dialog) {
+        click(dialog, "cmdSelecionar");
+        EXPECT_TRUE(dialog.isVisible());
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(informa(
-                                 "Faça uma pesquisa para selecionar um cliente.     ", "Aviso")));
+    EXPECT_THAT(boxes.shown,
+                ElementsAre(inform("Faça uma pesquisa para selecionar um cliente.     ", "Aviso")));
 }
 
 TEST_F(FrmPesqClienteTest, TheActiveRowGoesIntoTheScreen) {
-    achaDois();
-    comATela([&](QWidget& tela) {
-        comOsClientes(tela, [&](QWidget& dialogo) {
-            pesquisa(dialogo);
-            clicaCelula(dialogo, 2, 2);
-            click(dialogo, "cmdSelecionar");
-            EXPECT_FALSE(dialogo.isVisible());
+    findTwo();
+    withScreen([&](QWidget& screen) {
+        withCustomers(screen, [&](QWidget& dialog) {
+            search(dialog);
+            clickCell(dialog, 2, 2);
+            click(dialog, "cmdSelecionar");
+            EXPECT_FALSE(dialog.isVisible());
         });
-        EXPECT_EQ(mostrado(tela, "txtCliente"), "ANABELA");
-        EXPECT_EQ(codigo(tela), "82");
-        comOsClientes(tela, [&](QWidget& dialogo) {
-            EXPECT_EQ(mostrado(dialogo, "txtNmCli"), "ana") << "hidden, not unloaded";
-            ASSERT_EQ(linhas(dialogo), 2);
-            pesquisa(dialogo);
-            click(dialogo, "cmdSelecionar");
+        EXPECT_EQ(shown(screen, "txtCliente"), "ANABELA");
+        EXPECT_EQ(code(screen), "82");
+        withCustomers(screen, [&](QWidget& dialog) {
+            EXPECT_EQ(shown(dialog, "txtNmCli"), "ana") << "hidden, not unloaded";
+            ASSERT_EQ(linhas(dialog), 2);
+            search(dialog);
+            click(dialog, "cmdSelecionar");
         });
-        EXPECT_EQ(mostrado(tela, "txtCliente"), "ANA & <b>CIA") << "no row clicked: the first";
-        EXPECT_EQ(codigo(tela), "0071");
+        EXPECT_EQ(shown(screen, "txtCliente"), "ANA & <b>CIA") << "no row clicked: the first";
+        EXPECT_EQ(code(screen), "0071");
     });
 }
 
 TEST_F(FrmPesqClienteTest, ADoubleClickOrEnterInTheGridChoosesToo) {
-    achaDois();
-    comATela([&](QWidget& tela) {
-        comOsClientes(tela, [&](QWidget& dialogo) {
-            pesquisa(dialogo);
-            clicaCelula(dialogo, 2, 1);
-            auto& grade = named<QTableView>(dialogo, "sprDados");
-            const QPoint meio = grade.visualRect(grade.model()->index(1, 0)).center();
-            QTest::mouseDClick(grade.viewport(), Qt::LeftButton, {}, meio);
+    findTwo();
+    withScreen([&](QWidget& screen) {
+        withCustomers(screen, [&](QWidget& dialog) {
+            search(dialog);
+            clickCell(dialog, 2, 1);
+            auto& grid = named<QTableView>(dialog, "sprDados");
+            const QPoint middle = grid.visualRect(grid.model()->index(1, 0)).center();
+            QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, middle);
         });
-        EXPECT_EQ(codigo(tela), "82");
+        EXPECT_EQ(code(screen), "82");
         server.addresses.clear();
-        comOsClientes(tela, [&](QWidget& dialogo) {
-            auto& grade = named<QTableView>(dialogo, "sprDados");
-            grade.setFocus();
-            QTest::keyClick(&grade, Qt::Key_Up);
-            QTest::keyClick(&grade, Qt::Key_Return);
+        withCustomers(screen, [&](QWidget& dialog) {
+            auto& grid = named<QTableView>(dialog, "sprDados");
+            grid.setFocus();
+            QTest::keyClick(&grid, Qt::Key_Up);
+            QTest::keyClick(&grid, Qt::Key_Return);
         });
-        EXPECT_EQ(codigo(tela), "0071");
-        EXPECT_THAT(server.queries(), ElementsAre(pedeFiliais)) << "Enter searched nothing";
+        EXPECT_EQ(code(screen), "0071");
+        EXPECT_THAT(server.queries(), ElementsAre(branchesQuery)) << "Enter searched nothing";
     });
 }
 
 TEST_F(FrmPesqClienteTest, EnterInTheNameSearches) {
-    achaDois();
-    comODialogo([&](QWidget& dialogo) {
-        type(dialogo, "txtNmCli", "ana");
-        key(dialogo, Qt::Key_Return);
-        EXPECT_EQ(linhas(dialogo), 2);
-        EXPECT_TRUE(dialogo.isVisible());
+    findTwo();
+    withDialog([&](QWidget& dialog) {
+        type(dialog, "txtNmCli", "ana");
+        key(dialog, Qt::Key_Return);
+        EXPECT_EQ(linhas(dialog), 2);
+        EXPECT_TRUE(dialog.isVisible());
     });
 }
 
 TEST_F(FrmPesqClienteTest, LeavingWithoutAChoiceLeavesTheScreensCustomer) {
-    achaDois();
-    comATela([&](QWidget& tela) {
-        comOsClientes(tela, [&](QWidget& dialogo) {
-            pesquisa(dialogo);
-            click(dialogo, "cmdSelecionar");
+    findTwo();
+    withScreen([&](QWidget& screen) {
+        withCustomers(screen, [&](QWidget& dialog) {
+            search(dialog);
+            click(dialog, "cmdSelecionar");
         });
-        const std::function<void(QWidget&)> saidas[] = {
-            [](QWidget& dialogo) { click(dialogo, "cmdVoltar"); },
-            [](QWidget& dialogo) { key(dialogo, Qt::Key_Escape); },
-            [](QWidget& dialogo) { dialogo.close(); }};
-        for (const auto& sai : saidas) {
-            comOsClientes(tela, [&](QWidget& dialogo) {
-                clicaCelula(dialogo, 2, 1);
-                sai(dialogo);
-                EXPECT_FALSE(dialogo.isVisible());
+        const std::function<void(QWidget&)> ways[] = {
+            [](QWidget& dialog) { click(dialog, "cmdVoltar"); },
+            [](QWidget& dialog) { key(dialog, Qt::Key_Escape); },
+            [](QWidget& dialog) { dialog.close(); }};
+        for (const auto& out : ways) {
+            withCustomers(screen, [&](QWidget& dialog) {
+                clickCell(dialog, 2, 1);
+                out(dialog);
+                EXPECT_FALSE(dialog.isVisible());
             });
-            EXPECT_EQ(mostrado(tela, "txtCliente"), "ANA & <b>CIA");
-            EXPECT_EQ(codigo(tela), "0071");
+            EXPECT_EQ(shown(screen, "txtCliente"), "ANA & <b>CIA");
+            EXPECT_EQ(code(screen), "0071");
         }
     });
 }
 
 TEST_F(FrmPesqClienteTest, TheDialogOutlivesTheScreenAndTheScreenComesBackEmpty) {
-    achaDois();
-    comATela([&](QWidget& tela) {
-        comOsClientes(tela, [&](QWidget& dialogo) {
-            pesquisa(dialogo);
-            click(dialogo, "cmdSelecionar");
+    findTwo();
+    withScreen([&](QWidget& screen) {
+        withCustomers(screen, [&](QWidget& dialog) {
+            search(dialog);
+            click(dialog, "cmdSelecionar");
         });
-        type(tela, "txtDtVncAte", "31122012");
+        type(screen, "txtDtVncAte", "31122012");
     });
-    comATela([&](QWidget& tela) {
-        EXPECT_EQ(mostrado(tela, "txtCliente"), "");
-        EXPECT_EQ(codigo(tela), "");
-        EXPECT_EQ(mostrado(tela, "txtDtVncAte"), "");
-        comOsClientes(tela, [&](QWidget& dialogo) {
-            EXPECT_EQ(linhas(dialogo), 2);
-            EXPECT_EQ(mostrado(dialogo, "txtNmCli"), "ana");
-            click(dialogo, "cmdSelecionar");
+    withScreen([&](QWidget& screen) {
+        EXPECT_EQ(shown(screen, "txtCliente"), "");
+        EXPECT_EQ(code(screen), "");
+        EXPECT_EQ(shown(screen, "txtDtVncAte"), "");
+        withCustomers(screen, [&](QWidget& dialog) {
+            EXPECT_EQ(linhas(dialog), 2);
+            EXPECT_EQ(shown(dialog, "txtNmCli"), "ana");
+            click(dialog, "cmdSelecionar");
         });
-        EXPECT_EQ(codigo(tela), "0071");
+        EXPECT_EQ(code(screen), "0071");
     });
 }
 

@@ -82,7 +82,7 @@ protected:
     void openOrders() {
         orders.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&orders));
-        orders.carrega();
+        orders.load();
         ASSERT_EQ(rows(), 1);
     }
     // The logon stands as it was typed, ready for another try.
@@ -92,8 +92,8 @@ protected:
         EXPECT_EQ(named<QLineEdit>(logon, "txtEmpresa").text(), QStringLiteral("Loja & Cia"));
         EXPECT_EQ(named<QLineEdit>(logon, "txtUsuario").text(), QStringLiteral("joão"));
         EXPECT_EQ(named<QLineEdit>(logon, "txtSenha").text(), QStringLiteral("segredo"));
-        EXPECT_EQ(sessao.UserCode, "77") << "the session was touched";
-        EXPECT_FALSE(fim.encerrado());
+        EXPECT_EQ(session.UserCode, "77") << "the session was touched";
+        EXPECT_FALSE(end.ended());
     }
     int rows() { return named<QTableView>(orders, "sprDados").model()->rowCount(); }
     bool timerRuns() { return orders.findChild<QTimer*>(QStringLiteral("Timer"))->isActive(); }
@@ -107,9 +107,9 @@ protected:
 
     LoopbackServer http;
     CurlLoader curl;
-    BlockingLoader rede{curl};
-    Environment overHttp{rede, spooler, printer, boxes, clock, machine, http.baseUrl()};
-    DeskContext netDesk{overHttp, sessao, fim};
+    BlockingLoader network{curl};
+    Environment overHttp{network, spooler, printer, boxes, clock, machine, http.baseUrl()};
+    DeskContext netDesk{overHttp, session, end};
     FrmLogon logon{netDesk, nullptr};
     FrmOFT orders{netDesk};
 };
@@ -136,7 +136,7 @@ TEST_P(NoDocumentComes, AtTheListOfOrders) {
     EXPECT_THAT(boxes.shown, testing::ElementsAre(critical("0006")));
     EXPECT_EQ(rows(), 0);
     EXPECT_TRUE(timerRuns());
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_P(NoDocumentAmongOthers, AtTheGenerationItIsToBeCheckedByHandAndNotSentAgain) {
@@ -187,7 +187,7 @@ TEST_F(BadAnswers, NoDeclarationAtTheLogonIsTheUnexpectedErrorAndTheEnd) {
                     Box{"Aconteceu um erro inesperado no sistema. Por favor avise a RVL\nErro = "
                         "Falta um dado na resposta do servidor",
                         BoxIcon::Critical, "Aviso"}));
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
     EXPECT_FALSE(logon.isVisible());
 }
 
@@ -196,9 +196,9 @@ TEST_F(BadAnswers, NoDeclarationAtTheGenerationIsTheReportWithTheWayToTheNote) {
     openOrders();
     click(orders, "cmdSelecionar");
     EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{
-                                 textoDoRelatorio(ErroExecucao(ErroNumero::VariavelObjeto), true),
+                                 reportText(RuntimeError(RuntimeErrorCode::ObjectVariable), true),
                                  BoxIcon::Critical}));
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
 }
 
 TEST_F(BadAnswers, AStatusInLowerCaseOrWithMarkupIsARefusalShownAsItStands) {
@@ -231,8 +231,8 @@ TEST_F(BadAnswers, AStatusInLowerCaseOrWithMarkupIsARefusalShownAsItStands) {
 
 TEST_F(BadAnswers, MarkupReachesTheRealBoxAsPlainText) {
     QtMessageBoxes real;
-    Environment withBoxes{rede, spooler, printer, real, clock, machine, http.baseUrl()};
-    DeskContext shownDesk{withBoxes, sessao, fim};
+    Environment withBoxes{network, spooler, printer, real, clock, machine, http.baseUrl()};
+    DeskContext shownDesk{withBoxes, session, end};
     FrmLogon screen(shownDesk, nullptr);
     screen.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&screen));
@@ -270,7 +270,7 @@ TEST_F(BadAnswers, AHundredTriesAtTheLogonAndTheNextOneGetsIn) {
     EXPECT_EQ(boxes.shown.size(), 150U);
     click(logon, "btnLogin");
     EXPECT_EQ(logon.result(), QDialog::Accepted);
-    EXPECT_EQ(sessao.NCOMPANYCODE, 2041);
+    EXPECT_EQ(session.NCOMPANYCODE, 2041);
     EXPECT_EQ(http.queries().size(), 101U);
 }
 

@@ -19,19 +19,18 @@ protected:
 };
 
 TEST_F(DeskApplicationTest, ReportsTheRunTimesErrorOnceAndEndsWithThree) {
-    clickRaising(ErroExecucao(ErroNumero::TipoIncompativel));
-    clickRaising(ErroExecucao(ErroNumero::Estouro));
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    Box{textoDoRelatorio(ErroExecucao(ErroNumero::TipoIncompativel), false),
-                        BoxIcon::Critical}));
-    EXPECT_EQ(fim.status(), 3);
+    clickRaising(RuntimeError(RuntimeErrorCode::TypeMismatch));
+    clickRaising(RuntimeError(RuntimeErrorCode::Overflow));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{
+                                 reportText(RuntimeError(RuntimeErrorCode::TypeMismatch), false),
+                                 BoxIcon::Critical}));
+    EXPECT_EQ(end.status(), 3);
 }
 
 TEST_F(DeskApplicationTest, ReportsANoteThatMayExist) {
-    const ErroExecucao error(ErroNumero::VariavelObjeto);
-    clickRaising(ErroComNota(error));
-    EXPECT_THAT(boxes.texts(), testing::ElementsAre(textoDoRelatorio(error, true)));
+    const RuntimeError error(RuntimeErrorCode::ObjectVariable);
+    clickRaising(ErrorAfterNote(error));
+    EXPECT_THAT(boxes.texts(), testing::ElementsAre(reportText(error, true)));
 }
 
 TEST_F(DeskApplicationTest, ReportsAnyOtherException) {
@@ -39,19 +38,19 @@ TEST_F(DeskApplicationTest, ReportsAnyOtherException) {
     ASSERT_EQ(boxes.shown.size(), 1U);
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
     EXPECT_NE(boxes.shown[0].text.find("sem memória"), std::string::npos);
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
 }
 
 TEST_F(DeskApplicationTest, AfterTheEndNothingIsSent) {
-    fim.encerra();
+    end.endProgram();
     EXPECT_FALSE(blocking.get("http://servidor/?x").loaded);
     EXPECT_TRUE(server.addresses.empty());
 }
 
 TEST_F(DeskApplicationTest, TheFirstEndCounts) {
-    fim.encerra(3);
-    fim.encerra(0);
-    EXPECT_EQ(fim.status(), 3);
+    end.endProgram(3);
+    end.endProgram(0);
+    EXPECT_EQ(end.status(), 3);
 }
 
 }  // namespace

@@ -30,14 +30,14 @@ protected:
         });
         menu.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&menu));
-        menu.carrega();
+        menu.load();
     }
 
     LoopbackServer http;
     CurlLoader curl;
-    BlockingLoader rede{curl};
-    Environment overHttp{rede, spooler, printer, boxes, clock, machine, http.baseUrl()};
-    DeskContext netDesk{overHttp, sessao, fim};
+    BlockingLoader network{curl};
+    Environment overHttp{network, spooler, printer, boxes, clock, machine, http.baseUrl()};
+    DeskContext netDesk{overHttp, session, end};
     MDIMenu menu{netDesk};
 };
 
@@ -73,7 +73,7 @@ TEST_F(DeskOverHttp, AHangingServerHoldsTheDeskUntilItAnswers) {
     EXPECT_EQ(http.queries().size(), before + 1);
     EXPECT_NE(menu.findChild<FrmOFT*>(), nullptr);
     EXPECT_TRUE(menu.isVisible());
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(DeskOverHttp, AServerThatWentAwayIsToldAndTheDeskGoesOn) {
@@ -83,7 +83,7 @@ TEST_F(DeskOverHttp, AServerThatWentAwayIsToldAndTheDeskGoesOn) {
     EXPECT_THAT(boxes.texts(),
                 testing::ElementsAre("ERRO Tarn0006 - Não foi possível obter os dados da Internet. "
                                      "Verifique a conexão com a Internet."));
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 }  // namespace

@@ -9,51 +9,51 @@ namespace {
 
 constexpr char padrao[] = "http://fixo/Kestomain/TarnEmissao.asp?";
 
-std::variant<Opcoes, SemPartida> read(std::vector<const char*> words, const char* env = "") {
+std::variant<Options, NoStart> read(std::vector<const char*> words, const char* env = "") {
     words.insert(words.begin(), "tarnemissao");
-    return leOpcoes(static_cast<int>(words.size()), words.data(), env, padrao);
+    return readOptions(static_cast<int>(words.size()), words.data(), env, padrao);
 }
-Opcoes options(const std::vector<const char*>& words, const char* env = "") {
-    return std::get<Opcoes>(read(words, env));
+Options options(const std::vector<const char*>& words, const char* env = "") {
+    return std::get<Options>(read(words, env));
 }
-SemPartida stop(const std::vector<const char*>& words) {
-    return std::get<SemPartida>(read(words));
-}
-
-TEST(Opcoes, WithoutOptionsTheBuildsServerAndTheMachinesPrinter) {
-    const Opcoes opcoes = options({});
-    EXPECT_EQ(opcoes.baseUrl, padrao);
-    EXPECT_EQ(opcoes.impressoraVirtual, "");
-    EXPECT_EQ(opcoes.paginaDeCodigo, CodePage::Page1252);
-    EXPECT_FALSE(opcoes.selecaoEtiquetas);
+NoStart stop(const std::vector<const char*>& words) {
+    return std::get<NoStart>(read(words));
 }
 
-TEST(Opcoes, TheServerOfTheCommandLineGoesBeforeTheEnvironments) {
+TEST(Options, WithoutOptionsTheBuildsServerAndTheMachinesPrinter) {
+    const Options options = options({});
+    EXPECT_EQ(options.baseUrl, padrao);
+    EXPECT_EQ(options.virtualPrinter, "");
+    EXPECT_EQ(options.codePage, CodePage::Page1252);
+    EXPECT_FALSE(options.labelSelection);
+}
+
+TEST(Options, TheServerOfTheCommandLineGoesBeforeTheEnvironments) {
     EXPECT_EQ(options({}, "http://amb/p.asp?").baseUrl, "http://amb/p.asp?");
     EXPECT_EQ(options({"--servidor", "https://linha/p.asp?"}, "http://amb/p.asp?").baseUrl,
               "https://linha/p.asp?");
 }
 
-TEST(Opcoes, AServerGetsThePathOfTheOnePage) {
-    EXPECT_EQ(enderecoDoServidor("http://h:8610"), "http://h:8610/Kestomain/TarnEmissao.asp?");
-    EXPECT_EQ(enderecoDoServidor("https://h/"), "https://h/Kestomain/TarnEmissao.asp?");
-    EXPECT_EQ(enderecoDoServidor("http://h/x.asp"), "http://h/x.asp?");
-    EXPECT_EQ(enderecoDoServidor("http://h/x.asp?"), "http://h/x.asp?");
+TEST(Options, AServerGetsThePathOfTheOnePage) {
+    EXPECT_EQ(serverAddress("http://h:8610"), "http://h:8610/Kestomain/TarnEmissao.asp?");
+    EXPECT_EQ(serverAddress("https://h/"), "https://h/Kestomain/TarnEmissao.asp?");
+    EXPECT_EQ(serverAddress("http://h/x.asp"), "http://h/x.asp?");
+    EXPECT_EQ(serverAddress("http://h/x.asp?"), "http://h/x.asp?");
     for (const char* wrong : {"", "h:8610", "ftp://h", "http://", "file:///etc/passwd"}) {
-        EXPECT_EQ(enderecoDoServidor(wrong), "") << wrong;
+        EXPECT_EQ(serverAddress(wrong), "") << wrong;
     }
 }
 
-TEST(Opcoes, ReadsTheOthers) {
-    const Opcoes opcoes = options({"--impressora-virtual", "saida", "--pagina-de-codigo", "850",
-                                   "--pasta-figuras", "fig", "--selecao-etiquetas"});
-    EXPECT_EQ(opcoes.impressoraVirtual, "saida");
-    EXPECT_EQ(opcoes.paginaDeCodigo, CodePage::Page850);
-    EXPECT_EQ(opcoes.pastaFiguras, "fig");
-    EXPECT_TRUE(opcoes.selecaoEtiquetas);
+TEST(Options, ReadsTheOthers) {
+    const Options options = options({"--impressora-virtual", "saida", "--pagina-de-codigo", "850",
+                                     "--pasta-figuras", "fig", "--selecao-etiquetas"});
+    EXPECT_EQ(options.virtualPrinter, "saida");
+    EXPECT_EQ(options.codePage, CodePage::Page850);
+    EXPECT_EQ(options.pictureFolder, "fig");
+    EXPECT_TRUE(options.labelSelection);
 }
 
-TEST(Opcoes, HelpAndVersionEndWellInPortuguese) {
+TEST(Options, HelpAndVersionEndWellInPortuguese) {
     for (const char* word : {"--ajuda", "--help", "-h"}) {
         EXPECT_EQ(stop({word}).status, 0);
         EXPECT_NE(stop({word}).texto.find("--impressora-virtual"), std::string::npos);
@@ -63,7 +63,7 @@ TEST(Opcoes, HelpAndVersionEndWellInPortuguese) {
     EXPECT_EQ(stop({"--versao"}).texto.rfind("TarnEmissao ", 0), 0U);
 }
 
-TEST(Opcoes, WrongUsageSaysWhat) {
+TEST(Options, WrongUsageSaysWhat) {
     const std::pair<std::vector<const char*>, const char*> cases[] = {
         {{"--foo"}, "tarnemissao: opção ou argumento desconhecido: --foo.\n"},
         {{"--servidor"}, "tarnemissao: falta o valor da opção --servidor.\n"},

@@ -20,7 +20,7 @@ protected:
         type(logon, "txtUsuario", user);
         type(logon, "txtSenha", password);
     }
-    QLineEdit& senha() { return named<QLineEdit>(logon, "txtSenha"); }
+    QLineEdit& password() { return named<QLineEdit>(logon, "txtSenha"); }
 
     FrmLogon logon{desk, nullptr};
 };
@@ -38,8 +38,8 @@ TEST_F(FrmLogonTest, ShowsItsLabels) {
 
 TEST_F(FrmLogonTest, PasswordShowsStarsAndTakesTwentyCharacters) {
     type(logon, "txtSenha", "123456789012345678901234");
-    EXPECT_EQ(senha().text(), QStringLiteral("12345678901234567890"));
-    EXPECT_EQ(senha().displayText(), QString(20, u'*'));
+    EXPECT_EQ(password().text(), QStringLiteral("12345678901234567890"));
+    EXPECT_EQ(password().displayText(), QString(20, u'*'));
 }
 
 TEST_F(FrmLogonTest, TabOrderFollowsTheEye) {
@@ -82,14 +82,14 @@ TEST_F(FrmLogonTest, EnterMovesOnAndAtLastLogsOn) {
     keys(named<QLineEdit>(logon, "txtUsuario"), "joão");
     key(logon, Qt::Key_Enter);
     EXPECT_EQ(focused(logon), "txtSenha");
-    keys(senha(), "x&y");
+    keys(password(), "x&y");
     EXPECT_TRUE(server.addresses.empty());
     key(logon, Qt::Key_Return);
     EXPECT_THAT(server.queries(),
                 testing::ElementsAre("comando=LOGIN&EMPRESA=2041&USUARIO=joão&SENHA=x&y"));
     EXPECT_EQ(logon.result(), QDialog::Accepted);
     EXPECT_FALSE(logon.isVisible());
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(FrmLogonTest, EnterInTheUserSelectsTheWholePassword) {
@@ -97,19 +97,19 @@ TEST_F(FrmLogonTest, EnterInTheUserSelectsTheWholePassword) {
     named<QLineEdit>(logon, "txtUsuario").setFocus();
     key(logon, Qt::Key_Return);
     EXPECT_EQ(focused(logon), "txtSenha");
-    EXPECT_EQ(senha().selectionLength(), 7);
+    EXPECT_EQ(password().selectionLength(), 7);
 }
 
 TEST_F(FrmLogonTest, FillsTheSession) {
     server.on("comando=LOGIN", answers::logon("2161", "3383"));
     fill("1", "2", "3");
     click(logon, "btnLogin");
-    EXPECT_EQ(sessao.NCOMPANYCODE, 2161);
-    EXPECT_EQ(sessao.ID_ETB_TARN, 3383);
-    EXPECT_EQ(sessao.UserCode, "77");
-    EXPECT_EQ(sessao.SERVERNAME, "SRV1");
-    EXPECT_EQ(sessao.COMPANYNAME, "Com, S,A,");
-    EXPECT_EQ(sessao.DATA, "05/09/2012");
+    EXPECT_EQ(session.NCOMPANYCODE, 2161);
+    EXPECT_EQ(session.ID_ETB_TARN, 3383);
+    EXPECT_EQ(session.UserCode, "77");
+    EXPECT_EQ(session.SERVERNAME, "SRV1");
+    EXPECT_EQ(session.COMPANYNAME, "Com, S,A,");
+    EXPECT_EQ(session.DATA, "05/09/2012");
     EXPECT_TRUE(boxes.shown.empty());
 }
 
@@ -120,7 +120,7 @@ TEST_F(FrmLogonTest, ARefusalShowsTheServersWordsAndKeepsWhatWasTyped) {
     EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{"Senha inválida <b>", BoxIcon::Exclamation}));
     EXPECT_TRUE(logon.isVisible());
     EXPECT_EQ(focused(logon), "txtEmpresa");
-    EXPECT_EQ(senha().text(), QStringLiteral("errada"));
+    EXPECT_EQ(password().text(), QStringLiteral("errada"));
     click(logon, "btnLogin");
     EXPECT_EQ(server.addresses.size(), 2U);
 }
@@ -136,7 +136,7 @@ TEST_F(FrmLogonTest, AFailedTransportShowsTwoBoxes) {
                                  BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"},
                              Box{"Houve um problema para efetuar o Login.", BoxIcon::Exclamation}));
     EXPECT_EQ(focused(logon), "txtEmpresa");
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(FrmLogonTest, AnUnexpectedErrorIsToldAndEndsTheProgram) {
@@ -152,15 +152,15 @@ TEST_F(FrmLogonTest, AnUnexpectedErrorIsToldAndEndsTheProgram) {
         "Aconteceu um erro inesperado no sistema. Por favor avise a RVL\nErro = ";
     EXPECT_EQ(boxes.shown[0].text.substr(0, start.size()), start);
     EXPECT_GT(boxes.shown[0].text.size(), start.size());
-    EXPECT_TRUE(fim.encerrado());
+    EXPECT_TRUE(end.ended());
     EXPECT_FALSE(logon.isVisible());
 }
 
 TEST_F(FrmLogonTest, EscAndFecharEndTheProgramAtOnce) {
     fill("2041", "maria", "x");
     key(logon, Qt::Key_Escape);
-    EXPECT_TRUE(fim.encerrado());
-    EXPECT_EQ(fim.status(), 0);
+    EXPECT_TRUE(end.ended());
+    EXPECT_EQ(end.status(), 0);
     EXPECT_FALSE(logon.isVisible());
     EXPECT_TRUE(server.addresses.empty());
     EXPECT_TRUE(boxes.shown.empty());
@@ -168,12 +168,12 @@ TEST_F(FrmLogonTest, EscAndFecharEndTheProgramAtOnce) {
 
 TEST_F(FrmLogonTest, FecharEndsTheProgram) {
     click(logon, "cmdFechar");
-    EXPECT_TRUE(fim.encerrado());
+    EXPECT_TRUE(end.ended());
 }
 
 TEST_F(FrmLogonTest, TheWindowsCloseButtonEndsTheProgram) {
     logon.close();
-    EXPECT_TRUE(fim.encerrado());
+    EXPECT_TRUE(end.ended());
 }
 
 }  // namespace

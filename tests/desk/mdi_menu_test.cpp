@@ -10,7 +10,7 @@
 namespace tarn {
 namespace {
 
-constexpr char textoFormato[] =
+constexpr char formatText[] =
     "Erro na Configuração do Formato de Data do Windows\r\r"
     "Para corrigir selecione no Windows:\r\r"
     "-> Iniciar -> Configurações -> Painel de Controle -> Opcoes Regionais ->\r"
@@ -35,7 +35,7 @@ protected:
             type(logon, "txtSenha", "s");
             click(logon, "btnLogin");
         });
-        menu.carrega();
+        menu.load();
     }
     std::string panel(const char* name) { return named<QLabel>(menu, name).text().toStdString(); }
     bool enabled(const char* menuName) { return named<QMenu>(menu, menuName).isEnabled(); }
@@ -102,7 +102,7 @@ TEST_F(MDIMenuTest, StartsWithGateLogonAndActivationInThisOrder) {
               "Configurado para Impressora: Epson ActionPrinter- 2000, LX-810, LX-300");
     EXPECT_EQ(panel("Panel2"), "Filial <b>Sul</b>");
     EXPECT_EQ(named<QLabel>(menu, "Panel2").textFormat(), Qt::PlainText);
-    EXPECT_EQ(sessao.DirSistema, "/sistema\\");
+    EXPECT_EQ(session.DirSistema, "/sistema\\");
     EXPECT_TRUE(boxes.shown.empty());
 }
 
@@ -114,7 +114,7 @@ TEST_F(MDIMenuTest, WithoutANoticePanel1StaysEmpty) {
 TEST_F(MDIMenuTest, AnOutdatedVersionEndsTheProgramBeforeTheLogon) {
     ScriptedLoader old;
     server = old.on("VERSAO_TARN_EMISSAO", answers::version("VELHA"));
-    menu.carrega();
+    menu.load();
     EXPECT_THAT(boxes.shown, testing::ElementsAre(
                                  Box{"          TARNEMISSAO DESATUALIZADO ! \r"
                                      "       Data da Versão TarnEmissao = 07/01/2009\r\r"
@@ -122,8 +122,8 @@ TEST_F(MDIMenuTest, AnOutdatedVersionEndsTheProgramBeforeTheLogon) {
                                      "                    www.tarn.example \r\r"
                                      "      OPÇÃO -> CENTRAL DE ATUALIZAÇÃO                   \r\r",
                                      BoxIcon::Information}));
-    EXPECT_TRUE(fim.encerrado());
-    EXPECT_EQ(fim.status(), 0);
+    EXPECT_TRUE(end.ended());
+    EXPECT_EQ(end.status(), 0);
     EXPECT_EQ(modals.taken(), 0);
     EXPECT_EQ(server.addresses.size(), 1U);
 }
@@ -136,22 +136,22 @@ TEST_F(MDIMenuTest, AServerOutOfReachAtTheGateLetsTheProgramGoOn) {
                 testing::ElementsAre(Box{"Não consegui verificar a versão do TarnEMISSAO porque "
                                          "não tive acesso à internet!!!",
                                          BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"}));
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
     EXPECT_EQ(panel("Panel2"), "F");
 }
 
 TEST_F(MDIMenuTest, ARefusedDateFormatEndsTheProgramAfterTheGateAndBeforeTheLogon) {
     machine.refusesDateFormat = true;
-    menu.carrega();
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{textoFormato, BoxIcon::Information, "TArn"}));
-    EXPECT_TRUE(fim.encerrado());
+    menu.load();
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{formatText, BoxIcon::Information, "TArn"}));
+    EXPECT_TRUE(end.ended());
     EXPECT_EQ(server.addresses.size(), 1U);
 }
 
 TEST_F(MDIMenuTest, LeavingTheLogonSendsNothingMore) {
     modals.then("FrmLogon", [](QWidget& logon) { key(logon, Qt::Key_Escape); });
-    menu.carrega();
-    EXPECT_TRUE(fim.encerrado());
+    menu.load();
+    EXPECT_TRUE(end.ended());
     EXPECT_EQ(server.addresses.size(), 1U);
     EXPECT_EQ(menu.windowTitle(), QStringLiteral("TARN - Rotina Mercantil"));
 }
@@ -160,16 +160,16 @@ TEST_F(MDIMenuTest, ClosingTheDeskOrSairEndsTheProgram) {
     logOn();
     const std::size_t sent = server.addresses.size();
     choose(menu, "mSair");
-    EXPECT_TRUE(fim.encerrado());
-    EXPECT_EQ(fim.status(), 0);
+    EXPECT_TRUE(end.ended());
+    EXPECT_EQ(end.status(), 0);
     EXPECT_EQ(server.addresses.size(), sent);
     EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(MDIMenuTest, ClosingTheWindowEndsTheProgram) {
     menu.close();
-    EXPECT_TRUE(fim.encerrado());
-    EXPECT_EQ(fim.status(), 0);
+    EXPECT_TRUE(end.ended());
+    EXPECT_EQ(end.status(), 0);
 }
 
 TEST_F(MDIMenuTest, TheChequeAsksForItsRightAndThenForItsAccounts) {
@@ -194,7 +194,7 @@ TEST_F(MDIMenuTest, TheLabelsOpenWithoutARightForClientsOrForSuppliers) {
     for (const auto& [entry, kind] :
          {std::pair{"mnuImprClientes", "C"}, std::pair{"mnuImprFornecedores", "F"}}) {
         modals.then("frmPesqEtiquetas", [this, kind = kind](QWidget& queue) {
-            EXPECT_EQ(sessao.TipoEtiqueta, kind);
+            EXPECT_EQ(session.TipoEtiqueta, kind);
             click(queue, "cmdVoltar");
         });
         const std::size_t sent = server.addresses.size();
@@ -246,7 +246,7 @@ TEST_F(MDIMenuTest, AnUnreadableRightEndsTheProgramWithTheReport) {
     EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
     EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '91':\r\r", 0), 0U);
     EXPECT_EQ(boxes.shown[0].text.find("Nota Fiscal"), std::string::npos);
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
 }
 
 TEST_F(MDIMenuTest, HelpActivatesTheDeskAgain) {
@@ -272,8 +272,8 @@ TEST_F(MDIMenuTest, HelpEndsTheProgramWhereTheDateFormatIsRefused) {
     const std::size_t sent = server.addresses.size();
     machine.refusesDateFormat = true;
     choose(menu, "mnuAjuda");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{textoFormato, BoxIcon::Information, "TArn"}));
-    EXPECT_TRUE(fim.encerrado());
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{formatText, BoxIcon::Information, "TArn"}));
+    EXPECT_TRUE(end.ended());
     EXPECT_EQ(server.addresses.size(), sent);
 }
 
@@ -289,7 +289,7 @@ TEST_F(MDIMenuTest, AnActivationWithoutTheServerEndsTheProgram) {
                    "conexão com a Internet.",
                    BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"}));
     EXPECT_EQ(boxes.shown[1].text.rfind("Erro em tempo de execução '91':\r\r", 0), 0U);
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
 }
 
 TEST_F(MDIMenuTest, AClickOnThePictureDoesNothing) {

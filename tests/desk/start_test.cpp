@@ -8,109 +8,109 @@
 namespace tarn {
 namespace {
 
-const std::string cabecalho = "<?xml version='1.0' encoding='UTF-8'?>";
-const std::string falha1 =
+const std::string header = "<?xml version='1.0' encoding='UTF-8'?>";
+const std::string failure1 =
     "ERRO Tarn0001 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
     "Internet.";
 
-Box critica(const std::string& texto) {
+Box transportFailure(const std::string& texto) {
     return {.text = texto, .icon = BoxIcon::Critical, .title = "TarnEMISSAO - ERRO INESPERADO"};
 }
-Box exclamacao(const std::string& texto, const std::string& titulo = "TarnEmissao") {
-    return {.text = texto, .icon = BoxIcon::Exclamation, .title = titulo};
+Box exclamation(const std::string& texto, const std::string& title = "TarnEmissao") {
+    return {.text = texto, .icon = BoxIcon::Exclamation, .title = title};
 }
 
-void esperaErro(ErroNumero numero, const auto& acao) {
+void expectError(RuntimeErrorCode number, const auto& action) {
     try {
-        acao();
+        action();
         ADD_FAILURE() << "no error";
-    } catch (const ErroExecucao& erro) {
-        EXPECT_EQ(erro.numero(), numero);
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), number);
     }
 }
 
-class EntradaTest : public testing::Test {
+class StartTest : public testing::Test {
 protected:
     TestEnvironment seams_;
-    Environment& ambiente_ = seams_.environment;
-    Sessao sessao_;
+    Environment& environment_ = seams_.environment;
+    Sessao session_;
 };
 
 // Version gate
 
-class VerVersaoTest : public EntradaTest {
+class VerVersaoTest : public StartTest {
 protected:
-    bool verifica(const std::string& corpo) {
-        seams_.loader.on("VERSAO", corpo);
-        sessao_.VersaoServidor = "old";
-        return VerVersao(ambiente_, sessao_, versaoPrograma);
+    bool verify(const std::string& body) {
+        seams_.loader.on("VERSAO", body);
+        session_.VersaoServidor = "old";
+        return VerVersao(environment_, session_, programVersion);
     }
 };
 
-const std::string desatualizado = std::string("          TARNEMISSAO DESATUALIZADO ! \r") +
-                                  "       Data da Versão TarnEmissao = 07/01/2009\r\r" +
-                                  "       Por favor, faça a atualização no site: \r\r" +
-                                  "                    " TARN_VENDOR_SITE " \r\r" +
-                                  "      OPÇÃO -> CENTRAL DE ATUALIZAÇÃO                   \r\r";
+const std::string outdated = std::string("          TARNEMISSAO DESATUALIZADO ! \r") +
+                             "       Data da Versão TarnEmissao = 07/01/2009\r\r" +
+                             "       Por favor, faça a atualização no site: \r\r" +
+                             "                    " TARN_VENDOR_SITE " \r\r" +
+                             "      OPÇÃO -> CENTRAL DE ATUALIZAÇÃO                   \r\r";
 
 TEST_F(VerVersaoTest, Admitted) {
-    EXPECT_TRUE(verifica(cabecalho + "<V x=''><L a='OK' b='15/03/2012'/></V>"));
-    EXPECT_EQ(sessao_.VersaoServidor, "2012/03/15");
+    EXPECT_TRUE(verify(header + "<V x=''><L a='OK' b='15/03/2012'/></V>"));
+    EXPECT_EQ(session_.VersaoServidor, "2012/03/15");
     EXPECT_TRUE(seams_.boxes.shown.empty());
     EXPECT_EQ(seams_.loader.queries(),
               std::vector<std::string>{"comando=VERSAO_TARN_EMISSAO&Versao=07/01/2009"});
 }
 
 TEST_F(VerVersaoTest, AdmittedWithADateThatIsNoneOrIsMissing) {
-    EXPECT_TRUE(verifica(cabecalho + "<V><L a='OK' b='hoje'/></V>"));
-    EXPECT_EQ(sessao_.VersaoServidor, "hoje");
-    TestEnvironment outro;
-    outro.loader.on("VERSAO", cabecalho + "<V><L a='OK'/></V>");
-    EXPECT_TRUE(VerVersao(outro.environment, sessao_, versaoPrograma));
-    EXPECT_EQ(sessao_.VersaoServidor, "");
-    EXPECT_TRUE(outro.boxes.shown.empty());
+    EXPECT_TRUE(verify(header + "<V><L a='OK' b='hoje'/></V>"));
+    EXPECT_EQ(session_.VersaoServidor, "hoje");
+    TestEnvironment other;
+    other.loader.on("VERSAO", header + "<V><L a='OK'/></V>");
+    EXPECT_TRUE(VerVersao(other.environment, session_, programVersion));
+    EXPECT_EQ(session_.VersaoServidor, "");
+    EXPECT_TRUE(other.boxes.shown.empty());
 }
 
 TEST_F(VerVersaoTest, OutOfReachLeavesTheGateOpen) {
     seams_.loader.failOn("VERSAO");
-    sessao_.VersaoServidor = "old";
-    EXPECT_TRUE(VerVersao(ambiente_, sessao_, versaoPrograma));
-    EXPECT_EQ(sessao_.VersaoServidor, "");
-    EXPECT_EQ(seams_.boxes.shown,
-              std::vector<Box>{critica("Não consegui verificar a versão do TarnEMISSAO porque não "
-                                       "tive acesso à internet!!!")});
+    session_.VersaoServidor = "old";
+    EXPECT_TRUE(VerVersao(environment_, session_, programVersion));
+    EXPECT_EQ(session_.VersaoServidor, "");
+    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{transportFailure(
+                                      "Não consegui verificar a versão do TarnEMISSAO porque não "
+                                      "tive acesso à internet!!!")});
 }
 
 TEST_F(VerVersaoTest, OutOfDate) {
-    EXPECT_FALSE(verifica(cabecalho + "<V><L a='NOK' b='15/03/2012'/></V>"));
+    EXPECT_FALSE(verify(header + "<V><L a='NOK' b='15/03/2012'/></V>"));
     EXPECT_EQ(seams_.boxes.shown,
-              (std::vector<Box>{{.text = desatualizado, .icon = BoxIcon::Information}}));
-    EXPECT_EQ(sessao_.VersaoServidor, "");
+              (std::vector<Box>{{.text = outdated, .icon = BoxIcon::Information}}));
+    EXPECT_EQ(session_.VersaoServidor, "");
 }
 
 TEST_F(VerVersaoTest, AnAnswerThatCannotBeReadIsNotOk) {
-    for (const std::string& corpo :
-         {std::string("<V><L a='OK' b='15/03/2012'/></V>"), cabecalho + "<V a='OK'/>",
-          cabecalho + "<V><L/></V>", cabecalho + "<V><L a='ok'/></V>"}) {
-        TestEnvironment outro;
-        outro.loader.on("VERSAO", corpo);
-        EXPECT_FALSE(VerVersao(outro.environment, sessao_, versaoPrograma)) << corpo;
-        ASSERT_EQ(outro.boxes.shown.size(), 1U);
-        EXPECT_EQ(outro.boxes.shown[0].text, desatualizado);
+    for (const std::string& body :
+         {std::string("<V><L a='OK' b='15/03/2012'/></V>"), header + "<V a='OK'/>",
+          header + "<V><L/></V>", header + "<V><L a='ok'/></V>"}) {
+        TestEnvironment other;
+        other.loader.on("VERSAO", body);
+        EXPECT_FALSE(VerVersao(other.environment, session_, programVersion)) << body;
+        ASSERT_EQ(other.boxes.shown.size(), 1U);
+        EXPECT_EQ(other.boxes.shown[0].text, outdated);
     }
 }
 
 // Date format
 
-TEST_F(EntradaTest, DateFormatImposed) {
-    EXPECT_TRUE(impoeFormatoData(ambiente_));
+TEST_F(StartTest, DateFormatImposed) {
+    EXPECT_TRUE(imposeDateFormat(environment_));
     EXPECT_EQ(seams_.machine.dateFormats, std::vector<std::string>{"dd/MM/yyyy"});
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
 
-TEST_F(EntradaTest, DateFormatRefused) {
+TEST_F(StartTest, DateFormatRefused) {
     seams_.machine.refusesDateFormat = true;
-    EXPECT_FALSE(impoeFormatoData(ambiente_));
+    EXPECT_FALSE(imposeDateFormat(environment_));
     EXPECT_EQ(
         seams_.boxes.shown,
         (std::vector<Box>{
@@ -125,111 +125,113 @@ TEST_F(EntradaTest, DateFormatRefused) {
 
 // Logon
 
-TEST_F(EntradaTest, EmptyFieldsAreRefusedInOrderWithoutARequest) {
-    EXPECT_FALSE(entra(ambiente_, sessao_, "", "", ""));
-    EXPECT_FALSE(entra(ambiente_, sessao_, "e", "", ""));
-    EXPECT_FALSE(entra(ambiente_, sessao_, "e", "u", ""));
+TEST_F(StartTest, EmptyFieldsAreRefusedInOrderWithoutARequest) {
+    EXPECT_FALSE(logOn(environment_, session_, "", "", ""));
+    EXPECT_FALSE(logOn(environment_, session_, "e", "", ""));
+    EXPECT_FALSE(logOn(environment_, session_, "e", "u", ""));
     EXPECT_EQ(seams_.boxes.shown,
-              (std::vector<Box>{exclamacao("Empresa é um campo obrigatório     ", "Aviso"),
-                                exclamacao("Usuário é um campo obrigatório     ", "Aviso"),
-                                exclamacao("Senha é um campo obrigatório     ", "Aviso")}));
+              (std::vector<Box>{exclamation("Empresa é um campo obrigatório     ", "Aviso"),
+                                exclamation("Usuário é um campo obrigatório     ", "Aviso"),
+                                exclamation("Senha é um campo obrigatório     ", "Aviso")}));
     EXPECT_TRUE(seams_.loader.addresses.empty());
 }
 
-TEST_F(EntradaTest, BlanksGoToTheServer) {
-    seams_.loader.on("LOGIN", cabecalho + "<R a='' s='ok'/>");
-    EXPECT_FALSE(entra(ambiente_, sessao_, " ", "  ", "   "));
+TEST_F(StartTest, BlanksGoToTheServer) {
+    seams_.loader.on("LOGIN", header + "<R a='' s='ok'/>");
+    EXPECT_FALSE(logOn(environment_, session_, " ", "  ", "   "));
     EXPECT_EQ(seams_.loader.queries(),
               std::vector<std::string>{"comando=LOGIN&EMPRESA= &USUARIO=  &SENHA=   "});
 }
 
-TEST_F(EntradaTest, ARefusalShowsTheServersTextUnchanged) {
-    seams_.loader.on("LOGIN", cabecalho + "<R a='' s='Senha &lt;b&gt;inválida&lt;/b&gt; &amp; '/>")
-        .on("LOGIN", cabecalho + "<PRINCIPAL a='' s='ok'><L/></PRINCIPAL>");
-    EXPECT_FALSE(entra(ambiente_, sessao_, "e", "u", "s"));
-    EXPECT_FALSE(entra(ambiente_, sessao_, "e", "u", "s"));
+TEST_F(StartTest, ARefusalShowsTheServersTextUnchanged) {
+    seams_.loader.on("LOGIN", header + "<R a='' s='Senha &lt;b&gt;inválida&lt;/b&gt; &amp; '/>")
+        .on("LOGIN", header + "<PRINCIPAL a='' s='ok'><L/></PRINCIPAL>");
+    EXPECT_FALSE(logOn(environment_, session_, "e", "u", "s"));
+    EXPECT_FALSE(logOn(environment_, session_, "e", "u", "s"));
     EXPECT_EQ(seams_.boxes.shown,
-              (std::vector<Box>{exclamacao("Senha <b>inválida</b> & "), exclamacao("ok")}));
+              (std::vector<Box>{exclamation("Senha <b>inválida</b> & "), exclamation("ok")}));
 }
 
-TEST_F(EntradaTest, AFailedTransportShowsTwoBoxes) {
-    EXPECT_FALSE(entra(ambiente_, sessao_, "e", "u", "s"));
-    EXPECT_EQ(
-        seams_.boxes.shown,
-        (std::vector<Box>{critica(falha1), exclamacao("Houve um problema para efetuar o Login.")}));
+TEST_F(StartTest, AFailedTransportShowsTwoBoxes) {
+    EXPECT_FALSE(logOn(environment_, session_, "e", "u", "s"));
+    EXPECT_EQ(seams_.boxes.shown,
+              (std::vector<Box>{transportFailure(failure1),
+                                exclamation("Houve um problema para efetuar o Login.")}));
     EXPECT_EQ(seams_.loader.addresses.size(), 1U);
 }
 
-std::string respostaLogin(const std::string& atributos) {
-    return cabecalho + "<PRINCIPAL c='' s='OK'><L " + atributos + "/></PRINCIPAL>";
+std::string logonAnswer(const std::string& attributes) {
+    return header + "<PRINCIPAL c='' s='OK'><L " + attributes + "/></PRINCIPAL>";
 }
 
-TEST_F(EntradaTest, TheAnswerFillsTheSession) {
+TEST_F(StartTest, TheAnswerFillsTheSession) {
     seams_.loader.on("LOGIN",
-                     respostaLogin("NCOMPANYCODE='2161' COMPANYNAME='A.B LTDA' SERVERNAME='SRV.1' "
-                                   "ID_ETB_TARN='3381' USERCODE='77.1' DATA='9/5/2012'"));
-    EXPECT_TRUE(entra(ambiente_, sessao_, "e", "u", "s"));
-    EXPECT_EQ(sessao_.NCOMPANYCODE, 2161);
-    EXPECT_EQ(sessao_.COMPANYNAME, "A,B LTDA");
-    EXPECT_EQ(sessao_.SERVERNAME, "SRV,1");
-    EXPECT_EQ(sessao_.ID_ETB_TARN, 3381);
-    EXPECT_EQ(sessao_.UserCode, "77,1");
-    EXPECT_EQ(sessao_.DATA, "05/09/2012");
+                     logonAnswer("NCOMPANYCODE='2161' COMPANYNAME='A.B LTDA' SERVERNAME='SRV.1' "
+                                 "ID_ETB_TARN='3381' USERCODE='77.1' DATA='9/5/2012'"));
+    EXPECT_TRUE(logOn(environment_, session_, "e", "u", "s"));
+    EXPECT_EQ(session_.NCOMPANYCODE, 2161);
+    EXPECT_EQ(session_.COMPANYNAME, "A,B LTDA");
+    EXPECT_EQ(session_.SERVERNAME, "SRV,1");
+    EXPECT_EQ(session_.ID_ETB_TARN, 3381);
+    EXPECT_EQ(session_.UserCode, "77,1");
+    EXPECT_EQ(session_.DATA, "05/09/2012");
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
 
-TEST_F(EntradaTest, AbsentFieldsAreTheNumber0) {
-    seams_.loader.on("LOGIN", respostaLogin("DATA='12/25/2012'"));
-    EXPECT_TRUE(entra(ambiente_, sessao_, "e", "u", "s"));
-    EXPECT_EQ(sessao_.NCOMPANYCODE, 0);
-    EXPECT_EQ(sessao_.ID_ETB_TARN, 0);
-    EXPECT_EQ(sessao_.SERVERNAME, "0");
-    EXPECT_EQ(sessao_.UserCode, "0");
-    EXPECT_EQ(sessao_.DATA, "25/12/2012");
+TEST_F(StartTest, AbsentFieldsAreTheNumber0) {
+    seams_.loader.on("LOGIN", logonAnswer("DATA='12/25/2012'"));
+    EXPECT_TRUE(logOn(environment_, session_, "e", "u", "s"));
+    EXPECT_EQ(session_.NCOMPANYCODE, 0);
+    EXPECT_EQ(session_.ID_ETB_TARN, 0);
+    EXPECT_EQ(session_.SERVERNAME, "0");
+    EXPECT_EQ(session_.UserCode, "0");
+    EXPECT_EQ(session_.DATA, "25/12/2012");
 }
 
-TEST_F(EntradaTest, UnexpectedAnswersGoToTheHandler) {
-    const auto tenta = [&](const std::string& corpo) {
-        return [this, corpo] {
-            TestEnvironment outro;
-            outro.loader.on("LOGIN", corpo);
-            entra(outro.environment, sessao_, "e", "u", "s");
+TEST_F(StartTest, UnexpectedAnswersGoToTheHandler) {
+    const auto attempt = [&](const std::string& body) {
+        return [this, body] {
+            TestEnvironment other;
+            other.loader.on("LOGIN", body);
+            logOn(other.environment, session_, "e", "u", "s");
         };
     };
-    esperaErro(ErroNumero::ForaDoIntervalo, tenta(respostaLogin("NCOMPANYCODE='1'")));
-    esperaErro(ErroNumero::ForaDoIntervalo, tenta(respostaLogin("DATA='9/2012'")));
-    esperaErro(ErroNumero::VariavelObjeto, tenta(respostaLogin("UserCode='77' DATA='9/5/2012'")));
-    esperaErro(ErroNumero::TipoIncompativel, tenta(respostaLogin("NCOMPANYCODE='x'")));
-    esperaErro(ErroNumero::Estouro, tenta(respostaLogin("NCOMPANYCODE='2147483648'")));
-    esperaErro(ErroNumero::VariavelObjeto, tenta(cabecalho + "<R a='' s='OK'><L/></R>"));
-    esperaErro(ErroNumero::VariavelObjeto, tenta("<PRINCIPAL a='' s='OK'><L/></PRINCIPAL>"));
-    esperaErro(ErroNumero::VariavelObjeto, tenta(cabecalho + "<PRINCIPAL a='' s='OK'/>"));
+    expectError(RuntimeErrorCode::OutOfRange, attempt(logonAnswer("NCOMPANYCODE='1'")));
+    expectError(RuntimeErrorCode::OutOfRange, attempt(logonAnswer("DATA='9/2012'")));
+    expectError(RuntimeErrorCode::ObjectVariable,
+                attempt(logonAnswer("UserCode='77' DATA='9/5/2012'")));
+    expectError(RuntimeErrorCode::TypeMismatch, attempt(logonAnswer("NCOMPANYCODE='x'")));
+    expectError(RuntimeErrorCode::Overflow, attempt(logonAnswer("NCOMPANYCODE='2147483648'")));
+    expectError(RuntimeErrorCode::ObjectVariable, attempt(header + "<R a='' s='OK'><L/></R>"));
+    expectError(RuntimeErrorCode::ObjectVariable,
+                attempt("<PRINCIPAL a='' s='OK'><L/></PRINCIPAL>"));
+    expectError(RuntimeErrorCode::ObjectVariable, attempt(header + "<PRINCIPAL a='' s='OK'/>"));
 }
 
-TEST(InverteData, MonthDayYear) {
-    EXPECT_EQ(inverteData("9/5/2012"), "05/09/2012");
-    EXPECT_EQ(inverteData("12/25/2012"), "25/12/2012");
-    EXPECT_EQ(inverteData("1/2/3 x/y"), "02/01/3 x");
-    EXPECT_EQ(inverteData("//"), "//");
-    esperaErro(ErroNumero::ForaDoIntervalo, [] { inverteData("2012"); });
-    esperaErro(ErroNumero::ForaDoIntervalo, [] { inverteData(""); });
+TEST(DayMonthYear, MonthDayYear) {
+    EXPECT_EQ(dayMonthYear("9/5/2012"), "05/09/2012");
+    EXPECT_EQ(dayMonthYear("12/25/2012"), "25/12/2012");
+    EXPECT_EQ(dayMonthYear("1/2/3 x/y"), "02/01/3 x");
+    EXPECT_EQ(dayMonthYear("//"), "//");
+    expectError(RuntimeErrorCode::OutOfRange, [] { dayMonthYear("2012"); });
+    expectError(RuntimeErrorCode::OutOfRange, [] { dayMonthYear(""); });
 }
 
 // Rights
 
-class DireitoTest : public EntradaTest {
+class AccessRightTest : public StartTest {
 protected:
-    DireitoTest() {
-        sessao_.UserCode = "u1";
-        sessao_.SERVERNAME = "S";
+    AccessRightTest() {
+        session_.UserCode = "u1";
+        session_.SERVERNAME = "S";
     }
-    bool verifica() { return VerificaDireitoAcesso(ambiente_, sessao_, "EMI003"); }
+    bool verify() { return VerificaDireitoAcesso(environment_, session_, "EMI003"); }
 };
 
-TEST_F(DireitoTest, AskedAtEachOpening) {
-    seams_.loader.on("verifica", cabecalho + "<R a='' s='OK'/>");
-    EXPECT_TRUE(verifica());
-    EXPECT_TRUE(verifica());
+TEST_F(AccessRightTest, AskedAtEachOpening) {
+    seams_.loader.on("verifica", header + "<R a='' s='OK'/>");
+    EXPECT_TRUE(verify());
+    EXPECT_TRUE(verify());
     EXPECT_EQ(seams_.loader.queries(),
               std::vector<std::string>(2,
                                        "Comando=verifica_direito_acesso&nId_Pes_Usu=u1"
@@ -237,51 +239,52 @@ TEST_F(DireitoTest, AskedAtEachOpening) {
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
 
-TEST_F(DireitoTest, DeniedInTheServersWords) {
-    seams_.loader.on("verifica", cabecalho + "<R a='' s='Sem direito.'/>");
-    EXPECT_FALSE(verifica());
-    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{exclamacao("Sem direito.")});
+TEST_F(AccessRightTest, DeniedInTheServersWords) {
+    seams_.loader.on("verifica", header + "<R a='' s='Sem direito.'/>");
+    EXPECT_FALSE(verify());
+    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{exclamation("Sem direito.")});
 }
 
-TEST_F(DireitoTest, FailedLoad) {
-    EXPECT_FALSE(verifica());
+TEST_F(AccessRightTest, FailedLoad) {
+    EXPECT_FALSE(verify());
     EXPECT_EQ(seams_.boxes.shown,
               (std::vector<Box>{
-                  critica("ERRO Tarn0002 - Não foi possível obter os dados da Internet. Verifique "
-                          "a conexão com a Internet."),
-                  exclamacao("Houve um problema na verificação do Direito de Acesso do usuário na "
-                             "Transação EMI003. ")}));
+                  transportFailure(
+                      "ERRO Tarn0002 - Não foi possível obter os dados da Internet. Verifique "
+                      "a conexão com a Internet."),
+                  exclamation("Houve um problema na verificação do Direito de Acesso do usuário na "
+                              "Transação EMI003. ")}));
 }
 
-TEST_F(DireitoTest, UnreadableStatus) {
+TEST_F(AccessRightTest, UnreadableStatus) {
     seams_.loader.on("verifica", "<R a='' s='OK'/>");
-    esperaErro(ErroNumero::VariavelObjeto, [&] { verifica(); });
+    expectError(RuntimeErrorCode::ObjectVariable, [&] { verify(); });
 }
 
 // The establishment's name
 
-TEST_F(EntradaTest, NameOfTheEstablishment) {
-    sessao_.ID_ETB_TARN = 9;
+TEST_F(StartTest, NameOfTheEstablishment) {
+    session_.ID_ETB_TARN = 9;
     seams_.loader.on("sel_dados_empresa",
                      "<xml xmlns:rs='r' xmlns:z='z'><rs:data><z:row NM_FIL='MATRIZ &amp; CIA'/>"
                      "<z:row NM_FIL='OUTRA'/></rs:data></xml>");
-    EXPECT_EQ(nomeFilial(ambiente_, sessao_), "MATRIZ & CIA");
+    EXPECT_EQ(branchName(environment_, session_), "MATRIZ & CIA");
     EXPECT_EQ(seams_.loader.queries(),
               std::vector<std::string>{"comando=sel_dados_empresa&Id_Etb_Tarn=9&ServerName="});
 }
 
-TEST_F(EntradaTest, NameAbsentOrNoRow) {
+TEST_F(StartTest, NameAbsentOrNoRow) {
     seams_.loader.on("sel_dados_empresa", "<xml xmlns:rs='r'><rs:data><l/></rs:data></xml>")
         .on("sel_dados_empresa", "<xml xmlns:rs='r'><rs:data/></xml>")
         .on("sel_dados_empresa", "<xml/>")
         .failOn("sel_dados_empresa");
-    EXPECT_EQ(nomeFilial(ambiente_, sessao_), "");
+    EXPECT_EQ(branchName(environment_, session_), "");
     for (int i = 0; i < 3; ++i) {
-        esperaErro(ErroNumero::VariavelObjeto, [&] { nomeFilial(ambiente_, sessao_); });
+        expectError(RuntimeErrorCode::ObjectVariable, [&] { branchName(environment_, session_); });
     }
-    EXPECT_EQ(seams_.boxes.shown,
-              std::vector<Box>{critica("ERRO Tarn0009 - Não foi possível obter os dados da "
-                                       "Internet. Verifique a conexão com a Internet.")});
+    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{transportFailure(
+                                      "ERRO Tarn0009 - Não foi possível obter os dados da "
+                                      "Internet. Verifique a conexão com a Internet.")});
 }
 
 }  // namespace

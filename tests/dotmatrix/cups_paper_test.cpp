@@ -52,20 +52,20 @@ TEST(CupsPaper, ANoteComesOutAsPdfAndText) {
 
     TestEnvironment seams;
     CupsSpooler spooler;
-    Environment ambiente{.http = seams.loader,
-                         .spooler = spooler,
-                         .printer = seams.printer,
-                         .boxes = seams.boxes,
-                         .clock = seams.clock,
-                         .machine = seams.machine,
-                         .baseUrl = {}};
-    Sessao sessao;
-    sessao.NCOMPANYCODE = 1361;
-    sessao.ID_ETB_TARN = 1;
+    Environment environment{.http = seams.loader,
+                            .spooler = spooler,
+                            .printer = seams.printer,
+                            .boxes = seams.boxes,
+                            .clock = seams.clock,
+                            .machine = seams.machine,
+                            .baseUrl = {}};
+    Sessao session;
+    session.NCOMPANYCODE = 1361;
+    session.ID_ETB_TARN = 1;
     XmlDocument documento;
     ASSERT_TRUE(documento.loadXML(
         contentOf(QStringLiteral(TARN_NOTE_DATA "/nota_1361.xml")).toStdString()));
-    imprimeNota(Escada::Emissao, ambiente, sessao, documento, "4567");
+    printNote(Ladder::Issuing, environment, session, documento, "4567");
 
     ASSERT_TRUE(printer.waitForFinished(kLimit)) << server.errorLog();
     EXPECT_EQ(printer.exitCode(), 0) << printer.readAllStandardError().toStdString();

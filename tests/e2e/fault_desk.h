@@ -106,7 +106,7 @@ protected:
 
     void SetUp() override {
         ScreenTest::SetUp();
-        QObject::connect(&fim, &FimDoPrograma::encerrou, &fim, [this] { network.close(); });
+        QObject::connect(&end, &ProgramEnd::didEnd, &end, [this] { network.close(); });
         menu.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&menu));
     }
@@ -121,7 +121,7 @@ protected:
             typeLogon(logon);
             key(logon, Qt::Key_Return);
         });
-        menu.carrega();
+        menu.load();
         ASSERT_THAT(boxes.shown, testing::IsEmpty());
         page.takeQueries();
     }
@@ -225,7 +225,7 @@ protected:
     CurlLoader curl;
     BlockingLoader network{curl};
     Environment overHttp{network, spooler, printer, boxes, clock, machine, page.baseUrl()};
-    DeskContext netDesk{overHttp, sessao, fim};
+    DeskContext netDesk{overHttp, session, end};
     MDIMenu menu{netDesk};
 };
 

@@ -73,7 +73,7 @@ TEST_F(BillingFaults, AGenerationWithoutAnAnswerIsToBeCheckedByHand) {
         EXPECT_EQ(rowOf(order) == -1, fault.carriedOut);
         EXPECT_TRUE(timerRuns());
     });
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(BillingFaults, TheNoteWhoseAnswerWasLostComesOutOfTheReprintScreen) {
@@ -115,7 +115,7 @@ TEST_F(BillingFaults, AGenerationWithoutADeclarationEndsTheProgramWithTheWayToTh
     const std::string order = takeOrder();
     generate(order);
     EXPECT_THAT(boxes.shown, ElementsAre(endReportWithNote()));
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
     EXPECT_THAT(spooler.calls, IsEmpty());
     EXPECT_TRUE(found(noteOf(order)));
     EXPECT_THAT(takeCommands(),
@@ -179,7 +179,7 @@ TEST_F(BillingFaults, ADocumentWithoutADeclarationEndsTheProgramWithTheWayToTheN
     const std::string order = takeOrder();
     generate(order);
     EXPECT_THAT(boxes.shown, ElementsAre(endReportWithNote()));
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
     EXPECT_TRUE(found(noteOf(order)));
     EXPECT_THAT(spooler.calls, IsEmpty());
 }

@@ -103,7 +103,7 @@ TEST_F(BillFaults, WithoutTheCompanyNothingIsDrawnAndTheProgramEnds) {
         EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0009"), companyMissing));
         EXPECT_THAT(printer.operations, IsEmpty());
     });
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
 }
 
 TEST_F(BillFaults, ACompanyOfNoRowsEndsTheProgramToo) {
@@ -116,7 +116,7 @@ TEST_F(BillFaults, ACompanyOfNoRowsEndsTheProgramToo) {
         EXPECT_THAT(boxes.shown, ElementsAre(companyMissing));
         EXPECT_THAT(printer.operations, IsEmpty());
     });
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
 }
 
 TEST_F(BillFaults, CustomersThatDontComeLeaveTheOnesFoundBefore) {

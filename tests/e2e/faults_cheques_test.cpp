@@ -146,7 +146,7 @@ TEST_F(ChequeFaults, ARecordWithoutADeclarationEndsTheProgramBehindThePaper) {
         expectFilled("901");
     });
     EXPECT_TRUE(recorded("901"));
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
     EXPECT_THAT(takeCommands(),
                 ElementsAre("seleciona_um_controle_cheque_emitido", "sel_dados_empresa",
                             "adiciona_controle_cheque_emitido"))
@@ -189,7 +189,7 @@ TEST_F(ChequeFaults, WithoutTheTownNothingIsPrintedAndNothingRecorded) {
             expectFilled("601");
         });
     });
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(ChequeFaults, ATownOfNoRowsEndsTheProgramBeforeThePaper) {
@@ -202,7 +202,7 @@ TEST_F(ChequeFaults, ATownOfNoRowsEndsTheProgramBeforeThePaper) {
         EXPECT_THAT(spooler.calls, IsEmpty());
     });
     EXPECT_FALSE(recorded("602"));
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
 }
 
 }  // namespace

@@ -99,7 +99,7 @@ TEST_F(LabelFaults, APrintWithoutItsLabelsOrItsSenderKeepsTheRange) {
                             testing::StartsWith("Erro em tempo de execução '91':\r\r"));
                 EXPECT_THAT(printer.operations, IsEmpty());
                 EXPECT_TRUE(print.isVisible());
-                EXPECT_FALSE(fim.encerrado());
+                EXPECT_FALSE(end.ended());
             });
             forget();
             click(print, "cmdOk");
@@ -128,7 +128,7 @@ TEST_F(LabelFaults, ADeletionIsAlwaysASuccessAndTheListTellsTheTruth) {
             EXPECT_EQ(grid::cell(gridOf(queue), left, 1), std::to_string(left));
         });
     });
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(LabelFaults, AServerGoneAtTheDeletionLeavesTheListAsItWas) {
@@ -181,7 +181,7 @@ TEST_F(LabelFaults, ASelectionWithoutItsListsOrItsRowsStaysOpenAndEmpty) {
     });
     page.fail("sel_pais", {FaultKind::ServerError, {}});
     page.fail("sel_filias", {FaultKind::Html, {}});
-    menu.abreSelecaoEtiquetas();
+    menu.openLabelSelection();
 }
 
 }  // namespace

@@ -88,7 +88,7 @@ TEST_F(OrderFaults, AStockWithoutADeclarationEndsTheProgram) {
     page.fail("Seleciona_Obs_Ord_X_Est", {FaultKind::NoDeclaration, {}});
     generate(takeOrder());
     EXPECT_THAT(boxes.shown, ElementsAre(endReport()));
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
     EXPECT_EQ(notes(), 0U);
 }
 
@@ -116,7 +116,7 @@ TEST_F(OrderFaults, ACancellationWithoutADeclarationEndsTheProgram) {
     const std::string order = takeOrder();
     press(order, "CmdCanOft");
     EXPECT_THAT(boxes.shown, ElementsAre(questionFor(order), endReport()));
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
     EXPECT_FALSE(listed(order));
 }
 
@@ -181,7 +181,7 @@ TEST_F(OrderFaults, ASheetWithoutItsOrderIsntPrinted) {
     press(takeOrder(), "cmdImprimirOF");
     EXPECT_THAT(boxes.shown, ElementsAre(endReport()));
     EXPECT_THAT(spooler.calls, IsEmpty());
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
 }
 
 }  // namespace

@@ -103,7 +103,7 @@ TEST_F(ReprintFaults, APrintWithoutItsDocumentIsToldAndCanBeRepeated) {
               EXPECT_THAT(takeCommands(), ElementsAre("sel_gera_nf"));
               EXPECT_THAT(spooler.calls, IsEmpty());
               expectFound();
-              EXPECT_FALSE(fim.encerrado());
+              EXPECT_FALSE(end.ended());
               page.heal();
               boxes.shown.clear();
               click(reprint(), "cmdSelecionar");
@@ -152,7 +152,7 @@ TEST_F(ReprintFaults, ACancellationThatFailsIsToldByWhatIsKnownOfIt) {
               EXPECT_EQ(shown("LBLNOTA"), note);
               EXPECT_EQ(named<QComboBox>(reprint(), "CboMot_Can").currentIndex(), 1);
               EXPECT_EQ(found(note), !fault.carriedOut);
-              EXPECT_FALSE(fim.encerrado());
+              EXPECT_FALSE(end.ended());
           });
 }
 

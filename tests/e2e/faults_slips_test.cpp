@@ -128,7 +128,7 @@ TEST_F(SlipFaults, SlipsArePrintedWhateverBecomesOfTheirWrites) {
             EXPECT_EQ(text(*screen, "txtNr_Bol_Banc"), "");
         });
     });
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(SlipFaults, ADocumentWhoseSecondWriteFailsHasANumberAndNoPortfolio) {

@@ -23,11 +23,11 @@ protected:
     void start(bool opens) {
         if (opens) {
             modals.then("FrmLogon", [this](QWidget& logon) {
-                EXPECT_FALSE(fim.encerrado());
+                EXPECT_FALSE(end.ended());
                 key(logon, Qt::Key_Escape);
             });
         }
-        menu.carrega();
+        menu.load();
     }
     void expectTyped(const QWidget& logon) {
         EXPECT_TRUE(logon.isVisible());
@@ -35,8 +35,8 @@ protected:
         EXPECT_EQ(text(logon, "txtUsuario"), "clara");
         EXPECT_EQ(text(logon, "txtSenha"), "pratica");
         EXPECT_EQ(focused(logon), "txtEmpresa");
-        EXPECT_EQ(sessao.SERVERNAME, "");
-        EXPECT_FALSE(fim.encerrado());
+        EXPECT_EQ(session.SERVERNAME, "");
+        EXPECT_FALSE(end.ended());
     }
     std::string branch() { return named<QLabel>(menu, "Panel2").text().toStdString(); }
 };
@@ -61,8 +61,8 @@ TEST_P(VersionFaults, OnlyAnUnansweredCheckLetsTheProgramGoOn) {
                     testing::StartsWith("          TARNEMISSAO DESATUALIZADO ! \r       Data da "
                                         "Versão TarnEmissao = 07/01/2009\r\r"));
     }
-    EXPECT_TRUE(fim.encerrado());
-    EXPECT_EQ(fim.status(), 0);
+    EXPECT_TRUE(end.ended());
+    EXPECT_EQ(end.status(), 0);
 }
 
 std::string nameOf(const testing::TestParamInfo<FaultCase>& tested) {
@@ -96,9 +96,9 @@ TEST_F(StartFaults, ALogonThatFailsKeepsWhatWasTypedAndTheNextTryGetsIn) {
             EXPECT_FALSE(logon.isVisible());
         });
     });
-    menu.carrega();
+    menu.load();
     EXPECT_THAT(boxes.shown, IsEmpty());
-    EXPECT_EQ(sessao.SERVERNAME, "DADOS1361");
+    EXPECT_EQ(session.SERVERNAME, "DADOS1361");
     EXPECT_EQ(branch(), "Três Irmãos - Matriz São Paulo");
 }
 
@@ -109,13 +109,13 @@ TEST_F(StartFaults, ALogonWithoutADeclarationIsTheUnexpectedErrorAndTheEnd) {
         click(logon, "btnLogin");
         EXPECT_FALSE(logon.isVisible());
     });
-    menu.carrega();
+    menu.load();
     EXPECT_THAT(boxes.shown,
                 ElementsAre(Box{"Aconteceu um erro inesperado no sistema. Por favor avise a "
                                 "RVL\nErro = Falta um dado na resposta do servidor",
                                 BoxIcon::Critical, "Aviso"}));
     EXPECT_THAT(takeCommands(), ElementsAre("VERSAO_TARN_EMISSAO", "LOGIN"));
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
 }
 
 class NameFaults : public StartFaults, public testing::WithParamInterface<FaultCase> {};
@@ -129,18 +129,18 @@ TEST_P(NameFaults, TheNameThatDoesntComeEndsTheProgram) {
         typeLogon(logon);
         click(logon, "btnLogin");
     });
-    QTimer::singleShot(0, &menu, [this] { menu.carrega(); });
-    ASSERT_TRUE(QTest::qWaitFor([this] { return fim.encerrado() || !branch().empty(); }));
+    QTimer::singleShot(0, &menu, [this] { menu.load(); });
+    ASSERT_TRUE(QTest::qWaitFor([this] { return end.ended() || !branch().empty(); }));
     if (fault.left == Left::Nothing) {
         EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0009"), endReport()));
-        EXPECT_EQ(fim.status(), 3);
+        EXPECT_EQ(end.status(), 3);
     } else if (fault.left == Left::Refusal) {
         EXPECT_THAT(boxes.shown, ElementsAre(endReport())) << "no row";
-        EXPECT_EQ(fim.status(), 3);
+        EXPECT_EQ(end.status(), 3);
     } else {
         EXPECT_THAT(boxes.shown, IsEmpty()) << "a list has no status";
         EXPECT_EQ(branch(), "Três Irmãos - Matriz São Paulo");
-        EXPECT_FALSE(fim.encerrado());
+        EXPECT_FALSE(end.ended());
     }
 }
 
@@ -164,7 +164,7 @@ TEST_F(StartFaults, WithoutAnAnswerToTheRightNoScreenOpens) {
         EXPECT_THAT(boxes.shown, ElementsAre(refusal));
         EXPECT_EQ(menu.findChild<QWidget*>("FrmReImprimeNF"), nullptr);
     });
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
     under({"verifica_direito_acesso"}, leaving({Left::All}), [this](const FaultCase&) {
         open("mOFT");
         EXPECT_THAT(boxes.shown, IsEmpty());
@@ -177,7 +177,7 @@ TEST_F(StartFaults, ARightWithoutADeclarationEndsTheProgram) {
     page.fail("verifica_direito_acesso", {FaultKind::NoDeclaration, {}});
     open("mOFT");
     EXPECT_THAT(boxes.shown, ElementsAre(endReport()));
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
     EXPECT_EQ(menu.findChild<FrmOFT*>(), nullptr);
 }
 

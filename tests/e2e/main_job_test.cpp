@@ -20,10 +20,10 @@ protected:
     void SetUp() override {
         ASSERT_TRUE(folder_.isValid());
         ASSERT_NO_FATAL_FAILURE(server_.start());
-        sessao_.NCOMPANYCODE = 1361;
-        sessao_.ID_ETB_TARN = 1361;
-        sessao_.UserCode = "101";
-        sessao_.SERVERNAME = "DADOS1361";
+        session_.NCOMPANYCODE = 1361;
+        session_.ID_ETB_TARN = 1361;
+        session_.UserCode = "101";
+        session_.SERVERNAME = "DADOS1361";
     }
     void TearDown() override { server_.stop(); }
 
@@ -36,7 +36,7 @@ protected:
         return document;
     }
     std::vector<std::string> ordersLeft() {
-        const XmlDocument list = asked(comando::sel_ordem_fatu(sessao_));
+        const XmlDocument list = asked(commands::sel_ordem_fatu(session_));
         const XmlNode rows = list.selectSingleNode("xml/rs:data");
         std::vector<std::string> orders;
         for (std::size_t i = 0; i < rows.childCount(); ++i) {
@@ -48,7 +48,7 @@ protected:
 
     QTemporaryDir folder_;
     Server server_;
-    Sessao sessao_;
+    Sessao session_;
     HttpAnswer answer_;
 };
 
@@ -84,7 +84,7 @@ TEST_F(MainJob, AnOrderBecomesANoteOnPaper) {
 
     // It was cancelled in the end: the server has it no more.
     EXPECT_EQ(
-        asked(comando::SEL_NF(sessao_, number, "1")).selectSingleNode("xml/rs:data").childCount(),
+        asked(commands::SEL_NF(session_, number, "1")).selectSingleNode("xml/rs:data").childCount(),
         0U);
 
     // A picture of each step, and the paper.
@@ -103,9 +103,9 @@ TEST_F(MainJob, TheProgramWithoutWindowsPrintsTheSameBytes) {
     // The same order, generated on a server of its own, is the same note.
     Server twin;
     ASSERT_NO_FATAL_FAILURE(twin.start());
-    const XmlDocument generated = asked(twin, comando::SP_GERA_NF(sessao_, "45006"));
+    const XmlDocument generated = asked(twin, commands::SP_GERA_NF(session_, "45006"));
     const std::string number(generated.documentElement().child(0).attributes().item(0).text());
-    const XmlDocument document = asked(twin, comando::sel_gera_nf(sessao_, number, "1"));
+    const XmlDocument document = asked(twin, commands::sel_gera_nf(session_, number, "1"));
     EXPECT_EQ(document.documentElement().attributes().item(1).text(), "OK");
     twin.stop();
     QFile saved(inFolder("nota.xml"));

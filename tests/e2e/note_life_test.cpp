@@ -29,7 +29,7 @@ protected:
             type(logon, "txtSenha", "pratica");
             key(logon, Qt::Key_Return);
         });
-        menu.carrega();
+        menu.load();
         ASSERT_THAT(boxes.shown, testing::IsEmpty());
     }
     void open(const char* entry) {
@@ -83,7 +83,7 @@ protected:
     CurlLoader curl;
     BlockingLoader network{curl};
     Environment overHttp{network, spooler, printer, boxes, clock, machine, page.baseUrl()};
-    DeskContext netDesk{overHttp, sessao, fim};
+    DeskContext netDesk{overHttp, session, end};
     MDIMenu menu{netDesk};
 };
 

@@ -207,7 +207,7 @@ constexpr std::array<std::pair<int, int>, 28> sessions{
      {1521, 1}, {821, 1},     {3301, 1}, {3881, 1},    {3881, 6001}, {3081, 1},    {1, 5282},
      {3601, 1}, {2541, 6001}, {3681, 1}, {4621, 7321}, {4621, 1},    {541, 1},     {-1, 0}}};
 
-void printOn(Escada ladder, const std::pair<int, int>& key, const std::string& xml,
+void printOn(Ladder ladder, const std::pair<int, int>& key, const std::string& xml,
              const std::string& number) {
     XmlDocument document;
     if (!document.loadXML(xml))
@@ -223,8 +223,8 @@ void printOn(Escada ladder, const std::pair<int, int>& key, const std::string& x
     session.NCOMPANYCODE = key.first;
     session.ID_ETB_TARN = key.second;
     try {
-        imprimeNota(ladder, environment, session, document, number);
-    } catch (const ErroExecucao&) {
+        printNote(ladder, environment, session, document, number);
+    } catch (const RuntimeError&) {
         return;
     }
     if (!spooler.closed())
@@ -243,7 +243,7 @@ void printNotes(std::span<const std::uint8_t> bytes) {
     const std::string number(source.of(noteNumbers));
     const bool raw = source.oneIn(16);
     const std::string xml = raw ? std::string(source.rest()) : madeNote(source);
-    for (const Escada ladder : {Escada::Emissao, Escada::Reimpressao})
+    for (const Ladder ladder : {Ladder::Issuing, Ladder::Reprint})
         printOn(ladder, key, xml, number);
 }
 

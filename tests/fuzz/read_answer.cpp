@@ -67,7 +67,7 @@ template <typename Read>
 void attempt(const Read& read) {
     try {
         read();
-    } catch (const ErroExecucao&) {
+    } catch (const RuntimeError&) {
         return;
     }
 }
@@ -87,8 +87,8 @@ void checkNode(const XmlNode& node, int depth) {
     const std::size_t count = node.childCount();
     for (const std::string_view name : names) {
         for (std::size_t i = 0; i <= count && i < 4; ++i) {
-            attempt([&] { pegaTexto(node, i, name); });
-            attempt([&] { pegaNumero(node, i, name); });
+            attempt([&] { textAttribute(node, i, name); });
+            attempt([&] { numberAttribute(node, i, name); });
         }
     }
     for (const std::string_view path : paths) {

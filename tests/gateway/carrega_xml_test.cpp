@@ -21,65 +21,64 @@ public:
 class CarregaXMLTest : public testing::Test {
 protected:
     CarregaXMLTest() {
-        fs::create_directories(pasta_);
-        fs::current_path(pasta_);
+        fs::create_directories(folder_);
+        fs::current_path(folder_);
     }
     ~CarregaXMLTest() override {
-        fs::current_path(antes_);
-        fs::remove_all(pasta_);
+        fs::current_path(before_);
+        fs::remove_all(folder_);
     }
 
-    bool carrega(const std::string& arquivo = "", int gravar = 0,
-                 const std::string& mensagem = "não veio") {
+    bool load(const std::string& file = "", int save = 0, const std::string& message = "não veio") {
         return CarregaXML(seams_.environment, seams_.environment.baseUrl + "comando=x", documento_,
-                          false, arquivo, gravar, "", mensagem);
+                          false, file, save, "", message);
     }
 
-    fs::path antes_ = fs::current_path();
-    fs::path pasta_ = fs::temp_directory_path() /
-                      ("tarn_carrega_" +
-                       std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
+    fs::path before_ = fs::current_path();
+    fs::path folder_ = fs::temp_directory_path() /
+                       ("tarn_carrega_" +
+                        std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
     TestEnvironment seams_;
     XmlDocument documento_;
 };
 
 TEST_F(CarregaXMLTest, LoadsOnceAndShowsNothing) {
     seams_.loader.on("comando=x", "<R/>");
-    EXPECT_TRUE(carrega());
+    EXPECT_TRUE(load());
     EXPECT_EQ(documento_.documentElement().nodeName(), "R");
     EXPECT_EQ(seams_.loader.addresses, std::vector<std::string>{"http://servidor/p.asp?comando=x"});
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
 
 TEST_F(CarregaXMLTest, UnreachableAndIllFormedAreOneFailure) {
-    const Box esperada{
+    const Box expected{
         .text = "não veio", .icon = BoxIcon::Critical, .title = "TarnEMISSAO - ERRO INESPERADO"};
     seams_.loader.failOn("comando=x").on("comando=x", "<html><br></html>").on("comando=x", "");
     for (int i = 1; i <= 3; ++i) {
-        EXPECT_FALSE(carrega());
+        EXPECT_FALSE(load());
         EXPECT_TRUE(documento_.empty());
-        EXPECT_EQ(seams_.boxes.shown, std::vector<Box>(static_cast<std::size_t>(i), esperada));
+        EXPECT_EQ(seams_.boxes.shown, std::vector<Box>(static_cast<std::size_t>(i), expected));
     }
     EXPECT_EQ(seams_.loader.addresses.size(), 3U);
 }
 
 TEST_F(CarregaXMLTest, WithoutAMessageAFailureIsSilent) {
-    EXPECT_FALSE(carrega("", 0, ""));
+    EXPECT_FALSE(load("", 0, ""));
     EXPECT_TRUE(seams_.boxes.shown.empty());
-    EXPECT_TRUE(fs::is_empty(pasta_));
+    EXPECT_TRUE(fs::is_empty(folder_));
 }
 
 TEST_F(CarregaXMLTest, AnErrorInsideIsShownByItsDescription) {
-    FailingLoader falho;
-    Environment ambiente{.http = falho,
-                         .spooler = seams_.spooler,
-                         .printer = seams_.printer,
-                         .boxes = seams_.boxes,
-                         .clock = seams_.clock,
-                         .machine = seams_.machine,
-                         .baseUrl = "http://servidor/p.asp?"};
+    FailingLoader failing;
+    Environment environment{.http = failing,
+                            .spooler = seams_.spooler,
+                            .printer = seams_.printer,
+                            .boxes = seams_.boxes,
+                            .clock = seams_.clock,
+                            .machine = seams_.machine,
+                            .baseUrl = "http://servidor/p.asp?"};
     EXPECT_FALSE(
-        CarregaXML(ambiente, "http://servidor/p.asp?x", documento_, false, "", 0, "", "m"));
+        CarregaXML(environment, "http://servidor/p.asp?x", documento_, false, "", 0, "", "m"));
     EXPECT_EQ(seams_.boxes.shown,
               (std::vector<Box>{
                   {.text = "memória esgotada", .icon = BoxIcon::Critical, .title = "Aviso"}}));
@@ -87,27 +86,27 @@ TEST_F(CarregaXMLTest, AnErrorInsideIsShownByItsDescription) {
 
 TEST_F(CarregaXMLTest, NoCopyUnlessNameAndPositiveWish) {
     seams_.loader.on("comando=x", "<R/>");
-    EXPECT_TRUE(carrega("", 1));
-    EXPECT_TRUE(carrega("copia", 0));
-    EXPECT_TRUE(carrega("copia", -1));
-    EXPECT_TRUE(fs::is_empty(pasta_));
+    EXPECT_TRUE(load("", 1));
+    EXPECT_TRUE(load("copia", 0));
+    EXPECT_TRUE(load("copia", -1));
+    EXPECT_TRUE(fs::is_empty(folder_));
 }
 
 TEST_F(CarregaXMLTest, KeepsACopyAndAFailedLoadDeletesIt) {
     seams_.loader.on("comando=x", "<?xml version='1.0'?><R a='1'/>").failOn("comando=x");
-    EXPECT_TRUE(carrega("copia", 1));
-    std::ifstream entrada("copia.XML");
-    const std::string gravado(std::istreambuf_iterator<char>(entrada), {});
-    EXPECT_NE(gravado.find("<R a=\"1\"/>"), std::string::npos);
-    EXPECT_FALSE(carrega("copia", 1));
+    EXPECT_TRUE(load("copia", 1));
+    std::ifstream input("copia.XML");
+    const std::string recorded(std::istreambuf_iterator<char>(input), {});
+    EXPECT_NE(recorded.find("<R a=\"1\"/>"), std::string::npos);
+    EXPECT_FALSE(load("copia", 1));
     EXPECT_FALSE(fs::exists("copia.XML"));
-    EXPECT_FALSE(carrega("copia", 1));  // nothing to delete is no failure of its own
+    EXPECT_FALSE(load("copia", 1));  // nothing to delete is no failure of its own
     EXPECT_EQ(seams_.boxes.shown.size(), 2U);
 }
 
 TEST_F(CarregaXMLTest, ACopyThatCannotBeWrittenFailsTheLoad) {
     seams_.loader.on("comando=x", "<R/>");
-    EXPECT_FALSE(carrega("sem/esta/pasta", 1));
+    EXPECT_FALSE(load("sem/esta/pasta", 1));
     ASSERT_EQ(seams_.boxes.shown.size(), 1U);
     EXPECT_EQ(seams_.boxes.shown[0].icon, BoxIcon::Critical);
     EXPECT_EQ(seams_.boxes.shown[0].title, "Aviso");

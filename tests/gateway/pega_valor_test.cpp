@@ -11,7 +11,7 @@ namespace {
 
 class PegaValorTest : public testing::Test {
 protected:
-    const XmlNode& carrega(std::string_view linhas) {
+    const XmlNode& load(std::string_view linhas) {
         EXPECT_TRUE(documento_.loadXML("<?xml version='1.0'?><PRINCIPAL c='' s='OK'>" +
                                        std::string(linhas) + "</PRINCIPAL>"));
         principal_ = documento_.selectSingleNode("PRINCIPAL");
@@ -22,79 +22,78 @@ protected:
     XmlNode principal_;
 };
 
-void esperaErroDeObjeto(const auto& acao) {
+void expectObjectError(const auto& action) {
     try {
-        acao();
+        action();
         ADD_FAILURE() << "no error";
-    } catch (const ErroExecucao& erro) {
-        EXPECT_EQ(erro.numero(), ErroNumero::VariavelObjeto);
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), RuntimeErrorCode::ObjectVariable);
     }
 }
 
 TEST_F(PegaValorTest, AbsentGivesThePadraoAsPassed) {
-    const XmlNode& no = carrega("<L A='1'/>");
-    EXPECT_EQ(PegaValor(no, 0, "B", 0.0), Valor(0.0));
-    EXPECT_EQ(PegaValor(no, 0, "B", 7.5), Valor(7.5));
-    EXPECT_EQ(PegaValor(no, 0, "B", std::string()), Valor(std::string()));
-    EXPECT_EQ(PegaValor(no, 0, "B", std::string("0")), Valor(std::string("0")));
-    EXPECT_EQ(pegaTexto(no, 0, "B"), "");
-    EXPECT_EQ(pegaNumero(no, 0, "B"), "0");
+    const XmlNode& no = load("<L A='1'/>");
+    EXPECT_EQ(PegaValor(no, 0, "B", 0.0), Amount(0.0));
+    EXPECT_EQ(PegaValor(no, 0, "B", 7.5), Amount(7.5));
+    EXPECT_EQ(PegaValor(no, 0, "B", std::string()), Amount(std::string()));
+    EXPECT_EQ(PegaValor(no, 0, "B", std::string("0")), Amount(std::string("0")));
+    EXPECT_EQ(textAttribute(no, 0, "B"), "");
+    EXPECT_EQ(numberAttribute(no, 0, "B"), "0");
 }
 
 TEST_F(PegaValorTest, ANumericReadTurnsEveryPointIntoAComma) {
-    const XmlNode& no = carrega("<L A='1.234.5' B='12' C=''/>");
-    EXPECT_EQ(PegaValor(no, 0, "A", 0.0), Valor(std::string("1,234,5")));
-    EXPECT_EQ(PegaValor(no, 0, "B", 0.0), Valor(std::string("12")));
-    EXPECT_EQ(PegaValor(no, 0, "C", 0.0), Valor(std::string()));
-    EXPECT_EQ(pegaNumero(no, 0, "A"), "1,234,5");
+    const XmlNode& no = load("<L A='1.234.5' B='12' C=''/>");
+    EXPECT_EQ(PegaValor(no, 0, "A", 0.0), Amount(std::string("1,234,5")));
+    EXPECT_EQ(PegaValor(no, 0, "B", 0.0), Amount(std::string("12")));
+    EXPECT_EQ(PegaValor(no, 0, "C", 0.0), Amount(std::string()));
+    EXPECT_EQ(numberAttribute(no, 0, "A"), "1,234,5");
 }
 
 TEST_F(PegaValorTest, ATextReadLeavesTheTextAsItIs) {
-    const XmlNode& no = carrega("<L A='12.50' B='  x  '/>");
-    EXPECT_EQ(PegaValor(no, 0, "A", std::string()), Valor(std::string("12.50")));
-    EXPECT_EQ(PegaValor(no, 0, "A", std::string("0")), Valor(std::string("12.50")));
-    EXPECT_EQ(PegaValor(no, 0, "A", 1.0), Valor(std::string("12.50")));
-    EXPECT_EQ(pegaTexto(no, 0, "B"), "  x  ");
+    const XmlNode& no = load("<L A='12.50' B='  x  '/>");
+    EXPECT_EQ(PegaValor(no, 0, "A", std::string()), Amount(std::string("12.50")));
+    EXPECT_EQ(PegaValor(no, 0, "A", std::string("0")), Amount(std::string("12.50")));
+    EXPECT_EQ(PegaValor(no, 0, "A", 1.0), Amount(std::string("12.50")));
+    EXPECT_EQ(textAttribute(no, 0, "B"), "  x  ");
 }
 
 TEST_F(PegaValorTest, PresenceIgnoresCaseAndTheLookupDoesNot) {
-    const XmlNode& no = carrega("<L NCOMPANYCODE='2161' Ent_Sai='E' usercode='u'/>");
-    EXPECT_EQ(pegaNumero(no, 0, "ncompanycode"), "2161");
-    esperaErroDeObjeto([&] { pegaTexto(no, 0, "ncompanycode"); });
-    EXPECT_EQ(pegaTexto(no, 0, "Ent_Sai"), "E");
-    esperaErroDeObjeto([&] { pegaNumero(no, 0, "Ent_Sai"); });
-    esperaErroDeObjeto([&] { pegaTexto(no, 0, "ENT_SAI"); });
-    esperaErroDeObjeto([&] { pegaNumero(no, 0, "UserCode"); });
-    esperaErroDeObjeto([&] { PegaValor(no, 0, "UserCode", std::string()); });
+    const XmlNode& no = load("<L NCOMPANYCODE='2161' Ent_Sai='E' usercode='u'/>");
+    EXPECT_EQ(numberAttribute(no, 0, "ncompanycode"), "2161");
+    expectObjectError([&] { textAttribute(no, 0, "ncompanycode"); });
+    EXPECT_EQ(textAttribute(no, 0, "Ent_Sai"), "E");
+    expectObjectError([&] { numberAttribute(no, 0, "Ent_Sai"); });
+    expectObjectError([&] { textAttribute(no, 0, "ENT_SAI"); });
+    expectObjectError([&] { numberAttribute(no, 0, "UserCode"); });
+    expectObjectError([&] { PegaValor(no, 0, "UserCode", std::string()); });
 }
 
 TEST_F(PegaValorTest, TheLookupTakesItsOwnSpellingWhereverItStands) {
-    const XmlNode& no = carrega("<L razao='lower' RAZAO='UPPER'/>");
-    EXPECT_EQ(pegaTexto(no, 0, "RAZAO"), "UPPER");
-    EXPECT_EQ(pegaTexto(no, 0, "razao"), "lower");
-    EXPECT_EQ(pegaNumero(no, 0, "razao"), "UPPER");
+    const XmlNode& no = load("<L razao='lower' RAZAO='UPPER'/>");
+    EXPECT_EQ(textAttribute(no, 0, "RAZAO"), "UPPER");
+    EXPECT_EQ(textAttribute(no, 0, "razao"), "lower");
+    EXPECT_EQ(numberAttribute(no, 0, "razao"), "UPPER");
 }
 
 TEST_F(PegaValorTest, APrefixedAttributeIsPresentAndFailsOnTheLookup) {
-    const XmlNode& no =
-        carrega("<L xmlns:p='u' p:A='1'/><L xmlns:p='u' p:A='1' A='2'/><L q:A='1'/>");
-    esperaErroDeObjeto([&] { pegaTexto(no, 0, "A"); });
-    esperaErroDeObjeto([&] { pegaNumero(no, 0, "A"); });
-    EXPECT_EQ(pegaTexto(no, 1, "A"), "2");
-    esperaErroDeObjeto([&] { pegaTexto(no, 2, "A"); });
+    const XmlNode& no = load("<L xmlns:p='u' p:A='1'/><L xmlns:p='u' p:A='1' A='2'/><L q:A='1'/>");
+    expectObjectError([&] { textAttribute(no, 0, "A"); });
+    expectObjectError([&] { numberAttribute(no, 0, "A"); });
+    EXPECT_EQ(textAttribute(no, 1, "A"), "2");
+    expectObjectError([&] { textAttribute(no, 2, "A"); });
 }
 
 TEST_F(PegaValorTest, ARowThatDoesNotExist) {
-    const XmlNode& no = carrega("<L A='1'/>");
-    esperaErroDeObjeto([&] { pegaTexto(no, 1, "A"); });
-    esperaErroDeObjeto([&] { PegaValor(no, 1, "A", 0.0); });
-    esperaErroDeObjeto([&] { pegaTexto(XmlNode(), 0, "A"); });
+    const XmlNode& no = load("<L A='1'/>");
+    expectObjectError([&] { textAttribute(no, 1, "A"); });
+    expectObjectError([&] { PegaValor(no, 1, "A", 0.0); });
+    expectObjectError([&] { textAttribute(XmlNode(), 0, "A"); });
 }
 
 TEST_F(PegaValorTest, RowsAreCountedByElements) {
-    const XmlNode& no = carrega("\n <!-- c --> <L A='1'/>\n text <L A='2'/>");
-    EXPECT_EQ(pegaTexto(no, 0, "A"), "1");
-    EXPECT_EQ(pegaTexto(no, 1, "A"), "2");
+    const XmlNode& no = load("\n <!-- c --> <L A='1'/>\n text <L A='2'/>");
+    EXPECT_EQ(textAttribute(no, 0, "A"), "1");
+    EXPECT_EQ(textAttribute(no, 1, "A"), "2");
 }
 
 TEST(StatusOf, TheSecondAttributeOfTheSecondChild) {
@@ -108,104 +107,104 @@ TEST(StatusOf, TheSecondAttributeOfTheSecondChild) {
 
 TEST(StatusOf, CannotBeRead) {
     XmlDocument documento;
-    esperaErroDeObjeto([&] { statusOf(documento); });
+    expectObjectError([&] { statusOf(documento); });
     ASSERT_TRUE(documento.loadXML("<R x='1' y='OK'/>"));
-    esperaErroDeObjeto([&] { statusOf(documento); });
+    expectObjectError([&] { statusOf(documento); });
     ASSERT_TRUE(documento.loadXML("<?xml version='1.0'?><R x='OK'/>"));
-    esperaErroDeObjeto([&] { statusOf(documento); });
+    expectObjectError([&] { statusOf(documento); });
     ASSERT_TRUE(documento.loadXML("<?xml version='1.0'?><R/>"));
-    esperaErroDeObjeto([&] { statusOf(documento); });
+    expectObjectError([&] { statusOf(documento); });
 }
 
-class LeitorLinhaTest : public PegaValorTest {
+class RowReaderTest : public PegaValorTest {
 protected:
-    static constexpr std::array<std::string_view, 4> nomes{"CD_PRO", "QTDE", "Ent_Sai", "VL"};
-    LeitorLinha leitor_{nomes};
+    static constexpr std::array<std::string_view, 4> names{"CD_PRO", "QTDE", "Ent_Sai", "VL"};
+    RowReader reader_{names};
 };
 
-TEST_F(LeitorLinhaTest, ReadsAsPegaValorDoes) {
-    const XmlNode& no = carrega(
+TEST_F(RowReaderTest, ReadsAsPegaValorDoes) {
+    const XmlNode& no = load(
         "<I CD_PRO='A.1' QTDE='1.5' outro='x' Ent_Sai='S'/>"
         "<I QTDE='' VL='1.2.3'/>"
         "<I ent_sai='s' qtde='1'/>"
         "<I xmlns:p='u' p:VL='1'/>"
         "<I vl='lower' VL='9.5'/>");
-    leitor_.le(no, 0);
-    EXPECT_EQ(leitor_.texto(0), "A.1");
-    EXPECT_EQ(leitor_.numero(0), "A,1");
-    EXPECT_EQ(leitor_.texto(1), "1.5");
-    EXPECT_EQ(leitor_.numero(1), "1,5");
-    EXPECT_EQ(leitor_.texto(2), "S");
-    esperaErroDeObjeto([&] { (void)leitor_.numero(2); });
-    EXPECT_FALSE(leitor_.presente(3));
-    EXPECT_EQ(leitor_.texto(3), "");
-    EXPECT_EQ(leitor_.numero(3), "0");
-    EXPECT_EQ(leitor_.numero(3, "5"), "5");
-    leitor_.le(no, 1);
-    EXPECT_EQ(leitor_.texto(0), "");
-    EXPECT_TRUE(leitor_.presente(1));
-    EXPECT_EQ(leitor_.numero(1, "5"), "");
-    EXPECT_EQ(leitor_.numero(3), "1,2,3");
-    leitor_.le(no, 2);
-    esperaErroDeObjeto([&] { (void)leitor_.texto(2); });
-    esperaErroDeObjeto([&] { (void)leitor_.numero(1); });
-    leitor_.le(no, 3);
-    EXPECT_TRUE(leitor_.presente(3));
-    esperaErroDeObjeto([&] { (void)leitor_.texto(3); });
-    leitor_.le(no, 4);
-    EXPECT_EQ(leitor_.numero(3), "9,5");
-    EXPECT_THROW(leitor_.le(no, 5), ErroExecucao);
-    EXPECT_THROW(leitor_.le(XmlNode()), ErroExecucao);
+    reader_.read(no, 0);
+    EXPECT_EQ(reader_.texto(0), "A.1");
+    EXPECT_EQ(reader_.number(0), "A,1");
+    EXPECT_EQ(reader_.texto(1), "1.5");
+    EXPECT_EQ(reader_.number(1), "1,5");
+    EXPECT_EQ(reader_.texto(2), "S");
+    expectObjectError([&] { (void)reader_.number(2); });
+    EXPECT_FALSE(reader_.present(3));
+    EXPECT_EQ(reader_.texto(3), "");
+    EXPECT_EQ(reader_.number(3), "0");
+    EXPECT_EQ(reader_.number(3, "5"), "5");
+    reader_.read(no, 1);
+    EXPECT_EQ(reader_.texto(0), "");
+    EXPECT_TRUE(reader_.present(1));
+    EXPECT_EQ(reader_.number(1, "5"), "");
+    EXPECT_EQ(reader_.number(3), "1,2,3");
+    reader_.read(no, 2);
+    expectObjectError([&] { (void)reader_.texto(2); });
+    expectObjectError([&] { (void)reader_.number(1); });
+    reader_.read(no, 3);
+    EXPECT_TRUE(reader_.present(3));
+    expectObjectError([&] { (void)reader_.texto(3); });
+    reader_.read(no, 4);
+    EXPECT_EQ(reader_.number(3), "9,5");
+    EXPECT_THROW(reader_.read(no, 5), RuntimeError);
+    EXPECT_THROW(reader_.read(XmlNode()), RuntimeError);
 }
 
-TEST_F(LeitorLinhaTest, FollowsFromDocumentToDocument) {
+TEST_F(RowReaderTest, FollowsFromDocumentToDocument) {
     for (int i = 0; i < 50; ++i) {
         const std::string extra = i % 2 == 0 ? "a" + std::to_string(i) + "='0' " : "";
-        const XmlNode& no = carrega("<I " + extra + "QTDE='" + std::to_string(i) + "' VL='x'/>");
-        leitor_.le(no, 0);
-        EXPECT_EQ(leitor_.texto(1), std::to_string(i));
-        EXPECT_EQ(leitor_.texto(3), "x");
-        EXPECT_EQ(leitor_.texto(0), "");
+        const XmlNode& no = load("<I " + extra + "QTDE='" + std::to_string(i) + "' VL='x'/>");
+        reader_.read(no, 0);
+        EXPECT_EQ(reader_.texto(1), std::to_string(i));
+        EXPECT_EQ(reader_.texto(3), "x");
+        EXPECT_EQ(reader_.texto(0), "");
     }
 }
 
-TEST_F(LeitorLinhaTest, RowsNeedNotKeepAnOrder) {
-    constexpr std::array<std::string_view, 6> partes{"CD_PRO='c'", "x='1'",  "QTDE='q'",
-                                                     "y='2'",      "VL='v'", "z='3'"};
+TEST_F(RowReaderTest, RowsNeedNotKeepAnOrder) {
+    constexpr std::array<std::string_view, 6> parts{"CD_PRO='c'", "x='1'",  "QTDE='q'",
+                                                    "y='2'",      "VL='v'", "z='3'"};
     std::string linhas;
     for (std::size_t i = 0; i < 64; ++i) {  // turned, and with every set of them
         linhas += "<I";
-        for (std::size_t j = 0; j < partes.size(); ++j) {
-            const std::size_t qual = (i + j) % partes.size();
-            linhas += (i >> qual & 1U) != 0 ? " " + std::string(partes.at(qual)) : "";
+        for (std::size_t j = 0; j < parts.size(); ++j) {
+            const std::size_t which = (i + j) % parts.size();
+            linhas += (i >> which & 1U) != 0 ? " " + std::string(parts.at(which)) : "";
         }
         linhas += "/>";
     }
-    const XmlNode& no = carrega(linhas);
+    const XmlNode& no = load(linhas);
     for (std::size_t i = 0; i < 64; ++i) {
-        leitor_.le(no, i);
-        EXPECT_EQ(leitor_.texto(0), (i & 1U) != 0 ? "c" : "") << i;
-        EXPECT_EQ(leitor_.texto(1), (i & 4U) != 0 ? "q" : "") << i;
-        EXPECT_EQ(leitor_.texto(3), (i & 16U) != 0 ? "v" : "") << i;
+        reader_.read(no, i);
+        EXPECT_EQ(reader_.texto(0), (i & 1U) != 0 ? "c" : "") << i;
+        EXPECT_EQ(reader_.texto(1), (i & 4U) != 0 ? "q" : "") << i;
+        EXPECT_EQ(reader_.texto(3), (i & 16U) != 0 ? "v" : "") << i;
     }
 }
 
-TEST_F(LeitorLinhaTest, ManyDifferentNames) {
+TEST_F(RowReaderTest, ManyDifferentNames) {
     std::string linha = "<I ";
     for (int i = 0; i < 1000; ++i) {
         linha += "N" + std::to_string(i) + "='" + std::to_string(i) + "' ";
     }
-    const XmlNode& no = carrega(linha + "VL='fim'/>");
-    leitor_.le(no, 0);
-    EXPECT_EQ(leitor_.texto(3), "fim");
-    EXPECT_FALSE(leitor_.presente(0));
+    const XmlNode& no = load(linha + "VL='fim'/>");
+    reader_.read(no, 0);
+    EXPECT_EQ(reader_.texto(3), "fim");
+    EXPECT_FALSE(reader_.present(0));
 }
 
-TEST_F(LeitorLinhaTest, UndeclaredPrefixesCountAsPrefixes) {
-    const XmlNode& no = carrega("<I q:VL='1'/>");
-    leitor_.le(no, 0);
-    EXPECT_TRUE(leitor_.presente(3));
-    esperaErroDeObjeto([&] { (void)leitor_.texto(3); });
+TEST_F(RowReaderTest, UndeclaredPrefixesCountAsPrefixes) {
+    const XmlNode& no = load("<I q:VL='1'/>");
+    reader_.read(no, 0);
+    EXPECT_TRUE(reader_.present(3));
+    expectObjectError([&] { (void)reader_.texto(3); });
 }
 
 }  // namespace

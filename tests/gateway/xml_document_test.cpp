@@ -45,8 +45,8 @@ void expectObjectError(const auto& action) {
     try {
         action();
         ADD_FAILURE() << "no error";
-    } catch (const ErroExecucao& erro) {
-        EXPECT_EQ(erro.numero(), ErroNumero::VariavelObjeto);
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), RuntimeErrorCode::ObjectVariable);
     }
 }
 

@@ -20,14 +20,14 @@ const Box noLabels{" Não há Etiquetas nesse intervalo!   ", BoxIcon::Informati
 
 class DrawnForms : public testing::Test {
 protected:
-    std::vector<std::string> print(Formulario form, const std::string& rows,
+    std::vector<std::string> print(LabelForm form, const std::string& rows,
                                    const std::string& from = sender) {
         env.boxes.onShow = [this](const Box&) { beforeBox = env.printer.operations.size(); };
-        imprimeEtiquetas(env.environment, form, run(rows, from), {});
+        printLabels(env.environment, form, run(rows, from), {});
         return env.printer.lines();
     }
     // What is drawn of one label, on a page of its own set up and ended as the form does.
-    std::vector<std::string> page(Formulario form, const std::string& row) {
+    std::vector<std::string> page(LabelForm form, const std::string& row) {
         return print(form, answers::rowset(row));
     }
 
@@ -68,7 +68,7 @@ TEST_P(Pimaco, EveryLabelInItsPlace) {
     }
     const std::size_t drawnBeforeBox = expected.size();
     expected.insert(expected.end(), {"newpage", "enddoc"});
-    EXPECT_THAT(print(Formulario::Pimaco6280, labels(count)), ElementsAreArray(expected));
+    EXPECT_THAT(print(LabelForm::Pimaco6280, labels(count)), ElementsAreArray(expected));
     EXPECT_THAT(env.boxes.shown, ElementsAre(printed));
     EXPECT_EQ(beforeBox, drawnBeforeBox) << "the last sheet waits for OK";
 }
@@ -76,7 +76,7 @@ INSTANTIATE_TEST_SUITE_P(Labels, Pimaco, testing::Values(1, 2, 3, 4, 29, 30, 31,
 
 TEST_F(DrawnForms, TheFirstLabelOfASheetInFull) {
     EXPECT_THAT(
-        print(Formulario::Pimaco6280, labels(1)),
+        print(LabelForm::Pimaco6280, labels(1)),
         ElementsAre("scale\t7", "orientation\t1", "text\t0.500\t1.200\tArial\t6\t1\tNOME 1",
                     "text\t0.500\t1.500\tArial\t6\t1\tRUA 1, 5",
                     "text\t0.500\t1.800\tArial\t6\t1\tCJ 1",
@@ -88,18 +88,17 @@ TEST_F(DrawnForms, TheFirstLabelOfASheetInFull) {
 
 // The calls on the raw channel that end every drawn run: no job is open for them.
 TEST_F(DrawnForms, TheRawChannelIsClosedAllTheSame) {
-    print(Formulario::Pimaco6280, labels(1));
+    print(LabelForm::Pimaco6280, labels(1));
     using Call = RecordingSpooler::Call;
     EXPECT_THAT(env.spooler.calls, ElementsAre(Call::EndPage, Call::EndDocument, Call::Close));
     EXPECT_TRUE(env.spooler.jobs.empty());
 }
 
 TEST_F(DrawnForms, ARangeWithoutLabels) {
-    for (const Formulario form :
-         {Formulario::Pimaco6280, Formulario::A5, Formulario::A4ComRemetente}) {
+    for (const LabelForm form : {LabelForm::Pimaco6280, LabelForm::A5, LabelForm::A4WithSender}) {
         for (const std::string& none : {labels(0), std::string("<xml/>")}) {
             TestEnvironment fresh;
-            imprimeEtiquetas(fresh.environment, form, run(none, sender), {});
+            printLabels(fresh.environment, form, run(none, sender), {});
             EXPECT_THAT(fresh.printer.lines(), ElementsAre("scale\t7", "orientation\t1"));
             EXPECT_THAT(fresh.boxes.shown, ElementsAre(noLabels));
             EXPECT_TRUE(fresh.spooler.calls.empty());
@@ -113,7 +112,7 @@ TEST_F(DrawnForms, ThreeFieldsAreCutTo24Characters) {
                             "X' COMPLEMENTO='" + long24 + "X' BAIRRO='" + long24 +
                             "Y' MUNICIPIO='" + long24 + "Z' UF='" + long24 + "X' CEP='" + long24 +
                             "X' CODIGO='" + long24 + "X'/>";
-    EXPECT_THAT(page(Formulario::Pimaco6280, row),
+    EXPECT_THAT(page(LabelForm::Pimaco6280, row),
                 ElementsAre("scale\t7", "orientation\t1", drawn(500, 1200, 6, long24 + "X"),
                             drawn(500, 1500, 6, long24 + "X"), drawn(500, 1800, 6, long24),
                             drawn(3900, 1800, 6, long24), drawn(500, 2100, 6, long24),
@@ -123,7 +122,7 @@ TEST_F(DrawnForms, ThreeFieldsAreCutTo24Characters) {
 
 TEST_F(DrawnForms, AbsentFieldsAreDrawnEmptyAndControlsAsBlanks) {
     const std::vector<std::string> lines =
-        page(Formulario::Pimaco6280, "<z:row NOME='A&#10;B&#9;C'/>");
+        page(LabelForm::Pimaco6280, "<z:row NOME='A&#10;B&#9;C'/>");
     ASSERT_EQ(lines.size(), 12U);
     EXPECT_EQ(lines[2], drawn(500, 1200, 6, "A B C"));
     EXPECT_EQ(lines[3], drawn(500, 1500, 6, ""));
@@ -131,7 +130,7 @@ TEST_F(DrawnForms, AbsentFieldsAreDrawnEmptyAndControlsAsBlanks) {
 }
 
 TEST_F(DrawnForms, TheA5Page) {
-    EXPECT_THAT(print(Formulario::A5, labels(1)),
+    EXPECT_THAT(print(LabelForm::A5, labels(1)),
                 ElementsAre("scale\t7", "orientation\t1", drawn(500, 1200, 15, "NOME 1"),
                             drawn(500, 1800, 15, "RUA 1, 5"), drawn(500, 2400, 15, "BAIRRO 1"),
                             drawn(10000, 2400, 15, "CJ 1"), drawn(500, 3000, 15, "CIDADE 1"),
@@ -142,7 +141,7 @@ TEST_F(DrawnForms, TheA5Page) {
 }
 
 TEST_F(DrawnForms, TheSecondLabelOnA5FallsOnTheFirst) {
-    const std::vector<std::string> lines = print(Formulario::A5, labels(2));
+    const std::vector<std::string> lines = print(LabelForm::A5, labels(2));
     ASSERT_EQ(lines.size(), 20U);
     EXPECT_EQ(lines[2], drawn(500, 1200, 15, "NOME 1"));
     EXPECT_EQ(lines[10], drawn(500, 1200, 15, "NOME 2"));
@@ -152,10 +151,10 @@ TEST_F(DrawnForms, TheSecondLabelOnA5FallsOnTheFirst) {
 }
 
 TEST_F(DrawnForms, AnA5NameOfMoreThanTenCharactersIsDrawnTwice) {
-    EXPECT_EQ(page(Formulario::A5, "<z:row NOME='ÀBCDEFGHIÇ'/>").size(), 12U);
+    EXPECT_EQ(page(LabelForm::A5, "<z:row NOME='ÀBCDEFGHIÇ'/>").size(), 12U);
     env.printer.operations.clear();
     const std::vector<std::string> lines =
-        page(Formulario::A5,
+        page(LabelForm::A5,
              "<z:row NOME='ÀBCDEFGHIÇK' BAIRRO='1234567890123456789012345' "
              "COMPLEMENTO='1234567890123456789012345' "
              "MUNICIPIO='1234567890123456789012345'/>");
@@ -199,7 +198,7 @@ TEST_F(DrawnForms, AnA4PageForEachLabelWithTheSender) {
     }
     const std::size_t drawnBeforeBox = expected.size();
     expected.emplace_back("enddoc");
-    EXPECT_THAT(print(Formulario::A4ComRemetente, labels(2)), ElementsAreArray(expected));
+    EXPECT_THAT(print(LabelForm::A4WithSender, labels(2)), ElementsAreArray(expected));
     EXPECT_THAT(env.boxes.shown, ElementsAre(printed));
     EXPECT_EQ(beforeBox, drawnBeforeBox);
 }
@@ -209,7 +208,7 @@ const std::string fullLine = "ÀBCDEFGHIJKLMNOPQRSTUVWXYZ0123456789abcdefghÇ";
 
 TEST_F(DrawnForms, ANameOf45CharactersTakesOneLineOf46Two) {
     std::vector<std::string> lines =
-        page(Formulario::A4ComRemetente,
+        page(LabelForm::A4WithSender,
              "<z:row NOME='" + fullLine + "' SOMENTE_ENDERECO='R' CODIGO='C'/>");
     ASSERT_EQ(lines.size(), 2U + 13U + 12U + 2U);
     EXPECT_EQ(lines[4], drawn(500, 1500, 20, fullLine));
@@ -217,7 +216,7 @@ TEST_F(DrawnForms, ANameOf45CharactersTakesOneLineOf46Two) {
     EXPECT_EQ(lines[14], drawn(500, 6300, 20, "C"));
 
     env.printer.operations.clear();
-    lines = page(Formulario::A4ComRemetente,
+    lines = page(LabelForm::A4WithSender,
                  "<z:row NOME='" + fullLine + "È' SOMENTE_ENDERECO='R' CODIGO='C'/>");
     ASSERT_EQ(lines.size(), 2U + 14U + 12U + 2U);
     EXPECT_EQ(lines[4], drawn(500, 1500, 20, fullLine));
@@ -231,8 +230,8 @@ TEST_F(DrawnForms, ANameOf45CharactersTakesOneLineOf46Two) {
 TEST_F(DrawnForms, WhatIsLeftOfALongLineIsNotCutAgain) {
     const std::string rest(60, 'x');
     const std::vector<std::string> lines =
-        page(Formulario::A4ComRemetente, "<z:row SOMENTE_ENDERECO='" + fullLine + rest +
-                                             "' ENDERECO='not this one' BAIRRO='B'/>");
+        page(LabelForm::A4WithSender, "<z:row SOMENTE_ENDERECO='" + fullLine + rest +
+                                          "' ENDERECO='not this one' BAIRRO='B'/>");
     EXPECT_EQ(lines[4], drawn(500, 1500, 20, "")) << "no name";
     EXPECT_EQ(lines[5], drawn(500, 2300, 20, fullLine));
     EXPECT_EQ(lines[6], drawn(500, 3100, 20, rest));
@@ -245,7 +244,7 @@ TEST_F(DrawnForms, TheSendersLongLinesAreBrokenAndItsFieldsNotCut) {
     const std::string from = answers::rowset(
         "<z:row NOME='" + fullLine + "+' ENDERECO='" + fullLine + "-' BAIRRO='" + long30 +
         "' MUNICIPIO='" + long30 + "' UF='PR' CEP='8' DESCRICAO=' " + long30 + " ' NUMERO='12A'/>");
-    const std::vector<std::string> lines = print(Formulario::A4ComRemetente, labels(1), from);
+    const std::vector<std::string> lines = print(LabelForm::A4WithSender, labels(1), from);
     const std::vector<std::string> block(lines.begin() + 15, lines.end() - 2);
     EXPECT_THAT(block, ElementsAre(drawn(500, 15500, 13, "REMETENTE"), drawn(500, 16000, 10, rule),
                                    drawn(500, 16500, 20, fullLine), drawn(500, 17300, 20, "+"),
@@ -260,8 +259,8 @@ TEST_F(DrawnForms, TheSendersLongLinesAreBrokenAndItsFieldsNotCut) {
 TEST_F(DrawnForms, TheAddresseesShortFieldsAreCutOnA4) {
     const std::string long24(24, 'a');
     const std::vector<std::string> lines =
-        page(Formulario::A4ComRemetente, "<z:row COMPLEMENTO='" + long24 + "x' BAIRRO='" + long24 +
-                                             "y' MUNICIPIO='" + long24 + "z'/>");
+        page(LabelForm::A4WithSender, "<z:row COMPLEMENTO='" + long24 + "x' BAIRRO='" + long24 +
+                                          "y' MUNICIPIO='" + long24 + "z'/>");
     EXPECT_EQ(lines[8], drawn(11500, 3100, 20, long24));
     EXPECT_EQ(lines[9], drawn(500, 3900, 20, long24));
     EXPECT_EQ(lines[10], drawn(500, 4700, 20, long24));
@@ -273,10 +272,10 @@ TEST_F(DrawnForms, ANumberThatCountsAsZeroPrintsNothing) {
           std::pair{"0A", ""}, std::pair{"12A", "12A"}, std::pair{"1.500", "1.500"}}) {
         TestEnvironment fresh;
         const std::string field = std::string(" NUMERO='") + number + "'";
-        imprimeEtiquetas(fresh.environment, Formulario::A4ComRemetente,
-                         run(answers::rowset("<z:row" + field + "/>"),
-                             answers::rowset("<z:row DESCRICAO='  '" + field + "/>")),
-                         {});
+        printLabels(fresh.environment, LabelForm::A4WithSender,
+                    run(answers::rowset("<z:row" + field + "/>"),
+                        answers::rowset("<z:row DESCRICAO='  '" + field + "/>")),
+                    {});
         const std::vector<std::string> lines = fresh.printer.lines();
         EXPECT_EQ(lines[6], drawn(500, 3100, 20, "Nº "));
         EXPECT_EQ(lines[7], drawn(1500, 3100, 20, shown)) << number;
@@ -287,33 +286,32 @@ TEST_F(DrawnForms, ANumberThatCountsAsZeroPrintsNothing) {
 
 TEST_F(DrawnForms, AFailureIsShownAndTheNextTextDrawn) {
     env.printer.failAt = 3;  // the second text
-    EXPECT_EQ(print(Formulario::A5, labels(1)).size(), 12U);
+    EXPECT_EQ(print(LabelForm::A5, labels(1)).size(), 12U);
     EXPECT_THAT(env.boxes.shown,
                 ElementsAre(Box{"Descrição :impressora sem papel\r\n   Numero :482"}, printed));
 }
 
 TEST_F(DrawnForms, AFailureOfTheEndIsShownToo) {
     env.printer.failAt = 11;  // EndDoc
-    print(Formulario::A5, labels(1));
+    print(LabelForm::A5, labels(1));
     EXPECT_THAT(env.boxes.shown,
                 ElementsAre(printed, Box{"Descrição :impressora sem papel\r\n   Numero :482"}));
 }
 
 TEST(Sender, MustHaveARow) {
     for (const std::string& none : {answers::rowset(""), std::string("<xml/>")}) {
-        EXPECT_THROW(leRemetente(document(none)), ErroExecucao);
+        EXPECT_THROW(readSender(document(none)), RuntimeError);
     }
 }
 
 TEST_F(DrawnForms, ProgressIsToldLabelByLabel) {
-    for (const Formulario form :
-         {Formulario::Pimaco6280, Formulario::A5, Formulario::A4ComRemetente}) {
+    for (const LabelForm form : {LabelForm::Pimaco6280, LabelForm::A5, LabelForm::A4WithSender}) {
         std::vector<std::size_t> told;
-        imprimeEtiquetas(env.environment, form, run(labels(3), sender),
-                         [&told](std::size_t done, std::size_t total) {
-                             told.push_back(done);
-                             EXPECT_EQ(total, 3U);
-                         });
+        printLabels(env.environment, form, run(labels(3), sender),
+                    [&told](std::size_t done, std::size_t total) {
+                        told.push_back(done);
+                        EXPECT_EQ(total, 3U);
+                    });
         EXPECT_THAT(told, ElementsAre(1, 2, 3));
     }
 }
@@ -340,28 +338,28 @@ TEST_F(DrawnForms, ThePrintersOwnProgressIsToldAfterTheBox) {
                       .baseUrl = {}};
     std::vector<std::string> told;
     env.boxes.onShow = [&told](const Box&) { told.emplace_back("box"); };
-    imprimeEtiquetas(there, Formulario::A4ComRemetente, run(labels(3), sender),
-                     [&told](std::size_t done, std::size_t total) {
-                         told.push_back(std::to_string(done) + "/" + std::to_string(total));
-                     });
+    printLabels(there, LabelForm::A4WithSender, run(labels(3), sender),
+                [&told](std::size_t done, std::size_t total) {
+                    told.push_back(std::to_string(done) + "/" + std::to_string(total));
+                });
     EXPECT_THAT(told, ElementsAre("1/3", "2/3", "3/3", "box", "1/2", "2/2"));
     EXPECT_FALSE(slow.progress);
 }
 
 TEST(FormOf, ComparesTheFormAsANumber) {
-    EXPECT_EQ(formularioDe("1"), Formulario::Pimaco6280);
-    EXPECT_EQ(formularioDe(" 2,0 "), Formulario::Matricial);
-    EXPECT_EQ(formularioDe("03"), Formulario::A5);
+    EXPECT_EQ(labelFormOf("1"), LabelForm::Pimaco6280);
+    EXPECT_EQ(labelFormOf(" 2,0 "), LabelForm::DotMatrix);
+    EXPECT_EQ(labelFormOf("03"), LabelForm::A5);
     for (const char* other : {"4", "0", "5", "1,5", "-1", "", "x"}) {
-        EXPECT_EQ(formularioDe(other), Formulario::A4ComRemetente) << other;
+        EXPECT_EQ(labelFormOf(other), LabelForm::A4WithSender) << other;
     }
 }
 
 TEST(FormOf, NamesAsThePrintScreenShowsThem) {
-    EXPECT_EQ(nomeDoFormulario(Formulario::Pimaco6280), "PIMACO 6280 - LASER");
-    EXPECT_EQ(nomeDoFormulario(Formulario::Matricial), "PIMACO - XXX - MATRICIAL");
-    EXPECT_EQ(nomeDoFormulario(Formulario::A5), "PDF - A5 - LASER");
-    EXPECT_EQ(nomeDoFormulario(Formulario::A4ComRemetente),
+    EXPECT_EQ(labelFormName(LabelForm::Pimaco6280), "PIMACO 6280 - LASER");
+    EXPECT_EQ(labelFormName(LabelForm::DotMatrix), "PIMACO - XXX - MATRICIAL");
+    EXPECT_EQ(labelFormName(LabelForm::A5), "PDF - A5 - LASER");
+    EXPECT_EQ(labelFormName(LabelForm::A4WithSender),
               "PDF - A4 - DESTINATÁRIO - REMETENTE - LASER");
 }
 

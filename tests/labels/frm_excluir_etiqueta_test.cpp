@@ -107,7 +107,7 @@ TEST_F(DeletionScreen, WhatIsNoNumberIsReportedAndItStaysOpen) {
         EXPECT_TRUE(server.addresses.empty());
         click(deletion, "cmdCancelar");
     });
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(DeletionScreen, NoReasonTravelsAsItReads) {

@@ -59,7 +59,7 @@ protected:
             click(selection, "cmdVoltar");
             EXPECT_FALSE(selection.isVisible());
         });
-        menu.abreSelecaoEtiquetas();
+        menu.openLabelSelection();
     }
     // Searches with nothing typed: the grid has its customers.
     void inFound(const Work& work) {

@@ -164,7 +164,7 @@ TEST_F(PrintScreen, ASenderWithoutARowIsReportedAndItStaysOpen) {
             click(print, "cmdCancelar");
         });
     }
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
     EXPECT_TRUE(printer.operations.empty());
     EXPECT_TRUE(spooler.calls.empty());
 }
@@ -191,7 +191,7 @@ TEST_F(PrintScreen, ARangeThatIsNoNumberIsReportedAndItStaysOpen) {
         click(print, "cmdOk");
         EXPECT_EQ(server.queries()[0], queueQuery("NATAL", "1,5", "2"));
     });
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(PrintScreen, AFailureWhileDrawingIsShownAndPrintingGoesOn) {
@@ -319,7 +319,7 @@ TEST_F(PrintScreen, AFieldInAnotherCaseEndsTheProgramBeforeTheSheetComesOut) {
     });
     ASSERT_EQ(boxes.shown.size(), 1U);
     EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '91':", 0), 0U);
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
     EXPECT_FALSE(printer.ended());
 }
 

@@ -61,7 +61,7 @@ TEST_F(QueueScreen, SuppliersHaveTheirOwnReasons) {
                       "comando=sel_motivos&ID_EMP_TARN=2161&ServerName=SRV1&sIc_Ver_Eti=F");
         },
         "mnuImprFornecedores");
-    EXPECT_EQ(sessao.TipoEtiqueta, "F");
+    EXPECT_EQ(session.TipoEtiqueta, "F");
 }
 
 TEST_F(QueueScreen, TabFollowsTheFieldsThenTheButtons) {
@@ -84,7 +84,7 @@ TEST_F(QueueScreen, AReasonShowsItsQueue) {
                               "<z:row SEQUENCIAL='40002' cep='1'/>"));
     inQueue([this](QWidget& queue) {
         server.addresses.clear();
-        pick(queue, "cboMotivo", pascoa);
+        pick(queue, "cboMotivo", easter);
         EXPECT_THAT(server.queries(), ElementsAre(queueQuery("PÁSCOA")));
         ASSERT_EQ(rows(queue), 2);
         std::vector<std::string> row;
@@ -100,9 +100,9 @@ TEST_F(QueueScreen, AReasonShowsItsQueue) {
 
 TEST_F(QueueScreen, AnEmptyQueueAsksForTheReasonAllTheSame) {
     inQueue([this](QWidget& queue) {
-        pick(queue, "cboMotivo", natal);
+        pick(queue, "cboMotivo", christmas);
         EXPECT_EQ(rows(queue), 2);
-        pick(queue, "cboMotivo", pascoa);
+        pick(queue, "cboMotivo", easter);
         EXPECT_EQ(rows(queue), 0);
         pick(queue, "cboTp_Form", 1);
         click(queue, "cmdImprimir");
@@ -115,7 +115,7 @@ TEST_F(QueueScreen, PrintingNeedsAForm) {
     inQueue([this](QWidget& queue) {
         click(queue, "cmdImprimir");
         EXPECT_EQ(focused(queue), "cboMotivo");
-        pick(queue, "cboMotivo", natal);
+        pick(queue, "cboMotivo", christmas);
         click(queue, "cmdImprimir");
         EXPECT_THAT(boxes.shown, ElementsAre(chooseReason, chooseForm));
         EXPECT_EQ(focused(queue), "cboTp_Form");
@@ -124,9 +124,9 @@ TEST_F(QueueScreen, PrintingNeedsAForm) {
 
 TEST_F(QueueScreen, ChoosingTheSameReasonAgainReadsItAgain) {
     inQueue([this](QWidget& queue) {
-        pick(queue, "cboMotivo", natal);
+        pick(queue, "cboMotivo", christmas);
         server.addresses.clear();
-        pick(queue, "cboMotivo", natal);
+        pick(queue, "cboMotivo", christmas);
         EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL")));
     });
 }
@@ -212,7 +212,7 @@ TEST_F(QueueScreen, WhatIsPressedDuringARequestIsLost) {
     inQueue([this](QWidget& queue) {
         server.addresses.clear();
         pressSoon(queue, "cmdImprimir");
-        pick(queue, "cboMotivo", natal);
+        pick(queue, "cboMotivo", christmas);
         QCoreApplication::processEvents();
         EXPECT_TRUE(queue.isVisible());
         EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL")));
@@ -254,7 +254,7 @@ TEST_F(QueueScreen, ServerTextsAreShownAsTheyAre) {
 
 TEST_F(QueueScreen, NoReasonChosenByHandIsAskedForOnceAndNotOnReturning) {
     inQueue([this](QWidget& queue) {
-        pick(queue, "cboMotivo", natal);
+        pick(queue, "cboMotivo", christmas);
         server.addresses.clear();
         pick(queue, "cboMotivo", 0);
         EXPECT_THAT(server.queries(), ElementsAre(queueQuery("--------")));
@@ -278,7 +278,7 @@ TEST_F(QueueScreen, AFailedReadingKeepsTheGrid) {
     inReadQueue(1, [this](QWidget& queue) {
         server = ScriptedLoader();
         server.on("sel_dados_empresa", answers::branch("F"));
-        pick(queue, "cboMotivo", pascoa);
+        pick(queue, "cboMotivo", easter);
         EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
         EXPECT_EQ(rows(queue), 2);
         EXPECT_EQ(cell(queue, 1, 3), "NOME 1");
@@ -304,12 +304,12 @@ TEST_F(QueueScreen, FailedReasonsLeaveNoneToChoose) {
 }
 
 TEST_F(QueueScreen, FailedBranchesLeaveAnEmptyListAndTheFormerSender) {
-    inReadQueue(4, [](QWidget& queue) { pick(queue, "CboFilialRemet", sul); });
+    inReadQueue(4, [](QWidget& queue) { pick(queue, "CboFilialRemet", south); });
     server.failOn("comando=sel_filiais_remetente");
     inQueue([this](QWidget& queue) {
         EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
         EXPECT_THAT(items(queue, "CboFilialRemet"), IsEmpty());
-        pick(queue, "cboMotivo", natal);
+        pick(queue, "cboMotivo", christmas);
         pick(queue, "cboTp_Form", 4);
         printing(queue, [this](QWidget& print) {
             range(print, "1", "2");
@@ -328,7 +328,7 @@ TEST_F(QueueScreen, TheSenderIsAskedForOnTheFourthFormOnlyAndKept) {
         EXPECT_FALSE(shown());
         pick(queue, "cboTp_Form", 4);
         EXPECT_TRUE(shown());
-        pick(queue, "CboFilialRemet", sul);
+        pick(queue, "CboFilialRemet", south);
         pick(queue, "cboTp_Form", 1);
         EXPECT_FALSE(shown());
         printing(queue, [this](QWidget& print) {
@@ -337,13 +337,13 @@ TEST_F(QueueScreen, TheSenderIsAskedForOnTheFourthFormOnlyAndKept) {
         });
         EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL", "1", "2"), senderQuery("12"),
                                                   queueQuery("NATAL")));
-        EXPECT_EQ(named<QComboBox>(queue, "CboFilialRemet").currentIndex(), sul);
+        EXPECT_EQ(named<QComboBox>(queue, "CboFilialRemet").currentIndex(), south);
     });
 }
 
 TEST_F(QueueScreen, NoSenderChosenTravelsAsZero) {
     inReadQueue(4, [this](QWidget& queue) {
-        pick(queue, "CboFilialRemet", sul);
+        pick(queue, "CboFilialRemet", south);
         pick(queue, "CboFilialRemet", 0);
         printing(queue, [this](QWidget& print) {
             range(print, "1", "2");
@@ -354,7 +354,7 @@ TEST_F(QueueScreen, NoSenderChosenTravelsAsZero) {
 }
 
 TEST_F(QueueScreen, ANewOpeningForgetsTheSender) {
-    inReadQueue(4, [](QWidget& queue) { pick(queue, "CboFilialRemet", sul); });
+    inReadQueue(4, [](QWidget& queue) { pick(queue, "CboFilialRemet", south); });
     inReadQueue(4, [this](QWidget& queue) {
         printing(queue, [this](QWidget& print) {
             range(print, "1", "2");
@@ -386,7 +386,7 @@ TEST_F(QueueScreen, AQueueLongerThanAnyCounterOf16Bits) {
     }
     server.on("sDc_Mot_Imp=NATAL&", answers::rowset(many));
     inQueue([this](QWidget& queue) {
-        pick(queue, "cboMotivo", natal);
+        pick(queue, "cboMotivo", christmas);
         EXPECT_EQ(rows(queue), 40000);
         EXPECT_EQ(cell(queue, 40000, 1), "40000");
         pick(queue, "cboTp_Form", 1);

@@ -26,8 +26,8 @@ inline std::string label(int number) {
            "'/>";
 }
 
-inline Impressao run(const std::string& rows, const std::string& from) {
-    return {document(rows), leRemetente(document(from))};
+inline PrintRun run(const std::string& rows, const std::string& from) {
+    return {document(rows), readSender(document(from))};
 }
 
 inline std::string labels(int count) {

@@ -46,9 +46,9 @@ protected:
         return printRange(env, from, to);
     }
     bool printRange(TestEnvironment& where, const std::string& from, const std::string& to) {
-        const auto found = buscaIntervalo(where.environment, session, values, {from, to});
+        const auto found = fetchRange(where.environment, session, values, {from, to});
         if (found) {
-            imprimeEtiquetas(where.environment, formularioDe(values.TipoFormulario), *found, {});
+            printLabels(where.environment, labelFormOf(values.TipoFormulario), *found, {});
         }
         return found.has_value();
     }
@@ -59,7 +59,7 @@ protected:
 
     TestEnvironment env;
     Sessao session;
-    ValoresEtiquetas values;
+    LabelValues values;
 };
 
 constexpr char senderQuery[] =
@@ -143,24 +143,24 @@ TEST_F(LabelFlows, TheQueueOfAReasonIsReadWhole) {
                   answers::rowset("<z:row SEQUENCIAL='40001' CEP='1' NOME='N' CODIGO='2' "
                                   "ENDERECO='E' COMPLEMENTO='C' BAIRRO='B' MUNICIPIO='M' UF='SP' "
                                   "PAIS='BR'/><z:row SEQUENCIAL='40002' nome='other case'/>"));
-    const auto queue = leFila(env.environment, session, "PÁSCOA", values);
+    const auto queue = readQueue(env.environment, session, "PÁSCOA", values);
     EXPECT_THAT(env.loader.queries(),
                 ElementsAre("comando=sel_etiquetas&ID_EMP_TARN=2161&sDc_Mot_Imp=PÁSCOA&nSeq_De="
                             "&nSeq_Ate=&ServerName=SRV1"));
     ASSERT_TRUE(queue);
     ASSERT_EQ(queue->size(), 2U);
-    EXPECT_THAT(queue->at(0).celulas,
+    EXPECT_THAT(queue->at(0).cells,
                 ElementsAre("40001", "1", "N", "2", "E", "C", "B", "M", "SP", "BR"));
-    EXPECT_THAT(queue->at(1).celulas, ElementsAre("40002", "", "", "", "", "", "", "", "", ""));
+    EXPECT_THAT(queue->at(1).cells, ElementsAre("40002", "", "", "", "", "", "", "", "", ""));
     EXPECT_EQ(values.MotivoImpressao, "PÁSCOA");
-    EXPECT_EQ(values.quantidade, 2U);
+    EXPECT_EQ(values.quantity, 2U);
 }
 
 TEST_F(LabelFlows, AFailedReadingKeepsTheSizeButNotTheReason) {
-    values.quantidade = 3;
-    EXPECT_FALSE(leFila(env.environment, session, "PÁSCOA", values));
+    values.quantity = 3;
+    EXPECT_FALSE(readQueue(env.environment, session, "PÁSCOA", values));
     EXPECT_EQ(values.MotivoImpressao, "PÁSCOA");
-    EXPECT_EQ(values.quantidade, 3U);
+    EXPECT_EQ(values.quantity, 3U);
     EXPECT_THAT(env.boxes.shown, ElementsAre(noInternet9));
 }
 
@@ -168,10 +168,10 @@ TEST_F(LabelFlows, ReasonsAndSendingBranches) {
     env.loader.on("sel_motivos", answers::rowset("<z:row DC_MOT_IMP='NATAL'/><z:row/>"))
         .on("sel_filiais_remetente",
             answers::rowset("<z:row FILIAL='SUL' ID_ETB='12'/><z:row FILIAL='X' ID_ETB='A'/>"));
-    EXPECT_THAT(carregaMotivos(env.environment, session),
-                ElementsAre(ItemLista{"--------", 0}, ItemLista{"NATAL", 0}, ItemLista{"", 0}));
-    EXPECT_THAT(carregaFiliaisRemetente(env.environment, session).value(),
-                ElementsAre(ItemLista{"--------", 0}, ItemLista{"SUL", 12}, ItemLista{"X", 0}));
+    EXPECT_THAT(loadReasons(env.environment, session),
+                ElementsAre(ListItem{"--------", 0}, ListItem{"NATAL", 0}, ListItem{"", 0}));
+    EXPECT_THAT(loadSenderBranches(env.environment, session).value(),
+                ElementsAre(ListItem{"--------", 0}, ListItem{"SUL", 12}, ListItem{"X", 0}));
     EXPECT_THAT(env.loader.queries(),
                 ElementsAre("comando=sel_motivos&ID_EMP_TARN=2161&ServerName=SRV1&sIc_Ver_Eti=F",
                             "comando=sel_filiais_remetente&ID_EMP_TARN=2161&nId_Pes_Usu=77"
@@ -179,17 +179,17 @@ TEST_F(LabelFlows, ReasonsAndSendingBranches) {
 }
 
 TEST_F(LabelFlows, FailedListsHaveTheirOwnTexts) {
-    EXPECT_THAT(carregaMotivos(env.environment, session), ElementsAre(ItemLista{"--------", 0}));
-    EXPECT_FALSE(carregaFiliaisRemetente(env.environment, session));
+    EXPECT_THAT(loadReasons(env.environment, session), ElementsAre(ListItem{"--------", 0}));
+    EXPECT_FALSE(loadSenderBranches(env.environment, session));
     EXPECT_THAT(env.boxes.shown, ElementsAre(noInternet9Wide, noInternet9));
 }
 
 TEST_F(LabelFlows, PrintingNeedsAQueueThenAForm) {
-    values.quantidade = 0;
-    EXPECT_EQ(verificaEscolhas(env.environment, values, 0), FaltaEscolher::Motivo);
-    values.quantidade = 1;
-    EXPECT_EQ(verificaEscolhas(env.environment, values, 0), FaltaEscolher::Formulario);
-    EXPECT_EQ(verificaEscolhas(env.environment, values, 1), FaltaEscolher::Nada);
+    values.quantity = 0;
+    EXPECT_EQ(checkChoices(env.environment, values, 0), MissingChoice::Reason);
+    values.quantity = 1;
+    EXPECT_EQ(checkChoices(env.environment, values, 0), MissingChoice::LabelForm);
+    EXPECT_EQ(checkChoices(env.environment, values, 1), MissingChoice::Nothing);
     EXPECT_THAT(env.boxes.shown,
                 ElementsAre(information("É necessário escolher o Motivo de Impressão.     "),
                             information("Tipo de formulário é um campo obrigatório.     ")));
@@ -197,7 +197,7 @@ TEST_F(LabelFlows, PrintingNeedsAQueueThenAForm) {
 
 TEST_F(LabelFlows, ADeletionIsSentAndCalledASuccess) {
     env.loader.on("exclui_etiquetas", answers::status("Recusado"));
-    EXPECT_EQ(excluiEtiquetas(env.environment, session, "--------", "009", "7"), Exclusao::Enviada);
+    EXPECT_EQ(deleteLabels(env.environment, session, "--------", "009", "7"), Deletion::Sent);
     EXPECT_THAT(env.loader.queries(),
                 ElementsAre("comando=exclui_etiquetas&ID_EMP_TARN=2161&nSeq_De=9&nSeq_Ate=7"
                             "&nId_Motivo=--------&ServerName=SRV1"));
@@ -205,14 +205,14 @@ TEST_F(LabelFlows, ADeletionIsSentAndCalledASuccess) {
 }
 
 TEST_F(LabelFlows, AFailedDeletionIsCalledASuccessToo) {
-    EXPECT_EQ(excluiEtiquetas(env.environment, session, "X", "1", "2"), Exclusao::Enviada);
+    EXPECT_EQ(deleteLabels(env.environment, session, "X", "1", "2"), Deletion::Sent);
     EXPECT_THAT(env.boxes.shown,
                 ElementsAre(noInternet9, information("Etiquetas excluídas com sucesso!     ")));
 }
 
 TEST_F(LabelFlows, ADeletionNeedsBothEnds) {
-    EXPECT_EQ(excluiEtiquetas(env.environment, session, "X", "", ""), Exclusao::FaltaDe);
-    EXPECT_EQ(excluiEtiquetas(env.environment, session, "X", "1", ""), Exclusao::FaltaAte);
+    EXPECT_EQ(deleteLabels(env.environment, session, "X", "", ""), Deletion::MissingFrom);
+    EXPECT_EQ(deleteLabels(env.environment, session, "X", "1", ""), Deletion::MissingTo);
     EXPECT_THAT(env.boxes.shown, ElementsAre(information("De é um campo obrigatório!  "),
                                              information("Até é um campo obrigatório!  ")));
     EXPECT_TRUE(env.loader.addresses.empty());
@@ -221,7 +221,7 @@ TEST_F(LabelFlows, ADeletionNeedsBothEnds) {
 TEST_F(LabelFlows, ADeletionOfWhatIsNoNumberIsReported) {
     for (const auto& [from, to] : {std::pair{",", "1"}, std::pair{"1", ",,"}}) {
         env.boxes.shown.clear();
-        EXPECT_EQ(excluiEtiquetas(env.environment, session, "X", from, to), Exclusao::SemNumero);
+        EXPECT_EQ(deleteLabels(env.environment, session, "X", from, to), Deletion::NotANumber);
         ASSERT_EQ(env.boxes.shown.size(), 1U);
         EXPECT_EQ(env.boxes.shown[0].icon, BoxIcon::Critical);
         EXPECT_EQ(env.boxes.shown[0].text.rfind("Erro em tempo de execução '13':\r\r", 0), 0U);
@@ -229,20 +229,18 @@ TEST_F(LabelFlows, ADeletionOfWhatIsNoNumberIsReported) {
     EXPECT_TRUE(env.loader.addresses.empty());
 }
 
-const ItemLista todas{"<-TODAS->", -1};
+const ListItem all{"<-TODAS->", -1};
 
 TEST_F(LabelFlows, ListsOfTheSelection) {
     env.loader.on("sel_filias", answers::rowset("<z:row FILIAL='SUL' ID_ETB='12'/>"))
         .on("sel_pais", answers::rowset("<z:row NM_PAIS='BRASIL' ID_PAIS='55'/>"))
         .on("sel_estado", answers::rowset("<z:row NM_UF='SÃO PAULO' ID_UF='35'/>"))
         .on("sel_cidade", answers::rowset("<z:row NM_MUN='SANTOS' ID_MUN='-9'/>"));
-    EXPECT_THAT(carregaFiliais(env.environment, session), ElementsAre(todas, ItemLista{"SUL", 12}));
-    EXPECT_THAT(carregaPaises(env.environment, session),
-                ElementsAre(todas, ItemLista{"BRASIL", 55}));
-    EXPECT_THAT(carregaEstados(env.environment, session, 55),
-                ElementsAre(todas, ItemLista{"SÃO PAULO", 35}));
-    EXPECT_THAT(carregaCidades(env.environment, session, 35),
-                ElementsAre(todas, ItemLista{"SANTOS", -9}));
+    EXPECT_THAT(loadBranches(env.environment, session), ElementsAre(all, ListItem{"SUL", 12}));
+    EXPECT_THAT(loadCountries(env.environment, session), ElementsAre(all, ListItem{"BRASIL", 55}));
+    EXPECT_THAT(loadStates(env.environment, session, 55),
+                ElementsAre(all, ListItem{"SÃO PAULO", 35}));
+    EXPECT_THAT(loadTowns(env.environment, session, 35), ElementsAre(all, ListItem{"SANTOS", -9}));
     EXPECT_THAT(env.loader.queries(),
                 ElementsAre("comando=sel_filias&nId_Emp_Tarn=2161&nId_Pes_Usu=77&ServerName=SRV1",
                             "comando=sel_pais&ServerName=SRV1",
@@ -251,10 +249,10 @@ TEST_F(LabelFlows, ListsOfTheSelection) {
 }
 
 TEST_F(LabelFlows, FailedListsOfTheSelection) {
-    EXPECT_THAT(carregaFiliais(env.environment, session), IsEmpty());
-    EXPECT_THAT(carregaPaises(env.environment, session), IsEmpty());
-    EXPECT_THAT(carregaEstados(env.environment, session, 1), IsEmpty());
-    EXPECT_THAT(carregaCidades(env.environment, session, 1), IsEmpty());
+    EXPECT_THAT(loadBranches(env.environment, session), IsEmpty());
+    EXPECT_THAT(loadCountries(env.environment, session), IsEmpty());
+    EXPECT_THAT(loadStates(env.environment, session, 1), IsEmpty());
+    EXPECT_THAT(loadTowns(env.environment, session, 1), IsEmpty());
     EXPECT_THAT(env.boxes.shown,
                 ElementsAre(noInternet9Wide, noInternet9Wide, noInternet9Wide, noInternet9Wide));
 }
@@ -270,22 +268,22 @@ TEST(MontaURLTest, GivesTheChosenItemOrAllOthers) {
 }
 
 TEST_F(LabelFlows, WhatWasBoughtAsksForTheDateOfTheSale) {
-    comando::FiltroEtiquetas filter{.cepDe = "1"};
-    EXPECT_EQ(verificaDatas(env.environment, filter), FaltaData::Nenhuma) << "CEP alone is free";
+    commands::LabelFilter filter{.cepDe = "1"};
+    EXPECT_EQ(checkDates(env.environment, filter), MissingDate::None) << "CEP alone is free";
     for (const auto member :
-         {&comando::FiltroEtiquetas::produto, &comando::FiltroEtiquetas::valorDe,
-          &comando::FiltroEtiquetas::valorAte, &comando::FiltroEtiquetas::quantidadeDe,
-          &comando::FiltroEtiquetas::quantidadeAte}) {
+         {&commands::LabelFilter::product, &commands::LabelFilter::amountFrom,
+          &commands::LabelFilter::amountTo, &commands::LabelFilter::quantityFrom,
+          &commands::LabelFilter::quantityTo}) {
         env.boxes.shown.clear();
         filter = {};
         filter.*member = " ";
-        EXPECT_EQ(verificaDatas(env.environment, filter), FaltaData::De);
-        filter.vendaAte = "01/01/2012";
-        EXPECT_EQ(verificaDatas(env.environment, filter), FaltaData::De);
-        filter.vendaDe = "01/01/2012";
-        EXPECT_EQ(verificaDatas(env.environment, filter), FaltaData::Nenhuma);
-        filter.vendaAte = "";
-        EXPECT_EQ(verificaDatas(env.environment, filter), FaltaData::Ate);
+        EXPECT_EQ(checkDates(env.environment, filter), MissingDate::De);
+        filter.saleTo = "01/01/2012";
+        EXPECT_EQ(checkDates(env.environment, filter), MissingDate::De);
+        filter.saleFrom = "01/01/2012";
+        EXPECT_EQ(checkDates(env.environment, filter), MissingDate::None);
+        filter.saleTo = "";
+        EXPECT_EQ(checkDates(env.environment, filter), MissingDate::To);
         const Box box{"Data de Venda obrigatoria nesta ocasião!", BoxIcon::None, "Alert"};
         EXPECT_THAT(env.boxes.shown, ElementsAre(box, box, box));
     }
@@ -297,28 +295,28 @@ TEST_F(LabelFlows, TheSearchShowsItsQueryFirst) {
                                   "SG_UF='SP' NM_MUN='M'/><z:row CD_CEP='2'/>"));
     env.boxes.onShow = [this](const Box&) { EXPECT_TRUE(env.loader.addresses.empty()); };
     const auto customers =
-        pesquisaClientes(env.environment, session, {.filiais = "1, 2", .produto = "P&Q"});
+        searchCustomers(env.environment, session, {.branches = "1, 2", .product = "P&Q"});
     const std::string query =
         "comando=sel_dados_etq&nIdEtbTarn=1, 2&nIdPais=&nIdMatPro=P&Q&nCepDe=&nCepAte=&dDtDe="
         "&dDtAte=&nVlrDe=&nVlrAte=&nQtDe=&nQtAte=&nIdOrd=NOME&ServerName=SRV1";
     EXPECT_THAT(env.boxes.shown, ElementsAre(Box{query}));
     EXPECT_THAT(env.loader.queries(), ElementsAre(query));
     ASSERT_EQ(customers.size(), 2U);
-    EXPECT_THAT(customers[0].celulas, ElementsAre("", "1", "N", "L", "B", "SP", "M"));
-    EXPECT_THAT(customers[1].celulas, ElementsAre("", "2", "", "", "", "", ""));
-    EXPECT_FALSE(customers[0].marcada);
+    EXPECT_THAT(customers[0].cells, ElementsAre("", "1", "N", "L", "B", "SP", "M"));
+    EXPECT_THAT(customers[1].cells, ElementsAre("", "2", "", "", "", "", ""));
+    EXPECT_FALSE(customers[0].ticked);
 }
 
 TEST_F(LabelFlows, AFailedSearchFindsNobody) {
-    EXPECT_THAT(pesquisaClientes(env.environment, session, {}), IsEmpty());
+    EXPECT_THAT(searchCustomers(env.environment, session, {}), IsEmpty());
     ASSERT_EQ(env.boxes.shown.size(), 2U);
     EXPECT_EQ(env.boxes.shown[1], noInternet9Wide);
 }
 
 const Box madeBox{"Impressão Gerada com Sucesso !", BoxIcon::None, "Alerta"};
 
-std::vector<LinhaGrade> customers(int count) {
-    std::vector<LinhaGrade> rows;
+std::vector<GridRow> customers(int count) {
+    std::vector<GridRow> rows;
     for (int i = 1; i <= count; ++i) {
         const std::string n = std::to_string(i);
         rows.push_back(
@@ -329,9 +327,9 @@ std::vector<LinhaGrade> customers(int count) {
 }
 
 TEST_F(LabelFlows, TickedCustomersPrintTwoAcross) {
-    std::vector<LinhaGrade> rows = customers(4);
-    rows[1].marcada = false;
-    imprimeSelecao(env.environment, rows, {});
+    std::vector<GridRow> rows = customers(4);
+    rows[1].ticked = false;
+    printSelection(env.environment, rows, {});
     // 0.7 and 1.7 times 2.55, half a centimetre off.
     EXPECT_THAT(env.printer.lines(),
                 ElementsAre("scale\t7", "orientation\t1", drawn(800, 1545, 10, "NOME 1"),
@@ -345,15 +343,15 @@ TEST_F(LabelFlows, TickedCustomersPrintTwoAcross) {
 }
 
 TEST_F(LabelFlows, NobodyTickedIsCalledASuccessToo) {
-    std::vector<LinhaGrade> rows = customers(1);
-    rows[0].marcada = false;
-    imprimeSelecao(env.environment, rows, {});
+    std::vector<GridRow> rows = customers(1);
+    rows[0].ticked = false;
+    printSelection(env.environment, rows, {});
     EXPECT_THAT(env.printer.lines(), ElementsAre("scale\t7", "orientation\t1", "enddoc"));
     EXPECT_THAT(env.boxes.shown, ElementsAre(madeBox));
 }
 
 TEST_F(LabelFlows, TheSelectionsPageIsNeverBroken) {
-    imprimeSelecao(env.environment, customers(60), {});
+    printSelection(env.environment, customers(60), {});
     const std::vector<std::string> lines = env.printer.lines();
     ASSERT_EQ(lines.size(), 2U + 60U * 4U + 1U);
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "newpage"), 0);
@@ -362,10 +360,10 @@ TEST_F(LabelFlows, TheSelectionsPageIsNeverBroken) {
 }
 
 TEST_F(LabelFlows, TheSelectionsTextsAreCut) {
-    LinhaGrade row{{"", std::string(60, '1'), std::string(41, 'n'), std::string(51, 'e'),
-                    std::string(51, 'b'), "", std::string(41, 'm')},
-                   true};
-    imprimeSelecao(env.environment, std::vector{row}, {});
+    GridRow row{{"", std::string(60, '1'), std::string(41, 'n'), std::string(51, 'e'),
+                 std::string(51, 'b'), "", std::string(41, 'm')},
+                true};
+    printSelection(env.environment, std::vector{row}, {});
     const std::vector<std::string> lines = env.printer.lines();
     ASSERT_EQ(lines.size(), 7U);
     EXPECT_EQ(lines[2], drawn(800, 1545, 10, std::string(40, 'n')));
@@ -376,7 +374,7 @@ TEST_F(LabelFlows, TheSelectionsTextsAreCut) {
 
 TEST_F(LabelFlows, AFailureOfTheSelectionIsShownAndItGoesOn) {
     env.printer.failAt = 2;
-    imprimeSelecao(env.environment, customers(1), {});
+    printSelection(env.environment, customers(1), {});
     EXPECT_EQ(env.printer.operations.size(), 7U);
     EXPECT_THAT(env.boxes.shown,
                 ElementsAre(Box{"Descrição :impressora sem papel\r\n   Numero :482"}, madeBox));

@@ -45,9 +45,9 @@ class LabelScreens : public ScreenTest {
 protected:
     using Work = std::function<void(QWidget&)>;
     // Positions of the queue screen's lists.
-    static constexpr int natal = 1;
-    static constexpr int pascoa = 2;
-    static constexpr int sul = 1;
+    static constexpr int christmas = 1;
+    static constexpr int easter = 2;
+    static constexpr int south = 1;
 
     void SetUp() override {
         ScreenTest::SetUp();
@@ -78,7 +78,7 @@ protected:
     // The queue with NATAL read and a form chosen, and nothing of that kept.
     void inReadQueue(int form, const Work& work) {
         inQueue([this, form, work](QWidget& queue) {
-            pick(queue, "cboMotivo", natal);
+            pick(queue, "cboMotivo", christmas);
             pick(queue, "cboTp_Form", form);
             server.addresses.clear();
             work(queue);

@@ -12,8 +12,8 @@ protected:
         LabelScreens::SetUp();
         menu.hide();
         entered(1361, 1361);
-        sessao.UserCode = "101";
-        sessao.SERVERNAME = "DADOS1361";
+        session.UserCode = "101";
+        session.SERVERNAME = "DADOS1361";
         realMenu.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&realMenu));
     }
@@ -25,7 +25,7 @@ protected:
     CurlLoader curl;
     BlockingLoader real{curl};
     Environment overNetwork{real, spooler, printer, boxes, clock, machine, page.baseUrl()};
-    DeskContext realDesk{overNetwork, sessao, fim};
+    DeskContext realDesk{overNetwork, session, end};
     MDIMenu realMenu{realDesk};
 };
 
@@ -72,7 +72,7 @@ TEST_F(PracticeLabels, CustomersAreFoundByTheirPlaceAndPrinted) {
         EXPECT_EQ(printer.operations.size(), 2U + 4U + 1U);
         click(selection, "cmdVoltar");
     });
-    realMenu.abreSelecaoEtiquetas();
+    realMenu.openLabelSelection();
 }
 
 }  // namespace

@@ -51,7 +51,7 @@ void addGroup(std::vector<std::string>& writes, int first, int last) {
 class RawForm : public testing::Test {
 protected:
     void print(const std::string& rows) {
-        imprimeEtiquetas(env.environment, Formulario::Matricial, run(rows, sender), {});
+        printLabels(env.environment, LabelForm::DotMatrix, run(rows, sender), {});
     }
     void expectsJobs() {
         ASSERT_EQ(env.spooler.jobs.size(), 2U);
@@ -134,11 +134,11 @@ TEST_F(RawForm, APrinterThatCantBeOpenedGoesUnnoticed) {
 
 TEST_F(RawForm, ProgressIsToldGroupByGroup) {
     std::vector<std::size_t> told;
-    imprimeEtiquetas(env.environment, Formulario::Matricial, run(labels(6), sender),
-                     [&told](std::size_t done, std::size_t total) {
-                         told.push_back(done);
-                         EXPECT_EQ(total, 6U);
-                     });
+    printLabels(env.environment, LabelForm::DotMatrix, run(labels(6), sender),
+                [&told](std::size_t done, std::size_t total) {
+                    told.push_back(done);
+                    EXPECT_EQ(total, 6U);
+                });
     EXPECT_THAT(told, ElementsAre(4, 6));
 }
 

@@ -211,9 +211,9 @@ TEST(Blocks, ABadAmountKeepsTheCodeOffThePaperToo) {
     NoteText note = withItems({"P", "P"});
     note.items[1]["VALOR_UN"] = "x";
     const Form form{.steps = codeAhead};
-    std::optional<ErroNumero> erro;
-    const std::vector<Job> jobs = print(form, note.xml(), &erro);
-    EXPECT_EQ(erro, ErroNumero::TipoIncompativel);
+    std::optional<RuntimeErrorCode> error;
+    const std::vector<Job> jobs = print(form, note.xml(), &error);
+    EXPECT_EQ(error, RuntimeErrorCode::TypeMismatch);
     EXPECT_EQ(jobs.back().bytes(), "  C1           7,00\r\n");
     EXPECT_FALSE(jobs.back().ended);
 }
@@ -372,17 +372,17 @@ TEST(Services, ABadAmountStopsBeforeTheFirstServiceLine) {
     NoteText note = servicesNote(3, "2");
     note.items.back()["VL_ISS"] = "";
     const Form form{.steps = withServices};
-    std::optional<ErroNumero> erro;
-    const std::vector<Job> jobs = print(form, note.xml(), &erro);
-    EXPECT_EQ(erro, ErroNumero::TipoIncompativel);
+    std::optional<RuntimeErrorCode> error;
+    const std::vector<Job> jobs = print(form, note.xml(), &error);
+    EXPECT_EQ(error, RuntimeErrorCode::TypeMismatch);
     EXPECT_EQ(jobs.back().bytes(), " C1   \r\n \r\n");
 }
 
 TEST(Services, ACountThatIsNoNumberStopsBeforeTheItems) {
     const Form form{.steps = withServices};
-    std::optional<ErroNumero> erro;
-    const std::vector<Job> jobs = print(form, servicesNote(1, "x").xml(), &erro);
-    EXPECT_EQ(erro, ErroNumero::TipoIncompativel);
+    std::optional<RuntimeErrorCode> error;
+    const std::vector<Job> jobs = print(form, servicesNote(1, "x").xml(), &error);
+    EXPECT_EQ(error, RuntimeErrorCode::TypeMismatch);
     EXPECT_EQ(jobs.back().bytes(), "");
 }
 

@@ -19,12 +19,12 @@ protected:
 
     // Prints `xml`, which must stop with `number` right before the first call that
     // `stopsAt` knows; all calls are those of the note `like`.
-    void check(const std::string& xml, ErroNumero number,
+    void check(const std::string& xml, RuntimeErrorCode number,
                const std::function<bool(const ExpectedCall&)>& stopsAt, const NoteCase& like = {}) {
         const Printed printed = printXml(form().ladder, form().company, form().establishment, xml);
         ASSERT_TRUE(printed.error) << "printed to the end";
-        EXPECT_EQ(static_cast<int>(number), static_cast<int>(printed.error->numero()))
-            << printed.error->descricao();
+        EXPECT_EQ(static_cast<int>(number), static_cast<int>(printed.error->number()))
+            << printed.error->description();
         std::vector<ExpectedCall> before = expectedNote(form(), mapOf(form()), like).jobs.back();
         const auto stop = std::find_if(before.begin(), before.end(), stopsAt);
         ASSERT_NE(before.end(), stop);
@@ -58,7 +58,7 @@ std::string nameOf(const testing::TestParamInfo<FormFacts>& info) {
 TEST_P(BrokenNote, NoItem) {
     NoteDraft draft = draftOf({});
     draft.items.clear();
-    check(draft.xml(), ErroNumero::VariavelObjeto, whatIs("item 1"));
+    check(draft.xml(), RuntimeErrorCode::ObjectVariable, whatIs("item 1"));
 }
 
 TEST_P(BrokenNote, RootOfAnotherName) {
@@ -66,20 +66,20 @@ TEST_P(BrokenNote, RootOfAnotherName) {
     for (std::size_t at = xml.find("PRINCIPAL"); at != std::string::npos;
          at = xml.find("PRINCIPAL"))
         xml.replace(at, 9, "principal");
-    check(xml, ErroNumero::VariavelObjeto, isMark);
+    check(xml, RuntimeErrorCode::ObjectVariable, isMark);
 }
 
 TEST_P(BrokenNote, FormLinesAbsentEmptyOrNoNumber) {
     NoteDraft draft = draftOf({});
     draft.form.erase("QT_MAX_IT");
-    check(draft.xml(), ErroNumero::TipoIncompativel, whatIs("item 1"));
+    check(draft.xml(), RuntimeErrorCode::TypeMismatch, whatIs("item 1"));
     for (const char* value : {"", "SEIS", "6x", "1,,2"}) {
         SCOPED_TRACE(value);
         draft.form["QT_MAX_IT"] = value;
-        check(draft.xml(), ErroNumero::TipoIncompativel, whatIs("item 1"));
+        check(draft.xml(), RuntimeErrorCode::TypeMismatch, whatIs("item 1"));
     }
     draft.form["QT_MAX_IT"] = "40000";
-    check(draft.xml(), ErroNumero::Estouro, whatIs("item 1"));
+    check(draft.xml(), RuntimeErrorCode::Overflow, whatIs("item 1"));
 }
 
 TEST_P(BrokenNote, ParcelsNoNumber) {
@@ -91,7 +91,7 @@ TEST_P(BrokenNote, ParcelsNoNumber) {
             EXPECT_FALSE(print(form(), draft).error);
             continue;
         }
-        check(draft.xml(), ErroNumero::TipoIncompativel, [](const ExpectedCall& call) {
+        check(draft.xml(), RuntimeErrorCode::TypeMismatch, [](const ExpectedCall& call) {
             return call.what == "row of parcels" || call.what == "rest of the parcels" ||
                    call.what == "parcel 1";
         });
@@ -104,24 +104,24 @@ TEST_P(BrokenNote, SecondItemsPriceNoNumber) {
         SCOPED_TRACE(value);
         NoteDraft draft = draftOf({});
         draft.items[1]["VALOR_UN"] = value;
-        check(draft.xml(), ErroNumero::TipoIncompativel, whatIs("item 2"));
+        check(draft.xml(), RuntimeErrorCode::TypeMismatch, whatIs("item 2"));
     }
 }
 
 TEST_P(BrokenNote, SecondItemsQuantityNoNumber) {
     NoteDraft draft = draftOf({});
     draft.items[1]["QTDE"] = "dez";
-    check(draft.xml(), ErroNumero::TipoIncompativel, whatIs("item 2"));
+    check(draft.xml(), RuntimeErrorCode::TypeMismatch, whatIs("item 2"));
 }
 
 TEST_P(BrokenNote, TotalNoNumber) {
     NoteDraft draft = draftOf({});
     draft.totals["VALOR_SEGURO"] = "1.234.5";
-    check(draft.xml(), ErroNumero::TipoIncompativel, showing("VALOR_SEGURO"));
+    check(draft.xml(), RuntimeErrorCode::TypeMismatch, showing("VALOR_SEGURO"));
     draft = draftOf({});
     draft.totals["VALOR_TOTAL"] = "-";
     const bool plainTotal = form().name == "padrao" || form().name == "7";
-    check(draft.xml(), ErroNumero::TipoIncompativel,
+    check(draft.xml(), RuntimeErrorCode::TypeMismatch,
           showing(plainTotal ? "VALOR_TOTAL" : "product total"));
 }
 
@@ -130,11 +130,11 @@ TEST_P(BrokenNote, NameInAnotherCase) {
     NoteDraft draft = draftOf({});
     draft.head.erase("RAZAO");
     draft.head["Razao"] = "X";
-    check(draft.xml(), ErroNumero::VariavelObjeto, showing("RAZAO"));
+    check(draft.xml(), RuntimeErrorCode::ObjectVariable, showing("RAZAO"));
     draft = draftOf({});
     draft.head["natoper"] = draft.head["NatOper"];
     draft.head.erase("NatOper");
-    check(draft.xml(), ErroNumero::VariavelObjeto, showing("NatOper"));
+    check(draft.xml(), RuntimeErrorCode::ObjectVariable, showing("NatOper"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, BrokenNote, testing::ValuesIn(allForms()), nameOf);

@@ -123,7 +123,7 @@ std::vector<FormFacts> firstGroup() {
     f.texts = pieces({{1, 62}, {63, 62}, {125, 62}, {187, 62}, {311, 62}});
     f.repeatedLines = 1;
     // At the billing desk the number of these notes is lost before the layout runs.
-    f.ladder = Escada::Reimpressao;
+    f.ladder = Ladder::Reprint;
     forms.push_back(f);
 
     f = {.name = "2321", .company = 2321, .length = 45, .exitColumn = 89, .entryColumn = 101};

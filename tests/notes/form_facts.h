@@ -67,7 +67,7 @@ struct FormFacts {
     std::map<std::string, std::string> ways{};  // of the item fields, see printedItem
     std::string cfop = "5.102";
     int repeatedLines = 0;  // lines that the form prints once more than its map counts
-    Escada ladder = Escada::Emissao;
+    Ladder ladder = Ladder::Issuing;
 };
 
 const std::vector<FormFacts>& allForms();

@@ -122,9 +122,9 @@ TEST(FormItems, TheItemLinesMustBeANumber) {
             SCOPED_TRACE(std::string(form.name) + ", " + count);
             NoteText note = withItems(1);
             note.form["QT_MAX_IT"] = count;
-            std::optional<ErroNumero> erro;
-            const std::vector<Job> jobs = print(*form.form, note.xml(), &erro);
-            EXPECT_EQ(erro, ErroNumero::TipoIncompativel);
+            std::optional<RuntimeErrorCode> error;
+            const std::vector<Job> jobs = print(*form.form, note.xml(), &error);
+            EXPECT_EQ(error, RuntimeErrorCode::TypeMismatch);
             EXPECT_FALSE(jobs.back().ended);
             EXPECT_EQ(linesOf(jobs.back().bytes()).size(), form.line) << "nothing of the items";
         }

@@ -60,7 +60,7 @@ Place of2041(std::size_t document, std::size_t value, std::size_t date) {
     };
 }
 
-Place ofPadrao(std::size_t document, std::size_t date, std::size_t value) {
+Place ofDefault(std::size_t document, std::size_t date, std::size_t value) {
     return [=](int n) {
         return std::vector<Cell>{L(document, 15, numbered("D", n)),
                                  L(date, 10, numbered("VENC", n)), L(value, 12, amount(n))};
@@ -87,7 +87,7 @@ std::vector<ParcelsOf> allForms() {
          formOf(notes::imprimeNF_Padrao),
          19,
          3,
-         {ofPadrao(3, 20, 32), ofPadrao(46, 63, 75)},
+         {ofDefault(3, 20, 32), ofDefault(46, 63, 75)},
          {21, 21, 22, 21, 22, 21},
          "N\xFAmero de Parcelas maior do que 4"},
         {"2161_3341",

@@ -488,18 +488,18 @@ TEST(ImprimeNF1361, CharactersOutsideThePageTakeOneColumnEach) {
 
 struct Failure {
     std::size_t writes;
-    ErroNumero number;
+    RuntimeErrorCode number;
 };
 
 void expectFailure(const std::string& xml, const Failure& expected) {
-    std::optional<ErroNumero> erro;
-    const std::vector<Job> jobs = print(form(), xml, &erro);
+    std::optional<RuntimeErrorCode> error;
+    const std::vector<Job> jobs = print(form(), xml, &error);
     ASSERT_EQ(jobs.size(), 2U);
     EXPECT_TRUE(jobs[0].ended);
     EXPECT_EQ(jobs[0].bytes(), " \x0F");
     EXPECT_FALSE(jobs[1].ended);
     EXPECT_EQ(jobs[1].writes.size(), expected.writes);
-    EXPECT_EQ(erro, expected.number);
+    EXPECT_EQ(error, expected.number);
 }
 
 TEST(ImprimeNF1361Errors, AmountsThatAreNoNumbersStopBeforeTheirRow) {
@@ -525,14 +525,14 @@ TEST(ImprimeNF1361Errors, AmountsThatAreNoNumbersStopBeforeTheirRow) {
         NoteText note = sampleNote();
         change(note);
         SCOPED_TRACE(writes);
-        expectFailure(note.xml(), {writes, ErroNumero::TipoIncompativel});
+        expectFailure(note.xml(), {writes, RuntimeErrorCode::TypeMismatch});
     }
 }
 
 TEST(ImprimeNF1361Errors, AQtMaxItBeyond16BitsOverflows) {
     NoteText note = sampleNote();
     note.form["QT_MAX_IT"] = "32768";
-    expectFailure(note.xml(), {7, ErroNumero::Estouro});
+    expectFailure(note.xml(), {7, RuntimeErrorCode::Overflow});
 }
 
 TEST(ImprimeNF1361Errors, EmptyAmountsThatAreOnlyMaskedPrintBlank) {
@@ -548,14 +548,14 @@ TEST(ImprimeNF1361Errors, EmptyAmountsThatAreOnlyMaskedPrintBlank) {
 TEST(ImprimeNF1361Errors, MissingRowsAreObjectErrors) {
     NoteText noItems = sampleNote();
     noItems.items.clear();
-    expectFailure(noItems.xml(), {7, ErroNumero::VariavelObjeto});
+    expectFailure(noItems.xml(), {7, RuntimeErrorCode::ObjectVariable});
     expectFailure("<?xml version=\"1.0\"?><OUTRO A=\"1\" B=\"OK\"/>",
-                  {0, ErroNumero::VariavelObjeto});
+                  {0, RuntimeErrorCode::ObjectVariable});
     expectFailure("<?xml version=\"1.0\"?><PRINCIPAL A=\"1\" B=\"OK\"/>",
-                  {0, ErroNumero::VariavelObjeto});
+                  {0, RuntimeErrorCode::ObjectVariable});
     expectFailure(
         "<?xml version=\"1.0\"?><PRINCIPAL A=\"1\" B=\"OK\"><N QTDE_PARC=\"0\"/></PRINCIPAL>",
-        {6, ErroNumero::VariavelObjeto});
+        {6, RuntimeErrorCode::ObjectVariable});
 }
 
 TEST(ImprimeNF1361Errors, AFieldInAnotherCaseOfLettersIsAnObjectError) {
@@ -577,7 +577,7 @@ TEST(ImprimeNF1361Errors, AFieldInAnotherCaseOfLettersIsAnObjectError) {
             }
         }
         SCOPED_TRACE(name);
-        expectFailure(note.xml(), {writes, ErroNumero::VariavelObjeto});
+        expectFailure(note.xml(), {writes, RuntimeErrorCode::ObjectVariable});
     }
 }
 

@@ -50,7 +50,7 @@ NoteText drawnNote() {
     return note;
 }
 
-const std::string textoPadrao = "CONFIGURADOS VIA PROGRAMAÇÃO DE CADA CLIENTE TARN";
+const std::string defaultText = "CONFIGURADOS VIA PROGRAMAÇÃO DE CADA CLIENTE TARN";
 
 std::vector<std::string> headLines() {
     return {
@@ -110,7 +110,7 @@ std::vector<std::string> footLines() {
         at("26.500", right("412,5", 8) + gap(4) + left("VOLUME", 10) + gap(3) +
                          right("144,375", 10) + gap(1) + right("144,375", 10)),
         at("27.000", "TEXTOS LEGAIS GRAVADOS NA TRIBUTAÇÃO"),
-        at("27.500", textoPadrao),
+        at("27.500", defaultText),
         at("28.000", "004567"),
         "enddoc",
     };
@@ -127,10 +127,10 @@ std::vector<std::string> joined(const std::vector<std::vector<std::string>>& par
 class ImprimeNF2541 : public testing::Test {
 protected:
     void draw(const std::string& xml, const std::string& number = "4567") {
-        sessao_.NCOMPANYCODE = 2541;
-        sessao_.ID_ETB_TARN = 1;
+        session_.NCOMPANYCODE = 2541;
+        session_.ID_ETB_TARN = 1;
         ASSERT_TRUE(document_.loadXML(xml));
-        imprimeNota(Escada::Emissao, seams_.environment, sessao_, document_, number);
+        printNote(Ladder::Issuing, seams_.environment, session_, document_, number);
     }
     std::vector<std::string> drawn(const NoteText& note) {
         seams_.printer.operations.clear();
@@ -138,19 +138,19 @@ protected:
         return seams_.printer.lines();
     }
     // The error of a note that stops, and the lines drawn until then.
-    std::optional<ErroNumero> stopped(const NoteText& note) {
+    std::optional<RuntimeErrorCode> stopped(const NoteText& note) {
         seams_.printer.operations.clear();
         try {
             draw(note.xml());
-        } catch (const ErroExecucao& erro) {
-            return erro.numero();
+        } catch (const RuntimeError& error) {
+            return error.number();
         }
         return std::nullopt;
     }
     std::string lastText() const { return seams_.printer.lines().back(); }
 
     TestEnvironment seams_;
-    Sessao sessao_;
+    Sessao session_;
     XmlDocument document_;
 };
 
@@ -167,9 +167,9 @@ TEST_F(ImprimeNF2541, EveryTextOfTheNote) {
 
 TEST_F(ImprimeNF2541, BothLaddersReachIt) {
     ASSERT_TRUE(document_.loadXML(drawnNote().xml()));
-    sessao_.NCOMPANYCODE = 2541;
-    sessao_.ID_ETB_TARN = 6001;
-    imprimeNota(Escada::Reimpressao, seams_.environment, sessao_, document_, "4567");
+    session_.NCOMPANYCODE = 2541;
+    session_.ID_ETB_TARN = 6001;
+    printNote(Ladder::Reprint, seams_.environment, session_, document_, "4567");
     EXPECT_EQ(seams_.printer.lines().size(), 11U + 3 + 4 + 2 + 9);
     EXPECT_TRUE(seams_.printer.ended());
 }
@@ -272,7 +272,7 @@ TEST_F(ImprimeNF2541, WhatIsAbsentLeavesItsPlaceAndItsPunctuation) {
         at("26.500", right("0", 8) + gap(4) + left("VOLUME", 10) + gap(3) + right("0,000", 10) +
                          gap(1) + right("0,000", 10)),
         at("27.000", "TEXTOS LEGAIS GRAVADOS NA TRIBUTAÇÃO"),
-        at("27.500", textoPadrao),
+        at("27.500", defaultText),
         at("28.000", "004567"),
         "enddoc",
     };
@@ -306,33 +306,33 @@ TEST_F(ImprimeNF2541, ALongerNumberIsDrawnInFull) {
 TEST_F(ImprimeNF2541, AnErrorLeavesTheDocumentUnended) {
     NoteText note = drawnNote();
     note.head["QTDE_PARC"] = "";
-    EXPECT_EQ(stopped(note), ErroNumero::TipoIncompativel);
+    EXPECT_EQ(stopped(note), RuntimeErrorCode::TypeMismatch);
     EXPECT_EQ(lastText(), headLines().back());
 
     note = drawnNote();
     note.head["VL_PRN_DOC2"] = "muito";
-    EXPECT_EQ(stopped(note), ErroNumero::TipoIncompativel);
+    EXPECT_EQ(stopped(note), RuntimeErrorCode::TypeMismatch);
     EXPECT_EQ(lastText(), parcelLines()[0]);
 
     note = drawnNote();
     note.form.erase("QT_MAX_IT");
-    EXPECT_EQ(stopped(note), ErroNumero::TipoIncompativel);
+    EXPECT_EQ(stopped(note), RuntimeErrorCode::TypeMismatch);
     EXPECT_EQ(lastText(), addressLines().back());
 
     note = drawnNote();
     note.items[1]["PESO"] = "x";
-    EXPECT_EQ(stopped(note), ErroNumero::TipoIncompativel);
+    EXPECT_EQ(stopped(note), RuntimeErrorCode::TypeMismatch);
     EXPECT_EQ(lastText(), at("10.000", firstItem()));
 
     note = drawnNote();
     note.items.clear();
-    EXPECT_EQ(stopped(note), ErroNumero::VariavelObjeto);
+    EXPECT_EQ(stopped(note), RuntimeErrorCode::ObjectVariable);
     EXPECT_EQ(lastText(), addressLines().back());
     EXPECT_FALSE(seams_.printer.ended());
 }
 
 TEST_F(ImprimeNF2541, WithoutPrincipalThePageIsSetUpAndNothingDrawn) {
-    EXPECT_THROW(draw("<?xml version=\"1.0\"?><OUTRO/>"), ErroExecucao);
+    EXPECT_THROW(draw("<?xml version=\"1.0\"?><OUTRO/>"), RuntimeError);
     EXPECT_EQ(seams_.printer.lines(), (std::vector<std::string>{"scale\t7", "orientation\t1"}));
 }
 

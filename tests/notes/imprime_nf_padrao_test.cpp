@@ -115,10 +115,10 @@ TEST(ImprimeNFPadrao, NeitherObservationNorLegalTextPrints) {
 }
 
 TEST(ImprimeNFPadrao, WithoutTheNodeTheNumberIsOut) {
-    std::optional<ErroNumero> erro;
+    std::optional<RuntimeErrorCode> error;
     const std::vector<Job> jobs =
-        print(padrao(), "<?xml version=\"1.0\"?><OUTRO A=\"1\" B=\"OK\"/>", &erro);
-    EXPECT_EQ(erro, ErroNumero::VariavelObjeto);
+        print(padrao(), "<?xml version=\"1.0\"?><OUTRO A=\"1\" B=\"OK\"/>", &error);
+    EXPECT_EQ(error, RuntimeErrorCode::ObjectVariable);
     ASSERT_EQ(jobs.size(), 1U);
     EXPECT_FALSE(jobs[0].ended);
     EXPECT_EQ(jobs[0].bytes(), setUp + "\r\n" + line({T(68, "004567")}) + "\r\n");
@@ -160,9 +160,9 @@ TEST(ImprimeNF7, ParcelsAreNotLookedAt) {
 TEST(ImprimeNF7, ARateThatIsNoNumberStopsTheNote) {
     NoteText note = fullNote();
     note.items[1]["ICMS"] = "isento";
-    std::optional<ErroNumero> erro;
-    const std::vector<Job> jobs = print(of7(), note.xml(), &erro);
-    EXPECT_EQ(erro, ErroNumero::TipoIncompativel);
+    std::optional<RuntimeErrorCode> error;
+    const std::vector<Job> jobs = print(of7(), note.xml(), &error);
+    EXPECT_EQ(error, RuntimeErrorCode::TypeMismatch);
     ASSERT_EQ(jobs.size(), 1U);
     EXPECT_EQ(jobs[0].writes.size(), 10U) << "three for the set-up, six of the head, one item";
 }

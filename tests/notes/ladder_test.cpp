@@ -70,16 +70,16 @@ constexpr Rung rungs[] = {
 TEST(Ladder, EveryRungOfBothScreens) {
     for (const Rung& rung : rungs) {
         SCOPED_TRACE(testing::Message() << rung.company << " / " << rung.establishment);
-        EXPECT_EQ(layoutFor(Escada::Emissao, rung.company, rung.establishment), rung.issuing);
-        EXPECT_EQ(layoutFor(Escada::Reimpressao, rung.company, rung.establishment),
+        EXPECT_EQ(layoutFor(Ladder::Issuing, rung.company, rung.establishment), rung.issuing);
+        EXPECT_EQ(layoutFor(Ladder::Reprint, rung.company, rung.establishment),
                   rung.reprint.empty() ? rung.issuing : rung.reprint);
     }
 }
 
 TEST(Ladder, Company2161PrintsNothingAtItsOtherEstablishments) {
     for (const std::int32_t establishment : {0, 3340, 3380, 3386, 5281, 5282, 6001}) {
-        EXPECT_EQ(layoutFor(Escada::Emissao, 2161, establishment), "");
-        EXPECT_EQ(layoutFor(Escada::Reimpressao, 2161, establishment), "");
+        EXPECT_EQ(layoutFor(Ladder::Issuing, 2161, establishment), "");
+        EXPECT_EQ(layoutFor(Ladder::Reprint, 2161, establishment), "");
     }
 }
 

@@ -63,7 +63,7 @@ TEST_P(FormLength, ByParcels) {
         NoteCase note;
         note.parcels = parcels;
         const Printed printed = print(form(), draftOf(note));
-        ASSERT_FALSE(printed.error) << printed.error->descricao();
+        ASSERT_FALSE(printed.error) << printed.error->description();
         int more = 0;
         if (const auto found = heightOfParcels.find(form().name); found != heightOfParcels.end()) {
             const int limit = form().parcels->limit;
@@ -80,7 +80,7 @@ TEST_P(FormLength, ByItems) {
         NoteCase note;
         note.items = items;
         const Printed printed = print(form(), draftOf(note));
-        ASSERT_FALSE(printed.error) << printed.error->descricao();
+        ASSERT_FALSE(printed.error) << printed.error->description();
         EXPECT_EQ(plainLength() + moreBy(items), printed.lineEnds());
     }
 }
@@ -96,7 +96,7 @@ TEST_P(FormLength, ServiceAmongTheProducts) {
     draft.items[1]["VL_LIQ_IT"] = "1";
     draft.items[1]["VL_ISS"] = "1";
     const Printed printed = print(form(), draft);
-    ASSERT_FALSE(printed.error) << printed.error->descricao();
+    ASSERT_FALSE(printed.error) << printed.error->description();
     std::string rows;
     const std::string bytes = printed.jobs.back().bytes();
     for (std::size_t at = bytes.find("ROW"); at != std::string::npos;

@@ -20,22 +20,22 @@ std::vector<Loss> lossesOf(std::int32_t company, const NoteText& note,
                            std::int32_t establishment = 1) {
     JobSpooler spooler;
     TestEnvironment seams;
-    Environment ambiente{.http = seams.loader,
-                         .spooler = spooler,
-                         .printer = seams.printer,
-                         .boxes = seams.boxes,
-                         .clock = seams.clock,
-                         .machine = seams.machine,
-                         .baseUrl = {}};
-    Sessao sessao;
-    sessao.NCOMPANYCODE = company;
-    sessao.ID_ETB_TARN = establishment;
+    Environment environment{.http = seams.loader,
+                            .spooler = spooler,
+                            .printer = seams.printer,
+                            .boxes = seams.boxes,
+                            .clock = seams.clock,
+                            .machine = seams.machine,
+                            .baseUrl = {}};
+    Sessao session;
+    session.NCOMPANYCODE = company;
+    session.ID_ETB_TARN = establishment;
     XmlDocument documento;
     if (!documento.loadXML(note.xml())) {
         throw std::runtime_error("the note isn't well-formed");
     }
     notes::LossLog log;
-    imprimeNota(Escada::Reimpressao, ambiente, sessao, documento, "4567", &log);
+    printNote(Ladder::Reprint, environment, session, documento, "4567", &log);
     return log.losses();
 }
 

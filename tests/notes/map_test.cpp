@@ -18,7 +18,7 @@ protected:
     void check(const NoteCase& note, const Sums& sums = {}) {
         const Printed printed = print(form(), draftOf(note));
         if (printed.error)
-            FAIL() << printed.error->descricao();
+            FAIL() << printed.error->description();
         const ExpectedNote expected = expectedNote(form(), mapOf(form()), note, sums);
         ASSERT_EQ(expected.jobs.size(), printed.jobs.size());
         for (std::size_t job = 0; job < expected.jobs.size(); ++job) {

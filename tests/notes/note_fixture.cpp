@@ -156,17 +156,17 @@ NoteText sampleNote() {
 }
 
 std::vector<Job> print(const notes::Form& form, const std::string& xml,
-                       std::optional<ErroNumero>* erro, std::string_view number) {
+                       std::optional<RuntimeErrorCode>* error, std::string_view number) {
     XmlDocument document;
     EXPECT_TRUE(document.loadXML(xml)) << xml;
     JobSpooler spooler;
     RawChannel channel(spooler, CodePage::Page1252);
     try {
         notes::printNote(form, document, number, channel);
-    } catch (const ErroExecucao& raised) {
-        EXPECT_NE(erro, nullptr) << raised.what();
-        if (erro != nullptr) {
-            *erro = raised.numero();
+    } catch (const RuntimeError& raised) {
+        EXPECT_NE(error, nullptr) << raised.what();
+        if (error != nullptr) {
+            *error = raised.number();
         }
     }
     return spooler.jobs;

@@ -52,9 +52,10 @@ struct NoteText {
 // The note of the forms' maps: three parcels, two items, six item lines.
 NoteText sampleNote();
 
-// Prints and gives back the jobs; `erro` takes the run-time error, if one came.
+// Prints and gives back the jobs; `error` takes the run-time error, if one came.
 std::vector<Job> print(const notes::Form& form, const std::string& xml,
-                       std::optional<ErroNumero>* erro = nullptr, std::string_view number = "4567");
+                       std::optional<RuntimeErrorCode>* error = nullptr,
+                       std::string_view number = "4567");
 // The note's own job, which is the last one.
 std::string printed(const notes::Form& form, const NoteText& note);
 

@@ -21,7 +21,7 @@ int Printed::lineEnds() const {
     return count;
 }
 
-Printed printXml(Escada ladder, std::int32_t company, std::int32_t establishment,
+Printed printXml(Ladder ladder, std::int32_t company, std::int32_t establishment,
                  const std::string& xml) {
     RecordingSpooler spooler;
     RecordingPrinter printer;
@@ -38,8 +38,8 @@ Printed printXml(Escada ladder, std::int32_t company, std::int32_t establishment
         throw std::runtime_error("the test's note isn't well-formed");
     Printed printed;
     try {
-        imprimeNota(ladder, environment, session, document, plainNumber);
-    } catch (const ErroExecucao& error) {
+        printNote(ladder, environment, session, document, plainNumber);
+    } catch (const RuntimeError& error) {
         printed.error = error;
     }
     printed.jobs = std::move(spooler.jobs);

@@ -15,14 +15,14 @@ namespace tarn::test {
 struct Printed {
     std::vector<RecordingSpooler::Job> jobs;
     std::vector<RecordingSpooler::Call> calls;
-    std::optional<ErroExecucao> error;
+    std::optional<RuntimeError> error;
     bool documentLetGo = false;
 
     // Line ends of the note's own job.
     int lineEnds() const;
 };
 
-Printed printXml(Escada ladder, std::int32_t company, std::int32_t establishment,
+Printed printXml(Ladder ladder, std::int32_t company, std::int32_t establishment,
                  const std::string& xml);
 Printed print(const FormFacts& form, const NoteDraft& draft);
 

@@ -47,7 +47,7 @@ void checkServices(const FormFacts& form, const ServiceCase& block) {
         draft.items.insert(draft.items.begin() + 1, row);
     }
     const Printed printed = print(form, draft);
-    ASSERT_FALSE(printed.error) << printed.error->descricao();
+    ASSERT_FALSE(printed.error) << printed.error->description();
     const std::vector<ExpectedCall> plain = expectedNote(form, mapOf(form), {}).jobs.back();
     std::vector<std::string> expected;
     for (const ExpectedCall& call : plain) {

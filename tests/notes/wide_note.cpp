@@ -81,9 +81,9 @@ std::vector<std::string> rows(const std::string& stream, std::size_t from, std::
 }
 
 std::string untilTypeError(const notes::Form& form, const NoteText& note) {
-    std::optional<ErroNumero> erro;
-    const std::vector<Job> jobs = print(form, note.xml(), &erro);
-    EXPECT_EQ(erro, ErroNumero::TipoIncompativel);
+    std::optional<RuntimeErrorCode> error;
+    const std::vector<Job> jobs = print(form, note.xml(), &error);
+    EXPECT_EQ(error, RuntimeErrorCode::TypeMismatch);
     EXPECT_FALSE(jobs.back().ended);
     return jobs.back().bytes();
 }

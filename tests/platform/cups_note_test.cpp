@@ -22,19 +22,19 @@ std::string noteFile(const char* name) {
 class CupsNoteTest : public CupsTest {
 protected:
     void print(Spooler& spooler, const char* noteDocument) {
-        Environment ambiente{.http = seams_.loader,
-                             .spooler = spooler,
-                             .printer = seams_.printer,
-                             .boxes = seams_.boxes,
-                             .clock = seams_.clock,
-                             .machine = seams_.machine,
-                             .baseUrl = {}};
-        Sessao sessao;
-        sessao.NCOMPANYCODE = 1361;
-        sessao.ID_ETB_TARN = 1;
+        Environment environment{.http = seams_.loader,
+                                .spooler = spooler,
+                                .printer = seams_.printer,
+                                .boxes = seams_.boxes,
+                                .clock = seams_.clock,
+                                .machine = seams_.machine,
+                                .baseUrl = {}};
+        Sessao session;
+        session.NCOMPANYCODE = 1361;
+        session.ID_ETB_TARN = 1;
         XmlDocument documento;
         ASSERT_TRUE(documento.loadXML(noteFile(noteDocument)));
-        imprimeNota(Escada::Emissao, ambiente, sessao, documento, "4567");
+        printNote(Ladder::Issuing, environment, session, documento, "4567");
     }
 
     const std::string golden_ = noteFile("nota_1361.prn");
@@ -53,7 +53,7 @@ TEST_F(CupsNoteTest, SetUpAndNoteArriveByteForByteAndInOrder) {
 
 TEST_F(CupsNoteTest, ANoteStoppedByAnErrorDoesNotHoldUpTheNext) {
     CupsSpooler spooler;
-    EXPECT_THROW(print(spooler, "nota_quantidade_errada.xml"), ErroExecucao);
+    EXPECT_THROW(print(spooler, "nota_quantidade_errada.xml"), RuntimeError);
     EXPECT_EQ(printed(), " \x0F") << server_->errorLog();
     print(spooler, "nota_1361.xml");
     EXPECT_EQ(printed(), " \x0F") << server_->errorLog();

@@ -89,10 +89,10 @@ TEST_F(CupsSpoolerTest, JobsArriveInOrder) {
 TEST_F(CupsSpoolerTest, TheRawChannelPrintsOnTheDefaultPrinter) {
     CupsSpooler spooler;
     RawChannel channel(spooler, CodePage::Page1252);
-    channel.abre({.docName = "Impressao de Cheque", .outputFile = "", .dataType = ""});
+    channel.open({.docName = "Impressao de Cheque", .outputFile = "", .dataType = ""});
     std::string linha = "SÃO PAULO";
     channel.ImprimeRaw(1, linha, 2);
-    channel.fecha();
+    channel.close();
     EXPECT_EQ(printed(), " S\xC3O PAULO\r\n\r\n");
 }
 

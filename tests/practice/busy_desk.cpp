@@ -76,12 +76,12 @@ std::vector<std::string> BusyDesk::column(const std::string& query, const char* 
 
 // Any order of the list, so that several desks try the same one.
 void BusyDesk::makeNote() {
-    const std::vector<std::string> orders = column(comando::sel_ordem_fatu(clerk_), "ID_ORD_FAT");
+    const std::vector<std::string> orders = column(commands::sel_ordem_fatu(clerk_), "ID_ORD_FAT");
     if (orders.empty()) {
         return;
     }
     const std::string& order = orders[below(std::min<std::size_t>(orders.size(), kBusyDesks))];
-    const XmlDocument made = ask(comando::SP_GERA_NF(clerk_, order));
+    const XmlDocument made = ask(commands::SP_GERA_NF(clerk_, order));
     if (made.empty() || statusOf(made) != "OK") {
         const std::lock_guard lock(done_.mutex);
         ++done_.refusals;
@@ -101,28 +101,28 @@ void BusyDesk::makeNote() {
 
 // Three of four are cancelled so that their orders can be billed again.
 void BusyDesk::keepOrCancel(const std::string& note) {
-    if (!accepted(comando::sel_gera_nf(clerk_, note, kBusySeries)) || below(4) == 0) {
+    if (!accepted(commands::sel_gera_nf(clerk_, note, kBusySeries)) || below(4) == 0) {
         return;
     }
-    if (accepted(comando::sp_can_nf(
-            clerk_, {.tipoNota = "S", .nota = note, .serie = kBusySeries, .motivo = 1}))) {
+    if (accepted(commands::sp_can_nf(
+            clerk_, {.noteKind = "S", .note = note, .series = kBusySeries, .reason = 1}))) {
         const std::lock_guard lock(done_.mutex);
         ++done_.cancelled;
     }
 }
 
 void BusyDesk::maintainOrder() {
-    for (const std::string& order : column(comando::sel_ordem_fatu(clerk_), "ID_ORD_FAT")) {
+    for (const std::string& order : column(commands::sel_ordem_fatu(clerk_), "ID_ORD_FAT")) {
         if (!isOwn(order) || below(4) != 0) {
             continue;
         }
         const std::string text =
             "mesa " + std::to_string(place_) + " vez " + std::to_string(turns_) + " 100% & mais";
-        if (accepted(comando::MANUTENCAO_OFT(clerk_, {.ordem = order,
-                                                      .observacao = text,
-                                                      .quantidade = "1,000",
-                                                      .pesoBruto = "2,000",
-                                                      .pesoLiquido = "1,500"}))) {
+        if (accepted(commands::MANUTENCAO_OFT(clerk_, {.ordem = order,
+                                                       .observation = text,
+                                                       .quantity = "1,000",
+                                                       .grossWeight = "2,000",
+                                                       .netWeight = "1,500"}))) {
             const std::lock_guard lock(done_.mutex);
             done_.observations[order] = text;
         }
@@ -132,23 +132,22 @@ void BusyDesk::maintainOrder() {
 
 void BusyDesk::recordCheque() {
     const std::string number = std::to_string(done_.nextCheque++ / 2);
-    if (accepted(comando::adiciona_controle_cheque_emitido(
-            clerk_, {.banco = 1084,
-                     .agencia = "0384",
-                     .conta = "1300221-7",
-                     .numero = number,
-                     .serie = "AA",
+    if (accepted(commands::adiciona_controle_cheque_emitido(
+            clerk_, {.bank = 1084,
+                     .agency = "0384",
+                     .account = "1300221-7",
+                     .number = number,
+                     .series = "AA",
                      .valor = std::to_string(place_ + 1) + ",00",
-                     .dataDeposito = "05/09/2012"}))) {
+                     .depositDate = "05/09/2012"}))) {
         const std::lock_guard lock(done_.mutex);
         done_.cheques.insert(number);
     }
 }
 
 void BusyDesk::numberSlip() {
-    const XmlDocument list = ask(comando::sel_boleto(
-        clerk_, {.filial = 1363, .vencimentoAte = "31/12/2012", .emissaoDe = "01/01/2012"}, 101,
-        true));
+    const XmlDocument list = ask(commands::sel_boleto(
+        clerk_, {.branch = 1363, .dueTo = "31/12/2012", .issuedFrom = "01/01/2012"}, 101, true));
     if (list.empty()) {
         return;
     }
@@ -162,10 +161,10 @@ void BusyDesk::numberSlip() {
         }
         const std::string kind = field(row, "ID_TIP_DOC");
         const std::string slip = std::to_string(place_ * 1000000 + turns_);
-        if (accepted(comando::altera_docto_cob(clerk_, {.filial = "1363",
-                                                        .tipoDocumento = kind,
-                                                        .documento = number,
-                                                        .numeroBancario = slip}))) {
+        if (accepted(commands::altera_docto_cob(clerk_, {.branch = "1363",
+                                                         .documentKind = kind,
+                                                         .documento = number,
+                                                         .bankNumber = slip}))) {
             const std::lock_guard lock(done_.mutex);
             done_.slips[std::string(kind).append(" ").append(number)] = slip;
         }

@@ -58,13 +58,13 @@ Waiting waiting(const Beside& beside, const char* table) {
             beside.text("SELECT d.control_number " + rest)};
 }
 
-comando::Boleto slip(const Waiting& document, std::string_view number) {
-    return {.filial = "1361",
-            .tipoDocumento = document.kind,
+commands::Slip slip(const Waiting& document, std::string_view number) {
+    return {.branch = "1361",
+            .documentKind = document.kind,
             .documento = document.number,
-            .numeroControle = document.control,
-            .carteira = "101",
-            .numeroBancario = number};
+            .controlNumber = document.control,
+            .portfolio = "101",
+            .bankNumber = number};
 }
 
 std::string loadOrderOf(const Beside& beside, const char* order) {
@@ -74,75 +74,75 @@ std::string lastNote(const Beside& beside) {
     return beside.text("SELECT number FROM note");
 }
 
-constexpr comando::Cheque kCheque{.banco = 1084,
-                                  .agencia = " 0384 ",
-                                  .conta = "1300221-7",
-                                  .numero = "850",
-                                  .serie = "aa",
-                                  .valor = "1.234,56",
-                                  .favorecido = "João da Silva",
-                                  .dataDeposito = "05/09/2012",
-                                  .observacao = "pagamento"};
+constexpr commands::Cheque kCheque{.bank = 1084,
+                                   .agency = " 0384 ",
+                                   .account = "1300221-7",
+                                   .number = "850",
+                                   .series = "aa",
+                                   .valor = "1.234,56",
+                                   .payee = "João da Silva",
+                                   .depositDate = "05/09/2012",
+                                   .observation = "pagamento"};
 
 std::vector<Asked> startRows() {
     return {
         {"VERSAO_TARN_EMISSAO",
-         [](const Sessao&, const Beside&) { return comando::VERSAO_TARN_EMISSAO("07/01/2009"); }},
+         [](const Sessao&, const Beside&) { return commands::VERSAO_TARN_EMISSAO("07/01/2009"); }},
         {"LOGIN",
-         [](const Sessao&, const Beside&) { return comando::LOGIN("1361", "clara", "pratica"); }},
+         [](const Sessao&, const Beside&) { return commands::LOGIN("1361", "clara", "pratica"); }},
         {"verifica_direito_acesso",
          [](const Sessao& s, const Beside&) {
-             return comando::verifica_direito_acesso(s, "EMI001");
+             return commands::verifica_direito_acesso(s, "EMI001");
          }},
         {"sel_dados_empresa",
-         [](const Sessao& s, const Beside&) { return comando::sel_dados_empresa(s); }},
+         [](const Sessao& s, const Beside&) { return commands::sel_dados_empresa(s); }},
     };
 }
 
 std::vector<Asked> orderRows() {
     return {
         {"sel_ordem_fatu",
-         [](const Sessao& s, const Beside&) { return comando::sel_ordem_fatu(s); }},
+         [](const Sessao& s, const Beside&) { return commands::sel_ordem_fatu(s); }},
         {"sp_can_oft",
          [](const Sessao& s, const Beside& b) {
-             return comando::sp_can_oft(s, "45002", loadOrderOf(b, "45002"));
+             return commands::sp_can_oft(s, "45002", loadOrderOf(b, "45002"));
          },
          "SELECT COUNT(*) FROM billing_order WHERE id = 45002 AND state = 'C'", 0, 1},
         {"Seleciona_Obs_Vnd_X_Ord",
          [](const Sessao& s, const Beside&) {
-             return comando::Seleciona_Obs_Vnd_X_Ord(s, "45006");
+             return commands::Seleciona_Obs_Vnd_X_Ord(s, "45006");
          }},
         {"Seleciona_Obs_Ord_X_Est",
          [](const Sessao& s, const Beside&) {
-             return comando::Seleciona_Obs_Ord_X_Est(s, "45006");
+             return commands::Seleciona_Obs_Ord_X_Est(s, "45006");
          }},
         {"MANUTENCAO_OFT",
          [](const Sessao& s, const Beside&) {
-             return comando::MANUTENCAO_OFT(s, {.ordem = "45003",
-                                                .observacao = "10% à vista & \"#1\"",
-                                                .quantidade = "1,000",
-                                                .pesoBruto = "2,000",
-                                                .pesoLiquido = "1,500"});
+             return commands::MANUTENCAO_OFT(s, {.ordem = "45003",
+                                                 .observation = "10% à vista & \"#1\"",
+                                                 .quantity = "1,000",
+                                                 .grossWeight = "2,000",
+                                                 .netWeight = "1,500"});
          },
          "SELECT COUNT(*) FROM billing_order WHERE id = 45003 AND net_weight = 1500"
          " AND observation = '10% à vista & \"#1\"'",
          0, 1},
         {"sel_impr_ordem_fatu",
-         [](const Sessao& s, const Beside&) { return comando::sel_impr_ordem_fatu(s, "45003"); }},
+         [](const Sessao& s, const Beside&) { return commands::sel_impr_ordem_fatu(s, "45003"); }},
         {"SP_GERA_NF",
-         [](const Sessao& s, const Beside&) { return comando::SP_GERA_NF(s, "45001"); },
+         [](const Sessao& s, const Beside&) { return commands::SP_GERA_NF(s, "45001"); },
          "SELECT COUNT(*) FROM note WHERE order_id = 45001 AND cancelled = 0", 0, 1},
         {"sel_gera_nf", [](const Sessao& s,
-                           const Beside& b) { return comando::sel_gera_nf(s, lastNote(b), "1"); }},
+                           const Beside& b) { return commands::sel_gera_nf(s, lastNote(b), "1"); }},
         {"SEL_NF",
-         [](const Sessao& s, const Beside& b) { return comando::SEL_NF(s, lastNote(b), "1"); }},
-        {"SEL_SERIE_NF", [](const Sessao& s, const Beside&) { return comando::SEL_SERIE_NF(s); }},
-        {"SEL_MOT_CAN", [](const Sessao& s, const Beside&) { return comando::SEL_MOT_CAN(s); }},
+         [](const Sessao& s, const Beside& b) { return commands::SEL_NF(s, lastNote(b), "1"); }},
+        {"SEL_SERIE_NF", [](const Sessao& s, const Beside&) { return commands::SEL_SERIE_NF(s); }},
+        {"SEL_MOT_CAN", [](const Sessao& s, const Beside&) { return commands::SEL_MOT_CAN(s); }},
         {"sp_can_nf",
          [](const Sessao& s, const Beside& b) {
              const std::string note = lastNote(b);
-             return comando::sp_can_nf(s,
-                                       {.tipoNota = "S", .nota = note, .serie = "1", .motivo = 1});
+             return commands::sp_can_nf(
+                 s, {.noteKind = "S", .note = note, .series = "1", .reason = 1});
          },
          "SELECT COUNT(*) FROM note WHERE order_id = 45001 AND cancelled = 1", 0, 1},
     };
@@ -150,45 +150,45 @@ std::vector<Asked> orderRows() {
 
 std::vector<Asked> billAndSlipRows() {
     return {
-        {"sel_filiais", [](const Sessao& s, const Beside&) { return comando::sel_filiais(s); }},
+        {"sel_filiais", [](const Sessao& s, const Beside&) { return commands::sel_filiais(s); }},
         {"Sel_Cliente",
-         [](const Sessao& s, const Beside&) { return comando::Sel_Cliente(s, "muñoz & cia"); }},
+         [](const Sessao& s, const Beside&) { return commands::Sel_Cliente(s, "muñoz & cia"); }},
         {"sel_duplicata",
          [](const Sessao& s, const Beside&) {
-             return comando::sel_duplicata(s, 1, {.vencimentoAte = "31/12/2012"});
+             return commands::sel_duplicata(s, 1, {.dueTo = "31/12/2012"});
          }},
-        {"sel_carteira", [](const Sessao& s, const Beside&) { return comando::sel_carteira(s); }},
+        {"sel_carteira", [](const Sessao& s, const Beside&) { return commands::sel_carteira(s); }},
         {"sel_carteira_cob",
-         [](const Sessao& s, const Beside&) { return comando::sel_carteira_cob(s, 101); }},
+         [](const Sessao& s, const Beside&) { return commands::sel_carteira_cob(s, 101); }},
         {"sel_boleto",
          [](const Sessao& s, const Beside&) {
-             return comando::sel_boleto(
-                 s, {.vencimentoAte = "31/12/2012", .emissaoDe = "01/01/2012"}, 101, true);
+             return commands::sel_boleto(s, {.dueTo = "31/12/2012", .issuedFrom = "01/01/2012"},
+                                         101, true);
          }},
         {"altera_docto_cob",
          [](const Sessao& s, const Beside& b) {
              const Waiting document = waiting(b, "0");
-             return comando::altera_docto_cob(s, slip(document, "1234"));
+             return commands::altera_docto_cob(s, slip(document, "1234"));
          },
          "SELECT COUNT(*) FROM document WHERE slip_number = '1234' AND receivable = 0", 0, 1},
         {"altera_docto_rec",
          [](const Sessao& s, const Beside& b) {
              const Waiting document = waiting(b, "1");
-             return comando::altera_docto_rec(s, slip(document, "1235"),
-                                              comando::ChaveControle::ID_NR_CTL);
+             return commands::altera_docto_rec(s, slip(document, "1235"),
+                                               commands::ControlKey::ID_NR_CTL);
          },
          "SELECT COUNT(*) FROM document WHERE slip_number = '1235' AND receivable = 1", 0, 1},
         {"altera_docto_rec",
          [](const Sessao& s, const Beside& b) {
              const Waiting document = waiting(b, "1");
-             return comando::altera_docto_rec(s, slip(document, "12345679"),
-                                              comando::ChaveControle::ID_NR_CLT);
+             return commands::altera_docto_rec(s, slip(document, "12345679"),
+                                               commands::ControlKey::ID_NR_CLT);
          },
          "SELECT COUNT(*) FROM document WHERE slip_number = '12345679' AND receivable = 1", 0, 1},
         {"insere_car_cob",
          [](const Sessao& s, const Beside& b) {
              const Waiting document = waiting(b, "0");
-             return comando::insere_car_cob(s, slip(document, "1236"));
+             return commands::insere_car_cob(s, slip(document, "1236"));
          },
          "SELECT COUNT(*) FROM document WHERE slip_number = '1236' AND portfolio_id = 101"
          " AND bank_id = 1016 AND entered_by = '101' AND receivable = 0",
@@ -196,7 +196,7 @@ std::vector<Asked> billAndSlipRows() {
         {"insere_car_rec",
          [](const Sessao& s, const Beside& b) {
              const Waiting document = waiting(b, "1");
-             return comando::insere_car_rec(s, slip(document, "1237"));
+             return commands::insere_car_rec(s, slip(document, "1237"));
          },
          "SELECT COUNT(*) FROM document WHERE slip_number = '1237' AND portfolio_id = 101"
          " AND bank_id = 1016 AND entered_by = '101' AND receivable = 1",
@@ -207,43 +207,44 @@ std::vector<Asked> billAndSlipRows() {
 std::vector<Asked> chequeAndLabelRows() {
     return {
         {"sel_banco_agencia_conta",
-         [](const Sessao& s, const Beside&) { return comando::sel_banco_agencia_conta(s); }},
+         [](const Sessao& s, const Beside&) { return commands::sel_banco_agencia_conta(s); }},
         {"adiciona_controle_cheque_emitido",
          [](const Sessao& s, const Beside&) {
-             return comando::adiciona_controle_cheque_emitido(s, kCheque);
+             return commands::adiciona_controle_cheque_emitido(s, kCheque);
          },
          "SELECT COUNT(*) FROM cheque WHERE number = 850 AND series = 'AA' AND amount = 123456"
          " AND payee = 'JOÃO DA SILVA' AND purpose = 'PAGAMENTO' AND agency = '0384'",
          0, 1},
         {"seleciona_um_controle_cheque_emitido",
          [](const Sessao& s, const Beside&) {
-             comando::Cheque cheque = kCheque;
-             cheque.agencia = "0384";
-             return comando::seleciona_um_controle_cheque_emitido(s, cheque);
+             commands::Cheque cheque = kCheque;
+             cheque.agency = "0384";
+             return commands::seleciona_um_controle_cheque_emitido(s, cheque);
          }},
-        {"sel_motivos", [](const Sessao& s, const Beside&) { return comando::sel_motivos(s); }},
+        {"sel_motivos", [](const Sessao& s, const Beside&) { return commands::sel_motivos(s); }},
         {"sel_filiais_remetente",
-         [](const Sessao& s, const Beside&) { return comando::sel_filiais_remetente(s); }},
+         [](const Sessao& s, const Beside&) { return commands::sel_filiais_remetente(s); }},
         {"sel_etiquetas",
-         [](const Sessao& s, const Beside&) { return comando::sel_etiquetas(s, "COBRANÇA"); }},
+         [](const Sessao& s, const Beside&) { return commands::sel_etiquetas(s, "COBRANÇA"); }},
         {"sel_dados_remetente",
-         [](const Sessao& s, const Beside&) { return comando::sel_dados_remetente(s, 1362); }},
+         [](const Sessao& s, const Beside&) { return commands::sel_dados_remetente(s, 1362); }},
         {"exclui_etiquetas",
          [](const Sessao& s, const Beside&) {
-             return comando::exclui_etiquetas(s, "COBRANÇA", "007", "16");
+             return commands::exclui_etiquetas(s, "COBRANÇA", "007", "16");
          },
          "SELECT COUNT(*) FROM label WHERE company_id = 1361 AND reason_id = 2", 31, 21},
-        {"sel_filias", [](const Sessao& s, const Beside&) { return comando::sel_filias(s); }},
-        {"sel_pais", [](const Sessao& s, const Beside&) { return comando::sel_pais(s); }},
-        {"sel_estado", [](const Sessao& s, const Beside&) { return comando::sel_estado(s, 1058); }},
-        {"sel_cidade", [](const Sessao& s, const Beside&) { return comando::sel_cidade(s, 15); }},
+        {"sel_filias", [](const Sessao& s, const Beside&) { return commands::sel_filias(s); }},
+        {"sel_pais", [](const Sessao& s, const Beside&) { return commands::sel_pais(s); }},
+        {"sel_estado",
+         [](const Sessao& s, const Beside&) { return commands::sel_estado(s, 1058); }},
+        {"sel_cidade", [](const Sessao& s, const Beside&) { return commands::sel_cidade(s, 15); }},
         {"sel_dados_etq",
          [](const Sessao& s, const Beside&) {
-             return comando::sel_dados_etq(s, {.filiais = "1361, 1362, 1363",
-                                               .pais = {1, 1058},
-                                               .vendaDe = "01/01/2012",
-                                               .vendaAte = "31/12/2012",
-                                               .valorDe = "10,50"});
+             return commands::sel_dados_etq(s, {.branches = "1361, 1362, 1363",
+                                                .country = {1, 1058},
+                                                .saleFrom = "01/01/2012",
+                                                .saleTo = "31/12/2012",
+                                                .amountFrom = "10,50"});
          }},
     };
 }

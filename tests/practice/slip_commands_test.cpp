@@ -10,7 +10,7 @@ namespace {
 
 // Portfolios of company 1361, the first of the table.
 constexpr const char* kWallet57 = "101";
-constexpr const char* kSantander = "102";
+constexpr const char* santander = "102";
 
 std::string slipQuery(const std::string& portfolio, const char* enter,
                       const std::string& filters = {}) {
@@ -127,7 +127,7 @@ TEST(SlipCommands, GiveEveryFieldOfADocument) {
     Desk desk;
     std::set<std::pair<std::string, std::string>> charges;
     std::set<std::size_t> lengths;
-    const XmlDocument document = desk.ask(slipQuery(kSantander, "N"));
+    const XmlDocument document = desk.ask(slipQuery(santander, "N"));
     for (const XmlNode& row : rowsOf(document)) {
         for (const char* name :
              {"SG_FIL",     "DT_VNC_DOC_FMA", "DC_TIP_DOC",  "NR_DOC",     "NM_CLI_ETB",
@@ -187,7 +187,7 @@ TEST(SlipCommands, EnterADocumentInAPortfolio) {
         EXPECT_TRUE(holds(desk, slipQuery(kWallet57, "N"), slip));
         EXPECT_FALSE(holds(desk, slipQuery(kWallet57, "S"), slip));
         EXPECT_EQ(desk.status(entering(kWallet57)), "OK");
-        EXPECT_EQ(desk.status(entering(kSantander)),
+        EXPECT_EQ(desk.status(entering(santander)),
                   "O documento não existe mais ou já está em outra carteira. Pesquise de novo.");
         EXPECT_TRUE(holds(desk, slipQuery(kWallet57, "N"), slip));
     }

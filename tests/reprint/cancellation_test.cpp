@@ -7,181 +7,181 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr char pedeSem[] =
+constexpr char queryWithout[] =
     "comando=sp_can_nf&ID_ETB_TARN=9&IC_TIP_NF=S&ID_NF_KESTO=4567&CD_SER_NF=U&id_mot_can=12&"
     "id_pes_usu=77&Tipo_Can=S&ServerName=SRV1";
-constexpr char pedeCom[] =
+constexpr char queryWith[] =
     "comando=sp_can_nf&ID_ETB_TARN=9&IC_TIP_NF=S&ID_NF_KESTO=4567&CD_SER_NF=U&id_mot_can=12&"
     "id_pes_usu=77&Tipo_Can=C&ServerName=SRV1";
-const Box sucesso{"Nota fiscal cancelada com sucesso", BoxIcon::Information, "Aviso"};
-const Box faltaTipo = aviso("Selecione o Tipo de Cancelamento !!!");
-const Box faltaMotivo = aviso("Selecione o Motivo do Cancelamento !!!");
+const Box success{"Nota fiscal cancelada com sucesso", BoxIcon::Information, "Aviso"};
+const Box kindMissing = notice("Selecione o Tipo de Cancelamento !!!");
+const Box reasonMissing = notice("Selecione o Motivo do Cancelamento !!!");
 
-class CancelamentoNaTela : public TelaDeNota {
+class CancellationScreen : public NoteScreenTest {
 protected:
     void SetUp() override {
-        TelaDeNota::SetUp();
-        abre("mCNF");
+        NoteScreenTest::SetUp();
+        open("mCNF");
     }
-    void preenche(int qual) {
-        marca(qual);
-        escolhe("CboMot_Can", motivoErro);
+    void fillIn(int which) {
+        tick(which);
+        choose("CboMot_Can", errorReason);
     }
-    void cancela() { click(tela(), "cmdSelecionar"); }
+    void cancel() { click(screen(), "cmdSelecionar"); }
     // All that was filled in for a cancellation still stands.
-    void ficouTudo() {
-        EXPECT_EQ(dados(), achada());
-        EXPECT_TRUE(opcao(0).isChecked());
-        EXPECT_EQ(escolhido("CboMot_Can"), motivoErro);
+    void allKept() {
+        EXPECT_EQ(data(), found());
+        EXPECT_TRUE(option(0).isChecked());
+        EXPECT_EQ(chosen("CboMot_Can"), errorReason);
     }
 };
 
-TEST_F(CancelamentoNaTela, WantsTheKindThenTheReason) {
-    encontra();
-    cancela();
-    marca(0);
-    cancela();
-    EXPECT_THAT(boxes.shown, ElementsAre(faltaTipo, faltaMotivo));
+TEST_F(CancellationScreen, WantsTheKindThenTheReason) {
+    find();
+    cancel();
+    tick(0);
+    cancel();
+    EXPECT_THAT(boxes.shown, ElementsAre(kindMissing, reasonMissing));
     EXPECT_THAT(server.addresses, IsEmpty());
-    EXPECT_EQ(dados(), achada());
+    EXPECT_EQ(data(), found());
 }
 
-TEST_F(CancelamentoNaTela, CancelsWithTheOptionOfBillingAgain) {
+TEST_F(CancellationScreen, CancelsWithTheOptionOfBillingAgain) {
     server.on("sp_can_nf", answers::status("OK"));
-    encontra();
-    preenche(0);
-    cancela();
-    EXPECT_THAT(server.queries(), ElementsAre(pedeCom));
-    EXPECT_THAT(boxes.shown, ElementsAre(sucesso));
+    find();
+    fillIn(0);
+    cancel();
+    EXPECT_THAT(server.queries(), ElementsAre(queryWith));
+    EXPECT_THAT(boxes.shown, ElementsAre(success));
 }
 
-TEST_F(CancelamentoNaTela, CancelsWithoutThatOptionAndForgetsTheNote) {
+TEST_F(CancellationScreen, CancelsWithoutThatOptionAndForgetsTheNote) {
     server.on("sp_can_nf", answers::status("OK"));
-    encontra();
-    preenche(1);
-    boxes.onShow = [this](const Box&) { EXPECT_EQ(dados(), achada()) << "the box comes first"; };
-    cancela();
-    EXPECT_THAT(server.queries(), ElementsAre(pedeSem));
-    EXPECT_THAT(boxes.shown, ElementsAre(sucesso));
-    EXPECT_EQ(dados(), nada());
-    EXPECT_FALSE(opcao(0).isChecked() || opcao(1).isChecked());
-    EXPECT_TRUE(opcao(0).isEnabled() && opcao(1).isEnabled());
-    EXPECT_EQ(escolhido("CboMot_Can"), -1);
-    EXPECT_EQ(escolhido("cboSerie"), serieUnica);
-    EXPECT_EQ(named<QLineEdit>(tela(), "txtNF").text(), QStringLiteral("4567"));
+    find();
+    fillIn(1);
+    boxes.onShow = [this](const Box&) { EXPECT_EQ(data(), found()) << "the box comes first"; };
+    cancel();
+    EXPECT_THAT(server.queries(), ElementsAre(queryWithout));
+    EXPECT_THAT(boxes.shown, ElementsAre(success));
+    EXPECT_EQ(data(), nothing());
+    EXPECT_FALSE(option(0).isChecked() || option(1).isChecked());
+    EXPECT_TRUE(option(0).isEnabled() && option(1).isEnabled());
+    EXPECT_EQ(chosen("CboMot_Can"), -1);
+    EXPECT_EQ(chosen("cboSerie"), singleSeries);
+    EXPECT_EQ(named<QLineEdit>(screen(), "txtNF").text(), QStringLiteral("4567"));
     boxes.onShow = nullptr;
-    cancela();
+    cancel();
     EXPECT_EQ(boxes.shown.back(),
-              aviso("Preencha o campo Nro da NF e a série e clique em pesquisar!!!"));
+              notice("Preencha o campo Nro da NF e a série e clique em pesquisar!!!"));
     EXPECT_EQ(server.addresses.size(), 1U);
 }
 
-TEST_F(CancelamentoNaTela, TheOtherOptionTakesTheFirstOnesPlace) {
+TEST_F(CancellationScreen, TheOtherOptionTakesTheFirstOnesPlace) {
     server.on("sp_can_nf", answers::status("OK"));
-    encontra();
-    marca(1);
-    preenche(0);
-    EXPECT_FALSE(opcao(1).isChecked());
-    cancela();
-    EXPECT_THAT(server.queries(), ElementsAre(pedeCom));
+    find();
+    tick(1);
+    fillIn(0);
+    EXPECT_FALSE(option(1).isChecked());
+    cancel();
+    EXPECT_THAT(server.queries(), ElementsAre(queryWith));
 }
 
-TEST_F(CancelamentoNaTela, OptionsOfTheNoteBeforeAreSelectableAgain) {
-    encontra();
-    marca(0);
-    encontra();  // the number typed anew clears the options
-    EXPECT_FALSE(opcao(0).isChecked());
-    marca(1);
-    EXPECT_TRUE(opcao(1).isChecked());
-    marca(0);
-    EXPECT_TRUE(opcao(0).isChecked());
-    EXPECT_FALSE(opcao(1).isChecked());
+TEST_F(CancellationScreen, OptionsOfTheNoteBeforeAreSelectableAgain) {
+    find();
+    tick(0);
+    find();  // the number typed anew clears the options
+    EXPECT_FALSE(option(0).isChecked());
+    tick(1);
+    EXPECT_TRUE(option(1).isChecked());
+    tick(0);
+    EXPECT_TRUE(option(0).isChecked());
+    EXPECT_FALSE(option(1).isChecked());
 }
 
-TEST_F(CancelamentoNaTela, AnUnknownResultAsksTheUserToCheckAndSendsNothingAgain) {
+TEST_F(CancellationScreen, AnUnknownResultAsksTheUserToCheckAndSendsNothingAgain) {
     server.failOn("sp_can_nf");
-    encontra();
-    preenche(0);
-    cancela();
-    EXPECT_THAT(
-        boxes.shown,
-        ElementsAre(critica("0009"), aviso("Favor verificar se a Nota Fiscal foi cancelada. ")));
-    EXPECT_THAT(server.queries(), ElementsAre(pedeCom));
-    ficouTudo();
-}
-
-TEST_F(CancelamentoNaTela, ARefusalIsTheServersWords) {
-    server.on("sp_can_nf", answers::status("Prazo vencido"));
-    encontra();
-    preenche(0);
-    cancela();
-    EXPECT_THAT(boxes.shown, ElementsAre(semTitulo("Prazo vencido")));
-    ficouTudo();
-}
-
-TEST_F(CancelamentoNaTela, AStatusThatCannotBeReadIsAFailedCancellationAndTheProgramLivesOn) {
-    server.on("sp_can_nf", answers::declaration + "<RESPOSTA status='OK'/>");
-    encontra();
-    preenche(0);
-    cancela();
+    find();
+    fillIn(0);
+    cancel();
     EXPECT_THAT(boxes.shown,
-                ElementsAre(aviso("Houve um problema no Cancelamento da Nota Fiscal nº 4567. ")));
-    ficouTudo();
-    EXPECT_FALSE(fim.encerrado());
+                ElementsAre(transportFailure("0009"),
+                            notice("Favor verificar se a Nota Fiscal foi cancelada. ")));
+    EXPECT_THAT(server.queries(), ElementsAre(queryWith));
+    allKept();
 }
 
-TEST_F(CancelamentoNaTela, ANoteOfTypeDIsFoundAndNeverCancelled) {
-    encontra("D");
-    EXPECT_EQ(dados(), achada("D"));
-    EXPECT_FALSE(opcao(0).isEnabled() || opcao(1).isEnabled());
-    preenche(0);
-    cancela();
-    marca(1);
-    cancela();
-    EXPECT_THAT(boxes.shown, ElementsAre(faltaTipo, faltaTipo));
+TEST_F(CancellationScreen, ARefusalIsTheServersWords) {
+    server.on("sp_can_nf", answers::status("Prazo vencido"));
+    find();
+    fillIn(0);
+    cancel();
+    EXPECT_THAT(boxes.shown, ElementsAre(untitled("Prazo vencido")));
+    allKept();
+}
+
+TEST_F(CancellationScreen, AStatusThatCannotBeReadIsAFailedCancellationAndTheProgramLivesOn) {
+    server.on("sp_can_nf", answers::declaration + "<RESPOSTA status='OK'/>");
+    find();
+    fillIn(0);
+    cancel();
+    EXPECT_THAT(boxes.shown,
+                ElementsAre(notice("Houve um problema no Cancelamento da Nota Fiscal nº 4567. ")));
+    allKept();
+    EXPECT_FALSE(end.ended());
+}
+
+TEST_F(CancellationScreen, ANoteOfTypeDIsFoundAndNeverCancelled) {
+    find("D");
+    EXPECT_EQ(data(), found("D"));
+    EXPECT_FALSE(option(0).isEnabled() || option(1).isEnabled());
+    fillIn(0);
+    cancel();
+    tick(1);
+    cancel();
+    EXPECT_THAT(boxes.shown, ElementsAre(kindMissing, kindMissing));
     EXPECT_THAT(server.addresses, IsEmpty());
 }
 
-TEST_F(CancelamentoNaTela, TheSearchAloneDecidesWhetherTheOptionsAreEnabled) {
-    encontra("D");
-    type(tela(), "txtNF", "1");
-    EXPECT_FALSE(opcao(0).isEnabled() || opcao(1).isEnabled()) << "clearing leaves them disabled";
-    ScriptedLoader outra;
-    server = outra.on("SEL_NF", answers::rowset(linhaDaNota("d")));
-    click(tela(), "cmdPesquisar");
-    EXPECT_TRUE(opcao(0).isEnabled() && opcao(1).isEnabled()) << "only a capital D counts";
+TEST_F(CancellationScreen, TheSearchAloneDecidesWhetherTheOptionsAreEnabled) {
+    find("D");
+    type(screen(), "txtNF", "1");
+    EXPECT_FALSE(option(0).isEnabled() || option(1).isEnabled()) << "clearing leaves them disabled";
+    ScriptedLoader other;
+    server = other.on("SEL_NF", answers::rowset(noteRow("d")));
+    click(screen(), "cmdPesquisar");
+    EXPECT_TRUE(option(0).isEnabled() && option(1).isEnabled()) << "only a capital D counts";
 }
 
-TEST_F(CancelamentoNaTela, WithoutReasonsItStopsAtTheReason) {
-    click(tela(), "CmdFechar");
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !aberta(); }));
-    ScriptedLoader semMotivos;
-    server = semMotivos.on("sTransacao", answers::status("OK"))
+TEST_F(CancellationScreen, WithoutReasonsItStopsAtTheReason) {
+    click(screen(), "CmdFechar");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
+    ScriptedLoader noReasons;
+    server = noReasons.on("sTransacao", answers::status("OK"))
                  .on("SEL_SERIE_NF", answers::rowset("<z:row DC_SER_NF='x' CD_SER_NF='1'/>"
                                                      "<z:row DC_SER_NF='u' CD_SER_NF='U'/>"))
                  .failOn("SEL_MOT_CAN");
-    abreVazia("mCNF");
-    EXPECT_THAT(boxes.shown, ElementsAre(critica("0011"))) << "no box of the screen's own";
+    openEmpty("mCNF");
+    EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0011"))) << "no box of the screen's own";
     boxes.shown.clear();
-    encontra();
-    marca(1);
-    cancela();
-    EXPECT_THAT(boxes.shown, ElementsAre(faltaMotivo));
+    find();
+    tick(1);
+    cancel();
+    EXPECT_THAT(boxes.shown, ElementsAre(reasonMissing));
     EXPECT_THAT(server.addresses, IsEmpty());
 }
 
-TEST_F(CancelamentoNaTela, ACancelledNoteIsNoLongerFound) {
+TEST_F(CancellationScreen, ACancelledNoteIsNoLongerFound) {
     server.on("sp_can_nf", answers::status("OK"));
-    encontra();
-    preenche(1);
-    cancela();
-    ScriptedLoader depois;
-    server = depois.on("SEL_NF", answers::rowset(""));
-    click(tela(), "cmdPesquisar");
+    find();
+    fillIn(1);
+    cancel();
+    ScriptedLoader after;
+    server = after.on("SEL_NF", answers::rowset(""));
+    click(screen(), "cmdPesquisar");
     EXPECT_THAT(boxes.shown,
-                ElementsAre(sucesso, aviso("Nota Fiscal não encontrada ou Cancelada !!!    ")));
-    EXPECT_EQ(dados(), nada());
-    EXPECT_THAT(server.queries(), ElementsAre(pedePesquisa));
+                ElementsAre(success, notice("Nota Fiscal não encontrada ou Cancelada !!!    ")));
+    EXPECT_EQ(data(), nothing());
+    EXPECT_THAT(server.queries(), ElementsAre(searchQuery));
 }
 
 }  // namespace

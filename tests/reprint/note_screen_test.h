@@ -16,37 +16,37 @@
 
 namespace tarn {
 
-inline Box critica(const std::string& numero) {
-    return {"ERRO Tarn" + numero +
+inline Box transportFailure(const std::string& number) {
+    return {"ERRO Tarn" + number +
                 " - Não foi possível obter os dados da Internet. Verifique a conexão com a "
                 "Internet.",
             BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
 }
-inline Box aviso(const std::string& texto) {
+inline Box notice(const std::string& texto) {
     return {texto, BoxIcon::Exclamation, "Aviso"};
 }
-inline Box semTitulo(const std::string& texto) {
+inline Box untitled(const std::string& texto) {
     return {texto, BoxIcon::Exclamation, "TarnEmissao"};
 }
 
-inline std::string linhaDaNota(const std::string& tipo) {
-    return "<z:row DC_TIP_NF='VENDA &lt;b&gt;' IC_TIP_NF='" + tipo +
+inline std::string noteRow(const std::string& kind) {
+    return "<z:row DC_TIP_NF='VENDA &lt;b&gt;' IC_TIP_NF='" + kind +
            "' DT_EMS_NF='2012-03-05' NM_PES_CPL='JOSÉ &amp; &lt;b&gt;FILHOS'/>";
 }
 
-class TelaDeNota : public ScreenTest {
+class NoteScreenTest : public ScreenTest {
 protected:
     // Queries at establishment 9 of company 1361.
-    static constexpr char pedeSeries[] = "comando=SEL_SERIE_NF&ServerName=SRV1";
-    static constexpr char pedeMotivos[] = "comando=SEL_MOT_CAN&ID_ETB_TARN=9&ServerName=SRV1";
-    static constexpr char pedePesquisa[] =
+    static constexpr char seriesQuery[] = "comando=SEL_SERIE_NF&ServerName=SRV1";
+    static constexpr char reasonsQuery[] = "comando=SEL_MOT_CAN&ID_ETB_TARN=9&ServerName=SRV1";
+    static constexpr char searchQuery[] =
         "comando=SEL_NF&ID_ETB_TARN=9&ID_NF_KESTO=4567&CD_SER_NF=U&ServerName=SRV1";
-    static constexpr char pedeDocumento[] =
+    static constexpr char documentQuery[] =
         "comando=sel_gera_nf&ID_ETB_TARN=9&ID_NF_KESTO=4567&CD_SER_NF=U&ServerName=SRV1";
     // Rows of the lists.
-    static constexpr int serie1 = 0;
-    static constexpr int serieUnica = 1;
-    static constexpr int motivoErro = 0;  // its number is 12
+    static constexpr int series1 = 0;
+    static constexpr int singleSeries = 1;
+    static constexpr int errorReason = 0;  // its number is 12
 
     void SetUp() override {
         ScreenTest::SetUp();
@@ -56,7 +56,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(&menu));
     }
 
-    void listas() {
+    void lists() {
         server.on("SEL_SERIE_NF",
                   answers::rowset("<z:row DC_SER_NF='Série 1' CD_SER_NF=' 1 '/>"
                                   "<z:row DC_SER_NF='Série única' CD_SER_NF='U'/>"));
@@ -65,55 +65,56 @@ protected:
                                   "<z:row DC_MOT_CAN='Desistência' ID_MOT_CAN='7'/>"));
     }
     // Opens the screen by its menu entry, as the lists of the script stand.
-    void abreVazia(const char* entrada) {
-        choose(menu, "mnuNF", entrada);
+    void openEmpty(const char* input) {
+        choose(menu, "mnuNF", input);
         menu.activateWindow();  // off-screen an open menu takes the activation along
         ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &menu; }));
     }
-    void abre(const char* entrada) {
-        listas();
-        abreVazia(entrada);
+    void open(const char* input) {
+        lists();
+        openEmpty(input);
         server.addresses.clear();
     }
     // Finds note 4567 of series U.
-    void encontra(const std::string& tipo = "S") {
-        server.on("SEL_NF", answers::rowset(linhaDaNota(tipo)));
-        escolhe("cboSerie", serieUnica);
-        type(tela(), "txtNF", "4567");
-        click(tela(), "cmdPesquisar");
-        ASSERT_EQ(mostrado("LBLNOTA"), "4567");
+    void find(const std::string& kind = "S") {
+        server.on("SEL_NF", answers::rowset(noteRow(kind)));
+        choose("cboSerie", singleSeries);
+        type(screen(), "txtNF", "4567");
+        click(screen(), "cmdPesquisar");
+        ASSERT_EQ(shown("LBLNOTA"), "4567");
         server.addresses.clear();
     }
-    void escolhe(const char* lista, int linha) { pick(tela(), lista, linha); }
+    void choose(const char* list, int linha) { pick(screen(), list, linha); }
 
-    FrmReImprimeNF& tela() { return named<FrmReImprimeNF>(menu, "FrmReImprimeNF"); }
-    bool aberta() { return menu.findChild<FrmReImprimeNF*>() != nullptr; }
-    std::string mostrado(const char* rotulo) {
-        return named<QLabel>(tela(), rotulo).text().toStdString();
+    FrmReImprimeNF& screen() { return named<FrmReImprimeNF>(menu, "FrmReImprimeNF"); }
+    bool isOpen() { return menu.findChild<FrmReImprimeNF*>() != nullptr; }
+    std::string shown(const char* label) {
+        return named<QLabel>(screen(), label).text().toStdString();
     }
-    std::string codigo(const char* rotulo) {
-        return named<QLabel>(tela(), rotulo).property("Tag").toString().toStdString();
+    std::string code(const char* label) {
+        return named<QLabel>(screen(), label).property("Tag").toString().toStdString();
     }
-    std::vector<std::string> dados() {
-        return {mostrado("LBLNOTA"), codigo("LBLNOTA"),   mostrado("LblTipoNf"),
-                codigo("LblTipoNf"), mostrado("LblDtEm"), mostrado("LBLCliente")};
+    std::vector<std::string> data() {
+        return {shown("LBLNOTA"),  code("LBLNOTA"),  shown("LblTipoNf"),
+                code("LblTipoNf"), shown("LblDtEm"), shown("LBLCliente")};
     }
-    std::vector<std::string> achada(const std::string& tipo = "S") {
-        return {"4567", "U", "VENDA <b>", tipo, "05/03/2012", "JOSÉ & <b>FILHOS"};
+    std::vector<std::string> found(const std::string& kind = "S") {
+        return {"4567", "U", "VENDA <b>", kind, "05/03/2012", "JOSÉ & <b>FILHOS"};
     }
     // The tag of the type is what LimpaDados leaves alone.
-    std::vector<std::string> nada(const std::string& tipo = "S") {
-        return {"", "", "", tipo, "", ""};
+    std::vector<std::string> nothing(const std::string& kind = "S") {
+        return {"", "", "", kind, "", ""};
     }
-    QRadioButton& opcao(int qual) {
-        return named<QRadioButton>(tela(), qual == 0 ? "OptionReimp_0" : "OptionReimp_1");
+    QRadioButton& option(int which) {
+        return named<QRadioButton>(screen(), which == 0 ? "OptionReimp_0" : "OptionReimp_1");
     }
     // An option is clicked where its circle is.
-    void marca(int qual) {
-        QTest::mouseClick(&opcao(qual), Qt::LeftButton, {}, QPoint(8, opcao(qual).height() / 2));
+    void tick(int which) {
+        QTest::mouseClick(&option(which), Qt::LeftButton, {},
+                          QPoint(8, option(which).height() / 2));
     }
-    int escolhido(const char* lista) { return named<QComboBox>(tela(), lista).currentIndex(); }
-    bool menusLivres() {
+    int chosen(const char* list) { return named<QComboBox>(screen(), list).currentIndex(); }
+    bool menusEnabled() {
         return named<QMenu>(menu, "mnuEtiquetas").isEnabled() &&
                named<QMenu>(menu, "mnuNF").isEnabled();
     }

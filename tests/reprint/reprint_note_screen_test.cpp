@@ -11,123 +11,123 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::string conteudo(const char* nome) {
-    std::ifstream arquivo(std::string(TARN_NOTE_DATA) + "/" + nome, std::ios::binary);
+std::string content(const char* nome) {
+    std::ifstream file(std::string(TARN_NOTE_DATA) + "/" + nome, std::ios::binary);
     std::ostringstream bytes;
-    bytes << arquivo.rdbuf();
+    bytes << file.rdbuf();
     return bytes.str();
 }
 
-class ReimpressaoNaTela : public TelaDeNota {
+class ReprintScreen : public NoteScreenTest {
 protected:
     void SetUp() override {
-        TelaDeNota::SetUp();
-        abre("mRINF");
+        NoteScreenTest::SetUp();
+        open("mRINF");
     }
-    void imprime() { click(tela(), "cmdSelecionar"); }
+    void print() { click(screen(), "cmdSelecionar"); }
 };
 
-TEST_F(ReimpressaoNaTela, TheNoteComesOutByteForByteAsOftenAsAsked) {
-    server.on("sel_gera_nf", conteudo("nota_1361.xml"));
-    encontra();
-    imprime();
-    EXPECT_THAT(server.queries(), ElementsAre(pedeDocumento));
+TEST_F(ReprintScreen, TheNoteComesOutByteForByteAsOftenAsAsked) {
+    server.on("sel_gera_nf", content("nota_1361.xml"));
+    find();
+    print();
+    EXPECT_THAT(server.queries(), ElementsAre(documentQuery));
     ASSERT_EQ(spooler.jobs.size(), 2U);
     EXPECT_EQ(spooler.bytes(0), " \x0F");
-    EXPECT_EQ(spooler.bytes(1), conteudo("nota_1361.prn"));
-    EXPECT_EQ(dados(), achada());
-    imprime();
-    EXPECT_THAT(server.queries(), ElementsAre(pedeDocumento, pedeDocumento));
+    EXPECT_EQ(spooler.bytes(1), content("nota_1361.prn"));
+    EXPECT_EQ(data(), found());
+    print();
+    EXPECT_THAT(server.queries(), ElementsAre(documentQuery, documentQuery));
     ASSERT_EQ(spooler.jobs.size(), 4U);
     EXPECT_EQ(spooler.bytes(3), spooler.bytes(1));
     EXPECT_THAT(boxes.shown, IsEmpty());
-    EXPECT_FALSE(menusLivres());
+    EXPECT_FALSE(menusEnabled());
 }
 
-TEST_F(ReimpressaoNaTela, ANoteOfTypeDIsPrinted) {
-    server.on("sel_gera_nf", conteudo("nota_1361.xml"));
-    encontra("D");
-    EXPECT_FALSE(opcao(0).isEnabled() || opcao(1).isEnabled());
-    imprime();
+TEST_F(ReprintScreen, ANoteOfTypeDIsPrinted) {
+    server.on("sel_gera_nf", content("nota_1361.xml"));
+    find("D");
+    EXPECT_FALSE(option(0).isEnabled() || option(1).isEnabled());
+    print();
     ASSERT_EQ(spooler.jobs.size(), 2U);
-    EXPECT_EQ(spooler.bytes(1), conteudo("nota_1361.prn"));
+    EXPECT_EQ(spooler.bytes(1), content("nota_1361.prn"));
 }
 
-TEST_F(ReimpressaoNaTela, NumberAndSeriesAreThoseOfTheNoteFound) {
-    server.on("sel_gera_nf", conteudo("nota_1361.xml"));
-    encontra();
-    named<QComboBox>(tela(), "cboSerie").setCurrentIndex(serie1);  // by no choice of the user
-    imprime();
-    EXPECT_THAT(server.queries(), ElementsAre(pedeDocumento));
+TEST_F(ReprintScreen, NumberAndSeriesAreThoseOfTheNoteFound) {
+    server.on("sel_gera_nf", content("nota_1361.xml"));
+    find();
+    named<QComboBox>(screen(), "cboSerie").setCurrentIndex(series1);  // by no choice of the user
+    print();
+    EXPECT_THAT(server.queries(), ElementsAre(documentQuery));
 }
 
-TEST_F(ReimpressaoNaTela, ADocumentOutOfReachIsToldTwiceAndTheFieldsStay) {
+TEST_F(ReprintScreen, ADocumentOutOfReachIsToldTwiceAndTheFieldsStay) {
     server.failOn("sel_gera_nf");
-    encontra();
-    imprime();
+    find();
+    print();
     EXPECT_THAT(
         boxes.shown,
-        ElementsAre(critica("0008"),
-                    aviso("Houve um problema na transferência dos dados da Nota Fiscal !!!")));
-    EXPECT_THAT(server.queries(), ElementsAre(pedeDocumento));
-    EXPECT_EQ(dados(), achada());
+        ElementsAre(transportFailure("0008"),
+                    notice("Houve um problema na transferência dos dados da Nota Fiscal !!!")));
+    EXPECT_THAT(server.queries(), ElementsAre(documentQuery));
+    EXPECT_EQ(data(), found());
     EXPECT_THAT(spooler.calls, IsEmpty());
 }
 
-TEST_F(ReimpressaoNaTela, ARefusalIsTheServersWords) {
+TEST_F(ReprintScreen, ARefusalIsTheServersWords) {
     server.on("sel_gera_nf", answers::status("Nota &lt;bloqueada&gt;"));
-    encontra();
-    imprime();
-    EXPECT_THAT(boxes.shown, ElementsAre(semTitulo("Nota <bloqueada>")));
-    EXPECT_EQ(dados(), achada());
+    find();
+    print();
+    EXPECT_THAT(boxes.shown, ElementsAre(untitled("Nota <bloqueada>")));
+    EXPECT_EQ(data(), found());
     EXPECT_THAT(spooler.calls, IsEmpty());
 }
 
-TEST_F(ReimpressaoNaTela, AStatusThatCannotBeReadIsAFailedTransferAndTheProgramLivesOn) {
+TEST_F(ReprintScreen, AStatusThatCannotBeReadIsAFailedTransferAndTheProgramLivesOn) {
     server.on("sel_gera_nf", "<PRINCIPAL a='' s='OK'/>");
-    encontra();
-    imprime();
+    find();
+    print();
     EXPECT_THAT(boxes.shown,
-                ElementsAre(aviso(
+                ElementsAre(notice(
                     "Houve um problema na transferência dos dados da Nota Fiscal nº 4567. ")));
-    EXPECT_EQ(dados(), achada());
-    EXPECT_FALSE(fim.encerrado());
+    EXPECT_EQ(data(), found());
+    EXPECT_FALSE(end.ended());
 }
 
-TEST_F(ReimpressaoNaTela, AnErrorInTheNoteEndsTheProgramWithTheReport) {
-    server.on("sel_gera_nf", conteudo("nota_quantidade_errada.xml"));
-    encontra();
-    imprime();
+TEST_F(ReprintScreen, AnErrorInTheNoteEndsTheProgramWithTheReport) {
+    server.on("sel_gera_nf", content("nota_quantidade_errada.xml"));
+    find();
+    print();
     ASSERT_EQ(boxes.shown.size(), 1U);
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
     EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
     EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '13':\r\r", 0), 0U)
         << boxes.shown[0].text;
     EXPECT_NE(boxes.shown[0].text.find("tela de Reimpressão de Nota Fiscal"), std::string::npos);
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_EQ(end.status(), 3);
     ASSERT_EQ(spooler.jobs.size(), 2U);
     EXPECT_TRUE(spooler.jobs[0].closed);
     EXPECT_FALSE(spooler.jobs[1].ended) << "the note's job stays open";
 }
 
-TEST_F(ReimpressaoNaTela, AnEstablishmentWithoutAFormPrintsNothingAndSaysNothing) {
-    encontra();
-    server.on("sel_gera_nf", conteudo("nota_1361.xml"));
-    sessao.NCOMPANYCODE = 2161;
-    imprime();
+TEST_F(ReprintScreen, AnEstablishmentWithoutAFormPrintsNothingAndSaysNothing) {
+    find();
+    server.on("sel_gera_nf", content("nota_1361.xml"));
+    session.NCOMPANYCODE = 2161;
+    print();
     EXPECT_THAT(spooler.calls, IsEmpty());
     EXPECT_THAT(boxes.shown, IsEmpty());
-    EXPECT_EQ(dados(), achada());
+    EXPECT_EQ(data(), found());
 }
 
-TEST_F(ReimpressaoNaTela, APrinterThatFailsGoesUnnoticed) {
-    server.on("sel_gera_nf", conteudo("nota_1361.xml"));
+TEST_F(ReprintScreen, APrinterThatFailsGoesUnnoticed) {
+    server.on("sel_gera_nf", content("nota_1361.xml"));
     spooler.failOpen = 1;
-    encontra();
-    imprime();
+    find();
+    print();
     EXPECT_THAT(boxes.shown, IsEmpty());
-    imprime();
-    EXPECT_EQ(spooler.jobs.back().bytes(), conteudo("nota_1361.prn"));
+    print();
+    EXPECT_EQ(spooler.jobs.back().bytes(), content("nota_1361.prn"));
 }
 
 }  // namespace

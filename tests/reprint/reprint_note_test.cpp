@@ -12,206 +12,207 @@
 namespace tarn {
 namespace {
 
-const std::string semInternet =
+const std::string noInternet =
     " - Não foi possível obter os dados da Internet. Verifique a conexão com a Internet.";
-const std::string vao(50, ' ');
+const std::string gap(50, ' ');
 
-Box critica(const std::string& numero) {
-    return {"ERRO Tarn" + numero + semInternet, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
+Box transportFailure(const std::string& number) {
+    return {"ERRO Tarn" + number + noInternet, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
 }
-Box aviso(const std::string& texto) {
+Box notice(const std::string& texto) {
     return {texto, BoxIcon::Exclamation, "Aviso"};
 }
 
 // Loaded answers of which no status can be read.
-const std::vector<std::string> semStatus{
+const std::vector<std::string> noStatus{
     "<RESPOSTA cod='0' status='OK'/>",  // no declaration: the root is the first child
     answers::declaration + "<RESPOSTA status='OK'/>",  // one attribute
     answers::declaration + "<RESPOSTA/>"};
 
-class ReimpressaoTest : public testing::Test {
+class ReprintTest : public testing::Test {
 protected:
-    ReimpressaoTest() {
-        sessao.NCOMPANYCODE = 1361;
-        sessao.ID_ETB_TARN = 9;
-        sessao.UserCode = "u1";
-        sessao.SERVERNAME = "SRV";
+    ReprintTest() {
+        session.NCOMPANYCODE = 1361;
+        session.ID_ETB_TARN = 9;
+        session.UserCode = "u1";
+        session.SERVERNAME = "SRV";
     }
     std::vector<std::string> series() {
-        std::vector<std::string> itens;
-        EXPECT_TRUE(carregaSeries(ambiente, sessao, itens));
-        return itens;
+        std::vector<std::string> items;
+        EXPECT_TRUE(loadSeries(environment, session, items));
+        return items;
     }
-    std::optional<NotaEncontrada> pesquisa(const std::string& linhas) {
+    std::optional<FoundNote> search(const std::string& linhas) {
         seams.loader.on("SEL_NF", answers::rowset(linhas));
-        return pesquisaNota(ambiente, sessao, {"Série 1" + vao + "|A1", "0555"});
+        return searchNote(environment, session, {"Série 1" + gap + "|A1", "0555"});
     }
-    void reimprime(const std::string& resposta) {
-        seams.loader.on("sel_gera_nf", resposta);
-        reimprimeNota(ambiente, sessao, "0555", "A1");
+    void reimprime(const std::string& answer) {
+        seams.loader.on("sel_gera_nf", answer);
+        reprintNote(environment, session, "0555", "A1");
     }
     // Prints the sample note at this company and establishment and compares its jobs
     // with those of the named form.
-    void saiNoFormulario(std::int32_t empresa, std::int32_t estabelecimento,
-                         const notes::Layout& layout) {
-        sessao.NCOMPANYCODE = empresa;
-        sessao.ID_ETB_TARN = estabelecimento;
-        const std::string nota = test::sampleNote().xml();
-        reimprime(nota);
-        std::vector<std::string> esperado;
+    void comesOutOnForm(std::int32_t company, std::int32_t establishment,
+                        const notes::Layout& layout) {
+        session.NCOMPANYCODE = company;
+        session.ID_ETB_TARN = establishment;
+        const std::string note = test::sampleNote().xml();
+        reimprime(note);
+        std::vector<std::string> expected;
         for (const test::Job& job :
-             test::print(layout.formFor(estabelecimento), nota, nullptr, "0555")) {
-            esperado.push_back(job.bytes());
+             test::print(layout.formFor(establishment), note, nullptr, "0555")) {
+            expected.push_back(job.bytes());
         }
-        std::vector<std::string> saiu;
+        std::vector<std::string> output;
         for (const auto& job : seams.spooler.jobs) {
-            saiu.push_back(job.bytes());
+            output.push_back(job.bytes());
             EXPECT_TRUE(job.closed);
         }
-        EXPECT_EQ(saiu, esperado);
+        EXPECT_EQ(output, expected);
         EXPECT_THAT(seams.boxes.shown, testing::IsEmpty());
     }
 
     TestEnvironment seams;
-    Environment& ambiente = seams.environment;
-    Sessao sessao;
+    Environment& environment = seams.environment;
+    Sessao session;
 };
 
-TEST_F(ReimpressaoTest, AnItemIsDescriptionFiftyBlanksBarAndTrimmedCode) {
+TEST_F(ReprintTest, AnItemIsDescriptionFiftyBlanksBarAndTrimmedCode) {
     seams.loader.on("SEL_SERIE_NF",
                     answers::rowset("<z:row DC_SER_NF='Série única ' CD_SER_NF='  U 1 '/>"
                                     "<z:row CD_SER_NF='2'/><z:row DC_SER_NF='Sem código'/>"
                                     "<z:row dc_ser_nf='x' cd_ser_nf='y'/>"));
-    EXPECT_THAT(series(), testing::ElementsAre("Série única " + vao + "|U 1", vao + "|2",
-                                               "Sem código" + vao + "|", vao + "|"));
+    EXPECT_THAT(series(), testing::ElementsAre("Série única " + gap + "|U 1", gap + "|2",
+                                               "Sem código" + gap + "|", gap + "|"));
     EXPECT_THAT(seams.loader.queries(),
                 testing::ElementsAre("comando=SEL_SERIE_NF&ServerName=SRV"));
     EXPECT_THAT(seams.boxes.shown, testing::IsEmpty());
 }
 
-TEST_F(ReimpressaoTest, TheCodeIsTheSecondPiece) {
-    EXPECT_EQ(codigoDaSerie("Série única " + vao + "|U 1"), "U 1");
-    EXPECT_EQ(codigoDaSerie(vao + "|"), "");
-    EXPECT_EQ(codigoDaSerie("A|B" + vao + "|7"), "B" + vao) << "a bar in the description";
+TEST_F(ReprintTest, TheCodeIsTheSecondPiece) {
+    EXPECT_EQ(seriesCode("Série única " + gap + "|U 1"), "U 1");
+    EXPECT_EQ(seriesCode(gap + "|"), "");
+    EXPECT_EQ(seriesCode("A|B" + gap + "|7"), "B" + gap) << "a bar in the description";
 }
 
-TEST_F(ReimpressaoTest, NoRowsetNoItems) {
+TEST_F(ReprintTest, NoRowsetNoItems) {
     seams.loader.on("SEL_SERIE_NF", answers::status("OK")).on("SEL_MOT_CAN", answers::rowset(""));
     EXPECT_THAT(series(), testing::IsEmpty());
-    EXPECT_TRUE(carregaMotivos(ambiente, sessao).empty());
+    EXPECT_TRUE(loadReasons(environment, session).empty());
     EXPECT_THAT(seams.boxes.shown, testing::IsEmpty());
 }
 
-TEST_F(ReimpressaoTest, SeriesOutOfReachStopNothing) {
+TEST_F(ReprintTest, SeriesOutOfReachStopNothing) {
     EXPECT_THAT(series(), testing::IsEmpty());
-    EXPECT_THAT(seams.boxes.shown, testing::ElementsAre(critica("0010")));
+    EXPECT_THAT(seams.boxes.shown, testing::ElementsAre(transportFailure("0010")));
 }
 
-TEST_F(ReimpressaoTest, ReasonsKeepTheirNumber) {
+TEST_F(ReprintTest, ReasonsKeepTheirNumber) {
     seams.loader.on("SEL_MOT_CAN", answers::rowset("<z:row DC_MOT_CAN='Erro' ID_MOT_CAN=' 12 '/>"
                                                    "<z:row DC_MOT_CAN='Outro' ID_MOT_CAN='-3'/>"
                                                    "<z:row DC_MOT_CAN='Sem'/>"
                                                    "<z:row ID_MOT_CAN='2147483648'/>"));
-    std::vector<std::pair<std::string, std::int32_t>> lidos;
-    for (const MotivoCancelamento& motivo : carregaMotivos(ambiente, sessao)) {
-        lidos.emplace_back(motivo.descricao, motivo.id);
+    std::vector<std::pair<std::string, std::int32_t>> readOnes;
+    for (const CancelReason& reason : loadReasons(environment, session)) {
+        readOnes.emplace_back(reason.description, reason.id);
     }
-    EXPECT_THAT(lidos, testing::ElementsAre(testing::Pair("Erro", 12), testing::Pair("Outro", -3),
-                                            testing::Pair("Sem", 0), testing::Pair("", 0)));
+    EXPECT_THAT(readOnes,
+                testing::ElementsAre(testing::Pair("Erro", 12), testing::Pair("Outro", -3),
+                                     testing::Pair("Sem", 0), testing::Pair("", 0)));
     EXPECT_THAT(seams.loader.queries(),
                 testing::ElementsAre("comando=SEL_MOT_CAN&ID_ETB_TARN=9&ServerName=SRV"));
 }
 
-TEST_F(ReimpressaoTest, ReasonsOutOfReachAreToldOnce) {
-    EXPECT_TRUE(carregaMotivos(ambiente, sessao).empty());
-    EXPECT_THAT(seams.boxes.shown, testing::ElementsAre(critica("0011")));
+TEST_F(ReprintTest, ReasonsOutOfReachAreToldOnce) {
+    EXPECT_TRUE(loadReasons(environment, session).empty());
+    EXPECT_THAT(seams.boxes.shown, testing::ElementsAre(transportFailure("0011")));
 }
 
-TEST_F(ReimpressaoTest, TheFirstRowIsTheNote) {
-    const auto nota = pesquisa(
+TEST_F(ReprintTest, TheFirstRowIsTheNote) {
+    const auto note = search(
         "<z:row DC_TIP_NF='Saída' IC_TIP_NF='S' DT_EMS_NF='2012-03-05T00:00:00' "
         "NM_PES_CPL='PÃO &amp; CIA'/><z:row DC_TIP_NF='outra'/>");
-    ASSERT_TRUE(nota);
-    EXPECT_EQ(nota->numero, "0555");
-    EXPECT_EQ(nota->serie, "A1");
-    EXPECT_EQ(nota->tipo, "S");
-    EXPECT_EQ(nota->descricaoTipo, "Saída");
-    EXPECT_EQ(nota->emissao, "05/03/2012");
-    EXPECT_EQ(nota->cliente, "PÃO & CIA");
+    ASSERT_TRUE(note);
+    EXPECT_EQ(note->number, "0555");
+    EXPECT_EQ(note->series, "A1");
+    EXPECT_EQ(note->kind, "S");
+    EXPECT_EQ(note->kindText, "Saída");
+    EXPECT_EQ(note->issued, "05/03/2012");
+    EXPECT_EQ(note->customer, "PÃO & CIA");
     EXPECT_THAT(seams.loader.queries(),
                 testing::ElementsAre(
                     "comando=SEL_NF&ID_ETB_TARN=9&ID_NF_KESTO=0555&CD_SER_NF=A1&ServerName=SRV"));
 }
 
-TEST_F(ReimpressaoTest, AbsentFieldsOfTheNoteAreEmptyAndNoDateStaysAsItIs) {
-    const auto vazia = pesquisa("<z:row/>");
-    ASSERT_TRUE(vazia);
-    EXPECT_EQ(vazia->tipo + vazia->descricaoTipo + vazia->emissao + vazia->cliente, "");
+TEST_F(ReprintTest, AbsentFieldsOfTheNoteAreEmptyAndNoDateStaysAsItIs) {
+    const auto empty = search("<z:row/>");
+    ASSERT_TRUE(empty);
+    EXPECT_EQ(empty->kind + empty->kindText + empty->issued + empty->customer, "");
     seams.loader.on("ID_NF_KESTO=0555", answers::rowset("<z:row DT_EMS_NF='31/02/2012'/>"));
-    EXPECT_EQ(pesquisa("")->emissao, "31/02/2012");
+    EXPECT_EQ(search("")->issued, "31/02/2012");
 }
 
-TEST_F(ReimpressaoTest, AFieldSpelledInAnotherCaseFails) {
-    EXPECT_THROW(pesquisa("<z:row Ic_Tip_Nf='S'/>"), ErroExecucao);
+TEST_F(ReprintTest, AFieldSpelledInAnotherCaseFails) {
+    EXPECT_THROW(search("<z:row Ic_Tip_Nf='S'/>"), RuntimeError);
 }
 
-TEST_F(ReimpressaoTest, NoRowIsNoNoteWhateverTheStatus) {
-    EXPECT_FALSE(pesquisa(""));
+TEST_F(ReprintTest, NoRowIsNoNoteWhateverTheStatus) {
+    EXPECT_FALSE(search(""));
     seams.loader.on("ID_NF_KESTO=0555&CD", answers::status("Sessão inválida"));
-    EXPECT_FALSE(pesquisa(""));
-    const Box nada = aviso("Nota Fiscal não encontrada ou Cancelada !!!    ");
-    EXPECT_THAT(seams.boxes.shown, testing::ElementsAre(nada, nada));
+    EXPECT_FALSE(search(""));
+    const Box nothing = notice("Nota Fiscal não encontrada ou Cancelada !!!    ");
+    EXPECT_THAT(seams.boxes.shown, testing::ElementsAre(nothing, nothing));
 }
 
-TEST_F(ReimpressaoTest, AnUnreadableStatusIsAFailedTransferOfTheJobInHand) {
-    for (const std::string& resposta : semStatus) {
-        TestEnvironment outro;
-        outro.loader.on("sel_gera_nf", resposta).on("sp_can_nf", resposta);
-        reimprimeNota(outro.environment, sessao, "0555", "A1");
+TEST_F(ReprintTest, AnUnreadableStatusIsAFailedTransferOfTheJobInHand) {
+    for (const std::string& answer : noStatus) {
+        TestEnvironment other;
+        other.loader.on("sel_gera_nf", answer).on("sp_can_nf", answer);
+        reprintNote(other.environment, session, "0555", "A1");
         EXPECT_FALSE(
-            cancelaNota(outro.environment, sessao, {"0555", "A1", "S", NovoFaturamento::Com, 1}));
-        EXPECT_THAT(outro.boxes.shown,
-                    testing::ElementsAre(aviso("Houve um problema na transferência dos dados da "
-                                               "Nota Fiscal nº 0555. "),
-                                         aviso("Houve um problema no Cancelamento da Nota Fiscal "
-                                               "nº 0555. ")))
-            << resposta;
-        EXPECT_TRUE(outro.spooler.calls.empty());
+            cancelNote(other.environment, session, {"0555", "A1", "S", Rebilling::Com, 1}));
+        EXPECT_THAT(other.boxes.shown,
+                    testing::ElementsAre(notice("Houve um problema na transferência dos dados da "
+                                                "Nota Fiscal nº 0555. "),
+                                         notice("Houve um problema no Cancelamento da Nota Fiscal "
+                                                "nº 0555. ")))
+            << answer;
+        EXPECT_TRUE(other.spooler.calls.empty());
     }
 }
 
-TEST_F(ReimpressaoTest, TheStatusIsExact) {
+TEST_F(ReprintTest, TheStatusIsExact) {
     reimprime(answers::status("ok"));
     EXPECT_THAT(seams.boxes.shown, testing::ElementsAre(Box{"ok", BoxIcon::Exclamation}));
     EXPECT_TRUE(seams.spooler.calls.empty());
 }
 
-TEST_F(ReimpressaoTest, Company761PrintsOnTheDefaultForm) {
-    saiNoFormulario(761, 762, notes::imprimeNF_Padrao);
+TEST_F(ReprintTest, Company761PrintsOnTheDefaultForm) {
+    comesOutOnForm(761, 762, notes::imprimeNF_Padrao);
 }
 
-TEST_F(ReimpressaoTest, TheEstablishmentThatTheIssuingScreenCannotPrintPrintsHere) {
-    saiNoFormulario(2161, 3383, notes::imprimeNF_2161_3383);
+TEST_F(ReprintTest, TheEstablishmentThatTheIssuingScreenCannotPrintPrintsHere) {
+    comesOutOnForm(2161, 3383, notes::imprimeNF_2161_3383);
 }
 
-TEST_F(ReimpressaoTest, EstablishmentsWithoutAFormPrintNothingAndSayNothing) {
-    sessao.NCOMPANYCODE = 2161;
-    sessao.ID_ETB_TARN = 6001;
+TEST_F(ReprintTest, EstablishmentsWithoutAFormPrintNothingAndSayNothing) {
+    session.NCOMPANYCODE = 2161;
+    session.ID_ETB_TARN = 6001;
     reimprime(test::sampleNote().xml());
     EXPECT_TRUE(seams.spooler.calls.empty());
     EXPECT_THAT(seams.boxes.shown, testing::IsEmpty());
 }
 
-TEST_F(ReimpressaoTest, AnErrorOfTheLayoutIsThatOfANote) {
-    test::NoteText nota = test::sampleNote();
-    nota.items.clear();
-    EXPECT_THROW(reimprime(nota.xml()), ErroComNota);
+TEST_F(ReprintTest, AnErrorOfTheLayoutIsThatOfANote) {
+    test::NoteText note = test::sampleNote();
+    note.items.clear();
+    EXPECT_THROW(reimprime(note.xml()), ErrorAfterNote);
 }
 
-TEST_F(ReimpressaoTest, TheOptionDecidesTheKindOfCancellation) {
+TEST_F(ReprintTest, TheOptionDecidesTheKindOfCancellation) {
     seams.loader.on("sp_can_nf", answers::status("OK"));
-    EXPECT_TRUE(cancelaNota(ambiente, sessao, {"0555", "A1", "S", NovoFaturamento::Sem, 12}));
-    EXPECT_TRUE(cancelaNota(ambiente, sessao, {"7", "", "", NovoFaturamento::Com, -1}));
+    EXPECT_TRUE(cancelNote(environment, session, {"0555", "A1", "S", Rebilling::Without, 12}));
+    EXPECT_TRUE(cancelNote(environment, session, {"7", "", "", Rebilling::Com, -1}));
     EXPECT_THAT(seams.loader.queries(),
                 testing::ElementsAre(
                     "comando=sp_can_nf&ID_ETB_TARN=9&IC_TIP_NF=S&ID_NF_KESTO=0555&CD_SER_NF=A1&"

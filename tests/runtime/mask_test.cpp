@@ -162,8 +162,8 @@ TEST(Mask, WhatIsNotFiniteOverflows) {
     try {
         formatNumber(std::numeric_limits<double>::infinity(), "0.00");
         FAIL() << "no error";
-    } catch (const ErroExecucao& erro) {
-        EXPECT_EQ(erro.numero(), ErroNumero::Estouro);
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), RuntimeErrorCode::Overflow);
     }
 }
 

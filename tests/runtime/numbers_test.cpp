@@ -10,14 +10,14 @@ namespace tarn {
 namespace {
 
 template <typename Call>
-ErroNumero errorOf(Call call) {
+RuntimeErrorCode errorOf(Call call) {
     try {
         call();
-    } catch (const ErroExecucao& erro) {
-        return erro.numero();
+    } catch (const RuntimeError& error) {
+        return error.number();
     }
     ADD_FAILURE() << "no error was raised";
-    return ErroNumero::ObjetoObrigatorio;
+    return RuntimeErrorCode::ObjectRequired;
 }
 
 TEST(CommaReading, Numbers) {
@@ -45,7 +45,7 @@ TEST(CommaReading, WhatIsNoNumber) {
           "1e3", "R$ 1", "1 2", "- 1", "--1", "1,5.0", "12A", "1\t", "S/N",  "\xC3\xA7"}) {
         EXPECT_FALSE(parseComma(text).has_value()) << text;
         EXPECT_FALSE(isNumeric(text)) << text;
-        EXPECT_EQ(errorOf([&] { readComma(text); }), ErroNumero::TipoIncompativel) << text;
+        EXPECT_EQ(errorOf([&] { readComma(text); }), RuntimeErrorCode::TypeMismatch) << text;
     }
     EXPECT_FALSE(isNumeric(std::string(400, '9')));
     EXPECT_EQ(parseComma("0," + std::string(400, '0') + "1"), 0.0);
@@ -120,7 +120,7 @@ TEST(NumberText, HasNoExponent) {
     EXPECT_EQ(numberText(1e-10), "0,0000000001");
     EXPECT_EQ(numberText(1.5e16), "15000000000000000");
     EXPECT_EQ(errorOf([] { numberText(std::numeric_limits<double>::infinity()); }),
-              ErroNumero::Estouro);
+              RuntimeErrorCode::Overflow);
 }
 
 TEST(Integers, RoundHalfToEven) {
@@ -137,12 +137,12 @@ TEST(Integers, OverflowAndTypeErrors) {
     EXPECT_EQ(readInt16("-32768"), -32768);
     EXPECT_EQ(readInt32("2147483647"), 2147483647);
     EXPECT_EQ(readInt32("-2147483648"), std::numeric_limits<std::int32_t>::min());
-    EXPECT_EQ(errorOf([] { readInt16("32767,5"); }), ErroNumero::Estouro);
-    EXPECT_EQ(errorOf([] { readInt16("32768"); }), ErroNumero::Estouro);
-    EXPECT_EQ(errorOf([] { readInt16("-32769"); }), ErroNumero::Estouro);
-    EXPECT_EQ(errorOf([] { readInt32("2147483648"); }), ErroNumero::Estouro);
-    EXPECT_EQ(errorOf([] { readInt16("X"); }), ErroNumero::TipoIncompativel);
-    EXPECT_EQ(errorOf([] { readInt32(""); }), ErroNumero::TipoIncompativel);
+    EXPECT_EQ(errorOf([] { readInt16("32767,5"); }), RuntimeErrorCode::Overflow);
+    EXPECT_EQ(errorOf([] { readInt16("32768"); }), RuntimeErrorCode::Overflow);
+    EXPECT_EQ(errorOf([] { readInt16("-32769"); }), RuntimeErrorCode::Overflow);
+    EXPECT_EQ(errorOf([] { readInt32("2147483648"); }), RuntimeErrorCode::Overflow);
+    EXPECT_EQ(errorOf([] { readInt16("X"); }), RuntimeErrorCode::TypeMismatch);
+    EXPECT_EQ(errorOf([] { readInt32(""); }), RuntimeErrorCode::TypeMismatch);
 }
 
 TEST(PointToComma, TurnsEveryPoint) {
@@ -151,13 +151,13 @@ TEST(PointToComma, TurnsEveryPoint) {
     EXPECT_EQ(pointToComma(""), "");
 }
 
-TEST(ErroExecucaoText, TellsTheNumberAndWhatToDo) {
-    const ErroExecucao erro(ErroNumero::TipoIncompativel, "\"ABC\"");
-    EXPECT_EQ(textoDoRelatorio(erro, false),
+TEST(RuntimeErrorText, TellsTheNumberAndWhatToDo) {
+    const RuntimeError error(RuntimeErrorCode::TypeMismatch, "\"ABC\"");
+    EXPECT_EQ(reportText(error, false),
               "Erro em tempo de execução '13':\r\r"
               "Há um texto onde era esperado um número: \"ABC\".\r\r"
               "O programa será encerrado. Anote esta mensagem e avise o suporte.");
-    EXPECT_EQ(textoDoRelatorio(ErroExecucao(ErroNumero::ObjetoObrigatorio), true),
+    EXPECT_EQ(reportText(RuntimeError(RuntimeErrorCode::ObjectRequired), true),
               "Erro em tempo de execução '424':\r\r"
               "O objeto é obrigatório.\r\r"
               "O programa será encerrado. Anote esta mensagem e avise o suporte.\r\r"
@@ -165,12 +165,12 @@ TEST(ErroExecucaoText, TellsTheNumberAndWhatToDo) {
               "tela de Reimpressão de Nota Fiscal para imprimi-la.");
 }
 
-TEST(ErroExecucaoText, EveryNumberHasItsOwnDescription) {
+TEST(RuntimeErrorText, EveryNumberHasItsOwnDescription) {
     std::vector<std::string> seen;
-    for (const int numero : {5, 6, 9, 13, 91, 424}) {
-        const ErroExecucao erro(static_cast<ErroNumero>(numero));
-        EXPECT_EQ(std::count(seen.begin(), seen.end(), erro.descricao()), 0) << numero;
-        seen.push_back(erro.descricao());
+    for (const int number : {5, 6, 9, 13, 91, 424}) {
+        const RuntimeError error(static_cast<RuntimeErrorCode>(number));
+        EXPECT_EQ(std::count(seen.begin(), seen.end(), error.description()), 0) << number;
+        seen.push_back(error.description());
     }
 }
 

@@ -9,80 +9,80 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class FrmPesqBoletoTest : public TelaDeBoletos {
+class FrmPesqBoletoTest : public SlipRunView {
 protected:
-    static std::vector<std::string> itens(const QComboBox& lista) {
-        std::vector<std::string> todos;
-        todos.reserve(static_cast<std::size_t>(lista.count()));
-        for (int i = 0; i < lista.count(); ++i) {
-            todos.push_back(lista.itemText(i).toStdString() + "=" +
-                            lista.itemData(i).toString().toStdString());
+    static std::vector<std::string> items(const QComboBox& list) {
+        std::vector<std::string> all;
+        all.reserve(static_cast<std::size_t>(list.count()));
+        for (int i = 0; i < list.count(); ++i) {
+            all.push_back(list.itemText(i).toStdString() + "=" +
+                          list.itemData(i).toString().toStdString());
         }
-        return todos;
+        return all;
     }
-    static std::string codigoDoCliente(const QWidget& tela) {
-        return named<QLineEdit>(tela, "txtCliente").property("Tag").toString().toStdString();
+    static std::string customerCode(const QWidget& screen) {
+        return named<QLineEdit>(screen, "txtCliente").property("Tag").toString().toStdString();
     }
     // Chooses the one customer in the dialog.
-    void escolheCliente(QWidget& tela) {
+    void chooseCustomer(QWidget& screen) {
         server.on("Sel_Cliente",
                   answers::rowset("<z:row NM_PES_CPL='ANA &lt;b>' ID_PES_CLI='0071'/>"));
-        modals.then("FrmPesqCliente", [](QWidget& dialogo) {
-            type(dialogo, "txtNmCli", "ana");
-            click(dialogo, "cmdPesquisar");
-            click(dialogo, "cmdSelecionar");
+        modals.then("FrmPesqCliente", [](QWidget& dialog) {
+            type(dialog, "txtNmCli", "ana");
+            click(dialog, "cmdPesquisar");
+            click(dialog, "cmdSelecionar");
         });
-        click(tela, "cmdPesqCli");
-        tela.activateWindow();  // off-screen nobody gives the activation back
-        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &tela; }));
+        click(screen, "cmdPesqCli");
+        screen.activateWindow();  // off-screen nobody gives the activation back
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &screen; }));
     }
     // A search that finds nothing behind one that found a row.
-    void pesquisaVazia(const std::string& resposta) {
-        comATela([&](QWidget& tela) {
-            encontra(tela, linha("1"));
-            server.on("sel_boleto&ID_EMP_TARN=2161", resposta);
-            int linhasNaCaixa = -1;
-            boxes.onShow = [&](const Box&) { linhasNaCaixa = grid::rows(grade(tela)); };
-            click(tela, "cmdPesquisar");
+    void emptySearch(const std::string& answer) {
+        withScreen([&](QWidget& screen) {
+            find(screen, linha("1"));
+            server.on("sel_boleto&ID_EMP_TARN=2161", answer);
+            int linesInBox = -1;
+            boxes.onShow = [&](const Box&) { linesInBox = grid::rows(grid(screen)); };
+            click(screen, "cmdPesquisar");
             boxes.onShow = nullptr;
-            EXPECT_EQ(linhasNaCaixa, 0);
+            EXPECT_EQ(linesInBox, 0);
             EXPECT_THAT(boxes.shown,
                         ElementsAre(Box{"Não foi encontrado nenhum documento para esta pesquisa. ",
                                         BoxIcon::Exclamation, "TarnEmissao"}));
-            EXPECT_EQ(focused(tela), "cmdPesquisar") << "the focus isn't moved";
+            EXPECT_EQ(focused(screen), "cmdPesquisar") << "the focus isn't moved";
         });
     }
 };
 
-const Box faltaCarteira{"Carteira Cobrança é um campo obrigatório.     ", BoxIcon::Information,
-                        "TArn"};
+const Box portfolioMissing{"Carteira Cobrança é um campo obrigatório.     ", BoxIcon::Information,
+                           "TArn"};
 
 TEST_F(FrmPesqBoletoTest, OpensWithBothLists) {
-    comATela([&](QWidget& tela) {
-        EXPECT_THAT(server.queries(), ElementsAre(pedeFiliais, pedeCarteiras));
-        EXPECT_TRUE(tela.isModal());
-        EXPECT_EQ(tela.windowTitle(), QStringLiteral("Boleto Bancario"));
-        EXPECT_EQ(named<QLabel>(tela, "lblTitulo").text(),
+    withScreen([&](QWidget& screen) {
+        EXPECT_THAT(server.queries(), ElementsAre(branchesQuery, portfoliosQuery));
+        EXPECT_TRUE(screen.isModal());
+        EXPECT_EQ(screen.windowTitle(), QStringLiteral("Boleto Bancario"));
+        EXPECT_EQ(named<QLabel>(screen, "lblTitulo").text(),
                   QStringLiteral(" Pesquisa de Documentos"));
-        EXPECT_THAT(itens(lista(tela, "cboFilial")),
+        EXPECT_THAT(items(list(screen, "cboFilial")),
                     ElementsAre("<-TODAS->=0", "MATRIZ=9", "SUL=12"));
-        EXPECT_THAT(itens(lista(tela, "cboCartCob")),
+        EXPECT_THAT(items(list(screen, "cboCartCob")),
                     ElementsAre("--------=0", "Cobrança 57=5", "Cobrança 101=6"));
-        EXPECT_EQ(lista(tela, "cboFilial").currentIndex(), 0);
-        EXPECT_EQ(lista(tela, "cboCartCob").currentIndex(), 0);
-        EXPECT_FALSE(named<QCheckBox>(tela, "chkInc_Carteira").isChecked());
-        EXPECT_EQ(grid::rows(grade(tela)), 0);
-        for (const char* campo : {"txtCliente", "txtDtEmsDe", "txtDtEmsAte", "txtDtVncDe",
+        EXPECT_EQ(list(screen, "cboFilial").currentIndex(), 0);
+        EXPECT_EQ(list(screen, "cboCartCob").currentIndex(), 0);
+        EXPECT_FALSE(named<QCheckBox>(screen, "chkInc_Carteira").isChecked());
+        EXPECT_EQ(grid::rows(grid(screen)), 0);
+        for (const char* field : {"txtCliente", "txtDtEmsDe", "txtDtEmsAte", "txtDtVncDe",
                                   "txtDtVncAte", "txtNr_Bol_Banc"}) {
-            EXPECT_EQ(mostrado(tela, campo), "") << campo;
+            EXPECT_EQ(shown(screen, field), "") << field;
         }
     });
-    EXPECT_THAT(server.queries(), ElementsAre(pedeFiliais, pedeCarteiras, pedeDaMesa));
+    EXPECT_THAT(server.queries(), ElementsAre(branchesQuery, portfoliosQuery, deskQuery));
     EXPECT_THAT(boxes.shown, IsEmpty());
 }
 
 TEST_F(FrmPesqBoletoTest, SaysWhatItsFieldsAre) {
-    comATela([&](QWidget& tela) {
+    withScreen([&](QWidget& screen) {
         const std::vector<std::pair<const char*, const char*>> captions{
             {"lblCliente", "Cliente"},
             {"lblFilial", "Filial"},
@@ -97,14 +97,14 @@ TEST_F(FrmPesqBoletoTest, SaysWhatItsFieldsAre) {
              "Nr. do Próximo Boleto Bancário (sem o número da agência e sem o "
              "dígito verificador)"}};
         for (const auto& [label, text] : captions) {
-            EXPECT_EQ(named<QLabel>(tela, label).text().toStdString(), text);
+            EXPECT_EQ(named<QLabel>(screen, label).text().toStdString(), text);
         }
-        EXPECT_EQ(named<QCheckBox>(tela, "chkInc_Carteira").text(),
+        EXPECT_EQ(named<QCheckBox>(screen, "chkInc_Carteira").text(),
                   QStringLiteral("Inserir os Doctos abaixo na carteira selecionada"));
-        EXPECT_TRUE(named<QLineEdit>(tela, "txtCliente").isReadOnly());
-        EXPECT_EQ(named<QLineEdit>(tela, "txtNr_Bol_Banc").maxLength(), 13);
-        EXPECT_EQ(focused(tela), "txtCliente");
-        EXPECT_THAT(tabOrder(tela, "txtCliente", 16),
+        EXPECT_TRUE(named<QLineEdit>(screen, "txtCliente").isReadOnly());
+        EXPECT_EQ(named<QLineEdit>(screen, "txtNr_Bol_Banc").maxLength(), 13);
+        EXPECT_EQ(focused(screen), "txtCliente");
+        EXPECT_THAT(tabOrder(screen, "txtCliente", 16),
                     ElementsAre("txtCliente", "cboFilial", "cboCartCob", "txtDtEmsDe",
                                 "txtDtEmsAte", "txtDtVncDe", "txtDtVncAte", "chkInc_Carteira",
                                 "txtNr_Bol_Banc", "sprDados", "cmdPesqCli", "cmdPesquisar",
@@ -113,8 +113,8 @@ TEST_F(FrmPesqBoletoTest, SaysWhatItsFieldsAre) {
 }
 
 TEST_F(FrmPesqBoletoTest, TheGridHasItsColumnsThoseForThePrintingOutOfSight) {
-    comATela([&](QWidget& tela) {
-        EXPECT_THAT(grid::headings(grade(tela)),
+    withScreen([&](QWidget& screen) {
+        EXPECT_THAT(grid::headings(grid(screen)),
                     ElementsAre("", "Filial", "Vencimento", "Tipo Documento", "Nº Documento",
                                 "Cliente", "Dt.de Emissão", "Endereço", "Vlr.do Documento", "CEP",
                                 "Município", "Estado", "CNPJ / CPF", "I.E.", "TP_PES", "TP_DOCTO2",
@@ -122,67 +122,67 @@ TEST_F(FrmPesqBoletoTest, TheGridHasItsColumnsThoseForThePrintingOutOfSight) {
                                 "VL_OUT_DSP", "DC_REF_REC", "ID_ETB", "ID_TIP_DOC", "NR_AGE",
                                 "ID_PES_BAN", "CD_EXT", "NR_DOC_NF"));
         for (int coluna = 1; coluna <= 29; ++coluna) {
-            EXPECT_EQ(grade(tela).isColumnHidden(coluna - 1), coluna > 9) << coluna;
+            EXPECT_EQ(grid(screen).isColumnHidden(coluna - 1), coluna > 9) << coluna;
         }
     });
 }
 
 TEST_F(FrmPesqBoletoTest, FailedListsKeepTheirFirstItemAndTheScreenOpens) {
     server.failOn("sel_filiais&ID_EMP_TARN=2161").failOn("sel_carteira&ID_EMP_TARN=2161");
-    comATela([&](QWidget& tela) {
-        EXPECT_THAT(itens(lista(tela, "cboFilial")), ElementsAre("<-TODAS->=0"));
-        EXPECT_THAT(itens(lista(tela, "cboCartCob")), ElementsAre("--------=0"));
-        EXPECT_THAT(boxes.shown, ElementsAre(falhaLarga(), falhaLarga()));
-        EXPECT_THAT(server.queries(), ElementsAre(pedeFiliais, pedeCarteiras));
+    withScreen([&](QWidget& screen) {
+        EXPECT_THAT(items(list(screen, "cboFilial")), ElementsAre("<-TODAS->=0"));
+        EXPECT_THAT(items(list(screen, "cboCartCob")), ElementsAre("--------=0"));
+        EXPECT_THAT(boxes.shown, ElementsAre(wideFailure(), wideFailure()));
+        EXPECT_THAT(server.queries(), ElementsAre(branchesQuery, portfoliosQuery));
     });
 }
 
 TEST_F(FrmPesqBoletoTest, ThreeFieldsMustBeThereBeforeASearchIsSent) {
-    comATela([&](QWidget& tela) {
+    withScreen([&](QWidget& screen) {
         server.addresses.clear();
-        click(tela, "cmdPesquisar");
-        EXPECT_THAT(boxes.shown, ElementsAre(informa("Data Emissão De é Obrigatório.     ")));
-        EXPECT_EQ(focused(tela), "txtDtEmsDe");
-        type(tela, "txtDtEmsDe", "1");
-        click(tela, "cmdPesquisar");
-        EXPECT_EQ(boxes.shown.back(), informa("Data de Vencimento Obrigatória.     "));
-        EXPECT_EQ(focused(tela), "txtDtVncAte");
-        type(tela, "txtDtVncAte", "1");
-        click(tela, "cmdPesquisar");
-        EXPECT_EQ(boxes.shown.back(), faltaCarteira);
-        EXPECT_EQ(focused(tela), "cboCartCob");
+        click(screen, "cmdPesquisar");
+        EXPECT_THAT(boxes.shown, ElementsAre(inform("Data Emissão De é Obrigatório.     ")));
+        EXPECT_EQ(focused(screen), "txtDtEmsDe");
+        type(screen, "txtDtEmsDe", "1");
+        click(screen, "cmdPesquisar");
+        EXPECT_EQ(boxes.shown.back(), inform("Data de Vencimento Obrigatória.     "));
+        EXPECT_EQ(focused(screen), "txtDtVncAte");
+        type(screen, "txtDtVncAte", "1");
+        click(screen, "cmdPesquisar");
+        EXPECT_EQ(boxes.shown.back(), portfolioMissing);
+        EXPECT_EQ(focused(screen), "cboCartCob");
         EXPECT_EQ(boxes.shown.size(), 3U);
         EXPECT_THAT(server.addresses, IsEmpty());
     });
 }
 
 TEST_F(FrmPesqBoletoTest, TheOtherFieldsMayStayEmpty) {
-    comATela([&](QWidget& tela) {
+    withScreen([&](QWidget& screen) {
         server.on("sel_boleto", answers::rowset(linha("1")));
-        preenche(tela);
+        fillIn(screen);
         server.addresses.clear();
-        click(tela, "cmdPesquisar");
+        click(screen, "cmdPesquisar");
         EXPECT_THAT(server.queries(),
                     ElementsAre("comando=sel_boleto&ID_EMP_TARN=2161&ID_PES_CLI=&ID_ETB_TARN="
                                 "&ID_CRT_COB=5&DT_VNC_DE=&DT_VNC_ATE=31/03/2012"
                                 "&DT_EMS_DE=01/02/2012&DT_EMS_ATE=&ID_PES_USU=77&IC_INC_CAR=N"
                                 "&ServerName=SRV1"));
-        EXPECT_EQ(grid::rows(grade(tela)), 1);
+        EXPECT_EQ(grid::rows(grid(screen)), 1);
     });
     EXPECT_THAT(boxes.shown, IsEmpty());
 }
 
 TEST_F(FrmPesqBoletoTest, AllFieldsGoOut) {
-    comATela([&](QWidget& tela) {
+    withScreen([&](QWidget& screen) {
         server.on("sel_boleto", answers::rowset(""));
-        escolheCliente(tela);
-        pick(tela, "cboFilial", sul);
-        preenche(tela, cobra101);
-        type(tela, "txtDtEmsAte", "280212");
-        type(tela, "txtDtVncDe", "1");
-        clicaCaixa(tela);
+        chooseCustomer(screen);
+        pick(screen, "cboFilial", south);
+        fillIn(screen, wallet101Item);
+        type(screen, "txtDtEmsAte", "280212");
+        type(screen, "txtDtVncDe", "1");
+        clickCheckBox(screen);
         server.addresses.clear();
-        click(tela, "cmdPesquisar");
+        click(screen, "cmdPesquisar");
         EXPECT_THAT(server.queries(),
                     ElementsAre("comando=sel_boleto&ID_EMP_TARN=2161&ID_PES_CLI=0071"
                                 "&ID_ETB_TARN=12&ID_CRT_COB=6&DT_VNC_DE=01/03/2012"
@@ -192,220 +192,219 @@ TEST_F(FrmPesqBoletoTest, AllFieldsGoOut) {
 }
 
 TEST_F(FrmPesqBoletoTest, TheRowsAreShownUnticked) {
-    comATela([&](QWidget& tela) {
-        encontra(tela, linha("4567/1") + linha("4568/1"));
-        QTableView& dados = grade(tela);
-        EXPECT_THAT(grid::ticks(dados), ElementsAre(false, false));
-        std::vector<std::string> celulas;
+    withScreen([&](QWidget& screen) {
+        find(screen, linha("4567/1") + linha("4568/1"));
+        QTableView& data = grid(screen);
+        EXPECT_THAT(grid::ticks(data), ElementsAre(false, false));
+        std::vector<std::string> cells;
         for (int coluna = 1; coluna <= 9; ++coluna) {
-            celulas.push_back(grid::cell(dados, 1, coluna));
+            cells.push_back(grid::cell(data, 1, coluna));
         }
-        EXPECT_THAT(celulas,
+        EXPECT_THAT(cells,
                     ElementsAre("", "SP", "10/04/2012", "DUPLICATA", "4567/1", "JOSÉ & <b>FILHOS",
                                 "05/03/2012", "RUA DO COMÉRCIO, 100", "1.234,50"));
-        EXPECT_EQ(grid::cell(dados, 1, 13), "12.345.678/0001-95");
-        EXPECT_EQ(grid::cell(dados, 1, 15), "J");
-        EXPECT_EQ(grid::cell(dados, 1, 21), "0,42");
+        EXPECT_EQ(grid::cell(data, 1, 13), "12.345.678/0001-95");
+        EXPECT_EQ(grid::cell(data, 1, 15), "J");
+        EXPECT_EQ(grid::cell(data, 1, 21), "0,42");
         server.on("sel_boleto&ID_EMP_TARN=2161", answers::rowset(linha("9")));
-        click(tela, "cmdPesquisar");
-        EXPECT_EQ(grid::cell(dados, 1, 5), "9");
-        EXPECT_EQ(grid::rows(dados), 1) << "a search takes the place of the one before";
+        click(screen, "cmdPesquisar");
+        EXPECT_EQ(grid::cell(data, 1, 5), "9");
+        EXPECT_EQ(grid::rows(data), 1) << "a search takes the place of the one before";
     });
 }
 
 TEST_F(FrmPesqBoletoTest, AFailedSearchLeavesTheGrid) {
-    comATela([&](QWidget& tela) {
-        encontra(tela, linha("1"));
-        grid::click(grade(tela), 1, 1);
+    withScreen([&](QWidget& screen) {
+        find(screen, linha("1"));
+        grid::click(grid(screen), 1, 1);
         server.failOn("sel_boleto&ID_EMP_TARN=2161");
-        click(tela, "cmdPesquisar");
-        EXPECT_THAT(boxes.shown, ElementsAre(falha()));
-        EXPECT_THAT(grid::ticks(grade(tela)), ElementsAre(true));
+        click(screen, "cmdPesquisar");
+        EXPECT_THAT(boxes.shown, ElementsAre(failure()));
+        EXPECT_THAT(grid::ticks(grid(screen)), ElementsAre(true));
     });
 }
 
 TEST_F(FrmPesqBoletoTest, NoRowsEmptyTheGridAndAreTold) {
-    pesquisaVazia(answers::rowset(""));
+    emptySearch(answers::rowset(""));
 }
 
 TEST_F(FrmPesqBoletoTest, AnAnswerThatIsNoRowsetHasNoRows) {
-    pesquisaVazia("<xml/>");
+    emptySearch("<xml/>");
 }
 
 TEST_F(FrmPesqBoletoTest, TheHeadingOfTheFirstColumnGoesByTheLastRow) {
-    comATela([&](QWidget& tela) {
-        QTableView& dados = grade(tela);
-        grid::clickHeading(dados, 1);
-        EXPECT_EQ(grid::rows(dados), 0);
-        encontra(tela, linha("1") + linha("2") + linha("3"));
-        grid::click(dados, 1, 1);
-        grid::clickHeading(dados, 1);
-        EXPECT_THAT(grid::ticks(dados), ElementsAre(true, true, true));
-        grid::click(dados, 2, 1);
-        grid::clickHeading(dados, 1);
-        EXPECT_THAT(grid::ticks(dados), ElementsAre(false, false, false));
-        grid::click(dados, 3, 1);
-        grid::clickHeading(dados, 1);
-        EXPECT_THAT(grid::ticks(dados), ElementsAre(false, false, false));
-        grid::clickHeading(dados, 2);
-        grid::click(dados, 1, 5);
-        EXPECT_THAT(grid::ticks(dados), ElementsAre(false, false, false));
+    withScreen([&](QWidget& screen) {
+        QTableView& data = grid(screen);
+        grid::clickHeading(data, 1);
+        EXPECT_EQ(grid::rows(data), 0);
+        find(screen, linha("1") + linha("2") + linha("3"));
+        grid::click(data, 1, 1);
+        grid::clickHeading(data, 1);
+        EXPECT_THAT(grid::ticks(data), ElementsAre(true, true, true));
+        grid::click(data, 2, 1);
+        grid::clickHeading(data, 1);
+        EXPECT_THAT(grid::ticks(data), ElementsAre(false, false, false));
+        grid::click(data, 3, 1);
+        grid::clickHeading(data, 1);
+        EXPECT_THAT(grid::ticks(data), ElementsAre(false, false, false));
+        grid::clickHeading(data, 2);
+        grid::click(data, 1, 5);
+        EXPECT_THAT(grid::ticks(data), ElementsAre(false, false, false));
         EXPECT_THAT(server.addresses, IsEmpty());
     });
 }
 
 TEST_F(FrmPesqBoletoTest, TickingTheCheckBoxIsExplained) {
-    const Box explica = informa(
+    const Box explanation = inform(
         "Esta opção só deverá ser selecionada quando se deseja incluir, no momento da impressão do "
         "boleto, um documento que esteja sem carteira de cobrança associada. A carteira a ser "
         "associada é a selecionada no combo acima.      ");
-    comATela([&](QWidget& tela) {
-        clicaCaixa(tela);
-        EXPECT_TRUE(named<QCheckBox>(tela, "chkInc_Carteira").isChecked());
-        EXPECT_THAT(boxes.shown, ElementsAre(explica));
-        clicaCaixa(tela);
-        EXPECT_FALSE(named<QCheckBox>(tela, "chkInc_Carteira").isChecked());
+    withScreen([&](QWidget& screen) {
+        clickCheckBox(screen);
+        EXPECT_TRUE(named<QCheckBox>(screen, "chkInc_Carteira").isChecked());
+        EXPECT_THAT(boxes.shown, ElementsAre(explanation));
+        clickCheckBox(screen);
+        EXPECT_FALSE(named<QCheckBox>(screen, "chkInc_Carteira").isChecked());
         EXPECT_EQ(boxes.shown.size(), 1U);
-        QTest::keyClick(&named<QCheckBox>(tela, "chkInc_Carteira"), Qt::Key_Space);
-        EXPECT_THAT(boxes.shown, ElementsAre(explica, explica));
+        QTest::keyClick(&named<QCheckBox>(screen, "chkInc_Carteira"), Qt::Key_Space);
+        EXPECT_THAT(boxes.shown, ElementsAre(explanation, explanation));
     });
 }
 
 TEST_F(FrmPesqBoletoTest, ACustomerChosenReloadsTheListsAndKeepsTheRest) {
-    comATela([&](QWidget& tela) {
-        encontra(tela, linha("1"));
-        pick(tela, "cboFilial", sul);
-        type(tela, "txtNr_Bol_Banc", "77");
-        escolheCliente(tela);
-        EXPECT_EQ(mostrado(tela, "txtCliente"), "ANA <b>");
-        EXPECT_EQ(codigoDoCliente(tela), "0071");
+    withScreen([&](QWidget& screen) {
+        find(screen, linha("1"));
+        pick(screen, "cboFilial", south);
+        type(screen, "txtNr_Bol_Banc", "77");
+        chooseCustomer(screen);
+        EXPECT_EQ(shown(screen, "txtCliente"), "ANA <b>");
+        EXPECT_EQ(customerCode(screen), "0071");
         EXPECT_THAT(server.queries(),
-                    ElementsAre(testing::HasSubstr("Sel_Cliente"), pedeFiliais, pedeCarteiras));
-        EXPECT_EQ(lista(tela, "cboFilial").currentIndex(), 0);
-        EXPECT_EQ(lista(tela, "cboCartCob").currentIndex(), 0);
-        EXPECT_EQ(grid::rows(grade(tela)), 1);
-        EXPECT_EQ(mostrado(tela, "txtDtEmsDe"), "01/02/2012");
-        EXPECT_EQ(mostrado(tela, "txtNr_Bol_Banc"), "77");
+                    ElementsAre(testing::HasSubstr("Sel_Cliente"), branchesQuery, portfoliosQuery));
+        EXPECT_EQ(list(screen, "cboFilial").currentIndex(), 0);
+        EXPECT_EQ(list(screen, "cboCartCob").currentIndex(), 0);
+        EXPECT_EQ(grid::rows(grid(screen)), 1);
+        EXPECT_EQ(shown(screen, "txtDtEmsDe"), "01/02/2012");
+        EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "77");
         server.addresses.clear();
-        pick(tela, "cboFilial", sul);
-        click(tela, "cmdLimpar");
-        EXPECT_EQ(mostrado(tela, "txtCliente"), "");
-        EXPECT_EQ(codigoDoCliente(tela), "");
-        EXPECT_EQ(lista(tela, "cboFilial").currentIndex(), sul);
-        EXPECT_EQ(mostrado(tela, "txtDtEmsDe"), "01/02/2012");
+        pick(screen, "cboFilial", south);
+        click(screen, "cmdLimpar");
+        EXPECT_EQ(shown(screen, "txtCliente"), "");
+        EXPECT_EQ(customerCode(screen), "");
+        EXPECT_EQ(list(screen, "cboFilial").currentIndex(), south);
+        EXPECT_EQ(shown(screen, "txtDtEmsDe"), "01/02/2012");
         EXPECT_THAT(server.addresses, IsEmpty());
     });
 }
 
 TEST_F(FrmPesqBoletoTest, AMessageIsNoActivation) {
-    comATela([&](QWidget& tela) {
+    withScreen([&](QWidget& screen) {
         server.addresses.clear();
-        click(tela, "cmdPesquisar");
+        click(screen, "cmdPesquisar");
         EXPECT_EQ(boxes.shown.size(), 1U);
         EXPECT_THAT(server.addresses, IsEmpty());
     });
 }
 
 TEST_F(FrmPesqBoletoTest, TheChoiceReachesTheBillSearchToo) {
-    comATela([&](QWidget& tela) { escolheCliente(tela); });
-    modals.then("FrmPesqDupli", [&](QWidget& tela) {
-        EXPECT_EQ(mostrado(tela, "txtCliente"), "ANA <b>");
-        EXPECT_EQ(codigoDoCliente(tela), "0071");
-        click(tela, "cmdVoltar");
+    withScreen([&](QWidget& screen) { chooseCustomer(screen); });
+    modals.then("FrmPesqDupli", [&](QWidget& screen) {
+        EXPECT_EQ(shown(screen, "txtCliente"), "ANA <b>");
+        EXPECT_EQ(customerCode(screen), "0071");
+        click(screen, "cmdVoltar");
     });
     choose(menu, "mnuDuplicata");
-    comATela([&](QWidget& tela) {
-        EXPECT_EQ(mostrado(tela, "txtCliente"), "") << "it was unloaded when it closed";
+    withScreen([&](QWidget& screen) {
+        EXPECT_EQ(shown(screen, "txtCliente"), "") << "it was unloaded when it closed";
     });
 }
 
 TEST_F(FrmPesqBoletoTest, AChoiceInTheBillSearchWaitsHere) {
-    modals.then("FrmPesqDupli", [&](QWidget& tela) {
-        escolheCliente(tela);
-        click(tela, "cmdVoltar");
+    modals.then("FrmPesqDupli", [&](QWidget& screen) {
+        chooseCustomer(screen);
+        click(screen, "cmdVoltar");
     });
     choose(menu, "mnuDuplicata");
     server.addresses.clear();
-    comATela([&](QWidget& tela) {
-        EXPECT_EQ(mostrado(tela, "txtCliente"), "ANA <b>");
-        EXPECT_THAT(server.queries(), ElementsAre(pedeFiliais, pedeCarteiras));
+    withScreen([&](QWidget& screen) {
+        EXPECT_EQ(shown(screen, "txtCliente"), "ANA <b>");
+        EXPECT_THAT(server.queries(), ElementsAre(branchesQuery, portfoliosQuery));
     });
 }
 
 TEST_F(FrmPesqBoletoTest, FailedListsLoseWhatTheyHeldOnTheNextActivation) {
-    comATela([&](QWidget& tela) {
-        encontra(tela, linha("1"));
-        grid::click(grade(tela), 1, 1);
+    withScreen([&](QWidget& screen) {
+        find(screen, linha("1"));
+        grid::click(grid(screen), 1, 1);
         server.failOn("sel_filiais&ID_EMP_TARN=2161").failOn("sel_carteira&ID_EMP_TARN=2161");
-        modals.then("FrmPesqCliente", [](QWidget& dialogo) { key(dialogo, Qt::Key_Escape); });
-        click(tela, "cmdPesqCli");
-        EXPECT_THAT(boxes.shown, ElementsAre(falhaLarga(), falhaLarga()));
-        EXPECT_THAT(itens(lista(tela, "cboFilial")), ElementsAre("<-TODAS->=0"));
-        EXPECT_THAT(itens(lista(tela, "cboCartCob")), ElementsAre("--------=0"));
-        EXPECT_THAT(grid::ticks(grade(tela)), ElementsAre(true));
+        modals.then("FrmPesqCliente", [](QWidget& dialog) { key(dialog, Qt::Key_Escape); });
+        click(screen, "cmdPesqCli");
+        EXPECT_THAT(boxes.shown, ElementsAre(wideFailure(), wideFailure()));
+        EXPECT_THAT(items(list(screen, "cboFilial")), ElementsAre("<-TODAS->=0"));
+        EXPECT_THAT(items(list(screen, "cboCartCob")), ElementsAre("--------=0"));
+        EXPECT_THAT(grid::ticks(grid(screen)), ElementsAre(true));
         boxes.shown.clear();
-        click(tela, "cmdPesquisar");
-        EXPECT_THAT(boxes.shown, ElementsAre(faltaCarteira));
+        click(screen, "cmdPesquisar");
+        EXPECT_THAT(boxes.shown, ElementsAre(portfolioMissing));
     });
 }
 
 TEST_F(FrmPesqBoletoTest, TheDeskIsActivatedOnceAlsoBehindTheCustomerDialog) {
-    comATela([&](QWidget& tela) {
-        escolheCliente(tela);
+    withScreen([&](QWidget& screen) {
+        chooseCustomer(screen);
         server.addresses.clear();
     });
-    EXPECT_THAT(server.queries(), ElementsAre(pedeDaMesa));
+    EXPECT_THAT(server.queries(), ElementsAre(deskQuery));
 }
 
 TEST_F(FrmPesqBoletoTest, LongTextsAndMarkupAreShownAsTheyAre) {
-    const std::string longo = "<b>A&B</b> " + std::string(3000, 'W');
+    const std::string longText = "<b>A&B</b> " + std::string(3000, 'W');
     const std::string noXml = "&lt;b>A&amp;B&lt;/b> " + std::string(3000, 'W');
     server.on("sel_carteira&ID_EMP_TARN=2161",
               answers::rowset("<z:row DC_CRT_COB='" + noXml + "' ID_CRT_COB='5'/>"));
-    comATela([&](QWidget& tela) {
-        const QSize menor = tela.minimumSizeHint();
-        encontra(tela, "<z:row SG_FIL='" + noXml + "' NM_CLI_ETB='" + noXml + "'/>");
+    withScreen([&](QWidget& screen) {
+        const QSize smaller = screen.minimumSizeHint();
+        find(screen, "<z:row SG_FIL='" + noXml + "' NM_CLI_ETB='" + noXml + "'/>");
         server.on("Sel_Cliente",
                   answers::rowset("<z:row NM_PES_CPL='" + noXml + "' ID_PES_CLI='1'/>"));
-        modals.then("FrmPesqCliente", [](QWidget& dialogo) {
-            type(dialogo, "txtNmCli", "ana");
-            click(dialogo, "cmdPesquisar");
-            click(dialogo, "cmdSelecionar");
+        modals.then("FrmPesqCliente", [](QWidget& dialog) {
+            type(dialog, "txtNmCli", "ana");
+            click(dialog, "cmdPesquisar");
+            click(dialog, "cmdSelecionar");
         });
-        click(tela, "cmdPesqCli");
-        EXPECT_EQ(lista(tela, "cboCartCob").itemText(1).toStdString(), longo);
-        EXPECT_EQ(mostrado(tela, "txtCliente"), longo);
-        EXPECT_EQ(named<QLineEdit>(tela, "txtCliente").cursorPosition(), 0) << "its head shows";
-        EXPECT_EQ(grid::cell(grade(tela), 1, 6), longo);
-        EXPECT_EQ(tela.minimumSizeHint(), menor);
+        click(screen, "cmdPesqCli");
+        EXPECT_EQ(list(screen, "cboCartCob").itemText(1).toStdString(), longText);
+        EXPECT_EQ(shown(screen, "txtCliente"), longText);
+        EXPECT_EQ(named<QLineEdit>(screen, "txtCliente").cursorPosition(), 0) << "its head shows";
+        EXPECT_EQ(grid::cell(grid(screen), 1, 6), longText);
+        EXPECT_EQ(screen.minimumSizeHint(), smaller);
     });
 }
 
 // A branch's short name has up to 12 characters.
 TEST_F(FrmPesqBoletoTest, TheWidestShortNameOfABranchIsReadWhole) {
-    comATela([&](QWidget& tela) {
-        encontra(tela, "<z:row SG_FIL='GUARATINGUET' DT_VNC_DOC_FMA='10/04/2012'/>");
-        QTableView& dados = grade(tela);
+    withScreen([&](QWidget& screen) {
+        find(screen, "<z:row SG_FIL='GUARATINGUET' DT_VNC_DOC_FMA='10/04/2012'/>");
+        QTableView& data = grid(screen);
         for (const int coluna : {2, 3}) {
-            const QModelIndex celula = dados.model()->index(0, coluna - 1);
-            EXPECT_GE(dados.columnWidth(coluna - 1), dados.sizeHintForIndex(celula).width())
-                << coluna;
+            const QModelIndex cell = data.model()->index(0, coluna - 1);
+            EXPECT_GE(data.columnWidth(coluna - 1), data.sizeHintForIndex(cell).width()) << coluna;
         }
     });
 }
 
 TEST_F(FrmPesqBoletoTest, TwentyThousandDocumentsAreShownAndTicked) {
-    comATela([&](QWidget& tela) {
+    withScreen([&](QWidget& screen) {
         std::string linhas;
         for (int i = 1; i <= 20000; ++i) {
             linhas += linha(std::to_string(i));
         }
-        encontra(tela, linhas);
-        grid::clickHeading(grade(tela), 1);
-        EXPECT_THAT(grid::ticks(grade(tela)), testing::Each(true));
-        grid::click(grade(tela), 20000, 1);
-        EXPECT_FALSE(grid::ticks(grade(tela)).back());
-        EXPECT_EQ(grid::cell(grade(tela), 20000, 5), "20000");
+        find(screen, linhas);
+        grid::clickHeading(grid(screen), 1);
+        EXPECT_THAT(grid::ticks(grid(screen)), testing::Each(true));
+        grid::click(grid(screen), 20000, 1);
+        EXPECT_FALSE(grid::ticks(grid(screen)).back());
+        EXPECT_EQ(grid::cell(grid(screen), 20000, 5), "20000");
     });
 }
 

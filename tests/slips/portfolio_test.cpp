@@ -14,32 +14,32 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class CarteiraCobrancaTest : public testing::Test {
+class PortfolioTest : public testing::Test {
 protected:
     std::vector<std::string> read(const std::string& rows) {
         seams.loader.on("sel_carteira_cob", answers::rowset(rows));
-        const auto carteira = carregaCarteira(seams.environment, sessao, 12);
-        EXPECT_TRUE(carteira);
-        return {carteira->ID_CRT_COB, carteira->ID_PES_BAN, carteira->NR_CRT_CNAB,
-                carteira->CD_AGE_BAN_CNAB, carteira->NR_CCOR_CNAB};
+        const auto portfolio = loadPortfolio(seams.environment, session, 12);
+        EXPECT_TRUE(portfolio);
+        return {portfolio->ID_CRT_COB, portfolio->ID_PES_BAN, portfolio->NR_CRT_CNAB,
+                portfolio->CD_AGE_BAN_CNAB, portfolio->NR_CCOR_CNAB};
     }
 
     TestEnvironment seams;
-    Sessao sessao{.NCOMPANYCODE = 2161,
-                  .ID_ETB_TARN = 9,
-                  .COMPANYNAME = {},
-                  .UserCode = "77",
-                  .SERVERNAME = "SRV1",
-                  .DATA = {},
-                  .VersaoServidor = {},
-                  .TextoMensagem = {},
-                  .ConfirmaMensagem = {},
-                  .TipoEtiqueta = {},
-                  .DirSistema = {},
-                  .PrefixoArquivo = {}};
+    Sessao session{.NCOMPANYCODE = 2161,
+                   .ID_ETB_TARN = 9,
+                   .COMPANYNAME = {},
+                   .UserCode = "77",
+                   .SERVERNAME = "SRV1",
+                   .DATA = {},
+                   .VersaoServidor = {},
+                   .TextoMensagem = {},
+                   .ConfirmaMensagem = {},
+                   .TipoEtiqueta = {},
+                   .DirSistema = {},
+                   .PrefixoArquivo = {}};
 };
 
-TEST_F(CarteiraCobrancaTest, AllFieldsAreTexts) {
+TEST_F(PortfolioTest, AllFieldsAreTexts) {
     EXPECT_THAT(read("<z:row ID_CRT_COB='012' ID_PES_BAN='1016' NR_CRT_CNAB='057' "
                      "CD_AGE_BAN_CNAB='112-3' NR_CCOR_CNAB='0456.78'/>"),
                 ElementsAre("012", "1016", "057", "112-3", "0456.78"));
@@ -49,35 +49,35 @@ TEST_F(CarteiraCobrancaTest, AllFieldsAreTexts) {
     EXPECT_THAT(seams.boxes.shown, IsEmpty());
 }
 
-TEST_F(CarteiraCobrancaTest, TheLastRowStandsEachFieldOnItsOwn) {
+TEST_F(PortfolioTest, TheLastRowStandsEachFieldOnItsOwn) {
     EXPECT_THAT(read("<z:row ID_CRT_COB='1' ID_PES_BAN='1016' NR_CRT_CNAB='57' "
                      "CD_AGE_BAN_CNAB='1123' NR_CCOR_CNAB='456789'/>"
                      "<z:row ID_CRT_COB='2' NR_CRT_CNAB='101'/>"),
                 ElementsAre("2", "", "101", "", ""));
 }
 
-TEST_F(CarteiraCobrancaTest, WithoutRowsAllIsEmpty) {
+TEST_F(PortfolioTest, WithoutRowsAllIsEmpty) {
     EXPECT_THAT(read(""), ElementsAre("", "", "", "", ""));
     seams.loader.on("sel_carteira_cob", "<xml/>");
-    const auto carteira = carregaCarteira(seams.environment, sessao, 0);
-    ASSERT_TRUE(carteira);
-    EXPECT_EQ(carteira->ID_PES_BAN, "");
+    const auto portfolio = loadPortfolio(seams.environment, session, 0);
+    ASSERT_TRUE(portfolio);
+    EXPECT_EQ(portfolio->ID_PES_BAN, "");
     EXPECT_EQ(seams.loader.queries().back(),
               "comando=sel_carteira_cob&ID_EMP_TARN=2161&ID_CRT_COB=&ServerName=SRV1");
 }
 
-TEST_F(CarteiraCobrancaTest, AFieldSpelledInAnotherCaseIsAFailure) {
+TEST_F(PortfolioTest, AFieldSpelledInAnotherCaseIsAFailure) {
     try {
         read("<z:row ID_CRT_COB='1' id_pes_ban='1016'/><z:row ID_CRT_COB='2'/>");
         FAIL() << "no error";
-    } catch (const ErroExecucao& error) {
-        EXPECT_EQ(error.numero(), ErroNumero::VariavelObjeto);
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), RuntimeErrorCode::ObjectVariable);
     }
 }
 
-TEST_F(CarteiraCobrancaTest, AFailedRequestIsTold) {
+TEST_F(PortfolioTest, AFailedRequestIsTold) {
     seams.loader.failOn("sel_carteira_cob");
-    EXPECT_FALSE(carregaCarteira(seams.environment, sessao, 12));
+    EXPECT_FALSE(loadPortfolio(seams.environment, session, 12));
     EXPECT_THAT(seams.boxes.shown,
                 ElementsAre(Box{"ERRO Tarn0009 - Não foi possível obter os dados da Internet. "
                                 "Verifique a conexão com a Internet.",

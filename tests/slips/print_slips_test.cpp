@@ -13,13 +13,13 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-namespace coluna = coluna_boleto;
+namespace coluna = slip_column;
 
-const std::string preparo = " \x0F\x1BM";
-const std::string preparoDoBoleto =
+const std::string preparation = " \x0F\x1BM";
+const std::string slipPreparation =
     " \x1B"
     "2 \x0F\x1BG";
-const Box nenhum{"Selecione um item na Lista!     ", BoxIcon::Information, "TArn"};
+const Box none{"Selecione um item na Lista!     ", BoxIcon::Information, "TArn"};
 
 std::string joined(const std::vector<std::string>& lines) {
     std::string all;
@@ -29,53 +29,52 @@ std::string joined(const std::vector<std::string>& lines) {
     return all;
 }
 
-LinhaGrade ofBank(const std::string& number, const std::string& bank) {
-    LinhaGrade document = documento(number);
-    document.coluna(coluna::banco) = bank;
+GridRow ofBank(const std::string& number, const std::string& bank) {
+    GridRow document = documento(number);
+    document.coluna(coluna::bank) = bank;
     return document;
 }
 
-class ImprimeBoletosTest : public testing::Test {
+class PrintSlipsTest : public testing::Test {
 protected:
-    ImprimeBoletosTest() {
-        sessao.NCOMPANYCODE = 2161;
-        sessao.ID_ETB_TARN = 9;
-        sessao.UserCode = "77";
-        sessao.SERVERNAME = "SRV1";
+    PrintSlipsTest() {
+        session.NCOMPANYCODE = 2161;
+        session.ID_ETB_TARN = 9;
+        session.UserCode = "77";
+        session.SERVERNAME = "SRV1";
     }
 
-    void run(const CarteiraCobranca& carteira, const std::string& first) {
+    void run(const Portfolio& portfolio, const std::string& first) {
         if (ticks.empty()) {
             ticks.assign(documents.size(), true);
         }
         for (std::size_t i = 0; i < documents.size(); ++i) {
-            documents[i].marcada = ticks[i];
+            documents[i].ticked = ticks[i];
         }
         ticks.clear();
-        imprimeBoletos(
-            seams.environment, sessao, carteira,
-            {.proximo = first, .incluiCarteira = incluiCarteira}, documents,
-            {.desmarca =
-                 [this](std::size_t i) {
-                     documents[i].marcada = false;
-                     callsAtUntick.push_back(seams.spooler.calls.size());
-                 },
-             .passou = [this] { ++passed; },
-             .andamento = [this](std::size_t done,
-                                 std::size_t total) { progress.emplace_back(done, total); }});
+        printSlips(seams.environment, session, portfolio,
+                   {.next = first, .includesPortfolio = includesPortfolio}, documents,
+                   {.untick =
+                        [this](std::size_t i) {
+                            documents[i].ticked = false;
+                            callsAtUntick.push_back(seams.spooler.calls.size());
+                        },
+                    .passed = [this] { ++passed; },
+                    .progress = [this](std::size_t done,
+                                       std::size_t total) { progress.emplace_back(done, total); }});
     }
     std::vector<bool> ticked() const {
         std::vector<bool> all;
-        for (const LinhaGrade& document : documents) {
-            all.push_back(document.marcada);
+        for (const GridRow& document : documents) {
+            all.push_back(document.ticked);
         }
         return all;
     }
-    int errorOfRun(const CarteiraCobranca& carteira, const std::string& first) {
+    int errorOfRun(const Portfolio& portfolio, const std::string& first) {
         try {
-            run(carteira, first);
-        } catch (const ErroExecucao& error) {
-            return static_cast<int>(error.numero());
+            run(portfolio, first);
+        } catch (const RuntimeError& error) {
+            return static_cast<int>(error.number());
         }
         return 0;
     }
@@ -95,17 +94,17 @@ protected:
     }
 
     TestEnvironment seams;
-    Sessao sessao;
-    std::vector<LinhaGrade> documents{documento()};
+    Sessao session;
+    std::vector<GridRow> documents{documento()};
     std::vector<bool> ticks;  // of the next run; empty: all
-    bool incluiCarteira = false;
+    bool includesPortfolio = false;
     std::size_t passed = 0;  // rows
     std::vector<std::pair<std::size_t, std::size_t>> progress;
     std::vector<std::size_t> callsAtUntick;
 };
 
-TEST_F(ImprimeBoletosTest, Wallet57WritesTwiceAndPrints) {
-    run(carteira57, "1234");
+TEST_F(PrintSlipsTest, Wallet57WritesTwiceAndPrints) {
+    run(isWallet57, "1234");
     EXPECT_THAT(seams.loader.queries(),
                 ElementsAre("comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=4567/1"
                             "&NR_BOL_BANC=1234&ServerName=SRV1",
@@ -113,39 +112,39 @@ TEST_F(ImprimeBoletosTest, Wallet57WritesTwiceAndPrints) {
                             "&NR_DOC=4567/1&ID_CRT_COB=5&NR_BOL_BANC=1234&ID_PES_USU=77"
                             "&ServerName=SRV1"));
     ASSERT_EQ(seams.spooler.jobs.size(), 2U);
-    EXPECT_EQ(seams.spooler.bytes(0), preparo);
-    EXPECT_EQ(seams.spooler.bytes(1), preparoDoBoleto + joined(linhasCarteira57()));
+    EXPECT_EQ(seams.spooler.bytes(0), preparation);
+    EXPECT_EQ(seams.spooler.bytes(1), slipPreparation + joined(wallet57Lines()));
     EXPECT_THAT(seams.boxes.shown, IsEmpty());
 }
 
-TEST_F(ImprimeBoletosTest, AnyOtherWalletWritesOnceAndPrints) {
-    run(carteira101, "1234567");
+TEST_F(PrintSlipsTest, AnyOtherWalletWritesOnceAndPrints) {
+    run(wallet101, "1234567");
     EXPECT_THAT(seams.loader.queries(),
                 ElementsAre("comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=4567/1"
                             "&NR_BOL_BANC=12345679&ServerName=SRV1"));
     ASSERT_EQ(seams.spooler.jobs.size(), 2U);
-    EXPECT_EQ(seams.spooler.bytes(0), preparo);
-    EXPECT_EQ(seams.spooler.bytes(1), preparoDoBoleto + joined(linhasSeteDigitos()));
+    EXPECT_EQ(seams.spooler.bytes(0), preparation);
+    EXPECT_EQ(seams.spooler.bytes(1), slipPreparation + joined(sevenDigitLines()));
 }
 
-TEST_F(ImprimeBoletosTest, ReceivablesHaveTheirOwnCommandsAndASecondSpelling) {
-    documents = {recebivel("88", "CTL 9")};
-    run(carteira57, "1234");
+TEST_F(PrintSlipsTest, ReceivablesHaveTheirOwnCommandsAndASecondSpelling) {
+    documents = {receivable("88", "CTL 9")};
+    run(isWallet57, "1234");
     EXPECT_THAT(seams.loader.queries(),
                 ElementsAre("comando=altera_docto_rec&ID_ETB=3381&ID_NR_CTL=CTL 9&ServerName=SRV1"
                             "&NR_BOL_BANC=1234",
                             "comando=insere_car_rec&ID_EMP_TARN=2161&ID_ETB=3381&ID_NR_CTL=CTL 9"
                             "&ID_CRT_COB=5&NR_BOL_BANC=1234&ID_PES_USU=77&ServerName=SRV1"));
     seams.loader.addresses.clear();
-    run(carteira101, "1234567");
+    run(wallet101, "1234567");
     EXPECT_THAT(seams.loader.queries(),
                 ElementsAre("comando=altera_docto_rec&ID_ETB=3381&ID_NR_CLT=CTL 9&ServerName=SRV1"
                             "&NR_BOL_BANC=12345679"));
 }
 
-TEST_F(ImprimeBoletosTest, ADocumentOfNoKnownTableIsAReceivableWithoutAControlNumber) {
-    documents[0].coluna(coluna::tabela) = "OUTRA";
-    run(carteira57, "1234");
+TEST_F(PrintSlipsTest, ADocumentOfNoKnownTableIsAReceivableWithoutAControlNumber) {
+    documents[0].coluna(coluna::table) = "OUTRA";
+    run(isWallet57, "1234");
     EXPECT_THAT(seams.loader.queries(),
                 ElementsAre("comando=altera_docto_rec&ID_ETB=3381&ID_NR_CTL=&ServerName=SRV1"
                             "&NR_BOL_BANC=1234",
@@ -153,9 +152,9 @@ TEST_F(ImprimeBoletosTest, ADocumentOfNoKnownTableIsAReceivableWithoutAControlNu
                             "&ID_CRT_COB=5&NR_BOL_BANC=1234&ID_PES_USU=77&ServerName=SRV1"));
 }
 
-TEST_F(ImprimeBoletosTest, BothJobsOpenBeforeTheTickGoesAndTheWritesComeBeforeTheLines) {
+TEST_F(PrintSlipsTest, BothJobsOpenBeforeTheTickGoesAndTheWritesComeBeforeTheLines) {
     using Call = RecordingSpooler::Call;
-    run(carteira57, "1234");
+    run(isWallet57, "1234");
     std::vector<Call> expected{Call::Open,      Call::StartDocument, Call::StartPage,
                                Call::Write,     Call::EndPage,       Call::EndDocument,
                                Call::Close,     Call::Open,          Call::StartDocument,
@@ -176,7 +175,7 @@ TEST_F(ImprimeBoletosTest, BothJobsOpenBeforeTheTickGoesAndTheWritesComeBeforeTh
 }
 
 // Asked while a write is under way: only the set-up is in the slip's job.
-TEST_F(ImprimeBoletosTest, NothingIsPrintedUntilTheWritesAreDone) {
+TEST_F(PrintSlipsTest, NothingIsPrintedUntilTheWritesAreDone) {
     struct WatchedLoader : HttpLoader {
         RecordingSpooler* spooler = nullptr;
         std::vector<std::size_t> writes;
@@ -193,16 +192,16 @@ TEST_F(ImprimeBoletosTest, NothingIsPrintedUntilTheWritesAreDone) {
                             .clock = seams.clock,
                             .machine = seams.machine,
                             .baseUrl = ""};
-    documents[0].marcada = true;
-    imprimeBoletos(environment, sessao, carteira57, {.proximo = "1"}, documents,
-                   {.desmarca = [](std::size_t) {}});
+    documents[0].ticked = true;
+    printSlips(environment, session, isWallet57, {.next = "1"}, documents,
+               {.untick = [](std::size_t) {}});
     EXPECT_THAT(watched.writes, ElementsAre(3U, 3U));
 }
 
-TEST_F(ImprimeBoletosTest, TickedRowsGetConsecutiveNumbersInGridOrder) {
+TEST_F(PrintSlipsTest, TickedRowsGetConsecutiveNumbersInGridOrder) {
     documents = {documento("1"), documento("2"), documento("3"), documento("4")};
     ticks = {true, false, true, true};
-    run(carteira57, "9");
+    run(isWallet57, "9");
     EXPECT_THAT(numbers(), ElementsAre("0000000000009/2", "0000000000010/9", "0000000000011/8"));
     EXPECT_EQ(passed, 4U);
     EXPECT_THAT(progress, ElementsAre(std::pair(0U, 3U), std::pair(1U, 3U), std::pair(2U, 3U),
@@ -210,152 +209,152 @@ TEST_F(ImprimeBoletosTest, TickedRowsGetConsecutiveNumbersInGridOrder) {
     EXPECT_THAT(ticked(), ElementsAre(false, false, false, false));
     ASSERT_EQ(seams.spooler.jobs.size(), 6U) << "the preparation comes before each slip";
     for (const std::size_t job : {0U, 2U, 4U}) {
-        EXPECT_EQ(seams.spooler.bytes(job), preparo);
-        EXPECT_EQ(seams.spooler.bytes(job + 1).substr(0, 7), preparoDoBoleto);
+        EXPECT_EQ(seams.spooler.bytes(job), preparation);
+        EXPECT_EQ(seams.spooler.bytes(job + 1).substr(0, 7), slipPreparation);
     }
     EXPECT_THAT(seams.loader.queries()[2], testing::HasSubstr("&NR_DOC=3&NR_BOL_BANC=10&"));
 }
 
-TEST_F(ImprimeBoletosTest, SevenDigitsStepAndAreFilled) {
+TEST_F(PrintSlipsTest, SevenDigitsStepAndAreFilled) {
     documents = {documento("1"), documento("2")};
-    run(carteira101, "9");
+    run(wallet101, "9");
     EXPECT_THAT(numbers(), ElementsAre("0000009-4", "0000010-8"));
     EXPECT_THAT(seams.loader.queries()[1], testing::HasSubstr("&NR_BOL_BANC=00000108&"));
 }
 
-TEST_F(ImprimeBoletosTest, ARowOfAnotherBankTakesNoNumberAndLeavesItsJobOpen) {
+TEST_F(PrintSlipsTest, ARowOfAnotherBankTakesNoNumberAndLeavesItsJobOpen) {
     documents = {ofBank("1", "1016"), ofBank("2", "1050"), ofBank("3", "1095")};
-    run(carteira57, "9");
+    run(isWallet57, "9");
     EXPECT_THAT(numbers(), ElementsAre("0000000000009/2", "0000000000010/9"));
     EXPECT_THAT(ticked(), ElementsAre(false, false, false));
     EXPECT_EQ(seams.loader.queries().size(), 4U);
     const auto& jobs = seams.spooler.jobs;
     ASSERT_EQ(jobs.size(), 6U);
     EXPECT_TRUE(jobs[2].closed);
-    EXPECT_EQ(jobs[3].bytes(), preparoDoBoleto);
+    EXPECT_EQ(jobs[3].bytes(), slipPreparation);
     EXPECT_FALSE(jobs[3].pageEnded || jobs[3].ended || jobs[3].closed);
     EXPECT_TRUE(jobs[5].closed);
     EXPECT_THAT(seams.boxes.shown, IsEmpty());
 }
 
-TEST_F(ImprimeBoletosTest, OnlyRowsOfOtherBanksAreNoSlip) {
+TEST_F(PrintSlipsTest, OnlyRowsOfOtherBanksAreNoSlip) {
     documents = {ofBank("1", "1050"), ofBank("2", "")};
-    run(carteira57, "9");
+    run(isWallet57, "9");
     EXPECT_THAT(seams.loader.queries(), IsEmpty());
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(nenhum));
+    EXPECT_THAT(seams.boxes.shown, ElementsAre(none));
     EXPECT_THAT(ticked(), ElementsAre(false, false));
     EXPECT_EQ(seams.spooler.jobs.size(), 4U);
 }
 
-TEST_F(ImprimeBoletosTest, NothingTicked) {
+TEST_F(PrintSlipsTest, NothingTicked) {
     ticks = {false};
-    run(carteira57, "9");
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(nenhum));
+    run(isWallet57, "9");
+    EXPECT_THAT(seams.boxes.shown, ElementsAre(none));
     EXPECT_THAT(seams.spooler.calls, IsEmpty());
     EXPECT_EQ(passed, 1U);
 }
 
-TEST_F(ImprimeBoletosTest, AnEmptyGrid) {
+TEST_F(PrintSlipsTest, AnEmptyGrid) {
     documents.clear();
-    run(carteira57, "9");
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(nenhum));
+    run(isWallet57, "9");
+    EXPECT_THAT(seams.boxes.shown, ElementsAre(none));
     EXPECT_EQ(passed, 0U);
 }
 
-TEST_F(ImprimeBoletosTest, BanksAreComparedAsNumbers) {
+TEST_F(PrintSlipsTest, BanksAreComparedAsNumbers) {
     for (const char* bank : {"1016", "01084", " 1095 ", "1.016", "1016,0"}) {
         documents.push_back(ofBank(bank, bank));
     }
     for (const char* bank : {"", "016", "1016x", "10166", "1016,5"}) {
         documents.push_back(ofBank(bank, bank));
     }
-    run(carteira57, "1");
+    run(isWallet57, "1");
     EXPECT_EQ(numbers().size(), 1U + 5U);
 }
 
-TEST_F(ImprimeBoletosTest, WithThePortfolioIncludedItsBankCounts) {
-    incluiCarteira = true;
+TEST_F(PrintSlipsTest, WithThePortfolioIncludedItsBankCounts) {
+    includesPortfolio = true;
     documents = {ofBank("1", ""), ofBank("2", "1050")};
-    run(carteira57, "9");
+    run(isWallet57, "9");
     EXPECT_EQ(numbers().size(), 2U);
-    CarteiraCobranca foreign = carteira57;
+    Portfolio foreign = isWallet57;
     foreign.ID_PES_BAN = "1050";
     documents = {ofBank("1", "1016")};
     run(foreign, "9");
     EXPECT_EQ(numbers().size(), 2U);
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(nenhum));
+    EXPECT_THAT(seams.boxes.shown, ElementsAre(none));
 }
 
 // Wallet, agency and account stay the portfolio's, whatever the row's bank.
-TEST_F(ImprimeBoletosTest, ARowsBankChangesOnlyTheBank) {
+TEST_F(PrintSlipsTest, ARowsBankChangesOnlyTheBank) {
     documents = {ofBank("1", "1084")};
-    run(carteira57, "1234");
+    run(isWallet57, "1234");
     EXPECT_THAT(numbers(), ElementsAre("0000000001234/7"));
 }
 
-TEST_F(ImprimeBoletosTest, AnEmptyPortfolio) {
-    run(CarteiraCobranca(), "9");
+TEST_F(PrintSlipsTest, AnEmptyPortfolio) {
+    run(Portfolio(), "9");
     EXPECT_THAT(numbers(), ElementsAre("0000009-4"));
-    incluiCarteira = true;
-    run(CarteiraCobranca(), "9");
+    includesPortfolio = true;
+    run(Portfolio(), "9");
     EXPECT_EQ(numbers().size(), 1U);
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(nenhum));
+    EXPECT_THAT(seams.boxes.shown, ElementsAre(none));
 }
 
-TEST_F(ImprimeBoletosTest, TheServersFailureOrAnswerChangesNothing) {
+TEST_F(PrintSlipsTest, TheServersFailureOrAnswerChangesNothing) {
     documents = {documento("1"), documento("2")};
     seams.loader.failOn("altera_docto_cob");
     seams.loader.on("insere_car_cob", "nada de XML");
-    run(carteira57, "9");
+    run(isWallet57, "9");
     EXPECT_THAT(numbers(), ElementsAre("0000000000009/2", "0000000000010/9"));
     EXPECT_EQ(seams.loader.queries().size(), 4U) << "nothing is sent twice";
     EXPECT_THAT(seams.boxes.shown, IsEmpty());
 }
 
-TEST_F(ImprimeBoletosTest, ThePrintersFailureChangesNothing) {
+TEST_F(PrintSlipsTest, ThePrintersFailureChangesNothing) {
     documents = {documento("1"), documento("2")};
     seams.spooler.failOpen = 1;  // the first slip's job
-    run(carteira57, "9");
+    run(isWallet57, "9");
     EXPECT_THAT(numbers(), ElementsAre("0000000000010/9"));
     EXPECT_EQ(seams.loader.queries().size(), 4U) << "the number is on the server all the same";
     EXPECT_THAT(ticked(), ElementsAre(false, false));
     EXPECT_THAT(seams.boxes.shown, IsEmpty());
 }
 
-TEST_F(ImprimeBoletosTest, AWriteToThePrinterThatFailsChangesNothing) {
+TEST_F(PrintSlipsTest, AWriteToThePrinterThatFailsChangesNothing) {
     seams.spooler.failWrite = 12;  // the line of the number
-    run(carteira57, "1234");
+    run(isWallet57, "1234");
     ASSERT_EQ(seams.spooler.jobs.size(), 2U);
-    std::vector<std::string> lines = linhasCarteira57();
+    std::vector<std::string> lines = wallet57Lines();
     lines.erase(lines.begin() + 9);
-    EXPECT_EQ(seams.spooler.bytes(1), preparoDoBoleto + joined(lines));
+    EXPECT_EQ(seams.spooler.bytes(1), slipPreparation + joined(lines));
     EXPECT_TRUE(seams.spooler.jobs[1].closed);
     EXPECT_THAT(seams.boxes.shown, IsEmpty());
 }
 
-TEST_F(ImprimeBoletosTest, ANumberThatIsNoneEndsTheRunAtItsBegin) {
-    EXPECT_EQ(errorOfRun(carteira57, ","), 13);
+TEST_F(PrintSlipsTest, ANumberThatIsNoneEndsTheRunAtItsBegin) {
+    EXPECT_EQ(errorOfRun(isWallet57, ","), 13);
     EXPECT_THAT(seams.spooler.calls, IsEmpty());
     EXPECT_THAT(ticked(), ElementsAre(true));
     ticks = {false};
-    EXPECT_EQ(errorOfRun(carteira101, "1,,2"), 13) << "also with nothing ticked";
+    EXPECT_EQ(errorOfRun(wallet101, "1,,2"), 13) << "also with nothing ticked";
     EXPECT_EQ(passed, 0U);
 }
 
-TEST_F(ImprimeBoletosTest, AShortAgencyEndsTheRunBeforeTheWrites) {
-    CarteiraCobranca shortOne = carteira57;
+TEST_F(PrintSlipsTest, AShortAgencyEndsTheRunBeforeTheWrites) {
+    Portfolio shortOne = isWallet57;
     shortOne.CD_AGE_BAN_CNAB = "112";
     EXPECT_EQ(errorOfRun(shortOne, "1"), 5);
     EXPECT_THAT(seams.loader.queries(), IsEmpty());
     ASSERT_EQ(seams.spooler.jobs.size(), 2U);
-    EXPECT_EQ(seams.spooler.bytes(1), preparoDoBoleto);
+    EXPECT_EQ(seams.spooler.bytes(1), slipPreparation);
     EXPECT_FALSE(seams.spooler.jobs[1].closed);
     EXPECT_THAT(ticked(), ElementsAre(false));
     EXPECT_EQ(passed, 0U);
 }
 
-TEST_F(ImprimeBoletosTest, AnAccountThatIsNoNumberEndsTheRunBeforeTheWrites) {
-    CarteiraCobranca lettered = carteira57;
+TEST_F(PrintSlipsTest, AnAccountThatIsNoNumberEndsTheRunBeforeTheWrites) {
+    Portfolio lettered = isWallet57;
     lettered.NR_CCOR_CNAB = "45678X";
     documents = {ofBank("1", "1050"), documento("2")};
     EXPECT_EQ(errorOfRun(lettered, "1"), 13);
@@ -364,9 +363,9 @@ TEST_F(ImprimeBoletosTest, AnAccountThatIsNoNumberEndsTheRunBeforeTheWrites) {
     EXPECT_EQ(passed, 1U);
 }
 
-TEST_F(ImprimeBoletosTest, AfterTheLastSevenDigitNumberTheRunEnds) {
+TEST_F(PrintSlipsTest, AfterTheLastSevenDigitNumberTheRunEnds) {
     documents = {documento("1"), documento("2"), documento("3")};
-    EXPECT_EQ(errorOfRun(carteira101, "9999998"), 5);
+    EXPECT_EQ(errorOfRun(wallet101, "9999998"), 5);
     EXPECT_THAT(numbers(), ElementsAre("9999998-6", "9999999-4"));
     EXPECT_EQ(seams.loader.queries().size(), 2U);
     EXPECT_TRUE(seams.spooler.jobs.back().closed);
@@ -374,16 +373,16 @@ TEST_F(ImprimeBoletosTest, AfterTheLastSevenDigitNumberTheRunEnds) {
     EXPECT_EQ(passed, 1U);
 }
 
-TEST_F(ImprimeBoletosTest, ANumberOfEightDigitsIsPrintedOnce) {
+TEST_F(PrintSlipsTest, ANumberOfEightDigitsIsPrintedOnce) {
     documents = {documento("1"), documento("2")};
-    EXPECT_EQ(errorOfRun(carteira101, "12345678"), 5);
+    EXPECT_EQ(errorOfRun(wallet101, "12345678"), 5);
     ASSERT_EQ(seams.spooler.jobs.size(), 2U);
     EXPECT_THAT(seams.spooler.bytes(1), testing::HasSubstr("N.N.  12345678-9\r\n"));
     EXPECT_THAT(seams.loader.queries(), ElementsAre(testing::HasSubstr("&NR_BOL_BANC=123456789&")));
 }
 
 // The count of slips is a 16-bit number.
-TEST_F(ImprimeBoletosTest, TheSlipPast32767EndsTheRun) {
+TEST_F(PrintSlipsTest, TheSlipPast32767EndsTheRun) {
     struct NoPaper : Spooler {
         std::string defaultPrinter() override { return "x"; }
         bool openPrinter(const std::string&) override { return true; }
@@ -401,15 +400,15 @@ TEST_F(ImprimeBoletosTest, TheSlipPast32767EndsTheRun) {
                             .clock = seams.clock,
                             .machine = seams.machine,
                             .baseUrl = ""};
-    documents[0].marcada = true;
-    const std::vector<LinhaGrade> many(40000, documents[0]);
+    documents[0].ticked = true;
+    const std::vector<GridRow> many(40000, documents[0]);
     std::size_t done = 0;
     try {
-        imprimeBoletos(environment, sessao, carteira57, {.proximo = "1"}, many,
-                       {.desmarca = [](std::size_t) {}, .passou = [&done] { ++done; }});
+        printSlips(environment, session, isWallet57, {.next = "1"}, many,
+                   {.untick = [](std::size_t) {}, .passed = [&done] { ++done; }});
         FAIL() << "no error";
-    } catch (const ErroExecucao& error) {
-        EXPECT_EQ(error.numero(), ErroNumero::Estouro);
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), RuntimeErrorCode::Overflow);
     }
     EXPECT_EQ(done, 32767U);
     EXPECT_EQ(seams.loader.addresses.size(), 2U * 32768);

@@ -13,56 +13,56 @@ inline std::string b(std::size_t blanks) {
     return std::string(blanks, ' ');
 }
 
-inline const CarteiraCobranca carteira57{.ID_CRT_COB = "5",
-                                         .ID_PES_BAN = "1016",
-                                         .NR_CRT_CNAB = "57",
-                                         .CD_AGE_BAN_CNAB = "1123",
-                                         .NR_CCOR_CNAB = "456789"};
-inline const CarteiraCobranca carteira101{.ID_CRT_COB = "6",
-                                          .ID_PES_BAN = "1084",
-                                          .NR_CRT_CNAB = "101",
-                                          .CD_AGE_BAN_CNAB = "",
-                                          .NR_CCOR_CNAB = ""};
+inline const Portfolio isWallet57{.ID_CRT_COB = "5",
+                                  .ID_PES_BAN = "1016",
+                                  .NR_CRT_CNAB = "57",
+                                  .CD_AGE_BAN_CNAB = "1123",
+                                  .NR_CCOR_CNAB = "456789"};
+inline const Portfolio wallet101{.ID_CRT_COB = "6",
+                                 .ID_PES_BAN = "1084",
+                                 .NR_CRT_CNAB = "101",
+                                 .CD_AGE_BAN_CNAB = "",
+                                 .NR_CCOR_CNAB = ""};
 
 // A row whose cells are all empty.
-inline LinhaGrade semNada() {
-    return {.celulas = std::vector<std::string>(colunasBoleto)};
+inline GridRow emptyDocument() {
+    return {.cells = std::vector<std::string>(slipColumns)};
 }
 
 // A bill of bank 1016.
-inline LinhaGrade documento(const std::string& numero = "4567/1") {
-    LinhaGrade d = semNada();
-    d.coluna(coluna_boleto::vencimento) = "10/04/2012";
-    d.coluna(coluna_boleto::numero) = numero;
-    d.coluna(coluna_boleto::cliente) = "JOSÉ & FILHOS";
-    d.coluna(coluna_boleto::emissao) = "05/03/2012";
-    d.coluna(coluna_boleto::endereco) = "RUA DO COMÉRCIO, 100";
-    d.coluna(coluna_boleto::valor) = "1.234,50";
-    d.coluna(coluna_boleto::cep) = "01310-100";
-    d.coluna(coluna_boleto::municipio) = "SÃO PAULO";
-    d.coluna(coluna_boleto::estado) = "SP";
-    d.coluna(coluna_boleto::cpfCnpj) = "12.345.678/0001-95";
-    d.coluna(coluna_boleto::inscricao) = "110.042.490.114";
-    d.coluna(coluna_boleto::tabela) = "DOCTO_COBRANCA";
-    d.coluna(coluna_boleto::multa) = "2,50";
-    d.coluna(coluna_boleto::jurosAoDia) = "0,42";
-    d.coluna(coluna_boleto::instrucao) = "NAO RECEBER APOS 30 DIAS";
-    d.coluna(coluna_boleto::estabelecimento) = "3381";
-    d.coluna(coluna_boleto::tipoDocumento) = "201";
-    d.coluna(coluna_boleto::banco) = "1016";
-    d.coluna(coluna_boleto::codigoExterno) = "C-77";
+inline GridRow documento(const std::string& number = "4567/1") {
+    GridRow d = emptyDocument();
+    d.coluna(slip_column::due) = "10/04/2012";
+    d.coluna(slip_column::number) = number;
+    d.coluna(slip_column::customer) = "JOSÉ & FILHOS";
+    d.coluna(slip_column::issued) = "05/03/2012";
+    d.coluna(slip_column::address) = "RUA DO COMÉRCIO, 100";
+    d.coluna(slip_column::valor) = "1.234,50";
+    d.coluna(slip_column::cep) = "01310-100";
+    d.coluna(slip_column::town) = "SÃO PAULO";
+    d.coluna(slip_column::state) = "SP";
+    d.coluna(slip_column::cpfCnpj) = "12.345.678/0001-95";
+    d.coluna(slip_column::registration) = "110.042.490.114";
+    d.coluna(slip_column::table) = "DOCTO_COBRANCA";
+    d.coluna(slip_column::fine) = "2,50";
+    d.coluna(slip_column::dailyInterest) = "0,42";
+    d.coluna(slip_column::instruction) = "NAO RECEBER APOS 30 DIAS";
+    d.coluna(slip_column::establishment) = "3381";
+    d.coluna(slip_column::documentKind) = "201";
+    d.coluna(slip_column::bank) = "1016";
+    d.coluna(slip_column::externalCode) = "C-77";
     return d;
 }
 
-inline LinhaGrade recebivel(const std::string& numero, const std::string& controle) {
-    LinhaGrade d = documento(numero);
-    d.coluna(coluna_boleto::tabela) = "DOCTO_RECEBER";
-    d.coluna(coluna_boleto::numeroControle) = controle;
+inline GridRow receivable(const std::string& number, const std::string& control) {
+    GridRow d = documento(number);
+    d.coluna(slip_column::table) = "DOCTO_RECEBER";
+    d.coluna(slip_column::controlNumber) = control;
     return d;
 }
 
 // The slip of `documento` number 1234 in wallet 57, as it leaves in windows-1252.
-inline std::vector<std::string> linhasCarteira57() {
+inline std::vector<std::string> wallet57Lines() {
     return {"  \r\n",
             b(101) + "10/04/2012      \r\n\r\n\r\n",
             " 05/03/2012" + b(4) + b(3) + "4567/1" + b(24) + "\r\n",
@@ -80,7 +80,7 @@ inline std::vector<std::string> linhasCarteira57() {
 }
 
 // The slip of `documento` number 1234567 in any other wallet.
-inline std::vector<std::string> linhasSeteDigitos() {
+inline std::vector<std::string> sevenDigitLines() {
     return {" \r\n",
             " ATE O VENCIMENTO, PREFERENCIALMENTE NO SANTANDER\r\n",
             " APOS O VENCIMENTO, SOMENTE NO SANTANDER" + b(45) + "10/04/2012      \r\n\r\n\r\n",

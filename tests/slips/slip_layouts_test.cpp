@@ -12,55 +12,55 @@ namespace tarn {
 namespace {
 
 using Lines = std::vector<std::string>;
-namespace coluna = coluna_boleto;
+namespace coluna = slip_column;
 
-const NossoNumero numero57{.digitos = "0000000001234", .digito = 7, .NR_BOL_BANC = "1234"};
-const NossoNumero numeroSete{.digitos = "1234567", .digito = 9, .NR_BOL_BANC = "12345679"};
+const SlipNumber number57{.digits = "0000000001234", .digit = 7, .NR_BOL_BANC = "1234"};
+const SlipNumber numberSeven{.digits = "1234567", .digit = 9, .NR_BOL_BANC = "12345679"};
 
 template <typename Layout>
-Lines written(Layout layout, const LinhaGrade& document, const NossoNumero& number) {
+Lines written(Layout layout, const GridRow& document, const SlipNumber& number) {
     RecordingSpooler spooler;
     RawChannel channel(spooler, CodePage::Page1252);
-    channel.abre();
+    channel.open();
     layout(channel, document, number);
     EXPECT_EQ(spooler.calls.back(), RecordingSpooler::Call::Write) << "the job stays open";
     return spooler.jobs.at(0).writes;
 }
-Lines wallet57(const LinhaGrade& document) {
-    return written(imprimeLinhasCarteira57, document, numero57);
+Lines wallet57(const GridRow& document) {
+    return written(printWallet57Lines, document, number57);
 }
-Lines sevenDigits(const LinhaGrade& document) {
-    return written(imprimeLinhasSeteDigitos, document, numeroSete);
+Lines sevenDigits(const GridRow& document) {
+    return written(printSevenDigitLines, document, numberSeven);
 }
 // Lines count from 1.
-std::string line57(const LinhaGrade& document, std::size_t line) {
+std::string line57(const GridRow& document, std::size_t line) {
     return wallet57(document).at(line - 1);
 }
-std::string line7(const LinhaGrade& document, std::size_t line) {
+std::string line7(const GridRow& document, std::size_t line) {
     return sevenDigits(document).at(line - 1);
 }
-LinhaGrade with(std::size_t column, const std::string& text) {
-    LinhaGrade document = documento();
+GridRow with(std::size_t column, const std::string& text) {
+    GridRow document = documento();
     document.coluna(column) = text;
     return document;
 }
-LinhaGrade charges(const std::string& fine, const std::string& interest) {
-    LinhaGrade document = documento();
-    document.coluna(coluna::multa) = fine;
-    document.coluna(coluna::jurosAoDia) = interest;
+GridRow charges(const std::string& fine, const std::string& interest) {
+    GridRow document = documento();
+    document.coluna(coluna::fine) = fine;
+    document.coluna(coluna::dailyInterest) = interest;
     return document;
 }
 
-TEST(Carteira57, Lines) {
-    EXPECT_EQ(wallet57(documento()), linhasCarteira57());
+TEST(Wallet57, Lines) {
+    EXPECT_EQ(wallet57(documento()), wallet57Lines());
 }
 
-TEST(SeteDigitos, Lines) {
-    EXPECT_EQ(sevenDigits(documento()), linhasSeteDigitos());
+TEST(SevenDigits, Lines) {
+    EXPECT_EQ(sevenDigits(documento()), sevenDigitLines());
 }
 
-TEST(Carteira57, EmptyCells) {
-    EXPECT_EQ(wallet57(semNada()),
+TEST(Wallet57, EmptyCells) {
+    EXPECT_EQ(wallet57(emptyDocument()),
               (Lines{"  \r\n", b(101) + b(16) + "\r\n\r\n\r\n", b(1) + b(14 + 3 + 30) + "\r\n",
                      b(112) + b(16) + " \r\n\r\n", "  \r\n", "  \r\n", "  \r\n", "  \r\n",
                      " COBRAR MULTA DE 0,00% + JUROS DE  AO DIA\r\n",
@@ -69,8 +69,8 @@ TEST(Carteira57, EmptyCells) {
                      "  -    " + b(64) + "\r\n", "  \r\n\r\n\r\n\r\n\r\n\r\n\r\n"}));
 }
 
-TEST(SeteDigitos, EmptyCells) {
-    EXPECT_EQ(sevenDigits(semNada()),
+TEST(SevenDigits, EmptyCells) {
+    EXPECT_EQ(sevenDigits(emptyDocument()),
               (Lines{" \r\n", " ATE O VENCIMENTO, PREFERENCIALMENTE NO SANTANDER\r\n",
                      " APOS O VENCIMENTO, SOMENTE NO SANTANDER" + b(45 + 16) + "\r\n\r\n\r\n",
                      b(1) + b(14 + 1 + 30) + "\r\n", b(91) + b(16) + " \r\n\r\n", "  \r\n",
@@ -81,18 +81,18 @@ TEST(SeteDigitos, EmptyCells) {
                      " \r\n\r\n\r\n\r\n\r\n\r\n"}));
 }
 
-TEST(Boleto, DatesAreSetInFullOrStayAsTheyAre) {
-    EXPECT_EQ(line57(with(coluna::vencimento, "2012-04-10T00:00:00"), 2),
+TEST(Slip, DatesAreSetInFullOrStayAsTheyAre) {
+    EXPECT_EQ(line57(with(coluna::due, "2012-04-10T00:00:00"), 2),
               b(101) + "10/04/2012" + b(6) + "\r\n\r\n\r\n");
-    EXPECT_EQ(line57(with(coluna::vencimento, "CONTRA APRESENTACAO"), 2),
+    EXPECT_EQ(line57(with(coluna::due, "CONTRA APRESENTACAO"), 2),
               b(101) + "CONTRA APRESENTA\r\n\r\n\r\n");
-    EXPECT_EQ(line57(with(coluna::emissao, "5/3/12"), 3).substr(0, 18), " 05/03/2012" + b(7));
-    EXPECT_EQ(line7(with(coluna::emissao, "31/02/2012"), 4).substr(0, 16), " 31/02/2012" + b(5));
-    EXPECT_EQ(line7(with(coluna::vencimento, "A VISTA"), 3).substr(85),
+    EXPECT_EQ(line57(with(coluna::issued, "5/3/12"), 3).substr(0, 18), " 05/03/2012" + b(7));
+    EXPECT_EQ(line7(with(coluna::issued, "31/02/2012"), 4).substr(0, 16), " 31/02/2012" + b(5));
+    EXPECT_EQ(line7(with(coluna::due, "A VISTA"), 3).substr(85),
               "A VISTA  " + b(7) + "\r\n\r\n\r\n");
 }
 
-TEST(Boleto, AnAmountTooWideLosesItsEnd) {
+TEST(Slip, AnAmountTooWideLosesItsEnd) {
     EXPECT_EQ(line57(with(coluna::valor, "123.456.789.012.345,67"), 4),
               b(112) + "123.456.789.012. \r\n\r\n");
     EXPECT_EQ(line7(with(coluna::valor, "123.456.789.012.345,67"), 5),
@@ -100,10 +100,10 @@ TEST(Boleto, AnAmountTooWideLosesItsEnd) {
     EXPECT_EQ(line57(with(coluna::valor, "5"), 4), b(112) + b(12) + "5,00 \r\n\r\n");
 }
 
-TEST(Boleto, LongFieldsAreCut) {
-    LinhaGrade document = documento();
-    for (const std::size_t column : {coluna::numero, coluna::cliente, coluna::endereco,
-                                     coluna::cpfCnpj, coluna::inscricao, coluna::municipio}) {
+TEST(Slip, LongFieldsAreCut) {
+    GridRow document = documento();
+    for (const std::size_t column : {coluna::number, coluna::customer, coluna::address,
+                                     coluna::cpfCnpj, coluna::registration, coluna::town}) {
         document.coluna(column) = std::string(80, 'x');
     }
     const auto x = [](std::size_t count) { return std::string(count, 'x'); };
@@ -118,33 +118,34 @@ TEST(Boleto, LongFieldsAreCut) {
 }
 
 // Widths and cuts count characters; each is one byte.
-TEST(Boleto, AccentedLettersCountOnce) {
+TEST(Slip, AccentedLettersCountOnce) {
     std::string name;
     for (int i = 0; i < 60; ++i) {
         name += "Ã";
     }
-    EXPECT_EQ(line57(with(coluna::cliente, name), 11).substr(4, 55), std::string(54, '\xC3') + " ");
-    EXPECT_EQ(line57(with(coluna::instrucao, name + name), 5),
+    EXPECT_EQ(line57(with(coluna::customer, name), 11).substr(4, 55),
+              std::string(54, '\xC3') + " ");
+    EXPECT_EQ(line57(with(coluna::instruction, name + name), 5),
               " " + std::string(79, '\xC3') + "\r\n");
-    EXPECT_EQ(line57(with(coluna::instrucao, name + name), 6),
+    EXPECT_EQ(line57(with(coluna::instruction, name + name), 6),
               " " + std::string(41, '\xC3') + "\r\n");
 }
 
-TEST(Boleto, AValueCannotMoveALineOrCommandThePrinter) {
-    LinhaGrade document = documento();
-    document.coluna(coluna::instrucao) =
+TEST(Slip, AValueCannotMoveALineOrCommandThePrinter) {
+    GridRow document = documento();
+    document.coluna(coluna::instruction) =
         "A\r\nB\x1B"
         "C";
-    document.coluna(coluna::codigoExterno) = "X\x0F\tY";
-    document.coluna(coluna::jurosAoDia) = "1\n2";
-    document.coluna(coluna::multa) = "2,00";
-    document.coluna(coluna::municipio) = "S\x12P";
-    document.coluna(coluna::vencimento) = "10\n04";
+    document.coluna(coluna::externalCode) = "X\x0F\tY";
+    document.coluna(coluna::dailyInterest) = "1\n2";
+    document.coluna(coluna::fine) = "2,00";
+    document.coluna(coluna::town) = "S\x12P";
+    document.coluna(coluna::due) = "10\n04";
     EXPECT_EQ(line7(document, 3).substr(85), "10 04" + b(11) + "\r\n\r\n\r\n");
     EXPECT_EQ(line7(document, 6), " A  B C\r\n");
     EXPECT_EQ(line7(document, 11), " 1 2 AO DIA\r\n\r\n");
     EXPECT_EQ(line7(document, 14).substr(0, 12), b(4) + "S P - SP");
-    document.coluna(coluna::jurosAoDia) = "";
+    document.coluna(coluna::dailyInterest) = "";
     EXPECT_EQ(line57(document, 10),
               " NOSSO NUMERO: 0000000001234/7   CODIGO CLIENTE: X  Y\r\n\r\n");
 }
@@ -159,11 +160,11 @@ std::string text(std::size_t length) {
 }
 
 Lines pieces57(std::size_t length) {
-    const Lines lines = wallet57(with(coluna::instrucao, text(length)));
+    const Lines lines = wallet57(with(coluna::instruction, text(length)));
     return {lines.begin() + 4, lines.begin() + 8};
 }
 Lines pieces7(std::size_t length) {
-    const Lines lines = sevenDigits(with(coluna::instrucao, text(length)));
+    const Lines lines = sevenDigits(with(coluna::instruction, text(length)));
     return {lines.begin() + 5, lines.begin() + 9};
 }
 std::string piece(char letter, std::size_t length) {
@@ -171,7 +172,7 @@ std::string piece(char letter, std::size_t length) {
 }
 const std::string none = "  \r\n";
 
-TEST(Carteira57, TheInstructionIsCutInThree) {
+TEST(Wallet57, TheInstructionIsCutInThree) {
     EXPECT_EQ(pieces57(0), (Lines{none, none, none, none}));
     EXPECT_EQ(pieces57(1), (Lines{piece('A', 1), none, none, none}));
     EXPECT_EQ(pieces57(79), (Lines{piece('A', 79), none, none, none}));
@@ -182,10 +183,10 @@ TEST(Carteira57, TheInstructionIsCutInThree) {
     EXPECT_EQ(pieces57(237), full);
     EXPECT_EQ(pieces57(238), full);
     EXPECT_EQ(pieces57(400), full);
-    EXPECT_EQ(wallet57(with(coluna::instrucao, text(400))).size(), 14U);
+    EXPECT_EQ(wallet57(with(coluna::instruction, text(400))).size(), 14U);
 }
 
-TEST(SeteDigitos, TheInstructionIsCutInFour) {
+TEST(SevenDigits, TheInstructionIsCutInFour) {
     EXPECT_EQ(pieces7(0), (Lines{none, none, none, none}));
     EXPECT_EQ(pieces7(79), (Lines{piece('A', 79), none, none, none}));
     EXPECT_EQ(pieces7(80), (Lines{piece('A', 79), piece('B', 1), none, none}));
@@ -196,18 +197,18 @@ TEST(SeteDigitos, TheInstructionIsCutInFour) {
     const Lines full{piece('A', 79), piece('B', 79), piece('C', 79), piece('D', 79)};
     EXPECT_EQ(pieces7(316), full);
     EXPECT_EQ(pieces7(317), full);
-    EXPECT_EQ(sevenDigits(with(coluna::instrucao, text(400))).size(), 15U);
+    EXPECT_EQ(sevenDigits(with(coluna::instruction, text(400))).size(), 15U);
 }
 
-TEST(Boleto, ReceivablesTakeTheSameInstruction) {
-    LinhaGrade document = recebivel("9", "C1");
+TEST(Slip, ReceivablesTakeTheSameInstruction) {
+    GridRow document = receivable("9", "C1");
     document.coluna(18) = "NAO ESTA";
-    document.coluna(coluna::instrucao) = "ESTA";
+    document.coluna(coluna::instruction) = "ESTA";
     EXPECT_EQ(line57(document, 5), " ESTA\r\n");
     EXPECT_EQ(line7(document, 6), " ESTA\r\n");
 }
 
-TEST(Carteira57, Charges) {
+TEST(Wallet57, Charges) {
     const auto line = [](const std::string& fine, const std::string& interest) {
         return line57(charges(fine, interest), 9);
     };
@@ -228,7 +229,7 @@ TEST(Carteira57, Charges) {
     EXPECT_EQ(line("-2,00", "0,00"), " COBRAR MULTA DE -2,00% AO DIA\r\n");
 }
 
-TEST(SeteDigitos, ChargesHaveNoConditions) {
+TEST(SevenDigits, ChargesHaveNoConditions) {
     const auto lines = [](const std::string& fine, const std::string& interest) {
         const Lines all = sevenDigits(charges(fine, interest));
         return all.at(9) + all.at(10);
@@ -240,23 +241,23 @@ TEST(SeteDigitos, ChargesHaveNoConditions) {
 }
 
 // The grid never holds such an interest; should it, the lines before are out.
-TEST(Carteira57, InterestThatIsNoNumberStopsAtItsLine) {
+TEST(Wallet57, InterestThatIsNoNumberStopsAtItsLine) {
     RecordingSpooler spooler;
     RawChannel channel(spooler, CodePage::Page1252);
-    channel.abre();
+    channel.open();
     try {
-        imprimeLinhasCarteira57(channel, charges("2,00", "x"), numero57);
+        printWallet57Lines(channel, charges("2,00", "x"), number57);
         FAIL() << "no error";
-    } catch (const ErroExecucao& error) {
-        EXPECT_EQ(error.numero(), ErroNumero::TipoIncompativel);
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), RuntimeErrorCode::TypeMismatch);
     }
     EXPECT_EQ(spooler.jobs.at(0).writes.size(), 8U);
 }
 
-TEST(Carteira57, ALongNumberIsPrintedWhole) {
-    const NossoNumero number{
-        .digitos = "10000000000000", .digito = 4, .NR_BOL_BANC = "10000000000000"};
-    EXPECT_EQ(written(imprimeLinhasCarteira57, documento(), number).at(9),
+TEST(Wallet57, ALongNumberIsPrintedWhole) {
+    const SlipNumber number{
+        .digits = "10000000000000", .digit = 4, .NR_BOL_BANC = "10000000000000"};
+    EXPECT_EQ(written(printWallet57Lines, documento(), number).at(9),
               " NOSSO NUMERO: 10000000000000/4   CODIGO CLIENTE: C-77\r\n\r\n");
 }
 

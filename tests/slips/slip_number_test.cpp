@@ -12,29 +12,29 @@
 namespace tarn {
 namespace {
 
-const CarteiraCobranca carteira57{.ID_CRT_COB = "5",
-                                  .ID_PES_BAN = "1016",
-                                  .NR_CRT_CNAB = "57",
-                                  .CD_AGE_BAN_CNAB = "1123",
-                                  .NR_CCOR_CNAB = "456789"};
-const CarteiraCobranca outraCarteira{.ID_CRT_COB = "6",
-                                     .ID_PES_BAN = "1084",
-                                     .NR_CRT_CNAB = "101",
-                                     .CD_AGE_BAN_CNAB = "",
-                                     .NR_CCOR_CNAB = ""};
+const Portfolio isWallet57{.ID_CRT_COB = "5",
+                           .ID_PES_BAN = "1016",
+                           .NR_CRT_CNAB = "57",
+                           .CD_AGE_BAN_CNAB = "1123",
+                           .NR_CCOR_CNAB = "456789"};
+const Portfolio otherPortfolio{.ID_CRT_COB = "6",
+                               .ID_PES_BAN = "1084",
+                               .NR_CRT_CNAB = "101",
+                               .CD_AGE_BAN_CNAB = "",
+                               .NR_CCOR_CNAB = ""};
 
 // Number of the run-time error that `routine` raises; 0: none.
 int errorOf(const std::function<void()>& routine) {
     try {
         routine();
-    } catch (const ErroExecucao& error) {
-        return static_cast<int>(error.numero());
+    } catch (const RuntimeError& error) {
+        return static_cast<int>(error.number());
     }
     return 0;
 }
 
-std::vector<std::string> printed(const NossoNumero& number) {
-    return {number.digitos, std::to_string(number.digito), number.NR_BOL_BANC};
+std::vector<std::string> printed(const SlipNumber& number) {
+    return {number.digits, std::to_string(number.digit), number.NR_BOL_BANC};
 }
 
 using Printed = std::vector<std::string>;
@@ -108,88 +108,88 @@ TEST(DigitoModulo11, RefusesWhatIsNoDigitAndCountsSeven) {
     EXPECT_EQ(errorOf([] { DigitoModulo11("-000005"); }), 13);
 }
 
-TEST(NumeroCorrente, OfWallet57IsTheNumberItselfOnTheServer) {
-    NumeroCorrente number(carteira57, "1234");
-    EXPECT_EQ(printed(number.nossoNumero()), (Printed{"0000000001234", "7", "1234"}));
-    number.avanca();
-    EXPECT_EQ(printed(number.nossoNumero()), (Printed{"0000000001235", "6", "1235"}));
+TEST(RunningNumber, OfWallet57IsTheNumberItselfOnTheServer) {
+    RunningNumber number(isWallet57, "1234");
+    EXPECT_EQ(printed(number.slipNumber()), (Printed{"0000000001234", "7", "1234"}));
+    number.advance();
+    EXPECT_EQ(printed(number.slipNumber()), (Printed{"0000000001235", "6", "1235"}));
 }
 
-TEST(NumeroCorrente, OfWallet57KeepsAFraction) {
-    NumeroCorrente number(carteira57, "12,5");
-    EXPECT_EQ(number.nossoNumero().digitos, "0000000000013");
-    EXPECT_EQ(number.nossoNumero().NR_BOL_BANC, "12,5");
-    number.avanca();
-    EXPECT_EQ(number.nossoNumero().NR_BOL_BANC, "13,5");
+TEST(RunningNumber, OfWallet57KeepsAFraction) {
+    RunningNumber number(isWallet57, "12,5");
+    EXPECT_EQ(number.slipNumber().digits, "0000000000013");
+    EXPECT_EQ(number.slipNumber().NR_BOL_BANC, "12,5");
+    number.advance();
+    EXPECT_EQ(number.slipNumber().NR_BOL_BANC, "13,5");
 }
 
-TEST(NumeroCorrente, OfWallet57DropsLeadingZerosOnTheServer) {
-    EXPECT_EQ(NumeroCorrente(carteira57, "0007").nossoNumero().NR_BOL_BANC, "7");
-    EXPECT_EQ(NumeroCorrente(carteira57, "1.000").nossoNumero().NR_BOL_BANC, "1000");
+TEST(RunningNumber, OfWallet57DropsLeadingZerosOnTheServer) {
+    EXPECT_EQ(RunningNumber(isWallet57, "0007").slipNumber().NR_BOL_BANC, "7");
+    EXPECT_EQ(RunningNumber(isWallet57, "1.000").slipNumber().NR_BOL_BANC, "1000");
 }
 
-TEST(NumeroCorrente, OfWallet57GoesOnPastThirteenDigits) {
-    NumeroCorrente number(carteira57, "9999999999999");
-    EXPECT_EQ(number.nossoNumero().digitos, "9999999999999");
-    number.avanca();
+TEST(RunningNumber, OfWallet57GoesOnPastThirteenDigits) {
+    RunningNumber number(isWallet57, "9999999999999");
+    EXPECT_EQ(number.slipNumber().digits, "9999999999999");
+    number.advance();
     // 10000000000000 1123 45678, the account's 9 left out: 1 + 1+2+2+6 + 4+1+6+5+8 = 36.
-    EXPECT_EQ(printed(number.nossoNumero()), (Printed{"10000000000000", "4", "10000000000000"}));
+    EXPECT_EQ(printed(number.slipNumber()), (Printed{"10000000000000", "4", "10000000000000"}));
 }
 
-TEST(NumeroCorrente, OfSevenDigitsGoesWithItsDigit) {
-    NumeroCorrente number(outraCarteira, "1234567");
-    EXPECT_EQ(printed(number.nossoNumero()), (Printed{"1234567", "9", "12345679"}));
+TEST(RunningNumber, OfSevenDigitsGoesWithItsDigit) {
+    RunningNumber number(otherPortfolio, "1234567");
+    EXPECT_EQ(printed(number.slipNumber()), (Printed{"1234567", "9", "12345679"}));
 }
 
-TEST(NumeroCorrente, OfSevenDigitsIsFilledWithZeros) {
-    NumeroCorrente number(outraCarteira, "9");
-    EXPECT_EQ(printed(number.nossoNumero()), (Printed{"0000009", "4", "00000094"}));
-    number.avanca();
-    EXPECT_EQ(printed(number.nossoNumero()), (Printed{"0000010", "8", "00000108"}));
+TEST(RunningNumber, OfSevenDigitsIsFilledWithZeros) {
+    RunningNumber number(otherPortfolio, "9");
+    EXPECT_EQ(printed(number.slipNumber()), (Printed{"0000009", "4", "00000094"}));
+    number.advance();
+    EXPECT_EQ(printed(number.slipNumber()), (Printed{"0000010", "8", "00000108"}));
 }
 
-TEST(NumeroCorrente, OfSevenDigitsTakesTheMaskAtOnce) {
-    NumeroCorrente number(outraCarteira, "12,5");
-    EXPECT_EQ(number.nossoNumero().digitos, "0000013");
-    number.avanca();
-    EXPECT_EQ(number.nossoNumero().digitos, "0000014");
+TEST(RunningNumber, OfSevenDigitsTakesTheMaskAtOnce) {
+    RunningNumber number(otherPortfolio, "12,5");
+    EXPECT_EQ(number.slipNumber().digits, "0000013");
+    number.advance();
+    EXPECT_EQ(number.slipNumber().digits, "0000014");
 }
 
-TEST(NumeroCorrente, OfSevenDigitsHasNoNextOneAfterTheLast) {
-    NumeroCorrente number(outraCarteira, "9999999");
-    EXPECT_EQ(number.nossoNumero().digitos, "9999999");
-    EXPECT_EQ(errorOf([&number] { number.avanca(); }), 5);
+TEST(RunningNumber, OfSevenDigitsHasNoNextOneAfterTheLast) {
+    RunningNumber number(otherPortfolio, "9999999");
+    EXPECT_EQ(number.slipNumber().digits, "9999999");
+    EXPECT_EQ(errorOf([&number] { number.advance(); }), 5);
 }
 
-TEST(NumeroCorrente, OfSevenDigitsTooLongIsGivenOnceWithAllItsDigits) {
-    NumeroCorrente number(outraCarteira, "12345678");
-    EXPECT_EQ(printed(number.nossoNumero()), (Printed{"12345678", "9", "123456789"}));
-    EXPECT_EQ(errorOf([&number] { number.avanca(); }), 5);
+TEST(RunningNumber, OfSevenDigitsTooLongIsGivenOnceWithAllItsDigits) {
+    RunningNumber number(otherPortfolio, "12345678");
+    EXPECT_EQ(printed(number.slipNumber()), (Printed{"12345678", "9", "123456789"}));
+    EXPECT_EQ(errorOf([&number] { number.advance(); }), 5);
 }
 
-TEST(NumeroCorrente, IsANumber) {
+TEST(RunningNumber, IsANumber) {
     for (const char* typed : {"", ",", "1,,2", "1e3", "abc"}) {
-        EXPECT_EQ(errorOf([typed] { NumeroCorrente(carteira57, typed); }), 13) << typed;
-        EXPECT_EQ(errorOf([typed] { NumeroCorrente(outraCarteira, typed); }), 13) << typed;
+        EXPECT_EQ(errorOf([typed] { RunningNumber(isWallet57, typed); }), 13) << typed;
+        EXPECT_EQ(errorOf([typed] { RunningNumber(otherPortfolio, typed); }), 13) << typed;
     }
 }
 
 // "-" doesn't count in wallet 57; among seven digits it is none.
-TEST(NumeroCorrente, BelowZero) {
-    EXPECT_EQ(printed(NumeroCorrente(carteira57, "-1234").nossoNumero()),
+TEST(RunningNumber, BelowZero) {
+    EXPECT_EQ(printed(RunningNumber(isWallet57, "-1234").slipNumber()),
               (Printed{"-0000000001234", "7", "-1234"}));
-    EXPECT_EQ(errorOf([] { NumeroCorrente(outraCarteira, "-5").nossoNumero(); }), 13);
+    EXPECT_EQ(errorOf([] { RunningNumber(otherPortfolio, "-5").slipNumber(); }), 13);
 }
 
-TEST(Carteira57, IsComparedAsANumber) {
-    CarteiraCobranca carteira;
+TEST(Wallet57, IsComparedAsANumber) {
+    Portfolio portfolio;
     for (const char* wallet : {"57", "057", " 57 ", "57,0"}) {
-        carteira.NR_CRT_CNAB = wallet;
-        EXPECT_TRUE(carteira.carteira57()) << wallet;
+        portfolio.NR_CRT_CNAB = wallet;
+        EXPECT_TRUE(portfolio.isWallet57()) << wallet;
     }
     for (const char* wallet : {"", "58", "57a", "5 7", "57,1"}) {
-        carteira.NR_CRT_CNAB = wallet;
-        EXPECT_FALSE(carteira.carteira57()) << wallet;
+        portfolio.NR_CRT_CNAB = wallet;
+        EXPECT_FALSE(portfolio.isWallet57()) << wallet;
     }
 }
 

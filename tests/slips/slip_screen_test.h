@@ -14,46 +14,47 @@
 
 namespace tarn {
 
-class TelaDeBoletos : public ScreenTest {
+class SlipRunView : public ScreenTest {
 protected:
     // Queries at establishment 9 of company 2161.
-    static constexpr char pedeFiliais[] =
+    static constexpr char branchesQuery[] =
         "comando=sel_filiais&ID_EMP_TARN=2161&UserCode=77&ServerName=SRV1";
-    static constexpr char pedeCarteiras[] = "comando=sel_carteira&ID_EMP_TARN=2161&ServerName=SRV1";
-    static constexpr char pedeCarteira57[] =
+    static constexpr char portfoliosQuery[] =
+        "comando=sel_carteira&ID_EMP_TARN=2161&ServerName=SRV1";
+    static constexpr char wallet57Query[] =
         "comando=sel_carteira_cob&ID_EMP_TARN=2161&ID_CRT_COB=5&ServerName=SRV1";
     // What the desk sends when a modal screen has closed.
-    static constexpr char pedeDaMesa[] = "comando=sel_dados_empresa&Id_Etb_Tarn=9&ServerName=SRV1";
+    static constexpr char deskQuery[] = "comando=sel_dados_empresa&Id_Etb_Tarn=9&ServerName=SRV1";
     // Positions of the lists.
-    static constexpr int sul = 2;       // cboFilial; its number is 12
-    static constexpr int cobra57 = 1;   // cboCartCob; its number is 5
-    static constexpr int cobra101 = 2;  // its number is 6
+    static constexpr int south = 2;          // cboFilial; its number is 12
+    static constexpr int wallet57Item = 1;   // cboCartCob; its number is 5
+    static constexpr int wallet101Item = 2;  // its number is 6
 
-    static Box informa(const std::string& texto) { return {texto, BoxIcon::Information, "TArn"}; }
-    static Box critica(const std::string& texto) {
+    static Box inform(const std::string& texto) { return {texto, BoxIcon::Information, "TArn"}; }
+    static Box transportFailure(const std::string& texto) {
         return {texto, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
     }
-    static Box falhaLarga() {
-        return critica(
+    static Box wideFailure() {
+        return transportFailure(
             "ERRO    Tarn0009 - Não foi possível obter os dados da Internet. Verifique a conexão "
             "com a Internet.");
     }
-    static Box falha() {
-        return critica(
+    static Box failure() {
+        return transportFailure(
             "ERRO Tarn0009 - Não foi possível obter os dados da Internet. Verifique a conexão com "
             "a Internet.");
     }
-    static Box nenhumMarcado() { return informa("Selecione um item na Lista!     "); }
+    static Box nothingTicked() { return inform("Selecione um item na Lista!     "); }
 
     // A bill of bank 1016, another one's where told.
-    static std::string linha(const std::string& numero, const std::string& banco = "1016") {
+    static std::string linha(const std::string& number, const std::string& bank = "1016") {
         return "<z:row SG_FIL='SP' DT_VNC_DOC_FMA='10/04/2012' DC_TIP_DOC='DUPLICATA' NR_DOC='" +
-               numero +
+               number +
                "' NM_CLI_ETB='JOSÉ &amp; &lt;b>FILHOS' DT_EMS_DOC='05/03/2012' DC_LG_CPL='RUA DO "
                "COMÉRCIO, 100' VL_PRN_DOC='1234.50' PES_JUR='1' NR_CGC_CPL='12345678000195' "
                "TIPO_DOCTO='DOCTO_COBRANCA' PC_MULTA='2' JUROS_AO_DIA='0.42' ID_ETB_TARN='3381' "
                "ID_TIP_DOC='201' ID_PES_BAN='" +
-               banco + "'/>";
+               bank + "'/>";
     }
 
     void SetUp() override {
@@ -75,39 +76,39 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(&menu));
     }
 
-    // Opens the screen by its menu entry; it is closed again behind `usa`.
-    void comATela(const std::function<void(QWidget&)>& usa) {
-        modals.then("frmPesqBoleto", [usa](QWidget& tela) {
-            usa(tela);
-            if (tela.isVisible()) {
-                click(tela, "cmdVoltar");
+    // Opens the screen by its menu entry; it is closed again behind `use`.
+    void withScreen(const std::function<void(QWidget&)>& use) {
+        modals.then("frmPesqBoleto", [use](QWidget& screen) {
+            use(screen);
+            if (screen.isVisible()) {
+                click(screen, "cmdVoltar");
             }
         });
         choose(menu, "mnuBoleto");
     }
-    static QTableView& grade(const QWidget& tela) { return named<QTableView>(tela, "sprDados"); }
-    static QComboBox& lista(const QWidget& tela, const char* nome) {
-        return named<QComboBox>(tela, nome);
+    static QTableView& grid(const QWidget& screen) { return named<QTableView>(screen, "sprDados"); }
+    static QComboBox& list(const QWidget& screen, const char* nome) {
+        return named<QComboBox>(screen, nome);
     }
-    static std::string mostrado(const QWidget& tela, const char* campo) {
-        return named<QLineEdit>(tela, campo).text().toStdString();
+    static std::string shown(const QWidget& screen, const char* field) {
+        return named<QLineEdit>(screen, field).text().toStdString();
     }
     // A check box is clicked where its square is.
-    static void clicaCaixa(const QWidget& tela) {
-        auto& caixa = named<QCheckBox>(tela, "chkInc_Carteira");
-        QTest::mouseClick(&caixa, Qt::LeftButton, {}, QPoint(8, caixa.height() / 2));
+    static void clickCheckBox(const QWidget& screen) {
+        auto& box = named<QCheckBox>(screen, "chkInc_Carteira");
+        QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
     }
     // The two dates and the portfolio that a search needs.
-    static void preenche(const QWidget& tela, int carteira = cobra57) {
-        type(tela, "txtDtEmsDe", "01022012");
-        type(tela, "txtDtVncAte", "31032012");
-        pick(tela, "cboCartCob", carteira);
+    static void fillIn(const QWidget& screen, int portfolio = wallet57Item) {
+        type(screen, "txtDtEmsDe", "01022012");
+        type(screen, "txtDtVncAte", "31032012");
+        pick(screen, "cboCartCob", portfolio);
     }
     // Finds these rows.
-    void encontra(const QWidget& tela, const std::string& linhas, int carteira = cobra57) {
+    void find(const QWidget& screen, const std::string& linhas, int portfolio = wallet57Item) {
         server.on("sel_boleto", answers::rowset(linhas));
-        preenche(tela, carteira);
-        ::tarn::click(tela, "cmdPesquisar");
+        fillIn(screen, portfolio);
+        ::tarn::click(screen, "cmdPesquisar");
         server.addresses.clear();
     }
 

@@ -20,7 +20,7 @@ using Cells = std::vector<std::string>;
 Cells row(const std::string& attributes) {
     XmlDocument answer;
     EXPECT_TRUE(answer.loadXML(answers::rowset("<z:row " + attributes + "/>")));
-    const std::vector<LinhaGrade> documents = linhasDeBoletos(answer);
+    const std::vector<GridRow> documents = slipRows(answer);
     EXPECT_EQ(documents.size(), 1U);
     Cells cells;
     for (std::size_t column = 2; column <= 29; ++column) {
@@ -41,7 +41,7 @@ constexpr char whole[] =
     "JUROS_AO_DIA='.415' VL_OUT_DSP='7.50' ID_ETB_TARN='3381' ID_TIP_DOC='201' "
     "CD_AGE_BAN='1123' ID_PES_BAN='1016' CD_EXT='X9' NR_DOC_NF='4567'";
 
-TEST(LinhaGrade, HasAColumnForEachAttribute) {
+TEST(GridRow, HasAColumnForEachAttribute) {
     EXPECT_EQ(row(whole), (Cells{"SP",
                                  "10/04/2012",
                                  "DUPLICATA",
@@ -72,7 +72,7 @@ TEST(LinhaGrade, HasAColumnForEachAttribute) {
                                  "4567"}));
 }
 
-TEST(LinhaGrade, AReceivableHasItsControlNumberInsteadOfTheReference) {
+TEST(GridRow, AReceivableHasItsControlNumberInsteadOfTheReference) {
     const std::string own = "TIPO_DOCTO='DOCTO_RECEBER' ID_NR_CTL='C1' DC_REF_REC='R'";
     EXPECT_EQ(cell(own, 16), "DOCTO_RECEBER");
     EXPECT_EQ(cell(own, 17), "C1");
@@ -85,7 +85,7 @@ TEST(LinhaGrade, AReceivableHasItsControlNumberInsteadOfTheReference) {
     }
 }
 
-TEST(LinhaGrade, TaxNumbers) {
+TEST(GridRow, TaxNumbers) {
     EXPECT_EQ(cell("PES_JUR='0' NR_CGC_CPL='191'", 13), "000.000.001-91");
     EXPECT_EQ(cell("PES_JUR='0' NR_CGC_CPL='191'", 15), "F");
     EXPECT_EQ(cell("PES_JUR='0' NR_CGC_CPL='9912345678901'", 13), "123.456.789-01");
@@ -98,7 +98,7 @@ TEST(LinhaGrade, TaxNumbers) {
     EXPECT_EQ(cell("", 15), "J");
 }
 
-TEST(LinhaGrade, AbsentIsEmptyAndEmptyAmountsAreZero) {
+TEST(GridRow, AbsentIsEmptyAndEmptyAmountsAreZero) {
     Cells nothing(28);
     nothing[15 - 2] = "J";
     EXPECT_EQ(row(""), nothing);
@@ -110,7 +110,7 @@ TEST(LinhaGrade, AbsentIsEmptyAndEmptyAmountsAreZero) {
     EXPECT_EQ(cell(empty, 22), "");
 }
 
-TEST(LinhaGrade, ReadsAmountsWithAPointAndNamesAsSpelled) {
+TEST(GridRow, ReadsAmountsWithAPointAndNamesAsSpelled) {
     EXPECT_EQ(cell("VL_PRN_DOC='1,5'", 9), "1,00");
     EXPECT_EQ(cell("VL_PRN_DOC='1.005'", 9), "1,01");
     EXPECT_EQ(cell("VL_PRN_DOC='S/N'", 9), "0,00");
@@ -118,58 +118,58 @@ TEST(LinhaGrade, ReadsAmountsWithAPointAndNamesAsSpelled) {
     EXPECT_EQ(cell("vl_prn_doc='1.5'", 9), "");
 }
 
-TEST(LinhasDeBoletos, RowsAreElementsOfAnyName) {
+TEST(SlipRows, RowsAreElementsOfAnyName) {
     XmlDocument answer;
     ASSERT_TRUE(answer.loadXML(
         answers::rowset("<z:row NR_DOC='1'/> <!-- x --> <outra NR_DOC='2'/><z:row NR_DOC='3'/>")));
     std::vector<std::string> numbers;
-    for (const LinhaGrade& document : linhasDeBoletos(answer)) {
-        numbers.push_back(document.coluna(coluna_boleto::numero));
+    for (const GridRow& document : slipRows(answer)) {
+        numbers.push_back(document.coluna(slip_column::number));
     }
     EXPECT_THAT(numbers, testing::ElementsAre("1", "2", "3"));
 }
 
-TEST(LinhasDeBoletos, NoRows) {
+TEST(SlipRows, NoRows) {
     for (const std::string& body :
          {answers::rowset(""), std::string("<xml/>"),
           std::string("<outro xmlns:rs='r'><rs:data><x/></rs:data></outro>")}) {
         XmlDocument answer;
         ASSERT_TRUE(answer.loadXML(body));
-        EXPECT_TRUE(linhasDeBoletos(answer).empty()) << body;
+        EXPECT_TRUE(slipRows(answer).empty()) << body;
     }
 }
 
-class PesquisaBoletoTest : public testing::Test {
+class SlipSearchTest : public testing::Test {
 protected:
-    PesquisaBoletoTest() {
-        sessao.NCOMPANYCODE = 2161;
-        sessao.ID_ETB_TARN = 9;
-        sessao.UserCode = "77";
-        sessao.SERVERNAME = "SRV1";
+    SlipSearchTest() {
+        session.NCOMPANYCODE = 2161;
+        session.ID_ETB_TARN = 9;
+        session.UserCode = "77";
+        session.SERVERNAME = "SRV1";
     }
 
     TestEnvironment seams;
-    Sessao sessao;
+    Sessao session;
 };
 
 Box critical(const std::string& text) {
     return {text, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
 }
 
-TEST_F(PesquisaBoletoTest, SendsTheWholeFilter) {
+TEST_F(SlipSearchTest, SendsTheWholeFilter) {
     seams.loader.on("sel_boleto", answers::rowset("<z:row NR_DOC='1'/><z:row NR_DOC='2'/>"));
-    const FiltroDeBoletos filter{.documentos = {.cliente = "991",
-                                                .filial = 4,
-                                                .vencimentoDe = "01/03/2012",
-                                                .vencimentoAte = "31/03/2012",
-                                                .emissaoDe = "01/02/2012",
-                                                .emissaoAte = "28/02/2012"},
-                                 .carteira = 57,
-                                 .incluiCarteira = true};
-    const auto rows = pesquisaBoletos(seams.environment, sessao, filter);
+    const SlipFilter filter{.documents = {.customer = "991",
+                                          .branch = 4,
+                                          .dueFrom = "01/03/2012",
+                                          .dueTo = "31/03/2012",
+                                          .issuedFrom = "01/02/2012",
+                                          .issuedTo = "28/02/2012"},
+                            .portfolio = 57,
+                            .includesPortfolio = true};
+    const auto rows = searchSlips(seams.environment, session, filter);
     ASSERT_TRUE(rows);
     EXPECT_EQ(rows->size(), 2U);
-    EXPECT_FALSE(rows->at(0).marcada);
+    EXPECT_FALSE(rows->at(0).ticked);
     EXPECT_THAT(seams.loader.queries(),
                 ElementsAre("comando=sel_boleto&ID_EMP_TARN=2161&ID_PES_CLI=991&ID_ETB_TARN=4"
                             "&ID_CRT_COB=57&DT_VNC_DE=01/03/2012&DT_VNC_ATE=31/03/2012"
@@ -178,9 +178,9 @@ TEST_F(PesquisaBoletoTest, SendsTheWholeFilter) {
     EXPECT_THAT(seams.boxes.shown, IsEmpty());
 }
 
-TEST_F(PesquisaBoletoTest, EmptyValuesStayEmpty) {
+TEST_F(SlipSearchTest, EmptyValuesStayEmpty) {
     seams.loader.on("sel_boleto", answers::rowset(""));
-    const auto rows = pesquisaBoletos(seams.environment, sessao, {});
+    const auto rows = searchSlips(seams.environment, session, {});
     ASSERT_TRUE(rows);
     EXPECT_TRUE(rows->empty());
     EXPECT_THAT(seams.loader.queries(),
@@ -189,55 +189,55 @@ TEST_F(PesquisaBoletoTest, EmptyValuesStayEmpty) {
                             "&ID_PES_USU=77&IC_INC_CAR=N&ServerName=SRV1"));
 }
 
-TEST_F(PesquisaBoletoTest, AFailedSearchIsToldWithOneBlank) {
+TEST_F(SlipSearchTest, AFailedSearchIsToldWithOneBlank) {
     seams.loader.failOn("sel_boleto");
-    EXPECT_FALSE(pesquisaBoletos(seams.environment, sessao, {}));
+    EXPECT_FALSE(searchSlips(seams.environment, session, {}));
     EXPECT_THAT(seams.boxes.shown,
                 ElementsAre(critical("ERRO Tarn0009 - Não foi possível obter os dados da "
                                      "Internet. Verifique a conexão com a Internet.")));
 }
 
-TEST_F(PesquisaBoletoTest, Portfolios) {
+TEST_F(SlipSearchTest, Portfolios) {
     seams.loader.on("sel_carteira",
                     answers::rowset("<z:row DC_CRT_COB='Carteira 57' ID_CRT_COB='5'/>"
                                     "<z:row ID_CRT_COB='x'/><z:row DC_CRT_COB=' B '/>"));
-    EXPECT_THAT(carteirasParaFiltro(seams.environment, sessao),
-                ElementsAre(ItemLista{"--------", 0}, ItemLista{"Carteira 57", 5}, ItemLista{"", 0},
-                            ItemLista{" B ", 0}));
+    EXPECT_THAT(portfoliosForFilter(seams.environment, session),
+                ElementsAre(ListItem{"--------", 0}, ListItem{"Carteira 57", 5}, ListItem{"", 0},
+                            ListItem{" B ", 0}));
     EXPECT_THAT(seams.loader.queries(),
                 ElementsAre("comando=sel_carteira&ID_EMP_TARN=2161&ServerName=SRV1"));
 }
 
-TEST_F(PesquisaBoletoTest, FailedPortfoliosLeaveTheFirstItemAndAreToldWithFourBlanks) {
+TEST_F(SlipSearchTest, FailedPortfoliosLeaveTheFirstItemAndAreToldWithFourBlanks) {
     seams.loader.failOn("sel_carteira");
-    EXPECT_THAT(carteirasParaFiltro(seams.environment, sessao),
-                ElementsAre(ItemLista{"--------", 0}));
+    EXPECT_THAT(portfoliosForFilter(seams.environment, session),
+                ElementsAre(ListItem{"--------", 0}));
     EXPECT_THAT(seams.boxes.shown,
                 ElementsAre(critical("ERRO    Tarn0009 - Não foi possível obter os dados da "
                                      "Internet. Verifique a conexão com a Internet.")));
 }
 
-std::string textOf(const std::optional<RecusaDeBoletos>& refusal) {
+std::string textOf(const std::optional<SlipRefusal>& refusal) {
     return refusal ? std::string(refusal->texto) : std::string();
 }
 
-TEST(RecusaDaPesquisa, AsksForThreeThingsInOrder) {
-    EXPECT_EQ(textOf(recusaDaPesquisa({}, 0)), "Data Emissão De é Obrigatório.     ");
-    EXPECT_EQ(textOf(recusaDaPesquisa({.emissaoDe = "x"}, 0)),
+TEST(SearchRefusal, AsksForThreeThingsInOrder) {
+    EXPECT_EQ(textOf(searchRefusal({}, 0)), "Data Emissão De é Obrigatório.     ");
+    EXPECT_EQ(textOf(searchRefusal({.issuedFrom = "x"}, 0)),
               "Data de Vencimento Obrigatória.     ");
-    EXPECT_EQ(textOf(recusaDaPesquisa({.vencimentoAte = "x", .emissaoDe = "x"}, 0)),
+    EXPECT_EQ(textOf(searchRefusal({.dueTo = "x", .issuedFrom = "x"}, 0)),
               "Carteira Cobrança é um campo obrigatório.     ");
-    EXPECT_EQ(textOf(recusaDaPesquisa({.vencimentoAte = "x", .emissaoDe = "x"}, -1)),
+    EXPECT_EQ(textOf(searchRefusal({.dueTo = "x", .issuedFrom = "x"}, -1)),
               "Carteira Cobrança é um campo obrigatório.     ")
         << "a list without items";
-    EXPECT_EQ(textOf(recusaDaPesquisa({.vencimentoAte = "x", .emissaoDe = "x"}, 1)), "");
+    EXPECT_EQ(textOf(searchRefusal({.dueTo = "x", .issuedFrom = "x"}, 1)), "");
 }
 
-TEST(RecusaDaImpressao, AsksForTwo) {
-    EXPECT_EQ(textOf(recusaDaImpressao(0, "")), "Carteira Cobrança é um campo obrigatório!     ");
-    EXPECT_EQ(textOf(recusaDaImpressao(-1, "1")), "Carteira Cobrança é um campo obrigatório!     ");
-    EXPECT_EQ(textOf(recusaDaImpressao(1, "")), "Nr. Boleto Bancário é um campo obrigatório!     ");
-    EXPECT_EQ(textOf(recusaDaImpressao(1, "0")), "");
+TEST(PrintRefusal, AsksForTwo) {
+    EXPECT_EQ(textOf(printRefusal(0, "")), "Carteira Cobrança é um campo obrigatório!     ");
+    EXPECT_EQ(textOf(printRefusal(-1, "1")), "Carteira Cobrança é um campo obrigatório!     ");
+    EXPECT_EQ(textOf(printRefusal(1, "")), "Nr. Boleto Bancário é um campo obrigatório!     ");
+    EXPECT_EQ(textOf(printRefusal(1, "0")), "");
 }
 
 }  // namespace

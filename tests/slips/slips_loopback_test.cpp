@@ -11,10 +11,10 @@ namespace {
 
 using testing::ElementsAre;
 
-class BoletosPelaRede : public TelaDeBoletos {
+class SlipsOverTheNetwork : public SlipRunView {
 protected:
     void SetUp() override {
-        TelaDeBoletos::SetUp();
+        SlipRunView::SetUp();
         menu.hide();
         const auto answer = [this](const char* part, const std::string& body) {
             http.on(part, LoopbackReply::xml(body));
@@ -26,17 +26,17 @@ protected:
                                "CD_AGE_BAN_CNAB='1123' NR_CCOR_CNAB='456789'/>"));
         answer("sel_boleto", answers::rowset(linha("Nº 1|A") + linha("2")));
         answer("sel_dados_empresa", answers::branch("F"));
-        mesa.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&mesa));
+        desk.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&desk));
     }
-    void comATelaDaRede(const std::function<void(QWidget&)>& usa) {
-        modals.then("frmPesqBoleto", [usa](QWidget& tela) {
-            usa(tela);
-            if (tela.isVisible()) {
-                click(tela, "cmdVoltar");
+    void withNetworkScreen(const std::function<void(QWidget&)>& use) {
+        modals.then("frmPesqBoleto", [use](QWidget& screen) {
+            use(screen);
+            if (screen.isVisible()) {
+                click(screen, "cmdVoltar");
             }
         });
-        choose(mesa, "mnuBoleto");
+        choose(desk, "mnuBoleto");
     }
     std::vector<std::string> slips() {
         std::vector<std::string> all;
@@ -50,34 +50,34 @@ protected:
 
     LoopbackServer http;
     CurlLoader curl;
-    BlockingLoader rede{curl};
-    Environment pelaRede{rede, spooler, printer, boxes, clock, machine, http.baseUrl()};
-    DeskContext deskDaRede{pelaRede, sessao, fim};
-    MDIMenu mesa{deskDaRede};
+    BlockingLoader network{curl};
+    Environment overNetwork{network, spooler, printer, boxes, clock, machine, http.baseUrl()};
+    DeskContext networkDesk{overNetwork, session, end};
+    MDIMenu desk{networkDesk};
 };
 
 // The writes meet an HTTP error, a connection that hangs up and a body that is no XML.
-TEST_F(BoletosPelaRede, AWholeRunWithWritesThatFail) {
+TEST_F(SlipsOverTheNetwork, AWholeRunWithWritesThatFail) {
     http.on("altera_docto_cob", LoopbackReply::error(500, "ERRO"))
         .on("altera_docto_cob", LoopbackReply::hangUp())
         .on("insere_car_cob", LoopbackReply::xml("nada de XML"))
         .on("insere_car_cob", LoopbackReply::xml(answers::status("OK")));
-    comATelaDaRede([&](QWidget& tela) {
-        preenche(tela);
-        click(tela, "cmdPesquisar");
-        grid::clickHeading(grade(tela), 1);
-        type(tela, "txtNr_Bol_Banc", "1234");
-        click(tela, "cmdImprimir");
-        EXPECT_EQ(mostrado(tela, "txtNr_Bol_Banc"), "");
+    withNetworkScreen([&](QWidget& screen) {
+        fillIn(screen);
+        click(screen, "cmdPesquisar");
+        grid::clickHeading(grid(screen), 1);
+        type(screen, "txtNr_Bol_Banc", "1234");
+        click(screen, "cmdImprimir");
+        EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "");
     });
     EXPECT_THAT(
         http.queries(),
         ElementsAre(
-            pedeFiliais, pedeCarteiras,
+            branchesQuery, portfoliosQuery,
             "comando=sel_boleto&ID_EMP_TARN=2161&ID_PES_CLI=&ID_ETB_TARN=&ID_CRT_COB=5&DT_VNC_DE="
             "&DT_VNC_ATE=31/03/2012&DT_EMS_DE=01/02/2012&DT_EMS_ATE=&ID_PES_USU=77&IC_INC_CAR=N"
             "&ServerName=SRV1",
-            pedeCarteira57,
+            wallet57Query,
             "comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=N%BA%201%7CA"
             "&NR_BOL_BANC=1234&ServerName=SRV1",
             "comando=insere_car_cob&ID_EMP_TARN=2161&ID_ETB=3381&ID_TIP_DOC=201"
@@ -86,17 +86,17 @@ TEST_F(BoletosPelaRede, AWholeRunWithWritesThatFail) {
             "&ServerName=SRV1",
             "comando=insere_car_cob&ID_EMP_TARN=2161&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=2"
             "&ID_CRT_COB=5&NR_BOL_BANC=1235&ID_PES_USU=77&ServerName=SRV1",
-            pedeDaMesa));
+            deskQuery));
     EXPECT_EQ(slips().size(), 2U);
     EXPECT_THAT(boxes.shown, testing::IsEmpty());
 }
 
-TEST_F(BoletosPelaRede, AServerThatGoesAwayAfterThePortfolioIsNotNoticed) {
-    comATelaDaRede([&](QWidget& tela) {
-        preenche(tela);
-        click(tela, "cmdPesquisar");
-        grid::clickHeading(grade(tela), 1);
-        type(tela, "txtNr_Bol_Banc", "1234");
+TEST_F(SlipsOverTheNetwork, AServerThatGoesAwayAfterThePortfolioIsNotNoticed) {
+    withNetworkScreen([&](QWidget& screen) {
+        fillIn(screen);
+        click(screen, "cmdPesquisar");
+        grid::clickHeading(grid(screen), 1);
+        type(screen, "txtNr_Bol_Banc", "1234");
         bool firstOpening = true;
         http.setHandler([&](const std::string& line) {
             if (line.find("sel_carteira_cob") != std::string::npos && firstOpening) {
@@ -109,19 +109,19 @@ TEST_F(BoletosPelaRede, AServerThatGoesAwayAfterThePortfolioIsNotNoticed) {
                        ? LoopbackReply::hangUp()
                        : LoopbackReply::xml(answers::branch("F"));
         });
-        click(tela, "cmdImprimir");
+        click(screen, "cmdImprimir");
     });
     EXPECT_EQ(slips().size(), 2U);
     EXPECT_THAT(boxes.shown, testing::IsEmpty());
 }
 
 // While a write is under way the slip's job holds its set-up alone.
-TEST_F(BoletosPelaRede, TheSlipWaitsForTheServer) {
-    comATelaDaRede([&](QWidget& tela) {
-        preenche(tela);
-        click(tela, "cmdPesquisar");
-        grid::click(grade(tela), 1, 1);
-        type(tela, "txtNr_Bol_Banc", "1234");
+TEST_F(SlipsOverTheNetwork, TheSlipWaitsForTheServer) {
+    withNetworkScreen([&](QWidget& screen) {
+        fillIn(screen);
+        click(screen, "cmdPesquisar");
+        grid::click(grid(screen), 1, 1);
+        type(screen, "txtNr_Bol_Banc", "1234");
         LoopbackReply late = LoopbackReply::xml(answers::status("OK"));
         late.waits = true;
         http.on("altera_docto_cob", late);
@@ -131,7 +131,7 @@ TEST_F(BoletosPelaRede, TheSlipWaitsForTheServer) {
             written = spooler.writes;
             http.release();
         });
-        click(tela, "cmdImprimir");
+        click(screen, "cmdImprimir");
         frees.join();
         EXPECT_EQ(written, 3U);
     });

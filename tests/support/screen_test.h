@@ -22,21 +22,21 @@ namespace tarn {
 class ScreenTest : public testing::Test {
 protected:
     void SetUp() override {
-        static_cast<DeskApplication*>(qApp)->setRelato(
-            [this](const std::exception_ptr& erro) { relataErro(desk, erro); });
-        QObject::connect(&fim, &FimDoPrograma::encerrou, &fim, [this] { blocking.close(); });
+        static_cast<DeskApplication*>(qApp)->setErrorReport(
+            [this](const std::exception_ptr& error) { reportError(desk, error); });
+        QObject::connect(&end, &ProgramEnd::didEnd, &end, [this] { blocking.close(); });
     }
     void TearDown() override {
-        static_cast<DeskApplication*>(qApp)->setRelato(nullptr);
+        static_cast<DeskApplication*>(qApp)->setErrorReport(nullptr);
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "a cursor was left behind";
     }
 
     void entered(std::int32_t company, std::int32_t establishment) {
-        sessao.NCOMPANYCODE = company;
-        sessao.ID_ETB_TARN = establishment;
-        sessao.UserCode = "77";
-        sessao.SERVERNAME = "SRV1";
-        sessao.DATA = "15/03/2012";
+        session.NCOMPANYCODE = company;
+        session.ID_ETB_TARN = establishment;
+        session.UserCode = "77";
+        session.SERVERNAME = "SRV1";
+        session.DATA = "15/03/2012";
     }
 
     ScriptedLoader server;
@@ -46,11 +46,11 @@ protected:
     ScriptedBoxes boxes;
     FixedClock clock;
     FixedMachine machine;
-    Environment ambiente{
+    Environment environment{
         blocking, spooler, printer, boxes, clock, machine, "http://servidor/pagina.asp?"};
-    Sessao sessao;
-    FimDoPrograma fim;
-    DeskContext desk{ambiente, sessao, fim};
+    Sessao session;
+    ProgramEnd end;
+    DeskContext desk{environment, session, end};
     ModalSteps modals;
 };
 

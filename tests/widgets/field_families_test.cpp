@@ -16,7 +16,7 @@ namespace {
 // A form with one field of each family and a button.
 class Form : public QWidget {
 public:
-    Form(Environment& ambiente)
+    Form(Environment& environment)
         : first("first"),
           second("second"),
           plain("plain"),
@@ -33,14 +33,14 @@ public:
         button.setObjectName(QStringLiteral("button"));
         quantity.setText(QStringLiteral("0,000"));
         weight.setText(QStringLiteral("0,000"));
-        new DateField(&first, KeyFilter::NumeroVirgula, ambiente);
-        new DateField(&second, KeyFilter::NumeroVirgula, ambiente);
-        new FieldController(&plain, KeyFilter::NumeroVirgula, ambiente);
-        new QuantityField(&quantity, messagesQtde, ambiente);
-        new QuantityField(&weight, messagesPesoBruto, ambiente);
-        new MoneyField(&money, ambiente);
-        new DateField(&deposit, KeyFilter::NumeroInteiro, ambiente, DateField::Test::Calendar);
-        new FieldController(&number, KeyFilter::NumeroInteiro, ambiente,
+        new DateField(&first, KeyFilter::Decimal, environment);
+        new DateField(&second, KeyFilter::Decimal, environment);
+        new FieldController(&plain, KeyFilter::Decimal, environment);
+        new QuantityField(&quantity, messagesQtde, environment);
+        new QuantityField(&weight, grossWeightMessages, environment);
+        new MoneyField(&money, environment);
+        new DateField(&deposit, KeyFilter::Integer, environment, DateField::Test::Calendar);
+        new FieldController(&number, KeyFilter::Integer, environment,
                             FieldController::EnterKey::BeepOnly);
         show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(this));
@@ -71,7 +71,7 @@ protected:
     }
     bool hasFocus(const QWidget& widget) { return form.focusWidget() == &widget; }
 
-    Form form{ambiente};
+    Form form{environment};
 };
 
 TEST_F(FieldFamilies, DateIsCompletedFromToday) {
@@ -304,8 +304,8 @@ TEST_F(FieldFamilies, ALoneCommaInMoneyEndsTheProgram) {
     EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
     EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '13':\r\r", 0), 0U)
         << boxes.shown[0].text;
-    EXPECT_TRUE(fim.encerrado());
-    EXPECT_EQ(fim.status(), 3);
+    EXPECT_TRUE(end.ended());
+    EXPECT_EQ(end.status(), 3);
 }
 
 TEST_F(FieldFamilies, TheTestedDateRefusesWhatIsNoDay) {
@@ -340,7 +340,7 @@ TEST_F(FieldFamilies, AnotherWindowInFrontIsNoLeaving) {
 
 TEST_F(FieldFamilies, AnUnfilteredFieldTakesAnyCharacterAndTabsInSilence) {
     QLineEdit free(&form);
-    new FieldController(&free, KeyFilter::None, ambiente, FieldController::EnterKey::TabOnly);
+    new FieldController(&free, KeyFilter::None, environment, FieldController::EnterKey::TabOnly);
     free.show();
     free.setFocus();
     tarn::keys(free, "a-1,ç .");

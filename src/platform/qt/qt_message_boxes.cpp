@@ -54,7 +54,7 @@ public:
 
 }  // namespace
 
-QString linhasNaTela(const std::string& text) {
+QString linesOnScreen(const std::string& text) {
     QString shown = QString::fromStdString(text);
     shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     shown.replace(u'\r', u'\n');
@@ -68,7 +68,7 @@ BoxAnswer QtMessageBoxes::show(const Box& box) {
     window.setWindowModality(Qt::ApplicationModal);
     window.setTextFormat(Qt::PlainText);
     window.setWindowTitle(QString::fromStdString(box.title));
-    window.setText(linhasNaTela(box.text));
+    window.setText(linesOnScreen(box.text));
     window.setIcon(iconOf(box.icon));
     addButtons(window, box.buttons);
     const int answer = window.exec();

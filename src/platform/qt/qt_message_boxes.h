@@ -8,7 +8,7 @@
 namespace tarn {
 
 // The text with each CR, LF and CR LF as one line break, as widgets want it.
-QString linhasNaTela(const std::string& text);
+QString linesOnScreen(const std::string& text);
 
 class QtMessageBoxes : public MessageBoxes {
 public:
