@@ -7,7 +7,7 @@ int main(int argc, char** argv) {
     const auto readItems = tarn::readOptions(
         argc, argv, qEnvironmentVariable("TARN_SERVIDOR").toStdString(), TARN_BASE_URL);
     if (const auto* stop = std::get_if<tarn::NoStart>(&readItems)) {
-        std::fputs(stop->texto.c_str(), stop->status == 0 ? stdout : stderr);
+        std::fputs(stop->text.c_str(), stop->status == 0 ? stdout : stderr);
         return stop->status;
     }
     const auto& options = std::get<tarn::Options>(readItems);
@@ -20,7 +20,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     tarn::DeskApplication program(argc, argv);
-    tarn::Mesa desk(program, options, std::move(printers));
+    tarn::Desk desk(program, options, std::move(printers));
     desk.open();
     return program.exec();
 }

@@ -10,7 +10,7 @@ namespace tarn::printer {
 
 namespace {
 
-constexpr std::size_t kNoticesShown = 50;
+constexpr std::size_t noticesShown = 50;
 
 bool readJob(const std::string& file, QByteArray& bytes) {
     QFile in(QFile::decodeName(file.c_str()));
@@ -65,7 +65,7 @@ bool printFiles(const Options& options, dotmatrix::PaperRoll& roll) {
 
 std::size_t showNotices(const dotmatrix::NoticeLog& notices, std::size_t from) {
     std::size_t shown = 0;
-    for (std::size_t i = from; i < notices.kept().size() && shown < kNoticesShown; ++i) {
+    for (std::size_t i = from; i < notices.kept().size() && shown < noticesShown; ++i) {
         std::fputs(("aviso: " + describe(notices.kept()[i]) + "\n").c_str(), stderr);
         ++shown;
     }

@@ -9,12 +9,12 @@ namespace tarn::printer {
 
 namespace {
 
-using dotmatrix::kUnitsPerInch;
 using dotmatrix::PaperUnits;
+using dotmatrix::unitsPerInch;
 
-constexpr double kLowestForm = 0.5;  // inches, as printers take by ESC C
-constexpr double kHighestForm = 22;
-constexpr double kHighestFormLines = kHighestForm * 6;
+constexpr double lowestForm = 0.5;  // inches, as printers take by ESC C
+constexpr double highestForm = 22;
+constexpr double highestFormLines = highestForm * 6;
 
 struct Raw {
     std::string lines;
@@ -66,18 +66,18 @@ std::optional<Ending> readForm(const Raw& raw, dotmatrix::Dialect& dialect) {
     }
     if (!raw.lines.empty()) {
         const auto lines = numberOf(raw.lines);
-        if (!lines || *lines != std::floor(*lines) || *lines < 6 * kLowestForm ||
-            *lines > kHighestFormLines) {
+        if (!lines || *lines != std::floor(*lines) || *lines < 6 * lowestForm ||
+            *lines > highestFormLines) {
             return wrong("--linhas-por-formulario pede um número inteiro de 3 a 132.");
         }
-        dialect.formHeight = static_cast<PaperUnits>(*lines) * kUnitsPerInch / 6;
+        dialect.formHeight = static_cast<PaperUnits>(*lines) * unitsPerInch / 6;
     }
     if (!raw.height.empty()) {
         const auto inches = numberOf(raw.height);
-        if (!inches || *inches < kLowestForm || *inches > kHighestForm) {
+        if (!inches || *inches < lowestForm || *inches > highestForm) {
             return wrong("--altura pede um número de polegadas de 0,5 a 22.");
         }
-        dialect.formHeight = std::llround(*inches * static_cast<double>(kUnitsPerInch));
+        dialect.formHeight = std::llround(*inches * static_cast<double>(unitsPerInch));
     }
     return std::nullopt;
 }
@@ -106,7 +106,7 @@ std::optional<Ending> readPanel(const Raw& raw, Options& options) {
     if (raw.carriage != "80" && raw.carriage != "136") {
         return wrong("--carro pede 80 ou 136.");
     }
-    dialect.carriageWidth = (raw.carriage == "80" ? 80 : 136) * kUnitsPerInch / 10;
+    dialect.carriageWidth = (raw.carriage == "80" ? 80 : 136) * unitsPerInch / 10;
     options.ownHeight = !raw.lines.empty() || !raw.height.empty();
     return readForm(raw, dialect);
 }
@@ -120,10 +120,10 @@ std::optional<int> wholeOf(const std::string& text, int least, int most) {
 }
 
 std::optional<Ending> readRest(const Raw& raw, Options& options) {
-    constexpr int kMostItems = 100;
-    constexpr int kMostJobs = 1'000'000;
+    constexpr int mostItems = 100;
+    constexpr int mostJobs = 1'000'000;
     if (!raw.items.empty()) {
-        options.itemLines = wholeOf(raw.items, 0, kMostItems);
+        options.itemLines = wholeOf(raw.items, 0, mostItems);
         if (!options.itemLines) {
             return wrong("--itens pede um número inteiro de 0 a 100.");
         }
@@ -136,7 +136,7 @@ std::optional<Ending> readRest(const Raw& raw, Options& options) {
         options.port = static_cast<std::uint16_t>(*port);
     }
     if (!raw.endAfter.empty()) {
-        const auto jobs = wholeOf(raw.endAfter, 1, kMostJobs);
+        const auto jobs = wholeOf(raw.endAfter, 1, mostJobs);
         if (!jobs || !options.waits()) {
             return wrong(
                 "--quantos pede um número inteiro de 1 a 1000000, com --porta ou --pasta.");

@@ -32,7 +32,7 @@ int runWithWindow(int argc, char** argv, const Options& options,
     Reception reception(intake);
     Options waiting = options;
     if (!waiting.waits() && waiting.jobs.empty()) {
-        waiting.port = dotmatrix::kRawPort;
+        waiting.port = dotmatrix::rawPort;
     }
     const QString wrong = reception.open(waiting);
     if (!wrong.isEmpty()) {

@@ -11,7 +11,7 @@ namespace tarn::printer {
 
 namespace {
 
-constexpr std::chrono::milliseconds kUntilQuiet(100);
+constexpr std::chrono::milliseconds untilQuiet(100);
 
 // Writes the files whenever jobs have ended and no other follows at once.
 int wait(QGuiApplication& application, const Options& options, const dotmatrix::PaintOptions& looks,
@@ -24,7 +24,7 @@ int wait(QGuiApplication& application, const Options& options, const dotmatrix::
     }
     QTimer quiet;
     quiet.setSingleShot(true);
-    quiet.setInterval(kUntilQuiet);
+    quiet.setInterval(untilQuiet);
     QObject::connect(&quiet, &QTimer::timeout, &application, [&] {
         if (intake.busy()) {
             return quiet.start();

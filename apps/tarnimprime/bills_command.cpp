@@ -29,15 +29,15 @@ std::vector<std::vector<GridRow>> gridsOf(const Request& request) {
     return grades;
 }
 
-void print(const Request& request, Mesa& desk) {
+void print(const Request& request, PrintEnvironment& desk) {
     const XmlDocument data = readAnswer(request.data);
     const std::vector<std::vector<GridRow>> grades = gridsOf(request);
     Environment& environment = desk.environment();
     const BillPictures pictures =
         loadPictures(request.pictureFolder.value_or(environment.pictureFolder));
-    for (const std::vector<GridRow>& linhas : grades) {
+    for (const std::vector<GridRow>& lines : grades) {
         printBills(environment, request.company, data,
-                   {.linhas = linhas, .triplicate = request.triplicate, .pictures = pictures}, {});
+                   {.lines = lines, .triplicate = request.triplicate, .pictures = pictures}, {});
     }
 }
 
@@ -54,8 +54,9 @@ void declareBills(CLI::App& app, Choice& choice) {
                          "Pasta das figuras da página (LOGODUPL.jpg e outras)");
     commands->add_option("documentos", request->documents, "Documentos da pesquisa (DOCS.xml)")
         ->required();
-    commands->callback(
-        [&choice, request] { choice.run = [request](Mesa& desk) { print(*request, desk); }; });
+    commands->callback([&choice, request] {
+        choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
+    });
 }
 
 }  // namespace tarn::print

@@ -14,7 +14,7 @@
 
 namespace tarn::print {
 
-class Mesa;
+class PrintEnvironment;
 
 inline constexpr int statusDone = 0;
 inline constexpr int statusLoss = 4;   // a note that was looked over loses something
@@ -33,7 +33,7 @@ struct GlobalOptions {
 };
 
 struct Choice {
-    std::function<void(Mesa&)> run;
+    std::function<void(PrintEnvironment&)> run;
     int status = statusDone;  // of a command that went through
 };
 
@@ -47,9 +47,9 @@ void declareLabelSelection(CLI::App& app, Choice& choice);
 void declareCheque(CLI::App& app, Choice& choice);
 void declareRules(CLI::App& app, Choice& choice);
 
-// A required code: an option when `nome` begins with "--", a value otherwise. Zeros in
+// A required code: an option when `name` begins with "--", a value otherwise. Zeros in
 // front change nothing.
-void declareCode(CLI::App& commands, const std::string& nome, std::int32_t& code,
+void declareCode(CLI::App& commands, const std::string& name, std::int32_t& code,
                  const std::string& description);
 
 // A saved answer; FalhaDeUso when the file can't be read or isn't an answer.
@@ -58,6 +58,6 @@ XmlDocument readAnswer(const std::string& file);
 std::vector<XmlDocument> readAnswers(const std::vector<std::string>& files);
 
 // One line on stdout.
-void show(std::string_view linha);
+void show(std::string_view line);
 
 }  // namespace tarn::print

@@ -19,7 +19,7 @@ struct LabelRequest {
     std::vector<std::string> files;
 };
 
-void print(const LabelRequest& request, Mesa& desk) {
+void print(const LabelRequest& request, PrintEnvironment& desk) {
     if (!isNumeric(request.form)) {
         throw UsageError("--formulario pede um número de 1 a 4.");
     }
@@ -27,8 +27,8 @@ void print(const LabelRequest& request, Mesa& desk) {
     const labels::Sender sender = labels::readSender(readAnswer(request.sender));
     std::vector<XmlDocument> documents = readAnswers(request.files);
     Environment& environment = desk.environment();
-    for (XmlDocument& documento : documents) {
-        labels::printLabels(environment, form, {std::move(documento), sender}, {});
+    for (XmlDocument& document : documents) {
+        labels::printLabels(environment, form, {std::move(document), sender}, {});
     }
 }
 
@@ -37,10 +37,10 @@ struct SelectionRequest {
     std::vector<std::string> files;
 };
 
-void print(const SelectionRequest& request, Mesa& desk) {
+void print(const SelectionRequest& request, PrintEnvironment& desk) {
     std::vector<std::vector<GridRow>> lists;
-    for (const XmlDocument& documento : readAnswers(request.files)) {
-        lists.push_back(labels::customersOf(documento));
+    for (const XmlDocument& document : readAnswers(request.files)) {
+        lists.push_back(labels::customersOf(document));
         tickRows(lists.back(), request.tick);
     }
     Environment& environment = desk.environment();
@@ -61,8 +61,9 @@ void declareLabels(CLI::App& app, Choice& choice) {
     commands->add_option("--remetente", request->sender, "Dados do remetente (REM.xml)")
         ->required();
     commands->add_option("documentos", request->files, "Etiquetas (ETQ.xml)")->required();
-    commands->callback(
-        [&choice, request] { choice.run = [request](Mesa& desk) { print(*request, desk); }; });
+    commands->callback([&choice, request] {
+        choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
+    });
 }
 
 void declareLabelSelection(CLI::App& app, Choice& choice) {
@@ -72,8 +73,9 @@ void declareLabelSelection(CLI::App& app, Choice& choice) {
     declareTicks(*commands, request->tick);
     commands->add_option("documentos", request->files, "Clientes da pesquisa (ROWS.xml)")
         ->required();
-    commands->callback(
-        [&choice, request] { choice.run = [request](Mesa& desk) { print(*request, desk); }; });
+    commands->callback([&choice, request] {
+        choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
+    });
 }
 
 }  // namespace tarn::print

@@ -15,23 +15,23 @@
 
 namespace tarn::print {
 
-void show(std::string_view linha) {
-    std::fwrite(linha.data(), 1, linha.size(), stdout);
+void show(std::string_view line) {
+    std::fwrite(line.data(), 1, line.size(), stdout);
     std::fputc('\n', stdout);
 }
 
 // Read here: the parser itself would take a zero in front for an octal number, and so
 // pick another company's form.
-void declareCode(CLI::App& commands, const std::string& nome, std::int32_t& code,
+void declareCode(CLI::App& commands, const std::string& name, std::int32_t& code,
                  const std::string& description) {
-    const auto read = [nome, &code](const std::string& texto) {
-        const char* const end = texto.data() + texto.size();
-        const auto readValue = std::from_chars(texto.data(), end, code);
+    const auto read = [name, &code](const std::string& text) {
+        const char* const end = text.data() + text.size();
+        const auto readValue = std::from_chars(text.data(), end, code);
         if (readValue.ec != std::errc() || readValue.ptr != end) {
-            throw CLI::ConversionError(nome, texto);
+            throw CLI::ConversionError(name, text);
         }
     };
-    commands.add_option_function<std::string>(nome, read, description)
+    commands.add_option_function<std::string>(name, read, description)
         ->required()
         ->type_name("NÚMERO");
 }
@@ -59,8 +59,8 @@ std::string wrongUsage(const CLI::ParseError& error) {
     return "linha de comando inválida.";
 }
 
-int failure(const std::string& texto, int status) {
-    std::fprintf(stderr, "tarnimprime: %s\n", texto.c_str());
+int failure(const std::string& text, int status) {
+    std::fprintf(stderr, "tarnimprime: %s\n", text.c_str());
     return status;
 }
 
@@ -128,7 +128,7 @@ int execute(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return failure(wrongUsage(error) + " Veja como se usa com --ajuda.", statusUsage);
     }
-    Mesa desk(options);
+    PrintEnvironment desk(options);
     try {
         choice.run(desk);
     } catch (const UsageError& error) {

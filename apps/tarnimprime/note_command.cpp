@@ -33,17 +33,17 @@ void declareSession(CLI::App& commands, Request& request) {
     commands.add_flag("--reimpressao", request.reprint, "Escada da tela de reimpressão");
 }
 
-void print(const Request& request, Mesa& desk) {
+void print(const Request& request, PrintEnvironment& desk) {
     std::vector<XmlDocument> documents = readAnswers(request.files);
     Environment& environment = desk.environment();
-    for (XmlDocument& documento : documents) {
-        printNote(request.ladder(), environment, request.session, documento, request.number);
+    for (XmlDocument& document : documents) {
+        printNote(request.ladder(), environment, request.session, document, request.number);
     }
 }
 
 // Says what each document loses; true where one loses anything. What was found before an
 // error of the run time is said too.
-bool check(const Request& request, Mesa& desk) {
+bool check(const Request& request, PrintEnvironment& desk) {
     std::vector<XmlDocument> documents = readAnswers(request.files);
     Environment& environment = desk.dryRunEnvironment();
     bool anyLoss = false;
@@ -89,12 +89,12 @@ XmlDocument readAnswer(const std::string& file) {
         throw UsageError("não foi possível ler \"" + file +
                          "\". Confira o nome do arquivo e a permissão de leitura.");
     }
-    XmlDocument documento;
-    if (!documento.loadXML(*bytes)) {
+    XmlDocument document;
+    if (!document.loadXML(*bytes)) {
         throw UsageError("\"" + file +
                          "\" não é uma resposta do servidor: o XML está incompleto ou errado.");
     }
-    return documento;
+    return document;
 }
 
 std::vector<XmlDocument> readAnswers(const std::vector<std::string>& files) {
@@ -115,7 +115,7 @@ void declareNote(CLI::App& app, Choice& choice) {
     commands->add_flag("--confere", request->check,
                        "Não imprime: diz o que a nota perde no seu formulário (status 4 se perde)");
     commands->callback([&choice, request] {
-        choice.run = [&choice, request](Mesa& desk) {
+        choice.run = [&choice, request](PrintEnvironment& desk) {
             if (!request->check) {
                 print(*request, desk);
             } else if (check(*request, desk)) {
@@ -130,10 +130,10 @@ void declareLadder(CLI::App& app, Choice& choice) {
     const auto request = std::make_shared<Request>();
     declareSession(*commands, *request);
     commands->callback([&choice, request] {
-        choice.run = [request](Mesa&) {
-            const std::string_view nome = layoutFor(
+        choice.run = [request](PrintEnvironment&) {
+            const std::string_view name = layoutFor(
                 request->ladder(), request->session.NCOMPANYCODE, request->session.ID_ETB_TARN);
-            show(nome.empty() ? "-" : nome);
+            show(name.empty() ? "-" : name);
         };
     });
 }

@@ -13,11 +13,11 @@ struct Request {
     std::vector<std::string> files;
 };
 
-void print(const Request& request, Mesa& desk) {
+void print(const Request& request, PrintEnvironment& desk) {
     std::vector<XmlDocument> documents = readAnswers(request.files);
     Environment& environment = desk.environment();
-    for (XmlDocument& documento : documents) {
-        printOrder(environment, request.session, documento);
+    for (XmlDocument& document : documents) {
+        printOrder(environment, request.session, document);
     }
 }
 
@@ -29,8 +29,9 @@ void declareOrder(CLI::App& app, Choice& choice) {
     commands->add_option("--empresa", request->session.NCOMPANYCODE, "Código da empresa")
         ->required();
     commands->add_option("documentos", request->files, "Documentos de ordem (DOC.xml)")->required();
-    commands->callback(
-        [&choice, request] { choice.run = [request](Mesa& desk) { print(*request, desk); }; });
+    commands->callback([&choice, request] {
+        choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
+    });
 }
 
 }  // namespace tarn::print

@@ -41,8 +41,8 @@ CodePage pageOf(const std::string& number) {
 }  // namespace
 
 BoxAnswer TerminalBoxes::show(const Box& box) {
-    const std::string texto = replaceAll(replaceAll(box.text, "\r\n", "\n"), "\r", "\n");
-    std::fprintf(stderr, "%s: %s\n", box.title.c_str(), texto.c_str());
+    const std::string text = replaceAll(replaceAll(box.text, "\r\n", "\n"), "\r", "\n");
+    std::fprintf(stderr, "%s: %s\n", box.title.c_str(), text.c_str());
     return box.buttons == BoxButtons::YesNo ? BoxAnswer::Yes : BoxAnswer::Ok;
 }
 
@@ -57,9 +57,9 @@ Date SystemClock::today() {
     return {local.tm_mday, local.tm_mon + 1, local.tm_year + 1900};
 }
 
-Mesa::Mesa(const GlobalOptions& options) : options_(options) {}
+PrintEnvironment::PrintEnvironment(const GlobalOptions& options) : options_(options) {}
 
-void Mesa::prepareFolder() {
+void PrintEnvironment::prepareFolder() {
     const auto files = std::make_shared<JobFiles>(std::filesystem::path(*options_.destination),
                                                   JobNumbering::FromOne);
     if (!files->makeDirectory()) {
@@ -74,7 +74,7 @@ void Mesa::prepareFolder() {
     }
 }
 
-void Mesa::preparePrinter() {
+void PrintEnvironment::preparePrinter() {
     if (options_.format == "ops") {
         throw UsageError("--formato ops grava em uma pasta: dê também --destino PASTA.");
     }
@@ -87,12 +87,12 @@ void Mesa::preparePrinter() {
     pages_ = std::make_unique<WindowlessPages>(nullptr);
 }
 
-void Mesa::prepareNothing() {
+void PrintEnvironment::prepareNothing() {
     spooler_ = std::make_unique<NoPaper>();
     pages_ = std::make_unique<NoPages>();
 }
 
-CodePage Mesa::checkOptions() const {
+CodePage PrintEnvironment::checkOptions() const {
     const CodePage page = pageOf(options_.codePage);
     if (options_.format != "pdf" && options_.format != "ops") {
         throw UsageError("--formato pede pdf ou ops.");
@@ -100,7 +100,7 @@ CodePage Mesa::checkOptions() const {
     return page;
 }
 
-Environment& Mesa::environment() {
+Environment& PrintEnvironment::environment() {
     const CodePage page = checkOptions();
     if (!environment_) {
         options_.destination ? prepareFolder() : preparePrinter();
@@ -108,7 +108,7 @@ Environment& Mesa::environment() {
     return assemble(page);
 }
 
-Environment& Mesa::dryRunEnvironment() {
+Environment& PrintEnvironment::dryRunEnvironment() {
     const CodePage page = checkOptions();
     if (!environment_) {
         options_.destination ? prepareFolder() : prepareNothing();
@@ -116,7 +116,7 @@ Environment& Mesa::dryRunEnvironment() {
     return assemble(page);
 }
 
-Environment& Mesa::assemble(CodePage page) {
+Environment& PrintEnvironment::assemble(CodePage page) {
     if (!environment_) {
         environment_ = std::make_unique<Environment>(Environment{.http = server_,
                                                                  .spooler = *spooler_,

@@ -37,9 +37,9 @@ public:
     void beep() override {}
 };
 
-class Mesa {
+class PrintEnvironment {
 public:
-    explicit Mesa(const GlobalOptions& options);
+    explicit PrintEnvironment(const GlobalOptions& options);
 
     // For printing; FalhaDeUso when there is nowhere to print.
     Environment& environment();

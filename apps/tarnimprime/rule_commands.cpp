@@ -19,29 +19,29 @@ constexpr std::string_view dateMask = "dd/mm/yyyy";
 
 void declareAmountInWords(CLI::App& app, Choice& choice) {
     CLI::App* commands = app.add_subcommand("extenso", "Escreve um valor por extenso");
-    const auto valor = std::make_shared<std::string>();
-    commands->add_option("valor", *valor, "Valor, com vírgula decimal")->required();
-    commands->callback([&choice, valor] {
-        choice.run = [valor](Mesa&) { show(ValorExtenso(readComma(*valor))); };
+    const auto value = std::make_shared<std::string>();
+    commands->add_option("valor", *value, "Valor, com vírgula decimal")->required();
+    commands->callback([&choice, value] {
+        choice.run = [value](PrintEnvironment&) { show(ValorExtenso(readComma(*value))); };
     });
 }
 
 void declareDate(CLI::App& app, Choice& choice) {
     struct Request {
-        std::string texto;
+        std::string text;
         std::string today;
     };
     CLI::App* commands = app.add_subcommand("data", "Mostra como fica um campo de data");
     const auto request = std::make_shared<Request>();
-    commands->add_option("texto", request->texto, "O que foi digitado")->required();
+    commands->add_option("texto", request->text, "O que foi digitado")->required();
     commands->add_option("--hoje", request->today, "Data de hoje, dd/mm/yyyy")->required();
     commands->callback([&choice, request] {
-        choice.run = [request](Mesa&) {
+        choice.run = [request](PrintEnvironment&) {
             const std::optional<Date> today = parseStrictDate(request->today);
             if (!today) {
                 throw UsageError("--hoje pede uma data dd/mm/yyyy do calendário.");
             }
-            show(dateOnLeave(request->texto, *today));
+            show(dateOnLeave(request->text, *today));
         };
     });
 }
@@ -49,11 +49,11 @@ void declareDate(CLI::App& app, Choice& choice) {
 void declareQuantity(CLI::App& app, Choice& choice) {
     CLI::App* commands =
         app.add_subcommand("quantidade", "Mostra como fica um campo de quantidade, ou a mensagem");
-    const auto texto = std::make_shared<std::string>();
-    commands->add_option("texto", *texto, "O que foi digitado")->required();
-    commands->callback([&choice, texto] {
-        choice.run = [texto](Mesa&) {
-            const FieldResult field = quantityOnLeave(*texto, messagesQtde);
+    const auto text = std::make_shared<std::string>();
+    commands->add_option("texto", *text, "O que foi digitado")->required();
+    commands->callback([&choice, text] {
+        choice.run = [text](PrintEnvironment&) {
+            const FieldResult field = quantityOnLeave(*text, messagesQtde);
             show(field.box ? field.box->text : field.text);
         };
     });
@@ -70,34 +70,34 @@ void declareNotice(CLI::App& app, Choice& choice) {
     declareCode(*commands, "empresa", request->company, "Código da empresa");
     declareCode(*commands, "estabelecimento", request->establishment, "Código do estabelecimento");
     commands->callback([&choice, request] {
-        choice.run = [request](Mesa&) {
+        choice.run = [request](PrintEnvironment&) {
             show(printerNotice(request->company, request->establishment));
         };
     });
 }
 
-std::string byMask(std::string_view valor, std::string_view mask) {
+std::string byMask(std::string_view value, std::string_view mask) {
     if (mask == dateMask) {
-        return formatDateText(valor);
+        return formatDateText(value);
     }
     if (mask.find('@') != std::string_view::npos) {
-        return fillMask(valor, mask);
+        return fillMask(value, mask);
     }
-    return formatText(valor, NumberMask(mask));
+    return formatText(value, NumberMask(mask));
 }
 
 void declareMask(CLI::App& app, Choice& choice) {
     struct Request {
         std::string mask;
-        std::string valor;
+        std::string value;
     };
     CLI::App* commands = app.add_subcommand("mascara", "Mostra um valor sob uma máscara");
     const auto request = std::make_shared<Request>();
     commands->add_option("mascara", request->mask, "Máscara de número, de \"@\" ou dd/mm/yyyy")
         ->required();
-    commands->add_option("valor", request->valor, "Valor como texto")->required();
+    commands->add_option("valor", request->value, "Valor como texto")->required();
     commands->callback([&choice, request] {
-        choice.run = [request](Mesa&) { show(byMask(request->valor, request->mask)); };
+        choice.run = [request](PrintEnvironment&) { show(byMask(request->value, request->mask)); };
     });
 }
 
@@ -114,7 +114,7 @@ void declareDigit10(CLI::App& app, Choice& choice) {
     commands->add_option("agencia", request->agency, "Agência da carteira")->required();
     commands->add_option("conta", request->account, "Conta da carteira")->required();
     commands->callback([&choice, request] {
-        choice.run = [request](Mesa&) {
+        choice.run = [request](PrintEnvironment&) {
             show(std::to_string(DigitoModulo10(thirteenDigits(readComma(request->number)),
                                                request->agency, request->account)));
         };
@@ -127,7 +127,7 @@ void declareDigit11(CLI::App& app, Choice& choice) {
     const auto number = std::make_shared<std::string>();
     commands->add_option("numero", *number, "Número do boleto")->required();
     commands->callback([&choice, number] {
-        choice.run = [number](Mesa&) {
+        choice.run = [number](PrintEnvironment&) {
             show(std::to_string(DigitoModulo11(sevenDigits(readComma(*number)))));
         };
     });

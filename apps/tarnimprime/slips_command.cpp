@@ -67,25 +67,25 @@ Environment withRequests(const Environment& desk, HttpLoader& requests) {
 std::vector<GridRow> tickedRows(const Request& request) {
     std::vector<GridRow> all;
     for (const XmlDocument& answer : readAnswers(request.documents)) {
-        std::vector<GridRow> linhas = slipRows(answer);
-        tickRows(linhas, request.tick);
-        std::move(linhas.begin(), linhas.end(), std::back_inserter(all));
+        std::vector<GridRow> lines = slipRows(answer);
+        tickRows(lines, request.tick);
+        std::move(lines.begin(), lines.end(), std::back_inserter(all));
     }
     return all;
 }
 
-void print(const Request& request, Mesa& desk) {
+void print(const Request& request, PrintEnvironment& desk) {
     const Portfolio portfolio = portfolioOf(readAnswer(request.portfolio));
-    std::vector<GridRow> linhas = tickedRows(request);
+    std::vector<GridRow> lines = tickedRows(request);
     const Environment& noServer = desk.environment();
     RequestsInFile requests(desk.destination());
     Environment environment = withRequests(noServer, requests);
     if (const auto refuse = printRefusal(chosenPosition, request.slips.next)) {
-        environment.boxes.show({std::string(refuse->texto), BoxIcon::Information, "TArn"});
+        environment.boxes.show({std::string(refuse->text), BoxIcon::Information, "TArn"});
         return;
     }
-    printSlips(environment, request.session, portfolio, request.slips, linhas,
-               {.untick = [&linhas](std::size_t i) { linhas[i].ticked = false; }});
+    printSlips(environment, request.session, portfolio, request.slips, lines,
+               {.untick = [&lines](std::size_t i) { lines[i].ticked = false; }});
 }
 
 }  // namespace
@@ -109,8 +109,9 @@ void declareSlips(CLI::App& app, Choice& choice) {
     declareTicks(*commands, request->tick);
     commands->add_option("documentos", request->documents, "Documentos da pesquisa (DOCS.xml)")
         ->required();
-    commands->callback(
-        [&choice, request] { choice.run = [request](Mesa& desk) { print(*request, desk); }; });
+    commands->callback([&choice, request] {
+        choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
+    });
 }
 
 }  // namespace tarn::print

@@ -9,16 +9,16 @@
 namespace tarn::print {
 namespace {
 
-std::size_t rowOf(std::string_view texto, std::size_t count) {
-    const std::string_view number = trimBlanks(texto);
-    std::size_t linha = 0;
+std::size_t rowOf(std::string_view text, std::size_t count) {
+    const std::string_view number = trimBlanks(text);
+    std::size_t line = 0;
     const char* const end = number.data() + number.size();
-    const auto readValue = std::from_chars(number.data(), end, linha);
-    if (readValue.ec != std::errc() || readValue.ptr != end || linha < 1 || linha > count) {
+    const auto readValue = std::from_chars(number.data(), end, line);
+    if (readValue.ec != std::errc() || readValue.ptr != end || line < 1 || line > count) {
         throw UsageError("--marca pede números de linha de 1 a " + std::to_string(count) +
-                         ", separados por vírgula: \"" + std::string(texto) + "\" não é um deles.");
+                         ", separados por vírgula: \"" + std::string(text) + "\" não é um deles.");
     }
-    return linha;
+    return line;
 }
 
 }  // namespace
@@ -28,9 +28,9 @@ void declareTicks(CLI::App& commands, TickedRows& tick) {
                         "Linhas que imprimem, a partir de 1 (1,3); sem ela, todas; vazia, nenhuma");
 }
 
-void tickRows(std::vector<GridRow>& linhas, const TickedRows& tick) {
-    for (GridRow& linha : linhas) {
-        linha.ticked = !tick;
+void tickRows(std::vector<GridRow>& lines, const TickedRows& tick) {
+    for (GridRow& line : lines) {
+        line.ticked = !tick;
     }
     if (!tick || trimBlanks(*tick).empty()) {
         return;
@@ -38,7 +38,7 @@ void tickRows(std::vector<GridRow>& linhas, const TickedRows& tick) {
     std::string_view rest = *tick;
     for (std::size_t comma = 0; comma != std::string_view::npos;) {
         comma = rest.find(',');
-        linhas[rowOf(rest.substr(0, comma), linhas.size()) - 1].ticked = true;
+        lines[rowOf(rest.substr(0, comma), lines.size()) - 1].ticked = true;
         rest = comma == std::string_view::npos ? "" : rest.substr(comma + 1);
     }
 }

@@ -17,6 +17,6 @@ void declareTicks(CLI::App& commands, TickedRows& tick);
 
 // Ticks the rows that it names, from 1, parted by commas; none for an empty one.
 // FalhaDeUso for a number that no row has.
-void tickRows(std::vector<GridRow>& linhas, const TickedRows& tick);
+void tickRows(std::vector<GridRow>& lines, const TickedRows& tick);
 
 }  // namespace tarn::print

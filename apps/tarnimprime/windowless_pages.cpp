@@ -8,9 +8,9 @@ namespace {
 
 // What Qt remarks about the machine (no session directory, no theme) is nothing
 // that the user could act on; what goes wrong with a page is told by the page.
-void fatalOnly(QtMsgType kind, const QMessageLogContext&, const QString& texto) {
+void fatalOnly(QtMsgType kind, const QMessageLogContext&, const QString& text) {
     if (kind == QtFatalMsg) {
-        std::fprintf(stderr, "tarnimprime: %s\n", qPrintable(texto));
+        std::fprintf(stderr, "tarnimprime: %s\n", qPrintable(text));
     }
 }
 
@@ -20,8 +20,8 @@ std::unique_ptr<QGuiApplication> noScreen() {
     qputenv("QT_QPA_PLATFORM", "offscreen");
 #endif
     qInstallMessageHandler(fatalOnly);
-    static char nome[] = "tarnimprime";
-    static char* words[] = {nome, nullptr};
+    static char name[] = "tarnimprime";
+    static char* words[] = {name, nullptr};
     static int count = 1;
     return std::make_unique<QGuiApplication>(count, words);
 }

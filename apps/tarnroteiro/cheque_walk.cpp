@@ -27,7 +27,7 @@ void walkCheque(Walk& walk) {
                   typeIn(screen, "txtFavorecido", "Papelaria Três Pontes Ltda");
                   auto& usage = child<QWidget>(screen, "txtObservacao");
                   usage.setFocus();
-                  tecla(usage, "Material de escritório");
+                  key(usage, "Material de escritório");
                   walk.photograph(screen, "cheque-preenchido");
                   click(screen, "cmdImprimir");
               })

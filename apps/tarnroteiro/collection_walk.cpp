@@ -15,8 +15,8 @@ constexpr const char* sinceEver = "01012000";
 constexpr const char* untilEver = "31122099";
 
 void tickFirst(QWidget& screen, int count) {
-    for (int linha = 0; linha < count; ++linha) {
-        clickInGrid(screen, linha, box);
+    for (int line = 0; line < count; ++line) {
+        clickInGrid(screen, line, box);
     }
 }
 

@@ -23,8 +23,8 @@ void clickAction(QMenuBar& bar, QAction* action) {
 
 }  // namespace
 
-void missingOnScreen(const char* nome) {
-    qFatal("%s não está na tela", nome);
+void missingOnScreen(const char* name) {
+    qFatal("%s não está na tela", name);
 }
 
 void click(QWidget& window, const char* button) {
@@ -36,17 +36,17 @@ void tickOption(QWidget& window, const char* option) {
     QTest::mouseClick(&tick, Qt::LeftButton, {}, {8, tick.height() / 2});
 }
 
-void tecla(QWidget& field, const std::string& texto) {
-    const QString letters = QString::fromStdString(texto);
+void key(QWidget& field, const std::string& text) {
+    const QString letters = QString::fromStdString(text);
     for (const QChar letter : letters) {
         QTest::sendKeyEvent(QTest::Click, &field, Qt::Key_unknown, QString(letter), Qt::NoModifier);
     }
 }
 
-void typeIn(QWidget& window, const char* field, const std::string& texto) {
-    auto& linha = child<QLineEdit>(window, field);
-    linha.setFocus();
-    tecla(linha, texto);
+void typeIn(QWidget& window, const char* field, const std::string& text) {
+    auto& line = child<QLineEdit>(window, field);
+    line.setFocus();
+    key(line, text);
 }
 
 void openMenu(QWidget& window, const char* menu) {
@@ -63,19 +63,19 @@ void clickInBar(QWidget& window, const char* input) {
     clickAction(barOf(window), &child<QAction>(window, input));
 }
 
-void clickInGrid(QWidget& screen, int linha, int coluna) {
+void clickInGrid(QWidget& screen, int line, int column) {
     auto& grid = child<QTableView>(screen, "sprDados");
-    const QModelIndex cell = grid.model()->index(linha, coluna);
+    const QModelIndex cell = grid.model()->index(line, column);
     grid.scrollTo(cell);
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(cell).center());
 }
 
-void chooseInList(QWidget& screen, const char* list, int linha) {
+void chooseInList(QWidget& screen, const char* list, int line) {
     auto& combo = child<QComboBox>(screen, list);
     combo.setFocus();
     QTest::keyClick(&combo, Qt::Key_Space);
     QAbstractItemView& items = *combo.view();
-    const QRect place = items.visualRect(items.model()->index(linha, 0));
+    const QRect place = items.visualRect(items.model()->index(line, 0));
     QTest::mouseClick(items.viewport(), Qt::LeftButton, {}, place.center());
 }
 

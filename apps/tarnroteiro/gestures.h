@@ -8,13 +8,13 @@
 
 namespace tarn {
 
-[[noreturn]] void missingOnScreen(const char* nome);
+[[noreturn]] void missingOnScreen(const char* name);
 
 template <typename T>
-T& child(QWidget& window, const char* nome) {
-    T* match = window.findChild<T*>(QLatin1StringView(nome));
+T& child(QWidget& window, const char* name) {
+    T* match = window.findChild<T*>(QLatin1StringView(name));
     if (match == nullptr) {
-        missingOnScreen(nome);
+        missingOnScreen(name);
     }
     return *match;
 }
@@ -23,8 +23,8 @@ void click(QWidget& window, const char* button);
 // Radio buttons and check boxes are clicked on their mark, not on the middle.
 void tickOption(QWidget& window, const char* option);
 // One key stroke a character, accented ones too, where the focus is.
-void tecla(QWidget& field, const std::string& texto);
-void typeIn(QWidget& window, const char* field, const std::string& texto);
+void key(QWidget& field, const std::string& text);
+void typeIn(QWidget& window, const char* field, const std::string& text);
 
 // The menus of the main window.
 void openMenu(QWidget& window, const char* menu);
@@ -33,9 +33,9 @@ void choose(QWidget& window, const char* menu, const char* input);
 void clickInBar(QWidget& window, const char* input);
 
 // Clicks a cell of sprDados; row and column are counted from 0.
-void clickInGrid(QWidget& screen, int linha, int coluna);
+void clickInGrid(QWidget& screen, int line, int column);
 // Opens the list and clicks the item of that row.
-void chooseInList(QWidget& screen, const char* list, int linha);
+void chooseInList(QWidget& screen, const char* list, int line);
 
 // Answers a message box by its default button.
 void accept(QWidget& box);

@@ -70,8 +70,8 @@ void walkLabelSelection(Walk& walk) {
         .when("MessageBox", "selecao-consulta", accept)
         .when("FrmImprEtiq", "",
               [&](QWidget& screen) {
-                  for (int linha = 0; linha < 3; ++linha) {
-                      clickInGrid(screen, linha, 0);
+                  for (int line = 0; line < 3; ++line) {
+                      clickInGrid(screen, line, 0);
                   }
                   walk.photograph(screen, "selecao-etiquetas");
                   click(screen, "cmdImprimir");

@@ -45,19 +45,19 @@ void walkSelection(Walk& walk, const WalkLogon&) {
 }
 
 struct NamedWalk {
-    const char* nome;
+    const char* name;
     void (*write)(Walk& walk, const WalkLogon& input);
 };
 constexpr std::array namedWalks{NamedWalk{"dia", walkDay}, NamedWalk{"recusa", walkRefusal},
                                 NamedWalk{"selecao", walkSelection}};
 
-int advance(DeskApplication& program, const WalkLogon& input, const std::string& nome) {
-    const auto namedWalk = std::ranges::find(namedWalks, nome, &NamedWalk::nome);
+int advance(DeskApplication& program, const WalkLogon& input, const std::string& name) {
+    const auto namedWalk = std::ranges::find(namedWalks, name, &NamedWalk::name);
     Options options;
     options.baseUrl = serverAddress(input.server);
     options.virtualPrinter = input.folder;
-    options.labelSelection = nome == "selecao";
-    Mesa desk(program, options, printersOf(options));
+    options.labelSelection = name == "selecao";
+    Desk desk(program, options, printersOf(options));
     Walk walk(QString::fromStdString(input.folder));
     walkLogon(walk, input);
     namedWalk->write(walk, input);
@@ -83,9 +83,9 @@ int advance(DeskApplication& program, const WalkLogon& input, const std::string&
 }  // namespace tarn
 
 // The off-screen platform complains of what it can't do; only what ends the walk counts.
-static void fatalOnly(QtMsgType kind, const QMessageLogContext&, const QString& texto) {
+static void fatalOnly(QtMsgType kind, const QMessageLogContext&, const QString& text) {
     if (kind == QtFatalMsg) {
-        std::fprintf(stderr, "tarnroteiro: %s\n", qPrintable(texto));
+        std::fprintf(stderr, "tarnroteiro: %s\n", qPrintable(text));
     }
 }
 
@@ -99,15 +99,15 @@ int main(int argc, char** argv) {
     app.add_option("--empresa", input.company, "empresa do logon de treino");
     app.add_option("--usuario", input.user, "usuário do logon de treino");
     app.add_option("--senha", input.password, "senha do logon de treino");
-    std::string nome = "dia";
-    app.add_option("--roteiro", nome,
+    std::string name = "dia";
+    app.add_option("--roteiro", name,
                    "dia (usual), recusa (de quem não pode emitir), selecao (de etiquetas) ou "
                    "impressora (a janela da impressora virtual com a nota que já está na pasta)")
         ->check(CLI::IsMember({"dia", "recusa", "selecao", "impressora"}));
     CLI11_PARSE(app, argc, argv);
     tarn::DeskApplication program(argc, argv);
-    if (nome == "impressora") {
+    if (name == "impressora") {
         return tarn::pictureOfPrinter(input.folder) ? 0 : 1;
     }
-    return tarn::advance(program, input, nome);
+    return tarn::advance(program, input, name);
 }

@@ -11,7 +11,7 @@
 namespace tarn {
 namespace {
 
-constexpr int largura = 1280;
+constexpr int width = 1280;
 constexpr int height = 820;
 
 bool print(dotmatrix::PaperRoll& roll, const QString& file) {
@@ -45,7 +45,7 @@ bool pictureOfPrinter(const std::string& folder) {
     dotmatrix::JobIntake input(roll);
     dotmatrix::PrinterWindow window(roll, input, look);
     window.setWaitingText(QStringLiteral("Esperando trabalhos em 127.0.0.1:9100"));
-    window.resize(largura, height);
+    window.resize(width, height);
     window.show();
     if (!QTest::qWaitForWindowExposed(&window)) {
         std::fputs("tarnroteiro: a janela da impressora não abriu.\n", stderr);

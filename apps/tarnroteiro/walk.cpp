@@ -22,8 +22,8 @@ Walk::Walk(QString folder) : folder_(std::move(folder)) {
     connect(&clock_, &QTimer::timeout, this, &Walk::look);
 }
 
-Walk& Walk::when(const QString& window, const QString& nome, Step step) {
-    steps_.push_back({window, nome, std::move(step)});
+Walk& Walk::when(const QString& window, const QString& name, Step step) {
+    steps_.push_back({window, name, std::move(step)});
     return *this;
 }
 
@@ -31,13 +31,13 @@ void Walk::start() {
     clock_.start();
 }
 
-QWidget* Walk::frontWindow(const QString& nome) const {
+QWidget* Walk::frontWindow(const QString& name) const {
     QWidget* modal = QApplication::activeModalWidget();
     if (modal != nullptr) {
-        return modal->objectName() == nome ? modal : nullptr;
+        return modal->objectName() == name ? modal : nullptr;
     }
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        QWidget* found = window->objectName() == nome ? window : window->findChild<QWidget*>(nome);
+        QWidget* found = window->objectName() == name ? window : window->findChild<QWidget*>(name);
         if (found != nullptr && found->isVisible()) {
             return found;
         }
@@ -77,8 +77,8 @@ void Walk::look() {
     looks_ = 0;
     const Wait wait = std::exchange(steps_.front(), {});
     steps_.pop_front();
-    if (!wait.nome.isEmpty()) {
-        photograph(*window, wait.nome);
+    if (!wait.name.isEmpty()) {
+        photograph(*window, wait.name);
     }
     wait.step(*window);
 }
@@ -88,7 +88,7 @@ void Walk::finish(const QString& reason) {
     emit finished(reason);
 }
 
-void Walk::photograph(QWidget& window, const QString& nome) {
+void Walk::photograph(QWidget& window, const QString& name) {
     // A dialog is shown over the desk, as the clerk sees it.
     QWidget* desk = nullptr;
     for (QWidget* top : QApplication::topLevelWidgets()) {
@@ -106,7 +106,7 @@ void Walk::photograph(QWidget& window, const QString& nome) {
     }
     ++photos_;
     photo.save(QDir(folder_).filePath(
-        QStringLiteral("passo-%1-%2.png").arg(photos_, 2, 10, QLatin1Char('0')).arg(nome)));
+        QStringLiteral("passo-%1-%2.png").arg(photos_, 2, 10, QLatin1Char('0')).arg(name)));
 }
 
 }  // namespace tarn

@@ -19,16 +19,16 @@ public:
 
     using Step = std::function<void(QWidget& window)>;
     // Waits until the window in front (modal, else a visible one) has this object name,
-    // takes its picture under `nome` unless that is empty, and acts. A message box that
+    // takes its picture under `name` unless that is empty, and acts. A message box that
     // isn't awaited ends the walk.
-    Walk& when(const QString& window, const QString& nome, Step step);
+    Walk& when(const QString& window, const QString& name, Step step);
 
     // From now on the steps run in the event loop. A window that doesn't come within the
     // time limit ends the walk.
     void start();
     bool complete() const { return steps_.empty(); }
 
-    void photograph(QWidget& window, const QString& nome);
+    void photograph(QWidget& window, const QString& name);
 
 signals:
     // `reason` is empty when every step was taken.
@@ -37,12 +37,12 @@ signals:
 private:
     struct Wait {
         QString window;
-        QString nome;
+        QString name;
         Step step;
     };
     void look();
     void finish(const QString& reason);
-    QWidget* frontWindow(const QString& nome) const;
+    QWidget* frontWindow(const QString& name) const;
 
     QString folder_;
     std::deque<Wait> steps_;

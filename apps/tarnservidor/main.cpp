@@ -20,8 +20,8 @@ using tarn::practice::HttpFront;
 using tarn::practice::PracticeOptions;
 using tarn::practice::PracticeServer;
 
-constexpr int kFailure = 1;
-constexpr int kLargestPort = 65535;
+constexpr int failure = 1;
+constexpr int largestPort = 65535;
 
 struct Arguments {
     std::string portText = "8610";
@@ -75,7 +75,7 @@ std::string completeOptions(Arguments& arguments) {
         }
     }
     const auto port = tarn::practice::wholeNumber(arguments.portText);
-    if (!port || *port > kLargestPort) {
+    if (!port || *port > largestPort) {
         return "A porta \"" + arguments.portText +
                "\" não existe. Escolha de 0 a 65535 com --porta.";
     }
@@ -96,7 +96,7 @@ std::string completeOptions(Arguments& arguments) {
 
 int fail(const std::string& text) {
     std::cerr << "tarnservidor: " << text << '\n';
-    return kFailure;
+    return failure;
 }
 
 std::string whyNotParsed(const CLI::App& app, const CLI::ParseError& error) {
@@ -138,7 +138,7 @@ int run(const Arguments& arguments) {
         "text/xml; charset=" + std::string(tarn::practice::encodingName(server.encoding())));
     const int port = front.bind(arguments.address, arguments.port);
     std::cout << "Servindo em http://" << hostOf(arguments.address) << ':' << port
-              << tarn::practice::kPagePath << '?' << std::endl;
+              << tarn::practice::pagePath << '?' << std::endl;
     serveUntilSignal(front);
     return 0;
 }

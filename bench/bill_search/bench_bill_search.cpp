@@ -117,7 +117,7 @@ void bill_search(benchmark::State& state) {
             benchmark::Counter(leastOf(filled[rows]) * 1e6 / rows);
     }
 }
-BENCHMARK(bill_search)->Iterations(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(bill_search)->Iterations(7)->Unit(benchmark::millisecond);
 
 }  // namespace
 

@@ -17,12 +17,12 @@ using tarn::bench::ratioOf;
 using tarn::bench::secondsOf;
 using tarn::dotmatrix::PaperRoll;
 
-constexpr int kFew = 500;
-constexpr int kMany = 10'000;
-constexpr int kRounds = 3;
-constexpr int kLooks = 400;
+constexpr int fewForms = 500;
+constexpr int manyForms = 10'000;
+constexpr int rounds = 3;
+constexpr int looks = 400;
 // Prime to both numbers of forms: no form is looked at twice.
-constexpr std::size_t kStride = 3079;
+constexpr std::size_t stride = 3079;
 
 // A note of 66 lines with as much print on it as a full form of the ladder.
 std::string note(int number) {
@@ -50,8 +50,8 @@ void fill(PaperRoll& roll, int forms) {
 
 void look(PaperRoll& roll) {
     const std::size_t forms = roll.printedForms();
-    for (std::size_t i = 0; i < kLooks; ++i) {
-        roll.page(i * kStride % forms);
+    for (std::size_t i = 0; i < looks; ++i) {
+        roll.page(i * stride % forms);
     }
 }
 
@@ -86,21 +86,21 @@ int main(int argc, char** argv) {
     std::vector<double> pdfFew;
     std::vector<double> pdfMany;
     double grown = 0;
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         PaperRoll few({});
-        inFew.push_back(secondsOf([&few] { fill(few, kFew); }) / kFew);
+        inFew.push_back(secondsOf([&few] { fill(few, fewForms); }) / fewForms);
         lookFew.push_back(secondsOf([&few] { look(few); }));
-        pdfFew.push_back(write(few, folder.filePath("few.pdf")) / kFew);
+        pdfFew.push_back(write(few, folder.filePath("few.pdf")) / fewForms);
         const double before = resident();
         PaperRoll many({});
-        inMany.push_back(secondsOf([&many] { fill(many, kMany); }) / kMany);
+        inMany.push_back(secondsOf([&many] { fill(many, manyForms); }) / manyForms);
         lookMany.push_back(secondsOf([&many] { look(many); }));
         grown = std::max(grown, resident() - before);
         if (round == 0) {
-            pdfMany.push_back(write(many, folder.filePath("many.pdf")) / kMany);
+            pdfMany.push_back(write(many, folder.filePath("many.pdf")) / manyForms);
         }
     }
-    const double bytes = static_cast<double>(note(1).size()) * kMany;
+    const double bytes = static_cast<double>(note(1).size()) * manyForms;
     std::printf("PDF: %.0f forms a second; %.1f MB of jobs, %.1f MB held\n",
                 1 / tarn::bench::medianOf(pdfMany), bytes / 1e6, grown / 1e6);
     limits.check("a form coming in, of 10,000 over of 500", ratioOf(inMany, inFew), 1.30);

@@ -173,7 +173,7 @@ void labels(benchmark::State& state) {
             [&] { tarn::labels::printSelection(environment, manyTicked, {}); });
     }
 }
-BENCHMARK(labels)->Iterations(31)->Unit(benchmark::kMillisecond);
+BENCHMARK(labels)->Iterations(31)->Unit(benchmark::millisecond);
 
 }  // namespace
 

@@ -144,9 +144,9 @@ void note(benchmark::State& state) {
     state.counters["layout_ns_per_item"] = Counter(layout * 1e9 / items);
     state.counters["ratio"] = Counter(ratioOf(times.whole, times.bare));
 }
-BENCHMARK(note)->Arg(5)->Iterations(4000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(note)->Arg(50)->Iterations(1000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(note)->Arg(5000)->Iterations(41)->Unit(benchmark::kMicrosecond);
+BENCHMARK(note)->Arg(5)->Iterations(4000)->Unit(benchmark::microsecond);
+BENCHMARK(note)->Arg(50)->Iterations(1000)->Unit(benchmark::microsecond);
+BENCHMARK(note)->Arg(5000)->Iterations(41)->Unit(benchmark::microsecond);
 
 struct LadderForm {
     const char* name;

@@ -93,7 +93,7 @@ void order_list(benchmark::State& state) {
             benchmark::Counter(leastOf(measured()[rows]) * 1e6 / rows);
     }
 }
-BENCHMARK(order_list)->Iterations(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(order_list)->Iterations(7)->Unit(benchmark::millisecond);
 
 }  // namespace
 

@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
     auto printers = tarn::printersOf(options);
     tarn::DeskApplication program(argc, argv);
     const tarn::bench::EndAtPaint end(QStringLiteral("FrmLogon"));
-    tarn::Mesa desk(program, options, std::move(printers));
+    tarn::Desk desk(program, options, std::move(printers));
     desk.open();
     return tarn::DeskApplication::exec() + 1;  // it should have ended at the paint
 }

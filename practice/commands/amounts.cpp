@@ -3,7 +3,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::int64_t kLargestWhole = 10'000'000'000'000;
+constexpr std::int64_t largestWhole = 10'000'000'000'000;
 
 }  // namespace
 
@@ -51,7 +51,7 @@ std::optional<std::int64_t> screenQuantity(std::string_view text) {
         } else if (c != '.' || afterComma || !digits) {
             return std::nullopt;
         }
-        if (whole > kLargestWhole) {
+        if (whole > largestWhole) {
             return std::nullopt;
         }
     }

@@ -7,7 +7,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array kFields = {Field{"FILIAL", "name"}, Field{"ID_ETB", "code"}};
+constexpr std::array fields = {Field{"FILIAL", "name"}, Field{"ID_ETB", "code"}};
 
 }  // namespace
 
@@ -21,7 +21,7 @@ Reply listNamedBranches(const Query& query, std::string_view companyKey, Command
     if (const auto* refusal = std::get_if<Refusal>(&user)) {
         return *refusal;
     }
-    return readRowset(context.database, kFields,
+    return readRowset(context.database, fields,
                       "FROM establishment WHERE company_id = ? ORDER BY id", {id});
 }
 

@@ -11,11 +11,11 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::size_t kLongestNumber = 15;  // characters, of number and series
-constexpr std::size_t kLongestPayee = 50;
-constexpr std::size_t kLongestPurpose = 250;
+constexpr std::size_t longestNumber = 15;  // characters, of number and series
+constexpr std::size_t longestPayee = 50;
+constexpr std::size_t longestPurpose = 250;
 
-constexpr std::array kAccountFields = {
+constexpr std::array accountFields = {
     Field{"ID_PES_BAN", "b.id"},
     Field{"BANCO", "b.name"},
     Field{"CD_AGE_BAN", "a.agency"},
@@ -51,7 +51,7 @@ Reply listAccounts(const Query& query, CommandContext& context) {
         return *refusal;
     }
     const Establishment& place = std::get<Issuer>(requested).establishment;
-    return readRowset(context.database, kAccountFields,
+    return readRowset(context.database, accountFields,
                       "FROM account a JOIN bank b ON b.id = a.bank_id"
                       " WHERE a.company_id = ? AND a.active = ?"
                       " AND (a.establishment_id IS NULL OR a.establishment_id = ?)"
@@ -76,11 +76,11 @@ OrRefusal<ChequeKey> requestedCheque(const Query& query, std::int64_t company) {
     const std::string number(trimBlanks(query.value("NR_CHE")));
     const std::string series = upperCase(trimBlanks(query.value("NR_SER")));
     const std::optional<std::int64_t> value = wholeNumber(number);
-    if (!value || number.size() > kLongestNumber) {
+    if (!value || number.size() > longestNumber) {
         return Refusal{"O número do cheque \"" + number +
                        "\" não é válido. Digite até 15 algarismos."};
     }
-    if (series.empty() || lengthOf(series) > kLongestNumber) {
+    if (series.empty() || lengthOf(series) > longestNumber) {
         return Refusal{"A série do cheque não é válida. Digite de 1 a 15 caracteres."};
     }
     return ChequeKey{company,
@@ -91,7 +91,7 @@ OrRefusal<ChequeKey> requestedCheque(const Query& query, std::int64_t company) {
                      series};
 }
 
-constexpr std::array kChequeFields = {
+constexpr std::array chequeFields = {
     Field{"ID_PES_BAN", "bank_id"}, Field{"CD_AGE_BAN", "agency"},
     Field{"NR_CCOR", "account"},    Field{"NR_CHE", "number"},
     Field{"NR_SER", "series"},      Field{"VL_CH", "amount", Format::Money},
@@ -99,7 +99,7 @@ constexpr std::array kChequeFields = {
     Field{"DC_OBS", "purpose"},
 };
 
-constexpr std::string_view kThisCheque =
+constexpr std::string_view thisCheque =
     "FROM cheque WHERE company_id = ? AND bank_id = ? AND agency = ? AND account = ?"
     " AND number = ? AND series = ?";
 
@@ -112,8 +112,7 @@ Reply findCheque(const Query& query, CommandContext& context) {
     if (const auto* refusal = std::get_if<Refusal>(&key)) {
         return *refusal;
     }
-    return readRowset(context.database, kChequeFields, kThisCheque,
-                      std::get<ChequeKey>(key).binds());
+    return readRowset(context.database, chequeFields, thisCheque, std::get<ChequeKey>(key).binds());
 }
 
 struct ChequeText {
@@ -133,7 +132,7 @@ OrRefusal<ChequeText> requestedText(const Query& query) {
         return Refusal{"A data para depósito não é válida. Digite a data como dd/mm/aaaa."};
     }
     ChequeText text{*cents, *deposit, query.value("DC_FAV"), query.value("DC_OBS")};
-    if (lengthOf(text.payee) > kLongestPayee || lengthOf(text.purpose) > kLongestPurpose) {
+    if (lengthOf(text.payee) > longestPayee || lengthOf(text.purpose) > longestPurpose) {
         return Refusal{
             "O favorecido passa de 50 caracteres ou a utilização de 250. "
             "Diminua o texto."};
@@ -200,7 +199,7 @@ Reply addCheque(const Query& query, CommandContext& context) {
     return statusAnswer();
 }
 
-constexpr std::array kCommands = {
+constexpr std::array commands = {
     Command{"sel_banco_agencia_conta", Shape::Rows, listAccounts},
     Command{"seleciona_um_controle_cheque_emitido", Shape::Rows, findCheque},
     Command{"adiciona_controle_cheque_emitido", Shape::Status, addCheque},
@@ -209,7 +208,7 @@ constexpr std::array kCommands = {
 }  // namespace
 
 std::span<const Command> chequeCommands() {
-    return kCommands;
+    return commands;
 }
 
 }  // namespace tarn::practice

@@ -7,12 +7,12 @@
 namespace tarn::practice {
 
 // Kinds of document, as the desk knows them.
-constexpr int kBillKind = 1;
-constexpr int kReceiptKind = 12;
+constexpr int billKind = 1;
+constexpr int receiptKind = 12;
 
 // The tables of a document: d itself, e its establishment, c the customer, a and b
 // the customer's own and billing address, k the kind.
-inline constexpr std::string_view kDocumentTables =
+inline constexpr std::string_view documentTables =
     "FROM document d JOIN establishment e ON e.id = d.establishment_id"
     " JOIN document_kind k ON k.id = d.kind_id"
     " JOIN customer c ON c.id = d.customer_id"

@@ -9,7 +9,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array kBranchFields = {
+constexpr std::array branchFields = {
     Field{"SG_FIL", "short_name"},
     Field{"ID_ETB_TARN", "code"},
 };
@@ -24,11 +24,11 @@ Reply listBranches(const Query& query, CommandContext& context) {
     if (const auto* refusal = std::get_if<Refusal>(&user)) {
         return *refusal;
     }
-    return readRowset(context.database, kBranchFields,
+    return readRowset(context.database, branchFields,
                       "FROM establishment WHERE company_id = ? ORDER BY id", {id});
 }
 
-constexpr std::array kBillFields = {
+constexpr std::array billFields = {
     Field{"SG_FIL", "e.short_name"},
     Field{"DT_VNC_DOC_FMA", "d.due_on", Format::Date},
     Field{"DT_EMS_DOC", "d.issued_on", Format::Date},
@@ -64,13 +64,13 @@ Reply findBills(const Query& query, CommandContext& context) {
         return Refusal{"Tipo de documento inválido na pesquisa. Escolha o tipo na lista."};
     }
     conditions.addAnyOf("d.kind_id", *kinds);
-    return readRowset(context.database, kBillFields,
-                      std::string(kDocumentTables) + "WHERE " + conditions.sql() +
+    return readRowset(context.database, billFields,
+                      std::string(documentTables) + "WHERE " + conditions.sql() +
                           " ORDER BY d.due_on, d.establishment_id, d.kind_id, d.number",
                       conditions.binds());
 }
 
-constexpr std::array kCustomerFields = {
+constexpr std::array customerFields = {
     Field{"NM_PES_CPL", "name"},
     Field{"DC_TIP_EMP",
           "CASE natural_person WHEN 1 THEN 'PESSOA FÍSICA' ELSE 'PESSOA JURÍDICA' END"},
@@ -101,13 +101,13 @@ Reply findCustomers(const Query& query, CommandContext& context) {
     if (wanted.empty()) {
         return Refusal{"O nome do cliente não foi informado. Digite parte do nome."};
     }
-    return readRowset(context.database, kCustomerFields,
+    return readRowset(context.database, customerFields,
                       "FROM customer WHERE company_id = ? AND search_name LIKE ? ESCAPE '!'"
                       " ORDER BY search_name, id",
                       {std::get<std::int64_t>(company), anywhere(wanted)});
 }
 
-constexpr std::array kCommands = {
+constexpr std::array commands = {
     Command{"sel_filiais", Shape::Rows, listBranches},
     Command{"sel_duplicata", Shape::Rows, findBills},
     Command{"Sel_Cliente", Shape::Rows, findCustomers},
@@ -116,7 +116,7 @@ constexpr std::array kCommands = {
 }  // namespace
 
 std::span<const Command> documentCommands() {
-    return kCommands;
+    return commands;
 }
 
 }  // namespace tarn::practice

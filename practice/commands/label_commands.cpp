@@ -10,10 +10,10 @@
 namespace tarn::practice {
 namespace {
 
-constexpr int kDaysKept = 15;  // what waits longer is gone
-constexpr double kLargestSequence = 1e15;
+constexpr int daysKept = 15;  // what waits longer is gone
+constexpr double largestSequence = 1e15;
 
-constexpr std::array kLabelFields = {
+constexpr std::array labelFields = {
     Field{"SEQUENCIAL", "l.sequence"},
     Field{"CEP", "l.postal_code"},
     Field{"NOME", "l.name"},
@@ -39,12 +39,12 @@ std::optional<double> rangeEnd(const std::string& text, double whenEmpty) {
         return whenEmpty;
     }
     const std::optional<double> value = parseComma(text);
-    return value && std::abs(*value) <= kLargestSequence ? value : std::nullopt;
+    return value && std::abs(*value) <= largestSequence ? value : std::nullopt;
 }
 
 OrRefusal<Sequences> requestedSequences(const Query& query) {
     const auto from = rangeEnd(query.value("nSeq_De"), 0);
-    const auto to = rangeEnd(query.value("nSeq_Ate"), kLargestSequence);
+    const auto to = rangeEnd(query.value("nSeq_Ate"), largestSequence);
     if (!from || !to) {
         return Refusal{"O intervalo de etiquetas não é válido. Digite os seqüenciais da lista."};
     }
@@ -64,22 +64,22 @@ Reply listLabels(const Query& query, CommandContext& context) {
     }
     const auto& [from, to] = std::get<Sequences>(range);
     return readRowset(
-        context.database, kLabelFields,
+        context.database, labelFields,
         "FROM label l JOIN label_reason r ON r.company_id = l.company_id AND r.id = l.reason_id"
         " WHERE l.company_id = ? AND r.description = ? AND l.sequence >= ? AND l.sequence <= ?"
         " AND l.queued_on >= ? ORDER BY l.sequence",
         {std::get<std::int64_t>(company), query.value("sDc_Mot_Imp"), from, to,
-         context.today.addDays(-kDaysKept)});
+         context.today.addDays(-daysKept)});
 }
 
-constexpr std::array kReasonFields = {Field{"DC_MOT_IMP", "description"}};
+constexpr std::array reasonFields = {Field{"DC_MOT_IMP", "description"}};
 
 Reply listReasons(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "ID_EMP_TARN", context);
     if (const auto* refusal = std::get_if<Refusal>(&company)) {
         return *refusal;
     }
-    return readRowset(context.database, kReasonFields,
+    return readRowset(context.database, reasonFields,
                       "FROM label_reason WHERE company_id = ? AND kind = ? ORDER BY id",
                       {std::get<std::int64_t>(company), query.value("sIc_Ver_Eti")});
 }
@@ -112,7 +112,7 @@ Reply listSenders(const Query& query, CommandContext& context) {
     return listNamedBranches(query, "ID_EMP_TARN", context);
 }
 
-constexpr std::array kSenderFields = {
+constexpr std::array senderFields = {
     Field{"NOME", "legal_name"},
     Field{"ENDERECO", "street"},
     Field{"NUMERO", "street_number"},
@@ -132,17 +132,17 @@ Reply senderData(const Query& query, CommandContext& context) {
     const std::int64_t id = std::get<std::int64_t>(company);
     const std::optional<std::int64_t> code = wholeNumber(query.value("nId_Etb_Tarn"));
     if (code == 0) {
-        return readRowset(context.database, kSenderFields,
+        return readRowset(context.database, senderFields,
                           "FROM establishment WHERE id = (SELECT MIN(id) FROM establishment WHERE "
                           "company_id = ?)",
                           {id});
     }
-    return readRowset(context.database, kSenderFields,
+    return readRowset(context.database, senderFields,
                       "FROM establishment WHERE company_id = ? AND code = ?",
                       {id, code.value_or(-1)});
 }
 
-constexpr std::array kCommands = {
+constexpr std::array commands = {
     Command{"sel_etiquetas", Shape::Rows, listLabels},
     Command{"sel_motivos", Shape::Rows, listReasons},
     Command{"sel_filiais_remetente", Shape::Rows, listSenders},
@@ -153,7 +153,7 @@ constexpr std::array kCommands = {
 }  // namespace
 
 std::span<const Command> labelCommands() {
-    return kCommands;
+    return commands;
 }
 
 }  // namespace tarn::practice

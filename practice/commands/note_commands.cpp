@@ -98,7 +98,7 @@ void insertSaleOf(CommandContext& context, const NoteKey& key, const Order& orde
         " JOIN note_parcel p ON p.establishment_id = n.establishment_id"
         " AND p.series_code = n.series_code AND p.number = n.number"
         " WHERE n.establishment_id = ? AND n.series_code = ? AND n.number = ?",
-        {kBillKind, std::to_string(key.number), key.establishment, key.series, key.number});
+        {billKind, std::to_string(key.number), key.establishment, key.series, key.number});
     for (const OrderItem& item : order.items) {
         context.database.execute(
             "INSERT INTO sale (customer_id, product_id, sold_on, quantity, amount, order_id)"
@@ -199,7 +199,7 @@ Reply fetchNote(const Query& query, CommandContext& context) {
     return std::move(*document);
 }
 
-constexpr std::array kNoteFields = {
+constexpr std::array noteFields = {
     Field{"DC_TIP_NF", "o.note_kind_text"},
     Field{"IC_TIP_NF", "o.note_kind"},
     Field{"DT_EMS_NF", "n.issued_on", Format::Date},
@@ -212,7 +212,7 @@ Reply findNote(const Query& query, CommandContext& context) {
         return *refusal;
     }
     const auto& key = std::get<NoteKey>(requested);
-    return readRowset(context.database, kNoteFields,
+    return readRowset(context.database, noteFields,
                       "FROM note n JOIN billing_order o ON o.id = n.order_id"
                       " JOIN customer c ON c.id = o.customer_id"
                       " WHERE n.establishment_id = ? AND n.series_code = ? AND n.number = ?"
@@ -279,7 +279,7 @@ Reply cancelNote(const Query& query, CommandContext& context) {
     return statusAnswer();
 }
 
-constexpr std::array kSeriesFields = {
+constexpr std::array seriesFields = {
     Field{"DC_SER_NF", "s.description"},
     Field{"CD_SER_NF", "s.code"},
 };
@@ -289,13 +289,13 @@ Reply listSeries(const Query& query, CommandContext& context) {
     if (const auto* refusal = std::get_if<Refusal>(&company)) {
         return *refusal;
     }
-    return readRowset(context.database, kSeriesFields,
+    return readRowset(context.database, seriesFields,
                       "FROM series s JOIN establishment e ON e.id = s.establishment_id"
                       " WHERE e.company_id = ? GROUP BY s.description, s.code ORDER BY s.code",
                       {std::get<std::int64_t>(company)});
 }
 
-constexpr std::array kReasonFields = {
+constexpr std::array reasonFields = {
     Field{"DC_MOT_CAN", "description"},
     Field{"ID_MOT_CAN", "id"},
 };
@@ -305,12 +305,12 @@ Reply listReasons(const Query& query, CommandContext& context) {
     if (const auto* refusal = std::get_if<Refusal>(&establishment)) {
         return *refusal;
     }
-    return readRowset(context.database, kReasonFields,
+    return readRowset(context.database, reasonFields,
                       "FROM cancel_reason WHERE company_id = ? ORDER BY id",
                       {std::get<Establishment>(establishment).company});
 }
 
-constexpr std::array kCommands = {
+constexpr std::array commands = {
     Command{"SP_GERA_NF", Shape::Status, generateNote},
     Command{"sel_gera_nf", Shape::Document, fetchNote},
     Command{"SEL_NF", Shape::Rows, findNote},
@@ -322,7 +322,7 @@ constexpr std::array kCommands = {
 }  // namespace
 
 std::span<const Command> noteCommands() {
-    return kCommands;
+    return commands;
 }
 
 }  // namespace tarn::practice

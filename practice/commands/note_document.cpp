@@ -10,7 +10,7 @@ namespace tarn::practice {
 namespace {
 
 // Amounts are looked up in upper case and texts as spelled here.
-constexpr std::array kHeadFields = {
+constexpr std::array headFields = {
     Field{"Ent_Sai", "CASE o.entry WHEN 1 THEN 'E' ELSE 'S' END"},
     Field{"NatOper", "o.operation"},
     Field{"CFOP", "o.cfop"},
@@ -60,9 +60,9 @@ constexpr std::array kHeadFields = {
 };
 
 // Column layout of the head query: the order, the form's two counts, the fields.
-constexpr int kFirstHeadField = 3;
+constexpr int firstHeadField = 3;
 
-constexpr std::string_view kHeadTables =
+constexpr std::string_view headTables =
     " FROM note n JOIN billing_order o ON o.id = n.order_id"
     " JOIN establishment e ON e.id = n.establishment_id"
     " JOIN customer c ON c.id = o.customer_id"
@@ -137,14 +137,14 @@ Element itemRow(const Order& order, const OrderItem& item) {
 
 std::optional<Element> noteDocument(Database& database, const NoteKey& key) {
     Rows rows = database.select("SELECT o.id, e.item_lines, e.service_lines, " +
-                                    selectList(kHeadFields) + std::string(kHeadTables),
+                                    selectList(headFields) + std::string(headTables),
                                 {key.establishment, key.series, key.number});
     if (!rows.next()) {
         return std::nullopt;
     }
     const std::optional<Order> order = loadOrder(database, key.establishment, rows.integer(0));
     Element head{"NOTA", {}, {}};
-    setFields(head, rows, kHeadFields, kFirstHeadField);
+    setFields(head, rows, headFields, firstHeadField);
     addParcels(head, database, key);
     Element form{"FORMULARIO", {}, {}};
     form.set("QT_MAX_IT", rows.text(1)).set("QT_MAX_IT_NF_SRV", rows.nullableText(2));

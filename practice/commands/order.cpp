@@ -7,7 +7,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::int64_t kWholeRate = 10000;  // 100 percent
+constexpr std::int64_t wholeRate = 10000;  // 100 percent
 
 std::vector<OrderItem> loadItems(Database& database, std::int64_t orderId) {
     Rows rows = database.select(
@@ -62,7 +62,7 @@ std::int64_t OrderItem::ipi() const {
 
 std::int64_t OrderItem::withheldBase() const {
     return service || withheldMargin == 0 ? 0
-                                          : percentOf(net() + ipi(), kWholeRate + withheldMargin);
+                                          : percentOf(net() + ipi(), wholeRate + withheldMargin);
 }
 
 std::int64_t OrderItem::withheld() const {

@@ -11,10 +11,10 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::int64_t kLargestQuantity = 9'999'999'999;  // 9.999.999,999
-constexpr std::size_t kLargestObservation = 500;          // characters
+constexpr std::int64_t largestQuantity = 9'999'999'999;  // 9.999.999,999
+constexpr std::size_t largestObservation = 500;          // characters
 
-constexpr std::array kListFields = {
+constexpr std::array listFields = {
     Field{"ID_ORD_FAT", "o.id"},
     Field{"NM_PES_CPL", "c.name"},
     Field{"NM_RDU", "e.short_name"},
@@ -69,7 +69,7 @@ Reply listOrders(const Query& query, CommandContext& context) {
     if (const auto* refusal = std::get_if<Refusal>(&establishment)) {
         return *refusal;
     }
-    return readRowset(context.database, kListFields,
+    return readRowset(context.database, listFields,
                       "FROM billing_order o JOIN customer c ON c.id = o.customer_id"
                       " JOIN establishment e ON e.id = o.establishment_id"
                       " LEFT JOIN carrier t ON t.id = o.carrier_id"
@@ -124,16 +124,16 @@ Reply stockObservation(const Query& query, CommandContext& context) {
 
 // The three screen amounts in thousandths, in the order of the catalogue.
 OrRefusal<std::array<std::int64_t, 3>> typedQuantities(const Query& query) {
-    constexpr std::array<std::pair<std::string_view, std::string_view>, 3> kQuantities = {{
+    constexpr std::array<std::pair<std::string_view, std::string_view>, 3> quantityFields = {{
         {"QT_ESP", "Quantidade Espécie"},
         {"PESO_BRU", "Peso Bruto"},
         {"PESO_LIQ", "Peso Líquido"},
     }};
     std::array<std::int64_t, 3> values{};
-    for (std::size_t i = 0; i < kQuantities.size(); ++i) {
-        const auto value = screenQuantity(query.value(kQuantities[i].first));
-        if (!value || *value > kLargestQuantity) {
-            return Refusal{std::string(kQuantities[i].second) +
+    for (std::size_t i = 0; i < quantityFields.size(); ++i) {
+        const auto value = screenQuantity(query.value(quantityFields[i].first));
+        if (!value || *value > largestQuantity) {
+            return Refusal{std::string(quantityFields[i].second) +
                            " sem valor válido. Digite um valor de 0,000 a 9.999.999,999."};
         }
         values[i] = *value;
@@ -151,7 +151,7 @@ Reply maintainOrder(const Query& query, CommandContext& context) {
         return *refusal;
     }
     const std::string observation = undoBars(query.value("DC_OBS"));
-    if (lengthOf(observation) > kLargestObservation) {
+    if (lengthOf(observation) > largestObservation) {
         return Refusal{"A observação passa de 500 caracteres. Diminua o texto."};
     }
     const auto& order = std::get<RequestedOrder>(requested);
@@ -169,7 +169,7 @@ Reply maintainOrder(const Query& query, CommandContext& context) {
     return statusAnswer();
 }
 
-constexpr std::array kSheetFields = {
+constexpr std::array sheetFields = {
     Field{"RAZAO", "c.name"},
     Field{"DT_EMS_NF", "o.generated_on", Format::Date},
     Field{"VENDEDOR", "o.salesman"},
@@ -205,7 +205,7 @@ Reply orderSheet(const Query& query, CommandContext& context) {
     }
     const auto& wanted = std::get<RequestedOrder>(requested);
     Rows rows = context.database.select(
-        "SELECT " + selectList(kSheetFields) +
+        "SELECT " + selectList(sheetFields) +
             " FROM billing_order o JOIN customer c ON c.id = o.customer_id WHERE o.id = ?",
         {wanted.id});
     const auto order = loadOrder(context.database, wanted.establishment.id, wanted.id);
@@ -213,7 +213,7 @@ Reply orderSheet(const Query& query, CommandContext& context) {
         return notOpen(wanted);
     }
     Element head{"ORDEM", {}, {}};
-    setFields(head, rows, kSheetFields);
+    setFields(head, rows, sheetFields);
     Element root = documentAnswer();
     root.add(std::move(head));
     addSheetItems(root, *order);
@@ -225,7 +225,7 @@ Reply orderSheet(const Query& query, CommandContext& context) {
     return root;
 }
 
-constexpr std::array kCommands = {
+constexpr std::array commands = {
     Command{"sel_ordem_fatu", Shape::Rows, listOrders},
     Command{"sp_can_oft", Shape::Status, cancelOrder},
     Command{"Seleciona_Obs_Vnd_X_Ord", Shape::Status, saleObservation},
@@ -237,7 +237,7 @@ constexpr std::array kCommands = {
 }  // namespace
 
 std::span<const Command> orderCommands() {
-    return kCommands;
+    return commands;
 }
 
 }  // namespace tarn::practice

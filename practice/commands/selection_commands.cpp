@@ -14,16 +14,16 @@ Reply listBranches(const Query& query, CommandContext& context) {
     return listNamedBranches(query, "nId_Emp_Tarn", context);
 }
 
-constexpr std::array kCountryFields = {Field{"NM_PAIS", "name"}, Field{"ID_PAIS", "id"}};
-constexpr std::array kStateFields = {Field{"NM_UF", "name"}, Field{"ID_UF", "id"}};
-constexpr std::array kCityFields = {Field{"NM_MUN", "name"}, Field{"ID_MUN", "id"}};
+constexpr std::array countryFields = {Field{"NM_PAIS", "name"}, Field{"ID_PAIS", "id"}};
+constexpr std::array stateFields = {Field{"NM_UF", "name"}, Field{"ID_UF", "id"}};
+constexpr std::array cityFields = {Field{"NM_MUN", "name"}, Field{"ID_MUN", "id"}};
 
 Reply listCountries(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, context);
     if (const auto* refusal = std::get_if<Refusal>(&company)) {
         return *refusal;
     }
-    return readRowset(context.database, kCountryFields, "FROM country ORDER BY name", {});
+    return readRowset(context.database, countryFields, "FROM country ORDER BY name", {});
 }
 
 Reply listStates(const Query& query, CommandContext& context) {
@@ -31,7 +31,7 @@ Reply listStates(const Query& query, CommandContext& context) {
     if (const auto* refusal = std::get_if<Refusal>(&company)) {
         return *refusal;
     }
-    return readRowset(context.database, kStateFields,
+    return readRowset(context.database, stateFields,
                       "FROM state WHERE country_id = ? ORDER BY name, id",
                       {wholeNumber(query.value("Pais")).value_or(-1)});
 }
@@ -41,22 +41,22 @@ Reply listCities(const Query& query, CommandContext& context) {
     if (const auto* refusal = std::get_if<Refusal>(&company)) {
         return *refusal;
     }
-    return readRowset(context.database, kCityFields,
+    return readRowset(context.database, cityFields,
                       "FROM city WHERE state_id = ? ORDER BY name, id",
                       {wholeNumber(query.value("Estado")).value_or(-1)});
 }
 
-constexpr std::array kAddresseeFields = {
+constexpr std::array addresseeFields = {
     Field{"CD_CEP", "a.postal_code"}, Field{"NM_PES_CPL", "c.name"}, Field{"DC_LG_CPL", "a.street"},
     Field{"NM_BRR", "a.district"},    Field{"SG_UF", "a.state"},     Field{"NM_MUN", "a.town"},
 };
 
-constexpr std::string_view kAddresseeTables =
+constexpr std::string_view addresseeTables =
     "FROM customer c JOIN customer_address a ON a.customer_id = c.id AND a.kind = 'P'"
     " JOIN establishment e ON e.id = c.establishment_id"
     " JOIN city m ON m.id = a.city_id JOIN state u ON u.id = m.state_id WHERE ";
-constexpr std::string_view kSaleTables = "sale s JOIN product p ON p.id = s.product_id";
-constexpr std::string_view kPostalCode = "CAST(a.postal_code AS BIGINT)";
+constexpr std::string_view saleTables = "sale s JOIN product p ON p.id = s.product_id";
+constexpr std::string_view postalCode = "CAST(a.postal_code AS BIGINT)";
 
 // A key left out, or with nothing behind it, restricts nothing.
 void addPlace(Conditions& conditions, std::string_view sql, const std::string& text) {
@@ -76,7 +76,7 @@ void addSales(Conditions& conditions, const Query& query) {
     sale.addMoney("s.amount", query, "nVlrDe", "nVlrAte");
     sale.addQuantities("s.quantity", query, "nQtDe", "nQtAte");
     if (!sale.binds().empty() || !sale.readable()) {
-        conditions.addExists(kSaleTables, sale);
+        conditions.addExists(saleTables, sale);
     }
 }
 
@@ -94,20 +94,20 @@ Reply findAddressees(const Query& query, CommandContext& context) {
     addPlace(conditions, "u.country_id = ?", query.value("nIdPais"));
     addPlace(conditions, "u.id = ?", query.value("nIdUf"));
     addPlace(conditions, "m.id = ?", query.value("nIdMun"));
-    conditions.addNumbers(kPostalCode, query, "nCepDe", "nCepAte");
+    conditions.addNumbers(postalCode, query, "nCepDe", "nCepAte");
     addSales(conditions, query);
     if (!conditions.readable()) {
         return Refusal{"Um dos filtros da pesquisa não é válido. Confira datas e valores."};
     }
     const std::string order = query.value("nIdOrd") == "CEP"
-                                  ? std::string(kPostalCode) + ", c.search_name, c.id"
+                                  ? std::string(postalCode) + ", c.search_name, c.id"
                                   : "c.search_name, c.id";
-    return readRowset(context.database, kAddresseeFields,
-                      std::string(kAddresseeTables) + conditions.sql() + " ORDER BY " + order,
+    return readRowset(context.database, addresseeFields,
+                      std::string(addresseeTables) + conditions.sql() + " ORDER BY " + order,
                       conditions.binds());
 }
 
-constexpr std::array kCommands = {
+constexpr std::array commands = {
     Command{"sel_filias", Shape::Rows, listBranches},
     Command{"sel_pais", Shape::Rows, listCountries},
     Command{"sel_estado", Shape::Rows, listStates},
@@ -118,7 +118,7 @@ constexpr std::array kCommands = {
 }  // namespace
 
 std::span<const Command> selectionCommands() {
-    return kCommands;
+    return commands;
 }
 
 }  // namespace tarn::practice

@@ -10,14 +10,14 @@ namespace tarn::practice {
 namespace {
 
 // The desk's oldest version that is still admitted.
-const QDate kCurrentVersion(2009, 1, 7);
+const QDate currentVersion(2009, 1, 7);
 
 struct Right {
     std::string_view code;
     std::string_view name;
 };
 
-constexpr std::array kRights = {
+constexpr std::array rights = {
     Right{"EMI001", "Impressão de Nota Fiscal"},
     Right{"EMI002", "Reimpressão de Nota Fiscal"},
     Right{"EMI003", "Cancelamento de Nota Fiscal"},
@@ -27,8 +27,8 @@ constexpr std::array kRights = {
 Reply version(const Query& query, CommandContext&) {
     const QDate sent =
         QDate::fromString(QString::fromStdString(query.value("Versao")), "dd/MM/yyyy");
-    const bool admitted = sent.isValid() && sent >= kCurrentVersion;
-    return versionAnswer(admitted ? "OK" : "Versão desatualizada", dayText(kCurrentVersion));
+    const bool admitted = sent.isValid() && sent >= currentVersion;
+    return versionAnswer(admitted ? "OK" : "Versão desatualizada", dayText(currentVersion));
 }
 
 Reply logon(const Query& query, CommandContext& context) {
@@ -75,7 +75,7 @@ Reply checkRight(const Query& query, CommandContext& context) {
         return statusAnswer();
     }
     std::string name;
-    for (const Right& known : kRights) {
+    for (const Right& known : rights) {
         if (known.code == right) {
             name = " (" + std::string(known.name) + ")";
         }
@@ -84,7 +84,7 @@ Reply checkRight(const Query& query, CommandContext& context) {
                    ". Peça o acesso ao administrador do sistema."};
 }
 
-constexpr std::array kEstablishmentFields = {
+constexpr std::array establishmentFields = {
     Field{"ID_ETB_TARN", "code"},
     Field{"NM_FIL", "name"},
     Field{"NM_RDU", "short_name"},
@@ -109,11 +109,11 @@ Reply establishmentData(const Query& query, CommandContext& context) {
     if (const auto* refusal = std::get_if<Refusal>(&establishment)) {
         return *refusal;
     }
-    return readRowset(context.database, kEstablishmentFields, "FROM establishment WHERE id = ?",
+    return readRowset(context.database, establishmentFields, "FROM establishment WHERE id = ?",
                       {std::get<Establishment>(establishment).id});
 }
 
-constexpr std::array kCommands = {
+constexpr std::array commands = {
     Command{"VERSAO_TARN_EMISSAO", Shape::Version, version},
     Command{"LOGIN", Shape::Document, logon},
     Command{"verifica_direito_acesso", Shape::Status, checkRight},
@@ -123,7 +123,7 @@ constexpr std::array kCommands = {
 }  // namespace
 
 std::span<const Command> sessionCommands() {
-    return kCommands;
+    return commands;
 }
 
 }  // namespace tarn::practice

@@ -8,9 +8,9 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::size_t kLongestSlipNumber = 20;  // digits
+constexpr std::size_t longestSlipNumber = 20;  // digits
 
-constexpr std::array kSlipFields = {
+constexpr std::array slipFields = {
     Field{"SG_FIL", "e.short_name"},
     Field{"DT_VNC_DOC_FMA", "d.due_on", Format::Date},
     Field{"DC_TIP_DOC", "k.description"},
@@ -48,19 +48,19 @@ Reply findSlipDocuments(const Query& query, CommandContext& context) {
         return *refusal;
     }
     auto& conditions = std::get<Conditions>(search);
-    conditions.add("d.kind_id <> ?", kReceiptKind);
+    conditions.add("d.kind_id <> ?", receiptKind);
     if (query.value("IC_INC_CAR") == "S") {
         conditions.add("d.portfolio_id IS NULL");
     } else {
         conditions.add("d.portfolio_id = ?", wholeNumber(query.value("ID_CRT_COB")).value_or(-1));
     }
-    return readRowset(context.database, kSlipFields,
-                      std::string(kDocumentTables) + "WHERE " + conditions.sql() +
+    return readRowset(context.database, slipFields,
+                      std::string(documentTables) + "WHERE " + conditions.sql() +
                           " ORDER BY d.due_on, d.establishment_id, d.kind_id, d.number",
                       conditions.binds());
 }
 
-constexpr std::array kPortfolioListFields = {
+constexpr std::array portfolioListFields = {
     Field{"DC_CRT_COB", "description"},
     Field{"ID_CRT_COB", "id"},
 };
@@ -70,12 +70,12 @@ Reply listPortfolios(const Query& query, CommandContext& context) {
     if (const auto* refusal = std::get_if<Refusal>(&company)) {
         return *refusal;
     }
-    return readRowset(context.database, kPortfolioListFields,
+    return readRowset(context.database, portfolioListFields,
                       "FROM portfolio WHERE company_id = ? ORDER BY id",
                       {std::get<std::int64_t>(company)});
 }
 
-constexpr std::array kPortfolioFields = {
+constexpr std::array portfolioFields = {
     Field{"ID_CRT_COB", "id"},          Field{"DC_CRT_COB", "description"},
     Field{"ID_PES_BAN", "bank_id"},     Field{"NR_CRT_CNAB", "wallet"},
     Field{"CD_AGE_BAN_CNAB", "agency"}, Field{"NR_CCOR_CNAB", "account"},
@@ -87,7 +87,7 @@ Reply portfolioRecord(const Query& query, CommandContext& context) {
         return *refusal;
     }
     return readRowset(
-        context.database, kPortfolioFields, "FROM portfolio WHERE company_id = ? AND id = ?",
+        context.database, portfolioFields, "FROM portfolio WHERE company_id = ? AND id = ?",
         {std::get<std::int64_t>(company), wholeNumber(query.value("ID_CRT_COB")).value_or(-1)});
 }
 
@@ -120,7 +120,7 @@ OrRefusal<Conditions> receivableDocument(const Query& query, CommandContext& con
 // The desk lets a comma through, and sends the number as it was typed.
 OrRefusal<std::string> slipNumber(const Query& query) {
     const std::string& number = query.value("NR_BOL_BANC");
-    if (number.empty() || number.size() > kLongestSlipNumber ||
+    if (number.empty() || number.size() > longestSlipNumber ||
         number.find_first_not_of("0123456789,") != std::string::npos) {
         return Refusal{"O número do boleto bancário \"" + number +
                        "\" não é válido. Digite só algarismos."};
@@ -227,7 +227,7 @@ Reply enterReceivable(const Query& query, CommandContext& context) {
     return enterPortfolio(query, context, receivableDocument(query, context));
 }
 
-constexpr std::array kCommands = {
+constexpr std::array commands = {
     Command{"sel_boleto", Shape::Rows, findSlipDocuments},
     Command{"sel_carteira", Shape::Rows, listPortfolios},
     Command{"sel_carteira_cob", Shape::Rows, portfolioRecord},
@@ -240,7 +240,7 @@ constexpr std::array kCommands = {
 }  // namespace
 
 std::span<const Command> slipCommands() {
-    return kCommands;
+    return commands;
 }
 
 }  // namespace tarn::practice

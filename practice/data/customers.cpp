@@ -9,14 +9,14 @@
 namespace tarn::practice {
 namespace {
 
-constexpr int kManyCompany = 1361;
-constexpr int kManyCustomers = 900;  // of that company; their numbers end at 999 of its thousand
-constexpr int kSomeCustomers = 60;   // of every other one
+constexpr int manyCompany = 1361;
+constexpr int manyCustomers = 900;  // of that company; their numbers end at 999 of its thousand
+constexpr int someCustomers = 60;   // of every other one
 
-constexpr std::string_view kCustomerColumns =
+constexpr std::string_view customerColumns =
     "id, company_id, establishment_id, name, search_name, external_code, natural_person,"
     " tax_number, state_registration, telephone, credit_blocked";
-constexpr std::string_view kAddressColumns =
+constexpr std::string_view addressColumns =
     "customer_id, kind, street, complement, district, postal_code, town, state, city_id";
 
 // The establishment that serves a customer.
@@ -26,7 +26,7 @@ int branchOf(const Branches& branches, int customer) {
 
 void insertToldAddress(Database& database, int customer, const char* kind, const AddressRow& row) {
     if (row.street != nullptr) {
-        database.insert("customer_address", kAddressColumns,
+        database.insert("customer_address", addressColumns,
                         {customer, kind, row.street, row.complement, row.district, row.postalCode,
                          row.town, row.state, cityId(row.town, row.state)});
     }
@@ -46,7 +46,7 @@ void takeStreet(PracticeCustomer& customer, const std::string& line) {
 PracticeCustomer insertTold(Database& database, int company, int id, const CustomerRow& row,
                             const Branches& branches) {
     database.insert(
-        "customer", kCustomerColumns,
+        "customer", customerColumns,
         {id, company, branchOf(branches, id), row.name, searchName(row.name),
          "C" + std::to_string(id), row.naturalPerson ? 1 : 0,
          row.naturalPerson ? personTaxNumber(row.taxBase) : companyTaxNumber(row.taxBase),
@@ -69,7 +69,7 @@ void insertDrawnAddress(Database& database, int customer, const char* kind,
                         const DrawnAddress& address) {
     const TownRow& town = townRows()[static_cast<std::size_t>(address.city) - 1];
     database.insert(
-        "customer_address", kAddressColumns,
+        "customer_address", addressColumns,
         {customer, kind, addressLine(address.street, address.number), address.complement,
          address.district, address.postalCode, town.name, stateOf(town).code, address.city});
 }
@@ -93,7 +93,7 @@ PracticeCustomer insertDrawn(Database& database, int company, int id, const Bran
     const std::string tax = drawnTaxNumber(person, dice);
     const std::string registration = std::to_string(dice.between(100000000, 999999999));
     const std::string telephone = drawnTelephone(dice);
-    database.insert("customer", kCustomerColumns,
+    database.insert("customer", customerColumns,
                     {id, company, branchOf(branches, id), name, searchName(name),
                      id % 3 == 0 ? Bind(std::nullopt) : Bind("C" + std::to_string(id)),
                      person ? 1 : 0, tax, person ? Bind(std::nullopt) : Bind(registration),
@@ -125,7 +125,7 @@ std::vector<PracticeCustomer> insertCustomers(Database& database, const CompanyR
         customers.push_back(
             insertTold(database, company.id, customerId(index, row++), told, branches));
     }
-    const int drawn = company.id == kManyCompany ? kManyCustomers : kSomeCustomers;
+    const int drawn = company.id == manyCompany ? manyCustomers : someCustomers;
     for (int i = 0; i < drawn; ++i) {
         customers.push_back(
             insertDrawn(database, company.id, customerId(index, row++), branches, dice));

@@ -9,32 +9,32 @@
 namespace tarn::practice {
 namespace {
 
-constexpr int kManyCompany = 1361;
-constexpr int kManyDocuments = 700;  // of each of its establishments
-constexpr int kSomeDocuments = 50;   // of every other one
-constexpr int kParcels = 3;          // of a note
-constexpr int kFirstNote = 101;      // the notes that the server makes begin above 1000
-constexpr int kFirstControl = 500001;
+constexpr int manyCompany = 1361;
+constexpr int manyDocuments = 700;  // of each of its establishments
+constexpr int someDocuments = 50;   // of every other one
+constexpr int parcels = 3;          // of a note
+constexpr int firstNote = 101;      // the notes that the server makes begin above 1000
+constexpr int firstControl = 500001;
 
 // Kinds in the order in which they come up; bills are the most.
-constexpr std::array kKindTurns = {1, 1,   12,  1, 201, 1, 341, 1,  202, 12,
-                                   1, 203, 342, 1, 262, 1, 361, 12, 1,   1};
+constexpr std::array kindTurns = {1, 1,   12,  1, 201, 1, 341, 1,  202, 12,
+                                  1, 203, 342, 1, 262, 1, 361, 12, 1,   1};
 
 // Charges in the order in which they come up: every pair of some and none.
 struct Charges {
     int fineRate;       // hundredths of a percent
     int dailyInterest;  // cents
 };
-constexpr std::array kChargeTurns = {Charges{200, 33}, Charges{200, 0}, Charges{0, 150},
-                                     Charges{0, 0}, Charges{1050, 1234}};
+constexpr std::array chargeTurns = {Charges{200, 33}, Charges{200, 0}, Charges{0, 150},
+                                    Charges{0, 0}, Charges{1050, 1234}};
 
-constexpr std::array kDueDays = {0, 15, 28, 30, 42, 45, 60, 90};
+constexpr std::array dueDays = {0, 15, 28, 30, 42, 45, 60, 90};
 
 // Lengths of the instruction text: short, as long as one line of a slip, as two,
 // three and four lines, and beyond.
-constexpr std::array kReferenceLengths = {0, 40, 79, 80, 158, 237, 316, 380};
+constexpr std::array referenceLengths = {0, 40, 79, 80, 158, 237, 316, 380};
 
-constexpr const char* kReference =
+constexpr const char* reference =
     "PROTESTAR APÓS 5 DIAS DO VENCIMENTO. NÃO RECEBER DEPOIS DE 30 DIAS. TÍTULO SUJEITO A "
     "REGISTRO. MERCADORIA ENTREGUE CONFORME CANHOTO ASSINADO EM PODER DO CEDENTE. DÚVIDAS SOBRE "
     "ESTA COBRANÇA PELO TELEFONE (11) 5555-0100, DAS 8:00 ÀS 17:30, OU NA LOJA ONDE A COMPRA FOI "
@@ -47,9 +47,9 @@ T turn(const std::array<T, N>& turns, int i) {
 }
 
 Bind referenceText(int i) {
-    const int length = turn(kReferenceLengths, i);
+    const int length = turn(referenceLengths, i);
     return length == 0 ? Bind(std::nullopt)
-                       : Bind(leftOf(kReference, static_cast<std::size_t>(length)));
+                       : Bind(leftOf(reference, static_cast<std::size_t>(length)));
 }
 
 std::string zeros(int number) {
@@ -59,26 +59,26 @@ std::string zeros(int number) {
 
 // Amounts of one real, of half a million and of cents come first.
 std::int64_t amountOf(int i, Dice& dice) {
-    constexpr std::array<std::int64_t, 4> kFirst = {100, 50'000'000, 1, 123'456};
+    constexpr std::array<std::int64_t, 4> firstNumbers = {100, 50'000'000, 1, 123'456};
     const std::int64_t drawn = dice.between(1'000, 900'000);
-    return static_cast<std::size_t>(i) < kFirst.size() ? turn(kFirst, i) : drawn;
+    return static_cast<std::size_t>(i) < firstNumbers.size() ? turn(firstNumbers, i) : drawn;
 }
 
 // A third of the documents stand in no portfolio, receipts never do.
 std::optional<int> drawnPortfolio(int kind, Dice& dice) {
     const int count = static_cast<int>(portfolioRows().size());
     const int row = dice.below(count + count / 2);
-    return kind == kReceiptKind || row >= count ? std::nullopt : std::optional(row);
+    return kind == receiptKind || row >= count ? std::nullopt : std::optional(row);
 }
 
 void insertDocument(Database& database, int company, int establishment, int i,
                     const PracticeCustomer& customer, QDate today, Dice& dice) {
-    const int kind = turn(kKindTurns, i);
-    const bool receivable = kind == kReceiptKind || kind > 300 || i % 8 == 5;
-    const int note = kFirstNote + i / kParcels;
+    const int kind = turn(kindTurns, i);
+    const bool receivable = kind == receiptKind || kind > 300 || i % 8 == 5;
+    const int note = firstNote + i / parcels;
     const QDate issued = today.addDays(-dice.below(90));
     const std::int64_t amount = amountOf(i, dice);
-    const Charges charges = turn(kChargeTurns, i);
+    const Charges charges = turn(chargeTurns, i);
     const std::optional<int> row = drawnPortfolio(kind, dice);
     const PortfolioRow* portfolio =
         row ? &portfolioRows()[static_cast<std::size_t>(*row)] : nullptr;
@@ -88,14 +88,14 @@ void insertDocument(Database& database, int company, int establishment, int i,
         "establishment_id, kind_id, number, receivable, control_number, customer_id, note_number,"
         " issued_on, due_on, amount, reference, interest_rate, fine_rate, daily_interest,"
         " expenses, portfolio_id, bank_id, agency",
-        {establishment, kind, zeros(note) + '/' + std::to_string(1 + i % kParcels),
+        {establishment, kind, zeros(note) + '/' + std::to_string(1 + i % parcels),
          receivable ? 1 : 0,
-         receivable ? Bind(kFirstControl + establishment * 1000 + i) : Bind(std::nullopt),
+         receivable ? Bind(firstControl + establishment * 1000 + i) : Bind(std::nullopt),
          customer.id, i % 13 == 6 ? Bind(std::nullopt) : Bind(std::to_string(note)), issued,
-         issued.addDays(turn(kDueDays, dice.below(8))), amount, referenceText(i), 3,
+         issued.addDays(turn(dueDays, dice.below(8))), amount, referenceText(i), 3,
          charges.fineRate, charges.dailyInterest, i % 4 == 0 ? Bind(250) : Bind(std::nullopt),
          row ? Bind(portfolioId(companyIndex(company), *row)) : Bind(std::nullopt),
-         portfolio == nullptr ? Bind(std::nullopt) : Bind(foreign ? kForeignBank : portfolio->bank),
+         portfolio == nullptr ? Bind(std::nullopt) : Bind(foreign ? foreignBank : portfolio->bank),
          portfolio == nullptr ? Bind(std::nullopt) : Bind(portfolio->agency)});
 }
 
@@ -104,7 +104,7 @@ void insertDocument(Database& database, int company, int establishment, int i,
 void insertDocuments(Database& database, const CompanyRow& company,
                      std::span<const PracticeCustomer> customers, QDate today, Dice& dice) {
     const Branches branches = branchesOf(company.id);
-    const int count = company.id == kManyCompany ? kManyDocuments : kSomeDocuments;
+    const int count = company.id == manyCompany ? manyDocuments : someDocuments;
     for (int branch = 0; branch < branches.count; ++branch) {
         for (int i = 0; i < count; ++i) {
             // The customers of the orders' table have the first documents.

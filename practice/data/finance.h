@@ -21,7 +21,7 @@ struct PortfolioRow {
     const char* account;
 };
 
-constexpr int kForeignBank = 2033;  // none of the three that slips are printed for
+constexpr int foreignBank = 2033;  // none of the three that slips are printed for
 
 std::span<const PortfolioRow> portfolioRows();  // alike in every company
 

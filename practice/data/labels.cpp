@@ -11,8 +11,8 @@
 namespace tarn::practice {
 namespace {
 
-constexpr int kManyCompany = 1361;
-constexpr int kManyLabels = 600;  // of its first reason
+constexpr int manyCompany = 1361;
+constexpr int manyLabels = 600;  // of its first reason
 
 struct ReasonRow {
     const char* kind;  // C clients, F suppliers
@@ -23,7 +23,7 @@ struct ReasonRow {
 
 // More than one page of the sheet of 30, a page of its own, none, one more than a
 // row of four with sequences beyond 16 bits.
-constexpr std::array kReasons = {
+constexpr std::array reasons = {
     ReasonRow{"C", "MALA DIRETA DE NATAL", 40, 1}, ReasonRow{"C", "COBRANÇA", 31, 1},
     ReasonRow{"C", "ENVIO DE CATÁLOGO", 1, 1},     ReasonRow{"C", "ANIVERSARIANTES DO MÊS", 0, 1},
     ReasonRow{"C", "NOTA DEVOLVIDA", 5, 32766},    ReasonRow{"F", "PEDIDO DE COTAÇÃO", 30, 1},
@@ -67,12 +67,12 @@ void insertLabel(Database& database, int company, int reason, int sequence, QDat
 void insertLabels(Database& database, const CompanyRow& company,
                   std::span<const PracticeCustomer> customers, QDate today, Dice& dice) {
     int reason = 0;
-    for (const ReasonRow& row : kReasons) {
+    for (const ReasonRow& row : reasons) {
         ++reason;
         database.insert("label_reason", "company_id, id, kind, description",
                         {company.id, reason, row.kind, row.description});
-        const bool many = company.id == kManyCompany && reason == 1;
-        for (int i = 0; i < (many ? kManyLabels : row.labels); ++i) {
+        const bool many = company.id == manyCompany && reason == 1;
+        for (int i = 0; i < (many ? manyLabels : row.labels); ++i) {
             const QDate queued = today.addDays(-dice.below(5));
             insertLabel(database, company.id, reason, row.firstSequence + i, queued,
                         *row.kind == 'F'

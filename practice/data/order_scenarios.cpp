@@ -5,14 +5,14 @@
 namespace tarn::practice {
 namespace {
 
-constexpr const char* kLongObservation =
+constexpr const char* longObservation =
     "ENTREGAR SOMENTE DE SEGUNDA A SEXTA-FEIRA, DAS 8:00 ÀS 11:30 E DAS 13:00 ÀS 16:30, COM "
     "AGENDAMENTO PRÉVIO PELO TELEFONE DA RECEPÇÃO. A DESCARGA É POR CONTA DO DESTINATÁRIO, QUE "
     "DISPÕE DE EMPILHADEIRA. CONFERIR OS VOLUMES NA PRESENÇA DO MOTORISTA E ANOTAR NO CANHOTO "
     "QUALQUER DIVERGÊNCIA. MERCADORIA SUJEITA A INSPEÇÃO DE QUALIDADE; DEVOLUÇÕES SOMENTE COM "
     "NOTA FISCAL E NO PRAZO DE SETE DIAS. EMBALAGENS RETORNÁVEIS DEVEM SEGUIR COM O VEÍCULO.";
 
-constexpr std::array kScenarios = {
+constexpr std::array scenarios = {
     Scenario{.customer = 0,
              .carrier = 0,
              .driver = "ANTÔNIO CARLOS",
@@ -30,14 +30,14 @@ constexpr std::array kScenarios = {
              .observation = "PAGAMENTO À VISTA NA ENTREGA"},
     Scenario{.customer = 5,
              .carrier = 0,
-             .parcels = kFullForm,
+             .parcels = fullForm,
              .stepDays = 15,
              .paymentCondition = "# PARCELAS QUINZENAIS",
              .items = 5,
              .customerOrder = "OC 99/2012"},
     Scenario{.customer = 8,
              .carrier = 0,
-             .parcels = kOverFullForm,
+             .parcels = overFullForm,
              .paymentCondition = "# X 30 DIAS",
              .items = 3},
     Scenario{.customer = 0,
@@ -51,9 +51,9 @@ constexpr std::array kScenarios = {
              .carrier = 0,
              .parcels = 3,
              .paymentCondition = "28/42/56 DIAS",
-             .items = kOverFullForm},
+             .items = overFullForm},
     Scenario{.customer = 8, .carrier = 0, .items = 6, .choice = Choice::EveryLegalText},
-    Scenario{.customer = 7, .carrier = 1, .items = 2, .observation = kLongObservation},
+    Scenario{.customer = 7, .carrier = 1, .items = 2, .observation = longObservation},
     Scenario{.customer = 5,
              .carrier = 0,
              .parcels = 3,
@@ -96,7 +96,7 @@ constexpr std::array kScenarios = {
              .items = 3,
              .observation = "ENTREGAR NO PORTÃO DE SERVIÇO",
              .customerOrder = "HTL-0031"},
-    Scenario{.customer = 5, .carrier = 0, .parcels = 1, .items = kFullForm},
+    Scenario{.customer = 5, .carrier = 0, .parcels = 1, .items = fullForm},
     Scenario{.customer = 9,
              .carrier = 0,
              .parcels = 3,
@@ -137,15 +137,15 @@ constexpr std::array kScenarios = {
     Scenario{.customer = 8,
              .carrier = 0,
              .parcels = 3,
-             .items = kFullForm,
-             .services = kOverFullForm,
+             .items = fullForm,
+             .services = overFullForm,
              .where = Where::SellsServices},
 };
 
 }  // namespace
 
 std::span<const Scenario> orderScenarios() {
-    return kScenarios;
+    return scenarios;
 }
 
 }  // namespace tarn::practice

@@ -6,10 +6,10 @@
 
 namespace tarn::practice {
 
-constexpr int kNoCarrier = -1;
+constexpr int noCarrier = -1;
 // Counts told by the form: as many lines or parcels as it has, and some more.
-constexpr int kFullForm = -1;
-constexpr int kOverFullForm = -2;
+constexpr int fullForm = -1;
+constexpr int overFullForm = -2;
 
 // Which products the items are taken from, one after the other.
 enum class Choice { Any, ByWeight, Withheld, EveryLegalText, Exempt };
@@ -18,8 +18,8 @@ enum class Choice { Any, ByWeight, Withheld, EveryLegalText, Exempt };
 enum class Where { Everywhere, SellsServices, ParcelsInPairs, TaxCredit };
 
 struct Scenario {
-    int customer = 0;          // row of the customers' table
-    int carrier = kNoCarrier;  // row of the carriers' table
+    int customer = 0;         // row of the customers' table
+    int carrier = noCarrier;  // row of the carriers' table
     const char* driver = nullptr;
     int parcels = 1;
     int firstDays = 30;

@@ -13,28 +13,28 @@
 namespace tarn::practice {
 namespace {
 
-constexpr int kFirstOrder = 45001;
-constexpr int kOrdersApart = 100;  // between the first orders of two establishments
-constexpr int kFirstOfLongList = 60001;
-constexpr int kLongListOrders = 300;
-constexpr int kLongListCompany = 1361;
-constexpr int kLongListEstablishment = 1363;
-constexpr int kItemsOverForm = 4;
-constexpr int kServicesOverForm = 2;
-constexpr int kParcelsUnseen = 9;  // where the form shows none
-constexpr int kThousandth = 1000;
-constexpr int kScarceStock = 3;  // units of the product that the stock lacks
-constexpr int kScarceOrdered = 12;
+constexpr int firstOrder = 45001;
+constexpr int ordersApart = 100;  // between the first orders of two establishments
+constexpr int firstOfLongList = 60001;
+constexpr int longListOrders = 300;
+constexpr int longListCompany = 1361;
+constexpr int longListEstablishment = 1363;
+constexpr int itemsOverForm = 4;
+constexpr int servicesOverForm = 2;
+constexpr int parcelsUnseen = 9;  // where the form shows none
+constexpr int thousandth = 1000;
+constexpr int scarceStock = 3;  // units of the product that the stock lacks
+constexpr int scarceOrdered = 12;
 
-constexpr std::array kSalesmen = {"RÔMULO GONÇALVES", "TÂNIA MARIA DE SOUZA", "VENDA DIRETA",
-                                  "JOÃO PAULO D'ÂNGELO E ASSOCIADOS REPRESENTAÇÕES"};
+constexpr std::array salesmen = {"RÔMULO GONÇALVES", "TÂNIA MARIA DE SOUZA", "VENDA DIRETA",
+                                 "JOÃO PAULO D'ÂNGELO E ASSOCIADOS REPRESENTAÇÕES"};
 
 // Rows of the products' table. The last product is the scarce one and stands in
 // no order but the one that lacks it.
-constexpr std::array kByWeight = {6, 7, 16, 11};
-constexpr std::array kWithheld = {4, 5, 14};
-constexpr std::array kExempt = {11, 12};
-constexpr std::array kEveryLegalText = {3, 4, 8, 11, 12, 0};
+constexpr std::array productsByWeight = {6, 7, 16, 11};
+constexpr std::array withheld = {4, 5, 14};
+constexpr std::array exempt = {11, 12};
+constexpr std::array everyLegalText = {3, 4, 8, 11, 12, 0};
 
 struct Place {
     int companyIndex = 0;
@@ -54,13 +54,13 @@ struct Item {
 std::vector<int> choicesOf(Choice choice) {
     switch (choice) {
         case Choice::ByWeight:
-            return {kByWeight.begin(), kByWeight.end()};
+            return {productsByWeight.begin(), productsByWeight.end()};
         case Choice::Withheld:
-            return {kWithheld.begin(), kWithheld.end()};
+            return {withheld.begin(), withheld.end()};
         case Choice::EveryLegalText:
-            return {kEveryLegalText.begin(), kEveryLegalText.end()};
+            return {everyLegalText.begin(), everyLegalText.end()};
         case Choice::Exempt:
-            return {kExempt.begin(), kExempt.end()};
+            return {exempt.begin(), exempt.end()};
         case Choice::Any:
             break;
     }
@@ -72,24 +72,23 @@ std::vector<int> choicesOf(Choice choice) {
 }
 
 int itemCount(const Scenario& scenario, const Place& place) {
-    if (scenario.items == kFullForm) {
+    if (scenario.items == fullForm) {
         return place.form().itemLines;
     }
-    return scenario.items == kOverFullForm ? place.form().itemLines + kItemsOverForm
-                                           : scenario.items;
+    return scenario.items == overFullForm ? place.form().itemLines + itemsOverForm : scenario.items;
 }
 
 int serviceCount(const Scenario& scenario, const Place& place) {
-    return scenario.services == kOverFullForm ? place.form().serviceLines + kServicesOverForm
-                                              : scenario.services;
+    return scenario.services == overFullForm ? place.form().serviceLines + servicesOverForm
+                                             : scenario.services;
 }
 
 int parcelCount(const Scenario& scenario, const Place& place) {
-    const int limit = place.form().parcelLimit > 0 ? place.form().parcelLimit : kParcelsUnseen;
-    if (scenario.parcels == kFullForm) {
+    const int limit = place.form().parcelLimit > 0 ? place.form().parcelLimit : parcelsUnseen;
+    if (scenario.parcels == fullForm) {
         return limit;
     }
-    return scenario.parcels == kOverFullForm ? limit + 1 : scenario.parcels;
+    return scenario.parcels == overFullForm ? limit + 1 : scenario.parcels;
 }
 
 // "9 X 30 DIAS" of "# X 30 DIAS" and nine parcels.
@@ -125,14 +124,14 @@ void drawServices(std::vector<Item>& items, int count, const Place& place, Dice&
     for (int i = 0; i < count; ++i) {
         const ServiceRow& service = serviceRows()[static_cast<std::size_t>(i % all)];
         items.push_back({serviceId(place.companyIndex, i % all),
-                         std::int64_t{1 + dice.below(4)} * kThousandth, service.unitPrice, 0});
+                         std::int64_t{1 + dice.below(4)} * thousandth, service.unitPrice, 0});
     }
 }
 
 Item scarceItem(const Place& place) {
     const ProductRow& product = productRows().back();
     const int row = static_cast<int>(productRows().size()) - 1;
-    return {productId(place.companyIndex, row), std::int64_t{kScarceOrdered} * kThousandth,
+    return {productId(place.companyIndex, row), std::int64_t{scarceOrdered} * thousandth,
             product.unitPrice, product.unitWeight};
 }
 
@@ -149,7 +148,7 @@ std::vector<Item> drawItems(const Scenario& scenario, const Place& place, Dice& 
         Item item{productId(place.companyIndex, choices[index]), 0,
                   product.unitPrice / 4 * 4 + 4 * dice.below(25), product.unitWeight};
         item.quantity =
-            product.byWeight ? (1 + dice.below(200)) * 250 : (1 + dice.below(40)) * kThousandth;
+            product.byWeight ? (1 + dice.below(200)) * 250 : (1 + dice.below(40)) * thousandth;
         items.push_back(item);
     }
     if (scenario.lacksStock) {
@@ -179,7 +178,7 @@ Operation operationOf(const Scenario& scenario, const Place& place) {
 std::int64_t netWeight(const std::vector<Item>& items) {
     std::int64_t weight = 0;
     for (const Item& item : items) {
-        weight += scaled(item.unitWeight, item.quantity, kThousandth);
+        weight += scaled(item.unitWeight, item.quantity, thousandth);
     }
     return weight;
 }
@@ -202,14 +201,14 @@ void insertOrder(Database& database, int order, const Scenario& scenario, const 
                  QDate today, Dice& dice) {
     const std::vector<Item> items = drawItems(scenario, place, dice);
     const Operation operation = operationOf(scenario, place);
-    const bool carried = scenario.carrier != kNoCarrier;
+    const bool carried = scenario.carrier != noCarrier;
     const std::int64_t net = netWeight(items);
     const int parcels = parcelCount(scenario, place);
     const int loadOrder = 7000 + dice.below(900);
     const int sale = 80000 + dice.below(9000);
     const int age = dice.below(5);
-    const int packages = (1 + dice.below(12)) * kThousandth;
-    const char* salesman = kSalesmen[static_cast<std::size_t>(dice.below(4))];
+    const int packages = (1 + dice.below(12)) * thousandth;
+    const char* salesman = salesmen[static_cast<std::size_t>(dice.below(4))];
     database.insert(
         "billing_order",
         "id, establishment_id, state, load_order, customer_id, carrier_id, driver, freight_payer,"
@@ -253,28 +252,28 @@ void insertOrder(Database& database, int order, const Scenario& scenario, const 
 
 void insertSeriesAndStock(Database& database, const Place& place, Dice& dice) {
     const int establishment = place.establishmentId;
-    constexpr std::string_view kColumns = "establishment_id, code, description, next_number";
+    constexpr std::string_view columns = "establishment_id, code, description, next_number";
     database.insert(
-        "series", kColumns,
+        "series", columns,
         {establishment, "1", "Série 1 - Nota Fiscal de Saída", 1001 + dice.below(8000)});
-    database.insert("series", kColumns,
+    database.insert("series", columns,
                     {establishment, "2", "Série 2 - Nota Fiscal de Entrada", 1 + dice.below(900)});
     const int count = static_cast<int>(productRows().size());
     for (int row = 0; row < count; ++row) {
-        const int units = row + 1 == count ? kScarceStock : 5000 + dice.below(5000);
+        const int units = row + 1 == count ? scarceStock : 5000 + dice.below(5000);
         database.insert("stock", "establishment_id, product_id, quantity",
-                        {establishment, productId(place.companyIndex, row), units * kThousandth});
+                        {establishment, productId(place.companyIndex, row), units * thousandth});
     }
 }
 
 // The plain orders that make one establishment's list a long one.
-constexpr std::array kPlainScenarios = {0, 2, 12, 18};
+constexpr std::array plainScenarios = {0, 2, 12, 18};
 
 void insertLongList(Database& database, const Place& place, QDate today, Dice& dice) {
-    for (int i = 0; i < kLongListOrders; ++i) {
-        const auto row = static_cast<std::size_t>(kPlainScenarios[static_cast<std::size_t>(
-            dice.below(static_cast<int>(kPlainScenarios.size())))]);
-        insertOrder(database, kFirstOfLongList + i, orderScenarios()[row], place, today, dice);
+    for (int i = 0; i < longListOrders; ++i) {
+        const auto row = static_cast<std::size_t>(plainScenarios[static_cast<std::size_t>(
+            dice.below(static_cast<int>(plainScenarios.size())))]);
+        insertOrder(database, firstOfLongList + i, orderScenarios()[row], place, today, dice);
     }
 }
 
@@ -283,7 +282,7 @@ void insertLongList(Database& database, const Place& place, QDate today, Dice& d
 void insertPracticeOrders(Database& database, std::uint64_t seed, QDate today) {
     Dice dice(seed);
     Place longList;
-    int first = kFirstOrder;
+    int first = firstOrder;
     int id = 0;
     for (const EstablishmentRow& establishment : establishmentRows()) {
         const Place place{companyIndex(establishment.company), ++id, &establishment};
@@ -294,9 +293,9 @@ void insertPracticeOrders(Database& database, std::uint64_t seed, QDate today) {
                 insertOrder(database, order++, scenario, place, today, dice);
             }
         }
-        first += kOrdersApart;
-        if (establishment.code == kLongListEstablishment &&
-            establishment.company == kLongListCompany) {
+        first += ordersApart;
+        if (establishment.code == longListEstablishment &&
+            establishment.company == longListCompany) {
             longList = place;
         }
     }

@@ -5,13 +5,13 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array kCountries = {
+constexpr std::array countries = {
     CountryRow{1058, "BRASIL"},   CountryRow{639, "ARGENTINA"}, CountryRow{5860, "PARAGUAI"},
     CountryRow{6076, "PORTUGAL"}, CountryRow{8451, "URUGUAI"},
 };
 
 // Portugal has no states in the table, Tocantins no towns: their lists stay empty.
-constexpr std::array kStates = {
+constexpr std::array states = {
     StateRow{1058, "AM", "AMAZONAS"},
     StateRow{1058, "BA", "BAHIA"},
     StateRow{1058, "CE", "CEARÁ"},
@@ -34,7 +34,7 @@ constexpr std::array kStates = {
     StateRow{8451, "EX", "MONTEVIDÉU"},
 };
 
-constexpr std::array kTowns = {
+constexpr std::array towns = {
     TownRow{15, "SÃO PAULO", 1001000},
     TownRow{15, "JUNDIAÍ", 13201000},
     TownRow{15, "SÃO BERNARDO DO CAMPO", 9710000},
@@ -82,22 +82,22 @@ constexpr std::array kTowns = {
 }  // namespace
 
 std::span<const CountryRow> countryRows() {
-    return kCountries;
+    return countries;
 }
 std::span<const StateRow> stateRows() {
-    return kStates;
+    return states;
 }
 std::span<const TownRow> townRows() {
-    return kTowns;
+    return towns;
 }
 
 const StateRow& stateOf(const TownRow& town) {
-    return kStates[static_cast<std::size_t>(town.state) - 1];
+    return states[static_cast<std::size_t>(town.state) - 1];
 }
 
 int cityId(std::string_view town, std::string_view stateCode) {
     int id = 0;
-    for (const TownRow& row : kTowns) {
+    for (const TownRow& row : towns) {
         ++id;
         if (row.name == town && stateOf(row).code == stateCode) {
             return id;
@@ -107,16 +107,16 @@ int cityId(std::string_view town, std::string_view stateCode) {
 }
 
 void insertPlaces(Database& database) {
-    for (const CountryRow& row : kCountries) {
+    for (const CountryRow& row : countries) {
         database.insert("country", "id, name", {row.id, row.name});
     }
     int state = 0;
-    for (const StateRow& row : kStates) {
+    for (const StateRow& row : states) {
         database.insert("state", "id, country_id, code, name",
                         {++state, row.country, row.code, row.name});
     }
     int town = 0;
-    for (const TownRow& row : kTowns) {
+    for (const TownRow& row : towns) {
         database.insert("city", "id, state_id, name", {++town, row.state, row.name});
     }
 }

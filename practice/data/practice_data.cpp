@@ -19,7 +19,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array kLogons = {
+constexpr std::array logons = {
     PracticeLogon{1361, 1361, "clara", "pratica", true},
     PracticeLogon{1361, 1362, "bruno", "pratica", true},
     PracticeLogon{1361, 1363, "diana", "pratica", true},
@@ -64,12 +64,12 @@ constexpr std::array kLogons = {
     PracticeLogon{4901, 6001, "elisa", "pratica", true},
 };
 
-constexpr std::array kReasons = {
+constexpr std::array reasons = {
     "Erro de digitação", "Desistência do cliente", "Preço ou condição de pagamento incorretos",
     "Mercadoria avariada na expedição", "Formulário danificado na impressão"};
 
 // Beside the street's number, as a sender shows it; a blank one shows nothing.
-constexpr std::array<const char*, 4> kComplements = {nullptr, "2º ANDAR", "GALPÃO B", " "};
+constexpr std::array<const char*, 4> complements = {nullptr, "2º ANDAR", "GALPÃO B", " "};
 
 struct TaxRates {
     const char* origin;
@@ -99,7 +99,7 @@ void insertCompanies(Database& database) {
     for (const CompanyRow& row : companyRows()) {
         database.insert("company", "id, name, server_name", {row.id, row.name, row.serverName});
         int reason = 0;
-        for (const char* description : kReasons) {
+        for (const char* description : reasons) {
             database.insert("cancel_reason", "company_id, id, description",
                             {row.id, ++reason, description});
         }
@@ -125,7 +125,7 @@ void insertCompanies(Database& database) {
                          row.stateRegistration,
                          row.street,
                          row.number,
-                         kComplements[static_cast<std::size_t>(id) % kComplements.size()],
+                         complements[static_cast<std::size_t>(id) % complements.size()],
                          row.district,
                          row.postalCode,
                          row.town,
@@ -142,7 +142,7 @@ void insertCompanies(Database& database) {
 
 void insertUsers(Database& database) {
     int number = 100;
-    for (const PracticeLogon& logon : kLogons) {
+    for (const PracticeLogon& logon : logons) {
         const std::string code = std::to_string(++number);
         database.insert(
             "app_user", "code, establishment_id, company_id, login, password_hash",
@@ -169,7 +169,7 @@ void insertCarriers(Database& database, int companyIndex, int company) {
     }
 }
 
-constexpr const char* kProductColumns =
+constexpr const char* productColumns =
     "id, company_id, code, description, unit, service, note_position,"
     " fiscal_class, class_group, class_code, origin, tax_situation, icms_rate,"
     " ipi_rate, withheld_margin, iss_rate, unit_weight, unit_price, legal_text";
@@ -182,7 +182,7 @@ void insertProducts(Database& database, int companyIndex, int company) {
         const std::string group = std::to_string(row + 1);
         const bool grouped = rates.ipi > 0;
         database.insert(
-            "product", kProductColumns,
+            "product", productColumns,
             {productId(companyIndex, row), company, product.code, product.description, product.unit,
              0, group, product.fiscalClass, grouped ? Bind(group) : Bind(std::nullopt),
              grouped ? Bind(product.fiscalClass) : Bind(std::nullopt), rates.origin,
@@ -195,7 +195,7 @@ void insertProducts(Database& database, int companyIndex, int company) {
 void insertServices(Database& database, int companyIndex, int company) {
     int row = 0;
     for (const ServiceRow& service : serviceRows()) {
-        database.insert("product", kProductColumns,
+        database.insert("product", productColumns,
                         {serviceId(companyIndex, row++), company, service.code, service.description,
                          "SV", 1, std::nullopt, std::nullopt, std::nullopt, std::nullopt, "0", "41",
                          0, 0, 0, service.issRate, 0, service.unitPrice, std::nullopt});
@@ -205,7 +205,7 @@ void insertServices(Database& database, int companyIndex, int company) {
 }  // namespace
 
 std::span<const PracticeLogon> practiceLogons() {
-    return kLogons;
+    return logons;
 }
 
 std::string storedLogin(std::string_view typed) {

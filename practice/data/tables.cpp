@@ -5,7 +5,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array kCustomers = {
+constexpr std::array customers = {
     CustomerRow{
         "PANIFICADORA E CONFEITARIA PÃO DE ARAÇÁS LTDA",
         false,
@@ -95,7 +95,7 @@ constexpr std::array kCustomers = {
                  "SÃO PAULO", "SP"}},
 };
 
-constexpr std::array kCarriers = {
+constexpr std::array carriers = {
     CarrierRow{"TRANSPORTADORA RÁPIDO IPÊ-ROXO LTDA", "61223344000155", "RODOVIA ANHANGUERA, KM 15",
                "SÃO PAULO", "SP", "108.900.123.110", "BXR-4521", "SP"},
     CarrierRow{"EXPRESSO CORAÇÃO DE MINAS TRANSPORTES RODOVIÁRIOS DE CARGAS LTDA", "01987654000132",
@@ -105,13 +105,13 @@ constexpr std::array kCarriers = {
     CarrierRow{"O MESMO", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
 };
 
-constexpr const char* kReduced = "BASE DE CÁLCULO REDUZIDA CONF. ART. 51 DO ANEXO II DO RICMS";
-constexpr const char* kWithheld = "ICMS RETIDO POR SUBSTITUIÇÃO TRIBUTÁRIA - ART. 313 DO RICMS";
-constexpr const char* kExempt = "ISENTO DE ICMS CONF. ART. 8 DO ANEXO I DO RICMS";
-constexpr const char* kImported = "MERCADORIA IMPORTADA - IPI RECOLHIDO NO DESEMBARAÇO ADUANEIRO";
-constexpr const char* kDeferred = "ICMS DIFERIDO PARA A SAÍDA SEGUINTE";
+constexpr const char* reduced = "BASE DE CÁLCULO REDUZIDA CONF. ART. 51 DO ANEXO II DO RICMS";
+constexpr const char* withheld = "ICMS RETIDO POR SUBSTITUIÇÃO TRIBUTÁRIA - ART. 313 DO RICMS";
+constexpr const char* exempt = "ISENTO DE ICMS CONF. ART. 8 DO ANEXO I DO RICMS";
+constexpr const char* imported = "MERCADORIA IMPORTADA - IPI RECOLHIDO NO DESEMBARAÇO ADUANEIRO";
+constexpr const char* deferred = "ICMS DIFERIDO PARA A SAÍDA SEGUINTE";
 
-constexpr std::array kProducts = {
+constexpr std::array products = {
     ProductRow{"1001", "PARAFUSO SEXTAVADO ZINCADO 1/4\" X 2\"", "CT", "73181500", 850, 4250,
                Tax::Plain, false, nullptr},
     ProductRow{"1002", "PORCA SEXTAVADA 1/4\"", "CT", "73181600", 320, 1890, Tax::Plain, false,
@@ -119,31 +119,31 @@ constexpr std::array kProducts = {
     ProductRow{"1003", "FECHADURA EXTERNA INOX COM MAÇANETA", "PC", "83014000", 1200, 8990,
                Tax::Plain, false, nullptr},
     ProductRow{"1004", "DOBRADIÇA DE LATÃO 3\"", "PAR", "83021000", 240, 1275, Tax::Reduced, false,
-               kReduced},
+               reduced},
     ProductRow{"1005", "TINTA ACRÍLICA FOSCA BRANCO GELO 18 L", "LT", "32091010", 24500, 18900,
-               Tax::Withheld, false, kWithheld},
+               Tax::Withheld, false, withheld},
     ProductRow{"1006", "CIMENTO PORTLAND CP II 50 KG", "SC", "25232910", 50000, 2480, Tax::Withheld,
-               false, kWithheld},
+               false, withheld},
     ProductRow{"1007", "PREGO 18 X 27 COM CABEÇA", "KG", "73170090", 1000, 1240, Tax::Plain, true,
                nullptr},
     ProductRow{"1008", "ARAME GALVANIZADO Nº 18", "KG", "72172010", 1000, 1560, Tax::Plain, true,
                nullptr},
     ProductRow{"1009", "FURADEIRA DE IMPACTO 1/2\" 650 W 220 V", "PC", "84672100", 2300, 32990,
-               Tax::Imported, false, kImported},
+               Tax::Imported, false, imported},
     ProductRow{"1010", "SERRA MÁRMORE 4.3/8\" 1.300 W PROFISSIONAL COM MALETA E DOIS DISCOS", "PC",
-               "84672200", 3400, 41950, Tax::Imported, false, kImported},
+               "84672200", 3400, 41950, Tax::Imported, false, imported},
     ProductRow{"1011", "MANGUEIRA DE JARDIM SILICONE 30 M", "RL", "39173900", 3900, 7450,
                Tax::Plain, false, nullptr},
     ProductRow{"1012", "SEMENTE DE MILHO HÍBRIDO", "KG", "10051000", 1000, 2200, Tax::Exempt, true,
-               kExempt},
+               exempt},
     ProductRow{"1013", "MUDA DE LARANJEIRA", "UN", "06022000", 1500, 1450, Tax::Exempt, false,
-               kDeferred},
+               deferred},
     ProductRow{"1014", "TORNEIRA DE BÓIA 3/4\"", "PC", "84818019", 180, 1990, Tax::Plain, false,
                nullptr},
     ProductRow{"1015", "LÂMPADA FLUORESCENTE COMPACTA 15 W", "PC", "85393100", 90, 990,
-               Tax::Withheld, false, kWithheld},
+               Tax::Withheld, false, withheld},
     ProductRow{"1016", "CABO FLEXÍVEL 2,5 MM² AZUL 100 M", "RL", "85444900", 3100, 11900,
-               Tax::Reduced, false, kReduced},
+               Tax::Reduced, false, reduced},
     ProductRow{"1017", "CALHA GALVANIZADA CORTE 33", "M", "73089090", 1400, 3480, Tax::Plain, true,
                nullptr},
     ProductRow{"1018", "ENXADA LARGA 2,5 LIBRAS SEM CABO", "PC", "82013000", 1150, 2390, Tax::Plain,
@@ -154,7 +154,7 @@ constexpr std::array kProducts = {
                nullptr},
 };
 
-constexpr std::array kServices = {
+constexpr std::array services = {
     ServiceRow{"9001", "MONTAGEM E INSTALAÇÃO DE EQUIPAMENTO NO LOCAL", 500, 48000},
     ServiceRow{"9002", "VISITA TÉCNICA", 500, 12500},
     ServiceRow{"9003", "AFINAÇÃO E CALIBRAÇÃO DE FURADEIRAS COM EMISSÃO DE CERTIFICADO", 300, 7850},
@@ -168,16 +168,16 @@ constexpr std::array kServices = {
 }  // namespace
 
 std::span<const CustomerRow> customerRows() {
-    return kCustomers;
+    return customers;
 }
 std::span<const CarrierRow> carrierRows() {
-    return kCarriers;
+    return carriers;
 }
 std::span<const ProductRow> productRows() {
-    return kProducts;
+    return products;
 }
 std::span<const ServiceRow> serviceRows() {
-    return kServices;
+    return services;
 }
 
 }  // namespace tarn::practice

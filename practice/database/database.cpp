@@ -15,14 +15,14 @@ QString qtText(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-constexpr const char* kRefused = "O banco de dados recusou um comando";
+constexpr const char* refused = "O banco de dados recusou um comando";
 
 // Deadlock and serialization failure of PostgreSQL; a file busy for too long.
-constexpr std::array kConflicts = {"40P01", "40001", "5", "517"};
+constexpr std::array conflicts = {"40P01", "40001", "5", "517"};
 
 [[noreturn]] void fail(const std::string& what, const QSqlError& error) {
     const std::string text = what + ": " + error.text().trimmed().toStdString();
-    for (const char* conflict : kConflicts) {
+    for (const char* conflict : conflicts) {
         if (error.nativeErrorCode() == conflict) {
             throw DatabaseConflict(text);
         }
@@ -30,7 +30,7 @@ constexpr std::array kConflicts = {"40P01", "40001", "5", "517"};
     throw DatabaseError(text);
 }
 
-constexpr std::size_t kRowsAtOnce = 400;
+constexpr std::size_t rowsAtOnce = 400;
 
 std::string placeholders(std::size_t count) {  // "(?, ?)"
     std::string text = "(";
@@ -53,9 +53,9 @@ void setUpServer(QSqlDatabase& connection, const ServerAddress& address) {
     connection.setConnectOptions(qtText(address.options));
 }
 
-constexpr const char* kAdviceOnFile =
+constexpr const char* adviceOnFile =
     "Confira o caminho e as permissões do arquivo, ou escolha outro com --banco";
-constexpr const char* kAdviceOnServer =
+constexpr const char* adviceOnServer =
     "Confira se o servidor PostgreSQL está no ar, o nome do banco, o usuário e a senha em --banco";
 
 }  // namespace
@@ -105,7 +105,7 @@ Database::Database(const std::string& address)
     if (!opened) {
         QSqlDatabase::removeDatabase(name_);
         fail("Não foi possível abrir o banco de dados \"" + shownAddress(address) + "\". " +
-                 (server_ ? kAdviceOnServer : kAdviceOnFile),
+                 (server_ ? adviceOnServer : adviceOnFile),
              error);
     }
 }
@@ -121,7 +121,7 @@ QSqlQuery Database::prepared(std::string_view sql) {
     QSqlQuery query(QSqlDatabase::database(name_, false));
     query.setForwardOnly(!server_);
     if (!query.prepare(qtText(sql))) {
-        fail(kRefused, query.lastError());
+        fail(refused, query.lastError());
     }
     return query;
 }
@@ -133,7 +133,7 @@ void Database::execute(QSqlQuery& query, const std::vector<Bind>& binds) {
     if (!query.exec()) {
         const QSqlError error = query.lastError();
         query.finish();
-        fail(kRefused, error);
+        fail(refused, error);
     }
 }
 
@@ -146,7 +146,7 @@ QSqlQuery Database::run(std::string_view sql, const std::vector<Bind>& binds) {
     QSqlQuery query(QSqlDatabase::database(name_, false));
     query.setForwardOnly(!server_);
     if (!query.exec(qtText(sql))) {
-        fail(kRefused, query.lastError());
+        fail(refused, query.lastError());
     }
     return query;
 }
@@ -180,7 +180,7 @@ void Database::insert(std::string_view table, std::string_view columns,
         return;
     }
     pending->values.insert(pending->values.end(), values.begin(), values.end());
-    if (++pendingRows_ >= kRowsAtOnce) {
+    if (++pendingRows_ >= rowsAtOnce) {
         flush();
     }
 }

@@ -10,7 +10,7 @@ void createSchema(Database& database) {
             database.execute(table);
         }
     }
-    database.execute("INSERT INTO schema_version (version) VALUES (?)", {kSchemaVersion});
+    database.execute("INSERT INTO schema_version (version) VALUES (?)", {schemaVersion});
 }
 
 SchemaState checkSchema(Database& database, const std::string& name) {
@@ -28,10 +28,10 @@ SchemaState checkSchema(Database& database, const std::string& name) {
     }
     Rows rows = database.select("SELECT version FROM schema_version");
     const std::int64_t version = rows.next() ? rows.integer(0) : 0;
-    if (version != kSchemaVersion) {
+    if (version != schemaVersion) {
         throw DatabaseError("O banco de dados \"" + name + "\" é da versão " +
                             std::to_string(version) + "; este servidor usa a versão " +
-                            std::to_string(kSchemaVersion) + "." + advice);
+                            std::to_string(schemaVersion) + "." + advice);
     }
     return SchemaState::Ready;
 }

@@ -6,7 +6,7 @@
 namespace tarn::practice {
 
 // Raised when a table changes: a database of another version is refused.
-constexpr int kSchemaVersion = 3;
+constexpr int schemaVersion = 3;
 
 // Makes the tables in an empty database. The caller holds the transaction.
 void createSchema(Database& database);

@@ -6,7 +6,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array kTables = {
+constexpr std::array tables = {
     R"(CREATE TABLE schema_version (version BIGINT NOT NULL))",
 
     R"(CREATE TABLE company (
@@ -70,7 +70,7 @@ constexpr std::array kTables = {
 }  // namespace
 
 std::span<const char* const> companyTables() {
-    return kTables;
+    return tables;
 }
 
 }  // namespace tarn::practice

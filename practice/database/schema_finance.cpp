@@ -6,7 +6,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array kTables = {
+constexpr std::array tables = {
     R"(CREATE TABLE document_kind (
         id BIGINT NOT NULL PRIMARY KEY,
         description VARCHAR(60) NOT NULL))",
@@ -84,7 +84,7 @@ constexpr std::array kTables = {
 }  // namespace
 
 std::span<const char* const> financeTables() {
-    return kTables;
+    return tables;
 }
 
 }  // namespace tarn::practice

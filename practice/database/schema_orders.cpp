@@ -6,7 +6,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array kTables = {
+constexpr std::array tables = {
     R"(CREATE TABLE series (
         establishment_id BIGINT NOT NULL REFERENCES establishment (id),
         code VARCHAR(5) NOT NULL,
@@ -157,7 +157,7 @@ constexpr std::array kTables = {
 }  // namespace
 
 std::span<const char* const> orderTables() {
-    return kTables;
+    return tables;
 }
 
 }  // namespace tarn::practice

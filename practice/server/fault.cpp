@@ -12,7 +12,7 @@ struct KindName {
     FaultKind kind;
 };
 
-constexpr std::array kNames = {
+constexpr std::array kindNames = {
     KindName{"recusa", FaultKind::Refuse},
     KindName{"fecha-antes", FaultKind::CloseBefore},
     KindName{"fecha-no-meio", FaultKind::CloseWithin},
@@ -27,14 +27,14 @@ constexpr std::array kNames = {
     KindName{"enorme", FaultKind::Huge},
 };
 
-constexpr int kNotFound = 404;
-constexpr int kServerError = 500;
-constexpr std::int64_t kDefaultWait = 10;     // seconds
-constexpr std::int64_t kLongestWait = 3600;   // seconds
-constexpr std::size_t kTooLarge = 64U << 20;  // the desk takes no larger body
+constexpr int notFound = 404;
+constexpr int serverError = 500;
+constexpr std::int64_t defaultWait = 10;     // seconds
+constexpr std::int64_t longestWait = 3600;   // seconds
+constexpr std::size_t tooLarge = 64U << 20;  // the desk takes no larger body
 
-constexpr const char* kHtml = "text/html; charset=utf-8";
-constexpr const char* kRefusal =
+constexpr const char* html = "text/html; charset=utf-8";
+constexpr const char* refusal =
     "Recusa de treino: o servidor de prática não atende a este comando. Tente mais tarde.";
 
 std::string htmlPage(std::string_view title) {
@@ -44,19 +44,19 @@ std::string htmlPage(std::string_view title) {
 
 Page htmlError(int status, std::string_view title) {
     Page page(htmlPage(title));
-    page.contentType = kHtml;
+    page.contentType = html;
     page.status = status;
     return page;
 }
 
 Page refusedPage(const Command& command, Encoding encoding) {
-    return writeAnswer(refusalAnswer(command.shape, kRefusal), encoding);
+    return writeAnswer(refusalAnswer(command.shape, refusal), encoding);
 }
 
 // Behind the root, so that the answer alone would be right.
 std::string wronglyEncoded(std::string body) {
-    constexpr std::string_view kRight = "windows-1252";
-    for (const std::string_view name : {kRight, std::string_view("WINDOWS-1252")}) {
+    constexpr std::string_view right = "windows-1252";
+    for (const std::string_view name : {right, std::string_view("WINDOWS-1252")}) {
         if (const std::size_t at = body.find(name); at != std::string::npos) {
             body.replace(at, name.size(), "utf-8");
             break;
@@ -99,7 +99,7 @@ Page spoilt(PracticeServer& server, const Fault& fault, std::string_view rawQuer
             page.wait = fault.wait;
             break;
         case FaultKind::Huge:
-            page.blanksBehind = kTooLarge;
+            page.blanksBehind = tooLarge;
             break;
         default:
             break;
@@ -109,7 +109,7 @@ Page spoilt(PracticeServer& server, const Fault& fault, std::string_view rawQuer
 
 std::optional<Fault> faultOf(std::string_view text) {
     const std::size_t colon = text.find(':');
-    for (const KindName& known : kNames) {
+    for (const KindName& known : kindNames) {
         if (known.name != text.substr(0, colon)) {
             continue;
         }
@@ -118,9 +118,9 @@ std::optional<Fault> faultOf(std::string_view text) {
                                                    : std::nullopt;
         }
         const std::optional<std::int64_t> seconds = colon == std::string_view::npos
-                                                        ? std::optional(kDefaultWait)
+                                                        ? std::optional(defaultWait)
                                                         : wholeNumber(text.substr(colon + 1));
-        return seconds && *seconds <= kLongestWait
+        return seconds && *seconds <= longestWait
                    ? std::optional(Fault{known.kind, std::chrono::seconds(*seconds)})
                    : std::nullopt;
     }
@@ -131,7 +131,7 @@ std::optional<Fault> faultOf(std::string_view text) {
 
 std::string faultNames() {
     std::string names;
-    for (const KindName& known : kNames) {
+    for (const KindName& known : kindNames) {
         names += names.empty() ? "" : ", ";
         names += known.name;
         names += known.kind == FaultKind::Slow ? "[:SEGUNDOS]" : "";
@@ -184,9 +184,9 @@ Page answeredPage(PracticeServer& server, const FaultPlan& plan, std::string_vie
         case FaultKind::Refuse:
             return refusedPage(*command, server.encoding());
         case FaultKind::NotFound:
-            return htmlError(kNotFound, "Página não encontrada");
+            return htmlError(notFound, "Página não encontrada");
         case FaultKind::ServerError:
-            return htmlError(kServerError, "Erro interno do servidor");
+            return htmlError(serverError, "Erro interno do servidor");
         case FaultKind::CloseBefore: {
             Page page("");
             page.ending = Ending::Before;

@@ -19,11 +19,11 @@
 namespace tarn::practice {
 namespace {
 
-constexpr const char* kPlainText = "text/plain; charset=utf-8";
-constexpr int kServerError = 500;
-constexpr int kNotFound = 404;
-constexpr time_t kTurnMicroseconds = 50000;
-constexpr std::size_t kBlanksAtOnce = 1U << 16;
+constexpr const char* plainText = "text/plain; charset=utf-8";
+constexpr int serverError = 500;
+constexpr int notFound = 404;
+constexpr time_t turnMicroseconds = 50000;
+constexpr std::size_t blanksAtOnce = 1U << 16;
 
 // Without the library's own SO_REUSEPORT, under which a port already served
 // would be taken a second time in silence.
@@ -115,7 +115,7 @@ void sendWithBlanks(httplib::Response& response, std::string body, std::size_t b
             if (at < body.size()) {
                 return sink.write(body.data() + at, body.size() - at);
             }
-            const std::string piece(std::min(left, kBlanksAtOnce), ' ');
+            const std::string piece(std::min(left, blanksAtOnce), ' ');
             return sink.write(piece.data(), piece.size());
         });
 }
@@ -158,25 +158,25 @@ HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_
     State* state = state_.get();
     state->server.set_socket_options(reuseAddressOnly);
     // Waits for connections in short turns, so that a stop is always noticed.
-    state->server.set_idle_interval(0, kTurnMicroseconds);
-    state->server.Get(std::string(kPagePath),
+    state->server.set_idle_interval(0, turnMicroseconds);
+    state->server.Get(std::string(pagePath),
                       [state](const httplib::Request& request, httplib::Response& response) {
                           state->send(state->answer(queryOf(request.target)), response);
                       });
     state->server.set_exception_handler(
         [](const httplib::Request&, httplib::Response& response, std::exception_ptr thrown) {
-            response.status = kServerError;
+            response.status = serverError;
             try {
                 std::rethrow_exception(std::move(thrown));
             } catch (const std::exception& error) {
-                response.set_content(error.what(), kPlainText);
+                response.set_content(error.what(), plainText);
             }
         });
     state->server.set_error_handler([](const httplib::Request&, httplib::Response& response) {
-        if (response.status == kNotFound && response.body.empty()) {
+        if (response.status == notFound && response.body.empty()) {
             response.set_content(
-                "Esta página não existe. A página é " + std::string(kPagePath) + "?comando=...\n",
-                kPlainText);
+                "Esta página não existe. A página é " + std::string(pagePath) + "?comando=...\n",
+                plainText);
         }
     });
 }

@@ -10,7 +10,7 @@
 
 namespace tarn::practice {
 
-inline constexpr std::string_view kPagePath = "/Kestomain/TarnEmissao.asp";
+inline constexpr std::string_view pagePath = "/Kestomain/TarnEmissao.asp";
 
 class HttpFront {
 public:

@@ -17,9 +17,9 @@ QDate todayOf(const PracticeOptions& options) {
 // Two servers may begin on one empty database at the same moment: the second one
 // waits for the first one's tables.
 void takeTurn(Database& database) {
-    constexpr std::int64_t kKey = 8610;
+    constexpr std::int64_t key = 8610;
     if (database.isServer()) {
-        database.select("SELECT pg_advisory_xact_lock(" + std::to_string(kKey) + ')');
+        database.select("SELECT pg_advisory_xact_lock(" + std::to_string(key) + ')');
     }
 }
 
@@ -82,7 +82,7 @@ PracticeServer::~PracticeServer() = default;
 // A command undone because of another connection's is carried out again. Where the
 // connection itself is gone, the next request finds a new one.
 Reply PracticeServer::carryOut(const Command& command, const Query& query) {
-    constexpr int kAttempts = 5;
+    constexpr int attempts = 5;
     for (int attempt = 1;; ++attempt) {
         try {
             if (!state_->database) {
@@ -91,7 +91,7 @@ Reply PracticeServer::carryOut(const Command& command, const Query& query) {
             CommandContext context{*state_->database, todayOf(options_)};
             return command.handler(query, context);
         } catch (const DatabaseConflict&) {
-            if (attempt == kAttempts) {
+            if (attempt == attempts) {
                 throw;
             }
         } catch (const DatabaseError&) {

@@ -10,9 +10,9 @@
 namespace tarn::practice {
 namespace {
 
-constexpr int kMillisecond = 1000;  // of a second
-constexpr std::size_t kPiece = 4096;
-constexpr char kStandIn = '_';
+constexpr int millisecond = 1000;  // of a second
+constexpr std::size_t pieceBytes = 4096;
+constexpr char standIn = '_';
 
 bool ready(socket_t socket, short events, int milliseconds) {
     pollfd wanted{socket, events, 0};
@@ -27,8 +27,8 @@ bool ready(socket_t socket, short events, int milliseconds) {
 
 RequestStream::RequestStream(socket_t socket, time_t readSeconds, time_t writeSeconds)
     : socket_(socket),
-      readMilliseconds_(static_cast<int>(readSeconds) * kMillisecond),
-      writeMilliseconds_(static_cast<int>(writeSeconds) * kMillisecond) {}
+      readMilliseconds_(static_cast<int>(readSeconds) * millisecond),
+      writeMilliseconds_(static_cast<int>(writeSeconds) * millisecond) {}
 
 std::string RequestStream::target() const {
     const std::size_t first = line_.find(' ');
@@ -74,7 +74,7 @@ bool RequestStream::fill() {
     if (!ready(socket_, POLLIN, readMilliseconds_)) {
         return false;
     }
-    std::array<char, kPiece> piece{};
+    std::array<char, pieceBytes> piece{};
     ssize_t count = 0;
     do {
         count = recv(socket_, piece.data(), piece.size(), 0);
@@ -93,7 +93,7 @@ char RequestStream::taken(char byte) {
     inLine_ = byte != '\n';
     const bool hidden = marked_ && byte == '?';
     marked_ = marked_ || byte == '?';
-    return hidden ? kStandIn : byte;
+    return hidden ? standIn : byte;
 }
 
 }  // namespace tarn::practice

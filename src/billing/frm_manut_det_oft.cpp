@@ -21,19 +21,19 @@ constexpr int numberWidth = 15;
 constexpr int observationLines = 7;  // all of its characters
 
 // A number that the server holds is shown whole, also where it couldn't be typed.
-void showNumber(QLineEdit& field, const std::string& texto) {
-    field.setMaxLength(std::max(field.maxLength(), static_cast<int>(texto.size())));
-    field.setText(QString::fromStdString(texto));
+void showNumber(QLineEdit& field, const std::string& text) {
+    field.setMaxLength(std::max(field.maxLength(), static_cast<int>(text.size())));
+    field.setText(QString::fromStdString(text));
 }
 
 }  // namespace
 
-frmManutDetOFT::frmManutDetOFT(DeskContext& desk, const BillingOrder& ordem, QWidget* parent)
+frmManutDetOFT::frmManutDetOFT(DeskContext& desk, const BillingOrder& order, QWidget* parent)
     : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::frmManutDetOFT>()) {
     ui_->setupUi(this);
     prepareFields();
     prepareButtons();
-    load(ordem);
+    load(order);
     ui_->txtObs->setFocus();
 }
 
@@ -70,17 +70,17 @@ void frmManutDetOFT::prepareButtons() {
     connect(ui_->cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-void frmManutDetOFT::load(const BillingOrder& ordem) {
-    const auto& cells = ordem.cells;
+void frmManutDetOFT::load(const BillingOrder& order) {
+    const auto& cells = order.cells;
     const std::array<QLineEdit*, 8> forReading{ui_->txtOrdFat, ui_->txtCliente,   ui_->txtEstab,
                                                ui_->txtTpNF,   ui_->txtDtEmissao, ui_->txtOrdCarga,
                                                ui_->txtTransp, ui_->txtMotorista};
     for (std::size_t i = 0; i < forReading.size(); ++i) {
-        const QString texto = QString::fromStdString(cells[i]);
-        forReading[i]->setText(texto);
+        const QString text = QString::fromStdString(cells[i]);
+        forReading[i]->setText(text);
         forReading[i]->setCursorPosition(0);
-        if (!texto.isEmpty()) {  // whole, where the field is short
-            forReading[i]->setToolTip(Qt::convertFromPlainText(texto, Qt::WhiteSpaceNormal));
+        if (!text.isEmpty()) {  // whole, where the field is short
+            forReading[i]->setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
         }
     }
     ui_->txtObs->loadText(cells[8]);
@@ -102,22 +102,22 @@ QLineEdit& frmManutDetOFT::field(OrderField which) const {
 }
 
 void frmManutDetOFT::cmdOk_Click() {
-    const std::string ordem = ui_->txtOrdFat->text().toStdString();
+    const std::string number = ui_->txtOrdFat->text().toStdString();
     const std::string observation = ui_->txtObs->text();
     const std::string quantity = ui_->txtQtde->text().toStdString();
     const std::string grossWeight = ui_->txtPesoBruto->text().toStdString();
     const std::string netWeight = ui_->txtPesoLiquido->text().toStdString();
-    const commands::OrderData data{.ordem = ordem,
-                                   .observation = observation,
-                                   .quantity = quantity,
-                                   .grossWeight = grossWeight,
-                                   .netWeight = netWeight};
-    if (const auto refuse = dataRefusal(data)) {
-        desk_.environment.boxes.show({std::string(refuse->texto), BoxIcon::Information, "Atenção"});
-        field(refuse->field).setFocus();
+    const commands::OrderData order{.order = number,
+                                    .observation = observation,
+                                    .quantity = quantity,
+                                    .grossWeight = grossWeight,
+                                    .netWeight = netWeight};
+    if (const auto refusal = dataRefusal(order)) {
+        desk_.environment.boxes.show({std::string(refusal->text), BoxIcon::Information, "Atenção"});
+        field(refusal->field).setFocus();
         return;
     }
-    if (saveOrder(desk_.environment, desk_.session, data)) {
+    if (saveOrder(desk_.environment, desk_.session, order)) {
         emit savedIt();
         accept();
     }

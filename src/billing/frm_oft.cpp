@@ -58,8 +58,8 @@ void FrmOFT::prepareGrid() {
     QTableView& grid = *ui_->sprDados;
     grid.setModel(orders_);
     const int character = grid.fontMetrics().averageCharWidth();
-    for (int coluna = 0; coluna < orders_->columnCount(); ++coluna) {
-        grid.setColumnWidth(coluna, widths.at(static_cast<std::size_t>(coluna)) * character);
+    for (int column = 0; column < orders_->columnCount(); ++column) {
+        grid.setColumnWidth(column, widths.at(static_cast<std::size_t>(column)) * character);
     }
     grid.horizontalHeader()->setHighlightSections(false);
     grid.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -84,13 +84,13 @@ void FrmOFT::prepareButtons() {
 // Wide enough for the columns that have a heading.
 QSize FrmOFT::sizeHint() const {
     const QTableView& grid = *ui_->sprDados;
-    int largura = grid.verticalHeader()->sizeHint().width() + 2 * grid.frameWidth() +
-                  grid.verticalScrollBar()->sizeHint().width();
-    for (int coluna = 0; coluna < columnsWithTitle; ++coluna) {
-        largura += grid.columnWidth(coluna);
+    int width = grid.verticalHeader()->sizeHint().width() + 2 * grid.frameWidth() +
+                grid.verticalScrollBar()->sizeHint().width();
+    for (int column = 0; column < columnsWithTitle; ++column) {
+        width += grid.columnWidth(column);
     }
     const int height = grid.verticalHeader()->defaultSectionSize() * visibleLines;
-    return QWidget::sizeHint() - grid.sizeHint() + QSize(largura, height);
+    return QWidget::sizeHint() - grid.sizeHint() + QSize(width, height);
 }
 
 void FrmOFT::load() {
@@ -124,24 +124,24 @@ std::optional<BillingOrder> FrmOFT::selectedOrder() {
         return std::nullopt;
     }
     const QModelIndex activate = ui_->sprDados->currentIndex();
-    return orders_->ordem(activate.isValid() ? activate.row() : 0);
+    return orders_->order(activate.isValid() ? activate.row() : 0);
 }
 
-bool FrmOFT::observationsAccepted(const BillingOrder& ordem) {
+bool FrmOFT::observationsAccepted(const BillingOrder& order) {
     ScreenAlert alert(desk_.session, this);
-    bool continua = false;
-    Seleciona_Obs_Vnd_X_Ord(desk_.environment, desk_.session, alert, ordem.ordem(), continua);
-    return continua;
+    bool goesOn = false;
+    Seleciona_Obs_Vnd_X_Ord(desk_.environment, desk_.session, alert, order.order(), goesOn);
+    return goesOn;
 }
 
 void FrmOFT::cmdSelecionar_Click() {
     timer_->stop();
-    const auto ordem = selectedOrder();
-    if (!ordem) {
+    const auto order = selectedOrder();
+    if (!order) {
         return;
     }
     ScreenAlert alert(desk_.session, this);
-    if (generateNote(desk_.environment, desk_.session, alert, ordem->ordem()) ==
+    if (generateNote(desk_.environment, desk_.session, alert, order->order()) ==
         GenerationEnd::Finished) {
         loadSpread();
         timer_->start();
@@ -149,22 +149,22 @@ void FrmOFT::cmdSelecionar_Click() {
 }
 
 void FrmOFT::CmdCanOft_Click() {
-    const auto ordem = selectedOrder();
-    if (ordem && cancelOrder(desk_.environment, desk_.session, *ordem)) {
+    const auto order = selectedOrder();
+    if (order && cancelOrder(desk_.environment, desk_.session, *order)) {
         loadSpread();
     }
 }
 
 void FrmOFT::cmdImprimirOF_Click() {
-    const auto ordem = selectedOrder();
-    if (ordem && observationsAccepted(*ordem)) {
-        printSelectedOrder(desk_.environment, desk_.session, ordem->ordem());
+    const auto order = selectedOrder();
+    if (order && observationsAccepted(*order)) {
+        printSelectedOrder(desk_.environment, desk_.session, order->order());
     }
 }
 
 void FrmOFT::cmdDetOFT_Click() {
-    const auto ordem = selectedOrder();
-    if (!ordem || !observationsAccepted(*ordem)) {
+    const auto order = selectedOrder();
+    if (!order || !observationsAccepted(*order)) {
         return;
     }
     // The list may have been renewed under the observation: the row that is active now

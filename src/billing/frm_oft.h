@@ -47,7 +47,7 @@ private:
     void prepareButtons();
     // The active row, the first one when none is; with an empty grid tells the user.
     std::optional<BillingOrder> selectedOrder();
-    bool observationsAccepted(const BillingOrder& ordem);
+    bool observationsAccepted(const BillingOrder& order);
 
     void Timer_Tick();
     void cmdSelecionar_Click();

@@ -16,25 +16,25 @@ constexpr std::int32_t companyNotANumber = 2161;
 constexpr std::int32_t establishmentNotANumber = 3383;
 
 bool acceptedNotices(Environment& environment, Sessao& session, AlertDialog& alert,
-                     const std::string& ordem) {
-    bool continua = false;
-    Seleciona_Obs_Vnd_X_Ord(environment, session, alert, ordem, continua);
-    if (continua) {
-        Seleciona_Obs_Ord_X_Est(environment, session, alert, ordem, continua);
+                     const std::string& order) {
+    bool goesOn = false;
+    Seleciona_Obs_Vnd_X_Ord(environment, session, alert, order, goesOn);
+    if (goesOn) {
+        Seleciona_Obs_Ord_X_Est(environment, session, alert, order, goesOn);
     }
-    return continua;
+    return goesOn;
 }
 
 // The value of a child of the root, found by its place alone.
-std::string valueByPosition(const XmlDocument& documento, std::size_t indice) {
-    return std::string(documento.documentElement().child(indice).attributes().item(0).text());
+std::string valueByPosition(const XmlDocument& document, std::size_t index) {
+    return std::string(document.documentElement().child(index).attributes().item(0).text());
 }
 
 GenerationEnd printGenerated(Environment& environment, const Sessao& session,
                              const std::string& note, const std::string& series,
                              const PrintStep& print) {
-    XmlDocument documento;
-    if (!requestAnswer(environment, commands::sel_gera_nf(session, note, series), documento,
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::sel_gera_nf(session, note, series), document,
                        failure::Tarn0005)) {
         warn(environment,
              "Houve um problema na transferência dos dados da Nota Fiscal nº " + note +
@@ -42,24 +42,24 @@ GenerationEnd printGenerated(Environment& environment, const Sessao& session,
              "Aviso");
         return GenerationEnd::Finished;
     }
-    if (documento.empty()) {
+    if (document.empty()) {
         throw RuntimeError(RuntimeErrorCode::ObjectRequired);
     }
-    if (!answerAccepted(environment, documento, "")) {
+    if (!answerAccepted(environment, document, "")) {
         return GenerationEnd::Stopped;
     }
     if (session.NCOMPANYCODE == companyNotANumber &&
         session.ID_ETB_TARN == establishmentNotANumber) {
         throw RuntimeError(RuntimeErrorCode::ObjectRequired);
     }
-    print(environment, session, documento, note);
+    print(environment, session, document, note);
     return GenerationEnd::Finished;
 }
 
-GenerationEnd noteQuery(Environment& environment, const Sessao& session, const std::string& ordem,
+GenerationEnd noteQuery(Environment& environment, const Sessao& session, const std::string& order,
                         const PrintStep& print) {
-    XmlDocument documento;
-    if (!requestAnswer(environment, commands::SP_GERA_NF(session, ordem), documento,
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::SP_GERA_NF(session, order), document,
                        failure::Tarn0004)) {
         warn(environment,
              "Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, utilize a "
@@ -67,23 +67,23 @@ GenerationEnd noteQuery(Environment& environment, const Sessao& session, const s
              "Aviso");
         return GenerationEnd::Finished;
     }
-    if (!answerAccepted(environment, documento, "Houve um problema para gerar a Nota Fiscal. ")) {
+    if (!answerAccepted(environment, document, "Houve um problema para gerar a Nota Fiscal. ")) {
         return GenerationEnd::Stopped;
     }
-    const std::string note = valueByPosition(documento, 0);
-    const std::string series = valueByPosition(documento, 1);
+    const std::string note = valueByPosition(document, 0);
+    const std::string series = valueByPosition(document, 1);
     return printGenerated(environment, session, note, series, print);
 }
 
 }  // namespace
 
 GenerationEnd generateNote(Environment& environment, Sessao& session, AlertDialog& alert,
-                           const std::string& ordem, const PrintStep& print) {
-    if (!acceptedNotices(environment, session, alert, ordem)) {
+                           const std::string& order, const PrintStep& print) {
+    if (!acceptedNotices(environment, session, alert, order)) {
         return GenerationEnd::Stopped;
     }
     try {
-        return noteQuery(environment, session, ordem, print);
+        return noteQuery(environment, session, order, print);
     } catch (const RuntimeError& error) {
         throw ErrorAfterNote(error);
     }

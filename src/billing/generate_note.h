@@ -26,15 +26,15 @@ using PrintStep =
 // its timer off. The two cases in which the note stands on the server and can't be
 // printed here, and every error of a layout, come out as ErroComNota.
 GenerationEnd generateNote(Environment& environment, Sessao& session, AlertDialog& alert,
-                           const std::string& ordem, const PrintStep& print);
+                           const std::string& order, const PrintStep& print);
 
 // The same, printed by the issuing screen's ladder.
 inline GenerationEnd generateNote(Environment& environment, Sessao& session, AlertDialog& alert,
-                                  const std::string& ordem) {
+                                  const std::string& order) {
     return generateNote(
-        environment, session, alert, ordem,
-        [](Environment& where, const Sessao& who, XmlDocument& documento, const std::string& note) {
-            printNote(Ladder::Issuing, where, who, documento, note);
+        environment, session, alert, order,
+        [](Environment& where, const Sessao& who, XmlDocument& document, const std::string& note) {
+            printNote(Ladder::Issuing, where, who, document, note);
         });
 }
 

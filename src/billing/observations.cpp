@@ -13,8 +13,8 @@ namespace {
 // Reads the answer's text into TextoMensagem. A failed load leaves the text of the
 // order before and still goes on; false: the action ends here, the user has been told.
 bool textSearch(Environment& environment, Sessao& session, const std::string& query) {
-    XmlDocument documento;
-    if (!requestAnswer(environment, query, documento, failure::Tarn0004)) {
+    XmlDocument document;
+    if (!requestAnswer(environment, query, document, failure::Tarn0004)) {
         warn(environment,
              "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e "
              "tente novamente.",
@@ -22,42 +22,42 @@ bool textSearch(Environment& environment, Sessao& session, const std::string& qu
         return true;
     }
     if (!answerAccepted(
-            environment, documento,
+            environment, document,
             "Houve um problema para selecionar as mensagens de observação da(s) venda(s). ")) {
         return false;
     }
-    session.TextoMensagem = textAttribute(documento.documentElement(), 0, "OBSERVACAO");
+    session.TextoMensagem = textAttribute(document.documentElement(), 0, "OBSERVACAO");
     return true;
 }
 
 }  // namespace
 
 void Seleciona_Obs_Vnd_X_Ord(Environment& environment, Sessao& session, AlertDialog& alert,
-                             const std::string& ordem, bool& continua) {
-    continua = false;
-    if (!textSearch(environment, session, commands::Seleciona_Obs_Vnd_X_Ord(session, ordem))) {
+                             const std::string& order, bool& goesOn) {
+    goesOn = false;
+    if (!textSearch(environment, session, commands::Seleciona_Obs_Vnd_X_Ord(session, order))) {
         return;
     }
     session.ConfirmaMensagem = "N";
     if (session.TextoMensagem.empty()) {
-        continua = true;
+        goesOn = true;
     } else {
         alert.show(AlertMode::Confirm);
     }
     if (session.ConfirmaMensagem == "S") {
-        continua = true;
+        goesOn = true;
     }
 }
 
 void Seleciona_Obs_Ord_X_Est(Environment& environment, Sessao& session, AlertDialog& alert,
-                             const std::string& ordem, bool& continua) {
-    continua = false;
-    if (!textSearch(environment, session, commands::Seleciona_Obs_Ord_X_Est(session, ordem))) {
+                             const std::string& order, bool& goesOn) {
+    goesOn = false;
+    if (!textSearch(environment, session, commands::Seleciona_Obs_Ord_X_Est(session, order))) {
         return;
     }
     session.ConfirmaMensagem = "N";
     if (session.TextoMensagem.empty()) {
-        continua = true;
+        goesOn = true;
     } else {
         alert.show(AlertMode::OutOfStock);
     }

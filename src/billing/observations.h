@@ -10,13 +10,13 @@ namespace tarn {
 class AlertDialog;
 struct Environment;
 
-// The observations of the order's sales, to be confirmed. `continua` comes back
+// The observations of the order's sales, to be confirmed. `goesOn` comes back
 // true when the action may go on.
 void Seleciona_Obs_Vnd_X_Ord(Environment& environment, Sessao& session, AlertDialog& alert,
-                             const std::string& ordem, bool& continua);
+                             const std::string& order, bool& goesOn);
 
 // The stock check: with something missing the order can't go on.
 void Seleciona_Obs_Ord_X_Est(Environment& environment, Sessao& session, AlertDialog& alert,
-                             const std::string& ordem, bool& continua);
+                             const std::string& order, bool& goesOn);
 
 }  // namespace tarn

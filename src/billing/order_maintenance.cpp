@@ -12,7 +12,7 @@ namespace {
 
 struct Test {
     OrderField field;
-    std::string_view commands::OrderData::*valor;
+    std::string_view commands::OrderData::*value;
     std::string_view empty;
     std::string_view negative;
 };
@@ -29,11 +29,11 @@ constexpr std::array<Test, 3> tests{
 
 std::optional<OrderRefusal> dataRefusal(const commands::OrderData& data) {
     for (const Test& test : tests) {
-        const std::string_view valor = data.*test.valor;
-        if (valor.empty()) {
+        const std::string_view value = data.*test.value;
+        if (value.empty()) {
             return OrderRefusal{test.field, test.empty};
         }
-        if (readComma(valor) < 0) {
+        if (readComma(value) < 0) {
             return OrderRefusal{test.field, test.negative};
         }
     }
@@ -41,14 +41,14 @@ std::optional<OrderRefusal> dataRefusal(const commands::OrderData& data) {
 }
 
 bool saveOrder(Environment& environment, const Sessao& session, const commands::OrderData& data) {
-    XmlDocument documento;
-    if (!requestAnswer(environment, commands::MANUTENCAO_OFT(session, data), documento,
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::MANUTENCAO_OFT(session, data), document,
                        failure::Tarn0013)) {
         warn(environment, "Favor verificar se os dados da Ordem de Faturamento foi gravado. ",
              "Aviso");
         return true;
     }
-    return answerAccepted(environment, documento,
+    return answerAccepted(environment, document,
                           "Houve um problema para gravar a Ordem de Faturamento. ");
 }
 

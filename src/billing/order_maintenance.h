@@ -15,7 +15,7 @@ enum class OrderField { Quantity, GrossWeight, NetWeight };
 
 struct OrderRefusal {
     OrderField field;
-    std::string_view texto;  // of the box
+    std::string_view text;  // of the box
 };
 
 // The first test that fails, in the order in which the fields are tested. A text that

@@ -27,7 +27,7 @@ constexpr std::array<Column, 12> columns{{{"Ord. Fat.", "Número da ordem de fat
                                           {"", "Peso bruto", true},
                                           {"", "Peso líquido", true}}};
 
-const Column& coluna(int number) {
+const Column& column(int number) {
     return columns.at(static_cast<std::size_t>(number));
 }
 
@@ -51,14 +51,14 @@ QVariant OrderModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) {
         return {};
     }
-    if (role == Qt::TextAlignmentRole && coluna(index.column()).number) {
+    if (role == Qt::TextAlignmentRole && column(index.column()).number) {
         return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
     }
     if (role != Qt::DisplayRole) {
         return {};
     }
     return QString::fromStdString(
-        ordem(index.row()).cells.at(static_cast<std::size_t>(index.column())));
+        order(index.row()).cells.at(static_cast<std::size_t>(index.column())));
 }
 
 QVariant OrderModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -66,10 +66,10 @@ QVariant OrderModel::headerData(int section, Qt::Orientation orientation, int ro
         return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
     }
     if (role == Qt::DisplayRole) {
-        return QString::fromUtf8(coluna(section).title);
+        return QString::fromUtf8(column(section).title);
     }
     if (role == Qt::ToolTipRole) {
-        return QString::fromUtf8(coluna(section).hint);
+        return QString::fromUtf8(column(section).hint);
     }
     if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);

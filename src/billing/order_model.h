@@ -16,9 +16,7 @@ public:
 
     // Takes the place of all rows; costs O(1) a row.
     void show(std::vector<BillingOrder> orders);
-    const BillingOrder& ordem(int linha) const {
-        return orders_.at(static_cast<std::size_t>(linha));
-    }
+    const BillingOrder& order(int line) const { return orders_.at(static_cast<std::size_t>(line)); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

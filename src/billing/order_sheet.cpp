@@ -59,31 +59,31 @@ struct Item {
     Values values;
 };
 
-std::string_view fieldOf(const XmlNode& linha, std::string_view nome) {
-    const XmlAttribute attribute = linha.attributes().getNamedItem(nome);
+std::string_view fieldOf(const XmlNode& line, std::string_view name) {
+    const XmlAttribute attribute = line.attributes().getNamedItem(name);
     if (!attribute) {
-        throw RuntimeError(RuntimeErrorCode::ObjectVariable, nome);
+        throw RuntimeError(RuntimeErrorCode::ObjectVariable, name);
     }
     return attribute.text();
 }
 
-double numberOf(const XmlNode& linha, std::string_view nome) {
-    return readPoint(fieldOf(linha, nome));
+double numberOf(const XmlNode& line, std::string_view name) {
+    return readPoint(fieldOf(line, name));
 }
 
 // Every field is read, also those that the sheet doesn't print.
-Item readItem(const XmlNode& linha) {
-    Item item{.code = fieldOf(linha, "CD_PRO"),
-              .description = fieldOf(linha, "DESCRICAO"),
-              .quantity = numberOf(linha, "QTDE"),
-              .unitPrice = numberOf(linha, "UNITARIO"),
-              .values = {.discount = numberOf(linha, "VL_DSC"),
-                         .ipi = numberOf(linha, "VL_IPI"),
-                         .icmsWithheld = numberOf(linha, "VL_ICMS_RTD"),
-                         .icmsDiscount = numberOf(linha, "VL_DSC_ICMS"),
-                         .freight = numberOf(linha, "VL_FRT"),
-                         .expenses = numberOf(linha, "VL_DSP_ACS"),
-                         .insurance = numberOf(linha, "VL_SEG")}};
+Item readItem(const XmlNode& line) {
+    Item item{.code = fieldOf(line, "CD_PRO"),
+              .description = fieldOf(line, "DESCRICAO"),
+              .quantity = numberOf(line, "QTDE"),
+              .unitPrice = numberOf(line, "UNITARIO"),
+              .values = {.discount = numberOf(line, "VL_DSC"),
+                         .ipi = numberOf(line, "VL_IPI"),
+                         .icmsWithheld = numberOf(line, "VL_ICMS_RTD"),
+                         .icmsDiscount = numberOf(line, "VL_DSC_ICMS"),
+                         .freight = numberOf(line, "VL_FRT"),
+                         .expenses = numberOf(line, "VL_DSP_ACS"),
+                         .insurance = numberOf(line, "VL_SEG")}};
     item.values.gross = item.quantity * item.unitPrice;
     return item;
 }
@@ -96,53 +96,53 @@ public:
         channel_.open();
     }
 
-    OrderSheet& texto(std::string_view fixedText) {
-        linha_ += fixedText;
+    OrderSheet& text(std::string_view fixedText) {
+        line_ += fixedText;
         return *this;
     }
     OrderSheet& blanks(int count) {
-        linha_.append(static_cast<std::size_t>(count), ' ');
+        line_.append(static_cast<std::size_t>(count), ' ');
         return *this;
     }
-    OrderSheet& field(std::string_view valor, int largura) {
-        appendField(linha_, valor, largura, false);
+    OrderSheet& field(std::string_view value, int width) {
+        appendField(line_, value, width, false);
         return *this;
     }
-    OrderSheet& valor(double number, const NumberMask& mask, int largura) {
-        return aDireita(formatNumber(number, mask), largura);
+    OrderSheet& value(double number, const NumberMask& mask, int width) {
+        return alignRight(formatNumber(number, mask), width);
     }
-    OrderSheet& inParentheses(double number, int largura) {
-        return aDireita("(" + formatNumber(number, twoPlaces) + ")", largura);
+    OrderSheet& inParentheses(double number, int width) {
+        return alignRight("(" + formatNumber(number, twoPlaces) + ")", width);
     }
     void out() {
-        channel_.ImprimeRaw(1, linha_, 1);
-        linha_.clear();
+        channel_.ImprimeRaw(1, line_, 1);
+        line_.clear();
     }
 
     void ruler(char stroke) {
-        linha_.append(sheetWidth, stroke);
+        line_.append(sheetWidth, stroke);
         out();
     }
     void isBlank() { blanks(sheetWidth).out(); }
     void close() { channel_.close(); }
 
 private:
-    OrderSheet& aDireita(std::string_view valor, int largura) {
-        appendField(linha_, valor, largura, true);
+    OrderSheet& alignRight(std::string_view value, int width) {
+        appendField(line_, value, width, true);
         return *this;
     }
 
     RawChannel channel_;
-    std::string linha_;
+    std::string line_;
 };
 
-std::string header(const XmlDocument& documento, std::string_view nome) {
-    return textAttribute(documento.selectSingleNode("PRINCIPAL"), 0, nome);
+std::string header(const XmlDocument& document, std::string_view name) {
+    return textAttribute(document.selectSingleNode("PRINCIPAL"), 0, name);
 }
 
 // Quantity, code, description; what follows differs.
 OrderSheet& itemStart(OrderSheet& sheet, const Item& item) {
-    return sheet.valor(item.quantity, threePlaces, 8)
+    return sheet.value(item.quantity, threePlaces, 8)
         .blanks(1)
         .field(item.code, 7)
         .blanks(1)
@@ -152,11 +152,11 @@ OrderSheet& itemStart(OrderSheet& sheet, const Item& item) {
 
 // Reads and prints the items in turn; returns their totals.
 template <typename EndOfLine>
-Values printItems(OrderSheet& sheet, const XmlDocument& documento, EndOfLine endOfLine) {
+Values printItems(OrderSheet& sheet, const XmlDocument& document, EndOfLine endOfLine) {
     Values totals;
-    const XmlNodeList linhas = documento.selectNodes("//ITEM");
-    for (std::size_t i = 0; i < linhas.length(); ++i) {
-        const Item item = readItem(linhas.item(i));
+    const XmlNodeList lines = document.selectNodes("//ITEM");
+    for (std::size_t i = 0; i < lines.length(); ++i) {
+        const Item item = readItem(lines.item(i));
         totals.sum(item.values);
         itemStart(sheet, item);
         endOfLine(item);
@@ -167,36 +167,36 @@ Values printItems(OrderSheet& sheet, const XmlDocument& documento, EndOfLine end
 
 // `titles` prints the two lines above the instalments, when there are any.
 template <typename Titles>
-void printParcels(OrderSheet& sheet, const XmlDocument& documento, Titles titles) {
-    const XmlNodeList linhas = documento.selectNodes("//PARCELA");
-    if (linhas.length() > 0) {
+void printParcels(OrderSheet& sheet, const XmlDocument& document, Titles titles) {
+    const XmlNodeList lines = document.selectNodes("//PARCELA");
+    if (lines.length() > 0) {
         titles();
     }
-    for (std::size_t i = 0; i < linhas.length(); ++i) {
-        const std::string_view due = fieldOf(linhas.item(i), "DT_PRL");
-        const double valor = numberOf(linhas.item(i), "VL_PRL");
+    for (std::size_t i = 0; i < lines.length(); ++i) {
+        const std::string_view due = fieldOf(lines.item(i), "DT_PRL");
+        const double value = numberOf(lines.item(i), "VL_PRL");
         sheet.blanks(28)
             .field(due, 10)
             .blanks(1)
-            .valor(valor, twoPlaces, amountWidth)
+            .value(value, twoPlaces, amountWidth)
             .blanks(1)
             .out();
     }
 }
 
-void label(OrderSheet& sheet, std::string_view texto) {
-    sheet.blanks(totalsColumn - static_cast<int>(texto.size())).texto(texto);
+void label(OrderSheet& sheet, std::string_view text) {
+    sheet.blanks(totalsColumn - static_cast<int>(text.size())).text(text);
 }
 
 void printTotals(OrderSheet& sheet, const Values& totals) {
-    const auto total = [&sheet](std::string_view texto, double valor) {
-        label(sheet, texto);
-        sheet.valor(valor, twoPlaces, totalWidth).out();
+    const auto total = [&sheet](std::string_view text, double value) {
+        label(sheet, text);
+        sheet.value(value, twoPlaces, totalWidth).out();
     };
     // The closing bracket stands one column behind the digits of the other totals.
-    const auto discount = [&sheet](std::string_view texto, double valor) {
-        label(sheet, texto);
-        sheet.inParentheses(valor, amountWidth).out();
+    const auto discount = [&sheet](std::string_view text, double value) {
+        label(sheet, text);
+        sheet.inParentheses(value, amountWidth).out();
     };
     discount("VALOR DE DESCONTO: ", totals.discount);
     total("VALOR DE IPI: ", totals.ipi);
@@ -205,38 +205,38 @@ void printTotals(OrderSheet& sheet, const Values& totals) {
     total("VALOR DE FRETE: ", totals.freight);
     total("VALOR DE SEGURO: ", totals.insurance);
     total("VALOR DE DESPESAS ACESSORIAS: ", totals.expenses);
-    sheet.blanks(43).texto("----------------------------------").out();
+    sheet.blanks(43).text("----------------------------------").out();
     total("VALOR LIQUIDO: ", totals.orderNet());
 }
 
-void printPlainHeader(OrderSheet& sheet, const XmlDocument& documento) {
+void printPlainHeader(OrderSheet& sheet, const XmlDocument& document) {
     sheet.out();
-    sheet.texto("                            ORDEM DE FATURAMENTO                             ")
+    sheet.text("                            ORDEM DE FATURAMENTO                             ")
         .out();
     sheet.ruler('-');
-    sheet.texto("Cliente:  ").field(header(documento, "RAZAO"), 50).blanks(1);
-    sheet.texto("Data: ").field(header(documento, "DT_EMS_NF"), 10).out();
-    sheet.texto("Vendedor: ").field(header(documento, "VENDEDOR"), 67).out();
-    sheet.texto("                                  PRODUTOS                                   ")
+    sheet.text("Cliente:  ").field(header(document, "RAZAO"), 50).blanks(1);
+    sheet.text("Data: ").field(header(document, "DT_EMS_NF"), 10).out();
+    sheet.text("Vendedor: ").field(header(document, "VENDEDOR"), 67).out();
+    sheet.text("                                  PRODUTOS                                   ")
         .out();
     sheet.ruler('-');
-    sheet.texto("  QTDE    CODIGO         DESCRICAO DO PRODUTO          UNITARIO   VLR.BRUTO  ")
+    sheet.text("  QTDE    CODIGO         DESCRICAO DO PRODUTO          UNITARIO   VLR.BRUTO  ")
         .out();
-    sheet.texto("-------- ------- ------------------------------------ ---------- ------------")
+    sheet.text("-------- ------- ------------------------------------ ---------- ------------")
         .out();
 }
 
-void printPriceHeader(OrderSheet& sheet, const XmlDocument& documento) {
+void printPriceHeader(OrderSheet& sheet, const XmlDocument& document) {
     sheet.out();
-    const std::string control = header(documento, "NR_CTRL_INT");
+    const std::string control = header(document, "NR_CTRL_INT");
     if (control != "0") {
         sheet.field(control, 40);
     }
     sheet.out();
     sheet.ruler('-');
-    sheet.field(header(documento, "RAZAO"), 50).blanks(17);
-    sheet.field(header(documento, "DT_EMS_NF"), 10).out();
-    sheet.field(header(documento, "VENDEDOR"), 67).out();
+    sheet.field(header(document, "RAZAO"), 50).blanks(17);
+    sheet.field(header(document, "DT_EMS_NF"), 10).out();
+    sheet.field(header(document, "VENDEDOR"), 67).out();
     sheet.isBlank();
     sheet.ruler('-');
 }
@@ -245,7 +245,7 @@ void printObservations(OrderSheet& sheet) {
     constexpr int linesToWrite = 4;
     sheet.isBlank();
     sheet.isBlank();
-    sheet.texto("OBS:_________________________________________________________________________")
+    sheet.text("OBS:_________________________________________________________________________")
         .out();
     for (int i = 0; i < linesToWrite; ++i) {
         sheet.isBlank();
@@ -255,52 +255,52 @@ void printObservations(OrderSheet& sheet) {
 
 }  // namespace
 
-void ImprimeOrdemFaturamento(Environment& environment, XmlDocument& documento) {
+void ImprimeOrdemFaturamento(Environment& environment, XmlDocument& document) {
     OrderSheet sheet(environment);
-    printPlainHeader(sheet, documento);
-    const Values totals = printItems(sheet, documento, [&sheet](const Item& item) {
-        sheet.valor(item.unitPrice, twoPlaces, 10).blanks(1);
-        sheet.valor(item.values.gross, twoPlaces, totalWidth);
+    printPlainHeader(sheet, document);
+    const Values totals = printItems(sheet, document, [&sheet](const Item& item) {
+        sheet.value(item.unitPrice, twoPlaces, 10).blanks(1);
+        sheet.value(item.values.gross, twoPlaces, totalWidth);
     });
     sheet.ruler('-');
     printTotals(sheet, totals);
-    printParcels(sheet, documento, [&sheet] {
-        sheet.texto("                        VENCTO PREVISTO      VALOR                           ")
+    printParcels(sheet, document, [&sheet] {
+        sheet.text("                        VENCTO PREVISTO      VALOR                           ")
             .out();
-        sheet.texto("                      ------------------- -------------                      ")
+        sheet.text("                      ------------------- -------------                      ")
             .out();
     });
     sheet.close();
-    documento = XmlDocument();
+    document = XmlDocument();
 }
 
-void ImprimeOrdemFaturamentoPreco(Environment& environment, XmlDocument& documento) {
+void ImprimeOrdemFaturamentoPreco(Environment& environment, XmlDocument& document) {
     OrderSheet sheet(environment);
-    printPriceHeader(sheet, documento);
-    const Values totals = printItems(sheet, documento, [&sheet](const Item& item) {
-        sheet.valor(item.unitPrice, threePlaces, 10).blanks(1);
-        sheet.valor(item.values.itemNet(), twoPlaces, amountWidth);
+    printPriceHeader(sheet, document);
+    const Values totals = printItems(sheet, document, [&sheet](const Item& item) {
+        sheet.value(item.unitPrice, threePlaces, 10).blanks(1);
+        sheet.value(item.values.itemNet(), twoPlaces, amountWidth);
     });
     sheet.ruler('-');
-    sheet.blanks(totalsColumn).valor(totals.discount, twoPlaces, amountWidth).out();
-    sheet.blanks(60).texto("-----------------").out();
+    sheet.blanks(totalsColumn).value(totals.discount, twoPlaces, amountWidth).out();
+    sheet.blanks(60).text("-----------------").out();
     sheet.blanks(totalsColumn);
-    sheet.valor(totals.orderNet(), twoPlaces, amountWidth).out();
-    printParcels(sheet, documento, [&sheet] {
+    sheet.value(totals.orderNet(), twoPlaces, amountWidth).out();
+    printParcels(sheet, document, [&sheet] {
         sheet.isBlank();
-        sheet.texto("                         ---------------- -------------                      ")
+        sheet.text("                         ---------------- -------------                      ")
             .out();
     });
     printObservations(sheet);
     sheet.close();
-    documento = XmlDocument();
+    document = XmlDocument();
 }
 
-void printOrder(Environment& environment, const Sessao& session, XmlDocument& documento) {
+void printOrder(Environment& environment, const Sessao& session, XmlDocument& document) {
     if (session.NCOMPANYCODE == priceSheetCompany) {
-        ImprimeOrdemFaturamentoPreco(environment, documento);
+        ImprimeOrdemFaturamentoPreco(environment, document);
     } else {
-        ImprimeOrdemFaturamento(environment, documento);
+        ImprimeOrdemFaturamento(environment, document);
     }
 }
 

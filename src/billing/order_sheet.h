@@ -9,16 +9,16 @@ namespace tarn {
 
 struct Environment;
 
-// The standard sheet. `documento` is read as it prints: what raises VariavelObjeto (no
+// The standard sheet. `document` is read as it prints: what raises VariavelObjeto (no
 // header row, a missing field of an ITEM or PARCELA) leaves the lines before it in the
 // job, which stays open. Released at the end.
-void ImprimeOrdemFaturamento(Environment& environment, XmlDocument& documento);
+void ImprimeOrdemFaturamento(Environment& environment, XmlDocument& document);
 
 // The sheet of company 1361, for a form that brings its title and headings: control
 // number, net value of each item, room for observations.
-void ImprimeOrdemFaturamentoPreco(Environment& environment, XmlDocument& documento);
+void ImprimeOrdemFaturamentoPreco(Environment& environment, XmlDocument& document);
 
 // The one of the two that the company uses.
-void printOrder(Environment& environment, const Sessao& session, XmlDocument& documento);
+void printOrder(Environment& environment, const Sessao& session, XmlDocument& document);
 
 }  // namespace tarn

@@ -19,23 +19,23 @@ constexpr std::array<std::string_view, 12> fields{
 constexpr std::size_t firstNumber = 9;  // quantity and the two weights
 constexpr NumberMask mask{"###,###,###,##0.000"};
 
-BillingOrder orderOf(const XmlNode& linha) {
-    BillingOrder ordem;
-    const XmlAttributes attributes = linha.attributes();
+BillingOrder orderOf(const XmlNode& line) {
+    BillingOrder order;
+    const XmlAttributes attributes = line.attributes();
     for (std::size_t i = 0; i < fields.size(); ++i) {
         const XmlAttribute attribute = attributes.getNamedItem(fields[i]);
         if (!attribute) {
             continue;
         }
-        ordem.cells[i] = i < firstNumber ? std::string(attribute.text())
+        order.cells[i] = i < firstNumber ? std::string(attribute.text())
                                          : formatNumber(readPoint(attribute.text()), mask);
     }
-    return ordem;
+    return order;
 }
 
-bool confirm(Environment& environment, const std::string& ordem) {
+bool confirm(Environment& environment, const std::string& order) {
     const BoxAnswer answer = environment.boxes.show(
-        {.text = "Confirma o cancelamento da Ordem de Faturamento nº " + ordem + " ?     ",
+        {.text = "Confirma o cancelamento da Ordem de Faturamento nº " + order + " ?     ",
          .icon = BoxIcon::Question,
          .title = "Aviso",
          .buttons = BoxButtons::YesNo});
@@ -46,35 +46,35 @@ bool confirm(Environment& environment, const std::string& ordem) {
 
 std::vector<BillingOrder> loadOrders(Environment& environment, const Sessao& session) {
     std::vector<BillingOrder> orders;
-    XmlDocument documento;
-    if (!requestAnswer(environment, commands::sel_ordem_fatu(session), documento,
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::sel_ordem_fatu(session), document,
                        failure::Tarn0006)) {
         return orders;
     }
-    if (documento.empty()) {
+    if (document.empty()) {
         warn(environment, "Houve um problema na transferência das Ordens de Faturamento.");
         return orders;
     }
-    const XmlNode linhas = documento.selectSingleNode("xml/rs:data");
-    if (!linhas) {
+    const XmlNode lines = document.selectSingleNode("xml/rs:data");
+    if (!lines) {
         return orders;
     }
-    const std::size_t count = linhas.childCount();
+    const std::size_t count = lines.childCount();
     orders.reserve(count);
     for (std::size_t i = 0; i < count; ++i) {
-        orders.push_back(orderOf(linhas.child(i)));
+        orders.push_back(orderOf(lines.child(i)));
     }
     return orders;
 }
 
-bool cancelOrder(Environment& environment, const Sessao& session, const BillingOrder& ordem) {
-    const std::string& number = ordem.ordem();
+bool cancelOrder(Environment& environment, const Sessao& session, const BillingOrder& order) {
+    const std::string& number = order.order();
     if (!confirm(environment, number)) {
         return false;
     }
-    XmlDocument documento;
-    if (!requestAnswer(environment, commands::sp_can_oft(session, number, ordem.loadOrder()),
-                       documento, failure::Tarn0003)) {
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::sp_can_oft(session, number, order.loadOrder()),
+                       document, failure::Tarn0003)) {
         warn(environment,
              "Favor verificar se a Ordem de Faturamento nº " + number + " foi cancelada. ",
              "Aviso");
@@ -82,7 +82,7 @@ bool cancelOrder(Environment& environment, const Sessao& session, const BillingO
     }
     const std::string problem =
         "Houve um problema no Cancelamento da Ordem de Faturamento nº " + number + ". ";
-    if (!answerAccepted(environment, documento, problem)) {
+    if (!answerAccepted(environment, document, problem)) {
         return false;
     }
     environment.boxes.show({.text = "Ordem de Faturamento cancelada.      ",

@@ -16,7 +16,7 @@ struct Environment;
 struct BillingOrder {
     std::array<std::string, 12> cells;
 
-    const std::string& ordem() const { return cells[0]; }
+    const std::string& order() const { return cells[0]; }
     const std::string& loadOrder() const { return cells[5]; }
 };
 
@@ -25,6 +25,6 @@ struct BillingOrder {
 std::vector<BillingOrder> loadOrders(Environment& environment, const Sessao& session);
 
 // Asks, cancels, tells. True: cancelled, the list must be read again.
-bool cancelOrder(Environment& environment, const Sessao& session, const BillingOrder& ordem);
+bool cancelOrder(Environment& environment, const Sessao& session, const BillingOrder& order);
 
 }  // namespace tarn

@@ -8,17 +8,17 @@
 
 namespace tarn {
 
-void printSelectedOrder(Environment& environment, const Sessao& session, const std::string& ordem) {
+void printSelectedOrder(Environment& environment, const Sessao& session, const std::string& order) {
     const std::string problem =
-        "Houve um problema na transferência dos dados da Ordem de Faturamento nº " + ordem + ".";
-    XmlDocument documento;
-    if (!requestAnswer(environment, commands::sel_impr_ordem_fatu(session, ordem), documento,
+        "Houve um problema na transferência dos dados da Ordem de Faturamento nº " + order + ".";
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::sel_impr_ordem_fatu(session, order), document,
                        failure::Tarn0012)) {
         warn(environment, problem, "Aviso");
         return;
     }
-    if (answerAccepted(environment, documento, problem + " ")) {
-        printOrder(environment, session, documento);
+    if (answerAccepted(environment, document, problem + " ")) {
+        printOrder(environment, session, document);
     }
 }
 

@@ -10,6 +10,6 @@ namespace tarn {
 struct Environment;
 
 // Fetches the order's document and prints it; every failure to have it is told.
-void printSelectedOrder(Environment& environment, const Sessao& session, const std::string& ordem);
+void printSelectedOrder(Environment& environment, const Sessao& session, const std::string& order);
 
 }  // namespace tarn

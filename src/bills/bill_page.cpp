@@ -4,7 +4,7 @@
 namespace tarn {
 namespace {
 
-namespace coluna = bill_column;
+namespace column = bill_column;
 
 // Fills what the words leave free, so that nothing can be written in behind them.
 std::string amountStrip(const std::string& inWords) {
@@ -34,16 +34,16 @@ void frame(BillPage& paper, const BillPictures& pictures) {
     paper.picture(pictures.picVert, leftMargin, 4.6);
 }
 
-void invoice(BillPage& paper, const GridRow& documento) {
+void invoice(BillPage& paper, const GridRow& document) {
     paper.ImprimeLinha("Fatura/NF", 6, 5, 9);
-    paper.ImprimeLinha(documento.coluna(coluna::fiscalNote), 6.2, 5.5, 9);
+    paper.ImprimeLinha(document.column(column::fiscalNote), 6.2, 5.5, 9);
     paper.ImprimeLinha("Fatura/NF", 8.8, 4.8, 8);
     paper.ImprimeLinha("Valor R$", 8.8, 5.1, 8);
-    paper.ImprimeLinha("R$ " + documento.coluna(coluna::valor), 8.3, 5.5, 9);
+    paper.ImprimeLinha("R$ " + document.column(column::value), 8.3, 5.5, 9);
     paper.ImprimeLinha(" Duplicata Nº ", 11, 5, 8);
-    paper.ImprimeLinha(documento.coluna(coluna::number), 11.4, 5.5, 9);
+    paper.ImprimeLinha(document.column(column::number), 11.4, 5.5, 9);
     paper.ImprimeLinha("Vencimento", 14.1, 5, 8);
-    paper.ImprimeLinha(documento.coluna(coluna::due), 14.2, 5.5, 9);
+    paper.ImprimeLinha(document.column(column::due), 14.2, 5.5, 9);
     paper.ImprimeLinha("Desconto de", 5.3, 6.2, 7, false);
     paper.ImprimeLinha("Condições Especiais", 5.3, 6.5, 7, false);
     paper.ImprimeLinha("Até", 13, 6.2, 7, false);
@@ -61,28 +61,28 @@ void place(BillPage& paper, double y, const std::string& town, const std::string
     paper.ImprimeLinha(cep, 18, y, 8);
 }
 
-void payer(BillPage& paper, const GridRow& documento) {
-    const bool legalPerson = documento.coluna(coluna::personKind) == "J";
+void payer(BillPage& paper, const GridRow& document) {
+    const bool legalPerson = document.column(column::personKind) == "J";
     paper.ImprimeLinha("Nome do Sacado", 5.4, 7.5, 8);
-    paper.ImprimeLinha(documento.coluna(coluna::customer), 9, 7.5, 8);
+    paper.ImprimeLinha(document.column(column::customer), 9, 7.5, 8);
     paper.ImprimeLinha("Endereço", 5.4, 7.9, 8);
-    paper.ImprimeLinha(documento.coluna(coluna::address), 9, 7.9, 8);
-    place(paper, 8.3, documento.coluna(coluna::town), documento.coluna(coluna::state),
-          documento.coluna(coluna::cep));
+    paper.ImprimeLinha(document.column(column::address), 9, 7.9, 8);
+    place(paper, 8.3, document.column(column::town), document.column(column::state),
+          document.column(column::cep));
     paper.ImprimeLinha(legalPerson ? "C.N.P.J. (M.F.) Nº" : "CPF Nº", 5.4, 8.7, 8);
-    paper.ImprimeLinha(documento.coluna(coluna::cpfCnpj), 9, 8.7, 8);
+    paper.ImprimeLinha(document.column(column::cpfCnpj), 9, 8.7, 8);
     paper.ImprimeLinha("I.E. Nº", 15, 8.7, 8);
-    paper.ImprimeLinha(documento.coluna(coluna::registration), 16, 8.7, 8);
+    paper.ImprimeLinha(document.column(column::registration), 16, 8.7, 8);
 }
 
-void collection(BillPage& paper, const GridRow& documento) {
-    const std::string& address = documento.coluna(coluna::billingAddress);
-    const bool other = address != documento.coluna(coluna::address);
+void collection(BillPage& paper, const GridRow& document) {
+    const std::string& address = document.column(column::billingAddress);
+    const bool other = address != document.column(column::address);
     paper.ImprimeLinha("Endereço de Cobrança", 5.4, 9.5, 8);
     paper.ImprimeLinha(other ? address : "O MESMO", 9, 9.5, 8);
     if (other) {
-        place(paper, 9.9, documento.coluna(coluna::billingTown),
-              documento.coluna(coluna::billingState), documento.coluna(coluna::billingPostalCode));
+        place(paper, 9.9, document.column(column::billingTown),
+              document.column(column::billingState), document.column(column::billingPostalCode));
     }
 }
 
@@ -111,16 +111,16 @@ void acceptance(BillPage& paper, const Issuer& issuer) {
 
 }  // namespace
 
-void drawBill(BillPage& paper, const Issuer& issuer, const GridRow& documento,
+void drawBill(BillPage& paper, const Issuer& issuer, const GridRow& document,
               const std::string& inWords) {
     const CompanyData& data = issuer.data;
     drawHeader(
-        paper, issuer, documento,
+        paper, issuer, document,
         {.issuedLabel = "DATA DE EMISSÃO:", .place = " - " + data.NM_MUN + " - " + data.SG_UF});
     frame(paper, issuer.pictures);
-    invoice(paper, documento);
-    payer(paper, documento);
-    collection(paper, documento);
+    invoice(paper, document);
+    payer(paper, document);
+    collection(paper, document);
     amountInWords(paper, inWords);
     acceptance(paper, issuer);
 }

@@ -15,18 +15,18 @@ void BillPage::prepare() {
     printer_.setCopies(1);
 }
 
-void BillPage::ImprimeLinha(std::string_view texto, double x, double y, double tamanho,
-                            bool negrito, std::string_view fonte) {
-    printer_.FontName = fonte;
-    printer_.FontSize = tamanho;
-    printer_.FontBold = negrito;
+void BillPage::ImprimeLinha(std::string_view text, double x, double y, double size, bool bold,
+                            std::string_view font) {
+    printer_.FontName = font;
+    printer_.FontSize = size;
+    printer_.FontBold = bold;
     printer_.CurrentX = x - halfCentimetre;
     printer_.CurrentY = y - halfCentimetre;
-    printer_.Print(texto);
+    printer_.Print(text);
 }
 
-void BillPage::drawLine(double x1, double y1, double x2, double y2, int largura) {
-    printer_.DrawWidth = largura;
+void BillPage::drawLine(double x1, double y1, double x2, double y2, int width) {
+    printer_.DrawWidth = width;
     keep(printer_.Line(x1, y1, x2, y2));
 }
 

@@ -17,10 +17,10 @@ public:
 
     // Half a centimetre left of and above the point, size in points. A text that fails
     // is dropped and the page goes on.
-    void ImprimeLinha(std::string_view texto, double x, double y, double tamanho,
-                      bool negrito = true, std::string_view fonte = "Arial");
+    void ImprimeLinha(std::string_view text, double x, double y, double size, bool bold = true,
+                      std::string_view font = "Arial");
     // At the points as they are, in dots.
-    void drawLine(double x1, double y1, double x2, double y2, int largura);
+    void drawLine(double x1, double y1, double x2, double y2, int width);
     // At the point as it is; nothing for no picture.
     void picture(const std::optional<Picture>& which, double x, double y);
 

@@ -8,7 +8,7 @@
 namespace tarn {
 namespace {
 
-std::optional<Picture> pictureOf(const std::string& folder, const char* file, const char* nome) {
+std::optional<Picture> pictureOf(const std::string& folder, const char* file, const char* name) {
     const std::filesystem::path path = std::filesystem::path(folder) / file;
     std::error_code failure;
     if (!std::filesystem::is_regular_file(path, failure)) {
@@ -19,7 +19,7 @@ std::optional<Picture> pictureOf(const std::string& folder, const char* file, co
     if (!input || bytes.empty()) {
         return std::nullopt;
     }
-    return Picture(nome, std::move(bytes));
+    return Picture(name, std::move(bytes));
 }
 
 }  // namespace

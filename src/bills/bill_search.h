@@ -25,7 +25,7 @@ inline constexpr std::size_t issued = 4;
 inline constexpr std::size_t number = 5;
 inline constexpr std::size_t customer = 6;
 inline constexpr std::size_t address = 7;
-inline constexpr std::size_t valor = 8;
+inline constexpr std::size_t value = 8;
 inline constexpr std::size_t cep = 9;
 inline constexpr std::size_t town = 10;
 inline constexpr std::size_t state = 11;
@@ -50,7 +50,7 @@ std::vector<ListItem> documentKinds();
 // Why a search isn't sent: what the box says, and where the focus goes.
 enum class BillSearchField { DocumentKind, DueTo };
 struct SearchRefusal {
-    std::string_view texto;
+    std::string_view text;
     BillSearchField field;
 };
 std::optional<SearchRefusal> searchRefusal(int kindPosition, std::string_view dueTo);

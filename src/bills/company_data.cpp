@@ -8,12 +8,12 @@
 namespace tarn {
 
 CompanyData companyDataOf(const XmlDocument& answer) {
-    const XmlNode linhas = answer.selectSingleNode("xml/rs:data");
-    if (!linhas || linhas.childCount() == 0) {
+    const XmlNode lines = answer.selectSingleNode("xml/rs:data");
+    if (!lines || lines.childCount() == 0) {
         throw RuntimeError(RuntimeErrorCode::ObjectVariable,
                            "os dados da empresa (sel_dados_empresa) não vieram");
     }
-    const auto field = [&linhas](const char* nome) { return textAttribute(linhas, 0, nome); };
+    const auto field = [&lines](const char* name) { return textAttribute(lines, 0, name); };
     const bool naturalPerson = isNaturalPerson(field("PES_JUR"));
     return {.DC_LG = field("DC_LG"),
             .SG_UF = field("SG_UF"),

@@ -99,7 +99,7 @@ void FrmPesqDupli::prepareButtons() {
 }
 
 void FrmPesqDupli::takeCustomer(const Customer& customer) {
-    showCustomer(*ui_->txtCliente, customer.id, customer.nome);
+    showCustomer(*ui_->txtCliente, customer.id, customer.name);
 }
 
 // The first activation comes when the screen stands before the user.
@@ -140,7 +140,7 @@ void FrmPesqDupli::cmdPesqCli_Click() {
 void FrmPesqDupli::cmdPesquisar_Click() {
     const std::string dueTo = ui_->txtDtVncAte->text().toStdString();
     if (const auto refuse = searchRefusal(ui_->cboTpDocto->currentIndex(), dueTo)) {
-        desk_.environment.boxes.show({std::string(refuse->texto), BoxIcon::Information, "TArn"});
+        desk_.environment.boxes.show({std::string(refuse->text), BoxIcon::Information, "TArn"});
         const bool kind = refuse->field == BillSearchField::DocumentKind;
         (kind ? static_cast<QWidget*>(ui_->cboTpDocto) : ui_->txtDtVncAte)->setFocus();
         return;
@@ -158,8 +158,8 @@ void FrmPesqDupli::cmdPesquisar_Click() {
                                         .dueTo = dueTo,
                                         .issuedFrom = issuedFrom,
                                         .issuedTo = issuedTo};
-    if (auto linhas = searchBills(desk_.environment, desk_.session, kind, filter)) {
-        documents_->show(std::move(*linhas));
+    if (auto lines = searchBills(desk_.environment, desk_.session, kind, filter)) {
+        documents_->show(std::move(*lines));
         ui_->sprDados->setCurrentIndex(documents_->index(0, 0));
     }
 }
@@ -167,7 +167,7 @@ void FrmPesqDupli::cmdPesquisar_Click() {
 void FrmPesqDupli::cmdImprimir_Click() {
     ProgressWindow progress(*this);
     printSelected(desk_.environment, desk_.session,
-                  {.linhas = documents_->linhas(),
+                  {.lines = documents_->lines(),
                    .triplicate = !ui_->optDupl->isChecked(),
                    .pictures = pictures_},
                   progress.notices());

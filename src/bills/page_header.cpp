@@ -4,7 +4,7 @@
 
 namespace tarn {
 
-void drawHeader(BillPage& paper, const Issuer& issuer, const GridRow& documento,
+void drawHeader(BillPage& paper, const Issuer& issuer, const GridRow& document,
                 const PageHeader& header) {
     const CompanyData& data = issuer.data;
     paper.drawLine(leftMargin, 0.9, rightMargin, 0.9, 15);
@@ -17,14 +17,14 @@ void drawHeader(BillPage& paper, const Issuer& issuer, const GridRow& documento,
     paper.ImprimeLinha("TEL.:" + data.TELEFONE + " - FAX.:" + data.FAX + " - E-MAIL:" + data.EMAIL,
                        11, 3.6, 6);
     paper.ImprimeLinha(header.issuedLabel, 11, 4.0, 8);
-    paper.ImprimeLinha(documento.coluna(bill_column::issued), 14.3, 4.0, 8);
+    paper.ImprimeLinha(document.column(bill_column::issued), 14.3, 4.0, 8);
 }
 
 void drawPieces(BillPage& paper, std::string_view strip, std::size_t characters, double x,
-                std::initializer_list<double> heights, double tamanho) {
+                std::initializer_list<double> heights, double size) {
     std::size_t start = 1;
     for (const double y : heights) {
-        paper.ImprimeLinha(midOf(strip, start, characters), x, y, tamanho, true, "Courier New");
+        paper.ImprimeLinha(midOf(strip, start, characters), x, y, size, true, "Courier New");
         start += characters;
     }
 }

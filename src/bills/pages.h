@@ -21,9 +21,9 @@ struct Issuer {
 };
 
 // `inWords` is the amount in words.
-void drawBill(BillPage& paper, const Issuer& issuer, const GridRow& documento,
+void drawBill(BillPage& paper, const Issuer& issuer, const GridRow& document,
               const std::string& inWords);
-void drawReceipt(BillPage& paper, const Issuer& issuer, const GridRow& documento,
+void drawReceipt(BillPage& paper, const Issuer& issuer, const GridRow& document,
                  const std::string& inWords);
 
 // What tells the two headers apart.
@@ -31,12 +31,12 @@ struct PageHeader {
     std::string_view issuedLabel;
     std::string place;
 };
-void drawHeader(BillPage& paper, const Issuer& issuer, const GridRow& documento,
+void drawHeader(BillPage& paper, const Issuer& issuer, const GridRow& document,
                 const PageHeader& header);
 
 // Piece after piece of so many characters, one at each height, in the typewriter face.
 void drawPieces(BillPage& paper, std::string_view strip, std::size_t characters, double x,
-                std::initializer_list<double> heights, double tamanho);
+                std::initializer_list<double> heights, double size);
 
 inline constexpr double leftMargin = 1.1;
 inline constexpr double rightMargin = 20.3;

@@ -24,39 +24,39 @@ namespace {
 constexpr std::array<double, 5> drawnKinds{1, 201, 202, 203, 262};
 constexpr std::size_t reportedKinds = 4;
 
-bool isOneOf(std::span<const double> kinds, const GridRow& documento) {
-    const auto kind = parseComma(documento.coluna(bill_column::documentKind));
+bool isOneOf(std::span<const double> kinds, const GridRow& document) {
+    const auto kind = parseComma(document.column(bill_column::documentKind));
     return kind && std::ranges::find(kinds, *kind) != kinds.end();
 }
 
-std::string wordsOf(const GridRow& documento) {
-    const std::string& valor = documento.coluna(bill_column::valor);
-    const auto number = parseComma(valor);
+std::string wordsOf(const GridRow& document) {
+    const std::string& value = document.column(bill_column::value);
+    const auto number = parseComma(value);
     if (!number) {
         throw RuntimeError(RuntimeErrorCode::TypeMismatch,
-                           "o documento nº " + documento.coluna(bill_column::number) +
-                               " está sem valor (\"" + valor + "\")");
+                           "o documento nº " + document.column(bill_column::number) +
+                               " está sem valor (\"" + value + "\")");
     }
     return ValorExtenso(*number, "REAIS", "REAL");
 }
 
-void draw(BillPage& paper, const Issuer& issuer, const GridRow& documento) {
-    const std::string inWords = wordsOf(documento);
-    if (isOneOf(drawnKinds, documento)) {
-        drawBill(paper, issuer, documento, inWords);
+void draw(BillPage& paper, const Issuer& issuer, const GridRow& document) {
+    const std::string inWords = wordsOf(document);
+    if (isOneOf(drawnKinds, document)) {
+        drawBill(paper, issuer, document, inWords);
     } else {
-        drawReceipt(paper, issuer, documento, inWords);
+        drawReceipt(paper, issuer, document, inWords);
     }
     paper.newPage();
 }
 
-void inform(Environment& environment, const std::string& texto) {
-    environment.boxes.show({.text = texto, .icon = BoxIcon::Information, .title = "TArn"});
+void inform(Environment& environment, const std::string& text) {
+    environment.boxes.show({.text = text, .icon = BoxIcon::Information, .title = "TArn"});
 }
 
 std::string finalMessage(const BillRun& documents) {
     const auto reported = std::span(drawnKinds).first<reportedKinds>();
-    if (!isOneOf(reported, documents.linhas.back())) {
+    if (!isOneOf(reported, documents.lines.back())) {
         return "Recibo(s) impresso(s) com sucesso!     ";
     }
     const std::string kindName = documents.triplicate ? "Triplicata(s) " : "Duplicata(s) ";
@@ -80,7 +80,7 @@ void printBills(Environment& environment, std::int32_t company, const XmlDocumen
                         .pictures = documents.pictures,
                         .triplicate = documents.triplicate};
     const auto pages =
-        static_cast<std::size_t>(std::ranges::count(documents.linhas, true, &GridRow::ticked));
+        static_cast<std::size_t>(std::ranges::count(documents.lines, true, &GridRow::ticked));
     if (pages == 0) {
         return inform(environment, "Selecione um documento.     ");
     }
@@ -92,9 +92,9 @@ void printBills(Environment& environment, std::int32_t company, const XmlDocumen
     report(0);
     BillPage paper(environment.printer);
     paper.prepare();
-    for (const GridRow& documento : documents.linhas) {
-        if (documento.ticked) {
-            draw(paper, issuer, documento);
+    for (const GridRow& document : documents.lines) {
+        if (document.ticked) {
+            draw(paper, issuer, document);
         }
     }
     paper.finish(progress);

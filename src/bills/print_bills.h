@@ -15,7 +15,7 @@ struct Environment;
 struct Sessao;
 
 struct BillRun {
-    const std::vector<GridRow>& linhas;  // all rows of the grid
+    const std::vector<GridRow>& lines;  // all rows of the grid
     bool triplicate = false;
     const BillPictures& pictures;
 };

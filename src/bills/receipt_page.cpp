@@ -4,7 +4,7 @@
 namespace tarn {
 namespace {
 
-namespace coluna = bill_column;
+namespace column = bill_column;
 
 constexpr std::size_t piece = 60;  // characters of a line of words or reference
 
@@ -18,39 +18,39 @@ std::string referenceStrip(const std::string& reference) {
     return reference + std::string(blanks, ' ');
 }
 
-void title(BillPage& paper, const GridRow& documento) {
+void title(BillPage& paper, const GridRow& document) {
     paper.drawLine(leftMargin, 4.05, rightMargin, 4.05, 6);
-    paper.ImprimeLinha("Nº " + documento.coluna(coluna::number), 2, 5, 14);
+    paper.ImprimeLinha("Nº " + document.column(column::number), 2, 5, 14);
     paper.ImprimeLinha("RECIBO", 9.8, 5, 16);
-    paper.ImprimeLinha("R$ " + documento.coluna(coluna::valor), 16, 5, 14);
+    paper.ImprimeLinha("R$ " + document.column(column::value), 16, 5, 14);
     paper.drawLine(leftMargin, 5.5, rightMargin, 5.5, 6);
 }
 
-void payer(BillPage& paper, const GridRow& documento) {
-    const bool legalPerson = documento.coluna(coluna::personKind) == "J";
+void payer(BillPage& paper, const GridRow& document) {
+    const bool legalPerson = document.column(column::personKind) == "J";
     paper.ImprimeLinha("Nome do Sacado", 2, 6.5, 10);
-    paper.ImprimeLinha(documento.coluna(coluna::customer), 5, 6.5, 10);
+    paper.ImprimeLinha(document.column(column::customer), 5, 6.5, 10);
     paper.ImprimeLinha("Endereço", 2, 7.2, 10);
-    paper.ImprimeLinha(documento.coluna(coluna::address), 5, 7.2, 10);
+    paper.ImprimeLinha(document.column(column::address), 5, 7.2, 10);
     paper.ImprimeLinha("Município", 2, 7.9, 10);
-    paper.ImprimeLinha(documento.coluna(coluna::town), 5, 7.9, 10);
+    paper.ImprimeLinha(document.column(column::town), 5, 7.9, 10);
     paper.ImprimeLinha("Estado", 10, 7.9, 10);
-    paper.ImprimeLinha(documento.coluna(coluna::state), 11.5, 7.9, 10);
+    paper.ImprimeLinha(document.column(column::state), 11.5, 7.9, 10);
     paper.ImprimeLinha("CEP", 16.5, 7.9, 10);
-    paper.ImprimeLinha(documento.coluna(coluna::cep), 18, 7.9, 10);
+    paper.ImprimeLinha(document.column(column::cep), 18, 7.9, 10);
     paper.ImprimeLinha(legalPerson ? "CNPJ Nº" : "CPF Nº", 2, 8.6, 10);
-    paper.ImprimeLinha(documento.coluna(coluna::cpfCnpj), 5, 8.6, 10);
+    paper.ImprimeLinha(document.column(column::cpfCnpj), 5, 8.6, 10);
     paper.ImprimeLinha("I.E. Nº", 14.5, 8.6, 10);
-    paper.ImprimeLinha(documento.coluna(coluna::registration), 16, 8.6, 10);
+    paper.ImprimeLinha(document.column(column::registration), 16, 8.6, 10);
 }
 
-void amountAndReference(BillPage& paper, const GridRow& documento, const std::string& inWords) {
+void amountAndReference(BillPage& paper, const GridRow& document, const std::string& inWords) {
     paper.ImprimeLinha(" VALOR ", 2, 9.3, 10);
     paper.ImprimeLinha("  POR  ", 2, 9.7, 10);
     paper.ImprimeLinha("EXTENSO", 2, 10.1, 10);
     drawPieces(paper, amountStrip(inWords), piece, 5, {9.3, 9.7, 10.1}, 11);
     paper.ImprimeLinha("Referente a ", 2, 10.8, 10);
-    drawPieces(paper, referenceStrip(documento.coluna(coluna::reference)), piece, 5,
+    drawPieces(paper, referenceStrip(document.column(column::reference)), piece, 5,
                {10.8, 11.2, 11.6, 12, 12.4}, 11);
 }
 
@@ -65,13 +65,13 @@ void signature(BillPage& paper) {
 
 }  // namespace
 
-void drawReceipt(BillPage& paper, const Issuer& issuer, const GridRow& documento,
+void drawReceipt(BillPage& paper, const Issuer& issuer, const GridRow& document,
                  const std::string& inWords) {
-    drawHeader(paper, issuer, documento,
+    drawHeader(paper, issuer, document,
                {.issuedLabel = "DATA DE EMISSAO:", .place = " - Estado de " + issuer.data.NM_UF});
-    title(paper, documento);
-    payer(paper, documento);
-    amountAndReference(paper, documento, inWords);
+    title(paper, document);
+    payer(paper, document);
+    amountAndReference(paper, document, inWords);
     signature(paper);
 }
 

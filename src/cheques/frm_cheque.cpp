@@ -24,8 +24,8 @@ constexpr int shortWidth = 26;
 constexpr int observationLines = 5;
 constexpr int clickWait = 20;  // milliseconds between two looks at the mouse
 
-bool isEnter(const QKeyEvent& tecla) {
-    return tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter;
+bool isEnter(const QKeyEvent& key) {
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
 }  // namespace
@@ -104,7 +104,7 @@ void frmCheque::Carrega_CboBancoAgConta() {
 ChequeFields frmCheque::fields() const {
     ChequeFields fields{.number = ui_->txtNumeroCheque->text().toStdString(),
                         .series = ui_->txtSerie->text().toStdString(),
-                        .valor = ui_->txtValor->text().toStdString(),
+                        .value = ui_->txtValor->text().toStdString(),
                         .payee = ui_->txtFavorecido->text().toStdString(),
                         .depositDate = ui_->txtDtDeposito->text().toStdString(),
                         .observation = ui_->txtObservacao->text()};
@@ -134,7 +134,7 @@ QWidget& frmCheque::field(ChequeField which) const {
 
 bool frmCheque::refused(const std::optional<ChequeRefusal>& refuse) {
     if (refuse) {
-        warn(desk_.environment, refuse->texto);
+        warn(desk_.environment, refuse->text);
         field(refuse->field).setFocus();
     }
     return refuse.has_value();
@@ -161,7 +161,7 @@ void frmCheque::Espera_Timer() {
 
 void frmCheque::checkNumber() {
     if (const auto refuse = numberRefusal(desk_.environment, desk_.session, fields())) {
-        warn(desk_.environment, refuse->texto);
+        warn(desk_.environment, refuse->text);
     }
 }
 

@@ -44,10 +44,10 @@ struct Data {
     std::string_view year;
 };
 
-Data dataDe(std::string_view texto) {
-    const std::vector<std::string_view> pieces = split(texto, '/');
+Data dataDe(std::string_view text) {
+    const std::vector<std::string_view> pieces = split(text, '/');
     if (pieces.size() < 3) {
-        throw RuntimeError(RuntimeErrorCode::OutOfRange, "\"" + std::string(texto) + "\"");
+        throw RuntimeError(RuntimeErrorCode::OutOfRange, "\"" + std::string(text) + "\"");
     }
     return {pieces[0], monthName(pieces[1]), pieces[2]};
 }
@@ -61,34 +61,34 @@ public:
     }
 
     void commands(std::string_view bytes) {
-        linha_ = bytes;
+        line_ = bytes;
         out(0);
     }
     LabelForm& blanks(std::size_t count) {
-        linha_.append(count, ' ');
+        line_.append(count, ' ');
         return *this;
     }
-    LabelForm& texto(std::string_view valor) {
-        appendBlankingControls(linha_, valor);
+    LabelForm& text(std::string_view value) {
+        appendBlankingControls(line_, value);
         return *this;
     }
-    LabelForm& alignLeft(std::string_view valor, int largura) {
-        appendField(linha_, valor, largura, false);
+    LabelForm& alignLeft(std::string_view value, int width) {
+        appendField(line_, value, width, false);
         return *this;
     }
-    LabelForm& aDireita(std::string_view valor, int largura) {
-        appendField(linha_, valor, largura, true);
+    LabelForm& alignRight(std::string_view value, int width) {
+        appendField(line_, value, width, true);
         return *this;
     }
     void out(int lineEnds) {
-        channel_.ImprimeRaw(1, linha_, lineEnds);
-        linha_.clear();
+        channel_.ImprimeRaw(1, line_, lineEnds);
+        line_.clear();
     }
     void close() { channel_.close(); }
 
 private:
     RawChannel channel_;
-    std::string linha_;
+    std::string line_;
 };
 
 void printGeneral(LabelForm& paper, const ChequeData& cheque, const std::string& inWords,
@@ -96,30 +96,30 @@ void printGeneral(LabelForm& paper, const ChequeData& cheque, const std::string&
     constexpr std::size_t wordsWidth = 64;
     constexpr int amountWidth = 14;
     paper.commands(condensedDouble);
-    paper.blanks(64).aDireita(cheque.sValor, amountWidth).out(2);
-    paper.blanks(14).texto(leftOf(inWords, wordsWidth)).out(1);
+    paper.blanks(64).alignRight(cheque.sValor, amountWidth).out(2);
+    paper.blanks(14).text(leftOf(inWords, wordsWidth)).out(1);
     if (inWords.size() > wordsWidth) {
-        paper.blanks(2).texto(inWords.substr(wordsWidth));
+        paper.blanks(2).text(inWords.substr(wordsWidth));
     }
     paper.out(2);
-    paper.blanks(4).texto(leftOf(cheque.sFavorecido, payeeWidth)).out(2);
+    paper.blanks(4).text(leftOf(cheque.sFavorecido, payeeWidth)).out(2);
     paper.blanks(29).alignLeft(cheque.sNmMun, townWidth);
-    paper.blanks(2).aDireita(data.day, dayWidth);
+    paper.blanks(2).alignRight(data.day, dayWidth);
     paper.blanks(3).alignLeft(data.month, monthWidth);
-    paper.blanks(2).texto(data.year).out(2);
+    paper.blanks(2).text(data.year).out(2);
     paper.out(9);
 }
 
 // The lines under the first one: a third joins the second, a fourth has no room.
-std::string secondLine(const std::vector<std::string_view>& linhas) {
-    std::string texto;
-    if (linhas.size() > 1) {
-        texto = linhas[1];
+std::string secondLine(const std::vector<std::string_view>& lines) {
+    std::string text;
+    if (lines.size() > 1) {
+        text = lines[1];
     }
-    if (linhas.size() > 2) {
-        texto.append(" ").append(linhas[2]);
+    if (lines.size() > 2) {
+        text.append(" ").append(lines[2]);
     }
-    return texto;
+    return text;
 }
 
 void printBank33(LabelForm& paper, const ChequeData& cheque, const std::string& inWords,
@@ -128,21 +128,21 @@ void printBank33(LabelForm& paper, const ChequeData& cheque, const std::string& 
     constexpr std::size_t wordsWidth = 90;
     constexpr int amountWidth = 25;
     const std::string broken = QuebraTexto(std::string(indent, ' ') + inWords, wordsWidth);
-    const std::vector<std::string_view> linhas = split(broken, '\r');
+    const std::vector<std::string_view> lines = split(broken, '\r');
     paper.commands(spacing6Over72);
     paper.commands(condensedDouble);
     paper.out(2);
-    paper.blanks(93).aDireita("#" + std::string(cheque.sValor) + "#", amountWidth).out(4);
-    paper.blanks(indent).texto(linhas.front()).out(2);
-    if (linhas.size() > 1) {
-        paper.blanks(10).texto(secondLine(linhas));
+    paper.blanks(93).alignRight("#" + std::string(cheque.sValor) + "#", amountWidth).out(4);
+    paper.blanks(indent).text(lines.front()).out(2);
+    if (lines.size() > 1) {
+        paper.blanks(10).text(secondLine(lines));
     }
     paper.out(2);
-    paper.blanks(12).texto(leftOf(cheque.sFavorecido, payeeWidth)).out(4);
-    paper.blanks(61).aDireita(cheque.sNmMun, townWidth);
-    paper.blanks(2).aDireita(data.day, dayWidth);
+    paper.blanks(12).text(leftOf(cheque.sFavorecido, payeeWidth)).out(4);
+    paper.blanks(61).alignRight(cheque.sNmMun, townWidth);
+    paper.blanks(2).alignRight(data.day, dayWidth);
     paper.blanks(6).alignLeft(data.month, monthWidth);
-    paper.blanks(9).texto(rightOf(data.year, 2)).out(2);
+    paper.blanks(9).text(rightOf(data.year, 2)).out(2);
     paper.out(20);
 }
 

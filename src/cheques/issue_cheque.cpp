@@ -16,34 +16,34 @@ namespace {
 
 constexpr double largestAmountWithoutPayee = 100;
 
-bool isBlank(std::string_view texto) {
-    return trimBlanks(texto).empty();
+bool isBlank(std::string_view text) {
+    return trimBlanks(text).empty();
 }
 
-std::string inUpperCase(std::string_view texto) {
-    return upperCase(trimBlanks(texto));
+std::string inUpperCase(std::string_view text) {
+    return upperCase(trimBlanks(text));
 }
 
-std::int32_t itemData(std::string_view texto) {
+std::int32_t itemData(std::string_view text) {
     try {
-        return readInt32(trimBlanks(texto));
+        return readInt32(trimBlanks(text));
     } catch (const RuntimeError&) {
         return 0;
     }
 }
 
-BankAccount accountOf(const XmlNode& linhas, std::size_t indice) {
-    BankAccount account{.description = textAttribute(linhas, indice, "BANCO"),
-                        .ID_PES_BAN = itemData(textAttribute(linhas, indice, "ID_PES_BAN")),
-                        .CD_AGE_BAN = textAttribute(linhas, indice, "CD_AGE_BAN"),
-                        .NR_CCOR = textAttribute(linhas, indice, "NR_CCOR"),
-                        .NR_OFI_BAN = textAttribute(linhas, indice, "NR_OFI_BAN")};
+BankAccount accountOf(const XmlNode& lines, std::size_t index) {
+    BankAccount account{.description = textAttribute(lines, index, "BANCO"),
+                        .ID_PES_BAN = itemData(textAttribute(lines, index, "ID_PES_BAN")),
+                        .CD_AGE_BAN = textAttribute(lines, index, "CD_AGE_BAN"),
+                        .NR_CCOR = textAttribute(lines, index, "NR_CCOR"),
+                        .NR_OFI_BAN = textAttribute(lines, index, "NR_OFI_BAN")};
     account.description.append(" - ")
         .append(account.CD_AGE_BAN)
         .append(" - ")
         .append(account.NR_CCOR);
-    if (const XmlAttribute nome = linhas.child(indice).attributes().getNamedItem("DC_CCOR")) {
-        account.description.append(" - ").append(nome.text());
+    if (const XmlAttribute name = lines.child(index).attributes().getNamedItem("DC_CCOR")) {
+        account.description.append(" - ").append(name.text());
     }
     return account;
 }
@@ -52,7 +52,7 @@ BankAccount accountOf(const XmlNode& linhas, std::size_t indice) {
 commands::Cheque chequeFrom(const ChequeFields& fields) {
     commands::Cheque cheque{.number = fields.number,
                             .series = fields.series,
-                            .valor = fields.valor,
+                            .value = fields.value,
                             .payee = fields.payee,
                             .depositDate = fields.depositDate,
                             .observation = fields.observation};
@@ -68,7 +68,7 @@ void print(Environment& environment, const ChequeFields& fields, const std::stri
     const std::string payee = inUpperCase(fields.payee);
     ImprimeCheque(environment,
                   {.nNr_Ofi_Ban = bankCode(fields.account ? fields.account->NR_OFI_BAN : ""),
-                   .sValor = trimBlanks(fields.valor),
+                   .sValor = trimBlanks(fields.value),
                    .sFavorecido = payee,
                    .sDataDeposito = trimBlanks(fields.depositDate),
                    .sNmMun = town});
@@ -78,15 +78,15 @@ void print(Environment& environment, const ChequeFields& fields, const std::stri
 
 std::optional<std::vector<BankAccount>> loadAccounts(Environment& environment,
                                                      const Sessao& session) {
-    XmlDocument documento;
-    if (!requestAnswer(environment, commands::sel_banco_agencia_conta(session), documento,
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::sel_banco_agencia_conta(session), document,
                        failure::Tarn0009Wide)) {
         return std::nullopt;
     }
     std::vector<BankAccount> accounts{{.description = "------------"}};
-    const XmlNode linhas = documento.selectSingleNode("xml/rs:data");
-    for (std::size_t i = 0; linhas && i < linhas.childCount(); ++i) {
-        accounts.push_back(accountOf(linhas, i));
+    const XmlNode lines = document.selectSingleNode("xml/rs:data");
+    for (std::size_t i = 0; lines && i < lines.childCount(); ++i) {
+        accounts.push_back(accountOf(lines, i));
     }
     return accounts;
 }
@@ -101,14 +101,14 @@ std::optional<ChequeRefusal> fieldRefusal(const ChequeFields& fields) {
     if (isBlank(fields.series)) {
         return ChequeRefusal{ChequeField::Series, "Série é um campo obrigatório. "};
     }
-    if (isBlank(fields.valor)) {
+    if (isBlank(fields.value)) {
         return ChequeRefusal{ChequeField::Amount, "Valor é um campo obrigatório. "};
     }
-    const double valor = readComma(fields.valor);
-    if (valor == 0) {
+    const double value = readComma(fields.value);
+    if (value == 0) {
         return ChequeRefusal{ChequeField::Amount, "Valor deve ser maior que R$ 0,00. "};
     }
-    if (valor > largestAmountWithoutPayee && isBlank(fields.payee)) {
+    if (value > largestAmountWithoutPayee && isBlank(fields.payee)) {
         return ChequeRefusal{ChequeField::Payee,
                              "Favorecido é um campo obrigatório para cheques com valores maiores "
                              "que R$ 100,00. "};
@@ -121,12 +121,12 @@ std::optional<ChequeRefusal> fieldRefusal(const ChequeFields& fields) {
 }
 
 bool ValidaCheque(Environment& environment, const Sessao& session, const ChequeFields& fields) {
-    XmlDocument documento;
+    XmlDocument document;
     requestAnswer(environment,
                   commands::seleciona_um_controle_cheque_emitido(session, chequeFrom(fields)),
-                  documento, failure::Tarn0009Wide);
-    const XmlNode linhas = documento.selectSingleNode("xml/rs:data");
-    return !linhas || linhas.childCount() == 0;
+                  document, failure::Tarn0009Wide);
+    const XmlNode lines = document.selectSingleNode("xml/rs:data");
+    return !lines || lines.childCount() == 0;
 }
 
 std::optional<ChequeRefusal> numberRefusal(Environment& environment, const Sessao& session,
@@ -135,10 +135,10 @@ std::optional<ChequeRefusal> numberRefusal(Environment& environment, const Sessa
         ValidaCheque(environment, session, fields)) {
         return std::nullopt;
     }
-    std::string texto = "Cheque com este número e série já foi emitido já emitido. ";
-    texto.append("\rNúmero: ").append(trimBlanks(fields.number));
-    texto.append("\rSérie: ").append(inUpperCase(fields.series));
-    return ChequeRefusal{ChequeField::Number, std::move(texto)};
+    std::string text = "Cheque com este número e série já foi emitido já emitido. ";
+    text.append("\rNúmero: ").append(trimBlanks(fields.number));
+    text.append("\rSérie: ").append(inUpperCase(fields.series));
+    return ChequeRefusal{ChequeField::Number, std::move(text)};
 }
 
 // The paper comes first: a record that fails leaves a real cheque without one, and the

@@ -33,7 +33,7 @@ struct ChequeFields {
     std::optional<BankAccount> account = std::nullopt;  // none: the first item, or no item at all
     std::string number = {};
     std::string series = {};
-    std::string valor = {};
+    std::string value = {};
     std::string payee = {};
     std::string depositDate = {};
     std::string observation = {};
@@ -43,7 +43,7 @@ enum class ChequeField { Account, Number, Series, Amount, Payee, DepositDate };
 
 struct ChequeRefusal {
     ChequeField field;  // where the focus goes
-    std::string texto;  // of the box
+    std::string text;   // of the box
 };
 
 // The first test that fails. The server isn't asked. An amount that is no number

@@ -12,15 +12,15 @@ constexpr char lineEnd = 13;
 
 class Lines {
 public:
-    explicit Lines(std::size_t largura) : largura_(largura) {}
+    explicit Lines(std::size_t width) : width_(width) {}
 
     void join(std::string_view piece) {
-        if (lengthOf(piece) + lengthOf(linha_) > largura_) {
+        if (lengthOf(piece) + lengthOf(line_) > width_) {
             closeLine();
-        } else if (!linha_.empty()) {
-            linha_ += ' ';
+        } else if (!line_.empty()) {
+            line_ += ' ';
         }
-        linha_ += piece;
+        line_ += piece;
     }
     std::string finish() {
         closeLine();
@@ -32,23 +32,23 @@ private:
         if (!result_.empty()) {
             result_ += lineEnd;
         }
-        result_ += linha_;
-        linha_.clear();
+        result_ += line_;
+        line_.clear();
     }
 
-    std::size_t largura_;
-    std::string linha_;
+    std::size_t width_;
+    std::string line_;
     std::string result_;
 };
 
 }  // namespace
 
-std::string QuebraTexto(std::string_view texto, std::size_t largura) {
-    Lines linhas(largura);
-    for (const std::string_view piece : split(texto, ' ')) {
-        linhas.join(piece);
+std::string QuebraTexto(std::string_view text, std::size_t width) {
+    Lines lines(width);
+    for (const std::string_view piece : split(text, ' ')) {
+        lines.join(piece);
     }
-    return linhas.finish();
+    return lines.finish();
 }
 
 }  // namespace tarn

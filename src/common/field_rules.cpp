@@ -12,16 +12,16 @@ namespace {
 constexpr std::int16_t backspaceKey = 8;
 constexpr std::int16_t commaKey = 44;
 
-std::int16_t filter(std::int16_t& tecla, bool passes, Machine& machine) {
+std::int16_t filter(std::int16_t& key, bool passes, Machine& machine) {
     if (!passes) {
-        tecla = 0;
+        key = 0;
         machine.beep();
     }
-    return tecla;
+    return key;
 }
 
-bool isIntegerKey(std::int16_t tecla) {
-    return (tecla >= '0' && tecla <= '9') || tecla == backspaceKey;
+bool isIntegerKey(std::int16_t key) {
+    return (key >= '0' && key <= '9') || key == backspaceKey;
 }
 
 std::string monthOf(std::string_view typed, const Date& today) {
@@ -54,12 +54,12 @@ FieldResult refusedQuantity(std::string_view message) {
 
 }  // namespace
 
-std::int16_t SoNumeroVirgula(std::int16_t& tecla, Machine& machine) {
-    return filter(tecla, isIntegerKey(tecla) || tecla == commaKey, machine);
+std::int16_t SoNumeroVirgula(std::int16_t& key, Machine& machine) {
+    return filter(key, isIntegerKey(key) || key == commaKey, machine);
 }
 
-std::int16_t SoNumeroInteiro(std::int16_t& tecla, Machine& machine) {
-    return filter(tecla, isIntegerKey(tecla), machine);
+std::int16_t SoNumeroInteiro(std::int16_t& key, Machine& machine) {
+    return filter(key, isIntegerKey(key), machine);
 }
 
 std::string dateOnEnter(std::string_view text) {

@@ -14,10 +14,10 @@ namespace tarn {
 
 class Machine;
 
-// Key filters: `tecla` (a character code) becomes 0, with a beep, when it may not
+// Key filters: `key` (a character code) becomes 0, with a beep, when it may not
 // pass. Return the code as it leaves.
-std::int16_t SoNumeroVirgula(std::int16_t& tecla, Machine& machine);  // digits, backspace, comma
-std::int16_t SoNumeroInteiro(std::int16_t& tecla, Machine& machine);  // digits, backspace
+std::int16_t SoNumeroVirgula(std::int16_t& key, Machine& machine);  // digits, backspace, comma
+std::int16_t SoNumeroInteiro(std::int16_t& key, Machine& machine);  // digits, backspace
 
 // What a field shows after it was left, and the box to show first, if any. With
 // `refocus` the focus goes back to the field after the box.

@@ -13,8 +13,8 @@ struct GridRow {
     std::vector<std::string> cells;
     bool ticked = false;
 
-    const std::string& coluna(std::size_t number) const { return cells.at(number - 1); }
-    std::string& coluna(std::size_t number) { return cells.at(number - 1); }
+    const std::string& column(std::size_t number) const { return cells.at(number - 1); }
+    std::string& column(std::size_t number) { return cells.at(number - 1); }
 };
 
 }  // namespace tarn

@@ -10,8 +10,8 @@ namespace {
 
 constexpr NumberMask amountMask{"###,##0.00"};
 
-std::string_view textOf(const XmlAttributes& attributes, std::string_view nome) {
-    const XmlAttribute attribute = attributes.getNamedItem(nome);
+std::string_view textOf(const XmlAttributes& attributes, std::string_view name) {
+    const XmlAttribute attribute = attributes.getNamedItem(name);
     return attribute ? attribute.text() : std::string_view();
 }
 
@@ -22,29 +22,29 @@ struct RowRead {
     bool receivable;
 };
 
-std::string cell(const RowRead& linha, const GridField& field) {
+std::string cell(const RowRead& line, const GridField& field) {
     if (field.treatment == Treatment::PersonKind) {
-        return linha.naturalPerson ? "F" : "J";
+        return line.naturalPerson ? "F" : "J";
     }
-    const XmlAttribute attribute = linha.attributes.getNamedItem(field.nome);
+    const XmlAttribute attribute = line.attributes.getNamedItem(field.name);
     if (!attribute) {
         return {};
     }
-    const std::string_view texto = attribute.text();
+    const std::string_view text = attribute.text();
     switch (field.treatment) {
         case Treatment::Amount:
-            return formatNumber(readPoint(texto), amountMask);
+            return formatNumber(readPoint(text), amountMask);
         case Treatment::CpfCnpj:
-            return cpfCnpj(linha.naturalPerson, texto);
+            return cpfCnpj(line.naturalPerson, text);
         case Treatment::ReceivableOnly:
-            return std::string(linha.receivable ? texto : std::string_view());
+            return std::string(line.receivable ? text : std::string_view());
         case Treatment::NotReceivableOnly:
-            return std::string(linha.receivable ? std::string_view() : texto);
+            return std::string(line.receivable ? std::string_view() : text);
         case Treatment::PersonKind:
-        case Treatment::Texto:
+        case Treatment::Text:
             break;
     }
-    return std::string(texto);
+    return std::string(text);
 }
 
 GridRow rowOf(const XmlNode& no, std::span<const GridField> fields) {
@@ -52,25 +52,25 @@ GridRow rowOf(const XmlNode& no, std::span<const GridField> fields) {
     const RowRead read{.attributes = attributes,
                        .naturalPerson = isNaturalPerson(textOf(attributes, "PES_JUR")),
                        .receivable = textOf(attributes, "TIPO_DOCTO") == "DOCTO_RECEBER"};
-    GridRow linha;
-    linha.cells.reserve(fields.size());
+    GridRow line;
+    line.cells.reserve(fields.size());
     for (const GridField& field : fields) {
-        linha.cells.push_back(cell(read, field));
+        line.cells.push_back(cell(read, field));
     }
-    return linha;
+    return line;
 }
 
 }  // namespace
 
 std::vector<GridRow> rowsOf(const XmlDocument& answer, std::span<const GridField> fields) {
-    std::vector<GridRow> linhas;
+    std::vector<GridRow> lines;
     const XmlNode data = answer.selectSingleNode("xml/rs:data");
     const std::size_t count = data ? data.childCount() : 0;
-    linhas.reserve(count);
+    lines.reserve(count);
     for (std::size_t i = 0; i < count; ++i) {
-        linhas.push_back(rowOf(data.child(i), fields));
+        lines.push_back(rowOf(data.child(i), fields));
     }
-    return linhas;
+    return lines;
 }
 
 }  // namespace tarn

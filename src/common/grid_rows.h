@@ -13,7 +13,7 @@ class XmlDocument;
 
 // What becomes of the attribute on its way into the cell.
 enum class Treatment {
-    Texto,              // as it stands
+    Text,               // as it stands
     Amount,             // read with a point as decimal mark, shown under "###,##0.00"
     CpfCnpj,            // masked for the kind of person that PES_JUR tells
     PersonKind,         // needs no attribute: "F" or "J" by PES_JUR
@@ -23,8 +23,8 @@ enum class Treatment {
 
 // One for each column, the first one included; no name: the cell stays empty.
 struct GridField {
-    std::string_view nome = {};
-    Treatment treatment = Treatment::Texto;
+    std::string_view name = {};
+    Treatment treatment = Treatment::Text;
 };
 
 // Unticked rows; costs O(1) a row. An absent attribute leaves its cell empty, also in a

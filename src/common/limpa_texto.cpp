@@ -4,20 +4,20 @@
 
 namespace tarn {
 
-std::optional<std::string> TrocaAspas(const std::optional<std::string>& valor) {
-    if (!valor) {
+std::optional<std::string> TrocaAspas(const std::optional<std::string>& value) {
+    if (!value) {
         return std::nullopt;
     }
-    std::string texto = *valor;
+    std::string text = *value;
     for (const char* quote : {"'", "\"", "‘", "’"}) {
-        texto = replaceAll(texto, quote, "´");
+        text = replaceAll(text, quote, "´");
     }
-    return texto;
+    return text;
 }
 
-std::string LimpaTexto(std::string& valor) {
-    valor = upperCase(valor);
-    return std::string(trimBlanks(TrocaAspas(valor).value_or("")));
+std::string LimpaTexto(std::string& value) {
+    value = upperCase(value);
+    return std::string(trimBlanks(TrocaAspas(value).value_or("")));
 }
 
 }  // namespace tarn

@@ -7,9 +7,9 @@
 namespace tarn {
 
 // Each of ' " ‘ ’ turned into ´; no text comes back as none.
-std::optional<std::string> TrocaAspas(const std::optional<std::string>& valor);
+std::optional<std::string> TrocaAspas(const std::optional<std::string>& value);
 
-// Puts `valor` in capitals, in place, and returns it with its quotes turned and trimmed.
-std::string LimpaTexto(std::string& valor);
+// Puts `value` in capitals, in place, and returns it with its quotes turned and trimmed.
+std::string LimpaTexto(std::string& value);
 
 }  // namespace tarn

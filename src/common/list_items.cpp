@@ -15,9 +15,9 @@ std::string_view textOf(const XmlAttributes& attributes, std::string_view field)
     return attribute ? attribute.text() : std::string_view();
 }
 
-std::int32_t itemDataOf(std::string_view texto) {
+std::int32_t itemDataOf(std::string_view text) {
     try {
-        return readInt32(texto);
+        return readInt32(text);
     } catch (const RuntimeError&) {
         return 0;
     }
@@ -28,11 +28,11 @@ std::int32_t itemDataOf(std::string_view texto) {
 std::vector<ListItem> listItemsOf(const XmlDocument& answer, std::string_view textField,
                                   std::string_view dataField) {
     std::vector<ListItem> items;
-    const XmlNode linhas = answer.selectSingleNode("xml/rs:data");
-    const std::size_t count = linhas ? linhas.childCount() : 0;
+    const XmlNode lines = answer.selectSingleNode("xml/rs:data");
+    const std::size_t count = lines ? lines.childCount() : 0;
     items.reserve(count);
     for (std::size_t i = 0; i < count; ++i) {
-        const XmlAttributes attributes = linhas.child(i).attributes();
+        const XmlAttributes attributes = lines.child(i).attributes();
         items.push_back({std::string(textOf(attributes, textField)),
                          itemDataOf(textOf(attributes, dataField))});
     }

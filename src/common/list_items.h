@@ -13,7 +13,7 @@ struct Environment;
 struct Sessao;
 
 struct ListItem {
-    std::string texto;
+    std::string text;
     std::int32_t data = 0;  // item data; 0 of the first item: none chosen
     bool operator==(const ListItem&) const = default;
 };

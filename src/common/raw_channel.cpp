@@ -17,33 +17,33 @@ std::size_t countOf(int value) {
 
 }  // namespace
 
-std::string FormataCampo(std::string& texto, int largura, bool aDireita) {
-    const std::size_t width = countOf(largura);
-    const std::size_t length = lengthOf(texto);
-    if (length > width) {
-        return std::string(leftOf(texto, width));
+std::string FormataCampo(std::string& text, int width, bool alignRight) {
+    const std::size_t room = countOf(width);
+    const std::size_t length = lengthOf(text);
+    if (length > room) {
+        return std::string(leftOf(text, room));
     }
-    texto.insert(aDireita ? 0 : texto.size(), width - length, ' ');
-    return texto;
+    text.insert(alignRight ? 0 : text.size(), room - length, ' ');
+    return text;
 }
 
-void appendField(std::string& linha, std::string_view texto, int largura, bool aDireita) {
-    const std::size_t width = countOf(largura);
-    const std::string_view head = texto.substr(0, width);
+void appendField(std::string& line, std::string_view text, int width, bool alignRight) {
+    const std::size_t room = countOf(width);
+    const std::string_view head = text.substr(0, room);
     if (isPlain(head)) {  // as many bytes as characters
-        const std::size_t start = linha.size() + (aDireita ? width - head.size() : 0);
-        linha.append(width, ' ');
-        head.copy(linha.data() + start, head.size());
+        const std::size_t start = line.size() + (alignRight ? room - head.size() : 0);
+        line.append(room, ' ');
+        head.copy(line.data() + start, head.size());
         return;
     }
-    const std::string_view field = leftOf(texto, width);
-    const std::size_t blanks = width - lengthOf(field);
-    if (aDireita) {
-        linha.append(blanks, ' ');
+    const std::string_view field = leftOf(text, room);
+    const std::size_t blanks = room - lengthOf(field);
+    if (alignRight) {
+        line.append(blanks, ' ');
     }
-    appendBlankingControls(linha, field);
-    if (!aDireita) {
-        linha.append(blanks, ' ');
+    appendBlankingControls(line, field);
+    if (!alignRight) {
+        line.append(blanks, ' ');
     }
 }
 
@@ -61,12 +61,12 @@ void RawChannel::close() {
     spooler_.closePrinter();
 }
 
-void RawChannel::ImprimeRaw(int coluna, std::string& texto, int linhas) {
-    for (std::size_t i = countOf(linhas); i > 0; --i) {
-        texto += "\r\n";
+void RawChannel::ImprimeRaw(int column, std::string& text, int lines) {
+    for (std::size_t i = countOf(lines); i > 0; --i) {
+        text += "\r\n";
     }
-    bytes_.assign(countOf(coluna), ' ');
-    appendPrinterBytes(bytes_, texto, page_);
+    bytes_.assign(countOf(column), ' ');
+    appendPrinterBytes(bytes_, text, page_);
     spooler_.write(bytes_);
 }
 

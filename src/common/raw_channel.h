@@ -10,14 +10,14 @@
 
 namespace tarn {
 
-// Pads `texto` with blanks to `largura` characters, in place, and returns it; a
-// longer text comes back cut to its first `largura` characters and stays whole
+// Pads `text` with blanks to `width` characters, in place, and returns it; a
+// longer text comes back cut to its first `width` characters and stays whole
 // in the caller's variable. Raises ArgumentoInvalido for a negative width.
-std::string FormataCampo(std::string& texto, int largura, bool aDireita);
+std::string FormataCampo(std::string& text, int width, bool alignRight);
 
-// The same for building lines: appends the field to `linha`, each control
+// The same for building lines: appends the field to `line`, each control
 // character of the value as one blank.
-void appendField(std::string& linha, std::string_view texto, int largura, bool aDireita);
+void appendField(std::string& line, std::string_view text, int width, bool alignRight);
 
 class RawChannel {
 public:
@@ -28,10 +28,10 @@ public:
     // Ends page and document and closes the printer.
     void close();
 
-    // Appends `linhas` times CR LF to `texto` (the caller's variable changes), puts
-    // `coluna` blanks before it and sends it in one write. Raises ArgumentoInvalido
+    // Appends `lines` times CR LF to `text` (the caller's variable changes), puts
+    // `column` blanks before it and sends it in one write. Raises ArgumentoInvalido
     // for a negative count.
-    void ImprimeRaw(int coluna, std::string& texto, int linhas);
+    void ImprimeRaw(int column, std::string& text, int lines);
 
 private:
     Spooler& spooler_;

@@ -76,9 +76,9 @@ std::string wholeWords(std::string_view digits) {
 
 }  // namespace
 
-std::string ValorExtenso(double valor, std::string_view plural, std::string_view singular) {
-    const bool negative = valor < 0;
-    const double amount = std::fabs(valor);
+std::string ValorExtenso(double value, std::string_view plural, std::string_view singular) {
+    const bool negative = value < 0;
+    const double amount = std::fabs(value);
     if (amount == 0) {
         return {};
     }

@@ -8,7 +8,7 @@ namespace tarn {
 
 // Capitals, no accents: "UM MIL, DUZENTOS E TRINTA E QUATRO REAIS E CINQUENTA
 // CENTAVOS". `singular` names the unit when the whole part is 1. 0 gives "".
-std::string ValorExtenso(double valor, std::string_view plural = "REAIS",
+std::string ValorExtenso(double value, std::string_view plural = "REAIS",
                          std::string_view singular = "REAL");
 
 }  // namespace tarn

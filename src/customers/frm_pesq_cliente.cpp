@@ -51,8 +51,8 @@ void FrmPesqCliente::prepareButtons() {
 void FrmPesqCliente::cmdPesquisar_Click() {
     const WaitCursor hourglass;
     try {
-        const auto show = [this](std::vector<GridRow> linhas) {
-            customers_->show(std::move(linhas));
+        const auto show = [this](std::vector<GridRow> lines) {
+            customers_->show(std::move(lines));
             ui_->sprDados->setCurrentIndex(customers_->index(0, 0));
         };
         if (!searchCustomer(desk_.environment, desk_.session, ui_->txtNmCli->text().toStdString(),
@@ -71,8 +71,8 @@ void FrmPesqCliente::cmdSelecionar_Click() {
         return;
     }
     const QModelIndex activate = ui_->sprDados->currentIndex();
-    const GridRow& linha = customers_->linha(activate.isValid() ? activate.row() : 0);
-    emit chosen({.id = linha.coluna(idColumn), .nome = linha.coluna(nameColumn)});
+    const GridRow& line = customers_->line(activate.isValid() ? activate.row() : 0);
+    emit chosen({.id = line.column(idColumn), .name = line.column(nameColumn)});
     accept();
 }
 

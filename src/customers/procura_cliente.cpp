@@ -17,17 +17,17 @@ namespace {
 constexpr std::size_t smallestName = 3;
 
 constexpr std::array<GridField, 3> fields{
-    {{.nome = "NM_PES_CPL"}, {.nome = "DC_TIP_EMP"}, {.nome = "ID_PES_CLI"}}};
+    {{.name = "NM_PES_CPL"}, {.name = "DC_TIP_EMP"}, {.name = "ID_PES_CLI"}}};
 
-void inform(Environment& environment, const std::string& texto) {
-    environment.boxes.show({.text = texto, .icon = BoxIcon::Information, .title = "Aviso"});
+void inform(Environment& environment, const std::string& text) {
+    environment.boxes.show({.text = text, .icon = BoxIcon::Information, .title = "Aviso"});
 }
 
 }  // namespace
 
 bool ProcuraCliente(Environment& environment, const Sessao& session, XmlDocument& answer,
-                    const std::optional<std::string>& texto) {
-    return requestAnswer(environment, commands::Sel_Cliente(session, texto.value_or("")), answer,
+                    const std::optional<std::string>& text) {
+    return requestAnswer(environment, commands::Sel_Cliente(session, text.value_or("")), answer,
                          failure::Tarn0024);
 }
 
@@ -35,19 +35,19 @@ std::vector<GridRow> customerRows(const XmlDocument& answer) {
     return rowsOf(answer, fields);
 }
 
-bool searchCustomer(Environment& environment, const Sessao& session, const std::string& texto,
+bool searchCustomer(Environment& environment, const Sessao& session, const std::string& text,
                     const ShowCustomers& show) {
-    if (lengthOf(trimBlanks(texto)) < smallestName) {
+    if (lengthOf(trimBlanks(text)) < smallestName) {
         inform(environment, "Nome do cliente deve ter no mínimo 3 letras.    ");
         return false;
     }
     XmlDocument answer;
-    if (!ProcuraCliente(environment, session, answer, texto)) {
+    if (!ProcuraCliente(environment, session, answer, text)) {
         return true;
     }
-    std::vector<GridRow> linhas = customerRows(answer);
-    const bool none = linhas.empty();
-    show(std::move(linhas));
+    std::vector<GridRow> lines = customerRows(answer);
+    const bool none = lines.empty();
+    show(std::move(lines));
     if (none) {
         inform(environment, "Pesquisa nao encontrou nenhum registro.     ");
     }

@@ -17,14 +17,14 @@ struct Sessao;
 // The one chosen: what the searches filter by and what they show.
 struct Customer {
     std::string id;  // ID_PES_CLI; empty: all customers
-    std::string nome;
+    std::string name;
     bool operator==(const Customer&) const = default;
 };
 
 // Sends the search text as typed ("&" as "|", nothing for none); true when the answer
 // was read, otherwise the user has been told.
 bool ProcuraCliente(Environment& environment, const Sessao& session, XmlDocument& answer,
-                    const std::optional<std::string>& texto);
+                    const std::optional<std::string>& text);
 
 // The rows of the grid: name, kind of company, identifier. Absent fields are empty.
 std::vector<GridRow> customerRows(const XmlDocument& answer);
@@ -33,7 +33,7 @@ std::vector<GridRow> customerRows(const XmlDocument& answer);
 // before the user is told that there are none. Not called: the grid stays as it is, and the
 // user has been told why. False: the name is too short.
 using ShowCustomers = std::function<void(std::vector<GridRow>)>;
-bool searchCustomer(Environment& environment, const Sessao& session, const std::string& texto,
+bool searchCustomer(Environment& environment, const Sessao& session, const std::string& text,
                     const ShowCustomers& show);
 
 }  // namespace tarn

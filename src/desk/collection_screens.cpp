@@ -19,12 +19,12 @@ frmPesqBoleto& CollectionScreens::slips() {
     return loaded(slips_);
 }
 
-template <typename Tela>
-Tela& CollectionScreens::loaded(QPointer<Tela>& kept) {
+template <typename Screen>
+Screen& CollectionScreens::loaded(QPointer<Screen>& kept) {
     if (!kept) {
-        auto* screen = new Tela(desk_, &mainWindow_);
+        auto* screen = new Screen(desk_, &mainWindow_);
         kept = screen;
-        connect(screen, &Tela::customerWanted, this, [this, screen] { customerWanted(*screen); });
+        connect(screen, &Screen::customerWanted, this, [this, screen] { customerWanted(*screen); });
         connect(screen, &QDialog::finished, this, [&kept, screen] {
             kept.clear();
             screen->deleteLater();

@@ -32,8 +32,8 @@ public:
     frmPesqBoleto& slips();
 
 private:
-    template <typename Tela>
-    Tela& loaded(QPointer<Tela>& kept);
+    template <typename Screen>
+    Screen& loaded(QPointer<Screen>& kept);
     void customerWanted(QDialog& screen);
     void takeCustomer(const Customer& customer);
 

@@ -16,7 +16,7 @@ Printers printersOf(const Options& options) {
     return {std::make_unique<DirectorySpooler>(files), std::make_unique<QtPrinter>(files)};
 }
 
-Mesa::Mesa(DeskApplication& program, const Options& options, Printers printers)
+Desk::Desk(DeskApplication& program, const Options& options, Printers printers)
     : program_(program),
       labelSelection_(options.labelSelection),
       printers_(std::move(printers)),
@@ -38,11 +38,11 @@ Mesa::Mesa(DeskApplication& program, const Options& options, Printers printers)
     });
 }
 
-Mesa::~Mesa() {
+Desk::~Desk() {
     program_.setErrorReport(nullptr);
 }
 
-void Mesa::open() {
+void Desk::open() {
     menu_.show();
     QTimer::singleShot(0, &menu_, [this] {
         menu_.load();

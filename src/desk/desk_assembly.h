@@ -27,11 +27,11 @@ struct Printers {
 // the options name none.
 Printers printersOf(const Options& options);
 
-class Mesa {
+class Desk {
 public:
     // Both of `printers` must be there.
-    Mesa(DeskApplication& program, const Options& options, Printers printers);
-    ~Mesa();
+    Desk(DeskApplication& program, const Options& options, Printers printers);
+    ~Desk();
 
     // Shows the main window, then runs the start of the program in its event loop.
     void open();

@@ -12,8 +12,8 @@ constexpr char footer[] =
     "Fim do programa: 0 encerrado pelo usuário ou por um aviso; 1 uso errado; 3 erro em tempo\n"
     "de execução.";
 
-std::string usageError(const std::string& texto) {
-    return "tarnemissao: " + texto + "\nUse tarnemissao --ajuda para ver as opções.\n";
+std::string usageError(const std::string& text) {
+    return "tarnemissao: " + text + "\nUse tarnemissao --ajuda para ver as opções.\n";
 }
 
 void portugueseLabels(CLI::App& app) {
@@ -57,9 +57,9 @@ std::string serverAddress(const std::string& typed) {
 
 std::variant<Options, NoStart> readOptions(int argc, const char* const* argv,
                                            const std::string& environmentServer,
-                                           const std::string& padrao) {
+                                           const std::string& fallback) {
     Options options;
-    std::string server = environmentServer.empty() ? padrao : environmentServer;
+    std::string server = environmentServer.empty() ? fallback : environmentServer;
     int page8Bits = 1252;
     CLI::App app("TarnEmissao: emissão de notas, duplicatas, boletos, cheques e etiquetas.",
                  "tarnemissao");
@@ -87,8 +87,8 @@ std::variant<Options, NoStart> readOptions(int argc, const char* const* argv,
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
         return NoStart{0, app.help()};
-    } catch (const CLI::CallForVersion& versao) {
-        return NoStart{0, std::string(versao.what()) + "\n"};
+    } catch (const CLI::CallForVersion& version) {
+        return NoStart{0, std::string(version.what()) + "\n"};
     } catch (const CLI::ParseError& error) {
         return NoStart{1, usageError(asMessage(error))};
     }

@@ -16,17 +16,17 @@ struct Options {
     bool labelSelection = false;
 };
 
-// The program doesn't start: help or version was asked for (status 0, `texto` for the
-// standard output) or the usage is wrong (status 1, `texto` for the error output).
+// The program doesn't start: help or version was asked for (status 0, `text` for the
+// standard output) or the usage is wrong (status 1, `text` for the error output).
 struct NoStart {
     int status = 0;
-    std::string texto;
+    std::string text;
 };
 
-// `environmentServer` is what TARN_SERVIDOR holds, `padrao` the address of the build.
+// `environmentServer` is what TARN_SERVIDOR holds, `fallback` the address of the build.
 std::variant<Options, NoStart> readOptions(int argc, const char* const* argv,
                                            const std::string& environmentServer,
-                                           const std::string& padrao);
+                                           const std::string& fallback);
 
 // The address as requests need it: a bare server ("http://host:8610") gets the path of
 // the one page, an address of a page its question mark. Empty: no http or https address.

@@ -30,15 +30,15 @@ namespace {
 const auto titleWithSession =
     QStringLiteral("TARN EMISSÕES - Rotina Mercantil - Versão de 07/01/2009 - Release 17 - G");
 
-QLabel* newPanel(QStatusBar& bar, const char* nome, const QString& accessible, int largura) {
+QLabel* newPanel(QStatusBar& bar, const char* name, const QString& accessible, int width) {
     auto* panel = new QLabel(&bar);
-    panel->setObjectName(QLatin1StringView(nome));
+    panel->setObjectName(QLatin1StringView(name));
     panel->setAccessibleName(accessible);
     panel->setTextFormat(Qt::PlainText);
     panel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     panel->setMargin(2);
     panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    bar.addWidget(panel, largura);
+    bar.addWidget(panel, width);
     return panel;
 }
 
@@ -110,8 +110,8 @@ void MDIMenu::activate() {
     panel2_->setText(QString::fromStdString(branchName(desk_.environment, desk_.session)));
 }
 
-bool MDIMenu::hasRight(const char* transacao) {
-    return VerificaDireitoAcesso(desk_.environment, desk_.session, transacao);
+bool MDIMenu::hasRight(const char* transaction) {
+    return VerificaDireitoAcesso(desk_.environment, desk_.session, transaction);
 }
 
 void MDIMenu::runModal(QDialog& screen) {
@@ -140,17 +140,17 @@ void MDIMenu::mOFT_Click() {
     }
 }
 
-void MDIMenu::note(const char* transacao, NoteJob job) {
-    if (hasRight(transacao)) {
+void MDIMenu::note(const char* transaction, NoteJob job) {
+    if (hasRight(transaction)) {
         openInArea(new FrmReImprimeNF(desk_, job));
     }
 }
 
-template <typename Tela>
-void MDIMenu::openInArea(Tela* screen) {
+template <typename Screen>
+void MDIMenu::openInArea(Screen* screen) {
     screen->setAttribute(Qt::WA_DeleteOnClose);
-    connect(screen, &Tela::loadedIt, this, &MDIMenu::lockMenus);
-    connect(screen, &Tela::closed, this, &MDIMenu::LiberaMenus);
+    connect(screen, &Screen::loadedIt, this, &MDIMenu::lockMenus);
+    connect(screen, &Screen::closed, this, &MDIMenu::LiberaMenus);
     QMdiSubWindow* window = ui_->mdiArea->addSubWindow(
         screen, Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                     Qt::WindowCloseButtonHint);

@@ -49,17 +49,17 @@ private:
     void lockMenus();
     bool logOn();
     void activate();
-    bool hasRight(const char* transacao);
+    bool hasRight(const char* transaction);
     void runModal(QDialog& screen);
     // Puts a screen that stays open beside the menu into the desk's area; while it is
     // there mnuEtiquetas and mnuNF are disabled.
-    template <typename Tela>
-    void openInArea(Tela* screen);
+    template <typename Screen>
+    void openInArea(Screen* screen);
     void centre(QMdiSubWindow* window);
 
     void labels(const char* kind);
     void mOFT_Click();
-    void note(const char* transacao, NoteJob job);
+    void note(const char* transaction, NoteJob job);
     void mnuDuplicata_Click();
     void mnuBoleto_Click();
     void mnuChequeImpressao_Click();

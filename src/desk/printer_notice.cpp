@@ -59,10 +59,10 @@ constexpr std::array table{
 }  // namespace
 
 std::string_view printerNotice(std::int32_t company, std::int32_t establishment) {
-    const auto* linha = std::find_if(table.begin(), table.end(), [&](const Line& candidate) {
+    const auto* line = std::find_if(table.begin(), table.end(), [&](const Line& candidate) {
         return candidate.fits(company, establishment);
     });
-    return linha == table.end() ? std::string_view{} : linha->notice;
+    return line == table.end() ? std::string_view{} : line->notice;
 }
 
 }  // namespace tarn

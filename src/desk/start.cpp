@@ -21,13 +21,13 @@ namespace {
 
 constexpr std::string_view supplierSite = TARN_VENDOR_SITE;
 
-std::string outdatedText(std::string_view versao) {
-    std::string texto = "          TARNEMISSAO DESATUALIZADO ! \r";
-    texto.append("       Data da Versão TarnEmissao = ").append(versao).append("\r\r");
-    texto.append("       Por favor, faça a atualização no site: \r\r");
-    texto.append(20, ' ').append(supplierSite).append(" \r\r");
-    texto.append("      OPÇÃO -> CENTRAL DE ATUALIZAÇÃO                   \r\r");
-    return texto;
+std::string outdatedText(std::string_view version) {
+    std::string text = "          TARNEMISSAO DESATUALIZADO ! \r";
+    text.append("       Data da Versão TarnEmissao = ").append(version).append("\r\r");
+    text.append("       Por favor, faça a atualização no site: \r\r");
+    text.append(20, ' ').append(supplierSite).append(" \r\r");
+    text.append("      OPÇÃO -> CENTRAL DE ATUALIZAÇÃO                   \r\r");
+    return text;
 }
 
 constexpr std::string_view dateFormatText =
@@ -37,33 +37,33 @@ constexpr std::string_view dateFormatText =
     "-> Data   -> Em formato reduzido de data selecione:  dd/mm/aaaa     ";
 
 // The version row's attribute, or nothing that can be taken for a status.
-std::string versionAttribute(const XmlDocument& documento, std::size_t indice) {
+std::string versionAttribute(const XmlDocument& document, std::size_t index) {
     try {
-        return std::string(documento.child(1).child(0).attributes().item(indice).text());
+        return std::string(document.child(1).child(0).attributes().item(index).text());
     } catch (const RuntimeError&) {
         return {};
     }
 }
 
-std::string asYearMonthDay(std::string_view texto) {
-    const auto data = parseDate(texto);
+std::string asYearMonthDay(std::string_view text) {
+    const auto data = parseDate(text);
     if (!data) {
-        return std::string(texto);
+        return std::string(text);
     }
     const std::string written = dateText(*data);  // dd/mm/yyyy
     return written.substr(6) + "/" + written.substr(3, 2) + "/" + written.substr(0, 2);
 }
 
-bool filledIn(Environment& environment, const std::string& valor, const std::string& field) {
-    if (!valor.empty()) {
+bool filledIn(Environment& environment, const std::string& value, const std::string& field) {
+    if (!value.empty()) {
         return true;
     }
     warn(environment, field + " é um campo obrigatório     ", "Aviso");
     return false;
 }
 
-void fillIn(Sessao& session, const XmlDocument& documento) {
-    const XmlNode principal = documento.selectSingleNode("PRINCIPAL");
+void fillIn(Sessao& session, const XmlDocument& document) {
+    const XmlNode principal = document.selectSingleNode("PRINCIPAL");
     session.NCOMPANYCODE = readInt32(numberAttribute(principal, 0, "NCOMPANYCODE"));
     session.COMPANYNAME = numberAttribute(principal, 0, "COMPANYNAME");
     session.SERVERNAME = numberAttribute(principal, 0, "SERVERNAME");
@@ -73,30 +73,30 @@ void fillIn(Sessao& session, const XmlDocument& documento) {
 }
 
 std::string withZero(std::string_view part) {
-    std::string texto(lengthOf(part) == 1 ? "0" : "");
-    texto += part;
-    return texto;
+    std::string text(lengthOf(part) == 1 ? "0" : "");
+    text += part;
+    return text;
 }
 
 }  // namespace
 
-bool VerVersao(Environment& environment, Sessao& session, std::string_view versao) {
-    XmlDocument documento;
+bool VerVersao(Environment& environment, Sessao& session, std::string_view version) {
+    XmlDocument document;
     try {
-        requestAnswer(environment, commands::VERSAO_TARN_EMISSAO(versao), documento,
+        requestAnswer(environment, commands::VERSAO_TARN_EMISSAO(version), document,
                       failure::noVersion);
     } catch (const std::exception&) {  // no failure may close the gate
-        documento = XmlDocument();
+        document = XmlDocument();
     }
     session.VersaoServidor.clear();
-    if (documento.empty()) {
+    if (document.empty()) {
         return true;
     }
-    if (versionAttribute(documento, 0) == "OK") {
-        session.VersaoServidor = asYearMonthDay(versionAttribute(documento, 1));
+    if (versionAttribute(document, 0) == "OK") {
+        session.VersaoServidor = asYearMonthDay(versionAttribute(document, 1));
         return true;
     }
-    environment.boxes.show({.text = outdatedText(versao), .icon = BoxIcon::Information});
+    environment.boxes.show({.text = outdatedText(version), .icon = BoxIcon::Information});
     return false;
 }
 
@@ -115,13 +115,13 @@ bool logOn(Environment& environment, Sessao& session, const std::string& company
         !filledIn(environment, password, "Senha")) {
         return false;
     }
-    XmlDocument documento;
+    XmlDocument document;
     CarregaXML(environment, environment.baseUrl + commands::LOGIN(company, user, password),
-               documento, false, "", -1, "", std::string(failure::Tarn0001));
-    if (!answerAccepted(environment, documento, "Houve um problema para efetuar o Login.")) {
+               document, false, "", -1, "", std::string(failure::Tarn0001));
+    if (!answerAccepted(environment, document, "Houve um problema para efetuar o Login.")) {
         return false;
     }
-    fillIn(session, documento);
+    fillIn(session, document);
     return true;
 }
 
@@ -135,21 +135,21 @@ std::string dayMonthYear(std::string_view data) {
 }
 
 bool VerificaDireitoAcesso(Environment& environment, const Sessao& session,
-                           std::string_view transacao) {
-    XmlDocument documento;
+                           std::string_view transaction) {
+    XmlDocument document;
     const bool loaded =
-        requestAnswer(environment, commands::verifica_direito_acesso(session, transacao), documento,
-                      failure::Tarn0002);
+        requestAnswer(environment, commands::verifica_direito_acesso(session, transaction),
+                      document, failure::Tarn0002);
     const std::string problem =
         "Houve um problema na verificação do Direito de Acesso do usuário na Transação " +
-        std::string(transacao) + ". ";
-    return answerAccepted(environment, documento, problem) && loaded;
+        std::string(transaction) + ". ";
+    return answerAccepted(environment, document, problem) && loaded;
 }
 
 std::string branchName(Environment& environment, const Sessao& session) {
-    XmlDocument documento;
-    requestAnswer(environment, commands::sel_dados_empresa(session), documento, failure::Tarn0009);
-    return textAttribute(documento.selectSingleNode("xml/rs:data"), 0, "NM_FIL");
+    XmlDocument document;
+    requestAnswer(environment, commands::sel_dados_empresa(session), document, failure::Tarn0009);
+    return textAttribute(document.selectSingleNode("xml/rs:data"), 0, "NM_FIL");
 }
 
 }  // namespace tarn

@@ -15,7 +15,7 @@ inline constexpr std::string_view programVersion = "07/01/2009";
 
 // Version gate: false when the program is out of date (the box has been shown)
 // and must end. A server out of reach leaves the gate open. Errors are ignored.
-bool VerVersao(Environment& environment, Sessao& session, std::string_view versao);
+bool VerVersao(Environment& environment, Sessao& session, std::string_view version);
 
 // Imposes dd/MM/yyyy on the machine; false: refused, the box has been shown, the
 // program must end.
@@ -33,7 +33,7 @@ std::string dayMonthYear(std::string_view data);
 
 // The rights check, sent at each opening; false: the user has been told.
 bool VerificaDireitoAcesso(Environment& environment, const Sessao& session,
-                           std::string_view transacao);
+                           std::string_view transaction);
 
 // NM_FIL of the session's establishment; ErroExecucao when there is no row.
 std::string branchName(Environment& environment, const Sessao& session);

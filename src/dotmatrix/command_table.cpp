@@ -15,7 +15,7 @@ constexpr CommandShape taken(char code, std::uint8_t parameters = 0, Tail tail =
     return {static_cast<std::uint8_t>(code), parameters, tail, false};
 }
 
-constexpr std::array kShapes{
+constexpr std::array shapes{
     // Pitch and strike.
     drawn('\x0E'), drawn('\x0F'), drawn('M'), drawn('P'), drawn('g'), drawn('E'), drawn('F'),
     drawn('G'), drawn('H'), drawn('4'), drawn('5'), drawn('W', 1), drawn('-', 1), drawn('!', 1),
@@ -41,9 +41,9 @@ constexpr std::array kShapes{
 }  // namespace
 
 std::optional<CommandShape> shapeOf(std::uint8_t code) {
-    const auto* shape = std::find_if(kShapes.begin(), kShapes.end(),
+    const auto* shape = std::find_if(shapes.begin(), shapes.end(),
                                      [code](const CommandShape& s) { return s.code == code; });
-    if (shape == kShapes.end()) {
+    if (shape == shapes.end()) {
         return std::nullopt;
     }
     return *shape;

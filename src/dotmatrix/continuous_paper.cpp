@@ -84,7 +84,7 @@ void ContinuousPaper::print(const Cell& cell, std::uint16_t columnsBefore) {
                         lines_.back().job == currentJob() && lines_.back().jobLine == jobLine_ &&
                         lines_.back().columnsBefore == columnsBefore;
     contentWidth_ = std::max<PaperUnits>(contentWidth_, cell.x + cell.width);
-    if (++cellsOnForm_ > kMostCellsOnForm) {
+    if (++cellsOnForm_ > mostCellsOnForm) {
         return;
     }
     if (!goesOn) {

@@ -12,11 +12,11 @@
 namespace tarn::dotmatrix {
 
 enum Style : std::uint8_t {
-    kPlain = 0,
-    kEmphasised = 1,
-    kDoubleStrike = 2,
-    kUnderlined = 4,
-    kItalic = 8,
+    plain = 0,
+    emphasised = 1,
+    doubleStrike = 2,
+    underlined = 4,
+    italicShear = 8,
 };
 
 struct Cell {
@@ -24,7 +24,7 @@ struct Cell {
     std::uint16_t width = 0;   // of the whole cell
     std::uint16_t column = 1;  // printed characters since the left margin, from 1
     char16_t character = u' ';
-    std::uint8_t style = kPlain;
+    std::uint8_t style = plain;
 };
 
 // What one job printed in one row. Blanks leave no cell, and a row on which
@@ -53,7 +53,7 @@ struct PaperPosition {
 
 // Characters that one form keeps; what is printed over a form that is this black
 // already is not kept. A form has room for less than a tenth of it.
-inline constexpr std::size_t kMostCellsOnForm = 200'000;
+inline constexpr std::size_t mostCellsOnForm = 200'000;
 
 class ContinuousPaper {
 public:

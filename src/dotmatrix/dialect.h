@@ -11,8 +11,8 @@ enum class Needles { Nine, TwentyFour };
 struct Dialect {
     Needles needles = Needles::Nine;  // the fine unit of ESC 3 and ESC J: 1/216 or 1/180 inch
     CodePage codePage = CodePage::Page1252;
-    PaperUnits formHeight = 11 * kUnitsPerInch;
-    PaperUnits carriageWidth = 136 * kUnitsPerInch / 10;  // room for 136 characters of 10 an inch
+    PaperUnits formHeight = 11 * unitsPerInch;
+    PaperUnits carriageWidth = 136 * unitsPerInch / 10;  // room for 136 characters of 10 an inch
     // Pitch after power on and ESC @.
     bool elite = false;
     bool condensed = false;

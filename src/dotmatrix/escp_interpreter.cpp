@@ -9,30 +9,30 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr std::uint8_t kNul = 0x00;
-constexpr std::uint8_t kBell = 0x07;
-constexpr std::uint8_t kBackspace = 0x08;
-constexpr std::uint8_t kTab = 0x09;
-constexpr std::uint8_t kLineFeed = 0x0A;
-constexpr std::uint8_t kVerticalTab = 0x0B;
-constexpr std::uint8_t kFormFeed = 0x0C;
-constexpr std::uint8_t kCarriageReturn = 0x0D;
-constexpr std::uint8_t kShiftOut = 0x0E;
-constexpr std::uint8_t kShiftIn = 0x0F;
-constexpr std::uint8_t kDeviceControl2 = 0x12;
-constexpr std::uint8_t kDeviceControl4 = 0x14;
-constexpr std::uint8_t kEscape = 0x1B;
-constexpr std::uint8_t kDelete = 0x7F;
+constexpr std::uint8_t nul = 0x00;
+constexpr std::uint8_t bell = 0x07;
+constexpr std::uint8_t backspaceByte = 0x08;
+constexpr std::uint8_t tab = 0x09;
+constexpr std::uint8_t lineFeed = 0x0A;
+constexpr std::uint8_t verticalTab = 0x0B;
+constexpr std::uint8_t formFeed = 0x0C;
+constexpr std::uint8_t carriageReturnByte = 0x0D;
+constexpr std::uint8_t shiftOut = 0x0E;
+constexpr std::uint8_t shiftIn = 0x0F;
+constexpr std::uint8_t deviceControl2 = 0x12;
+constexpr std::uint8_t deviceControl4 = 0x14;
+constexpr std::uint8_t escape = 0x1B;
+constexpr std::uint8_t deleteByte = 0x7F;
 
-constexpr int kTabColumns = 8;
+constexpr int tabColumns = 8;
 // Backspaces of another pitch can bring the head back without giving back the columns.
-constexpr PaperUnits kMaxColumn = 4096;
-constexpr std::uint8_t kMaxFormLines = 127;
-constexpr std::uint8_t kMaxFormInches = 22;
+constexpr PaperUnits maxColumn = 4096;
+constexpr std::uint8_t maxFormLines = 127;
+constexpr std::uint8_t maxFormInches = 22;
 // No label is lower; shorter forms would only flood the paper with perforations.
-constexpr PaperUnits kShortestForm = kUnitsPerInch / 2;
-constexpr std::uint8_t kMaxSpacing = 85;
-constexpr PaperUnits kNarrowestCarriage = kUnitsPerInch;
+constexpr PaperUnits shortestForm = unitsPerInch / 2;
+constexpr std::uint8_t maxSpacing = 85;
+constexpr PaperUnits narrowestCarriage = unitsPerInch;
 
 // Printers read the digits "0" and "1" like the numbers in their on/off commands.
 bool isOn(std::uint8_t parameter) {
@@ -43,13 +43,13 @@ bool isOn(std::uint8_t parameter) {
 
 EscpInterpreter::EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect)
     : paper_(paper), dialect_(dialect) {
-    dialect_.carriageWidth = std::max(dialect_.carriageWidth, kNarrowestCarriage);
+    dialect_.carriageWidth = std::max(dialect_.carriageWidth, narrowestCarriage);
     reset();
 }
 
 EscpInterpreter::EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect, PrinterState state)
     : paper_(paper), dialect_(dialect), state_(std::move(state)) {
-    dialect_.carriageWidth = std::max(dialect_.carriageWidth, kNarrowestCarriage);
+    dialect_.carriageWidth = std::max(dialect_.carriageWidth, narrowestCarriage);
 }
 
 void EscpInterpreter::startJob() {
@@ -78,7 +78,7 @@ void EscpInterpreter::take(std::uint8_t byte) {
             takeParameter(byte);
             break;
         case Waiting::ListEnd:
-            if (byte == kNul) {
+            if (byte == nul) {
                 finishCommand();
             }
             break;
@@ -94,7 +94,7 @@ void EscpInterpreter::takeText(std::uint8_t byte) {
     if (hasUpperControls(dialect_.codePage) && byte >= 0x80 && byte < 0xA0) {
         note(NoticeKind::UpperControl, std::string(1, static_cast<char>(byte)));
         takeControl(static_cast<std::uint8_t>(byte - 0x80), byte);
-    } else if (byte < 0x20 || byte == kDelete) {
+    } else if (byte < 0x20 || byte == deleteByte) {
         takeControl(byte, byte);
     } else {
         printCharacter(glyphOf(byte, dialect_.codePage));
@@ -103,40 +103,40 @@ void EscpInterpreter::takeText(std::uint8_t byte) {
 
 void EscpInterpreter::takeControl(std::uint8_t code, std::uint8_t byte) {
     switch (code) {
-        case kNul:
-        case kBell:
+        case nul:
+        case bell:
             break;
-        case kBackspace:
+        case backspaceByte:
             backspace();
             break;
-        case kTab:
+        case tab:
             horizontalTab();
             break;
-        case kLineFeed:
-        case kVerticalTab:  // without vertical tabs set it feeds one line
+        case lineFeed:
+        case verticalTab:  // without vertical tabs set it feeds one line
             newLine();
             break;
-        case kFormFeed:
+        case formFeed:
             paper_.feedToNextForm();
             carriageReturn();
             state_.mode.wideLine = false;
             break;
-        case kCarriageReturn:
+        case carriageReturnByte:
             carriageReturn();
             break;
-        case kShiftOut:
+        case shiftOut:
             state_.mode.wideLine = true;
             break;
-        case kDeviceControl4:
+        case deviceControl4:
             state_.mode.wideLine = false;
             break;
-        case kShiftIn:
+        case shiftIn:
             state_.mode.condensed = true;
             break;
-        case kDeviceControl2:
+        case deviceControl2:
             state_.mode.condensed = false;
             break;
-        case kEscape:
+        case escape:
             state_.command.assign(1, static_cast<char>(byte));
             state_.waiting = Waiting::Escape;
             break;
@@ -152,7 +152,7 @@ void EscpInterpreter::takeEscape(std::uint8_t byte) {
     if (hasUpperControls(dialect_.codePage) && byte >= 0x80 && byte < 0xA0) {
         code = static_cast<std::uint8_t>(byte - 0x80);
     }
-    if (code == kEscape) {
+    if (code == escape) {
         // Forms are in use whose set-up reads ESC ESC G and wants double strike, so the
         // first ESC is the one that is dropped. A printer that drops the pair prints "G"
         // instead; the notice tells where.
@@ -219,10 +219,10 @@ void EscpInterpreter::finishCommand() {
 void EscpInterpreter::execute() {
     const auto parameter = static_cast<std::uint8_t>(state_.command.back());
     switch (state_.shape.code) {
-        case kShiftOut:
+        case shiftOut:
             state_.mode.wideLine = true;
             break;
-        case kShiftIn:
+        case shiftIn:
             state_.mode.condensed = true;
             break;
         case 'M':
@@ -238,18 +238,18 @@ void EscpInterpreter::execute() {
             break;
         case 'E':
         case 'F':
-            state_.mode.setStyle(kEmphasised, state_.shape.code == 'E');
+            state_.mode.setStyle(emphasised, state_.shape.code == 'E');
             break;
         case 'G':
         case 'H':
-            state_.mode.setStyle(kDoubleStrike, state_.shape.code == 'G');
+            state_.mode.setStyle(doubleStrike, state_.shape.code == 'G');
             break;
         case '4':
         case '5':
-            state_.mode.setStyle(kItalic, state_.shape.code == '4');
+            state_.mode.setStyle(italicShear, state_.shape.code == '4');
             break;
         case '-':
-            state_.mode.setStyle(kUnderlined, isOn(parameter));
+            state_.mode.setStyle(underlined, isOn(parameter));
             break;
         case 'W':
             state_.mode.wide = isOn(parameter);
@@ -269,22 +269,22 @@ void EscpInterpreter::execute() {
 
 void EscpInterpreter::executeFeed(std::uint8_t parameter) {
     const bool nine = dialect_.needles == Needles::Nine;
-    const PaperUnits fine = kUnitsPerInch / (nine ? 216 : 180);
+    const PaperUnits fine = unitsPerInch / (nine ? 216 : 180);
     switch (state_.shape.code) {
         case '0':
-            state_.lineSpacing = kUnitsPerInch / 8;
+            state_.lineSpacing = unitsPerInch / 8;
             break;
         case '1':
-            state_.lineSpacing = kUnitsPerInch * 7 / 72;
+            state_.lineSpacing = unitsPerInch * 7 / 72;
             break;
         case '2':
-            state_.lineSpacing = kUnitsPerInch / 6;
+            state_.lineSpacing = unitsPerInch / 6;
             break;
         case 'A':
-            if (parameter > kMaxSpacing) {
+            if (parameter > maxSpacing) {
                 note(NoticeKind::BadParameter, state_.command);
             } else {
-                state_.lineSpacing = parameter * (kUnitsPerInch / (nine ? 72 : 60));
+                state_.lineSpacing = parameter * (unitsPerInch / (nine ? 72 : 60));
             }
             break;
         case '3':
@@ -307,8 +307,7 @@ void EscpInterpreter::executeFeed(std::uint8_t parameter) {
 
 void EscpInterpreter::setFormLines(std::uint8_t lines) {
     const PaperUnits height = lines * state_.lineSpacing;
-    if (lines > kMaxFormLines || height < kShortestForm ||
-        height > kMaxFormInches * kUnitsPerInch) {
+    if (lines > maxFormLines || height < shortestForm || height > maxFormInches * unitsPerInch) {
         note(NoticeKind::BadParameter, state_.command);
         return;
     }
@@ -316,11 +315,11 @@ void EscpInterpreter::setFormLines(std::uint8_t lines) {
 }
 
 void EscpInterpreter::setFormInches(std::uint8_t inches) {
-    if (inches < 1 || inches > kMaxFormInches) {
+    if (inches < 1 || inches > maxFormInches) {
         note(NoticeKind::BadParameter, state_.command);
         return;
     }
-    paper_.setFormHeight(inches * kUnitsPerInch);
+    paper_.setFormHeight(inches * unitsPerInch);
 }
 
 void EscpInterpreter::reset() {
@@ -328,7 +327,7 @@ void EscpInterpreter::reset() {
     state_.mode.elite = dialect_.elite;
     state_.mode.condensed = dialect_.condensed;
     state_.mode.eliteOverridesCondensed = dialect_.eliteOverridesCondensed;
-    state_.lineSpacing = kUnitsPerInch / 6;
+    state_.lineSpacing = unitsPerInch / 6;
     carriageReturn();
     // The paper stays where it is; only a changed form length starts a new form here.
     if (paper_.formHeight() != dialect_.formHeight) {
@@ -346,7 +345,7 @@ void EscpInterpreter::printCharacter(char16_t character) {
         return;
     }
     const bool isBlank = character == u' ' || character == u'\u00A0';
-    if (!isBlank || (state_.mode.style & kUnderlined) != 0) {
+    if (!isBlank || (state_.mode.style & underlined) != 0) {
         Cell cell;
         cell.x = static_cast<std::int32_t>(state_.x);
         cell.width = width;
@@ -361,7 +360,7 @@ void EscpInterpreter::printCharacter(char16_t character) {
 
 void EscpInterpreter::passColumns(PaperUnits count) {
     state_.column =
-        static_cast<std::uint16_t>(std::min<PaperUnits>(state_.column + count, kMaxColumn));
+        static_cast<std::uint16_t>(std::min<PaperUnits>(state_.column + count, maxColumn));
 }
 
 void EscpInterpreter::newLine() {
@@ -378,7 +377,7 @@ void EscpInterpreter::carriageReturn() {
 
 void EscpInterpreter::horizontalTab() {
     const PaperUnits width = state_.mode.cellWidth();
-    const PaperUnits stride = kTabColumns * width;
+    const PaperUnits stride = tabColumns * width;
     const PaperUnits stop = (state_.x / stride + 1) * stride;
     if (stop > dialect_.carriageWidth) {
         return;  // no stop is left in this line

@@ -22,7 +22,7 @@ struct PrinterState {
     enum class Waiting { Text, Escape, Parameters, ListEnd, Data };
 
     PrintMode mode;
-    PaperUnits lineSpacing = kUnitsPerInch / 6;
+    PaperUnits lineSpacing = unitsPerInch / 6;
     PaperUnits x = 0;                 // of the head
     std::uint16_t column = 1;         // printed characters since the left margin, from 1
     std::uint16_t columnsBefore = 0;  // as in PaperLine

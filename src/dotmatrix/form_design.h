@@ -32,7 +32,7 @@ struct FormPitch {
 
 struct FormDesign {
     std::string name;  // UTF-8
-    PaperUnits height = 11 * kUnitsPerInch;
+    PaperUnits height = 11 * unitsPerInch;
     FormPitch pitch;
     std::vector<FormBox> boxes;
     std::vector<FormText> texts;

@@ -10,23 +10,23 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr PaperUnits kLine = kUnitsPerInch / 6;
-constexpr double kMostLines = 22 * 6;
-constexpr double kMostColumns = 1000;
-constexpr std::string_view kBlanks = " \t\r";
+constexpr PaperUnits lineHeight = unitsPerInch / 6;
+constexpr double mostLines = 22 * 6;
+constexpr double mostColumns = 1000;
+constexpr std::string_view blanks = " \t\r";
 
 struct PitchName {
     std::string_view name;
     FormPitch pitch;
     double column;  // units
 };
-constexpr PitchName kPitches[] = {{"10", {false, false}, 216},
-                                  {"12", {true, false}, 180},
-                                  {"17", {false, true}, 126},
-                                  {"20", {true, true}, 108}};
+constexpr PitchName pitches[] = {{"10", {false, false}, 216},
+                                 {"12", {true, false}, 180},
+                                 {"17", {false, true}, 126},
+                                 {"20", {true, true}, 108}};
 
 const PitchName* pitchNamed(std::string_view name) {
-    for (const PitchName& pitch : kPitches) {
+    for (const PitchName& pitch : pitches) {
         if (pitch.name == name) {
             return &pitch;
         }
@@ -41,7 +41,7 @@ public:
 
     std::string_view next() {
         skipBlanks();
-        const std::string_view word = rest_.substr(0, rest_.find_first_of(kBlanks));
+        const std::string_view word = rest_.substr(0, rest_.find_first_of(blanks));
         rest_.remove_prefix(word.size());
         return word;
     }
@@ -59,13 +59,13 @@ public:
     }
     std::string rest() {
         skipBlanks();
-        const std::size_t last = rest_.find_last_not_of(kBlanks);
+        const std::size_t last = rest_.find_last_not_of(blanks);
         return std::string(rest_.substr(0, last == std::string_view::npos ? 0 : last + 1));
     }
 
 private:
     void skipBlanks() {
-        rest_.remove_prefix(std::min(rest_.size(), rest_.find_first_not_of(kBlanks)));
+        rest_.remove_prefix(std::min(rest_.size(), rest_.find_first_not_of(blanks)));
     }
     std::string_view rest_;
 };
@@ -108,11 +108,11 @@ public:
 
 private:
     std::string readHeight(Words& words) {
-        const auto lines = words.number(kMostLines);
+        const auto lines = words.number(mostLines);
         if (!lines || *lines < 3) {
             return "\"altura\" pede um número de linhas de 3 a 132.";
         }
-        form.height = std::llround(*lines * static_cast<double>(kLine));
+        form.height = std::llround(*lines * static_cast<double>(lineHeight));
         return {};
     }
 
@@ -129,22 +129,23 @@ private:
     }
 
     std::string readBox(Words& words) {
-        const auto line = words.number(kMostLines);
-        const auto column = words.number(kMostColumns);
-        const auto width = words.number(kMostColumns);
-        const auto height = words.number(kMostLines);
+        const auto line = words.number(mostLines);
+        const auto column = words.number(mostColumns);
+        const auto width = words.number(mostColumns);
+        const auto height = words.number(mostLines);
         if (!line || !column || !width || !height || *width <= 0 || *height <= 0) {
             return "\"caixa\" pede linha, coluna, largura e altura em números, e depois o "
                    "rótulo.";
         }
         form.boxes.push_back({xOf(*column), yOf(*line), std::llround(*width * column_),
-                              std::llround(*height * static_cast<double>(kLine)), words.rest()});
+                              std::llround(*height * static_cast<double>(lineHeight)),
+                              words.rest()});
         return {};
     }
 
     std::string readText(Words& words) {
-        const auto line = words.number(kMostLines);
-        const auto column = words.number(kMostColumns);
+        const auto line = words.number(mostLines);
+        const auto column = words.number(mostColumns);
         std::string text = words.rest();
         if (!line || !column || text.empty()) {
             return "\"texto\" pede linha e coluna em números, e depois o texto.";
@@ -155,7 +156,7 @@ private:
 
     PaperUnits xOf(double column) const { return std::llround((column - 1) * column_); }
     static PaperUnits yOf(double line) {
-        return std::llround((line - 1) * static_cast<double>(kLine));
+        return std::llround((line - 1) * static_cast<double>(lineHeight));
     }
 
     double column_ = 216;
@@ -178,16 +179,16 @@ std::string decimal(double value) {
 }
 
 const PitchName& nameOf(const FormPitch& wanted) {
-    for (const PitchName& pitch : kPitches) {
+    for (const PitchName& pitch : pitches) {
         if (pitch.pitch.elite == wanted.elite && pitch.pitch.condensed == wanted.condensed) {
             return pitch;
         }
     }
-    return kPitches[0];
+    return pitches[0];
 }
 
 std::string lineOf(PaperUnits y) {
-    return decimal(static_cast<double>(y) / static_cast<double>(kLine) + 1);
+    return decimal(static_cast<double>(y) / static_cast<double>(lineHeight) + 1);
 }
 
 }  // namespace
@@ -200,9 +201,9 @@ Dialect panelFor(const FormDesign& form, Dialect dialect) {
 }
 
 std::variant<FormDesign, FormTextError> readForm(std::string_view text) {
-    constexpr std::string_view kMark = "\xEF\xBB\xBF";
-    if (text.starts_with(kMark)) {
-        text.remove_prefix(kMark.size());
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (text.starts_with(mark)) {
+        text.remove_prefix(mark.size());
     }
     Reader reader;
     for (std::size_t number = 1; !text.empty(); ++number) {
@@ -218,13 +219,13 @@ std::variant<FormDesign, FormTextError> readForm(std::string_view text) {
 std::string writeForm(const FormDesign& form) {
     const PitchName& pitch = nameOf(form.pitch);
     // Columns are counted condensed, as most fields of these forms are printed.
-    constexpr double kCounted = 126;
-    const auto columns = [](PaperUnits x) { return decimal(static_cast<double>(x) / kCounted); };
+    constexpr double counted = 126;
+    const auto columns = [](PaperUnits x) { return decimal(static_cast<double>(x) / counted); };
     const auto columnOf = [](PaperUnits x) {
-        return decimal(static_cast<double>(x) / kCounted + 1);
+        return decimal(static_cast<double>(x) / counted + 1);
     };
     const auto lines = [](PaperUnits y) {
-        return decimal(static_cast<double>(y) / static_cast<double>(kLine));
+        return decimal(static_cast<double>(y) / static_cast<double>(lineHeight));
     };
     std::string out = "nome " + form.name + "\naltura " + lines(form.height) + "\nligar " +
                       std::string(pitch.name) + "\npasso 17\n";

@@ -11,30 +11,30 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr double kPointsPerUnit = kPointsPerInch / static_cast<double>(kUnitsPerInch);
-constexpr PaperUnits kLine = kUnitsPerInch / 6;
+constexpr double pointsPerUnit = pointsPerInch / static_cast<double>(unitsPerInch);
+constexpr PaperUnits lineHeight = unitsPerInch / 6;
 
 // Needles strike from 1.9 to 10.9 points below the top of a row: a box drawn a point
 // higher holds them, and a label of the smallest size stays clear of capitals.
-constexpr double kBoxRise = 1.0;
-constexpr double kRoomyLabel = 5.0;
-constexpr double kTightLabel = 3.0;
-constexpr double kBoxLine = 0.4;
+constexpr double boxRise = 1.0;
+constexpr double roomyLabel = 5.0;
+constexpr double tightLabel = 3.0;
+constexpr double boxLine = 0.4;
 
-constexpr int kFontPixels = 48;  // scaled down from it, for sharp small letters
-constexpr double kFormText = 9.0;
-constexpr double kFormTextBaseline = 8.9;
-constexpr double kRulerLetters = 4.0;
+constexpr int fontPixels = 48;  // scaled down from it, for sharp small letters
+constexpr double formText = 9.0;
+constexpr double formTextBaseline = 8.9;
+constexpr double rulerLetters = 4.0;
 
-const QColor kFormInk(52, 116, 138);
-const QColor kRulerInk(196, 84, 40);
-const QColor kGuide(196, 84, 40, 70);
+const QColor formInk(52, 116, 138);
+const QColor rulerInk(196, 84, 40);
+const QColor guide(196, 84, 40, 70);
 
 QFont letters() {
     QFont font;
     font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans"),
                       QStringLiteral("Arial"), QStringLiteral("sans-serif")});
-    font.setPixelSize(kFontPixels);
+    font.setPixelSize(fontPixels);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
@@ -46,7 +46,7 @@ void paintLetters(QPainter& painter, const QPointF& at, double points, double wi
         return;
     }
     const QFont font = letters();
-    const double scale = points / kFontPixels;
+    const double scale = points / fontPixels;
     const QString shown = QFontMetricsF(font).elidedText(text, Qt::ElideRight, width / scale);
     if (shown == QStringLiteral("\u2026")) {
         return;  // no room for a single letter
@@ -60,16 +60,16 @@ void paintLetters(QPainter& painter, const QPointF& at, double points, double wi
 }
 
 void paintBox(QPainter& painter, const FormBox& box, double left) {
-    const QRectF frame(left + static_cast<double>(box.x) * kPointsPerUnit,
-                       static_cast<double>(box.y) * kPointsPerUnit - kBoxRise,
-                       static_cast<double>(box.width) * kPointsPerUnit,
-                       static_cast<double>(box.height) * kPointsPerUnit);
-    painter.setPen(QPen(kFormInk, kBoxLine));
+    const QRectF frame(left + static_cast<double>(box.x) * pointsPerUnit,
+                       static_cast<double>(box.y) * pointsPerUnit - boxRise,
+                       static_cast<double>(box.width) * pointsPerUnit,
+                       static_cast<double>(box.height) * pointsPerUnit);
+    painter.setPen(QPen(formInk, boxLine));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(frame);
     // With half a line to spare the words stand above the print.
-    const bool roomy = box.height % kLine != 0;
-    const double points = roomy ? kRoomyLabel : kTightLabel;
+    const bool roomy = box.height % lineHeight != 0;
+    const double points = roomy ? roomyLabel : tightLabel;
     paintLetters(painter, frame.topLeft() + QPointF(1.0, points * 0.95), points,
                  frame.width() - 1.5, QString::fromStdString(box.label));
 }
@@ -81,13 +81,13 @@ PaperUnits cellOf(const PaperLine& line, PaperUnits otherwise) {
 // Marks from `top` to `bottom` for cells of this width.
 void paintColumns(QPainter& painter, PaperUnits cell, double top, double bottom, double left,
                   double right) {
-    const double step = static_cast<double>(cell) * kPointsPerUnit;
+    const double step = static_cast<double>(cell) * pointsPerUnit;
     for (int column = 10; left + (column - 1) * step < right; column += 10) {
         const double x = left + (column - 0.5) * step;
-        painter.setPen(QPen(kGuide, 0.3));
+        painter.setPen(QPen(guide, 0.3));
         painter.drawLine(QPointF(x, top), QPointF(x, bottom));
-        painter.setPen(kRulerInk);
-        paintLetters(painter, QPointF(x + 0.5, top + kRulerLetters), kRulerLetters, 20,
+        painter.setPen(rulerInk);
+        paintLetters(painter, QPointF(x + 0.5, top + rulerLetters), rulerLetters, 20,
                      QString::number(column));
     }
 }
@@ -99,11 +99,11 @@ void paintDesign(QPainter& painter, const FormDesign& form, double left) {
     for (const FormBox& box : form.boxes) {
         paintBox(painter, box, left);
     }
-    painter.setPen(kFormInk);
+    painter.setPen(formInk);
     for (const FormText& text : form.texts) {
-        const QPointF at(left + static_cast<double>(text.x) * kPointsPerUnit,
-                         static_cast<double>(text.y) * kPointsPerUnit + kFormTextBaseline);
-        paintLetters(painter, at, kFormText, 2000, QString::fromStdString(text.text));
+        const QPointF at(left + static_cast<double>(text.x) * pointsPerUnit,
+                         static_cast<double>(text.y) * pointsPerUnit + formTextBaseline);
+        paintLetters(painter, at, formText, 2000, QString::fromStdString(text.text));
     }
     painter.restore();
 }
@@ -119,13 +119,13 @@ void paintRuler(QPainter& painter, const FormPage& page, PaperUnits cell, double
                 double right) {
     painter.save();
     const auto pointsDown = [&page](PaperUnits y) {
-        return static_cast<double>(y - page.shape.top) * kPointsPerUnit;
+        return static_cast<double>(y - page.shape.top) * pointsPerUnit;
     };
     const double bottom = pointsDown(page.shape.top + page.shape.height);
-    const int rows = static_cast<int>(page.shape.height / kLine);
-    painter.setPen(kRulerInk);
+    const int rows = static_cast<int>(page.shape.height / lineHeight);
+    painter.setPen(rulerInk);
     for (int row = 1; row <= rows; ++row) {
-        paintLetters(painter, QPointF(left - 7, (row - 1) * 12.0 + 8.0), kRulerLetters, 8,
+        paintLetters(painter, QPointF(left - 7, (row - 1) * 12.0 + 8.0), rulerLetters, 8,
                      QString::number(row));
     }
     // From each change of pitch to the next.

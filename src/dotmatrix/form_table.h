@@ -13,7 +13,7 @@
 namespace tarn::dotmatrix {
 
 using PaperUnits = std::int64_t;
-inline constexpr PaperUnits kUnitsPerInch = 2160;
+inline constexpr PaperUnits unitsPerInch = 2160;
 
 struct Form {
     PaperUnits top = 0;

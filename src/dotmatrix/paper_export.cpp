@@ -17,11 +17,11 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr int kPdfDotsPerInch = 1200;
-constexpr double kLowestPage = 1.0;  // points; a form cut short may be lower than a page can be
+constexpr int pdfDotsPerInch = 1200;
+constexpr double lowestPage = 1.0;  // points; a form cut short may be lower than a page can be
 
 double heightInPoints(const Form& form) {
-    return static_cast<double>(form.height) * kPointsPerInch / static_cast<double>(kUnitsPerInch);
+    return static_cast<double>(form.height) * pointsPerInch / static_cast<double>(unitsPerInch);
 }
 
 bool goesOn(const WriteProgress& progress, std::size_t form) {
@@ -47,7 +47,7 @@ QString paintPages(QPdfWriter& writer, const PaperPages& paper, const PaperPaint
             return QStringLiteral("o arquivo não aceita páginas");
         }
         painter.save();
-        painter.scale(kPdfDotsPerInch / kPointsPerInch, kPdfDotsPerInch / kPointsPerInch);
+        painter.scale(pdfDotsPerInch / pointsPerInch, pdfDotsPerInch / pointsPerInch);
         drawing.paintForm(painter, *page);
         painter.restore();
     }
@@ -55,20 +55,20 @@ QString paintPages(QPdfWriter& writer, const PaperPages& paper, const PaperPaint
 }
 
 QImage pictureOf(const FormPage& page, const PaperPainter& drawing) {
-    constexpr double kDotsPerPoint = kPictureDotsPerInch / kPointsPerInch;
-    const int width = qRound(drawing.sheet().width * kPictureDotsPerInch);
-    const int height = std::max(1, qRound(heightInPoints(page.shape) * kDotsPerPoint));
+    constexpr double dotsPerPoint = pictureDotsPerInch / pointsPerInch;
+    const int width = qRound(drawing.sheet().width * pictureDotsPerInch);
+    const int height = std::max(1, qRound(heightInPoints(page.shape) * dotsPerPoint));
     QImage image(width, height, QImage::Format_RGB32);
     if (image.isNull()) {
         return image;
     }
-    constexpr double kInchesPerMetre = 1000 / 25.4;
-    image.setDotsPerMeterX(qRound(kPictureDotsPerInch * kInchesPerMetre));
+    constexpr double inchesPerMetre = 1000 / 25.4;
+    image.setDotsPerMeterX(qRound(pictureDotsPerInch * inchesPerMetre));
     image.setDotsPerMeterY(image.dotsPerMeterX());
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.scale(kDotsPerPoint, kDotsPerPoint);
+    painter.scale(dotsPerPoint, dotsPerPoint);
     drawing.paintForm(painter, page);
     return image;
 }
@@ -83,7 +83,7 @@ std::optional<QString> commit(QSaveFile& file) {
 }  // namespace
 
 QSizeF pageSizeInPoints(const Sheet& sheet, const Form& form) {
-    return {sheet.width * kPointsPerInch, std::max(kLowestPage, std::round(heightInPoints(form)))};
+    return {sheet.width * pointsPerInch, std::max(lowestPage, std::round(heightInPoints(form)))};
 }
 
 std::optional<QString> writePdf(const PaperPages& paper, const PaintOptions& options,
@@ -94,7 +94,7 @@ std::optional<QString> writePdf(const PaperPages& paper, const PaintOptions& opt
     }
     {
         QPdfWriter writer(&out);
-        writer.setResolution(kPdfDotsPerInch);
+        writer.setResolution(pdfDotsPerInch);
         writer.setPageMargins(QMarginsF(0, 0, 0, 0));
         writer.setCreator(QStringLiteral("tarnimpressora"));
         writer.setTitle(QFileInfo(file).completeBaseName());

@@ -13,7 +13,7 @@
 
 namespace tarn::dotmatrix {
 
-inline constexpr int kPictureDotsPerInch = 120;
+inline constexpr int pictureDotsPerInch = 120;
 
 // Asked before each form of a long paper with its number from 0; false stops the writing,
 // which then fails with the text "interrompido".

@@ -14,7 +14,7 @@ class QPainter;
 
 namespace tarn::dotmatrix {
 
-inline constexpr double kPointsPerInch = 72.0;
+inline constexpr double pointsPerInch = 72.0;
 
 // A sheet with its two strips of tractor holes; lengths in inches.
 struct Sheet {
@@ -30,7 +30,7 @@ struct PaintOptions {
     bool bands = false;  // faint green bands of half an inch
     QString title{};     // written along a strip of each form, beside the holes
     bool ruler = false;  // line and column numbers over the print
-    PaperUnits rulerCell = kUnitsPerInch / 10;   // width of a column on an empty form
+    PaperUnits rulerCell = unitsPerInch / 10;    // width of a column on an empty form
     std::shared_ptr<const FormDesign> design{};  // the pre-printed form; none: blank paper
     std::shared_ptr<const QImage> picture{};     // of the design, null for none
 };

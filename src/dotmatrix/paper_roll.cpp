@@ -7,10 +7,10 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr std::size_t kSeenKept = 24;
+constexpr std::size_t seenKept = 24;
 // A note has some 4,000 bytes, so printing again begins at most a few pages above.
-constexpr qint64 kBetweenMarks = 16LL * 1024;
-constexpr qint64 kChunk = 16LL * 1024;
+constexpr qint64 betweenMarks = 16LL * 1024;
+constexpr qint64 chunkBytes = 16LL * 1024;
 
 PaperPosition topOfPaper(const Dialect& dialect) {
     return {.form = 0,
@@ -84,7 +84,7 @@ void PaperRoll::printLive(std::string_view bytes) {
         }
         form = paper_->currentForm();
         paper_->forgetFormsBefore(form);
-        if (printed_ - marks_.back().offset >= kBetweenMarks && paper_->lines().empty()) {
+        if (printed_ - marks_.back().offset >= betweenMarks && paper_->lines().empty()) {
             markHere();
         }
     }
@@ -108,7 +108,7 @@ void PaperRoll::setDialect(const Dialect& dialect) {
     while (printed_ < length_) {
         const qint64 jobEnd = next < jobs_.size() ? jobs_[next].offset : length_;
         bytes_->seek(printed_);
-        const QByteArray chunk = bytes_->read(std::min(kChunk, jobEnd - printed_));
+        const QByteArray chunk = bytes_->read(std::min(chunkBytes, jobEnd - printed_));
         if (chunk.isEmpty()) {
             break;
         }
@@ -152,7 +152,7 @@ std::shared_ptr<const FormPage> PaperRoll::page(std::size_t form) {
     }
     seen_.push_front(std::make_shared<const FormPage>(
         form >= paper_->currentForm() ? pageOf(*paper_, form) : printAgain(form)));
-    if (seen_.size() > kSeenKept) {
+    if (seen_.size() > seenKept) {
         seen_.pop_back();
     }
     return seen_.front();
@@ -175,7 +175,7 @@ FormPage PaperRoll::printAgain(std::size_t form) {
         }
         const qint64 end = next == jobs_.end() ? length_ : next->offset;
         bytes_->seek(at);
-        const QByteArray chunk = bytes_->read(std::min(kChunk, end - at));
+        const QByteArray chunk = bytes_->read(std::min(chunkBytes, end - at));
         if (chunk.isEmpty()) {
             break;
         }

@@ -14,7 +14,7 @@ struct PrintMode {
     bool wide = false;       // double width until cancelled
     bool wideLine = false;   // double width to the end of the line
     bool eliteOverridesCondensed = false;
-    std::uint8_t style = kPlain;
+    std::uint8_t style = plain;
 
     // Width of one character cell.
     std::uint16_t cellWidth() const;

@@ -7,15 +7,15 @@ namespace tarn::dotmatrix {
 namespace {
 
 std::string hexadecimal(const std::string& bytes) {
-    constexpr char kDigits[] = "0123456789ABCDEF";
+    constexpr char digits[] = "0123456789ABCDEF";
     std::string text;
     for (const char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);
         if (!text.empty()) {
             text += ' ';
         }
-        text += kDigits[byte >> 4U];
-        text += kDigits[byte & 15U];
+        text += digits[byte >> 4U];
+        text += digits[byte & 15U];
     }
     return text;
 }
@@ -44,7 +44,7 @@ const char* explanation(NoticeKind kind) {
 
 void NoticeLog::add(Notice notice) {
     ++total_;
-    if (kept_.size() < kKept) {
+    if (kept_.size() < mostKept) {
         kept_.push_back(std::move(notice));
     }
 }

@@ -33,7 +33,7 @@ struct Notice {
 // the memory.
 class NoticeLog {
 public:
-    static constexpr std::size_t kKept = 1000;
+    static constexpr std::size_t mostKept = 1000;
 
     void add(Notice notice);
     const std::vector<Notice>& kept() const { return kept_; }

@@ -14,7 +14,7 @@ struct Label {
 };
 
 // clang-format off
-constexpr Label kLabels[] = {
+constexpr Label labels[] = {
     {NatOper, "Natureza da operação"}, {CFOP, "CFOP"}, {NoteNumber, "Número"},
     {RAZAO, "Nome / razão social"}, {CGC_CPF, "CNPJ / CPF"}, {DT_EMS_NF, "Data da emissão"},
     {ENDERECO, "Endereço"}, {COMPLEMENTO, "Complemento"}, {BAIRRO, "Bairro"}, {CEP, "CEP"},
@@ -53,9 +53,9 @@ constexpr Label kLabels[] = {
 }  // namespace
 
 std::string_view labelOf(notes::Source source) {
-    const auto* label = std::find_if(std::begin(kLabels), std::end(kLabels),
+    const auto* label = std::find_if(std::begin(labels), std::end(labels),
                                      [source](const Label& l) { return l.source == source; });
-    return label == std::end(kLabels) ? std::string_view() : label->words;
+    return label == std::end(labels) ? std::string_view() : label->words;
 }
 
 }  // namespace tarn::dotmatrix

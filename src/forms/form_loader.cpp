@@ -12,7 +12,7 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr qint64 kLargestText = 1024LL * 1024;
+constexpr qint64 largestText = 1024LL * 1024;
 
 std::variant<LoadedForm, QString> withPicture(FormDesign design, const QString& file) {
     QImageReader reader(file);
@@ -62,7 +62,7 @@ std::variant<LoadedForm, QString> loadForm(const QString& form, std::optional<in
         design.name = QFileInfo(form).completeBaseName().toStdString();
         return withPicture(std::move(design), form);
     }
-    const QByteArray bytes = file.read(kLargestText);
+    const QByteArray bytes = file.read(largestText);
     if (file.error() != QFileDevice::NoError) {
         return QStringLiteral("não foi possível ler o formulário \"%1\" (%2).")
             .arg(form, file.errorString());

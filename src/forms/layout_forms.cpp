@@ -15,20 +15,20 @@ namespace {
 using notes::Field;
 using notes::Source;
 
-constexpr PaperUnits kLine = kUnitsPerInch / 6;
-constexpr PaperUnits kHeadroom = kLine / 2;
-constexpr PaperUnits kCarriage = 136 * kUnitsPerInch / 10;
-constexpr PaperUnits kEndless = 1000 * kUnitsPerInch;
-constexpr int kSheetLines = 66;
+constexpr PaperUnits lineHeight = unitsPerInch / 6;
+constexpr PaperUnits headroom = lineHeight / 2;
+constexpr PaperUnits carriage = 136 * unitsPerInch / 10;
+constexpr PaperUnits endless = 1000 * unitsPerInch;
+constexpr int sheetLines = 66;
 // Of a text without a width that has the rest of its line.
-constexpr int kOpenRoom = 60;
+constexpr int openRoom = 60;
 
 int roomOf(const Field& field) {
     if (field.source == Source::LegalText || field.source == Source::Observation) {
         return field.length;
     }
     const int room = notes::check::roomOf(field);
-    return room > 0 ? room : kOpenRoom;
+    return room > 0 ? room : openRoom;
 }
 
 // Sends the form's own bytes and line ends to a printer, as a note does, and notes
@@ -36,11 +36,10 @@ int roomOf(const Field& field) {
 class Walk {
 public:
     explicit Walk(const FormPitch& pitch)
-        : paper_(kEndless),
+        : paper_(endless),
           printer_(
               paper_,
-              Dialect{.formHeight = kEndless, .elite = pitch.elite, .condensed = pitch.condensed}) {
-    }
+              Dialect{.formHeight = endless, .elite = pitch.elite, .condensed = pitch.condensed}) {}
 
     void run(const notes::Form& form, int itemLines) {
         itemLines_ = itemLines;
@@ -75,7 +74,7 @@ private:
         int column = 2;
         int end = 2;  // column behind the last field
         PaperUnits cell = 0;
-        PaperUnits height = kLine;  // of its boxes
+        PaperUnits height = lineHeight;  // of its boxes
         bool labels = true;
     };
 
@@ -95,7 +94,7 @@ private:
 
     void box(const Call& call, int column, int room, std::string_view label) {
         const PaperUnits x = call.x + (column - call.column) * call.cell;
-        const PaperUnits width = std::min(room * call.cell, kCarriage - x);
+        const PaperUnits width = std::min(room * call.cell, carriage - x);
         if (width > 0) {
             boxes_.push_back({x, paper_.y(), width, call.height,
                               std::string(call.labels ? label : std::string_view())});
@@ -119,10 +118,10 @@ private:
                 call.x = printer_.state().x;
                 call.column = field.column + room;
             } else if (field.width > 0) {
-                constexpr std::string_view kEmptyBoxes[] = {"Marca", "Número"};
+                constexpr std::string_view emptyBoxes[] = {"Marca", "Número"};
                 const bool known = volumes && field.label.empty() && blanks < 2;
                 box(call, field.column, room,
-                    known      ? kEmptyBoxes[blanks]
+                    known      ? emptyBoxes[blanks]
                     : !volumes ? std::string_view()
                                : std::string_view("Espécie"));
                 blanks += known ? 1 : 0;
@@ -135,7 +134,7 @@ private:
         }
     }
 
-    void call(std::span<const Field> list, int lineEnds, PaperUnits height = kLine,
+    void call(std::span<const Field> list, int lineEnds, PaperUnits height = lineHeight,
               bool labels = true) {
         Call one = begin();
         one.height = height;
@@ -159,7 +158,7 @@ private:
         for (int row = 0; row < rows; ++row) {
             if (block.callPerParcel) {
                 for (int place = 0; place < block.perRow; ++place) {
-                    call(block.places[static_cast<std::size_t>(place)].fields(), 0, kLine,
+                    call(block.places[static_cast<std::size_t>(place)].fields(), 0, lineHeight,
                          row == 0);
                 }
             } else {
@@ -176,7 +175,7 @@ private:
 
     void walk(const notes::Items& block) {
         if (itemLines_ > 0) {
-            const PaperUnits height = itemLines_ * kLine;
+            const PaperUnits height = itemLines_ * lineHeight;
             if (block.code.count > 0) {
                 call(block.code.fields(), 0, height);
             }
@@ -212,7 +211,7 @@ private:
 
     void walk(const notes::Band& band) {
         Call one = begin();
-        one.height = band.most * kLine;
+        one.height = band.most * lineHeight;
         box(one, band.column, band.piece, labelOf(band.source));
         finish(one, band.lines);
     }
@@ -227,9 +226,9 @@ private:
         std::set<PaperUnits> tight;
         for (const FormBox& one : boxes_) {
             const bool taken =
-                one.y < kHeadroom ||
+                one.y < headroom ||
                 std::any_of(boxes_.begin(), boxes_.end(), [&one](const FormBox& other) {
-                    return other.y < one.y && other.y + other.height > one.y - kHeadroom &&
+                    return other.y < one.y && other.y + other.height > one.y - headroom &&
                            other.x < one.x + one.width && one.x < other.x + other.width;
                 });
             if (taken) {
@@ -238,8 +237,8 @@ private:
         }
         for (FormBox& box : boxes_) {
             if (tight.count(box.y) == 0) {
-                box.y -= kHeadroom;
-                box.height += kHeadroom;
+                box.y -= headroom;
+                box.height += headroom;
             }
         }
     }
@@ -284,14 +283,14 @@ FormDesign draw(const Named& named, std::optional<int> itemLines) {
     design.name = named.name;
     // A form that selects no pitch and is wider than the carriage is for printers that
     // are set to condensed print at their panel.
-    if (walked(*named.form, design.pitch, 1).reach() > kCarriage) {
+    if (walked(*named.form, design.pitch, 1).reach() > carriage) {
         design.pitch.condensed = true;
     }
-    const auto withOne = walked(*named.form, design.pitch, 1).height() / kLine;
+    const auto withOne = walked(*named.form, design.pitch, 1).height() / lineHeight;
     const int lines =
-        itemLines ? *itemLines : std::max(1, kSheetLines - static_cast<int>(withOne) + 1);
+        itemLines ? *itemLines : std::max(1, sheetLines - static_cast<int>(withOne) + 1);
     Walk walk = walked(*named.form, design.pitch, lines);
-    design.height = std::max<PaperUnits>(walk.height(), kUnitsPerInch);
+    design.height = std::max<PaperUnits>(walk.height(), unitsPerInch);
     design.boxes = std::move(walk.boxes());
     return design;
 }

@@ -7,19 +7,19 @@
 
 namespace tarn {
 
-bool requestAnswer(Environment& environment, const std::string& query, XmlDocument& documento,
-                   std::string_view mensagemFalha) {
-    return CarregaXML(environment, environment.baseUrl + query, documento, false, "", 0, "",
-                      std::string(mensagemFalha));
+bool requestAnswer(Environment& environment, const std::string& query, XmlDocument& document,
+                   std::string_view failureMessage) {
+    return CarregaXML(environment, environment.baseUrl + query, document, false, "", 0, "",
+                      std::string(failureMessage));
 }
 
-bool answerAccepted(Environment& environment, const XmlDocument& documento,
+bool answerAccepted(Environment& environment, const XmlDocument& document,
                     const std::string& emptyMessage) {
-    if (documento.empty()) {
+    if (document.empty()) {
         warn(environment, emptyMessage);
         return false;
     }
-    const std::string status = statusOf(documento);
+    const std::string status = statusOf(document);
     if (status != "OK") {
         warn(environment, status);
         return false;
@@ -27,12 +27,12 @@ bool answerAccepted(Environment& environment, const XmlDocument& documento,
     return true;
 }
 
-void warn(Environment& environment, const std::string& texto) {
-    environment.boxes.show({.text = texto, .icon = BoxIcon::Exclamation});
+void warn(Environment& environment, const std::string& text) {
+    environment.boxes.show({.text = text, .icon = BoxIcon::Exclamation});
 }
 
-void warn(Environment& environment, const std::string& texto, const std::string& title) {
-    environment.boxes.show({.text = texto, .icon = BoxIcon::Exclamation, .title = title});
+void warn(Environment& environment, const std::string& text, const std::string& title) {
+    environment.boxes.show({.text = text, .icon = BoxIcon::Exclamation, .title = title});
 }
 
 }  // namespace tarn

@@ -11,16 +11,16 @@ namespace tarn {
 struct Environment;
 
 // CarregaXML of BaseUrl and `query`, without a copy.
-bool requestAnswer(Environment& environment, const std::string& query, XmlDocument& documento,
-                   std::string_view mensagemFalha);
+bool requestAnswer(Environment& environment, const std::string& query, XmlDocument& document,
+                   std::string_view failureMessage);
 
 // False, with the user told, when the answer is empty (`emptyMessage`) or its status
 // isn't exactly "OK" (the server's own text). VariavelObjeto when it has no status.
-bool answerAccepted(Environment& environment, const XmlDocument& documento,
+bool answerAccepted(Environment& environment, const XmlDocument& document,
                     const std::string& emptyMessage);
 
 // A box with the exclamation icon, by default without a title of its own.
-void warn(Environment& environment, const std::string& texto);
-void warn(Environment& environment, const std::string& texto, const std::string& title);
+void warn(Environment& environment, const std::string& text);
+void warn(Environment& environment, const std::string& text, const std::string& title);
 
 }  // namespace tarn

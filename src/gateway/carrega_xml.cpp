@@ -14,8 +14,8 @@ namespace tarn {
 namespace {
 
 // No prefix is ever set: the copy lands in the current directory.
-std::string copyName(const std::string& nomeArquivo) {
-    return nomeArquivo + ".XML";
+std::string copyName(const std::string& fileName) {
+    return fileName + ".XML";
 }
 
 void erase(const std::string& file) {
@@ -23,18 +23,18 @@ void erase(const std::string& file) {
     std::filesystem::remove(file, ignored);
 }
 
-bool load(Environment& environment, const std::string& url, XmlDocument& documento,
-          const std::string& copy, const std::string& mensagemFalha) {
+bool load(Environment& environment, const std::string& url, XmlDocument& document,
+          const std::string& copy, const std::string& failureMessage) {
     const HttpAnswer answer = environment.http.get(url);
-    if (answer.loaded && documento.loadXML(answer.body)) {
-        if (!copy.empty() && !documento.save(copy)) {
+    if (answer.loaded && document.loadXML(answer.body)) {
+        if (!copy.empty() && !document.save(copy)) {
             throw std::runtime_error("Não foi possível gravar o arquivo " + copy + ".");
         }
         return true;
     }
-    documento = XmlDocument();
-    if (!mensagemFalha.empty()) {
-        environment.boxes.show({.text = mensagemFalha,
+    document = XmlDocument();
+    if (!failureMessage.empty()) {
+        environment.boxes.show({.text = failureMessage,
                                 .icon = BoxIcon::Critical,
                                 .title = std::string(failure::transportTitle)});
     }
@@ -46,13 +46,13 @@ bool load(Environment& environment, const std::string& url, XmlDocument& documen
 
 }  // namespace
 
-bool CarregaXML(Environment& environment, const std::string& url, XmlDocument& documento,
-                bool /*assincrono*/, const std::string& nomeArquivo, int gravarArquivo,
-                const std::string& /*reservado*/, const std::string& mensagemFalha) {
-    const bool wantsCopy = !nomeArquivo.empty() && gravarArquivo > 0;
+bool CarregaXML(Environment& environment, const std::string& url, XmlDocument& document,
+                bool /*assincrono*/, const std::string& fileName, int writesFile,
+                const std::string& /*reservado*/, const std::string& failureMessage) {
+    const bool wantsCopy = !fileName.empty() && writesFile > 0;
     try {
-        return load(environment, url, documento, wantsCopy ? copyName(nomeArquivo) : "",
-                    mensagemFalha);
+        return load(environment, url, document, wantsCopy ? copyName(fileName) : "",
+                    failureMessage);
     } catch (const std::exception& error) {
         environment.boxes.show({.text = error.what(), .icon = BoxIcon::Critical, .title = "Aviso"});
         return false;

@@ -9,13 +9,13 @@ namespace tarn {
 
 struct Environment;
 
-// Fetches `url` into `documento`; true when it was loaded. An unreachable server,
+// Fetches `url` into `document`; true when it was loaded. An unreachable server,
 // an HTTP error and a body that isn't well-formed XML are one failure: unless
-// `mensagemFalha` is empty it shows it in a critical box. `nomeArquivo` not empty
-// and `gravarArquivo` above 0 keep a copy of the answer in `nomeArquivo`.XML, which
-// a failed load deletes. `assincrono` and `reservado` are not used.
-bool CarregaXML(Environment& environment, const std::string& url, XmlDocument& documento,
-                bool assincrono, const std::string& nomeArquivo, int gravarArquivo,
-                const std::string& reservado, const std::string& mensagemFalha);
+// `failureMessage` is empty it shows it in a critical box. `fileName` not empty
+// and `writesFile` above 0 keep a copy of the answer in `fileName`.XML, which
+// a failed load deletes. `asynchronous` and `reserved` are not used.
+bool CarregaXML(Environment& environment, const std::string& url, XmlDocument& document,
+                bool asynchronous, const std::string& fileName, int writesFile,
+                const std::string& reserved, const std::string& failureMessage);
 
 }  // namespace tarn

@@ -10,26 +10,26 @@ namespace {
 
 struct Parameter {
     std::string_view key;
-    std::string valor;
+    std::string value;
 
-    Parameter(std::string_view aKey, std::string_view texto) : key(aKey), valor(texto) {}
+    Parameter(std::string_view aKey, std::string_view text) : key(aKey), value(text) {}
     Parameter(std::string_view aKey, std::int32_t number)
-        : key(aKey), valor(std::to_string(number)) {}
+        : key(aKey), value(std::to_string(number)) {}
 };
 
 std::string query(std::string_view commands, std::initializer_list<Parameter> parameters) {
-    std::string texto(commands);
+    std::string text(commands);
     for (const Parameter& pair : parameters) {
-        texto.append(pair.key).append(pair.valor);
+        text.append(pair.key).append(pair.value);
     }
-    return texto;
+    return text;
 }
 
-std::string trimmed(std::string_view texto) {
-    return std::string(trimBlanks(texto));
+std::string trimmed(std::string_view text) {
+    return std::string(trimBlanks(text));
 }
-std::string inUpperCase(std::string_view texto) {
-    return upperCase(trimBlanks(texto));
+std::string inUpperCase(std::string_view text) {
+    return upperCase(trimBlanks(text));
 }
 std::string emptyIfZero(std::int32_t data) {
     return data == 0 ? "" : std::to_string(data);
@@ -41,8 +41,8 @@ std::string keyIfChosen(std::string_view key, const ChosenItem& item) {
     return item.position > 0 ? std::string(key) + std::to_string(item.data) : "";
 }
 // "007" goes as 7, "1.000" as 1000.
-std::string typedNumber(std::string_view texto) {
-    return numberText(readComma(texto));
+std::string typedNumber(std::string_view text) {
+    return numberText(readComma(text));
 }
 
 std::string_view kindFilter(std::int32_t kind) {
@@ -58,8 +58,8 @@ std::string_view kindFilter(std::int32_t kind) {
 
 }  // namespace
 
-std::string VERSAO_TARN_EMISSAO(std::string_view versao) {
-    return query("comando=VERSAO_TARN_EMISSAO&Versao=", {{"", versao}});
+std::string VERSAO_TARN_EMISSAO(std::string_view version) {
+    return query("comando=VERSAO_TARN_EMISSAO&Versao=", {{"", version}});
 }
 
 std::string LOGIN(std::string_view company, std::string_view user, std::string_view password) {
@@ -67,10 +67,10 @@ std::string LOGIN(std::string_view company, std::string_view user, std::string_v
                  {{"&EMPRESA=", company}, {"&USUARIO=", user}, {"&SENHA=", password}});
 }
 
-std::string verifica_direito_acesso(const Sessao& session, std::string_view transacao) {
+std::string verifica_direito_acesso(const Sessao& session, std::string_view transaction) {
     return query("Comando=verifica_direito_acesso", {{"&nId_Pes_Usu=", session.UserCode},
                                                      {"&ServerName=", session.SERVERNAME},
-                                                     {"&sTransacao=", transacao}});
+                                                     {"&sTransacao=", transaction}});
 }
 
 std::string sel_dados_empresa(const Sessao& session) {
@@ -83,28 +83,28 @@ std::string sel_ordem_fatu(const Sessao& session) {
                  {{"", session.ID_ETB_TARN}, {"&ServerName=", session.SERVERNAME}});
 }
 
-std::string sp_can_oft(const Sessao& session, std::string_view ordem, std::string_view loadOrder) {
+std::string sp_can_oft(const Sessao& session, std::string_view order, std::string_view loadOrder) {
     return query("comando=sp_can_oft&id_etb_tarn=", {{"", session.ID_ETB_TARN},
-                                                     {"&id_ord_fat=", ordem},
+                                                     {"&id_ord_fat=", order},
                                                      {"&id_ord_crg=", loadOrder},
                                                      {"&ServerName=", session.SERVERNAME}});
 }
 
-std::string Seleciona_Obs_Vnd_X_Ord(const Sessao& session, std::string_view ordem) {
+std::string Seleciona_Obs_Vnd_X_Ord(const Sessao& session, std::string_view order) {
     return query("comando=Seleciona_Obs_Vnd_X_Ord", {{"&Id_Etb_Tarn=", session.ID_ETB_TARN},
-                                                     {"&Id_Ord_Fat=", ordem},
+                                                     {"&Id_Ord_Fat=", order},
                                                      {"&ServerName=", session.SERVERNAME}});
 }
 
-std::string Seleciona_Obs_Ord_X_Est(const Sessao& session, std::string_view ordem) {
+std::string Seleciona_Obs_Ord_X_Est(const Sessao& session, std::string_view order) {
     return query("comando=Seleciona_Obs_Ord_X_Est", {{"&Id_Etb_Tarn=", session.ID_ETB_TARN},
-                                                     {"&Id_Ord_Fat=", ordem},
+                                                     {"&Id_Ord_Fat=", order},
                                                      {"&ServerName=", session.SERVERNAME}});
 }
 
-std::string SP_GERA_NF(const Sessao& session, std::string_view ordem) {
+std::string SP_GERA_NF(const Sessao& session, std::string_view order) {
     return query("COMANDO=SP_GERA_NF&ID_ETB_TARN=", {{"", session.ID_ETB_TARN},
-                                                     {"&ID_ORD_FAT=", ordem},
+                                                     {"&ID_ORD_FAT=", order},
                                                      {"&ID_PES=", session.UserCode},
                                                      {"&ServerName=", session.SERVERNAME}});
 }
@@ -119,7 +119,7 @@ std::string sel_gera_nf(const Sessao& session, std::string_view note, std::strin
 std::string MANUTENCAO_OFT(const Sessao& session, const OrderData& data) {
     const std::string observation = replaceAll(replaceAll(data.observation, "%", "||"), "&", "|");
     return query("COMANDO=MANUTENCAO_OFT&ID_ETB_TARN=", {{"", session.ID_ETB_TARN},
-                                                         {"&ID_ORD_FAT=", data.ordem},
+                                                         {"&ID_ORD_FAT=", data.order},
                                                          {"&ServerName=", session.SERVERNAME},
                                                          {"&DC_OBS=", observation},
                                                          {"&QT_ESP=", data.quantity},
@@ -127,10 +127,10 @@ std::string MANUTENCAO_OFT(const Sessao& session, const OrderData& data) {
                                                          {"&PESO_LIQ=", data.netWeight}});
 }
 
-std::string sel_impr_ordem_fatu(const Sessao& session, std::string_view ordem) {
+std::string sel_impr_ordem_fatu(const Sessao& session, std::string_view order) {
     return query(
         "comando=sel_impr_ordem_fatu&ID_ETB_TARN=",
-        {{"", session.ID_ETB_TARN}, {"&ID_ORD_FAT=", ordem}, {"&ServerName=", session.SERVERNAME}});
+        {{"", session.ID_ETB_TARN}, {"&ID_ORD_FAT=", order}, {"&ServerName=", session.SERVERNAME}});
 }
 
 std::string SEL_NF(const Sessao& session, std::string_view note, std::string_view series) {
@@ -215,7 +215,7 @@ std::string sel_carteira_cob(const Sessao& session, std::int32_t portfolio) {
 std::string altera_docto_cob(const Sessao& session, const Slip& slip) {
     return query("comando=altera_docto_cob", {{"&ID_ETB=", slip.branch},
                                               {"&ID_TIP_DOC=", slip.documentKind},
-                                              {"&NR_DOC=", slip.documento},
+                                              {"&NR_DOC=", slip.document},
                                               {"&NR_BOL_BANC=", slip.bankNumber},
                                               {"&ServerName=", session.SERVERNAME}});
 }
@@ -233,7 +233,7 @@ std::string insere_car_cob(const Sessao& session, const Slip& slip) {
     return query("comando=insere_car_cob", {{"&ID_EMP_TARN=", session.NCOMPANYCODE},
                                             {"&ID_ETB=", slip.branch},
                                             {"&ID_TIP_DOC=", slip.documentKind},
-                                            {"&NR_DOC=", slip.documento},
+                                            {"&NR_DOC=", slip.document},
                                             {"&ID_CRT_COB=", slip.portfolio},
                                             {"&NR_BOL_BANC=", slip.bankNumber},
                                             {"&ID_PES_USU=", session.UserCode},
@@ -280,7 +280,7 @@ std::string adiciona_controle_cheque_emitido(const Sessao& session, const Cheque
                   {"&NR_CCOR=", trimmed(cheque.account)},
                   {"&NR_CHE=", trimmed(cheque.number)},
                   {"&NR_SER=", inUpperCase(cheque.series)},
-                  {"&VL_CH=", trimmed(cheque.valor)},
+                  {"&VL_CH=", trimmed(cheque.value)},
                   {"&DC_FAV=", inUpperCase(cheque.payee)},
                   {"&DT_DEP=", trimmed(cheque.depositDate)},
                   {"&DC_OBS=", inUpperCase(cheque.observation)},

@@ -13,27 +13,27 @@
 namespace tarn::commands {
 
 // Start
-std::string VERSAO_TARN_EMISSAO(std::string_view versao);
+std::string VERSAO_TARN_EMISSAO(std::string_view version);
 std::string LOGIN(std::string_view company, std::string_view user, std::string_view password);
-std::string verifica_direito_acesso(const Sessao& session, std::string_view transacao);
+std::string verifica_direito_acesso(const Sessao& session, std::string_view transaction);
 std::string sel_dados_empresa(const Sessao& session);
 
 // Billing orders and notes
 std::string sel_ordem_fatu(const Sessao& session);
-std::string sp_can_oft(const Sessao& session, std::string_view ordem, std::string_view loadOrder);
-std::string Seleciona_Obs_Vnd_X_Ord(const Sessao& session, std::string_view ordem);
-std::string Seleciona_Obs_Ord_X_Est(const Sessao& session, std::string_view ordem);
-std::string SP_GERA_NF(const Sessao& session, std::string_view ordem);
+std::string sp_can_oft(const Sessao& session, std::string_view order, std::string_view loadOrder);
+std::string Seleciona_Obs_Vnd_X_Ord(const Sessao& session, std::string_view order);
+std::string Seleciona_Obs_Ord_X_Est(const Sessao& session, std::string_view order);
+std::string SP_GERA_NF(const Sessao& session, std::string_view order);
 std::string sel_gera_nf(const Sessao& session, std::string_view note, std::string_view series);
 struct OrderData {
-    std::string_view ordem = {};
+    std::string_view order = {};
     std::string_view observation = {};  // "%" goes as "||", then "&" as "|"
     std::string_view quantity = {};
     std::string_view grossWeight = {};
     std::string_view netWeight = {};
 };
 std::string MANUTENCAO_OFT(const Sessao& session, const OrderData& data);
-std::string sel_impr_ordem_fatu(const Sessao& session, std::string_view ordem);
+std::string sel_impr_ordem_fatu(const Sessao& session, std::string_view order);
 
 // Reprint and cancellation
 std::string SEL_NF(const Sessao& session, std::string_view note, std::string_view series);
@@ -68,7 +68,7 @@ std::string sel_carteira_cob(const Sessao& session, std::int32_t portfolio);
 struct Slip {
     std::string_view branch = {};  // ID_ETB of the row
     std::string_view documentKind = {};
-    std::string_view documento = {};
+    std::string_view document = {};
     std::string_view controlNumber = {};
     std::string_view portfolio = {};  // ID_CRT_COB of the portfolio's record
     std::string_view bankNumber = {};
@@ -88,7 +88,7 @@ struct Cheque {
     std::string_view account = {};
     std::string_view number = {};
     std::string_view series = {};
-    std::string_view valor = {};
+    std::string_view value = {};
     std::string_view payee = {};
     std::string_view depositDate = {};
     std::string_view observation = {};

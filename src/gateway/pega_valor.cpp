@@ -9,10 +9,10 @@ namespace {
 
 // The presence test ignores the case of letters and the prefix; the lookup that
 // follows ignores neither. Null: absent.
-XmlAttribute find(const XmlNode& no, std::size_t indice, std::string_view nome,
+XmlAttribute find(const XmlNode& no, std::size_t index, std::string_view name,
                   std::string_view queryName) {
-    const XmlAttributes attributes = no.child(indice).attributes();
-    const XmlAttribute match = attributes.firstWithBaseName(nome);
+    const XmlAttributes attributes = no.child(index).attributes();
+    const XmlAttribute match = attributes.firstWithBaseName(name);
     if (!match || match.name() == queryName) {
         return match;
     }
@@ -23,35 +23,35 @@ XmlAttribute find(const XmlNode& no, std::size_t indice, std::string_view nome,
     return queried;
 }
 
-bool isNumericReading(const Amount& padrao) {
-    const double* number = std::get_if<double>(&padrao);
+bool isNumericReading(const Amount& fallback) {
+    const double* number = std::get_if<double>(&fallback);
     return number != nullptr && *number == 0.0;
 }
 
 }  // namespace
 
-Amount PegaValor(const XmlNode& no, std::size_t indice, std::string_view nome,
-                 const Amount& padrao) {
-    if (isNumericReading(padrao)) {
-        const XmlAttribute attribute = find(no, indice, nome, asciiUpper(nome));
-        return attribute ? Amount(pointToComma(attribute.text())) : padrao;
+Amount PegaValor(const XmlNode& no, std::size_t index, std::string_view name,
+                 const Amount& fallback) {
+    if (isNumericReading(fallback)) {
+        const XmlAttribute attribute = find(no, index, name, asciiUpper(name));
+        return attribute ? Amount(pointToComma(attribute.text())) : fallback;
     }
-    const XmlAttribute attribute = find(no, indice, nome, nome);
-    return attribute ? Amount(std::string(attribute.text())) : padrao;
+    const XmlAttribute attribute = find(no, index, name, name);
+    return attribute ? Amount(std::string(attribute.text())) : fallback;
 }
 
-std::string textAttribute(const XmlNode& no, std::size_t indice, std::string_view nome) {
-    const XmlAttribute attribute = find(no, indice, nome, nome);
+std::string textAttribute(const XmlNode& no, std::size_t index, std::string_view name) {
+    const XmlAttribute attribute = find(no, index, name, name);
     return attribute ? std::string(attribute.text()) : std::string();
 }
 
-std::string numberAttribute(const XmlNode& no, std::size_t indice, std::string_view nome) {
-    const XmlAttribute attribute = find(no, indice, nome, asciiUpper(nome));
+std::string numberAttribute(const XmlNode& no, std::size_t index, std::string_view name) {
+    const XmlAttribute attribute = find(no, index, name, asciiUpper(name));
     return attribute ? pointToComma(attribute.text()) : "0";
 }
 
-std::string statusOf(const XmlDocument& documento) {
-    return std::string(documento.child(1).attributes().item(1).text());
+std::string statusOf(const XmlDocument& document) {
+    return std::string(document.child(1).attributes().item(1).text());
 }
 
 }  // namespace tarn

@@ -17,17 +17,17 @@ namespace tarn {
 // What a read gives back: the padrao of whichever type was passed, or a text.
 using Amount = std::variant<std::string, double>;
 
-// `indice` counts the element children of `no` from 0. A padrao equal to the
+// `index` counts the element children of `no` from 0. A padrao equal to the
 // number 0 makes the read numeric: looked up by the upper-cased name, "." turned
 // into ",". Any other padrao makes it a text read, looked up by the name exactly
 // as given. Absent in any case of letters: the padrao as passed. Present in another
 // case than the lookup's, or no such row: ErroExecucao VariavelObjeto.
-Amount PegaValor(const XmlNode& no, std::size_t indice, std::string_view nome,
-                 const Amount& padrao);
+Amount PegaValor(const XmlNode& no, std::size_t index, std::string_view name,
+                 const Amount& fallback);
 
 // The two readings in use, as text: absent gives "" and "0".
-std::string textAttribute(const XmlNode& no, std::size_t indice, std::string_view nome);
-std::string numberAttribute(const XmlNode& no, std::size_t indice, std::string_view nome);
+std::string textAttribute(const XmlNode& no, std::size_t index, std::string_view name);
+std::string numberAttribute(const XmlNode& no, std::size_t index, std::string_view name);
 
 // The names of a row's fields, found without regard to the case of letters. Made
 // once for any number of readers.
@@ -37,7 +37,7 @@ public:
     explicit RowNames(std::span<const std::string_view> names);
 
     struct Name {
-        std::string_view nome;  // as PegaValor takes it
+        std::string_view name;  // as PegaValor takes it
         std::string upperCase;  // as a numeric read looks it up
     };
     std::size_t count() const { return names_.size(); }
@@ -45,9 +45,9 @@ public:
     // Which one is called so in any case of letters.
     struct Match {
         int field = -1;      // -1: none
-        bool exact = false;  // spelled as `nome`
+        bool exact = false;  // spelled as `name`
     };
-    Match find(std::string_view nome) const;
+    Match find(std::string_view name) const;
 
 private:
     std::vector<Name> names_;
@@ -64,13 +64,13 @@ public:
 
     // Goes to a row. VariavelObjeto for a null one. What was read of the row before
     // is no longer valid.
-    void read(const XmlNode& linha);
-    void read(const XmlNode& no, std::size_t indice) { read(no.child(indice)); }
+    void read(const XmlNode& line);
+    void read(const XmlNode& no, std::size_t index) { read(no.child(index)); }
 
     // `field` is the place of the name in `names`. Results live until the next row.
     bool present(std::size_t field) const { return matches_[field].turn == turn_; }
-    std::string_view texto(std::size_t field) const;
-    std::string_view number(std::size_t field, std::string_view padrao = "0");
+    std::string_view text(std::size_t field) const;
+    std::string_view number(std::size_t field, std::string_view fallback = "0");
 
 private:
     // First attribute of that name in any case; of this row when `turn` is the reader's.
@@ -82,27 +82,27 @@ private:
     };
     // A name as the document interns it, and the field it stands for (-1: none).
     struct KnownName {
-        const void* nome = nullptr;
+        const void* name = nullptr;
         std::int16_t field = -1;
         bool exact = false;
     };
 
     void start(const void* element);
-    std::size_t placeOf(const void* nome, std::size_t since);
-    KnownName recognise(const void* nome) const;
-    std::string_view query(const MatchedField& match, std::string_view nome) const;
+    std::size_t placeOf(const void* name, std::size_t since);
+    KnownName recognise(const void* name) const;
+    std::string_view query(const MatchedField& match, std::string_view name) const;
 
     std::shared_ptr<const RowNames> names_;
     std::vector<MatchedField> matches_;
     std::vector<KnownName> sequence_;  // names of the row before, in its order
-    std::uint64_t documento_ = 0;
+    std::uint64_t document_ = 0;
     bool withoutPrefix_ = false;  // the document's names hold prefixes that it never declares
     std::uint64_t turn_ = 0;      // rows read
-    XmlNode linha_;
+    XmlNode line_;
 };
 
 // Text of the second attribute of the document's second child; ErroExecucao
 // VariavelObjeto when there is none (no declaration, one attribute only).
-std::string statusOf(const XmlDocument& documento);
+std::string statusOf(const XmlDocument& document);
 
 }  // namespace tarn

@@ -51,18 +51,18 @@ std::string MontaURL(std::span<const std::int32_t> data, int position) {
     if (position > 0) {
         return std::to_string(data[static_cast<std::size_t>(position)]);
     }
-    std::string texto;
+    std::string text;
     for (std::size_t i = 1; i < data.size(); ++i) {
-        texto.append(texto.empty() ? "" : ", ").append(std::to_string(data[i]));
+        text.append(text.empty() ? "" : ", ").append(std::to_string(data[i]));
     }
-    return texto;
+    return text;
 }
 
 MissingDate checkDates(Environment& environment, const commands::LabelFilter& filter) {
     const auto sales = {filter.product, filter.amountFrom, filter.amountTo, filter.quantityFrom,
                         filter.quantityTo};
     const bool needs = std::any_of(sales.begin(), sales.end(),
-                                   [](std::string_view texto) { return !texto.empty(); });
+                                   [](std::string_view text) { return !text.empty(); });
     if (!needs || (!filter.saleFrom.empty() && !filter.saleTo.empty())) {
         return MissingDate::None;
     }

@@ -25,11 +25,11 @@ struct Origin {
     double y = 0;
 };
 
-void writeLine(Environment& environment, const Line& linha, const Label& label,
-               const Origin& origin, double tamanho) {
-    const std::string_view texto = label.*linha.field;
-    write(environment, linha.cut ? leftOf(texto, cutAt) : texto, origin.x + linha.x,
-          origin.y + linha.y, tamanho);
+void writeLine(Environment& environment, const Line& line, const Label& label, const Origin& origin,
+               double size) {
+    const std::string_view text = label.*line.field;
+    write(environment, line.cut ? leftOf(text, cutAt) : text, origin.x + line.x, origin.y + line.y,
+          size);
 }
 
 // PIMACO 6280
@@ -47,29 +47,29 @@ constexpr std::array<Line, 8> pimacoLines{{{&Label::NOME, 0, 0},
 // Where the next label goes on the sheet.
 struct Place {
     static constexpr int columns = 3;
-    static constexpr int linhas = 10;
+    static constexpr int lines = 10;
     static constexpr double left = 1;
     static constexpr double top = 1.7;
     static constexpr double columnStep = 7;
 
     Origin origin{left, top};
-    int coluna = 0;  // labels that the row holds
-    int linha = 1;
+    int column = 0;  // labels that the row holds
+    int line = 1;
 
     // False: the sheet is full.
     bool advance() {
-        if (++coluna < columns) {
+        if (++column < columns) {
             origin.x += columnStep;
             return true;
         }
-        if (linha == linhas) {
+        if (line == lines) {
             return false;
         }
         // The stationery's rows are 2.54 cm apart: now and then a shorter step.
-        origin.y += linha == 1 || linha == 5 || linha == 8 ? 2.5 : 2.6;
+        origin.y += line == 1 || line == 5 || line == 8 ? 2.5 : 2.6;
         origin.x = left;
-        coluna = 0;
-        ++linha;
+        column = 0;
+        ++line;
         return true;
     }
 };
@@ -93,8 +93,8 @@ void printPimaco6280(Environment& environment, Labels& labels, const Progress& p
     Place place;
     for (std::size_t i = 0; i < labels.count(); ++i) {
         const Label label = labels.read(i);
-        for (const Line& linha : pimacoLines) {
-            writeLine(environment, linha, label, place.origin, pimacoSize);
+        for (const Line& line : pimacoLines) {
+            writeLine(environment, line, label, place.origin, pimacoSize);
         }
         if (!place.advance()) {
             showFailure(environment, environment.printer.NewPage());
@@ -112,8 +112,8 @@ void printA5(Environment& environment, Labels& labels, const Progress& progress)
         if (lengthOf(label.NOME) > longName) {
             writeLine(environment, a5Name, label, {}, a5Size);
         }
-        for (const Line& linha : a5Lines) {
-            writeLine(environment, linha, label, {}, a5Size);
+        for (const Line& line : a5Lines) {
+            writeLine(environment, line, label, {}, a5Size);
         }
         report(progress, i + 1, labels);
     }

@@ -28,7 +28,7 @@ constexpr Block recipientBlock{"DESTINATÁRIO", 1, 1.5, 2, 12};
 constexpr Block senderBlock{"REMETENTE", 16, 16.5, 17, 13};
 
 struct Address {
-    std::string_view nome;
+    std::string_view name;
     std::string_view street;
     std::string_view number;
     std::string_view complement;
@@ -39,7 +39,7 @@ struct Address {
 };
 
 Address addressOf(const Label& label) {
-    return {.nome = label.NOME,
+    return {.name = label.NOME,
             .street = label.SOMENTE_ENDERECO,
             .number = blankIfZero(label.NUMERO),
             .complement = leftOf(label.COMPLEMENTO, cutAt),
@@ -50,7 +50,7 @@ Address addressOf(const Label& label) {
 }
 
 Address addressOf(const Sender& sender) {
-    return {.nome = sender.NOME,
+    return {.name = sender.NOME,
             .street = sender.ENDERECO,
             .number = sender.NUMERO,
             .complement = sender.DESCRICAO,
@@ -65,15 +65,15 @@ class Column {
 public:
     Column(Environment& environment, double y) : environment_(environment), y_(y) {}
 
-    void texto(std::string_view texto, double x) { write(environment_, texto, x, y_, textSize); }
+    void text(std::string_view text, double x) { write(environment_, text, x, y_, textSize); }
     void goDown() { y_ += step; }
     // A text too long for the line goes on in the next one, whatever is left of it.
     void longText(std::string_view whole) {
         const std::string_view first = leftOf(whole, fullLine);
-        texto(first, left);
+        text(first, left);
         if (first.size() < whole.size()) {
             goDown();
-            texto(whole.substr(first.size()), left);
+            text(whole.substr(first.size()), left);
         }
         goDown();
     }
@@ -87,21 +87,21 @@ private:
 Column printBlock(Environment& environment, const Block& block, const Address& address) {
     write(environment, block.title, left, block.titleY, titleSize);
     write(environment, "=====================", left, block.strokeY, strokeSize);
-    Column coluna(environment, block.textY);
-    coluna.longText(address.nome);
-    coluna.longText(address.street);
-    coluna.texto("Nº ", left);
-    coluna.texto(address.number, 2);
-    coluna.texto(address.complement, block.right);
-    coluna.goDown();
-    coluna.texto(address.district, left);
-    coluna.goDown();
-    coluna.texto(address.town, left);
-    coluna.texto(address.uf, block.right);
-    coluna.goDown();
-    coluna.texto("CEP: ", left);
-    coluna.texto(address.cep, 3);
-    return coluna;
+    Column column(environment, block.textY);
+    column.longText(address.name);
+    column.longText(address.street);
+    column.text("Nº ", left);
+    column.text(address.number, 2);
+    column.text(address.complement, block.right);
+    column.goDown();
+    column.text(address.district, left);
+    column.goDown();
+    column.text(address.town, left);
+    column.text(address.uf, block.right);
+    column.goDown();
+    column.text("CEP: ", left);
+    column.text(address.cep, 3);
+    return column;
 }
 
 }  // namespace
@@ -110,9 +110,9 @@ void printA4WithSender(Environment& environment, Labels& labels, const Sender& s
                        const Progress& progress) {
     for (std::size_t i = 0; i < labels.count(); ++i) {
         const Label label = labels.read(i);
-        Column coluna = printBlock(environment, recipientBlock, addressOf(label));
-        coluna.goDown();
-        coluna.texto(label.CODIGO, left);
+        Column column = printBlock(environment, recipientBlock, addressOf(label));
+        column.goDown();
+        column.text(label.CODIGO, left);
         printBlock(environment, senderBlock, addressOf(sender));
         showFailure(environment, environment.printer.NewPage());
         report(progress, i + 1, labels);

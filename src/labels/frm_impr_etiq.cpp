@@ -127,17 +127,17 @@ void FrmImprEtiq::cboEstado_Click() {
 
 void FrmImprEtiq::cmdPesquisar_Click() {
     ui_->cmdPesquisar->setFocus();  // pressed by its key, too: a date field completes its date
-    const auto texto = [](const QLineEdit* field) { return field->text().toStdString(); };
+    const auto text = [](const QLineEdit* field) { return field->text().toStdString(); };
     const std::string branches = listParameter(*ui_->cboFilial);
-    const std::string product = texto(ui_->txtProd);
-    const std::string cepDe = texto(ui_->txtCepDe);
-    const std::string postalCodeTo = texto(ui_->txtCepAte);
-    const std::string saleFrom = texto(ui_->txtDtVndDe);
-    const std::string saleTo = texto(ui_->txtDtVndAte);
-    const std::string amountFrom = texto(ui_->txtVlrDe);
-    const std::string amountTo = texto(ui_->txtVlrAte);
-    const std::string quantityFrom = texto(ui_->txtQtde);
-    const std::string quantityTo = texto(ui_->txtQtAte);
+    const std::string product = text(ui_->txtProd);
+    const std::string cepDe = text(ui_->txtCepDe);
+    const std::string postalCodeTo = text(ui_->txtCepAte);
+    const std::string saleFrom = text(ui_->txtDtVndDe);
+    const std::string saleTo = text(ui_->txtDtVndAte);
+    const std::string amountFrom = text(ui_->txtVlrDe);
+    const std::string amountTo = text(ui_->txtVlrAte);
+    const std::string quantityFrom = text(ui_->txtQtde);
+    const std::string quantityTo = text(ui_->txtQtAte);
     const commands::LabelFilter filter{.branches = branches,
                                        .country = chosen(*ui_->cboPais),
                                        .state = chosen(*ui_->cboEstado),
@@ -167,7 +167,7 @@ void FrmImprEtiq::cmdPesquisar_Click() {
 
 void FrmImprEtiq::cmdImprimir_Click() {
     ProgressWindow progress(*this);
-    labels::printSelection(desk_.environment, customers_->linhas(), progress.notices());
+    labels::printSelection(desk_.environment, customers_->lines(), progress.notices());
 }
 
 void FrmImprEtiq::keyPressEvent(QKeyEvent* event) {

@@ -18,21 +18,20 @@ void showFailure(Environment& environment, const std::optional<PrinterFailure>& 
     }
 }
 
-void ImprimeLinha(Environment& environment, std::string_view texto, double x, double y,
-                  bool negrito, double tamanho, std::string_view fonte, bool /*reservado*/,
-                  bool posicaoExata) {
+void ImprimeLinha(Environment& environment, std::string_view text, double x, double y, bool bold,
+                  double size, std::string_view font, bool /*reservado*/, bool exactPosition) {
     Printer& printer = environment.printer;
-    printer.FontName = fonte;
-    printer.FontSize = tamanho;
-    printer.FontBold = negrito;
-    const double indent = posicaoExata ? 0 : halfCentimetre;
+    printer.FontName = font;
+    printer.FontSize = size;
+    printer.FontBold = bold;
+    const double indent = exactPosition ? 0 : halfCentimetre;
     printer.CurrentY = y - indent;
     printer.CurrentX = x - indent;
-    showFailure(environment, printer.Print(texto));
+    showFailure(environment, printer.Print(text));
 }
 
-void write(Environment& environment, std::string_view texto, double x, double y, double tamanho) {
-    ImprimeLinha(environment, texto, x, y, true, tamanho, "Arial", false, false);
+void write(Environment& environment, std::string_view text, double x, double y, double size) {
+    ImprimeLinha(environment, text, x, y, true, size, "Arial", false, false);
 }
 
 void preparePage(Environment& environment) {

@@ -11,15 +11,14 @@ struct PrinterFailure;
 
 namespace tarn::labels {
 
-// `x` and `y` are centimetres, `tamanho` points. Unless `posicaoExata` the text lands
+// `x` and `y` are centimetres, `size` points. Unless `exactPosition` the text lands
 // half a centimetre further left and up. A failure is shown to the user and printing
-// goes on. `reservado` is not used.
-void ImprimeLinha(Environment& environment, std::string_view texto, double x, double y,
-                  bool negrito, double tamanho, std::string_view fonte, bool reservado,
-                  bool posicaoExata);
+// goes on. `reserved` is not used.
+void ImprimeLinha(Environment& environment, std::string_view text, double x, double y, bool bold,
+                  double size, std::string_view font, bool reserved, bool exactPosition);
 
 // The same as every label is written: Arial bold, off the exact position.
-void write(Environment& environment, std::string_view texto, double x, double y, double tamanho);
+void write(Environment& environment, std::string_view text, double x, double y, double size);
 
 // Centimetres, portrait.
 void preparePage(Environment& environment);

@@ -32,20 +32,20 @@ XmlNode rowsOf(const XmlDocument& answer) {
 }  // namespace
 
 Labels::Labels(const XmlDocument& answer)
-    : linhas_(rowsOf(answer)), count_(linhas_ ? linhas_.childCount() : 0), reader_(fields) {}
+    : lines_(rowsOf(answer)), count_(lines_ ? lines_.childCount() : 0), reader_(fields) {}
 
-Label Labels::read(std::size_t indice) {
-    reader_.read(linhas_, indice);
-    return {.NOME = reader_.texto(NOME),
-            .ENDERECO = reader_.texto(ENDERECO),
-            .SOMENTE_ENDERECO = reader_.texto(SOMENTE_ENDERECO),
-            .NUMERO = reader_.texto(NUMERO),
-            .COMPLEMENTO = reader_.texto(COMPLEMENTO),
-            .BAIRRO = reader_.texto(BAIRRO),
-            .MUNICIPIO = reader_.texto(MUNICIPIO),
-            .UF = reader_.texto(UF),
-            .CEP = reader_.texto(CEP),
-            .CODIGO = reader_.texto(CODIGO)};
+Label Labels::read(std::size_t index) {
+    reader_.read(lines_, index);
+    return {.NOME = reader_.text(NOME),
+            .ENDERECO = reader_.text(ENDERECO),
+            .SOMENTE_ENDERECO = reader_.text(SOMENTE_ENDERECO),
+            .NUMERO = reader_.text(NUMERO),
+            .COMPLEMENTO = reader_.text(COMPLEMENTO),
+            .BAIRRO = reader_.text(BAIRRO),
+            .MUNICIPIO = reader_.text(MUNICIPIO),
+            .UF = reader_.text(UF),
+            .CEP = reader_.text(CEP),
+            .CODIGO = reader_.text(CODIGO)};
 }
 
 void report(const Progress& progress, std::size_t done, const Labels& labels) {
@@ -55,19 +55,19 @@ void report(const Progress& progress, std::size_t done, const Labels& labels) {
 }
 
 Sender readSender(const XmlDocument& answer) {
-    const XmlNode linhas = rowsOf(answer);
-    Sender sender{.NOME = textAttribute(linhas, 0, "NOME"),
-                  .ENDERECO = textAttribute(linhas, 0, "ENDERECO"),
-                  .BAIRRO = textAttribute(linhas, 0, "BAIRRO"),
-                  .MUNICIPIO = textAttribute(linhas, 0, "MUNICIPIO"),
-                  .UF = textAttribute(linhas, 0, "UF"),
-                  .CEP = textAttribute(linhas, 0, "CEP"),
-                  .DESCRICAO = textAttribute(linhas, 0, "DESCRICAO"),
+    const XmlNode lines = rowsOf(answer);
+    Sender sender{.NOME = textAttribute(lines, 0, "NOME"),
+                  .ENDERECO = textAttribute(lines, 0, "ENDERECO"),
+                  .BAIRRO = textAttribute(lines, 0, "BAIRRO"),
+                  .MUNICIPIO = textAttribute(lines, 0, "MUNICIPIO"),
+                  .UF = textAttribute(lines, 0, "UF"),
+                  .CEP = textAttribute(lines, 0, "CEP"),
+                  .DESCRICAO = textAttribute(lines, 0, "DESCRICAO"),
                   .NUMERO = {}};
     if (trimBlanks(sender.DESCRICAO).empty()) {
         sender.DESCRICAO.clear();
     }
-    sender.NUMERO = blankIfZero(textAttribute(linhas, 0, "NUMERO"));
+    sender.NUMERO = blankIfZero(textAttribute(lines, 0, "NUMERO"));
     return sender;
 }
 

@@ -32,10 +32,10 @@ public:
     std::size_t count() const { return count_; }
     // Its texts live until the next label is read. VariavelObjeto for a field that the
     // answer spells in another case.
-    Label read(std::size_t indice);
+    Label read(std::size_t index);
 
 private:
-    XmlNode linhas_;
+    XmlNode lines_;
     std::size_t count_ = 0;
     RowReader reader_;
 };

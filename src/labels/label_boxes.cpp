@@ -6,8 +6,8 @@
 
 namespace tarn::labels {
 
-void inform(Environment& environment, const std::string& texto) {
-    environment.boxes.show({.text = texto, .icon = BoxIcon::Information, .title = "TArn"});
+void inform(Environment& environment, const std::string& text) {
+    environment.boxes.show({.text = text, .icon = BoxIcon::Information, .title = "TArn"});
 }
 
 void reportError(Environment& environment, const RuntimeError& error, const std::string& whatToDo) {

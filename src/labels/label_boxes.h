@@ -11,7 +11,7 @@ struct Environment;
 namespace tarn::labels {
 
 // Information, titled as the label screens title their boxes.
-void inform(Environment& environment, const std::string& texto);
+void inform(Environment& environment, const std::string& text);
 
 // An error that ends nothing but the action; `whatToDo` (Portuguese) follows its report.
 void reportError(Environment& environment, const RuntimeError& error, const std::string& whatToDo);

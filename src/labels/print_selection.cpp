@@ -25,23 +25,23 @@ struct Place {
     static constexpr double right = 12;
     static constexpr double height = 2.55;
 
-    double linha = -0.3;
+    double line = -0.3;
     bool onRight = true;
 
     void advance() {
-        linha += onRight ? 1 : 0;
+        line += onRight ? 1 : 0;
         onRight = !onRight;
     }
     double x() const { return onRight ? right : left; }
-    double y() const { return linha * height; }
+    double y() const { return line * height; }
 };
 
 void printCustomer(Environment& environment, const GridRow& customer, double x, double y) {
-    std::string town(leftOf(customer.coluna(NM_MUN), townCut));
-    town.append(" - ").append(customer.coluna(SG_UF));
-    write(environment, leftOf(customer.coluna(NM_PES_CPL), nameCut), x, y + 0.26, nameSize);
-    write(environment, leftOf(customer.coluna(DC_LG_CPL), addressCut), x, y + 0.76, textSize);
-    write(environment, customer.coluna(CD_CEP), x, y + 1.26, textSize);
+    std::string town(leftOf(customer.column(NM_MUN), townCut));
+    town.append(" - ").append(customer.column(SG_UF));
+    write(environment, leftOf(customer.column(NM_PES_CPL), nameCut), x, y + 0.26, nameSize);
+    write(environment, leftOf(customer.column(DC_LG_CPL), addressCut), x, y + 0.76, textSize);
+    write(environment, customer.column(CD_CEP), x, y + 1.26, textSize);
     write(environment, town, x, y + 1.76, textSize);
 }
 

@@ -9,10 +9,10 @@
 namespace tarn::labels {
 namespace {
 
-constexpr int margem = 1;          // blanks ahead of every text
-constexpr std::size_t side = 4;    // labels across
-constexpr std::size_t linhas = 5;  // of a label
-constexpr int largura = 55;        // characters
+constexpr int margin = 1;         // blanks ahead of every text
+constexpr std::size_t side = 4;   // labels across
+constexpr std::size_t lines = 5;  // of a label
+constexpr int width = 55;         // characters
 constexpr int leftWidth = 27;
 constexpr int rightWidth = 26;
 constexpr char condensedStep[] =
@@ -22,20 +22,20 @@ constexpr char condensedStep[] =
 // Blanks between a label and the one at its left, the margin not counted.
 constexpr std::array<std::size_t, side> gap{0, 7, 12, 12};
 
-using Texts = std::array<std::string, linhas>;
+using Texts = std::array<std::string, lines>;
 
-void doubled(std::string& linha, std::string_view left, std::string_view right) {
-    appendField(linha, left, leftWidth, false);
-    linha += "  ";
-    appendField(linha, right, rightWidth, false);
+void doubled(std::string& line, std::string_view left, std::string_view right) {
+    appendField(line, left, leftWidth, false);
+    line += "  ";
+    appendField(line, right, rightWidth, false);
 }
 
-void assemble(Texts& texts, const Label& label, std::size_t coluna) {
-    for (std::string& texto : texts) {
-        texto.assign(gap[coluna], ' ');
+void assemble(Texts& texts, const Label& label, std::size_t column) {
+    for (std::string& text : texts) {
+        text.assign(gap[column], ' ');
     }
-    appendField(texts[0], label.NOME, largura, false);
-    appendField(texts[1], label.ENDERECO, largura, false);
+    appendField(texts[0], label.NOME, width, false);
+    appendField(texts[1], label.ENDERECO, width, false);
     doubled(texts[2], label.COMPLEMENTO, label.BAIRRO);
     doubled(texts[3], label.MUNICIPIO, label.UF);
     doubled(texts[4], label.CEP, label.CODIGO);
@@ -43,12 +43,12 @@ void assemble(Texts& texts, const Label& label, std::size_t coluna) {
 
 void printGroup(RawChannel& channel, std::array<Texts, side>& group, std::size_t count) {
     std::string end;
-    for (std::size_t linha = 0; linha < linhas; ++linha) {
-        for (std::size_t coluna = 0; coluna < count; ++coluna) {
-            channel.ImprimeRaw(margem, group[coluna][linha], 0);
+    for (std::size_t line = 0; line < lines; ++line) {
+        for (std::size_t column = 0; column < count; ++column) {
+            channel.ImprimeRaw(margin, group[column][line], 0);
         }
         end.clear();
-        channel.ImprimeRaw(margem, end, linha + 1 < linhas ? 1 : 2);
+        channel.ImprimeRaw(margin, end, line + 1 < lines ? 1 : 2);
     }
 }
 
@@ -58,14 +58,14 @@ void printDotMatrix(Environment& environment, Labels& labels, const Progress& pr
     RawChannel channel(environment.spooler, environment.codePage);
     channel.open();
     std::string preparation = condensedStep;
-    channel.ImprimeRaw(margem, preparation, 0);
+    channel.ImprimeRaw(margin, preparation, 0);
     channel.close();
     channel.open();
     std::array<Texts, side> group;
     for (std::size_t i = 0; i < labels.count();) {
         const std::size_t count = std::min(side, labels.count() - i);
-        for (std::size_t coluna = 0; coluna < count; ++coluna, ++i) {
-            assemble(group[coluna], labels.read(i), coluna);
+        for (std::size_t column = 0; column < count; ++column, ++i) {
+            assemble(group[column], labels.read(i), column);
         }
         printGroup(channel, group, count);
         report(progress, i, labels);

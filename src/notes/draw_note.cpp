@@ -16,7 +16,7 @@ namespace tarn::notes {
 namespace {
 
 constexpr NumberMask noteNumberMask = "000000";
-constexpr int margem = 0;
+constexpr int margin = 0;
 
 // The page, and what its texts are made from.
 struct Page {
@@ -31,7 +31,7 @@ struct Page {
         draw(run.line, x, y, bold);
     }
     void draw(std::string_view text, double x, double y, bool bold) {
-        ImprimeTextoEm(environment, text, x, y, bold, form.size, form.font, margem);
+        ImprimeTextoEm(environment, text, x, y, bold, form.size, form.font, margin);
     }
 };
 

@@ -11,17 +11,17 @@ constexpr float halfCentimetre = 0.5F;
 
 }  // namespace
 
-void ImprimeTextoEm(Environment& environment, std::string_view texto, double x, double y,
-                    bool negrito, double tamanho, std::string_view fonte, int margem) {
+void ImprimeTextoEm(Environment& environment, std::string_view text, double x, double y, bool bold,
+                    double size, std::string_view font, int margin) {
     Printer& printer = environment.printer;
-    printer.FontName = fonte;
-    printer.FontSize = tamanho;
-    printer.FontBold = negrito;
+    printer.FontName = font;
+    printer.FontSize = size;
+    printer.FontBold = bold;
     // The page printer holds positions in single precision.
-    const float shift = margem == 0 ? halfCentimetre : 0.0F;
+    const float shift = margin == 0 ? halfCentimetre : 0.0F;
     printer.CurrentX = static_cast<float>(x) - shift;
     printer.CurrentY = static_cast<float>(y) - shift;
-    if (const auto failure = printer.Print(texto)) {
+    if (const auto failure = printer.Print(text)) {
         showFailure(environment, *failure);
     }
 }

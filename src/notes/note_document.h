@@ -24,7 +24,7 @@ public:
 
     bool present(Source source) { return readerOf(source).present(fieldOf(source)); }
     // Text reading: the text as it stands, "" when absent.
-    std::string_view text(Source source) { return readerOf(source).texto(fieldOf(source)); }
+    std::string_view text(Source source) { return readerOf(source).text(fieldOf(source)); }
     // Amount reading: "." turned into ",", `absent` when absent.
     std::string_view amount(Source source, std::string_view absent = "0") {
         return readerOf(source).number(fieldOf(source), absent);

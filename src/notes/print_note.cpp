@@ -26,18 +26,18 @@ const notes::Layout& installed(std::string_view name) {
 }
 
 void print(const notes::Layout& layout, Environment& environment, const Sessao& session,
-           const XmlDocument& documento, const std::string& numeroNota, notes::LossLog* losses) {
+           const XmlDocument& document, const std::string& noteNumber, notes::LossLog* losses) {
     if (layout.drawn != nullptr) {
-        return notes::drawNote(*layout.drawn, documento, numeroNota, environment, losses);
+        return notes::drawNote(*layout.drawn, document, noteNumber, environment, losses);
     }
     RawChannel channel(environment.spooler, environment.codePage);
-    notes::printNote(layout.formFor(session.ID_ETB_TARN), documento, numeroNota, channel, losses);
+    notes::printNote(layout.formFor(session.ID_ETB_TARN), document, noteNumber, channel, losses);
 }
 
 }  // namespace
 
 void printNote(Ladder ladder, Environment& environment, const Sessao& session,
-               XmlDocument& documento, const std::string& numeroNota, notes::LossLog* losses) {
+               XmlDocument& document, const std::string& noteNumber, notes::LossLog* losses) {
     const std::string_view name = layoutFor(ladder, session.NCOMPANYCODE, session.ID_ETB_TARN);
     if (ladder == Ladder::Issuing && name == onlyFromReprint) {
         throw RuntimeError(RuntimeErrorCode::ObjectRequired,
@@ -45,9 +45,9 @@ void printNote(Ladder ladder, Environment& environment, const Sessao& session,
                                ": as notas deste estabelecimento só saem pela tela de reimpressão");
     }
     if (!name.empty()) {
-        print(installed(name), environment, session, documento, numeroNota, losses);
+        print(installed(name), environment, session, document, noteNumber, losses);
     }
-    documento = XmlDocument();
+    document = XmlDocument();
 }
 
 }  // namespace tarn

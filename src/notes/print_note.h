@@ -23,11 +23,11 @@ enum class Ladder { Issuing, Reprint };
 std::string_view layoutFor(Ladder ladder, std::int32_t company, std::int32_t establishment);
 
 // Prints the note of an answer whose status reads "OK" and lets go of the document.
-// `numeroNota` holds the note's number as digits. What was sent before an
+// `noteNumber` holds the note's number as digits. What was sent before an
 // ErroExecucao stays sent and the job stays open. `losses`, if given, keeps what the form
 // has no room for.
 void printNote(Ladder ladder, Environment& environment, const Sessao& session,
-               XmlDocument& documento, const std::string& numeroNota,
+               XmlDocument& document, const std::string& noteNumber,
                notes::LossLog* losses = nullptr);
 
 }  // namespace tarn

@@ -9,9 +9,9 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr std::chrono::milliseconds kBetweenLooks(250);
-constexpr int kQuietLooks = 2;
-constexpr qint64 kReadAtOnce = 256LL * 1024;
+constexpr std::chrono::milliseconds betweenLooks(250);
+constexpr int quietLooks = 2;
+constexpr qint64 readAtOnce = 256LL * 1024;
 
 QStringList jobsIn(const QDir& folder) {
     QStringList names = QDir(folder.path()).entryList({QStringLiteral("*.prn")}, QDir::Files);
@@ -35,7 +35,7 @@ FolderWatch::FolderWatch(JobIntake& intake, const QString& folder)
     soon_.setSingleShot(true);
     soon_.setInterval(0);
     soon_.start();
-    timer_.start(kBetweenLooks);
+    timer_.start(betweenLooks);
 }
 
 bool FolderWatch::hasNews(const QString& name) const {
@@ -89,7 +89,7 @@ void FolderWatch::readOn(const QString& name, Seen& seen) {
     QFile file(folder_.filePath(name));
     QByteArray piece;
     if (file.open(QIODevice::ReadOnly) && file.seek(seen.taken)) {
-        piece = file.read(kReadAtOnce);
+        piece = file.read(readAtOnce);
     }
     seen.taken += piece.size();
     if (piece.isEmpty() || !intake_.take(piece)) {
@@ -106,7 +106,7 @@ void FolderWatch::readOn(const QString& name, Seen& seen) {
 
 // A file may still grow while no other waits.
 void FolderWatch::rest(bool atOnce) {
-    if (!atOnce && ++quiet_ < kQuietLooks) {
+    if (!atOnce && ++quiet_ < quietLooks) {
         return;
     }
     quiet_ = 0;

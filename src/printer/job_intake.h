@@ -14,10 +14,10 @@ class JobIntake : public QObject {
     Q_OBJECT
 
 public:
-    static constexpr qint64 kMostJobBytes = 64LL * 1024 * 1024;
+    static constexpr qint64 maxJobBytes = 64LL * 1024 * 1024;
 
     // `roll` must outlive this.
-    explicit JobIntake(PaperRoll& roll, qint64 mostJobBytes = kMostJobBytes);
+    explicit JobIntake(PaperRoll& roll, qint64 mostJobBytes = maxJobBytes);
 
     bool busy() const { return busy_; }
     // False while another job is being taken; `idle` tells when to ask again.

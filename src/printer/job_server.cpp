@@ -8,8 +8,8 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr qint64 kReadAtOnce = 256LL * 1024;
-constexpr std::chrono::seconds kPatience(60);
+constexpr qint64 readAtOnce = 256LL * 1024;
+constexpr std::chrono::seconds patience(60);
 
 QString nameOf(const QTcpSocket& socket) {
     return QStringLiteral("rede %1, %2")
@@ -19,7 +19,7 @@ QString nameOf(const QTcpSocket& socket) {
 }  // namespace
 
 JobServer::JobServer(JobIntake& intake) : intake_(intake) {
-    patience_.setInterval(kPatience);
+    patience_.setInterval(patience);
     connect(&patience_, &QTimer::timeout, this, [this] {
         if (current_ != nullptr && !waiting_.empty()) {
             finish(QStringLiteral("a conexão ficou em silêncio e outros trabalhos esperavam."));
@@ -41,8 +41,8 @@ JobServer::~JobServer() {
 void JobServer::incomingConnection(qintptr handle) {
     auto* socket = new QTcpSocket(this);
     // What is more waits in the sender.
-    socket->setReadBufferSize(kReadAtOnce);
-    if (!socket->setSocketDescriptor(handle) || waiting_.size() >= kMostWaiting) {
+    socket->setReadBufferSize(readAtOnce);
+    if (!socket->setSocketDescriptor(handle) || waiting_.size() >= mostWaiting) {
         delete socket;
         return;
     }
@@ -75,7 +75,7 @@ void JobServer::readSome() {
             begun_ = true;
         }
         patience_.start();
-        if (!intake_.take(current_->read(kReadAtOnce))) {
+        if (!intake_.take(current_->read(readAtOnce))) {
             begun_ = false;  // the intake has ended it
             return finish({});
         }

@@ -13,14 +13,14 @@ class QTcpSocket;
 
 namespace tarn::dotmatrix {
 
-inline constexpr quint16 kRawPort = 9100;
+inline constexpr quint16 rawPort = 9100;
 
 class JobServer : public QTcpServer {
     Q_OBJECT
 
 public:
     // More connections than these are turned away.
-    static constexpr std::size_t kMostWaiting = 64;
+    static constexpr std::size_t mostWaiting = 64;
 
     // `intake` must outlive this. listen() as of QTcpServer.
     explicit JobServer(JobIntake& intake);

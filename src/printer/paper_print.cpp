@@ -15,7 +15,7 @@ void paintPage(QPainter& painter, const QPrinter& printer, const PaperPainter& d
     const QRectF there = printer.pageRect(QPrinter::Point);
     const double fit =
         std::min({1.0, there.width() / wanted.width(), there.height() / wanted.height()});
-    const double dots = printer.resolution() / kPointsPerInch * fit;
+    const double dots = printer.resolution() / pointsPerInch * fit;
     painter.save();
     painter.scale(dots, dots);
     drawing.paintForm(painter, page);

@@ -18,10 +18,10 @@ struct Row {
 };
 
 // The needles' band of a row is 1/8 inch high, whatever the line spacing.
-constexpr PaperUnits kHalfRow = kUnitsPerInch / 16;
+constexpr PaperUnits halfRow = unitsPerInch / 16;
 
 void collect(const PaperLine& line, const PaperRegion& region, std::vector<Row>& rows) {
-    const PaperUnits middle = line.y + kHalfRow;
+    const PaperUnits middle = line.y + halfRow;
     if (middle < region.top || middle >= region.bottom) {
         return;
     }

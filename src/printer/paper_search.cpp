@@ -9,7 +9,7 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr PaperUnits kRowHeight = kUnitsPerInch / 6;
+constexpr PaperUnits rowHeight = unitsPerInch / 6;
 
 QString folded(const QString& text) {
     QString out = text;
@@ -44,7 +44,7 @@ std::vector<Row> rowsOf(const FormPage& page) {
 }
 
 PaperRegion regionOf(const Row& row, qsizetype at, qsizetype length) {
-    PaperRegion region{.left = -1, .top = row.y, .right = 0, .bottom = row.y + kRowHeight};
+    PaperRegion region{.left = -1, .top = row.y, .right = 0, .bottom = row.y + rowHeight};
     for (const Cell* cell : row.cells) {
         const qsizetype place = cell->column - 1;
         if (place >= at && place < at + length) {

@@ -12,15 +12,15 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr double kScreenDots = 96;  // an inch at zoom 1
-constexpr double kWheelStep = 1.15;
-constexpr PaperUnits kLine = kUnitsPerInch / 6;
-const QColor kDesk(203, 209, 209);
-const QColor kSelected(31, 111, 120, 60);
-const QColor kFound(255, 196, 0, 110);
+constexpr double screenDots = 96;  // an inch at zoom 1
+constexpr double wheelStep = 1.15;
+constexpr PaperUnits lineHeight = unitsPerInch / 6;
+const QColor desk(203, 209, 209);
+const QColor selectedColour(31, 111, 120, 60);
+const QColor foundColour(255, 196, 0, 110);
 
 PaperUnits stripOf(const Sheet& sheet) {
-    return static_cast<PaperUnits>(sheet.strip * static_cast<double>(kUnitsPerInch));
+    return static_cast<PaperUnits>(sheet.strip * static_cast<double>(unitsPerInch));
 }
 
 }  // namespace
@@ -45,11 +45,11 @@ void PaperView::setOptions(const PaintOptions& options) {
 }
 
 double PaperView::scale() const {
-    return zoom_ * kScreenDots / static_cast<double>(kUnitsPerInch);
+    return zoom_ * screenDots / static_cast<double>(unitsPerInch);
 }
 
 double PaperView::leftEdge() const {
-    const double width = painter_.sheet().width * kScreenDots * zoom_;
+    const double width = painter_.sheet().width * screenDots * zoom_;
     const double spare = viewport()->width() - width;
     return spare > 0 ? std::floor(spare / 2) : -horizontalScrollBar()->value();
 }
@@ -57,19 +57,20 @@ double PaperView::leftEdge() const {
 // Millions of forms are more pixels than a scroll bar counts, so that it counts lines.
 void PaperView::setRanges() {
     const Form last = roll_.forms().back();
-    const double lines = static_cast<double>(last.top + last.height) / static_cast<double>(kLine);
-    const double page = viewport()->height() / scale() / static_cast<double>(kLine);
+    const double lines =
+        static_cast<double>(last.top + last.height) / static_cast<double>(lineHeight);
+    const double page = viewport()->height() / scale() / static_cast<double>(lineHeight);
     verticalScrollBar()->setRange(0, static_cast<int>(std::ceil(std::max(0.0, lines - page))));
     verticalScrollBar()->setPageStep(std::max(1, static_cast<int>(page)));
     verticalScrollBar()->setSingleStep(1);
-    const int width = qRound(painter_.sheet().width * kScreenDots * zoom_);
+    const int width = qRound(painter_.sheet().width * screenDots * zoom_);
     horizontalScrollBar()->setRange(0, std::max(0, width - viewport()->width()));
     horizontalScrollBar()->setPageStep(viewport()->width());
     horizontalScrollBar()->setSingleStep(20);
 }
 
 PaperUnits PaperView::topY() const {
-    return verticalScrollBar()->value() * kLine;
+    return verticalScrollBar()->value() * lineHeight;
 }
 
 std::size_t PaperView::presentForm() const {
@@ -92,15 +93,15 @@ void PaperView::refresh() {
 void PaperView::follow() {
     const auto height = static_cast<PaperUnits>(viewport()->height() / scale());
     const auto& jobs = roll_.jobs();
-    const PaperUnits head = roll_.headY() + 2 * kLine;
+    const PaperUnits head = roll_.headY() + 2 * lineHeight;
     const PaperUnits begin = jobs.empty() ? 0 : roll_.forms().at(jobs.back().form).top;
     const PaperUnits top = std::max(begin, head - height);
-    verticalScrollBar()->setValue(static_cast<int>((top + kLine - 1) / kLine));
+    verticalScrollBar()->setValue(static_cast<int>((top + lineHeight - 1) / lineHeight));
 }
 
 void PaperView::showTop(PaperUnits y) {
     following_ = false;
-    verticalScrollBar()->setValue(static_cast<int>(y / kLine));
+    verticalScrollBar()->setValue(static_cast<int>(y / lineHeight));
 }
 
 void PaperView::reveal(const PaperRegion& region) {
@@ -117,15 +118,15 @@ void PaperView::reveal(const PaperRegion& region) {
 
 void PaperView::setZoom(double zoom) {
     const PaperUnits top = topY();
-    zoom_ = std::clamp(zoom, kLeastZoom, kMostZoom);
+    zoom_ = std::clamp(zoom, leastZoom, mostZoom);
     setRanges();
-    verticalScrollBar()->setValue(static_cast<int>(top / kLine));
+    verticalScrollBar()->setValue(static_cast<int>(top / lineHeight));
     viewport()->update();
     emit zoomed();
 }
 
 void PaperView::fitWidth() {
-    setZoom(viewport()->width() / (painter_.sheet().width * kScreenDots));
+    setZoom(viewport()->width() / (painter_.sheet().width * screenDots));
 }
 
 void PaperView::select(const std::optional<PaperRegion>& region) {
@@ -158,7 +159,7 @@ PaperSpot PaperView::spotAt(const Point& point) {
     const std::size_t form = roll_.forms().formAt(point.y);
     const Form shape = roll_.forms().at(form);
     PaperSpot spot{.form = form,
-                   .line = static_cast<std::size_t>((point.y - shape.top) / kLine + 1),
+                   .line = static_cast<std::size_t>((point.y - shape.top) / lineHeight + 1),
                    .column = 0};
     if (point.x < 0) {
         return spot;
@@ -167,7 +168,7 @@ PaperSpot PaperView::spotAt(const Point& point) {
     PaperUnits from = 0;
     std::size_t column = 1;
     for (const PaperLine& line : roll_.page(form)->lines) {
-        if (line.y > point.y || point.y >= line.y + kLine) {
+        if (line.y > point.y || point.y >= line.y + lineHeight) {
             continue;
         }
         for (const Cell& one : line.cells) {
@@ -184,10 +185,10 @@ PaperSpot PaperView::spotAt(const Point& point) {
 
 void PaperView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(viewport());
-    painter.fillRect(viewport()->rect(), kDesk);
+    painter.fillRect(viewport()->rect(), desk);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    const double dots = zoom_ * kScreenDots / kPointsPerInch;
-    const double width = painter_.sheet().width * kPointsPerInch * dots;
+    const double dots = zoom_ * screenDots / pointsPerInch;
+    const double width = painter_.sheet().width * pointsPerInch * dots;
     const auto bottom = topY() + static_cast<PaperUnits>(viewport()->height() / scale()) + 1;
     const std::size_t last = roll_.forms().formAt(bottom);
     for (std::size_t form = roll_.forms().formAt(topY()); form <= last; ++form) {
@@ -202,10 +203,10 @@ void PaperView::paintEvent(QPaintEvent* /*event*/) {
         painter.restore();
     }
     if (found_) {
-        painter.fillRect(pixelsOf(*found_), kFound);
+        painter.fillRect(pixelsOf(*found_), foundColour);
     }
     if (selection_) {
-        painter.fillRect(pixelsOf(*selection_), kSelected);
+        painter.fillRect(pixelsOf(*selection_), selectedColour);
     }
 }
 
@@ -235,7 +236,7 @@ void PaperView::wheelEvent(QWheelEvent* event) {
         QAbstractScrollArea::wheelEvent(event);
         return;
     }
-    setZoom(event->angleDelta().y() > 0 ? zoom_ * kWheelStep : zoom_ / kWheelStep);
+    setZoom(event->angleDelta().y() > 0 ? zoom_ * wheelStep : zoom_ / wheelStep);
     event->accept();
 }
 

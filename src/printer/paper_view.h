@@ -20,8 +20,8 @@ class PaperView : public QAbstractScrollArea {
     Q_OBJECT
 
 public:
-    static constexpr double kLeastZoom = 0.25;
-    static constexpr double kMostZoom = 4.0;
+    static constexpr double leastZoom = 0.25;
+    static constexpr double mostZoom = 4.0;
 
     // `roll` must outlive this.
     explicit PaperView(PaperRoll& roll, QWidget* parent = nullptr);

@@ -24,11 +24,11 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr std::chrono::milliseconds kRepaint(40);
-constexpr std::size_t kFormsAStep = 40;
-constexpr qint64 kReadAtOnce = 256LL * 1024;
-constexpr double kZoomStep = 1.25;
-constexpr int kProgressAfter = 400;  // milliseconds
+constexpr std::chrono::milliseconds repaint(40);
+constexpr std::size_t formsAStep = 40;
+constexpr qint64 readAtOnce = 256LL * 1024;
+constexpr double zoomStep = 1.25;
+constexpr int progressAfter = 400;  // milliseconds
 
 WindowQuestions askTheUser(QWidget* window) {
     return {[window](const QString& title, const QString& suggested, const QString& kinds) {
@@ -75,7 +75,7 @@ PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, const PaintOpti
     view_->setOptions(options_);
 
     changed_.setSingleShot(true);
-    changed_.setInterval(kRepaint);
+    changed_.setInterval(repaint);
     connect(&changed_, &QTimer::timeout, this, &PrinterWindow::paperChanged);
     connect(&intake_, &JobIntake::changed, this, [this] {
         if (!changed_.isActive()) {
@@ -133,7 +133,7 @@ void PrinterWindow::takeFile() {
         }
         intake_.begin(QFileInfo(file_->file()).fileName());
     }
-    const QByteArray piece = file_->file().read(kReadAtOnce);
+    const QByteArray piece = file_->file().read(readAtOnce);
     if (piece.isEmpty()) {
         file_.reset();
         intake_.end();
@@ -153,7 +153,7 @@ void PrinterWindow::writeOut(
     progress.setObjectName(QStringLiteral("andamento"));
     progress.setWindowTitle(windowTitle());
     progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(kProgressAfter);
+    progress.setMinimumDuration(progressAfter);
     const auto failure = write([&progress](std::size_t form) {
         progress.setValue(static_cast<int>(form));
         return !progress.wasCanceled();
@@ -254,7 +254,7 @@ void PrinterWindow::search(PaperSearch::Direction direction) {
 }
 
 void PrinterWindow::searchOn() {
-    const PaperSearch::Step step = search_->step(kFormsAStep);
+    const PaperSearch::Step step = search_->step(formsAStep);
     if (step == PaperSearch::Step::Searching) {
         return;
     }
@@ -275,7 +275,7 @@ void PrinterWindow::previousJob() {
     const PaperUnits top = view_->topY();
     const auto& jobs = roll_.jobs();
     for (auto job = jobs.rbegin(); job != jobs.rend(); ++job) {
-        if (job->y < top - kUnitsPerInch / 6) {
+        if (job->y < top - unitsPerInch / 6) {
             view_->showTop(job->y);
             statusBar()->showMessage(QString::fromStdString(job->name), 4000);
             return;
@@ -287,7 +287,7 @@ void PrinterWindow::previousJob() {
 void PrinterWindow::nextJob() {
     const PaperUnits top = view_->topY();
     for (const RollJob& job : roll_.jobs()) {
-        if (job.y > top + kUnitsPerInch / 6) {
+        if (job.y > top + unitsPerInch / 6) {
             view_->showTop(job.y);
             statusBar()->showMessage(QString::fromStdString(job.name), 4000);
             return;
@@ -308,11 +308,11 @@ void PrinterWindow::tearOff() {
 }
 
 void PrinterWindow::zoomIn() {
-    view_->setZoom(view_->zoom() * kZoomStep);
+    view_->setZoom(view_->zoom() * zoomStep);
 }
 
 void PrinterWindow::zoomOut() {
-    view_->setZoom(view_->zoom() / kZoomStep);
+    view_->setZoom(view_->zoom() / zoomStep);
 }
 
 void PrinterWindow::trueSize() {

@@ -16,7 +16,7 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr int kLogLines = 2000;
+constexpr int logLines = 2000;
 
 }  // namespace
 
@@ -41,7 +41,7 @@ void PrinterWindow::makeActions() {
     logText_->setObjectName(QStringLiteral("registro"));
     logText_->setAccessibleName(QStringLiteral("Registro da impressora"));
     logText_->setReadOnly(true);
-    logText_->setMaximumBlockCount(kLogLines);
+    logText_->setMaximumBlockCount(logLines);
     logDock_ = new QDockWidget(QStringLiteral("Registro"), this);
     logDock_->setObjectName(QStringLiteral("painelRegistro"));
     logDock_->setWidget(logText_);

@@ -19,7 +19,7 @@ namespace {
 constexpr char tag[] = "Tag";
 constexpr int itemGap = 6;  // pixels added to the height of an open list's item
 
-std::string texto(const QLabel& label) {
+std::string text(const QLabel& label) {
     return label.text().toStdString();
 }
 
@@ -27,12 +27,12 @@ std::string tagDe(const QLabel& label) {
     return label.property(tag).toString().toStdString();
 }
 
-void put(QLabel& label, const std::string& valor) {
-    label.setText(QString::fromStdString(valor));
+void put(QLabel& label, const std::string& value) {
+    label.setText(QString::fromStdString(value));
 }
 
-void put(QLabel& label, const std::string& valor, const std::string& code) {
-    put(label, valor);
+void put(QLabel& label, const std::string& value, const std::string& code) {
+    put(label, value);
     label.setProperty(tag, QString::fromStdString(code));
 }
 
@@ -106,12 +106,12 @@ void FrmReImprimeNF::load() {
 
 void FrmReImprimeNF::fillLists() {
     std::vector<std::string> series;
-    const bool continua = loadSeries(desk_.environment, desk_.session, series);
-    for (const std::string& series : series) {
-        ui_->cboSerie->addItem(QString::fromStdString(series));
+    const bool goesOn = loadSeries(desk_.environment, desk_.session, series);
+    for (const std::string& one : series) {
+        ui_->cboSerie->addItem(QString::fromStdString(one));
     }
     ui_->cboSerie->setCurrentIndex(-1);
-    if (!continua) {
+    if (!goesOn) {
         return;
     }
     for (const CancelReason& reason : loadReasons(desk_.environment, desk_.session)) {
@@ -161,7 +161,7 @@ void FrmReImprimeNF::cmdPesquisar_Click() {
 }
 
 void FrmReImprimeNF::cmdSelecionar_Click() {
-    const std::string number = texto(*ui_->LBLNOTA);
+    const std::string number = text(*ui_->LBLNOTA);
     if (!noteSelected(desk_.environment, fields(), number)) {
         return;
     }
@@ -172,7 +172,7 @@ void FrmReImprimeNF::cmdSelecionar_Click() {
     }
     CancelRequest request{.number = number, .series = series, .noteKind = tagDe(*ui_->LblTipoNf)};
     if (ui_->OptionReimp->checkedButton() != nullptr) {
-        request.option = ui_->OptionReimp_1->isChecked() ? Rebilling::Without : Rebilling::Com;
+        request.option = ui_->OptionReimp_1->isChecked() ? Rebilling::Without : Rebilling::With;
     }
     if (ui_->CboMot_Can->currentIndex() >= 0) {
         request.reason = ui_->CboMot_Can->currentData().toInt();

@@ -22,37 +22,37 @@ constexpr const char* dataProblem =
     "Houve um problema na transferência dos dados da Nota Fiscal nº ";
 constexpr const char* cancellationProblem = "Houve um problema no Cancelamento da Nota Fiscal nº ";
 
-void alert(Environment& environment, const std::string& texto) {
-    warn(environment, texto, "Aviso");
+void alert(Environment& environment, const std::string& text) {
+    warn(environment, text, "Aviso");
 }
 
 // An attribute of a list's row; absent is empty.
-std::string_view field(const XmlNode& linha, std::string_view nome) {
-    const XmlAttribute attribute = linha.attributes().getNamedItem(nome);
+std::string_view field(const XmlNode& line, std::string_view name) {
+    const XmlAttribute attribute = line.attributes().getNamedItem(name);
     return attribute ? attribute.text() : std::string_view();
 }
 
 template <typename Routine>
-void forEachLine(const XmlDocument& documento, const Routine& routine) {
-    const XmlNode linhas = documento.selectSingleNode("xml/rs:data");
-    for (std::size_t i = 0; linhas && i < linhas.childCount(); ++i) {
-        routine(linhas.child(i));
+void forEachLine(const XmlDocument& document, const Routine& routine) {
+    const XmlNode lines = document.selectSingleNode("xml/rs:data");
+    for (std::size_t i = 0; lines && i < lines.childCount(); ++i) {
+        routine(lines.child(i));
     }
 }
 
-std::int32_t reasonId(std::string_view texto) {
+std::int32_t reasonId(std::string_view text) {
     try {
-        return readInt32(trimBlanks(texto));
+        return readInt32(trimBlanks(text));
     } catch (const RuntimeError&) {
         return 0;
     }
 }
 
 // An answer without a status to read is no more use than an empty one.
-bool accept(Environment& environment, const XmlDocument& documento, const std::string& problem) {
+bool accept(Environment& environment, const XmlDocument& document, const std::string& problem) {
     std::string status;
     try {
-        status = statusOf(documento);
+        status = statusOf(document);
     } catch (const RuntimeError&) {
         alert(environment, problem);
         return false;
@@ -67,18 +67,17 @@ bool accept(Environment& environment, const XmlDocument& documento, const std::s
 }  // namespace
 
 bool loadSeries(Environment& environment, const Sessao& session, std::vector<std::string>& items) {
-    XmlDocument documento;
-    if (!requestAnswer(environment, commands::SEL_SERIE_NF(session), documento,
-                       failure::Tarn0010)) {
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::SEL_SERIE_NF(session), document, failure::Tarn0010)) {
         return true;
     }
-    if (documento.empty()) {
+    if (document.empty()) {
         alert(environment, "Houve um problema na transferência das Séries da Nota Fiscal. ");
         return false;
     }
-    forEachLine(documento, [&items](const XmlNode& linha) {
-        std::string item(field(linha, "DC_SER_NF"));
-        item.append(seriesGap, ' ').append("|").append(trimBlanks(field(linha, "CD_SER_NF")));
+    forEachLine(document, [&items](const XmlNode& line) {
+        std::string item(field(line, "DC_SER_NF"));
+        item.append(seriesGap, ' ').append("|").append(trimBlanks(field(line, "CD_SER_NF")));
         items.push_back(std::move(item));
     });
     return true;
@@ -91,17 +90,17 @@ std::string seriesCode(std::string_view item) {
 
 std::vector<CancelReason> loadReasons(Environment& environment, const Sessao& session) {
     std::vector<CancelReason> reasons;
-    XmlDocument documento;
-    if (!requestAnswer(environment, commands::SEL_MOT_CAN(session), documento, failure::Tarn0011)) {
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::SEL_MOT_CAN(session), document, failure::Tarn0011)) {
         return reasons;
     }
-    if (documento.empty()) {
+    if (document.empty()) {
         alert(environment, "Houve um problema na transferência dos Motivos de Cancelamento. ");
         return reasons;
     }
-    forEachLine(documento, [&reasons](const XmlNode& linha) {
+    forEachLine(document, [&reasons](const XmlNode& line) {
         reasons.push_back(
-            {std::string(field(linha, "DC_MOT_CAN")), reasonId(field(linha, "ID_MOT_CAN"))});
+            {std::string(field(line, "DC_MOT_CAN")), reasonId(field(line, "ID_MOT_CAN"))});
     });
     return reasons;
 }
@@ -117,23 +116,23 @@ std::optional<FoundNote> searchNote(Environment& environment, const Sessao& sess
         return std::nullopt;
     }
     const std::string series = seriesCode(*fields.series);
-    XmlDocument documento;
-    if (!requestAnswer(environment, commands::SEL_NF(session, fields.number, series), documento,
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::SEL_NF(session, fields.number, series), document,
                        failure::Tarn0007)) {
         alert(environment, "Houve um problema na Pesquisa da Nota Fiscal !!!");
         return std::nullopt;
     }
-    const XmlNode linhas = documento.selectSingleNode("xml/rs:data");
-    if (!linhas || linhas.childCount() == 0) {
+    const XmlNode lines = document.selectSingleNode("xml/rs:data");
+    if (!lines || lines.childCount() == 0) {
         alert(environment, "Nota Fiscal não encontrada ou Cancelada !!!    ");
         return std::nullopt;
     }
     return FoundNote{.number = fields.number,
                      .series = series,
-                     .kind = textAttribute(linhas, 0, "IC_TIP_NF"),
-                     .kindText = textAttribute(linhas, 0, "DC_TIP_NF"),
-                     .issued = formatDateText(textAttribute(linhas, 0, "DT_EMS_NF")),
-                     .customer = textAttribute(linhas, 0, "NM_PES_CPL")};
+                     .kind = textAttribute(lines, 0, "IC_TIP_NF"),
+                     .kindText = textAttribute(lines, 0, "DC_TIP_NF"),
+                     .issued = formatDateText(textAttribute(lines, 0, "DT_EMS_NF")),
+                     .customer = textAttribute(lines, 0, "NM_PES_CPL")};
 }
 
 bool noteSelected(Environment& environment, const NoteFields& fields, std::string_view foundNote) {
@@ -151,17 +150,17 @@ bool noteSelected(Environment& environment, const NoteFields& fields, std::strin
 
 void reprintNote(Environment& environment, const Sessao& session, const std::string& number,
                  const std::string& series) {
-    XmlDocument documento;
-    if (!requestAnswer(environment, commands::sel_gera_nf(session, number, series), documento,
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::sel_gera_nf(session, number, series), document,
                        failure::Tarn0008)) {
         alert(environment, "Houve um problema na transferência dos dados da Nota Fiscal !!!");
         return;
     }
-    if (!accept(environment, documento, dataProblem + number + ". ")) {
+    if (!accept(environment, document, dataProblem + number + ". ")) {
         return;
     }
     try {
-        printNote(Ladder::Reprint, environment, session, documento, number);
+        printNote(Ladder::Reprint, environment, session, document, number);
     } catch (const RuntimeError& error) {
         throw ErrorAfterNote(error);
     }
@@ -181,13 +180,13 @@ bool cancelNote(Environment& environment, const Sessao& session, const CancelReq
                                       .series = request.series,
                                       .reason = *request.reason,
                                       .withoutRebilling = *request.option == Rebilling::Without};
-    XmlDocument documento;
-    if (!requestAnswer(environment, commands::sp_can_nf(session, data), documento,
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::sp_can_nf(session, data), document,
                        failure::Tarn0009)) {
         alert(environment, "Favor verificar se a Nota Fiscal foi cancelada. ");
         return false;
     }
-    if (!accept(environment, documento, cancellationProblem + request.number + ". ")) {
+    if (!accept(environment, document, cancellationProblem + request.number + ". ")) {
         return false;
     }
     environment.boxes.show({.text = "Nota fiscal cancelada com sucesso",

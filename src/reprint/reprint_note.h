@@ -59,7 +59,7 @@ bool noteSelected(Environment& environment, const NoteFields& fields, std::strin
 void reprintNote(Environment& environment, const Sessao& session, const std::string& number,
                  const std::string& series);
 
-enum class Rebilling { Com, Without };
+enum class Rebilling { With, Without };
 
 struct CancelRequest {
     std::string number;

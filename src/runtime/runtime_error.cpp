@@ -23,11 +23,11 @@ std::string_view descriptionOf(RuntimeErrorCode number) {
 }
 
 std::string withDetail(RuntimeErrorCode number, std::string_view detail) {
-    std::string texto(descriptionOf(number));
+    std::string text(descriptionOf(number));
     if (!detail.empty()) {
-        texto.append(": ").append(detail);
+        text.append(": ").append(detail);
     }
-    return texto;
+    return text;
 }
 
 }  // namespace
@@ -44,14 +44,14 @@ std::string failureText(const RuntimeError& error) {
 }
 
 std::string reportText(const RuntimeError& error, bool noteMayExist) {
-    std::string texto = failureText(error);
-    texto += "\r\rO programa será encerrado. Anote esta mensagem e avise o suporte.";
+    std::string text = failureText(error);
+    text += "\r\rO programa será encerrado. Anote esta mensagem e avise o suporte.";
     if (noteMayExist) {
-        texto +=
+        text +=
             "\r\rA Nota Fiscal pode ter sido gerada no servidor. Caso tenha sido gerada, utilize a "
             "tela de Reimpressão de Nota Fiscal para imprimi-la.";
     }
-    return texto;
+    return text;
 }
 
 }  // namespace tarn

@@ -51,7 +51,7 @@ constexpr std::array<GridColumn, slipColumns> columns{{{"", 0, ColumnKind::Check
 constexpr int visibleLines = 14;
 constexpr int numberWidth = 18;  // characters
 
-std::string texto(const QLineEdit& field) {
+std::string text(const QLineEdit& field) {
     return field.text().toStdString();
 }
 
@@ -96,7 +96,7 @@ void frmPesqBoleto::prepareButtons() {
 }
 
 void frmPesqBoleto::takeCustomer(const Customer& customer) {
-    showCustomer(*ui_->txtCliente, customer.id, customer.nome);
+    showCustomer(*ui_->txtCliente, customer.id, customer.name);
 }
 
 // The first activation comes when the screen stands before the user.
@@ -113,7 +113,7 @@ void frmPesqBoleto::activate() {
 }
 
 void frmPesqBoleto::refuse(const SlipRefusal& reason) {
-    desk_.environment.boxes.show({std::string(reason.texto), BoxIcon::Information, "TArn"});
+    desk_.environment.boxes.show({std::string(reason.text), BoxIcon::Information, "TArn"});
     switch (reason.field) {
         case SlipSearchField::IssuedFrom:
             ui_->txtDtEmsDe->setFocus();
@@ -139,10 +139,10 @@ void frmPesqBoleto::cmdPesqCli_Click() {
 
 void frmPesqBoleto::cmdPesquisar_Click() {
     const std::string customer = customerId(*ui_->txtCliente);
-    const std::string dueFrom = texto(*ui_->txtDtVncDe);
-    const std::string dueTo = texto(*ui_->txtDtVncAte);
-    const std::string issuedFrom = texto(*ui_->txtDtEmsDe);
-    const std::string issuedTo = texto(*ui_->txtDtEmsAte);
+    const std::string dueFrom = text(*ui_->txtDtVncDe);
+    const std::string dueTo = text(*ui_->txtDtVncAte);
+    const std::string issuedFrom = text(*ui_->txtDtEmsDe);
+    const std::string issuedTo = text(*ui_->txtDtEmsAte);
     const SlipFilter filter{.documents = {.customer = customer,
                                           .branch = currentItemData(*ui_->cboFilial),
                                           .dueFrom = dueFrom,
@@ -159,11 +159,11 @@ void frmPesqBoleto::cmdPesquisar_Click() {
 }
 
 void frmPesqBoleto::show(const SlipFilter& filter) {
-    auto linhas = searchSlips(desk_.environment, desk_.session, filter);
-    if (!linhas) {
+    auto lines = searchSlips(desk_.environment, desk_.session, filter);
+    if (!lines) {
         return;
     }
-    documents_->show(std::move(*linhas));
+    documents_->show(std::move(*lines));
     ui_->sprDados->setCurrentIndex(documents_->index(0, 0));
     if (documents_->rowCount() == 0) {
         warn(desk_.environment, "Não foi encontrado nenhum documento para esta pesquisa. ");
@@ -171,7 +171,7 @@ void frmPesqBoleto::show(const SlipFilter& filter) {
 }
 
 void frmPesqBoleto::cmdImprimir_Click() {
-    const SlipRun request{.next = texto(*ui_->txtNr_Bol_Banc),
+    const SlipRun request{.next = text(*ui_->txtNr_Bol_Banc),
                           .includesPortfolio = ui_->chkInc_Carteira->isChecked()};
     if (const auto reason = printRefusal(ui_->cboCartCob->currentIndex(), request.next)) {
         refuse(*reason);
@@ -183,7 +183,7 @@ void frmPesqBoleto::cmdImprimir_Click() {
         return;
     }
     ProgressWindow progress(*this);
-    printSlips(desk_.environment, desk_.session, *portfolio, request, documents_->linhas(),
+    printSlips(desk_.environment, desk_.session, *portfolio, request, documents_->lines(),
                {.untick = [this](std::size_t i) { documents_->tick(static_cast<int>(i), false); },
                 .passed = [this] { ui_->txtNr_Bol_Banc->clear(); },
                 .progress = progress.notices()});

@@ -14,14 +14,14 @@ bool Portfolio::isWallet57() const {
 
 Portfolio portfolioOf(const XmlDocument& answer) {
     Portfolio portfolio;
-    const XmlNode linhas = answer.selectSingleNode("xml/rs:data");
-    const std::size_t count = linhas ? linhas.childCount() : 0;
+    const XmlNode lines = answer.selectSingleNode("xml/rs:data");
+    const std::size_t count = lines ? lines.childCount() : 0;
     for (std::size_t i = 0; i < count; ++i) {
-        portfolio = {.ID_CRT_COB = textAttribute(linhas, i, "ID_CRT_COB"),
-                     .ID_PES_BAN = textAttribute(linhas, i, "ID_PES_BAN"),
-                     .NR_CRT_CNAB = textAttribute(linhas, i, "NR_CRT_CNAB"),
-                     .CD_AGE_BAN_CNAB = textAttribute(linhas, i, "CD_AGE_BAN_CNAB"),
-                     .NR_CCOR_CNAB = textAttribute(linhas, i, "NR_CCOR_CNAB")};
+        portfolio = {.ID_CRT_COB = textAttribute(lines, i, "ID_CRT_COB"),
+                     .ID_PES_BAN = textAttribute(lines, i, "ID_PES_BAN"),
+                     .NR_CRT_CNAB = textAttribute(lines, i, "NR_CRT_CNAB"),
+                     .CD_AGE_BAN_CNAB = textAttribute(lines, i, "CD_AGE_BAN_CNAB"),
+                     .NR_CCOR_CNAB = textAttribute(lines, i, "NR_CCOR_CNAB")};
     }
     return portfolio;
 }

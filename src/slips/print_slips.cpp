@@ -21,7 +21,7 @@ namespace tarn {
 namespace {
 
 // ESC/P.
-constexpr std::string_view doze = "\x0F\x1BM";  // condensed, 12 characters an inch
+constexpr std::string_view twelve = "\x0F\x1BM";  // condensed, 12 characters an inch
 constexpr std::string_view sixPerInch =
     "\x1B"
     "2";                                                // lines
@@ -49,12 +49,12 @@ public:
 
     void preparePrinter();
     // The job for it is open.
-    void print(const GridRow& documento);
+    void print(const GridRow& document);
     int printed() const { return printed_; }
 
 private:
     void sendQuery(const std::string& query);
-    void save(const GridRow& documento, const SlipNumber& number);
+    void save(const GridRow& document, const SlipNumber& number);
     void account();
     void send(std::string_view sequence);
 
@@ -68,14 +68,14 @@ private:
 };
 
 void SlipJob::send(std::string_view sequence) {
-    std::string texto(sequence);
-    channel_.ImprimeRaw(1, texto, 0);
+    std::string text(sequence);
+    channel_.ImprimeRaw(1, text, 0);
 }
 
 // A job of its own, then the slip's.
 void SlipJob::preparePrinter() {
     channel_.open();
-    send(doze);
+    send(twelve);
     channel_.close();
     channel_.open();
     send(sixPerInch);
@@ -86,14 +86,14 @@ void SlipJob::sendQuery(const std::string& query) {
     environment_.http.get(environment_.baseUrl + query);
 }
 
-void SlipJob::save(const GridRow& documento, const SlipNumber& number) {
-    const commands::Slip slip{.branch = documento.coluna(slip_column::establishment),
-                              .documentKind = documento.coluna(slip_column::documentKind),
-                              .documento = documento.coluna(slip_column::number),
-                              .controlNumber = documento.coluna(slip_column::controlNumber),
+void SlipJob::save(const GridRow& document, const SlipNumber& number) {
+    const commands::Slip slip{.branch = document.column(slip_column::establishment),
+                              .documentKind = document.column(slip_column::documentKind),
+                              .document = document.column(slip_column::number),
+                              .controlNumber = document.column(slip_column::controlNumber),
                               .portfolio = portfolio_.ID_CRT_COB,
                               .bankNumber = number.NR_BOL_BANC};
-    const bool forCollection = documento.coluna(slip_column::table) == "DOCTO_COBRANCA";
+    const bool forCollection = document.column(slip_column::table) == "DOCTO_COBRANCA";
     const bool isWallet57 = portfolio_.isWallet57();
     const auto key = isWallet57 ? commands::ControlKey::ID_NR_CTL : commands::ControlKey::ID_NR_CLT;
     sendQuery(forCollection ? commands::altera_docto_cob(session_, slip)
@@ -105,17 +105,17 @@ void SlipJob::save(const GridRow& documento, const SlipNumber& number) {
 }
 
 // The document of a bank without a form leaves its job open.
-void SlipJob::print(const GridRow& documento) {
+void SlipJob::print(const GridRow& document) {
     if (!isServedBank(includesPortfolio_ ? portfolio_.ID_PES_BAN
-                                         : documento.coluna(slip_column::bank))) {
+                                         : document.column(slip_column::bank))) {
         return;
     }
     const SlipNumber number = running_.slipNumber();
-    save(documento, number);
+    save(document, number);
     if (portfolio_.isWallet57()) {
-        printWallet57Lines(channel_, documento, number);
+        printWallet57Lines(channel_, document, number);
     } else {
-        printSevenDigitLines(channel_, documento, number);
+        printSevenDigitLines(channel_, document, number);
     }
     channel_.close();
     account();
@@ -132,10 +132,10 @@ void SlipJob::account() {
 // Tells how many of the ticked rows are done with.
 class Count {
 public:
-    Count(const Progress& report, std::span<const GridRow> linhas)
+    Count(const Progress& report, std::span<const GridRow> lines)
         : callback_(report),
           total_(static_cast<std::size_t>(std::count_if(
-              linhas.begin(), linhas.end(), [](const GridRow& l) { return l.ticked; }))) {
+              lines.begin(), lines.end(), [](const GridRow& l) { return l.ticked; }))) {
         say();
     }
     void advance() {
@@ -158,15 +158,14 @@ private:
 }  // namespace
 
 void printSlips(Environment& environment, const Sessao& session, const Portfolio& portfolio,
-                const SlipRun& request, std::span<const GridRow> linhas,
-                const SlipRunView& screen) {
+                const SlipRun& request, std::span<const GridRow> lines, const SlipRunView& screen) {
     SlipJob slipJob(environment, session, portfolio, request);
-    Count count(screen.progress, linhas);
-    for (std::size_t i = 0; i < linhas.size(); ++i) {
-        if (linhas[i].ticked) {
+    Count count(screen.progress, lines);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (lines[i].ticked) {
             slipJob.preparePrinter();
             screen.untick(i);
-            slipJob.print(linhas[i]);
+            slipJob.print(lines[i]);
             count.advance();
         }
         screen.passed();

@@ -33,6 +33,6 @@ struct SlipRun {
 // number or a portfolio that can't be worked with, ArgumentoInvalido when the number
 // has no next one, Estouro past 32767 slips; what was written and printed stays.
 void printSlips(Environment& environment, const Sessao& session, const Portfolio& portfolio,
-                const SlipRun& request, std::span<const GridRow> linhas, const SlipRunView& screen);
+                const SlipRun& request, std::span<const GridRow> lines, const SlipRunView& screen);
 
 }  // namespace tarn

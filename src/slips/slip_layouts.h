@@ -8,8 +8,8 @@
 
 namespace tarn {
 
-void printWallet57Lines(RawChannel& channel, const GridRow& documento, const SlipNumber& number);
+void printWallet57Lines(RawChannel& channel, const GridRow& document, const SlipNumber& number);
 // Every other wallet.
-void printSevenDigitLines(RawChannel& channel, const GridRow& documento, const SlipNumber& number);
+void printSevenDigitLines(RawChannel& channel, const GridRow& document, const SlipNumber& number);
 
 }  // namespace tarn

@@ -23,8 +23,8 @@ int digitValue(char character) {
     return character - '0';
 }
 
-void requireSize(std::string_view texto, std::size_t minimum, std::string_view detail) {
-    if (lengthOf(texto) < minimum) {
+void requireSize(std::string_view text, std::size_t minimum, std::string_view detail) {
+    if (lengthOf(text) < minimum) {
         throw RuntimeError(RuntimeErrorCode::InvalidArgument, detail);
     }
 }
@@ -72,31 +72,31 @@ RunningNumber::RunningNumber(const Portfolio& portfolio, std::string_view typed)
         throw RuntimeError(RuntimeErrorCode::TypeMismatch, "número do próximo boleto");
     }
     const double number = readComma(typed);
-    texto_ = portfolio.isWallet57() ? numberText(number) : sevenDigits(number);
+    text_ = portfolio.isWallet57() ? numberText(number) : sevenDigits(number);
 }
 
 SlipNumber RunningNumber::slipNumber() const {
     if (portfolio_.isWallet57()) {
-        std::string digits = thirteenDigits(readComma(texto_));
+        std::string digits = thirteenDigits(readComma(text_));
         const int digit =
             DigitoModulo10(digits, portfolio_.CD_AGE_BAN_CNAB, portfolio_.NR_CCOR_CNAB);
-        return {.digits = std::move(digits), .digit = digit, .NR_BOL_BANC = texto_};
+        return {.digits = std::move(digits), .digit = digit, .NR_BOL_BANC = text_};
     }
-    const int digit = DigitoModulo11(texto_);
-    return {.digits = texto_, .digit = digit, .NR_BOL_BANC = texto_ + std::to_string(digit)};
+    const int digit = DigitoModulo11(text_);
+    return {.digits = text_, .digit = digit, .NR_BOL_BANC = text_ + std::to_string(digit)};
 }
 
 void RunningNumber::advance() {
-    texto_ = numberText(readComma(texto_) + 1);
+    text_ = numberText(readComma(text_) + 1);
     if (portfolio_.isWallet57()) {
         return;
     }
     constexpr std::size_t figures = modulo11Weights.size();
-    if (texto_.size() > figures) {
+    if (text_.size() > figures) {
         throw RuntimeError(RuntimeErrorCode::InvalidArgument,
                            "o número do próximo boleto tem mais de 7 algarismos");
     }
-    texto_.insert(0, figures - texto_.size(), '0');
+    text_.insert(0, figures - text_.size(), '0');
 }
 
 }  // namespace tarn

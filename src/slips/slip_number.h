@@ -39,7 +39,7 @@ public:
 
 private:
     const Portfolio& portfolio_;
-    std::string texto_;
+    std::string text_;
 };
 
 }  // namespace tarn

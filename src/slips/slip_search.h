@@ -25,7 +25,7 @@ inline constexpr std::size_t number = 5;
 inline constexpr std::size_t customer = 6;
 inline constexpr std::size_t issued = 7;
 inline constexpr std::size_t address = 8;
-inline constexpr std::size_t valor = 9;  // "###,##0.00"
+inline constexpr std::size_t value = 9;  // "###,##0.00"
 inline constexpr std::size_t cep = 10;
 inline constexpr std::size_t town = 11;
 inline constexpr std::size_t state = 12;
@@ -57,7 +57,7 @@ struct SlipFilter {
 // Why a search or a print isn't begun: what the box says, and where the focus goes.
 enum class SlipSearchField { IssuedFrom, DueTo, PortfolioField, BankNumber };
 struct SlipRefusal {
-    std::string_view texto;
+    std::string_view text;
     SlipSearchField field;
 };
 std::optional<SlipRefusal> searchRefusal(const commands::SearchFilter& documents,

@@ -7,7 +7,7 @@ namespace tarn {
 void fillList(QComboBox& list, std::span<const ListItem> items) {
     list.clear();
     for (const ListItem& item : items) {
-        list.addItem(QString::fromStdString(item.texto), item.data);
+        list.addItem(QString::fromStdString(item.text), item.data);
     }
     list.setCurrentIndex(0);
 }

@@ -6,12 +6,12 @@
 
 namespace tarn {
 
-bool enterPressesButton(const QDialog& dialog, const QKeyEvent& tecla) {
-    if (tecla.key() != Qt::Key_Return && tecla.key() != Qt::Key_Enter) {
+bool enterPressesButton(const QDialog& dialog, const QKeyEvent& key) {
+    if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter) {
         return false;
     }
     auto* button = qobject_cast<QPushButton*>(dialog.focusWidget());
-    if (button != nullptr && !tecla.isAutoRepeat()) {
+    if (button != nullptr && !key.isAutoRepeat()) {
         button->click();
     }
     return true;

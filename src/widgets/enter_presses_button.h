@@ -9,6 +9,6 @@ namespace tarn {
 // Enter presses a button that has the focus and no other, but not when it is held down
 // since a field or a box before. False for any other key, which is the dialog's own
 // matter.
-bool enterPressesButton(const QDialog& dialog, const QKeyEvent& tecla);
+bool enterPressesButton(const QDialog& dialog, const QKeyEvent& key);
 
 }  // namespace tarn

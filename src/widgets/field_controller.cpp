@@ -98,9 +98,9 @@ bool FieldController::passes(QChar character) {
     if (filter_ == KeyFilter::None) {
         return true;
     }
-    auto tecla = static_cast<std::int16_t>(character.unicode());
-    return (filter_ == KeyFilter::Decimal ? SoNumeroVirgula(tecla, environment_.machine)
-                                          : SoNumeroInteiro(tecla, environment_.machine)) != 0;
+    auto key = static_cast<std::int16_t>(character.unicode());
+    return (filter_ == KeyFilter::Decimal ? SoNumeroVirgula(key, environment_.machine)
+                                          : SoNumeroInteiro(key, environment_.machine)) != 0;
 }
 
 void FieldController::focusIn(Qt::FocusReason reason) {

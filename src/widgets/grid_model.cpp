@@ -7,31 +7,31 @@ namespace tarn {
 GridModel::GridModel(std::span<const GridColumn> columns, QObject* parent)
     : QAbstractTableModel(parent), columns_(columns) {}
 
-void GridModel::show(std::vector<GridRow> linhas) {
+void GridModel::show(std::vector<GridRow> lines) {
     beginResetModel();
-    linhas_ = std::move(linhas);
+    lines_ = std::move(lines);
     endResetModel();
 }
 
-void GridModel::tick(int number, bool valor) {
-    linhas_.at(static_cast<std::size_t>(number)).ticked = valor;
+void GridModel::tick(int number, bool value) {
+    lines_.at(static_cast<std::size_t>(number)).ticked = value;
     const QModelIndex box = index(number, 0);
     emit dataChanged(box, box, {Qt::CheckStateRole});
 }
 
 void GridModel::toggleByLastRow() {
-    if (linhas_.empty()) {
+    if (lines_.empty()) {
         return;
     }
-    const bool valor = !linhas_.back().ticked;
-    for (GridRow& linha : linhas_) {
-        linha.ticked = valor;
+    const bool value = !lines_.back().ticked;
+    for (GridRow& line : lines_) {
+        line.ticked = value;
     }
     emit dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::CheckStateRole});
 }
 
 int GridModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(linhas_.size());
+    return parent.isValid() ? 0 : static_cast<int>(lines_.size());
 }
 
 int GridModel::columnCount(const QModelIndex& parent) const {
@@ -42,7 +42,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) {
         return {};
     }
-    const ColumnKind kind = coluna(index.column()).kind;
+    const ColumnKind kind = column(index.column()).kind;
     if (kind == ColumnKind::CheckBox) {
         return role == Qt::CheckStateRole
                    ? QVariant(ticked(index.row()) ? Qt::Checked : Qt::Unchecked)
@@ -52,7 +52,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
     }
     const auto cell = static_cast<std::size_t>(index.column());
-    const std::vector<std::string>& cells = linha(index.row()).cells;
+    const std::vector<std::string>& cells = line(index.row()).cells;
     if (role != Qt::DisplayRole || cell >= cells.size()) {
         return {};
     }
@@ -69,7 +69,7 @@ bool GridModel::setData(const QModelIndex& index, const QVariant& value, int rol
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
     const Qt::ItemFlags shared = QAbstractTableModel::flags(index);
-    const bool box = index.isValid() && coluna(index.column()).kind == ColumnKind::CheckBox;
+    const bool box = index.isValid() && column(index.column()).kind == ColumnKind::CheckBox;
     return box ? shared | Qt::ItemIsUserCheckable : shared;
 }
 
@@ -77,7 +77,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     if (orientation == Qt::Vertical) {
         return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
     }
-    const GridColumn& which = coluna(section);
+    const GridColumn& which = column(section);
     if (role == Qt::DisplayRole) {
         return QString::fromUtf8(which.title);
     }

@@ -13,12 +13,12 @@ class QWidget;
 
 namespace tarn {
 
-enum class ColumnKind { Texto, Number, CheckBox };  // a check box stands in the first column
+enum class ColumnKind { Text, Number, CheckBox };  // a check box stands in the first column
 
 struct GridColumn {
     const char* title;
-    int largura;  // characters; 0: kept for the printing, not shown
-    ColumnKind kind = ColumnKind::Texto;
+    int width;  // characters; 0: kept for the printing, not shown
+    ColumnKind kind = ColumnKind::Text;
     bool headingTicksAll = true;  // of a check box column
 };
 
@@ -30,19 +30,19 @@ public:
     GridModel(std::span<const GridColumn> columns, QObject* parent);
 
     // Takes the place of all rows; costs O(1) a row.
-    void show(std::vector<GridRow> linhas);
-    const std::vector<GridRow>& linhas() const { return linhas_; }
-    const GridRow& linha(int number) const { return linhas_.at(static_cast<std::size_t>(number)); }
+    void show(std::vector<GridRow> lines);
+    const std::vector<GridRow>& lines() const { return lines_; }
+    const GridRow& line(int number) const { return lines_.at(static_cast<std::size_t>(number)); }
 
-    bool ticked(int number) const { return linha(number).ticked; }
-    void tick(int number, bool valor);
+    bool ticked(int number) const { return line(number).ticked; }
+    void tick(int number, bool value);
     // Every row gets the opposite of the last row's tick.
     void toggleByLastRow();
 
-    const GridColumn& coluna(int number) const {
+    const GridColumn& column(int number) const {
         return columns_[static_cast<std::size_t>(number)];
     }
-    bool hasCheckBox() const { return coluna(0).kind == ColumnKind::CheckBox; }
+    bool hasCheckBox() const { return column(0).kind == ColumnKind::CheckBox; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -53,7 +53,7 @@ public:
 
 private:
     std::span<const GridColumn> columns_;
-    std::vector<GridRow> linhas_;
+    std::vector<GridRow> lines_;
 };
 
 // Shows the model in the grid: widths, hidden columns, row heights. With a check box
@@ -63,6 +63,6 @@ void prepareGrid(QTableView& grid, GridModel& model);
 
 // Makes the screen large enough for so many rows and all shown columns of its grid, as
 // far as the monitor goes.
-void fitToGrid(QWidget& screen, const QTableView& grid, int linhas);
+void fitToGrid(QWidget& screen, const QTableView& grid, int lines);
 
 }  // namespace tarn

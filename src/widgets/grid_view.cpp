@@ -78,12 +78,12 @@ private:
 void prepareBox(QTableView& grid, GridModel& model) {
     grid.setItemDelegateForColumn(0, new CheckBoxInCell(&grid));
     new SpaceKey(grid, model);
-    if (!model.coluna(0).headingTicksAll) {
+    if (!model.column(0).headingTicksAll) {
         return;
     }
     QObject::connect(grid.horizontalHeader(), &QHeaderView::sectionClicked, &model,
-                     [&model](int coluna) {
-                         if (coluna == 0) {
+                     [&model](int column) {
+                         if (column == 0) {
                              model.toggleByLastRow();
                          }
                      });
@@ -94,12 +94,11 @@ void prepareBox(QTableView& grid, GridModel& model) {
 void prepareGrid(QTableView& grid, GridModel& model) {
     grid.setModel(&model);
     const int character = grid.fontMetrics().averageCharWidth();
-    for (int coluna = 0; coluna < model.columnCount(); ++coluna) {
-        const GridColumn& which = model.coluna(coluna);
+    for (int column = 0; column < model.columnCount(); ++column) {
+        const GridColumn& which = model.column(column);
         const bool box = which.kind == ColumnKind::CheckBox;
-        grid.setColumnHidden(coluna, which.largura == 0 && !box);
-        grid.setColumnWidth(coluna,
-                            (which.largura == 0 ? checkBoxWidth : which.largura) * character);
+        grid.setColumnHidden(column, which.width == 0 && !box);
+        grid.setColumnWidth(column, (which.width == 0 ? checkBoxWidth : which.width) * character);
     }
     grid.horizontalHeader()->setSectionsClickable(true);
     grid.horizontalHeader()->setHighlightSections(false);
@@ -110,15 +109,15 @@ void prepareGrid(QTableView& grid, GridModel& model) {
     }
 }
 
-void fitToGrid(QWidget& screen, const QTableView& grid, int linhas) {
+void fitToGrid(QWidget& screen, const QTableView& grid, int lines) {
     screen.ensurePolished();
     const int frame = 2 * grid.frameWidth();
     const int height = grid.horizontalHeader()->sizeHint().height() +
-                       grid.verticalHeader()->defaultSectionSize() * linhas + frame;
-    const int largura = grid.horizontalHeader()->length() +
-                        grid.verticalHeader()->sizeHint().width() +
-                        grid.verticalScrollBar()->sizeHint().width() + frame;
-    const QSize missing = QSize(largura, height) - grid.sizeHint();
+                       grid.verticalHeader()->defaultSectionSize() * lines + frame;
+    const int width = grid.horizontalHeader()->length() +
+                      grid.verticalHeader()->sizeHint().width() +
+                      grid.verticalScrollBar()->sizeHint().width() + frame;
+    const QSize missing = QSize(width, height) - grid.sizeHint();
     screen.resize((screen.sizeHint() + missing)
                       .expandedTo(screen.sizeHint())
                       .boundedTo(screen.screen()->availableSize() * monitorPart));

@@ -107,13 +107,13 @@ void applyLook(QApplication& program) {
     translateToolkit(program);
 }
 
-QIcon picture(const QString& nome) {
-    return QIcon(QStringLiteral(":/desk/%1.svg").arg(nome));
+QIcon picture(const QString& name) {
+    return QIcon(QStringLiteral(":/desk/%1.svg").arg(name));
 }
 
-void setIcon(QPushButton& button, const char* nome) {
+void setIcon(QPushButton& button, const char* name) {
     const int side = button.fontMetrics().height() * 3 / 2;
-    button.setIcon(picture(QLatin1StringView(nome)));
+    button.setIcon(picture(QLatin1StringView(name)));
     button.setIconSize({side, side});
 }
 

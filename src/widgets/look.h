@@ -12,8 +12,8 @@ void applyLook(QApplication& program);
 
 // A picture drawn for the program (":/desk/<nome>.svg"), sharp at any scale. Drawn
 // when first shown.
-QIcon picture(const QString& nome);
+QIcon picture(const QString& name);
 // The same on a button that also has a text.
-void setIcon(QPushButton& button, const char* nome);
+void setIcon(QPushButton& button, const char* name);
 
 }  // namespace tarn

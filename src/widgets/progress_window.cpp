@@ -35,7 +35,7 @@ void ProgressWindow::report(std::size_t doneRows, std::size_t total) {
     if (window_) {
         bar_->setRange(0, static_cast<int>(total));
         bar_->setValue(static_cast<int>(doneRows));
-        texto_->setText(QStringLiteral("Imprimindo: %1 de %2").arg(doneRows).arg(total));
+        text_->setText(QStringLiteral("Imprimindo: %1 de %2").arg(doneRows).arg(total));
     }
     if (opened || end || painting_.elapsed() >= intervalMs) {
         repaint();
@@ -50,15 +50,15 @@ void ProgressWindow::open() {
                                         Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     window_->setObjectName(QStringLiteral("andamento"));
     window_->setWindowTitle(QStringLiteral("Impressão"));
-    auto* coluna = new QVBoxLayout(window_.get());
-    texto_ = new QLabel(window_.get());
-    texto_->setObjectName(QStringLiteral("lblAndamento"));
+    auto* column = new QVBoxLayout(window_.get());
+    text_ = new QLabel(window_.get());
+    text_->setObjectName(QStringLiteral("lblAndamento"));
     bar_ = new QProgressBar(window_.get());
     bar_->setObjectName(QStringLiteral("barAndamento"));
     bar_->setAccessibleName(QStringLiteral("Andamento da impressão"));
     bar_->setMinimumWidth(barWidth * window_->fontMetrics().averageCharWidth());
-    coluna->addWidget(texto_);
-    coluna->addWidget(bar_);
+    column->addWidget(text_);
+    column->addWidget(bar_);
     window_->adjustSize();
     window_->move(screen_.mapToGlobal(screen_.rect().center()) - window_->rect().center());
     hourglass_.emplace();

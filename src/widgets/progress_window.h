@@ -40,7 +40,7 @@ private:
     QElapsedTimer start_;
     QElapsedTimer painting_;  // since the windows last repainted
     std::unique_ptr<QWidget> window_;
-    QLabel* texto_ = nullptr;
+    QLabel* text_ = nullptr;
     QProgressBar* bar_ = nullptr;
     std::optional<WaitCursor> hourglass_;
 };

@@ -23,9 +23,9 @@ void prepareCustomerField(QLineEdit& field, Environment& environment) {
     new FieldController(&field, KeyFilter::None, environment, FieldController::EnterKey::TabOnly);
 }
 
-void showCustomer(QLineEdit& field, const std::string& id, const std::string& nome) {
+void showCustomer(QLineEdit& field, const std::string& id, const std::string& name) {
     field.setProperty(tag, QString::fromStdString(id));
-    field.setText(QString::fromStdString(nome));
+    field.setText(QString::fromStdString(name));
     field.setCursorPosition(0);
 }
 

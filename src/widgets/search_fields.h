@@ -14,7 +14,7 @@ struct Environment;
 // Shows a name that is chosen elsewhere; looks read-only, and Enter is a Tab stroke.
 void prepareCustomerField(QLineEdit& field, Environment& environment);
 // `id` goes along behind the name; both empty for all customers.
-void showCustomer(QLineEdit& field, const std::string& id, const std::string& nome);
+void showCustomer(QLineEdit& field, const std::string& id, const std::string& name);
 std::string customerId(const QLineEdit& field);
 
 // Date fields as wide as a date. They belong to their screens.

@@ -4,7 +4,9 @@
 
 #include "tests/apps/tarnimprime_run.h"
 
-namespace tarn::print {
+namespace tarn::test {
+
+using namespace print;
 namespace {
 
 std::string billData(const std::string& name) {
@@ -158,4 +160,4 @@ TEST_F(TarnimprimeBills, WhatIsMissingOnTheCommandLineIsWrongUsage) {
 }
 
 }  // namespace
-}  // namespace tarn::print
+}  // namespace tarn::test

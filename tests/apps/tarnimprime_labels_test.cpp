@@ -4,7 +4,9 @@
 
 #include "tests/apps/tarnimprime_run.h"
 
-namespace tarn::print {
+namespace tarn::test {
+
+using namespace print;
 namespace {
 
 std::string labelData(const std::string& name) {
@@ -187,4 +189,4 @@ TEST_F(TarnimprimeLabels, ARowThatIsNotThereIsWrongUsage) {
 }
 
 }  // namespace
-}  // namespace tarn::print
+}  // namespace tarn::test

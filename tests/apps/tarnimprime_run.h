@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace tarn::print {
+namespace tarn::test {
 
 namespace fs = std::filesystem;
 
@@ -68,4 +68,4 @@ protected:
     fs::path room_;
 };
 
-}  // namespace tarn::print
+}  // namespace tarn::test

@@ -1,7 +1,9 @@
 // The slips of tarnimprime and the rules of their numbers.
 #include "tests/apps/tarnimprime_run.h"
 
-namespace tarn::print {
+namespace tarn::test {
+
+using namespace print;
 namespace {
 
 constexpr char selectOne[] = "TArn: Selecione um item na Lista!     \n";
@@ -167,4 +169,4 @@ TEST_F(Tarnimprime, CheckDigits) {
 }
 
 }  // namespace
-}  // namespace tarn::print
+}  // namespace tarn::test

@@ -11,7 +11,9 @@
 #include <string>
 #include <vector>
 
-namespace tarn::print {
+namespace tarn::test {
+
+using namespace print;
 namespace {
 
 std::string data(const std::string& name) {
@@ -540,4 +542,4 @@ TEST_F(Tarnimprime, WrongUsageIsToldInPortuguese) {
 }
 
 }  // namespace
-}  // namespace tarn::print
+}  // namespace tarn::test

@@ -14,7 +14,7 @@
 namespace tarn::practice::test {
 namespace {
 
-constexpr int kPatience = 30000;  // milliseconds, for a slow machine
+constexpr int patience = 30000;  // milliseconds, for a slow machine
 
 class Program {
 public:
@@ -24,7 +24,7 @@ public:
     ~Program() {
         if (process_.state() != QProcess::NotRunning) {
             process_.kill();
-            process_.waitForFinished(kPatience);
+            process_.waitForFinished(patience);
         }
     }
     Program(const Program&) = delete;
@@ -32,7 +32,7 @@ public:
 
     // The port of the line on stdout; 0 when none comes.
     int port() {
-        while (!process_.canReadLine() && process_.waitForReadyRead(kPatience)) {
+        while (!process_.canReadLine() && process_.waitForReadyRead(patience)) {
         }
         line_ = QString::fromUtf8(process_.readLine());
         static const QRegularExpression form(
@@ -41,7 +41,7 @@ public:
         return match.hasMatch() ? match.captured(1).toInt() : 0;
     }
     void signalEnd(int number) { ::kill(static_cast<pid_t>(process_.processId()), number); }
-    bool finished() { return process_.waitForFinished(kPatience); }
+    bool finished() { return process_.waitForFinished(patience); }
     bool endedNormally() const { return process_.exitStatus() == QProcess::NormalExit; }
     int status() const { return process_.exitCode(); }
     std::string errors() { return process_.readAllStandardError().toStdString(); }
@@ -159,7 +159,7 @@ TEST(Tarnservidor, RefusesADatabaseOfAnotherVersion) {
     { const PracticeServer server(optionsOf(file.toStdString())); }
     {
         Database database(file.toStdString());
-        database.execute("UPDATE schema_version SET version = ?", {kSchemaVersion + 1});
+        database.execute("UPDATE schema_version SET version = ?", {schemaVersion + 1});
     }
     expectRefusal({"--porta", "0", "--banco", file}, "este servidor usa a versão");
 }

@@ -9,7 +9,7 @@
 #include "tests/billing/frm_oft_fixture.h"
 #include "widgets/free_text_field.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 constexpr std::array<const char*, 12> fields{
@@ -540,4 +540,4 @@ TEST_F(FrmManutDetOFTTest, TheListEmptiedUnderTheObservationOpensNothing) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

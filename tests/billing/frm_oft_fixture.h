@@ -13,7 +13,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 
 inline constexpr char listQuery[] = "comando=sel_ordem_fatu&ID_ETB_TARN=6001&ServerName=SRV1";
 inline constexpr char obsQuery[] =
@@ -111,4 +111,4 @@ protected:
     MDIMenu menu{desk};
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

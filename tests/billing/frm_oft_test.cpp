@@ -4,7 +4,7 @@
 
 #include "tests/billing/frm_oft_fixture.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 constexpr char sheetQuery[] =
@@ -318,4 +318,4 @@ TEST_F(FrmOFTTest, TheDeskCanBeLeftWithTheListOpen) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

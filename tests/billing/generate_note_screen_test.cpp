@@ -5,7 +5,7 @@
 
 #include "tests/billing/frm_oft_fixture.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 std::string noteFile(const char* name) {
@@ -285,4 +285,4 @@ TEST_F(GenerateNoteScreen, ADocumentWhoseStatusCantBeReadTellsOfTheNote) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -7,7 +7,7 @@
 #include "runtime/runtime_error.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 const std::string header = "<?xml version='1.0'?>";
@@ -19,19 +19,19 @@ Box transportFailure(const std::string& number) {
             .icon = BoxIcon::Critical,
             .title = "TarnEMISSAO - ERRO INESPERADO"};
 }
-Box exclamation(const std::string& texto, const std::string& title = "TarnEmissao") {
-    return {.text = texto, .icon = BoxIcon::Exclamation, .title = title};
+Box exclamation(const std::string& text, const std::string& title = "TarnEmissao") {
+    return {.text = text, .icon = BoxIcon::Exclamation, .title = title};
 }
 const Box searchFailed = exclamation(
     "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e tente "
     "novamente.",
     "Aviso");
 
-std::string observation(const std::string& texto) {
-    return header + "<R a='' s='OK'><L OBSERVACAO='" + texto + "'/></R>";
+std::string observation(const std::string& text) {
+    return header + "<R a='' s='OK'><L OBSERVACAO='" + text + "'/></R>";
 }
-std::string refuse(const std::string& texto) {
-    return header + "<R a='' s='" + texto + "'><L OBSERVACAO=''/></R>";
+std::string refuse(const std::string& text) {
+    return header + "<R a='' s='" + text + "'><L OBSERVACAO=''/></R>";
 }
 
 struct ScriptedAlert : AlertDialog {
@@ -61,16 +61,16 @@ protected:
     }
 
     // The observations are in order; these answer the rest.
-    void answers(const std::string& generation, const std::string& documento) {
-        seams_.loader.on("SP_GERA_NF", generation).on("sel_gera_nf", documento);
+    void answers(const std::string& generation, const std::string& document) {
+        seams_.loader.on("SP_GERA_NF", generation).on("sel_gera_nf", document);
     }
     GenerationEnd generate() {
         return generateNote(seams_.environment, session_, alert_, "12",
-                            [this](Environment&, const Sessao& session, XmlDocument& documento,
+                            [this](Environment&, const Sessao& session, XmlDocument& document,
                                    const std::string& note) {
                                 printed_.push_back(note + " " +
                                                    std::to_string(session.ID_ETB_TARN) + " " +
-                                                   documento.xml());
+                                                   document.xml());
                             });
     }
     void expectFatal() {
@@ -273,4 +273,4 @@ TEST_F(GenerateNoteTest, ThatCustomersRefusedDocumentIsOnlyShown) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

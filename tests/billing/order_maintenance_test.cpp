@@ -6,12 +6,12 @@
 #include "tests/support/answers.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 commands::OrderData values(std::string_view quantity, std::string_view gross,
                            std::string_view net) {
-    return {.ordem = "12",
+    return {.order = "12",
             .observation = "50% & | já",
             .quantity = quantity,
             .grossWeight = gross,
@@ -24,7 +24,7 @@ std::string refused(const commands::OrderData& data, OrderField field) {
         return "-";
     }
     EXPECT_EQ(refusal->field, field);
-    return std::string(refusal->texto);
+    return std::string(refusal->text);
 }
 
 TEST(DataRefusal, ZeroAndMorePass) {
@@ -98,4 +98,4 @@ TEST_F(SaveOrderTest, AnAnswerWithoutAStatusRaisesTheError) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -9,7 +9,7 @@
 #include "runtime/runtime_error.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -417,4 +417,4 @@ TEST_F(OrderSheetTest, OnlyOneCompanyHasTheSheetWithThePrice) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

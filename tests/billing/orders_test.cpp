@@ -5,7 +5,7 @@
 #include "runtime/runtime_error.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 const std::string header = "<?xml version='1.0'?>";
@@ -16,11 +16,11 @@ const std::string failure3 =
     "ERRO Tarn0003 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
     "Internet.";
 
-Box transportFailure(const std::string& texto) {
-    return {.text = texto, .icon = BoxIcon::Critical, .title = "TarnEMISSAO - ERRO INESPERADO"};
+Box transportFailure(const std::string& text) {
+    return {.text = text, .icon = BoxIcon::Critical, .title = "TarnEMISSAO - ERRO INESPERADO"};
 }
-Box exclamation(const std::string& texto, const std::string& title = "TarnEmissao") {
-    return {.text = texto, .icon = BoxIcon::Exclamation, .title = title};
+Box exclamation(const std::string& text, const std::string& title = "TarnEmissao") {
+    return {.text = text, .icon = BoxIcon::Exclamation, .title = title};
 }
 
 class OrdersTest : public testing::Test {
@@ -28,16 +28,16 @@ protected:
     OrdersTest() {
         session_.ID_ETB_TARN = 3381;
         session_.SERVERNAME = "SRV";
-        ordem_.cells[0] = "12";
-        ordem_.cells[5] = "34";
+        order_.cells[0] = "12";
+        order_.cells[5] = "34";
     }
 
-    std::vector<BillingOrder> load(const std::string& linhas) {
+    std::vector<BillingOrder> load(const std::string& lines) {
         seams_.loader.on("sel_ordem_fatu", header + "<xml xmlns:rs='r' xmlns:z='z'><rs:data>" +
-                                               linhas + "</rs:data></xml>");
+                                               lines + "</rs:data></xml>");
         return loadOrders(seams_.environment, session_);
     }
-    bool cancel() { return cancelOrder(seams_.environment, session_, ordem_); }
+    bool cancel() { return cancelOrder(seams_.environment, session_, order_); }
 
     const Box question_{.text = "Confirma o cancelamento da Ordem de Faturamento nº 12 ?     ",
                         .icon = BoxIcon::Question,
@@ -47,7 +47,7 @@ protected:
         "comando=sp_can_oft&id_etb_tarn=3381&id_ord_fat=12&id_ord_crg=34&ServerName=SRV";
     TestEnvironment seams_;
     Sessao session_;
-    BillingOrder ordem_;
+    BillingOrder order_;
 };
 
 TEST_F(OrdersTest, TwelveCellsARow) {
@@ -60,7 +60,7 @@ TEST_F(OrdersTest, TwelveCellsARow) {
                                                "34",    "T",     "M",      "a\nb",  "1.234.567,500",
                                                "0,001", "12,000"};
     EXPECT_EQ(orders[0].cells, expected);
-    EXPECT_EQ(orders[0].ordem(), "0012");
+    EXPECT_EQ(orders[0].order(), "0012");
     EXPECT_EQ(orders[0].loadOrder(), "34");
     EXPECT_EQ(seams_.loader.queries(),
               std::vector<std::string>{"comando=sel_ordem_fatu&ID_ETB_TARN=3381&ServerName=SRV"});
@@ -82,7 +82,7 @@ TEST_F(OrdersTest, NoValueOfARowBreaksTheList) {
     EXPECT_EQ(orders[1].cells[0], "") << "a prefixed name is another name";
     EXPECT_EQ(orders[1].cells[1], "") << "so is one in another case of letters";
     EXPECT_EQ(orders[1].cells[9], "12,000");
-    EXPECT_EQ(orders[2].ordem(), "3");
+    EXPECT_EQ(orders[2].order(), "3");
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
 
@@ -154,4 +154,4 @@ TEST_F(OrdersTest, CancelWithoutAStatus) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -9,7 +9,7 @@
 #include "tests/support/screen_test.h"
 #include "widgets/free_text_field.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 // The practice server on a free port, for the life of a test.
@@ -24,7 +24,7 @@ public:
     Practice& operator=(const Practice&) = delete;
 
     std::string baseUrl() const {
-        return "http://127.0.0.1:" + std::to_string(port_) + std::string(practice::kPagePath) + "?";
+        return "http://127.0.0.1:" + std::to_string(port_) + std::string(practice::pagePath) + "?";
     }
 
 private:
@@ -109,4 +109,4 @@ TEST_F(PracticeDeskTest, TheSheetOfAnOrderComesOut) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

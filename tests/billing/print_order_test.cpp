@@ -6,7 +6,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 const std::string problem =
@@ -76,4 +76,4 @@ TEST_F(PrintSelectedOrderTest, AnAnswerWithoutAStatusRaisesTheError) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

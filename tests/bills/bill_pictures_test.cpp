@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -18,8 +18,8 @@ protected:
         fs::create_directories(folder_);
     }
     void TearDown() override { fs::remove_all(folder_); }
-    void save(const char* nome, const std::string& bytes) const {
-        std::ofstream(folder_ / nome, std::ios::binary) << bytes;
+    void save(const char* name, const std::string& bytes) const {
+        std::ofstream(folder_ / name, std::ios::binary) << bytes;
     }
 
     fs::path folder_;
@@ -51,4 +51,4 @@ TEST_F(BillPicturesTest, WithoutAReadableFileThereIsNone) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

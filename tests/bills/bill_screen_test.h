@@ -12,14 +12,14 @@
 #include "tests/support/answers.h"
 #include "tests/support/screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 
-inline Box inform(const std::string& texto, const std::string& title = "TArn") {
-    return {texto, BoxIcon::Information, title};
+inline Box inform(const std::string& text, const std::string& title = "TArn") {
+    return {text, BoxIcon::Information, title};
 }
 
-inline Box transportFailure(const std::string& texto) {
-    return {texto, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
+inline Box transportFailure(const std::string& text) {
+    return {text, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
 }
 
 class BillScreenTest : public ScreenTest {
@@ -59,36 +59,36 @@ protected:
     }
 
     // Off-screen an open list takes the activation along.
-    static void choose(QWidget& screen, const char* list, int linha) {
-        pick(screen, list, linha);
+    static void choose(QWidget& screen, const char* list, int line) {
+        pick(screen, list, line);
         screen.activateWindow();
         ASSERT_TRUE(QTest::qWaitFor([&screen] { return QApplication::activeWindow() == &screen; }));
     }
     static std::string shown(const QWidget& screen, const char* field) {
         return named<QLineEdit>(screen, field).text().toStdString();
     }
-    static int linhas(const QWidget& screen) {
+    static int lines(const QWidget& screen) {
         return named<QTableView>(screen, "sprDados").model()->rowCount();
     }
     // Text of a cell; row and column from 1.
-    static std::string cell(const QWidget& screen, int linha, int coluna) {
+    static std::string cell(const QWidget& screen, int line, int column) {
         const QAbstractItemModel& model = *named<QTableView>(screen, "sprDados").model();
-        return model.index(linha - 1, coluna - 1).data().toString().toStdString();
+        return model.index(line - 1, column - 1).data().toString().toStdString();
     }
-    static bool ticked(const QWidget& screen, int linha) {
+    static bool ticked(const QWidget& screen, int line) {
         const QAbstractItemModel& model = *named<QTableView>(screen, "sprDados").model();
-        return model.index(linha - 1, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        return model.index(line - 1, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked;
     }
-    static void clickCell(const QWidget& screen, int linha, int coluna) {
+    static void clickCell(const QWidget& screen, int line, int column) {
         auto& grid = named<QTableView>(screen, "sprDados");
-        const QModelIndex cell = grid.model()->index(linha - 1, coluna - 1);
+        const QModelIndex cell = grid.model()->index(line - 1, column - 1);
         grid.scrollTo(cell);
         QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(cell).center());
     }
-    static void clickHeading(const QWidget& screen, int coluna) {
+    static void clickHeading(const QWidget& screen, int column) {
         QHeaderView& header = *named<QTableView>(screen, "sprDados").horizontalHeader();
         const int middle =
-            header.sectionViewportPosition(coluna - 1) + header.sectionSize(coluna - 1) / 2;
+            header.sectionViewportPosition(column - 1) + header.sectionSize(column - 1) / 2;
         QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
                           QPoint(middle, header.height() / 2));
     }
@@ -96,4 +96,4 @@ protected:
     MDIMenu menu{desk};
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

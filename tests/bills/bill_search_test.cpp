@@ -7,47 +7,47 @@
 #include "gateway/xml_document.h"
 #include "tests/support/answers.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
 
-std::vector<GridRow> rowsOf(const std::string& linhas) {
+std::vector<GridRow> rowsOf(const std::string& lines) {
     XmlDocument answer;
-    EXPECT_TRUE(answer.loadXML(answers::rowset(linhas)));
+    EXPECT_TRUE(answer.loadXML(answers::rowset(lines)));
     return billRows(answer);
 }
 
 TEST(BillRows, EachColumnTakesItsAttribute) {
-    const auto linhas = rowsOf(
+    const auto lines = rowsOf(
         "<z:row SG_FIL='c2' DT_VNC_DOC_FMA='c3' DT_EMS_DOC='c4' NR_DOC='c5' NM_CLI_ETB='c6' "
         "DC_LG_CPL='c7' VL_PRN_DOC='1234567.895' CD_CEP='c9' NM_MUN='c10' SG_UF='c11' "
         "NR_CGC_CPL='1234567000189' CD_ICR_EST='c13' PES_JUR='1' TIPO_DOCTO='DOCTO_COBRANCA' "
         "ID_TIP_DOC='c16' ID_NR_CTL='c17' DC_REF_REC='c18' NR_DOC_NF='c19' EG_COB='c20' "
         "MUN_COB='c21' ES_COB='c22' CD_CEP_COB='c23'/>");
-    ASSERT_EQ(linhas.size(), 1U);
-    EXPECT_FALSE(linhas[0].ticked);
-    EXPECT_THAT(linhas[0].cells,
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_FALSE(lines[0].ticked);
+    EXPECT_THAT(lines[0].cells,
                 ElementsAre("", "c2", "c3", "c4", "c5", "c6", "c7", "1.234.567,90", "c9", "c10",
                             "c11", "01.234.567/0001-89", "c13", "J", "DOCTO_COBRANCA", "c16", "",
                             "c18", "c19", "c20", "c21", "c22", "c23"));
 }
 
 TEST(BillRows, AReceivableHasItsControlNumberInsteadOfTheReference) {
-    const auto linhas = rowsOf(
+    const auto lines = rowsOf(
         "<z:row TIPO_DOCTO='DOCTO_RECEBER' ID_NR_CTL='55' DC_REF_REC='x'/>"
         "<z:row ID_NR_CTL='55' DC_REF_REC='x'/>"
         "<z:row TIPO_DOCTO='docto_receber' ID_NR_CTL='55' DC_REF_REC='x'/>");
-    EXPECT_EQ(linhas[0].coluna(17), "55");
-    EXPECT_EQ(linhas[0].coluna(18), "");
+    EXPECT_EQ(lines[0].column(17), "55");
+    EXPECT_EQ(lines[0].column(18), "");
     for (std::size_t i : {1U, 2U}) {
-        EXPECT_EQ(linhas[i].coluna(17), "");
-        EXPECT_EQ(linhas[i].coluna(18), "x");
+        EXPECT_EQ(lines[i].column(17), "");
+        EXPECT_EQ(lines[i].column(18), "x");
     }
 }
 
 TEST(BillRows, TaxNumbersByTheKindOfPerson) {
-    const auto linhas = rowsOf(
+    const auto lines = rowsOf(
         "<z:row PES_JUR='0' NR_CGC_CPL='7654321'/>"
         "<z:row PES_JUR='0' NR_CGC_CPL='9912345678901'/>"
         "<z:row PES_JUR='00' NR_CGC_CPL='12345678901'/>"
@@ -55,7 +55,7 @@ TEST(BillRows, TaxNumbersByTheKindOfPerson) {
         "<z:row PES_JUR='0'/>"
         "<z:row NR_CGC_CPL='ISENTO-é'/>");
     const auto pair = [&](std::size_t i) {
-        return linhas[i].coluna(12) + " " + linhas[i].coluna(14);
+        return lines[i].column(12) + " " + lines[i].column(14);
     };
     EXPECT_EQ(pair(0), "000.076.543-21 F");
     EXPECT_EQ(pair(1), "123.456.789-01 F");
@@ -66,12 +66,12 @@ TEST(BillRows, TaxNumbersByTheKindOfPerson) {
 }
 
 TEST(BillRows, AmountsAreReadWithAPoint) {
-    const auto linhas = rowsOf(
+    const auto lines = rowsOf(
         "<z:row VL_PRN_DOC='0.5'/><z:row VL_PRN_DOC=''/><z:row/><z:row VL_PRN_DOC='1.234,5'/>"
         "<z:row VL_PRN_DOC='-1234.005'/><z:row VL_PRN_DOC='A VISTA'/><z:row vl_prn_doc='7'/>");
     std::vector<std::string> values;
-    for (const GridRow& linha : linhas) {
-        values.push_back(linha.coluna(8));
+    for (const GridRow& line : lines) {
+        values.push_back(line.column(8));
     }
     EXPECT_THAT(values, ElementsAre("0,50", "0,00", "", "1,23", "-1.234,01", "0,00", ""));
 }
@@ -90,4 +90,4 @@ TEST(DocumentKinds, AreFixed) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

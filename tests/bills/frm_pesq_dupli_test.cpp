@@ -7,7 +7,7 @@
 
 #include "tests/bills/bill_screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -26,11 +26,11 @@ protected:
         click(screen, "cmdPesquisar");
     }
     void findBill(int count) {
-        std::string linhas;
+        std::string lines;
         for (int i = 1; i <= count; ++i) {
-            linhas += "<z:row NR_DOC='" + std::to_string(i) + "' ID_TIP_DOC='1'/>";
+            lines += "<z:row NR_DOC='" + std::to_string(i) + "' ID_TIP_DOC='1'/>";
         }
-        server.on("sel_duplicata", answers::rowset(linhas));
+        server.on("sel_duplicata", answers::rowset(lines));
     }
     void savePicture(const QString& file) const {
         QImage picture(96, 48, QImage::Format_RGB32);
@@ -64,7 +64,7 @@ TEST_F(FrmPesqDupliTest, OpensWithItsLists) {
                     ElementsAre("-------------=0", "DUPLICATA=1", "RECIBO=12"));
         EXPECT_EQ(position(screen, "cboFilial"), 0);
         EXPECT_EQ(position(screen, "cboTpDocto"), 0);
-        EXPECT_EQ(linhas(screen), 0);
+        EXPECT_EQ(lines(screen), 0);
     });
     EXPECT_THAT(server.queries(), ElementsAre(branchesQuery, deskQuery));
     EXPECT_THAT(boxes.shown, IsEmpty());
@@ -73,7 +73,7 @@ TEST_F(FrmPesqDupliTest, OpensWithItsLists) {
 TEST_F(FrmPesqDupliTest, SaysWhatItsFieldsAre) {
     withScreen([&](QWidget& screen) {
         EXPECT_EQ(screen.windowTitle(), QStringLiteral(" Duplicata/Recibo"));
-        const std::pair<const char*, const char*> legendas[] = {
+        const std::pair<const char*, const char*> captions[] = {
             {"lblTitulo", " Pesquisa de Documentos"},
             {"lblCliente", "Cliente"},
             {"lblFilial", "Filial"},
@@ -84,21 +84,21 @@ TEST_F(FrmPesqDupliTest, SaysWhatItsFieldsAre) {
             {"lblVencimento", "Data Vencto:"},
             {"lblVncDe", "De"},
             {"lblVncAte", "Até"}};
-        for (const auto& [nome, caption] : legendas) {
-            EXPECT_EQ(named<QLabel>(screen, nome).text().toStdString(), caption);
+        for (const auto& [name, caption] : captions) {
+            EXPECT_EQ(named<QLabel>(screen, name).text().toStdString(), caption);
         }
         EXPECT_EQ(named<QRadioButton>(screen, "optDupl").text(), QStringLiteral("Duplicata"));
         EXPECT_EQ(named<QRadioButton>(screen, "optTripl").text(), QStringLiteral("Triplicata"));
         EXPECT_TRUE(named<QRadioButton>(screen, "optDupl").isChecked());
         EXPECT_TRUE(named<QLineEdit>(screen, "txtCliente").isReadOnly());
         EXPECT_FALSE(named<QLineEdit>(screen, "txtSlip").isVisible());
-        for (const char* nome :
+        for (const char* name :
              {"cmdPesqCli", "cmdLimpar", "cmdPesquisar", "cmdImprimir", "cmdVoltar"}) {
-            EXPECT_FALSE(named<QPushButton>(screen, nome).toolTip().isEmpty()) << nome;
-            EXPECT_FALSE(named<QPushButton>(screen, nome).icon().isNull()) << nome;
+            EXPECT_FALSE(named<QPushButton>(screen, name).toolTip().isEmpty()) << name;
+            EXPECT_FALSE(named<QPushButton>(screen, name).icon().isNull()) << name;
         }
-        for (const char* nome : {"cmdPesqCli", "cmdLimpar"}) {
-            EXPECT_FALSE(named<QPushButton>(screen, nome).accessibleName().isEmpty()) << nome;
+        for (const char* name : {"cmdPesqCli", "cmdLimpar"}) {
+            EXPECT_FALSE(named<QPushButton>(screen, name).accessibleName().isEmpty()) << name;
         }
     });
 }
@@ -108,11 +108,11 @@ TEST_F(FrmPesqDupliTest, TheGridHasItsHeadings) {
         const auto& grid = named<QTableView>(screen, "sprDados");
         std::vector<std::string> titles;
         std::vector<int> kept;
-        for (int coluna = 0; coluna < grid.model()->columnCount(); ++coluna) {
+        for (int column = 0; column < grid.model()->columnCount(); ++column) {
             titles.push_back(
-                grid.model()->headerData(coluna, Qt::Horizontal).toString().toStdString());
-            if (grid.isColumnHidden(coluna)) {
-                kept.push_back(coluna + 1);
+                grid.model()->headerData(column, Qt::Horizontal).toString().toStdString());
+            if (grid.isColumnHidden(column)) {
+                kept.push_back(column + 1);
             }
         }
         EXPECT_THAT(titles, ElementsAre("", "Filial", "Dt.de Vencimento", "Dt.de Emissão",
@@ -198,7 +198,7 @@ TEST_F(FrmPesqDupliTest, ASearchForAll) {
                         "comando=sel_duplicata&ID_EMP_TARN=1361&ID_TIP_DOC=12&ID_PES_CLI="
                         "&ID_ETB_TARN=&DT_VNC_DE=&DT_VNC_ATE=31/12/2012&DT_EMS_DE=&DT_EMS_ATE="
                         "&ID_PES_USU=77&ServerName=SRV1"));
-        EXPECT_EQ(linhas(screen), 2);
+        EXPECT_EQ(lines(screen), 2);
         EXPECT_EQ(cell(screen, 2, 5), "2");
         EXPECT_FALSE(ticked(screen, 1) || ticked(screen, 2));
     });
@@ -277,7 +277,7 @@ TEST_F(FrmPesqDupliTest, TheWidestShortNameOfABranchIsReadWhole) {
         type(screen, "txtDtVncAte", "31032012");
         click(screen, "cmdPesquisar");
         const auto& grid = named<QTableView>(screen, "sprDados");
-        ASSERT_EQ(linhas(screen), 1);
+        ASSERT_EQ(lines(screen), 1);
         EXPECT_GE(grid.columnWidth(1), grid.sizeHintForIndex(grid.model()->index(0, 1)).width());
     });
 }
@@ -288,8 +288,8 @@ TEST_F(FrmPesqDupliTest, EnterPressesOnlyAButtonThatHasTheFocus) {
         choose(screen, "cboTpDocto", bill);
         type(screen, "txtDtVncAte", "31122012");
         server.addresses.clear();
-        for (const char* nome : {"txtCliente", "cboFilial", "cboTpDocto", "sprDados", "optDupl"}) {
-            named<QWidget>(screen, nome).setFocus();
+        for (const char* name : {"txtCliente", "cboFilial", "cboTpDocto", "sprDados", "optDupl"}) {
+            named<QWidget>(screen, name).setFocus();
             key(screen, Qt::Key_Return);
         }
         EXPECT_THAT(server.addresses, IsEmpty());
@@ -331,7 +331,7 @@ TEST_F(FrmPesqDupliTest, AFailedSearchLeavesTheGrid) {
         search(screen);
         clickCell(screen, 2, 1);
         search(screen, receipt);
-        EXPECT_EQ(linhas(screen), 2);
+        EXPECT_EQ(lines(screen), 2);
         EXPECT_TRUE(ticked(screen, 2));
         EXPECT_FALSE(named<QWidget>(screen, "optDupl").isVisible());
     });
@@ -346,7 +346,7 @@ TEST_F(FrmPesqDupliTest, NothingFoundEmptiesTheGridInSilence) {
     withScreen([&](QWidget& screen) {
         for (const int expected : {2, 0, 1, 0}) {
             search(screen);
-            EXPECT_EQ(linhas(screen), expected);
+            EXPECT_EQ(lines(screen), expected);
         }
     });
     EXPECT_THAT(boxes.shown, IsEmpty());
@@ -389,7 +389,7 @@ TEST_F(FrmPesqDupliTest, LimparEmptiesTheCustomerAlone) {
         EXPECT_EQ(position(screen, "cboFilial"), 1);
         EXPECT_EQ(position(screen, "cboTpDocto"), bill);
         EXPECT_EQ(shown(screen, "txtDtVncAte"), "31/12/2012");
-        EXPECT_EQ(linhas(screen), 1);
+        EXPECT_EQ(lines(screen), 1);
         EXPECT_THAT(server.addresses, IsEmpty());
         click(screen, "cmdPesquisar");
         EXPECT_NE(server.queries().back().find("&ID_PES_CLI=&"), std::string::npos);
@@ -408,7 +408,7 @@ TEST_F(FrmPesqDupliTest, TheCustomerDialogActivatesTheScreenAgain) {
         EXPECT_EQ(position(screen, "cboFilial"), 0) << "the choices are lost";
         EXPECT_EQ(position(screen, "cboTpDocto"), 0);
         EXPECT_EQ(shown(screen, "txtDtVncAte"), "31/12/2012");
-        EXPECT_EQ(linhas(screen), 2);
+        EXPECT_EQ(lines(screen), 2);
         EXPECT_TRUE(ticked(screen, 1));
     });
 }
@@ -439,7 +439,7 @@ TEST_F(FrmPesqDupliTest, EachWayOutUnloadsIt) {
         [](QWidget& screen) { screen.close(); }};
     for (const auto& out : ways) {
         withScreen([&](QWidget& screen) {
-            EXPECT_EQ(linhas(screen), 0);
+            EXPECT_EQ(lines(screen), 0);
             EXPECT_TRUE(named<QRadioButton>(screen, "optDupl").isChecked());
             EXPECT_EQ(shown(screen, "txtDtVncAte"), "");
             click(screen, "optTripl");
@@ -460,18 +460,18 @@ TEST_F(FrmPesqDupliTest, WhatIsPressedDuringARequestIsLost) {
         type(screen, "txtDtVncAte", "31122012");
         server.addresses.clear();
         QTimer::singleShot(0, &screen, [&screen] {
-            for (const int tecla : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Space}) {
+            for (const int key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Space}) {
                 QCoreApplication::postEvent(&named<QWidget>(screen, "cmdPesquisar"),
-                                            new QKeyEvent(QEvent::KeyPress, tecla, Qt::NoModifier));
+                                            new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
                 QCoreApplication::postEvent(&screen,
-                                            new QKeyEvent(QEvent::KeyPress, tecla, Qt::NoModifier));
+                                            new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
             }
             QCoreApplication::postEvent(&screen, new QCloseEvent);
         });
         click(screen, "cmdPesquisar");
         QCoreApplication::processEvents();
         EXPECT_TRUE(screen.isVisible());
-        EXPECT_EQ(linhas(screen), 3);
+        EXPECT_EQ(lines(screen), 3);
         EXPECT_EQ(server.addresses.size(), 1U);
     });
 }
@@ -498,4 +498,4 @@ TEST_F(FrmPesqDupliTest, APictureOfVeryManyDotsIsShownToo) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

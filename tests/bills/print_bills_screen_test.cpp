@@ -7,7 +7,7 @@
 #include "platform/qt/qt_printer.h"
 #include "tests/bills/bill_screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::Contains;
@@ -31,13 +31,11 @@ protected:
             .on("sel_dados_empresa",
                 answers::rowset("<z:row NM_FIL='F' DC_RAZ_SOC_ETB='EMPRESA' NR_CGC_CPL='1'/>"));
     }
-    static std::string linha(int number, const char* kind = "1") {
+    static std::string line(int number, const char* kind = "1") {
         return "<z:row NR_DOC='" + std::to_string(number) + "' ID_TIP_DOC='" + kind +
                "' VL_PRN_DOC='10.5' NM_CLI_ETB='JOSÉ' PES_JUR='1' NR_CGC_CPL='7'/>";
     }
-    void findBill(const std::string& linhas) {
-        server.on("sel_duplicata", answers::rowset(linhas));
-    }
+    void findBill(const std::string& lines) { server.on("sel_duplicata", answers::rowset(lines)); }
     void search(QWidget& screen, int kind = bill) {
         choose(screen, "cboTpDocto", kind);
         type(screen, "txtDtVncAte", "31122012");
@@ -54,7 +52,7 @@ protected:
 };
 
 TEST_F(PrintBillsScreenTest, TheTickedRowsInTheGridsOrder) {
-    findBill(linha(1) + linha(2) + linha(3));
+    findBill(line(1) + line(2) + line(3));
     withScreen([&](QWidget& screen) {
         search(screen);
         clickCell(screen, 3, 1);
@@ -73,7 +71,7 @@ TEST_F(PrintBillsScreenTest, TheTickedRowsInTheGridsOrder) {
 }
 
 TEST_F(PrintBillsScreenTest, NothingTicked) {
-    findBill(linha(1));
+    findBill(line(1));
     withScreen([&](QWidget& screen) {
         server.addresses.clear();
         click(screen, "cmdImprimir");
@@ -87,7 +85,7 @@ TEST_F(PrintBillsScreenTest, NothingTicked) {
 }
 
 TEST_F(PrintBillsScreenTest, TheOptionDecidesAlsoWhereItIsHidden) {
-    findBill(linha(1) + linha(2));
+    findBill(line(1) + line(2));
     withScreen([&](QWidget& screen) {
         click(screen, "optTripl");
         search(screen, receipt);
@@ -100,7 +98,7 @@ TEST_F(PrintBillsScreenTest, TheOptionDecidesAlsoWhereItIsHidden) {
 }
 
 TEST_F(PrintBillsScreenTest, TypesThatTheSearchForBillsBringsToo) {
-    findBill(linha(1, "341") + linha(2, "342") + linha(3, "361"));
+    findBill(line(1, "341") + line(2, "342") + line(3, "361"));
     withScreen([&](QWidget& screen) {
         search(screen);
         clickHeading(screen, 1);
@@ -116,7 +114,7 @@ TEST_F(PrintBillsScreenTest, ThePicturesAreThoseOfTheLastActivation) {
     QImage picture(20, 20, QImage::Format_RGB32);
     picture.fill(Qt::red);
     ASSERT_TRUE(picture.save(folder.filePath(QStringLiteral("LOGODUPL.jpg"))));
-    findBill(linha(1));
+    findBill(line(1));
     withScreen([&](QWidget& screen) {
         search(screen);
         clickCell(screen, 1, 1);
@@ -128,7 +126,7 @@ TEST_F(PrintBillsScreenTest, ThePicturesAreThoseOfTheLastActivation) {
 }
 
 TEST_F(PrintBillsScreenTest, APrinterThatRefusesIsToldAndTheScreenStays) {
-    findBill(linha(1));
+    findBill(line(1));
     printer.failAt = 3;  // the first line
     withScreen([&](QWidget& screen) {
         search(screen);
@@ -143,7 +141,7 @@ TEST_F(PrintBillsScreenTest, APrinterThatRefusesIsToldAndTheScreenStays) {
 }
 
 TEST_F(PrintBillsScreenTest, WithoutTheCompanyTheProgramEndsWithTheReport) {
-    findBill(linha(1));
+    findBill(line(1));
     withScreen([&](QWidget& screen) {
         search(screen);
         server.failOn("sel_dados_empresa&Id_Etb_Tarn=9");
@@ -159,9 +157,9 @@ TEST_F(PrintBillsScreenTest, WithoutTheCompanyTheProgramEndsWithTheReport) {
 }
 
 TEST_F(PrintBillsScreenTest, ARowWithoutAnAmountEndsTheProgramWithTheReport) {
-    std::string noValue = linha(2);
+    std::string noValue = line(2);
     noValue.erase(noValue.find("VL_PRN_DOC"), 18);
-    findBill(linha(1) + noValue);
+    findBill(line(1) + noValue);
     withScreen([&](QWidget& screen) {
         search(screen);
         ASSERT_EQ(cell(screen, 2, 8), "");
@@ -261,4 +259,4 @@ TEST_F(PrintBillsScreenTest, FiveHundredDocumentsAreTickedByOneClick) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -12,7 +12,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::Contains;
@@ -153,14 +153,14 @@ Operations job(std::initializer_list<Operations> pages) {
     return all;
 }
 
-std::string com(std::string linha, const std::string& field, const std::string& valor) {
-    const std::size_t start = linha.find(" " + field + "='") + field.size() + 3;
-    return linha.replace(start, linha.find('\'', start) - start, valor);
+std::string with(std::string line, const std::string& field, const std::string& value) {
+    const std::size_t start = line.find(" " + field + "='") + field.size() + 3;
+    return line.replace(start, line.find('\'', start) - start, value);
 }
-std::string without(std::string linha, const std::string& field) {
-    const std::size_t start = linha.find(" " + field + "='");
-    const std::size_t end = linha.find('\'', start + field.size() + 3);
-    return linha.erase(start, end + 1 - start);
+std::string without(std::string line, const std::string& field) {
+    const std::size_t start = line.find(" " + field + "='");
+    const std::size_t end = line.find('\'', start + field.size() + 3);
+    return line.erase(start, end + 1 - start);
 }
 
 class PrintBillsTest : public testing::Test {
@@ -172,21 +172,21 @@ protected:
         seams_.loader.on("sel_dados_empresa", answers::rowset(wholeCompany));
     }
     // The rows of the grid, all of them ticked.
-    void findBill(const std::string& linhas) {
+    void findBill(const std::string& lines) {
         XmlDocument answer;
-        ASSERT_TRUE(answer.loadXML(answers::rowset(linhas)));
-        linhas_ = billRows(answer);
-        for (GridRow& linha : linhas_) {
-            linha.ticked = true;
+        ASSERT_TRUE(answer.loadXML(answers::rowset(lines)));
+        lines_ = billRows(answer);
+        for (GridRow& line : lines_) {
+            line.ticked = true;
         }
     }
-    void company(const std::string& linha) {
+    void company(const std::string& line) {
         ScriptedLoader other;
-        seams_.loader = other.on("sel_dados_empresa", answers::rowset(linha));
+        seams_.loader = other.on("sel_dados_empresa", answers::rowset(line));
     }
     void print() {
         printSelected(seams_.environment, session_,
-                      {.linhas = linhas_, .triplicate = triplicate_, .pictures = pictures_},
+                      {.lines = lines_, .triplicate = triplicate_, .pictures = pictures_},
                       progress_);
     }
     Operations drawn() const { return seams_.printer.lines(); }
@@ -194,14 +194,14 @@ protected:
         seams_.printer.operations.clear();
         seams_.boxes.shown.clear();
     }
-    static Box message(const std::string& texto) { return {texto, BoxIcon::Information, "TArn"}; }
+    static Box message(const std::string& text) { return {text, BoxIcon::Information, "TArn"}; }
     static Box success(const std::string& kindName) {
         return message(kindName + " com sucesso!     ");
     }
 
     TestEnvironment seams_;
     Sessao session_;
-    std::vector<GridRow> linhas_;
+    std::vector<GridRow> lines_;
     bool triplicate_ = false;
     BillPictures pictures_{Picture("picLogo", "l"), Picture("picVert", "v"),
                            Picture("picAss", "a")};
@@ -267,9 +267,9 @@ TEST_F(PrintBillsTest, TwoCompaniesHaveAPayeeOfTheirOwn) {
 
 TEST_F(PrintBillsTest, NothingTickedStillAsksForTheCompany) {
     findBill(billRow);
-    linhas_[0].ticked = false;
+    lines_[0].ticked = false;
     print();
-    linhas_.clear();
+    lines_.clear();
     print();
     EXPECT_EQ(seams_.loader.addresses.size(), 2U);
     EXPECT_THAT(seams_.printer.operations, IsEmpty());
@@ -279,17 +279,17 @@ TEST_F(PrintBillsTest, NothingTickedStillAsksForTheCompany) {
 
 TEST_F(PrintBillsTest, EachRowHasItsPageAndTheLastRowTheMessage) {
     findBill(std::string(billRow) + receiptRow + billRow);
-    linhas_[2].ticked = false;
+    lines_[2].ticked = false;
     print();
     EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf(), receiptPageOf()})));
     EXPECT_THAT(seams_.boxes.shown, ElementsAre(success("Duplicata(s)  impressa(s)")));
     forget();
     findBill(std::string(receiptRow) + billRow + receiptRow);
-    linhas_[0].ticked = linhas_[2].ticked = false;
+    lines_[0].ticked = lines_[2].ticked = false;
     print();
     EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf()})));
     EXPECT_THAT(seams_.boxes.shown, ElementsAre(success("Recibo(s) impresso(s)")));
-    EXPECT_TRUE(linhas_[1].ticked) << "ticks stay";
+    EXPECT_TRUE(lines_[1].ticked) << "ticks stay";
 }
 
 TEST_F(PrintBillsTest, TypesAreNumbers) {
@@ -306,7 +306,7 @@ TEST_F(PrintBillsTest, TypesAreNumbers) {
         {"12", false, "Recibo(s) impresso(s)"},       {"", false, "Recibo(s) impresso(s)"},
         {"1A", false, "Recibo(s) impresso(s)"}};
     for (const auto& testCase : cases) {
-        findBill(com(billRow, "ID_TIP_DOC", testCase.kind));
+        findBill(with(billRow, "ID_TIP_DOC", testCase.kind));
         print();
         EXPECT_EQ(testing::Value(drawn(), Contains(arial(9.8, 5, 16, "RECIBO"))), !testCase.bill)
             << testCase.kind;
@@ -316,14 +316,14 @@ TEST_F(PrintBillsTest, TypesAreNumbers) {
 }
 
 TEST_F(PrintBillsTest, ABillToAPerson) {
-    findBill(com(com(billRow, "PES_JUR", "0"), "NR_CGC_CPL", "12345678901"));
+    findBill(with(with(billRow, "PES_JUR", "0"), "NR_CGC_CPL", "12345678901"));
     print();
     EXPECT_THAT(drawn(), Contains(arial(5.4, 8.7, 8, "CPF Nº")));
     EXPECT_THAT(drawn(), Contains(arial(9, 8.7, 8, "123.456.789-01")));
 }
 
 TEST_F(PrintBillsTest, AReceiptToACompany) {
-    findBill(com(receiptRow, "PES_JUR", "1"));
+    findBill(with(receiptRow, "PES_JUR", "1"));
     print();
     EXPECT_THAT(drawn(), Contains(arial(2, 8.6, 10, "CNPJ Nº")));
     EXPECT_THAT(drawn(), Contains(arial(5, 8.6, 10, "00.012.345/6789-01")));
@@ -333,27 +333,27 @@ TEST_F(PrintBillsTest, TheBillingAddress) {
     const auto towns = [this] {
         return std::ranges::count(drawn(), arial(5.4, 9.9, 8, "Município"));
     };
-    findBill(com(billRow, "EG_COB", "RUA DAS FLORES, 10"));
+    findBill(with(billRow, "EG_COB", "RUA DAS FLORES, 10"));
     print();
     EXPECT_THAT(drawn(), Contains(arial(9, 9.5, 8, "O MESMO")));
     EXPECT_EQ(towns(), 0);
     forget();
-    findBill(com(com(billRow, "EG_COB", ""), "DC_LG_CPL", ""));
+    findBill(with(with(billRow, "EG_COB", ""), "DC_LG_CPL", ""));
     print();
     EXPECT_THAT(drawn(), Contains(arial(9, 9.5, 8, "O MESMO"))) << "both empty";
     forget();
-    findBill(com(billRow, "EG_COB", ""));
+    findBill(with(billRow, "EG_COB", ""));
     print();
     EXPECT_THAT(drawn(), Contains(arial(9, 9.5, 8, "")));
     EXPECT_EQ(towns(), 1);
     forget();
-    findBill(com(billRow, "EG_COB", "RUA DAS FLORES, 10 "));
+    findBill(with(billRow, "EG_COB", "RUA DAS FLORES, 10 "));
     print();
     EXPECT_EQ(towns(), 1) << "a blank makes another address";
 }
 
 TEST_F(PrintBillsTest, AReceivableHasNoReference) {
-    findBill(com(receiptRow, "TIPO_DOCTO", "DOCTO_RECEBER"));
+    findBill(with(receiptRow, "TIPO_DOCTO", "DOCTO_RECEBER"));
     print();
     const std::string blanks60(60, ' ');
     EXPECT_THAT(drawn(), Contains(arial(2, 10.8, 10, "Referente a ")));
@@ -362,7 +362,7 @@ TEST_F(PrintBillsTest, AReceivableHasNoReference) {
 
 TEST_F(PrintBillsTest, ALongReferenceTakesFiveLines) {
     const std::string reference = std::string(59, 'a') + "çb" + std::string(238, 'c') + "dE" + "F";
-    findBill(com(receiptRow, "DC_REF_REC", reference));  // 302 characters
+    findBill(with(receiptRow, "DC_REF_REC", reference));  // 302 characters
     print();
     EXPECT_THAT(drawn(), testing::IsSupersetOf({courier(5, 10.8, 11, std::string(59, 'a') + "ç"),
                                                 courier(5, 11.2, 11, "b" + std::string(59, 'c')),
@@ -370,15 +370,15 @@ TEST_F(PrintBillsTest, ALongReferenceTakesFiveLines) {
 }
 
 TEST_F(PrintBillsTest, WordsThatAreTooLongAreCut) {
-    constexpr char valor[] = "777777777777.77";
-    findBill(com(billRow, "VL_PRN_DOC", valor));
+    constexpr char value[] = "777777777777.77";
+    findBill(with(billRow, "VL_PRN_DOC", value));
     print();
     std::string strip;
     for (const double y : {11.2, 11.6, 12.0}) {
-        for (const std::string& linha : drawn()) {
+        for (const std::string& line : drawn()) {
             const std::string start = courier(9, y, 10, "");
-            if (linha.rfind(start, 0) == 0) {
-                strip += linha.substr(start.size());
+            if (line.rfind(start, 0) == 0) {
+                strip += line.substr(start.size());
             }
         }
     }
@@ -390,7 +390,7 @@ TEST_F(PrintBillsTest, WordsThatAreTooLongAreCut) {
 }
 
 TEST_F(PrintBillsTest, ZeroHasNoWords) {
-    findBill(com(billRow, "VL_PRN_DOC", "0") + com(receiptRow, "VL_PRN_DOC", ""));
+    findBill(with(billRow, "VL_PRN_DOC", "0") + with(receiptRow, "VL_PRN_DOC", ""));
     print();
     EXPECT_THAT(drawn(), Contains(courier(9, 11.2, 10,
                                           " .X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X."
@@ -413,7 +413,7 @@ TEST_F(PrintBillsTest, ARowWithoutAnAmountStopsBeforeItsPage) {
     EXPECT_THAT(drawn(), ElementsAreArray(first)) << "not ended";
     EXPECT_THAT(seams_.boxes.shown, IsEmpty());
     forget();
-    linhas_[1].ticked = false;
+    lines_[1].ticked = false;
     print();
     EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf()})));
 }
@@ -471,12 +471,12 @@ TEST_F(PrintBillsTest, PicturesThatAreMissingLeaveTheRestInPlace) {
     findBill(std::string(billRow) + receiptRow);
     print();
     Operations expected = job({billPageOf(), receiptPageOf()});
-    std::erase_if(expected, [](const std::string& linha) { return linha.starts_with("picture"); });
+    std::erase_if(expected, [](const std::string& line) { return line.starts_with("picture"); });
     EXPECT_THAT(drawn(), ElementsAreArray(expected));
 }
 
 TEST_F(PrintBillsTest, ControlCharactersMoveNothing) {
-    findBill(com(com(billRow, "NM_CLI_ETB", "A&#10;B&#9;C"), "EG_COB", "RUA&#13;X"));
+    findBill(with(with(billRow, "NM_CLI_ETB", "A&#10;B&#9;C"), "EG_COB", "RUA&#13;X"));
     print();
     EXPECT_THAT(drawn(), Contains(arial(9, 7.5, 8, "A B C")));
     EXPECT_THAT(drawn(), Contains(arial(9, 9.5, 8, "RUA X")));
@@ -511,7 +511,7 @@ TEST_F(PrintBillsTest, TellsItsProgress) {
         many += receiptRow;
     }
     findBill(many);
-    linhas_[1].ticked = false;
+    lines_[1].ticked = false;
     std::vector<std::pair<std::size_t, std::size_t>> notices;
     progress_ = [&](std::size_t doneRows, std::size_t total) {
         notices.emplace_back(doneRows, total);
@@ -522,4 +522,4 @@ TEST_F(PrintBillsTest, TellsItsProgress) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -13,7 +13,7 @@
 #include "tests/support/screen_test.h"
 #include "widgets/free_text_field.h"
 
-namespace tarn {
+namespace tarn::test {
 
 inline constexpr char rightQuery[] =
     "Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName=SRV1&sTransacao=EMI005";
@@ -158,4 +158,4 @@ protected:
     std::vector<std::string> onOpening;
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -1,7 +1,7 @@
 // The cheque's screen under the clerk's hands: keys, mouse, clipboard.
 #include "tests/cheques/frm_cheque_fixture.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -336,4 +336,4 @@ TEST_F(FrmChequeTest, ALoneCommaIsNoAmount) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

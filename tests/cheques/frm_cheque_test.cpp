@@ -2,7 +2,7 @@
 
 #include "tests/cheques/frm_cheque_fixture.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -359,4 +359,4 @@ TEST_F(FrmChequeTest, AClickOnThePrintButtonLeavesTheFieldFirst) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

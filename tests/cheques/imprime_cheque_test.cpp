@@ -7,7 +7,7 @@
 #include "runtime/runtime_error.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using Writes = std::vector<std::string>;
@@ -293,4 +293,4 @@ TEST(BankCode, IsA16BitInteger) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

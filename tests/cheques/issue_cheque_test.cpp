@@ -7,7 +7,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -58,7 +58,7 @@ protected:
             return "-";
         }
         EXPECT_EQ(refusal->field, field);
-        return refusal->texto;
+        return refusal->text;
     }
     void townIs(const std::string& attributes) {
         seams_.loader.on("sel_dados_empresa", answers::rowset("<z:row " + attributes + "/>"));
@@ -74,7 +74,7 @@ protected:
                                                 .NR_OFI_BAN = " 033 "},
                          .number = " 000123 ",
                          .series = " aç1 ",
-                         .valor = " 1.234,22 ",
+                         .value = " 1.234,22 ",
                          .payee = " João & Filhos ",
                          .depositDate = " 15/03/2012 ",
                          .observation = " Compra de material, 2ª via "};
@@ -132,7 +132,7 @@ TEST_F(IssueChequeTest, AnAccountSpelledInAnotherCaseIsAnObjectError) {
 
 TEST_F(IssueChequeTest, TheTestsOfTheFieldsInTheirOrder) {
     const ChequeFields filled = fields_;
-    fields_ = {.account = std::nullopt, .number = " ", .series = " ", .valor = " "};
+    fields_ = {.account = std::nullopt, .number = " ", .series = " ", .value = " "};
     EXPECT_EQ(refusedAt(ChequeField::Account), "Banco/Ag./Conta é um campo obrigatório. ");
     fields_.account = filled.account;
     EXPECT_EQ(refusedAt(ChequeField::Number), "Nº Cheque é um campo obrigatório. ");
@@ -140,25 +140,25 @@ TEST_F(IssueChequeTest, TheTestsOfTheFieldsInTheirOrder) {
     EXPECT_EQ(refusedAt(ChequeField::Series), "Série é um campo obrigatório. ");
     fields_.series = "A";
     EXPECT_EQ(refusedAt(ChequeField::Amount), "Valor é um campo obrigatório. ");
-    fields_.valor = "0,00";
+    fields_.value = "0,00";
     EXPECT_EQ(refusedAt(ChequeField::Amount), "Valor deve ser maior que R$ 0,00. ");
-    fields_.valor = "100,01";
+    fields_.value = "100,01";
     EXPECT_EQ(refusedAt(ChequeField::Payee),
               "Favorecido é um campo obrigatório para cheques com valores maiores que R$ 100,00. ");
     fields_.payee = "   ";
     EXPECT_NE(refusedAt(ChequeField::Payee), "-") << "blanks are no payee";
-    fields_.valor = "100,00";
+    fields_.value = "100,00";
     EXPECT_EQ(refusedAt(ChequeField::DepositDate), "Data para Depósito é um campo obrigatório. ");
     fields_.depositDate = "15/03/2012";
     EXPECT_EQ(refusedAt(ChequeField::Account), "-") << "100,00 needs no payee";
-    fields_.valor = "0,01";
+    fields_.value = "0,01";
     EXPECT_EQ(refusedAt(ChequeField::Account), "-");
     EXPECT_THAT(queries(), IsEmpty());
     EXPECT_THAT(seams_.boxes.shown, IsEmpty());
 }
 
 TEST_F(IssueChequeTest, AnAmountThatIsNoNumberIsTheTypeError) {
-    fields_.valor = ",";
+    fields_.value = ",";
     try {
         fieldRefusal(fields_);
         ADD_FAILURE() << "no error";
@@ -180,7 +180,7 @@ TEST_F(IssueChequeTest, ANumberWithARowIsTaken) {
     const auto refusal = numberRefusal(environment_, session_, fields_);
     ASSERT_TRUE(refusal);
     EXPECT_EQ(refusal->field, ChequeField::Number);
-    EXPECT_EQ(refusal->texto,
+    EXPECT_EQ(refusal->text,
               "Cheque com este número e série já foi emitido já emitido. \r"
               "Número: 000123\r"
               "Série: AÇ1");
@@ -314,4 +314,4 @@ TEST_F(IssueChequeTest, AnEmptyAnswerIsToldAndOneWithoutAStatusIsAnError) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

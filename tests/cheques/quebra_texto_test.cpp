@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 TEST(QuebraTexto, BreaksWhereAWordNoLongerFits) {
@@ -38,4 +38,4 @@ TEST(QuebraTexto, CountsCharacters) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

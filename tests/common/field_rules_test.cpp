@@ -6,7 +6,7 @@
 #include "tests/support/fixed_machine.h"
 #include "tests/support/scripted_boxes.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 constexpr Date today{20, 3, 2012};
@@ -15,16 +15,16 @@ TEST(KeyFilters, PassTheirKeysAndBeepAtTheOthers) {
     for (std::int16_t key = 0; key < 256; ++key) {
         const bool digit = key >= 48 && key <= 57;
         FixedMachine machine;
-        std::int16_t tecla = key;
+        std::int16_t key = key;
         const bool comma = digit || key == 8 || key == 44;
-        EXPECT_EQ(SoNumeroVirgula(tecla, machine), comma ? key : 0) << key;
-        EXPECT_EQ(tecla, comma ? key : 0) << key;
+        EXPECT_EQ(SoNumeroVirgula(key, machine), comma ? key : 0) << key;
+        EXPECT_EQ(key, comma ? key : 0) << key;
         EXPECT_EQ(machine.beeps, comma ? 0 : 1) << key;
         machine.beeps = 0;
-        tecla = key;
+        key = key;
         const bool whole = digit || key == 8;
-        EXPECT_EQ(SoNumeroInteiro(tecla, machine), whole ? key : 0) << key;
-        EXPECT_EQ(tecla, whole ? key : 0) << key;
+        EXPECT_EQ(SoNumeroInteiro(key, machine), whole ? key : 0) << key;
+        EXPECT_EQ(key, whole ? key : 0) << key;
         EXPECT_EQ(machine.beeps, whole ? 0 : 1) << key;
     }
 }
@@ -32,8 +32,8 @@ TEST(KeyFilters, PassTheirKeysAndBeepAtTheOthers) {
 TEST(KeyFilters, CodesOutsideTheByteRange) {
     FixedMachine machine;
     for (const std::int16_t key : {std::int16_t{-1}, std::int16_t{304}, std::int16_t{8364}}) {
-        std::int16_t tecla = key;
-        EXPECT_EQ(SoNumeroVirgula(tecla, machine), 0);
+        std::int16_t key = key;
+        EXPECT_EQ(SoNumeroVirgula(key, machine), 0);
     }
     EXPECT_EQ(machine.beeps, 3);
 }
@@ -178,4 +178,4 @@ TEST(MoneyField, ATextThatIsNoNumberIsARunTimeError) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

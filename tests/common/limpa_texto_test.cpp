@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 TEST(TrocaAspas, TurnsTheFourQuotes) {
@@ -17,10 +17,10 @@ TEST(TrocaAspas, NoTextStaysNone) {
 }
 
 TEST(LimpaTexto, CapitalsInPlaceAndACleanedResult) {
-    std::string valor = "  são d'ávila ";
-    EXPECT_EQ(LimpaTexto(valor), "SÃO D´ÁVILA");
-    EXPECT_EQ(valor, "  SÃO D'ÁVILA ");
+    std::string value = "  são d'ávila ";
+    EXPECT_EQ(LimpaTexto(value), "SÃO D´ÁVILA");
+    EXPECT_EQ(value, "  SÃO D'ÁVILA ");
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

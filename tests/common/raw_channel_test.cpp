@@ -5,7 +5,7 @@
 #include "runtime/runtime_error.h"
 #include "tests/support/recording_spooler.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using Call = RecordingSpooler::Call;
@@ -13,8 +13,8 @@ using Call = RecordingSpooler::Call;
 class RawChannelTest : public testing::Test {
 protected:
     // Prints a text that nobody needs afterwards.
-    void print(int coluna, std::string texto, int linhas) {
-        channel_.ImprimeRaw(coluna, texto, linhas);
+    void print(int column, std::string text, int lines) {
+        channel_.ImprimeRaw(column, text, lines);
     }
 
     RecordingSpooler spooler_;
@@ -66,11 +66,11 @@ TEST_F(RawChannelTest, ColumnAndLineEnds) {
 
 TEST_F(RawChannelTest, TheCallersTextKeepsItsLineEnds) {
     channel_.open();
-    std::string texto = "AB";
-    channel_.ImprimeRaw(1, texto, 1);
-    EXPECT_EQ(texto, "AB\r\n");
-    channel_.ImprimeRaw(1, texto, 1);
-    EXPECT_EQ(texto, "AB\r\n\r\n");
+    std::string text = "AB";
+    channel_.ImprimeRaw(1, text, 1);
+    EXPECT_EQ(text, "AB\r\n");
+    channel_.ImprimeRaw(1, text, 1);
+    EXPECT_EQ(text, "AB\r\n\r\n");
     EXPECT_EQ(spooler_.bytes(), " AB\r\n AB\r\n\r\n");
 }
 
@@ -78,17 +78,17 @@ TEST_F(RawChannelTest, OneByteACharacterOfTheConfiguredPage) {
     channel_.open();
     print(0, "AÇÃO “1”", 0);
     RawChannel other(spooler_, CodePage::Page850);
-    std::string texto = "ção";
-    other.ImprimeRaw(0, texto, 0);
+    std::string text = "ção";
+    other.ImprimeRaw(0, text, 0);
     EXPECT_EQ(spooler_.jobs.at(0).writes,
               (std::vector<std::string>{"A\xC7\xC3O \"1\"", "\x87\xC6o"}));
 }
 
 TEST_F(RawChannelTest, NegativeCountsAreAnErrorAndWriteNothing) {
     channel_.open();
-    for (const auto& [coluna, linhas] : {std::pair{-1, 0}, std::pair{0, -1}}) {
+    for (const auto& [column, lines] : {std::pair{-1, 0}, std::pair{0, -1}}) {
         try {
-            print(coluna, "A", linhas);
+            print(column, "A", lines);
             FAIL() << "no error";
         } catch (const RuntimeError& error) {
             EXPECT_EQ(error.number(), RuntimeErrorCode::InvalidArgument);
@@ -125,29 +125,29 @@ TEST_F(RawChannelTest, AJobNeverClosedIsNotContinued) {
 }
 
 TEST(FormataCampo, PadsInPlace) {
-    std::string texto = "AB";
-    EXPECT_EQ(FormataCampo(texto, 5, false), "AB   ");
-    EXPECT_EQ(texto, "AB   ");
-    texto = "AB";
-    EXPECT_EQ(FormataCampo(texto, 5, true), "   AB");
-    EXPECT_EQ(texto, "   AB");
-    texto = "ÇÃ";
-    EXPECT_EQ(FormataCampo(texto, 4, true), "  ÇÃ");
+    std::string text = "AB";
+    EXPECT_EQ(FormataCampo(text, 5, false), "AB   ");
+    EXPECT_EQ(text, "AB   ");
+    text = "AB";
+    EXPECT_EQ(FormataCampo(text, 5, true), "   AB");
+    EXPECT_EQ(text, "   AB");
+    text = "ÇÃ";
+    EXPECT_EQ(FormataCampo(text, 4, true), "  ÇÃ");
 }
 
 TEST(FormataCampo, ExactWidthComesBackUnchanged) {
-    for (const bool aDireita : {false, true}) {
-        std::string texto = "ABCDE";
-        EXPECT_EQ(FormataCampo(texto, 5, aDireita), "ABCDE");
-        EXPECT_EQ(texto, "ABCDE");
+    for (const bool alignRight : {false, true}) {
+        std::string text = "ABCDE";
+        EXPECT_EQ(FormataCampo(text, 5, alignRight), "ABCDE");
+        EXPECT_EQ(text, "ABCDE");
     }
 }
 
 TEST(FormataCampo, CutsButLeavesTheCallersText) {
-    for (const bool aDireita : {false, true}) {
-        std::string texto = "1.234,50";
-        EXPECT_EQ(FormataCampo(texto, 5, aDireita), "1.234");
-        EXPECT_EQ(texto, "1.234,50");
+    for (const bool alignRight : {false, true}) {
+        std::string text = "1.234,50";
+        EXPECT_EQ(FormataCampo(text, 5, alignRight), "1.234");
+        EXPECT_EQ(text, "1.234,50");
     }
     std::string accents = "ÇÃÕÉÁÍÓ";
     EXPECT_EQ(FormataCampo(accents, 5, false), "ÇÃÕÉÁ");
@@ -155,13 +155,13 @@ TEST(FormataCampo, CutsButLeavesTheCallersText) {
 }
 
 TEST(FormataCampo, WidthZeroAndBelow) {
-    std::string texto = "A";
-    EXPECT_EQ(FormataCampo(texto, 0, false), "");
-    EXPECT_EQ(texto, "A");
+    std::string text = "A";
+    EXPECT_EQ(FormataCampo(text, 0, false), "");
+    EXPECT_EQ(text, "A");
     std::string empty;
     EXPECT_EQ(FormataCampo(empty, 0, true), "");
     try {
-        FormataCampo(texto, -1, false);
+        FormataCampo(text, -1, false);
         FAIL() << "no error";
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.number(), RuntimeErrorCode::InvalidArgument);
@@ -169,20 +169,20 @@ TEST(FormataCampo, WidthZeroAndBelow) {
 }
 
 TEST(AppendField, PadsCutsAndBlanksControls) {
-    std::string linha = "\x0F";
-    appendField(linha, "AB", 4, false);
-    appendField(linha, "12,5", 6, true);
-    appendField(linha, "ABCDEF", 3, true);
-    appendField(linha,
+    std::string line = "\x0F";
+    appendField(line, "AB", 4, false);
+    appendField(line, "12,5", 6, true);
+    appendField(line, "ABCDEF", 3, true);
+    appendField(line,
                 "A\r\n\x1B"
                 "B\tC",
                 8, false);
-    appendField(linha, "ÇÃ", 3, true);
-    appendField(linha, "X", 0, false);
-    EXPECT_EQ(linha,
+    appendField(line, "ÇÃ", 3, true);
+    appendField(line, "X", 0, false);
+    EXPECT_EQ(line,
               "\x0F"
               "AB    12,5ABCA   B C  ÇÃ");
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -9,11 +9,11 @@
 
 #include "runtime/runtime_error.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 struct Amount {
-    double valor;
+    double value;
     const char* words;
 };
 
@@ -48,7 +48,7 @@ TEST(ValorExtenso, Amounts) {
              {-0.50, "CINQUENTA CENTAVOS"},
              {-1.50, "MENOS UM REAL E CINQUENTA CENTAVOS"},
          }) {
-        EXPECT_EQ(ValorExtenso(amount.valor), amount.words) << amount.valor;
+        EXPECT_EQ(ValorExtenso(amount.value), amount.words) << amount.value;
     }
 }
 
@@ -133,15 +133,15 @@ TEST(ValorExtenso, AgreesWithAPlainRecursionUpToAMillion) {
 TEST(ValorExtenso, EveryCentOfSmallAndLargeAmounts) {
     for (const std::int64_t whole : {0, 1, 2, 99, 1234, 999999}) {
         for (std::int64_t cents = 1; cents < 100; ++cents) {
-            const double valor = static_cast<double>(whole * 100 + cents) / 100;
+            const double value = static_cast<double>(whole * 100 + cents) / 100;
             std::string wanted = spelled(cents) + (cents == 1 ? " CENTAVO" : " CENTAVOS");
             if (whole > 0) {
                 wanted.insert(0, spelled(whole) + (whole == 1 ? " REAL" : " REAIS") + " E ");
             }
-            ASSERT_EQ(ValorExtenso(valor), wanted) << whole << "," << cents;
+            ASSERT_EQ(ValorExtenso(value), wanted) << whole << "," << cents;
         }
     }
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -3,7 +3,7 @@
 
 #include "tests/bills/bill_screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -29,12 +29,12 @@ protected:
                                   "ID_PES_CLI='0071'/>"
                                   "<z:row NM_PES_CPL='ANABELA' ID_PES_CLI='82'/>"));
     }
-    void search(QWidget& dialog, const char* nome = "ana") {
-        type(dialog, "txtNmCli", nome);
+    void search(QWidget& dialog, const char* name = "ana") {
+        type(dialog, "txtNmCli", name);
         click(dialog, "cmdPesquisar");
     }
-    static std::string filter(const std::string& nome) {
-        return "Sel_Cliente&id_emp_tarn=1361&Filtro=" + nome;
+    static std::string filter(const std::string& name) {
+        return "Sel_Cliente&id_emp_tarn=1361&Filtro=" + name;
     }
     // The tag that the search sends.
     std::string code(const QWidget& screen) {
@@ -48,11 +48,11 @@ TEST_F(FrmPesqClienteTest, SaysWhatItIs) {
         EXPECT_EQ(named<QLabel>(dialog, "Label1").text(), QStringLiteral("Cliente"));
         const QAbstractItemModel& grid = *named<QTableView>(dialog, "sprDados").model();
         std::vector<std::string> titles;
-        for (int coluna = 0; coluna < grid.columnCount(); ++coluna) {
-            titles.push_back(grid.headerData(coluna, Qt::Horizontal).toString().toStdString());
+        for (int column = 0; column < grid.columnCount(); ++column) {
+            titles.push_back(grid.headerData(column, Qt::Horizontal).toString().toStdString());
         }
         EXPECT_THAT(titles, ElementsAre("Cliente", "Tipo de Empresa", "ID_PES_CLI", "ID_ETB_CLI"));
-        EXPECT_EQ(linhas(dialog), 0);
+        EXPECT_EQ(lines(dialog), 0);
         EXPECT_EQ(focused(dialog), "txtNmCli");
         EXPECT_THAT(
             tabOrder(dialog, "txtNmCli", 5),
@@ -63,10 +63,10 @@ TEST_F(FrmPesqClienteTest, SaysWhatItIs) {
 
 TEST_F(FrmPesqClienteTest, AShortNameIsRefusedBeforeAnyRequest) {
     withDialog([&](QWidget& dialog) {
-        for (const char* nome : {"", "an", "   ", " ab "}) {
-            search(dialog, nome);
+        for (const char* name : {"", "an", "   ", " ab "}) {
+            search(dialog, name);
             EXPECT_EQ(focused(dialog), "txtNmCli");
-            EXPECT_EQ(shown(dialog, "txtNmCli"), nome);
+            EXPECT_EQ(shown(dialog, "txtNmCli"), name);
         }
         EXPECT_THAT(server.addresses, IsEmpty());
     });
@@ -93,7 +93,7 @@ TEST_F(FrmPesqClienteTest, ShowsWhatWasFound) {
     findTwo();
     withDialog([&](QWidget& dialog) {
         search(dialog);
-        ASSERT_EQ(linhas(dialog), 2);
+        ASSERT_EQ(lines(dialog), 2);
         EXPECT_EQ(cell(dialog, 1, 1), "ANA & <b>CIA");
         EXPECT_EQ(cell(dialog, 1, 2), "COMÉRCIO");
         EXPECT_EQ(cell(dialog, 1, 3), "0071");
@@ -107,13 +107,13 @@ TEST_F(FrmPesqClienteTest, NothingFoundEmptiesTheGridAndSaysSo) {
     findTwo();
     server.on(filter("xyz"), answers::rowset("")).on(filter("uvw"), "<?xml version='1.0'?><xml/>");
     withDialog([&](QWidget& dialog) {
-        boxes.onShow = [&](const Box&) { EXPECT_EQ(linhas(dialog), 0) << "the box comes last"; };
+        boxes.onShow = [&](const Box&) { EXPECT_EQ(lines(dialog), 0) << "the box comes last"; };
         search(dialog);
         search(dialog, "xyz");
-        EXPECT_EQ(linhas(dialog), 0);
+        EXPECT_EQ(lines(dialog), 0);
         search(dialog);
         search(dialog, "uvw");
-        EXPECT_EQ(linhas(dialog), 0);
+        EXPECT_EQ(lines(dialog), 0);
         boxes.onShow = nullptr;
     });
     EXPECT_THAT(boxes.shown,
@@ -127,7 +127,7 @@ TEST_F(FrmPesqClienteTest, AFailedRequestLeavesTheGrid) {
     withDialog([&](QWidget& dialog) {
         search(dialog);
         search(dialog, "xyz");
-        EXPECT_EQ(linhas(dialog), 2);
+        EXPECT_EQ(lines(dialog), 2);
     });
     EXPECT_THAT(boxes.shown, ElementsAre(transportFailure(
                                  "Tarn0024 - Erro na pesquisa de cliente - Não foi possível "
@@ -182,7 +182,7 @@ TEST_F(FrmPesqClienteTest, TheActiveRowGoesIntoTheScreen) {
         EXPECT_EQ(code(screen), "82");
         withCustomers(screen, [&](QWidget& dialog) {
             EXPECT_EQ(shown(dialog, "txtNmCli"), "ana") << "hidden, not unloaded";
-            ASSERT_EQ(linhas(dialog), 2);
+            ASSERT_EQ(lines(dialog), 2);
             search(dialog);
             click(dialog, "cmdSelecionar");
         });
@@ -219,7 +219,7 @@ TEST_F(FrmPesqClienteTest, EnterInTheNameSearches) {
     withDialog([&](QWidget& dialog) {
         type(dialog, "txtNmCli", "ana");
         key(dialog, Qt::Key_Return);
-        EXPECT_EQ(linhas(dialog), 2);
+        EXPECT_EQ(lines(dialog), 2);
         EXPECT_TRUE(dialog.isVisible());
     });
 }
@@ -261,7 +261,7 @@ TEST_F(FrmPesqClienteTest, TheDialogOutlivesTheScreenAndTheScreenComesBackEmpty)
         EXPECT_EQ(code(screen), "");
         EXPECT_EQ(shown(screen, "txtDtVncAte"), "");
         withCustomers(screen, [&](QWidget& dialog) {
-            EXPECT_EQ(linhas(dialog), 2);
+            EXPECT_EQ(lines(dialog), 2);
             EXPECT_EQ(shown(dialog, "txtNmCli"), "ana");
             click(dialog, "cmdSelecionar");
         });
@@ -270,4 +270,4 @@ TEST_F(FrmPesqClienteTest, TheDialogOutlivesTheScreenAndTheScreenComesBackEmpty)
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -7,7 +7,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -43,8 +43,8 @@ TEST_F(ProcuraClienteTest, AFailedRequestIsFalse) {
 
 TEST_F(ProcuraClienteTest, AccentedLettersCountOnceAndOnlyBlanksAreTrimmed) {
     seams_.loader.on("Sel_Cliente", answers::rowset(""));
-    const auto search = [this](const char* nome) {
-        return searchCustomer(seams_.environment, session_, nome, [](const auto&) {});
+    const auto search = [this](const char* name) {
+        return searchCustomer(seams_.environment, session_, name, [](const auto&) {});
     };
     EXPECT_FALSE(search("çã"));
     EXPECT_TRUE(search("çãé"));
@@ -53,4 +53,4 @@ TEST_F(ProcuraClienteTest, AccentedLettersCountOnceAndOnlyBlanksAreTrimmed) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -13,7 +13,7 @@
 #include "tests/support/loopback_server.h"
 #include "tests/support/screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 constexpr char internet[] =
@@ -275,4 +275,4 @@ TEST_F(BadAnswers, AHundredTriesAtTheLogonAndTheNextOneGetsIn) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -4,7 +4,7 @@
 
 #include "tests/support/screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 class DeskApplicationTest : public ScreenTest {
@@ -54,4 +54,4 @@ TEST_F(DeskApplicationTest, TheFirstEndCounts) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

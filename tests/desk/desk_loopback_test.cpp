@@ -10,7 +10,7 @@
 #include "tests/support/loopback_server.h"
 #include "tests/support/screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 class DeskOverHttp : public ScreenTest {
@@ -87,4 +87,4 @@ TEST_F(DeskOverHttp, AServerThatWentAwayIsToldAndTheDeskGoesOn) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

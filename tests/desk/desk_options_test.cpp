@@ -4,14 +4,14 @@
 
 #include <vector>
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
-constexpr char padrao[] = "http://fixo/Kestomain/TarnEmissao.asp?";
+constexpr char fallback[] = "http://fixo/Kestomain/TarnEmissao.asp?";
 
 std::variant<Options, NoStart> read(std::vector<const char*> words, const char* env = "") {
     words.insert(words.begin(), "tarnemissao");
-    return readOptions(static_cast<int>(words.size()), words.data(), env, padrao);
+    return readOptions(static_cast<int>(words.size()), words.data(), env, fallback);
 }
 Options options(const std::vector<const char*>& words, const char* env = "") {
     return std::get<Options>(read(words, env));
@@ -22,7 +22,7 @@ NoStart stop(const std::vector<const char*>& words) {
 
 TEST(Options, WithoutOptionsTheBuildsServerAndTheMachinesPrinter) {
     const Options options = options({});
-    EXPECT_EQ(options.baseUrl, padrao);
+    EXPECT_EQ(options.baseUrl, fallback);
     EXPECT_EQ(options.virtualPrinter, "");
     EXPECT_EQ(options.codePage, CodePage::Page1252);
     EXPECT_FALSE(options.labelSelection);
@@ -56,11 +56,11 @@ TEST(Options, ReadsTheOthers) {
 TEST(Options, HelpAndVersionEndWellInPortuguese) {
     for (const char* word : {"--ajuda", "--help", "-h"}) {
         EXPECT_EQ(stop({word}).status, 0);
-        EXPECT_NE(stop({word}).texto.find("--impressora-virtual"), std::string::npos);
-        EXPECT_EQ(stop({word}).texto.find("Options"), std::string::npos);
+        EXPECT_NE(stop({word}).text.find("--impressora-virtual"), std::string::npos);
+        EXPECT_EQ(stop({word}).text.find("Options"), std::string::npos);
     }
     EXPECT_EQ(stop({"--versao"}).status, 0);
-    EXPECT_EQ(stop({"--versao"}).texto.rfind("TarnEmissao ", 0), 0U);
+    EXPECT_EQ(stop({"--versao"}).text.rfind("TarnEmissao ", 0), 0U);
 }
 
 TEST(Options, WrongUsageSaysWhat) {
@@ -78,10 +78,10 @@ TEST(Options, WrongUsageSaysWhat) {
          "\"ftp://x\".\n"}};
     for (const auto& [words, text] : cases) {
         EXPECT_EQ(stop(words).status, 1);
-        EXPECT_EQ(stop(words).texto,
+        EXPECT_EQ(stop(words).text,
                   std::string(text) + "Use tarnemissao --ajuda para ver as opções.\n");
     }
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

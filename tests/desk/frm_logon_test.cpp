@@ -5,7 +5,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 class FrmLogonTest : public ScreenTest {
@@ -177,4 +177,4 @@ TEST_F(FrmLogonTest, TheWindowsCloseButtonEndsTheProgram) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -7,7 +7,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 constexpr char formatText[] =
@@ -301,4 +301,4 @@ TEST_F(MDIMenuTest, AClickOnThePictureDoesNothing) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

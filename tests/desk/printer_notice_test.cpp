@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 struct Case {
@@ -47,4 +47,4 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{2041, 3381, ""}, Case{0, 0, ""}));
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

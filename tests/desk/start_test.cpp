@@ -5,7 +5,7 @@
 #include "runtime/runtime_error.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 const std::string header = "<?xml version='1.0' encoding='UTF-8'?>";
@@ -13,11 +13,11 @@ const std::string failure1 =
     "ERRO Tarn0001 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
     "Internet.";
 
-Box transportFailure(const std::string& texto) {
-    return {.text = texto, .icon = BoxIcon::Critical, .title = "TarnEMISSAO - ERRO INESPERADO"};
+Box transportFailure(const std::string& text) {
+    return {.text = text, .icon = BoxIcon::Critical, .title = "TarnEMISSAO - ERRO INESPERADO"};
 }
-Box exclamation(const std::string& texto, const std::string& title = "TarnEmissao") {
-    return {.text = texto, .icon = BoxIcon::Exclamation, .title = title};
+Box exclamation(const std::string& text, const std::string& title = "TarnEmissao") {
+    return {.text = text, .icon = BoxIcon::Exclamation, .title = title};
 }
 
 void expectError(RuntimeErrorCode number, const auto& action) {
@@ -288,4 +288,4 @@ TEST_F(StartTest, NameAbsentOrNoRow) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -12,10 +12,10 @@
 #include "tests/support/private_cupsd.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
-constexpr int kLimit = 60000;  // milliseconds
+constexpr int limit = 60000;  // milliseconds
 
 QByteArray contentOf(const QString& file) {
     QFile in(file);
@@ -24,7 +24,7 @@ QByteArray contentOf(const QString& file) {
 
 // The port in "Recebendo em 127.0.0.1, porta 43210".
 int portOf(QProcess& printer) {
-    while (!printer.canReadLine() && printer.waitForReadyRead(kLimit)) {
+    while (!printer.canReadLine() && printer.waitForReadyRead(limit)) {
     }
     const QString line = QString::fromUtf8(printer.readLine()).trimmed();
     EXPECT_TRUE(line.startsWith(QStringLiteral("Recebendo em 127.0.0.1, porta ")))
@@ -62,12 +62,12 @@ TEST(CupsPaper, ANoteComesOutAsPdfAndText) {
     Sessao session;
     session.NCOMPANYCODE = 1361;
     session.ID_ETB_TARN = 1;
-    XmlDocument documento;
-    ASSERT_TRUE(documento.loadXML(
-        contentOf(QStringLiteral(TARN_NOTE_DATA "/nota_1361.xml")).toStdString()));
-    printNote(Ladder::Issuing, environment, session, documento, "4567");
+    XmlDocument document;
+    ASSERT_TRUE(
+        document.loadXML(contentOf(QStringLiteral(TARN_NOTE_DATA "/nota_1361.xml")).toStdString()));
+    printNote(Ladder::Issuing, environment, session, document, "4567");
 
-    ASSERT_TRUE(printer.waitForFinished(kLimit)) << server.errorLog();
+    ASSERT_TRUE(printer.waitForFinished(limit)) << server.errorLog();
     EXPECT_EQ(printer.exitCode(), 0) << printer.readAllStandardError().toStdString();
 
     // The stream without its set-up, line for line; the set-up job's blank stands ahead of
@@ -95,4 +95,4 @@ TEST(CupsPaper, ANoteComesOutAsPdfAndText) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -2,7 +2,9 @@
 
 #include "tests/dotmatrix/printer_rig.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
 std::string lineEnds(int count) {
@@ -21,7 +23,7 @@ TEST(Forms, BreakAfter66Lines) {
     EXPECT_EQ(rig.paper.lines()[1].row, 65U);
     EXPECT_EQ(rig.paper.lines()[2].form, 1U);
     EXPECT_EQ(rig.paper.lines()[2].row, 0U);
-    EXPECT_EQ(rig.paper.lines()[2].y, 11 * kUnitsPerInch);
+    EXPECT_EQ(rig.paper.lines()[2].y, 11 * unitsPerInch);
     EXPECT_EQ(rig.text(), std::string("first\n").append(64, '\n') + "last\n\fsecond form\n");
 }
 
@@ -51,13 +53,13 @@ TEST(Forms, FormFeedGoesToTheTopOfTheNextForm) {
     PrinterRig rig;
     rig.job("a\r\nb\f\fc");
     ASSERT_EQ(rig.paper.lines().size(), 3U);
-    EXPECT_EQ(rig.paper.lines()[2].y, 22 * kUnitsPerInch);
+    EXPECT_EQ(rig.paper.lines()[2].y, 22 * unitsPerInch);
     EXPECT_EQ(rig.text(), "a\nb\n\f\fc\n");
 }
 
 TEST(Forms, PanelLengthAndLengthInLines) {
     Dialect panel;
-    panel.formHeight = 33 * kUnitsPerInch / 6;
+    panel.formHeight = 33 * unitsPerInch / 6;
     PrinterRig rig(panel);
     rig.job(std::string("a") + lineEnds(33) + "b");
     EXPECT_EQ(rig.paper.lines()[1].form, 1U);
@@ -68,7 +70,7 @@ TEST(Forms, PanelLengthAndLengthInLines) {
                           "a") +
               lineEnds(24) + "b");
     EXPECT_EQ(other.paper.lines()[1].form, 1U);
-    EXPECT_EQ(other.paper.forms()[0].height, 4 * kUnitsPerInch);
+    EXPECT_EQ(other.paper.forms()[0].height, 4 * unitsPerInch);
 }
 
 TEST(Forms, LengthInInches) {
@@ -79,7 +81,7 @@ TEST(Forms, LengthInInches) {
             lineEnds(71) + "b" + lineEnds(1) + "c");
     EXPECT_EQ(rig.paper.lines()[1].form, 0U);
     EXPECT_EQ(rig.paper.lines()[2].form, 1U);
-    EXPECT_EQ(rig.paper.lines()[2].y, 12 * kUnitsPerInch);
+    EXPECT_EQ(rig.paper.lines()[2].y, 12 * unitsPerInch);
 }
 
 TEST(Forms, LengthSetInsideAFormBeginsItAtTheLine) {
@@ -109,7 +111,7 @@ TEST(Forms, SenselessLengthsAreDropped) {
         PrinterRig rig;
         rig.job(bytes);
         EXPECT_EQ(rig.count(NoticeKind::BadParameter), 1U);
-        EXPECT_EQ(rig.paper.formHeight(), 11 * kUnitsPerInch);
+        EXPECT_EQ(rig.paper.formHeight(), 11 * unitsPerInch);
     }
 }
 
@@ -156,4 +158,4 @@ TEST(Jobs, PiecesOfAnySizeGiveTheSamePaper) {
 }
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test

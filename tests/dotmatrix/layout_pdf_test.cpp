@@ -10,12 +10,14 @@
 #include "tests/dotmatrix/poppler.h"
 #include "tests/dotmatrix/printer_rig.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
-constexpr double kTolerance = 0.2 / 25.4 * kPointsPerInch;  // 0.2 mm
-constexpr double kPointsPerUnit = kPointsPerInch / static_cast<double>(kUnitsPerInch);
-constexpr double kStrip = 36;
+constexpr double tolerance = 0.2 / 25.4 * pointsPerInch;  // 0.2 mm
+constexpr double pointsPerUnit = pointsPerInch / static_cast<double>(unitsPerInch);
+constexpr double strip = 36;
 
 struct Expected {
     QString text;
@@ -34,8 +36,8 @@ std::vector<Expected> wordsOn(const ContinuousPaper& paper) {
         for (const Cell& cell : line.cells) {
             const bool goesOn = before != nullptr && cell.x == before->x + before->width;
             if (!goesOn) {
-                words.push_back({QString(), kStrip + cell.x * kPointsPerUnit,
-                                 static_cast<double>(line.y) * kPointsPerUnit});
+                words.push_back({QString(), strip + cell.x * pointsPerUnit,
+                                 static_cast<double>(line.y) * pointsPerUnit});
             }
             words.back().text += QChar(cell.character);
             before = &cell;
@@ -86,8 +88,8 @@ TEST_P(LayoutPdf, WordsStandOnTheGrid) {
     for (const Expected& word : expected) {
         const test::Word* there = nearest(found, word, rise);
         ASSERT_NE(there, nullptr) << word.text.toStdString();
-        EXPECT_NEAR(there->left, word.left, kTolerance) << word.text.toStdString();
-        EXPECT_NEAR(there->top - rise, word.top, kTolerance) << word.text.toStdString();
+        EXPECT_NEAR(there->left, word.left, tolerance) << word.text.toStdString();
+        EXPECT_NEAR(there->top - rise, word.top, tolerance) << word.text.toStdString();
     }
 }
 
@@ -97,4 +99,4 @@ INSTANTIATE_TEST_SUITE_P(Forms, LayoutPdf, testing::ValuesIn(test::allForms()),
                          });
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test

@@ -2,7 +2,9 @@
 
 #include "tests/dotmatrix/printer_rig.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
 struct SpacingCase {
@@ -127,4 +129,4 @@ TEST(Movement, CondensedEliteFills272ColumnsOfTheWideCarriage) {
 }
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test

@@ -7,7 +7,9 @@
 
 #include "tests/dotmatrix/printer_rig.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
 struct SetUpCase {
@@ -38,43 +40,40 @@ TEST_P(SetUp, LeavesThePrinterInItsMode) {
 
 INSTANTIATE_TEST_SUITE_P(
     Forms, SetUp,
-    testing::Values(SetUpCase{"Condensed", "\x0F", 126, kPlain, "x", {}},
-                    SetUpCase{"TwiceCondensedAndUnknown",
-                              " \x1B\x0F\x0F \x1B\x17 ",
-                              126,
-                              kPlain,
-                              "   x",
-                              {NoticeKind::UnknownCommand}},
-                    SetUpCase{"DoubledEscapeStrike",
-                              " \x0F\x1B\x1BG",
-                              126,
-                              kDoubleStrike,
-                              " x",
-                              {NoticeKind::RepeatedEscape}},
-                    SetUpCase{"DoubledEscapeElite",
-                              " \x0F\x1B\x1BM",
-                              108,
-                              kPlain,
-                              " x",
-                              {NoticeKind::RepeatedEscape}},
-                    SetUpCase{"CondensedElite", " \x0F\x1BM", 108, kPlain, " x", {}},
-                    SetUpCase{"HashThree", " \x1B#3", 216, kPlain, " 3x", {NoticeKind::NotDrawn}},
-                    SetUpCase{"CondensedStrike", " \x0F\x1BG", 126, kDoubleStrike, " x", {}},
-                    SetUpCase{"CondensedOffInside", " \x0F\x1BM \x12", 180, kPlain, "  x", {}},
-                    SetUpCase{"Slips",
-                              " \x0F\x1BM \x1B"
-                              "2 \x0F\x1BG",
-                              108,
-                              kDoubleStrike,
-                              "   x",
-                              {}},
-                    SetUpCase{"Cheques",
-                              " \x1B"
-                              "A\x06 \x0F\x1B\x1BG",
-                              126,
-                              kDoubleStrike,
-                              "  x",
-                              {NoticeKind::RepeatedEscape}}),
+    testing::Values(
+        SetUpCase{"Condensed", "\x0F", 126, plain, "x", {}},
+        SetUpCase{"TwiceCondensedAndUnknown",
+                  " \x1B\x0F\x0F \x1B\x17 ",
+                  126,
+                  plain,
+                  "   x",
+                  {NoticeKind::UnknownCommand}},
+        SetUpCase{"DoubledEscapeStrike",
+                  " \x0F\x1B\x1BG",
+                  126,
+                  doubleStrike,
+                  " x",
+                  {NoticeKind::RepeatedEscape}},
+        SetUpCase{
+            "DoubledEscapeElite", " \x0F\x1B\x1BM", 108, plain, " x", {NoticeKind::RepeatedEscape}},
+        SetUpCase{"CondensedElite", " \x0F\x1BM", 108, plain, " x", {}},
+        SetUpCase{"HashThree", " \x1B#3", 216, plain, " 3x", {NoticeKind::NotDrawn}},
+        SetUpCase{"CondensedStrike", " \x0F\x1BG", 126, doubleStrike, " x", {}},
+        SetUpCase{"CondensedOffInside", " \x0F\x1BM \x12", 180, plain, "  x", {}},
+        SetUpCase{"Slips",
+                  " \x0F\x1BM \x1B"
+                  "2 \x0F\x1BG",
+                  108,
+                  doubleStrike,
+                  "   x",
+                  {}},
+        SetUpCase{"Cheques",
+                  " \x1B"
+                  "A\x06 \x0F\x1B\x1BG",
+                  126,
+                  doubleStrike,
+                  "  x",
+                  {NoticeKind::RepeatedEscape}}),
     [](const testing::TestParamInfo<SetUpCase>& tested) { return std::string(tested.param.name); });
 
 TEST(Notices, TellWhereAndWhich) {
@@ -94,7 +93,7 @@ TEST(Notices, AreCountedPastTheKeptOnes) {
     PrinterRig rig;
     rig.job(std::string(5000, '\x1C'));
     EXPECT_EQ(rig.printer.notices().total(), 5000U);
-    EXPECT_EQ(rig.printer.notices().kept().size(), NoticeLog::kKept);
+    EXPECT_EQ(rig.printer.notices().kept().size(), NoticeLog::mostKept);
 }
 
 TEST(KnownCommands, TakeTheirParametersWithoutPrintingThem) {
@@ -125,7 +124,7 @@ TEST(CodePages, UpperBytesOf1252AreControls) {
         "e");
     EXPECT_EQ(rig.cell(0).width, 126);
     EXPECT_EQ(rig.cell(1).width, 216);
-    EXPECT_EQ(rig.cell(2).style, kDoubleStrike);
+    EXPECT_EQ(rig.cell(2).style, doubleStrike);
     EXPECT_EQ(rig.text(), "abc\nde\n");
     EXPECT_EQ(rig.count(NoticeKind::UpperControl), 5U);
     EXPECT_EQ(rig.count(NoticeKind::UnknownControl), 1U);
@@ -146,13 +145,13 @@ TEST(CodePages, AccentsOf850And860) {
 
 std::string randomJob(std::mt19937& random) {
     // Half of the jobs are mostly commands, where the states are.
-    static const std::string kLively = bytesOf(
+    static const std::string livelyJob = bytesOf(
         "\x1B\x1B\x1B\x0F\x12\x0E\x14\b\t\n\r\f\0\x01\xFF"
         "ACJ3MPG@!WKLD*(-x \x9B\x8C");
     const bool lively = random() % 2 == 0;
     std::string bytes(random() % 400, '\0');
     for (char& byte : bytes) {
-        byte = lively && random() % 4 != 0 ? kLively[random() % kLively.size()]
+        byte = lively && random() % 4 != 0 ? livelyJob[random() % livelyJob.size()]
                                            : static_cast<char>(random() % 256);
     }
     return bytes;
@@ -198,4 +197,4 @@ TEST(Robustness, BackspacesOfAnotherPitchDontRunAway) {
 }
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test

@@ -11,7 +11,9 @@
 #include "dotmatrix/paper_export.h"
 #include "tests/dotmatrix/printer_rig.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
 QString output(const QString& program, const QStringList& arguments) {
@@ -61,8 +63,8 @@ protected:
     QTemporaryDir folder_;
 };
 
-constexpr double kTolerance = 0.2 / 25.4 * kPointsPerInch;  // 0.2 mm
-constexpr double kStrip = 36;
+constexpr double tolerance = 0.2 / 25.4 * pointsPerInch;  // 0.2 mm
+constexpr double strip = 36;
 
 TEST_F(PaperFiles, PdfWordsStandOnTheGridAtEachPitch) {
     PrinterRig rig;
@@ -79,12 +81,12 @@ TEST_F(PaperFiles, PdfWordsStandOnTheGridAtEachPitch) {
                                             {"CONDENSED01234567890", 4.2}};
     for (const auto& [text, pitch] : pitches) {
         ASSERT_TRUE(words.count(text)) << text.toStdString();
-        EXPECT_NEAR(words[text].left, kStrip + 40 * pitch, kTolerance) << text.toStdString();
-        EXPECT_NEAR(words[text].right, kStrip + 60 * pitch, kTolerance) << text.toStdString();
+        EXPECT_NEAR(words[text].left, strip + 40 * pitch, tolerance) << text.toStdString();
+        EXPECT_NEAR(words[text].right, strip + 60 * pitch, tolerance) << text.toStdString();
     }
     // A word in the middle of a line drawn in one go.
-    EXPECT_NEAR(words["def"].left, kStrip + 44 * 4.2, kTolerance);
-    EXPECT_NEAR(words["FARAWAY"].left, kStrip + 117 * 4.2, kTolerance);
+    EXPECT_NEAR(words["def"].left, strip + 44 * 4.2, tolerance);
+    EXPECT_NEAR(words["FARAWAY"].left, strip + 117 * 4.2, tolerance);
     EXPECT_NEAR(words["FARAWAY"].top - words["PICA5678901234567890"].top, 6 * 12, 0.01);
 }
 
@@ -111,10 +113,10 @@ TEST_F(PaperFiles, PdfKeepsAccentsOverprintsAndOnePageAForm) {
 
 TEST_F(PaperFiles, SheetIsChosenByTheWidestContent) {
     EXPECT_EQ(sheetFor(0).width, 9.5);
-    EXPECT_EQ(sheetFor(17 * kUnitsPerInch / 2).width, 9.5);
-    EXPECT_EQ(sheetFor(17 * kUnitsPerInch / 2 + 1).width, 14.875);
-    EXPECT_EQ(sheetFor(136 * kUnitsPerInch / 10).width, 14.875);
-    EXPECT_EQ(sheetFor(14 * kUnitsPerInch).width, 15.0);
+    EXPECT_EQ(sheetFor(17 * unitsPerInch / 2).width, 9.5);
+    EXPECT_EQ(sheetFor(17 * unitsPerInch / 2 + 1).width, 14.875);
+    EXPECT_EQ(sheetFor(136 * unitsPerInch / 10).width, 14.875);
+    EXPECT_EQ(sheetFor(14 * unitsPerInch).width, 15.0);
 }
 
 TEST_F(PaperFiles, PicturesShowInkAndDoubleStrikeIsDarker) {
@@ -122,9 +124,9 @@ TEST_F(PaperFiles, PicturesShowInkAndDoubleStrikeIsDarker) {
     rig.job("HHHHHHHHHH\r\n\x1BGHHHHHHHHHH\x1BH\r\n\r\n\f\x0Fsegunda");
     ASSERT_FALSE(writePng(pagesOf(rig.paper), {}, file("note.png")));
     const QImage first(file("note.png"));
-    ASSERT_EQ(first.size(), QSize(9.5 * kPictureDotsPerInch, 11 * kPictureDotsPerInch));
-    const int left = kPictureDotsPerInch / 2 + 3;
-    const int row = kPictureDotsPerInch / 6;
+    ASSERT_EQ(first.size(), QSize(9.5 * pictureDotsPerInch, 11 * pictureDotsPerInch));
+    const int left = pictureDotsPerInch / 2 + 3;
+    const int row = pictureDotsPerInch / 6;
     const int plain = darkPixels(first, QRect(left, 2, 115, row - 3));
     const int dark = darkPixels(first, QRect(left, row + 2, 115, row - 3));
     const int blank = darkPixels(first, QRect(left, 2 * row + 3, 115, row - 4));
@@ -142,7 +144,7 @@ TEST_F(PaperFiles, ATitleStandsInTheLeftStripOfEachForm) {
     ASSERT_FALSE(writePdf(pagesOf(rig.paper), PaintOptions{.title = "MODELO"}, file("title.pdf")));
     const auto words = wordsOf(file("title.pdf"));
     ASSERT_TRUE(words.count("MODELO"));
-    EXPECT_LT(words.at("MODELO").right, kStrip);
+    EXPECT_LT(words.at("MODELO").right, strip);
     EXPECT_EQ(output(QStringLiteral("pdftotext"), {file("title.pdf"), QStringLiteral("-")})
                   .count(QStringLiteral("MODELO")),
               2);
@@ -153,7 +155,7 @@ TEST_F(PaperFiles, BandsOnlyWhenAskedFor) {
     rig.job("x");
     ASSERT_FALSE(writePng(pagesOf(rig.paper), {}, file("white.png")));
     ASSERT_FALSE(writePng(pagesOf(rig.paper), PaintOptions{.bands = true}, file("bands.png")));
-    const QPoint inFirstBand(6 * kPictureDotsPerInch, 10);
+    const QPoint inFirstBand(6 * pictureDotsPerInch, 10);
     EXPECT_EQ(QImage(file("white.png")).pixelColor(inFirstBand), QColor(Qt::white));
     EXPECT_NE(QImage(file("bands.png")).pixelColor(inFirstBand), QColor(Qt::white));
 }
@@ -182,7 +184,7 @@ TEST_F(PaperFiles, FailureToWriteIsTold) {
 }
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {

@@ -8,7 +8,9 @@
 #include "dotmatrix/paper_text.h"
 #include "tests/dotmatrix/printer_rig.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
 void expectSame(PaperRoll& roll, const ContinuousPaper& paper) {
@@ -64,7 +66,7 @@ TEST(PaperRoll, ManyPagesOverManyMarks) {
 }
 
 TEST(PaperRoll, RandomBytesInPiecesOfAnySize) {
-    static const std::string kLively = bytesOf(
+    static const std::string livelyJob = bytesOf(
         "\x1B\x1B\x0F\x12\x0E\x14\b\t\n\n\r\f\f\f\0\x01"
         "ACJ3MPG@!W-x \x9B\x8C");
     for (unsigned seed = 1; seed <= 60; ++seed) {
@@ -74,7 +76,7 @@ TEST(PaperRoll, RandomBytesInPiecesOfAnySize) {
         for (int job = 0; job < 3; ++job) {
             std::string bytes(random() % 60000, '\0');
             for (char& byte : bytes) {
-                byte = random() % 3 == 0 ? kLively[random() % kLively.size()]
+                byte = random() % 3 == 0 ? livelyJob[random() % livelyJob.size()]
                                          : static_cast<char>(random() % 256);
             }
             roll.startJob("job");
@@ -116,7 +118,7 @@ TEST(PaperRoll, JobsAreKnownByNameAndPlace) {
     ASSERT_EQ(roll.jobs().size(), 2U);
     EXPECT_EQ(roll.jobs()[1].name, "b.prn");
     EXPECT_EQ(roll.jobs()[1].form, 1U);
-    EXPECT_EQ(roll.jobs()[1].y, 11 * kUnitsPerInch + 360);
+    EXPECT_EQ(roll.jobs()[1].y, 11 * unitsPerInch + 360);
 }
 
 TEST(PaperRoll, AnotherPanelPrintsAllJobsAgain) {
@@ -178,7 +180,7 @@ TEST(PaperRoll, AFormThatIsBlackKeepsNoMore) {
     for (const PaperLine& line : roll.page(0)->lines) {
         cells += line.cells.size();
     }
-    EXPECT_EQ(cells, kMostCellsOnForm);
+    EXPECT_EQ(cells, mostCellsOnForm);
     roll.feed("\fagora");
     EXPECT_EQ(roll.page(1)->lines.size(), 1U);
 }
@@ -211,4 +213,4 @@ TEST(FormTable, RunsOfEqualFormsAreFoundByPlaceAndHeight) {
 }
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test

@@ -2,7 +2,9 @@
 
 #include "tests/dotmatrix/printer_rig.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
 struct PitchCase {
@@ -69,9 +71,9 @@ TEST(PrintModes, StylesGoOnAndOff) {
         "Fe\x1B-1f\x1B-0g\x1B"
         "4h\x1B"
         "5i");
-    const int expected[] = {kPlain,      kDoubleStrike, kDoubleStrike | kEmphasised,
-                            kEmphasised, kPlain,        kUnderlined,
-                            kPlain,      kItalic,       kPlain};
+    const int expected[] = {plain,      doubleStrike, doubleStrike | emphasised,
+                            emphasised, plain,        underlined,
+                            plain,      italicShear,  plain};
     for (std::size_t i = 0; i < std::size(expected); ++i) {
         EXPECT_EQ(rig.cell(i).style, expected[i]) << i;
         EXPECT_EQ(rig.cell(i).character, static_cast<char16_t>(u'a' + i));
@@ -87,4 +89,4 @@ TEST(PrintModes, UnderlinedBlanksArePrinted) {
 }
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test

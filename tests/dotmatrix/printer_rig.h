@@ -7,10 +7,10 @@
 #include "dotmatrix/escp_interpreter.h"
 #include "dotmatrix/paper_text.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
 
 struct PrinterRig {
-    explicit PrinterRig(Dialect panel = {})
+    explicit PrinterRig(dotmatrix::Dialect panel = {})
         : dialect(panel), paper(panel.formHeight), printer(paper, panel) {}
 
     PrinterRig& job(std::string_view bytes) {
@@ -19,27 +19,27 @@ struct PrinterRig {
         return *this;
     }
     // The n-th character printed since power on, in the order of printing, from 0.
-    Cell cell(std::size_t n) const {
-        for (const PaperLine& line : paper.lines()) {
+    dotmatrix::Cell cell(std::size_t n) const {
+        for (const dotmatrix::PaperLine& line : paper.lines()) {
             if (n < line.cells.size()) {
                 return line.cells[n];
             }
             n -= line.cells.size();
         }
-        return Cell{-1, 0, 0, u'\0', 0};
+        return dotmatrix::Cell{-1, 0, 0, u'\0', 0};
     }
-    std::string text() const { return textOf(paper); }
-    std::size_t count(NoticeKind kind) const {
+    std::string text() const { return dotmatrix::textOf(paper); }
+    std::size_t count(dotmatrix::NoticeKind kind) const {
         std::size_t found = 0;
-        for (const Notice& notice : printer.notices().kept()) {
+        for (const dotmatrix::Notice& notice : printer.notices().kept()) {
             found += notice.kind == kind ? 1U : 0U;
         }
         return found;
     }
 
-    Dialect dialect;
-    ContinuousPaper paper;
-    EscpInterpreter printer;
+    dotmatrix::Dialect dialect;
+    dotmatrix::ContinuousPaper paper;
+    dotmatrix::EscpInterpreter printer;
 };
 
 // A text with zero bytes in it.
@@ -48,4 +48,4 @@ std::string bytesOf(const char (&literal)[size]) {
     return std::string(literal, size - 1);
 }
 
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test

@@ -6,7 +6,7 @@
 #include "tests/e2e/fault_desk.h"
 #include "widgets/free_text_field.h"
 
-namespace tarn {
+namespace tarn::test {
 
 inline const Box success = information("Cheque emitido com sucesso!     ");
 inline const Box noCheck = noInternet("ERRO    Tarn0009");
@@ -122,4 +122,4 @@ private:
     int next_ = 501;
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

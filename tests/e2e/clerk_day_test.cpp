@@ -15,7 +15,7 @@
 
 #include "tests/e2e/programs.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -190,4 +190,4 @@ TEST_F(ClerkDay, TheBulkSelectionPrintsItsLabelsAndChangesNothing) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

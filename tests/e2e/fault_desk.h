@@ -22,7 +22,7 @@
 #include "tests/support/practice_page.h"
 #include "tests/support/screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 
 using practice::FaultKind;
 
@@ -229,4 +229,4 @@ protected:
     MDIMenu menu{netDesk};
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

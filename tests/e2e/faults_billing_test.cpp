@@ -2,7 +2,7 @@
 // the note's document.
 #include "tests/e2e/note_faults.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -198,4 +198,4 @@ TEST_F(BillingFaults, AListThatDoesntComeBehindAGenerationLeavesTheNotePrinted) 
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

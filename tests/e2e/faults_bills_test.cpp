@@ -3,7 +3,7 @@
 
 #include "tests/e2e/fault_desk.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -159,4 +159,4 @@ TEST_F(BillFaults, CustomersThatDontComeLeaveTheOnesFoundBefore) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

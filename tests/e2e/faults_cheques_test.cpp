@@ -4,7 +4,7 @@
 
 #include "tests/e2e/cheque_faults.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -206,4 +206,4 @@ TEST_F(ChequeFaults, ATownOfNoRowsEndsTheProgramBeforeThePaper) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -3,7 +3,7 @@
 
 #include "tests/e2e/fault_desk.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -185,4 +185,4 @@ TEST_F(LabelFaults, ASelectionWithoutItsListsOrItsRowsStaysOpenAndEmpty) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

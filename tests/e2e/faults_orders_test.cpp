@@ -4,7 +4,7 @@
 
 #include "tests/e2e/note_faults.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -185,4 +185,4 @@ TEST_F(OrderFaults, ASheetWithoutItsOrderIsntPrinted) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -1,7 +1,7 @@
 // A server that fails at the reprint screen, in both of its jobs.
 #include "tests/e2e/note_faults.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -157,4 +157,4 @@ TEST_F(ReprintFaults, ACancellationThatFailsIsToldByWhatIsKnownOfIt) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

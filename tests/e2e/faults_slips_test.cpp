@@ -5,7 +5,7 @@
 
 #include "tests/e2e/fault_desk.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -254,4 +254,4 @@ TEST_F(SlipFaults, ASearchWithoutAnAnswerLeavesTheGrid) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

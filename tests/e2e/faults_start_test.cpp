@@ -6,7 +6,7 @@
 #include "billing/frm_oft.h"
 #include "tests/e2e/fault_desk.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -182,4 +182,4 @@ TEST_F(StartFaults, ARightWithoutADeclarationEndsTheProgram) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -12,7 +12,7 @@
 #include "platform/curl/curl_loader.h"
 #include "tests/e2e/programs.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 class MainJob : public testing::Test {
@@ -135,4 +135,4 @@ TEST_F(MainJob, AWrongPasswordEndsTheWalkWithAWord) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -9,7 +9,7 @@
 #include "reprint/frm_reimprime_nf.h"
 #include "tests/e2e/fault_desk.h"
 
-namespace tarn {
+namespace tarn::test {
 
 class NoteFaults : public FaultDesk {
 protected:
@@ -92,4 +92,4 @@ private:
     std::size_t taken_ = 0;
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -13,7 +13,7 @@
 #include "tests/support/practice_page.h"
 #include "tests/support/screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -171,4 +171,4 @@ TEST_F(NoteLife, Company761IssuesOnOneFormAndReprintsOnTheDefaultOne) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

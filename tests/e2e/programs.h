@@ -9,7 +9,7 @@
 #include <QProcessEnvironment>
 #include <string>
 
-namespace tarn {
+namespace tarn::test {
 
 inline constexpr int patienceMs = 120000;  // for a slow machine under sanitizers
 
@@ -52,4 +52,4 @@ private:
     QString address_;
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

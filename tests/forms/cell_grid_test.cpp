@@ -11,7 +11,9 @@
 #include "tests/dotmatrix/printer_rig.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
 struct Struck {
@@ -28,17 +30,17 @@ struct Command {
     std::string bytes;
     int cell;
 };
-const Command kCommands[] = {{"\x0F\x1B\x1B\x47", 126},
-                             {"\x0F\x1B\x1B\x4D", 108},
-                             {"\x0F\x1B\x4D", 108},
-                             {"\x0F\x1B\x47", 126},
-                             {"\x1B\x0F\x0F", 126},
-                             {"\x1B\x17", 0},
-                             {"\x1B\x23", 0},
-                             {"\x1B\x32", 0},
-                             {bytesOf("\x1B\x41\x06"), 0},
-                             {"\x12", -1},
-                             {"\x0F", 126}};
+const Command commands[] = {{"\x0F\x1B\x1B\x47", 126},
+                            {"\x0F\x1B\x1B\x4D", 108},
+                            {"\x0F\x1B\x4D", 108},
+                            {"\x0F\x1B\x47", 126},
+                            {"\x1B\x0F\x0F", 126},
+                            {"\x1B\x17", 0},
+                            {"\x1B\x23", 0},
+                            {"\x1B\x32", 0},
+                            {bytesOf("\x1B\x41\x06"), 0},
+                            {"\x12", -1},
+                            {"\x0F", 126}};
 
 // Counts along the jobs' bytes. Twelve an inch, once selected by ESC M, stays: condensed
 // is then twenty. Byte 12 goes back to ten an inch where nothing selects
@@ -77,7 +79,7 @@ public:
 
 private:
     static const Command* commandAt(const std::string& bytes, std::size_t at) {
-        for (const Command& command : kCommands) {
+        for (const Command& command : commands) {
             if (bytes.compare(at, command.bytes.size(), command.bytes) == 0) {
                 return &command;
             }
@@ -177,7 +179,7 @@ TEST(OtherStreams, AChequeIsCondensedAndStruckTwice) {
     for (const PaperLine& line : paper.lines()) {
         EXPECT_EQ(line.y % 360, 0);  // six lines an inch
         EXPECT_EQ(line.cells.front().width, 126);
-        EXPECT_EQ(line.cells.front().style, kDoubleStrike);
+        EXPECT_EQ(line.cells.front().style, doubleStrike);
     }
 }
 
@@ -200,7 +202,7 @@ TEST(OtherStreams, ASlipIsTwentyAnInchAndStruckTwice) {
     ASSERT_EQ(paper.lines().size(), 2U);
     EXPECT_EQ(paper.lines()[1].y, 2 * 360);
     EXPECT_EQ(paper.lines()[1].cells.front().x, 5 * 108);
-    EXPECT_EQ(paper.lines()[1].cells.front().style, kDoubleStrike);
+    EXPECT_EQ(paper.lines()[1].cells.front().style, doubleStrike);
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, CellGrid, testing::ValuesIn(test::allForms()),
@@ -209,4 +211,4 @@ INSTANTIATE_TEST_SUITE_P(Forms, CellGrid, testing::ValuesIn(test::allForms()),
                          });
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test

@@ -4,7 +4,9 @@
 
 #include "forms/layout_forms.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
 FormDesign read(std::string_view text) {
@@ -54,7 +56,7 @@ TEST(FormText, EveryWord) {
 
 TEST(FormText, EmptyIsABlankSheet) {
     EXPECT_TRUE(read("").boxes.empty());
-    EXPECT_EQ(read("").height, 11 * kUnitsPerInch);
+    EXPECT_EQ(read("").height, 11 * unitsPerInch);
 }
 
 TEST(FormText, EveryFaultIsToldWithItsLine) {
@@ -96,4 +98,4 @@ TEST(FormText, WrittenFormsReadTheSame) {
 }
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test

@@ -9,10 +9,12 @@
 #include "tests/dotmatrix/note_streams.h"
 #include "tests/dotmatrix/printer_rig.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
-constexpr PaperUnits kLine = kUnitsPerInch / 6;
+constexpr PaperUnits lineHeight = unitsPerInch / 6;
 
 FormDesign designOf(const test::FormFacts& form, std::optional<int> itemLines = std::nullopt) {
     const auto design = layoutForm(test::layoutNameOf(form), itemLines);
@@ -64,7 +66,7 @@ TEST_P(LayoutForms, EveryCharacterFallsIntoABox) {
     int boxed = 0;
     for (const PaperLine& line : rig.paper.lines()) {
         for (const Cell& cell : line.cells) {
-            const bool within = inABox(design, cell.x + cell.width / 2, line.y + kLine / 2);
+            const bool within = inABox(design, cell.x + cell.width / 2, line.y + lineHeight / 2);
             boxed += within ? 1 : 0;
             EXPECT_TRUE(within || ownText(lineText(line)) || line.job < rig.paper.currentJob())
                 << lineText(line) << " at column " << cell.column;
@@ -87,7 +89,7 @@ TEST_P(LayoutForms, AreAsLongAsTheirNotes) {
 // As many item lines as fill 11 inches, which is what the customers' paper has.
 TEST_P(LayoutForms, FillASheetOfElevenInches) {
     const FormDesign design = designOf(GetParam());
-    EXPECT_EQ(design.height, 11 * kUnitsPerInch);
+    EXPECT_EQ(design.height, 11 * unitsPerInch);
     EXPECT_EQ(design.name, test::layoutNameOf(GetParam()));
 }
 
@@ -97,10 +99,10 @@ TEST_P(LayoutForms, BoxesStandOnThePaper) {
     for (const FormBox& box : design.boxes) {
         EXPECT_GE(box.x, 0);
         EXPECT_GE(box.y, 0);
-        EXPECT_LE(box.x + box.width, 136 * kUnitsPerInch / 10) << box.label;
+        EXPECT_LE(box.x + box.width, 136 * unitsPerInch / 10) << box.label;
         // Of one form the foot number has no line end, and stands on the next sheet.
         const bool foot = design.name == "ImprimeNF_2421_3621" && box.label == "Número";
-        EXPECT_LE(box.y + box.height, design.height + (foot ? kLine : 0)) << box.label;
+        EXPECT_LE(box.y + box.height, design.height + (foot ? lineHeight : 0)) << box.label;
     }
 }
 
@@ -139,11 +141,11 @@ TEST(LayoutForm1361, BoxesStandWhereTheFormHasThem) {
     const FormBox& name = boxNamed(design, "Nome / razão social");
     EXPECT_EQ(name.x, 126);
     EXPECT_EQ(name.width, 82 * 126);
-    EXPECT_EQ(name.y, 9 * kLine - kLine / 2);  // half a line for its words
-    EXPECT_EQ(name.height, kLine + kLine / 2);
+    EXPECT_EQ(name.y, 9 * lineHeight - lineHeight / 2);  // half a line for its words
+    EXPECT_EQ(name.height, lineHeight + lineHeight / 2);
     const FormBox& items = boxNamed(design, "Descrição dos produtos");
-    EXPECT_EQ(items.y + kLine / 2, 21 * kLine);
-    EXPECT_EQ(items.height, 13 * kLine + kLine / 2);
+    EXPECT_EQ(items.y + lineHeight / 2, 21 * lineHeight);
+    EXPECT_EQ(items.height, 13 * lineHeight + lineHeight / 2);
     EXPECT_FALSE(design.pitch.condensed);
 }
 
@@ -164,4 +166,4 @@ TEST(LayoutForm1521, WantsAPrinterSetToCondensed) {
 }
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test

@@ -11,7 +11,9 @@
 #include "tests/dotmatrix/poppler.h"
 #include "tests/dotmatrix/printer_rig.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
 class Overlay : public testing::Test {
@@ -49,7 +51,7 @@ TEST_F(Overlay, ABoxIsDrawnWhereTheTextTellsIt) {
     PaintOptions options;
     lay(loaded(written("f.txt", "caixa 7 11 20 3\n")), options);
     const QImage image = picture(options);
-    const int inch = kPictureDotsPerInch;
+    const int inch = pictureDotsPerInch;
     const auto dark = [&image](int x, int y) { return qGray(image.pixel(x, y)) < 245; };
     const auto edgeNear = [&](int x, int y, bool upright) {
         for (int i = -2; i <= 2; ++i) {
@@ -83,7 +85,7 @@ TEST_F(Overlay, WordsOfTheFormAreTextInThePdf) {
 TEST_F(Overlay, TheSheetHoldsTheForm) {
     PaintOptions options;
     lay(loaded(QStringLiteral("ImprimeNF_2041")), options);
-    EXPECT_EQ(picture(options).width(), qRound(14.875 * kPictureDotsPerInch));
+    EXPECT_EQ(picture(options).width(), qRound(14.875 * pictureDotsPerInch));
 }
 
 TEST_F(Overlay, APictureCoversTheSheetFromEdgeToEdge) {
@@ -162,4 +164,4 @@ TEST_F(Overlay, TheRulerCountsLinesAndChangesWithThePitch) {
 }
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test

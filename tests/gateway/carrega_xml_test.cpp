@@ -8,7 +8,7 @@
 
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -30,7 +30,7 @@ protected:
     }
 
     bool load(const std::string& file = "", int save = 0, const std::string& message = "não veio") {
-        return CarregaXML(seams_.environment, seams_.environment.baseUrl + "comando=x", documento_,
+        return CarregaXML(seams_.environment, seams_.environment.baseUrl + "comando=x", document_,
                           false, file, save, "", message);
     }
 
@@ -39,13 +39,13 @@ protected:
                        ("tarn_carrega_" +
                         std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
     TestEnvironment seams_;
-    XmlDocument documento_;
+    XmlDocument document_;
 };
 
 TEST_F(CarregaXMLTest, LoadsOnceAndShowsNothing) {
     seams_.loader.on("comando=x", "<R/>");
     EXPECT_TRUE(load());
-    EXPECT_EQ(documento_.documentElement().nodeName(), "R");
+    EXPECT_EQ(document_.documentElement().nodeName(), "R");
     EXPECT_EQ(seams_.loader.addresses, std::vector<std::string>{"http://servidor/p.asp?comando=x"});
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
@@ -56,7 +56,7 @@ TEST_F(CarregaXMLTest, UnreachableAndIllFormedAreOneFailure) {
     seams_.loader.failOn("comando=x").on("comando=x", "<html><br></html>").on("comando=x", "");
     for (int i = 1; i <= 3; ++i) {
         EXPECT_FALSE(load());
-        EXPECT_TRUE(documento_.empty());
+        EXPECT_TRUE(document_.empty());
         EXPECT_EQ(seams_.boxes.shown, std::vector<Box>(static_cast<std::size_t>(i), expected));
     }
     EXPECT_EQ(seams_.loader.addresses.size(), 3U);
@@ -78,7 +78,7 @@ TEST_F(CarregaXMLTest, AnErrorInsideIsShownByItsDescription) {
                             .machine = seams_.machine,
                             .baseUrl = "http://servidor/p.asp?"};
     EXPECT_FALSE(
-        CarregaXML(environment, "http://servidor/p.asp?x", documento_, false, "", 0, "", "m"));
+        CarregaXML(environment, "http://servidor/p.asp?x", document_, false, "", 0, "", "m"));
     EXPECT_EQ(seams_.boxes.shown,
               (std::vector<Box>{
                   {.text = "memória esgotada", .icon = BoxIcon::Critical, .title = "Aviso"}}));
@@ -114,4 +114,4 @@ TEST_F(CarregaXMLTest, ACopyThatCannotBeWrittenFailsTheLoad) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -7,7 +7,7 @@
 #include "gateway/failure_texts.h"
 #include "runtime/runtime_error.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 const Sessao session{.NCOMPANYCODE = 2161,
@@ -31,7 +31,7 @@ const commands::SearchFilter search{.customer = "991",
                                     .issuedTo = ""};
 const commands::Slip slip{.branch = "33",
                           .documentKind = "201",
-                          .documento = "77/1",
+                          .document = "77/1",
                           .controlNumber = "CTL 9",
                           .portfolio = "57",
                           .bankNumber = "00000012"};
@@ -40,7 +40,7 @@ const commands::Cheque cheque{.bank = 341,
                               .account = " 4567-8 ",
                               .number = " 000123 ",
                               .series = " aç ",
-                              .valor = " 1.234,50 ",
+                              .value = " 1.234,50 ",
                               .payee = " joão & cia ",
                               .depositDate = " 05/09/2012 ",
                               .observation = " aluguel "};
@@ -73,7 +73,7 @@ const std::vector<Case>& catalogue() {
          "COMANDO=SP_GERA_NF&ID_ETB_TARN=3381&ID_ORD_FAT=12&ID_PES=u 7&ServerName=SRV1"},
         {commands::sel_gera_nf(session, "555", "A"),
          "comando=sel_gera_nf&ID_ETB_TARN=3381&ID_NF_KESTO=555&CD_SER_NF=A&ServerName=SRV1"},
-        {commands::MANUTENCAO_OFT(session, {.ordem = "12",
+        {commands::MANUTENCAO_OFT(session, {.order = "12",
                                             .observation = "10% & |x| %&",
                                             .quantity = "1.234,500",
                                             .grossWeight = "0,000",
@@ -240,8 +240,8 @@ TEST(FailureTexts, AsShown) {
         {failure::Tarn0007, "0007"}, {failure::Tarn0008, "0008"}, {failure::Tarn0009, "0009"},
         {failure::Tarn0010, "0010"}, {failure::Tarn0011, "0011"}, {failure::Tarn0012, "0012"},
         {failure::Tarn0013, "0013"}};
-    for (const auto& [texto, number] : numbered) {
-        EXPECT_EQ(texto, "ERRO Tarn" + number + end);
+    for (const auto& [text, number] : numbered) {
+        EXPECT_EQ(text, "ERRO Tarn" + number + end);
     }
     EXPECT_EQ(failure::Tarn0009Wide, "ERRO    Tarn0009" + end);
     EXPECT_EQ(failure::Tarn0024, "Tarn0024 - Erro na pesquisa de cliente" + end);
@@ -252,4 +252,4 @@ TEST(FailureTexts, AsShown) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -14,7 +14,7 @@
 #include "tests/support/loopback_server.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 const std::string header = "<?xml version='1.0' encoding='UTF-8'?>";
@@ -33,7 +33,7 @@ protected:
     }
 
     bool load(const std::string& query) {
-        return CarregaXML(environment_, environment_.baseUrl + query, documento_, false, "", 0, "",
+        return CarregaXML(environment_, environment_.baseUrl + query, document_, false, "", 0, "",
                           "falhou");
     }
     GenerationEnd generate() {
@@ -55,7 +55,7 @@ protected:
                              .baseUrl = server_.baseUrl()};
     Sessao session_;
     NoAlert alert_;
-    XmlDocument documento_;
+    XmlDocument document_;
     std::vector<std::string> printed_;
 };
 
@@ -75,7 +75,7 @@ TEST_F(GatewayLoopbackTest, EveryKindOfBadAnswerIsOneFailedLoad) {
                                            "enorme"};
     for (const std::string& query : queries) {
         EXPECT_FALSE(load(query)) << query;
-        EXPECT_TRUE(documento_.empty()) << query;
+        EXPECT_TRUE(document_.empty()) << query;
     }
     EXPECT_EQ(server_.queries(), queries);
     EXPECT_EQ(seams_.boxes.shown,
@@ -87,7 +87,7 @@ TEST_F(GatewayLoopbackTest, EveryKindOfBadAnswerIsOneFailedLoad) {
 TEST_F(GatewayLoopbackTest, NoDeclarationIsALoadWithoutAStatus) {
     server_.on("x", LoopbackReply::xml("<R a='' s='OK'/>"));
     EXPECT_TRUE(load("x"));
-    EXPECT_THROW(statusOf(documento_), RuntimeError);
+    EXPECT_THROW(statusOf(document_), RuntimeError);
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
 
@@ -174,9 +174,9 @@ TEST_F(GatewayLoopbackTest, ANoteFromOrderToPrint) {
 
 TEST_F(GatewayLoopbackTest, CancelWithoutAServer) {
     server_.closePort();
-    BillingOrder ordem;
-    ordem.cells[0] = "12";
-    EXPECT_FALSE(cancelOrder(environment_, session_, ordem));
+    BillingOrder order;
+    order.cells[0] = "12";
+    EXPECT_FALSE(cancelOrder(environment_, session_, order));
     EXPECT_EQ(texts(), (std::vector<std::string>{
                            "Confirma o cancelamento da Ordem de Faturamento nº 12 ?     ",
                            "ERRO Tarn0003 - Não foi possível obter os dados da Internet. "
@@ -186,7 +186,7 @@ TEST_F(GatewayLoopbackTest, CancelWithoutAServer) {
 
 TEST_F(GatewayLoopbackTest, AnObservationTravelsWithItsSignsReplaced) {
     server_.on("", LoopbackReply::xml("<R/>"));
-    EXPECT_TRUE(load(commands::MANUTENCAO_OFT(session_, {.ordem = "1",
+    EXPECT_TRUE(load(commands::MANUTENCAO_OFT(session_, {.order = "1",
                                                          .observation = "10% & \"ção\"\r\n#2",
                                                          .quantity = "1,000",
                                                          .grossWeight = "2,000",
@@ -199,4 +199,4 @@ TEST_F(GatewayLoopbackTest, AnObservationTravelsWithItsSignsReplaced) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -6,19 +6,19 @@
 
 #include "runtime/runtime_error.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 class PegaValorTest : public testing::Test {
 protected:
-    const XmlNode& load(std::string_view linhas) {
-        EXPECT_TRUE(documento_.loadXML("<?xml version='1.0'?><PRINCIPAL c='' s='OK'>" +
-                                       std::string(linhas) + "</PRINCIPAL>"));
-        principal_ = documento_.selectSingleNode("PRINCIPAL");
+    const XmlNode& load(std::string_view lines) {
+        EXPECT_TRUE(document_.loadXML("<?xml version='1.0'?><PRINCIPAL c='' s='OK'>" +
+                                      std::string(lines) + "</PRINCIPAL>"));
+        principal_ = document_.selectSingleNode("PRINCIPAL");
         return principal_;
     }
 
-    XmlDocument documento_;
+    XmlDocument document_;
     XmlNode principal_;
 };
 
@@ -97,23 +97,23 @@ TEST_F(PegaValorTest, RowsAreCountedByElements) {
 }
 
 TEST(StatusOf, TheSecondAttributeOfTheSecondChild) {
-    XmlDocument documento;
-    ASSERT_TRUE(documento.loadXML("<?xml version='1.0'?><R x='1' y='ok' z='3'/>"));
-    EXPECT_EQ(statusOf(documento), "ok");
+    XmlDocument document;
+    ASSERT_TRUE(document.loadXML("<?xml version='1.0'?><R x='1' y='ok' z='3'/>"));
+    EXPECT_EQ(statusOf(document), "ok");
     ASSERT_TRUE(
-        documento.loadXML("<?xml version='1.0'?><R x='1' y='&lt;b&gt;n&#227;o&lt;/b&gt;'/>"));
-    EXPECT_EQ(statusOf(documento), "<b>não</b>");
+        document.loadXML("<?xml version='1.0'?><R x='1' y='&lt;b&gt;n&#227;o&lt;/b&gt;'/>"));
+    EXPECT_EQ(statusOf(document), "<b>não</b>");
 }
 
 TEST(StatusOf, CannotBeRead) {
-    XmlDocument documento;
-    expectObjectError([&] { statusOf(documento); });
-    ASSERT_TRUE(documento.loadXML("<R x='1' y='OK'/>"));
-    expectObjectError([&] { statusOf(documento); });
-    ASSERT_TRUE(documento.loadXML("<?xml version='1.0'?><R x='OK'/>"));
-    expectObjectError([&] { statusOf(documento); });
-    ASSERT_TRUE(documento.loadXML("<?xml version='1.0'?><R/>"));
-    expectObjectError([&] { statusOf(documento); });
+    XmlDocument document;
+    expectObjectError([&] { statusOf(document); });
+    ASSERT_TRUE(document.loadXML("<R x='1' y='OK'/>"));
+    expectObjectError([&] { statusOf(document); });
+    ASSERT_TRUE(document.loadXML("<?xml version='1.0'?><R x='OK'/>"));
+    expectObjectError([&] { statusOf(document); });
+    ASSERT_TRUE(document.loadXML("<?xml version='1.0'?><R/>"));
+    expectObjectError([&] { statusOf(document); });
 }
 
 class RowReaderTest : public PegaValorTest {
@@ -130,27 +130,27 @@ TEST_F(RowReaderTest, ReadsAsPegaValorDoes) {
         "<I xmlns:p='u' p:VL='1'/>"
         "<I vl='lower' VL='9.5'/>");
     reader_.read(no, 0);
-    EXPECT_EQ(reader_.texto(0), "A.1");
+    EXPECT_EQ(reader_.text(0), "A.1");
     EXPECT_EQ(reader_.number(0), "A,1");
-    EXPECT_EQ(reader_.texto(1), "1.5");
+    EXPECT_EQ(reader_.text(1), "1.5");
     EXPECT_EQ(reader_.number(1), "1,5");
-    EXPECT_EQ(reader_.texto(2), "S");
+    EXPECT_EQ(reader_.text(2), "S");
     expectObjectError([&] { (void)reader_.number(2); });
     EXPECT_FALSE(reader_.present(3));
-    EXPECT_EQ(reader_.texto(3), "");
+    EXPECT_EQ(reader_.text(3), "");
     EXPECT_EQ(reader_.number(3), "0");
     EXPECT_EQ(reader_.number(3, "5"), "5");
     reader_.read(no, 1);
-    EXPECT_EQ(reader_.texto(0), "");
+    EXPECT_EQ(reader_.text(0), "");
     EXPECT_TRUE(reader_.present(1));
     EXPECT_EQ(reader_.number(1, "5"), "");
     EXPECT_EQ(reader_.number(3), "1,2,3");
     reader_.read(no, 2);
-    expectObjectError([&] { (void)reader_.texto(2); });
+    expectObjectError([&] { (void)reader_.text(2); });
     expectObjectError([&] { (void)reader_.number(1); });
     reader_.read(no, 3);
     EXPECT_TRUE(reader_.present(3));
-    expectObjectError([&] { (void)reader_.texto(3); });
+    expectObjectError([&] { (void)reader_.text(3); });
     reader_.read(no, 4);
     EXPECT_EQ(reader_.number(3), "9,5");
     EXPECT_THROW(reader_.read(no, 5), RuntimeError);
@@ -162,41 +162,41 @@ TEST_F(RowReaderTest, FollowsFromDocumentToDocument) {
         const std::string extra = i % 2 == 0 ? "a" + std::to_string(i) + "='0' " : "";
         const XmlNode& no = load("<I " + extra + "QTDE='" + std::to_string(i) + "' VL='x'/>");
         reader_.read(no, 0);
-        EXPECT_EQ(reader_.texto(1), std::to_string(i));
-        EXPECT_EQ(reader_.texto(3), "x");
-        EXPECT_EQ(reader_.texto(0), "");
+        EXPECT_EQ(reader_.text(1), std::to_string(i));
+        EXPECT_EQ(reader_.text(3), "x");
+        EXPECT_EQ(reader_.text(0), "");
     }
 }
 
 TEST_F(RowReaderTest, RowsNeedNotKeepAnOrder) {
     constexpr std::array<std::string_view, 6> parts{"CD_PRO='c'", "x='1'",  "QTDE='q'",
                                                     "y='2'",      "VL='v'", "z='3'"};
-    std::string linhas;
+    std::string lines;
     for (std::size_t i = 0; i < 64; ++i) {  // turned, and with every set of them
-        linhas += "<I";
+        lines += "<I";
         for (std::size_t j = 0; j < parts.size(); ++j) {
             const std::size_t which = (i + j) % parts.size();
-            linhas += (i >> which & 1U) != 0 ? " " + std::string(parts.at(which)) : "";
+            lines += (i >> which & 1U) != 0 ? " " + std::string(parts.at(which)) : "";
         }
-        linhas += "/>";
+        lines += "/>";
     }
-    const XmlNode& no = load(linhas);
+    const XmlNode& no = load(lines);
     for (std::size_t i = 0; i < 64; ++i) {
         reader_.read(no, i);
-        EXPECT_EQ(reader_.texto(0), (i & 1U) != 0 ? "c" : "") << i;
-        EXPECT_EQ(reader_.texto(1), (i & 4U) != 0 ? "q" : "") << i;
-        EXPECT_EQ(reader_.texto(3), (i & 16U) != 0 ? "v" : "") << i;
+        EXPECT_EQ(reader_.text(0), (i & 1U) != 0 ? "c" : "") << i;
+        EXPECT_EQ(reader_.text(1), (i & 4U) != 0 ? "q" : "") << i;
+        EXPECT_EQ(reader_.text(3), (i & 16U) != 0 ? "v" : "") << i;
     }
 }
 
 TEST_F(RowReaderTest, ManyDifferentNames) {
-    std::string linha = "<I ";
+    std::string line = "<I ";
     for (int i = 0; i < 1000; ++i) {
-        linha += "N" + std::to_string(i) + "='" + std::to_string(i) + "' ";
+        line += "N" + std::to_string(i) + "='" + std::to_string(i) + "' ";
     }
-    const XmlNode& no = load(linha + "VL='fim'/>");
+    const XmlNode& no = load(line + "VL='fim'/>");
     reader_.read(no, 0);
-    EXPECT_EQ(reader_.texto(3), "fim");
+    EXPECT_EQ(reader_.text(3), "fim");
     EXPECT_FALSE(reader_.present(0));
 }
 
@@ -204,8 +204,8 @@ TEST_F(RowReaderTest, UndeclaredPrefixesCountAsPrefixes) {
     const XmlNode& no = load("<I q:VL='1'/>");
     reader_.read(no, 0);
     EXPECT_TRUE(reader_.present(3));
-    expectObjectError([&] { (void)reader_.texto(3); });
+    expectObjectError([&] { (void)reader_.text(3); });
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -9,7 +9,7 @@
 
 #include "runtime/runtime_error.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 constexpr std::string_view rowset =
@@ -186,13 +186,13 @@ TEST(XmlDocument, ChildByPositionOfAnyParentAtAnyTime) {
 }
 
 TEST(XmlDocument, EncodingsAsDeclared) {
-    const auto nome = [](std::string_view text) {
+    const auto name = [](std::string_view text) {
         return std::string(loaded(text).documentElement().attributes().item(0).text());
     };
-    EXPECT_EQ(nome("<R n='Ação'/>"), "Ação");
-    EXPECT_EQ(nome("\xEF\xBB\xBF<?xml version='1.0' encoding='utf-8'?><R n='Ação'/>"), "Ação");
-    EXPECT_EQ(nome("<?xml version='1.0' encoding='ISO-8859-1'?><R n='A\xE7\xE3o'/>"), "Ação");
-    EXPECT_EQ(nome("<?xml version='1.0' encoding='windows-1252'?><R n='A\xE7\xE3o \x80\x93'/>"),
+    EXPECT_EQ(name("<R n='Ação'/>"), "Ação");
+    EXPECT_EQ(name("\xEF\xBB\xBF<?xml version='1.0' encoding='utf-8'?><R n='Ação'/>"), "Ação");
+    EXPECT_EQ(name("<?xml version='1.0' encoding='ISO-8859-1'?><R n='A\xE7\xE3o'/>"), "Ação");
+    EXPECT_EQ(name("<?xml version='1.0' encoding='windows-1252'?><R n='A\xE7\xE3o \x80\x93'/>"),
               "Ação €“");
 }
 
@@ -293,4 +293,4 @@ TEST(XmlDocument, SavesACopy) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

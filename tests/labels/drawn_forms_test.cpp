@@ -9,7 +9,9 @@
 #include "tests/labels/label_answers.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn::labels {
+namespace tarn::test {
+
+using namespace labels;
 namespace {
 
 using testing::ElementsAre;
@@ -68,7 +70,7 @@ TEST_P(Pimaco, EveryLabelInItsPlace) {
     }
     const std::size_t drawnBeforeBox = expected.size();
     expected.insert(expected.end(), {"newpage", "enddoc"});
-    EXPECT_THAT(print(LabelForm::Pimaco6280, labels(count)), ElementsAreArray(expected));
+    EXPECT_THAT(print(LabelForm::Pimaco6280, labelRows(count)), ElementsAreArray(expected));
     EXPECT_THAT(env.boxes.shown, ElementsAre(printed));
     EXPECT_EQ(beforeBox, drawnBeforeBox) << "the last sheet waits for OK";
 }
@@ -76,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(Labels, Pimaco, testing::Values(1, 2, 3, 4, 29, 30, 31,
 
 TEST_F(DrawnForms, TheFirstLabelOfASheetInFull) {
     EXPECT_THAT(
-        print(LabelForm::Pimaco6280, labels(1)),
+        print(LabelForm::Pimaco6280, labelRows(1)),
         ElementsAre("scale\t7", "orientation\t1", "text\t0.500\t1.200\tArial\t6\t1\tNOME 1",
                     "text\t0.500\t1.500\tArial\t6\t1\tRUA 1, 5",
                     "text\t0.500\t1.800\tArial\t6\t1\tCJ 1",
@@ -88,7 +90,7 @@ TEST_F(DrawnForms, TheFirstLabelOfASheetInFull) {
 
 // The calls on the raw channel that end every drawn run: no job is open for them.
 TEST_F(DrawnForms, TheRawChannelIsClosedAllTheSame) {
-    print(LabelForm::Pimaco6280, labels(1));
+    print(LabelForm::Pimaco6280, labelRows(1));
     using Call = RecordingSpooler::Call;
     EXPECT_THAT(env.spooler.calls, ElementsAre(Call::EndPage, Call::EndDocument, Call::Close));
     EXPECT_TRUE(env.spooler.jobs.empty());
@@ -96,7 +98,7 @@ TEST_F(DrawnForms, TheRawChannelIsClosedAllTheSame) {
 
 TEST_F(DrawnForms, ARangeWithoutLabels) {
     for (const LabelForm form : {LabelForm::Pimaco6280, LabelForm::A5, LabelForm::A4WithSender}) {
-        for (const std::string& none : {labels(0), std::string("<xml/>")}) {
+        for (const std::string& none : {labelRows(0), std::string("<xml/>")}) {
             TestEnvironment fresh;
             printLabels(fresh.environment, form, run(none, sender), {});
             EXPECT_THAT(fresh.printer.lines(), ElementsAre("scale\t7", "orientation\t1"));
@@ -130,7 +132,7 @@ TEST_F(DrawnForms, AbsentFieldsAreDrawnEmptyAndControlsAsBlanks) {
 }
 
 TEST_F(DrawnForms, TheA5Page) {
-    EXPECT_THAT(print(LabelForm::A5, labels(1)),
+    EXPECT_THAT(print(LabelForm::A5, labelRows(1)),
                 ElementsAre("scale\t7", "orientation\t1", drawn(500, 1200, 15, "NOME 1"),
                             drawn(500, 1800, 15, "RUA 1, 5"), drawn(500, 2400, 15, "BAIRRO 1"),
                             drawn(10000, 2400, 15, "CJ 1"), drawn(500, 3000, 15, "CIDADE 1"),
@@ -141,7 +143,7 @@ TEST_F(DrawnForms, TheA5Page) {
 }
 
 TEST_F(DrawnForms, TheSecondLabelOnA5FallsOnTheFirst) {
-    const std::vector<std::string> lines = print(LabelForm::A5, labels(2));
+    const std::vector<std::string> lines = print(LabelForm::A5, labelRows(2));
     ASSERT_EQ(lines.size(), 20U);
     EXPECT_EQ(lines[2], drawn(500, 1200, 15, "NOME 1"));
     EXPECT_EQ(lines[10], drawn(500, 1200, 15, "NOME 2"));
@@ -198,7 +200,7 @@ TEST_F(DrawnForms, AnA4PageForEachLabelWithTheSender) {
     }
     const std::size_t drawnBeforeBox = expected.size();
     expected.emplace_back("enddoc");
-    EXPECT_THAT(print(LabelForm::A4WithSender, labels(2)), ElementsAreArray(expected));
+    EXPECT_THAT(print(LabelForm::A4WithSender, labelRows(2)), ElementsAreArray(expected));
     EXPECT_THAT(env.boxes.shown, ElementsAre(printed));
     EXPECT_EQ(beforeBox, drawnBeforeBox);
 }
@@ -244,7 +246,7 @@ TEST_F(DrawnForms, TheSendersLongLinesAreBrokenAndItsFieldsNotCut) {
     const std::string from = answers::rowset(
         "<z:row NOME='" + fullLine + "+' ENDERECO='" + fullLine + "-' BAIRRO='" + long30 +
         "' MUNICIPIO='" + long30 + "' UF='PR' CEP='8' DESCRICAO=' " + long30 + " ' NUMERO='12A'/>");
-    const std::vector<std::string> lines = print(LabelForm::A4WithSender, labels(1), from);
+    const std::vector<std::string> lines = print(LabelForm::A4WithSender, labelRows(1), from);
     const std::vector<std::string> block(lines.begin() + 15, lines.end() - 2);
     EXPECT_THAT(block, ElementsAre(drawn(500, 15500, 13, "REMETENTE"), drawn(500, 16000, 10, rule),
                                    drawn(500, 16500, 20, fullLine), drawn(500, 17300, 20, "+"),
@@ -286,14 +288,14 @@ TEST_F(DrawnForms, ANumberThatCountsAsZeroPrintsNothing) {
 
 TEST_F(DrawnForms, AFailureIsShownAndTheNextTextDrawn) {
     env.printer.failAt = 3;  // the second text
-    EXPECT_EQ(print(LabelForm::A5, labels(1)).size(), 12U);
+    EXPECT_EQ(print(LabelForm::A5, labelRows(1)).size(), 12U);
     EXPECT_THAT(env.boxes.shown,
                 ElementsAre(Box{"Descrição :impressora sem papel\r\n   Numero :482"}, printed));
 }
 
 TEST_F(DrawnForms, AFailureOfTheEndIsShownToo) {
     env.printer.failAt = 11;  // EndDoc
-    print(LabelForm::A5, labels(1));
+    print(LabelForm::A5, labelRows(1));
     EXPECT_THAT(env.boxes.shown,
                 ElementsAre(printed, Box{"Descrição :impressora sem papel\r\n   Numero :482"}));
 }
@@ -307,7 +309,7 @@ TEST(Sender, MustHaveARow) {
 TEST_F(DrawnForms, ProgressIsToldLabelByLabel) {
     for (const LabelForm form : {LabelForm::Pimaco6280, LabelForm::A5, LabelForm::A4WithSender}) {
         std::vector<std::size_t> told;
-        printLabels(env.environment, form, run(labels(3), sender),
+        printLabels(env.environment, form, run(labelRows(3), sender),
                     [&told](std::size_t done, std::size_t total) {
                         told.push_back(done);
                         EXPECT_EQ(total, 3U);
@@ -338,7 +340,7 @@ TEST_F(DrawnForms, ThePrintersOwnProgressIsToldAfterTheBox) {
                       .baseUrl = {}};
     std::vector<std::string> told;
     env.boxes.onShow = [&told](const Box&) { told.emplace_back("box"); };
-    printLabels(there, LabelForm::A4WithSender, run(labels(3), sender),
+    printLabels(there, LabelForm::A4WithSender, run(labelRows(3), sender),
                 [&told](std::size_t done, std::size_t total) {
                     told.push_back(std::to_string(done) + "/" + std::to_string(total));
                 });
@@ -364,4 +366,4 @@ TEST(FormOf, NamesAsThePrintScreenShowsThem) {
 }
 
 }  // namespace
-}  // namespace tarn::labels
+}  // namespace tarn::test

@@ -1,6 +1,8 @@
 #include "tests/labels/label_screens.h"
 
-namespace tarn::labels {
+namespace tarn::test {
+
+using namespace labels;
 namespace {
 
 using testing::ElementsAre;
@@ -57,7 +59,7 @@ TEST_F(DeletionScreen, BothEndsMustBeFilled) {
 }
 
 TEST_F(DeletionScreen, SendsTheRangeClosesAndTheQueueIsReadAgain) {
-    server.on("sDc_Mot_Imp=NATAL", labels(1));
+    server.on("sDc_Mot_Imp=NATAL", labelRows(1));
     inReadQueue(0, [this](QWidget& queue) {
         EXPECT_EQ(rows(queue), 2);
         deleting(queue, [this](QWidget& deletion) {
@@ -77,7 +79,7 @@ TEST_F(DeletionScreen, AFailedDeletionIsCalledASuccessAndTheListTellsTheTruth) {
     server.on("sel_dados_empresa", answers::branch("F"))
         .on("sel_motivos", answers::rowset("<z:row DC_MOT_IMP='NATAL'/>"))
         .on("sel_filiais_remetente", answers::rowset(""))
-        .on("sel_etiquetas", labels(2));
+        .on("sel_etiquetas", labelRows(2));
     inReadQueue(0, [this](QWidget& queue) {
         deleting(queue, [](QWidget& deletion) {
             range(deletion, "1", "2");
@@ -141,4 +143,4 @@ TEST_F(DeletionScreen, KeysAreFilteredAndEnterGoesOn) {
 }
 
 }  // namespace
-}  // namespace tarn::labels
+}  // namespace tarn::test

@@ -2,7 +2,9 @@
 
 #include "tests/labels/label_screens.h"
 
-namespace tarn::labels {
+namespace tarn::test {
+
+using namespace labels;
 namespace {
 
 using testing::ElementsAre;
@@ -426,4 +428,4 @@ TEST_F(SelectionScreen, ALongRunShowsHowFarItIs) {
 }
 
 }  // namespace
-}  // namespace tarn::labels
+}  // namespace tarn::test

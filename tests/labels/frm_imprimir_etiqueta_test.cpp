@@ -3,7 +3,9 @@
 
 #include "tests/labels/label_screens.h"
 
-namespace tarn::labels {
+namespace tarn::test {
+
+using namespace labels;
 namespace {
 
 using testing::ElementsAre;
@@ -101,7 +103,7 @@ TEST_F(PrintScreen, TheRawFormPrintsWithoutAWord) {
 }
 
 TEST_F(PrintScreen, ARangeWithoutLabelsSaysSoAndCloses) {
-    server.on("sDc_Mot_Imp=NATAL&nSeq_De=8", labels(0));
+    server.on("sDc_Mot_Imp=NATAL&nSeq_De=8", labelRows(0));
     for (const int form : {1, 3, 4}) {
         boxes.shown.clear();
         printer.operations.clear();
@@ -122,7 +124,7 @@ TEST_F(PrintScreen, ARangeWithoutLabelsSaysSoAndCloses) {
 }
 
 TEST_F(PrintScreen, AFailedRequestLeavesItOpenForAnotherTry) {
-    server.failOn("sDc_Mot_Imp=NATAL&nSeq_De=8").on("sDc_Mot_Imp=NATAL&nSeq_De=8", labels(1));
+    server.failOn("sDc_Mot_Imp=NATAL&nSeq_De=8").on("sDc_Mot_Imp=NATAL&nSeq_De=8", labelRows(1));
     inPrinting(3, [this](QWidget& print) {
         range(print, "8", "9");
         click(print, "cmdOk");
@@ -267,7 +269,7 @@ TEST_F(PrintScreen, APrinterThatRefusesTheSheetOrTheDocumentIsToldAfterTheBox) {
 
 TEST_F(PrintScreen, WhatIsPressedWhileItFetchesAndPrintsIsLost) {
     constexpr int many = 5000;
-    server.on("sDc_Mot_Imp=NATAL&nSeq_De=8", labels(many));
+    server.on("sDc_Mot_Imp=NATAL&nSeq_De=8", labelRows(many));
     for (const int form : {1, 2, 3, 4}) {
         boxes.shown.clear();
         spooler.jobs.clear();
@@ -294,7 +296,7 @@ TEST_F(PrintScreen, WhatIsPressedWhileItFetchesAndPrintsIsLost) {
 TEST_F(PrintScreen, ThirtyAndSixtyOneLabelsOnSheets) {
     for (const auto& [count, documents] :
          {std::pair{29, 1}, std::pair{30, 2}, std::pair{31, 2}, std::pair{61, 3}}) {
-        server.on("nSeq_De=8&nSeq_Ate=" + std::to_string(count) + "&", labels(count));
+        server.on("nSeq_De=8&nSeq_Ate=" + std::to_string(count) + "&", labelRows(count));
         boxes.shown.clear();
         printer = RecordingPrinter();
         boxes.onShow = [&, documents](const Box&) {
@@ -311,7 +313,7 @@ TEST_F(PrintScreen, ThirtyAndSixtyOneLabelsOnSheets) {
 }
 
 TEST_F(PrintScreen, AFieldInAnotherCaseEndsTheProgramBeforeTheSheetComesOut) {
-    server.on("sDc_Mot_Imp=NATAL&nSeq_De=8", answers::rowset(label(1) + "<z:row nome='X'/>"));
+    server.on("sDc_Mot_Imp=NATAL&nSeq_De=8", answers::rowset(labelRow(1) + "<z:row nome='X'/>"));
     inPrinting(1, [](QWidget& print) {
         range(print, "8", "9");
         click(print, "cmdOk");
@@ -334,7 +336,7 @@ TEST_F(PrintScreen, EscLeavesWithoutPrinting) {
 
 TEST_F(PrintScreen, ALongRunShowsHowFarItIs) {
     constexpr int many = 5000;
-    server.on("sDc_Mot_Imp=NATAL&nSeq_De=8", labels(many));
+    server.on("sDc_Mot_Imp=NATAL&nSeq_De=8", labelRows(many));
     for (const int form : {1, 2, 3, 4}) {
         boxes.shown.clear();
         inPrinting(form, [&](QWidget& print) {
@@ -354,4 +356,4 @@ TEST_F(PrintScreen, ALongRunShowsHowFarItIs) {
 }
 
 }  // namespace
-}  // namespace tarn::labels
+}  // namespace tarn::test

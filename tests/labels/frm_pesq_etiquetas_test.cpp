@@ -1,6 +1,8 @@
 #include "tests/labels/label_screens.h"
 
-namespace tarn::labels {
+namespace tarn::test {
+
+using namespace labels;
 namespace {
 
 using testing::ElementsAre;
@@ -172,7 +174,7 @@ TEST_F(QueueScreen, AnOpenListShowsItsReasonsWhole) {
         .on("sel_motivos", answers::rowset("<z:row DC_MOT_IMP='" + campaign + "2011'/>" +
                                            "<z:row DC_MOT_IMP='" + campaign + "2012'/>"))
         .on("sel_filiais_remetente", answers::rowset(""))
-        .on("sel_etiquetas", labels(1));
+        .on("sel_etiquetas", labelRows(1));
     inQueue([](QWidget& queue) {
         auto& reasons = named<QComboBox>(queue, "cboMotivo");
         reasons.setFocus();
@@ -227,7 +229,7 @@ TEST_F(QueueScreen, ServerTextsAreShownAsTheyAre) {
         .on("sel_motivos", answers::rowset("<z:row DC_MOT_IMP=' A &amp;B &lt;b&gt;x&lt;/b&gt; '/>"
                                            "<z:row/>"))
         .on("sel_filiais_remetente", answers::rowset("<z:row FILIAL='&lt;i&gt;Z' ID_ETB='-7'/>"))
-        .on("sel_etiquetas", labels(1))
+        .on("sel_etiquetas", labelRows(1))
         .on("sel_dados_remetente", sender);
     inQueue([this](QWidget& queue) {
         const std::string reason = " A &B <b>x</b> ";
@@ -396,4 +398,4 @@ TEST_F(QueueScreen, AQueueLongerThanAnyCounterOf16Bits) {
 }
 
 }  // namespace
-}  // namespace tarn::labels
+}  // namespace tarn::test

@@ -7,7 +7,7 @@
 #include "labels/print_labels.h"
 #include "tests/support/answers.h"
 
-namespace tarn::labels {
+namespace tarn::test {
 
 inline XmlDocument document(const std::string& answer) {
     XmlDocument parsed;
@@ -18,7 +18,7 @@ inline XmlDocument document(const std::string& answer) {
 }
 
 // A label whose texts all tell its number.
-inline std::string label(int number) {
+inline std::string labelRow(int number) {
     const std::string n = std::to_string(number);
     return "<z:row NOME='NOME " + n + "' ENDERECO='RUA " + n + ", 5' SOMENTE_ENDERECO='RUA " + n +
            "' NUMERO='" + n + "' COMPLEMENTO='CJ " + n + "' BAIRRO='BAIRRO " + n +
@@ -26,14 +26,14 @@ inline std::string label(int number) {
            "'/>";
 }
 
-inline PrintRun run(const std::string& rows, const std::string& from) {
-    return {document(rows), readSender(document(from))};
+inline labels::PrintRun run(const std::string& rows, const std::string& from) {
+    return {document(rows), labels::readSender(document(from))};
 }
 
-inline std::string labels(int count) {
+inline std::string labelRows(int count) {
     std::string rows;
     for (int number = 1; number <= count; ++number) {
-        rows += label(number);
+        rows += labelRow(number);
     }
     return answers::rowset(rows);
 }
@@ -56,4 +56,4 @@ inline std::string drawn(int x, int y, int points, const std::string& text) {
            text;
 }
 
-}  // namespace tarn::labels
+}  // namespace tarn::test

@@ -12,7 +12,9 @@
 #include "tests/labels/label_answers.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn::labels {
+namespace tarn::test {
+
+using namespace labels;
 namespace {
 
 using testing::ElementsAre;
@@ -66,7 +68,7 @@ constexpr char senderQuery[] =
     "comando=sel_dados_remetente&nId_Emp_Tarn=2161&nId_Etb_Tarn=7&ServerName=SRV1";
 
 TEST_F(LabelFlows, ARangeIsFetchedWithItsSenderAndPrinted) {
-    env.loader.on("sel_etiquetas", labels(1)).on("sel_dados_remetente", sender);
+    env.loader.on("sel_etiquetas", labelRows(1)).on("sel_dados_remetente", sender);
     EXPECT_TRUE(printRange("007", " 1.000"));
     EXPECT_THAT(env.loader.queries(),
                 ElementsAre("comando=sel_etiquetas&ID_EMP_TARN=2161&sDc_Mot_Imp=NATAL & ANO"
@@ -79,7 +81,7 @@ TEST_F(LabelFlows, ARangeIsFetchedWithItsSenderAndPrinted) {
 TEST_F(LabelFlows, EveryFormAsksForTheSender) {
     for (const char* form : {"1", "2", "3", "4"}) {
         TestEnvironment fresh;
-        fresh.loader.on("sel_etiquetas", labels(0)).on("sel_dados_remetente", sender);
+        fresh.loader.on("sel_etiquetas", labelRows(0)).on("sel_dados_remetente", sender);
         values.TipoFormulario = form;
         EXPECT_TRUE(printRange(fresh, "1", "2"));
         EXPECT_EQ(fresh.loader.queries().size(), 2U);
@@ -106,7 +108,7 @@ TEST_F(LabelFlows, ARangeThatIsNoNumberSendsNothing) {
 }
 
 TEST_F(LabelFlows, ACommaInTheRangeTravels) {
-    env.loader.on("sel_etiquetas", labels(0)).on("sel_dados_remetente", sender);
+    env.loader.on("sel_etiquetas", labelRows(0)).on("sel_dados_remetente", sender);
     printRange("7,5", ",5");
     EXPECT_THAT(env.loader.queries()[0], testing::HasSubstr("&nSeq_De=7,5&nSeq_Ate=0,5&"));
 }
@@ -116,7 +118,7 @@ TEST_F(LabelFlows, AFailedRequestPrintsNothing) {
     EXPECT_FALSE(printRange("1", "2"));
     EXPECT_EQ(env.loader.addresses.size(), 1U);
     TestEnvironment second;
-    second.loader.on("sel_etiquetas", labels(2)).failOn("sel_dados_remetente");
+    second.loader.on("sel_etiquetas", labelRows(2)).failOn("sel_dados_remetente");
     EXPECT_FALSE(printRange(second, "1", "2"));
     EXPECT_EQ(second.loader.addresses.size(), 2U);
     EXPECT_THAT(env.boxes.shown, ElementsAre(noInternet9));
@@ -129,7 +131,7 @@ TEST_F(LabelFlows, ASenderWithoutARowIsReportedForEveryForm) {
     for (const char* form : {"1", "2", "3", "4"}) {
         values.TipoFormulario = form;
         env.boxes.shown.clear();
-        env.loader.on("sel_etiquetas", labels(2)).on("sel_dados_remetente", answers::rowset(""));
+        env.loader.on("sel_etiquetas", labelRows(2)).on("sel_dados_remetente", answers::rowset(""));
         EXPECT_FALSE(printRange("1", "2"));
         ASSERT_EQ(env.boxes.shown.size(), 1U);
         EXPECT_EQ(env.boxes.shown[0].icon, BoxIcon::Critical);
@@ -381,4 +383,4 @@ TEST_F(LabelFlows, AFailureOfTheSelectionIsShownAndItGoesOn) {
 }
 
 }  // namespace
-}  // namespace tarn::labels
+}  // namespace tarn::test

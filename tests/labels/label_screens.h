@@ -13,7 +13,7 @@
 #include "tests/support/grid.h"
 #include "tests/support/screen_test.h"
 
-namespace tarn::labels {
+namespace tarn::test {
 
 inline constexpr char internet[] =
     " - Não foi possível obter os dados da Internet. Verifique a conexão com a Internet.";
@@ -58,7 +58,7 @@ protected:
         server.on("sel_filiais_remetente", answers::rowset("<z:row FILIAL='SUL' ID_ETB='12'/>"
                                                            "<z:row FILIAL='NORTE' ID_ETB='13'/>"));
         server.on("sDc_Mot_Imp=--------", answers::rowset(""));
-        server.on("sDc_Mot_Imp=NATAL", labels(2));
+        server.on("sDc_Mot_Imp=NATAL", labelRows(2));
         server.on("sDc_Mot_Imp=PÁSCOA", answers::rowset(""));
         server.on("sel_dados_remetente", sender);
         menu.show();
@@ -177,4 +177,4 @@ protected:
     MDIMenu menu{desk};
 };
 
-}  // namespace tarn::labels
+}  // namespace tarn::test

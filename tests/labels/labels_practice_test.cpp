@@ -3,7 +3,9 @@
 #include "tests/labels/label_screens.h"
 #include "tests/support/practice_page.h"
 
-namespace tarn::labels {
+namespace tarn::test {
+
+using namespace labels;
 namespace {
 
 class PracticeLabels : public LabelScreens {
@@ -76,4 +78,4 @@ TEST_F(PracticeLabels, CustomersAreFoundByTheirPlaceAndPrinted) {
 }
 
 }  // namespace
-}  // namespace tarn::labels
+}  // namespace tarn::test

@@ -6,7 +6,9 @@
 #include "tests/labels/label_answers.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn::labels {
+namespace tarn::test {
+
+using namespace labels;
 namespace {
 
 using testing::ElementsAre;
@@ -67,7 +69,7 @@ protected:
 };
 
 TEST_F(RawForm, OneLabel) {
-    print(labels(1));
+    print(labelRows(1));
     expectsJobs();
     EXPECT_EQ(env.spooler.bytes(1),
               " NOME 1                                                  \r\n"
@@ -80,7 +82,7 @@ TEST_F(RawForm, OneLabel) {
 }
 
 TEST_F(RawForm, FourLabelsStandSideBySide) {
-    print(labels(4));
+    print(labelRows(4));
     expectsJobs();
     std::vector<std::string> writes;
     addGroup(writes, 1, 4);
@@ -89,7 +91,7 @@ TEST_F(RawForm, FourLabelsStandSideBySide) {
 }
 
 TEST_F(RawForm, TheFifthLabelBeginsTheNextGroup) {
-    print(labels(5));
+    print(labelRows(5));
     expectsJobs();
     std::vector<std::string> writes;
     addGroup(writes, 1, 4);
@@ -98,7 +100,7 @@ TEST_F(RawForm, TheFifthLabelBeginsTheNextGroup) {
 }
 
 TEST_F(RawForm, NoLabelsLeaveAnEmptyJobAndSayNothing) {
-    print(labels(0));
+    print(labelRows(0));
     expectsJobs();
     EXPECT_TRUE(env.spooler.jobs[1].writes.empty());
     EXPECT_TRUE(env.boxes.shown.empty());
@@ -127,14 +129,14 @@ TEST_F(RawForm, ACharacterIsAByteAndAControlABlank) {
 
 TEST_F(RawForm, APrinterThatCantBeOpenedGoesUnnoticed) {
     env.spooler.failOpen = 0;
-    print(labels(1));
+    print(labelRows(1));
     EXPECT_EQ(env.spooler.jobs.size(), 1U) << "only the labels' own job";
     EXPECT_TRUE(env.boxes.shown.empty());
 }
 
 TEST_F(RawForm, ProgressIsToldGroupByGroup) {
     std::vector<std::size_t> told;
-    printLabels(env.environment, LabelForm::DotMatrix, run(labels(6), sender),
+    printLabels(env.environment, LabelForm::DotMatrix, run(labelRows(6), sender),
                 [&told](std::size_t done, std::size_t total) {
                     told.push_back(done);
                     EXPECT_EQ(total, 6U);
@@ -143,4 +145,4 @@ TEST_F(RawForm, ProgressIsToldGroupByGroup) {
 }
 
 }  // namespace
-}  // namespace tarn::labels
+}  // namespace tarn::test

@@ -4,7 +4,9 @@
 #include "notes/form_check.h"
 #include "notes/form_rows.h"
 
-namespace tarn::notes {
+namespace tarn::test {
+
+using namespace notes;
 namespace {
 
 using enum Source;
@@ -76,4 +78,4 @@ TEST(FormCheck, MasksAndRoomsComeWithTheSource) {
 }
 
 }  // namespace
-}  // namespace tarn::notes
+}  // namespace tarn::test

@@ -8,7 +8,7 @@
 namespace tarn::test {
 namespace {
 
-const notes::Form& padrao() {
+const notes::Form& fallback() {
     return notes::imprimeNF_Padrao.formFor(1);
 }
 
@@ -20,7 +20,7 @@ const std::string setUp = " \x1B\x0F\x0F \x1B\x17 ";
 
 TEST(ImprimeNFPadrao, EveryLine) {
     const std::string bottom = "CONFIGURADOS VIA PROGRAMA\xC7\xC3O DE CADA CLIENTE TARN";
-    expectPaper(printed(padrao(), fullNote()), 56,
+    expectPaper(printed(fallback(), fullNote()), 56,
                 {{1, setUp},
                  {2, line({T(68, "004567")})},
                  {3, line({T(48, "X")})},
@@ -57,7 +57,7 @@ TEST(ImprimeNFPadrao, EveryLine) {
 }
 
 TEST(ImprimeNFPadrao, OneJobHoldsSetUpAndNote) {
-    const std::vector<Job> jobs = print(padrao(), fullNote().xml());
+    const std::vector<Job> jobs = print(fallback(), fullNote().xml());
     ASSERT_EQ(jobs.size(), 1U);
     const std::vector<std::string>& writes = jobs[0].writes;
     EXPECT_EQ(writes[0], " \x1B\x0F\x0F");
@@ -71,12 +71,12 @@ TEST(ImprimeNFPadrao, TheDateMovesLeftBehindAPersonsTaxNumber) {
     NoteText note = fullNote();
     note.head["IC_TIP_PES"] = "F";
     note.head["CGC_CPF"] = "12345678901";
-    EXPECT_EQ(linesOf(printed(padrao(), note))[11],
+    EXPECT_EQ(linesOf(printed(fallback(), note))[11],
               line({L(3, 40, 'r'), T(46, "123.456.789-01"), L(65, 10, 'd')}));
 }
 
 TEST(ImprimeNFPadrao, TheOperationCodePrintsAsItStands) {
-    for (const notes::Form* form : {&padrao(), &of7()}) {
+    for (const notes::Form* form : {&fallback(), &of7()}) {
         NoteText note = fullNote();
         note.head["CFOP"] = "5102";
         const std::string printedLine = linesOf(printed(*form, note))[8];
@@ -91,7 +91,7 @@ TEST(ImprimeNFPadrao, RatesAreTextsAndQuantitiesDropTheirZeros) {
     note.items[0].erase("IPI");
     note.items[0]["QTDE"] = "12.500";
     note.items[0]["VALOR_UN"] = "2";
-    const std::vector<std::string> lines = linesOf(printed(padrao(), note));
+    const std::vector<std::string> lines = linesOf(printed(fallback(), note));
     EXPECT_EQ(lines[26], line({R(3, 6, "P-002"), L(11, 22, "ARRUELA LISA"), L(35, 4, "20"),
                                L(41, 4, "UN"), R(47, 4, "12,5"), R(53, 9, "2,00"),
                                R(64, 10, "25,00"), L(76, 4, "isen"), R(80, 4, "0")}));
@@ -103,7 +103,7 @@ TEST(ImprimeNFPadrao, AnEmptyTotalIsOnlyBlank) {
     NoteText note = fullNote();
     note.totals["VALOR_TOTAL"] = "";
     note.totals["VALOR_TOTAL_DESC"] = "is not read";
-    EXPECT_EQ(linesOf(printed(padrao(), note))[29],
+    EXPECT_EQ(linesOf(printed(fallback(), note))[29],
               line({R(3, 12, wide('1')), R(17, 12, wide('2')), R(31, 12, wide('4')),
                     R(45, 12, wide('4')), R(59, 12, "")}));
 }
@@ -111,13 +111,13 @@ TEST(ImprimeNFPadrao, AnEmptyTotalIsOnlyBlank) {
 TEST(ImprimeNFPadrao, NeitherObservationNorLegalTextPrints) {
     NoteText note = fullNote();
     note.head["DC_OBS"] = "FRAGIL";
-    EXPECT_EQ(printed(padrao(), note), printed(padrao(), fullNote()));
+    EXPECT_EQ(printed(fallback(), note), printed(fallback(), fullNote()));
 }
 
 TEST(ImprimeNFPadrao, WithoutTheNodeTheNumberIsOut) {
     std::optional<RuntimeErrorCode> error;
     const std::vector<Job> jobs =
-        print(padrao(), "<?xml version=\"1.0\"?><OUTRO A=\"1\" B=\"OK\"/>", &error);
+        print(fallback(), "<?xml version=\"1.0\"?><OUTRO A=\"1\" B=\"OK\"/>", &error);
     EXPECT_EQ(error, RuntimeErrorCode::ObjectVariable);
     ASSERT_EQ(jobs.size(), 1U);
     EXPECT_FALSE(jobs[0].ended);

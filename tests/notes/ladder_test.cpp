@@ -4,7 +4,7 @@
 
 #include "notes/print_note.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 struct Rung {
@@ -84,4 +84,4 @@ TEST(Ladder, Company2161PrintsNothingAtItsOtherEstablishments) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -30,12 +30,12 @@ std::vector<Loss> lossesOf(std::int32_t company, const NoteText& note,
     Sessao session;
     session.NCOMPANYCODE = company;
     session.ID_ETB_TARN = establishment;
-    XmlDocument documento;
-    if (!documento.loadXML(note.xml())) {
+    XmlDocument document;
+    if (!document.loadXML(note.xml())) {
         throw std::runtime_error("the note isn't well-formed");
     }
     notes::LossLog log;
-    printNote(Ladder::Reprint, environment, session, documento, "4567", &log);
+    printNote(Ladder::Reprint, environment, session, document, "4567", &log);
     return log.losses();
 }
 

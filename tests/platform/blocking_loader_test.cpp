@@ -13,7 +13,7 @@
 
 #include "tests/support/user.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 // Answers when the test lets it.
@@ -213,4 +213,4 @@ TEST_F(BlockingLoaderTest, ClosedItSendsNothing) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -11,7 +11,7 @@
 #include "tests/support/cups_test.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 std::string noteFile(const char* name) {
@@ -32,9 +32,9 @@ protected:
         Sessao session;
         session.NCOMPANYCODE = 1361;
         session.ID_ETB_TARN = 1;
-        XmlDocument documento;
-        ASSERT_TRUE(documento.loadXML(noteFile(noteDocument)));
-        printNote(Ladder::Issuing, environment, session, documento, "4567");
+        XmlDocument document;
+        ASSERT_TRUE(document.loadXML(noteFile(noteDocument)));
+        printNote(Ladder::Issuing, environment, session, document, "4567");
     }
 
     const std::string golden_ = noteFile("nota_1361.prn");
@@ -61,4 +61,4 @@ TEST_F(CupsNoteTest, ANoteStoppedByAnErrorDoesNotHoldUpTheNext) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

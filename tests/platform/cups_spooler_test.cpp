@@ -9,7 +9,7 @@
 #include "common/raw_channel.h"
 #include "tests/support/cups_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 class CupsSpoolerTest : public CupsTest {
@@ -90,8 +90,8 @@ TEST_F(CupsSpoolerTest, TheRawChannelPrintsOnTheDefaultPrinter) {
     CupsSpooler spooler;
     RawChannel channel(spooler, CodePage::Page1252);
     channel.open({.docName = "Impressao de Cheque", .outputFile = "", .dataType = ""});
-    std::string linha = "SÃO PAULO";
-    channel.ImprimeRaw(1, linha, 2);
+    std::string line = "SÃO PAULO";
+    channel.ImprimeRaw(1, line, 2);
     channel.close();
     EXPECT_EQ(printed(), " S\xC3O PAULO\r\n\r\n");
 }
@@ -132,4 +132,4 @@ TEST_F(CupsSpoolerTest, AQueueThatIsNotThereFails) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -5,7 +5,7 @@
 
 #include "platform/cups/cups_spooler.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 TEST(CupsSpoolerWithoutServer, EveryCallFails) {
@@ -20,4 +20,4 @@ TEST(CupsSpoolerWithoutServer, EveryCallFails) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -9,7 +9,7 @@
 
 #include "tests/support/loopback_server.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 class CurlLoaderTest : public testing::Test {
@@ -209,4 +209,4 @@ TEST_F(CurlLoaderTest, NothingOfTheAddressIsPrinted) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <iterator>
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -173,4 +173,4 @@ TEST_F(DirectorySpoolerTest, AFullDiskIsAFailure) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

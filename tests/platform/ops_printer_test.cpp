@@ -8,7 +8,7 @@
 
 #include "platform/directory/directory_spooler.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -101,4 +101,4 @@ TEST_F(OpsPrinterTest, AFailureHasANumberAndADescription) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -9,7 +9,7 @@
 #include "tests/support/modal_steps.h"
 #include "tests/support/user.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 constexpr char boxName[] = "MessageBox";
@@ -115,4 +115,4 @@ TEST(QtMessageBoxes, ShowsAnArrowOverARoutineWithTheHourglass) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -15,7 +15,7 @@
 
 #include "platform/directory/directory_spooler.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 constexpr double pointsPerCentimetre = 72 / 2.54;
@@ -317,7 +317,7 @@ TEST_F(QtPrinterTest, AFailureHasANumberAndADescription) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 TEST(RequestLine, WhatIsLegalStays) {
@@ -23,4 +23,4 @@ TEST(RequestLine, WhatMayNotStandIsEncodedInWindows1252) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

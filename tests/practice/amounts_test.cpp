@@ -4,7 +4,7 @@
 
 #include "practice/data/tax_numbers.h"
 
-namespace tarn::practice {
+namespace tarn::practice::test {
 namespace {
 
 TEST(PracticeAmounts, WritesMoneyWithAPointAndTwoPlaces) {
@@ -55,4 +55,4 @@ TEST(PracticeTaxNumbers, HaveTheirCheckDigits) {
 }
 
 }  // namespace
-}  // namespace tarn::practice
+}  // namespace tarn::practice::test

@@ -4,7 +4,7 @@
 
 #include "gateway/xml_document.h"
 
-namespace tarn::practice {
+namespace tarn::practice::test {
 namespace {
 
 Element oneValue(std::string value) {
@@ -57,4 +57,4 @@ TEST(AnswerWriter, KnowsItsEncodingsByName) {
 }
 
 }  // namespace
-}  // namespace tarn::practice
+}  // namespace tarn::practice::test

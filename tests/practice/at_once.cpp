@@ -9,8 +9,8 @@
 namespace tarn::practice::test {
 namespace {
 
-constexpr std::size_t kDesks = 8;
-constexpr std::size_t kBillable = 21;  // of 23 orders one lacks stock, one is blocked
+constexpr std::size_t desks = 8;
+constexpr std::size_t billable = 21;  // of 23 orders one lacks stock, one is blocked
 
 // One desk of many: goes through the whole list from a place of its own.
 void generateAll(PracticeServer& server, const std::vector<std::string>& orders, std::size_t first,
@@ -38,7 +38,7 @@ void generateAll(PracticeServer& server, const std::vector<std::string>& orders,
 void generateAtOnce(const std::vector<PracticeServer*>& servers,
                     const std::vector<std::string>& orders, Outcome& outcome) {
     std::vector<std::thread> threads;
-    for (std::size_t i = 0; i < kDesks; ++i) {
+    for (std::size_t i = 0; i < desks; ++i) {
         PracticeServer& server = *servers[i % servers.size()];
         threads.emplace_back([&, i] { generateAll(server, orders, i * 3, outcome); });
     }
@@ -48,9 +48,9 @@ void generateAtOnce(const std::vector<PracticeServer*>& servers,
 }
 
 void expectEachOnce(const Outcome& outcome) {
-    EXPECT_EQ(outcome.notes.size(), kBillable);
-    EXPECT_EQ(std::set<std::string>(outcome.notes.begin(), outcome.notes.end()).size(), kBillable);
-    EXPECT_EQ(outcome.refused, static_cast<int>(kDesks * 23 - kBillable));
+    EXPECT_EQ(outcome.notes.size(), billable);
+    EXPECT_EQ(std::set<std::string>(outcome.notes.begin(), outcome.notes.end()).size(), billable);
+    EXPECT_EQ(outcome.refused, static_cast<int>(desks * 23 - billable));
 }
 
 }  // namespace tarn::practice::test

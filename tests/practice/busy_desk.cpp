@@ -56,7 +56,7 @@ bool BusyDesk::accepted(const std::string& query) {
 }
 
 bool BusyDesk::isOwn(const std::string& number) const {
-    return std::stoll(number) % kBusyDesks == place_;
+    return std::stoll(number) % busyDesks == place_;
 }
 
 std::size_t BusyDesk::below(std::size_t count) {
@@ -80,7 +80,7 @@ void BusyDesk::makeNote() {
     if (orders.empty()) {
         return;
     }
-    const std::string& order = orders[below(std::min<std::size_t>(orders.size(), kBusyDesks))];
+    const std::string& order = orders[below(std::min<std::size_t>(orders.size(), busyDesks))];
     const XmlDocument made = ask(commands::SP_GERA_NF(clerk_, order));
     if (made.empty() || statusOf(made) != "OK") {
         const std::lock_guard lock(done_.mutex);
@@ -94,18 +94,18 @@ void BusyDesk::makeNote() {
         const std::lock_guard lock(done_.mutex);
         done_.notes.insert(series + '/' + note);
     }
-    if (series == kBusySeries) {
+    if (series == busySeries) {
         keepOrCancel(note);
     }
 }
 
 // Three of four are cancelled so that their orders can be billed again.
 void BusyDesk::keepOrCancel(const std::string& note) {
-    if (!accepted(commands::sel_gera_nf(clerk_, note, kBusySeries)) || below(4) == 0) {
+    if (!accepted(commands::sel_gera_nf(clerk_, note, busySeries)) || below(4) == 0) {
         return;
     }
     if (accepted(commands::sp_can_nf(
-            clerk_, {.noteKind = "S", .note = note, .series = kBusySeries, .reason = 1}))) {
+            clerk_, {.noteKind = "S", .note = note, .series = busySeries, .reason = 1}))) {
         const std::lock_guard lock(done_.mutex);
         ++done_.cancelled;
     }
@@ -118,7 +118,7 @@ void BusyDesk::maintainOrder() {
         }
         const std::string text =
             "mesa " + std::to_string(place_) + " vez " + std::to_string(turns_) + " 100% & mais";
-        if (accepted(commands::MANUTENCAO_OFT(clerk_, {.ordem = order,
+        if (accepted(commands::MANUTENCAO_OFT(clerk_, {.order = order,
                                                        .observation = text,
                                                        .quantity = "1,000",
                                                        .grossWeight = "2,000",
@@ -138,7 +138,7 @@ void BusyDesk::recordCheque() {
                      .account = "1300221-7",
                      .number = number,
                      .series = "AA",
-                     .valor = std::to_string(place_ + 1) + ",00",
+                     .value = std::to_string(place_ + 1) + ",00",
                      .depositDate = "05/09/2012"}))) {
         const std::lock_guard lock(done_.mutex);
         done_.cheques.insert(number);
@@ -163,7 +163,7 @@ void BusyDesk::numberSlip() {
         const std::string slip = std::to_string(place_ * 1000000 + turns_);
         if (accepted(commands::altera_docto_cob(clerk_, {.branch = "1363",
                                                          .documentKind = kind,
-                                                         .documento = number,
+                                                         .document = number,
                                                          .bankNumber = slip}))) {
             const std::lock_guard lock(done_.mutex);
             done_.slips[std::string(kind).append(" ").append(number)] = slip;

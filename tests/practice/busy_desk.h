@@ -18,8 +18,8 @@
 
 namespace tarn::practice::test {
 
-constexpr int kBusyDesks = 10;
-constexpr const char* kBusySeries = "1";
+constexpr int busyDesks = 10;
+constexpr const char* busySeries = "1";
 
 // What all desks together were told that they had done.
 struct DoneAtOnce {

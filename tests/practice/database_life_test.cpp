@@ -14,7 +14,7 @@
 namespace tarn::practice::test {
 namespace {
 
-constexpr const char* kListQuery = "comando=sel_ordem_fatu&ID_ETB_TARN=1361&ServerName=DADOS1361";
+constexpr const char* listQuery = "comando=sel_ordem_fatu&ID_ETB_TARN=1361&ServerName=DADOS1361";
 
 class PracticeFile : public testing::Test {
 protected:
@@ -43,14 +43,14 @@ TEST(PracticeSeed, TheSameSeedGivesTheSameAnswers) {
             "&ServerName=DADOS1361";
         EXPECT_EQ(one.server().answer(query), other.server().answer(query));
     }
-    EXPECT_EQ(one.server().answer(kListQuery), other.server().answer(kListQuery));
+    EXPECT_EQ(one.server().answer(listQuery), other.server().answer(listQuery));
     EXPECT_EQ(one.generate("45001").number, other.generate("45001").number);
 }
 
 TEST(PracticeSeed, AnotherSeedGivesOtherData) {
     Desk one(optionsOf(":memory:", 7));
     Desk other(optionsOf(":memory:", 8));
-    EXPECT_NE(one.server().answer(kListQuery), other.server().answer(kListQuery));
+    EXPECT_NE(one.server().answer(listQuery), other.server().answer(listQuery));
     EXPECT_EQ(one.orders(), other.orders());
 }
 
@@ -78,12 +78,11 @@ TEST_F(PracticeFile, OfAnotherVersionIsRefused) {
     { const PracticeServer server(optionsOf(file())); }
     {
         Database database(file());
-        database.execute("UPDATE schema_version SET version = ?", {kSchemaVersion + 1});
+        database.execute("UPDATE schema_version SET version = ?", {schemaVersion + 1});
     }
     EXPECT_EQ(errorOf(file()), "O banco de dados \"" + file() + "\" é da versão " +
-                                   std::to_string(kSchemaVersion + 1) +
-                                   "; este servidor usa a versão " +
-                                   std::to_string(kSchemaVersion) +
+                                   std::to_string(schemaVersion + 1) +
+                                   "; este servidor usa a versão " + std::to_string(schemaVersion) +
                                    ". Escolha outro arquivo com --banco, ou apague este para que "
                                    "seja criado de novo.");
 }

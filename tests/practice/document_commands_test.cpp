@@ -8,8 +8,8 @@
 namespace tarn::practice::test {
 namespace {
 
-constexpr const char* kBills = "&ID_TIP_DOC=1,201,202,203,262,341,342,361";
-constexpr const char* kReceipts = "&ID_TIP_DOC=12";
+constexpr const char* billKinds = "&ID_TIP_DOC=1,201,202,203,262,341,342,361";
+constexpr const char* receiptKinds = "&ID_TIP_DOC=12";
 
 std::string billQuery(const std::string& kinds, const std::string& filters) {
     return "comando=sel_duplicata&ID_EMP_TARN=1361" + kinds + filters +
@@ -50,11 +50,11 @@ TEST(DocumentCommands, ListTheEstablishmentsOfTheUsersCompany) {
 
 TEST(DocumentCommands, FindDocumentsByTheirKind) {
     Desk desk;
-    const XmlDocument bills = desk.ask(billQuery(kBills, ""));
+    const XmlDocument bills = desk.ask(billQuery(billKinds, ""));
     EXPECT_EQ(kindsOf(bills),
               (std::set<std::string>{"1", "201", "202", "203", "262", "341", "342", "361"}));
     EXPECT_GT(rowsOf(bills).size(), 1000U);
-    const XmlDocument receipts = desk.ask(billQuery(kReceipts, ""));
+    const XmlDocument receipts = desk.ask(billQuery(receiptKinds, ""));
     EXPECT_EQ(kindsOf(receipts), std::set<std::string>{"12"});
     EXPECT_GT(rowsOf(receipts).size(), 100U);
     EXPECT_EQ(kindsOf(desk.ask(billQuery("&ID_TIP_DOC=1,12", ""))),
@@ -65,7 +65,7 @@ TEST(DocumentCommands, FindDocumentsByTheirKind) {
 
 TEST(DocumentCommands, GiveEveryFieldOfADocument) {
     Desk desk;
-    const XmlDocument document = desk.ask(billQuery(kBills, ""));
+    const XmlDocument document = desk.ask(billQuery(billKinds, ""));
     bool receivables = false;
     for (const XmlNode& row : rowsOf(document)) {
         for (const char* name :
@@ -85,11 +85,11 @@ TEST(DocumentCommands, GiveEveryFieldOfADocument) {
 
 TEST(DocumentCommands, ShowTheCustomersBillingAddressOrItsOwn) {
     Desk desk;
-    const XmlDocument own = desk.ask(billQuery(kBills, "&ID_PES_CLI=1001"));
+    const XmlDocument own = desk.ask(billQuery(billKinds, "&ID_PES_CLI=1001"));
     ASSERT_FALSE(rowsOf(own).empty());
     EXPECT_EQ(field(rowsOf(own)[0], "EG_COB"), "RUA DAS PALMEIRAS, 45");
     EXPECT_EQ(field(rowsOf(own)[0], "DC_LG_CPL"), "RUA DAS PALMEIRAS, 45");
-    const XmlDocument other = desk.ask(billQuery(kBills, "&ID_PES_CLI=1008"));
+    const XmlDocument other = desk.ask(billQuery(billKinds, "&ID_PES_CLI=1008"));
     ASSERT_FALSE(rowsOf(other).empty());
     EXPECT_EQ(field(rowsOf(other)[0], "EG_COB"), "RUA DA CONTABILIDADE, 80");
     EXPECT_EQ(field(rowsOf(other)[0], "MUN_COB"), "BELO HORIZONTE");
@@ -99,13 +99,13 @@ TEST(DocumentCommands, ShowTheCustomersBillingAddressOrItsOwn) {
 
 TEST(DocumentCommands, NarrowTheSearchByCustomerEstablishmentAndDays) {
     Desk desk;
-    const XmlDocument branch = desk.ask(billQuery(kBills, "&ID_ETB_TARN=1362"));
+    const XmlDocument branch = desk.ask(billQuery(billKinds, "&ID_ETB_TARN=1362"));
     ASSERT_FALSE(rowsOf(branch).empty());
     for (const XmlNode& row : rowsOf(branch)) {
         ASSERT_EQ(field(row, "SG_FIL"), "FILIAL CPS");
     }
     const XmlDocument narrowed =
-        desk.ask(billQuery(kBills,
+        desk.ask(billQuery(billKinds,
                            "&DT_VNC_DE=01/09/2012&DT_VNC_ATE=30/09/2012&DT_EMS_DE=01/08/2012"
                            "&DT_EMS_ATE=31/08/2012"));
     ASSERT_FALSE(rowsOf(narrowed).empty());
@@ -113,18 +113,18 @@ TEST(DocumentCommands, NarrowTheSearchByCustomerEstablishmentAndDays) {
         ASSERT_EQ(field(row, "DT_VNC_DOC_FMA").substr(2), "/09/2012");
         ASSERT_EQ(field(row, "DT_EMS_DOC").substr(2), "/08/2012");
     }
-    const std::size_t all = rowsOf(desk.ask(billQuery(kBills, ""))).size();
-    EXPECT_EQ(rowsOf(desk.ask(billQuery(kBills, "&ID_PES_CLI=&ID_ETB_TARN=&DT_VNC_DE="))).size(),
+    const std::size_t all = rowsOf(desk.ask(billQuery(billKinds, ""))).size();
+    EXPECT_EQ(rowsOf(desk.ask(billQuery(billKinds, "&ID_PES_CLI=&ID_ETB_TARN=&DT_VNC_DE="))).size(),
               all);
-    EXPECT_TRUE(rowsOf(desk.ask(billQuery(kBills, "&DT_VNC_ATE=31/02/2012"))).empty());
-    EXPECT_TRUE(rowsOf(desk.ask(billQuery(kBills, "&ID_PES_CLI=2001"))).empty());
+    EXPECT_TRUE(rowsOf(desk.ask(billQuery(billKinds, "&DT_VNC_ATE=31/02/2012"))).empty());
+    EXPECT_TRUE(rowsOf(desk.ask(billQuery(billKinds, "&ID_PES_CLI=2001"))).empty());
 }
 
 TEST(DocumentCommands, HaveTheBillsOfANoteUntilItIsCancelled) {
     Desk desk;
-    const std::size_t before = rowsOf(desk.ask(billQuery(kBills, "&ID_PES_CLI=1001"))).size();
+    const std::size_t before = rowsOf(desk.ask(billQuery(billKinds, "&ID_PES_CLI=1001"))).size();
     const Generated note = desk.generate("45001");  // three parcels
-    const XmlDocument after = desk.ask(billQuery(kBills, "&ID_PES_CLI=1001"));
+    const XmlDocument after = desk.ask(billQuery(billKinds, "&ID_PES_CLI=1001"));
     ASSERT_EQ(rowsOf(after).size(), before + 3);
     const std::vector<std::string> notes = column(after, "NR_DOC_NF");
     EXPECT_EQ(std::ranges::count(notes, note.number), 3);
@@ -132,7 +132,7 @@ TEST(DocumentCommands, HaveTheBillsOfANoteUntilItIsCancelled) {
                           note.number + "&CD_SER_NF=" + note.series +
                           "&id_mot_can=1&id_pes_usu=101&Tipo_Can=C&ServerName=DADOS1361"),
               "OK");
-    EXPECT_EQ(rowsOf(desk.ask(billQuery(kBills, "&ID_PES_CLI=1001"))).size(), before);
+    EXPECT_EQ(rowsOf(desk.ask(billQuery(billKinds, "&ID_PES_CLI=1001"))).size(), before);
 }
 
 TEST(DocumentCommands, FindCustomersByPartOfTheNameWhateverItsCaseAndAccents) {

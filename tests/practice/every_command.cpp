@@ -44,7 +44,7 @@ struct Asked {
     std::int64_t after = 0;
 };
 
-constexpr const char* kDocument =
+constexpr const char* documentAnswer =
     "FROM document d JOIN establishment e ON e.id = d.establishment_id WHERE e.code = 1361 AND "
     "d.portfolio_id IS NULL AND d.kind_id <> 12 AND d.receivable = ";
 
@@ -53,7 +53,7 @@ struct Waiting {
     std::string kind, number, control;
 };
 Waiting waiting(const Beside& beside, const char* table) {
-    const std::string rest = kDocument + std::string(table) + " ORDER BY d.number, d.kind_id";
+    const std::string rest = documentAnswer + std::string(table) + " ORDER BY d.number, d.kind_id";
     return {beside.text("SELECT d.kind_id " + rest), beside.text("SELECT d.number " + rest),
             beside.text("SELECT d.control_number " + rest)};
 }
@@ -61,7 +61,7 @@ Waiting waiting(const Beside& beside, const char* table) {
 commands::Slip slip(const Waiting& document, std::string_view number) {
     return {.branch = "1361",
             .documentKind = document.kind,
-            .documento = document.number,
+            .document = document.number,
             .controlNumber = document.control,
             .portfolio = "101",
             .bankNumber = number};
@@ -74,15 +74,15 @@ std::string lastNote(const Beside& beside) {
     return beside.text("SELECT number FROM note");
 }
 
-constexpr commands::Cheque kCheque{.bank = 1084,
-                                   .agency = " 0384 ",
-                                   .account = "1300221-7",
-                                   .number = "850",
-                                   .series = "aa",
-                                   .valor = "1.234,56",
-                                   .payee = "João da Silva",
-                                   .depositDate = "05/09/2012",
-                                   .observation = "pagamento"};
+constexpr commands::Cheque sampleCheque{.bank = 1084,
+                                        .agency = " 0384 ",
+                                        .account = "1300221-7",
+                                        .number = "850",
+                                        .series = "aa",
+                                        .value = "1.234,56",
+                                        .payee = "João da Silva",
+                                        .depositDate = "05/09/2012",
+                                        .observation = "pagamento"};
 
 std::vector<Asked> startRows() {
     return {
@@ -118,7 +118,7 @@ std::vector<Asked> orderRows() {
          }},
         {"MANUTENCAO_OFT",
          [](const Sessao& s, const Beside&) {
-             return commands::MANUTENCAO_OFT(s, {.ordem = "45003",
+             return commands::MANUTENCAO_OFT(s, {.order = "45003",
                                                  .observation = "10% à vista & \"#1\"",
                                                  .quantity = "1,000",
                                                  .grossWeight = "2,000",
@@ -210,14 +210,14 @@ std::vector<Asked> chequeAndLabelRows() {
          [](const Sessao& s, const Beside&) { return commands::sel_banco_agencia_conta(s); }},
         {"adiciona_controle_cheque_emitido",
          [](const Sessao& s, const Beside&) {
-             return commands::adiciona_controle_cheque_emitido(s, kCheque);
+             return commands::adiciona_controle_cheque_emitido(s, sampleCheque);
          },
          "SELECT COUNT(*) FROM cheque WHERE number = 850 AND series = 'AA' AND amount = 123456"
          " AND payee = 'JOÃO DA SILVA' AND purpose = 'PAGAMENTO' AND agency = '0384'",
          0, 1},
         {"seleciona_um_controle_cheque_emitido",
          [](const Sessao& s, const Beside&) {
-             commands::Cheque cheque = kCheque;
+             commands::Cheque cheque = sampleCheque;
              cheque.agency = "0384";
              return commands::seleciona_um_controle_cheque_emitido(s, cheque);
          }},

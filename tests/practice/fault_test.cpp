@@ -14,11 +14,11 @@
 namespace tarn::practice::test {
 namespace {
 
-constexpr const char* kList = "comando=sel_ordem_fatu&ID_ETB_TARN=1361&ServerName=DADOS1361";
-constexpr const char* kGenerate =
+constexpr const char* list = "comando=sel_ordem_fatu&ID_ETB_TARN=1361&ServerName=DADOS1361";
+constexpr const char* generate =
     "COMANDO=SP_GERA_NF&ID_ETB_TARN=1361&ID_ORD_FAT=45001&ID_PES=101&ServerName=DADOS1361";
-constexpr const char* kVersion = "comando=VERSAO_TARN_EMISSAO&Versao=07/01/2009";
-constexpr const char* kLogon = "comando=LOGIN&EMPRESA=1361&USUARIO=clara&SENHA=pratica";
+constexpr const char* versionQuery = "comando=VERSAO_TARN_EMISSAO&Versao=07/01/2009";
+constexpr const char* logonQuery = "comando=LOGIN&EMPRESA=1361&USUARIO=clara&SENHA=pratica";
 
 // A practice server with its faults, over the network.
 class FaultyServer {
@@ -31,7 +31,7 @@ public:
 
     HttpAnswer get(const std::string& query) { return loader_.get(serving_.baseUrl() + query); }
     httplib::Result raw(const std::string& query) {
-        return serving_.get(std::string(kPagePath) + '?' + requestLine(query));
+        return serving_.get(std::string(pagePath) + '?' + requestLine(query));
     }
     Desk& desk() { return desk_; }
     const Serving& serving() const { return serving_; }
@@ -63,11 +63,11 @@ XmlDocument parsed(const std::string& body) {
     return document;
 }
 
-constexpr std::size_t kOrders = 23;
+constexpr std::size_t orderCount = 23;
 
 TEST(Fault, StrikesTheCommandToldAndNoOther) {
     FaultyServer server({"SEL_NF=500"});
-    EXPECT_EQ(rowsOf(parsed(server.get(kList).body)).size(), kOrders);
+    EXPECT_EQ(rowsOf(parsed(server.get(list).body)).size(), orderCount);
     EXPECT_FALSE(server.get("comando=SEL_NF&ID_ETB_TARN=1361&ServerName=DADOS1361").loaded);
 }
 
@@ -76,66 +76,66 @@ TEST(Fault, RefusesInTheCommandsOwnShape) {
                          "LOGIN=recusa"});
     const std::string words =
         "Recusa de treino: o servidor de prática não atende a este comando. Tente mais tarde.";
-    EXPECT_EQ(statusOf(parsed(server.get(kGenerate).body)), words);
-    EXPECT_TRUE(rowsOf(parsed(server.get(kList).body)).empty());
-    const XmlDocument version = parsed(server.get(kVersion).body);
+    EXPECT_EQ(statusOf(parsed(server.get(generate).body)), words);
+    EXPECT_TRUE(rowsOf(parsed(server.get(list).body)).empty());
+    const XmlDocument version = parsed(server.get(versionQuery).body);
     EXPECT_EQ(version.child(1).child(0).attributes().item(0).text(), words);
-    const XmlDocument logon = parsed(server.get(kLogon).body);
+    const XmlDocument logon = parsed(server.get(logonQuery).body);
     EXPECT_EQ(logon.child(1).nodeName(), "PRINCIPAL");
     EXPECT_EQ(statusOf(logon), words);
-    EXPECT_EQ(server.desk().orders().size(), kOrders);
+    EXPECT_EQ(server.desk().orders().size(), orderCount);
 }
 
 TEST(Fault, ClosesBeforeTheBodyWithoutCarryingOut) {
     FaultyServer server({"SP_GERA_NF=fecha-antes"});
-    EXPECT_FALSE(server.get(kGenerate).loaded);
-    EXPECT_FALSE(server.raw(kGenerate));
-    EXPECT_EQ(server.desk().orders().size(), kOrders);
+    EXPECT_FALSE(server.get(generate).loaded);
+    EXPECT_FALSE(server.raw(generate));
+    EXPECT_EQ(server.desk().orders().size(), orderCount);
 }
 
 TEST(Fault, ClosesInTheMiddleOfTheBodyOfWhatWasCarriedOut) {
     FaultyServer server({"SP_GERA_NF=fecha-no-meio"});
-    EXPECT_FALSE(server.get(kGenerate).loaded);
-    EXPECT_EQ(server.desk().orders().size(), kOrders - 1);
+    EXPECT_FALSE(server.get(generate).loaded);
+    EXPECT_EQ(server.desk().orders().size(), orderCount - 1);
 }
 
 class FaultStatus : public testing::TestWithParam<int> {};
 
 TEST_P(FaultStatus, AnswersWithAnErrorAndCarriesNothingOut) {
     FaultyServer server({"SP_GERA_NF=" + std::to_string(GetParam())});
-    EXPECT_FALSE(server.get(kGenerate).loaded);
-    const auto answer = server.raw(kGenerate);
+    EXPECT_FALSE(server.get(generate).loaded);
+    const auto answer = server.raw(generate);
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->status, GetParam());
     EXPECT_EQ(answer->get_header_value("Content-Type"), "text/html; charset=utf-8");
     EXPECT_NE(answer->body.find("<html>"), std::string::npos);
-    EXPECT_EQ(server.desk().orders().size(), kOrders);
+    EXPECT_EQ(server.desk().orders().size(), orderCount);
 }
 
 INSTANTIATE_TEST_SUITE_P(Http, FaultStatus, testing::Values(404, 500));
 
 TEST(Fault, SendsAnEmptyBody) {
     FaultyServer server({"SP_GERA_NF=vazio"});
-    const auto answer = server.raw(kGenerate);
+    const auto answer = server.raw(generate);
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->status, 200);
     EXPECT_EQ(answer->body, "");
-    EXPECT_EQ(server.desk().orders().size(), kOrders - 1);
+    EXPECT_EQ(server.desk().orders().size(), orderCount - 1);
 }
 
 TEST(Fault, SendsAPageThatIsNoXml) {
     FaultyServer server({"SP_GERA_NF=html"});
-    const auto answer = server.raw(kGenerate);
+    const auto answer = server.raw(generate);
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->status, 200);
     EXPECT_EQ(answer->get_header_value("Content-Type"), "text/html; charset=utf-8");
     EXPECT_FALSE(parses(answer->body));
-    EXPECT_EQ(server.desk().orders().size(), kOrders - 1);
+    EXPECT_EQ(server.desk().orders().size(), orderCount - 1);
 }
 
 TEST(Fault, CutsTheXmlAsIfItWereAll) {
     FaultyServer server({"sel_ordem_fatu=cortado"});
-    const HttpAnswer answer = server.get(kList);
+    const HttpAnswer answer = server.get(list);
     EXPECT_TRUE(answer.loaded);
     EXPECT_EQ(answer.body.rfind("<?xml", 0), 0U);
     EXPECT_FALSE(parses(answer.body));
@@ -143,7 +143,7 @@ TEST(Fault, CutsTheXmlAsIfItWereAll) {
 
 TEST(Fault, LeavesTheDeclarationOut) {
     FaultyServer server({"LOGIN=sem-declaracao"});
-    const HttpAnswer answer = server.get(kLogon);
+    const HttpAnswer answer = server.get(logonQuery);
     EXPECT_TRUE(answer.loaded);
     const XmlDocument document = parsed(answer.body);
     EXPECT_EQ(document.childCount(), 1U);
@@ -155,7 +155,7 @@ TEST(Fault, LeavesTheDeclarationOut) {
 // Also where the answer itself has no accent at all.
 TEST(Fault, DeclaresAnotherEncodingThanItsOwn) {
     FaultyServer server({"VERSAO_TARN_EMISSAO=codificacao-errada"});
-    const HttpAnswer answer = server.get(kVersion);
+    const HttpAnswer answer = server.get(versionQuery);
     EXPECT_TRUE(answer.loaded);
     EXPECT_NE(answer.body.find("encoding=\"utf-8\""), std::string::npos) << answer.body;
     EXPECT_FALSE(parses(answer.body));
@@ -164,7 +164,7 @@ TEST(Fault, DeclaresAnotherEncodingThanItsOwn) {
 TEST(Fault, AnswersLate) {
     FaultyServer server({"VERSAO_TARN_EMISSAO=lento:1"});
     const auto begin = std::chrono::steady_clock::now();
-    EXPECT_TRUE(parses(server.get(kVersion).body));
+    EXPECT_TRUE(parses(server.get(versionQuery).body));
     EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
 }
 
@@ -176,7 +176,7 @@ TEST(Fault, ALateAnswerDoesNotKeepTheServerFromEnding) {
         FaultyServer server({"VERSAO_TARN_EMISSAO=lento:3600"});
         waiting = std::thread([target = server.serving().baseUrl()] {
             CurlLoader loader;
-            loader.get(target + kVersion);
+            loader.get(target + versionQuery);
         });
         server.awaitRequest();
     }
@@ -186,8 +186,8 @@ TEST(Fault, ALateAnswerDoesNotKeepTheServerFromEnding) {
 
 TEST(Fault, SendsMoreThanTheDeskTakes) {
     FaultyServer server({"VERSAO_TARN_EMISSAO=enorme"});
-    EXPECT_FALSE(server.get(kVersion).loaded);
-    const auto answer = server.raw(kVersion);
+    EXPECT_FALSE(server.get(versionQuery).loaded);
+    const auto answer = server.raw(versionQuery);
     ASSERT_TRUE(answer);
     EXPECT_GT(answer->body.size(), 64U << 20);
     EXPECT_EQ(answer->body.rfind("<?xml", 0), 0U);

@@ -44,7 +44,7 @@ TEST(HttpFront, SendsTheBodyUncompressed) {
     const Serving serving([](std::string_view) { return std::string(5000, ' ') + "<R/>"; });
     httplib::Client client("127.0.0.1", serving.port());
     client.set_decompress(false);
-    const auto result = client.Get(std::string(kPagePath) + "?comando=X",
+    const auto result = client.Get(std::string(pagePath) + "?comando=X",
                                    {{"Accept-Encoding", "br, gzip, deflate"}});
     ASSERT_TRUE(result);
     EXPECT_FALSE(result->has_header("Content-Encoding"));

@@ -150,8 +150,8 @@ TEST(NoteCommands, StockLeavesWithTheNoteAndComesBackWithItsCancellation) {
     // Order 45001 is billed and cancelled so often that its goods would have run
     // out, did they not come back each time.
     Desk desk;
-    constexpr int kTimes = 600;
-    for (int i = 0; i < kTimes; ++i) {
+    constexpr int times = 600;
+    for (int i = 0; i < times; ++i) {
         const Generated note = desk.generate("45001");
         ASSERT_EQ(desk.status(cancelQuery(note, "C")), "OK");
     }

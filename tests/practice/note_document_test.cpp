@@ -8,14 +8,14 @@
 namespace tarn::practice::test {
 namespace {
 
-constexpr std::array kLackingOrders = {"45007", "45008"};  // no note is made of these
+constexpr std::array lackingOrders = {"45007", "45008"};  // no note is made of these
 
 // Every note of the practice data at establishment 1361.
 class EveryNote : public testing::Test {
 protected:
     void SetUp() override {
         for (const std::string& order : desk_.orders()) {
-            if (order != kLackingOrders[0] && order != kLackingOrders[1]) {
+            if (order != lackingOrders[0] && order != lackingOrders[1]) {
                 documents_.push_back(desk_.note(desk_.generate(order)));
             }
         }

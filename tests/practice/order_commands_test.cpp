@@ -8,13 +8,13 @@
 namespace tarn::practice::test {
 namespace {
 
-constexpr const char* kListQuery = "comando=sel_ordem_fatu&ID_ETB_TARN=1361&ServerName=DADOS1361";
+constexpr const char* listQuery = "comando=sel_ordem_fatu&ID_ETB_TARN=1361&ServerName=DADOS1361";
 
 // The orders of establishment 1361, by what is special about them.
-constexpr const char* kObserved = "45006";
-constexpr const char* kLacksStock = "45007";
-constexpr const char* kWithoutLoadOrder = "45015";
-constexpr const char* kWithCharges = "45017";
+constexpr const char* observed = "45006";
+constexpr const char* lacksStock = "45007";
+constexpr const char* withoutLoadOrder = "45015";
+constexpr const char* withCharges = "45017";
 
 std::string obsQuery(const char* command, const std::string& order) {
     return std::string("comando=") + command + "&Id_Etb_Tarn=1361&Id_Ord_Fat=" + order +
@@ -32,7 +32,7 @@ std::string cancelQuery(const std::string& order, const std::string& loadOrder) 
 }
 
 std::string listed(Desk& desk, const std::string& order, const char* name) {
-    const XmlDocument document = desk.ask(kListQuery);
+    const XmlDocument document = desk.ask(listQuery);
     for (const XmlNode& row : rowsOf(document)) {
         if (field(row, "ID_ORD_FAT") == order) {
             return field(row, name);
@@ -43,7 +43,7 @@ std::string listed(Desk& desk, const std::string& order, const char* name) {
 
 TEST(OrderCommands, ListTheOpenOrders) {
     Desk desk;
-    const XmlDocument document = desk.ask(kListQuery);
+    const XmlDocument document = desk.ask(listQuery);
     const std::vector<XmlNode> rows = rowsOf(document);
     ASSERT_EQ(rows.size(), 23U);
     EXPECT_EQ(field(rows[0], "ID_ORD_FAT"), "45001");
@@ -74,14 +74,14 @@ TEST(OrderCommands, EveryEstablishmentHasItsOwnOrders) {
             ++total;
         }
     }
-    constexpr std::size_t kLongList = 300;  // more, in establishment 1363
-    EXPECT_EQ(total, 7U * 23U + kLongList);
+    constexpr std::size_t longList = 300;  // more, in establishment 1363
+    EXPECT_EQ(total, 7U * 23U + longList);
     EXPECT_EQ(numbers.size(), total);
 }
 
 TEST(OrderCommands, GiveTheSalesObservationInTheFirstChild) {
     Desk desk;
-    const XmlDocument with = desk.ask(obsQuery("Seleciona_Obs_Vnd_X_Ord", kObserved));
+    const XmlDocument with = desk.ask(obsQuery("Seleciona_Obs_Vnd_X_Ord", observed));
     EXPECT_EQ(statusOf(with), "OK");
     EXPECT_EQ(field(with.child(1).child(0), "OBSERVACAO"),
               "Cliente pediu entrega após as 14:00.\nConfirmar o endereço por telefone.\n\n"
@@ -93,12 +93,12 @@ TEST(OrderCommands, GiveTheSalesObservationInTheFirstChild) {
 
 TEST(OrderCommands, TellWhatTheStockLacks) {
     Desk desk;
-    const XmlDocument lacking = desk.ask(obsQuery("Seleciona_Obs_Ord_X_Est", kLacksStock));
+    const XmlDocument lacking = desk.ask(obsQuery("Seleciona_Obs_Ord_X_Est", lacksStock));
     EXPECT_EQ(statusOf(lacking), "OK");
     EXPECT_EQ(field(lacking.child(1).child(0), "OBSERVACAO"),
               "1020 - LUVA DE RASPA CANO CURTO: saldo 3, pedido 12");
     for (const std::string& order : desk.orders()) {
-        if (order != kLacksStock) {
+        if (order != lacksStock) {
             const XmlDocument enough = desk.ask(obsQuery("Seleciona_Obs_Ord_X_Est", order));
             EXPECT_EQ(field(enough.child(1).child(0), "OBSERVACAO"), "") << order;
         }
@@ -129,7 +129,7 @@ TEST(OrderCommands, KeepWhatMaintenanceSends) {
 
 TEST(OrderCommands, RefuseBadMaintenanceAndChangeNothing) {
     Desk desk;
-    const std::string before = desk.server().answer(kListQuery);
+    const std::string before = desk.server().answer(listQuery);
     EXPECT_EQ(desk.status(maintainQuery("45001", "&DC_OBS=x&QT_ESP=abc&PESO_BRU=1&PESO_LIQ=1")),
               "Quantidade Espécie sem valor válido. Digite um valor de 0,000 a 9.999.999,999.");
     EXPECT_EQ(desk.status(
@@ -138,7 +138,7 @@ TEST(OrderCommands, RefuseBadMaintenanceAndChangeNothing) {
     EXPECT_EQ(desk.status(maintainQuery(
                   "45001", "&DC_OBS=" + std::string(501, 'a') + "&QT_ESP=1&PESO_BRU=1&PESO_LIQ=1")),
               "A observação passa de 500 caracteres. Diminua o texto.");
-    EXPECT_EQ(desk.server().answer(kListQuery), before);
+    EXPECT_EQ(desk.server().answer(listQuery), before);
     const std::string accents(500, '\xE7');
     EXPECT_EQ(desk.status(
                   maintainQuery("45001", "&DC_OBS=" + accents + "&QT_ESP=1&PESO_BRU=1&PESO_LIQ=1")),
@@ -161,9 +161,9 @@ TEST(OrderCommands, CancelAnOrderOnce) {
 
 TEST(OrderCommands, CancelAnOrderWithoutALoadOrder) {
     Desk desk;
-    EXPECT_EQ(listed(desk, kWithoutLoadOrder, "ID_ORD_CRG"), "-");
-    EXPECT_EQ(desk.status(cancelQuery(kWithoutLoadOrder, "")), "OK");
-    EXPECT_EQ(listed(desk, kWithoutLoadOrder, "ID_ORD_CRG"), "not listed");
+    EXPECT_EQ(listed(desk, withoutLoadOrder, "ID_ORD_CRG"), "-");
+    EXPECT_EQ(desk.status(cancelQuery(withoutLoadOrder, "")), "OK");
+    EXPECT_EQ(listed(desk, withoutLoadOrder, "ID_ORD_CRG"), "not listed");
 }
 
 TEST(OrderCommands, GiveTheSheetOfEveryOrder) {
@@ -193,7 +193,7 @@ TEST(OrderCommands, PartTheChargesAmongTheItemsOfTheSheet) {
     Desk desk;
     const XmlDocument document =
         desk.ask(std::string("comando=sel_impr_ordem_fatu&ID_ETB_TARN=1361&ID_ORD_FAT=") +
-                 kWithCharges + "&ServerName=DADOS1361");
+                 withCharges + "&ServerName=DADOS1361");
     const XmlNodeList items = document.selectNodes("//ITEM");
     std::int64_t freight = 0;
     std::int64_t insurance = 0;

@@ -88,10 +88,10 @@ TEST(Postgres, OfAnotherVersionOrProgramIsRefused) {
     { const PracticeServer server(optionsOf(old)); }
     {
         Database database(old);
-        database.execute("UPDATE schema_version SET version = ?", {kSchemaVersion + 1});
+        database.execute("UPDATE schema_version SET version = ?", {schemaVersion + 1});
     }
-    EXPECT_NE(errorOf(old).find("é da versão " + std::to_string(kSchemaVersion + 1) +
-                                "; este servidor usa a versão " + std::to_string(kSchemaVersion) +
+    EXPECT_NE(errorOf(old).find("é da versão " + std::to_string(schemaVersion + 1) +
+                                "; este servidor usa a versão " + std::to_string(schemaVersion) +
                                 ". Escolha outro com --banco, ou apague as tabelas deste para que "
                                 "sejam criadas de novo."),
               std::string::npos)
@@ -105,7 +105,7 @@ TEST(Postgres, OfAnotherVersionOrProgramIsRefused) {
 }
 
 TEST(Postgres, ABatchInsertsWhatItsTablesReferToFirst) {
-    constexpr int kRows = 1000;
+    constexpr int rowCount = 1000;
     PrivatePostgres postgres;
     Database database(postgres.newDatabase());
     database.execute("CREATE TABLE t (id BIGINT NOT NULL PRIMARY KEY)");
@@ -116,22 +116,22 @@ TEST(Postgres, ABatchInsertsWhatItsTablesReferToFirst) {
     };
     {
         InsertBatch batch(database);
-        for (int i = 0; i < kRows; ++i) {
+        for (int i = 0; i < rowCount; ++i) {
             database.insert("t", "id", {i});
             database.insert("u", "t_id, text", {i, nullptr});
             database.insert("u", "t_id, text", {i, ""});
         }
         batch.finish();
     }
-    EXPECT_EQ(rows("t"), kRows);
-    EXPECT_EQ(rows("u WHERE text IS NULL"), kRows);
-    EXPECT_EQ(rows("u WHERE text = ''"), kRows);
+    EXPECT_EQ(rows("t"), rowCount);
+    EXPECT_EQ(rows("u WHERE text IS NULL"), rowCount);
+    EXPECT_EQ(rows("u WHERE text = ''"), rowCount);
     {
         InsertBatch dropped(database);
-        database.insert("t", "id", {kRows});
+        database.insert("t", "id", {rowCount});
     }
-    database.insert("t", "id", {kRows});
-    EXPECT_EQ(rows("t"), kRows + 1);
+    database.insert("t", "id", {rowCount});
+    EXPECT_EQ(rows("t"), rowCount + 1);
 }
 
 TEST(Postgres, TwoServersMakeOneDatabaseOnce) {

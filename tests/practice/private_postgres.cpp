@@ -14,9 +14,9 @@
 namespace tarn::practice::test {
 namespace {
 
-constexpr int kPatience = 60000;  // milliseconds, for a slow machine
-constexpr int kTurn = 20;
-constexpr const char* kUnprivileged = "postgres";  // the package's own user
+constexpr int patience = 60000;  // milliseconds, for a slow machine
+constexpr int turn = 20;
+constexpr const char* unprivileged = "postgres";  // the package's own user
 
 // The newest version installed.
 QString programFolder() {
@@ -33,7 +33,7 @@ QString programFolder() {
 }
 
 bool giveAway(const QString& folder) {
-    const passwd* user = getpwnam(kUnprivileged);
+    const passwd* user = getpwnam(unprivileged);
     return user != nullptr && chown(qPrintable(folder), user->pw_uid, user->pw_gid) == 0;
 }
 
@@ -45,7 +45,7 @@ PrivatePostgres::PrivatePostgres() : programs_(programFolder()) {
         return;
     }
     if (geteuid() == 0 && !giveAway(folder_.path())) {
-        ADD_FAILURE() << "the user " << kUnprivileged << " is missing";
+        ADD_FAILURE() << "the user " << unprivileged << " is missing";
         return;
     }
     if (run(programs_ + "/initdb",
@@ -57,9 +57,9 @@ PrivatePostgres::PrivatePostgres() : programs_(programFolder()) {
 
 PrivatePostgres::~PrivatePostgres() {
     server_.terminate();
-    if (server_.state() != QProcess::NotRunning && !server_.waitForFinished(kPatience)) {
+    if (server_.state() != QProcess::NotRunning && !server_.waitForFinished(patience)) {
         server_.kill();
-        server_.waitForFinished(kPatience);
+        server_.waitForFinished(patience);
     }
 }
 
@@ -68,7 +68,7 @@ QStringList PrivatePostgres::asServerUser(const QString& program,
                                           const QStringList& arguments) const {
     QStringList words = {"--pdeathsig=QUIT"};
     if (geteuid() == 0) {
-        const QString user = kUnprivileged;
+        const QString user = unprivileged;
         words += {"--reuid=" + user, "--regid=" + user, "--clear-groups"};
     }
     return words + QStringList{program} + arguments;
@@ -79,7 +79,7 @@ bool PrivatePostgres::run(const QString& program, const QStringList& arguments) 
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setWorkingDirectory(folder_.path());
     process.start("setpriv", asServerUser(program, arguments));
-    const bool done = process.waitForFinished(kPatience) && process.exitCode() == 0;
+    const bool done = process.waitForFinished(patience) && process.exitCode() == 0;
     EXPECT_TRUE(done) << process.readAll().toStdString() << process.errorString().toStdString();
     return done;
 }
@@ -93,12 +93,12 @@ void PrivatePostgres::start() {
                                {"-D", folder_.filePath("data"), "-c", "listen_addresses=", "-c",
                                 "unix_socket_directories=" + folder_.path(), "-c", "fsync=off",
                                 "-c", "autovacuum=off", "-c", "shared_buffers=16MB"}));
-    for (int waited = 0; waited < kPatience; waited += kTurn) {
+    for (int waited = 0; waited < patience; waited += turn) {
         try {
             Database database(address("postgres"));
             return;
         } catch (const DatabaseError&) {
-            QThread::msleep(kTurn);  // until it takes connections
+            QThread::msleep(turn);  // until it takes connections
         }
     }
     QFile words(log);

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tarn::practice {
+namespace tarn::practice::test {
 namespace {
 
 TEST(QueryText, TakesNamesWithoutRegardToCase) {
@@ -54,4 +54,4 @@ TEST(QueryText, ReadsWholeNumbersOnly) {
 }
 
 }  // namespace
-}  // namespace tarn::practice
+}  // namespace tarn::practice::test

@@ -8,7 +8,7 @@
 namespace tarn::practice::test {
 namespace {
 
-constexpr const char* kAllBranches = "&nIdEtbTarn=1361, 1362, 1363";
+constexpr const char* allBranches = "&nIdEtbTarn=1361, 1362, 1363";
 
 std::string addresseeQuery(const std::string& filters, const char* order = "NOME") {
     return "comando=sel_dados_etq" + filters + "&nIdOrd=" + order + "&ServerName=DADOS1361";
@@ -24,7 +24,7 @@ std::vector<std::string> column(Desk& desk, const std::string& query, const char
 }
 
 std::size_t found(Desk& desk, const std::string& filters) {
-    return column(desk, addresseeQuery(kAllBranches + filters), "CD_CEP").size();
+    return column(desk, addresseeQuery(allBranches + filters), "CD_CEP").size();
 }
 
 // A list's texts with their numbers.
@@ -69,7 +69,7 @@ TEST(SelectionCommands, FindEveryCustomerWithoutAFilter) {
                     "&nIdPais=&nIdMatPro=&nCepDe=&nCepAte=&dDtDe=&dDtAte=&nVlrDe=&nVlrAte="
                     "&nQtDe=&nQtAte="),
               912U);
-    const XmlDocument document = desk.ask(addresseeQuery(kAllBranches));
+    const XmlDocument document = desk.ask(addresseeQuery(allBranches));
     for (const XmlNode& row : rowsOf(document)) {
         for (const char* name :
              {"CD_CEP", "NM_PES_CPL", "DC_LG_CPL", "NM_BRR", "SG_UF", "NM_MUN"}) {
@@ -89,11 +89,11 @@ TEST(SelectionCommands, NarrowBranchesAndPlaces) {
     const std::string state = states(desk, "1058").at("SÃO PAULO");
     const std::string city = cities(desk, state).at("SANTOS");
     for (const std::string& name :
-         column(desk, addresseeQuery(kAllBranches + ("&nIdPais=1058&nIdUf=" + state)), "SG_UF")) {
+         column(desk, addresseeQuery(allBranches + ("&nIdPais=1058&nIdUf=" + state)), "SG_UF")) {
         ASSERT_EQ(name, "SP");
     }
     const auto towns = column(
-        desk, addresseeQuery(kAllBranches + ("&nIdPais=1058&nIdUf=" + state + "&nIdMun=" + city)),
+        desk, addresseeQuery(allBranches + ("&nIdPais=1058&nIdUf=" + state + "&nIdMun=" + city)),
         "NM_MUN");
     ASSERT_FALSE(towns.empty());
     EXPECT_EQ(static_cast<std::size_t>(std::ranges::count(towns, "SANTOS")), towns.size());
@@ -102,17 +102,17 @@ TEST(SelectionCommands, NarrowBranchesAndPlaces) {
 TEST(SelectionCommands, OrderByPostalCodeOrByName) {
     Desk desk;
     std::vector<int> codes;
-    for (const std::string& code : column(
-             desk,
-             addresseeQuery(kAllBranches + std::string("&nCepDe=1000000&nCepAte=9999999"), "CEP"),
-             "CD_CEP")) {
+    for (const std::string& code :
+         column(desk,
+                addresseeQuery(allBranches + std::string("&nCepDe=1000000&nCepAte=9999999"), "CEP"),
+                "CD_CEP")) {
         codes.push_back(std::stoi(code));
     }
     ASSERT_GT(codes.size(), 10U);
     EXPECT_TRUE(std::ranges::is_sorted(codes));
     EXPECT_GE(codes.front(), 1000000);
     EXPECT_LE(codes.back(), 9999999);
-    const auto names = column(desk, addresseeQuery(kAllBranches), "NM_PES_CPL");
+    const auto names = column(desk, addresseeQuery(allBranches), "NM_PES_CPL");
     // Á stands with A, behind it only what begins with later letters.
     EXPECT_EQ(names.front().substr(0, 1), "A");
     EXPECT_EQ(names.back().substr(0, 1), "Z");
@@ -141,7 +141,7 @@ TEST(SelectionCommands, FindTheBuyerOfANoteJustMade) {
     Desk desk;
     const std::string today = "&dDtDe=05/09/2012&dDtAte=05/09/2012";
     const auto bought = [&] {
-        const auto names = column(desk, addresseeQuery(kAllBranches + today), "NM_PES_CPL");
+        const auto names = column(desk, addresseeQuery(allBranches + today), "NM_PES_CPL");
         return std::ranges::count(names, "LOJAS ARAÇÁ DE DEPARTAMENTOS LTDA") +
                std::ranges::count(names,
                                   "ASSOCIAÇÃO BENEFICENTE E CULTURAL DOS TRABALHADORES NAS "

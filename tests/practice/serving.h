@@ -27,7 +27,7 @@ public:
 
     int port() const { return port_; }
     std::string baseUrl() const {
-        return "http://127.0.0.1:" + std::to_string(port_) + std::string(kPagePath) + '?';
+        return "http://127.0.0.1:" + std::to_string(port_) + std::string(pagePath) + '?';
     }
     httplib::Result get(const std::string& target) const {
         httplib::Client client("127.0.0.1", port_);

@@ -9,7 +9,7 @@ namespace tarn::practice::test {
 namespace {
 
 // Portfolios of company 1361, the first of the table.
-constexpr const char* kWallet57 = "101";
+constexpr const char* wallet57 = "101";
 constexpr const char* santander = "102";
 
 std::string slipQuery(const std::string& portfolio, const char* enter,
@@ -85,7 +85,7 @@ TEST(SlipCommands, ListThePortfoliosAndTheirRecords) {
     const XmlDocument list = desk.ask("comando=sel_carteira&ID_EMP_TARN=1361&ServerName=DADOS1361");
     ASSERT_EQ(rowsOf(list).size(), 5U);
     EXPECT_EQ(field(rowsOf(list)[0], "DC_CRT_COB"), "VALE DO IPÊ - CARTEIRA 57");
-    EXPECT_EQ(field(rowsOf(list)[0], "ID_CRT_COB"), kWallet57);
+    EXPECT_EQ(field(rowsOf(list)[0], "ID_CRT_COB"), wallet57);
     std::set<std::string> banks;
     std::set<std::string> wallets;
     for (const XmlNode& row : rowsOf(list)) {
@@ -106,7 +106,7 @@ TEST(SlipCommands, ListThePortfoliosAndTheirRecords) {
 
 TEST(SlipCommands, FindWhatIsInThePortfolioOrInNone) {
     Desk desk;
-    const XmlDocument in = desk.ask(slipQuery(kWallet57, "N"));
+    const XmlDocument in = desk.ask(slipQuery(wallet57, "N"));
     ASSERT_GT(rowsOf(in).size(), 50U);
     std::set<std::string> banks;
     for (const XmlNode& row : rowsOf(in)) {
@@ -114,7 +114,7 @@ TEST(SlipCommands, FindWhatIsInThePortfolioOrInNone) {
         EXPECT_NE(field(row, "ID_TIP_DOC"), "12");
     }
     EXPECT_EQ(banks, (std::set<std::string>{"1016", "2033"}));
-    const XmlDocument out = desk.ask(slipQuery(kWallet57, "S"));
+    const XmlDocument out = desk.ask(slipQuery(wallet57, "S"));
     ASSERT_GT(rowsOf(out).size(), 50U);
     for (const XmlNode& row : rowsOf(out)) {
         EXPECT_EQ(field(row, "ID_PES_BAN"), "-");
@@ -149,7 +149,7 @@ TEST(SlipCommands, GiveEveryFieldOfADocument) {
 
 TEST(SlipCommands, KeepTheNumberOfACollectionDocument) {
     Desk desk;
-    const Slip slip = firstOf(desk, slipQuery(kWallet57, "N"), "DOCTO_COBRANCA");
+    const Slip slip = firstOf(desk, slipQuery(wallet57, "N"), "DOCTO_COBRANCA");
     EXPECT_EQ(desk.status(numberCollection(slip, "1234")), "OK");
     EXPECT_EQ(desk.status(numberCollection(slip, "")),
               "O número do boleto bancário \"\" não é válido. Digite só algarismos.");
@@ -164,7 +164,7 @@ TEST(SlipCommands, KeepTheNumberOfACollectionDocument) {
 
 TEST(SlipCommands, TakeTheControlNumberUnderBothSpellings) {
     Desk desk;
-    const Slip slip = firstOf(desk, slipQuery(kWallet57, "N"), "DOCTO_RECEBER");
+    const Slip slip = firstOf(desk, slipQuery(wallet57, "N"), "DOCTO_RECEBER");
     EXPECT_EQ(desk.status(numberReceivable(slip, "ID_NR_CTL", "77")), "OK");
     EXPECT_EQ(desk.status(numberReceivable(slip, "ID_NR_CLT", "12345679")), "OK");
     EXPECT_NE(desk.status(numberReceivable(slip, "ID_NR", "1")), "OK");
@@ -175,21 +175,21 @@ TEST(SlipCommands, TakeTheControlNumberUnderBothSpellings) {
 TEST(SlipCommands, EnterADocumentInAPortfolio) {
     for (const bool receivable : {false, true}) {
         Desk desk;
-        const Slip slip = firstOf(desk, slipQuery(kWallet57, "S"),
+        const Slip slip = firstOf(desk, slipQuery(wallet57, "S"),
                                   receivable ? "DOCTO_RECEBER" : "DOCTO_COBRANCA");
         const auto entering = [&](const char* portfolio) {
             return receivable ? enterReceivable(slip, portfolio) : enterCollection(slip, portfolio);
         };
-        EXPECT_FALSE(holds(desk, slipQuery(kWallet57, "N"), slip));
+        EXPECT_FALSE(holds(desk, slipQuery(wallet57, "N"), slip));
         EXPECT_EQ(desk.status(entering("201")),
                   "A carteira de cobrança não existe. Escolha a carteira na lista.");
-        EXPECT_EQ(desk.status(entering(kWallet57)), "OK");
-        EXPECT_TRUE(holds(desk, slipQuery(kWallet57, "N"), slip));
-        EXPECT_FALSE(holds(desk, slipQuery(kWallet57, "S"), slip));
-        EXPECT_EQ(desk.status(entering(kWallet57)), "OK");
+        EXPECT_EQ(desk.status(entering(wallet57)), "OK");
+        EXPECT_TRUE(holds(desk, slipQuery(wallet57, "N"), slip));
+        EXPECT_FALSE(holds(desk, slipQuery(wallet57, "S"), slip));
+        EXPECT_EQ(desk.status(entering(wallet57)), "OK");
         EXPECT_EQ(desk.status(entering(santander)),
                   "O documento não existe mais ou já está em outra carteira. Pesquise de novo.");
-        EXPECT_TRUE(holds(desk, slipQuery(kWallet57, "N"), slip));
+        EXPECT_TRUE(holds(desk, slipQuery(wallet57, "N"), slip));
     }
 }
 

@@ -19,7 +19,7 @@
 namespace tarn::practice::test {
 namespace {
 
-constexpr const char* kPlace =
+constexpr const char* placeQuery =
     "(SELECT id FROM establishment WHERE company_id = 1361 AND code = 1363)";
 
 std::chrono::seconds workingTime() {
@@ -60,18 +60,18 @@ std::map<std::string, std::string> stockAndTaken(Database& database) {
         " WHERE n.cancelled = 0 AND i.product_id = s.product_id"
         " AND n.establishment_id = s.establishment_id), 0)"
         " FROM stock s WHERE s.establishment_id = " +
-            std::string(kPlace));
+            std::string(placeQuery));
 }
 
 std::int64_t numbersLeft(Database& database) {
     return number(database, "SELECT SUM(next_number) FROM series WHERE establishment_id = " +
-                                std::string(kPlace));
+                                std::string(placeQuery));
 }
 
 void workAtOnce(const std::vector<std::string>& baseUrls, DoneAtOnce& done) {
     const auto end = std::chrono::steady_clock::now() + workingTime();
     std::vector<std::thread> desks;
-    for (int place = 0; place < kBusyDesks; ++place) {
+    for (int place = 0; place < busyDesks; ++place) {
         const std::string& url = baseUrls[static_cast<std::size_t>(place) % baseUrls.size()];
         desks.emplace_back([&done, &url, end, place] {
             BusyDesk desk(url, place, done);
@@ -94,7 +94,7 @@ void expectNothingTwice(const DoneAtOnce& done) {
 
 // The notes stand as they were given, and without a gap.
 void expectNotes(Database& database, const DoneAtOnce& done, std::int64_t numbersBefore) {
-    const std::string place = kPlace;
+    const std::string place = placeQuery;
     EXPECT_EQ(oneColumn(database,
                         "SELECT series_code || '/' || number FROM note"
                         " WHERE establishment_id = " +

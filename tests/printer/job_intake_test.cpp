@@ -13,10 +13,12 @@
 #include "printer/job_intake.h"
 #include "printer/job_server.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
-constexpr int kLimit = 10000;  // milliseconds; for a machine that is busy
+constexpr int limit = 10000;  // milliseconds; for a machine that is busy
 
 struct Ended {
     QString name;
@@ -25,14 +27,14 @@ struct Ended {
 
 class Intake : public testing::Test {
 protected:
-    explicit Intake(qint64 mostBytes = JobIntake::kMostJobBytes) : intake_(roll_, mostBytes) {
+    explicit Intake(qint64 mostBytes = JobIntake::maxJobBytes) : intake_(roll_, mostBytes) {
         QObject::connect(&intake_, &JobIntake::jobEnded, &intake_,
                          [this](const QString& name, const QString& remark) {
                              ended_.push_back({name, remark});
                          });
     }
     bool waitForJobs(std::size_t count) {
-        return QTest::qWaitFor([&] { return ended_.size() >= count; }, kLimit);
+        return QTest::qWaitFor([&] { return ended_.size() >= count; }, limit);
     }
     std::string text() {
         std::string out;
@@ -92,7 +94,7 @@ protected:
         auto socket = std::make_unique<QTcpSocket>();
         socket->connectToHost(QHostAddress::LocalHost, server_.serverPort());
         EXPECT_TRUE(QTest::qWaitFor(
-            [&] { return socket->state() == QAbstractSocket::ConnectedState; }, kLimit));
+            [&] { return socket->state() == QAbstractSocket::ConnectedState; }, limit));
         return socket;
     }
     void send(const QByteArray& bytes) {
@@ -100,7 +102,7 @@ protected:
         socket->write(bytes);
         socket->disconnectFromHost();
         EXPECT_TRUE(QTest::qWaitFor(
-            [&] { return socket->state() == QAbstractSocket::UnconnectedState; }, kLimit));
+            [&] { return socket->state() == QAbstractSocket::UnconnectedState; }, limit));
     }
 
     JobServer server_{this->intake_};
@@ -124,11 +126,11 @@ TEST_F(Server, ASecondConnectionWaitsForTheFirst) {
     const auto second = connected();
     first->write("primeiro ");
     second->write("segundo\r\n");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "primeiro\n"; }, kLimit));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return server_.waiting() == 1; }, kLimit));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "primeiro\n"; }, limit));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server_.waiting() == 1; }, limit));
     second->disconnectFromHost();
     first->write("ainda\r\n");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "primeiro ainda\n"; }, kLimit));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "primeiro ainda\n"; }, limit));
     EXPECT_EQ(ended_.size(), 0U);
     first->disconnectFromHost();
     ASSERT_TRUE(waitForJobs(2));
@@ -143,7 +145,7 @@ TEST_F(Server, WhatWaitsIsWholeWhenItsTurnComes) {
     const QByteArray lines = QByteArray("linha de um trabalho longo\r\n").repeated(200'000);
     second->write(lines);
     second->disconnectFromHost();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "a\n"; }, kLimit));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "a\n"; }, limit));
     first->disconnectFromHost();
     ASSERT_TRUE(waitForJobs(2));
     EXPECT_EQ(roll_.printedForms(), (200'001U + 65) / 66);
@@ -153,7 +155,7 @@ TEST_F(Server, WhatWaitsIsWholeWhenItsTurnComes) {
 TEST_F(Server, AnAbortedConnectionLeavesWhatCameAndTheNextJobPrints) {
     auto first = connected();
     first->write("meia linha");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "meia linha\n"; }, kLimit));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "meia linha\n"; }, limit));
     first->abort();
     send("\r\noutro\r\n");
     ASSERT_TRUE(waitForJobs(2));
@@ -171,7 +173,7 @@ TEST_F(Server, ASilentConnectionEndsWhenOthersWait) {
     server_.setPatience(std::chrono::milliseconds(50));
     const auto silent = connected();
     silent->write("um");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "um\n"; }, kLimit));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "um\n"; }, limit));
     EXPECT_EQ(ended_.size(), 0U);
     send("\r\ndois");
     ASSERT_TRUE(waitForJobs(2));
@@ -186,7 +188,7 @@ TEST_F(SmallServer, AJobOverItsSizeIsCutOffAndTheNextPrints) {
     ASSERT_TRUE(waitForJobs(1));
     EXPECT_FALSE(ended_[0].remark.isEmpty());
     ASSERT_TRUE(
-        QTest::qWaitFor([&] { return big->state() == QAbstractSocket::UnconnectedState; }, kLimit));
+        QTest::qWaitFor([&] { return big->state() == QAbstractSocket::UnconnectedState; }, limit));
     send("\r\nx");
     ASSERT_TRUE(waitForJobs(2));
     EXPECT_EQ(text(), "1234567890\nx\n");
@@ -196,12 +198,12 @@ TEST_F(Server, TooManyAtOnceAreTurnedAway) {
     const auto first = connected();
     first->write("a");
     std::vector<std::unique_ptr<QTcpSocket>> crowd;
-    for (std::size_t i = 0; i < JobServer::kMostWaiting + 1; ++i) {
+    for (std::size_t i = 0; i < JobServer::mostWaiting + 1; ++i) {
         crowd.push_back(connected());
     }
     ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return crowd.back()->state() == QAbstractSocket::UnconnectedState; }, kLimit));
-    EXPECT_EQ(server_.waiting(), JobServer::kMostWaiting);
+        [&] { return crowd.back()->state() == QAbstractSocket::UnconnectedState; }, limit));
+    EXPECT_EQ(server_.waiting(), JobServer::mostWaiting);
 }
 
 class Watched : public Intake {
@@ -213,7 +215,7 @@ protected:
         file.write(bytes);
     }
     bool waitForText(const std::string& expected) {
-        return QTest::qWaitFor([&] { return text() == expected; }, kLimit);
+        return QTest::qWaitFor([&] { return text() == expected; }, limit);
     }
     QTemporaryDir folder_;
 };
@@ -279,7 +281,7 @@ TEST_F(Watched, ALongFileComesInPieces) {
 }
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);

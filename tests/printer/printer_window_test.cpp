@@ -20,10 +20,12 @@
 #include "tests/dotmatrix/poppler.h"
 #include "tests/support/user.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::test {
+
+using namespace dotmatrix;
 namespace {
 
-constexpr int kLimit = 20000;  // milliseconds; for a machine that is busy
+constexpr int limit = 20000;  // milliseconds; for a machine that is busy
 
 class Window : public testing::Test {
 protected:
@@ -54,7 +56,7 @@ protected:
             QString::number(roll_.printedForms()) + QStringLiteral(" formulário(s)");
         return QTest::qWaitFor(
             [&] { return label("contagem").startsWith(jobs) && label("contagem").contains(forms); },
-            kLimit);
+            limit);
     }
     QString label(const char* name) { return named<QLabel>(window_, name).text(); }
     void press(Qt::Key key, Qt::KeyboardModifiers with = {}) {
@@ -62,7 +64,7 @@ protected:
         QTest::keyClick(target, key, with);
     }
     bool inSight(PaperUnits y) {
-        const auto height = view_.viewport()->height() * kUnitsPerInch / 96;
+        const auto height = view_.viewport()->height() * unitsPerInch / 96;
         return y >= view_.topY() && y + 360 <= view_.topY() + height;
     }
     int scrolled() { return view_.verticalScrollBar()->value(); }
@@ -75,13 +77,13 @@ protected:
         EXPECT_EQ(box->textFormat(), Qt::PlainText);
         QString text = box->text();
         QTest::keyClick(box, Qt::Key_Return);
-        EXPECT_TRUE(QTest::qWaitFor([this] { return window_.errorBox() == nullptr; }, kLimit));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return window_.errorBox() == nullptr; }, limit));
         return text;
     }
     bool searched() {
         return QTest::qWaitFor(
             [this] { return label("resultadoLocalizar") != QStringLiteral("Procurando..."); },
-            kLimit);
+            limit);
     }
     // Pixel of a place on the paper, in inches from the first print position and from the
     // top of the view.
@@ -108,7 +110,7 @@ TEST_F(Window, TheViewFollowsThePrintUntilOneLooksElsewhere) {
     EXPECT_EQ(scrolled(), 0);
     job("\f\f\fdois\r\n");
     EXPECT_EQ(label("contagem"), QStringLiteral("2 trabalho(s), 4 formulário(s)  ·  100%"));
-    EXPECT_TRUE(inSight(33 * kUnitsPerInch + 360));
+    EXPECT_TRUE(inSight(33 * unitsPerInch + 360));
     // A job that begins where one sees it is shown from the top of its form.
     job("x\r\ny");
     EXPECT_EQ(scrolled(), 3 * 66);
@@ -140,7 +142,7 @@ TEST_F(Window, ZoomByKeysAndWheel) {
     QApplication::sendEvent(view_.viewport(), &wheel);
     EXPECT_DOUBLE_EQ(view_.zoom(), 1.15);
     view_.setZoom(100);
-    EXPECT_DOUBLE_EQ(view_.zoom(), PaperView::kMostZoom);
+    EXPECT_DOUBLE_EQ(view_.zoom(), PaperView::mostZoom);
 }
 
 TEST_F(Window, FindsCapitalsAndAccentsAlikeDownUpAndAround) {
@@ -201,7 +203,7 @@ TEST_F(Window, ARegionMarkedWithTheMouseIsCopiedAsText) {
 
 TEST_F(Window, TheFormInSightIsMarkedAndCopied) {
     job("um\fdois\r\nlinha\f");
-    view_.showTop(11 * kUnitsPerInch);
+    view_.showTop(11 * unitsPerInch);
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "dois\nlinha");
@@ -292,7 +294,7 @@ TEST_F(Window, JobFilesAreOpenedOneAfterTheOther) {
     }
     open_ = {file("a.prn"), file("nada.prn"), file("b.prn")};
     press(Qt::Key_O, Qt::ControlModifier);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return intake_.ended() == 2; }, kLimit));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return intake_.ended() == 2; }, limit));
     ASSERT_TRUE(settled());
     EXPECT_TRUE(complaint().startsWith(QStringLiteral("Não foi possível ler o trabalho \"") +
                                        file("nada.prn")));
@@ -309,7 +311,7 @@ TEST_F(Window, AFormIsChosenFromTheMenu) {
     const QImage blank = view_.grab().toImage();
     choose(window_, "menuFormulario", "formulario_ImprimeNF_1521");
     EXPECT_TRUE(roll_.dialect().condensed);
-    EXPECT_EQ(roll_.dialect().formHeight, 11 * kUnitsPerInch);
+    EXPECT_EQ(roll_.dialect().formHeight, 11 * unitsPerInch);
     EXPECT_EQ(roll_.printedForms(), 1U);
     EXPECT_NE(view_.grab().toImage(), blank);
     EXPECT_TRUE(named<QAction>(window_, "formulario_ImprimeNF_1521").isChecked());
@@ -397,7 +399,7 @@ TEST_F(Window, StaysAwakeWhileTenThousandFormsComeIn) {
     press(Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_DOUBLE_EQ(view_.zoom(), 1.25);
     EXPECT_TRUE(intake_.busy());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return intake_.ended() == 1; }, 6 * kLimit));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return intake_.ended() == 1; }, 6 * limit));
     // 28 MB in pieces of 256 KB, and the event loop turned between any two.
     EXPECT_GT(turns, 90);
     ASSERT_TRUE(settled());
@@ -420,4 +422,4 @@ TEST_F(Window, EveryCommandHasATextAndAHint) {
 }
 
 }  // namespace
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::test

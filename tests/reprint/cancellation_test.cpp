@@ -1,7 +1,7 @@
 // The cancelling job by clicks.
 #include "tests/reprint/note_screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -185,4 +185,4 @@ TEST_F(CancellationScreen, ACancelledNoteIsNoLongerFound) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -6,7 +6,7 @@
 
 #include "tests/reprint/note_screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -89,38 +89,38 @@ TEST_F(FrmReImprimeNFTest, StandsInTheMiddleAtTheTop) {
 
 TEST_F(FrmReImprimeNFTest, SaysWhatItsFieldsAre) {
     open("mCNF");
-    const std::pair<const char*, const char*> legendas[] = {
+    const std::pair<const char*, const char*> captions[] = {
         {"Label1", "Série"},   {"Label6", "Nº Nota Fiscal"}, {"Label7", "Dt.Emissão"},
         {"Label4", "Tipo NF"}, {"Label2", "Cliente"},        {"Label3", "Motivo do Cancelamento "}};
-    for (const auto& [nome, caption] : legendas) {
-        EXPECT_EQ(shown(nome), caption);
+    for (const auto& [name, caption] : captions) {
+        EXPECT_EQ(shown(name), caption);
     }
     EXPECT_EQ(option(0).text().toStdString(),
               "Cancelamento COM a opção de novo faturamento da venda.");
     EXPECT_EQ(option(1).text().toStdString(),
               "Cancelamento SEM a opção de novo faturamento da venda.");
-    for (const char* nome :
+    for (const char* name :
          {"cboSerie", "txtNF", "CboMot_Can", "LBLNOTA", "LblTipoNf", "LblDtEm", "LBLCliente"}) {
-        EXPECT_FALSE(named<QWidget>(screen(), nome).accessibleName().isEmpty()) << nome;
+        EXPECT_FALSE(named<QWidget>(screen(), name).accessibleName().isEmpty()) << name;
     }
     EXPECT_THAT(named<QButtonGroup>(screen(), "OptionReimp").buttons(),
                 ElementsAre(&option(0), &option(1)));
     EXPECT_FALSE(option(0).isChecked() || option(1).isChecked());
-    for (const char* nome : {"LBLNOTA", "LblTipoNf", "LblDtEm", "LBLCliente"}) {
-        EXPECT_EQ(named<QLabel>(screen(), nome).textFormat(), Qt::PlainText);
-        EXPECT_TRUE(named<QWidget>(screen(), "FrmDados").findChild<QLabel*>(nome)) << nome;
+    for (const char* name : {"LBLNOTA", "LblTipoNf", "LblDtEm", "LBLCliente"}) {
+        EXPECT_EQ(named<QLabel>(screen(), name).textFormat(), Qt::PlainText);
+        EXPECT_TRUE(named<QWidget>(screen(), "FrmDados").findChild<QLabel*>(name)) << name;
     }
 }
 
 TEST_F(FrmReImprimeNFTest, ButtonsSpeakByPictureToolTipAndName) {
     for (const char* input : {"mRINF", "mCNF"}) {
         open(input);
-        for (const char* nome : {"cmdPesquisar", "cmdSelecionar", "CmdFechar"}) {
-            auto& button = named<QPushButton>(screen(), nome);
-            EXPECT_FALSE(button.icon().pixmap(24).isNull()) << nome;
-            EXPECT_FALSE(button.toolTip().isEmpty()) << nome;
-            EXPECT_EQ(button.accessibleName(), button.toolTip()) << nome;
-            EXPECT_TRUE(button.text().isEmpty()) << nome;
+        for (const char* name : {"cmdPesquisar", "cmdSelecionar", "CmdFechar"}) {
+            auto& button = named<QPushButton>(screen(), name);
+            EXPECT_FALSE(button.icon().pixmap(24).isNull()) << name;
+            EXPECT_FALSE(button.toolTip().isEmpty()) << name;
+            EXPECT_EQ(button.accessibleName(), button.toolTip()) << name;
+            EXPECT_TRUE(button.text().isEmpty()) << name;
         }
         const QString run = named<QPushButton>(screen(), "cmdSelecionar").toolTip();
         EXPECT_TRUE(run.startsWith(input == std::string("mCNF") ? u"Cancelar" : u"Imprimir"));
@@ -347,4 +347,4 @@ TEST_F(FrmReImprimeNFTest, TheDeskCanBeLeftWithTheScreenOpen) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -14,7 +14,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 
 inline Box transportFailure(const std::string& number) {
     return {"ERRO Tarn" + number +
@@ -22,11 +22,11 @@ inline Box transportFailure(const std::string& number) {
                 "Internet.",
             BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
 }
-inline Box notice(const std::string& texto) {
-    return {texto, BoxIcon::Exclamation, "Aviso"};
+inline Box notice(const std::string& text) {
+    return {text, BoxIcon::Exclamation, "Aviso"};
 }
-inline Box untitled(const std::string& texto) {
-    return {texto, BoxIcon::Exclamation, "TarnEmissao"};
+inline Box untitled(const std::string& text) {
+    return {text, BoxIcon::Exclamation, "TarnEmissao"};
 }
 
 inline std::string noteRow(const std::string& kind) {
@@ -84,7 +84,7 @@ protected:
         ASSERT_EQ(shown("LBLNOTA"), "4567");
         server.addresses.clear();
     }
-    void choose(const char* list, int linha) { pick(screen(), list, linha); }
+    void choose(const char* list, int line) { pick(screen(), list, line); }
 
     FrmReImprimeNF& screen() { return named<FrmReImprimeNF>(menu, "FrmReImprimeNF"); }
     bool isOpen() { return menu.findChild<FrmReImprimeNF*>() != nullptr; }
@@ -122,4 +122,4 @@ protected:
     MDIMenu menu{desk};
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -5,14 +5,14 @@
 #include "tests/notes/note_fixture.h"
 #include "tests/reprint/note_screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::string content(const char* nome) {
-    std::ifstream file(std::string(TARN_NOTE_DATA) + "/" + nome, std::ios::binary);
+std::string content(const char* name) {
+    std::ifstream file(std::string(TARN_NOTE_DATA) + "/" + name, std::ios::binary);
     std::ostringstream bytes;
     bytes << file.rdbuf();
     return bytes.str();
@@ -131,4 +131,4 @@ TEST_F(ReprintScreen, APrinterThatFailsGoesUnnoticed) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -9,7 +9,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 const std::string noInternet =
@@ -19,8 +19,8 @@ const std::string gap(50, ' ');
 Box transportFailure(const std::string& number) {
     return {"ERRO Tarn" + number + noInternet, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
 }
-Box notice(const std::string& texto) {
-    return {texto, BoxIcon::Exclamation, "Aviso"};
+Box notice(const std::string& text) {
+    return {text, BoxIcon::Exclamation, "Aviso"};
 }
 
 // Loaded answers of which no status can be read.
@@ -42,8 +42,8 @@ protected:
         EXPECT_TRUE(loadSeries(environment, session, items));
         return items;
     }
-    std::optional<FoundNote> search(const std::string& linhas) {
-        seams.loader.on("SEL_NF", answers::rowset(linhas));
+    std::optional<FoundNote> search(const std::string& lines) {
+        seams.loader.on("SEL_NF", answers::rowset(lines));
         return searchNote(environment, session, {"Série 1" + gap + "|A1", "0555"});
     }
     void reimprime(const std::string& answer) {
@@ -170,7 +170,7 @@ TEST_F(ReprintTest, AnUnreadableStatusIsAFailedTransferOfTheJobInHand) {
         other.loader.on("sel_gera_nf", answer).on("sp_can_nf", answer);
         reprintNote(other.environment, session, "0555", "A1");
         EXPECT_FALSE(
-            cancelNote(other.environment, session, {"0555", "A1", "S", Rebilling::Com, 1}));
+            cancelNote(other.environment, session, {"0555", "A1", "S", Rebilling::With, 1}));
         EXPECT_THAT(other.boxes.shown,
                     testing::ElementsAre(notice("Houve um problema na transferência dos dados da "
                                                 "Nota Fiscal nº 0555. "),
@@ -212,7 +212,7 @@ TEST_F(ReprintTest, AnErrorOfTheLayoutIsThatOfANote) {
 TEST_F(ReprintTest, TheOptionDecidesTheKindOfCancellation) {
     seams.loader.on("sp_can_nf", answers::status("OK"));
     EXPECT_TRUE(cancelNote(environment, session, {"0555", "A1", "S", Rebilling::Without, 12}));
-    EXPECT_TRUE(cancelNote(environment, session, {"7", "", "", Rebilling::Com, -1}));
+    EXPECT_TRUE(cancelNote(environment, session, {"7", "", "", Rebilling::With, -1}));
     EXPECT_THAT(seams.loader.queries(),
                 testing::ElementsAre(
                     "comando=sp_can_nf&ID_ETB_TARN=9&IC_TIP_NF=S&ID_NF_KESTO=0555&CD_SER_NF=A1&"
@@ -222,4 +222,4 @@ TEST_F(ReprintTest, TheOptionDecidesTheKindOfCancellation) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

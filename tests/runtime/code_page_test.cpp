@@ -4,7 +4,7 @@
 
 #include "runtime/text.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 std::string printed(std::string_view utf8, CodePage page = CodePage::Page1252) {
@@ -88,4 +88,4 @@ TEST(Windows1252, FullPageBothWays) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

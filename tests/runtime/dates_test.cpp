@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 TEST(Dates, FormatsWhatIsADate) {
@@ -79,4 +79,4 @@ TEST(Dates, TextOfADate) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

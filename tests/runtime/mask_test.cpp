@@ -11,7 +11,7 @@
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 struct MaskCase {
@@ -317,4 +317,4 @@ TEST(Mask, AppendTextTellsNumbersFromOtherTexts) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -6,7 +6,7 @@
 
 #include "runtime/runtime_error.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 template <typename Call>
@@ -175,4 +175,4 @@ TEST(RuntimeErrorText, EveryNumberHasItsOwnDescription) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

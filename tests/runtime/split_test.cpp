@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using Pieces = std::vector<std::string_view>;
@@ -18,4 +18,4 @@ TEST(Split, KeepsEmptyPieces) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -6,7 +6,7 @@
 
 #include "runtime/ascii.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 TEST(Text, CountsAndCutsCharacters) {
@@ -97,4 +97,4 @@ TEST(Text, OneByteThatIsNoPlainTextIsSeenWhereverItStands) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

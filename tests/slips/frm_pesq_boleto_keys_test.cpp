@@ -7,7 +7,7 @@
 
 #include "tests/slips/slip_screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -16,11 +16,11 @@ using testing::IsEmpty;
 
 class SlipKeys : public SlipRunView {
 protected:
-    static void paste(const QWidget& screen, const char* field, const QString& texto) {
+    static void paste(const QWidget& screen, const char* field, const QString& text) {
         auto& where = named<QLineEdit>(screen, field);
         where.setFocus();
         where.selectAll();
-        QApplication::clipboard()->setText(texto);
+        QApplication::clipboard()->setText(text);
         QTest::keyClick(&where, Qt::Key_V, Qt::ControlModifier);
     }
     // Turns the wheel by one notch towards the user, over the widget.
@@ -125,7 +125,7 @@ TEST_F(SlipKeys, EnterHeldDownSinceTheBoxDoesntPressTheButtonAgain) {
 // The focus goes along with an access key, and so the date being typed is finished.
 TEST_F(SlipKeys, AnAccessKeyFinishesTheDate) {
     withScreen([&](QWidget& screen) {
-        server.on("sel_boleto", answers::rowset(linha("1")));
+        server.on("sel_boleto", answers::rowset(line("1")));
         fillIn(screen);
         type(screen, "txtDtVncDe", "1");
         server.addresses.clear();
@@ -138,7 +138,7 @@ TEST_F(SlipKeys, AnAccessKeyFinishesTheDate) {
 // The second button is still going down when the first one's request is sent.
 TEST_F(SlipKeys, TwoAccessKeysInARowAreTwoClicksOneAfterTheOther) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1"));
+        find(screen, line("1"));
         type(screen, "txtNr_Bol_Banc", "1234");
         shortcut(screen, Qt::Key_P);
         shortcut(screen, Qt::Key_I);
@@ -169,7 +169,7 @@ TEST_F(SlipKeys, ListsAreChosenFromByKeyAndByWheel) {
 
 TEST_F(SlipKeys, ClosingDuringARequestDoesNothing) {
     withScreen([&](QWidget& screen) {
-        server.on("sel_boleto", answers::rowset(linha("1")));
+        server.on("sel_boleto", answers::rowset(line("1")));
         fillIn(screen);
         for (QWidget* window : {&screen, static_cast<QWidget*>(&menu)}) {
             QCoreApplication::postEvent(window, new QCloseEvent);
@@ -205,4 +205,4 @@ TEST_F(SlipKeys, EscAndTheWindowsButtonCloseIt) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

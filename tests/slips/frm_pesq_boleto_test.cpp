@@ -3,7 +3,7 @@
 
 #include "tests/slips/slip_screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -39,7 +39,7 @@ protected:
     // A search that finds nothing behind one that found a row.
     void emptySearch(const std::string& answer) {
         withScreen([&](QWidget& screen) {
-            find(screen, linha("1"));
+            find(screen, line("1"));
             server.on("sel_boleto&ID_EMP_TARN=2161", answer);
             int linesInBox = -1;
             boxes.onShow = [&](const Box&) { linesInBox = grid::rows(grid(screen)); };
@@ -121,8 +121,8 @@ TEST_F(FrmPesqBoletoTest, TheGridHasItsColumnsThoseForThePrintingOutOfSight) {
                                 "ID_NR_CTL", "IC_REF_REC", "TX_JUR_DIA", "PC_MULTA", "JUROS_DIA",
                                 "VL_OUT_DSP", "DC_REF_REC", "ID_ETB", "ID_TIP_DOC", "NR_AGE",
                                 "ID_PES_BAN", "CD_EXT", "NR_DOC_NF"));
-        for (int coluna = 1; coluna <= 29; ++coluna) {
-            EXPECT_EQ(grid(screen).isColumnHidden(coluna - 1), coluna > 9) << coluna;
+        for (int column = 1; column <= 29; ++column) {
+            EXPECT_EQ(grid(screen).isColumnHidden(column - 1), column > 9) << column;
         }
     });
 }
@@ -158,7 +158,7 @@ TEST_F(FrmPesqBoletoTest, ThreeFieldsMustBeThereBeforeASearchIsSent) {
 
 TEST_F(FrmPesqBoletoTest, TheOtherFieldsMayStayEmpty) {
     withScreen([&](QWidget& screen) {
-        server.on("sel_boleto", answers::rowset(linha("1")));
+        server.on("sel_boleto", answers::rowset(line("1")));
         fillIn(screen);
         server.addresses.clear();
         click(screen, "cmdPesquisar");
@@ -193,12 +193,12 @@ TEST_F(FrmPesqBoletoTest, AllFieldsGoOut) {
 
 TEST_F(FrmPesqBoletoTest, TheRowsAreShownUnticked) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("4567/1") + linha("4568/1"));
+        find(screen, line("4567/1") + line("4568/1"));
         QTableView& data = grid(screen);
         EXPECT_THAT(grid::ticks(data), ElementsAre(false, false));
         std::vector<std::string> cells;
-        for (int coluna = 1; coluna <= 9; ++coluna) {
-            cells.push_back(grid::cell(data, 1, coluna));
+        for (int column = 1; column <= 9; ++column) {
+            cells.push_back(grid::cell(data, 1, column));
         }
         EXPECT_THAT(cells,
                     ElementsAre("", "SP", "10/04/2012", "DUPLICATA", "4567/1", "JOSÉ & <b>FILHOS",
@@ -206,7 +206,7 @@ TEST_F(FrmPesqBoletoTest, TheRowsAreShownUnticked) {
         EXPECT_EQ(grid::cell(data, 1, 13), "12.345.678/0001-95");
         EXPECT_EQ(grid::cell(data, 1, 15), "J");
         EXPECT_EQ(grid::cell(data, 1, 21), "0,42");
-        server.on("sel_boleto&ID_EMP_TARN=2161", answers::rowset(linha("9")));
+        server.on("sel_boleto&ID_EMP_TARN=2161", answers::rowset(line("9")));
         click(screen, "cmdPesquisar");
         EXPECT_EQ(grid::cell(data, 1, 5), "9");
         EXPECT_EQ(grid::rows(data), 1) << "a search takes the place of the one before";
@@ -215,7 +215,7 @@ TEST_F(FrmPesqBoletoTest, TheRowsAreShownUnticked) {
 
 TEST_F(FrmPesqBoletoTest, AFailedSearchLeavesTheGrid) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1"));
+        find(screen, line("1"));
         grid::click(grid(screen), 1, 1);
         server.failOn("sel_boleto&ID_EMP_TARN=2161");
         click(screen, "cmdPesquisar");
@@ -237,7 +237,7 @@ TEST_F(FrmPesqBoletoTest, TheHeadingOfTheFirstColumnGoesByTheLastRow) {
         QTableView& data = grid(screen);
         grid::clickHeading(data, 1);
         EXPECT_EQ(grid::rows(data), 0);
-        find(screen, linha("1") + linha("2") + linha("3"));
+        find(screen, line("1") + line("2") + line("3"));
         grid::click(data, 1, 1);
         grid::clickHeading(data, 1);
         EXPECT_THAT(grid::ticks(data), ElementsAre(true, true, true));
@@ -273,7 +273,7 @@ TEST_F(FrmPesqBoletoTest, TickingTheCheckBoxIsExplained) {
 
 TEST_F(FrmPesqBoletoTest, ACustomerChosenReloadsTheListsAndKeepsTheRest) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1"));
+        find(screen, line("1"));
         pick(screen, "cboFilial", south);
         type(screen, "txtNr_Bol_Banc", "77");
         chooseCustomer(screen);
@@ -334,7 +334,7 @@ TEST_F(FrmPesqBoletoTest, AChoiceInTheBillSearchWaitsHere) {
 
 TEST_F(FrmPesqBoletoTest, FailedListsLoseWhatTheyHeldOnTheNextActivation) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1"));
+        find(screen, line("1"));
         grid::click(grid(screen), 1, 1);
         server.failOn("sel_filiais&ID_EMP_TARN=2161").failOn("sel_carteira&ID_EMP_TARN=2161");
         modals.then("FrmPesqCliente", [](QWidget& dialog) { key(dialog, Qt::Key_Escape); });
@@ -386,20 +386,20 @@ TEST_F(FrmPesqBoletoTest, TheWidestShortNameOfABranchIsReadWhole) {
     withScreen([&](QWidget& screen) {
         find(screen, "<z:row SG_FIL='GUARATINGUET' DT_VNC_DOC_FMA='10/04/2012'/>");
         QTableView& data = grid(screen);
-        for (const int coluna : {2, 3}) {
-            const QModelIndex cell = data.model()->index(0, coluna - 1);
-            EXPECT_GE(data.columnWidth(coluna - 1), data.sizeHintForIndex(cell).width()) << coluna;
+        for (const int column : {2, 3}) {
+            const QModelIndex cell = data.model()->index(0, column - 1);
+            EXPECT_GE(data.columnWidth(column - 1), data.sizeHintForIndex(cell).width()) << column;
         }
     });
 }
 
 TEST_F(FrmPesqBoletoTest, TwentyThousandDocumentsAreShownAndTicked) {
     withScreen([&](QWidget& screen) {
-        std::string linhas;
+        std::string lines;
         for (int i = 1; i <= 20000; ++i) {
-            linhas += linha(std::to_string(i));
+            lines += line(std::to_string(i));
         }
-        find(screen, linhas);
+        find(screen, lines);
         grid::clickHeading(grid(screen), 1);
         EXPECT_THAT(grid::ticks(grid(screen)), testing::Each(true));
         grid::click(grid(screen), 20000, 1);
@@ -409,4 +409,4 @@ TEST_F(FrmPesqBoletoTest, TwentyThousandDocumentsAreShownAndTicked) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -8,7 +8,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -85,4 +85,4 @@ TEST_F(PortfolioTest, AFailedRequestIsTold) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

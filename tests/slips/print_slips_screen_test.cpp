@@ -7,7 +7,7 @@
 
 #include "tests/slips/slip_screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -51,7 +51,7 @@ TEST_F(PrintSlipsScreen, PortfolioAndNumberMustBeThere) {
 
 TEST_F(PrintSlipsScreen, TheTickedRowsBecomeSlips) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1") + linha("2") + linha("3"));
+        find(screen, line("1") + line("2") + line("3"));
         grid::click(grid(screen), 1, 1);
         grid::click(grid(screen), 3, 1);
         print(screen, "1234");
@@ -80,7 +80,7 @@ TEST_F(PrintSlipsScreen, TheTickedRowsBecomeSlips) {
 
 TEST_F(PrintSlipsScreen, TheOtherWallet) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1"), wallet101Item);
+        find(screen, line("1"), wallet101Item);
         grid::click(grid(screen), 1, 1);
         print(screen, "9");
         EXPECT_THAT(server.queries(),
@@ -94,7 +94,7 @@ TEST_F(PrintSlipsScreen, TheOtherWallet) {
 
 TEST_F(PrintSlipsScreen, NothingTickedStillReadsThePortfolioAndEmptiesTheNumber) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1"));
+        find(screen, line("1"));
         print(screen, "1234");
         EXPECT_THAT(server.queries(), ElementsAre(wallet57Query));
         EXPECT_THAT(boxes.shown, ElementsAre(nothingTicked()));
@@ -116,7 +116,7 @@ TEST_F(PrintSlipsScreen, ASearchWithoutResultThenPrinting) {
 
 TEST_F(PrintSlipsScreen, WithoutThePortfolioNothingHappens) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1"));
+        find(screen, line("1"));
         grid::click(grid(screen), 1, 1);
         server.failOn("sel_carteira_cob&ID_EMP_TARN=2161&ID_CRT_COB=5");
         print(screen, "1234");
@@ -130,7 +130,7 @@ TEST_F(PrintSlipsScreen, WithoutThePortfolioNothingHappens) {
 
 TEST_F(PrintSlipsScreen, ARowOfAnotherBankTakesNoNumber) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1") + linha("2", "1050") + linha("3"));
+        find(screen, line("1") + line("2", "1050") + line("3"));
         grid::clickHeading(grid(screen), 1);
         print(screen, "1234");
         EXPECT_THAT(numbers(), ElementsAre("0000000001234/7", "0000000001235/6"));
@@ -143,7 +143,7 @@ TEST_F(PrintSlipsScreen, ARowOfAnotherBankTakesNoNumber) {
 
 TEST_F(PrintSlipsScreen, WithTheCheckBoxThePortfoliosBankCounts) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1", "1050"));
+        find(screen, line("1", "1050"));
         clickCheckBox(screen);
         boxes.shown.clear();
         grid::clickHeading(grid(screen), 1);
@@ -155,7 +155,7 @@ TEST_F(PrintSlipsScreen, WithTheCheckBoxThePortfoliosBankCounts) {
 
 TEST_F(PrintSlipsScreen, AServerThatFailsBetweenWriteAndPrintIsNotNoticed) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1") + linha("2"));
+        find(screen, line("1") + line("2"));
         grid::clickHeading(grid(screen), 1);
         server.on("altera_docto_cob", answers::status("NAO"));
         server.failOn("insere_car_cob");
@@ -168,7 +168,7 @@ TEST_F(PrintSlipsScreen, AServerThatFailsBetweenWriteAndPrintIsNotNoticed) {
 
 TEST_F(PrintSlipsScreen, APrinterThatFailsAfterTheWriteIsNotNoticed) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1") + linha("2"));
+        find(screen, line("1") + line("2"));
         grid::clickHeading(grid(screen), 1);
         spooler.failOpen = 1;
         print(screen, "1234");
@@ -181,7 +181,7 @@ TEST_F(PrintSlipsScreen, APrinterThatFailsAfterTheWriteIsNotNoticed) {
 
 TEST_F(PrintSlipsScreen, NoPrinterAtAllIsNotNoticed) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1"));
+        find(screen, line("1"));
         grid::clickHeading(grid(screen), 1);
         spooler.printer = "";
         spooler.failOpen = 0;
@@ -194,7 +194,7 @@ TEST_F(PrintSlipsScreen, NoPrinterAtAllIsNotNoticed) {
 
 TEST_F(PrintSlipsScreen, AfterTheLastSevenDigitNumberTheProgramEnds) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1") + linha("2"), wallet101Item);
+        find(screen, line("1") + line("2"), wallet101Item);
         grid::clickHeading(grid(screen), 1);
         print(screen, "9999999");
         ASSERT_EQ(boxes.shown.size(), 1U);
@@ -215,7 +215,7 @@ TEST_F(PrintSlipsScreen, APortfolioTooShortForTheCheckDigitEndsTheProgram) {
               answers::rowset("<z:row ID_CRT_COB='5' ID_PES_BAN='1016' NR_CRT_CNAB='57' "
                               "CD_AGE_BAN_CNAB='1123' NR_CCOR_CNAB='45-678'/>"));
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1") + linha("2"));
+        find(screen, line("1") + line("2"));
         grid::clickHeading(grid(screen), 1);
         print(screen, "1234");
         ASSERT_EQ(boxes.shown.size(), 1U);
@@ -236,7 +236,7 @@ TEST_F(PrintSlipsScreen, APortfolioTooShortForTheCheckDigitEndsTheProgram) {
 // doesn't count.
 TEST_F(PrintSlipsScreen, ASecondClickOrClosingDuringTheRunDoesNothing) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1") + linha("2"));
+        find(screen, line("1") + line("2"));
         grid::clickHeading(grid(screen), 1);
         type(screen, "txtNr_Bol_Banc", "1234");
         auto& button = named<QPushButton>(screen, "cmdImprimir");
@@ -260,7 +260,7 @@ TEST_F(PrintSlipsScreen, ASecondClickOrClosingDuringTheRunDoesNothing) {
 
 TEST_F(PrintSlipsScreen, ANumberThatIsNoneEndsTheProgram) {
     withScreen([&](QWidget& screen) {
-        find(screen, linha("1"));
+        find(screen, line("1"));
         print(screen, ",");
         ASSERT_EQ(boxes.shown.size(), 1U);
         EXPECT_THAT(boxes.shown[0].text, testing::StartsWith("Erro em tempo de execução '13':"));
@@ -272,11 +272,11 @@ TEST_F(PrintSlipsScreen, ANumberThatIsNoneEndsTheProgram) {
 // meanwhile does nothing.
 TEST_F(PrintSlipsScreen, FiveHundredSlipsShowHowFarTheyAre) {
     withScreen([&](QWidget& screen) {
-        std::string linhas;
+        std::string lines;
         for (int i = 1; i <= 500; ++i) {
-            linhas += linha(std::to_string(i));
+            lines += line(std::to_string(i));
         }
-        find(screen, linhas);
+        find(screen, lines);
         grid::clickHeading(grid(screen), 1);
         std::vector<int> seen;
         QTimer look;  // without a name it is none of the screen's own
@@ -311,4 +311,4 @@ TEST_F(PrintSlipsScreen, FiveHundredSlipsShowHowFarTheyAre) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -8,12 +8,12 @@
 #include "tests/slips/slip_fixture.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-namespace coluna = slip_column;
+namespace column = slip_column;
 
 const std::string preparation = " \x0F\x1BM";
 const std::string slipPreparation =
@@ -30,8 +30,8 @@ std::string joined(const std::vector<std::string>& lines) {
 }
 
 GridRow ofBank(const std::string& number, const std::string& bank) {
-    GridRow document = documento(number);
-    document.coluna(coluna::bank) = bank;
+    GridRow document = document(number);
+    document.column(column::bank) = bank;
     return document;
 }
 
@@ -95,7 +95,7 @@ protected:
 
     TestEnvironment seams;
     Sessao session;
-    std::vector<GridRow> documents{documento()};
+    std::vector<GridRow> documents{document()};
     std::vector<bool> ticks;  // of the next run; empty: all
     bool includesPortfolio = false;
     std::size_t passed = 0;  // rows
@@ -143,7 +143,7 @@ TEST_F(PrintSlipsTest, ReceivablesHaveTheirOwnCommandsAndASecondSpelling) {
 }
 
 TEST_F(PrintSlipsTest, ADocumentOfNoKnownTableIsAReceivableWithoutAControlNumber) {
-    documents[0].coluna(coluna::table) = "OUTRA";
+    documents[0].column(column::table) = "OUTRA";
     run(isWallet57, "1234");
     EXPECT_THAT(seams.loader.queries(),
                 ElementsAre("comando=altera_docto_rec&ID_ETB=3381&ID_NR_CTL=&ServerName=SRV1"
@@ -199,7 +199,7 @@ TEST_F(PrintSlipsTest, NothingIsPrintedUntilTheWritesAreDone) {
 }
 
 TEST_F(PrintSlipsTest, TickedRowsGetConsecutiveNumbersInGridOrder) {
-    documents = {documento("1"), documento("2"), documento("3"), documento("4")};
+    documents = {document("1"), document("2"), document("3"), document("4")};
     ticks = {true, false, true, true};
     run(isWallet57, "9");
     EXPECT_THAT(numbers(), ElementsAre("0000000000009/2", "0000000000010/9", "0000000000011/8"));
@@ -216,7 +216,7 @@ TEST_F(PrintSlipsTest, TickedRowsGetConsecutiveNumbersInGridOrder) {
 }
 
 TEST_F(PrintSlipsTest, SevenDigitsStepAndAreFilled) {
-    documents = {documento("1"), documento("2")};
+    documents = {document("1"), document("2")};
     run(wallet101, "9");
     EXPECT_THAT(numbers(), ElementsAre("0000009-4", "0000010-8"));
     EXPECT_THAT(seams.loader.queries()[1], testing::HasSubstr("&NR_BOL_BANC=00000108&"));
@@ -302,7 +302,7 @@ TEST_F(PrintSlipsTest, AnEmptyPortfolio) {
 }
 
 TEST_F(PrintSlipsTest, TheServersFailureOrAnswerChangesNothing) {
-    documents = {documento("1"), documento("2")};
+    documents = {document("1"), document("2")};
     seams.loader.failOn("altera_docto_cob");
     seams.loader.on("insere_car_cob", "nada de XML");
     run(isWallet57, "9");
@@ -312,7 +312,7 @@ TEST_F(PrintSlipsTest, TheServersFailureOrAnswerChangesNothing) {
 }
 
 TEST_F(PrintSlipsTest, ThePrintersFailureChangesNothing) {
-    documents = {documento("1"), documento("2")};
+    documents = {document("1"), document("2")};
     seams.spooler.failOpen = 1;  // the first slip's job
     run(isWallet57, "9");
     EXPECT_THAT(numbers(), ElementsAre("0000000000010/9"));
@@ -356,7 +356,7 @@ TEST_F(PrintSlipsTest, AShortAgencyEndsTheRunBeforeTheWrites) {
 TEST_F(PrintSlipsTest, AnAccountThatIsNoNumberEndsTheRunBeforeTheWrites) {
     Portfolio lettered = isWallet57;
     lettered.NR_CCOR_CNAB = "45678X";
-    documents = {ofBank("1", "1050"), documento("2")};
+    documents = {ofBank("1", "1050"), document("2")};
     EXPECT_EQ(errorOfRun(lettered, "1"), 13);
     EXPECT_THAT(seams.loader.queries(), IsEmpty());
     EXPECT_EQ(seams.spooler.jobs.size(), 4U) << "the foreign row asks for no digit";
@@ -364,7 +364,7 @@ TEST_F(PrintSlipsTest, AnAccountThatIsNoNumberEndsTheRunBeforeTheWrites) {
 }
 
 TEST_F(PrintSlipsTest, AfterTheLastSevenDigitNumberTheRunEnds) {
-    documents = {documento("1"), documento("2"), documento("3")};
+    documents = {document("1"), document("2"), document("3")};
     EXPECT_EQ(errorOfRun(wallet101, "9999998"), 5);
     EXPECT_THAT(numbers(), ElementsAre("9999998-6", "9999999-4"));
     EXPECT_EQ(seams.loader.queries().size(), 2U);
@@ -374,7 +374,7 @@ TEST_F(PrintSlipsTest, AfterTheLastSevenDigitNumberTheRunEnds) {
 }
 
 TEST_F(PrintSlipsTest, ANumberOfEightDigitsIsPrintedOnce) {
-    documents = {documento("1"), documento("2")};
+    documents = {document("1"), document("2")};
     EXPECT_EQ(errorOfRun(wallet101, "12345678"), 5);
     ASSERT_EQ(seams.spooler.jobs.size(), 2U);
     EXPECT_THAT(seams.spooler.bytes(1), testing::HasSubstr("N.N.  12345678-9\r\n"));
@@ -415,4 +415,4 @@ TEST_F(PrintSlipsTest, TheSlipPast32767EndsTheRun) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

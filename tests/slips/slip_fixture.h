@@ -7,7 +7,7 @@
 #include "slips/portfolio.h"
 #include "slips/slip_search.h"
 
-namespace tarn {
+namespace tarn::test {
 
 inline std::string b(std::size_t blanks) {
     return std::string(blanks, ' ');
@@ -30,38 +30,38 @@ inline GridRow emptyDocument() {
 }
 
 // A bill of bank 1016.
-inline GridRow documento(const std::string& number = "4567/1") {
+inline GridRow document(const std::string& number = "4567/1") {
     GridRow d = emptyDocument();
-    d.coluna(slip_column::due) = "10/04/2012";
-    d.coluna(slip_column::number) = number;
-    d.coluna(slip_column::customer) = "JOSÉ & FILHOS";
-    d.coluna(slip_column::issued) = "05/03/2012";
-    d.coluna(slip_column::address) = "RUA DO COMÉRCIO, 100";
-    d.coluna(slip_column::valor) = "1.234,50";
-    d.coluna(slip_column::cep) = "01310-100";
-    d.coluna(slip_column::town) = "SÃO PAULO";
-    d.coluna(slip_column::state) = "SP";
-    d.coluna(slip_column::cpfCnpj) = "12.345.678/0001-95";
-    d.coluna(slip_column::registration) = "110.042.490.114";
-    d.coluna(slip_column::table) = "DOCTO_COBRANCA";
-    d.coluna(slip_column::fine) = "2,50";
-    d.coluna(slip_column::dailyInterest) = "0,42";
-    d.coluna(slip_column::instruction) = "NAO RECEBER APOS 30 DIAS";
-    d.coluna(slip_column::establishment) = "3381";
-    d.coluna(slip_column::documentKind) = "201";
-    d.coluna(slip_column::bank) = "1016";
-    d.coluna(slip_column::externalCode) = "C-77";
+    d.column(slip_column::due) = "10/04/2012";
+    d.column(slip_column::number) = number;
+    d.column(slip_column::customer) = "JOSÉ & FILHOS";
+    d.column(slip_column::issued) = "05/03/2012";
+    d.column(slip_column::address) = "RUA DO COMÉRCIO, 100";
+    d.column(slip_column::value) = "1.234,50";
+    d.column(slip_column::cep) = "01310-100";
+    d.column(slip_column::town) = "SÃO PAULO";
+    d.column(slip_column::state) = "SP";
+    d.column(slip_column::cpfCnpj) = "12.345.678/0001-95";
+    d.column(slip_column::registration) = "110.042.490.114";
+    d.column(slip_column::table) = "DOCTO_COBRANCA";
+    d.column(slip_column::fine) = "2,50";
+    d.column(slip_column::dailyInterest) = "0,42";
+    d.column(slip_column::instruction) = "NAO RECEBER APOS 30 DIAS";
+    d.column(slip_column::establishment) = "3381";
+    d.column(slip_column::documentKind) = "201";
+    d.column(slip_column::bank) = "1016";
+    d.column(slip_column::externalCode) = "C-77";
     return d;
 }
 
 inline GridRow receivable(const std::string& number, const std::string& control) {
-    GridRow d = documento(number);
-    d.coluna(slip_column::table) = "DOCTO_RECEBER";
-    d.coluna(slip_column::controlNumber) = control;
+    GridRow d = document(number);
+    d.column(slip_column::table) = "DOCTO_RECEBER";
+    d.column(slip_column::controlNumber) = control;
     return d;
 }
 
-// The slip of `documento` number 1234 in wallet 57, as it leaves in windows-1252.
+// The slip of `document` number 1234 in wallet 57, as it leaves in windows-1252.
 inline std::vector<std::string> wallet57Lines() {
     return {"  \r\n",
             b(101) + "10/04/2012      \r\n\r\n\r\n",
@@ -79,7 +79,7 @@ inline std::vector<std::string> wallet57Lines() {
             "  \r\n\r\n\r\n\r\n\r\n\r\n\r\n"};
 }
 
-// The slip of `documento` number 1234567 in any other wallet.
+// The slip of `document` number 1234567 in any other wallet.
 inline std::vector<std::string> sevenDigitLines() {
     return {" \r\n",
             " ATE O VENCIMENTO, PREFERENCIALMENTE NO SANTANDER\r\n",
@@ -98,4 +98,4 @@ inline std::vector<std::string> sevenDigitLines() {
             " \r\n\r\n\r\n\r\n\r\n\r\n"};
 }
 
-}  // namespace tarn
+}  // namespace tarn::test

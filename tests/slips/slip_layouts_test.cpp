@@ -8,11 +8,11 @@
 #include "tests/slips/slip_fixture.h"
 #include "tests/support/recording_spooler.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using Lines = std::vector<std::string>;
-namespace coluna = slip_column;
+namespace column = slip_column;
 
 const SlipNumber number57{.digits = "0000000001234", .digit = 7, .NR_BOL_BANC = "1234"};
 const SlipNumber numberSeven{.digits = "1234567", .digit = 9, .NR_BOL_BANC = "12345679"};
@@ -40,23 +40,23 @@ std::string line7(const GridRow& document, std::size_t line) {
     return sevenDigits(document).at(line - 1);
 }
 GridRow with(std::size_t column, const std::string& text) {
-    GridRow document = documento();
-    document.coluna(column) = text;
+    GridRow document = document();
+    document.column(column) = text;
     return document;
 }
 GridRow charges(const std::string& fine, const std::string& interest) {
-    GridRow document = documento();
-    document.coluna(coluna::fine) = fine;
-    document.coluna(coluna::dailyInterest) = interest;
+    GridRow document = document();
+    document.column(column::fine) = fine;
+    document.column(column::dailyInterest) = interest;
     return document;
 }
 
 TEST(Wallet57, Lines) {
-    EXPECT_EQ(wallet57(documento()), wallet57Lines());
+    EXPECT_EQ(wallet57(document()), wallet57Lines());
 }
 
 TEST(SevenDigits, Lines) {
-    EXPECT_EQ(sevenDigits(documento()), sevenDigitLines());
+    EXPECT_EQ(sevenDigits(document()), sevenDigitLines());
 }
 
 TEST(Wallet57, EmptyCells) {
@@ -82,29 +82,29 @@ TEST(SevenDigits, EmptyCells) {
 }
 
 TEST(Slip, DatesAreSetInFullOrStayAsTheyAre) {
-    EXPECT_EQ(line57(with(coluna::due, "2012-04-10T00:00:00"), 2),
+    EXPECT_EQ(line57(with(column::due, "2012-04-10T00:00:00"), 2),
               b(101) + "10/04/2012" + b(6) + "\r\n\r\n\r\n");
-    EXPECT_EQ(line57(with(coluna::due, "CONTRA APRESENTACAO"), 2),
+    EXPECT_EQ(line57(with(column::due, "CONTRA APRESENTACAO"), 2),
               b(101) + "CONTRA APRESENTA\r\n\r\n\r\n");
-    EXPECT_EQ(line57(with(coluna::issued, "5/3/12"), 3).substr(0, 18), " 05/03/2012" + b(7));
-    EXPECT_EQ(line7(with(coluna::issued, "31/02/2012"), 4).substr(0, 16), " 31/02/2012" + b(5));
-    EXPECT_EQ(line7(with(coluna::due, "A VISTA"), 3).substr(85),
+    EXPECT_EQ(line57(with(column::issued, "5/3/12"), 3).substr(0, 18), " 05/03/2012" + b(7));
+    EXPECT_EQ(line7(with(column::issued, "31/02/2012"), 4).substr(0, 16), " 31/02/2012" + b(5));
+    EXPECT_EQ(line7(with(column::due, "A VISTA"), 3).substr(85),
               "A VISTA  " + b(7) + "\r\n\r\n\r\n");
 }
 
 TEST(Slip, AnAmountTooWideLosesItsEnd) {
-    EXPECT_EQ(line57(with(coluna::valor, "123.456.789.012.345,67"), 4),
+    EXPECT_EQ(line57(with(column::value, "123.456.789.012.345,67"), 4),
               b(112) + "123.456.789.012. \r\n\r\n");
-    EXPECT_EQ(line7(with(coluna::valor, "123.456.789.012.345,67"), 5),
+    EXPECT_EQ(line7(with(column::value, "123.456.789.012.345,67"), 5),
               b(91) + "123.456.789.012. \r\n\r\n");
-    EXPECT_EQ(line57(with(coluna::valor, "5"), 4), b(112) + b(12) + "5,00 \r\n\r\n");
+    EXPECT_EQ(line57(with(column::value, "5"), 4), b(112) + b(12) + "5,00 \r\n\r\n");
 }
 
 TEST(Slip, LongFieldsAreCut) {
-    GridRow document = documento();
-    for (const std::size_t column : {coluna::number, coluna::customer, coluna::address,
-                                     coluna::cpfCnpj, coluna::registration, coluna::town}) {
-        document.coluna(column) = std::string(80, 'x');
+    GridRow document = document();
+    for (const std::size_t column : {column::number, column::customer, column::address,
+                                     column::cpfCnpj, column::registration, column::town}) {
+        document.column(column) = std::string(80, 'x');
     }
     const auto x = [](std::size_t count) { return std::string(count, 'x'); };
     EXPECT_EQ(line57(document, 3), " 05/03/2012" + b(7) + x(30) + "\r\n");
@@ -123,29 +123,29 @@ TEST(Slip, AccentedLettersCountOnce) {
     for (int i = 0; i < 60; ++i) {
         name += "Ã";
     }
-    EXPECT_EQ(line57(with(coluna::customer, name), 11).substr(4, 55),
+    EXPECT_EQ(line57(with(column::customer, name), 11).substr(4, 55),
               std::string(54, '\xC3') + " ");
-    EXPECT_EQ(line57(with(coluna::instruction, name + name), 5),
+    EXPECT_EQ(line57(with(column::instruction, name + name), 5),
               " " + std::string(79, '\xC3') + "\r\n");
-    EXPECT_EQ(line57(with(coluna::instruction, name + name), 6),
+    EXPECT_EQ(line57(with(column::instruction, name + name), 6),
               " " + std::string(41, '\xC3') + "\r\n");
 }
 
 TEST(Slip, AValueCannotMoveALineOrCommandThePrinter) {
-    GridRow document = documento();
-    document.coluna(coluna::instruction) =
+    GridRow document = document();
+    document.column(column::instruction) =
         "A\r\nB\x1B"
         "C";
-    document.coluna(coluna::externalCode) = "X\x0F\tY";
-    document.coluna(coluna::dailyInterest) = "1\n2";
-    document.coluna(coluna::fine) = "2,00";
-    document.coluna(coluna::town) = "S\x12P";
-    document.coluna(coluna::due) = "10\n04";
+    document.column(column::externalCode) = "X\x0F\tY";
+    document.column(column::dailyInterest) = "1\n2";
+    document.column(column::fine) = "2,00";
+    document.column(column::town) = "S\x12P";
+    document.column(column::due) = "10\n04";
     EXPECT_EQ(line7(document, 3).substr(85), "10 04" + b(11) + "\r\n\r\n\r\n");
     EXPECT_EQ(line7(document, 6), " A  B C\r\n");
     EXPECT_EQ(line7(document, 11), " 1 2 AO DIA\r\n\r\n");
     EXPECT_EQ(line7(document, 14).substr(0, 12), b(4) + "S P - SP");
-    document.coluna(coluna::dailyInterest) = "";
+    document.column(column::dailyInterest) = "";
     EXPECT_EQ(line57(document, 10),
               " NOSSO NUMERO: 0000000001234/7   CODIGO CLIENTE: X  Y\r\n\r\n");
 }
@@ -160,11 +160,11 @@ std::string text(std::size_t length) {
 }
 
 Lines pieces57(std::size_t length) {
-    const Lines lines = wallet57(with(coluna::instruction, text(length)));
+    const Lines lines = wallet57(with(column::instruction, text(length)));
     return {lines.begin() + 4, lines.begin() + 8};
 }
 Lines pieces7(std::size_t length) {
-    const Lines lines = sevenDigits(with(coluna::instruction, text(length)));
+    const Lines lines = sevenDigits(with(column::instruction, text(length)));
     return {lines.begin() + 5, lines.begin() + 9};
 }
 std::string piece(char letter, std::size_t length) {
@@ -183,7 +183,7 @@ TEST(Wallet57, TheInstructionIsCutInThree) {
     EXPECT_EQ(pieces57(237), full);
     EXPECT_EQ(pieces57(238), full);
     EXPECT_EQ(pieces57(400), full);
-    EXPECT_EQ(wallet57(with(coluna::instruction, text(400))).size(), 14U);
+    EXPECT_EQ(wallet57(with(column::instruction, text(400))).size(), 14U);
 }
 
 TEST(SevenDigits, TheInstructionIsCutInFour) {
@@ -197,13 +197,13 @@ TEST(SevenDigits, TheInstructionIsCutInFour) {
     const Lines full{piece('A', 79), piece('B', 79), piece('C', 79), piece('D', 79)};
     EXPECT_EQ(pieces7(316), full);
     EXPECT_EQ(pieces7(317), full);
-    EXPECT_EQ(sevenDigits(with(coluna::instruction, text(400))).size(), 15U);
+    EXPECT_EQ(sevenDigits(with(column::instruction, text(400))).size(), 15U);
 }
 
 TEST(Slip, ReceivablesTakeTheSameInstruction) {
     GridRow document = receivable("9", "C1");
-    document.coluna(18) = "NAO ESTA";
-    document.coluna(coluna::instruction) = "ESTA";
+    document.column(18) = "NAO ESTA";
+    document.column(column::instruction) = "ESTA";
     EXPECT_EQ(line57(document, 5), " ESTA\r\n");
     EXPECT_EQ(line7(document, 6), " ESTA\r\n");
 }
@@ -257,9 +257,9 @@ TEST(Wallet57, InterestThatIsNoNumberStopsAtItsLine) {
 TEST(Wallet57, ALongNumberIsPrintedWhole) {
     const SlipNumber number{
         .digits = "10000000000000", .digit = 4, .NR_BOL_BANC = "10000000000000"};
-    EXPECT_EQ(written(printWallet57Lines, documento(), number).at(9),
+    EXPECT_EQ(written(printWallet57Lines, document(), number).at(9),
               " NOSSO NUMERO: 10000000000000/4   CODIGO CLIENTE: C-77\r\n\r\n");
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

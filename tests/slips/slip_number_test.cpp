@@ -9,7 +9,7 @@
 
 #include "runtime/runtime_error.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 const Portfolio isWallet57{.ID_CRT_COB = "5",
@@ -194,4 +194,4 @@ TEST(Wallet57, IsComparedAsANumber) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

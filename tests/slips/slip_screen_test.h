@@ -12,7 +12,7 @@
 #include "tests/support/grid.h"
 #include "tests/support/screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 
 class SlipRunView : public ScreenTest {
 protected:
@@ -30,9 +30,9 @@ protected:
     static constexpr int wallet57Item = 1;   // cboCartCob; its number is 5
     static constexpr int wallet101Item = 2;  // its number is 6
 
-    static Box inform(const std::string& texto) { return {texto, BoxIcon::Information, "TArn"}; }
-    static Box transportFailure(const std::string& texto) {
-        return {texto, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
+    static Box inform(const std::string& text) { return {text, BoxIcon::Information, "TArn"}; }
+    static Box transportFailure(const std::string& text) {
+        return {text, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
     }
     static Box wideFailure() {
         return transportFailure(
@@ -47,7 +47,7 @@ protected:
     static Box nothingTicked() { return inform("Selecione um item na Lista!     "); }
 
     // A bill of bank 1016, another one's where told.
-    static std::string linha(const std::string& number, const std::string& bank = "1016") {
+    static std::string line(const std::string& number, const std::string& bank = "1016") {
         return "<z:row SG_FIL='SP' DT_VNC_DOC_FMA='10/04/2012' DC_TIP_DOC='DUPLICATA' NR_DOC='" +
                number +
                "' NM_CLI_ETB='JOSÉ &amp; &lt;b>FILHOS' DT_EMS_DOC='05/03/2012' DC_LG_CPL='RUA DO "
@@ -87,8 +87,8 @@ protected:
         choose(menu, "mnuBoleto");
     }
     static QTableView& grid(const QWidget& screen) { return named<QTableView>(screen, "sprDados"); }
-    static QComboBox& list(const QWidget& screen, const char* nome) {
-        return named<QComboBox>(screen, nome);
+    static QComboBox& list(const QWidget& screen, const char* name) {
+        return named<QComboBox>(screen, name);
     }
     static std::string shown(const QWidget& screen, const char* field) {
         return named<QLineEdit>(screen, field).text().toStdString();
@@ -105,8 +105,8 @@ protected:
         pick(screen, "cboCartCob", portfolio);
     }
     // Finds these rows.
-    void find(const QWidget& screen, const std::string& linhas, int portfolio = wallet57Item) {
-        server.on("sel_boleto", answers::rowset(linhas));
+    void find(const QWidget& screen, const std::string& lines, int portfolio = wallet57Item) {
+        server.on("sel_boleto", answers::rowset(lines));
         fillIn(screen, portfolio);
         ::tarn::click(screen, "cmdPesquisar");
         server.addresses.clear();
@@ -115,4 +115,4 @@ protected:
     MDIMenu menu{desk};
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -8,7 +8,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/test_environment.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -24,7 +24,7 @@ Cells row(const std::string& attributes) {
     EXPECT_EQ(documents.size(), 1U);
     Cells cells;
     for (std::size_t column = 2; column <= 29; ++column) {
-        cells.push_back(documents.at(0).coluna(column));
+        cells.push_back(documents.at(0).column(column));
     }
     return cells;
 }
@@ -124,7 +124,7 @@ TEST(SlipRows, RowsAreElementsOfAnyName) {
         answers::rowset("<z:row NR_DOC='1'/> <!-- x --> <outra NR_DOC='2'/><z:row NR_DOC='3'/>")));
     std::vector<std::string> numbers;
     for (const GridRow& document : slipRows(answer)) {
-        numbers.push_back(document.coluna(slip_column::number));
+        numbers.push_back(document.column(slip_column::number));
     }
     EXPECT_THAT(numbers, testing::ElementsAre("1", "2", "3"));
 }
@@ -218,7 +218,7 @@ TEST_F(SlipSearchTest, FailedPortfoliosLeaveTheFirstItemAndAreToldWithFourBlanks
 }
 
 std::string textOf(const std::optional<SlipRefusal>& refusal) {
-    return refusal ? std::string(refusal->texto) : std::string();
+    return refusal ? std::string(refusal->text) : std::string();
 }
 
 TEST(SearchRefusal, AsksForThreeThingsInOrder) {
@@ -241,4 +241,4 @@ TEST(PrintRefusal, AsksForTwo) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -6,7 +6,7 @@
 #include "tests/slips/slip_screen_test.h"
 #include "tests/support/loopback_server.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -24,7 +24,7 @@ protected:
         answer("sel_carteira_cob",
                answers::rowset("<z:row ID_CRT_COB='5' ID_PES_BAN='1016' NR_CRT_CNAB='57' "
                                "CD_AGE_BAN_CNAB='1123' NR_CCOR_CNAB='456789'/>"));
-        answer("sel_boleto", answers::rowset(linha("Nº 1|A") + linha("2")));
+        answer("sel_boleto", answers::rowset(line("Nº 1|A") + line("2")));
         answer("sel_dados_empresa", answers::branch("F"));
         desk.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&desk));
@@ -139,4 +139,4 @@ TEST_F(SlipsOverTheNetwork, TheSlipWaitsForTheServer) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace tarn::answers {
+namespace tarn::test::answers {
 
 inline const std::string declaration = R"(<?xml version="1.0" encoding="UTF-8"?>)";
 
@@ -40,4 +40,4 @@ inline std::string generatedNote(const std::string& id, const std::string& serie
     return status("OK", "<NF id=\"" + id + "\"/><SERIE cd=\"" + series + "\"/>");
 }
 
-}  // namespace tarn::answers
+}  // namespace tarn::test::answers

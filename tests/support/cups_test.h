@@ -11,7 +11,7 @@
 
 #include "tests/support/private_cupsd.h"
 
-namespace tarn {
+namespace tarn::test {
 
 class CupsTest : public testing::Test {
 protected:
@@ -40,4 +40,4 @@ protected:
     inline static std::string failure_;
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -7,7 +7,7 @@
 #include "platform/clock.h"
 #include "platform/machine.h"
 
-namespace tarn {
+namespace tarn::test {
 
 class FixedClock : public Clock {
 public:
@@ -37,4 +37,4 @@ public:
     void beep() override { ++beeps; }
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace tarn::grid {
+namespace tarn::test::grid {
 
 inline int rows(const QTableView& grid) {
     return grid.model()->rowCount();
@@ -47,4 +47,4 @@ inline void clickHeading(const QTableView& grid, int column) {
                       QPoint(header.sectionViewportPosition(column - 1) + 5, header.height() / 2));
 }
 
-}  // namespace tarn::grid
+}  // namespace tarn::test::grid

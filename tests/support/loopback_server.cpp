@@ -12,7 +12,7 @@
 #include <stdexcept>
 #include <string_view>
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 bool sendAll(int connection, std::string_view data) {
@@ -263,4 +263,4 @@ LoopbackReply LoopbackServer::replyFor(const std::string& requestLine) {
     return reply;
 }
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -13,7 +13,7 @@
 #include <thread>
 #include <vector>
 
-namespace tarn {
+namespace tarn::test {
 
 struct LoopbackReply {
     int status = 200;
@@ -77,4 +77,4 @@ private:
     std::thread thread_;
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -8,7 +8,7 @@
 #include <QTest>
 #include <QTimer>
 
-namespace tarn {
+namespace tarn::test {
 
 ModalSteps::ModalSteps() {
     qApp->installEventFilter(this);
@@ -67,4 +67,4 @@ void ModalSteps::take(QWidget& window) {
     }
 }
 
-}  // namespace tarn
+}  // namespace tarn::test

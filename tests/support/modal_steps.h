@@ -12,7 +12,7 @@
 
 class QDialog;
 
-namespace tarn {
+namespace tarn::test {
 
 class ModalSteps : public QObject {
     Q_OBJECT
@@ -45,4 +45,4 @@ private:
     int taken_ = 0;
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -14,7 +14,7 @@
 #include "practice/server/http_front.h"
 #include "practice/server/practice_server.h"
 
-namespace tarn {
+namespace tarn::test {
 
 class PracticePage {
 public:
@@ -32,7 +32,7 @@ public:
     PracticePage& operator=(const PracticePage&) = delete;
 
     std::string baseUrl() const {
-        return "http://127.0.0.1:" + std::to_string(port_) + std::string(practice::kPagePath) + "?";
+        return "http://127.0.0.1:" + std::to_string(port_) + std::string(practice::pagePath) + "?";
     }
     // From the next request on; together with the faults told before.
     void fail(std::string_view command, const practice::Fault& fault) {
@@ -80,4 +80,4 @@ private:
     std::thread thread_;
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -17,7 +17,7 @@
 #include <iterator>
 #include <thread>
 
-namespace tarn {
+namespace tarn::test {
 
 namespace {
 
@@ -236,4 +236,4 @@ std::string PrivateCupsd::errorLog() const {
     return {std::istreambuf_iterator<char>(log), std::istreambuf_iterator<char>()};
 }
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -11,7 +11,7 @@
 #include <optional>
 #include <string>
 
-namespace tarn {
+namespace tarn::test {
 
 class PrivateCupsd {
 public:
@@ -60,4 +60,4 @@ private:
     std::map<std::string, std::optional<std::string>> environmentBefore_;
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -10,7 +10,7 @@
 
 #include "platform/printer.h"
 
-namespace tarn {
+namespace tarn::test {
 
 class RecordingPrinter : public Printer {
 public:
@@ -41,4 +41,4 @@ public:
     }
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -10,7 +10,7 @@
 
 #include "platform/spooler.h"
 
-namespace tarn {
+namespace tarn::test {
 
 class RecordingSpooler : public Spooler {
 public:
@@ -114,4 +114,4 @@ private:
     bool started_ = false;
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

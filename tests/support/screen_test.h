@@ -17,7 +17,7 @@
 #include "tests/support/user.h"
 #include "widgets/desk_context.h"
 
-namespace tarn {
+namespace tarn::test {
 
 class ScreenTest : public testing::Test {
 protected:
@@ -54,4 +54,4 @@ protected:
     ModalSteps modals;
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

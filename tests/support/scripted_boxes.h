@@ -9,7 +9,7 @@
 
 #include "platform/message_boxes.h"
 
-namespace tarn {
+namespace tarn::test {
 
 class ScriptedBoxes : public MessageBoxes {
 public:
@@ -46,4 +46,4 @@ inline void PrintTo(const Box& box, std::ostream* out) {
          << "\"" << (box.buttons == BoxButtons::YesNo ? " (yes/no)" : "");
 }
 
-}  // namespace tarn
+}  // namespace tarn::test

@@ -8,7 +8,7 @@
 
 #include "platform/http_loader.h"
 
-namespace tarn {
+namespace tarn::test {
 
 class ScriptedLoader : public HttpLoader {
 public:
@@ -62,4 +62,4 @@ private:
     std::map<std::string, std::deque<HttpAnswer>> script_;
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

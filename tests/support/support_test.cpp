@@ -6,7 +6,7 @@
 #include "tests/support/scripted_boxes.h"
 #include "tests/support/scripted_loader.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using Call = RecordingSpooler::Call;
@@ -103,4 +103,4 @@ TEST(FixedMachine, CountsAndRefuses) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -8,7 +8,7 @@
 #include "tests/support/scripted_boxes.h"
 #include "tests/support/scripted_loader.h"
 
-namespace tarn {
+namespace tarn::test {
 
 struct TestEnvironment {
     ScriptedLoader loader;
@@ -26,4 +26,4 @@ struct TestEnvironment {
                             .baseUrl = "http://servidor/p.asp?"};
 };
 
-}  // namespace tarn
+}  // namespace tarn::test

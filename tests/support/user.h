@@ -14,7 +14,7 @@
 #include <QTest>
 #include <string>
 
-namespace tarn {
+namespace tarn::test {
 
 // The widget (or other object) of that name; a name that the screen lacks fails the
 // test at once.
@@ -100,4 +100,4 @@ inline void choose(QMainWindow& desk, const char* entry) {
                       bar.actionGeometry(&named<QAction>(desk, entry)).center());
 }
 
-}  // namespace tarn
+}  // namespace tarn::test

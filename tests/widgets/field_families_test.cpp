@@ -10,7 +10,7 @@
 
 #include "tests/support/screen_test.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 // A form with one field of each family and a button.
@@ -369,4 +369,4 @@ TEST_F(FieldFamilies, LeavingIsToldOnceAndAfterTheTextWasFormatted) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test

@@ -14,7 +14,7 @@
 #include "widgets/grid_model.h"
 #include "widgets/progress_window.h"
 
-namespace tarn {
+namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
@@ -38,19 +38,19 @@ protected:
     }
     std::vector<bool> ticks() const {
         std::vector<bool> all;
-        for (int linha = 0; linha < model.rowCount(); ++linha) {
-            all.push_back(model.ticked(linha));
+        for (int line = 0; line < model.rowCount(); ++line) {
+            all.push_back(model.ticked(line));
         }
         return all;
     }
-    void click(int linha, int coluna, Qt::MouseButton button = Qt::LeftButton) {
+    void click(int line, int column, Qt::MouseButton button = Qt::LeftButton) {
         QTest::mouseClick(grid.viewport(), button, {},
-                          grid.visualRect(model.index(linha, coluna)).center());
+                          grid.visualRect(model.index(line, column)).center());
     }
-    void clickHeading(int coluna) {
+    void clickHeading(int column) {
         QHeaderView& header = *grid.horizontalHeader();
         QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
-                          QPoint(header.sectionViewportPosition(coluna) + 5, 5));
+                          QPoint(header.sectionViewportPosition(column) + 5, 5));
     }
 
     GridModel model{columns, nullptr};
@@ -100,8 +100,8 @@ TEST_F(GridTest, ADoubleClickIsTwoTicks) {
 }
 
 TEST_F(GridTest, AClickThatEndsInAnotherCellTicksNothing) {
-    const auto middle = [&](int linha, int coluna) {
-        return grid.visualRect(model.index(linha, coluna)).center();
+    const auto middle = [&](int line, int column) {
+        return grid.visualRect(model.index(line, column)).center();
     };
     QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, middle(0, 0));
     QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, middle(2, 0));
@@ -146,7 +146,7 @@ TEST_F(GridTest, NewRowsComeUnticked) {
     clickHeading(0);
     model.show({{{"", "D", "", ""}}});
     EXPECT_THAT(ticks(), ElementsAre(false));
-    EXPECT_EQ(model.linha(0).coluna(2), "D");
+    EXPECT_EQ(model.line(0).column(2), "D");
 }
 
 // What a run sees of the program while it is under way.
@@ -244,4 +244,4 @@ TEST_F(ProgressWindowTest, AGivenUpRunTakesItsWindowAlong) {
 }
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::test
