@@ -12,27 +12,27 @@ namespace {
 constexpr Date today{20, 3, 2012};
 
 TEST(KeyFilters, PassTheirKeysAndBeepAtTheOthers) {
-    for (std::int16_t key = 0; key < 256; ++key) {
-        const bool digit = key >= 48 && key <= 57;
+    for (std::int16_t pressed = 0; pressed < 256; ++pressed) {
+        const bool digit = pressed >= 48 && pressed <= 57;
         FixedMachine machine;
-        std::int16_t key = key;
-        const bool comma = digit || key == 8 || key == 44;
-        EXPECT_EQ(SoNumeroVirgula(key, machine), comma ? key : 0) << key;
-        EXPECT_EQ(key, comma ? key : 0) << key;
-        EXPECT_EQ(machine.beeps, comma ? 0 : 1) << key;
+        std::int16_t key = pressed;
+        const bool comma = digit || pressed == 8 || pressed == 44;
+        EXPECT_EQ(SoNumeroVirgula(key, machine), comma ? pressed : 0) << pressed;
+        EXPECT_EQ(key, comma ? pressed : 0) << pressed;
+        EXPECT_EQ(machine.beeps, comma ? 0 : 1) << pressed;
         machine.beeps = 0;
-        key = key;
-        const bool whole = digit || key == 8;
-        EXPECT_EQ(SoNumeroInteiro(key, machine), whole ? key : 0) << key;
-        EXPECT_EQ(key, whole ? key : 0) << key;
-        EXPECT_EQ(machine.beeps, whole ? 0 : 1) << key;
+        key = pressed;
+        const bool whole = digit || pressed == 8;
+        EXPECT_EQ(SoNumeroInteiro(key, machine), whole ? pressed : 0) << pressed;
+        EXPECT_EQ(key, whole ? pressed : 0) << pressed;
+        EXPECT_EQ(machine.beeps, whole ? 0 : 1) << pressed;
     }
 }
 
 TEST(KeyFilters, CodesOutsideTheByteRange) {
     FixedMachine machine;
-    for (const std::int16_t key : {std::int16_t{-1}, std::int16_t{304}, std::int16_t{8364}}) {
-        std::int16_t key = key;
+    for (const std::int16_t pressed : {std::int16_t{-1}, std::int16_t{304}, std::int16_t{8364}}) {
+        std::int16_t key = pressed;
         EXPECT_EQ(SoNumeroVirgula(key, machine), 0);
     }
     EXPECT_EQ(machine.beeps, 3);

@@ -213,11 +213,11 @@ void printOn(Ladder ladder, const std::pair<int, int>& key, const std::string& x
     if (!document.loadXML(xml))
         return;
     CheckingSpooler spooler;
-    RecordingPrinter printer;
-    ScriptedLoader http;
-    ScriptedBoxes boxes;
-    FixedClock clock;
-    FixedMachine machine;
+    test::RecordingPrinter printer;
+    test::ScriptedLoader http;
+    test::ScriptedBoxes boxes;
+    test::FixedClock clock;
+    test::FixedMachine machine;
     Environment environment{http, spooler, printer, boxes, clock, machine, "", CodePage::Page1252};
     Sessao session;
     session.NCOMPANYCODE = key.first;

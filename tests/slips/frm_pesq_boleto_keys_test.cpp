@@ -14,7 +14,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-class SlipKeys : public SlipRunView {
+class SlipKeys : public SlipScreenTest {
 protected:
     static void paste(const QWidget& screen, const char* field, const QString& text) {
         auto& where = named<QLineEdit>(screen, field);

@@ -9,7 +9,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class FrmPesqBoletoTest : public SlipRunView {
+class FrmPesqBoletoTest : public SlipScreenTest {
 protected:
     static std::vector<std::string> items(const QComboBox& list) {
         std::vector<std::string> all;

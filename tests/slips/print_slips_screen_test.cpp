@@ -13,7 +13,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class PrintSlipsScreen : public SlipRunView {
+class PrintSlipsScreen : public SlipScreenTest {
 protected:
     // The slips' numbers in the order of printing.
     std::vector<std::string> numbers() {

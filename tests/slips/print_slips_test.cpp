@@ -30,9 +30,9 @@ std::string joined(const std::vector<std::string>& lines) {
 }
 
 GridRow ofBank(const std::string& number, const std::string& bank) {
-    GridRow document = document(number);
-    document.column(column::bank) = bank;
-    return document;
+    GridRow row = document(number);
+    row.column(column::bank) = bank;
+    return row;
 }
 
 class PrintSlipsTest : public testing::Test {

@@ -18,37 +18,37 @@ const SlipNumber number57{.digits = "0000000001234", .digit = 7, .NR_BOL_BANC = 
 const SlipNumber numberSeven{.digits = "1234567", .digit = 9, .NR_BOL_BANC = "12345679"};
 
 template <typename Layout>
-Lines written(Layout layout, const GridRow& document, const SlipNumber& number) {
+Lines written(Layout layout, const GridRow& row, const SlipNumber& number) {
     RecordingSpooler spooler;
     RawChannel channel(spooler, CodePage::Page1252);
     channel.open();
-    layout(channel, document, number);
+    layout(channel, row, number);
     EXPECT_EQ(spooler.calls.back(), RecordingSpooler::Call::Write) << "the job stays open";
     return spooler.jobs.at(0).writes;
 }
-Lines wallet57(const GridRow& document) {
-    return written(printWallet57Lines, document, number57);
+Lines wallet57(const GridRow& row) {
+    return written(printWallet57Lines, row, number57);
 }
-Lines sevenDigits(const GridRow& document) {
-    return written(printSevenDigitLines, document, numberSeven);
+Lines sevenDigits(const GridRow& row) {
+    return written(printSevenDigitLines, row, numberSeven);
 }
 // Lines count from 1.
-std::string line57(const GridRow& document, std::size_t line) {
-    return wallet57(document).at(line - 1);
+std::string line57(const GridRow& row, std::size_t line) {
+    return wallet57(row).at(line - 1);
 }
-std::string line7(const GridRow& document, std::size_t line) {
-    return sevenDigits(document).at(line - 1);
+std::string line7(const GridRow& row, std::size_t line) {
+    return sevenDigits(row).at(line - 1);
 }
 GridRow with(std::size_t column, const std::string& text) {
-    GridRow document = document();
-    document.column(column) = text;
-    return document;
+    GridRow row = document();
+    row.column(column) = text;
+    return row;
 }
 GridRow charges(const std::string& fine, const std::string& interest) {
-    GridRow document = document();
-    document.column(column::fine) = fine;
-    document.column(column::dailyInterest) = interest;
-    return document;
+    GridRow row = document();
+    row.column(column::fine) = fine;
+    row.column(column::dailyInterest) = interest;
+    return row;
 }
 
 TEST(Wallet57, Lines) {
@@ -101,20 +101,20 @@ TEST(Slip, AnAmountTooWideLosesItsEnd) {
 }
 
 TEST(Slip, LongFieldsAreCut) {
-    GridRow document = document();
+    GridRow row = document();
     for (const std::size_t column : {column::number, column::customer, column::address,
                                      column::cpfCnpj, column::registration, column::town}) {
-        document.column(column) = std::string(80, 'x');
+        row.column(column) = std::string(80, 'x');
     }
     const auto x = [](std::size_t count) { return std::string(count, 'x'); };
-    EXPECT_EQ(line57(document, 3), " 05/03/2012" + b(7) + x(30) + "\r\n");
-    EXPECT_EQ(line57(document, 11), b(4) + x(54) + b(42) + x(49) + "\r\n");
-    EXPECT_EQ(line57(document, 12), " " + x(54) + b(45) + "I.E. " + x(20) + "\r\n");
-    EXPECT_EQ(line57(document, 13), " " + x(70) + "\r\n");
-    EXPECT_EQ(line7(document, 4), " 05/03/2012" + b(5) + x(30) + "\r\n");
-    EXPECT_EQ(line7(document, 12), b(4) + x(60) + b(10) + "CNPJ/CPF " + x(49) + "\r\n");
-    EXPECT_EQ(line7(document, 13), b(4) + x(69) + b(1) + "I.E. " + x(20) + "\r\n");
-    EXPECT_EQ(line7(document, 14), b(4) + x(60) + b(10) + "N.N.  1234567-9\r\n");
+    EXPECT_EQ(line57(row, 3), " 05/03/2012" + b(7) + x(30) + "\r\n");
+    EXPECT_EQ(line57(row, 11), b(4) + x(54) + b(42) + x(49) + "\r\n");
+    EXPECT_EQ(line57(row, 12), " " + x(54) + b(45) + "I.E. " + x(20) + "\r\n");
+    EXPECT_EQ(line57(row, 13), " " + x(70) + "\r\n");
+    EXPECT_EQ(line7(row, 4), " 05/03/2012" + b(5) + x(30) + "\r\n");
+    EXPECT_EQ(line7(row, 12), b(4) + x(60) + b(10) + "CNPJ/CPF " + x(49) + "\r\n");
+    EXPECT_EQ(line7(row, 13), b(4) + x(69) + b(1) + "I.E. " + x(20) + "\r\n");
+    EXPECT_EQ(line7(row, 14), b(4) + x(60) + b(10) + "N.N.  1234567-9\r\n");
 }
 
 // Widths and cuts count characters; each is one byte.
@@ -132,22 +132,21 @@ TEST(Slip, AccentedLettersCountOnce) {
 }
 
 TEST(Slip, AValueCannotMoveALineOrCommandThePrinter) {
-    GridRow document = document();
-    document.column(column::instruction) =
+    GridRow row = document();
+    row.column(column::instruction) =
         "A\r\nB\x1B"
         "C";
-    document.column(column::externalCode) = "X\x0F\tY";
-    document.column(column::dailyInterest) = "1\n2";
-    document.column(column::fine) = "2,00";
-    document.column(column::town) = "S\x12P";
-    document.column(column::due) = "10\n04";
-    EXPECT_EQ(line7(document, 3).substr(85), "10 04" + b(11) + "\r\n\r\n\r\n");
-    EXPECT_EQ(line7(document, 6), " A  B C\r\n");
-    EXPECT_EQ(line7(document, 11), " 1 2 AO DIA\r\n\r\n");
-    EXPECT_EQ(line7(document, 14).substr(0, 12), b(4) + "S P - SP");
-    document.column(column::dailyInterest) = "";
-    EXPECT_EQ(line57(document, 10),
-              " NOSSO NUMERO: 0000000001234/7   CODIGO CLIENTE: X  Y\r\n\r\n");
+    row.column(column::externalCode) = "X\x0F\tY";
+    row.column(column::dailyInterest) = "1\n2";
+    row.column(column::fine) = "2,00";
+    row.column(column::town) = "S\x12P";
+    row.column(column::due) = "10\n04";
+    EXPECT_EQ(line7(row, 3).substr(85), "10 04" + b(11) + "\r\n\r\n\r\n");
+    EXPECT_EQ(line7(row, 6), " A  B C\r\n");
+    EXPECT_EQ(line7(row, 11), " 1 2 AO DIA\r\n\r\n");
+    EXPECT_EQ(line7(row, 14).substr(0, 12), b(4) + "S P - SP");
+    row.column(column::dailyInterest) = "";
+    EXPECT_EQ(line57(row, 10), " NOSSO NUMERO: 0000000001234/7   CODIGO CLIENTE: X  Y\r\n\r\n");
 }
 
 // Lines 5 to 7 (wallet 57) or 6 to 9 hold 79 characters each.
@@ -201,11 +200,11 @@ TEST(SevenDigits, TheInstructionIsCutInFour) {
 }
 
 TEST(Slip, ReceivablesTakeTheSameInstruction) {
-    GridRow document = receivable("9", "C1");
-    document.column(18) = "NAO ESTA";
-    document.column(column::instruction) = "ESTA";
-    EXPECT_EQ(line57(document, 5), " ESTA\r\n");
-    EXPECT_EQ(line7(document, 6), " ESTA\r\n");
+    GridRow row = receivable("9", "C1");
+    row.column(18) = "NAO ESTA";
+    row.column(column::instruction) = "ESTA";
+    EXPECT_EQ(line57(row, 5), " ESTA\r\n");
+    EXPECT_EQ(line7(row, 6), " ESTA\r\n");
 }
 
 TEST(Wallet57, Charges) {

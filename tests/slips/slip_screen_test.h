@@ -14,7 +14,7 @@
 
 namespace tarn::test {
 
-class SlipRunView : public ScreenTest {
+class SlipScreenTest : public ScreenTest {
 protected:
     // Queries at establishment 9 of company 2161.
     static constexpr char branchesQuery[] =

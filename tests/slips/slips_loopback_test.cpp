@@ -11,10 +11,10 @@ namespace {
 
 using testing::ElementsAre;
 
-class SlipsOverTheNetwork : public SlipRunView {
+class SlipsOverTheNetwork : public SlipScreenTest {
 protected:
     void SetUp() override {
-        SlipRunView::SetUp();
+        SlipScreenTest::SetUp();
         menu.hide();
         const auto answer = [this](const char* part, const std::string& body) {
             http.on(part, LoopbackReply::xml(body));
