@@ -1,0 +1,33 @@
+#include "tests/house/source_tree.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+namespace tarn::test {
+
+namespace fs = std::filesystem;
+
+std::vector<std::string> filesIn(const fs::path& root, std::span<const std::string_view> folders) {
+    std::vector<std::string> files;
+    for (const std::string_view folder : folders) {
+        for (const auto& entry : fs::recursive_directory_iterator(root / folder)) {
+            if (entry.is_regular_file()) {
+                files.push_back(entry.path().lexically_relative(root).generic_string());
+            }
+        }
+    }
+    std::ranges::sort(files);
+    return files;
+}
+
+bool isCpp(std::string_view path) {
+    return path.ends_with(".h") || path.ends_with(".cpp") || path.ends_with(".h.in");
+}
+
+std::string textOf(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+}  // namespace tarn::test
