@@ -16,7 +16,7 @@ public:
 
     void add(std::string_view sql, const Bind& bind);
     void add(std::string_view sql);
-    // `expression` is one of the whole numbers told, of which none matches an empty list.
+    // `expression` is one of the whole numbers given, of which none matches an empty list.
     void addAnyOf(std::string_view expression, const std::vector<std::int64_t>& numbers);
 
     // A row of `tables` for which the other conditions hold.
@@ -48,7 +48,7 @@ private:
     bool readable_ = true;
 };
 
-// Whole numbers parted by commas, blanks around them; nothing for anything else.
+// Whole numbers separated by commas, blanks around them; nothing for anything else.
 std::optional<std::vector<std::int64_t>> numberList(std::string_view text);
 
 // A day as the desk's date fields send it, dd/mm/yyyy.

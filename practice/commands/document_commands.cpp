@@ -3,7 +3,7 @@
 
 #include "practice/commands/document.h"
 #include "practice/commands/fields.h"
-#include "practice/data/names.h"
+#include "practice/database/stored_text.h"
 #include "runtime/text.h"
 
 namespace tarn::practice {

@@ -83,10 +83,10 @@ struct Parcel {
 std::optional<Order> loadOrder(Database& database, std::int64_t establishment, std::int64_t id);
 OrderTotals totalsOf(const Order& order);
 
-// The total parted evenly; the cents left over fall on the first one.
+// The total split evenly; the cents left over fall on the first one.
 std::vector<Parcel> parcelsOf(const Order& order, QDate from);
 
-// `amount` parted among the items by their gross; the last one takes the rest.
+// `amount` split among the items by their gross; the last one takes the rest.
 std::vector<std::int64_t> apportioned(std::int64_t amount, const std::vector<OrderItem>& items);
 
 // What the stock lacks for the order, one line a product; empty: enough of all.

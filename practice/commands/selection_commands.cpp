@@ -1,5 +1,5 @@
 // The commands of the bulk label selection: branches, countries, states, towns,
-// and the customers who live and bought as told.
+// and the customers who live and bought as asked.
 #include <array>
 
 #include "practice/commands/branch_list.h"
@@ -66,7 +66,7 @@ void addPlace(Conditions& conditions, std::string_view sql, const std::string& t
 }
 
 // Whoever has one sale of the product, on a day, for a value and of a quantity as
-// told. A search that tells nothing of a sale finds also who never bought.
+// asked. A search that says nothing of a sale finds also who never bought.
 void addSales(Conditions& conditions, const Query& query) {
     Conditions sale("s.customer_id = c.id", {});
     if (const std::string product(trimBlanks(query.value("nIdMatPro"))); !product.empty()) {

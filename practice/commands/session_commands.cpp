@@ -4,7 +4,7 @@
 
 #include "practice/commands/command.h"
 #include "practice/commands/fields.h"
-#include "practice/data/practice_data.h"
+#include "practice/database/stored_text.h"
 
 namespace tarn::practice {
 namespace {

@@ -40,7 +40,7 @@ constexpr std::array slipFields = {
     Field{"NR_DOC_NF", "d.note_number"},
 };
 
-// Either what is in the portfolio told, or what waits to be entered in one. A
+// Either what is in the portfolio asked for, or what waits to be entered in one. A
 // receipt goes on no slip.
 Reply findSlipDocuments(const Query& query, CommandContext& context) {
     auto search = documentSearch(query, context);

@@ -5,6 +5,7 @@
 #include "practice/data/places.h"
 #include "practice/data/tables.h"
 #include "practice/data/tax_numbers.h"
+#include "practice/database/stored_text.h"
 
 namespace tarn::practice {
 namespace {
@@ -24,7 +25,7 @@ int branchOf(const Branches& branches, int customer) {
     return branches.first + customer % branches.count;
 }
 
-void insertToldAddress(Database& database, int customer, const char* kind, const AddressRow& row) {
+void insertGivenAddress(Database& database, int customer, const char* kind, const AddressRow& row) {
     if (row.street != nullptr) {
         database.insert("customer_address", addressColumns,
                         {customer, kind, row.street, row.complement, row.district, row.postalCode,
@@ -43,17 +44,17 @@ void takeStreet(PracticeCustomer& customer, const std::string& line) {
     customer.number = digits ? number : "0";
 }
 
-PracticeCustomer insertTold(Database& database, int company, int id, const CustomerRow& row,
-                            const Branches& branches) {
+PracticeCustomer insertGiven(Database& database, int company, int id, const CustomerRow& row,
+                             const Branches& branches) {
     database.insert(
         "customer", customerColumns,
         {id, company, branchOf(branches, id), row.name, searchName(row.name),
          "C" + std::to_string(id), row.naturalPerson ? 1 : 0,
          row.naturalPerson ? personTaxNumber(row.taxBase) : companyTaxNumber(row.taxBase),
          row.stateRegistration, row.telephone, row.creditBlocked ? 1 : 0});
-    insertToldAddress(database, id, "P", row.address);
-    insertToldAddress(database, id, "C", row.billing);
-    insertToldAddress(database, id, "E", row.delivery);
+    insertGivenAddress(database, id, "P", row.address);
+    insertGivenAddress(database, id, "C", row.billing);
+    insertGivenAddress(database, id, "E", row.delivery);
     PracticeCustomer customer{.id = id, .name = row.name};
     takeStreet(customer, row.address.street);
     if (row.address.complement != nullptr) {
@@ -121,9 +122,9 @@ std::vector<PracticeCustomer> insertCustomers(Database& database, const CompanyR
     const Branches branches = branchesOf(company.id);
     std::vector<PracticeCustomer> customers;
     int row = 0;
-    for (const CustomerRow& told : customerRows()) {
+    for (const CustomerRow& given : customerRows()) {
         customers.push_back(
-            insertTold(database, company.id, customerId(index, row++), told, branches));
+            insertGiven(database, company.id, customerId(index, row++), given, branches));
     }
     const int drawn = company.id == manyCompany ? manyCustomers : someCustomers;
     for (int i = 0; i < drawn; ++i) {

@@ -108,9 +108,9 @@ void insertDocuments(Database& database, const CompanyRow& company,
     for (int branch = 0; branch < branches.count; ++branch) {
         for (int i = 0; i < count; ++i) {
             // The customers of the orders' table have the first documents.
-            const auto told = static_cast<std::size_t>(i);
+            const auto place = static_cast<std::size_t>(i);
             const PracticeCustomer& customer =
-                told < 24 ? customers[told % 12] : dice.oneOf(customers);
+                place < 24 ? customers[place % 12] : dice.oneOf(customers);
             insertDocument(database, company.id, branches.first + branch, i, customer, today, dice);
         }
     }

@@ -1,7 +1,7 @@
 #include "practice/data/names.h"
 
-#include <QString>
 #include <array>
+#include <span>
 
 #include "practice/data/places.h"
 
@@ -94,19 +94,6 @@ DrawnAddress drawnAddress(Dice& dice) {
 
 std::string addressLine(const std::string& street, const std::string& number) {
     return number == "0" ? street : street + ", " + number;
-}
-
-std::string searchName(std::string_view name) {
-    const QString parted = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))
-                               .normalized(QString::NormalizationForm_D)
-                               .toUpper();
-    QString letters;
-    for (const QChar c : parted) {
-        if (!c.isMark()) {
-            letters.append(c);
-        }
-    }
-    return letters.toStdString();
 }
 
 }  // namespace tarn::practice

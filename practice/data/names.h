@@ -24,7 +24,4 @@ DrawnAddress drawnAddress(Dice& dice);
 // "RUA X, 45"; the street alone where the number is "0".
 std::string addressLine(const std::string& street, const std::string& number);
 
-// The name in capitals without its accents, by which it is searched.
-std::string searchName(std::string_view name);
-
 }  // namespace tarn::practice

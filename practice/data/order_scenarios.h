@@ -7,7 +7,7 @@
 namespace tarn::practice {
 
 constexpr int noCarrier = -1;
-// Counts told by the form: as many lines or parcels as it has, and some more.
+// Counts that the form sets: as many lines or parcels as it has, and some more.
 constexpr int fullForm = -1;
 constexpr int overFullForm = -2;
 

@@ -1,5 +1,5 @@
 // Series, stock and billing orders of every establishment, drawn by seed over
-// the told scenarios.
+// the given scenarios.
 #pragma once
 
 #include <QDate>

@@ -1,7 +1,5 @@
 #include "practice/data/practice_data.h"
 
-#include <QByteArray>
-#include <QCryptographicHash>
 #include <array>
 
 #include "practice/data/companies.h"
@@ -14,7 +12,7 @@
 #include "practice/data/places.h"
 #include "practice/data/tables.h"
 #include "practice/data/tax_numbers.h"
-#include "runtime/text.h"
+#include "practice/database/stored_text.h"
 
 namespace tarn::practice {
 namespace {
@@ -174,7 +172,7 @@ constexpr const char* productColumns =
     " fiscal_class, class_group, class_code, origin, tax_situation, icms_rate,"
     " ipi_rate, withheld_margin, iss_rate, unit_weight, unit_price, legal_text";
 
-// A product that pays IPI has its fiscal class told on the note, as a group.
+// A product that pays IPI has its fiscal class printed on the note, as a group.
 void insertProducts(Database& database, int companyIndex, int company) {
     int row = 0;
     for (const ProductRow& product : productRows()) {
@@ -206,18 +204,6 @@ void insertServices(Database& database, int companyIndex, int company) {
 
 std::span<const PracticeLogon> practiceLogons() {
     return logons;
-}
-
-std::string storedLogin(std::string_view typed) {
-    return upperCase(trimBlanks(typed));
-}
-
-std::string passwordHash(std::int64_t company, std::string_view login, std::string_view password) {
-    const std::string text =
-        std::to_string(company) + ':' + storedLogin(login) + ':' + std::string(password);
-    return QCryptographicHash::hash(QByteArray::fromStdString(text), QCryptographicHash::Sha256)
-        .toHex()
-        .toStdString();
 }
 
 void insertPracticeData(Database& database, std::uint64_t seed, QDate today) {

@@ -25,10 +25,6 @@ struct PracticeLogon {
 
 std::span<const PracticeLogon> practiceLogons();
 
-std::string storedLogin(std::string_view typed);  // blanks off, in capitals
-// What the database keeps of a password, in hexadecimal.
-std::string passwordHash(std::int64_t company, std::string_view login, std::string_view password);
-
 // Fills the empty tables. The caller holds the transaction.
 void insertPracticeData(Database& database, std::uint64_t seed, QDate today);
 

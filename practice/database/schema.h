@@ -13,7 +13,7 @@ void createSchema(Database& database);
 
 enum class SchemaState { Empty, Ready };
 
-// Throws DatabaseError, which names the database as told, for one of another version
+// Throws DatabaseError, which names the database as given, for one of another version
 // or of another program.
 SchemaState checkSchema(Database& database, const std::string& name);
 

@@ -35,8 +35,8 @@ struct Fault {
 
 class FaultPlan {
 public:
-    // "COMANDO=falha", as told on the command line. Gives the reason, for the user,
-    // where it can't be taken. A command told twice keeps the last fault.
+    // "COMANDO=falha", as the command line has it. Gives the reason, for the user,
+    // where it can't be taken. A command given twice keeps the last fault.
     std::optional<std::string> add(std::string_view text);
     // False where the catalogue has no such command; nothing is then taken.
     bool add(std::string_view command, const Fault& fault);
@@ -47,7 +47,7 @@ private:
     std::map<std::string, Fault, std::less<>> faults_;  // by the catalogue's spelling
 };
 
-std::string faultNames();  // as told on the command line, parted by commas
+std::string faultNames();  // as the command line names them, separated by commas
 
 // Refuse, CloseBefore, NotFound and ServerError keep the command from being carried
 // out; all others spoil its answer alone.
