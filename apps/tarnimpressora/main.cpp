@@ -37,7 +37,7 @@ int showForm(const Options& options) {
 }
 
 // Lays the form under the paper and sets the printer up for it, but for what the user
-// told.
+// chose.
 bool useForm(Options& options, tarn::dotmatrix::PaintOptions& looks) {
     const auto loaded =
         tarn::dotmatrix::loadForm(QFile::decodeName(options.form.c_str()), options.itemLines);

@@ -19,7 +19,7 @@ struct Options {
     bool bands = false;
     std::string title;
     dotmatrix::Dialect dialect;
-    bool ownHeight = false;  // the form height, the pitch were told
+    bool ownHeight = false;  // the form height, the pitch were given
     bool ownPitch = false;
 
     std::string form;  // name or file of the pre-printed form, empty for blank paper

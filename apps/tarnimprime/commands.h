@@ -52,7 +52,7 @@ void declareRules(CLI::App& app, Choice& choice);
 void declareCode(CLI::App& commands, const std::string& name, std::int32_t& code,
                  const std::string& description);
 
-// A saved answer; FalhaDeUso when the file can't be read or isn't an answer.
+// A saved answer; UsageError when the file can't be read or isn't an answer.
 XmlDocument readAnswer(const std::string& file);
 // All of them, before anything is printed: a wrong file name must not spend paper.
 std::vector<XmlDocument> readAnswers(const std::vector<std::string>& files);

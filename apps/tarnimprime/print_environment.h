@@ -41,11 +41,11 @@ class PrintEnvironment {
 public:
     explicit PrintEnvironment(const GlobalOptions& options);
 
-    // For printing; FalhaDeUso when there is nowhere to print.
+    // For printing; UsageError when there is nowhere to print.
     Environment& environment();
     // Directory of the jobs, if they go into one.
     const std::optional<std::string>& destination() const { return options_.destination; }
-    // For looking at what would print: as `environment` where a directory was told, else
+    // For looking at what would print: as `environment` where a directory was given, else
     // nothing is printed.
     Environment& dryRunEnvironment();
 

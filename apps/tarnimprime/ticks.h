@@ -1,4 +1,4 @@
-// The option --marca: which rows of a list print, as a user ticks them in a grid.
+// The option `--marca`: which rows of a list print, as a user ticks them in a grid.
 #pragma once
 
 #include <optional>
@@ -15,8 +15,8 @@ using TickedRows = std::optional<std::string>;
 
 void declareTicks(CLI::App& commands, TickedRows& tick);
 
-// Ticks the rows that it names, from 1, parted by commas; none for an empty one.
-// FalhaDeUso for a number that no row has.
+// Ticks the rows that it names, from 1, separated by commas; none for an empty one.
+// UsageError for a number that no row has.
 void tickRows(std::vector<GridRow>& lines, const TickedRows& tick);
 
 }  // namespace tarn::print

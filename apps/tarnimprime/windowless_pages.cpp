@@ -7,7 +7,7 @@ namespace tarn::print {
 namespace {
 
 // What Qt remarks about the machine (no session directory, no theme) is nothing
-// that the user could act on; what goes wrong with a page is told by the page.
+// that the user could act on; what goes wrong with a page is reported with the page.
 void fatalOnly(QtMsgType kind, const QMessageLogContext&, const QString& text) {
     if (kind == QtFatalMsg) {
         std::fprintf(stderr, "tarnimprime: %s\n", qPrintable(text));

@@ -14,7 +14,7 @@ class Walk : public QObject {
     Q_OBJECT
 
 public:
-    // Pictures go to `folder` as passo-01-NAME.png.
+    // Pictures go to `folder` as `passo-01-NAME.png`.
     explicit Walk(QString folder);
 
     using Step = std::function<void(QWidget& window)>;

@@ -46,7 +46,7 @@ inline double ratioOf(const std::vector<double>& work, const std::vector<double>
     return medianOf(std::move(ratios));
 }
 
-// The ratios of a run against their limits, told one a line.
+// The ratios of a run against their limits, one a line.
 class Limits {
 public:
     void check(const std::string& what, double ratio, double limit) {

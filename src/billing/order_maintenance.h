@@ -19,7 +19,7 @@ struct OrderRefusal {
 };
 
 // The first test that fails, in the order in which the fields are tested. A text that
-// is no number raises TipoIncompativel.
+// is no number raises TypeMismatch.
 std::optional<OrderRefusal> dataRefusal(const commands::OrderData& data);
 
 // Sends the order's data and tells what went wrong. False: refused, nothing changed.

@@ -9,7 +9,7 @@ namespace tarn {
 
 struct Environment;
 
-// The standard sheet. `document` is read as it prints: what raises VariavelObjeto (no
+// The standard sheet. `document` is read as it prints: what raises ObjectVariable (no
 // header row, a missing field of an ITEM or PARCELA) leaves the lines before it in the
 // job, which stays open. Released at the end.
 void ImprimeOrdemFaturamento(Environment& environment, XmlDocument& document);

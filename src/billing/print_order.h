@@ -9,7 +9,7 @@ namespace tarn {
 
 struct Environment;
 
-// Fetches the order's document and prints it; every failure to have it is told.
+// Fetches the order's document and prints it; every failure to have it is shown.
 void printSelectedOrder(Environment& environment, const Sessao& session, const std::string& order);
 
 }  // namespace tarn

@@ -25,7 +25,7 @@ public:
     void picture(const std::optional<Picture>& which, double x, double y);
 
     void newPage();
-    // Prints the document; while it does so `progress` is told.
+    // Prints the document; while it does so `progress` is called.
     void finish(const Progress& progress);
 
     // The first thing other than a text that failed.

@@ -23,7 +23,7 @@ struct CompanyData {
     std::string federalNumber;  // "CPF nº " or "CNPJ nº " and the masked number
 };
 
-// The first row of the answer; an absent field is empty. VariavelObjeto when there is
+// The first row of the answer; an absent field is empty. ObjectVariable when there is
 // no row, or a field is there in another case of letters only.
 CompanyData companyDataOf(const XmlDocument& answer);
 

@@ -47,13 +47,14 @@ void draw(BillPage& paper, const Issuer& issuer, const GridRow& document) {
     } else {
         drawReceipt(paper, issuer, document, inWords);
     }
-    paper.newPage();
+    paper.newPage();  // also behind the last page: decision D57
 }
 
 void inform(Environment& environment, const std::string& text) {
     environment.boxes.show({.text = text, .icon = BoxIcon::Information, .title = "TArn"});
 }
 
+// By the last row, ticked or not, and with two blanks inside: decision D62.
 std::string finalMessage(const BillRun& documents) {
     const auto reported = std::span(drawnKinds).first<reportedKinds>();
     if (!isOneOf(reported, documents.lines.back())) {

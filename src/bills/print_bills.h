@@ -25,7 +25,7 @@ void printSelected(Environment& environment, const Sessao& session, const BillRu
                    const Progress& progress);
 
 // The same with the company's data at hand. A ticked row without an amount raises
-// TipoIncompativel before its page, and the document is never ended. Where the printer
+// TypeMismatch before its page, and the document is never ended. Where the printer
 // fails at more than a text the user reads its words instead of the success.
 void printBills(Environment& environment, std::int32_t company, const XmlDocument& companyData,
                 const BillRun& documents, const Progress& progress);

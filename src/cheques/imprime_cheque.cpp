@@ -52,7 +52,7 @@ Data dataDe(std::string_view text) {
     return {pieces[0], monthName(pieces[1]), pieces[2]};
 }
 
-// Lines of the cheque's one job. Nothing of a line goes out before sai().
+// Lines of the cheque's one job. Nothing of a line goes out before out().
 class LabelForm {
 public:
     explicit LabelForm(Environment& environment)

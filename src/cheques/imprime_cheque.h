@@ -9,8 +9,8 @@ namespace tarn {
 
 struct Environment;
 
-// Official code of a bank, such as "033", as a 16-bit integer. Raises TipoIncompativel
-// for what is no number, Estouro for what doesn't fit.
+// Official code of a bank, such as "033", as a 16-bit integer. Raises TypeMismatch
+// for what is no number, Overflow for what doesn't fit.
 std::int16_t bankCode(std::string_view nrOfiBan);
 
 struct ChequeData {
@@ -22,7 +22,7 @@ struct ChequeData {
 };
 
 // Prints it as one raw job. The amount is read and the date taken apart before the job
-// opens: TipoIncompativel for an amount that is no number, ForaDoIntervalo for a date
+// opens: TypeMismatch for an amount that is no number, OutOfRange for a date
 // of less than three parts. A month outside 1 to 12 has no name.
 void ImprimeCheque(Environment& environment, const ChequeData& cheque);
 

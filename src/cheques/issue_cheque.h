@@ -47,7 +47,7 @@ struct ChequeRefusal {
 };
 
 // The first test that fails. The server isn't asked. An amount that is no number
-// raises TipoIncompativel.
+// raises TypeMismatch.
 std::optional<ChequeRefusal> fieldRefusal(const ChequeFields& fields);
 
 // False: the server has a cheque of this account, number and series. A request that
@@ -61,11 +61,11 @@ std::optional<ChequeRefusal> numberRefusal(Environment& environment, const Sessa
 
 // Prints the cheque and records it. True: recorded. The user has been told how it went
 // in any case; nothing is undone or sent twice. Errors before the print: no
-// establishment in the answer (VariavelObjeto), a bank code, amount or date that can't
+// establishment in the answer (ObjectVariable), a bank code, amount or date that can't
 // be read.
 bool issueCheque(Environment& environment, const Sessao& session, const ChequeFields& fields);
 
-// Whether the record's answer says that it was made; the user is told. VariavelObjeto
+// Whether the record's answer says that it was made; the user is told. ObjectVariable
 // for an answer without a status.
 bool chequeRecorded(Environment& environment, const XmlDocument& answer);
 

@@ -48,7 +48,7 @@ inline constexpr QuantityMessages netWeightMessages{
     "Peso Líquido inválido.     ", "Peso Líquido máximo permitido é 9.999.999,999 "};
 FieldResult quantityOnLeave(std::string_view text, const QuantityMessages& messages);
 
-// Money field; raises TipoIncompativel for a text that is no number.
+// Money field; raises TypeMismatch for a text that is no number.
 FieldResult moneyOnLeave(std::string_view text);
 
 }  // namespace tarn

@@ -1,4 +1,4 @@
-// Cleaning of typed texts, so that no quote reaches the server.
+// Cleaning of typed texts from quotes. No screen of this program calls these two.
 #pragma once
 
 #include <optional>

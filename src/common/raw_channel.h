@@ -12,7 +12,7 @@ namespace tarn {
 
 // Pads `text` with blanks to `width` characters, in place, and returns it; a
 // longer text comes back cut to its first `width` characters and stays whole
-// in the caller's variable. Raises ArgumentoInvalido for a negative width.
+// in the caller's variable. Raises InvalidArgument for a negative width.
 std::string FormataCampo(std::string& text, int width, bool alignRight);
 
 // The same for building lines: appends the field to `line`, each control
@@ -29,7 +29,7 @@ public:
     void close();
 
     // Appends `lines` times CR LF to `text` (the caller's variable changes), puts
-    // `column` blanks before it and sends it in one write. Raises ArgumentoInvalido
+    // `column` blanks before it and sends it in one write. Raises InvalidArgument
     // for a negative count.
     void ImprimeRaw(int column, std::string& text, int lines);
 

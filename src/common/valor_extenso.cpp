@@ -28,7 +28,7 @@ constexpr std::size_t wholeDigits = 18;
 constexpr NumberMask wholeMask("000000000000000000.000");
 
 // The words of a group of three digits, 1 to 999, with its name. 100 takes the
-// singular name, as 1 does.
+// singular name, as 1 does (decision D43).
 std::string groupWords(std::size_t group, std::size_t name) {
     if (group == 1 || group == 100) {
         return std::string(group == 1 ? "UM" : "CEM").append(groupSingular[name]);

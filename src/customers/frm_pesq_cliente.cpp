@@ -47,7 +47,7 @@ void FrmPesqCliente::prepareButtons() {
     connect(ui_->sprDados, &QTableView::activated, this, &FrmPesqCliente::cmdSelecionar_Click);
 }
 
-// What goes wrong in here beyond the request is not told: the search can be repeated.
+// What goes wrong in here beyond the request is not shown: the search can be repeated.
 void FrmPesqCliente::cmdPesquisar_Click() {
     const WaitCursor hourglass;
     try {

@@ -62,6 +62,7 @@ bool filledIn(Environment& environment, const std::string& value, const std::str
     return false;
 }
 
+// Looked up in upper case; what is absent is the number 0: decision D99.
 void fillIn(Sessao& session, const XmlDocument& document) {
     const XmlNode principal = document.selectSingleNode("PRINCIPAL");
     session.NCOMPANYCODE = readInt32(numberAttribute(principal, 0, "NCOMPANYCODE"));
@@ -92,6 +93,7 @@ bool VerVersao(Environment& environment, Sessao& session, std::string_view versi
     if (document.empty()) {
         return true;
     }
+    // Loaded but unreadable isn't "OK": decision D100.
     if (versionAttribute(document, 0) == "OK") {
         session.VersaoServidor = asYearMonthDay(versionAttribute(document, 1));
         return true;

@@ -27,7 +27,7 @@ bool imposeDateFormat(Environment& environment);
 bool logOn(Environment& environment, Sessao& session, const std::string& company,
            const std::string& user, const std::string& password);
 
-// The server's month/day/year as dd/mm/yyyy; ErroExecucao ForaDoIntervalo with
+// The server's month/day/year as dd/mm/yyyy; RuntimeError OutOfRange with
 // fewer than three parts.
 std::string dayMonthYear(std::string_view data);
 
@@ -35,7 +35,7 @@ std::string dayMonthYear(std::string_view data);
 bool VerificaDireitoAcesso(Environment& environment, const Sessao& session,
                            std::string_view transaction);
 
-// NM_FIL of the session's establishment; ErroExecucao when there is no row.
+// NM_FIL of the session's establishment; RuntimeError when there is no row.
 std::string branchName(Environment& environment, const Sessao& session);
 
 }  // namespace tarn

@@ -1,4 +1,4 @@
-// The paper that has come out of the printer: one endless strip, parted into
+// The paper that has come out of the printer: one endless strip, divided into
 // forms by perforations, with every character where its needles struck. x counts from
 // the first print position.
 #pragma once

@@ -1,5 +1,5 @@
 // A printer of the ESC/P family: takes the bytes of raw jobs, in pieces of any size,
-// and prints on continuous paper. Knows no error: every byte string gives some paper.
+// and prints on continuous paper. There is no invalid input: every byte string gives some paper.
 //
 // State outlives a job, as it does in a printer that is not switched off between two:
 // a set-up job that selects condensed print holds for the job after it.

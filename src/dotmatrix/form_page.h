@@ -1,4 +1,4 @@
-// One form of the paper with what is printed on it, whoever holds the rest: what is
+// One form of the paper with what is printed on it: what is
 // drawn, written and searched page by page.
 #pragma once
 

@@ -20,7 +20,7 @@ struct Form {
     PaperUnits height = 0;
 };
 
-// Never empty. Forms count from 0; those before the first one told are unknown.
+// Never empty. Forms count from 0; those before the first one added are unknown.
 class FormTable {
 public:
     explicit FormTable(const Form& first, std::size_t index = 0);

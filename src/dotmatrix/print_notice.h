@@ -1,4 +1,4 @@
-// What the interpreter did not simply print: kept so that whoever lays out a form
+// What the interpreter did not simply print: kept so that the designer of a form
 // sees which bytes a printer would drop or take otherwise.
 #pragma once
 

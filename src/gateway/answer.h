@@ -15,7 +15,7 @@ bool requestAnswer(Environment& environment, const std::string& query, XmlDocume
                    std::string_view failureMessage);
 
 // False, with the user told, when the answer is empty (`emptyMessage`) or its status
-// isn't exactly "OK" (the server's own text). VariavelObjeto when it has no status.
+// isn't exactly "OK" (the server's own text). ObjectVariable when it has no status.
 bool answerAccepted(Environment& environment, const XmlDocument& document,
                     const std::string& emptyMessage);
 

@@ -17,7 +17,7 @@ class XmlDocument;
 class XmlNode;
 
 // An attribute: its name, base name (no prefix) and text. Null when absent;
-// any read of a null one raises ErroExecucao VariavelObjeto.
+// any read of a null one raises RuntimeError ObjectVariable.
 class XmlAttribute {
 public:
     XmlAttribute() = default;
@@ -63,7 +63,7 @@ private:
 };
 
 // An element or the XML declaration. A null node answers false; any other use of
-// it raises ErroExecucao VariavelObjeto.
+// it raises RuntimeError ObjectVariable.
 class XmlNode {
 public:
     XmlNode() = default;
@@ -105,7 +105,7 @@ public:
     XmlNode child(std::size_t index) const;
     XmlNode documentElement() const;  // null while empty
     // Paths as the answers need them, names and steps only: "xml/rs:data",
-    // "PRINCIPAL", "//ITEM" (anywhere in the document, whoever is asked). A name
+    // "PRINCIPAL", "//ITEM" (anywhere in the document, from whichever node). A name
     // is compared with prefix and all, as the document writes it.
     XmlNode selectSingleNode(std::string_view path) const;
     XmlNodeList selectNodes(std::string_view path) const;

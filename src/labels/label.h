@@ -30,7 +30,7 @@ public:
     explicit Labels(const XmlDocument& answer);
 
     std::size_t count() const { return count_; }
-    // Its texts live until the next label is read. VariavelObjeto for a field that the
+    // Its texts live until the next label is read. ObjectVariable for a field that the
     // answer spells in another case.
     Label read(std::size_t index);
 
@@ -54,7 +54,7 @@ struct Sender {
     std::string NUMERO;     // empty when its value is 0
 };
 
-// The first row. VariavelObjeto when there is none.
+// The first row. ObjectVariable when there is none.
 Sender readSender(const XmlDocument& answer);
 
 // A house number as it prints: nothing for what counts as 0.

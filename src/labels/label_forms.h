@@ -14,7 +14,7 @@ class Labels;
 struct Sender;
 
 // Drawn, three across and ten down. A full page is printed at once; the last, partly
-// filled one is left for whoever ends the run.
+// filled one is left for the end of the run.
 void printPimaco6280(Environment& environment, Labels& labels, const Progress& progress);
 
 // Raw text, four across on continuous stationery: a job that sets the pitch, then one

@@ -19,7 +19,8 @@ constexpr std::size_t townCut = 40;
 constexpr double nameSize = 10;
 constexpr double textSize = 8;
 
-// Where the next label goes; centimetres.
+// Where the next label goes; centimetres. Nothing asks for a second page: what lies below
+// the sheet is lost (decision D92).
 struct Place {
     static constexpr double left = 1.3;
     static constexpr double right = 12;

@@ -13,7 +13,7 @@ namespace tarn::notes {
 struct DrawnForm;
 class LossLog;
 
-// An ErroExecucao leaves the document on the page printer as it is, not ended. `losses`,
+// An RuntimeError leaves the document on the page printer as it is, not ended. `losses`,
 // if given, keeps what the form has no room for.
 void drawNote(const DrawnForm& form, const XmlDocument& document, std::string_view noteNumber,
               Environment& environment, LossLog* losses = nullptr);

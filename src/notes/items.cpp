@@ -16,7 +16,7 @@ void collectClass(Run& run) {
 }
 
 // Everything of the item is read before its first call, so that a bad amount
-// leaves nothing of it on the paper.
+// leaves nothing of it on the paper (decision N12).
 void printItem(const Items& block, Run& run) {
     if (block.legalTexts) {
         run.legalTexts.add(run.document.text(Source::DC_TXT_LEG_NF));
@@ -107,7 +107,7 @@ void printItems(const Items& block, Run& run) {
     }
     if (block.fillsForm) {
         const int blanks = mostItems - printed + block.constant;
-        run.send(blanks > 0 ? blanks : 0);
+        run.send(blanks > 0 ? blanks : 0);  // its blank is sent also for 0: decision N26
     }
     if (block.services) {
         printServices(serviceLines, run);

@@ -1,5 +1,6 @@
 // Which form a note goes on: the company and the establishment of the logon
-// decide, from top to bottom, the first row that fits.
+// decide, from top to bottom, the first row that fits. The issuing and the reprint
+// screen have a ladder each, which differ on purpose (decision N58).
 #include "notes/print_note.h"
 
 namespace tarn {

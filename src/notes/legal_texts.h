@@ -8,11 +8,11 @@
 
 namespace tarn::notes {
 
-// Between two entries: blank, two backslashes, blank.
+// Between two entries: blank, two backslashes, blank (decision N4).
 inline constexpr std::string_view legalSeparator = " \\\\ ";
 inline constexpr std::string_view observationLabel = " OBS.: ";
 
-// Adds `text` behind `joined`, parted from what is already there.
+// Adds `text` behind `joined`, separated from what is already there.
 void joinLegal(std::string& joined, std::string_view text);
 
 class LegalTexts {

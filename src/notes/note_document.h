@@ -17,7 +17,7 @@ inline constexpr std::size_t firstItem = 3;
 
 // Texts live as long as the XML document, amounts until the next row of the same
 // kind. A row or a node that is missing, and a field that is there in another case
-// of letters only, are ErroExecucao VariavelObjeto.
+// of letters only, are RuntimeError ObjectVariable.
 class NoteDocument {
 public:
     explicit NoteDocument(const XmlDocument& document);
@@ -29,7 +29,7 @@ public:
     std::string_view amount(Source source, std::string_view absent = "0") {
         return readerOf(source).number(fieldOf(source), absent);
     }
-    // An amount as a number; TipoIncompativel, naming the field, for anything else.
+    // An amount as a number; TypeMismatch, naming the field, for anything else.
     double number(Source source, std::string_view absent = "0");
 
     // Makes the child at `position` the item row in hand.

@@ -11,7 +11,8 @@ const Place& placeOf(const Parcels& block, int parcel) {
     return block.places[static_cast<std::size_t>((parcel - 1) % block.perRow)];
 }
 
-// The blanks ahead of the first parcel stand also where the rest of a row is empty.
+// The blanks ahead of the first parcel are sent also where the rest of a row is empty
+// (decisions N18, N20).
 int startRow(const Parcels& block, Run& run) {
     const int margin = block.places[0].fields().front().column - firstColumn;
     run.line.append(static_cast<std::size_t>(margin), ' ');

@@ -15,7 +15,7 @@ namespace tarn::notes {
 class LossLog;
 
 // Opens the job of the set-up, if the form has one, and the job of the note. An
-// ErroExecucao leaves the note's job open with everything sent before the row that
+// RuntimeError leaves the note's job open with everything sent before the row that
 // failed. `losses`, if given, keeps what the form has no room for.
 void printNote(const Form& form, const XmlDocument& document, std::string_view noteNumber,
                RawChannel& channel, LossLog* losses = nullptr);

@@ -24,7 +24,7 @@ std::string_view layoutFor(Ladder ladder, std::int32_t company, std::int32_t est
 
 // Prints the note of an answer whose status reads "OK" and lets go of the document.
 // `noteNumber` holds the note's number as digits. What was sent before an
-// ErroExecucao stays sent and the job stays open. `losses`, if given, keeps what the form
+// RuntimeError stays sent and the job stays open. `losses`, if given, keeps what the form
 // has no room for.
 void printNote(Ladder ladder, Environment& environment, const Sessao& session,
                XmlDocument& document, const std::string& noteNumber,

@@ -11,7 +11,7 @@ namespace {
 
 using enum Source;
 
-// Every service counts in the sums, printed or not.
+// Every service counts in the sums, printed or not (decision N47).
 void addUp(Run& run) {
     Services& services = run.services;
     for (const std::size_t position : services.rows) {
@@ -55,6 +55,7 @@ void printServices(int lines, Run& run) {
         }
         run.send(line.advance);
     }
+    // Within the form's own six lines: decision N46.
     const int rest = check::serviceLines - (lines > 0 ? lines : 0);
     if (rest > 0) {
         run.send(rest);

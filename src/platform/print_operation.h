@@ -69,7 +69,7 @@ using PrintOperation = std::variant<ScaleMode, Orientation, Copies, DrawnText, D
 // Whether the operation leaves something on the page, and so begins it.
 bool draws(const PrintOperation& operation);
 
-// The operation as a line of text, fields parted by tabs, without a line end:
+// The operation as a line of text, fields separated by tabs, without a line end:
 //   scale 7 | orientation 1 | text x y font size bold(0|1) text |
 //   line x1 y1 x2 y2 width | picture x y name | newpage | enddoc
 // Coordinates have three decimals, sizes as few as they need. In a value a

@@ -1,4 +1,4 @@
-// How far a run of many items is, told by whoever does the work.
+// How far a run of many items is, reported by what does the work.
 #pragma once
 
 #include <cstddef>

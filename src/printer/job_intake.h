@@ -1,5 +1,5 @@
-// The printer's one mouth: jobs from wherever they come, one after the other, in pieces
-// as they arrive.
+// Where all jobs enter the printer, from the network and from folders, one after the other, in
+// pieces as they arrive.
 #pragma once
 
 #include <QByteArray>

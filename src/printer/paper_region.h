@@ -20,7 +20,7 @@ struct PaperRegion {
 };
 
 // The characters whose middle lies in the region, a line for each row from the first to
-// the last printed one, parted by LF; columns stay below each other.
+// the last printed one, separated by LF; columns stay below each other.
 QString textIn(PaperRoll& roll, const PaperRegion& region);
 
 // The whole printed rows of one form.

@@ -48,7 +48,7 @@ std::int32_t reasonId(std::string_view text) {
     }
 }
 
-// An answer without a status to read is no more use than an empty one.
+// An answer whose status can't be read counts as an empty one: decision D51.
 bool accept(Environment& environment, const XmlDocument& document, const std::string& problem) {
     std::string status;
     try {

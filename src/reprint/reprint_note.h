@@ -55,7 +55,7 @@ std::optional<FoundNote> searchNote(Environment& environment, const Sessao& sess
 bool noteSelected(Environment& environment, const NoteFields& fields, std::string_view foundNote);
 
 // Fetches the note and prints it by the ladder of this screen. An error of the layout
-// comes out as ErroComNota.
+// comes out as ErrorAfterNote.
 void reprintNote(Environment& environment, const Sessao& session, const std::string& number,
                  const std::string& series);
 

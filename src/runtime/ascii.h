@@ -1,4 +1,4 @@
-// Telling plain text apart eight bytes at a time: almost all that gets printed is.
+// Recognises ASCII eight bytes at a time: almost everything that is printed is ASCII.
 #pragma once
 
 #include <cstddef>

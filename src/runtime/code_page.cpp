@@ -103,7 +103,7 @@ char windowsByte(char32_t code) {
     return block == 0 ? '?' : static_cast<char>(block);
 }
 
-// Appends one byte a character: those below 128 as they are, the others as told.
+// Appends one byte a character: those below 128 as they are, the others by `byteOfCode`.
 template <typename ByteOf>
 void appendBytes(std::string& out, std::string_view utf8, ByteOf byteOfCode) {
     std::size_t position = 0;

@@ -21,7 +21,7 @@ bool isCalendarDay(const Date& date);
 // or two digits, year of four, or of one or two: 0-29 is 20xx, 30-99 is 19xx) or
 // year-month-day with a four-digit year; one separator "/", "-" or "." used
 // twice; a time of day behind a blank or "T" is dropped. Day and month are never
-// swapped.
+// swapped (decision D6).
 std::optional<Date> parseDate(std::string_view text);
 
 // Strictly dd/mm/yyyy of the calendar.

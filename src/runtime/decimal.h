@@ -18,7 +18,7 @@ struct Decimal {
     std::array<char, significantDigits> digits{};  // '0' to '9'
 };
 
-// The value to 15 significant digits. Raises Estouro for what is not finite.
+// The value to 15 significant digits. Raises Overflow for what is not finite.
 Decimal decimalOf(double value);
 
 // A text by the comma reading taken apart, nothing converted yet.

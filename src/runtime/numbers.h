@@ -8,16 +8,16 @@
 
 namespace tarn {
 
-// Comma-reading conversion: blanks around, an optional sign, digits in which
+// Comma-reading conversion (decision D3): blanks around, an optional sign, digits in which
 // points may stand anywhere after the first one (dropped), optionally a comma and
 // more digits, at least one digit in all. Nothing else is a number.
 std::optional<double> parseComma(std::string_view text);
 bool isNumeric(std::string_view text);
 
-// The same; raises ErroExecucao TipoIncompativel for what is no number.
+// The same; raises RuntimeError TypeMismatch for what is no number.
 double readComma(std::string_view text);
 
-// Point-reading conversion: blanks, tabs and line feeds are skipped everywhere;
+// Point-reading conversion (decision D4): blanks, tabs and line feeds are skipped everywhere;
 // sign, digits, point, digits, exponent (e, E, d, D); stops at the first other
 // character. No number at all reads as 0. Never fails.
 double readPoint(std::string_view text);
@@ -27,7 +27,7 @@ double readPoint(std::string_view text);
 std::string numberText(double value);
 
 // The comma reading, rounded half to even to an integer of the width named.
-// Raises TipoIncompativel for what is no number, Estouro for what doesn't fit.
+// Raises TypeMismatch for what is no number, Overflow for what doesn't fit.
 std::int16_t readInt16(std::string_view text);
 std::int32_t readInt32(std::string_view text);
 

@@ -44,7 +44,7 @@ inline constexpr int runtimeErrorStatus = 3;  // exit status of a program that s
 // full stop: what every report of such an error begins with.
 std::string failureText(const RuntimeError& error);
 
-// Text of the box that ends the program: textoDaFalha, that it ends, and, when a fiscal
+// Text of the box that ends the program: failureText, that it ends, and, when a fiscal
 // note may already exist on the server, how to print it.
 std::string reportText(const RuntimeError& error, bool noteMayExist);
 

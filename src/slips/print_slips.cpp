@@ -82,6 +82,7 @@ void SlipJob::preparePrinter() {
     send(doubleStrike);
 }
 
+// The answer isn't read and a failure not shown: decision D20.
 void SlipJob::sendQuery(const std::string& query) {
     environment_.http.get(environment_.baseUrl + query);
 }
@@ -104,7 +105,8 @@ void SlipJob::save(const GridRow& document, const SlipNumber& number) {
     }
 }
 
-// The document of a bank without a form leaves its job open.
+// The document of a bank without a form leaves its job open (decisions D41, D70). The check
+// digit is made before anything is recorded (D69).
 void SlipJob::print(const GridRow& document) {
     if (!isServedBank(includesPortfolio_ ? portfolio_.ID_PES_BAN
                                          : document.column(slip_column::bank))) {

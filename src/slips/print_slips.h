@@ -29,9 +29,9 @@ struct SlipRun {
 };
 
 // The writes are sent and nothing of them is looked at: a slip is printed whatever
-// became of them. Tells the user when no slip was printed. Raises TipoIncompativel for a
-// number or a portfolio that can't be worked with, ArgumentoInvalido when the number
-// has no next one, Estouro past 32767 slips; what was written and printed stays.
+// became of them. Tells the user when no slip was printed. Raises TypeMismatch for a
+// number or a portfolio that can't be worked with, InvalidArgument when the number
+// has no next one, Overflow past 32767 slips; what was written and printed stays.
 void printSlips(Environment& environment, const Sessao& session, const Portfolio& portfolio,
                 const SlipRun& request, std::span<const GridRow> lines, const SlipRunView& screen);
 

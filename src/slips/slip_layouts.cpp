@@ -64,7 +64,8 @@ private:
     std::string line_;
 };
 
-// The point-reading conversion stops at the comma of the grid: 2,50 is 2.
+// The point-reading conversion stops at the comma of the grid: 2,50 is 2, on purpose
+// (decision D71).
 double fineOf(const Slip& slip) {
     return readPoint(slip[slip_column::fine]);
 }

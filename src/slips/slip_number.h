@@ -8,8 +8,8 @@
 
 namespace tarn {
 
-// Check digits, 0 to 9. Both raise ArgumentoInvalido for too few characters and
-// TipoIncompativel for one that is no digit.
+// Check digits, 0 to 9. Both raise InvalidArgument for too few characters and
+// TypeMismatch for one that is no digit.
 // Of the 13 digits of wallet 57, joined with agency and account; "-" doesn't count, the
 // first 23 characters do.
 int DigitoModulo10(std::string_view digits, std::string_view agency, std::string_view account);
@@ -30,11 +30,11 @@ struct SlipNumber {
 // with a text of seven digits.
 class RunningNumber {
 public:
-    // TipoIncompativel when what was typed is no number.
+    // TypeMismatch when what was typed is no number.
     RunningNumber(const Portfolio& portfolio, std::string_view typed);
 
     SlipNumber slipNumber() const;
-    // ArgumentoInvalido when seven digits no longer hold it.
+    // InvalidArgument when seven digits no longer hold it.
     void advance();
 
 private:

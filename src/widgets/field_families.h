@@ -44,7 +44,7 @@ private:
     QuantityMessages messages_;
 };
 
-// Two decimals. Leaving it with a text that is no number raises TipoIncompativel.
+// Two decimals. Leaving it with a text that is no number raises TypeMismatch.
 class MoneyField : public FieldController {
     Q_OBJECT
 

@@ -58,7 +58,7 @@ private:
 
 // Shows the model in the grid: widths, hidden columns, row heights. With a check box
 // column: a click in its cell and the space key anywhere in the row tick it, a click on
-// its heading is alternaPelaUltima, unless the column says otherwise.
+// its heading is toggleByLastRow, unless the column says otherwise.
 void prepareGrid(QTableView& grid, GridModel& model);
 
 // Makes the screen large enough for so many rows and all shown columns of its grid, as

@@ -152,7 +152,7 @@ TEST_F(CommandLine, FormsAreListedAndWrittenAsText) {
     EXPECT_NE(shorter.out.find("altura 59\n"), std::string::npos);
 }
 
-// A form sets the printer up, but for what the user told; and what it wrote reads again.
+// A form sets the printer up, but for what the user chose; and what it wrote reads again.
 TEST_F(CommandLine, AFormSetsThePaperUp) {
     const QString job = file("1.prn", "a" + QByteArray("\r\n").repeated(33) + "b");
     const QString form = file("f.txt", "altura 33\nligar 17\ncaixa 1 1 10 2 Caixa\n");

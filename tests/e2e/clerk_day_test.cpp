@@ -23,7 +23,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-using Rows = std::vector<std::string>;  // sorted; values parted by "|"
+using Rows = std::vector<std::string>;  // sorted; values separated by "|"
 using Tables = std::map<std::string, Rows>;
 
 // Reads a database file that nobody writes any more.

@@ -204,7 +204,7 @@ protected:
     std::size_t rowsOf(const std::string& query) {
         return asked(query).selectSingleNode("xml/rs:data").childCount();
     }
-    // The rows of a statement, values parted by "|".
+    // The rows of a statement, values separated by "|".
     std::vector<std::string> stored(const std::string& sql, int columns) {
         practice::Rows rows = database.select(sql);
         std::vector<std::string> all;

@@ -28,7 +28,7 @@ TEST_F(ChequeFaults, ACheckWithoutAnAnswerLetsThePrintThrough) {
     });
 }
 
-// What the check could have told comes from the record's answer, when the paper is out.
+// What the check could have shown comes from the record's answer, when the paper is out.
 TEST_F(ChequeFaults, ANumberAlreadyIssuedPrintsAgainWhenItsCheckFails) {
     inCheques([this] {
         record("700");

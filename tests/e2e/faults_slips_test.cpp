@@ -56,7 +56,7 @@ protected:
         choose(menu, "mnuBoleto");
     }
     std::string cell(int row, int column) { return grid::cell(gridOf(*screen), row, column); }
-    // The first document of the table told and of a bank that slips are printed for.
+    // The first document of the given table and of a bank that slips are printed for.
     Document first(const std::string& table, bool entering) {
         for (int row = 1; row <= grid::rows(gridOf(*screen)); ++row) {
             if (cell(row, 16) == table && (entering || cell(row, 27) == "1016")) {

@@ -9,7 +9,7 @@ namespace tarn::fuzz {
 
 // A note document made from the bytes, printed by both ladders on the form of a
 // company and establishment that the bytes choose.
-// Only an ErroExecucao may stop a note, and no value may move a line or command
+// Only an RuntimeError may stop a note, and no value may move a line or command
 // the printer.
 void printNotes(std::span<const std::uint8_t> bytes);
 

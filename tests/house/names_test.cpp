@@ -50,7 +50,7 @@ void addSource(NamePlaces& names, std::string_view path, std::string_view cpp) {
 }
 
 // The folders and the file, without what follows a point; a name of one word is
-// judged as the type that such a file holds (sessao.h holds Sessao).
+// judged as the type that such a file holds (`sessao.h` holds `Sessao`).
 void addPath(NamePlaces& names, const std::string& path) {
     std::istringstream parts(path);
     for (std::string part; std::getline(parts, part, '/');) {

@@ -33,7 +33,7 @@ struct Line {
     std::string text;
 };
 
-// The told lines, every other one without a character, and the number of line ends.
+// The given lines, every other one without a character, and the number of line ends.
 void expectPaper(const std::string& stream, std::size_t lineEnds, const std::vector<Line>& told);
 
 // `length` characters from `start`, counted from 1, of a text that doesn't repeat

@@ -168,7 +168,7 @@ TEST(Fault, AnswersLate) {
     EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
 }
 
-// The server ends at once, whoever is still waiting.
+// The server ends at once, even while clients are waiting.
 TEST(Fault, ALateAnswerDoesNotKeepTheServerFromEnding) {
     const auto begin = std::chrono::steady_clock::now();
     std::thread waiting;

@@ -46,7 +46,7 @@ protected:
     }
     static Box nothingTicked() { return inform("Selecione um item na Lista!     "); }
 
-    // A bill of bank 1016, another one's where told.
+    // A bill of bank 1016, another one's where given.
     static std::string line(const std::string& number, const std::string& bank = "1016") {
         return "<z:row SG_FIL='SP' DT_VNC_DOC_FMA='10/04/2012' DC_TIP_DOC='DUPLICATA' NR_DOC='" +
                number +

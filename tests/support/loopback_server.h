@@ -1,5 +1,5 @@
 // A real HTTP server on 127.0.0.1 for tests: own thread, own port, one connection at
-// a time, every one closed after its answer. Answers by a script, misbehaves as told,
+// a time, every one closed after its answer. Answers by a script, misbehaves on request,
 // keeps the raw request lines.
 #pragma once
 
@@ -20,7 +20,7 @@ struct LoopbackReply {
     std::string body;
     std::vector<std::string> headers;  // further header lines, without their line end
     std::size_t missing = 0;           // bytes announced beyond those that come
-    std::size_t streamed = 0;          // blanks sent behind the body, as many as told
+    std::size_t streamed = 0;          // blanks sent behind the body, as many as asked
     bool closesAtOnce = false;         // hangs up without a word
     bool waits = false;                // answers only after release()
 

@@ -34,7 +34,7 @@ public:
     std::string baseUrl() const {
         return "http://127.0.0.1:" + std::to_string(port_) + std::string(practice::pagePath) + "?";
     }
-    // From the next request on; together with the faults told before.
+    // From the next request on; together with the faults set before.
     void fail(std::string_view command, const practice::Fault& fault) {
         const std::scoped_lock lock(mutex_);
         if (!plan_.add(command, fault)) {

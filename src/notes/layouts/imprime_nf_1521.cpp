@@ -1,5 +1,5 @@
 // Form of company 1521: 166 columns, with the total in words and both addresses.
-// Each parcel is a call of its own; the third of a row brings two line ends.
+// Each parcel is a call of its own; the third of a row brings two line ends (decision N23).
 #include "notes/form_check.h"
 #include "notes/form_rows.h"
 #include "notes/layouts/layouts.h"

@@ -1,6 +1,7 @@
 // Form of company 2161 at establishment 3383: products only. Its order references
 // begin twice, the second time with a line end inside the call, which the stated
-// length doesn't count. Of the legal text, characters 249 to 310 never print.
+// length doesn't count (decision N40). Of the legal text, characters 249 to 310 never
+// print (N41).
 #include "notes/form_check.h"
 #include "notes/form_rows.h"
 #include "notes/layouts/layouts.h"

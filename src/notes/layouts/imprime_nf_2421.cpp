@@ -1,6 +1,7 @@
 // The two forms of company 2421: one for establishment 3621, a wider one for the
 // others. Instead of parcels they show the payment condition and the billing address;
-// the pieces of the legal text overlap.
+// the pieces of the legal text overlap (decision N41). The form of 3621 ends without a
+// line end (N54).
 #include "notes/form_check.h"
 #include "notes/form_rows.h"
 #include "notes/layouts/layouts.h"

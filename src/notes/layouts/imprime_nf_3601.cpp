@@ -1,5 +1,5 @@
 // Form of company 3601 and of establishment 5281: wide paper, 160 columns, four numbered
-// parcels to a row.
+// parcels to a row; from parcel 10 on the row grows by its number (decision N22).
 #include "notes/form_check.h"
 #include "notes/form_rows.h"
 #include "notes/layouts/layouts.h"

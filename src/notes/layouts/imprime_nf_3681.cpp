@@ -1,5 +1,6 @@
 // Form of company 3681: wide paper, 160 columns, without boxes for the ICMS of the note.
-// Below the additional data a preprinted sentence takes the tax credit and its rate.
+// Below the additional data a preprinted sentence takes the tax credit and its rate
+// (decision N49).
 #include "notes/form_check.h"
 #include "notes/form_rows.h"
 #include "notes/layouts/layouts.h"

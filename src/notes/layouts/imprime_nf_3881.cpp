@@ -1,6 +1,6 @@
 // Form of company 3881. The recipient, the totals and the carrier print in plain pitch,
-// date, items and parcels condensed; columns count from the left of each call. The
-// parcels stand below the items.
+// date, items and parcels condensed; columns count from the left of each call
+// (decision N8). The parcels print below the items, behind their own control bytes (N27).
 #include "notes/form_check.h"
 #include "notes/form_rows.h"
 #include "notes/layouts/layouts.h"

@@ -1,6 +1,6 @@
 // The two forms of companies 4621 and 541: that of establishment 7321, and a wider one
 // for every other. Each parcel is a call of its own, three of them side by side. The
-// pieces of the legal text overlap by one character.
+// pieces of the legal text overlap by one character (decisions N24, N41).
 #include "notes/form_check.h"
 #include "notes/form_rows.h"
 #include "notes/layouts/layouts.h"

@@ -1,5 +1,6 @@
 // The form of every company without one of its own. It shows no legal text, two
-// addresses below the parcels, and the volumes as the items add up.
+// addresses below the parcels, and the volumes as the items add up. Rates print as they
+// came (decision N32).
 #include "notes/form_check.h"
 #include "notes/form_rows.h"
 #include "notes/layouts/layouts.h"

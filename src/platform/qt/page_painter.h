@@ -10,7 +10,7 @@ class QPrinter;
 
 namespace tarn {
 
-// False when the printer doesn't take the document. `progress` is told of each page
+// False when the printer doesn't take the document. `progress` is called for each page
 // that is done, but not of the end.
 bool paintDocument(QPrinter& printer, std::span<const PrintOperation> document,
                    const Progress& progress);
