@@ -4,13 +4,13 @@
 #include "desk/desk_assembly.h"
 
 int main(int argc, char** argv) {
-    const auto readItems = tarn::readOptions(
+    const auto parsed = tarn::readOptions(
         argc, argv, qEnvironmentVariable("TARN_SERVIDOR").toStdString(), TARN_BASE_URL);
-    if (const auto* stop = std::get_if<tarn::NoStart>(&readItems)) {
+    if (const auto* stop = std::get_if<tarn::NoStart>(&parsed)) {
         std::fputs(stop->text.c_str(), stop->status == 0 ? stdout : stderr);
         return stop->status;
     }
-    const auto& options = std::get<tarn::Options>(readItems);
+    const auto& options = std::get<tarn::Options>(parsed);
     auto printers = tarn::printersOf(options);
     if (!printers.raw) {
         std::fputs(

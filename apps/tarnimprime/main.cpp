@@ -26,8 +26,8 @@ void declareCode(CLI::App& commands, const std::string& name, std::int32_t& code
                  const std::string& description) {
     const auto read = [name, &code](const std::string& text) {
         const char* const end = text.data() + text.size();
-        const auto readValue = std::from_chars(text.data(), end, code);
-        if (readValue.ec != std::errc() || readValue.ptr != end) {
+        const auto parsed = std::from_chars(text.data(), end, code);
+        if (parsed.ec != std::errc() || parsed.ptr != end) {
             throw CLI::ConversionError(name, text);
         }
     };

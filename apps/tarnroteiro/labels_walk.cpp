@@ -11,8 +11,8 @@ constexpr int withSender = 4;
 constexpr int dotMatrix = 2;
 constexpr int firstBranch = 1;
 
-void typeRange(QWidget& screen, const char* de, const char* to) {
-    typeIn(screen, "txtDe", de);
+void typeRange(QWidget& screen, const char* from, const char* to) {
+    typeIn(screen, "txtDe", from);
     typeIn(screen, "txtAte", to);
 }
 

@@ -118,7 +118,7 @@ void frmManutDetOFT::cmdOk_Click() {
         return;
     }
     if (saveOrder(desk_.environment, desk_.session, order)) {
-        emit savedIt();
+        emit saved();
         accept();
     }
 }

@@ -28,7 +28,7 @@ public:
 
 signals:
     // The write was sent: the list must be read again. Comes before the dialog closes.
-    void savedIt();
+    void saved();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

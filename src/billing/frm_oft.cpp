@@ -95,7 +95,7 @@ QSize FrmOFT::sizeHint() const {
 
 void FrmOFT::load() {
     const WaitCursor hourglass;
-    emit loadedIt();
+    emit loaded();
     timer_->start();
     loadSpread();
     ui_->sprDados->setFocus();
@@ -174,7 +174,7 @@ void FrmOFT::cmdDetOFT_Click() {
         return;
     }
     frmManutDetOFT dialog(desk_, *activate, this);
-    connect(&dialog, &frmManutDetOFT::savedIt, this, [this] {
+    connect(&dialog, &frmManutDetOFT::saved, this, [this] {
         loadSpread();
         timer_->start();
     });

@@ -26,7 +26,7 @@ public:
     explicit FrmOFT(DeskContext& desk);
     ~FrmOFT() override;
 
-    // On opening: the desk's menus are disabled (carregou), the list is read.
+    // On opening: the desk's menus are disabled (loaded), the list is read.
     void load();
     // Reads the list anew; selection and scroll position are lost.
     void loadSpread();
@@ -34,7 +34,7 @@ public:
     QSize sizeHint() const override;
 
 signals:
-    void loadedIt();
+    void loaded();
     void closed();
 
 protected:

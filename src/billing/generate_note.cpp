@@ -11,9 +11,9 @@
 namespace tarn {
 namespace {
 
-// The one customer whose notes come out of the reprint screen alone.
-constexpr std::int32_t companyNotANumber = 2161;
-constexpr std::int32_t establishmentNotANumber = 3383;
+// The one customer whose notes come out of the reprint screen alone: decision N58.
+constexpr std::int32_t companyOfReprint = 2161;
+constexpr std::int32_t establishmentOfReprint = 3383;
 
 bool acceptedNotices(Environment& environment, Sessao& session, AlertDialog& alert,
                      const std::string& order) {
@@ -42,22 +42,21 @@ GenerationEnd printGenerated(Environment& environment, const Sessao& session,
              "Aviso");
         return GenerationEnd::Finished;
     }
-    if (document.empty()) {
+    if (document.empty()) {  // the note may exist: decision D50
         throw RuntimeError(RuntimeErrorCode::ObjectRequired);
     }
     if (!answerAccepted(environment, document, "")) {
         return GenerationEnd::Stopped;
     }
-    if (session.NCOMPANYCODE == companyNotANumber &&
-        session.ID_ETB_TARN == establishmentNotANumber) {
+    if (session.NCOMPANYCODE == companyOfReprint && session.ID_ETB_TARN == establishmentOfReprint) {
         throw RuntimeError(RuntimeErrorCode::ObjectRequired);
     }
     print(environment, session, document, note);
     return GenerationEnd::Finished;
 }
 
-GenerationEnd noteQuery(Environment& environment, const Sessao& session, const std::string& order,
-                        const PrintStep& print) {
+GenerationEnd requestNote(Environment& environment, const Sessao& session, const std::string& order,
+                          const PrintStep& print) {
     XmlDocument document;
     if (!requestAnswer(environment, commands::SP_GERA_NF(session, order), document,
                        failure::Tarn0004)) {
@@ -83,7 +82,7 @@ GenerationEnd generateNote(Environment& environment, Sessao& session, AlertDialo
         return GenerationEnd::Stopped;
     }
     try {
-        return noteQuery(environment, session, order, print);
+        return requestNote(environment, session, order, print);
     } catch (const RuntimeError& error) {
         throw ErrorAfterNote(error);
     }

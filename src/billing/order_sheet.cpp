@@ -32,7 +32,7 @@ struct Values {
     double expenses = 0;
     double insurance = 0;
 
-    void sum(const Values& item) {
+    void add(const Values& item) {
         gross += item.gross;
         discount += item.discount;
         ipi += item.ipi;
@@ -47,6 +47,7 @@ struct Values {
     }
     // An item adds its insurance before its expenses, the order the other way round;
     // the last cent may depend on it.
+    // Two orders of adding, two roundings: decision D47.
     double itemNet() const { return upToFreight() + insurance + expenses; }
     double orderNet() const { return upToFreight() + expenses + insurance; }
 };
@@ -71,7 +72,8 @@ double numberOf(const XmlNode& line, std::string_view name) {
     return readPoint(fieldOf(line, name));
 }
 
-// Every field is read, also those that the sheet doesn't print.
+// Every field is read, also those that the sheet doesn't print: a missing one stops the
+// sheet here (decision D44).
 Item readItem(const XmlNode& line) {
     Item item{.code = fieldOf(line, "CD_PRO"),
               .description = fieldOf(line, "DESCRICAO"),
@@ -88,7 +90,7 @@ Item readItem(const XmlNode& line) {
     return item;
 }
 
-// One job, line by line. Nothing of a line goes out before sai().
+// One job, line by line. Nothing of a line goes out before out().
 class OrderSheet {
 public:
     explicit OrderSheet(Environment& environment)
@@ -123,7 +125,7 @@ public:
         line_.append(sheetWidth, stroke);
         out();
     }
-    void isBlank() { blanks(sheetWidth).out(); }
+    void blankLine() { blanks(sheetWidth).out(); }
     void close() { channel_.close(); }
 
 private:
@@ -157,7 +159,7 @@ Values printItems(OrderSheet& sheet, const XmlDocument& document, EndOfLine endO
     const XmlNodeList lines = document.selectNodes("//ITEM");
     for (std::size_t i = 0; i < lines.length(); ++i) {
         const Item item = readItem(lines.item(i));
-        totals.sum(item.values);
+        totals.add(item.values);
         itemStart(sheet, item);
         endOfLine(item);
         sheet.out();
@@ -193,7 +195,8 @@ void printTotals(OrderSheet& sheet, const Values& totals) {
         label(sheet, text);
         sheet.value(value, twoPlaces, totalWidth).out();
     };
-    // The closing bracket stands one column behind the digits of the other totals.
+    // The closing bracket prints one column behind the digits of the other totals (decision
+    // D45).
     const auto discount = [&sheet](std::string_view text, double value) {
         label(sheet, text);
         sheet.inParentheses(value, amountWidth).out();
@@ -237,18 +240,18 @@ void printPriceHeader(OrderSheet& sheet, const XmlDocument& document) {
     sheet.field(header(document, "RAZAO"), 50).blanks(17);
     sheet.field(header(document, "DT_EMS_NF"), 10).out();
     sheet.field(header(document, "VENDEDOR"), 67).out();
-    sheet.isBlank();
+    sheet.blankLine();
     sheet.ruler('-');
 }
 
 void printObservations(OrderSheet& sheet) {
     constexpr int linesToWrite = 4;
-    sheet.isBlank();
-    sheet.isBlank();
+    sheet.blankLine();
+    sheet.blankLine();
     sheet.text("OBS:_________________________________________________________________________")
         .out();
     for (int i = 0; i < linesToWrite; ++i) {
-        sheet.isBlank();
+        sheet.blankLine();
         sheet.ruler('_');
     }
 }
@@ -287,7 +290,7 @@ void ImprimeOrdemFaturamentoPreco(Environment& environment, XmlDocument& documen
     sheet.blanks(totalsColumn);
     sheet.value(totals.orderNet(), twoPlaces, amountWidth).out();
     printParcels(sheet, document, [&sheet] {
-        sheet.isBlank();
+        sheet.blankLine();
         sheet.text("                         ---------------- -------------                      ")
             .out();
     });

@@ -33,9 +33,9 @@ bool isEnter(const QKeyEvent& key) {
 frmCheque::frmCheque(DeskContext& desk, QWidget* parent)
     : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::frmCheque>()) {
     ui_->setupUi(this);
-    wait_.setObjectName(QStringLiteral("Espera"));
+    wait_.setObjectName(QStringLiteral("wait"));
     wait_.setSingleShot(true);
-    connect(&wait_, &QTimer::timeout, this, &frmCheque::Espera_Timer);
+    connect(&wait_, &QTimer::timeout, this, &frmCheque::waitEnded);
     prepareFields();
     prepareButtons();
 }
@@ -150,7 +150,7 @@ void frmCheque::clearFields() {
 
 // Once the focus has settled, and not between the two halves of a click: the second one
 // would be lost to the request.
-void frmCheque::Espera_Timer() {
+void frmCheque::waitEnded() {
     if (QGuiApplication::mouseButtons() != Qt::NoButton ||
         QApplication::activePopupWidget() != nullptr) {
         wait_.start(clickWait);

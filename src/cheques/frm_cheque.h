@@ -42,7 +42,7 @@ private:
     bool refused(const std::optional<ChequeRefusal>& refuse);
     void clearFields();
 
-    void Espera_Timer();
+    void waitEnded();
     void checkNumber();
     void checkBeforeClick();
     void cmdImprimir_Click();

@@ -47,8 +47,8 @@ std::string cell(const RowRead& line, const GridField& field) {
     return std::string(text);
 }
 
-GridRow rowOf(const XmlNode& no, std::span<const GridField> fields) {
-    const XmlAttributes attributes = no.attributes();
+GridRow rowOf(const XmlNode& node, std::span<const GridField> fields) {
+    const XmlAttributes attributes = node.attributes();
     const RowRead read{.attributes = attributes,
                        .naturalPerson = isNaturalPerson(textOf(attributes, "PES_JUR")),
                        .receivable = textOf(attributes, "TIPO_DOCTO") == "DOCTO_RECEBER"};

@@ -17,9 +17,9 @@ namespace tarn {
 FrmLogon::FrmLogon(DeskContext& desk, QWidget* parent)
     : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::FrmLogon>()) {
     ui_->setupUi(this);
-    ui_->lblFabricante->setText(QString::fromUtf8(makerName));
+    ui_->lblMaker->setText(QString::fromUtf8(makerName));
     const int side = fontMetrics().height() * 5 / 2;
-    ui_->imgPrograma->setPixmap(windowIcon().pixmap(QSize(side, side), devicePixelRatio()));
+    ui_->imgProgram->setPixmap(windowIcon().pixmap(QSize(side, side), devicePixelRatio()));
     for (QLineEdit* field : {ui_->txtEmpresa, ui_->txtUsuario}) {
         field->installEventFilter(this);
         field->setMinimumWidth(field->fontMetrics().averageCharWidth() * 32);

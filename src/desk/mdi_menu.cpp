@@ -114,6 +114,7 @@ bool MDIMenu::hasRight(const char* transaction) {
     return VerificaDireitoAcesso(desk_.environment, desk_.session, transaction);
 }
 
+// Only a modal screen of the menu activates the desk again: decision D98.
 void MDIMenu::runModal(QDialog& screen) {
     screen.exec();
     if (!desk_.end.ended()) {
@@ -149,7 +150,7 @@ void MDIMenu::note(const char* transaction, NoteJob job) {
 template <typename Screen>
 void MDIMenu::openInArea(Screen* screen) {
     screen->setAttribute(Qt::WA_DeleteOnClose);
-    connect(screen, &Screen::loadedIt, this, &MDIMenu::lockMenus);
+    connect(screen, &Screen::loaded, this, &MDIMenu::lockMenus);
     connect(screen, &Screen::closed, this, &MDIMenu::LiberaMenus);
     QMdiSubWindow* window = ui_->mdiArea->addSubWindow(
         screen, Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |

@@ -47,8 +47,8 @@ bool load(Environment& environment, const std::string& url, XmlDocument& documen
 }  // namespace
 
 bool CarregaXML(Environment& environment, const std::string& url, XmlDocument& document,
-                bool /*assincrono*/, const std::string& fileName, int writesFile,
-                const std::string& /*reservado*/, const std::string& failureMessage) {
+                bool /*asynchronous*/, const std::string& fileName, int writesFile,
+                const std::string& /*reserved*/, const std::string& failureMessage) {
     const bool wantsCopy = !fileName.empty() && writesFile > 0;
     try {
         return load(environment, url, document, wantsCopy ? copyName(fileName) : "",

@@ -295,11 +295,11 @@ std::string sel_etiquetas(const Sessao& session, std::string_view reason) {
                                            {"&ServerName=", session.SERVERNAME}});
 }
 
-std::string sel_etiquetas(const Sessao& session, std::string_view reason, std::string_view de,
+std::string sel_etiquetas(const Sessao& session, std::string_view reason, std::string_view from,
                           std::string_view to) {
     return query("comando=sel_etiquetas", {{"&ID_EMP_TARN=", session.NCOMPANYCODE},
                                            {"&sDc_Mot_Imp=", reason},
-                                           {"&nSeq_De=", typedNumber(de)},
+                                           {"&nSeq_De=", typedNumber(from)},
                                            {"&nSeq_Ate=", typedNumber(to)},
                                            {"&ServerName=", session.SERVERNAME}});
 }
@@ -316,10 +316,10 @@ std::string sel_filiais_remetente(const Sessao& session) {
                                                    {"&ServerName=", session.SERVERNAME}});
 }
 
-std::string exclui_etiquetas(const Sessao& session, std::string_view reason, std::string_view de,
+std::string exclui_etiquetas(const Sessao& session, std::string_view reason, std::string_view from,
                              std::string_view to) {
     return query("comando=exclui_etiquetas", {{"&ID_EMP_TARN=", session.NCOMPANYCODE},
-                                              {"&nSeq_De=", typedNumber(de)},
+                                              {"&nSeq_De=", typedNumber(from)},
                                               {"&nSeq_Ate=", typedNumber(to)},
                                               {"&nId_Motivo=", reason},
                                               {"&ServerName=", session.SERVERNAME}});

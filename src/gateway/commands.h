@@ -74,7 +74,8 @@ struct Slip {
     std::string_view bankNumber = {};
 };
 std::string altera_docto_cob(const Sessao& session, const Slip& slip);
-// One of the two layouts that send it spells the control number's key its own way.
+// One of the two layouts that send it spells the control number's key its own way;
+// keys keep their spelling (decision D18).
 enum class ControlKey { ID_NR_CTL, ID_NR_CLT };
 std::string altera_docto_rec(const Sessao& session, const Slip& slip, ControlKey key);
 std::string insere_car_cob(const Sessao& session, const Slip& slip);
@@ -98,14 +99,14 @@ std::string seleciona_um_controle_cheque_emitido(const Sessao& session, const Ch
 // All texts go trimmed; series, payee and purpose in capitals.
 std::string adiciona_controle_cheque_emitido(const Sessao& session, const Cheque& cheque);
 
-// Labels. A range's ends are converted to numbers and back: TipoIncompativel for a
+// Labels. A range's ends are converted to numbers and back: TypeMismatch for a
 // text that is none.
 std::string sel_etiquetas(const Sessao& session, std::string_view reason);  // the whole queue
-std::string sel_etiquetas(const Sessao& session, std::string_view reason, std::string_view de,
+std::string sel_etiquetas(const Sessao& session, std::string_view reason, std::string_view from,
                           std::string_view to);
 std::string sel_motivos(const Sessao& session);
 std::string sel_filiais_remetente(const Sessao& session);
-std::string exclui_etiquetas(const Sessao& session, std::string_view reason, std::string_view de,
+std::string exclui_etiquetas(const Sessao& session, std::string_view reason, std::string_view from,
                              std::string_view to);
 std::string sel_dados_remetente(const Sessao& session, std::int32_t senderBranch);
 

@@ -9,9 +9,9 @@ namespace {
 
 // The presence test ignores the case of letters and the prefix; the lookup that
 // follows ignores neither. Null: absent.
-XmlAttribute find(const XmlNode& no, std::size_t index, std::string_view name,
+XmlAttribute find(const XmlNode& node, std::size_t index, std::string_view name,
                   std::string_view queryName) {
-    const XmlAttributes attributes = no.child(index).attributes();
+    const XmlAttributes attributes = node.child(index).attributes();
     const XmlAttribute match = attributes.firstWithBaseName(name);
     if (!match || match.name() == queryName) {
         return match;
@@ -23,30 +23,30 @@ XmlAttribute find(const XmlNode& no, std::size_t index, std::string_view name,
     return queried;
 }
 
-bool isNumericReading(const Amount& fallback) {
+bool isNumericReading(const AttributeValue& fallback) {
     const double* number = std::get_if<double>(&fallback);
     return number != nullptr && *number == 0.0;
 }
 
 }  // namespace
 
-Amount PegaValor(const XmlNode& no, std::size_t index, std::string_view name,
-                 const Amount& fallback) {
+AttributeValue PegaValor(const XmlNode& node, std::size_t index, std::string_view name,
+                         const AttributeValue& fallback) {
     if (isNumericReading(fallback)) {
-        const XmlAttribute attribute = find(no, index, name, asciiUpper(name));
-        return attribute ? Amount(pointToComma(attribute.text())) : fallback;
+        const XmlAttribute attribute = find(node, index, name, asciiUpper(name));
+        return attribute ? AttributeValue(pointToComma(attribute.text())) : fallback;
     }
-    const XmlAttribute attribute = find(no, index, name, name);
-    return attribute ? Amount(std::string(attribute.text())) : fallback;
+    const XmlAttribute attribute = find(node, index, name, name);
+    return attribute ? AttributeValue(std::string(attribute.text())) : fallback;
 }
 
-std::string textAttribute(const XmlNode& no, std::size_t index, std::string_view name) {
-    const XmlAttribute attribute = find(no, index, name, name);
+std::string textAttribute(const XmlNode& node, std::size_t index, std::string_view name) {
+    const XmlAttribute attribute = find(node, index, name, name);
     return attribute ? std::string(attribute.text()) : std::string();
 }
 
-std::string numberAttribute(const XmlNode& no, std::size_t index, std::string_view name) {
-    const XmlAttribute attribute = find(no, index, name, asciiUpper(name));
+std::string numberAttribute(const XmlNode& node, std::size_t index, std::string_view name) {
+    const XmlAttribute attribute = find(node, index, name, asciiUpper(name));
     return attribute ? pointToComma(attribute.text()) : "0";
 }
 

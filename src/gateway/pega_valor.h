@@ -14,20 +14,20 @@
 
 namespace tarn {
 
-// What a read gives back: the padrao of whichever type was passed, or a text.
-using Amount = std::variant<std::string, double>;
+// What a read gives back: the default value of whichever type was passed, or a text.
+using AttributeValue = std::variant<std::string, double>;
 
-// `index` counts the element children of `no` from 0. A padrao equal to the
+// `index` counts the element children of `node` from 0. A default equal to the
 // number 0 makes the read numeric: looked up by the upper-cased name, "." turned
-// into ",". Any other padrao makes it a text read, looked up by the name exactly
-// as given. Absent in any case of letters: the padrao as passed. Present in another
-// case than the lookup's, or no such row: ErroExecucao VariavelObjeto.
-Amount PegaValor(const XmlNode& no, std::size_t index, std::string_view name,
-                 const Amount& fallback);
+// into ",". Any other default makes it a text read, looked up by the name exactly
+// as given. Absent in any case of letters: the default as passed. Present in another
+// case than the lookup's, or no such row: RuntimeError ObjectVariable.
+AttributeValue PegaValor(const XmlNode& node, std::size_t index, std::string_view name,
+                         const AttributeValue& fallback);
 
 // The two readings in use, as text: absent gives "" and "0".
-std::string textAttribute(const XmlNode& no, std::size_t index, std::string_view name);
-std::string numberAttribute(const XmlNode& no, std::size_t index, std::string_view name);
+std::string textAttribute(const XmlNode& node, std::size_t index, std::string_view name);
+std::string numberAttribute(const XmlNode& node, std::size_t index, std::string_view name);
 
 // The names of a row's fields, found without regard to the case of letters. Made
 // once for any number of readers.
@@ -62,10 +62,10 @@ public:
     explicit RowReader(std::span<const std::string_view> names)
         : RowReader(std::make_shared<const RowNames>(names)) {}
 
-    // Goes to a row. VariavelObjeto for a null one. What was read of the row before
+    // Goes to a row. ObjectVariable for a null one. What was read of the row before
     // is no longer valid.
     void read(const XmlNode& line);
-    void read(const XmlNode& no, std::size_t index) { read(no.child(index)); }
+    void read(const XmlNode& node, std::size_t index) { read(node.child(index)); }
 
     // `field` is the place of the name in `names`. Results live until the next row.
     bool present(std::size_t field) const { return matches_[field].turn == turn_; }
@@ -101,8 +101,8 @@ private:
     XmlNode line_;
 };
 
-// Text of the second attribute of the document's second child; ErroExecucao
-// VariavelObjeto when there is none (no declaration, one attribute only).
+// Text of the second attribute of the document's second child; RuntimeError
+// ObjectVariable when there is none (no declaration, one attribute only).
 std::string statusOf(const XmlDocument& document);
 
 }  // namespace tarn

@@ -16,8 +16,8 @@ constexpr const char* rangeNotANumber =
 }  // namespace
 
 Deletion deleteLabels(Environment& environment, const Sessao& session, const std::string& reason,
-                      const std::string& de, const std::string& to) {
-    if (de.empty()) {
+                      const std::string& from, const std::string& to) {
+    if (from.empty()) {
         inform(environment, "De é um campo obrigatório!  ");
         return Deletion::MissingFrom;
     }
@@ -27,12 +27,13 @@ Deletion deleteLabels(Environment& environment, const Sessao& session, const std
     }
     std::string query;
     try {
-        query = commands::exclui_etiquetas(session, reason, de, to);
+        query = commands::exclui_etiquetas(session, reason, from, to);
     } catch (const RuntimeError& error) {
         reportError(environment, error, rangeNotANumber);
         return Deletion::NotANumber;
     }
     XmlDocument answer;
+    // Success whatever became of it: decision D96.
     requestAnswer(environment, query, answer, failure::Tarn0009);
     inform(environment, "Etiquetas excluídas com sucesso!     ");
     return Deletion::Sent;

@@ -10,12 +10,12 @@ struct Sessao;
 
 namespace tarn::labels {
 
-// Enviada: the request was made and success told, whatever became of it; the queue, read
-// anew, tells the truth. Otherwise nothing was sent and the user told why.
+// Sent: the request was made and success shown, whatever became of it; the queue, read
+// anew, shows the truth. Otherwise nothing was sent and the user has been told why.
 enum class Deletion { Sent, MissingFrom, MissingTo, NotANumber };
 
 // The ends of the range are sequence numbers as they were typed.
 Deletion deleteLabels(Environment& environment, const Sessao& session, const std::string& reason,
-                      const std::string& de, const std::string& to);
+                      const std::string& from, const std::string& to);
 
 }  // namespace tarn::labels

@@ -45,10 +45,10 @@ void frmExcluirEtiqueta::activate() {
 }
 
 void frmExcluirEtiqueta::cmdOk_Click() {
-    const std::string de = ui_->txtDe->text().toStdString();
+    const std::string from = ui_->txtDe->text().toStdString();
     const std::string to = ui_->txtAte->text().toStdString();
     switch (
-        labels::deleteLabels(desk_.environment, desk_.session, values_.MotivoImpressao, de, to)) {
+        labels::deleteLabels(desk_.environment, desk_.session, values_.MotivoImpressao, from, to)) {
         case labels::Deletion::MissingFrom:
             ui_->txtDe->setFocus();
             break;

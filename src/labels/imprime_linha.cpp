@@ -11,6 +11,7 @@ constexpr double halfCentimetre = 0.5;
 
 }  // namespace
 
+// CR LF between the lines, where the other box has character 13 alone: decision D97.
 void showFailure(Environment& environment, const std::optional<PrinterFailure>& failure) {
     if (failure) {
         environment.boxes.show({.text = "Descrição :" + failure->description +
@@ -19,7 +20,7 @@ void showFailure(Environment& environment, const std::optional<PrinterFailure>& 
 }
 
 void ImprimeLinha(Environment& environment, std::string_view text, double x, double y, bool bold,
-                  double size, std::string_view font, bool /*reservado*/, bool exactPosition) {
+                  double size, std::string_view font, bool /*reserved*/, bool exactPosition) {
     Printer& printer = environment.printer;
     printer.FontName = font;
     printer.FontSize = size;

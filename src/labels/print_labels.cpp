@@ -57,7 +57,7 @@ void printDocument(Environment& environment, const Progress& progress) {
 }
 
 // The raw channel is closed along with the drawn document, open or not.
-void endProgram(Environment& environment, LabelForm form, const Progress& progress) {
+void endDocument(Environment& environment, LabelForm form, const Progress& progress) {
     if (form != LabelForm::A4WithSender) {
         showFailure(environment, environment.printer.NewPage());
     }
@@ -69,7 +69,7 @@ void endProgram(Environment& environment, LabelForm form, const Progress& progre
 std::optional<std::string> queryOf(const Range& range, Environment& environment,
                                    const Sessao& session, const std::string& reason) {
     try {
-        return commands::sel_etiquetas(session, reason, range.de, range.to);
+        return commands::sel_etiquetas(session, reason, range.from, range.to);
     } catch (const RuntimeError& error) {
         reportError(environment, error, rangeNotANumber);
         return std::nullopt;
@@ -139,7 +139,7 @@ void printLabels(Environment& environment, LabelForm form, const PrintRun& run,
         return inform(environment, " Não há Etiquetas nesse intervalo!   ");
     }
     inform(environment, " Etiquetas impressas com sucesso!   ");
-    endProgram(environment, form, progress);
+    endDocument(environment, form, progress);
 }
 
 }  // namespace tarn::labels

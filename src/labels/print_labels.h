@@ -36,7 +36,7 @@ struct PrintRun {
 
 // Sequence numbers as they were typed.
 struct Range {
-    std::string de;
+    std::string from;
     std::string to;
 };
 

@@ -64,7 +64,7 @@ PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, const PaintOpti
     resize(1100, 780);
     questions_ = askTheUser(this);
     view_ = new PaperView(roll_, this);
-    view_->setObjectName(QStringLiteral("papel"));
+    view_->setObjectName(QStringLiteral("paper"));
     setCentralWidget(view_);
     makeActions();
     makeSearchBar();
@@ -100,12 +100,12 @@ void PrinterWindow::setWaitingText(const QString& text) {
 }
 
 QWidget* PrinterWindow::errorBox() const {
-    return findChild<QMessageBox*>(QStringLiteral("aviso"));
+    return findChild<QMessageBox*>(QStringLiteral("notice"));
 }
 
 void PrinterWindow::complain(const QString& text) {
     auto* box = new QMessageBox(QMessageBox::Warning, windowTitle(), text, QMessageBox::Ok, this);
-    box->setObjectName(QStringLiteral("aviso"));
+    box->setObjectName(QStringLiteral("notice"));
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
@@ -150,7 +150,7 @@ void PrinterWindow::writeOut(
     const QString& what, const std::function<std::optional<QString>(const WriteProgress&)>& write) {
     QProgressDialog progress(what, QStringLiteral("Interromper"), 0,
                              static_cast<int>(roll_.printedForms()), this);
-    progress.setObjectName(QStringLiteral("andamento"));
+    progress.setObjectName(QStringLiteral("progress"));
     progress.setWindowTitle(windowTitle());
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(progressAfter);

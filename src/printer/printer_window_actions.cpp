@@ -34,16 +34,16 @@ QAction* PrinterWindow::command(const char* name, const QString& text, const QKe
 
 void PrinterWindow::makeActions() {
     tools_ = addToolBar(QStringLiteral("Comandos"));
-    tools_->setObjectName(QStringLiteral("comandos"));
+    tools_->setObjectName(QStringLiteral("commands"));
     tools_->setMovable(false);
     tools_->setToolButtonStyle(Qt::ToolButtonTextOnly);
     logText_ = new QPlainTextEdit(this);
-    logText_->setObjectName(QStringLiteral("registro"));
+    logText_->setObjectName(QStringLiteral("log"));
     logText_->setAccessibleName(QStringLiteral("Registro da impressora"));
     logText_->setReadOnly(true);
     logText_->setMaximumBlockCount(logLines);
     logDock_ = new QDockWidget(QStringLiteral("Registro"), this);
-    logDock_->setObjectName(QStringLiteral("painelRegistro"));
+    logDock_->setObjectName(QStringLiteral("logPanel"));
     logDock_->setWidget(logText_);
     addDockWidget(Qt::BottomDockWidgetArea, logDock_);
     logDock_->hide();
@@ -55,29 +55,29 @@ void PrinterWindow::makeActions() {
 
 void PrinterWindow::makeFileActions() {
     QMenu* menu = menuBar()->addMenu(QStringLiteral("&Arquivo"));
-    menu->setObjectName(QStringLiteral("menuArquivo"));
-    menu->addAction(command("abrir", QStringLiteral("&Abrir trabalho..."), QKeySequence::Open,
+    menu->setObjectName(QStringLiteral("fileMenu"));
+    menu->addAction(command("open", QStringLiteral("&Abrir trabalho..."), QKeySequence::Open,
                             QStringLiteral("Imprime trabalhos gravados (.prn) neste papel"),
                             &PrinterWindow::openJobs));
     menu->addSeparator();
-    auto* pdf = command("salvarPdf", QStringLiteral("Salvar &PDF..."), QKeySequence::Save,
+    auto* pdf = command("savePdf", QStringLiteral("Salvar &PDF..."), QKeySequence::Save,
                         QStringLiteral("Grava todo o papel em PDF, uma página por formulário"),
                         &PrinterWindow::savePdf);
     menu->addAction(pdf);
-    menu->addAction(command("salvarPng", QStringLiteral("Salvar &figuras (PNG)..."),
+    menu->addAction(command("savePng", QStringLiteral("Salvar &figuras (PNG)..."),
                             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
                             QStringLiteral("Grava todo o papel em figuras, uma por formulário"),
                             &PrinterWindow::savePng));
-    menu->addAction(command("salvarTexto", QStringLiteral("Salvar &texto..."), {},
+    menu->addAction(command("saveText", QStringLiteral("Salvar &texto..."), {},
                             QStringLiteral("Grava todo o papel como texto"),
                             &PrinterWindow::saveText));
-    auto* print = command("imprimir", QStringLiteral("&Imprimir..."), QKeySequence::Print,
+    auto* print = command("print", QStringLiteral("&Imprimir..."), QKeySequence::Print,
                           QStringLiteral("Imprime o papel em uma impressora da máquina"),
                           &PrinterWindow::printOut);
     menu->addAction(print);
     menu->addSeparator();
     auto* quit = new QAction(QStringLiteral("&Sair"), this);
-    quit->setObjectName(QStringLiteral("sair"));
+    quit->setObjectName(QStringLiteral("quit"));
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     connect(quit, &QAction::triggered, this, &QWidget::close);
     menu->addAction(quit);
@@ -86,27 +86,28 @@ void PrinterWindow::makeFileActions() {
     tools_->addSeparator();
 
     QMenu* edit = menuBar()->addMenu(QStringLiteral("&Editar"));
-    edit->setObjectName(QStringLiteral("menuEditar"));
-    auto* copy = command("copiar", QStringLiteral("&Copiar"), QKeySequence::Copy,
+    edit->setObjectName(QStringLiteral("editMenu"));
+    auto* copy = command("copy", QStringLiteral("&Copiar"), QKeySequence::Copy,
                          QStringLiteral("Copia como texto a região marcada com o mouse"),
                          &PrinterWindow::copyText);
     copy->setEnabled(false);
     connect(view_, &PaperView::selected, copy, &QAction::setEnabled);
     edit->addAction(copy);
-    edit->addAction(command("marcarFormulario", QStringLiteral("&Marcar o formulário"),
+    edit->addAction(command("selectForm", QStringLiteral("&Marcar o formulário"),
                             QKeySequence::SelectAll,
                             QStringLiteral("Marca o formulário que está no meio da janela"),
                             &PrinterWindow::selectForm));
     edit->addSeparator();
-    auto* search = command("localizar", QStringLiteral("&Localizar..."), QKeySequence::Find,
+    auto* search = command("find", QStringLiteral("&Localizar..."), QKeySequence::Find,
                            QStringLiteral("Procura um texto no papel"), &PrinterWindow::find);
     edit->addAction(search);
-    edit->addAction(command("proxima", QStringLiteral("&Próxima ocorrência"),
+    edit->addAction(command("findNext", QStringLiteral("&Próxima ocorrência"),
                             QKeySequence(Qt::Key_F3), QStringLiteral("Procura dali para baixo"),
                             &PrinterWindow::findNext));
-    edit->addAction(command(
-        "anterior", QStringLiteral("Ocorrência &anterior"), QKeySequence(Qt::SHIFT | Qt::Key_F3),
-        QStringLiteral("Procura dali para cima"), &PrinterWindow::findPrevious));
+    edit->addAction(command("findPrevious", QStringLiteral("Ocorrência &anterior"),
+                            QKeySequence(Qt::SHIFT | Qt::Key_F3),
+                            QStringLiteral("Procura dali para cima"),
+                            &PrinterWindow::findPrevious));
     tools_->addAction(copy);
     tools_->addAction(search);
     tools_->addSeparator();
@@ -114,20 +115,18 @@ void PrinterWindow::makeFileActions() {
 
 void PrinterWindow::makePaperActions() {
     QMenu* menu = menuBar()->addMenu(QStringLiteral("&Papel"));
-    menu->setObjectName(QStringLiteral("menuPapel"));
-    auto* before = command("trabalhoAnterior", QStringLiteral("Trabalho &anterior"),
+    menu->setObjectName(QStringLiteral("paperMenu"));
+    auto* before = command("previousJob", QStringLiteral("Trabalho &anterior"),
                            QKeySequence(Qt::CTRL | Qt::Key_PageUp),
                            QStringLiteral("Mostra o começo do trabalho anterior"),
                            &PrinterWindow::previousJob);
-    auto* next =
-        command("proximoTrabalho", QStringLiteral("&Próximo trabalho"),
-                QKeySequence(Qt::CTRL | Qt::Key_PageDown),
-                QStringLiteral("Mostra o começo do próximo trabalho"), &PrinterWindow::nextJob);
-    auto* tear =
-        command("destacar", QStringLiteral("&Destacar"), QKeySequence(Qt::CTRL | Qt::Key_D),
-                QStringLiteral("Destaca o papel impresso na próxima picotagem; a "
-                               "impressora continua em um formulário novo"),
-                &PrinterWindow::tearOff);
+    auto* next = command(
+        "nextJob", QStringLiteral("&Próximo trabalho"), QKeySequence(Qt::CTRL | Qt::Key_PageDown),
+        QStringLiteral("Mostra o começo do próximo trabalho"), &PrinterWindow::nextJob);
+    auto* tear = command("tearOff", QStringLiteral("&Destacar"), QKeySequence(Qt::CTRL | Qt::Key_D),
+                         QStringLiteral("Destaca o papel impresso na próxima picotagem; a "
+                                        "impressora continua em um formulário novo"),
+                         &PrinterWindow::tearOff);
     menu->addActions({before, next});
     menu->addSeparator();
     menu->addAction(tear);
@@ -137,21 +136,21 @@ void PrinterWindow::makePaperActions() {
 
 void PrinterWindow::makeViewActions() {
     QMenu* menu = menuBar()->addMenu(QStringLiteral("E&xibir"));
-    menu->setObjectName(QStringLiteral("menuExibir"));
-    auto* in = command("aumentar", QStringLiteral("&Aumentar"), QKeySequence::ZoomIn,
+    menu->setObjectName(QStringLiteral("viewMenu"));
+    auto* in = command("larger", QStringLiteral("&Aumentar"), QKeySequence::ZoomIn,
                        QStringLiteral("Mostra o papel maior"), &PrinterWindow::zoomIn);
-    auto* out = command("diminuir", QStringLiteral("&Diminuir"), QKeySequence::ZoomOut,
+    auto* out = command("smaller", QStringLiteral("&Diminuir"), QKeySequence::ZoomOut,
                         QStringLiteral("Mostra o papel menor"), &PrinterWindow::zoomOut);
     menu->addActions({in, out});
     menu->addAction(
-        command("tamanhoReal", QStringLiteral("&Tamanho real"), QKeySequence(Qt::CTRL | Qt::Key_0),
+        command("realSize", QStringLiteral("&Tamanho real"), QKeySequence(Qt::CTRL | Qt::Key_0),
                 QStringLiteral("Mostra o papel em tamanho real"), &PrinterWindow::trueSize));
     menu->addAction(command(
-        "larguraDaJanela", QStringLiteral("&Largura da janela"), QKeySequence(Qt::CTRL | Qt::Key_1),
+        "windowWidth", QStringLiteral("&Largura da janela"), QKeySequence(Qt::CTRL | Qt::Key_1),
         QStringLiteral("Mostra a largura toda do papel"), &PrinterWindow::fitWidth));
     menu->addSeparator();
     auto* ruler = new QAction(QStringLiteral("&Régua"), this);
-    ruler->setObjectName(QStringLiteral("regua"));
+    ruler->setObjectName(QStringLiteral("ruler"));
     ruler->setCheckable(true);
     ruler->setChecked(options_.ruler);
     ruler->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
@@ -161,7 +160,7 @@ void PrinterWindow::makeViewActions() {
         view_->setOptions(options_);
     });
     auto* bands = new QAction(QStringLiteral("Papel &zebrado"), this);
-    bands->setObjectName(QStringLiteral("zebrado"));
+    bands->setObjectName(QStringLiteral("bands"));
     bands->setCheckable(true);
     bands->setChecked(options_.bands);
     connect(bands, &QAction::toggled, this, [this](bool on) {
@@ -170,7 +169,7 @@ void PrinterWindow::makeViewActions() {
     });
     menu->addActions({ruler, bands});
     menu->addAction(
-        command("verRegistro", QStringLiteral("Re&gistro"), QKeySequence(Qt::Key_F8),
+        command("showLog", QStringLiteral("Re&gistro"), QKeySequence(Qt::Key_F8),
                 QStringLiteral("Mostra o que a impressora não imprimiu, e os trabalhos"),
                 &PrinterWindow::showLog));
     tools_->addActions({in, out, ruler});
@@ -178,13 +177,13 @@ void PrinterWindow::makeViewActions() {
 
 void PrinterWindow::makeFormMenu() {
     QMenu* menu = menuBar()->addMenu(QStringLiteral("&Formulário"));
-    menu->setObjectName(QStringLiteral("menuFormulario"));
+    menu->setObjectName(QStringLiteral("formMenu"));
     forms_ = new QActionGroup(this);
     const auto add = [this, menu](const QString& text, const QString& form) {
         QAction* action = menu->addAction(text);
         action->setCheckable(true);
         action->setData(form);
-        action->setObjectName(QStringLiteral("formulario_") + form);
+        action->setObjectName(QStringLiteral("form_") + form);
         forms_->addAction(action);
         return action;
     };
@@ -195,7 +194,7 @@ void PrinterWindow::makeFormMenu() {
         add(form, form);
     }
     menu->addSeparator();
-    formOfFile_ = add(QStringLiteral("De um &arquivo..."), QStringLiteral("arquivo"));
+    formOfFile_ = add(QStringLiteral("De um &arquivo..."), QStringLiteral("file"));
     chosenForm_ = blank;
     if (options_.design) {
         const QString present = QString::fromStdString(options_.design->name);
@@ -212,16 +211,16 @@ void PrinterWindow::makeFormMenu() {
 
 void PrinterWindow::makeSearchBar() {
     searchBar_ = new QToolBar(QStringLiteral("Localizar"), this);
-    searchBar_->setObjectName(QStringLiteral("barraLocalizar"));
+    searchBar_->setObjectName(QStringLiteral("searchBar"));
     searchBar_->setMovable(false);
     auto* label = new QLabel(QStringLiteral(" &Localizar: "), this);
     searchText_ = new QLineEdit(this);
-    searchText_->setObjectName(QStringLiteral("textoLocalizar"));
+    searchText_->setObjectName(QStringLiteral("searchText"));
     searchText_->setMaximumWidth(280);
     searchText_->setClearButtonEnabled(true);
     label->setBuddy(searchText_);
     searchResult_ = new QLabel(this);
-    searchResult_->setObjectName(QStringLiteral("resultadoLocalizar"));
+    searchResult_->setObjectName(QStringLiteral("searchResult"));
     searchResult_->setTextFormat(Qt::PlainText);
     searchResult_->setContentsMargins(8, 0, 0, 0);
     searchBar_->addWidget(label);
@@ -241,12 +240,12 @@ void PrinterWindow::makeSearchBar() {
 
 void PrinterWindow::makeStatusBar() {
     waitingText_ = new QLabel(this);
-    waitingText_->setObjectName(QStringLiteral("espera"));
+    waitingText_->setObjectName(QStringLiteral("waiting"));
     waitingText_->setTextFormat(Qt::PlainText);
     spotText_ = new QLabel(this);
-    spotText_->setObjectName(QStringLiteral("posicao"));
+    spotText_->setObjectName(QStringLiteral("position"));
     countText_ = new QLabel(this);
-    countText_->setObjectName(QStringLiteral("contagem"));
+    countText_->setObjectName(QStringLiteral("count"));
     statusBar()->addWidget(waitingText_, 1);
     statusBar()->addPermanentWidget(spotText_);
     statusBar()->addPermanentWidget(countText_);

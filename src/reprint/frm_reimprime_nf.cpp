@@ -99,7 +99,7 @@ void FrmReImprimeNF::prepareButtons() {
 
 void FrmReImprimeNF::load() {
     const WaitCursor hourglass;
-    emit loadedIt();
+    emit loaded();
     fillLists();
     ui_->cboSerie->setFocus();
 }

@@ -23,11 +23,11 @@ public:
     FrmReImprimeNF(DeskContext& desk, NoteJob job);
     ~FrmReImprimeNF() override;
 
-    // On opening: the desk's menus are disabled (carregou), the two lists are read.
+    // On opening: the desk's menus are disabled (loaded), the two lists are read.
     void load();
 
 signals:
-    void loadedIt();
+    void loaded();
     void closed();
 
 protected:

@@ -23,19 +23,19 @@ ProgressWindow::ProgressWindow(QWidget& screen) : screen_(screen) {
 ProgressWindow::~ProgressWindow() = default;
 
 Progress ProgressWindow::notices() {
-    return [this](std::size_t doneRows, std::size_t total) { report(doneRows, total); };
+    return [this](std::size_t done, std::size_t total) { report(done, total); };
 }
 
-void ProgressWindow::report(std::size_t doneRows, std::size_t total) {
-    const bool end = doneRows >= total;
+void ProgressWindow::report(std::size_t done, std::size_t total) {
+    const bool end = done >= total;
     const bool opened = !end && !window_ && (total >= many || start_.elapsed() >= delayMs);
     if (opened) {
         open();
     }
     if (window_) {
         bar_->setRange(0, static_cast<int>(total));
-        bar_->setValue(static_cast<int>(doneRows));
-        text_->setText(QStringLiteral("Imprimindo: %1 de %2").arg(doneRows).arg(total));
+        bar_->setValue(static_cast<int>(done));
+        text_->setText(QStringLiteral("Imprimindo: %1 de %2").arg(done).arg(total));
     }
     if (opened || end || painting_.elapsed() >= intervalMs) {
         repaint();
@@ -48,13 +48,13 @@ void ProgressWindow::report(std::size_t doneRows, std::size_t total) {
 void ProgressWindow::open() {
     window_ = std::make_unique<QWidget>(&screen_,
                                         Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
-    window_->setObjectName(QStringLiteral("andamento"));
+    window_->setObjectName(QStringLiteral("progress"));
     window_->setWindowTitle(QStringLiteral("Impressão"));
     auto* column = new QVBoxLayout(window_.get());
     text_ = new QLabel(window_.get());
-    text_->setObjectName(QStringLiteral("lblAndamento"));
+    text_->setObjectName(QStringLiteral("lblProgress"));
     bar_ = new QProgressBar(window_.get());
-    bar_->setObjectName(QStringLiteral("barAndamento"));
+    bar_->setObjectName(QStringLiteral("barProgress"));
     bar_->setAccessibleName(QStringLiteral("Andamento da impressão"));
     bar_->setMinimumWidth(barWidth * window_->fontMetrics().averageCharWidth());
     column->addWidget(text_);

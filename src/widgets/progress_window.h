@@ -15,7 +15,7 @@ class QWidget;
 
 namespace tarn {
 
-// Lives as long as the run. While it is told of progress the program's windows
+// Lives as long as the run. While it shows progress the program's windows
 // repaint, what is typed and clicked is discarded and no timer of a screen fires. Its
 // window comes at once for many items, otherwise when the run has lasted a while, and
 // goes at the end. A message box shown by the run itself works as ever.
@@ -30,7 +30,7 @@ public:
     Progress notices();
 
 private:
-    void report(std::size_t doneRows, std::size_t total);
+    void report(std::size_t done, std::size_t total);
     void open();
     void close();
     void repaint();

@@ -26,10 +26,10 @@ class TarnimprimeBills : public Tarnimprime {
 protected:
     Result print(const std::vector<std::string>& more = {}) const {
         std::vector<std::string> words = {
-            "duplicatas", "--empresa",   "1361",      "--dados", billData("empresa.xml"),
+            "duplicatas", "--empresa",   "1361",      "--dados", billData("company.xml"),
             "--destino",  file("papel"), "--formato", "ops"};
         words.insert(words.end(), more.begin(), more.end());
-        words.push_back(billData("documentos.xml"));
+        words.push_back(billData("documents.xml"));
         return run(words);
     }
     long count(const std::string& line, const std::string& name = "job-001.ops") const {
@@ -86,7 +86,7 @@ TEST_F(TarnimprimeBills, ATickBehindTheLastRowIsWrongUsage) {
     }
 }
 
-TEST_F(TarnimprimeBills, Triplicatas) {
+TEST_F(TarnimprimeBills, Triplicates) {
     EXPECT_EQ(print({"--triplicata", "--marca", "1"}).status, 0);
     std::string triplicate = acceptance;
     triplicate.replace(triplicate.find("DUPLICATA"), 9, "TRIPLICATA");
@@ -106,7 +106,7 @@ TEST_F(TarnimprimeBills, PicturesOfTheFolder) {
 
 TEST_F(TarnimprimeBills, AsPaper) {
     const Result result = run({"--destino", file("papel"), "duplicatas", "--empresa", "1361",
-                               "--dados", billData("empresa.xml"), billData("documentos.xml")});
+                               "--dados", billData("company.xml"), billData("documents.xml")});
     EXPECT_EQ(result.status, 0) << result.err;
     const std::string pdf = quoted(file("papel/job-001.pdf"));
     ASSERT_EQ(std::system(("pdfinfo " + pdf + " >" + quoted(file("info"))).c_str()), 0);
@@ -117,7 +117,7 @@ TEST_F(TarnimprimeBills, AsPaper) {
 }
 
 TEST_F(TarnimprimeBills, EachFileIsAJob) {
-    EXPECT_EQ(print({"--marca", "2", billData("documentos.xml")}).status, 0);
+    EXPECT_EQ(print({"--marca", "2", billData("documents.xml")}).status, 0);
     EXPECT_EQ(count(receipt, "job-001.ops"), 1);
     EXPECT_EQ(count(receipt, "job-002.ops"), 1);
 }
@@ -126,18 +126,18 @@ TEST_F(TarnimprimeBills, WithoutTheCompanysRowItStops) {
     std::ofstream(file("vazia.xml")) << "<?xml version=\"1.0\"?><xml/>";
     const Result result =
         run({"duplicatas", "--empresa", "1361", "--dados", file("vazia.xml"), "--destino",
-             file("papel"), "--formato", "ops", billData("documentos.xml")});
+             file("papel"), "--formato", "ops", billData("documents.xml")});
     EXPECT_EQ(result.status, 3);
     EXPECT_NE(result.err.find("Erro em tempo de execução '91'"), std::string::npos) << result.err;
     EXPECT_FALSE(hasJob("job-001.ops"));
 }
 
 TEST_F(TarnimprimeBills, ARowWithoutAnAmountKeepsThePagesBeforeIt) {
-    std::string documents = contentOf(billData("documentos.xml"));
+    std::string documents = contentOf(billData("documents.xml"));
     documents.erase(documents.find("VL_PRN_DOC=\"1234.5\" "), 20);
     std::ofstream(file("docs.xml")) << documents;
     const Result result =
-        run({"duplicatas", "--empresa", "1361", "--dados", billData("empresa.xml"), "--destino",
+        run({"duplicatas", "--empresa", "1361", "--dados", billData("company.xml"), "--destino",
              file("papel"), "--formato", "ops", file("docs.xml")});
     EXPECT_EQ(result.status, 3);
     EXPECT_NE(result.err.find("Erro em tempo de execução '13'"), std::string::npos) << result.err;
@@ -147,11 +147,11 @@ TEST_F(TarnimprimeBills, ARowWithoutAnAmountKeepsThePagesBeforeIt) {
 
 TEST_F(TarnimprimeBills, WhatIsMissingOnTheCommandLineIsWrongUsage) {
     for (const std::vector<std::string>& words :
-         {std::vector<std::string>{"duplicatas", "--empresa", "1361", billData("documentos.xml")},
-          {"duplicatas", "--dados", billData("empresa.xml"), billData("documentos.xml")},
-          {"duplicatas", "--empresa", "1361", "--dados", billData("empresa.xml")},
+         {std::vector<std::string>{"duplicatas", "--empresa", "1361", billData("documents.xml")},
+          {"duplicatas", "--dados", billData("company.xml"), billData("documents.xml")},
+          {"duplicatas", "--empresa", "1361", "--dados", billData("company.xml")},
           {"duplicatas", "--empresa", "1361", "--dados", file("falta.xml"),
-           billData("documentos.xml")}}) {
+           billData("documents.xml")}}) {
         std::vector<std::string> all{"--destino", file("papel")};
         all.insert(all.end(), words.begin(), words.end());
         EXPECT_EQ(run(all).status, 1);

@@ -26,18 +26,18 @@ std::string latin1(const std::string& utf8) {
 class TarnimprimeLabels : public Tarnimprime {
 protected:
     Result print(const std::string& form, const std::vector<std::string>& more = {}) const {
-        std::vector<std::string> words = {
-            "etiquetas", "--formulario", form, "--remetente", labelData("remetente.xml"),
-            "--destino", file("papel")};
+        std::vector<std::string> words = {"etiquetas",   "--formulario",          form,
+                                          "--remetente", labelData("sender.xml"), "--destino",
+                                          file("papel")};
         words.insert(words.end(), more.begin(), more.end());
-        words.push_back(labelData("etiquetas.xml"));
+        words.push_back(labelData("labels.xml"));
         return run(words);
     }
     Result printSelected(const std::vector<std::string>& more) const {
         std::vector<std::string> words = {"etiquetas-selecao", "--destino", file("papel"),
                                           "--formato", "ops"};
         words.insert(words.end(), more.begin(), more.end());
-        words.push_back(labelData("clientes.xml"));
+        words.push_back(labelData("customers.xml"));
         return run(words);
     }
     std::vector<std::string> ops() const {
@@ -121,8 +121,8 @@ TEST_F(TarnimprimeLabels, DrawnFormsAsPdf) {
 TEST_F(TarnimprimeLabels, WithoutLabelsNothingIsEnded) {
     std::ofstream(file("vazio.xml")) << "<xml xmlns:rs='r'><rs:data/></xml>";
     const Result result =
-        run({"etiquetas", "--formulario", "1", "--remetente", labelData("remetente.xml"),
-             "--destino", file("papel"), "--formato", "ops", file("vazio.xml")});
+        run({"etiquetas", "--formulario", "1", "--remetente", labelData("sender.xml"), "--destino",
+             file("papel"), "--formato", "ops", file("vazio.xml")});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.err, "TArn:  Não há Etiquetas nesse intervalo!   \n");
     EXPECT_EQ(job("job-001.ops"), "scale\t7\norientation\t1\n");
@@ -131,7 +131,7 @@ TEST_F(TarnimprimeLabels, WithoutLabelsNothingIsEnded) {
 TEST_F(TarnimprimeLabels, ASenderWithoutARowIsTheRunTimesError) {
     std::ofstream(file("vazio.xml")) << "<xml xmlns:rs='r'><rs:data/></xml>";
     const Result result = run({"etiquetas", "--formulario", "2", "--remetente", file("vazio.xml"),
-                               "--destino", file("papel"), labelData("etiquetas.xml")});
+                               "--destino", file("papel"), labelData("labels.xml")});
     EXPECT_EQ(result.status, 3);
     EXPECT_NE(result.err.find("Erro em tempo de execução '91'"), std::string::npos) << result.err;
     EXPECT_FALSE(hasJob("job-001.prn"));
@@ -141,11 +141,11 @@ TEST_F(TarnimprimeLabels, WrongUsage) {
     EXPECT_EQ(print("x").status, 1);
     EXPECT_EQ(print("").status, 1);
     for (const std::vector<std::string>& words :
-         {std::vector<std::string>{"etiquetas", "--formulario", "1", labelData("etiquetas.xml")},
-          {"etiquetas", "--remetente", labelData("remetente.xml"), labelData("etiquetas.xml")},
-          {"etiquetas", "--formulario", "1", "--remetente", labelData("remetente.xml")},
+         {std::vector<std::string>{"etiquetas", "--formulario", "1", labelData("labels.xml")},
+          {"etiquetas", "--remetente", labelData("sender.xml"), labelData("labels.xml")},
+          {"etiquetas", "--formulario", "1", "--remetente", labelData("sender.xml")},
           {"etiquetas", "--formulario", "1", "--remetente", file("falta.xml"),
-           labelData("etiquetas.xml")},
+           labelData("labels.xml")},
           {"etiquetas-selecao"},
           {"etiquetas-selecao", file("falta.xml")}}) {
         std::vector<std::string> all{"--destino", file("papel")};

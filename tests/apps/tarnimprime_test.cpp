@@ -27,44 +27,44 @@ std::string orderData(const std::string& name) {
 TEST_F(Tarnimprime, PrintsANoteIntoTheDirectoryItMakes) {
     const Result result =
         run({"--destino", file("papel"), "nota", "--empresa", "1361", "--estabelecimento", "1",
-             "--numero", "4567", data("nota_1361.xml")});
+             "--numero", "4567", data("note_1361.xml")});
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out, "");
     EXPECT_EQ(job("job-001.prn"), " \x0F");
-    EXPECT_EQ(job("job-002.prn"), contentOf(data("nota_1361.prn")));
+    EXPECT_EQ(job("job-002.prn"), contentOf(data("note_1361.prn")));
     EXPECT_FALSE(hasJob("job-003.prn"));
 }
 
 // Looking a note over prints nothing, here of all places where no printer is.
 TEST_F(Tarnimprime, ANoteThatFitsIsLookedOverInSilence) {
     const Result result = run({"nota", "--confere", "--empresa", "1361", "--estabelecimento", "1",
-                               "--numero", "4567", data("nota_1361.xml")});
+                               "--numero", "4567", data("note_1361.xml")});
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out, "");
     EXPECT_EQ(result.err, "");
 }
 
 TEST_F(Tarnimprime, WhatANoteLosesIsToldWithStatusFour) {
-    std::string note = contentOf(data("nota_1361.xml"));
+    std::string note = contentOf(data("note_1361.xml"));
     const std::string name = "RAZAO=\"";
     note.insert(note.find(name) + name.size(), std::string(70, 'X'));
     const std::string wide = file("larga.xml");
     std::ofstream(wide, std::ios::binary) << note;
     const Result result =
         run({"--destino", file("papel"), "nota", "--empresa", "1361", "--estabelecimento", "1",
-             "--numero", "4567", "--confere", data("nota_1361.xml"), wide});
+             "--numero", "4567", "--confere", data("note_1361.xml"), wide});
     EXPECT_EQ(result.status, 4);
     EXPECT_EQ(result.out, wide +
                               ": linha 10, coluna 2, RAZAO: não cabe; perde \"PEÇAS SÃO JOÃO "
                               "LTDA\"\n");
     EXPECT_EQ(result.err, "");
-    // With a directory told the notes are there to be looked at too.
+    // With a directory given the notes are there to be looked at too.
     EXPECT_TRUE(hasJob("job-004.prn"));
 }
 
 TEST_F(Tarnimprime, ANoteThatStopsIsLookedOverUpToThere) {
     const Result result = run({"nota", "--confere", "--empresa", "1361", "--estabelecimento", "1",
-                               "--numero", "4567", data("nota_quantidade_errada.xml")});
+                               "--numero", "4567", data("note_wrong_quantity.xml")});
     EXPECT_EQ(result.status, 3);
     EXPECT_NE(result.err, "");
 }
@@ -116,7 +116,7 @@ bool standsAt(const Text& text, const std::vector<Text>& words) {
 TEST_F(Tarnimprime, TheDrawnNoteAsOperations) {
     const Result result = run({"--formato", "ops", "--destino", file("papel"), "nota", "--empresa",
                                "2541", "--estabelecimento", "1", "--numero", "4567",
-                               data("nota_completa.xml"), data("nota_completa.xml")});
+                               data("full_note.xml"), data("full_note.xml")});
     EXPECT_EQ(result.status, 0) << result.err;
     const std::string ops = job("job-001.ops");
     EXPECT_EQ(ops.rfind("scale\t7\norientation\t1\ntext\t1.100\t1.000\tArial\t8\t1\tSAÍDA\n"
@@ -132,8 +132,8 @@ TEST_F(Tarnimprime, TheDrawnNoteAsOperations) {
 
 TEST_F(Tarnimprime, TheDrawnNoteAsPdfNeedsNoDisplay) {
     const std::vector<std::string> note = {
-        "nota",          "--empresa", "2541", "--estabelecimento",       "1",
-        "--reimpressao", "--numero",  "4567", data("nota_completa.xml"), "--destino",
+        "nota",          "--empresa", "2541", "--estabelecimento",   "1",
+        "--reimpressao", "--numero",  "4567", data("full_note.xml"), "--destino",
         file("papel")};
     std::vector<std::string> ops = note;
     ops.insert(ops.end(), {"--formato", "ops"});
@@ -170,7 +170,7 @@ TEST_F(Tarnimprime, TheDrawnNoteAsPdfNeedsNoDisplay) {
 TEST_F(Tarnimprime, ADrawnNoteThatStopsLeavesNoPaper) {
     const std::vector<std::string> note = {
         "nota",      "--empresa",  "2541", "--estabelecimento",
-        "1",         "--numero",   "4567", data("nota_quantidade_errada.xml"),
+        "1",         "--numero",   "4567", data("note_wrong_quantity.xml"),
         "--destino", file("papel")};
     std::vector<std::string> ops = note;
     ops.insert(ops.end(), {"--formato", "ops"});
@@ -186,7 +186,7 @@ TEST_F(Tarnimprime, ADrawnNoteThatStopsLeavesNoPaper) {
 
 TEST_F(Tarnimprime, TheFormatOfDrawnPages) {
     const std::vector<std::string> note = {"nota", "--empresa", "2541", "--estabelecimento",
-                                           "1",    "--numero",  "1",    data("nota_completa.xml")};
+                                           "1",    "--numero",  "1",    data("full_note.xml")};
     std::vector<std::string> words = note;
     words.insert(words.end(), {"--formato", "ops"});
     Result result = run(words);
@@ -202,11 +202,11 @@ TEST_F(Tarnimprime, TheFormatOfDrawnPages) {
 TEST_F(Tarnimprime, SeveralNotesPrintOneAfterTheOther) {
     const Result result =
         run({"nota", "--empresa", "141", "--estabelecimento", "1", "--numero", "4567",
-             data("nota_1361.xml"), data("nota_entrada.xml"), "--destino", file("papel")});
+             data("note_1361.xml"), data("entry_note.xml"), "--destino", file("papel")});
     EXPECT_EQ(result.status, 0) << result.err;
-    std::string entry = contentOf(data("nota_1361.prn"));
+    std::string entry = contentOf(data("note_1361.prn"));
     entry.replace(89, 15, "              X");
-    EXPECT_EQ(job("job-002.prn"), contentOf(data("nota_1361.prn")));
+    EXPECT_EQ(job("job-002.prn"), contentOf(data("note_1361.prn")));
     EXPECT_EQ(job("job-003.prn"), " \x0F");
     EXPECT_EQ(job("job-004.prn"), entry) << "latin-1 document, mark in column 104";
     EXPECT_FALSE(hasJob("job-005.prn"));
@@ -215,11 +215,11 @@ TEST_F(Tarnimprime, SeveralNotesPrintOneAfterTheOther) {
 TEST_F(Tarnimprime, ARunTimeErrorKeepsWhatWasPrinted) {
     const Result result =
         run({"nota", "--destino", file("papel"), "--empresa", "1361", "--estabelecimento", "1",
-             "--numero", "4567", "--reimpressao", data("nota_quantidade_errada.xml")});
+             "--numero", "4567", "--reimpressao", data("note_wrong_quantity.xml")});
     EXPECT_EQ(result.status, 3);
     EXPECT_NE(result.err.find("Erro em tempo de execução '13'"), std::string::npos) << result.err;
     EXPECT_NE(result.err.find("QTDE"), std::string::npos) << result.err;
-    const std::string golden = contentOf(data("nota_1361.prn"));
+    const std::string golden = contentOf(data("note_1361.prn"));
     EXPECT_EQ(job("job-002.prn"), golden.substr(0, golden.find(" P-002")));
 }
 
@@ -228,7 +228,7 @@ TEST_F(Tarnimprime, AnUnreadableInputSpendsNoForm) {
     for (const std::string& wrong : {file("falta.xml"), file("quebrado.xml")}) {
         const Result result =
             run({"nota", "--destino", file("papel"), "--empresa", "1361", "--estabelecimento", "1",
-                 "--numero", "1", data("nota_1361.xml"), wrong});
+                 "--numero", "1", data("note_1361.xml"), wrong});
         EXPECT_EQ(result.status, 1);
         EXPECT_NE(result.err.find(wrong), std::string::npos) << result.err;
         EXPECT_FALSE(hasJob("job-001.prn"));
@@ -240,7 +240,7 @@ TEST_F(Tarnimprime, ADirectoryThatCantBeMadeIsAUsageError) {
     for (const std::string& wrong : {file("arquivo"), file("arquivo") + "/dentro", std::string()}) {
         const Result result =
             run({"nota", "--destino", wrong, "--empresa", "1361", "--estabelecimento", "1",
-                 "--numero", "1", data("nota_1361.xml")});
+                 "--numero", "1", data("note_1361.xml")});
         EXPECT_EQ(result.status, 1) << wrong;
         EXPECT_NE(result.err.find("não foi possível criar a pasta \"" + wrong + "\""),
                   std::string::npos)
@@ -279,17 +279,17 @@ TEST_F(Tarnimprime, GlobalOptionsStandBeforeOrAfterTheCommandAndOnce) {
         before.insert(before.end(), after.begin(), after.end());
         return before;
     };
-    const std::string golden = contentOf(data("nota_1361.prn"));
+    const std::string golden = contentOf(data("note_1361.prn"));
     for (const auto& words : {with({"--pagina-de-codigo", "1252", "--destino=" + file("papel")},
-                                   {data("nota_1361.xml")}),
-                              with({}, {data("nota_1361.xml"), "--destino", file("papel")}),
-                              with({"--destino", file("papel")}, {"--", data("nota_1361.xml")})}) {
+                                   {data("note_1361.xml")}),
+                              with({}, {data("note_1361.xml"), "--destino", file("papel")}),
+                              with({"--destino", file("papel")}, {"--", data("note_1361.xml")})}) {
         fs::remove_all(room_ / "papel");
         EXPECT_EQ(run(words).status, 0);
         EXPECT_EQ(job("job-002.prn"), golden);
     }
     EXPECT_EQ(
-        run(with({"--destino", file("papel")}, {"--destino", file("outra"), data("nota_1361.xml")}))
+        run(with({"--destino", file("papel")}, {"--destino", file("outra"), data("note_1361.xml")}))
             .status,
         1);
     EXPECT_FALSE(fs::exists(file("outra")));
@@ -301,17 +301,17 @@ TEST_F(Tarnimprime, TheMachinesLanguageChangesNothing) {
         ASSERT_EQ(::setenv("LC_ALL", language, 1), 0);
         EXPECT_EQ(shown({"mascara", "##,###0.00", "1234567,891"}), "1.234.567,89\n") << language;
         EXPECT_EQ(run({"nota", "--destino", file("papel"), "--empresa", "1361", "--estabelecimento",
-                       "1", "--numero", "4567", data("nota_1361.xml")})
+                       "1", "--numero", "4567", data("note_1361.xml")})
                       .status,
                   0);
-        EXPECT_EQ(job("job-002.prn"), contentOf(data("nota_1361.prn"))) << language;
+        EXPECT_EQ(job("job-002.prn"), contentOf(data("note_1361.prn"))) << language;
     }
     ::unsetenv("LC_ALL");
 }
 
 TEST_F(Tarnimprime, NoLayoutPrintsNothingAndSaysNothing) {
     const Result result = run({"nota", "--destino", file("papel"), "--empresa", "2161",
-                               "--estabelecimento", "1", "--numero", "1", data("nota_1361.xml")});
+                               "--estabelecimento", "1", "--numero", "1", data("note_1361.xml")});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.out + result.err, "");
     EXPECT_FALSE(hasJob("job-001.prn"));
@@ -320,7 +320,7 @@ TEST_F(Tarnimprime, NoLayoutPrintsNothingAndSaysNothing) {
 TEST_F(Tarnimprime, AnEstablishmentPrintsOnlyFromTheReprintScreen) {
     const Result result =
         run({"nota", "--destino", file("papel"), "--empresa", "2161", "--estabelecimento", "3383",
-             "--numero", "1", data("nota_1361.xml")});
+             "--numero", "1", data("note_1361.xml")});
     EXPECT_EQ(result.status, 3);
     EXPECT_NE(result.err.find("ImprimeNF_2161_3383"), std::string::npos) << result.err;
     EXPECT_FALSE(hasJob("job-001.prn"));
@@ -329,14 +329,14 @@ TEST_F(Tarnimprime, AnEstablishmentPrintsOnlyFromTheReprintScreen) {
 TEST_F(Tarnimprime, OtherCodePages) {
     const Result result =
         run({"nota", "--pagina-de-codigo", "850", "--destino", file("papel"), "--empresa", "1361",
-             "--estabelecimento", "1", "--numero", "4567", data("nota_1361.xml")});
+             "--estabelecimento", "1", "--numero", "4567", data("note_1361.xml")});
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_NE(job("job-002.prn")
                   .find("COM\x90RCIO DE PE\x80"
                         "AS S\xC7O JO\xC7O LTDA"),
               std::string::npos);
     EXPECT_EQ(run({"nota", "--pagina-de-codigo", "437", "--destino", file("papel"), "--empresa",
-                   "1361", "--estabelecimento", "1", "--numero", "1", data("nota_1361.xml")})
+                   "1361", "--estabelecimento", "1", "--numero", "1", data("note_1361.xml")})
                   .status,
               1);
 }
@@ -356,39 +356,39 @@ TEST_F(Tarnimprime, TheLadder) {
 
 TEST_F(Tarnimprime, PrintsAnOrderSheet) {
     const Result result = run({"--destino", file("papel"), "ordem", "--empresa", "2041",
-                               orderData("ordem_parcelada.xml")});
+                               orderData("order_in_parcels.xml")});
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out + result.err, "");
-    EXPECT_EQ(job("job-001.prn"), contentOf(orderData("ordem_parcelada.prn")));
+    EXPECT_EQ(job("job-001.prn"), contentOf(orderData("order_in_parcels.prn")));
     EXPECT_FALSE(hasJob("job-002.prn"));
 }
 
 TEST_F(Tarnimprime, ACompanysOwnOrderSheetAndSeveralOrders) {
     const Result result =
-        run({"ordem", orderData("ordem_parcelada.xml"), orderData("ordem_a_vista.xml"), "--empresa",
-             "1361", "--destino", file("papel")});
+        run({"ordem", orderData("order_in_parcels.xml"), orderData("order_at_sight.xml"),
+             "--empresa", "1361", "--destino", file("papel")});
     EXPECT_EQ(result.status, 0) << result.err;
-    EXPECT_EQ(job("job-001.prn"), contentOf(orderData("ordem_parcelada_1361.prn")));
-    EXPECT_EQ(job("job-002.prn"), contentOf(orderData("ordem_a_vista_1361.prn")));
+    EXPECT_EQ(job("job-001.prn"), contentOf(orderData("order_in_parcels_1361.prn")));
+    EXPECT_EQ(job("job-002.prn"), contentOf(orderData("order_at_sight_1361.prn")));
     EXPECT_FALSE(hasJob("job-003.prn"));
 }
 
 TEST_F(Tarnimprime, AnOrderWithoutAFieldKeepsTheLinesBeforeIt) {
     const Result result = run({"ordem", "--destino", file("papel"), "--empresa", "2041",
-                               orderData("ordem_item_incompleto.xml")});
+                               orderData("order_incomplete_item.xml")});
     EXPECT_EQ(result.status, 3);
     EXPECT_NE(result.err.find("Erro em tempo de execução '91'"), std::string::npos) << result.err;
     EXPECT_NE(result.err.find("VL_SEG"), std::string::npos) << result.err;
-    const std::string golden = contentOf(orderData("ordem_parcelada.prn"));
+    const std::string golden = contentOf(orderData("order_in_parcels.prn"));
     EXPECT_EQ(job("job-001.prn"), golden.substr(0, golden.find("   12,000")));
 }
 
 TEST_F(Tarnimprime, AnOrderSheetWithoutACompanyOrADocumentIsWrongUsage) {
     for (const std::vector<std::string>& words :
-         {std::vector<std::string>{"ordem", orderData("ordem_a_vista.xml")},
+         {std::vector<std::string>{"ordem", orderData("order_at_sight.xml")},
           {"ordem", "--empresa", "2041"},
-          {"ordem", "--empresa", "x", orderData("ordem_a_vista.xml")},
-          {"ordem", "--empresa", "2041", orderData("ordem_a_vista.xml"), file("falta.xml")}}) {
+          {"ordem", "--empresa", "x", orderData("order_at_sight.xml")},
+          {"ordem", "--empresa", "2041", orderData("order_at_sight.xml"), file("falta.xml")}}) {
         std::vector<std::string> all{"--destino", file("papel")};
         all.insert(all.end(), words.begin(), words.end());
         EXPECT_EQ(run(all).status, 1);

@@ -294,7 +294,7 @@ TEST_F(FrmOFTTest, ABrokenSheetEndsTheProgramAndKeepsWhatWasPrinted) {
     EXPECT_FALSE(spooler.jobs[0].ended);
 }
 
-TEST_F(FrmOFTTest, FecharFreesTheMenus) {
+TEST_F(FrmOFTTest, CmdFecharFreesTheMenus) {
     closesBy([&] { click(screen(), "CmdFechar"); });
 }
 

@@ -134,13 +134,13 @@ TEST_F(GenerateNoteScreen, AnUnreadableObservationEndsTheProgramWithNoWordOfANot
 }
 
 TEST_F(GenerateNoteScreen, ThePrintedNoteIsTheFormsByteForByte) {
-    openAt1361("nota_1361.xml");
-    ASSERT_FALSE(noteFile("nota_1361.prn").empty());
+    openAt1361("note_1361.xml");
+    ASSERT_FALSE(noteFile("note_1361.prn").empty());
     click(screen(), "cmdSelecionar");
     EXPECT_THAT(boxes.shown, testing::IsEmpty());
     ASSERT_EQ(spooler.jobs.size(), 2U);
     EXPECT_EQ(spooler.bytes(0), " \x0F");
-    EXPECT_EQ(spooler.bytes(1), noteFile("nota_1361.prn"));
+    EXPECT_EQ(spooler.bytes(1), noteFile("note_1361.prn"));
     for (const auto& job : spooler.jobs) {
         EXPECT_TRUE(job.ended && job.closed);
     }
@@ -154,7 +154,7 @@ TEST_F(GenerateNoteScreen, ThePrintedNoteIsTheFormsByteForByte) {
 
 // The second click comes before the user can have seen the new list.
 TEST_F(GenerateNoteScreen, ADoubleClickGeneratesOnce) {
-    openAt1361("nota_1361.xml");
+    openAt1361("note_1361.xml");
     auto& button = named<QWidget>(screen(), "cmdSelecionar");
     QTest::mouseClick(&button, Qt::LeftButton);
     QTest::mouseDClick(&button, Qt::LeftButton);
@@ -166,7 +166,7 @@ TEST_F(GenerateNoteScreen, ADoubleClickGeneratesOnce) {
 }
 
 TEST_F(GenerateNoteScreen, AHeldKeyGeneratesOnce) {
-    openAt1361("nota_1361.xml");
+    openAt1361("note_1361.xml");
     for (const Qt::Key held : {Qt::Key_Return, Qt::Key_Space}) {
         spooler.jobs.clear();
         auto& button = named<QWidget>(screen(), "cmdSelecionar");
@@ -182,11 +182,11 @@ TEST_F(GenerateNoteScreen, AHeldKeyGeneratesOnce) {
 }
 
 TEST_F(GenerateNoteScreen, AnErrorOfTheFormIsReportedWithTheWayToTheNote) {
-    openAt1361("nota_quantidade_errada.xml");
+    openAt1361("note_wrong_quantity.xml");
     click(screen(), "cmdSelecionar");
     expectReport("13", true);
     ASSERT_EQ(spooler.jobs.size(), 2U);
-    const std::string golden = noteFile("nota_1361.prn");
+    const std::string golden = noteFile("note_1361.prn");
     EXPECT_EQ(spooler.bytes(1), golden.substr(0, golden.find(" P-002")));
     EXPECT_FALSE(spooler.jobs[1].ended);
     EXPECT_NE(server.queries().back(), listQuery);

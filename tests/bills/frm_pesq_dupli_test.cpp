@@ -78,10 +78,10 @@ TEST_F(FrmPesqDupliTest, SaysWhatItsFieldsAre) {
             {"lblCliente", "Cliente"},
             {"lblFilial", "Filial"},
             {"lblTpDocto", "Tipo Docto"},
-            {"lblEmissao", "Data Emissão:"},
+            {"lblIssued", "Data Emissão:"},
             {"lblEmsDe", "De"},
             {"lblEmsAte", "Até"},
-            {"lblVencimento", "Data Vencto:"},
+            {"lblDue", "Data Vencto:"},
             {"lblVncDe", "De"},
             {"lblVncAte", "Até"}};
         for (const auto& [name, caption] : captions) {
@@ -371,7 +371,7 @@ TEST_F(FrmPesqDupliTest, TicksByMouseKeyAndHeading) {
     });
 }
 
-TEST_F(FrmPesqDupliTest, LimparEmptiesTheCustomerAlone) {
+TEST_F(FrmPesqDupliTest, CmdLimparEmptiesTheCustomerAlone) {
     findBill(1);
     server.on("Sel_Cliente", answers::rowset("<z:row NM_PES_CPL='ANA' ID_PES_CLI='71'/>"));
     withScreen([&](QWidget& screen) {

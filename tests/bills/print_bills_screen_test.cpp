@@ -192,7 +192,7 @@ public:
 
 protected:
     bool eventFilter(QObject* who, QEvent* event) override {
-        if (event->type() == QEvent::Paint && who->objectName() == u"barAndamento") {
+        if (event->type() == QEvent::Paint && who->objectName() == u"barProgress") {
             seen.push_back(static_cast<QProgressBar*>(who)->value());
             screen_.update();
             onSeen();
@@ -227,8 +227,7 @@ TEST_F(PrintBillsScreenTest, FiveHundredDocumentsOnPaperShowTheirProgress) {
                 new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier));
         };
         boxes.onShow = [&screen](const Box&) {
-            EXPECT_EQ(screen.findChild<QWidget*>("andamento"), nullptr)
-                << "gone before the message";
+            EXPECT_EQ(screen.findChild<QWidget*>("progress"), nullptr) << "gone before the message";
         };
         click(screen, "cmdImprimir");
         QCoreApplication::processEvents();

@@ -237,7 +237,7 @@ TEST_F(PrintBillsTest, WhereThingsLand) {
                                        "X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X.X."}));
 }
 
-TEST_F(PrintBillsTest, DrawsATriplicata) {
+TEST_F(PrintBillsTest, DrawsATriplicate) {
     findBill(billRow);
     triplicate_ = true;
     print();

@@ -29,8 +29,8 @@ TEST_F(FrmLogonTest, ShowsItsLabels) {
     for (const auto& [label, text] : {std::pair{"lblEmpresa", "Empresa"},
                                       {"lblUsuario", "Usuário"},
                                       {"lblSenha", "Senha"},
-                                      {"lblInicializacao", "Inicialização"},
-                                      {"lblFabricante", "TARN Sistemas"}}) {
+                                      {"lblStarting", "Inicialização"},
+                                      {"lblMaker", "TARN Sistemas"}}) {
         EXPECT_EQ(logon.findChild<QWidget*>(QLatin1StringView(label))->property("text").toString(),
                   QString::fromUtf8(text));
     }
@@ -156,7 +156,7 @@ TEST_F(FrmLogonTest, AnUnexpectedErrorIsToldAndEndsTheProgram) {
     EXPECT_FALSE(logon.isVisible());
 }
 
-TEST_F(FrmLogonTest, EscAndFecharEndTheProgramAtOnce) {
+TEST_F(FrmLogonTest, EscAndCmdFecharEndTheProgramAtOnce) {
     fill("2041", "maria", "x");
     key(logon, Qt::Key_Escape);
     EXPECT_TRUE(end.ended());
@@ -166,7 +166,7 @@ TEST_F(FrmLogonTest, EscAndFecharEndTheProgramAtOnce) {
     EXPECT_TRUE(boxes.shown.empty());
 }
 
-TEST_F(FrmLogonTest, FecharEndsTheProgram) {
+TEST_F(FrmLogonTest, CmdFecharEndsTheProgram) {
     click(logon, "cmdFechar");
     EXPECT_TRUE(end.ended());
 }

@@ -156,7 +156,7 @@ TEST_F(MDIMenuTest, LeavingTheLogonSendsNothingMore) {
     EXPECT_EQ(menu.windowTitle(), QStringLiteral("TARN - Rotina Mercantil"));
 }
 
-TEST_F(MDIMenuTest, ClosingTheDeskOrSairEndsTheProgram) {
+TEST_F(MDIMenuTest, ClosingTheDeskOrMSairEndsTheProgram) {
     logOn();
     const std::size_t sent = server.addresses.size();
     choose(menu, "mSair");

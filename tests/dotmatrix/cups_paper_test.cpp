@@ -64,7 +64,7 @@ TEST(CupsPaper, ANoteComesOutAsPdfAndText) {
     session.ID_ETB_TARN = 1;
     XmlDocument document;
     ASSERT_TRUE(
-        document.loadXML(contentOf(QStringLiteral(TARN_NOTE_DATA "/nota_1361.xml")).toStdString()));
+        document.loadXML(contentOf(QStringLiteral(TARN_NOTE_DATA "/note_1361.xml")).toStdString()));
     printNote(Ladder::Issuing, environment, session, document, "4567");
 
     ASSERT_TRUE(printer.waitForFinished(limit)) << server.errorLog();
@@ -72,7 +72,7 @@ TEST(CupsPaper, ANoteComesOutAsPdfAndText) {
 
     // The stream without its set-up, line for line; the set-up job's blank stands ahead of
     // the first one.
-    QByteArray expected = ' ' + contentOf(QStringLiteral(TARN_NOTE_DATA "/nota_1361.prn"));
+    QByteArray expected = ' ' + contentOf(QStringLiteral(TARN_NOTE_DATA "/note_1361.prn"));
     QStringList lines;
     for (QByteArray line : expected.replace("\r\n", "\n").split('\n')) {
         while (line.endsWith(' ')) {

@@ -26,10 +26,10 @@ inline std::vector<std::string> streamsOf(const FormFacts& form, const NoteCase&
     return streams;
 }
 
-// "2421_3621" of the facts is "ImprimeNF_2421_3621", "2421_outros" "ImprimeNF_2421".
+// "2421_3621" of the facts is "ImprimeNF_2421_3621", "2421_others" "ImprimeNF_2421".
 inline std::string layoutNameOf(const FormFacts& form) {
     std::string name = form.name;
-    if (const std::size_t others = name.find("_outros"); others != std::string::npos) {
+    if (const std::size_t others = name.find("_others"); others != std::string::npos) {
         name.erase(others);
     }
     name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(name[0])));

@@ -31,69 +31,70 @@ void expectObjectError(const auto& action) {
     }
 }
 
-TEST_F(PegaValorTest, AbsentGivesThePadraoAsPassed) {
-    const XmlNode& no = load("<L A='1'/>");
-    EXPECT_EQ(PegaValor(no, 0, "B", 0.0), Amount(0.0));
-    EXPECT_EQ(PegaValor(no, 0, "B", 7.5), Amount(7.5));
-    EXPECT_EQ(PegaValor(no, 0, "B", std::string()), Amount(std::string()));
-    EXPECT_EQ(PegaValor(no, 0, "B", std::string("0")), Amount(std::string("0")));
-    EXPECT_EQ(textAttribute(no, 0, "B"), "");
-    EXPECT_EQ(numberAttribute(no, 0, "B"), "0");
+TEST_F(PegaValorTest, AbsentGivesTheDefaultAsPassed) {
+    const XmlNode& node = load("<L A='1'/>");
+    EXPECT_EQ(PegaValor(node, 0, "B", 0.0), AttributeValue(0.0));
+    EXPECT_EQ(PegaValor(node, 0, "B", 7.5), AttributeValue(7.5));
+    EXPECT_EQ(PegaValor(node, 0, "B", std::string()), AttributeValue(std::string()));
+    EXPECT_EQ(PegaValor(node, 0, "B", std::string("0")), AttributeValue(std::string("0")));
+    EXPECT_EQ(textAttribute(node, 0, "B"), "");
+    EXPECT_EQ(numberAttribute(node, 0, "B"), "0");
 }
 
 TEST_F(PegaValorTest, ANumericReadTurnsEveryPointIntoAComma) {
-    const XmlNode& no = load("<L A='1.234.5' B='12' C=''/>");
-    EXPECT_EQ(PegaValor(no, 0, "A", 0.0), Amount(std::string("1,234,5")));
-    EXPECT_EQ(PegaValor(no, 0, "B", 0.0), Amount(std::string("12")));
-    EXPECT_EQ(PegaValor(no, 0, "C", 0.0), Amount(std::string()));
-    EXPECT_EQ(numberAttribute(no, 0, "A"), "1,234,5");
+    const XmlNode& node = load("<L A='1.234.5' B='12' C=''/>");
+    EXPECT_EQ(PegaValor(node, 0, "A", 0.0), AttributeValue(std::string("1,234,5")));
+    EXPECT_EQ(PegaValor(node, 0, "B", 0.0), AttributeValue(std::string("12")));
+    EXPECT_EQ(PegaValor(node, 0, "C", 0.0), AttributeValue(std::string()));
+    EXPECT_EQ(numberAttribute(node, 0, "A"), "1,234,5");
 }
 
 TEST_F(PegaValorTest, ATextReadLeavesTheTextAsItIs) {
-    const XmlNode& no = load("<L A='12.50' B='  x  '/>");
-    EXPECT_EQ(PegaValor(no, 0, "A", std::string()), Amount(std::string("12.50")));
-    EXPECT_EQ(PegaValor(no, 0, "A", std::string("0")), Amount(std::string("12.50")));
-    EXPECT_EQ(PegaValor(no, 0, "A", 1.0), Amount(std::string("12.50")));
-    EXPECT_EQ(textAttribute(no, 0, "B"), "  x  ");
+    const XmlNode& node = load("<L A='12.50' B='  x  '/>");
+    EXPECT_EQ(PegaValor(node, 0, "A", std::string()), AttributeValue(std::string("12.50")));
+    EXPECT_EQ(PegaValor(node, 0, "A", std::string("0")), AttributeValue(std::string("12.50")));
+    EXPECT_EQ(PegaValor(node, 0, "A", 1.0), AttributeValue(std::string("12.50")));
+    EXPECT_EQ(textAttribute(node, 0, "B"), "  x  ");
 }
 
 TEST_F(PegaValorTest, PresenceIgnoresCaseAndTheLookupDoesNot) {
-    const XmlNode& no = load("<L NCOMPANYCODE='2161' Ent_Sai='E' usercode='u'/>");
-    EXPECT_EQ(numberAttribute(no, 0, "ncompanycode"), "2161");
-    expectObjectError([&] { textAttribute(no, 0, "ncompanycode"); });
-    EXPECT_EQ(textAttribute(no, 0, "Ent_Sai"), "E");
-    expectObjectError([&] { numberAttribute(no, 0, "Ent_Sai"); });
-    expectObjectError([&] { textAttribute(no, 0, "ENT_SAI"); });
-    expectObjectError([&] { numberAttribute(no, 0, "UserCode"); });
-    expectObjectError([&] { PegaValor(no, 0, "UserCode", std::string()); });
+    const XmlNode& node = load("<L NCOMPANYCODE='2161' Ent_Sai='E' usercode='u'/>");
+    EXPECT_EQ(numberAttribute(node, 0, "ncompanycode"), "2161");
+    expectObjectError([&] { textAttribute(node, 0, "ncompanycode"); });
+    EXPECT_EQ(textAttribute(node, 0, "Ent_Sai"), "E");
+    expectObjectError([&] { numberAttribute(node, 0, "Ent_Sai"); });
+    expectObjectError([&] { textAttribute(node, 0, "ENT_SAI"); });
+    expectObjectError([&] { numberAttribute(node, 0, "UserCode"); });
+    expectObjectError([&] { PegaValor(node, 0, "UserCode", std::string()); });
 }
 
 TEST_F(PegaValorTest, TheLookupTakesItsOwnSpellingWhereverItStands) {
-    const XmlNode& no = load("<L razao='lower' RAZAO='UPPER'/>");
-    EXPECT_EQ(textAttribute(no, 0, "RAZAO"), "UPPER");
-    EXPECT_EQ(textAttribute(no, 0, "razao"), "lower");
-    EXPECT_EQ(numberAttribute(no, 0, "razao"), "UPPER");
+    const XmlNode& node = load("<L razao='lower' RAZAO='UPPER'/>");
+    EXPECT_EQ(textAttribute(node, 0, "RAZAO"), "UPPER");
+    EXPECT_EQ(textAttribute(node, 0, "razao"), "lower");
+    EXPECT_EQ(numberAttribute(node, 0, "razao"), "UPPER");
 }
 
 TEST_F(PegaValorTest, APrefixedAttributeIsPresentAndFailsOnTheLookup) {
-    const XmlNode& no = load("<L xmlns:p='u' p:A='1'/><L xmlns:p='u' p:A='1' A='2'/><L q:A='1'/>");
-    expectObjectError([&] { textAttribute(no, 0, "A"); });
-    expectObjectError([&] { numberAttribute(no, 0, "A"); });
-    EXPECT_EQ(textAttribute(no, 1, "A"), "2");
-    expectObjectError([&] { textAttribute(no, 2, "A"); });
+    const XmlNode& node =
+        load("<L xmlns:p='u' p:A='1'/><L xmlns:p='u' p:A='1' A='2'/><L q:A='1'/>");
+    expectObjectError([&] { textAttribute(node, 0, "A"); });
+    expectObjectError([&] { numberAttribute(node, 0, "A"); });
+    EXPECT_EQ(textAttribute(node, 1, "A"), "2");
+    expectObjectError([&] { textAttribute(node, 2, "A"); });
 }
 
 TEST_F(PegaValorTest, ARowThatDoesNotExist) {
-    const XmlNode& no = load("<L A='1'/>");
-    expectObjectError([&] { textAttribute(no, 1, "A"); });
-    expectObjectError([&] { PegaValor(no, 1, "A", 0.0); });
+    const XmlNode& node = load("<L A='1'/>");
+    expectObjectError([&] { textAttribute(node, 1, "A"); });
+    expectObjectError([&] { PegaValor(node, 1, "A", 0.0); });
     expectObjectError([&] { textAttribute(XmlNode(), 0, "A"); });
 }
 
 TEST_F(PegaValorTest, RowsAreCountedByElements) {
-    const XmlNode& no = load("\n <!-- c --> <L A='1'/>\n text <L A='2'/>");
-    EXPECT_EQ(textAttribute(no, 0, "A"), "1");
-    EXPECT_EQ(textAttribute(no, 1, "A"), "2");
+    const XmlNode& node = load("\n <!-- c --> <L A='1'/>\n text <L A='2'/>");
+    EXPECT_EQ(textAttribute(node, 0, "A"), "1");
+    EXPECT_EQ(textAttribute(node, 1, "A"), "2");
 }
 
 TEST(StatusOf, TheSecondAttributeOfTheSecondChild) {
@@ -123,13 +124,13 @@ protected:
 };
 
 TEST_F(RowReaderTest, ReadsAsPegaValorDoes) {
-    const XmlNode& no = load(
+    const XmlNode& node = load(
         "<I CD_PRO='A.1' QTDE='1.5' outro='x' Ent_Sai='S'/>"
         "<I QTDE='' VL='1.2.3'/>"
         "<I ent_sai='s' qtde='1'/>"
         "<I xmlns:p='u' p:VL='1'/>"
         "<I vl='lower' VL='9.5'/>");
-    reader_.read(no, 0);
+    reader_.read(node, 0);
     EXPECT_EQ(reader_.text(0), "A.1");
     EXPECT_EQ(reader_.number(0), "A,1");
     EXPECT_EQ(reader_.text(1), "1.5");
@@ -140,28 +141,28 @@ TEST_F(RowReaderTest, ReadsAsPegaValorDoes) {
     EXPECT_EQ(reader_.text(3), "");
     EXPECT_EQ(reader_.number(3), "0");
     EXPECT_EQ(reader_.number(3, "5"), "5");
-    reader_.read(no, 1);
+    reader_.read(node, 1);
     EXPECT_EQ(reader_.text(0), "");
     EXPECT_TRUE(reader_.present(1));
     EXPECT_EQ(reader_.number(1, "5"), "");
     EXPECT_EQ(reader_.number(3), "1,2,3");
-    reader_.read(no, 2);
+    reader_.read(node, 2);
     expectObjectError([&] { (void)reader_.text(2); });
     expectObjectError([&] { (void)reader_.number(1); });
-    reader_.read(no, 3);
+    reader_.read(node, 3);
     EXPECT_TRUE(reader_.present(3));
     expectObjectError([&] { (void)reader_.text(3); });
-    reader_.read(no, 4);
+    reader_.read(node, 4);
     EXPECT_EQ(reader_.number(3), "9,5");
-    EXPECT_THROW(reader_.read(no, 5), RuntimeError);
+    EXPECT_THROW(reader_.read(node, 5), RuntimeError);
     EXPECT_THROW(reader_.read(XmlNode()), RuntimeError);
 }
 
 TEST_F(RowReaderTest, FollowsFromDocumentToDocument) {
     for (int i = 0; i < 50; ++i) {
         const std::string extra = i % 2 == 0 ? "a" + std::to_string(i) + "='0' " : "";
-        const XmlNode& no = load("<I " + extra + "QTDE='" + std::to_string(i) + "' VL='x'/>");
-        reader_.read(no, 0);
+        const XmlNode& node = load("<I " + extra + "QTDE='" + std::to_string(i) + "' VL='x'/>");
+        reader_.read(node, 0);
         EXPECT_EQ(reader_.text(1), std::to_string(i));
         EXPECT_EQ(reader_.text(3), "x");
         EXPECT_EQ(reader_.text(0), "");
@@ -180,9 +181,9 @@ TEST_F(RowReaderTest, RowsNeedNotKeepAnOrder) {
         }
         lines += "/>";
     }
-    const XmlNode& no = load(lines);
+    const XmlNode& node = load(lines);
     for (std::size_t i = 0; i < 64; ++i) {
-        reader_.read(no, i);
+        reader_.read(node, i);
         EXPECT_EQ(reader_.text(0), (i & 1U) != 0 ? "c" : "") << i;
         EXPECT_EQ(reader_.text(1), (i & 4U) != 0 ? "q" : "") << i;
         EXPECT_EQ(reader_.text(3), (i & 16U) != 0 ? "v" : "") << i;
@@ -194,15 +195,15 @@ TEST_F(RowReaderTest, ManyDifferentNames) {
     for (int i = 0; i < 1000; ++i) {
         line += "N" + std::to_string(i) + "='" + std::to_string(i) + "' ";
     }
-    const XmlNode& no = load(line + "VL='fim'/>");
-    reader_.read(no, 0);
+    const XmlNode& node = load(line + "VL='fim'/>");
+    reader_.read(node, 0);
     EXPECT_EQ(reader_.text(3), "fim");
     EXPECT_FALSE(reader_.present(0));
 }
 
 TEST_F(RowReaderTest, UndeclaredPrefixesCountAsPrefixes) {
-    const XmlNode& no = load("<I q:VL='1'/>");
-    reader_.read(no, 0);
+    const XmlNode& node = load("<I q:VL='1'/>");
+    reader_.read(node, 0);
     EXPECT_TRUE(reader_.present(3));
     expectObjectError([&] { (void)reader_.text(3); });
 }

@@ -112,9 +112,9 @@ TEST_F(SelectionScreen, LabelsAsGiven) {
             EXPECT_EQ(labelOf(selection, field), label) << field;
         }
         for (const auto& [name, words] :
-             {std::pair{"lblCep", "Cep:"}, std::pair{"lblDtVnd", "Data Venda:"},
-              std::pair{"lblVlr", "Valor:"}, std::pair{"lblQt", "Quantidade:"},
-              std::pair{"lblOrdem", "Ordenar por:"}}) {
+             {std::pair{"lblPostalCode", "Cep:"}, std::pair{"lblSale", "Data Venda:"},
+              std::pair{"lblAmount", "Valor:"}, std::pair{"lblQuantity", "Quantidade:"},
+              std::pair{"lblOrder", "Ordenar por:"}}) {
             EXPECT_EQ(named<QLabel>(selection, name).text(), QString::fromUtf8(words));
         }
         EXPECT_EQ(named<QRadioButton>(selection, "optCep").text(), QStringLiteral("CEP"));

@@ -161,13 +161,13 @@ protected:
         std::vector<std::string> told;
         QTimer watch;
         QObject::connect(&watch, &QTimer::timeout, &watch, [&told, &screen] {
-            if (const auto* line = screen.findChild<QLabel*>(QStringLiteral("lblAndamento"))) {
+            if (const auto* line = screen.findChild<QLabel*>(QStringLiteral("lblProgress"))) {
                 told.push_back(line->text().toStdString());
             }
         });
         watch.start(0);
         boxes.onShow = [&screen](const Box&) {
-            EXPECT_EQ(screen.findChild<QLabel*>(QStringLiteral("lblAndamento")), nullptr)
+            EXPECT_EQ(screen.findChild<QLabel*>(QStringLiteral("lblProgress")), nullptr)
                 << "the box stands alone";
         };
         run();

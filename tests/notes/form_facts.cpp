@@ -157,7 +157,7 @@ std::vector<FormFacts> firstGroup() {
     f.texts = pieces({{1, 90}, {65, 90}, {128, 90}});
     forms.push_back(f);
 
-    f.name = "2421_outros";
+    f.name = "2421_others";
     f.establishment = 1;
     f.length = 53;
     f.exitColumn = 107;
@@ -258,7 +258,7 @@ std::vector<FormFacts> secondGroup() {
     f.texts = pieces({{1, 90}, {90, 90}, {180, 100}});
     forms.push_back(f);
 
-    f.name = "4621_outros";
+    f.name = "4621_others";
     f.establishment = 1;
     forms.push_back(f);
     return forms;

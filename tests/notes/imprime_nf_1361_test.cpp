@@ -116,7 +116,7 @@ TEST(ImprimeNF1361, EveryLineOfTheSampleNote) {
 }
 
 TEST(ImprimeNF1361, TheGoldenFile) {
-    std::ifstream file(std::string(TARN_NOTE_DATA) + "/nota_1361.prn", std::ios::binary);
+    std::ifstream file(std::string(TARN_NOTE_DATA) + "/note_1361.prn", std::ios::binary);
     std::stringstream golden;
     golden << file.rdbuf();
     ASSERT_GT(golden.str().size(), 2000U);

@@ -1,5 +1,5 @@
 // The length of the forms: the sum of their line ends, which must bring the next
-// form under the head, and where it is told to differ.
+// form under the head, and where it is known to differ.
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ const std::map<std::string, std::map<int, int>> heightOfParcels{
     {"e5282", {{13, -1}}},
     {"3081", {{2, 1}}},
     {"4621_7321", {{6, 1}}},
-    {"4621_outros", {{6, 1}}},
+    {"4621_others", {{6, 1}}},
 };
 
 class FormLength : public testing::TestWithParam<FormFacts> {

@@ -37,7 +37,7 @@ protected:
         printNote(Ladder::Issuing, environment, session, document, "4567");
     }
 
-    const std::string golden_ = noteFile("nota_1361.prn");
+    const std::string golden_ = noteFile("note_1361.prn");
     TestEnvironment seams_;
 };
 
@@ -45,7 +45,7 @@ TEST_F(CupsNoteTest, SetUpAndNoteArriveByteForByteAndInOrder) {
     ASSERT_FALSE(golden_.empty());
     CupsSpooler spooler;
     for (int time = 0; time < 2; ++time) {
-        print(spooler, "nota_1361.xml");
+        print(spooler, "note_1361.xml");
         EXPECT_EQ(printed(), " \x0F") << server_->errorLog();
         EXPECT_EQ(printed(), golden_) << server_->errorLog();
     }
@@ -53,9 +53,9 @@ TEST_F(CupsNoteTest, SetUpAndNoteArriveByteForByteAndInOrder) {
 
 TEST_F(CupsNoteTest, ANoteStoppedByAnErrorDoesNotHoldUpTheNext) {
     CupsSpooler spooler;
-    EXPECT_THROW(print(spooler, "nota_quantidade_errada.xml"), RuntimeError);
+    EXPECT_THROW(print(spooler, "note_wrong_quantity.xml"), RuntimeError);
     EXPECT_EQ(printed(), " \x0F") << server_->errorLog();
-    print(spooler, "nota_1361.xml");
+    print(spooler, "note_1361.xml");
     EXPECT_EQ(printed(), " \x0F") << server_->errorLog();
     EXPECT_EQ(printed(), golden_) << server_->errorLog();
 }

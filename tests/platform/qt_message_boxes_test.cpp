@@ -92,7 +92,7 @@ TEST(QtMessageBoxes, QuestionDefaultsToSim) {
     EXPECT_EQ(show(question, Qt::Key_Escape), BoxAnswer::No);
 }
 
-TEST(QtMessageBoxes, QuestionTakesAClickOnNao) {
+TEST(QtMessageBoxes, QuestionTakesAClickOnNo) {
     ModalSteps modals;
     modals.then(boxName, [](QWidget& window) {
         auto& box = static_cast<QMessageBox&>(window);

@@ -55,7 +55,7 @@ protected:
         const QString forms =
             QString::number(roll_.printedForms()) + QStringLiteral(" formulário(s)");
         return QTest::qWaitFor(
-            [&] { return label("contagem").startsWith(jobs) && label("contagem").contains(forms); },
+            [&] { return label("count").startsWith(jobs) && label("count").contains(forms); },
             limit);
     }
     QString label(const char* name) { return named<QLabel>(window_, name).text(); }
@@ -82,8 +82,7 @@ protected:
     }
     bool searched() {
         return QTest::qWaitFor(
-            [this] { return label("resultadoLocalizar") != QStringLiteral("Procurando..."); },
-            limit);
+            [this] { return label("searchResult") != QStringLiteral("Procurando..."); }, limit);
     }
     // Pixel of a place on the paper, in inches from the first print position and from the
     // top of the view.
@@ -106,10 +105,10 @@ protected:
 
 TEST_F(Window, TheViewFollowsThePrintUntilOneLooksElsewhere) {
     job("um\r\n");
-    EXPECT_EQ(label("contagem"), QStringLiteral("1 trabalho(s), 1 formulário(s)  ·  100%"));
+    EXPECT_EQ(label("count"), QStringLiteral("1 trabalho(s), 1 formulário(s)  ·  100%"));
     EXPECT_EQ(scrolled(), 0);
     job("\f\f\fdois\r\n");
-    EXPECT_EQ(label("contagem"), QStringLiteral("2 trabalho(s), 4 formulário(s)  ·  100%"));
+    EXPECT_EQ(label("count"), QStringLiteral("2 trabalho(s), 4 formulário(s)  ·  100%"));
     EXPECT_TRUE(inSight(33 * unitsPerInch + 360));
     // A job that begins where one sees it is shown from the top of its form.
     job("x\r\ny");
@@ -128,7 +127,7 @@ TEST_F(Window, TheViewFollowsThePrintUntilOneLooksElsewhere) {
 TEST_F(Window, ZoomByKeysAndWheel) {
     press(Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_DOUBLE_EQ(view_.zoom(), 1.25);
-    EXPECT_TRUE(label("contagem").endsWith(QStringLiteral("125%")));
+    EXPECT_TRUE(label("count").endsWith(QStringLiteral("125%")));
     press(Qt::Key_Minus, Qt::ControlModifier);
     press(Qt::Key_Minus, Qt::ControlModifier);
     EXPECT_DOUBLE_EQ(view_.zoom(), 0.8);
@@ -149,12 +148,12 @@ TEST_F(Window, FindsCapitalsAndAccentsAlikeDownUpAndAround) {
     job("nada\fA\xC7\xC3O aqui\r\n\f\f\fa\xE7\xE3o de novo a\xE7\xE3o\r\n");
     press(Qt::Key_Home);
     press(Qt::Key_F, Qt::ControlModifier);
-    auto& text = named<QLineEdit>(window_, "textoLocalizar");
+    auto& text = named<QLineEdit>(window_, "searchText");
     EXPECT_TRUE(text.hasFocus());
     keys(text, "acao");
     QTest::keyClick(&text, Qt::Key_Return);
     ASSERT_TRUE(searched());
-    EXPECT_EQ(label("resultadoLocalizar"), QString());
+    EXPECT_EQ(label("searchResult"), QString());
     const int first = scrolled();
     EXPECT_GT(first, 0);
     EXPECT_LE(first, 66);
@@ -164,10 +163,10 @@ TEST_F(Window, FindsCapitalsAndAccentsAlikeDownUpAndAround) {
     EXPECT_GT(second, 200);
     press(Qt::Key_F3);  // the second one of that line
     ASSERT_TRUE(searched());
-    EXPECT_EQ(label("resultadoLocalizar"), QString());
+    EXPECT_EQ(label("searchResult"), QString());
     press(Qt::Key_F3);
     ASSERT_TRUE(searched());
-    EXPECT_EQ(label("resultadoLocalizar"), QStringLiteral("A busca deu a volta no papel."));
+    EXPECT_EQ(label("searchResult"), QStringLiteral("A busca deu a volta no papel."));
     EXPECT_LE(scrolled(), 66);
     press(Qt::Key_F3, Qt::ShiftModifier);
     ASSERT_TRUE(searched());
@@ -176,16 +175,16 @@ TEST_F(Window, FindsCapitalsAndAccentsAlikeDownUpAndAround) {
     keys(text, "zebra");
     QTest::keyClick(&text, Qt::Key_Return);
     ASSERT_TRUE(searched());
-    EXPECT_EQ(label("resultadoLocalizar"), QStringLiteral("O papel não tem este texto."));
+    EXPECT_EQ(label("searchResult"), QStringLiteral("O papel não tem este texto."));
     QTest::keyClick(&text, Qt::Key_Escape);
-    EXPECT_FALSE(named<QToolBar>(window_, "barraLocalizar").isVisible());
+    EXPECT_FALSE(named<QToolBar>(window_, "searchBar").isVisible());
     EXPECT_TRUE(view_.hasFocus());
 }
 
 TEST_F(Window, ARegionMarkedWithTheMouseIsCopiedAsText) {
     job("          primeira coluna   resto\r\n\r\n            terceira  linha   resto\r\n");
     press(Qt::Key_Home);
-    EXPECT_FALSE(named<QAction>(window_, "copiar").isEnabled());
+    EXPECT_FALSE(named<QAction>(window_, "copy").isEnabled());
     QTest::mousePress(view_.viewport(), Qt::LeftButton, {}, at(0.95, 0.01));
     QTest::mouseMove(view_.viewport(), at(2.0, 0.3));
     QTest::mouseRelease(view_.viewport(), Qt::LeftButton, {}, at(2.72, 0.49));
@@ -193,7 +192,7 @@ TEST_F(Window, ARegionMarkedWithTheMouseIsCopiedAsText) {
                      view_.viewport()->mapToGlobal(at(2.72, 0.49)), Qt::NoButton, Qt::LeftButton,
                      {});
     QApplication::sendEvent(view_.viewport(), &drag);
-    EXPECT_TRUE(named<QAction>(window_, "copiar").isEnabled());
+    EXPECT_TRUE(named<QAction>(window_, "copy").isEnabled());
     press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
               "primeira coluna\n\n  terceira  linha");
@@ -228,8 +227,8 @@ TEST_F(Window, JobsAreSteppedThrough) {
 
 TEST_F(Window, TornOffPaperIsGone) {
     job("um\f\fdois");
-    choose(window_, "menuPapel", "destacar");
-    EXPECT_EQ(label("contagem"), QStringLiteral("0 trabalho(s), 1 formulário(s)  ·  100%"));
+    choose(window_, "paperMenu", "tearOff");
+    EXPECT_EQ(label("count"), QStringLiteral("0 trabalho(s), 1 formulário(s)  ·  100%"));
     EXPECT_EQ(view_.verticalScrollBar()->value(), 0);
     job("novo");
     ASSERT_EQ(roll_.page(0)->lines.size(), 1U);
@@ -247,7 +246,7 @@ TEST_F(Window, ThePaperIsSavedAsPdfPicturesAndText) {
     EXPECT_FALSE(QImage(file("p.png")).isNull());
     EXPECT_FALSE(QImage(file("p-002.png")).isNull());
     saveAs_ = file("p.txt");
-    choose(window_, "menuArquivo", "salvarTexto");
+    choose(window_, "fileMenu", "saveText");
     QFile text(saveAs_);
     ASSERT_TRUE(text.open(QIODevice::ReadOnly));
     EXPECT_EQ(text.readAll(), QByteArray("um\n\f\ndois\n"));
@@ -309,33 +308,33 @@ TEST_F(Window, AFormIsChosenFromTheMenu) {
         job(QByteArray::fromStdString(bytes));
     }
     const QImage blank = view_.grab().toImage();
-    choose(window_, "menuFormulario", "formulario_ImprimeNF_1521");
+    choose(window_, "formMenu", "form_ImprimeNF_1521");
     EXPECT_TRUE(roll_.dialect().condensed);
     EXPECT_EQ(roll_.dialect().formHeight, 11 * unitsPerInch);
     EXPECT_EQ(roll_.printedForms(), 1U);
     EXPECT_NE(view_.grab().toImage(), blank);
-    EXPECT_TRUE(named<QAction>(window_, "formulario_ImprimeNF_1521").isChecked());
-    choose(window_, "menuFormulario", "formulario_");
-    EXPECT_TRUE(named<QAction>(window_, "formulario_").isChecked());
+    EXPECT_TRUE(named<QAction>(window_, "form_ImprimeNF_1521").isChecked());
+    choose(window_, "formMenu", "form_");
+    EXPECT_TRUE(named<QAction>(window_, "form_").isChecked());
 }
 
 TEST_F(Window, AFormOfAFileIsChosenOrRefused) {
     open_ = {file("nada.txt")};
-    choose(window_, "menuFormulario", "formulario_arquivo");
+    choose(window_, "formMenu", "form_file");
     EXPECT_TRUE(complaint().startsWith(QStringLiteral("não há formulário nem arquivo")));
-    EXPECT_TRUE(named<QAction>(window_, "formulario_").isChecked());
+    EXPECT_TRUE(named<QAction>(window_, "form_").isChecked());
     QFile form(file("meu.txt"));
     ASSERT_TRUE(form.open(QIODevice::WriteOnly));
     form.write("altura 33\ncaixa 3 3 10 2 Meu\n");
     form.close();
     open_ = {file("meu.txt")};
-    choose(window_, "menuFormulario", "formulario_arquivo");
+    choose(window_, "formMenu", "form_file");
     EXPECT_EQ(window_.errorBox(), nullptr);
     EXPECT_EQ(roll_.dialect().formHeight, 33 * 360);
-    EXPECT_TRUE(named<QAction>(window_, "formulario_arquivo").isChecked());
+    EXPECT_TRUE(named<QAction>(window_, "form_file").isChecked());
     open_.clear();
-    choose(window_, "menuFormulario", "formulario_arquivo");
-    EXPECT_TRUE(named<QAction>(window_, "formulario_arquivo").isChecked());
+    choose(window_, "formMenu", "form_file");
+    EXPECT_TRUE(named<QAction>(window_, "form_file").isChecked());
 }
 
 TEST_F(Window, RulerAndBandsAreSwitched) {
@@ -345,7 +344,7 @@ TEST_F(Window, RulerAndBandsAreSwitched) {
     EXPECT_NE(ruled, plain);
     press(Qt::Key_R, Qt::ControlModifier);
     EXPECT_EQ(view_.grab().toImage(), plain);
-    choose(window_, "menuExibir", "zebrado");
+    choose(window_, "viewMenu", "bands");
     EXPECT_NE(view_.grab().toImage(), plain);
 }
 
@@ -353,11 +352,11 @@ TEST_F(Window, TheLogTellsWhatWasNotPrintedAndHowJobsEnded) {
     job(" \x1B#3", "mistério.prn");
     intake_.begin(QStringLiteral("rede"));
     intake_.end(QStringLiteral("a conexão foi interrompida."));
-    auto& dock = named<QDockWidget>(window_, "painelRegistro");
+    auto& dock = named<QDockWidget>(window_, "logPanel");
     EXPECT_FALSE(dock.isVisible());
     press(Qt::Key_F8);
     EXPECT_TRUE(dock.isVisible());
-    const QString log = named<QPlainTextEdit>(window_, "registro").toPlainText();
+    const QString log = named<QPlainTextEdit>(window_, "log").toPlainText();
     EXPECT_TRUE(log.contains(QStringLiteral("trabalho 1, linha 1, coluna 2, bytes 1B 23: ")));
     EXPECT_TRUE(log.contains(QStringLiteral("rede: a conexão foi interrompida.")));
     press(Qt::Key_F8);
@@ -373,12 +372,12 @@ TEST_F(Window, TheStatusBarTellsLineAndColumnUnderTheMouse) {
                      view_.viewport()->mapToGlobal(at(11.5 * cell, 0.08)), Qt::NoButton,
                      Qt::NoButton, {});
     QApplication::sendEvent(view_.viewport(), &move);
-    EXPECT_EQ(label("posicao"), QStringLiteral("formulário 1, linha 1, coluna 12"));
+    EXPECT_EQ(label("position"), QStringLiteral("formulário 1, linha 1, coluna 12"));
     QMouseEvent below(QEvent::MouseMove, at(2.05, 1.05),
                       view_.viewport()->mapToGlobal(at(2.05, 1.05)), Qt::NoButton, Qt::NoButton,
                       {});
     QApplication::sendEvent(view_.viewport(), &below);
-    EXPECT_EQ(label("posicao"), QStringLiteral("formulário 1, linha 7, coluna 21"));
+    EXPECT_EQ(label("position"), QStringLiteral("formulário 1, linha 7, coluna 21"));
 }
 
 // A job of 10,000 forms comes in pieces: the window takes keys and paints in between.
@@ -411,7 +410,7 @@ TEST_F(Window, StaysAwakeWhileTenThousandFormsComeIn) {
 TEST_F(Window, EveryCommandHasATextAndAHint) {
     int seen = 0;
     for (const QAction* action : window_.findChildren<QAction*>()) {
-        if (!action->objectName().isEmpty() && !action->objectName().startsWith(u"formulario_") &&
+        if (!action->objectName().isEmpty() && !action->objectName().startsWith(u"form_") &&
             action->menu() == nullptr && !action->objectName().startsWith(u"_q_")) {
             EXPECT_FALSE(action->text().isEmpty()) << action->objectName().toStdString();
             EXPECT_FALSE(action->toolTip().isEmpty()) << action->objectName().toStdString();

@@ -326,7 +326,7 @@ TEST_F(FrmReImprimeNFTest, AFieldOfTheNoteInAnotherCaseEndsTheProgramWithTheRepo
     EXPECT_EQ(end.status(), 3);
 }
 
-TEST_F(FrmReImprimeNFTest, FecharFreesTheMenus) {
+TEST_F(FrmReImprimeNFTest, CmdFecharFreesTheMenus) {
     closeBy([&] { click(screen(), "CmdFechar"); });
 }
 

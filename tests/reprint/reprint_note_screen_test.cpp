@@ -28,13 +28,13 @@ protected:
 };
 
 TEST_F(ReprintScreen, TheNoteComesOutByteForByteAsOftenAsAsked) {
-    server.on("sel_gera_nf", content("nota_1361.xml"));
+    server.on("sel_gera_nf", content("note_1361.xml"));
     find();
     print();
     EXPECT_THAT(server.queries(), ElementsAre(documentQuery));
     ASSERT_EQ(spooler.jobs.size(), 2U);
     EXPECT_EQ(spooler.bytes(0), " \x0F");
-    EXPECT_EQ(spooler.bytes(1), content("nota_1361.prn"));
+    EXPECT_EQ(spooler.bytes(1), content("note_1361.prn"));
     EXPECT_EQ(data(), found());
     print();
     EXPECT_THAT(server.queries(), ElementsAre(documentQuery, documentQuery));
@@ -45,16 +45,16 @@ TEST_F(ReprintScreen, TheNoteComesOutByteForByteAsOftenAsAsked) {
 }
 
 TEST_F(ReprintScreen, ANoteOfTypeDIsPrinted) {
-    server.on("sel_gera_nf", content("nota_1361.xml"));
+    server.on("sel_gera_nf", content("note_1361.xml"));
     find("D");
     EXPECT_FALSE(option(0).isEnabled() || option(1).isEnabled());
     print();
     ASSERT_EQ(spooler.jobs.size(), 2U);
-    EXPECT_EQ(spooler.bytes(1), content("nota_1361.prn"));
+    EXPECT_EQ(spooler.bytes(1), content("note_1361.prn"));
 }
 
 TEST_F(ReprintScreen, NumberAndSeriesAreThoseOfTheNoteFound) {
-    server.on("sel_gera_nf", content("nota_1361.xml"));
+    server.on("sel_gera_nf", content("note_1361.xml"));
     find();
     named<QComboBox>(screen(), "cboSerie").setCurrentIndex(series1);  // by no choice of the user
     print();
@@ -95,7 +95,7 @@ TEST_F(ReprintScreen, AStatusThatCannotBeReadIsAFailedTransferAndTheProgramLives
 }
 
 TEST_F(ReprintScreen, AnErrorInTheNoteEndsTheProgramWithTheReport) {
-    server.on("sel_gera_nf", content("nota_quantidade_errada.xml"));
+    server.on("sel_gera_nf", content("note_wrong_quantity.xml"));
     find();
     print();
     ASSERT_EQ(boxes.shown.size(), 1U);
@@ -112,7 +112,7 @@ TEST_F(ReprintScreen, AnErrorInTheNoteEndsTheProgramWithTheReport) {
 
 TEST_F(ReprintScreen, AnEstablishmentWithoutAFormPrintsNothingAndSaysNothing) {
     find();
-    server.on("sel_gera_nf", content("nota_1361.xml"));
+    server.on("sel_gera_nf", content("note_1361.xml"));
     session.NCOMPANYCODE = 2161;
     print();
     EXPECT_THAT(spooler.calls, IsEmpty());
@@ -121,13 +121,13 @@ TEST_F(ReprintScreen, AnEstablishmentWithoutAFormPrintsNothingAndSaysNothing) {
 }
 
 TEST_F(ReprintScreen, APrinterThatFailsGoesUnnoticed) {
-    server.on("sel_gera_nf", content("nota_1361.xml"));
+    server.on("sel_gera_nf", content("note_1361.xml"));
     spooler.failOpen = 1;
     find();
     print();
     EXPECT_THAT(boxes.shown, IsEmpty());
     print();
-    EXPECT_EQ(spooler.jobs.back().bytes(), content("nota_1361.prn"));
+    EXPECT_EQ(spooler.jobs.back().bytes(), content("note_1361.prn"));
 }
 
 }  // namespace

@@ -112,11 +112,11 @@ TEST_F(ReprintTest, ReasonsKeepTheirNumber) {
                                                    "<z:row DC_MOT_CAN='Outro' ID_MOT_CAN='-3'/>"
                                                    "<z:row DC_MOT_CAN='Sem'/>"
                                                    "<z:row ID_MOT_CAN='2147483648'/>"));
-    std::vector<std::pair<std::string, std::int32_t>> readOnes;
+    std::vector<std::pair<std::string, std::int32_t>> reasonsRead;
     for (const CancelReason& reason : loadReasons(environment, session)) {
-        readOnes.emplace_back(reason.description, reason.id);
+        reasonsRead.emplace_back(reason.description, reason.id);
     }
-    EXPECT_THAT(readOnes,
+    EXPECT_THAT(reasonsRead,
                 testing::ElementsAre(testing::Pair("Erro", 12), testing::Pair("Outro", -3),
                                      testing::Pair("Sem", 0), testing::Pair("", 0)));
     EXPECT_THAT(seams.loader.queries(),

@@ -281,7 +281,7 @@ TEST_F(PrintSlipsScreen, FiveHundredSlipsShowHowFarTheyAre) {
         std::vector<int> seen;
         QTimer look;  // without a name it is none of the screen's own
         QObject::connect(&look, &QTimer::timeout, [&] {
-            if (auto* bar = screen.findChild<QProgressBar*>(QStringLiteral("barAndamento"))) {
+            if (auto* bar = screen.findChild<QProgressBar*>(QStringLiteral("barProgress"))) {
                 EXPECT_EQ(bar->maximum(), 500);
                 seen.push_back(bar->value());
                 QCoreApplication::postEvent(
@@ -299,7 +299,7 @@ TEST_F(PrintSlipsScreen, FiveHundredSlipsShowHowFarTheyAre) {
         EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));
         EXPECT_LT(seen.front(), 50);
         EXPECT_GT(seen.back(), 450);
-        EXPECT_EQ(screen.findChild<QProgressBar*>(QStringLiteral("barAndamento")), nullptr);
+        EXPECT_EQ(screen.findChild<QProgressBar*>(QStringLiteral("barProgress")), nullptr);
         EXPECT_TRUE(screen.isVisible());
         EXPECT_EQ(server.queries().size(), 1U + 2 * 500);
         EXPECT_EQ(numbers().size(), 500U);

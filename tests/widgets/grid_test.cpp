@@ -158,7 +158,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(&screen));
     }
     void TearDown() override { EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr); }
-    QWidget* window() { return screen.findChild<QWidget*>(QStringLiteral("andamento")); }
+    QWidget* window() { return screen.findChild<QWidget*>(QStringLiteral("progress")); }
 
     QWidget screen;
 };
@@ -180,10 +180,9 @@ TEST_F(ProgressWindowTest, CountsManyItemsFromTheStart) {
     EXPECT_TRUE(window()->isVisible());
     EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
     report(37, 500);
-    EXPECT_EQ(named<QLabel>(screen, "lblAndamento").text(),
-              QStringLiteral("Imprimindo: 37 de 500"));
-    EXPECT_EQ(named<QProgressBar>(screen, "barAndamento").value(), 37);
-    EXPECT_EQ(named<QProgressBar>(screen, "barAndamento").maximum(), 500);
+    EXPECT_EQ(named<QLabel>(screen, "lblProgress").text(), QStringLiteral("Imprimindo: 37 de 500"));
+    EXPECT_EQ(named<QProgressBar>(screen, "barProgress").value(), 37);
+    EXPECT_EQ(named<QProgressBar>(screen, "barProgress").maximum(), 500);
     report(500, 500);
     EXPECT_EQ(window(), nullptr);
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
