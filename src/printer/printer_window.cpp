@@ -24,7 +24,7 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr std::chrono::milliseconds repaint(40);
+constexpr std::chrono::milliseconds repaintInterval(40);
 constexpr std::size_t formsAStep = 40;
 constexpr qint64 readAtOnce = 256LL * 1024;
 constexpr double zoomStep = 1.25;
@@ -75,7 +75,7 @@ PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, const PaintOpti
     view_->setOptions(options_);
 
     changed_.setSingleShot(true);
-    changed_.setInterval(repaint);
+    changed_.setInterval(repaintInterval);
     connect(&changed_, &QTimer::timeout, this, &PrinterWindow::paperChanged);
     connect(&intake_, &JobIntake::changed, this, [this] {
         if (!changed_.isActive()) {

@@ -6,7 +6,6 @@
 
 namespace tarn::test {
 
-using namespace print;
 namespace {
 
 std::string billData(const std::string& name) {

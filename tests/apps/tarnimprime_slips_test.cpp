@@ -3,7 +3,6 @@
 
 namespace tarn::test {
 
-using namespace print;
 namespace {
 
 constexpr char selectOne[] = "TArn: Selecione um item na Lista!     \n";

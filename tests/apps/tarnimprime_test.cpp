@@ -13,7 +13,6 @@
 
 namespace tarn::test {
 
-using namespace print;
 namespace {
 
 std::string data(const std::string& name) {

@@ -59,7 +59,7 @@ protected:
     }
 
     // Off-screen an open list takes the activation along.
-    static void choose(QWidget& screen, const char* list, int line) {
+    static void pickFrom(QWidget& screen, const char* list, int line) {
         pick(screen, list, line);
         screen.activateWindow();
         ASSERT_TRUE(QTest::qWaitFor([&screen] { return QApplication::activeWindow() == &screen; }));

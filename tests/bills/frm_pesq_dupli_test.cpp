@@ -21,7 +21,7 @@ protected:
 
     // Searches for all bills that fall due up to 31/12/2012.
     void search(QWidget& screen, int kind = bill) {
-        choose(screen, "cboTpDocto", kind);
+        pickFrom(screen, "cboTpDocto", kind);
         type(screen, "txtDtVncAte", "31122012");
         click(screen, "cmdPesquisar");
     }
@@ -170,7 +170,7 @@ TEST_F(FrmPesqDupliTest, TheSearchWantsAKindThenADueDate) {
         type(screen, "txtDtVncAte", "31122012");
         click(screen, "cmdPesquisar");
         EXPECT_EQ(focused(screen), "cboTpDocto");
-        choose(screen, "cboTpDocto", bill);
+        pickFrom(screen, "cboTpDocto", bill);
         type(screen, "txtDtVncAte", "");
         key(screen, Qt::Key_Backspace);
         click(screen, "cmdPesquisar");
@@ -217,8 +217,8 @@ TEST_F(FrmPesqDupliTest, ASearchWithEverything) {
         });
         EXPECT_EQ(shown(screen, "txtCliente"), "ANA <b>& CIA");
         server.addresses.clear();
-        choose(screen, "cboFilial", 2);
-        choose(screen, "cboTpDocto", bill);
+        pickFrom(screen, "cboFilial", 2);
+        pickFrom(screen, "cboTpDocto", bill);
         type(screen, "txtDtEmsDe", "01012012");
         type(screen, "txtDtEmsAte", "3101");
         type(screen, "txtDtVncDe", "5");
@@ -249,7 +249,7 @@ TEST_F(FrmPesqDupliTest, DateFieldsFilterAndEnterIsATabStroke) {
 TEST_F(FrmPesqDupliTest, AnAccessKeyFinishesTheDate) {
     withScreen([&](QWidget& screen) {
         server.on("sel_duplicata", answers::rowset(""));
-        choose(screen, "cboTpDocto", receipt);
+        pickFrom(screen, "cboTpDocto", receipt);
         type(screen, "txtDtVncAte", "31032012");
         type(screen, "txtDtVncDe", "1");
         server.addresses.clear();
@@ -273,7 +273,7 @@ TEST_F(FrmPesqDupliTest, EnterLeavesTheCustomersNameInSilence) {
 TEST_F(FrmPesqDupliTest, TheWidestShortNameOfABranchIsReadWhole) {
     withScreen([&](QWidget& screen) {
         server.on("sel_duplicata", answers::rowset("<z:row SG_FIL='GUARATINGUET'/>"));
-        choose(screen, "cboTpDocto", receipt);
+        pickFrom(screen, "cboTpDocto", receipt);
         type(screen, "txtDtVncAte", "31032012");
         click(screen, "cmdPesquisar");
         const auto& grid = named<QTableView>(screen, "sprDados");
@@ -285,7 +285,7 @@ TEST_F(FrmPesqDupliTest, TheWidestShortNameOfABranchIsReadWhole) {
 TEST_F(FrmPesqDupliTest, EnterPressesOnlyAButtonThatHasTheFocus) {
     findBill(3);
     withScreen([&](QWidget& screen) {
-        choose(screen, "cboTpDocto", bill);
+        pickFrom(screen, "cboTpDocto", bill);
         type(screen, "txtDtVncAte", "31122012");
         server.addresses.clear();
         for (const char* name : {"txtCliente", "cboFilial", "cboTpDocto", "sprDados", "optDupl"}) {
@@ -316,7 +316,7 @@ TEST_F(FrmPesqDupliTest, ReceiptsHideTheKindOfBillUntilTheNextSearchForBills) {
         click(screen, "optTripl");
         search(screen, receipt);
         EXPECT_TRUE(hidden());
-        choose(screen, "cboTpDocto", bill);
+        pickFrom(screen, "cboTpDocto", bill);
         EXPECT_TRUE(hidden()) << "the choice alone changes nothing";
         search(screen, bill);
         EXPECT_TRUE(visible());
@@ -380,7 +380,7 @@ TEST_F(FrmPesqDupliTest, CmdLimparEmptiesTheCustomerAlone) {
             click(dialog, "cmdPesquisar");
             click(dialog, "cmdSelecionar");
         });
-        choose(screen, "cboFilial", 1);
+        pickFrom(screen, "cboFilial", 1);
         search(screen);
         server.addresses.clear();
         click(screen, "cmdLimpar");
@@ -399,7 +399,7 @@ TEST_F(FrmPesqDupliTest, CmdLimparEmptiesTheCustomerAlone) {
 TEST_F(FrmPesqDupliTest, TheCustomerDialogActivatesTheScreenAgain) {
     findBill(2);
     withScreen([&](QWidget& screen) {
-        choose(screen, "cboFilial", 1);
+        pickFrom(screen, "cboFilial", 1);
         search(screen);
         clickCell(screen, 1, 1);
         server.addresses.clear();
@@ -456,7 +456,7 @@ TEST_F(FrmPesqDupliTest, EachWayOutUnloadsIt) {
 TEST_F(FrmPesqDupliTest, WhatIsPressedDuringARequestIsLost) {
     findBill(3);
     withScreen([&](QWidget& screen) {
-        choose(screen, "cboTpDocto", bill);
+        pickFrom(screen, "cboTpDocto", bill);
         type(screen, "txtDtVncAte", "31122012");
         server.addresses.clear();
         QTimer::singleShot(0, &screen, [&screen] {

@@ -37,7 +37,7 @@ protected:
     }
     void findBill(const std::string& lines) { server.on("sel_duplicata", answers::rowset(lines)); }
     void search(QWidget& screen, int kind = bill) {
-        choose(screen, "cboTpDocto", kind);
+        pickFrom(screen, "cboTpDocto", kind);
         type(screen, "txtDtVncAte", "31122012");
         click(screen, "cmdPesquisar");
         server.addresses.clear();
@@ -211,8 +211,8 @@ TEST_F(PrintBillsScreenTest, FiveHundredDocumentsOnPaperShowTheirProgress) {
     const QTemporaryDir folder;
     QtPrinter paper(std::make_shared<JobFiles>(folder.path().toStdString()));
     Environment onPaper{blocking, spooler, paper, boxes, clock, machine, environment.baseUrl};
-    DeskContext desk{onPaper, session, end};
-    MDIMenu other{desk};
+    DeskContext paperDesk{onPaper, session, end};
+    MDIMenu other{paperDesk};
     other.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
     findBill(fiveHundred());

@@ -13,7 +13,7 @@ std::variant<Options, NoStart> read(std::vector<const char*> words, const char* 
     words.insert(words.begin(), "tarnemissao");
     return readOptions(static_cast<int>(words.size()), words.data(), env, fallback);
 }
-Options options(const std::vector<const char*>& words, const char* env = "") {
+Options optionsOf(const std::vector<const char*>& words, const char* env = "") {
     return std::get<Options>(read(words, env));
 }
 NoStart stop(const std::vector<const char*>& words) {
@@ -21,7 +21,7 @@ NoStart stop(const std::vector<const char*>& words) {
 }
 
 TEST(Options, WithoutOptionsTheBuildsServerAndTheMachinesPrinter) {
-    const Options options = options({});
+    const Options options = optionsOf({});
     EXPECT_EQ(options.baseUrl, fallback);
     EXPECT_EQ(options.virtualPrinter, "");
     EXPECT_EQ(options.codePage, CodePage::Page1252);
@@ -29,8 +29,8 @@ TEST(Options, WithoutOptionsTheBuildsServerAndTheMachinesPrinter) {
 }
 
 TEST(Options, TheServerOfTheCommandLineGoesBeforeTheEnvironments) {
-    EXPECT_EQ(options({}, "http://amb/p.asp?").baseUrl, "http://amb/p.asp?");
-    EXPECT_EQ(options({"--servidor", "https://linha/p.asp?"}, "http://amb/p.asp?").baseUrl,
+    EXPECT_EQ(optionsOf({}, "http://amb/p.asp?").baseUrl, "http://amb/p.asp?");
+    EXPECT_EQ(optionsOf({"--servidor", "https://linha/p.asp?"}, "http://amb/p.asp?").baseUrl,
               "https://linha/p.asp?");
 }
 
@@ -45,8 +45,8 @@ TEST(Options, AServerGetsThePathOfTheOnePage) {
 }
 
 TEST(Options, ReadsTheOthers) {
-    const Options options = options({"--impressora-virtual", "saida", "--pagina-de-codigo", "850",
-                                     "--pasta-figuras", "fig", "--selecao-etiquetas"});
+    const Options options = optionsOf({"--impressora-virtual", "saida", "--pagina-de-codigo", "850",
+                                       "--pasta-figuras", "fig", "--selecao-etiquetas"});
     EXPECT_EQ(options.virtualPrinter, "saida");
     EXPECT_EQ(options.codePage, CodePage::Page850);
     EXPECT_EQ(options.pictureFolder, "fig");

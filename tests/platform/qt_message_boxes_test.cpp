@@ -33,7 +33,7 @@ BoxAnswer show(const Box& box, Qt::Key key, Shown* shown = nullptr) {
                 shown->buttons << button->text();
             }
         }
-        tarn::key(window, key);
+        tarn::test::key(window, key);
     });
     return QtMessageBoxes().show(box);
 }
@@ -107,7 +107,7 @@ TEST(QtMessageBoxes, ShowsAnArrowOverARoutineWithTheHourglass) {
     ModalSteps modals;
     modals.then(boxName, [](QWidget& window) {
         EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
-        tarn::key(window, Qt::Key_Return);
+        tarn::test::key(window, Qt::Key_Return);
     });
     QtMessageBoxes().show({"x"});
     EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);

@@ -25,7 +25,7 @@ protected:
     }
     void fillIn(int which) {
         tick(which);
-        choose("CboMot_Can", errorReason);
+        pickFrom("CboMot_Can", errorReason);
     }
     void cancel() { click(screen(), "cmdSelecionar"); }
     // All that was filled in for a cancellation still stands.

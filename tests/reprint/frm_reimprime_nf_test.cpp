@@ -191,7 +191,7 @@ TEST_F(FrmReImprimeNFTest, ListsWithoutRowsSayNothing) {
 TEST_F(FrmReImprimeNFTest, TheSearchWantsSeriesThenNumber) {
     open("mRINF");
     click(screen(), "cmdPesquisar");
-    choose("cboSerie", singleSeries);
+    pickFrom("cboSerie", singleSeries);
     click(screen(), "cmdPesquisar");
     EXPECT_EQ(focused(menu), "cmdPesquisar") << "no box moves the focus";
     EXPECT_THAT(boxes.shown, ElementsAre(notice("Selecione a série da Nota.     "),
@@ -203,7 +203,7 @@ TEST_F(FrmReImprimeNFTest, TheSearchFillsTheFields) {
     for (const char* input : {"mRINF", "mCNF"}) {
         open(input);
         server.on("SEL_NF", answers::rowset(noteRow("S")));
-        choose("cboSerie", singleSeries);
+        pickFrom("cboSerie", singleSeries);
         type(screen(), "txtNF", "4567");
         click(screen(), "cmdPesquisar");
         EXPECT_THAT(server.queries(), ElementsAre(searchQuery));
@@ -218,7 +218,7 @@ TEST_F(FrmReImprimeNFTest, TheSearchFillsTheFields) {
 TEST_F(FrmReImprimeNFTest, AFailedSearchIsToldTwiceAndFillsNothing) {
     open("mRINF");
     server.failOn("SEL_NF");
-    choose("cboSerie", singleSeries);
+    pickFrom("cboSerie", singleSeries);
     type(screen(), "txtNF", "4567");
     click(screen(), "cmdPesquisar");
     EXPECT_THAT(boxes.shown,
@@ -242,7 +242,7 @@ TEST_F(FrmReImprimeNFTest, OneDigitMoreForgetsTheNote) {
     open("mCNF");
     find();
     tick(1);
-    choose("CboMot_Can", errorReason);
+    pickFrom("CboMot_Can", errorReason);
     ASSERT_TRUE(option(1).isChecked());
     auto& field = named<QLineEdit>(screen(), "txtNF");
     field.setFocus();
@@ -264,7 +264,7 @@ TEST_F(FrmReImprimeNFTest, TheSameSeriesPickedAgainForgetsTheNote) {
     open("mCNF");
     find();
     tick(0);
-    choose("cboSerie", singleSeries);
+    pickFrom("cboSerie", singleSeries);
     EXPECT_EQ(data(), nothing());
     EXPECT_FALSE(option(0).isChecked());
     EXPECT_EQ(named<QLineEdit>(screen(), "txtNF").text(), QStringLiteral("4567"));
@@ -300,7 +300,7 @@ TEST_F(FrmReImprimeNFTest, BothJobsWantSeriesNumberAndNote) {
         open(input);
         boxes.shown.clear();
         click(screen(), "cmdSelecionar");
-        choose("cboSerie", singleSeries);
+        pickFrom("cboSerie", singleSeries);
         click(screen(), "cmdSelecionar");
         type(screen(), "txtNF", "4567");
         click(screen(), "cmdSelecionar");
@@ -318,7 +318,7 @@ TEST_F(FrmReImprimeNFTest, BothJobsWantSeriesNumberAndNote) {
 TEST_F(FrmReImprimeNFTest, AFieldOfTheNoteInAnotherCaseEndsTheProgramWithTheReport) {
     open("mRINF");
     server.on("SEL_NF", answers::rowset("<z:row ic_tip_nf='S'/>"));
-    choose("cboSerie", singleSeries);
+    pickFrom("cboSerie", singleSeries);
     type(screen(), "txtNF", "4567");
     click(screen(), "cmdPesquisar");
     ASSERT_EQ(boxes.shown.size(), 1U);

@@ -78,13 +78,13 @@ protected:
     // Finds note 4567 of series U.
     void find(const std::string& kind = "S") {
         server.on("SEL_NF", answers::rowset(noteRow(kind)));
-        choose("cboSerie", singleSeries);
+        pickFrom("cboSerie", singleSeries);
         type(screen(), "txtNF", "4567");
         click(screen(), "cmdPesquisar");
         ASSERT_EQ(shown("LBLNOTA"), "4567");
         server.addresses.clear();
     }
-    void choose(const char* list, int line) { pick(screen(), list, line); }
+    void pickFrom(const char* list, int line) { pick(screen(), list, line); }
 
     FrmReImprimeNF& screen() { return named<FrmReImprimeNF>(menu, "FrmReImprimeNF"); }
     bool isOpen() { return menu.findChild<FrmReImprimeNF*>() != nullptr; }

@@ -108,7 +108,7 @@ protected:
     void find(const QWidget& screen, const std::string& lines, int portfolio = wallet57Item) {
         server.on("sel_boleto", answers::rowset(lines));
         fillIn(screen, portfolio);
-        ::tarn::click(screen, "cmdPesquisar");
+        ::tarn::test::click(screen, "cmdPesquisar");
         server.addresses.clear();
     }
 

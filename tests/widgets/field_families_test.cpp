@@ -60,7 +60,7 @@ protected:
     std::string left(QLineEdit& field, const char* typed) {
         field.setFocus();
         field.selectAll();
-        tarn::keys(field, typed);
+        tarn::test::keys(field, typed);
         QTest::keyClick(&field, Qt::Key_Tab);
         return field.text().toStdString();
     }
@@ -343,7 +343,7 @@ TEST_F(FieldFamilies, AnUnfilteredFieldTakesAnyCharacterAndTabsInSilence) {
     new FieldController(&free, KeyFilter::None, environment, FieldController::EnterKey::TabOnly);
     free.show();
     free.setFocus();
-    tarn::keys(free, "a-1,ç .");
+    tarn::test::keys(free, "a-1,ç .");
     EXPECT_EQ(free.text(), QStringLiteral("a-1,ç ."));
     QTest::keyClick(&free, Qt::Key_Return);
     EXPECT_FALSE(hasFocus(free));
@@ -353,7 +353,7 @@ TEST_F(FieldFamilies, AnUnfilteredFieldTakesAnyCharacterAndTabsInSilence) {
 TEST_F(FieldFamilies, LeavingIsToldOnceAndAfterTheTextWasFormatted) {
     const QSignalSpy left(form.money.findChild<FieldController*>(), &FieldController::wasLeft);
     form.money.setFocus();
-    tarn::keys(form.money, "1234,5");
+    tarn::test::keys(form.money, "1234,5");
     QWidget other;
     other.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
