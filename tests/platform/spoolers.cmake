@@ -1,9 +1,6 @@
 tarn_add_test(directory_spooler_test LABEL unit SOURCES directory_spooler_test.cpp
   LIBRARIES tarn_platform)
 
-if(UNIX)
-  find_package(Cups QUIET)
-endif()
 if(CUPS_FOUND)
   tarn_add_test(cups_unreachable_test LABEL unit SOURCES cups_unreachable_test.cpp
     LIBRARIES tarn_platform)

@@ -1,0 +1,34 @@
+# Everything the project is built with, by the part that needs it.
+find_package(LibXml2 REQUIRED)
+find_package(CURL REQUIRED)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg PrintSupport)
+find_package(Threads REQUIRED)
+find_package(CLI11 REQUIRED)
+if(UNIX)
+  find_package(Cups QUIET)
+  if(NOT CUPS_FOUND)
+    message(STATUS "CUPS was not found: raw jobs can only go to a directory")
+  endif()
+endif()
+
+if(TARN_BUILD_TOOLS)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Network)
+endif()
+
+if(TARN_BUILD_PRACTICE)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Sql Test)
+  find_package(PkgConfig REQUIRED)
+  pkg_check_modules(HTTPLIB REQUIRED IMPORTED_TARGET cpp-httplib)
+  # Qt tells each of its users that user's own folders by macros, and a precompiled header
+  # is of use only where all macros are the same.
+  set_property(TARGET Qt6::Test PROPERTY INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
+endif()
+
+if(TARN_BUILD_TESTS)
+  find_package(GTest REQUIRED)
+  include(GoogleTest)
+endif()
+
+if(TARN_BUILD_BENCH)
+  find_package(benchmark REQUIRED)
+endif()

@@ -1,0 +1,1 @@
+// Nothing of its own: a precompiled header belongs to a target with a source.
