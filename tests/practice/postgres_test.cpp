@@ -9,7 +9,7 @@
 #include "tests/practice/at_once.h"
 #include "tests/practice/every_command.h"
 #include "tests/practice/practice_desk.h"
-#include "tests/practice/private_postgres.h"
+#include "tests/practice/test_postgres.h"
 
 namespace tarn::practice::test {
 namespace {
@@ -24,13 +24,11 @@ std::string errorOf(const std::string& address) {
 }
 
 TEST(Postgres, AnswersEveryCommand) {
-    PrivatePostgres postgres;
-    expectEveryCommandAnswered(postgres.newDatabase());
+    expectEveryCommandAnswered(newPostgresDatabase());
 }
 
 TEST(Postgres, HoldsTheSameDataAsAFile) {
-    PrivatePostgres postgres;
-    Desk server(optionsOf(postgres.newDatabase(), 7));
+    Desk server(optionsOf(newPostgresDatabase(), 7));
     Desk memory(optionsOf(":memory:", 7));
     const std::string place = "&ID_EMP_TARN=1361&ID_PES_USU=101&ServerName=DADOS1361";
     for (const std::string& query :
@@ -53,8 +51,7 @@ TEST(Postgres, HoldsTheSameDataAsAFile) {
 // Numbers beyond any column's width, quotes and backslashes reach the database as
 // values.
 TEST(Postgres, TakesWhateverARequestCarries) {
-    PrivatePostgres postgres;
-    Desk desk(optionsOf(postgres.newDatabase()));
+    Desk desk(optionsOf(newPostgresDatabase()));
     EXPECT_EQ(desk.status(desk.generateQuery("9223372036854775807")),
               "A Ordem de Faturamento nº 9223372036854775807 não existe neste estabelecimento. "
               "Atualize a lista.");
@@ -70,8 +67,7 @@ TEST(Postgres, TakesWhateverARequestCarries) {
 }
 
 TEST(Postgres, OutlivesTheServer) {
-    PrivatePostgres postgres;
-    const std::string address = postgres.newDatabase();
+    const std::string address = newPostgresDatabase();
     Generated note;
     {
         Desk desk(optionsOf(address));
@@ -83,8 +79,7 @@ TEST(Postgres, OutlivesTheServer) {
 }
 
 TEST(Postgres, OfAnotherVersionOrProgramIsRefused) {
-    PrivatePostgres postgres;
-    const std::string old = postgres.newDatabase();
+    const std::string old = newPostgresDatabase();
     { const PracticeServer server(optionsOf(old)); }
     {
         Database database(old);
@@ -96,7 +91,7 @@ TEST(Postgres, OfAnotherVersionOrProgramIsRefused) {
                                 "sejam criadas de novo."),
               std::string::npos)
         << errorOf(old);
-    const std::string other = postgres.newDatabase();
+    const std::string other = newPostgresDatabase();
     {
         Database database(other);
         database.execute("CREATE TABLE other (id BIGINT)");
@@ -106,8 +101,7 @@ TEST(Postgres, OfAnotherVersionOrProgramIsRefused) {
 
 TEST(Postgres, ABatchInsertsWhatItsTablesReferToFirst) {
     constexpr int rowCount = 1000;
-    PrivatePostgres postgres;
-    Database database(postgres.newDatabase());
+    Database database(newPostgresDatabase());
     database.execute("CREATE TABLE t (id BIGINT NOT NULL PRIMARY KEY)");
     database.execute("CREATE TABLE u (t_id BIGINT NOT NULL REFERENCES t (id), text VARCHAR(5))");
     const auto rows = [&database](const char* table) {
@@ -135,8 +129,7 @@ TEST(Postgres, ABatchInsertsWhatItsTablesReferToFirst) {
 }
 
 TEST(Postgres, TwoServersMakeOneDatabaseOnce) {
-    PrivatePostgres postgres;
-    const std::string address = postgres.newDatabase();
+    const std::string address = newPostgresDatabase();
     std::vector<std::string> errors(2);
     std::vector<std::thread> threads;
     threads.reserve(errors.size());
@@ -150,8 +143,7 @@ TEST(Postgres, TwoServersMakeOneDatabaseOnce) {
 }
 
 TEST(Postgres, TwoServersGiveNoNumberTwice) {
-    PrivatePostgres postgres;
-    const std::string address = postgres.newDatabase();
+    const std::string address = newPostgresDatabase();
     Desk one(optionsOf(address));
     Desk other(optionsOf(address));
     Outcome outcome;
@@ -161,8 +153,7 @@ TEST(Postgres, TwoServersGiveNoNumberTwice) {
 }
 
 TEST(Postgres, ConnectsAgainAfterTheConnectionWasEnded) {
-    PrivatePostgres postgres;
-    const std::string address = postgres.newDatabase();
+    const std::string address = newPostgresDatabase();
     Desk desk(optionsOf(address));
     {
         Database database(address);

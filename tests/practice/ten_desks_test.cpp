@@ -13,8 +13,8 @@
 #include "practice/database/database.h"
 #include "tests/practice/busy_desk.h"
 #include "tests/practice/practice_desk.h"
-#include "tests/practice/private_postgres.h"
 #include "tests/practice/serving.h"
+#include "tests/practice/test_postgres.h"
 
 namespace tarn::practice::test {
 namespace {
@@ -164,8 +164,7 @@ TEST_P(TenDesks, OverAFileGetNothingTwiceAndLoseNothing) {
 }
 
 TEST_P(TenDesks, OverPostgresGetNothingTwiceAndLoseNothing) {
-    PrivatePostgres postgres;
-    work(postgres.newDatabase());
+    work(newPostgresDatabase());
 }
 
 INSTANTIATE_TEST_SUITE_P(Servers, TenDesks, testing::Values(1, 2));
