@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/e2e/clerk_day.h"
 #include "tests/e2e/programs.h"
 
 namespace tarn::test {
@@ -75,66 +76,55 @@ Rows without(const Rows& rows, const Rows& others) {
     return left;
 }
 
-class ClerkDay : public testing::Test {
-protected:
-    void SetUp() override {
-        ASSERT_TRUE(folder_.isValid());
-        ASSERT_NO_FATAL_FAILURE(server_.start(database()));
-        before_ = Ledger(database()).everything();
-        ASSERT_FALSE(before_.empty());
-    }
-    QString database() const { return folder_.filePath("empresa.sqlite"); }
-    int walk(const QStringList& more) {
-        return run(TARNROTEIRO,
-                   QStringList{"--servidor", server_.address(), "--saida", folder_.path()} + more);
-    }
-    std::string paper(const char* name) const { return contentOf(folder_.filePath(name)); }
-    // The names of the tables that differ from what they were.
-    std::vector<std::string> changed(const Tables& now) const {
-        std::vector<std::string> names;
-        for (const auto& [name, rows] : now) {
-            if (rows != before_.at(name)) {
-                names.push_back(name);
-            }
+std::string paperOf(const QString& folder, const char* name) {
+    return contentOf(QDir(folder).filePath(name));
+}
+std::string paper(const char* name) {
+    return paperOf(clerk_day::dayFolder, name);
+}
+// The names of the tables that differ.
+std::vector<std::string> changed(const Tables& before, const Tables& now) {
+    std::vector<std::string> names;
+    for (const auto& [name, rows] : now) {
+        if (rows != before.at(name)) {
+            names.push_back(name);
         }
-        return names;
     }
+    return names;
+}
+Tables contentsOf(const QString& database) {
+    Tables tables = Ledger(database).everything();
+    EXPECT_FALSE(tables.empty());
+    return tables;
+}
 
-    QTemporaryDir folder_;
-    Server server_;
-    Tables before_;
-};
-
-TEST_F(ClerkDay, TheDatabaseHoldsWhatTheDayDidAndNothingElse) {
-    ASSERT_EQ(walk({"--roteiro", "recusa", "--usuario", "otavio"}), 0);
-    ASSERT_EQ(walk({}), 0);
-    server_.stop();
-
+TEST(ClerkDay, TheDatabaseHoldsWhatTheDayDidAndNothingElse) {
     const std::string number = paper("job-003.prn").substr(124, 6);
     const std::string trimmed = number.substr(number.find_first_not_of(" 0"));
-    const Ledger ledger(database());
+    const Tables before = contentsOf(clerk_day::before);
+    const Ledger ledger(clerk_day::after);
     const Tables now = ledger.everything();
-    EXPECT_THAT(changed(now), ElementsAre("billing_order", "cheque", "document", "label", "note",
-                                          "note_parcel", "series"));
+    EXPECT_THAT(changed(before, now), ElementsAre("billing_order", "cheque", "document", "label",
+                                                  "note", "note_parcel", "series"));
 
     // The order that was corrected, and the one whose note was cancelled for good.
-    EXPECT_EQ(without(now.at("billing_order"), before_.at("billing_order")).size(), 2U);
+    EXPECT_EQ(without(now.at("billing_order"), before.at("billing_order")).size(), 2U);
     EXPECT_THAT(ledger.rows("SELECT packages, gross_weight, net_weight, state FROM billing_order"
                             " WHERE id = 45001"),
                 ElementsAre("12000|350500|325400|A"));
     EXPECT_THAT(ledger.rows("SELECT state FROM billing_order WHERE id = 45006"), ElementsAre("C"));
 
     // One note, cancelled by whom issued it; its number won't be given again.
-    EXPECT_EQ(now.at("note").size(), before_.at("note").size() + 1);
+    EXPECT_EQ(now.at("note").size(), before.at("note").size() + 1);
     EXPECT_THAT(ledger.rows("SELECT series_code, order_id, issued_by, cancelled, cancelled_by,"
                             " cancel_reason_id FROM note WHERE number = " +
                             QString::fromStdString(trimmed)),
                 ElementsAre("1|45006|101|1|101|2"));
-    EXPECT_EQ(without(now.at("series"), before_.at("series")).size(), 1U);
-    EXPECT_EQ(without(now.at("note_parcel"), before_.at("note_parcel")).size(), 1U);
+    EXPECT_EQ(without(now.at("series"), before.at("series")).size(), 1U);
+    EXPECT_EQ(without(now.at("note_parcel"), before.at("note_parcel")).size(), 1U);
 
     // Two slips with the numbers of their paper.
-    EXPECT_EQ(without(now.at("document"), before_.at("document")).size(), 2U);
+    EXPECT_EQ(without(now.at("document"), before.at("document")).size(), 2U);
     EXPECT_THAT(ledger.rows("SELECT slip_number, entered_by FROM document"
                             " WHERE slip_number IS NOT NULL"),
                 ElementsAre("1234|101", "1235|101"));
@@ -147,17 +137,16 @@ TEST_F(ClerkDay, TheDatabaseHoldsWhatTheDayDidAndNothingElse) {
                             "2012-09-05|MATERIAL DE ESCRITÓRIO|101"));
 
     // Three labels went, the rest of the reason stays.
-    EXPECT_THAT(without(now.at("label"), before_.at("label")), IsEmpty());
-    EXPECT_EQ(without(before_.at("label"), now.at("label")).size(), 3U);
+    EXPECT_THAT(without(now.at("label"), before.at("label")), IsEmpty());
+    EXPECT_EQ(without(before.at("label"), now.at("label")).size(), 3U);
     EXPECT_THAT(ledger.rows("SELECT COUNT(*), MIN(sequence) FROM label WHERE company_id = 1361"
                             " AND reason_id = 1"),
                 ElementsAre("597|4"));
 }
 
-TEST_F(ClerkDay, EveryPaperOfTheDayIsThere) {
-    ASSERT_EQ(walk({}), 0);
-    server_.stop();
-    const QStringList jobs = QDir(folder_.path()).entryList({"job-*"}, QDir::Files, QDir::Name);
+TEST(ClerkDay, EveryPaperOfTheDayIsThere) {
+    const QStringList jobs =
+        QDir(clerk_day::dayFolder).entryList({"job-*"}, QDir::Files, QDir::Name);
     EXPECT_EQ(jobs.join(' ').toStdString(),
               "job-001.prn job-002.prn job-003.prn job-004.prn job-005.prn "  // sheet, note twice
               "job-006.pdf job-007.pdf "                                      // bills, receipt
@@ -175,18 +164,24 @@ TEST_F(ClerkDay, EveryPaperOfTheDayIsThere) {
     EXPECT_THAT(paper("job-015.prn"), HasSubstr("PANIFICADORA E CONFEITARIA"));
 }
 
-TEST_F(ClerkDay, ARefusedRightLeavesNothing) {
-    ASSERT_EQ(walk({"--roteiro", "recusa", "--usuario", "otavio"}), 0);
-    server_.stop();
-    EXPECT_THAT(changed(Ledger(database()).everything()), IsEmpty());
-    EXPECT_THAT(QDir(folder_.path()).entryList({"job-*"}), IsEmpty());
+TEST(ClerkDay, ARefusedRightLeavesNothing) {
+    EXPECT_THAT(changed(contentsOf(clerk_day::before), contentsOf(clerk_day::refused)), IsEmpty());
+    EXPECT_TRUE(QDir(clerk_day::refusalFolder).exists());
+    EXPECT_THAT(QDir(clerk_day::refusalFolder).entryList({"job-*"}), IsEmpty());
 }
 
-TEST_F(ClerkDay, TheBulkSelectionPrintsItsLabelsAndChangesNothing) {
-    ASSERT_EQ(walk({"--roteiro", "selecao"}), 0);
-    server_.stop();
-    EXPECT_THAT(changed(Ledger(database()).everything()), IsEmpty());
-    EXPECT_THAT(paper("job-001.pdf"), StartsWith("%PDF-"));
+TEST(ClerkDay, TheBulkSelectionPrintsItsLabelsAndChangesNothing) {
+    const QTemporaryDir folder;
+    const QString database = folder.filePath("empresa.sqlite");
+    ASSERT_TRUE(QFile::copy(clerk_day::before, database));
+    Server server;
+    ASSERT_NO_FATAL_FAILURE(server.start(database));
+    ASSERT_EQ(run(TARNROTEIRO, {"--servidor", server.address(), "--saida", folder.path(),
+                                "--roteiro", "selecao"}),
+              0);
+    server.stop();
+    EXPECT_THAT(changed(contentsOf(clerk_day::before), contentsOf(database)), IsEmpty());
+    EXPECT_THAT(paperOf(folder.path(), "job-001.pdf"), StartsWith("%PDF-"));
 }
 
 }  // namespace

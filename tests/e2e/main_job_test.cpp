@@ -10,6 +10,7 @@
 #include "gateway/commands.h"
 #include "gateway/xml_document.h"
 #include "platform/curl/curl_loader.h"
+#include "tests/e2e/clerk_day.h"
 #include "tests/e2e/programs.h"
 
 namespace tarn::test {
@@ -19,15 +20,11 @@ class MainJob : public testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(folder_.isValid());
-        ASSERT_NO_FATAL_FAILURE(server_.start());
         session_.NCOMPANYCODE = 1361;
         session_.ID_ETB_TARN = 1361;
         session_.UserCode = "101";
         session_.SERVERNAME = "DADOS1361";
     }
-    void TearDown() override { server_.stop(); }
-
-    XmlDocument asked(const std::string& query) { return asked(server_, query); }
     XmlDocument asked(const Server& server, const std::string& query) {
         CurlLoader loader;
         answer_ = loader.get(server.address().toStdString() + query);
@@ -35,8 +32,14 @@ protected:
         EXPECT_TRUE(answer_.loaded && document.loadXML(answer_.body)) << query;
         return document;
     }
-    std::vector<std::string> ordersLeft() {
-        const XmlDocument list = asked(commands::sel_ordem_fatu(session_));
+    // Serves a copy of one of the day's databases.
+    void serve(Server& server, const QString& database) {
+        const QString copy = folder_.filePath(QFileInfo(database).fileName());
+        ASSERT_TRUE(QFile::copy(database, copy));
+        ASSERT_NO_FATAL_FAILURE(server.start(copy));
+    }
+    std::vector<std::string> ordersLeft(const Server& server) {
+        const XmlDocument list = asked(server, commands::sel_ordem_fatu(session_));
         const XmlNode rows = list.selectSingleNode("xml/rs:data");
         std::vector<std::string> orders;
         for (std::size_t i = 0; i < rows.childCount(); ++i) {
@@ -44,30 +47,77 @@ protected:
         }
         return orders;
     }
+    static QString ofTheDay(const char* name) { return QDir(clerk_day::dayFolder).filePath(name); }
     QString inFolder(const char* name) const { return folder_.filePath(name); }
 
     QTemporaryDir folder_;
-    Server server_;
     Sessao session_;
     HttpAnswer answer_;
 };
 
+// What the pictures of a day show at least.
+const std::vector<std::string> pictures{"logon",
+                                        "logon-preenchido",
+                                        "mesa",
+                                        "menu-nota-fiscal",
+                                        "ordens",
+                                        "manutencao",
+                                        "manutencao-preenchida",
+                                        "recusa-do-servidor",
+                                        "sem-estoque",
+                                        "observacao",
+                                        "nota-emitida",
+                                        "ajuda",
+                                        "reimpressao",
+                                        "reimpressao-preenchida",
+                                        "cancelamento",
+                                        "cancelamento-preenchido",
+                                        "nota-cancelada",
+                                        "nota-nao-encontrada",
+                                        "clientes",
+                                        "duplicatas",
+                                        "duplicatas-impressas",
+                                        "recibos",
+                                        "carteira-obrigatoria",
+                                        "boletos",
+                                        "boleto-impresso",
+                                        "cheque-preenchido",
+                                        "cheque-emitido",
+                                        "cheque-repetido",
+                                        "etiquetas",
+                                        "etiquetas-imprimir",
+                                        "etiquetas-impressas",
+                                        "etiquetas-excluir",
+                                        "etiquetas-excluidas",
+                                        "fim"};
+// What those of a folder show, without "passo-NN-" and ".png".
+std::vector<std::string> picturesOf(const QString& folder) {
+    std::vector<std::string> names;
+    for (const QString& file : QDir(folder).entryList({"passo-*.png"}, QDir::Files, QDir::Name)) {
+        names.push_back(QFileInfo(file).baseName().section('-', 2).toStdString());
+    }
+    return names;
+}
+
 TEST_F(MainJob, AnOrderBecomesANoteOnPaper) {
-    const std::vector<std::string> before = ordersLeft();
+    Server morning;
+    ASSERT_NO_FATAL_FAILURE(serve(morning, clerk_day::before));
+    const std::vector<std::string> before = ordersLeft(morning);
+    morning.stop();
     ASSERT_THAT(before, testing::Contains("45006"));
 
-    ASSERT_EQ(run(TARNROTEIRO, {"--servidor", server_.address(), "--saida", folder_.path()}), 0);
-
+    Server evening;
+    ASSERT_NO_FATAL_FAILURE(serve(evening, clerk_day::after));
     // The order is gone, the refused one and the one without stock are not.
-    const std::vector<std::string> after = ordersLeft();
+    const std::vector<std::string> after = ordersLeft(evening);
     EXPECT_EQ(after.size() + 1, before.size());
     EXPECT_THAT(after, testing::Not(testing::Contains("45006")));
     EXPECT_THAT(after, testing::IsSupersetOf({"45007", "45008"}));
 
     // The order's sheet; then one note, twice: its set-up job and its own.
-    EXPECT_THAT(contentOf(inFolder("job-001.prn")), testing::HasSubstr("CTRL 000871-A"));
-    EXPECT_EQ(contentOf(inFolder("job-002.prn")), " \x0F");
-    const std::string note = contentOf(inFolder("job-003.prn"));
+    EXPECT_THAT(contentOf(ofTheDay("job-001.prn")), testing::HasSubstr("CTRL 000871-A"));
+    EXPECT_EQ(contentOf(ofTheDay("job-002.prn")), " \x0F");
+    const std::string note = contentOf(ofTheDay("job-003.prn"));
     ASSERT_GT(note.size(), 130U);
     EXPECT_EQ(note[89], 'X');  // column 90: an exit note
     const std::string number = note.substr(124, 6);
@@ -79,28 +129,26 @@ TEST_F(MainJob, AnOrderBecomesANoteOnPaper) {
         end += "\r\n";
     }
     EXPECT_THAT(note, testing::EndsWith(end));
-    EXPECT_EQ(contentOf(inFolder("job-004.prn")), " \x0F");
-    EXPECT_EQ(contentOf(inFolder("job-005.prn")), note);
+    EXPECT_EQ(contentOf(ofTheDay("job-004.prn")), " \x0F");
+    EXPECT_EQ(contentOf(ofTheDay("job-005.prn")), note);
 
     // It was cancelled in the end: the server has it no more.
-    EXPECT_EQ(
-        asked(commands::SEL_NF(session_, number, "1")).selectSingleNode("xml/rs:data").childCount(),
-        0U);
+    EXPECT_EQ(asked(evening, commands::SEL_NF(session_, number, "1"))
+                  .selectSingleNode("xml/rs:data")
+                  .childCount(),
+              0U);
+    evening.stop();
 
     // A picture of each step, and the paper.
-    const QStringList pictures =
-        QDir(folder_.path()).entryList({"passo-*.png"}, QDir::Files, QDir::Name);
-    EXPECT_EQ(pictures.size(), 34);
-    ASSERT_EQ(run(TARNIMPRESSORA, {"--pdf", inFolder("nota.pdf"), inFolder("job-002.prn"),
-                                   inFolder("job-003.prn")}),
+    EXPECT_THAT(picturesOf(clerk_day::dayFolder), testing::IsSupersetOf(pictures));
+    ASSERT_EQ(run(TARNIMPRESSORA, {"--pdf", inFolder("nota.pdf"), ofTheDay("job-002.prn"),
+                                   ofTheDay("job-003.prn")}),
               0);
     EXPECT_THAT(contentOf(inFolder("nota.pdf")), testing::StartsWith("%PDF-"));
 }
 
 TEST_F(MainJob, TheProgramWithoutWindowsPrintsTheSameBytes) {
-    ASSERT_EQ(run(TARNROTEIRO, {"--servidor", server_.address(), "--saida", folder_.path()}), 0);
-
-    // The same order, generated on a server of its own, is the same note.
+    // The order of the day's note, generated on a server of its own, is the same note.
     Server twin;
     ASSERT_NO_FATAL_FAILURE(twin.start());
     const XmlDocument generated = asked(twin, commands::SP_GERA_NF(session_, "45006"));
@@ -116,18 +164,21 @@ TEST_F(MainJob, TheProgramWithoutWindowsPrintsTheSameBytes) {
                                 "--numero", QString::fromStdString(number), "--destino",
                                 inFolder("de-novo"), saved.fileName()}),
               0);
-    EXPECT_EQ(contentOf(inFolder("de-novo/job-002.prn")), contentOf(inFolder("job-003.prn")));
-    EXPECT_GT(contentOf(inFolder("job-003.prn")).size(), 130U);
+    EXPECT_EQ(contentOf(inFolder("de-novo/job-002.prn")), contentOf(ofTheDay("job-003.prn")));
+    EXPECT_GT(contentOf(ofTheDay("job-003.prn")).size(), 130U);
 }
 
 TEST_F(MainJob, AWrongPasswordEndsTheWalkWithAWord) {
+    Server server;
+    ASSERT_NO_FATAL_FAILURE(server.start());
     QProcess walk;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     walk.setProcessEnvironment(environment);
     walk.start(TARNROTEIRO,
-               {"--servidor", server_.address(), "--saida", folder_.path(), "--senha", "errada"});
+               {"--servidor", server.address(), "--saida", folder_.path(), "--senha", "errada"});
     ASSERT_TRUE(walk.waitForFinished(patienceMs));
+    server.stop();
     EXPECT_EQ(walk.exitCode(), 1);
     EXPECT_THAT(walk.readAllStandardError().toStdString(),
                 testing::HasSubstr("Usuário ou senha inválidos"));
