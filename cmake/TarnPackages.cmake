@@ -13,6 +13,9 @@ endif()
 
 if(TARN_BUILD_TOOLS)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Network)
+  # A precompiled header is of use only where all macros are the same, and nothing of Qt
+  # asks for this one.
+  set_property(TARGET Qt6::Network PROPERTY INTERFACE_COMPILE_DEFINITIONS "")
 endif()
 
 if(TARN_BUILD_PRACTICE)

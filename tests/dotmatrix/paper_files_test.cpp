@@ -1,7 +1,6 @@
 // The drawn half: PDF, pictures and text on the disk, seen through other programs' eyes.
 #include <gtest/gtest.h>
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QProcess>
 #include <QRegularExpression>
@@ -185,12 +184,3 @@ TEST_F(PaperFiles, FailureToWriteIsTold) {
 
 }  // namespace
 }  // namespace tarn::test
-
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    testing::InitGoogleTest(&argc, argv);
-    const QGuiApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}
