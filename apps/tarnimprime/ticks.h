@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "apps/tarnimprime/commands.h"
-#include "common/grid_row.h"
+#include "common/grid_rows.h"
 
 namespace tarn::print {
 

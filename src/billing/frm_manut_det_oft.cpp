@@ -28,7 +28,7 @@ void showNumber(QLineEdit& field, const std::string& text) {
 
 }  // namespace
 
-frmManutDetOFT::frmManutDetOFT(DeskContext& desk, const BillingOrder& order, QWidget* parent)
+frmManutDetOFT::frmManutDetOFT(DeskContext& desk, const GridRow& order, QWidget* parent)
     : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::frmManutDetOFT>()) {
     ui_->setupUi(this);
     prepareFields();
@@ -70,23 +70,31 @@ void frmManutDetOFT::prepareButtons() {
     connect(ui_->cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-void frmManutDetOFT::load(const BillingOrder& order) {
-    const auto& cells = order.cells;
-    const std::array<QLineEdit*, 8> forReading{ui_->txtOrdFat, ui_->txtCliente,   ui_->txtEstab,
-                                               ui_->txtTpNF,   ui_->txtDtEmissao, ui_->txtOrdCarga,
-                                               ui_->txtTransp, ui_->txtMotorista};
-    for (std::size_t i = 0; i < forReading.size(); ++i) {
-        const QString text = QString::fromStdString(cells[i]);
-        forReading[i]->setText(text);
-        forReading[i]->setCursorPosition(0);
+void frmManutDetOFT::load(const GridRow& order) {
+    struct ForReading {
+        QLineEdit* field;
+        OrderColumn column;
+    };
+    const std::array<ForReading, 8> all{{{ui_->txtOrdFat, OrderColumn::Order},
+                                         {ui_->txtCliente, OrderColumn::Customer},
+                                         {ui_->txtEstab, OrderColumn::Establishment},
+                                         {ui_->txtTpNF, OrderColumn::NoteKind},
+                                         {ui_->txtDtEmissao, OrderColumn::Generated},
+                                         {ui_->txtOrdCarga, OrderColumn::LoadOrder},
+                                         {ui_->txtTransp, OrderColumn::Carrier},
+                                         {ui_->txtMotorista, OrderColumn::Driver}}};
+    for (const ForReading& one : all) {
+        const QString text = QString::fromStdString(order.text(one.column));
+        one.field->setText(text);
+        one.field->setCursorPosition(0);
         if (!text.isEmpty()) {  // whole, where the field is short
-            forReading[i]->setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
+            one.field->setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
         }
     }
-    ui_->txtObs->loadText(cells[8]);
-    showNumber(*ui_->txtQtde, cells[9]);
-    showNumber(*ui_->txtPesoBruto, cells[10]);
-    showNumber(*ui_->txtPesoLiquido, cells[11]);
+    ui_->txtObs->loadText(order.text(OrderColumn::Observation));
+    showNumber(*ui_->txtQtde, order.text(OrderColumn::Quantity));
+    showNumber(*ui_->txtPesoBruto, order.text(OrderColumn::GrossWeight));
+    showNumber(*ui_->txtPesoLiquido, order.text(OrderColumn::NetWeight));
 }
 
 QLineEdit& frmManutDetOFT::field(OrderField which) const {

@@ -23,7 +23,7 @@ class frmManutDetOFT : public QDialog {
 
 public:
     // Shows the order's cells as they are now; what becomes of the list is not followed.
-    frmManutDetOFT(DeskContext& desk, const BillingOrder& order, QWidget* parent);
+    frmManutDetOFT(DeskContext& desk, const GridRow& order, QWidget* parent);
     ~frmManutDetOFT() override;
 
 signals:
@@ -36,7 +36,7 @@ protected:
 private:
     void prepareFields();
     void prepareButtons();
-    void load(const BillingOrder& order);
+    void load(const GridRow& order);
     QLineEdit& field(OrderField which) const;
 
     void cmdOk_Click();

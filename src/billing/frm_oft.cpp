@@ -7,26 +7,23 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTimer>
-#include <array>
 
 #include "billing/frm_manut_det_oft.h"
 #include "billing/frm_mensagem_alerta.h"
 #include "billing/generate_note.h"
 #include "billing/observations.h"
-#include "billing/order_model.h"
 #include "billing/print_order.h"
 #include "platform/message_boxes.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_oft.h"
+#include "widgets/grid_model.h"
+#include "widgets/grid_view.h"
 #include "widgets/look.h"
 
 namespace tarn {
 namespace {
 
 constexpr int intervalMs = 60000;
-// Widths of the grid's columns in characters.
-constexpr std::array<int, 12> widths{12, 34, 19, 18, 14, 13, 24, 24, 26, 17, 17, 17};
-constexpr int columnsWithTitle = 8;
 constexpr int visibleLines = 18;
 
 // What follows a click or a key without the user having looked again.
@@ -41,10 +38,10 @@ bool isRepeatedGesture(const QEvent& event) {
 FrmOFT::FrmOFT(DeskContext& desk)
     : desk_(desk),
       ui_(std::make_unique<Ui::FrmOFT>()),
-      orders_(new OrderModel(this)),
+      orders_(new GridModel(orderGrid(), this)),
       timer_(new QTimer(this)) {
     ui_->setupUi(this);
-    prepareGrid();
+    prepareGrid(*ui_->sprDados, *orders_);
     prepareButtons();
     timer_->setObjectName(QStringLiteral("Timer"));
     timer_->setInterval(intervalMs);
@@ -53,18 +50,6 @@ FrmOFT::FrmOFT(DeskContext& desk)
 }
 
 FrmOFT::~FrmOFT() = default;
-
-void FrmOFT::prepareGrid() {
-    QTableView& grid = *ui_->sprDados;
-    grid.setModel(orders_);
-    const int character = grid.fontMetrics().averageCharWidth();
-    for (int column = 0; column < orders_->columnCount(); ++column) {
-        grid.setColumnWidth(column, widths.at(static_cast<std::size_t>(column)) * character);
-    }
-    grid.horizontalHeader()->setHighlightSections(false);
-    grid.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    grid.verticalHeader()->setDefaultSectionSize(grid.fontMetrics().height() * 3 / 2);
-}
 
 void FrmOFT::prepareButtons() {
     const int side = fontMetrics().height() * 2;
@@ -86,8 +71,8 @@ QSize FrmOFT::sizeHint() const {
     const QTableView& grid = *ui_->sprDados;
     int width = grid.verticalHeader()->sizeHint().width() + 2 * grid.frameWidth() +
                 grid.verticalScrollBar()->sizeHint().width();
-    for (int column = 0; column < columnsWithTitle; ++column) {
-        width += grid.columnWidth(column);
+    for (int column = 0; column < orders_->columnCount(); ++column) {
+        width += orders_->column(column).heading.empty() ? 0 : grid.columnWidth(column);
     }
     const int height = grid.verticalHeader()->defaultSectionSize() * visibleLines;
     return QWidget::sizeHint() - grid.sizeHint() + QSize(width, height);
@@ -104,7 +89,6 @@ void FrmOFT::load() {
 void FrmOFT::loadSpread() {
     orders_->show({});
     orders_->show(loadOrders(desk_.environment, desk_.session));
-    ui_->sprDados->setCurrentIndex(orders_->index(0, 0));
 }
 
 // A tick that comes while the one before still shows its box is dropped, so that boxes
@@ -117,20 +101,21 @@ void FrmOFT::Timer_Tick() {
     loadSpread();
 }
 
-std::optional<BillingOrder> FrmOFT::selectedOrder() {
+std::optional<GridRow> FrmOFT::selectedOrder() {
     if (orders_->rowCount() == 0) {
         desk_.environment.boxes.show(
             {"Selecione a ordem de faturamento.     ", BoxIcon::Exclamation, "Aviso"});
         return std::nullopt;
     }
     const QModelIndex activate = ui_->sprDados->currentIndex();
-    return orders_->order(activate.isValid() ? activate.row() : 0);
+    return orders_->line(activate.isValid() ? activate.row() : 0);
 }
 
-bool FrmOFT::observationsAccepted(const BillingOrder& order) {
+bool FrmOFT::observationsAccepted(const GridRow& order) {
     ScreenAlert alert(desk_.session, this);
     bool goesOn = false;
-    Seleciona_Obs_Vnd_X_Ord(desk_.environment, desk_.session, alert, order.order(), goesOn);
+    Seleciona_Obs_Vnd_X_Ord(desk_.environment, desk_.session, alert, order.text(OrderColumn::Order),
+                            goesOn);
     return goesOn;
 }
 
@@ -141,7 +126,7 @@ void FrmOFT::cmdSelecionar_Click() {
         return;
     }
     ScreenAlert alert(desk_.session, this);
-    if (generateNote(desk_.environment, desk_.session, alert, order->order()) ==
+    if (generateNote(desk_.environment, desk_.session, alert, order->text(OrderColumn::Order)) ==
         GenerationEnd::Finished) {
         loadSpread();
         timer_->start();
@@ -158,7 +143,7 @@ void FrmOFT::CmdCanOft_Click() {
 void FrmOFT::cmdImprimirOF_Click() {
     const auto order = selectedOrder();
     if (order && observationsAccepted(*order)) {
-        printSelectedOrder(desk_.environment, desk_.session, order->order());
+        printSelectedOrder(desk_.environment, desk_.session, order->text(OrderColumn::Order));
     }
 }
 

@@ -17,7 +17,7 @@ class FrmOFT;
 
 namespace tarn {
 
-class OrderModel;
+class GridModel;
 
 class FrmOFT : public QWidget {
     Q_OBJECT
@@ -43,11 +43,10 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void prepareGrid();
     void prepareButtons();
     // The active row, the first one when none is; with an empty grid tells the user.
-    std::optional<BillingOrder> selectedOrder();
-    bool observationsAccepted(const BillingOrder& order);
+    std::optional<GridRow> selectedOrder();
+    bool observationsAccepted(const GridRow& order);
 
     void Timer_Tick();
     void cmdSelecionar_Click();
@@ -58,7 +57,7 @@ private:
 
     DeskContext& desk_;
     std::unique_ptr<Ui::FrmOFT> ui_;
-    OrderModel* orders_;
+    GridModel* orders_;
     QTimer* timer_;
     bool noTick_ = false;
 };

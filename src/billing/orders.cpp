@@ -1,37 +1,35 @@
 #include "billing/orders.h"
 
-#include <string_view>
+#include <string>
 
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
 #include "platform/environment.h"
 #include "platform/message_boxes.h"
-#include "runtime/mask.h"
-#include "runtime/numbers.h"
 
 namespace tarn {
 namespace {
 
-constexpr std::array<std::string_view, 12> fields{
-    "ID_ORD_FAT",     "NM_PES_CPL", "NM_RDU", "DC_TIP_NF", "DT_GER_OFT", "ID_ORD_CRG",
-    "TRANSPORTADORA", "NM_PES_MOT", "DC_OBS", "QT_ESP",    "PESO_BRU",   "PESO_LIQ"};
-constexpr std::size_t firstNumber = 9;  // quantity and the two weights
-constexpr NumberMask mask{"###,###,###,##0.000"};
-
-BillingOrder orderOf(const XmlNode& line) {
-    BillingOrder order;
-    const XmlAttributes attributes = line.attributes();
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        const XmlAttribute attribute = attributes.getNamedItem(fields[i]);
-        if (!attribute) {
-            continue;
-        }
-        order.cells[i] = i < firstNumber ? std::string(attribute.text())
-                                         : formatNumber(readPoint(attribute.text()), mask);
-    }
-    return order;
-}
+constexpr auto grid = gridOf<OrderColumn>(
+    {{OrderColumn::Order,
+      {"ID_ORD_FAT", "Ord. Fat.", 12, Treatment::Text, "Número da ordem de faturamento"}},
+     {OrderColumn::Customer, {"NM_PES_CPL", "Cliente", 34, Treatment::Text, "Cliente"}},
+     {OrderColumn::Establishment,
+      {"NM_RDU", "Estabelecimento", 19, Treatment::Text, "Estabelecimento"}},
+     {OrderColumn::NoteKind,
+      {"DC_TIP_NF", "Tipo de NF", 18, Treatment::Text, "Tipo de nota fiscal"}},
+     {OrderColumn::Generated,
+      {"DT_GER_OFT", "Dt. Emissão", 14, Treatment::Text, "Data em que a ordem foi gerada"}},
+     {OrderColumn::LoadOrder,
+      {"ID_ORD_CRG", "Ord. Carga", 13, Treatment::Text, "Número da ordem de carga"}},
+     {OrderColumn::Carrier,
+      {"TRANSPORTADORA", "Transportadora", 24, Treatment::Text, "Transportadora"}},
+     {OrderColumn::Driver, {"NM_PES_MOT", "Motorista", 24, Treatment::Text, "Motorista"}},
+     {OrderColumn::Observation, {"DC_OBS", "", 26, Treatment::Text, "Observação"}},
+     {OrderColumn::Quantity, {"QT_ESP", "", 17, Treatment::Quantity, "Quantidade de volumes"}},
+     {OrderColumn::GrossWeight, {"PESO_BRU", "", 17, Treatment::Quantity, "Peso bruto"}},
+     {OrderColumn::NetWeight, {"PESO_LIQ", "", 17, Treatment::Quantity, "Peso líquido"}}});
 
 bool confirm(Environment& environment, const std::string& order) {
     const BoxAnswer answer = environment.boxes.show(
@@ -44,36 +42,31 @@ bool confirm(Environment& environment, const std::string& order) {
 
 }  // namespace
 
-std::vector<BillingOrder> loadOrders(Environment& environment, const Sessao& session) {
-    std::vector<BillingOrder> orders;
+std::span<const GridColumn> orderGrid() {
+    return grid;
+}
+
+std::vector<GridRow> loadOrders(Environment& environment, const Sessao& session) {
     XmlDocument document;
     if (!requestAnswer(environment, commands::sel_ordem_fatu(session), document,
                        failure::Tarn0006)) {
-        return orders;
+        return {};
     }
     if (document.empty()) {
         warn(environment, "Houve um problema na transferência das Ordens de Faturamento.");
-        return orders;
+        return {};
     }
-    const XmlNode lines = document.selectSingleNode("xml/rs:data");
-    if (!lines) {
-        return orders;
-    }
-    const std::size_t count = lines.childCount();
-    orders.reserve(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        orders.push_back(orderOf(lines.child(i)));
-    }
-    return orders;
+    return gridRows(document, grid);
 }
 
-bool cancelOrder(Environment& environment, const Sessao& session, const BillingOrder& order) {
-    const std::string& number = order.order();
+bool cancelOrder(Environment& environment, const Sessao& session, const GridRow& order) {
+    const std::string& number = order.text(OrderColumn::Order);
     if (!confirm(environment, number)) {
         return false;
     }
     XmlDocument document;
-    if (!requestAnswer(environment, commands::sp_can_oft(session, number, order.loadOrder()),
+    if (!requestAnswer(environment,
+                       commands::sp_can_oft(session, number, order.text(OrderColumn::LoadOrder)),
                        document, failure::Tarn0003)) {
         warn(environment,
              "Favor verificar se a Ordem de Faturamento nº " + number + " foi cancelada. ",

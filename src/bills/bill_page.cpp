@@ -4,8 +4,6 @@
 namespace tarn {
 namespace {
 
-namespace column = bill_column;
-
 // Fills what the words leave free, so that nothing can be written in behind them.
 std::string amountStrip(const std::string& inWords) {
     constexpr int parameters = 126;
@@ -36,14 +34,14 @@ void frame(BillPage& paper, const BillPictures& pictures) {
 
 void invoice(BillPage& paper, const GridRow& document) {
     paper.ImprimeLinha("Fatura/NF", 6, 5, 9);
-    paper.ImprimeLinha(document.column(column::fiscalNote), 6.2, 5.5, 9);
+    paper.ImprimeLinha(document.text(BillColumn::FiscalNote), 6.2, 5.5, 9);
     paper.ImprimeLinha("Fatura/NF", 8.8, 4.8, 8);
     paper.ImprimeLinha("Valor R$", 8.8, 5.1, 8);
-    paper.ImprimeLinha("R$ " + document.column(column::value), 8.3, 5.5, 9);
+    paper.ImprimeLinha("R$ " + document.text(BillColumn::Value), 8.3, 5.5, 9);
     paper.ImprimeLinha(" Duplicata Nº ", 11, 5, 8);
-    paper.ImprimeLinha(document.column(column::number), 11.4, 5.5, 9);
+    paper.ImprimeLinha(document.text(BillColumn::Number), 11.4, 5.5, 9);
     paper.ImprimeLinha("Vencimento", 14.1, 5, 8);
-    paper.ImprimeLinha(document.column(column::due), 14.2, 5.5, 9);
+    paper.ImprimeLinha(document.text(BillColumn::Due), 14.2, 5.5, 9);
     paper.ImprimeLinha("Desconto de", 5.3, 6.2, 7, false);
     paper.ImprimeLinha("Condições Especiais", 5.3, 6.5, 7, false);
     paper.ImprimeLinha("Até", 13, 6.2, 7, false);
@@ -62,27 +60,28 @@ void place(BillPage& paper, double y, const std::string& town, const std::string
 }
 
 void payer(BillPage& paper, const GridRow& document) {
-    const bool legalPerson = document.column(column::personKind) == "J";
+    const bool legalPerson = document.text(BillColumn::PersonKind) == "J";
     paper.ImprimeLinha("Nome do Sacado", 5.4, 7.5, 8);
-    paper.ImprimeLinha(document.column(column::customer), 9, 7.5, 8);
+    paper.ImprimeLinha(document.text(BillColumn::Customer), 9, 7.5, 8);
     paper.ImprimeLinha("Endereço", 5.4, 7.9, 8);
-    paper.ImprimeLinha(document.column(column::address), 9, 7.9, 8);
-    place(paper, 8.3, document.column(column::town), document.column(column::state),
-          document.column(column::cep));
+    paper.ImprimeLinha(document.text(BillColumn::Address), 9, 7.9, 8);
+    place(paper, 8.3, document.text(BillColumn::Town), document.text(BillColumn::State),
+          document.text(BillColumn::PostalCode));
     paper.ImprimeLinha(legalPerson ? "C.N.P.J. (M.F.) Nº" : "CPF Nº", 5.4, 8.7, 8);
-    paper.ImprimeLinha(document.column(column::cpfCnpj), 9, 8.7, 8);
+    paper.ImprimeLinha(document.text(BillColumn::CpfCnpj), 9, 8.7, 8);
     paper.ImprimeLinha("I.E. Nº", 15, 8.7, 8);
-    paper.ImprimeLinha(document.column(column::registration), 16, 8.7, 8);
+    paper.ImprimeLinha(document.text(BillColumn::Registration), 16, 8.7, 8);
 }
 
 void collection(BillPage& paper, const GridRow& document) {
-    const std::string& address = document.column(column::billingAddress);
-    const bool other = address != document.column(column::address);
+    const std::string& address = document.text(BillColumn::BillingAddress);
+    const bool other = address != document.text(BillColumn::Address);
     paper.ImprimeLinha("Endereço de Cobrança", 5.4, 9.5, 8);
     paper.ImprimeLinha(other ? address : "O MESMO", 9, 9.5, 8);
     if (other) {
-        place(paper, 9.9, document.column(column::billingTown),
-              document.column(column::billingState), document.column(column::billingPostalCode));
+        place(paper, 9.9, document.text(BillColumn::BillingTown),
+              document.text(BillColumn::BillingState),
+              document.text(BillColumn::BillingPostalCode));
     }
 }
 

@@ -1,6 +1,5 @@
 #include "bills/bill_search.h"
 
-#include "common/grid_rows.h"
 #include "gateway/answer.h"
 #include "gateway/failure_texts.h"
 #include "platform/environment.h"
@@ -8,33 +7,39 @@
 namespace tarn {
 namespace {
 
-constexpr std::array<GridField, billColumns> fields{{{},
-                                                     {"SG_FIL"},
-                                                     {"DT_VNC_DOC_FMA"},
-                                                     {"DT_EMS_DOC"},
-                                                     {"NR_DOC"},
-                                                     {"NM_CLI_ETB"},
-                                                     {"DC_LG_CPL"},
-                                                     {"VL_PRN_DOC", Treatment::Amount},
-                                                     {"CD_CEP"},
-                                                     {"NM_MUN"},
-                                                     {"SG_UF"},
-                                                     {"NR_CGC_CPL", Treatment::CpfCnpj},
-                                                     {"CD_ICR_EST"},
-                                                     {{}, Treatment::PersonKind},
-                                                     {"TIPO_DOCTO"},
-                                                     {"ID_TIP_DOC"},
-                                                     {"ID_NR_CTL", Treatment::ReceivableOnly},
-                                                     {"DC_REF_REC", Treatment::NotReceivableOnly},
-                                                     {"NR_DOC_NF"},
-                                                     {"EG_COB"},
-                                                     {"MUN_COB"},
-                                                     {"ES_COB"},
-                                                     {"CD_CEP_COB"}}};
+// The heading over the state says "Filial" as well.
+constexpr auto grid = gridOf<BillColumn>(
+    {{BillColumn::Tick, {"", "", 4, Treatment::Tick}},
+     {BillColumn::Branch, {"SG_FIL", "Filial", 17}},
+     {BillColumn::Due, {"DT_VNC_DOC_FMA", "Dt.de Vencimento", 21}},
+     {BillColumn::Issued, {"DT_EMS_DOC", "Dt.de Emissão", 17}},
+     {BillColumn::Number, {"NR_DOC", "Nº do Documento", 20}},
+     {BillColumn::Customer, {"NM_CLI_ETB", "Cliente", 38}},
+     {BillColumn::Address, {"DC_LG_CPL", "Endereço", 38}},
+     {BillColumn::Value, {"VL_PRN_DOC", "Vlr.do Documento", 21, Treatment::Amount}},
+     {BillColumn::PostalCode, {"CD_CEP", "CEP", 12}},
+     {BillColumn::Town, {"NM_MUN", "Município", 24}},
+     {BillColumn::State, {"SG_UF", "Filial", 8}},
+     {BillColumn::CpfCnpj, {"NR_CGC_CPL", "CNPJ / CPF", 22, Treatment::CpfCnpj}},
+     {BillColumn::Registration, {"CD_ICR_EST", "I.E.", 18}},
+     {BillColumn::PersonKind, {"", "TP_PES", 9, Treatment::PersonKind}},
+     {BillColumn::Table, {"TIPO_DOCTO", "TP_DOCTO1", 20}},
+     {BillColumn::DocumentKind, {"ID_TIP_DOC", "TP_DOCTO2", 13}},
+     {BillColumn::ControlNumber, {"ID_NR_CTL", "ID_NR_CTL", 13, Treatment::ReceivableOnly}},
+     {BillColumn::Reference, {"DC_REF_REC", "IC_REF_REC", 38, Treatment::NotReceivableOnly}},
+     {BillColumn::FiscalNote, {"NR_DOC_NF", "NR_DOC_NF", 14}},
+     {BillColumn::BillingAddress, {"EG_COB", "Endereço Cobrança", 38}},
+     {BillColumn::BillingTown, {"MUN_COB", "Município Cobrança", 24}},
+     {BillColumn::BillingState, {"ES_COB", "Estado Cobrança", 20}},
+     {BillColumn::BillingPostalCode, {"CD_CEP_COB", "CEP Cobrança", 17}}});
 
 constexpr std::int32_t receiptKind = 12;
 
 }  // namespace
+
+std::span<const GridColumn> billGrid() {
+    return grid;
+}
 
 std::vector<ListItem> documentKinds() {
     return {{"-------------", 0}, {"DUPLICATA", billKind}, {"RECIBO", receiptKind}};
@@ -62,7 +67,7 @@ std::optional<std::vector<GridRow>> searchBills(Environment& environment, const 
 }
 
 std::vector<GridRow> billRows(const XmlDocument& answer) {
-    return rowsOf(answer, fields);
+    return gridRows(answer, grid);
 }
 
 }  // namespace tarn

@@ -3,7 +3,6 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QKeyEvent>
-#include <array>
 
 #include "bills/bill_search.h"
 #include "bills/print_bills.h"
@@ -12,36 +11,13 @@
 #include "widgets/combo_items.h"
 #include "widgets/enter_presses_button.h"
 #include "widgets/grid_model.h"
+#include "widgets/grid_view.h"
 #include "widgets/progress_window.h"
 #include "widgets/search_fields.h"
 
 namespace tarn {
 namespace {
 
-// The columns without a width are for the printing alone.
-constexpr std::array<GridColumn, billColumns> columns{{{"", 0, ColumnKind::CheckBox},
-                                                       {"Filial", 17},
-                                                       {"Dt.de Vencimento", 21},
-                                                       {"Dt.de Emissão", 17},
-                                                       {"Nº do Documento", 20},
-                                                       {"Cliente", 38},
-                                                       {"Endereço", 38},
-                                                       {"Vlr.do Documento", 21, ColumnKind::Number},
-                                                       {"CEP", 12},
-                                                       {"Município", 24},
-                                                       {"Filial", 8},
-                                                       {"CNPJ / CPF", 22},
-                                                       {"I.E.", 18},
-                                                       {"TP_PES", 0},
-                                                       {"TP_DOCTO1", 0},
-                                                       {"TP_DOCTO2", 0},
-                                                       {"ID_NR_CTL", 0},
-                                                       {"IC_REF_REC", 0},
-                                                       {"NR_DOC_NF", 0},
-                                                       {"Endereço Cobrança", 38},
-                                                       {"Município Cobrança", 24},
-                                                       {"Estado Cobrança", 20},
-                                                       {"CEP Cobrança", 17}}};
 constexpr int visibleLines = 14;
 constexpr int pictureHeight = 2;  // lines
 
@@ -65,7 +41,7 @@ FrmPesqDupli::FrmPesqDupli(DeskContext& desk, QWidget* parent)
     : QDialog(parent),
       desk_(desk),
       ui_(std::make_unique<Ui::FrmPesqDupli>()),
-      documents_(new GridModel(columns, this)) {
+      documents_(new GridModel(billGrid(), this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *documents_);
     prepareFields();
@@ -160,7 +136,6 @@ void FrmPesqDupli::cmdPesquisar_Click() {
                                         .issuedTo = issuedTo};
     if (auto lines = searchBills(desk_.environment, desk_.session, kind, filter)) {
         documents_->show(std::move(*lines));
-        ui_->sprDados->setCurrentIndex(documents_->index(0, 0));
     }
 }
 

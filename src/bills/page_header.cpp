@@ -17,7 +17,7 @@ void drawHeader(BillPage& paper, const Issuer& issuer, const GridRow& document,
     paper.ImprimeLinha("TEL.:" + data.TELEFONE + " - FAX.:" + data.FAX + " - E-MAIL:" + data.EMAIL,
                        11, 3.6, 6);
     paper.ImprimeLinha(header.issuedLabel, 11, 4.0, 8);
-    paper.ImprimeLinha(document.column(bill_column::issued), 14.3, 4.0, 8);
+    paper.ImprimeLinha(document.text(BillColumn::Issued), 14.3, 4.0, 8);
 }
 
 void drawPieces(BillPage& paper, std::string_view strip, std::size_t characters, double x,

@@ -8,7 +8,7 @@
 #include "bills/bill_paper.h"
 #include "bills/bill_pictures.h"
 #include "bills/company_data.h"
-#include "common/grid_row.h"
+#include "common/grid_rows.h"
 
 namespace tarn {
 

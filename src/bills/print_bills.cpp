@@ -25,16 +25,16 @@ constexpr std::array<double, 5> drawnKinds{1, 201, 202, 203, 262};
 constexpr std::size_t reportedKinds = 4;
 
 bool isOneOf(std::span<const double> kinds, const GridRow& document) {
-    const auto kind = parseComma(document.column(bill_column::documentKind));
+    const auto kind = parseComma(document.text(BillColumn::DocumentKind));
     return kind && std::ranges::find(kinds, *kind) != kinds.end();
 }
 
 std::string wordsOf(const GridRow& document) {
-    const std::string& value = document.column(bill_column::value);
+    const std::string& value = document.text(BillColumn::Value);
     const auto number = parseComma(value);
     if (!number) {
         throw RuntimeError(RuntimeErrorCode::TypeMismatch,
-                           "o documento nº " + document.column(bill_column::number) +
+                           "o documento nº " + document.text(BillColumn::Number) +
                                " está sem valor (\"" + value + "\")");
     }
     return ValorExtenso(*number, "REAIS", "REAL");

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "bills/bill_pictures.h"
-#include "common/grid_row.h"
+#include "common/grid_rows.h"
 #include "platform/progress.h"
 
 namespace tarn {

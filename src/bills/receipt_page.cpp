@@ -4,8 +4,6 @@
 namespace tarn {
 namespace {
 
-namespace column = bill_column;
-
 constexpr std::size_t piece = 60;  // characters of a line of words or reference
 
 std::string amountStrip(const std::string& inWords) {
@@ -20,28 +18,28 @@ std::string referenceStrip(const std::string& reference) {
 
 void title(BillPage& paper, const GridRow& document) {
     paper.drawLine(leftMargin, 4.05, rightMargin, 4.05, 6);
-    paper.ImprimeLinha("Nº " + document.column(column::number), 2, 5, 14);
+    paper.ImprimeLinha("Nº " + document.text(BillColumn::Number), 2, 5, 14);
     paper.ImprimeLinha("RECIBO", 9.8, 5, 16);
-    paper.ImprimeLinha("R$ " + document.column(column::value), 16, 5, 14);
+    paper.ImprimeLinha("R$ " + document.text(BillColumn::Value), 16, 5, 14);
     paper.drawLine(leftMargin, 5.5, rightMargin, 5.5, 6);
 }
 
 void payer(BillPage& paper, const GridRow& document) {
-    const bool legalPerson = document.column(column::personKind) == "J";
+    const bool legalPerson = document.text(BillColumn::PersonKind) == "J";
     paper.ImprimeLinha("Nome do Sacado", 2, 6.5, 10);
-    paper.ImprimeLinha(document.column(column::customer), 5, 6.5, 10);
+    paper.ImprimeLinha(document.text(BillColumn::Customer), 5, 6.5, 10);
     paper.ImprimeLinha("Endereço", 2, 7.2, 10);
-    paper.ImprimeLinha(document.column(column::address), 5, 7.2, 10);
+    paper.ImprimeLinha(document.text(BillColumn::Address), 5, 7.2, 10);
     paper.ImprimeLinha("Município", 2, 7.9, 10);
-    paper.ImprimeLinha(document.column(column::town), 5, 7.9, 10);
+    paper.ImprimeLinha(document.text(BillColumn::Town), 5, 7.9, 10);
     paper.ImprimeLinha("Estado", 10, 7.9, 10);
-    paper.ImprimeLinha(document.column(column::state), 11.5, 7.9, 10);
+    paper.ImprimeLinha(document.text(BillColumn::State), 11.5, 7.9, 10);
     paper.ImprimeLinha("CEP", 16.5, 7.9, 10);
-    paper.ImprimeLinha(document.column(column::cep), 18, 7.9, 10);
+    paper.ImprimeLinha(document.text(BillColumn::PostalCode), 18, 7.9, 10);
     paper.ImprimeLinha(legalPerson ? "CNPJ Nº" : "CPF Nº", 2, 8.6, 10);
-    paper.ImprimeLinha(document.column(column::cpfCnpj), 5, 8.6, 10);
+    paper.ImprimeLinha(document.text(BillColumn::CpfCnpj), 5, 8.6, 10);
     paper.ImprimeLinha("I.E. Nº", 14.5, 8.6, 10);
-    paper.ImprimeLinha(document.column(column::registration), 16, 8.6, 10);
+    paper.ImprimeLinha(document.text(BillColumn::Registration), 16, 8.6, 10);
 }
 
 void amountAndReference(BillPage& paper, const GridRow& document, const std::string& inWords) {
@@ -50,7 +48,7 @@ void amountAndReference(BillPage& paper, const GridRow& document, const std::str
     paper.ImprimeLinha("EXTENSO", 2, 10.1, 10);
     drawPieces(paper, amountStrip(inWords), piece, 5, {9.3, 9.7, 10.1}, 11);
     paper.ImprimeLinha("Referente a ", 2, 10.8, 10);
-    drawPieces(paper, referenceStrip(document.column(column::reference)), piece, 5,
+    drawPieces(paper, referenceStrip(document.text(BillColumn::Reference)), piece, 5,
                {10.8, 11.2, 11.6, 12, 12.4}, 11);
 }
 

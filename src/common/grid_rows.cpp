@@ -9,68 +9,75 @@ namespace tarn {
 namespace {
 
 constexpr NumberMask amountMask{"###,##0.00"};
+constexpr NumberMask quantityMask{"###,###,###,##0.000"};
 
-std::string_view textOf(const XmlAttributes& attributes, std::string_view name) {
-    const XmlAttribute attribute = attributes.getNamedItem(name);
+std::string_view textOf(const XmlAttributes& row, std::string_view name) {
+    const XmlAttribute attribute = row.getNamedItem(name);
     return attribute ? attribute.text() : std::string_view();
 }
 
-// What a row's treatments look at.
-struct RowRead {
-    XmlAttributes attributes;
-    bool naturalPerson;
-    bool receivable;
-};
+bool ofNaturalPerson(const XmlAttributes& row) {
+    return isNaturalPerson(textOf(row, "PES_JUR"));
+}
 
-std::string cell(const RowRead& line, const GridField& field) {
-    if (field.treatment == Treatment::PersonKind) {
-        return line.naturalPerson ? "F" : "J";
+bool isReceivable(const XmlAttributes& row) {
+    return textOf(row, "TIPO_DOCTO") == "DOCTO_RECEBER";
+}
+
+std::string cellOf(const XmlAttributes& row, const GridColumn& column) {
+    if (column.treatment == Treatment::PersonKind) {
+        return ofNaturalPerson(row) ? "F" : "J";
     }
-    const XmlAttribute attribute = line.attributes.getNamedItem(field.name);
+    if (column.attribute.empty()) {
+        return {};
+    }
+    const XmlAttribute attribute = row.getNamedItem(column.attribute);
     if (!attribute) {
         return {};
     }
     const std::string_view text = attribute.text();
-    switch (field.treatment) {
+    switch (column.treatment) {
         case Treatment::Amount:
             return formatNumber(readPoint(text), amountMask);
+        case Treatment::Quantity:
+            return formatNumber(readPoint(text), quantityMask);
         case Treatment::CpfCnpj:
-            return cpfCnpj(line.naturalPerson, text);
+            return cpfCnpj(ofNaturalPerson(row), text);
         case Treatment::ReceivableOnly:
-            return std::string(line.receivable ? text : std::string_view());
+            return std::string(isReceivable(row) ? text : std::string_view());
         case Treatment::NotReceivableOnly:
-            return std::string(line.receivable ? std::string_view() : text);
+            return std::string(isReceivable(row) ? std::string_view() : text);
+        case Treatment::Tick:
+        case Treatment::TickAlone:
         case Treatment::PersonKind:
         case Treatment::Text:
+        case Treatment::Number:
             break;
     }
     return std::string(text);
 }
 
-GridRow rowOf(const XmlNode& node, std::span<const GridField> fields) {
-    const XmlAttributes attributes = node.attributes();
-    const RowRead read{.attributes = attributes,
-                       .naturalPerson = isNaturalPerson(textOf(attributes, "PES_JUR")),
-                       .receivable = textOf(attributes, "TIPO_DOCTO") == "DOCTO_RECEBER"};
-    GridRow line;
-    line.cells.reserve(fields.size());
-    for (const GridField& field : fields) {
-        line.cells.push_back(cell(read, field));
+GridRow rowOf(const XmlNode& element, std::span<const GridColumn> columns) {
+    const XmlAttributes attributes = element.attributes();
+    GridRow row;
+    row.cells.reserve(columns.size());
+    for (const GridColumn& column : columns) {
+        row.cells.push_back(cellOf(attributes, column));
     }
-    return line;
+    return row;
 }
 
 }  // namespace
 
-std::vector<GridRow> rowsOf(const XmlDocument& answer, std::span<const GridField> fields) {
-    std::vector<GridRow> lines;
+std::vector<GridRow> gridRows(const XmlDocument& answer, std::span<const GridColumn> columns) {
+    std::vector<GridRow> rows;
     const XmlNode data = answer.selectSingleNode("xml/rs:data");
     const std::size_t count = data ? data.childCount() : 0;
-    lines.reserve(count);
+    rows.reserve(count);
     for (std::size_t i = 0; i < count; ++i) {
-        lines.push_back(rowOf(data.child(i), fields));
+        rows.push_back(rowOf(data.child(i), columns));
     }
-    return lines;
+    return rows;
 }
 
 }  // namespace tarn

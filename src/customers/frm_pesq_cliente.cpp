@@ -1,7 +1,6 @@
 #include "customers/frm_pesq_cliente.h"
 
 #include <QKeyEvent>
-#include <array>
 #include <exception>
 #include <utility>
 #include <vector>
@@ -10,15 +9,12 @@
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_pesq_cliente.h"
 #include "widgets/grid_model.h"
+#include "widgets/grid_view.h"
 #include "widgets/look.h"
 
 namespace tarn {
 namespace {
 
-constexpr std::array<GridColumn, 4> columns{
-    {{"Cliente", 52}, {"Tipo de Empresa", 26}, {"ID_PES_CLI", 14}, {"ID_ETB_CLI", 0}}};
-constexpr std::size_t nameColumn = 1;
-constexpr std::size_t idColumn = 3;
 constexpr int visibleLines = 12;
 
 }  // namespace
@@ -27,7 +23,7 @@ FrmPesqCliente::FrmPesqCliente(DeskContext& desk, QWidget* parent)
     : QDialog(parent),
       desk_(desk),
       ui_(std::make_unique<Ui::FrmPesqCliente>()),
-      customers_(new GridModel(columns, this)) {
+      customers_(new GridModel(customerGrid(), this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *customers_);
     prepareButtons();
@@ -53,7 +49,6 @@ void FrmPesqCliente::cmdPesquisar_Click() {
     try {
         const auto show = [this](std::vector<GridRow> lines) {
             customers_->show(std::move(lines));
-            ui_->sprDados->setCurrentIndex(customers_->index(0, 0));
         };
         if (!searchCustomer(desk_.environment, desk_.session, ui_->txtNmCli->text().toStdString(),
                             show)) {
@@ -72,7 +67,7 @@ void FrmPesqCliente::cmdSelecionar_Click() {
     }
     const QModelIndex activate = ui_->sprDados->currentIndex();
     const GridRow& line = customers_->line(activate.isValid() ? activate.row() : 0);
-    emit chosen({.id = line.column(idColumn), .name = line.column(nameColumn)});
+    emit chosen({.id = line.text(CustomerColumn::Id), .name = line.text(CustomerColumn::Name)});
     accept();
 }
 

@@ -1,9 +1,7 @@
 #include "customers/procura_cliente.h"
 
-#include <array>
 #include <utility>
 
-#include "common/grid_rows.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
@@ -16,14 +14,21 @@ namespace {
 
 constexpr std::size_t smallestName = 3;
 
-constexpr std::array<GridField, 3> fields{
-    {{.name = "NM_PES_CPL"}, {.name = "DC_TIP_EMP"}, {.name = "ID_PES_CLI"}}};
+constexpr auto grid =
+    gridOf<CustomerColumn>({{CustomerColumn::Name, {"NM_PES_CPL", "Cliente", 52}},
+                            {CustomerColumn::CompanyKind, {"DC_TIP_EMP", "Tipo de Empresa", 26}},
+                            {CustomerColumn::Id, {"ID_PES_CLI", "ID_PES_CLI", 14}},
+                            {CustomerColumn::Establishment, {"", "ID_ETB_CLI", 14}}});
 
 void inform(Environment& environment, const std::string& text) {
     environment.boxes.show({.text = text, .icon = BoxIcon::Information, .title = "Aviso"});
 }
 
 }  // namespace
+
+std::span<const GridColumn> customerGrid() {
+    return grid;
+}
 
 bool ProcuraCliente(Environment& environment, const Sessao& session, XmlDocument& answer,
                     const std::optional<std::string>& text) {
@@ -32,7 +37,7 @@ bool ProcuraCliente(Environment& environment, const Sessao& session, XmlDocument
 }
 
 std::vector<GridRow> customerRows(const XmlDocument& answer) {
-    return rowsOf(answer, fields);
+    return gridRows(answer, grid);
 }
 
 bool searchCustomer(Environment& environment, const Sessao& session, const std::string& text,

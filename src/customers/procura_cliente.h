@@ -3,10 +3,11 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
-#include "common/grid_row.h"
+#include "common/grid_rows.h"
 #include "gateway/xml_document.h"
 
 namespace tarn {
@@ -26,7 +27,10 @@ struct Customer {
 bool ProcuraCliente(Environment& environment, const Sessao& session, XmlDocument& answer,
                     const std::optional<std::string>& text);
 
-// The rows of the grid: name, kind of company, identifier. Absent fields are empty.
+// The columns of the grid. Nothing fills the establishment.
+enum class CustomerColumn { Name, CompanyKind, Id, Establishment, End };
+std::span<const GridColumn> customerGrid();
+
 std::vector<GridRow> customerRows(const XmlDocument& answer);
 
 // What a click on the search button does: `show` gets the rows for the grid, also none,

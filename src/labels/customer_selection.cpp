@@ -1,9 +1,7 @@
 #include "labels/customer_selection.h"
 
 #include <algorithm>
-#include <array>
 
-#include "common/grid_rows.h"
 #include "gateway/answer.h"
 #include "gateway/failure_texts.h"
 #include "platform/environment.h"
@@ -12,9 +10,14 @@
 namespace tarn::labels {
 namespace {
 
-// The tick is the user's own.
-constexpr std::array<GridField, 7> fields{
-    {{}, {"CD_CEP"}, {"NM_PES_CPL"}, {"DC_LG_CPL"}, {"NM_BRR"}, {"SG_UF"}, {"NM_MUN"}}};
+constexpr auto grid =
+    gridOf<SelectionColumn>({{SelectionColumn::Tick, {"", " ", 4, Treatment::TickAlone}},
+                             {SelectionColumn::PostalCode, {"CD_CEP", "Cep", 13}},
+                             {SelectionColumn::Name, {"NM_PES_CPL", "Cliente", 46}},
+                             {SelectionColumn::Address, {"DC_LG_CPL", "Endereço", 46}},
+                             {SelectionColumn::District, {"NM_BRR", "Bairro", 26}},
+                             {SelectionColumn::State, {"SG_UF", "Estado", 8}},
+                             {SelectionColumn::Town, {"NM_MUN", "Cidade", 28}}});
 
 std::vector<ListItem> load(Environment& environment, const std::string& query,
                            std::string_view textField, std::string_view dataField) {
@@ -70,8 +73,12 @@ MissingDate checkDates(Environment& environment, const commands::LabelFilter& fi
     return filter.saleFrom.empty() ? MissingDate::De : MissingDate::To;
 }
 
+std::span<const GridColumn> selectionGrid() {
+    return grid;
+}
+
 std::vector<GridRow> customersOf(const XmlDocument& answer) {
-    return rowsOf(answer, fields);
+    return gridRows(answer, grid);
 }
 
 std::vector<GridRow> searchCustomers(Environment& environment, const Sessao& session,

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "common/grid_row.h"
+#include "common/grid_rows.h"
 #include "common/list_items.h"
 #include "gateway/commands.h"
 
@@ -37,7 +37,9 @@ std::string MontaURL(std::span<const std::int32_t> data, int position);
 enum class MissingDate { None, De, To };
 MissingDate checkDates(Environment& environment, const commands::LabelFilter& filter);
 
-// A customer is a row of the grid: tick, CEP, name, address, district, state, town.
+// A customer is a row of the grid; its tick is the user's own.
+enum class SelectionColumn { Tick, PostalCode, Name, Address, District, State, Town, End };
+std::span<const GridColumn> selectionGrid();
 std::vector<GridRow> customersOf(const XmlDocument& answer);
 
 // Shows the query, then sends it. No customers after a failed request.

@@ -2,7 +2,6 @@
 
 #include <QKeyEvent>
 #include <algorithm>
-#include <array>
 #include <vector>
 
 #include "labels/customer_selection.h"
@@ -13,19 +12,13 @@
 #include "widgets/enter_presses_button.h"
 #include "widgets/field_families.h"
 #include "widgets/grid_model.h"
+#include "widgets/grid_view.h"
 #include "widgets/look.h"
 #include "widgets/progress_window.h"
 
 namespace tarn {
 namespace {
 
-constexpr std::array<GridColumn, 7> columns{{{" ", 0, ColumnKind::CheckBox, false},
-                                             {"Cep", 13},
-                                             {"Cliente", 46},
-                                             {"Endereço", 46},
-                                             {"Bairro", 26},
-                                             {"Estado", 8},
-                                             {"Cidade", 28}}};
 constexpr int visibleLines = 12;
 
 commands::ChosenItem chosen(const QComboBox& list) {
@@ -47,7 +40,7 @@ FrmImprEtiq::FrmImprEtiq(DeskContext& desk, QWidget* parent)
     : QDialog(parent),
       desk_(desk),
       ui_(std::make_unique<Ui::FrmImprEtiq>()),
-      customers_(new GridModel(columns, this)) {
+      customers_(new GridModel(labels::selectionGrid(), this)) {
     ui_->setupUi(this);
     prepareFields();
     prepareButtons();

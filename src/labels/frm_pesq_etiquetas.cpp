@@ -1,7 +1,6 @@
 #include "labels/frm_pesq_etiquetas.h"
 
 #include <QKeyEvent>
-#include <array>
 #include <utility>
 
 #include "labels/frm_excluir_etiqueta.h"
@@ -13,21 +12,12 @@
 #include "widgets/combo_items.h"
 #include "widgets/enter_presses_button.h"
 #include "widgets/grid_model.h"
+#include "widgets/grid_view.h"
 #include "widgets/look.h"
 
 namespace tarn {
 namespace {
 
-constexpr std::array<GridColumn, 10> columns{{{"Sequencial", 13, ColumnKind::Number},
-                                              {"Cep", 13},
-                                              {"Nome", 46},
-                                              {"Código", 12},
-                                              {"Endereço Nº", 46},
-                                              {"Complemento", 20},
-                                              {"Bairro", 26},
-                                              {"Município", 28},
-                                              {"UF", 5},
-                                              {"País", 14}}};
 constexpr int visibleLines = 14;
 
 }  // namespace
@@ -37,7 +27,7 @@ frmPesqEtiquetas::frmPesqEtiquetas(DeskContext& desk, labels::LabelValues& value
       desk_(desk),
       values_(values),
       ui_(std::make_unique<Ui::frmPesqEtiquetas>()),
-      queue_(new GridModel(columns, this)) {
+      queue_(new GridModel(labels::queueGrid(), this)) {
     ui_->setupUi(this);
     for (QWidget* ofSender :
          {static_cast<QWidget*>(ui_->LblFilialRemet), static_cast<QWidget*>(ui_->CboFilialRemet)}) {

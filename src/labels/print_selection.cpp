@@ -1,5 +1,6 @@
 #include "labels/print_selection.h"
 
+#include "labels/customer_selection.h"
 #include "labels/imprime_linha.h"
 #include "platform/environment.h"
 #include "platform/message_boxes.h"
@@ -8,9 +9,6 @@
 
 namespace tarn::labels {
 namespace {
-
-// Columns of the grid; what stands in the others isn't printed.
-enum Column : std::size_t { CD_CEP = 2, NM_PES_CPL = 3, DC_LG_CPL = 4, SG_UF = 6, NM_MUN = 7 };
 
 constexpr std::size_t nameCut = 40;  // characters, as those of the others
 constexpr std::size_t addressCut = 50;
@@ -38,11 +36,13 @@ struct Place {
 };
 
 void printCustomer(Environment& environment, const GridRow& customer, double x, double y) {
-    std::string town(leftOf(customer.column(NM_MUN), townCut));
-    town.append(" - ").append(customer.column(SG_UF));
-    write(environment, leftOf(customer.column(NM_PES_CPL), nameCut), x, y + 0.26, nameSize);
-    write(environment, leftOf(customer.column(DC_LG_CPL), addressCut), x, y + 0.76, textSize);
-    write(environment, customer.column(CD_CEP), x, y + 1.26, textSize);
+    std::string town(leftOf(customer.text(SelectionColumn::Town), townCut));
+    town.append(" - ").append(customer.text(SelectionColumn::State));
+    write(environment, leftOf(customer.text(SelectionColumn::Name), nameCut), x, y + 0.26,
+          nameSize);
+    write(environment, leftOf(customer.text(SelectionColumn::Address), addressCut), x, y + 0.76,
+          textSize);
+    write(environment, customer.text(SelectionColumn::PostalCode), x, y + 1.26, textSize);
     write(environment, town, x, y + 1.76, textSize);
 }
 

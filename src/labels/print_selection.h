@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "common/grid_row.h"
+#include "common/grid_rows.h"
 #include "platform/progress.h"
 
 namespace tarn {

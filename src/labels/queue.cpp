@@ -1,6 +1,5 @@
 #include "labels/queue.h"
 
-#include "common/grid_rows.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
@@ -10,16 +9,17 @@
 namespace tarn::labels {
 namespace {
 
-constexpr std::array<GridField, 10> fields{{{"SEQUENCIAL"},
-                                            {"CEP"},
-                                            {"NOME"},
-                                            {"CODIGO"},
-                                            {"ENDERECO"},
-                                            {"COMPLEMENTO"},
-                                            {"BAIRRO"},
-                                            {"MUNICIPIO"},
-                                            {"UF"},
-                                            {"PAIS"}}};
+constexpr auto grid = gridOf<QueueColumn>(
+    {{QueueColumn::Sequence, {"SEQUENCIAL", "Sequencial", 13, Treatment::Number}},
+     {QueueColumn::PostalCode, {"CEP", "Cep", 13}},
+     {QueueColumn::Name, {"NOME", "Nome", 46}},
+     {QueueColumn::Code, {"CODIGO", "Código", 12}},
+     {QueueColumn::Address, {"ENDERECO", "Endereço Nº", 46}},
+     {QueueColumn::Complement, {"COMPLEMENTO", "Complemento", 20}},
+     {QueueColumn::District, {"BAIRRO", "Bairro", 26}},
+     {QueueColumn::Town, {"MUNICIPIO", "Município", 28}},
+     {QueueColumn::State, {"UF", "UF", 5}},
+     {QueueColumn::Country, {"PAIS", "País", 14}}});
 
 std::vector<ListItem> withNone(std::vector<ListItem> items) {
     items.insert(items.begin(), ListItem{std::string(noChoice), 0});
@@ -27,6 +27,10 @@ std::vector<ListItem> withNone(std::vector<ListItem> items) {
 }
 
 }  // namespace
+
+std::span<const GridColumn> queueGrid() {
+    return grid;
+}
 
 std::vector<ListItem> loadReasons(Environment& environment, const Sessao& session) {
     XmlDocument answer;
@@ -55,7 +59,7 @@ std::optional<std::vector<GridRow>> readQueue(Environment& environment, const Se
                        failure::Tarn0009)) {
         return std::nullopt;
     }
-    std::vector<GridRow> queue = rowsOf(answer, fields);
+    std::vector<GridRow> queue = gridRows(answer, grid);
     values.quantity = queue.size();
     return queue;
 }

@@ -3,11 +3,12 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "common/grid_row.h"
+#include "common/grid_rows.h"
 #include "common/list_items.h"
 
 namespace tarn {
@@ -36,9 +37,24 @@ std::vector<ListItem> loadReasons(Environment& environment, const Sessao& sessio
 std::optional<std::vector<ListItem>> loadSenderBranches(Environment& environment,
                                                         const Sessao& session);
 
+// The columns of the grid.
+enum class QueueColumn {
+    Sequence,
+    PostalCode,
+    Name,
+    Code,
+    Address,
+    Complement,
+    District,
+    Town,
+    State,
+    Country,
+    End
+};
+std::span<const GridColumn> queueGrid();
+
 // The whole queue of a reason, which from here on is the MotivoImpressao; its size is
-// told there too. Nothing, and the former size, after a failed request. Columns of a row:
-// sequence, CEP, name, code, address, complement, district, town, state, country.
+// told there too. Nothing, and the former size, after a failed request.
 std::optional<std::vector<GridRow>> readQueue(Environment& environment, const Sessao& session,
                                               const std::string& reason, LabelValues& values);
 

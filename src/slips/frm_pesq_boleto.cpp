@@ -1,7 +1,6 @@
 #include "slips/frm_pesq_boleto.h"
 
 #include <QKeyEvent>
-#include <array>
 
 #include "gateway/answer.h"
 #include "platform/message_boxes.h"
@@ -12,42 +11,13 @@
 #include "widgets/enter_presses_button.h"
 #include "widgets/field_controller.h"
 #include "widgets/grid_model.h"
+#include "widgets/grid_view.h"
 #include "widgets/progress_window.h"
 #include "widgets/search_fields.h"
 
 namespace tarn {
 namespace {
 
-// The columns without a width are for the printing alone.
-constexpr std::array<GridColumn, slipColumns> columns{{{"", 0, ColumnKind::CheckBox},
-                                                       {"Filial", 17},
-                                                       {"Vencimento", 13},
-                                                       {"Tipo Documento", 18},
-                                                       {"Nº Documento", 17},
-                                                       {"Cliente", 32},
-                                                       {"Dt.de Emissão", 16},
-                                                       {"Endereço", 28},
-                                                       {"Vlr.do Documento", 20, ColumnKind::Number},
-                                                       {"CEP", 0},
-                                                       {"Município", 0},
-                                                       {"Estado", 0},
-                                                       {"CNPJ / CPF", 0},
-                                                       {"I.E.", 0},
-                                                       {"TP_PES", 0},
-                                                       {"TP_DOCTO2", 0},
-                                                       {"ID_NR_CTL", 0},
-                                                       {"IC_REF_REC", 0},
-                                                       {"TX_JUR_DIA", 0},
-                                                       {"PC_MULTA", 0},
-                                                       {"JUROS_DIA", 0},
-                                                       {"VL_OUT_DSP", 0},
-                                                       {"DC_REF_REC", 0},
-                                                       {"ID_ETB", 0},
-                                                       {"ID_TIP_DOC", 0},
-                                                       {"NR_AGE", 0},
-                                                       {"ID_PES_BAN", 0},
-                                                       {"CD_EXT", 0},
-                                                       {"NR_DOC_NF", 0}}};
 constexpr int visibleLines = 14;
 constexpr int numberWidth = 18;  // characters
 
@@ -61,7 +31,7 @@ frmPesqBoleto::frmPesqBoleto(DeskContext& desk, QWidget* parent)
     : QDialog(parent),
       desk_(desk),
       ui_(std::make_unique<Ui::frmPesqBoleto>()),
-      documents_(new GridModel(columns, this)) {
+      documents_(new GridModel(slipGrid(), this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *documents_);
     prepareFields();
@@ -164,7 +134,6 @@ void frmPesqBoleto::show(const SlipFilter& filter) {
         return;
     }
     documents_->show(std::move(*lines));
-    ui_->sprDados->setCurrentIndex(documents_->index(0, 0));
     if (documents_->rowCount() == 0) {
         warn(desk_.environment, "Não foi encontrado nenhum documento para esta pesquisa. ");
     }

@@ -88,13 +88,13 @@ void SlipJob::sendQuery(const std::string& query) {
 }
 
 void SlipJob::save(const GridRow& document, const SlipNumber& number) {
-    const commands::Slip slip{.branch = document.column(slip_column::establishment),
-                              .documentKind = document.column(slip_column::documentKind),
-                              .document = document.column(slip_column::number),
-                              .controlNumber = document.column(slip_column::controlNumber),
+    const commands::Slip slip{.branch = document.text(SlipColumn::Establishment),
+                              .documentKind = document.text(SlipColumn::DocumentKind),
+                              .document = document.text(SlipColumn::Number),
+                              .controlNumber = document.text(SlipColumn::ControlNumber),
                               .portfolio = portfolio_.ID_CRT_COB,
                               .bankNumber = number.NR_BOL_BANC};
-    const bool forCollection = document.column(slip_column::table) == "DOCTO_COBRANCA";
+    const bool forCollection = document.text(SlipColumn::Table) == "DOCTO_COBRANCA";
     const bool isWallet57 = portfolio_.isWallet57();
     const auto key = isWallet57 ? commands::ControlKey::ID_NR_CTL : commands::ControlKey::ID_NR_CLT;
     sendQuery(forCollection ? commands::altera_docto_cob(session_, slip)
@@ -109,7 +109,7 @@ void SlipJob::save(const GridRow& document, const SlipNumber& number) {
 // digit is made before anything is recorded (D69).
 void SlipJob::print(const GridRow& document) {
     if (!isServedBank(includesPortfolio_ ? portfolio_.ID_PES_BAN
-                                         : document.column(slip_column::bank))) {
+                                         : document.text(SlipColumn::Bank))) {
         return;
     }
     const SlipNumber number = running_.slipNumber();

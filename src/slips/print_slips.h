@@ -7,7 +7,7 @@
 #include <span>
 #include <string>
 
-#include "common/grid_row.h"
+#include "common/grid_rows.h"
 #include "gateway/sessao.h"
 #include "platform/progress.h"
 #include "slips/portfolio.h"

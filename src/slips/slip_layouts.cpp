@@ -20,7 +20,7 @@ class Slip {
 public:
     Slip(RawChannel& channel, const GridRow& document) : channel_(channel), document_(document) {}
 
-    const std::string& operator[](std::size_t column) const { return document_.column(column); }
+    const std::string& operator[](SlipColumn column) const { return document_.text(column); }
 
     Slip& blanks(std::size_t count) {
         line_.append(count, ' ');
@@ -34,11 +34,11 @@ public:
         appendField(line_, value, width, false);
         return *this;
     }
-    Slip& data(std::size_t column, int width) {
-        return field(formatDateText(document_.column(column)), width);
+    Slip& data(SlipColumn column, int width) {
+        return field(formatDateText(document_.text(column)), width);
     }
     Slip& value() {
-        appendField(line_, formatText(document_.column(slip_column::value), twoPlaces), 16, true);
+        appendField(line_, formatText(document_.text(SlipColumn::Value), twoPlaces), 16, true);
         return *this;
     }
     // Sends the line; an empty one is the blank of its column alone.
@@ -52,7 +52,7 @@ public:
         std::size_t start = 1;
         for (int i = 0; i < pieces; ++i) {
             const std::string_view piece =
-                midOf(document_.column(slip_column::instruction), start, instructionWidth);
+                midOf(document_.text(SlipColumn::Instruction), start, instructionWidth);
             text(piece.empty() ? " " : piece).out(1);
             start += instructionWidth;
         }
@@ -67,7 +67,7 @@ private:
 // The point-reading conversion stops at the comma of the grid: 2,50 is 2, on purpose
 // (decision D71).
 double fineOf(const Slip& slip) {
-    return readPoint(slip[slip_column::fine]);
+    return readPoint(slip[SlipColumn::Fine]);
 }
 
 std::string formattedFine(const Slip& slip) {
@@ -75,11 +75,11 @@ std::string formattedFine(const Slip& slip) {
 }
 
 std::string formattedInterest(const Slip& slip) {
-    return formatText(slip[slip_column::dailyInterest], twoPlaces);
+    return formatText(slip[SlipColumn::DailyInterest], twoPlaces);
 }
 
 std::string charges(const Slip& slip) {
-    const std::string& interest = slip[slip_column::dailyInterest];
+    const std::string& interest = slip[SlipColumn::DailyInterest];
     const bool hasInterest = !interest.empty() && readComma(interest) != 0;
     const bool hasFine = fineOf(slip) != 0;
     if (hasInterest && !hasFine) {
@@ -93,23 +93,23 @@ std::string charges(const Slip& slip) {
 }
 
 std::string town(const Slip& slip) {
-    return slip[slip_column::town] + " - " + slip[slip_column::state] + "   " +
-           slip[slip_column::cep];
+    return slip[SlipColumn::Town] + " - " + slip[SlipColumn::State] + "   " +
+           slip[SlipColumn::PostalCode];
 }
 
 void wallet57Payer(Slip& slip) {
-    slip.blanks(3).field(slip[slip_column::customer], 54);
-    slip.blanks(42).field(slip[slip_column::cpfCnpj], 49).out(1);
-    slip.field(slip[slip_column::address], 54).blanks(45);
-    slip.text("I.E. ").field(slip[slip_column::registration], 20).out(1);
+    slip.blanks(3).field(slip[SlipColumn::Customer], 54);
+    slip.blanks(42).field(slip[SlipColumn::CpfCnpj], 49).out(1);
+    slip.field(slip[SlipColumn::Address], 54).blanks(45);
+    slip.text("I.E. ").field(slip[SlipColumn::Registration], 20).out(1);
     slip.field(town(slip), 70).out(1);
 }
 
 void sevenDigitPayer(Slip& slip, const SlipNumber& number) {
-    slip.blanks(3).field(slip[slip_column::customer], 60).blanks(10);
-    slip.text("CNPJ/CPF ").field(slip[slip_column::cpfCnpj], 49).out(1);
-    slip.blanks(3).field(slip[slip_column::address], 69).blanks(1);
-    slip.text("I.E. ").field(slip[slip_column::registration], 20).out(1);
+    slip.blanks(3).field(slip[SlipColumn::Customer], 60).blanks(10);
+    slip.text("CNPJ/CPF ").field(slip[SlipColumn::CpfCnpj], 49).out(1);
+    slip.blanks(3).field(slip[SlipColumn::Address], 69).blanks(1);
+    slip.text("I.E. ").field(slip[SlipColumn::Registration], 20).out(1);
     slip.field("   " + town(slip), 63).blanks(10).text("N.N.  ").text(number.digits);
     slip.text("-").text(std::to_string(number.digit)).out(1);
 }
@@ -119,16 +119,16 @@ void sevenDigitPayer(Slip& slip, const SlipNumber& number) {
 void printWallet57Lines(RawChannel& channel, const GridRow& document, const SlipNumber& number) {
     Slip slip(channel, document);
     slip.blanks(1).out(1);
-    slip.blanks(100).data(slip_column::due, 16).out(3);
-    slip.data(slip_column::issued, 14).blanks(3);
-    slip.field(slip[slip_column::number], 30).out(1);
+    slip.blanks(100).data(SlipColumn::Due, 16).out(3);
+    slip.data(SlipColumn::Issued, 14).blanks(3);
+    slip.field(slip[SlipColumn::Number], 30).out(1);
     slip.blanks(111).value().blanks(1).out(2);
     slip.instruction(3);
     slip.blanks(1).out(1);
     slip.text(charges(slip)).out(1);
     slip.text("NOSSO NUMERO: ").text(number.digits).text("/");
     slip.text(std::to_string(number.digit)).blanks(3);
-    slip.text("CODIGO CLIENTE: ").text(slip[slip_column::externalCode]).out(2);
+    slip.text("CODIGO CLIENTE: ").text(slip[SlipColumn::ExternalCode]).out(2);
     wallet57Payer(slip);
     slip.blanks(1).out(7);
 }
@@ -138,9 +138,9 @@ void printSevenDigitLines(RawChannel& channel, const GridRow& document, const Sl
     slip.out(1);
     slip.text("ATE O VENCIMENTO, PREFERENCIALMENTE NO SANTANDER").out(1);
     slip.text("APOS O VENCIMENTO, SOMENTE NO SANTANDER").blanks(45);
-    slip.data(slip_column::due, 16).out(3);
-    slip.data(slip_column::issued, 14).blanks(1);
-    slip.field(slip[slip_column::number], 30).out(1);
+    slip.data(SlipColumn::Due, 16).out(3);
+    slip.data(SlipColumn::Issued, 14).blanks(1);
+    slip.field(slip[SlipColumn::Number], 30).out(1);
     slip.blanks(90).value().blanks(1).out(2);
     slip.instruction(4);
     slip.text("COBRAR MULTA DE ").text(formattedFine(slip)).text("% + JUROS DE").out(1);

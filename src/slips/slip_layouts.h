@@ -2,7 +2,7 @@
 // knows of positions. The job is open and set up, and stays open.
 #pragma once
 
-#include "common/grid_row.h"
+#include "common/grid_rows.h"
 #include "common/raw_channel.h"
 #include "slips/slip_number.h"
 

@@ -1,8 +1,5 @@
 #include "slips/slip_search.h"
 
-#include <array>
-
-#include "common/grid_rows.h"
 #include "gateway/answer.h"
 #include "gateway/failure_texts.h"
 #include "platform/environment.h"
@@ -10,37 +7,43 @@
 namespace tarn {
 namespace {
 
-constexpr std::array<GridField, slipColumns> fields{{{},
-                                                     {"SG_FIL"},
-                                                     {"DT_VNC_DOC_FMA"},
-                                                     {"DC_TIP_DOC"},
-                                                     {"NR_DOC"},
-                                                     {"NM_CLI_ETB"},
-                                                     {"DT_EMS_DOC"},
-                                                     {"DC_LG_CPL"},
-                                                     {"VL_PRN_DOC", Treatment::Amount},
-                                                     {"CD_CEP"},
-                                                     {"NM_MUN"},
-                                                     {"SG_UF"},
-                                                     {"NR_CGC_CPL", Treatment::CpfCnpj},
-                                                     {"CD_ICR_EST"},
-                                                     {{}, Treatment::PersonKind},
-                                                     {"TIPO_DOCTO"},
-                                                     {"ID_NR_CTL", Treatment::ReceivableOnly},
-                                                     {"DC_REF_REC", Treatment::NotReceivableOnly},
-                                                     {"TX_JUR_DIA", Treatment::Amount},
-                                                     {"PC_MULTA", Treatment::Amount},
-                                                     {"JUROS_AO_DIA", Treatment::Amount},
-                                                     {"VL_OUT_DSP"},
-                                                     {"DC_REF_REC"},
-                                                     {"ID_ETB_TARN"},
-                                                     {"ID_TIP_DOC"},
-                                                     {"CD_AGE_BAN"},
-                                                     {"ID_PES_BAN"},
-                                                     {"CD_EXT"},
-                                                     {"NR_DOC_NF"}}};
+constexpr auto grid = gridOf<SlipColumn>(
+    {{SlipColumn::Tick, {"", "", 4, Treatment::Tick}},
+     {SlipColumn::Branch, {"SG_FIL", "Filial", 17}},
+     {SlipColumn::Due, {"DT_VNC_DOC_FMA", "Vencimento", 13}},
+     {SlipColumn::KindText, {"DC_TIP_DOC", "Tipo Documento", 18}},
+     {SlipColumn::Number, {"NR_DOC", "Nº Documento", 17}},
+     {SlipColumn::Customer, {"NM_CLI_ETB", "Cliente", 32}},
+     {SlipColumn::Issued, {"DT_EMS_DOC", "Dt.de Emissão", 16}},
+     {SlipColumn::Address, {"DC_LG_CPL", "Endereço", 28}},
+     {SlipColumn::Value, {"VL_PRN_DOC", "Vlr.do Documento", 20, Treatment::Amount}},
+     {SlipColumn::PostalCode, {"CD_CEP", "CEP", 0}},
+     {SlipColumn::Town, {"NM_MUN", "Município", 0}},
+     {SlipColumn::State, {"SG_UF", "Estado", 0}},
+     {SlipColumn::CpfCnpj, {"NR_CGC_CPL", "CNPJ / CPF", 0, Treatment::CpfCnpj}},
+     {SlipColumn::Registration, {"CD_ICR_EST", "I.E.", 0}},
+     {SlipColumn::PersonKind, {"", "TP_PES", 0, Treatment::PersonKind}},
+     {SlipColumn::Table, {"TIPO_DOCTO", "TP_DOCTO2", 0}},
+     {SlipColumn::ControlNumber, {"ID_NR_CTL", "ID_NR_CTL", 0, Treatment::ReceivableOnly}},
+     {SlipColumn::CollectionReference,
+      {"DC_REF_REC", "IC_REF_REC", 0, Treatment::NotReceivableOnly}},
+     {SlipColumn::DailyRate, {"TX_JUR_DIA", "TX_JUR_DIA", 0, Treatment::Amount}},
+     {SlipColumn::Fine, {"PC_MULTA", "PC_MULTA", 0, Treatment::Amount}},
+     {SlipColumn::DailyInterest, {"JUROS_AO_DIA", "JUROS_DIA", 0, Treatment::Amount}},
+     {SlipColumn::OtherExpenses, {"VL_OUT_DSP", "VL_OUT_DSP", 0}},
+     {SlipColumn::Instruction, {"DC_REF_REC", "DC_REF_REC", 0}},
+     {SlipColumn::Establishment, {"ID_ETB_TARN", "ID_ETB", 0}},
+     {SlipColumn::DocumentKind, {"ID_TIP_DOC", "ID_TIP_DOC", 0}},
+     {SlipColumn::Agency, {"CD_AGE_BAN", "NR_AGE", 0}},
+     {SlipColumn::Bank, {"ID_PES_BAN", "ID_PES_BAN", 0}},
+     {SlipColumn::ExternalCode, {"CD_EXT", "CD_EXT", 0}},
+     {SlipColumn::FiscalNote, {"NR_DOC_NF", "NR_DOC_NF", 0}}});
 
 }  // namespace
+
+std::span<const GridColumn> slipGrid() {
+    return grid;
+}
 
 std::vector<ListItem> portfoliosForFilter(Environment& environment, const Sessao& session) {
     std::vector<ListItem> portfolios{{"--------", 0}};
@@ -93,7 +96,7 @@ std::optional<std::vector<GridRow>> searchSlips(Environment& environment, const 
 }
 
 std::vector<GridRow> slipRows(const XmlDocument& answer) {
-    return rowsOf(answer, fields);
+    return gridRows(answer, grid);
 }
 
 }  // namespace tarn

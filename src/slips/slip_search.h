@@ -2,13 +2,13 @@
 // finds.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
-#include "common/grid_row.h"
+#include "common/grid_rows.h"
 #include "common/list_items.h"
 #include "gateway/commands.h"
 
@@ -18,30 +18,40 @@ class XmlDocument;
 struct Environment;
 struct Sessao;
 
-// Columns of the grid that are read for the printing.
-namespace slip_column {
-inline constexpr std::size_t due = 3;
-inline constexpr std::size_t number = 5;
-inline constexpr std::size_t customer = 6;
-inline constexpr std::size_t issued = 7;
-inline constexpr std::size_t address = 8;
-inline constexpr std::size_t value = 9;  // "###,##0.00"
-inline constexpr std::size_t cep = 10;
-inline constexpr std::size_t town = 11;
-inline constexpr std::size_t state = 12;
-inline constexpr std::size_t cpfCnpj = 13;
-inline constexpr std::size_t registration = 14;
-inline constexpr std::size_t table = 16;  // "DOCTO_COBRANCA", "DOCTO_RECEBER"
-inline constexpr std::size_t controlNumber = 17;
-inline constexpr std::size_t fine = 20;           // percent, "###,##0.00"
-inline constexpr std::size_t dailyInterest = 21;  // "###,##0.00"
-inline constexpr std::size_t instruction = 23;
-inline constexpr std::size_t establishment = 24;
-inline constexpr std::size_t documentKind = 25;
-inline constexpr std::size_t bank = 27;
-inline constexpr std::size_t externalCode = 28;
-}  // namespace slip_column
-inline constexpr std::size_t slipColumns = 29;
+// The columns of the grid; those behind the amount are for the printing alone.
+enum class SlipColumn {
+    Tick,
+    Branch,
+    Due,
+    KindText,
+    Number,
+    Customer,
+    Issued,
+    Address,
+    Value,
+    PostalCode,
+    Town,
+    State,
+    CpfCnpj,
+    Registration,
+    PersonKind,
+    Table,  // "DOCTO_COBRANCA", "DOCTO_RECEBER"
+    ControlNumber,
+    CollectionReference,
+    DailyRate,
+    Fine,  // percent
+    DailyInterest,
+    OtherExpenses,
+    Instruction,
+    Establishment,
+    DocumentKind,  // its number
+    Agency,
+    Bank,
+    ExternalCode,
+    FiscalNote,
+    End
+};
+std::span<const GridColumn> slipGrid();
 
 // "--------" and the company's collection portfolios; the first item alone when the
 // request failed (the user has been told).

@@ -3,6 +3,25 @@
 #include <utility>
 
 namespace tarn {
+namespace {
+
+bool standsRight(const GridColumn& column) {
+    return column.treatment == Treatment::Number || column.treatment == Treatment::Amount ||
+           column.treatment == Treatment::Quantity;
+}
+
+QString heading(const GridColumn& column) {
+    return QString::fromUtf8(column.heading);
+}
+
+// What a heading can't say in its width, or does.
+QString hint(const GridColumn& column) {
+    return column.treatment == Treatment::Tick
+               ? QStringLiteral("Marcar ou desmarcar todas as linhas")
+               : QString::fromUtf8(column.hint);
+}
+
+}  // namespace
 
 GridModel::GridModel(std::span<const GridColumn> columns, QObject* parent)
     : QAbstractTableModel(parent), columns_(columns) {}
@@ -42,13 +61,13 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) {
         return {};
     }
-    const ColumnKind kind = column(index.column()).kind;
-    if (kind == ColumnKind::CheckBox) {
+    const GridColumn& which = column(index.column());
+    if (isTick(which)) {
         return role == Qt::CheckStateRole
                    ? QVariant(ticked(index.row()) ? Qt::Checked : Qt::Unchecked)
                    : QVariant();
     }
-    if (role == Qt::TextAlignmentRole && kind == ColumnKind::Number) {
+    if (role == Qt::TextAlignmentRole && standsRight(which)) {
         return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
     }
     const auto cell = static_cast<std::size_t>(index.column());
@@ -69,7 +88,7 @@ bool GridModel::setData(const QModelIndex& index, const QVariant& value, int rol
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
     const Qt::ItemFlags shared = QAbstractTableModel::flags(index);
-    const bool box = index.isValid() && column(index.column()).kind == ColumnKind::CheckBox;
+    const bool box = index.isValid() && isTick(column(index.column()));
     return box ? shared | Qt::ItemIsUserCheckable : shared;
 }
 
@@ -79,11 +98,13 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     }
     const GridColumn& which = column(section);
     if (role == Qt::DisplayRole) {
-        return QString::fromUtf8(which.title);
+        return heading(which);
     }
-    if (which.kind == ColumnKind::CheckBox && which.headingTicksAll &&
-        (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole)) {
-        return QStringLiteral("Marcar ou desmarcar todas as linhas");
+    if (role == Qt::ToolTipRole && !hint(which).isEmpty()) {
+        return hint(which);
+    }
+    if (role == Qt::AccessibleTextRole && heading(which).trimmed().isEmpty()) {
+        return hint(which);
     }
     if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);

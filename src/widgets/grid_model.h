@@ -6,27 +6,15 @@
 #include <span>
 #include <vector>
 
-#include "common/grid_row.h"
-
-class QTableView;
-class QWidget;
+#include "common/grid_rows.h"
 
 namespace tarn {
-
-enum class ColumnKind { Text, Number, CheckBox };  // a check box stands in the first column
-
-struct GridColumn {
-    const char* title;
-    int width;  // characters; 0: kept for the printing, not shown
-    ColumnKind kind = ColumnKind::Text;
-    bool headingTicksAll = true;  // of a check box column
-};
 
 class GridModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    // The columns must outlive the model.
+    // The columns must outlive the model. A check box stands in the first one.
     GridModel(std::span<const GridColumn> columns, QObject* parent);
 
     // Takes the place of all rows; costs O(1) a row.
@@ -42,7 +30,7 @@ public:
     const GridColumn& column(int number) const {
         return columns_[static_cast<std::size_t>(number)];
     }
-    bool hasCheckBox() const { return column(0).kind == ColumnKind::CheckBox; }
+    bool hasCheckBox() const { return isTick(column(0)); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -55,14 +43,5 @@ private:
     std::span<const GridColumn> columns_;
     std::vector<GridRow> lines_;
 };
-
-// Shows the model in the grid: widths, hidden columns, row heights. With a check box
-// column: a click in its cell and the space key anywhere in the row tick it, a click on
-// its heading is toggleByLastRow, unless the column says otherwise.
-void prepareGrid(QTableView& grid, GridModel& model);
-
-// Makes the screen large enough for so many rows and all shown columns of its grid, as
-// far as the monitor goes.
-void fitToGrid(QWidget& screen, const QTableView& grid, int lines);
 
 }  // namespace tarn

@@ -1,5 +1,8 @@
+#include "widgets/grid_view.h"
+
 #include <QApplication>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -13,8 +16,21 @@
 namespace tarn {
 namespace {
 
-constexpr int checkBoxWidth = 4;  // characters, when the column names no width
 constexpr double monitorPart = 0.9;
+
+// What a button acts on is what the clerk sees: a click with Ctrl on the selected row
+// leaves it selected.
+class CurrentRowSelection : public QItemSelectionModel {
+public:
+    using QItemSelectionModel::QItemSelectionModel;
+    using QItemSelectionModel::select;
+
+    void select(const QItemSelection& rows, SelectionFlags command) override {
+        if (!(command & (Deselect | Toggle))) {
+            QItemSelectionModel::select(rows, command);
+        }
+    }
+};
 
 // A check box in the middle of its cell; the whole cell takes the click.
 class CheckBoxInCell : public QStyledItemDelegate {
@@ -78,7 +94,7 @@ private:
 void prepareBox(QTableView& grid, GridModel& model) {
     grid.setItemDelegateForColumn(0, new CheckBoxInCell(&grid));
     new SpaceKey(grid, model);
-    if (!model.column(0).headingTicksAll) {
+    if (model.column(0).treatment == Treatment::TickAlone) {
         return;
     }
     QObject::connect(grid.horizontalHeader(), &QHeaderView::sectionClicked, &model,
@@ -89,16 +105,27 @@ void prepareBox(QTableView& grid, GridModel& model) {
                      });
 }
 
+// The view's own answer to new rows comes first: it forgets the current one.
+void prepareSelection(QTableView& grid, GridModel& model) {
+    delete grid.selectionModel();
+    grid.setSelectionModel(new CurrentRowSelection(&model, &grid));
+    QObject::connect(&model, &QAbstractItemModel::modelReset, &grid, [&grid, &model] {
+        if (model.rowCount() > 0) {
+            grid.setCurrentIndex(model.index(0, 0));
+        }
+    });
+}
+
 }  // namespace
 
 void prepareGrid(QTableView& grid, GridModel& model) {
     grid.setModel(&model);
+    prepareSelection(grid, model);
     const int character = grid.fontMetrics().averageCharWidth();
     for (int column = 0; column < model.columnCount(); ++column) {
-        const GridColumn& which = model.column(column);
-        const bool box = which.kind == ColumnKind::CheckBox;
-        grid.setColumnHidden(column, which.width == 0 && !box);
-        grid.setColumnWidth(column, (which.width == 0 ? checkBoxWidth : which.width) * character);
+        const int width = model.column(column).width;
+        grid.setColumnHidden(column, width == 0);
+        grid.setColumnWidth(column, width * character);
     }
     grid.horizontalHeader()->setSectionsClickable(true);
     grid.horizontalHeader()->setHighlightSections(false);
@@ -114,9 +141,10 @@ void fitToGrid(QWidget& screen, const QTableView& grid, int lines) {
     const int frame = 2 * grid.frameWidth();
     const int height = grid.horizontalHeader()->sizeHint().height() +
                        grid.verticalHeader()->defaultSectionSize() * lines + frame;
-    const int width = grid.horizontalHeader()->length() +
-                      grid.verticalHeader()->sizeHint().width() +
-                      grid.verticalScrollBar()->sizeHint().width() + frame;
+    const int width =
+        grid.horizontalHeader()->length() +
+        (grid.verticalHeader()->isHidden() ? 0 : grid.verticalHeader()->sizeHint().width()) +
+        grid.verticalScrollBar()->sizeHint().width() + frame;
     const QSize missing = QSize(width, height) - grid.sizeHint();
     screen.resize((screen.sizeHint() + missing)
                       .expandedTo(screen.sizeHint())

@@ -28,11 +28,11 @@ protected:
     OrdersTest() {
         session_.ID_ETB_TARN = 3381;
         session_.SERVERNAME = "SRV";
-        order_.cells[0] = "12";
-        order_.cells[5] = "34";
+        order_.text(OrderColumn::Order) = "12";
+        order_.text(OrderColumn::LoadOrder) = "34";
     }
 
-    std::vector<BillingOrder> load(const std::string& lines) {
+    std::vector<GridRow> load(const std::string& lines) {
         seams_.loader.on("sel_ordem_fatu", header + "<xml xmlns:rs='r' xmlns:z='z'><rs:data>" +
                                                lines + "</rs:data></xml>");
         return loadOrders(seams_.environment, session_);
@@ -47,7 +47,7 @@ protected:
         "comando=sp_can_oft&id_etb_tarn=3381&id_ord_fat=12&id_ord_crg=34&ServerName=SRV";
     TestEnvironment seams_;
     Sessao session_;
-    BillingOrder order_;
+    GridRow order_{.cells = std::vector<std::string>(orderGrid().size())};
 };
 
 TEST_F(OrdersTest, TwelveCellsARow) {
@@ -56,12 +56,12 @@ TEST_F(OrdersTest, TwelveCellsARow) {
         "DT_GER_OFT='1/2/2012' ID_ORD_CRG='34' TRANSPORTADORA='T' NM_PES_MOT='M' DC_OBS='a&#10;b' "
         "QT_ESP='1234567.5' PESO_BRU='0.0005' PESO_LIQ='12,9'/>");
     ASSERT_EQ(orders.size(), 1U);
-    const std::array<std::string, 12> expected{"0012",  "João",  "MATRIZ", "VENDA", "1/2/2012",
-                                               "34",    "T",     "M",      "a\nb",  "1.234.567,500",
-                                               "0,001", "12,000"};
+    const std::vector<std::string> expected{"0012",  "João",  "MATRIZ", "VENDA", "1/2/2012",
+                                            "34",    "T",     "M",      "a\nb",  "1.234.567,500",
+                                            "0,001", "12,000"};
     EXPECT_EQ(orders[0].cells, expected);
-    EXPECT_EQ(orders[0].order(), "0012");
-    EXPECT_EQ(orders[0].loadOrder(), "34");
+    EXPECT_EQ(orders[0].text(OrderColumn::Order), "0012");
+    EXPECT_EQ(orders[0].text(OrderColumn::LoadOrder), "34");
     EXPECT_EQ(seams_.loader.queries(),
               std::vector<std::string>{"comando=sel_ordem_fatu&ID_ETB_TARN=3381&ServerName=SRV"});
     EXPECT_TRUE(seams_.boxes.shown.empty());
@@ -82,7 +82,7 @@ TEST_F(OrdersTest, NoValueOfARowBreaksTheList) {
     EXPECT_EQ(orders[1].cells[0], "") << "a prefixed name is another name";
     EXPECT_EQ(orders[1].cells[1], "") << "so is one in another case of letters";
     EXPECT_EQ(orders[1].cells[9], "12,000");
-    EXPECT_EQ(orders[2].order(), "3");
+    EXPECT_EQ(orders[2].text(OrderColumn::Order), "3");
     EXPECT_TRUE(seams_.boxes.shown.empty());
 }
 
@@ -97,7 +97,7 @@ TEST_F(OrdersTest, AbsentAndEmptyFields) {
     EXPECT_EQ(orders[0].cells[9], "0,000");
     EXPECT_EQ(orders[0].cells[10], "0,000");
     EXPECT_EQ(orders[0].cells[11], "");
-    EXPECT_EQ(orders[1].cells, (std::array<std::string, 12>{}));
+    EXPECT_EQ(orders[1].cells, std::vector<std::string>(12));
 }
 
 TEST_F(OrdersTest, NoRowsAndNoMessage) {

@@ -38,11 +38,11 @@ TEST(BillRows, AReceivableHasItsControlNumberInsteadOfTheReference) {
         "<z:row TIPO_DOCTO='DOCTO_RECEBER' ID_NR_CTL='55' DC_REF_REC='x'/>"
         "<z:row ID_NR_CTL='55' DC_REF_REC='x'/>"
         "<z:row TIPO_DOCTO='docto_receber' ID_NR_CTL='55' DC_REF_REC='x'/>");
-    EXPECT_EQ(lines[0].column(17), "55");
-    EXPECT_EQ(lines[0].column(18), "");
+    EXPECT_EQ(lines[0].text(BillColumn::ControlNumber), "55");
+    EXPECT_EQ(lines[0].text(BillColumn::Reference), "");
     for (std::size_t i : {1U, 2U}) {
-        EXPECT_EQ(lines[i].column(17), "");
-        EXPECT_EQ(lines[i].column(18), "x");
+        EXPECT_EQ(lines[i].text(BillColumn::ControlNumber), "");
+        EXPECT_EQ(lines[i].text(BillColumn::Reference), "x");
     }
 }
 
@@ -55,7 +55,7 @@ TEST(BillRows, TaxNumbersByTheKindOfPerson) {
         "<z:row PES_JUR='0'/>"
         "<z:row NR_CGC_CPL='ISENTO-é'/>");
     const auto pair = [&](std::size_t i) {
-        return lines[i].column(12) + " " + lines[i].column(14);
+        return lines[i].text(BillColumn::CpfCnpj) + " " + lines[i].text(BillColumn::PersonKind);
     };
     EXPECT_EQ(pair(0), "000.076.543-21 F");
     EXPECT_EQ(pair(1), "123.456.789-01 F");
@@ -71,7 +71,7 @@ TEST(BillRows, AmountsAreReadWithAPoint) {
         "<z:row VL_PRN_DOC='-1234.005'/><z:row VL_PRN_DOC='A VISTA'/><z:row vl_prn_doc='7'/>");
     std::vector<std::string> values;
     for (const GridRow& line : lines) {
-        values.push_back(line.column(8));
+        values.push_back(line.text(BillColumn::Value));
     }
     EXPECT_THAT(values, ElementsAre("0,50", "0,00", "", "1,23", "-1.234,01", "0,00", ""));
 }

@@ -2,6 +2,7 @@
 #include "customers/frm_pesq_cliente.h"
 
 #include "tests/bills/bill_screen_test.h"
+#include "tests/support/grid.h"
 
 namespace tarn::test {
 namespace {
@@ -46,12 +47,10 @@ TEST_F(FrmPesqClienteTest, SaysWhatItIs) {
     withDialog([&](QWidget& dialog) {
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Pesquisa de Clientes"));
         EXPECT_EQ(named<QLabel>(dialog, "Label1").text(), QStringLiteral("Cliente"));
-        const QAbstractItemModel& grid = *named<QTableView>(dialog, "sprDados").model();
-        std::vector<std::string> titles;
-        for (int column = 0; column < grid.columnCount(); ++column) {
-            titles.push_back(grid.headerData(column, Qt::Horizontal).toString().toStdString());
-        }
-        EXPECT_THAT(titles, ElementsAre("Cliente", "Tipo de Empresa", "ID_PES_CLI", "ID_ETB_CLI"));
+        const auto& table = named<QTableView>(dialog, "sprDados");
+        EXPECT_THAT(grid::headings(table),
+                    ElementsAre("Cliente", "Tipo de Empresa", "ID_PES_CLI", "ID_ETB_CLI"));
+        EXPECT_FALSE(table.isColumnHidden(3)) << "also the one that nothing fills";
         EXPECT_EQ(lines(dialog), 0);
         EXPECT_EQ(focused(dialog), "txtNmCli");
         EXPECT_THAT(

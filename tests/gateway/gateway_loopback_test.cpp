@@ -174,8 +174,8 @@ TEST_F(GatewayLoopbackTest, ANoteFromOrderToPrint) {
 
 TEST_F(GatewayLoopbackTest, CancelWithoutAServer) {
     server_.closePort();
-    BillingOrder order;
-    order.cells[0] = "12";
+    GridRow order{.cells = std::vector<std::string>(orderGrid().size())};
+    order.text(OrderColumn::Order) = "12";
     EXPECT_FALSE(cancelOrder(environment_, session_, order));
     EXPECT_EQ(texts(), (std::vector<std::string>{
                            "Confirma o cancelamento da Ordem de Faturamento nº 12 ?     ",

@@ -94,6 +94,7 @@ TEST_F(SelectionScreen, OpensWithItsListsAndLeavesTheDeskAlone) {
         EXPECT_TRUE(named<QRadioButton>(selection, "optCep").isChecked());
         EXPECT_THAT(headings(selection),
                     ElementsAre(" ", "Cep", "Cliente", "Endereço", "Bairro", "Estado", "Cidade"));
+        EXPECT_TRUE(named<QTableView>(selection, "sprDados").verticalHeader()->isHidden());
     });
     EXPECT_EQ(server.addresses.size(), 2U);
     EXPECT_THAT(boxes.shown, IsEmpty());

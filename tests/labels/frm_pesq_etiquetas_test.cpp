@@ -51,6 +51,8 @@ TEST_F(QueueScreen, LabelsAndHeadingsAsGiven) {
         EXPECT_THAT(headings(queue),
                     ElementsAre("Sequencial", "Cep", "Nome", "Código", "Endereço Nº", "Complemento",
                                 "Bairro", "Município", "UF", "País"));
+        EXPECT_TRUE(named<QTableView>(queue, "sprDados").verticalHeader()->isHidden())
+            << "row numbers would be taken for the sequence";
         EXPECT_TRUE(named<QLineEdit>(queue, "txtTipo").isReadOnly());
     });
 }

@@ -13,7 +13,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-namespace column = slip_column;
 
 const std::string preparation = " \x0F\x1BM";
 const std::string slipPreparation =
@@ -31,7 +30,7 @@ std::string joined(const std::vector<std::string>& lines) {
 
 GridRow ofBank(const std::string& number, const std::string& bank) {
     GridRow row = document(number);
-    row.column(column::bank) = bank;
+    row.text(SlipColumn::Bank) = bank;
     return row;
 }
 
@@ -143,7 +142,7 @@ TEST_F(PrintSlipsTest, ReceivablesHaveTheirOwnCommandsAndASecondSpelling) {
 }
 
 TEST_F(PrintSlipsTest, ADocumentOfNoKnownTableIsAReceivableWithoutAControlNumber) {
-    documents[0].column(column::table) = "OUTRA";
+    documents[0].text(SlipColumn::Table) = "OUTRA";
     run(isWallet57, "1234");
     EXPECT_THAT(seams.loader.queries(),
                 ElementsAre("comando=altera_docto_rec&ID_ETB=3381&ID_NR_CTL=&ServerName=SRV1"

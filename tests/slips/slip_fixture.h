@@ -26,38 +26,38 @@ inline const Portfolio wallet101{.ID_CRT_COB = "6",
 
 // A row whose cells are all empty.
 inline GridRow emptyDocument() {
-    return {.cells = std::vector<std::string>(slipColumns)};
+    return {.cells = std::vector<std::string>(slipGrid().size())};
 }
 
 // A bill of bank 1016.
 inline GridRow document(const std::string& number = "4567/1") {
     GridRow d = emptyDocument();
-    d.column(slip_column::due) = "10/04/2012";
-    d.column(slip_column::number) = number;
-    d.column(slip_column::customer) = "JOSÉ & FILHOS";
-    d.column(slip_column::issued) = "05/03/2012";
-    d.column(slip_column::address) = "RUA DO COMÉRCIO, 100";
-    d.column(slip_column::value) = "1.234,50";
-    d.column(slip_column::cep) = "01310-100";
-    d.column(slip_column::town) = "SÃO PAULO";
-    d.column(slip_column::state) = "SP";
-    d.column(slip_column::cpfCnpj) = "12.345.678/0001-95";
-    d.column(slip_column::registration) = "110.042.490.114";
-    d.column(slip_column::table) = "DOCTO_COBRANCA";
-    d.column(slip_column::fine) = "2,50";
-    d.column(slip_column::dailyInterest) = "0,42";
-    d.column(slip_column::instruction) = "NAO RECEBER APOS 30 DIAS";
-    d.column(slip_column::establishment) = "3381";
-    d.column(slip_column::documentKind) = "201";
-    d.column(slip_column::bank) = "1016";
-    d.column(slip_column::externalCode) = "C-77";
+    d.text(SlipColumn::Due) = "10/04/2012";
+    d.text(SlipColumn::Number) = number;
+    d.text(SlipColumn::Customer) = "JOSÉ & FILHOS";
+    d.text(SlipColumn::Issued) = "05/03/2012";
+    d.text(SlipColumn::Address) = "RUA DO COMÉRCIO, 100";
+    d.text(SlipColumn::Value) = "1.234,50";
+    d.text(SlipColumn::PostalCode) = "01310-100";
+    d.text(SlipColumn::Town) = "SÃO PAULO";
+    d.text(SlipColumn::State) = "SP";
+    d.text(SlipColumn::CpfCnpj) = "12.345.678/0001-95";
+    d.text(SlipColumn::Registration) = "110.042.490.114";
+    d.text(SlipColumn::Table) = "DOCTO_COBRANCA";
+    d.text(SlipColumn::Fine) = "2,50";
+    d.text(SlipColumn::DailyInterest) = "0,42";
+    d.text(SlipColumn::Instruction) = "NAO RECEBER APOS 30 DIAS";
+    d.text(SlipColumn::Establishment) = "3381";
+    d.text(SlipColumn::DocumentKind) = "201";
+    d.text(SlipColumn::Bank) = "1016";
+    d.text(SlipColumn::ExternalCode) = "C-77";
     return d;
 }
 
 inline GridRow receivable(const std::string& number, const std::string& control) {
     GridRow d = document(number);
-    d.column(slip_column::table) = "DOCTO_RECEBER";
-    d.column(slip_column::controlNumber) = control;
+    d.text(SlipColumn::Table) = "DOCTO_RECEBER";
+    d.text(SlipColumn::ControlNumber) = control;
     return d;
 }
 

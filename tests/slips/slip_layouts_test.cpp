@@ -12,7 +12,6 @@ namespace tarn::test {
 namespace {
 
 using Lines = std::vector<std::string>;
-namespace column = slip_column;
 
 const SlipNumber number57{.digits = "0000000001234", .digit = 7, .NR_BOL_BANC = "1234"};
 const SlipNumber numberSeven{.digits = "1234567", .digit = 9, .NR_BOL_BANC = "12345679"};
@@ -39,15 +38,15 @@ std::string line57(const GridRow& row, std::size_t line) {
 std::string line7(const GridRow& row, std::size_t line) {
     return sevenDigits(row).at(line - 1);
 }
-GridRow with(std::size_t column, const std::string& text) {
+GridRow with(SlipColumn column, const std::string& text) {
     GridRow row = document();
-    row.column(column) = text;
+    row.text(column) = text;
     return row;
 }
 GridRow charges(const std::string& fine, const std::string& interest) {
     GridRow row = document();
-    row.column(column::fine) = fine;
-    row.column(column::dailyInterest) = interest;
+    row.text(SlipColumn::Fine) = fine;
+    row.text(SlipColumn::DailyInterest) = interest;
     return row;
 }
 
@@ -82,29 +81,30 @@ TEST(SevenDigits, EmptyCells) {
 }
 
 TEST(Slip, DatesAreSetInFullOrStayAsTheyAre) {
-    EXPECT_EQ(line57(with(column::due, "2012-04-10T00:00:00"), 2),
+    EXPECT_EQ(line57(with(SlipColumn::Due, "2012-04-10T00:00:00"), 2),
               b(101) + "10/04/2012" + b(6) + "\r\n\r\n\r\n");
-    EXPECT_EQ(line57(with(column::due, "CONTRA APRESENTACAO"), 2),
+    EXPECT_EQ(line57(with(SlipColumn::Due, "CONTRA APRESENTACAO"), 2),
               b(101) + "CONTRA APRESENTA\r\n\r\n\r\n");
-    EXPECT_EQ(line57(with(column::issued, "5/3/12"), 3).substr(0, 18), " 05/03/2012" + b(7));
-    EXPECT_EQ(line7(with(column::issued, "31/02/2012"), 4).substr(0, 16), " 31/02/2012" + b(5));
-    EXPECT_EQ(line7(with(column::due, "A VISTA"), 3).substr(85),
+    EXPECT_EQ(line57(with(SlipColumn::Issued, "5/3/12"), 3).substr(0, 18), " 05/03/2012" + b(7));
+    EXPECT_EQ(line7(with(SlipColumn::Issued, "31/02/2012"), 4).substr(0, 16), " 31/02/2012" + b(5));
+    EXPECT_EQ(line7(with(SlipColumn::Due, "A VISTA"), 3).substr(85),
               "A VISTA  " + b(7) + "\r\n\r\n\r\n");
 }
 
 TEST(Slip, AnAmountTooWideLosesItsEnd) {
-    EXPECT_EQ(line57(with(column::value, "123.456.789.012.345,67"), 4),
+    EXPECT_EQ(line57(with(SlipColumn::Value, "123.456.789.012.345,67"), 4),
               b(112) + "123.456.789.012. \r\n\r\n");
-    EXPECT_EQ(line7(with(column::value, "123.456.789.012.345,67"), 5),
+    EXPECT_EQ(line7(with(SlipColumn::Value, "123.456.789.012.345,67"), 5),
               b(91) + "123.456.789.012. \r\n\r\n");
-    EXPECT_EQ(line57(with(column::value, "5"), 4), b(112) + b(12) + "5,00 \r\n\r\n");
+    EXPECT_EQ(line57(with(SlipColumn::Value, "5"), 4), b(112) + b(12) + "5,00 \r\n\r\n");
 }
 
 TEST(Slip, LongFieldsAreCut) {
     GridRow row = document();
-    for (const std::size_t column : {column::number, column::customer, column::address,
-                                     column::cpfCnpj, column::registration, column::town}) {
-        row.column(column) = std::string(80, 'x');
+    for (const SlipColumn column :
+         {SlipColumn::Number, SlipColumn::Customer, SlipColumn::Address, SlipColumn::CpfCnpj,
+          SlipColumn::Registration, SlipColumn::Town}) {
+        row.text(column) = std::string(80, 'x');
     }
     const auto x = [](std::size_t count) { return std::string(count, 'x'); };
     EXPECT_EQ(line57(row, 3), " 05/03/2012" + b(7) + x(30) + "\r\n");
@@ -123,29 +123,29 @@ TEST(Slip, AccentedLettersCountOnce) {
     for (int i = 0; i < 60; ++i) {
         name += "Ã";
     }
-    EXPECT_EQ(line57(with(column::customer, name), 11).substr(4, 55),
+    EXPECT_EQ(line57(with(SlipColumn::Customer, name), 11).substr(4, 55),
               std::string(54, '\xC3') + " ");
-    EXPECT_EQ(line57(with(column::instruction, name + name), 5),
+    EXPECT_EQ(line57(with(SlipColumn::Instruction, name + name), 5),
               " " + std::string(79, '\xC3') + "\r\n");
-    EXPECT_EQ(line57(with(column::instruction, name + name), 6),
+    EXPECT_EQ(line57(with(SlipColumn::Instruction, name + name), 6),
               " " + std::string(41, '\xC3') + "\r\n");
 }
 
 TEST(Slip, AValueCannotMoveALineOrCommandThePrinter) {
     GridRow row = document();
-    row.column(column::instruction) =
+    row.text(SlipColumn::Instruction) =
         "A\r\nB\x1B"
         "C";
-    row.column(column::externalCode) = "X\x0F\tY";
-    row.column(column::dailyInterest) = "1\n2";
-    row.column(column::fine) = "2,00";
-    row.column(column::town) = "S\x12P";
-    row.column(column::due) = "10\n04";
+    row.text(SlipColumn::ExternalCode) = "X\x0F\tY";
+    row.text(SlipColumn::DailyInterest) = "1\n2";
+    row.text(SlipColumn::Fine) = "2,00";
+    row.text(SlipColumn::Town) = "S\x12P";
+    row.text(SlipColumn::Due) = "10\n04";
     EXPECT_EQ(line7(row, 3).substr(85), "10 04" + b(11) + "\r\n\r\n\r\n");
     EXPECT_EQ(line7(row, 6), " A  B C\r\n");
     EXPECT_EQ(line7(row, 11), " 1 2 AO DIA\r\n\r\n");
     EXPECT_EQ(line7(row, 14).substr(0, 12), b(4) + "S P - SP");
-    row.column(column::dailyInterest) = "";
+    row.text(SlipColumn::DailyInterest) = "";
     EXPECT_EQ(line57(row, 10), " NOSSO NUMERO: 0000000001234/7   CODIGO CLIENTE: X  Y\r\n\r\n");
 }
 
@@ -159,11 +159,11 @@ std::string text(std::size_t length) {
 }
 
 Lines pieces57(std::size_t length) {
-    const Lines lines = wallet57(with(column::instruction, text(length)));
+    const Lines lines = wallet57(with(SlipColumn::Instruction, text(length)));
     return {lines.begin() + 4, lines.begin() + 8};
 }
 Lines pieces7(std::size_t length) {
-    const Lines lines = sevenDigits(with(column::instruction, text(length)));
+    const Lines lines = sevenDigits(with(SlipColumn::Instruction, text(length)));
     return {lines.begin() + 5, lines.begin() + 9};
 }
 std::string piece(char letter, std::size_t length) {
@@ -182,7 +182,7 @@ TEST(Wallet57, TheInstructionIsCutInThree) {
     EXPECT_EQ(pieces57(237), full);
     EXPECT_EQ(pieces57(238), full);
     EXPECT_EQ(pieces57(400), full);
-    EXPECT_EQ(wallet57(with(column::instruction, text(400))).size(), 14U);
+    EXPECT_EQ(wallet57(with(SlipColumn::Instruction, text(400))).size(), 14U);
 }
 
 TEST(SevenDigits, TheInstructionIsCutInFour) {
@@ -196,13 +196,13 @@ TEST(SevenDigits, TheInstructionIsCutInFour) {
     const Lines full{piece('A', 79), piece('B', 79), piece('C', 79), piece('D', 79)};
     EXPECT_EQ(pieces7(316), full);
     EXPECT_EQ(pieces7(317), full);
-    EXPECT_EQ(sevenDigits(with(column::instruction, text(400))).size(), 15U);
+    EXPECT_EQ(sevenDigits(with(SlipColumn::Instruction, text(400))).size(), 15U);
 }
 
 TEST(Slip, ReceivablesTakeTheSameInstruction) {
     GridRow row = receivable("9", "C1");
-    row.column(18) = "NAO ESTA";
-    row.column(column::instruction) = "ESTA";
+    row.text(SlipColumn::CollectionReference) = "NAO ESTA";
+    row.text(SlipColumn::Instruction) = "ESTA";
     EXPECT_EQ(line57(row, 5), " ESTA\r\n");
     EXPECT_EQ(line7(row, 6), " ESTA\r\n");
 }

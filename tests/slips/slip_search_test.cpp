@@ -22,11 +22,9 @@ Cells row(const std::string& attributes) {
     EXPECT_TRUE(answer.loadXML(answers::rowset("<z:row " + attributes + "/>")));
     const std::vector<GridRow> documents = slipRows(answer);
     EXPECT_EQ(documents.size(), 1U);
-    Cells cells;
-    for (std::size_t column = 2; column <= 29; ++column) {
-        cells.push_back(documents.at(0).column(column));
-    }
-    return cells;
+    const Cells& cells = documents.at(0).cells;
+    EXPECT_EQ(cells.size(), 29U);
+    return {cells.begin() + 1, cells.end()};
 }
 std::string cell(const std::string& attributes, int column) {
     return row(attributes).at(static_cast<std::size_t>(column) - 2);
@@ -124,7 +122,7 @@ TEST(SlipRows, RowsAreElementsOfAnyName) {
         answers::rowset("<z:row NR_DOC='1'/> <!-- x --> <outra NR_DOC='2'/><z:row NR_DOC='3'/>")));
     std::vector<std::string> numbers;
     for (const GridRow& document : slipRows(answer)) {
-        numbers.push_back(document.column(slip_column::number));
+        numbers.push_back(document.text(SlipColumn::Number));
     }
     EXPECT_THAT(numbers, testing::ElementsAre("1", "2", "3"));
 }

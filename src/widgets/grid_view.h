@@ -1,0 +1,21 @@
+// How a grid shows its model and takes clicks and keys.
+#pragma once
+
+class QTableView;
+class QWidget;
+
+namespace tarn {
+
+class GridModel;
+
+// Shows the model in the grid: widths, hidden columns, row heights. The current row is
+// the selected one, always: the first after new rows, and no click or key unselects it.
+// With a check box column: a click in its cell and the space key anywhere in the row tick
+// it, a click on its heading is toggleByLastRow, unless the column says otherwise.
+void prepareGrid(QTableView& grid, GridModel& model);
+
+// Makes the screen large enough for so many rows and all shown columns of its grid, as
+// far as the monitor goes.
+void fitToGrid(QWidget& screen, const QTableView& grid, int lines);
+
+}  // namespace tarn
