@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "runtime/ascii.h"
+
 namespace tarn::practice {
 
 namespace {

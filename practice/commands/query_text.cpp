@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "runtime/ascii.h"
 #include "runtime/code_page.h"
 
 namespace tarn::practice {
@@ -38,10 +39,6 @@ std::string decoded(std::string_view text) {
     return fromWindows1252(percentDecoded(text));
 }
 
-char lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 }  // namespace
 
 Query::Query(std::string_view raw) {
@@ -76,18 +73,6 @@ const std::string& Query::value(std::string_view name) const {
 
 bool Query::has(std::string_view name) const {
     return find(name) != nullptr;
-}
-
-bool sameIgnoringCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (lower(a[i]) != lower(b[i])) {
-            return false;
-        }
-    }
-    return true;
 }
 
 std::string undoBars(std::string_view text) {

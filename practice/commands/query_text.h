@@ -28,8 +28,6 @@ private:
     std::vector<std::pair<std::string, std::string>> parameters_;
 };
 
-bool sameIgnoringCase(std::string_view a, std::string_view b);  // ASCII letters
-
 // "||" stands for "%" and "|" for "&" in the free texts that the desk guards.
 std::string undoBars(std::string_view text);
 

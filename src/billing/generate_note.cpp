@@ -4,7 +4,6 @@
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
-#include "gateway/pega_valor.h"
 #include "platform/environment.h"
 #include "runtime/runtime_error.h"
 

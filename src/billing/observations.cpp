@@ -26,7 +26,7 @@ bool textSearch(Environment& environment, Sessao& session, const std::string& qu
             "Houve um problema para selecionar as mensagens de observação da(s) venda(s). ")) {
         return false;
     }
-    session.TextoMensagem = textAttribute(document.documentElement(), 0, "OBSERVACAO");
+    session.TextoMensagem = PegaValor(document.documentElement(), 0, "OBSERVACAO");
     return true;
 }
 

@@ -139,7 +139,7 @@ private:
 };
 
 std::string header(const XmlDocument& document, std::string_view name) {
-    return textAttribute(document.selectSingleNode("PRINCIPAL"), 0, name);
+    return PegaValor(document.selectSingleNode("PRINCIPAL"), 0, name);
 }
 
 // Quantity, code, description; what follows differs.

@@ -1,19 +1,19 @@
 #include "bills/company_data.h"
 
 #include "common/tax_number.h"
+#include "gateway/answer.h"
 #include "gateway/pega_valor.h"
-#include "gateway/xml_document.h"
 #include "runtime/runtime_error.h"
 
 namespace tarn {
 
 CompanyData companyDataOf(const XmlDocument& answer) {
-    const XmlNode lines = answer.selectSingleNode("xml/rs:data");
-    if (!lines || lines.childCount() == 0) {
+    if (rowsOf(answer).length() == 0) {
         throw RuntimeError(RuntimeErrorCode::ObjectVariable,
                            "os dados da empresa (sel_dados_empresa) não vieram");
     }
-    const auto field = [&lines](const char* name) { return textAttribute(lines, 0, name); };
+    const XmlNode rowset = rowsetOf(answer);
+    const auto field = [&rowset](const char* name) { return PegaValor(rowset, 0, name); };
     const bool naturalPerson = isNaturalPerson(field("PES_JUR"));
     return {.DC_LG = field("DC_LG"),
             .SG_UF = field("SG_UF"),

@@ -1,6 +1,7 @@
 #include "cheques/issue_cheque.h"
 
 #include "cheques/imprime_cheque.h"
+#include "common/list_items.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
@@ -20,35 +21,22 @@ bool isBlank(std::string_view text) {
     return trimBlanks(text).empty();
 }
 
-std::string inUpperCase(std::string_view text) {
-    return upperCase(trimBlanks(text));
-}
-
-std::int32_t itemData(std::string_view text) {
-    try {
-        return readInt32(trimBlanks(text));
-    } catch (const RuntimeError&) {
-        return 0;
-    }
-}
-
-BankAccount accountOf(const XmlNode& lines, std::size_t index) {
-    BankAccount account{.description = textAttribute(lines, index, "BANCO"),
-                        .ID_PES_BAN = itemData(textAttribute(lines, index, "ID_PES_BAN")),
-                        .CD_AGE_BAN = textAttribute(lines, index, "CD_AGE_BAN"),
-                        .NR_CCOR = textAttribute(lines, index, "NR_CCOR"),
-                        .NR_OFI_BAN = textAttribute(lines, index, "NR_OFI_BAN")};
+BankAccount accountOf(const XmlNode& rowset, std::size_t index) {
+    BankAccount account{.description = PegaValor(rowset, index, "BANCO"),
+                        .ID_PES_BAN = itemData(PegaValor(rowset, index, "ID_PES_BAN")),
+                        .CD_AGE_BAN = PegaValor(rowset, index, "CD_AGE_BAN"),
+                        .NR_CCOR = PegaValor(rowset, index, "NR_CCOR"),
+                        .NR_OFI_BAN = PegaValor(rowset, index, "NR_OFI_BAN")};
     account.description.append(" - ")
         .append(account.CD_AGE_BAN)
         .append(" - ")
         .append(account.NR_CCOR);
-    if (const XmlAttribute name = lines.child(index).attributes().getNamedItem("DC_CCOR")) {
+    if (const XmlAttribute name = rowset.child(index).attributes().getNamedItem("DC_CCOR")) {
         account.description.append(" - ").append(name.text());
     }
     return account;
 }
 
-// The texts live as long as `fields`.
 commands::Cheque chequeFrom(const ChequeFields& fields) {
     commands::Cheque cheque{.number = fields.number,
                             .series = fields.series,
@@ -65,7 +53,7 @@ commands::Cheque chequeFrom(const ChequeFields& fields) {
 }
 
 void print(Environment& environment, const ChequeFields& fields, const std::string& town) {
-    const std::string payee = inUpperCase(fields.payee);
+    const std::string payee = trimmedUpperCase(fields.payee);
     ImprimeCheque(environment,
                   {.nNr_Ofi_Ban = bankCode(fields.account ? fields.account->NR_OFI_BAN : ""),
                    .sValor = trimBlanks(fields.value),
@@ -84,9 +72,9 @@ std::optional<std::vector<BankAccount>> loadAccounts(Environment& environment,
         return std::nullopt;
     }
     std::vector<BankAccount> accounts{{.description = "------------"}};
-    const XmlNode lines = document.selectSingleNode("xml/rs:data");
-    for (std::size_t i = 0; lines && i < lines.childCount(); ++i) {
-        accounts.push_back(accountOf(lines, i));
+    const XmlNode rowset = rowsetOf(document);
+    for (std::size_t i = 0; i < rowsOf(document).length(); ++i) {
+        accounts.push_back(accountOf(rowset, i));
     }
     return accounts;
 }
@@ -125,8 +113,7 @@ bool ValidaCheque(Environment& environment, const Sessao& session, const ChequeF
     requestAnswer(environment,
                   commands::seleciona_um_controle_cheque_emitido(session, chequeFrom(fields)),
                   document, failure::Tarn0009Wide);
-    const XmlNode lines = document.selectSingleNode("xml/rs:data");
-    return !lines || lines.childCount() == 0;
+    return rowsOf(document).length() == 0;
 }
 
 std::optional<ChequeRefusal> numberRefusal(Environment& environment, const Sessao& session,
@@ -137,7 +124,7 @@ std::optional<ChequeRefusal> numberRefusal(Environment& environment, const Sessa
     }
     std::string text = "Cheque com este número e série já foi emitido já emitido. ";
     text.append("\rNúmero: ").append(trimBlanks(fields.number));
-    text.append("\rSérie: ").append(inUpperCase(fields.series));
+    text.append("\rSérie: ").append(trimmedUpperCase(fields.series));
     return ChequeRefusal{ChequeField::Number, std::move(text)};
 }
 
@@ -149,7 +136,7 @@ bool issueCheque(Environment& environment, const Sessao& session, const ChequeFi
                        failure::Tarn0009)) {
         return false;
     }
-    print(environment, fields, textAttribute(company.selectSingleNode("xml/rs:data"), 0, "NM_MUN"));
+    print(environment, fields, PegaValor(rowsetOf(company), 0, "NM_MUN"));
     XmlDocument answer;
     if (!requestAnswer(environment,
                        commands::adiciona_controle_cheque_emitido(session, chequeFrom(fields)),

@@ -1,7 +1,7 @@
 #include "common/grid_rows.h"
 
 #include "common/tax_number.h"
-#include "gateway/xml_document.h"
+#include "gateway/answer.h"
 #include "runtime/mask.h"
 #include "runtime/numbers.h"
 
@@ -11,17 +11,12 @@ namespace {
 constexpr NumberMask amountMask{"###,##0.00"};
 constexpr NumberMask quantityMask{"###,###,###,##0.000"};
 
-std::string_view textOf(const XmlAttributes& row, std::string_view name) {
-    const XmlAttribute attribute = row.getNamedItem(name);
-    return attribute ? attribute.text() : std::string_view();
-}
-
 bool ofNaturalPerson(const XmlAttributes& row) {
-    return isNaturalPerson(textOf(row, "PES_JUR"));
+    return isNaturalPerson(row.textOf("PES_JUR"));
 }
 
 bool isReceivable(const XmlAttributes& row) {
-    return textOf(row, "TIPO_DOCTO") == "DOCTO_RECEBER";
+    return row.textOf("TIPO_DOCTO") == "DOCTO_RECEBER";
 }
 
 std::string cellOf(const XmlAttributes& row, const GridColumn& column) {
@@ -70,12 +65,11 @@ GridRow rowOf(const XmlNode& element, std::span<const GridColumn> columns) {
 }  // namespace
 
 std::vector<GridRow> gridRows(const XmlDocument& answer, std::span<const GridColumn> columns) {
+    const XmlNodeList elements = rowsOf(answer);
     std::vector<GridRow> rows;
-    const XmlNode data = answer.selectSingleNode("xml/rs:data");
-    const std::size_t count = data ? data.childCount() : 0;
-    rows.reserve(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        rows.push_back(rowOf(data.child(i), columns));
+    rows.reserve(elements.length());
+    for (const XmlNode element : elements) {
+        rows.push_back(rowOf(element, columns));
     }
     return rows;
 }

@@ -8,14 +8,8 @@
 #include "runtime/runtime_error.h"
 
 namespace tarn {
-namespace {
 
-std::string_view textOf(const XmlAttributes& attributes, std::string_view field) {
-    const XmlAttribute attribute = attributes.getNamedItem(field);
-    return attribute ? attribute.text() : std::string_view();
-}
-
-std::int32_t itemDataOf(std::string_view text) {
+std::int32_t itemData(std::string_view text) {
     try {
         return readInt32(text);
     } catch (const RuntimeError&) {
@@ -23,18 +17,15 @@ std::int32_t itemDataOf(std::string_view text) {
     }
 }
 
-}  // namespace
-
 std::vector<ListItem> listItemsOf(const XmlDocument& answer, std::string_view textField,
                                   std::string_view dataField) {
+    const XmlNodeList rows = rowsOf(answer);
     std::vector<ListItem> items;
-    const XmlNode lines = answer.selectSingleNode("xml/rs:data");
-    const std::size_t count = lines ? lines.childCount() : 0;
-    items.reserve(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        const XmlAttributes attributes = lines.child(i).attributes();
-        items.push_back({std::string(textOf(attributes, textField)),
-                         itemDataOf(textOf(attributes, dataField))});
+    items.reserve(rows.length());
+    for (const XmlNode row : rows) {
+        const XmlAttributes fields = row.attributes();
+        items.push_back(
+            {std::string(fields.textOf(textField)), itemData(fields.textOf(dataField))});
     }
     return items;
 }

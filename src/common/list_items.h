@@ -18,8 +18,10 @@ struct ListItem {
     bool operator==(const ListItem&) const = default;
 };
 
-// One for each row of the answer, in its order. An absent text is empty; item data
-// that is absent or no 32-bit number is 0.
+// The number that a text holds, blanks around allowed; 0 for what is no 32-bit number.
+std::int32_t itemData(std::string_view text);
+
+// One for each row of the answer, in its order; what is absent is empty, or 0.
 std::vector<ListItem> listItemsOf(const XmlDocument& answer, std::string_view textField,
                                   std::string_view dataField);
 

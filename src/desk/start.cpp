@@ -65,12 +65,12 @@ bool filledIn(Environment& environment, const std::string& value, const std::str
 // Looked up in upper case; what is absent is the number 0: decision D99.
 void fillIn(Sessao& session, const XmlDocument& document) {
     const XmlNode principal = document.selectSingleNode("PRINCIPAL");
-    session.NCOMPANYCODE = readInt32(numberAttribute(principal, 0, "NCOMPANYCODE"));
-    session.COMPANYNAME = numberAttribute(principal, 0, "COMPANYNAME");
-    session.SERVERNAME = numberAttribute(principal, 0, "SERVERNAME");
-    session.ID_ETB_TARN = readInt32(numberAttribute(principal, 0, "ID_ETB_TARN"));
-    session.UserCode = numberAttribute(principal, 0, "UserCode");
-    session.DATA = dayMonthYear(numberAttribute(principal, 0, "DATA"));
+    session.NCOMPANYCODE = readInt32(PegaValor(principal, 0, "NCOMPANYCODE", 0));
+    session.COMPANYNAME = PegaValor(principal, 0, "COMPANYNAME", 0);
+    session.SERVERNAME = PegaValor(principal, 0, "SERVERNAME", 0);
+    session.ID_ETB_TARN = readInt32(PegaValor(principal, 0, "ID_ETB_TARN", 0));
+    session.UserCode = PegaValor(principal, 0, "UserCode", 0);
+    session.DATA = dayMonthYear(PegaValor(principal, 0, "DATA", 0));
 }
 
 std::string withZero(std::string_view part) {
@@ -151,7 +151,7 @@ bool VerificaDireitoAcesso(Environment& environment, const Sessao& session,
 std::string branchName(Environment& environment, const Sessao& session) {
     XmlDocument document;
     requestAnswer(environment, commands::sel_dados_empresa(session), document, failure::Tarn0009);
-    return textAttribute(document.selectSingleNode("xml/rs:data"), 0, "NM_FIL");
+    return PegaValor(rowsetOf(document), 0, "NM_FIL");
 }
 
 }  // namespace tarn

@@ -1,7 +1,6 @@
 #include "gateway/answer.h"
 
 #include "gateway/carrega_xml.h"
-#include "gateway/pega_valor.h"
 #include "platform/environment.h"
 #include "platform/message_boxes.h"
 
@@ -11,6 +10,10 @@ bool requestAnswer(Environment& environment, const std::string& query, XmlDocume
                    std::string_view failureMessage) {
     return CarregaXML(environment, environment.baseUrl + query, document, false, "", 0, "",
                       std::string(failureMessage));
+}
+
+std::string statusOf(const XmlDocument& document) {
+    return std::string(document.child(1).attributes().item(1).text());
 }
 
 bool answerAccepted(Environment& environment, const XmlDocument& document,
@@ -25,6 +28,15 @@ bool answerAccepted(Environment& environment, const XmlDocument& document,
         return false;
     }
     return true;
+}
+
+XmlNode rowsetOf(const XmlDocument& answer) {
+    return answer.selectSingleNode("xml/rs:data");
+}
+
+XmlNodeList rowsOf(const XmlDocument& answer) {
+    const XmlNode rowset = rowsetOf(answer);
+    return rowset ? rowset.childNodes() : XmlNodeList();
 }
 
 void warn(Environment& environment, const std::string& text) {

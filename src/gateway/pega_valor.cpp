@@ -7,51 +7,39 @@
 namespace tarn {
 namespace {
 
-// The presence test ignores the case of letters and the prefix; the lookup that
-// follows ignores neither. Null: absent.
-XmlAttribute find(const XmlNode& node, std::size_t index, std::string_view name,
-                  std::string_view queryName) {
-    const XmlAttributes attributes = node.child(index).attributes();
-    const XmlAttribute match = attributes.firstWithBaseName(name);
-    if (!match || match.name() == queryName) {
-        return match;
-    }
-    const XmlAttribute queried = attributes.getNamedItem(queryName);
-    if (!queried) {
-        throw RuntimeError(RuntimeErrorCode::ObjectVariable);
-    }
-    return queried;
-}
-
-bool isNumericReading(const AttributeValue& fallback) {
-    const double* number = std::get_if<double>(&fallback);
-    return number != nullptr && *number == 0.0;
+// Null: absent.
+XmlAttribute find(const XmlNode& node, std::size_t index, std::string_view name) {
+    const XmlAttributes row = node.child(index).attributes();
+    const XmlAttribute present = row.firstWithBaseName(name);
+    return present ? spelledAs(name, present, row) : present;
 }
 
 }  // namespace
 
-AttributeValue PegaValor(const XmlNode& node, std::size_t index, std::string_view name,
-                         const AttributeValue& fallback) {
-    if (isNumericReading(fallback)) {
-        const XmlAttribute attribute = find(node, index, name, asciiUpper(name));
-        return attribute ? AttributeValue(pointToComma(attribute.text())) : fallback;
+XmlAttribute spelledAs(std::string_view name, const XmlAttribute& present,
+                       const XmlAttributes& row) {
+    if (present.name() == name) {
+        return present;
     }
-    const XmlAttribute attribute = find(node, index, name, name);
-    return attribute ? AttributeValue(std::string(attribute.text())) : fallback;
+    const XmlAttribute other = row.getNamedItem(name);
+    if (!other) {
+        throw RuntimeError(RuntimeErrorCode::ObjectVariable);
+    }
+    return other;
 }
 
-std::string textAttribute(const XmlNode& node, std::size_t index, std::string_view name) {
-    const XmlAttribute attribute = find(node, index, name, name);
-    return attribute ? std::string(attribute.text()) : std::string();
+std::string PegaValor(const XmlNode& node, std::size_t index, std::string_view name,
+                      std::string_view fallback) {
+    const XmlAttribute attribute = find(node, index, name);
+    return std::string(attribute ? attribute.text() : fallback);
 }
 
-std::string numberAttribute(const XmlNode& node, std::size_t index, std::string_view name) {
-    const XmlAttribute attribute = find(node, index, name, asciiUpper(name));
+std::string PegaValor(const XmlNode& node, std::size_t index, std::string_view name, int fallback) {
+    if (fallback != 0) {
+        return PegaValor(node, index, name, std::to_string(fallback));
+    }
+    const XmlAttribute attribute = find(node, index, asciiUpper(name));
     return attribute ? pointToComma(attribute.text()) : "0";
-}
-
-std::string statusOf(const XmlDocument& document) {
-    return std::string(document.child(1).attributes().item(1).text());
 }
 
 }  // namespace tarn

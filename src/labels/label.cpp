@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "gateway/answer.h"
+#include "gateway/pega_valor.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 
@@ -25,17 +27,12 @@ constexpr std::array<std::string_view, 10> fields{
     "NOME", "ENDERECO", "SOMENTE_ENDERECO", "NUMERO", "COMPLEMENTO", "BAIRRO", "MUNICIPIO", "UF",
     "CEP",  "CODIGO"};
 
-XmlNode rowsOf(const XmlDocument& answer) {
-    return answer.selectSingleNode("xml/rs:data");
-}
-
 }  // namespace
 
-Labels::Labels(const XmlDocument& answer)
-    : lines_(rowsOf(answer)), count_(lines_ ? lines_.childCount() : 0), reader_(fields) {}
+Labels::Labels(const XmlDocument& answer) : rows_(rowsOf(answer)), reader_(fields) {}
 
 Label Labels::read(std::size_t index) {
-    reader_.read(lines_, index);
+    reader_.read(rows_.item(index));
     return {.NOME = reader_.text(NOME),
             .ENDERECO = reader_.text(ENDERECO),
             .SOMENTE_ENDERECO = reader_.text(SOMENTE_ENDERECO),
@@ -55,19 +52,19 @@ void report(const Progress& progress, std::size_t done, const Labels& labels) {
 }
 
 Sender readSender(const XmlDocument& answer) {
-    const XmlNode lines = rowsOf(answer);
-    Sender sender{.NOME = textAttribute(lines, 0, "NOME"),
-                  .ENDERECO = textAttribute(lines, 0, "ENDERECO"),
-                  .BAIRRO = textAttribute(lines, 0, "BAIRRO"),
-                  .MUNICIPIO = textAttribute(lines, 0, "MUNICIPIO"),
-                  .UF = textAttribute(lines, 0, "UF"),
-                  .CEP = textAttribute(lines, 0, "CEP"),
-                  .DESCRICAO = textAttribute(lines, 0, "DESCRICAO"),
+    const XmlNode rowset = rowsetOf(answer);
+    Sender sender{.NOME = PegaValor(rowset, 0, "NOME"),
+                  .ENDERECO = PegaValor(rowset, 0, "ENDERECO"),
+                  .BAIRRO = PegaValor(rowset, 0, "BAIRRO"),
+                  .MUNICIPIO = PegaValor(rowset, 0, "MUNICIPIO"),
+                  .UF = PegaValor(rowset, 0, "UF"),
+                  .CEP = PegaValor(rowset, 0, "CEP"),
+                  .DESCRICAO = PegaValor(rowset, 0, "DESCRICAO"),
                   .NUMERO = {}};
     if (trimBlanks(sender.DESCRICAO).empty()) {
         sender.DESCRICAO.clear();
     }
-    sender.NUMERO = blankIfZero(textAttribute(lines, 0, "NUMERO"));
+    sender.NUMERO = blankIfZero(PegaValor(rowset, 0, "NUMERO"));
     return sender;
 }
 

@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "gateway/pega_valor.h"
+#include "gateway/row_reader.h"
+#include "gateway/xml_document.h"
 #include "platform/progress.h"
 
 namespace tarn::labels {
@@ -29,14 +30,13 @@ class Labels {
 public:
     explicit Labels(const XmlDocument& answer);
 
-    std::size_t count() const { return count_; }
+    std::size_t count() const { return rows_.length(); }
     // Its texts live until the next label is read. ObjectVariable for a field that the
     // answer spells in another case.
     Label read(std::size_t index);
 
 private:
-    XmlNode lines_;
-    std::size_t count_ = 0;
+    XmlNodeList rows_;
     RowReader reader_;
 };
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-#include "gateway/pega_valor.h"
+#include "gateway/row_reader.h"
 #include "gateway/xml_document.h"
 #include "notes/source.h"
 

@@ -114,8 +114,8 @@ void FrmReImprimeNF::fillLists() {
     if (!goesOn) {
         return;
     }
-    for (const CancelReason& reason : loadReasons(desk_.environment, desk_.session)) {
-        ui_->CboMot_Can->addItem(QString::fromStdString(reason.description), reason.id);
+    for (const ListItem& reason : loadReasons(desk_.environment, desk_.session)) {
+        ui_->CboMot_Can->addItem(QString::fromStdString(reason.text), reason.data);
     }
     ui_->CboMot_Can->setCurrentIndex(-1);
 }

@@ -8,7 +8,6 @@
 #include "platform/environment.h"
 #include "platform/message_boxes.h"
 #include "runtime/dates.h"
-#include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 #include "runtime/text.h"
 
@@ -24,28 +23,6 @@ constexpr const char* cancellationProblem = "Houve um problema no Cancelamento d
 
 void alert(Environment& environment, const std::string& text) {
     warn(environment, text, "Aviso");
-}
-
-// An attribute of a list's row; absent is empty.
-std::string_view field(const XmlNode& line, std::string_view name) {
-    const XmlAttribute attribute = line.attributes().getNamedItem(name);
-    return attribute ? attribute.text() : std::string_view();
-}
-
-template <typename Routine>
-void forEachLine(const XmlDocument& document, const Routine& routine) {
-    const XmlNode lines = document.selectSingleNode("xml/rs:data");
-    for (std::size_t i = 0; lines && i < lines.childCount(); ++i) {
-        routine(lines.child(i));
-    }
-}
-
-std::int32_t reasonId(std::string_view text) {
-    try {
-        return readInt32(trimBlanks(text));
-    } catch (const RuntimeError&) {
-        return 0;
-    }
 }
 
 // An answer whose status can't be read counts as an empty one: decision D51.
@@ -75,11 +52,12 @@ bool loadSeries(Environment& environment, const Sessao& session, std::vector<std
         alert(environment, "Houve um problema na transferência das Séries da Nota Fiscal. ");
         return false;
     }
-    forEachLine(document, [&items](const XmlNode& line) {
-        std::string item(field(line, "DC_SER_NF"));
-        item.append(seriesGap, ' ').append("|").append(trimBlanks(field(line, "CD_SER_NF")));
+    for (const XmlNode row : rowsOf(document)) {
+        const XmlAttributes fields = row.attributes();
+        std::string item(fields.textOf("DC_SER_NF"));
+        item.append(seriesGap, ' ').append("|").append(trimBlanks(fields.textOf("CD_SER_NF")));
         items.push_back(std::move(item));
-    });
+    }
     return true;
 }
 
@@ -88,21 +66,16 @@ std::string seriesCode(std::string_view item) {
     return std::string(item.substr(start, item.find('|', start) - start));
 }
 
-std::vector<CancelReason> loadReasons(Environment& environment, const Sessao& session) {
-    std::vector<CancelReason> reasons;
+std::vector<ListItem> loadReasons(Environment& environment, const Sessao& session) {
     XmlDocument document;
     if (!requestAnswer(environment, commands::SEL_MOT_CAN(session), document, failure::Tarn0011)) {
-        return reasons;
+        return {};
     }
     if (document.empty()) {
         alert(environment, "Houve um problema na transferência dos Motivos de Cancelamento. ");
-        return reasons;
+        return {};
     }
-    forEachLine(document, [&reasons](const XmlNode& line) {
-        reasons.push_back(
-            {std::string(field(line, "DC_MOT_CAN")), reasonId(field(line, "ID_MOT_CAN"))});
-    });
-    return reasons;
+    return listItemsOf(document, "DC_MOT_CAN", "ID_MOT_CAN");
 }
 
 std::optional<FoundNote> searchNote(Environment& environment, const Sessao& session,
@@ -122,17 +95,17 @@ std::optional<FoundNote> searchNote(Environment& environment, const Sessao& sess
         alert(environment, "Houve um problema na Pesquisa da Nota Fiscal !!!");
         return std::nullopt;
     }
-    const XmlNode lines = document.selectSingleNode("xml/rs:data");
-    if (!lines || lines.childCount() == 0) {
+    if (rowsOf(document).length() == 0) {
         alert(environment, "Nota Fiscal não encontrada ou Cancelada !!!    ");
         return std::nullopt;
     }
+    const XmlNode rowset = rowsetOf(document);
     return FoundNote{.number = fields.number,
                      .series = series,
-                     .kind = textAttribute(lines, 0, "IC_TIP_NF"),
-                     .kindText = textAttribute(lines, 0, "DC_TIP_NF"),
-                     .issued = formatDateText(textAttribute(lines, 0, "DT_EMS_NF")),
-                     .customer = textAttribute(lines, 0, "NM_PES_CPL")};
+                     .kind = PegaValor(rowset, 0, "IC_TIP_NF"),
+                     .kindText = PegaValor(rowset, 0, "DC_TIP_NF"),
+                     .issued = formatDateText(PegaValor(rowset, 0, "DT_EMS_NF")),
+                     .customer = PegaValor(rowset, 0, "NM_PES_CPL")};
 }
 
 bool noteSelected(Environment& environment, const NoteFields& fields, std::string_view foundNote) {

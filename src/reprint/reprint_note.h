@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "common/list_items.h"
 #include "gateway/sessao.h"
 
 namespace tarn {
@@ -21,11 +22,7 @@ bool loadSeries(Environment& environment, const Sessao& session, std::vector<std
 // The code that an item carries: its second piece between bars.
 std::string seriesCode(std::string_view item);
 
-struct CancelReason {
-    std::string description;
-    std::int32_t id = 0;
-};
-std::vector<CancelReason> loadReasons(Environment& environment, const Sessao& session);
+std::vector<ListItem> loadReasons(Environment& environment, const Sessao& session);
 
 // What the user chose and typed.
 struct NoteFields {

@@ -1,6 +1,8 @@
-// Recognises ASCII eight bytes at a time: almost everything that is printed is ASCII.
+// Recognises ASCII eight bytes at a time: almost everything that is printed is ASCII. And
+// its letters without their case.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -63,6 +65,15 @@ inline std::size_t asciiRun(std::string_view text) {
         ++run;
     }
     return run;
+}
+
+inline char asciiUpper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+inline bool sameIgnoringCase(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return asciiUpper(x) == asciiUpper(y); });
 }
 
 }  // namespace tarn

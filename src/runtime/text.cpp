@@ -1,5 +1,7 @@
 #include "runtime/text.h"
 
+#include <algorithm>
+
 #include "runtime/ascii.h"
 #include "runtime/utf8.h"
 
@@ -105,13 +107,13 @@ std::string upperCase(std::string_view text) {
     return out;
 }
 
+std::string trimmedUpperCase(std::string_view text) {
+    return upperCase(trimBlanks(text));
+}
+
 std::string asciiUpper(std::string_view text) {
     std::string out(text);
-    for (char& c : out) {
-        if (c >= 'a' && c <= 'z') {
-            c = static_cast<char>(c - 32);
-        }
-    }
+    std::transform(out.begin(), out.end(), out.begin(), [](char c) { return asciiUpper(c); });
     return out;
 }
 

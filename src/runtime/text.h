@@ -17,6 +17,7 @@ std::string_view midOf(std::string_view text, std::size_t start, std::size_t cou
 
 std::string_view trimBlanks(std::string_view text);  // blanks (32) off both ends, nothing else
 std::string upperCase(std::string_view text);        // also the accented letters of windows-1252
+std::string trimmedUpperCase(std::string_view text);
 std::string asciiUpper(std::string_view text);
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
 

@@ -14,14 +14,13 @@ bool Portfolio::isWallet57() const {
 
 Portfolio portfolioOf(const XmlDocument& answer) {
     Portfolio portfolio;
-    const XmlNode lines = answer.selectSingleNode("xml/rs:data");
-    const std::size_t count = lines ? lines.childCount() : 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        portfolio = {.ID_CRT_COB = textAttribute(lines, i, "ID_CRT_COB"),
-                     .ID_PES_BAN = textAttribute(lines, i, "ID_PES_BAN"),
-                     .NR_CRT_CNAB = textAttribute(lines, i, "NR_CRT_CNAB"),
-                     .CD_AGE_BAN_CNAB = textAttribute(lines, i, "CD_AGE_BAN_CNAB"),
-                     .NR_CCOR_CNAB = textAttribute(lines, i, "NR_CCOR_CNAB")};
+    const XmlNode rowset = rowsetOf(answer);
+    for (std::size_t i = 0; i < rowsOf(answer).length(); ++i) {
+        portfolio = {.ID_CRT_COB = PegaValor(rowset, i, "ID_CRT_COB"),
+                     .ID_PES_BAN = PegaValor(rowset, i, "ID_PES_BAN"),
+                     .NR_CRT_CNAB = PegaValor(rowset, i, "NR_CRT_CNAB"),
+                     .CD_AGE_BAN_CNAB = PegaValor(rowset, i, "CD_AGE_BAN_CNAB"),
+                     .NR_CCOR_CNAB = PegaValor(rowset, i, "NR_CCOR_CNAB")};
     }
     return portfolio;
 }

@@ -1,7 +1,10 @@
 #include <array>
+#include <optional>
 #include <string>
 
+#include "gateway/answer.h"
 #include "gateway/pega_valor.h"
+#include "gateway/row_reader.h"
 #include "gateway/xml_document.h"
 #include "runtime/runtime_error.h"
 #include "tests/fuzz/byte_source.h"
@@ -72,6 +75,33 @@ void attempt(const Read& read) {
     }
 }
 
+// What a read gives, or nothing when it raises the run-time error.
+template <typename Read>
+std::optional<std::string> resultOf(const Read& read) {
+    try {
+        return std::string(read());
+    } catch (const RuntimeError&) {
+        return std::nullopt;
+    }
+}
+
+constexpr std::array rowNames{"VL"sv, "Nome"sv, "STATUS"sv, "a"sv};
+
+void checkRows(const XmlNode& node) {
+    RowReader reader{rowNames};
+    for (std::size_t i = 0; i < node.childCount() && i < 8; ++i) {
+        reader.read(node, i);
+        for (std::size_t field = 0; field < rowNames.size(); ++field) {
+            const std::string_view name = rowNames.at(field);
+            if (resultOf([&] { return reader.text(field); }) !=
+                    resultOf([&] { return PegaValor(node, i, name); }) ||
+                resultOf([&] { return reader.number(field); }) !=
+                    resultOf([&] { return PegaValor(node, i, name, 0); }))
+                broken("the reading of rows and that of one attribute differ");
+        }
+    }
+}
+
 void checkNode(const XmlNode& node, int depth) {
     const XmlAttributes attributes = node.attributes();
     for (std::size_t i = 0; i < attributes.length(); ++i) {
@@ -87,10 +117,11 @@ void checkNode(const XmlNode& node, int depth) {
     const std::size_t count = node.childCount();
     for (const std::string_view name : names) {
         for (std::size_t i = 0; i <= count && i < 4; ++i) {
-            attempt([&] { textAttribute(node, i, name); });
-            attempt([&] { numberAttribute(node, i, name); });
+            attempt([&] { PegaValor(node, i, name); });
+            attempt([&] { PegaValor(node, i, name, 0); });
         }
     }
+    checkRows(node);
     for (const std::string_view path : paths) {
         const XmlNodeList all = node.selectNodes(path);
         if (static_cast<bool>(node.selectSingleNode(path)) != (all.length() > 0))

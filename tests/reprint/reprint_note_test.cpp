@@ -113,8 +113,8 @@ TEST_F(ReprintTest, ReasonsKeepTheirNumber) {
                                                    "<z:row DC_MOT_CAN='Sem'/>"
                                                    "<z:row ID_MOT_CAN='2147483648'/>"));
     std::vector<std::pair<std::string, std::int32_t>> reasonsRead;
-    for (const CancelReason& reason : loadReasons(environment, session)) {
-        reasonsRead.emplace_back(reason.description, reason.id);
+    for (const ListItem& reason : loadReasons(environment, session)) {
+        reasonsRead.emplace_back(reason.text, reason.data);
     }
     EXPECT_THAT(reasonsRead,
                 testing::ElementsAre(testing::Pair("Erro", 12), testing::Pair("Outro", -3),

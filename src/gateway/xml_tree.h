@@ -1,0 +1,41 @@
+// An answer as libxml2 holds it; the facade's own view of it.
+#pragma once
+
+#include <libxml/tree.h>
+
+#include <list>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "gateway/xml_node.h"
+
+namespace tarn {
+
+inline std::string_view viewOf(const xmlChar* text) {
+    return text == nullptr ? std::string_view{} : reinterpret_cast<const char*>(text);
+}
+
+inline bool isElement(const xmlNode& node) {
+    return node.type == XML_ELEMENT_NODE;
+}
+
+struct XmlTree {
+    struct DocDeleter {
+        void operator()(xmlDoc* doc) const { xmlFreeDoc(doc); }
+    };
+    std::unique_ptr<xmlDoc, DocDeleter> doc;
+    std::list<XmlNodeList::Nodes> children;  // of the elements asked so far
+
+    static XmlTree& of(const xmlNode& node) { return *static_cast<XmlTree*>(node.doc->_private); }
+    // The element children; gathered once, then at hand in the element's _private.
+    const XmlNodeList::Nodes& childrenOf(const xmlNode& element);
+};
+
+// Null for what isn't an answer.
+std::unique_ptr<XmlTree> parseXml(std::string_view bytes);
+
+std::string written(xmlNode& node);
+bool saveXml(xmlDoc& doc, const std::string& fileName);
+
+}  // namespace tarn
