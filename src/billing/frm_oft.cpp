@@ -113,10 +113,8 @@ std::optional<GridRow> FrmOFT::selectedOrder() {
 
 bool FrmOFT::observationsAccepted(const GridRow& order) {
     ScreenAlert alert(desk_.session, this);
-    bool goesOn = false;
-    Seleciona_Obs_Vnd_X_Ord(desk_.environment, desk_.session, alert, order.text(OrderColumn::Order),
-                            goesOn);
-    return goesOn;
+    return Seleciona_Obs_Vnd_X_Ord(desk_.environment, desk_.session, alert,
+                                   order.text(OrderColumn::Order)) == Next::GoOn;
 }
 
 void FrmOFT::cmdSelecionar_Click() {

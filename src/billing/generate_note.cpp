@@ -16,12 +16,8 @@ constexpr std::int32_t establishmentOfReprint = 3383;
 
 bool acceptedNotices(Environment& environment, Sessao& session, AlertDialog& alert,
                      const std::string& order) {
-    bool goesOn = false;
-    Seleciona_Obs_Vnd_X_Ord(environment, session, alert, order, goesOn);
-    if (goesOn) {
-        Seleciona_Obs_Ord_X_Est(environment, session, alert, order, goesOn);
-    }
-    return goesOn;
+    return Seleciona_Obs_Vnd_X_Ord(environment, session, alert, order) == Next::GoOn &&
+           Seleciona_Obs_Ord_X_Est(environment, session, alert, order) == Next::GoOn;
 }
 
 // The value of a child of the root, found by its place alone.

@@ -32,35 +32,30 @@ bool textSearch(Environment& environment, Sessao& session, const std::string& qu
 
 }  // namespace
 
-void Seleciona_Obs_Vnd_X_Ord(Environment& environment, Sessao& session, AlertDialog& alert,
-                             const std::string& order, bool& goesOn) {
-    goesOn = false;
+Next Seleciona_Obs_Vnd_X_Ord(Environment& environment, Sessao& session, AlertDialog& alert,
+                             const std::string& order) {
     if (!textSearch(environment, session, commands::Seleciona_Obs_Vnd_X_Ord(session, order))) {
-        return;
+        return Next::Stop;
     }
     session.ConfirmaMensagem = "N";
     if (session.TextoMensagem.empty()) {
-        goesOn = true;
-    } else {
-        alert.show(AlertMode::Confirm);
+        return Next::GoOn;
     }
-    if (session.ConfirmaMensagem == "S") {
-        goesOn = true;
-    }
+    alert.show(AlertMode::Confirm);
+    return session.ConfirmaMensagem == "S" ? Next::GoOn : Next::Stop;
 }
 
-void Seleciona_Obs_Ord_X_Est(Environment& environment, Sessao& session, AlertDialog& alert,
-                             const std::string& order, bool& goesOn) {
-    goesOn = false;
+Next Seleciona_Obs_Ord_X_Est(Environment& environment, Sessao& session, AlertDialog& alert,
+                             const std::string& order) {
     if (!textSearch(environment, session, commands::Seleciona_Obs_Ord_X_Est(session, order))) {
-        return;
+        return Next::Stop;
     }
     session.ConfirmaMensagem = "N";
     if (session.TextoMensagem.empty()) {
-        goesOn = true;
-    } else {
-        alert.show(AlertMode::OutOfStock);
+        return Next::GoOn;
     }
+    alert.show(AlertMode::OutOfStock);
+    return Next::Stop;
 }
 
 }  // namespace tarn

@@ -10,13 +10,15 @@ namespace tarn {
 class AlertDialog;
 struct Environment;
 
-// The observations of the order's sales, to be confirmed. `goesOn` comes back
-// true when the action may go on.
-void Seleciona_Obs_Vnd_X_Ord(Environment& environment, Sessao& session, AlertDialog& alert,
-                             const std::string& order, bool& goesOn);
+// What becomes of the action that asked.
+enum class Next { Stop, GoOn };
+
+// The observations of the order's sales, to be confirmed.
+Next Seleciona_Obs_Vnd_X_Ord(Environment& environment, Sessao& session, AlertDialog& alert,
+                             const std::string& order);
 
 // The stock check: with something missing the order can't go on.
-void Seleciona_Obs_Ord_X_Est(Environment& environment, Sessao& session, AlertDialog& alert,
-                             const std::string& order, bool& goesOn);
+Next Seleciona_Obs_Ord_X_Est(Environment& environment, Sessao& session, AlertDialog& alert,
+                             const std::string& order);
 
 }  // namespace tarn
