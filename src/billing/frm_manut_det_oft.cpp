@@ -110,16 +110,12 @@ QLineEdit& frmManutDetOFT::field(OrderField which) const {
 }
 
 void frmManutDetOFT::cmdOk_Click() {
-    const std::string number = ui_->txtOrdFat->text().toStdString();
-    const std::string observation = ui_->txtObs->text();
-    const std::string quantity = ui_->txtQtde->text().toStdString();
-    const std::string grossWeight = ui_->txtPesoBruto->text().toStdString();
-    const std::string netWeight = ui_->txtPesoLiquido->text().toStdString();
-    const commands::OrderData order{.order = number,
-                                    .observation = observation,
-                                    .quantity = quantity,
-                                    .grossWeight = grossWeight,
-                                    .netWeight = netWeight};
+    const auto text = [](const QLineEdit* field) { return field->text().toStdString(); };
+    const commands::OrderData order{.order = text(ui_->txtOrdFat),
+                                    .observation = ui_->txtObs->text(),
+                                    .quantity = text(ui_->txtQtde),
+                                    .grossWeight = text(ui_->txtPesoBruto),
+                                    .netWeight = text(ui_->txtPesoLiquido)};
     if (const auto refusal = dataRefusal(order)) {
         desk_.environment.boxes.show({std::string(refusal->text), BoxIcon::Information, "Atenção"});
         field(refusal->field).setFocus();

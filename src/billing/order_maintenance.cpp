@@ -12,7 +12,7 @@ namespace {
 
 struct Test {
     OrderField field;
-    std::string_view commands::OrderData::*value;
+    std::string commands::OrderData::*value;
     std::string_view empty;
     std::string_view negative;
 };
@@ -29,7 +29,7 @@ constexpr std::array<Test, 3> tests{
 
 std::optional<OrderRefusal> dataRefusal(const commands::OrderData& data) {
     for (const Test& test : tests) {
-        const std::string_view value = data.*test.value;
+        const std::string& value = data.*test.value;
         if (value.empty()) {
             return OrderRefusal{test.field, test.empty};
         }

@@ -124,16 +124,13 @@ void FrmPesqDupli::cmdPesquisar_Click() {
     const std::int32_t kind = currentItemData(*ui_->cboTpDocto);
     ui_->optDupl->setVisible(kind == billKind);
     ui_->optTripl->setVisible(kind == billKind);
-    const std::string customer = customerId(*ui_->txtCliente);
-    const std::string dueFrom = ui_->txtDtVncDe->text().toStdString();
-    const std::string issuedFrom = ui_->txtDtEmsDe->text().toStdString();
-    const std::string issuedTo = ui_->txtDtEmsAte->text().toStdString();
-    const commands::SearchFilter filter{.customer = customer,
+    const auto text = [](const QLineEdit* field) { return field->text().toStdString(); };
+    const commands::SearchFilter filter{.customer = customerId(*ui_->txtCliente),
                                         .branch = currentItemData(*ui_->cboFilial),
-                                        .dueFrom = dueFrom,
+                                        .dueFrom = text(ui_->txtDtVncDe),
                                         .dueTo = dueTo,
-                                        .issuedFrom = issuedFrom,
-                                        .issuedTo = issuedTo};
+                                        .issuedFrom = text(ui_->txtDtEmsDe),
+                                        .issuedTo = text(ui_->txtDtEmsAte)};
     if (auto lines = searchBills(desk_.environment, desk_.session, kind, filter)) {
         documents_->show(std::move(*lines));
     }

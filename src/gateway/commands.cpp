@@ -1,48 +1,16 @@
 #include "gateway/commands.h"
 
-#include <initializer_list>
-
-#include "runtime/numbers.h"
+#include "gateway/command_text.h"
 #include "runtime/text.h"
 
 namespace tarn::commands {
 namespace {
 
-struct Parameter {
-    std::string_view key;
-    std::string value;
-
-    Parameter(std::string_view aKey, std::string_view text) : key(aKey), value(text) {}
-    Parameter(std::string_view aKey, std::int32_t number)
-        : key(aKey), value(std::to_string(number)) {}
-};
-
-std::string query(std::string_view commands, std::initializer_list<Parameter> parameters) {
-    std::string text(commands);
-    for (const Parameter& pair : parameters) {
-        text.append(pair.key).append(pair.value);
-    }
-    return text;
-}
-
-std::string trimmed(std::string_view text) {
-    return std::string(trimBlanks(text));
-}
-std::string inUpperCase(std::string_view text) {
-    return upperCase(trimBlanks(text));
-}
-std::string emptyIfZero(std::int32_t data) {
-    return data == 0 ? "" : std::to_string(data);
-}
 std::string ifChosen(const ChosenItem& item) {
     return item.position > 0 ? std::to_string(item.data) : "";
 }
 std::string keyIfChosen(std::string_view key, const ChosenItem& item) {
     return item.position > 0 ? std::string(key) + std::to_string(item.data) : "";
-}
-// "007" goes as 7, "1.000" as 1000.
-std::string typedNumber(std::string_view text) {
-    return numberText(readComma(text));
 }
 
 std::string_view kindFilter(std::int32_t kind) {
@@ -265,8 +233,8 @@ std::string seleciona_um_controle_cheque_emitido(const Sessao& session, const Ch
                   {"&Id_Pes_Ban=", cheque.bank},
                   {"&Cd_Age_Ban=", cheque.agency},
                   {"&Nr_Ccor=", cheque.account},
-                  {"&Nr_Che=", trimmed(cheque.number)},
-                  {"&Nr_Ser=", inUpperCase(cheque.series)},
+                  {"&Nr_Che=", trimBlanks(cheque.number)},
+                  {"&Nr_Ser=", trimmedUpperCase(cheque.series)},
                   {"&ServerName=", session.SERVERNAME}});
 }
 
@@ -276,14 +244,14 @@ std::string adiciona_controle_cheque_emitido(const Sessao& session, const Cheque
                   {"&ID_ETB_TARN=", session.ID_ETB_TARN},
                   {"&UserCode=", session.UserCode},
                   {"&ID_PES_BAN=", cheque.bank},
-                  {"&CD_AGE_BAN=", trimmed(cheque.agency)},
-                  {"&NR_CCOR=", trimmed(cheque.account)},
-                  {"&NR_CHE=", trimmed(cheque.number)},
-                  {"&NR_SER=", inUpperCase(cheque.series)},
-                  {"&VL_CH=", trimmed(cheque.value)},
-                  {"&DC_FAV=", inUpperCase(cheque.payee)},
-                  {"&DT_DEP=", trimmed(cheque.depositDate)},
-                  {"&DC_OBS=", inUpperCase(cheque.observation)},
+                  {"&CD_AGE_BAN=", trimBlanks(cheque.agency)},
+                  {"&NR_CCOR=", trimBlanks(cheque.account)},
+                  {"&NR_CHE=", trimBlanks(cheque.number)},
+                  {"&NR_SER=", trimmedUpperCase(cheque.series)},
+                  {"&VL_CH=", trimBlanks(cheque.value)},
+                  {"&DC_FAV=", trimmedUpperCase(cheque.payee)},
+                  {"&DT_DEP=", trimBlanks(cheque.depositDate)},
+                  {"&DC_OBS=", trimmedUpperCase(cheque.observation)},
                   {"&ServerName=", session.SERVERNAME}});
 }
 
@@ -355,7 +323,7 @@ std::string sel_dados_etq(const Sessao& session, const LabelFilter& filter) {
                                            {"", keyIfChosen("&nIdUf=", filter.state)},
                                            {"", keyIfChosen("&nIdMun=", filter.town)},
                                            {"&nIdMatPro=", filter.product},
-                                           {"&nCepDe=", filter.cepDe},
+                                           {"&nCepDe=", filter.postalCodeFrom},
                                            {"&nCepAte=", filter.postalCodeTo},
                                            {"&dDtDe=", filter.saleFrom},
                                            {"&dDtAte=", filter.saleTo},

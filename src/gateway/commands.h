@@ -26,11 +26,11 @@ std::string Seleciona_Obs_Ord_X_Est(const Sessao& session, std::string_view orde
 std::string SP_GERA_NF(const Sessao& session, std::string_view order);
 std::string sel_gera_nf(const Sessao& session, std::string_view note, std::string_view series);
 struct OrderData {
-    std::string_view order = {};
-    std::string_view observation = {};  // "%" goes as "||", then "&" as "|"
-    std::string_view quantity = {};
-    std::string_view grossWeight = {};
-    std::string_view netWeight = {};
+    std::string order = {};
+    std::string observation = {};  // "%" goes as "||", then "&" as "|"
+    std::string quantity = {};
+    std::string grossWeight = {};
+    std::string netWeight = {};
 };
 std::string MANUTENCAO_OFT(const Sessao& session, const OrderData& data);
 std::string sel_impr_ordem_fatu(const Sessao& session, std::string_view order);
@@ -38,9 +38,9 @@ std::string sel_impr_ordem_fatu(const Sessao& session, std::string_view order);
 // Reprint and cancellation
 std::string SEL_NF(const Sessao& session, std::string_view note, std::string_view series);
 struct Cancellation {
-    std::string_view noteKind = {};
-    std::string_view note = {};
-    std::string_view series = {};
+    std::string noteKind = {};
+    std::string note = {};
+    std::string series = {};
     std::int32_t reason = 0;        // item data
     bool withoutRebilling = false;  // Tipo_Can: S, otherwise C
 };
@@ -50,12 +50,12 @@ std::string SEL_MOT_CAN(const Sessao& session);
 
 // Bills, receipts, slips
 struct SearchFilter {
-    std::string_view customer = {};  // its identifier, empty for all
-    std::int32_t branch = 0;         // item data; 0: all
-    std::string_view dueFrom = {};
-    std::string_view dueTo = {};
-    std::string_view issuedFrom = {};
-    std::string_view issuedTo = {};
+    std::string customer = {};  // its identifier, empty for all
+    std::int32_t branch = 0;    // item data; 0: all
+    std::string dueFrom = {};
+    std::string dueTo = {};
+    std::string issuedFrom = {};
+    std::string issuedTo = {};
 };
 // `kind` is the item data of the kind of document: 0 both, 1 bills, 12 receipts.
 std::string sel_duplicata(const Sessao& session, std::int32_t kind, const SearchFilter& filter);
@@ -66,12 +66,12 @@ std::string sel_boleto(const Sessao& session, const SearchFilter& filter, std::i
 std::string sel_carteira(const Sessao& session);
 std::string sel_carteira_cob(const Sessao& session, std::int32_t portfolio);
 struct Slip {
-    std::string_view branch = {};  // ID_ETB of the row
-    std::string_view documentKind = {};
-    std::string_view document = {};
-    std::string_view controlNumber = {};
-    std::string_view portfolio = {};  // ID_CRT_COB of the portfolio's record
-    std::string_view bankNumber = {};
+    std::string branch = {};  // ID_ETB of the row
+    std::string documentKind = {};
+    std::string document = {};
+    std::string controlNumber = {};
+    std::string portfolio = {};  // ID_CRT_COB of the portfolio's record
+    std::string bankNumber = {};
 };
 std::string altera_docto_cob(const Sessao& session, const Slip& slip);
 // One of the two layouts that send it spells the control number's key its own way;
@@ -85,14 +85,14 @@ std::string insere_car_rec(const Sessao& session, const Slip& slip);
 std::string sel_banco_agencia_conta(const Sessao& session);
 struct Cheque {
     std::int32_t bank = 0;  // item data
-    std::string_view agency = {};
-    std::string_view account = {};
-    std::string_view number = {};
-    std::string_view series = {};
-    std::string_view value = {};
-    std::string_view payee = {};
-    std::string_view depositDate = {};
-    std::string_view observation = {};
+    std::string agency = {};
+    std::string account = {};
+    std::string number = {};
+    std::string series = {};
+    std::string value = {};
+    std::string payee = {};
+    std::string depositDate = {};
+    std::string observation = {};
 };
 // Number and series go trimmed, the series in capitals.
 std::string seleciona_um_controle_cheque_emitido(const Sessao& session, const Cheque& cheque);
@@ -121,19 +121,19 @@ struct ChosenItem {
     std::int32_t data = 0;
 };
 struct LabelFilter {
-    std::string_view branches = {};  // identifiers, joined by ", "
-    ChosenItem country = {};         // key always sent
-    ChosenItem state = {};           // key left out at position 0
-    ChosenItem town = {};            // key left out at position 0
-    std::string_view product = {};
-    std::string_view cepDe = {};
-    std::string_view postalCodeTo = {};
-    std::string_view saleFrom = {};
-    std::string_view saleTo = {};
-    std::string_view amountFrom = {};
-    std::string_view amountTo = {};
-    std::string_view quantityFrom = {};
-    std::string_view quantityTo = {};
+    std::string branches = {};  // identifiers, joined by ", "
+    ChosenItem country = {};    // key always sent
+    ChosenItem state = {};      // key left out at position 0
+    ChosenItem town = {};       // key left out at position 0
+    std::string product = {};
+    std::string postalCodeFrom = {};
+    std::string postalCodeTo = {};
+    std::string saleFrom = {};
+    std::string saleTo = {};
+    std::string amountFrom = {};
+    std::string amountTo = {};
+    std::string quantityFrom = {};
+    std::string quantityTo = {};
     bool byPostalCode = false;  // order by CEP, otherwise by name
 };
 std::string sel_dados_etq(const Sessao& session, const LabelFilter& filter);

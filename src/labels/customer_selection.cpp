@@ -1,7 +1,5 @@
 #include "labels/customer_selection.h"
 
-#include <algorithm>
-
 #include "gateway/answer.h"
 #include "gateway/failure_texts.h"
 #include "platform/environment.h"
@@ -62,10 +60,9 @@ std::string MontaURL(std::span<const std::int32_t> data, int position) {
 }
 
 MissingDate checkDates(Environment& environment, const commands::LabelFilter& filter) {
-    const auto sales = {filter.product, filter.amountFrom, filter.amountTo, filter.quantityFrom,
-                        filter.quantityTo};
-    const bool needs = std::any_of(sales.begin(), sales.end(),
-                                   [](std::string_view text) { return !text.empty(); });
+    const bool needs = !filter.product.empty() || !filter.amountFrom.empty() ||
+                       !filter.amountTo.empty() || !filter.quantityFrom.empty() ||
+                       !filter.quantityTo.empty();
     if (!needs || (!filter.saleFrom.empty() && !filter.saleTo.empty())) {
         return MissingDate::None;
     }

@@ -121,29 +121,19 @@ void FrmImprEtiq::cboEstado_Click() {
 void FrmImprEtiq::cmdPesquisar_Click() {
     ui_->cmdPesquisar->setFocus();  // pressed by its key, too: a date field completes its date
     const auto text = [](const QLineEdit* field) { return field->text().toStdString(); };
-    const std::string branches = listParameter(*ui_->cboFilial);
-    const std::string product = text(ui_->txtProd);
-    const std::string cepDe = text(ui_->txtCepDe);
-    const std::string postalCodeTo = text(ui_->txtCepAte);
-    const std::string saleFrom = text(ui_->txtDtVndDe);
-    const std::string saleTo = text(ui_->txtDtVndAte);
-    const std::string amountFrom = text(ui_->txtVlrDe);
-    const std::string amountTo = text(ui_->txtVlrAte);
-    const std::string quantityFrom = text(ui_->txtQtde);
-    const std::string quantityTo = text(ui_->txtQtAte);
-    const commands::LabelFilter filter{.branches = branches,
+    const commands::LabelFilter filter{.branches = listParameter(*ui_->cboFilial),
                                        .country = chosen(*ui_->cboPais),
                                        .state = chosen(*ui_->cboEstado),
                                        .town = chosen(*ui_->cboCidade),
-                                       .product = product,
-                                       .cepDe = cepDe,
-                                       .postalCodeTo = postalCodeTo,
-                                       .saleFrom = saleFrom,
-                                       .saleTo = saleTo,
-                                       .amountFrom = amountFrom,
-                                       .amountTo = amountTo,
-                                       .quantityFrom = quantityFrom,
-                                       .quantityTo = quantityTo,
+                                       .product = text(ui_->txtProd),
+                                       .postalCodeFrom = text(ui_->txtCepDe),
+                                       .postalCodeTo = text(ui_->txtCepAte),
+                                       .saleFrom = text(ui_->txtDtVndDe),
+                                       .saleTo = text(ui_->txtDtVndAte),
+                                       .amountFrom = text(ui_->txtVlrDe),
+                                       .amountTo = text(ui_->txtVlrAte),
+                                       .quantityFrom = text(ui_->txtQtde),
+                                       .quantityTo = text(ui_->txtQtAte),
                                        .byPostalCode = ui_->optCep->isChecked()};
     switch (labels::checkDates(desk_.environment, filter)) {
         case labels::MissingDate::De:

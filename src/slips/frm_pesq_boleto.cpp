@@ -108,17 +108,12 @@ void frmPesqBoleto::cmdPesqCli_Click() {
 }
 
 void frmPesqBoleto::cmdPesquisar_Click() {
-    const std::string customer = customerId(*ui_->txtCliente);
-    const std::string dueFrom = text(*ui_->txtDtVncDe);
-    const std::string dueTo = text(*ui_->txtDtVncAte);
-    const std::string issuedFrom = text(*ui_->txtDtEmsDe);
-    const std::string issuedTo = text(*ui_->txtDtEmsAte);
-    const SlipFilter filter{.documents = {.customer = customer,
+    const SlipFilter filter{.documents = {.customer = customerId(*ui_->txtCliente),
                                           .branch = currentItemData(*ui_->cboFilial),
-                                          .dueFrom = dueFrom,
-                                          .dueTo = dueTo,
-                                          .issuedFrom = issuedFrom,
-                                          .issuedTo = issuedTo},
+                                          .dueFrom = text(*ui_->txtDtVncDe),
+                                          .dueTo = text(*ui_->txtDtVncAte),
+                                          .issuedFrom = text(*ui_->txtDtEmsDe),
+                                          .issuedTo = text(*ui_->txtDtEmsAte)},
                             .portfolio = currentItemData(*ui_->cboCartCob),
                             .includesPortfolio = ui_->chkInc_Carteira->isChecked()};
     if (const auto reason = searchRefusal(filter.documents, ui_->cboCartCob->currentIndex())) {

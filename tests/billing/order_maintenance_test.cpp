@@ -9,8 +9,8 @@
 namespace tarn::test {
 namespace {
 
-commands::OrderData values(std::string_view quantity, std::string_view gross,
-                           std::string_view net) {
+commands::OrderData values(const std::string& quantity, const std::string& gross,
+                           const std::string& net) {
     return {.order = "12",
             .observation = "50% & | já",
             .quantity = quantity,

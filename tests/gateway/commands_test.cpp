@@ -151,7 +151,7 @@ const std::vector<Case>& catalogue() {
                                            .state = {.position = 2, .data = 35},
                                            .town = {.position = 1, .data = -7},
                                            .product = "p",
-                                           .cepDe = "01000",
+                                           .postalCodeFrom = "01000",
                                            .postalCodeTo = "02000",
                                            .saleFrom = "01/01/2012",
                                            .saleTo = "02/01/2012",

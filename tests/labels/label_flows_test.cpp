@@ -270,7 +270,7 @@ TEST(MontaURLTest, GivesTheChosenItemOrAllOthers) {
 }
 
 TEST_F(LabelFlows, WhatWasBoughtAsksForTheDateOfTheSale) {
-    commands::LabelFilter filter{.cepDe = "1"};
+    commands::LabelFilter filter{.postalCodeFrom = "1"};
     EXPECT_EQ(checkDates(env.environment, filter), MissingDate::None) << "CEP alone is free";
     for (const auto member :
          {&commands::LabelFilter::product, &commands::LabelFilter::amountFrom,

@@ -64,7 +64,7 @@ commands::Slip slip(const Waiting& document, std::string_view number) {
             .document = document.number,
             .controlNumber = document.control,
             .portfolio = "101",
-            .bankNumber = number};
+            .bankNumber = std::string(number)};
 }
 
 std::string loadOrderOf(const Beside& beside, const char* order) {
@@ -74,15 +74,15 @@ std::string lastNote(const Beside& beside) {
     return beside.text("SELECT number FROM note");
 }
 
-constexpr commands::Cheque sampleCheque{.bank = 1084,
-                                        .agency = " 0384 ",
-                                        .account = "1300221-7",
-                                        .number = "850",
-                                        .series = "aa",
-                                        .value = "1.234,56",
-                                        .payee = "João da Silva",
-                                        .depositDate = "05/09/2012",
-                                        .observation = "pagamento"};
+const commands::Cheque sampleCheque{.bank = 1084,
+                                    .agency = " 0384 ",
+                                    .account = "1300221-7",
+                                    .number = "850",
+                                    .series = "aa",
+                                    .value = "1.234,56",
+                                    .payee = "João da Silva",
+                                    .depositDate = "05/09/2012",
+                                    .observation = "pagamento"};
 
 std::vector<Asked> startRows() {
     return {
