@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "cheques/quebra_texto.h"
-#include "common/raw_channel.h"
+#include "common/printed_line.h"
 #include "common/valor_extenso.h"
 #include "platform/environment.h"
 #include "runtime/numbers.h"
@@ -52,60 +52,21 @@ Data dataDe(std::string_view text) {
     return {pieces[0], monthName(pieces[1]), pieces[2]};
 }
 
-// Lines of the cheque's one job. Nothing of a line goes out before out().
-class LabelForm {
-public:
-    explicit LabelForm(Environment& environment)
-        : channel_(environment.spooler, environment.codePage) {
-        channel_.open({.docName = "Impressao de Cheque", .outputFile = "", .dataType = ""});
-    }
-
-    void commands(std::string_view bytes) {
-        line_ = bytes;
-        out(0);
-    }
-    LabelForm& blanks(std::size_t count) {
-        line_.append(count, ' ');
-        return *this;
-    }
-    LabelForm& text(std::string_view value) {
-        appendBlankingControls(line_, value);
-        return *this;
-    }
-    LabelForm& alignLeft(std::string_view value, int width) {
-        appendField(line_, value, width, false);
-        return *this;
-    }
-    LabelForm& alignRight(std::string_view value, int width) {
-        appendField(line_, value, width, true);
-        return *this;
-    }
-    void out(int lineEnds) {
-        channel_.ImprimeRaw(1, line_, lineEnds);
-        line_.clear();
-    }
-    void close() { channel_.close(); }
-
-private:
-    RawChannel channel_;
-    std::string line_;
-};
-
-void printGeneral(LabelForm& paper, const ChequeData& cheque, const std::string& inWords,
+void printGeneral(PrintedLine& paper, const ChequeData& cheque, const std::string& inWords,
                   const Data& data) {
     constexpr std::size_t wordsWidth = 64;
     constexpr int amountWidth = 14;
-    paper.commands(condensedDouble);
-    paper.blanks(64).alignRight(cheque.sValor, amountWidth).out(2);
+    paper.commands(condensedDouble).out(0);
+    paper.blanks(64).rightField(cheque.sValor, amountWidth).out(2);
     paper.blanks(14).text(leftOf(inWords, wordsWidth)).out(1);
     if (inWords.size() > wordsWidth) {
         paper.blanks(2).text(inWords.substr(wordsWidth));
     }
     paper.out(2);
     paper.blanks(4).text(leftOf(cheque.sFavorecido, payeeWidth)).out(2);
-    paper.blanks(29).alignLeft(cheque.sNmMun, townWidth);
-    paper.blanks(2).alignRight(data.day, dayWidth);
-    paper.blanks(3).alignLeft(data.month, monthWidth);
+    paper.blanks(29).field(cheque.sNmMun, townWidth);
+    paper.blanks(2).rightField(data.day, dayWidth);
+    paper.blanks(3).field(data.month, monthWidth);
     paper.blanks(2).text(data.year).out(2);
     paper.out(9);
 }
@@ -122,26 +83,26 @@ std::string secondLine(const std::vector<std::string_view>& lines) {
     return text;
 }
 
-void printBank33(LabelForm& paper, const ChequeData& cheque, const std::string& inWords,
+void printBank33(PrintedLine& paper, const ChequeData& cheque, const std::string& inWords,
                  const Data& data) {
     constexpr std::size_t indent = 26;
     constexpr std::size_t wordsWidth = 90;
     constexpr int amountWidth = 25;
     const std::string broken = QuebraTexto(std::string(indent, ' ') + inWords, wordsWidth);
     const std::vector<std::string_view> lines = split(broken, '\r');
-    paper.commands(spacing6Over72);
-    paper.commands(condensedDouble);
+    paper.commands(spacing6Over72).out(0);
+    paper.commands(condensedDouble).out(0);
     paper.out(2);
-    paper.blanks(93).alignRight("#" + std::string(cheque.sValor) + "#", amountWidth).out(4);
+    paper.blanks(93).rightField("#" + std::string(cheque.sValor) + "#", amountWidth).out(4);
     paper.blanks(indent).text(lines.front()).out(2);
     if (lines.size() > 1) {
         paper.blanks(10).text(secondLine(lines));
     }
     paper.out(2);
     paper.blanks(12).text(leftOf(cheque.sFavorecido, payeeWidth)).out(4);
-    paper.blanks(61).alignRight(cheque.sNmMun, townWidth);
-    paper.blanks(2).alignRight(data.day, dayWidth);
-    paper.blanks(6).alignLeft(data.month, monthWidth);
+    paper.blanks(61).rightField(cheque.sNmMun, townWidth);
+    paper.blanks(2).rightField(data.day, dayWidth);
+    paper.blanks(6).field(data.month, monthWidth);
     paper.blanks(9).text(rightOf(data.year, 2)).out(2);
     paper.out(20);
 }
@@ -155,13 +116,15 @@ std::int16_t bankCode(std::string_view nrOfiBan) {
 void ImprimeCheque(Environment& environment, const ChequeData& cheque) {
     const std::string inWords = ValorExtenso(readComma(cheque.sValor), "REAIS", "REAL");
     const Data data = dataDe(cheque.sDataDeposito);
-    LabelForm paper(environment);
+    RawChannel channel(environment.spooler, environment.codePage);
+    channel.open({.docName = "Impressao de Cheque", .outputFile = "", .dataType = ""});
+    PrintedLine paper(channel);
     if (cheque.nNr_Ofi_Ban == bank33) {
         printBank33(paper, cheque, inWords, data);
     } else {
         printGeneral(paper, cheque, inWords, data);
     }
-    paper.close();
+    channel.close();
 }
 
 }  // namespace tarn
