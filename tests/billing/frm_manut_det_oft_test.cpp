@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "tests/billing/frm_oft_fixture.h"
+#include "tests/support/boxes.h"
 #include "widgets/free_text_field.h"
 
 namespace tarn::test {
@@ -23,10 +24,6 @@ std::string written(const std::string& order, const std::string& observation,
            "&PESO_LIQ=" + net;
 }
 const std::string untouched = written("1001", "obs", "12,500", "1.234.567,892", "0,000");
-
-Box attention(const std::string& text) {
-    return {text, BoxIcon::Information, "Atenção"};
-}
 
 class FrmManutDetOFTTest : public FrmOFTTest {
 protected:
@@ -235,7 +232,7 @@ TEST_F(FrmManutDetOFTTest, ALostWriteIsToldOnceAndTheListRead) {
     });
     EXPECT_THAT(boxes.shown,
                 testing::ElementsAre(
-                    critical("0013"),
+                    transportFailure("0013"),
                     notice("Favor verificar se os dados da Ordem de Faturamento foi gravado. ")));
     EXPECT_THAT(server.queries(), testing::ElementsAre(untouched, listQuery));
     EXPECT_TRUE(timer().isActive());
@@ -251,7 +248,8 @@ TEST_F(FrmManutDetOFTTest, ARefusalLeavesWhatWasTyped) {
         server.addresses.clear();
         click(dialog, "cmdOk");
         EXPECT_TRUE(dialog.isVisible());
-        EXPECT_THAT(boxes.shown, testing::ElementsAre(warn("Ordem em uso por outro <usuário>")));
+        EXPECT_THAT(boxes.shown,
+                    testing::ElementsAre(exclamation("Ordem em uso por outro <usuário>")));
         EXPECT_EQ(text(dialog, "txtObs"), "novo texto");
         EXPECT_EQ(text(dialog, "txtQtde"), "7,000");
         EXPECT_EQ(server.addresses.size(), 1U) << "the list isn't read";

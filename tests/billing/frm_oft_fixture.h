@@ -11,6 +11,7 @@
 #include "billing/frm_oft.h"
 #include "desk/mdi_menu.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/screen_test.h"
 
 namespace tarn::test {
@@ -24,24 +25,12 @@ inline constexpr char noteQuery[] =
     "COMANDO=SP_GERA_NF&ID_ETB_TARN=6001&ID_ORD_FAT=1001&ID_PES=77&ServerName=SRV1";
 inline constexpr char documentQuery[] =
     "comando=sel_gera_nf&ID_ETB_TARN=6001&ID_NF_KESTO=555&CD_SER_NF=U&ServerName=SRV1";
-inline constexpr char internet[] =
-    " - Não foi possível obter os dados da Internet. Verifique a conexão com a Internet.";
-
 inline const std::string twoOrders = answers::rowset(
     "<z:row ID_ORD_FAT='1001' NM_PES_CPL='JOSÉ &lt;b&gt;' NM_RDU='MATRIZ' DC_TIP_NF='VENDA' "
     "DT_GER_OFT='12/03/2012' ID_ORD_CRG='77' TRANSPORTADORA='TT' NM_PES_MOT='MM' DC_OBS='obs' "
     "QT_ESP='12.5' PESO_BRU='1234567.8916' PESO_LIQ=''/>"
     "<z:row ID_ORD_FAT='1002' NM_PES_CPL='B' ID_ORD_CRG='78' QT_ESP='1'/>");
 
-inline Box critical(const std::string& number) {
-    return {"ERRO Tarn" + number + internet, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
-}
-inline Box notice(const std::string& text) {
-    return {text, BoxIcon::Exclamation, "Aviso"};
-}
-inline Box warn(const std::string& text) {
-    return {text, BoxIcon::Exclamation};
-}
 inline const Box selectOne = notice("Selecione a ordem de faturamento.     ");
 
 class FrmOFTTest : public ScreenTest {

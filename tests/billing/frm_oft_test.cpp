@@ -104,7 +104,7 @@ TEST_F(FrmOFTTest, AFailedRefreshLeavesAnEmptyGridAndTheNextTickTriesAgain) {
     tick();  // the answer of before is used up by this one
     tick();
     EXPECT_EQ(rows(), 0);
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(critical("0006")));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(transportFailure("0006")));
     tick();
     EXPECT_EQ(boxes.shown.size(), 2U);
     EXPECT_TRUE(timer().isActive());
@@ -150,10 +150,10 @@ TEST_F(FrmOFTTest, ACancelThatFailsOrIsRefusedLeavesTheList) {
     click(screen(), "CmdCanOft");
     click(screen(), "CmdCanOft");
     ASSERT_EQ(boxes.shown.size(), 5U);
-    EXPECT_EQ(boxes.shown[1], critical("0003"));
+    EXPECT_EQ(boxes.shown[1], transportFailure("0003"));
     EXPECT_EQ(boxes.shown[2],
               notice("Favor verificar se a Ordem de Faturamento nº 1001 foi cancelada. "));
-    EXPECT_EQ(boxes.shown[4], warn("Ordem em uso"));
+    EXPECT_EQ(boxes.shown[4], exclamation("Ordem em uso"));
     EXPECT_EQ(server.addresses.size(), 2U) << "no refresh";
 }
 
@@ -223,7 +223,7 @@ TEST_F(FrmOFTTest, AFailedObservationGoesOnWithWhatTextIsLeft) {
     modals.then("frmManutDetOFT", [](QWidget& dialog) { click(dialog, "cmdCancelar"); });
     click(screen(), "cmdDetOFT");
     ASSERT_EQ(boxes.shown.size(), 2U);
-    EXPECT_EQ(boxes.shown[0], critical("0004"));
+    EXPECT_EQ(boxes.shown[0], transportFailure("0004"));
     EXPECT_EQ(boxes.shown[1], notice("Aconteceu um erro na busca da observação da(s) venda(s). "
                                      "Cancele esta tela e tente novamente."));
     session.TextoMensagem = "da ordem anterior";
@@ -263,10 +263,10 @@ TEST_F(FrmOFTTest, ASheetThatCantBeHadIsToldAndTheDeskStaysAsItIs) {
     click(screen(), "cmdImprimirOF");
     click(screen(), "cmdImprimirOF");
     EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(critical("0012"),
+                testing::ElementsAre(transportFailure("0012"),
                                      notice("Houve um problema na transferência dos dados da Ordem "
                                             "de Faturamento nº 1001."),
-                                     warn("Ordem faturada")));
+                                     exclamation("Ordem faturada")));
     EXPECT_TRUE(spooler.calls.empty());
     EXPECT_EQ(rows(), 2);
     EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, sheetQuery, obsQuery, sheetQuery));

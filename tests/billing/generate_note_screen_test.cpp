@@ -74,7 +74,7 @@ TEST_F(GenerateNoteScreen, AnUnknownGenerationIsToldAndTheListRead) {
     click(screen(), "cmdSelecionar");
     EXPECT_THAT(boxes.shown,
                 testing::ElementsAre(
-                    critical("0004"),
+                    transportFailure("0004"),
                     notice("Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, "
                            "utilize a tela de Reimpressão de Nota Fiscal. ")));
     EXPECT_EQ(server.queries().back(), listQuery);
@@ -85,7 +85,7 @@ TEST_F(GenerateNoteScreen, ARefusedGenerationShowsOneBoxAndLeavesTheList) {
     open();
     server.on("SP_GERA_NF", answers::status("Limite de crédito"));
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(warn("Limite de crédito")));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclamation("Limite de crédito")));
     EXPECT_EQ(server.queries().back(), noteQuery);
     EXPECT_EQ(rows(), 2);
     EXPECT_FALSE(timer().isActive());
@@ -98,7 +98,7 @@ TEST_F(GenerateNoteScreen, ALostDocumentIsToldAndTheListRead) {
     click(screen(), "cmdSelecionar");
     EXPECT_THAT(boxes.shown,
                 testing::ElementsAre(
-                    critical("0005"),
+                    transportFailure("0005"),
                     notice("Houve um problema na transferência dos dados da Nota Fiscal nº 555. "
                            "Utilize a tela de Reimpressão de Nota Fiscal.")));
     EXPECT_EQ(server.queries().back(), listQuery);
@@ -196,7 +196,7 @@ TEST_F(GenerateNoteScreen, ObservationsThatTheServerRefusesStopBeforeTheNote) {
     open();
     server.on("Seleciona_Obs_Vnd_X_Ord", answers::status("ok"));
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(warn("ok")));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclamation("ok")));
     EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery));
     EXPECT_FALSE(timer().isActive());
 }
@@ -205,7 +205,7 @@ TEST_F(GenerateNoteScreen, AStockCheckThatTheServerRefusesStopsBeforeTheNote) {
     open();
     server.on("Seleciona_Obs_Ord_X_Est", answers::status("Cliente &lt;A &amp; B&gt; Ltda"));
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(warn("Cliente <A & B> Ltda")));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclamation("Cliente <A & B> Ltda")));
     EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, stockQuery));
     EXPECT_FALSE(timer().isActive());
 }
@@ -218,8 +218,8 @@ TEST_F(GenerateNoteScreen, ObservationsOutOfReachDontStopTheNote) {
     const Box searchFailed = notice(
         "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e tente "
         "novamente.");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(critical("0004"), searchFailed, critical("0004"),
-                                                  searchFailed));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(transportFailure("0004"), searchFailed,
+                                                  transportFailure("0004"), searchFailed));
     EXPECT_THAT(server.queries(),
                 testing::ElementsAre(obsQuery, stockQuery, noteQuery, documentQuery, listQuery));
     EXPECT_TRUE(timer().isActive());
@@ -260,7 +260,7 @@ TEST_F(GenerateNoteScreen, ARefusedDocumentIsToldInTheServersWords) {
     noteComesOut();
     server.on("sel_gera_nf&ID_ETB_TARN=6001", answers::status("Nota em uso"));
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(warn("Nota em uso")));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclamation("Nota em uso")));
     EXPECT_EQ(server.queries().back(), documentQuery);
     EXPECT_EQ(rows(), 2);
     EXPECT_TRUE(spooler.calls.empty());

@@ -5,23 +5,13 @@
 #include "billing/alert.h"
 #include "billing/observations.h"
 #include "runtime/runtime_error.h"
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
 namespace {
 
 const std::string header = "<?xml version='1.0'?>";
-const std::string transport =
-    " - Não foi possível obter os dados da Internet. Verifique a conexão com a Internet.";
-
-Box transportFailure(const std::string& number) {
-    return {.text = "ERRO " + number + transport,
-            .icon = BoxIcon::Critical,
-            .title = "TarnEMISSAO - ERRO INESPERADO"};
-}
-Box exclamation(const std::string& text, const std::string& title = "TarnEmissao") {
-    return {.text = text, .icon = BoxIcon::Exclamation, .title = title};
-}
 const Box searchFailed = exclamation(
     "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e tente "
     "novamente.",
@@ -167,8 +157,8 @@ TEST_F(GenerateNoteTest, ObservationsOutOfReachDoNotStopTheNote) {
     seams_.loader.failOn("Seleciona_Obs_Vnd_X_Ord&").failOn("Seleciona_Obs_Ord_X_Est&");
     answers(generated_, noteDocument_);
     EXPECT_EQ(generate(), GenerationEnd::Finished);
-    EXPECT_EQ(seams_.boxes.shown, (Boxes{transportFailure("Tarn0004"), searchFailed,
-                                         transportFailure("Tarn0004"), searchFailed}));
+    EXPECT_EQ(seams_.boxes.shown, (Boxes{transportFailure("0004"), searchFailed,
+                                         transportFailure("0004"), searchFailed}));
     EXPECT_EQ(printed_.size(), 1U);
 }
 
@@ -198,7 +188,7 @@ TEST_F(GenerateNoteTest, GenerationUnknown) {
     seams_.loader.failOn("SP_GERA_NF");
     EXPECT_EQ(generate(), GenerationEnd::Finished);
     EXPECT_EQ(seams_.boxes.shown,
-              (Boxes{transportFailure("Tarn0004"),
+              (Boxes{transportFailure("0004"),
                      exclamation("Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido "
                                  "gerada, utilize a tela de Reimpressão de Nota Fiscal. ",
                                  "Aviso")}));
@@ -231,7 +221,7 @@ TEST_F(GenerateNoteTest, DocumentOutOfReach) {
     seams_.loader.on("SP_GERA_NF", generated_).failOn("sel_gera_nf");
     EXPECT_EQ(generate(), GenerationEnd::Finished);
     EXPECT_EQ(seams_.boxes.shown,
-              (Boxes{transportFailure("Tarn0005"),
+              (Boxes{transportFailure("0005"),
                      exclamation("Houve um problema na transferência dos dados da Nota Fiscal nº "
                                  "555. Utilize a tela de Reimpressão de Nota Fiscal.",
                                  "Aviso")}));

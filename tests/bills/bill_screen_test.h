@@ -10,17 +10,10 @@
 
 #include "desk/mdi_menu.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/screen_test.h"
 
 namespace tarn::test {
-
-inline Box inform(const std::string& text, const std::string& title = "TArn") {
-    return {text, BoxIcon::Information, title};
-}
-
-inline Box transportFailure(const std::string& text) {
-    return {text, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
-}
 
 class BillScreenTest : public ScreenTest {
 protected:

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "tests/bills/bill_screen_test.h"
+#include "tests/support/boxes.h"
 #include "tests/support/grid.h"
 
 namespace tarn::test {
@@ -16,10 +17,6 @@ using testing::IsEmpty;
 
 class FrmPesqDupliTest : public BillScreenTest {
 protected:
-    static constexpr char failed[] =
-        "ERRO Tarn0009 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
-        "Internet.";
-
     // Searches for all bills that fall due up to 31/12/2012.
     void search(QWidget& screen, int kind = bill) {
         pickFrom(screen, "cboTpDocto", kind);
@@ -138,9 +135,7 @@ TEST_F(FrmPesqDupliTest, WithoutTheBranchesItOpensWithAllOfThem) {
         EXPECT_THAT(items(screen, "cboFilial"), ElementsAre("<-TODAS->=0"));
         EXPECT_THAT(items(screen, "cboTpDocto"), testing::SizeIs(3));
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(transportFailure(
-                                 "ERRO    Tarn0009 - Não foi possível obter os dados da "
-                                 "Internet. Verifique a conexão com a Internet.")));
+    EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
 }
 
 TEST_F(FrmPesqDupliTest, BranchesAsTheyCome) {
@@ -173,9 +168,9 @@ TEST_F(FrmPesqDupliTest, TheSearchWantsAKindThenADueDate) {
         EXPECT_EQ(position(screen, "cboTpDocto"), bill) << "a box is no activation";
         EXPECT_THAT(server.addresses, IsEmpty());
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(inform("Tipo de Documento Obrigatório.     "),
-                                         inform("Tipo de Documento Obrigatório.     "),
-                                         inform("Data de Vencimento Obrigatória.     ")));
+    EXPECT_THAT(boxes.shown, ElementsAre(information("Tipo de Documento Obrigatório.     "),
+                                         information("Tipo de Documento Obrigatório.     "),
+                                         information("Data de Vencimento Obrigatória.     ")));
 }
 
 TEST_F(FrmPesqDupliTest, ASearchForAll) {
@@ -330,7 +325,7 @@ TEST_F(FrmPesqDupliTest, AFailedSearchLeavesTheGrid) {
         EXPECT_TRUE(ticked(screen, 2));
         EXPECT_FALSE(named<QWidget>(screen, "optDupl").isVisible());
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(transportFailure(failed)));
+    EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
 }
 
 TEST_F(FrmPesqDupliTest, NothingFoundEmptiesTheGridInSilence) {

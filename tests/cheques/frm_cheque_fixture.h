@@ -10,6 +10,7 @@
 #include "cheques/frm_cheque.h"
 #include "desk/mdi_menu.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/screen_test.h"
 #include "widgets/free_text_field.h"
 
@@ -40,20 +41,9 @@ inline const std::string usualCheck = checkQuery("000123", "AÇ1");
 inline const std::string usualRecord =
     recordQuery("000123", "1.234,22", "JOÃO & FILHOS", "COMPRA DE PEÇAS");
 
-inline Box warn(const std::string& text) {
-    return {text, BoxIcon::Exclamation};
-}
-inline Box failed(const std::string& number) {
-    return {number +
-                " - Não foi possível obter os dados da Internet. Verifique a conexão com a "
-                "Internet.",
-            BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
-}
-inline const Box failedWide = failed("ERRO    Tarn0009");  // of the list and the check
-inline const Box failedNarrow = failed("ERRO Tarn0009");
 inline const Box success{"Cheque emitido com sucesso!     ", BoxIcon::Information, "TArn"};
-inline const Box taken =
-    warn("Cheque com este número e série já foi emitido já emitido. \rNúmero: 000123\rSérie: AÇ1");
+inline const Box taken = exclamation(
+    "Cheque com este número e série já foi emitido já emitido. \rNúmero: 000123\rSérie: AÇ1");
 
 class FrmChequeTest : public ScreenTest {
 protected:

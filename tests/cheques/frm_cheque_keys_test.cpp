@@ -142,7 +142,7 @@ TEST_F(FrmChequeTest, TheAmountIsSelectedAndFormatted) {
 }
 
 TEST_F(FrmChequeTest, AnAmountOverTheLimitIsRefusedOnLeaving) {
-    const Box refused = warn("O valor máximo permitido é de R$ 9.999.999.999.999,99");
+    const Box refused = exclamation("O valor máximo permitido é de R$ 9.999.999.999.999,99");
     useFilled([&](QWidget& screen) {
         type(screen, "txtValor", "10000000000000");
         key(screen, Qt::Key_Tab);
@@ -234,7 +234,8 @@ TEST_F(FrmChequeTest, ADoubleClickPrintsOneCheque) {
         for (const bool press : {true, false, true, false}) {
             mouse(screen, "cmdImprimir", press);
         }
-        EXPECT_THAT(boxes.shown, ElementsAre(success, warn("Nº Cheque é um campo obrigatório. ")));
+        EXPECT_THAT(boxes.shown,
+                    ElementsAre(success, exclamation("Nº Cheque é um campo obrigatório. ")));
     });
     EXPECT_EQ(spooler.jobs.size(), 1U);
 }

@@ -38,7 +38,7 @@ TEST_F(FrmChequeTest, OpensWithTheAccountsAndTheSessionsDate) {
 TEST_F(FrmChequeTest, WithoutTheRightItDoesntOpen) {
     server.on("ServerName=SRV1&sTransacao=EMI005", answers::status("Sem direito a cheques. "));
     choose(menu, "mnuCheque", "mnuChequeImpressao");
-    EXPECT_THAT(boxes.shown, ElementsAre(warn("Sem direito a cheques. ")));
+    EXPECT_THAT(boxes.shown, ElementsAre(exclamation("Sem direito a cheques. ")));
     EXPECT_THAT(server.queries(), ElementsAre(rightQuery));
     EXPECT_EQ(modals.taken(), 0);
 }
@@ -96,7 +96,7 @@ TEST_F(FrmChequeTest, TheClicksTestsInTheirOrderAndWhereTheFocusGoes) {
         const auto refuses = [&](const char* focus, const char* message) {
             boxes.shown.clear();
             click(screen, "cmdImprimir");
-            EXPECT_THAT(boxes.shown, ElementsAre(warn(message)));
+            EXPECT_THAT(boxes.shown, ElementsAre(exclamation(message)));
             EXPECT_EQ(focused(screen), focus);
         };
         chooseAccount(screen, 0);
@@ -170,7 +170,7 @@ TEST_F(FrmChequeTest, AFailedCheckLetsThePrintThrough) {
     useFilled([&](QWidget& screen) {
         click(screen, "cmdImprimir");
         EXPECT_THAT(server.queries(), ElementsAre(usualCheck, companyQuery, usualRecord));
-        EXPECT_THAT(boxes.shown, ElementsAre(failedWide, success));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide, success));
     });
     EXPECT_EQ(spooler.jobs.size(), 1U);
 }
@@ -182,7 +182,7 @@ TEST_F(FrmChequeTest, WithoutTheTownNothingIsPrinted) {
         server = without;
         click(screen, "cmdImprimir");
         EXPECT_THAT(server.queries(), ElementsAre(usualCheck, companyQuery));
-        EXPECT_THAT(boxes.shown, ElementsAre(failedNarrow));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
         expectFilled(screen);
         EXPECT_EQ(focused(screen), "cmdImprimir") << "the focus isn't moved";
         server.on("sel_dados_empresa&Id_Etb_Tarn", answers::branch("F"));
@@ -196,11 +196,11 @@ TEST_F(FrmChequeTest, ARecordThatFailsAfterThePrintLeavesTheFields) {
     useFilled([&](QWidget& screen) {
         click(screen, "cmdImprimir");
         EXPECT_THAT(server.queries(), ElementsAre(usualCheck, companyQuery, usualRecord));
-        EXPECT_THAT(boxes.shown, ElementsAre(failedNarrow));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
         EXPECT_EQ(spooler.jobs.size(), 1U);
         expectFilled(screen);
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(failedNarrow, success));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, success));
         EXPECT_EQ(spooler.jobs.size(), 2U) << "printed again";
         EXPECT_EQ(spooler.bytes(0), spooler.bytes(1));
     });
@@ -210,7 +210,7 @@ TEST_F(FrmChequeTest, ARefusedRecordShowsTheServersWordsAndLeavesTheFields) {
     server.on("adiciona_controle_cheque_emitido", answers::status("Talão &lt;b&gt; bloqueado"));
     useFilled([&](QWidget& screen) {
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(warn("Talão <b> bloqueado")));
+        EXPECT_THAT(boxes.shown, ElementsAre(exclamation("Talão <b> bloqueado")));
         expectFilled(screen);
         EXPECT_EQ(focused(screen), "cmdImprimir") << "the focus isn't moved";
     });
@@ -268,7 +268,7 @@ TEST_F(FrmChequeTest, AnotherAccountsChequeGoesToItsBank) {
 TEST_F(FrmChequeTest, AFailedListLeavesNoAccountToChoose) {
     server.failOn("sel_banco_agencia_conta&ID_EMP");
     use([&](QWidget& screen) {
-        EXPECT_THAT(boxes.shown, ElementsAre(failedWide));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
         EXPECT_EQ(named<QComboBox>(screen, "cboBancoAgConta").count(), 0);
         EXPECT_EQ(text(screen, "txtDtDeposito"), "15/03/2012") << "the load goes on";
         type(screen, "txtNumeroCheque", "000123");
@@ -279,7 +279,8 @@ TEST_F(FrmChequeTest, AFailedListLeavesNoAccountToChoose) {
                     ElementsAre(checkQuery("000123", "AÇ1", "&Id_Pes_Ban=0&Cd_Age_Ban=&Nr_Ccor=")));
         boxes.shown.clear();
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(warn("Banco/Ag./Conta é um campo obrigatório. ")));
+        EXPECT_THAT(boxes.shown,
+                    ElementsAre(exclamation("Banco/Ag./Conta é um campo obrigatório. ")));
         EXPECT_EQ(focused(screen), "cboBancoAgConta");
     });
     EXPECT_THAT(spooler.calls, IsEmpty());
@@ -340,7 +341,7 @@ TEST_F(FrmChequeTest, AFailedCheckOnLeavingIsToldByTheGatewayAlone) {
         named<QWidget>(screen, "txtSerie").setFocus();
         key(screen, Qt::Key_Tab);
         settle();
-        EXPECT_THAT(boxes.shown, ElementsAre(failedWide));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
         EXPECT_EQ(focused(screen), "txtValor");
     });
 }

@@ -5,6 +5,7 @@
 
 #include "runtime/runtime_error.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -26,13 +27,6 @@ constexpr char recordQuery[] =
     "&ID_PES_BAN=901&CD_AGE_BAN=0123&NR_CCOR=4567-8&NR_CHE=000123&NR_SER=AÇ1&VL_CH=1.234,22"
     "&DC_FAV=JOÃO & FILHOS&DT_DEP=15/03/2012&DC_OBS=COMPRA DE MATERIAL, 2ª VIA"
     "&ServerName=SRV1";
-
-Box critical(const std::string& text) {
-    return {text +
-                " - Não foi possível obter os dados da Internet. Verifique a conexão com a "
-                "Internet.",
-            BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
-}
 
 class IssueChequeTest : public testing::Test {
 protected:
@@ -122,7 +116,7 @@ TEST_F(IssueChequeTest, WithoutAccountsTheListHasItsFirstItem) {
 TEST_F(IssueChequeTest, AFailedListIsNone) {
     seams_.loader.failOn("sel_banco_agencia_conta");
     EXPECT_FALSE(loadAccounts(environment_, session_));
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(critical("ERRO    Tarn0009")));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(noInternet9Wide));
 }
 
 TEST_F(IssueChequeTest, AnAccountSpelledInAnotherCaseIsAnObjectError) {
@@ -189,7 +183,7 @@ TEST_F(IssueChequeTest, ANumberWithARowIsTaken) {
 TEST_F(IssueChequeTest, AFailedCheckLetsTheNumberThrough) {
     seams_.loader.failOn("seleciona_um");
     EXPECT_TRUE(ValidaCheque(environment_, session_, fields_));
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(critical("ERRO    Tarn0009")));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(noInternet9Wide));
 }
 
 TEST_F(IssueChequeTest, TheCheckWaitsForNumberAndSeries) {
@@ -237,7 +231,7 @@ TEST_F(IssueChequeTest, TheRecordComesAfterThePrint) {
     };
     EXPECT_FALSE(issueCheque(environment_, session_, fields_));
     EXPECT_EQ(closedAtTheBox, 2U) << "one job, closed";
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(critical("ERRO Tarn0009")));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(noInternet9));
     EXPECT_THAT(queries(), ElementsAre(townQuery, recordQuery)) << "not sent again";
 }
 
@@ -246,7 +240,7 @@ TEST_F(IssueChequeTest, WithoutTheTownNothingIsPrintedOrRecorded) {
     EXPECT_FALSE(issueCheque(environment_, session_, fields_));
     EXPECT_THAT(queries(), ElementsAre(townQuery));
     EXPECT_THAT(seams_.spooler.calls, IsEmpty());
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(critical("ERRO Tarn0009")));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(noInternet9));
 }
 
 TEST_F(IssueChequeTest, AnAbsentTownIsEmptyAndAMissingRowAnError) {

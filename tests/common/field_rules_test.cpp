@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "runtime/runtime_error.h"
+#include "tests/support/boxes.h"
 #include "tests/support/fixed_machine.h"
 #include "tests/support/scripted_boxes.h"
 
@@ -96,10 +97,6 @@ TEST(DepositDate, EmptyIsNotTested) {
     const FieldResult result = testedDateOnLeave("", today);
     EXPECT_EQ(result.text, "");
     EXPECT_FALSE(result.box.has_value() || result.refocus);
-}
-
-Box attention(const char* text) {
-    return {.text = text, .icon = BoxIcon::Information, .title = "Atenção"};
 }
 
 TEST(QuantityField, FormatsNumbers) {

@@ -69,8 +69,8 @@ TEST_F(FrmPesqClienteTest, AShortNameIsRefusedBeforeAnyRequest) {
         }
         EXPECT_THAT(server.addresses, IsEmpty());
     });
-    EXPECT_THAT(boxes.shown,
-                testing::Each(inform("Nome do cliente deve ter no mínimo 3 letras.    ", "Aviso")));
+    EXPECT_THAT(boxes.shown, testing::Each(information(
+                                 "Nome do cliente deve ter no mínimo 3 letras.    ", "Aviso")));
     EXPECT_EQ(boxes.shown.size(), 4U);
 }
 
@@ -116,8 +116,8 @@ TEST_F(FrmPesqClienteTest, NothingFoundEmptiesTheGridAndSaysSo) {
         boxes.onShow = nullptr;
     });
     EXPECT_THAT(boxes.shown,
-                ElementsAre(inform("Pesquisa nao encontrou nenhum registro.     ", "Aviso"),
-                            inform("Pesquisa nao encontrou nenhum registro.     ", "Aviso")));
+                ElementsAre(information("Pesquisa nao encontrou nenhum registro.     ", "Aviso"),
+                            information("Pesquisa nao encontrou nenhum registro.     ", "Aviso")));
 }
 
 TEST_F(FrmPesqClienteTest, AFailedRequestLeavesTheGrid) {
@@ -128,7 +128,7 @@ TEST_F(FrmPesqClienteTest, AFailedRequestLeavesTheGrid) {
         search(dialog, "xyz");
         EXPECT_EQ(lines(dialog), 2);
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(transportFailure(
+    EXPECT_THAT(boxes.shown, ElementsAre(requestFailure(
                                  "Tarn0024 - Erro na pesquisa de cliente - Não foi possível "
                                  "obter os dados da Internet. Verifique a conexão com a "
                                  "Internet.")));
@@ -164,8 +164,8 @@ TEST_F(FrmPesqClienteTest, WithoutRowsNothingCanBeChosen) {
         click(dialog, "cmdSelecionar");
         EXPECT_TRUE(dialog.isVisible());
     });
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(inform("Faça uma pesquisa para selecionar um cliente.     ", "Aviso")));
+    EXPECT_THAT(boxes.shown, ElementsAre(information(
+                                 "Faça uma pesquisa para selecionar um cliente.     ", "Aviso")));
 }
 
 TEST_F(FrmPesqClienteTest, TheActiveRowGoesIntoTheScreen) {

@@ -5,6 +5,7 @@
 
 #include "gateway/sessao.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -36,9 +37,9 @@ TEST_F(ProcuraClienteTest, SendsTheTextWithBarsForAmpersands) {
 TEST_F(ProcuraClienteTest, AFailedRequestIsFalse) {
     EXPECT_FALSE(ProcuraCliente(seams_.environment, session_, answer_, "abc"));
     EXPECT_THAT(seams_.boxes.shown,
-                ElementsAre(Box{"Tarn0024 - Erro na pesquisa de cliente - Não foi possível obter "
-                                "os dados da Internet. Verifique a conexão com a Internet.",
-                                BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"}));
+                ElementsAre(BoxrequestFailure(
+                    "Tarn0024 - Erro na pesquisa de cliente - Não foi possível obter "
+                    "os dados da Internet. Verifique a conexão com a Internet.")));
 }
 
 TEST_F(ProcuraClienteTest, AccentedLettersCountOnceAndOnlyBlanksAreTrimmed) {

@@ -10,18 +10,12 @@
 #include "platform/curl/curl_loader.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/loopback_server.h"
 #include "tests/support/screen_test.h"
 
 namespace tarn::test {
 namespace {
-
-constexpr char internet[] =
-    " - Não foi possível obter os dados da Internet. Verifique a conexão com a Internet.";
-
-Box critical(const std::string& number) {
-    return {"ERRO Tarn" + number + internet, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
-}
 
 // The ways in which no document comes of a request.
 struct NoDocument {
@@ -123,7 +117,7 @@ TEST_P(NoDocumentComes, AtTheLogon) {
     openLogon();
     answer("comando=LOGIN", GetParam());
     click(logon, "btnLogin");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(critical("0001"),
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(transportFailure("0001"),
                                                   Box{"Houve um problema para efetuar o Login.",
                                                       BoxIcon::Exclamation}));
     expectAnotherTry();
@@ -133,7 +127,7 @@ TEST_P(NoDocumentComes, AtTheListOfOrders) {
     openOrders();
     answer("sel_ordem_fatu&ID_ETB_TARN=9", GetParam());
     click(orders, "CmdAtualizar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(critical("0006")));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(transportFailure("0006")));
     EXPECT_EQ(rows(), 0);
     EXPECT_TRUE(timerRuns());
     EXPECT_FALSE(end.ended());
@@ -145,7 +139,7 @@ TEST_P(NoDocumentAmongOthers, AtTheGenerationItIsToBeCheckedByHandAndNotSentAgai
     click(orders, "cmdSelecionar");
     EXPECT_THAT(boxes.shown,
                 testing::ElementsAre(
-                    critical("0004"),
+                    transportFailure("0004"),
                     Box{"Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, "
                         "utilize a tela de Reimpressão de Nota Fiscal. ",
                         BoxIcon::Exclamation, "Aviso"}));
@@ -161,7 +155,7 @@ TEST_P(NoDocumentAmongOthers, AtTheNotesDocumentTheReprintIsNamed) {
     click(orders, "cmdSelecionar");
     EXPECT_THAT(boxes.shown,
                 testing::ElementsAre(
-                    critical("0005"),
+                    transportFailure("0005"),
                     Box{"Houve um problema na transferência dos dados da Nota Fiscal nº 555. "
                         "Utilize a tela de Reimpressão de Nota Fiscal.",
                         BoxIcon::Exclamation, "Aviso"}));

@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/screen_test.h"
 
 namespace tarn::test {
@@ -129,12 +130,9 @@ TEST_F(FrmLogonTest, AFailedTransportShowsTwoBoxes) {
     server.failOn("comando=LOGIN");
     fill("2041", "maria", "x");
     click(logon, "btnLogin");
-    EXPECT_THAT(
-        boxes.shown,
-        testing::ElementsAre(Box{"ERRO Tarn0001 - Não foi possível obter os dados da Internet. "
-                                 "Verifique a conexão com a Internet.",
-                                 BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"},
-                             Box{"Houve um problema para efetuar o Login.", BoxIcon::Exclamation}));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(transportFailure("0001"),
+                                                  Box{"Houve um problema para efetuar o Login.",
+                                                      BoxIcon::Exclamation}));
     EXPECT_EQ(focused(logon), "txtEmpresa");
     EXPECT_FALSE(end.ended());
 }

@@ -5,6 +5,7 @@
 #include <QStatusBar>
 
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/screen_test.h"
 
 namespace tarn::test {
@@ -132,10 +133,9 @@ TEST_F(MDIMenuTest, AServerOutOfReachAtTheGateLetsTheProgramGoOn) {
     ScriptedLoader down;
     server = down.failOn("VERSAO_TARN_EMISSAO").on("sel_dados_empresa", answers::branch("F"));
     logOn();
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(Box{"Não consegui verificar a versão do TarnEMISSAO porque "
-                                         "não tive acesso à internet!!!",
-                                         BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"}));
+    EXPECT_THAT(boxes.shown, testing::ElementsAre(requestFailure(
+                                 "Não consegui verificar a versão do TarnEMISSAO porque "
+                                 "não tive acesso à internet!!!")));
     EXPECT_FALSE(end.ended());
     EXPECT_EQ(panel("Panel2"), "F");
 }
@@ -227,9 +227,7 @@ TEST_F(MDIMenuTest, AFailedRightsCheckShowsTwoBoxesAndOpensNothing) {
     choose(menu, "mnuNF", "mOFT");
     EXPECT_THAT(boxes.shown,
                 testing::ElementsAre(
-                    Box{"ERRO Tarn0002 - Não foi possível obter os dados da Internet. Verifique a "
-                        "conexão com a Internet.",
-                        BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"},
+                    transportFailure("0002"),
                     Box{"Houve um problema na verificação do Direito de Acesso do usuário na "
                         "Transação EMI001. ",
                         BoxIcon::Exclamation}));
@@ -284,10 +282,7 @@ TEST_F(MDIMenuTest, AnActivationWithoutTheServerEndsTheProgram) {
     modals.then("frmAjuda", [](QWidget& help) { key(help, Qt::Key_Escape); });
     choose(menu, "mnuAjuda");
     ASSERT_EQ(boxes.shown.size(), 2U);
-    EXPECT_EQ(boxes.shown[0],
-              (Box{"ERRO Tarn0009 - Não foi possível obter os dados da Internet. Verifique a "
-                   "conexão com a Internet.",
-                   BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"}));
+    EXPECT_EQ(boxes.shown[0], (noInternet9));
     EXPECT_EQ(boxes.shown[1].text.rfind("Erro em tempo de execução '91':\r\r", 0), 0U);
     EXPECT_EQ(end.status(), 3);
 }

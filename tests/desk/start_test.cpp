@@ -3,23 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "runtime/runtime_error.h"
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
 namespace {
 
 const std::string header = "<?xml version='1.0' encoding='UTF-8'?>";
-const std::string failure1 =
-    "ERRO Tarn0001 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
-    "Internet.";
-
-Box transportFailure(const std::string& text) {
-    return {.text = text, .icon = BoxIcon::Critical, .title = "TarnEMISSAO - ERRO INESPERADO"};
-}
-Box exclamation(const std::string& text, const std::string& title = "TarnEmissao") {
-    return {.text = text, .icon = BoxIcon::Exclamation, .title = title};
-}
-
 void expectError(RuntimeErrorCode number, const auto& action) {
     try {
         action();
@@ -76,7 +66,7 @@ TEST_F(VerVersaoTest, OutOfReachLeavesTheGateOpen) {
     session_.VersaoServidor = "old";
     EXPECT_TRUE(VerVersao(environment_, session_, programVersion));
     EXPECT_EQ(session_.VersaoServidor, "");
-    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{transportFailure(
+    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{requestFailure(
                                       "Não consegui verificar a versão do TarnEMISSAO porque não "
                                       "tive acesso à internet!!!")});
 }
@@ -155,7 +145,7 @@ TEST_F(StartTest, ARefusalShowsTheServersTextUnchanged) {
 TEST_F(StartTest, AFailedTransportShowsTwoBoxes) {
     EXPECT_FALSE(logOn(environment_, session_, "e", "u", "s"));
     EXPECT_EQ(seams_.boxes.shown,
-              (std::vector<Box>{transportFailure(failure1),
+              (std::vector<Box>{transportFailure("0001"),
                                 exclamation("Houve um problema para efetuar o Login.")}));
     EXPECT_EQ(seams_.loader.addresses.size(), 1U);
 }
@@ -249,9 +239,7 @@ TEST_F(AccessRightTest, FailedLoad) {
     EXPECT_FALSE(verify());
     EXPECT_EQ(seams_.boxes.shown,
               (std::vector<Box>{
-                  transportFailure(
-                      "ERRO Tarn0002 - Não foi possível obter os dados da Internet. Verifique "
-                      "a conexão com a Internet."),
+                  transportFailure("0002"),
                   exclamation("Houve um problema na verificação do Direito de Acesso do usuário na "
                               "Transação EMI003. ")}));
 }
@@ -282,9 +270,7 @@ TEST_F(StartTest, NameAbsentOrNoRow) {
     for (int i = 0; i < 3; ++i) {
         expectError(RuntimeErrorCode::ObjectVariable, [&] { branchName(environment_, session_); });
     }
-    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{transportFailure(
-                                      "ERRO Tarn0009 - Não foi possível obter os dados da "
-                                      "Internet. Verifique a conexão com a Internet.")});
+    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{noInternet9});
 }
 
 }  // namespace

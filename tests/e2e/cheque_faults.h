@@ -4,17 +4,15 @@
 #include <QComboBox>
 
 #include "tests/e2e/fault_desk.h"
+#include "tests/support/boxes.h"
 #include "widgets/free_text_field.h"
 
 namespace tarn::test {
 
 inline const Box success = information("Cheque emitido com sucesso!     ");
-inline const Box noCheck = noInternet("ERRO    Tarn0009");
-inline const Box noRecord = noInternet("ERRO Tarn0009");
+inline const Box noCheck = noInternet9Wide;
+inline const Box noRecord = noInternet9;
 
-inline Box exclamation(const std::string& text) {
-    return {text, BoxIcon::Exclamation, "TarnEmissao"};
-}
 inline Box taken(const std::string& number) {
     return exclamation("Cheque com este número e série já foi emitido já emitido. \rNúmero: " +
                        number + "\rSérie: AB1");

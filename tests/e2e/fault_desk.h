@@ -18,6 +18,7 @@
 #include "platform/curl/curl_loader.h"
 #include "platform/request_line.h"
 #include "practice/database/database.h"
+#include "tests/support/boxes.h"
 #include "tests/support/grid.h"
 #include "tests/support/practice_page.h"
 #include "tests/support/screen_test.h"
@@ -71,20 +72,6 @@ inline Box endReportWithNote() {
         "\r\rA Nota Fiscal pode ter sido gerada no servidor. Caso tenha sido gerada, utilize a "
         "tela de Reimpressão de Nota Fiscal para imprimi-la.";
     return report;
-}
-
-// "ERRO Tarn0004" and so on.
-inline Box noInternet(const std::string& number) {
-    return {number +
-                " - Não foi possível obter os dados da Internet. Verifique a conexão com a "
-                "Internet.",
-            BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
-}
-inline Box alertBox(const std::string& text) {
-    return {text, BoxIcon::Exclamation, "Aviso"};
-}
-inline Box information(const std::string& text) {
-    return {text, BoxIcon::Information, "TArn"};
 }
 
 // A database file of the practice server in this folder; its data is made once a run.

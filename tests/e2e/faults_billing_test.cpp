@@ -8,13 +8,13 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const Box checkByHand = alertBox(
+const Box checkByHand = notice(
     "Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, utilize a tela de "
     "Reimpressão de Nota Fiscal. ");
 
 Box notTransferred(const std::string& note) {
-    return alertBox("Houve um problema na transferência dos dados da Nota Fiscal nº " + note +
-                    ". Utilize a tela de Reimpressão de Nota Fiscal.");
+    return notice("Houve um problema na transferência dos dados da Nota Fiscal nº " + note +
+                  ". Utilize a tela de Reimpressão de Nota Fiscal.");
 }
 
 class BillingFaults : public NoteFaults {
@@ -33,12 +33,12 @@ protected:
 TEST_F(BillingFaults, AListThatDoesntComeIsEmptyAndTheNextTickTriesAgain) {
     under({"sel_ordem_fatu"}, leaving({Left::Nothing}), [this](const FaultCase&) {
         click(menu, "CmdAtualizar");
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0006")));
+        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0006")));
         EXPECT_EQ(grid::rows(orders()), 0);
         EXPECT_TRUE(timerRuns());
         click(menu, "CmdCanOft");
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0006"),
-                                             alertBox("Selecione a ordem de faturamento.     ")));
+        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0006"),
+                                             notice("Selecione a ordem de faturamento.     ")));
         EXPECT_THAT(takeCommands(), ElementsAre("sel_ordem_fatu"));
     });
     click(menu, "CmdAtualizar");
@@ -64,7 +64,7 @@ TEST_F(BillingFaults, AGenerationWithoutAnAnswerIsToBeCheckedByHand) {
         const std::string order = takeOrder();
         const std::size_t before = notes();
         generate(order);
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0004"), checkByHand));
+        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0004"), checkByHand));
         EXPECT_THAT(takeCommands(),
                     ElementsAre("Seleciona_Obs_Vnd_X_Ord", "Seleciona_Obs_Ord_X_Est", "SP_GERA_NF",
                                 "sel_ordem_fatu"));
@@ -80,7 +80,7 @@ TEST_F(BillingFaults, TheNoteWhoseAnswerWasLostComesOutOfTheReprintScreen) {
     const std::string order = takeOrder();
     page.fail("SP_GERA_NF", {FaultKind::CloseWithin, {}});
     generate(order);
-    ASSERT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0004"), checkByHand));
+    ASSERT_THAT(boxes.shown, ElementsAre(transportFailure("0004"), checkByHand));
     EXPECT_THAT(spooler.calls, IsEmpty());
     page.heal();
     close<FrmOFT>();
@@ -149,7 +149,7 @@ TEST_F(BillingFaults, ADocumentThatDoesntComeNamesTheNoteAndTheReprintScreen) {
         generate(order);
         const std::string note = noteOf(order);
         EXPECT_TRUE(found(note));
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0005"), notTransferred(note)));
+        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0005"), notTransferred(note)));
         EXPECT_THAT(takeCommands(),
                     ElementsAre("Seleciona_Obs_Vnd_X_Ord", "Seleciona_Obs_Ord_X_Est", "SP_GERA_NF",
                                 "sel_gera_nf", "sel_ordem_fatu"));
@@ -189,7 +189,7 @@ TEST_F(BillingFaults, AListThatDoesntComeBehindAGenerationLeavesTheNotePrinted) 
     const std::string order = takeOrder();
     page.fail("sel_ordem_fatu", {FaultKind::ServerError, {}});
     generate(order);
-    EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0006")));
+    EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0006")));
     expectPrinted(noteOf(order));
     EXPECT_EQ(grid::rows(orders()), 0);
     EXPECT_TRUE(timerRuns());

@@ -2,6 +2,7 @@
 #include <QComboBox>
 
 #include "tests/e2e/fault_desk.h"
+#include "tests/support/boxes.h"
 
 namespace tarn::test {
 namespace {
@@ -9,10 +10,9 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const Box noCustomers{
+const Box noCustomers = requestFailure(
     "Tarn0024 - Erro na pesquisa de cliente - Não foi possível obter os dados da Internet. "
-    "Verifique a conexão com a Internet.",
-    BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
+    "Verifique a conexão com a Internet.");
 const Box noCustomerFound{"Pesquisa nao encontrou nenhum registro.     ", BoxIcon::Information,
                           "Aviso"};
 
@@ -53,7 +53,7 @@ TEST_F(BillFaults, ASearchWithoutAnAnswerLeavesTheGridAndTheFields) {
         grid::click(gridOf(screen), 1, 1);
         under({"sel_duplicata"}, leaving({Left::Nothing}), [&](const FaultCase&) {
             click(screen, "cmdPesquisar");
-            EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0009")));
+            EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
             EXPECT_THAT(takeCommands(), ElementsAre("sel_duplicata"));
             EXPECT_EQ(grid::rows(gridOf(screen)), found);
             EXPECT_THAT(grid::ticks(gridOf(screen)), testing::Contains(true));
@@ -83,7 +83,7 @@ TEST_F(BillFaults, BranchesThatDontComeLeaveTheFirstItem) {
     under({"sel_filiais"}, leaving({Left::Nothing}), [this](const FaultCase&) {
         inBills([this](QWidget& screen) {
             auto& list = named<QComboBox>(screen, "cboFilial");
-            EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO    Tarn0009")));
+            EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
             EXPECT_EQ(list.count(), 1);
             EXPECT_EQ(list.currentText(), QStringLiteral("<-TODAS->"));
             page.heal();
@@ -100,7 +100,7 @@ TEST_F(BillFaults, WithoutTheCompanyNothingIsDrawnAndTheProgramEnds) {
         forget();
         page.fail("sel_dados_empresa", {FaultKind::CutXml, {}});
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0009"), companyMissing));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, companyMissing));
         EXPECT_THAT(printer.operations, IsEmpty());
     });
     EXPECT_EQ(end.status(), 3);

@@ -2,6 +2,7 @@
 #include <QComboBox>
 
 #include "tests/e2e/fault_desk.h"
+#include "tests/support/boxes.h"
 
 namespace tarn::test {
 namespace {
@@ -9,7 +10,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const Box noInternet9 = noInternet("ERRO Tarn0009");
 const Box deleted = information("Etiquetas excluídas com sucesso!     ");
 const Box printed = information(" Etiquetas impressas com sucesso!   ");
 
@@ -146,8 +146,7 @@ TEST_F(LabelFaults, ReasonsThatDontComeLeaveTheFirstItem) {
     under({"sel_motivos", "sel_filiais_remetente"}, leaving({Left::Nothing}),
           [this](const FaultCase&) {
               modals.then("frmPesqEtiquetas", [this](QWidget& queue) {
-                  EXPECT_THAT(boxes.shown,
-                              ElementsAre(noInternet9, noInternet("ERRO    Tarn0009")));
+                  EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, noInternet9Wide));
                   EXPECT_THAT(takeCommands(),
                               ElementsAre("sel_filiais_remetente", "sel_motivos", "sel_etiquetas"));
                   auto& reasons = named<QComboBox>(queue, "cboMotivo");
@@ -161,9 +160,8 @@ TEST_F(LabelFaults, ReasonsThatDontComeLeaveTheFirstItem) {
 }
 
 TEST_F(LabelFaults, ASelectionWithoutItsListsOrItsRowsStaysOpenAndEmpty) {
-    const Box noInternetWide = noInternet("ERRO    Tarn0009");
     modals.then("FrmImprEtiq", [&](QWidget& selection) {
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternetWide, noInternetWide));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide, noInternet9Wide));
         for (const char* list : {"cboPais", "cboFilial", "cboEstado", "cboCidade"}) {
             EXPECT_EQ(named<QComboBox>(selection, list).count(), 0) << list;
         }
@@ -173,7 +171,7 @@ TEST_F(LabelFaults, ASelectionWithoutItsListsOrItsRowsStaysOpenAndEmpty) {
             ASSERT_EQ(boxes.shown.size(), 2U) << "the command, then its failure";
             EXPECT_EQ(boxes.shown[0].icon, BoxIcon::None);
             EXPECT_THAT(boxes.shown[0].text, testing::StartsWith("comando=sel_dados_etq&"));
-            EXPECT_EQ(boxes.shown[1], noInternetWide);
+            EXPECT_EQ(boxes.shown[1], noInternet9Wide);
             EXPECT_EQ(grid::rows(gridOf(selection)), 0);
             EXPECT_TRUE(selection.isVisible());
         });

@@ -10,10 +10,10 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const Box noObservation = alertBox(
+const Box noObservation = notice(
     "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e tente "
     "novamente.");
-const Box notSaved = alertBox("Favor verificar se os dados da Ordem de Faturamento foi gravado. ");
+const Box notSaved = notice("Favor verificar se os dados da Ordem de Faturamento foi gravado. ");
 constexpr char askedOrder[] = "45006";  // its sale has an observation
 
 Box questionFor(const std::string& order) {
@@ -46,8 +46,8 @@ TEST_F(OrderFaults, ObservationsThatDontComeDontStopTheNote) {
           [this](const FaultCase&) {
               const std::string order = takeOrder();
               generate(order);
-              EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0004"), noObservation,
-                                                   noInternet("ERRO Tarn0004"), noObservation));
+              EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0004"), noObservation,
+                                                   transportFailure("0004"), noObservation));
               expectPrinted(noteOf(order));
               EXPECT_TRUE(timerRuns());
           });
@@ -64,7 +64,7 @@ TEST_F(OrderFaults, TheObservationOfTheOrderBeforeIsShownAgain) {
         modals.then("frmMensagemAlerta",
                     [&](QWidget& question) { answer(question, "cmdCancelar", again); });
         generate(takeOrder());
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0004"), noObservation));
+        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0004"), noObservation));
         EXPECT_EQ(again, first);
         EXPECT_THAT(takeCommands(), ElementsAre("Seleciona_Obs_Vnd_X_Ord"));
     });
@@ -101,9 +101,9 @@ TEST_F(OrderFaults, ACancellationThatFailsIsToBeCheckedByHand) {
             EXPECT_THAT(boxes.shown, ElementsAre(question, refusal));
         } else {
             EXPECT_THAT(boxes.shown,
-                        ElementsAre(question, noInternet("ERRO Tarn0003"),
-                                    alertBox("Favor verificar se a Ordem de Faturamento nº " +
-                                             order + " foi cancelada. ")));
+                        ElementsAre(question, transportFailure("0003"),
+                                    notice("Favor verificar se a Ordem de Faturamento nº " + order +
+                                           " foi cancelada. ")));
         }
         EXPECT_THAT(takeCommands(), ElementsAre("sp_can_oft"));
         EXPECT_GE(rowOf(order), 1) << "the list isn't read anew";
@@ -130,7 +130,7 @@ TEST_F(OrderFaults, ACorrectionWithoutAnAnswerClosesAndTheListTellsTheTruth) {
             EXPECT_FALSE(dialog.isVisible());
         });
         press(order, "cmdDetOFT");
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0013"), notSaved));
+        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0013"), notSaved));
         EXPECT_THAT(takeCommands(),
                     ElementsAre("Seleciona_Obs_Vnd_X_Ord", "MANUTENCAO_OFT", "sel_ordem_fatu"));
         ASSERT_NE(before, "4.321,000");
@@ -168,10 +168,10 @@ TEST_F(OrderFaults, ASheetWithoutItsOrderIsntPrinted) {
                   EXPECT_THAT(boxes.shown, ElementsAre(refusal));
               } else {
                   EXPECT_THAT(boxes.shown,
-                              ElementsAre(noInternet("ERRO Tarn0012"),
-                                          alertBox("Houve um problema na transferência dos dados "
-                                                   "da Ordem de Faturamento nº " +
-                                                   order + ".")));
+                              ElementsAre(transportFailure("0012"),
+                                          notice("Houve um problema na transferência dos dados "
+                                                 "da Ordem de Faturamento nº " +
+                                                 order + ".")));
               }
               EXPECT_THAT(spooler.calls, IsEmpty());
               EXPECT_GE(rowOf(order), 1);

@@ -7,7 +7,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const Box notFound = alertBox("Nota Fiscal não encontrada ou Cancelada !!!    ");
+const Box notFound = notice("Nota Fiscal não encontrada ou Cancelada !!!    ");
 
 class ReprintFaults : public NoteFaults {
 protected:
@@ -33,13 +33,12 @@ protected:
 TEST_F(ReprintFaults, ListsThatDontComeOnOpeningShowTheirNumbersAlone) {
     under({"SEL_SERIE_NF", "SEL_MOT_CAN"}, leaving({Left::Nothing}), [this](const FaultCase&) {
         open("mCNF");
-        EXPECT_THAT(boxes.shown,
-                    ElementsAre(noInternet("ERRO Tarn0010"), noInternet("ERRO Tarn0011")));
+        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0010"), transportFailure("0011")));
         boxes.shown.clear();
         click(reprint(), "cmdPesquisar");
         click(reprint(), "cmdSelecionar");
-        EXPECT_THAT(boxes.shown, ElementsAre(alertBox("Selecione a série da Nota.     "),
-                                             alertBox("Selecione a série da Nota ")));
+        EXPECT_THAT(boxes.shown, ElementsAre(notice("Selecione a série da Nota.     "),
+                                             notice("Selecione a série da Nota ")));
         close<FrmReImprimeNF>();
     });
 }
@@ -49,8 +48,8 @@ TEST_F(ReprintFaults, ASearchWithoutAnAnswerLeavesTheFields) {
     under({"SEL_NF"}, leaving({Left::Nothing}), [this](const FaultCase&) {
         click(reprint(), "cmdPesquisar");
         EXPECT_THAT(boxes.shown,
-                    ElementsAre(noInternet("ERRO Tarn0007"),
-                                alertBox("Houve um problema na Pesquisa da Nota Fiscal !!!")));
+                    ElementsAre(transportFailure("0007"),
+                                notice("Houve um problema na Pesquisa da Nota Fiscal !!!")));
         EXPECT_THAT(takeCommands(), ElementsAre("SEL_NF"));
         expectFound();
     });
@@ -66,10 +65,10 @@ TEST_F(ReprintFaults, ASearchWithoutAnAnswerLeavesTheFields) {
         EXPECT_EQ(text(reprint(), "txtNF"), note);
         click(reprint(), "cmdSelecionar");
         EXPECT_THAT(boxes.shown,
-                    ElementsAre(noInternet("ERRO Tarn0007"),
-                                alertBox("Houve um problema na Pesquisa da Nota Fiscal !!!"),
-                                alertBox("Preencha o campo Nro da NF e a série e clique em "
-                                         "pesquisar!!!")));
+                    ElementsAre(transportFailure("0007"),
+                                notice("Houve um problema na Pesquisa da Nota Fiscal !!!"),
+                                notice("Preencha o campo Nro da NF e a série e clique em "
+                                       "pesquisar!!!")));
     });
     under({"SEL_NF"}, leaving({Left::NoDeclaration, Left::All}), [this](const FaultCase&) {
         type(reprint(), "txtNF", note.c_str());
@@ -90,15 +89,15 @@ TEST_F(ReprintFaults, APrintWithoutItsDocumentIsToldAndCanBeRepeated) {
                       break;
                   case Left::NoDeclaration:
                       EXPECT_THAT(boxes.shown,
-                                  ElementsAre(alertBox("Houve um problema na transferência dos "
-                                                       "dados da Nota Fiscal nº " +
-                                                       note + ". ")));
+                                  ElementsAre(notice("Houve um problema na transferência dos "
+                                                     "dados da Nota Fiscal nº " +
+                                                     note + ". ")));
                       break;
                   default:
                       EXPECT_THAT(boxes.shown,
-                                  ElementsAre(noInternet("ERRO Tarn0008"),
-                                              alertBox("Houve um problema na transferência dos "
-                                                       "dados da Nota Fiscal !!!")));
+                                  ElementsAre(transportFailure("0008"),
+                                              notice("Houve um problema na transferência dos "
+                                                     "dados da Nota Fiscal !!!")));
               }
               EXPECT_THAT(takeCommands(), ElementsAre("sel_gera_nf"));
               EXPECT_THAT(spooler.calls, IsEmpty());
@@ -124,36 +123,37 @@ TEST_F(ReprintFaults, ASlowDocumentIsPrintedOnce) {
 
 TEST_F(ReprintFaults, ACancellationThatFailsIsToldByWhatIsKnownOfIt) {
     open("mCNF");
-    under({"sp_can_nf"}, leaving({Left::Nothing, Left::Refusal, Left::NoDeclaration}),
-          [this](const FaultCase& fault) {
-              note = makeNote();
-              search(note);
-              QTest::mouseClick(&named<QWidget>(reprint(), "OptionReimp_1"), Qt::LeftButton, {},
-                                {8, 8});
-              pickIn(menu, "CboMot_Can", 1);
-              click(reprint(), "cmdSelecionar");
-              switch (fault.left) {
-                  case Left::Refusal:
-                      EXPECT_THAT(boxes.shown, ElementsAre(refusal));
-                      break;
-                  case Left::NoDeclaration:
-                      EXPECT_THAT(boxes.shown,
-                                  ElementsAre(alertBox(
-                                      "Houve um problema no Cancelamento da Nota Fiscal nº " +
-                                      note + ". ")));
-                      break;
-                  default:
-                      EXPECT_THAT(boxes.shown,
-                                  ElementsAre(noInternet("ERRO Tarn0009"),
-                                              alertBox("Favor verificar se a Nota Fiscal foi "
-                                                       "cancelada. ")));
-              }
-              EXPECT_THAT(takeCommands(), ElementsAre("SEL_NF", "sp_can_nf"));
-              EXPECT_EQ(shown("LBLNOTA"), note);
-              EXPECT_EQ(named<QComboBox>(reprint(), "CboMot_Can").currentIndex(), 1);
-              EXPECT_EQ(found(note), !fault.carriedOut);
-              EXPECT_FALSE(end.ended());
-          });
+    under(
+        {"sp_can_nf"}, leaving({Left::Nothing, Left::Refusal, Left::NoDeclaration}),
+        [this](const FaultCase& fault) {
+            note = makeNote();
+            search(note);
+            QTest::mouseClick(&named<QWidget>(reprint(), "OptionReimp_1"), Qt::LeftButton, {},
+                              {8, 8});
+            pickIn(menu, "CboMot_Can", 1);
+            click(reprint(), "cmdSelecionar");
+            switch (fault.left) {
+                case Left::Refusal:
+                    EXPECT_THAT(boxes.shown, ElementsAre(refusal));
+                    break;
+                case Left::NoDeclaration:
+                    EXPECT_THAT(
+                        boxes.shown,
+                        ElementsAre(notice("Houve um problema no Cancelamento da Nota Fiscal nº " +
+                                           note + ". ")));
+                    break;
+                default:
+                    EXPECT_THAT(
+                        boxes.shown,
+                        ElementsAre(noInternet9, notice("Favor verificar se a Nota Fiscal foi "
+                                                        "cancelada. ")));
+            }
+            EXPECT_THAT(takeCommands(), ElementsAre("SEL_NF", "sp_can_nf"));
+            EXPECT_EQ(shown("LBLNOTA"), note);
+            EXPECT_EQ(named<QComboBox>(reprint(), "CboMot_Can").currentIndex(), 1);
+            EXPECT_EQ(found(note), !fault.carriedOut);
+            EXPECT_FALSE(end.ended());
+        });
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QComboBox>
 
 #include "tests/e2e/fault_desk.h"
+#include "tests/support/boxes.h"
 
 namespace tarn::test {
 namespace {
@@ -173,7 +174,7 @@ TEST_F(SlipFaults, WithoutThePortfoliosRecordNothingIsTouched) {
     inSlips(wallet57, false, [this] {
         under({"sel_carteira_cob"}, leaving({Left::Nothing}), [this](const FaultCase&) {
             print("1234", false);
-            EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0009")));
+            EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
             EXPECT_THAT(takeCommands(), ElementsAre("sel_carteira_cob"));
             EXPECT_THAT(spooler.calls, IsEmpty());
             EXPECT_EQ(text(*screen, "txtNr_Bol_Banc"), "1234");
@@ -217,8 +218,7 @@ TEST_F(SlipFaults, ARefusedPortfolioLeavesTheBankToTheRowOrToNobody) {
 TEST_F(SlipFaults, ListsThatDontComeLeaveTheirFirstItems) {
     under({"sel_filiais", "sel_carteira"}, leaving({Left::Nothing}), [this](const FaultCase&) {
         modals.then("frmPesqBoleto", [this](QWidget& opened) {
-            const Box failed = noInternet("ERRO    Tarn0009");
-            EXPECT_THAT(boxes.shown, ElementsAre(failed, failed));
+            EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide, noInternet9Wide));
             EXPECT_EQ(named<QComboBox>(opened, "cboFilial").currentText(),
                       QStringLiteral("<-TODAS->"));
             EXPECT_EQ(named<QComboBox>(opened, "cboCartCob").currentText(),
@@ -226,7 +226,7 @@ TEST_F(SlipFaults, ListsThatDontComeLeaveTheirFirstItems) {
             EXPECT_EQ(named<QComboBox>(opened, "cboCartCob").count(), 1);
             click(opened, "cmdImprimir");
             EXPECT_THAT(boxes.shown,
-                        ElementsAre(failed, failed,
+                        ElementsAre(noInternet9Wide, noInternet9Wide,
                                     information("Carteira Cobrança é um campo obrigatório!     ")));
             click(opened, "cmdVoltar");
         });
@@ -240,7 +240,7 @@ TEST_F(SlipFaults, ASearchWithoutAnAnswerLeavesTheGrid) {
         ASSERT_GT(before, 0);
         under({"sel_boleto"}, leaving({Left::Nothing}), [this, before](const FaultCase&) {
             click(*screen, "cmdPesquisar");
-            EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0009")));
+            EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
             EXPECT_EQ(grid::rows(gridOf(*screen)), before);
         });
         under({"sel_boleto"}, leaving({Left::Refusal}), [this](const FaultCase&) {

@@ -5,6 +5,7 @@
 
 #include "billing/frm_oft.h"
 #include "tests/e2e/fault_desk.h"
+#include "tests/support/boxes.h"
 
 namespace tarn::test {
 namespace {
@@ -12,9 +13,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const Box noVersion{
-    "Não consegui verificar a versão do TarnEMISSAO porque não tive acesso à internet!!!",
-    BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
+const Box noVersion = requestFailure(
+    "Não consegui verificar a versão do TarnEMISSAO porque não tive acesso à internet!!!");
 const Box noLogon{"Houve um problema para efetuar o Login.", BoxIcon::Exclamation, "TarnEmissao"};
 
 class StartFaults : public FaultDesk {
@@ -80,7 +80,7 @@ TEST_F(StartFaults, ALogonThatFailsKeepsWhatWasTypedAndTheNextTryGetsIn) {
         lost.push_back(hugeAnswer);
         under({"LOGIN"}, lost, [&](const FaultCase&) {
             click(logon, "btnLogin");
-            EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0001"), noLogon));
+            EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0001"), noLogon));
             EXPECT_THAT(takeCommands(), ElementsAre("LOGIN"));
             expectTyped(logon);
         });
@@ -132,7 +132,7 @@ TEST_P(NameFaults, TheNameThatDoesntComeEndsTheProgram) {
     QTimer::singleShot(0, &menu, [this] { menu.load(); });
     ASSERT_TRUE(QTest::qWaitFor([this] { return end.ended() || !branch().empty(); }));
     if (fault.left == Left::Nothing) {
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet("ERRO Tarn0009"), endReport()));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, endReport()));
         EXPECT_EQ(end.status(), 3);
     } else if (fault.left == Left::Refusal) {
         EXPECT_THAT(boxes.shown, ElementsAre(endReport())) << "no row";
@@ -152,7 +152,7 @@ TEST_F(StartFaults, WithoutAnAnswerToTheRightNoScreenOpens) {
         open("mOFT");
         EXPECT_THAT(
             boxes.shown,
-            ElementsAre(noInternet("ERRO Tarn0002"),
+            ElementsAre(transportFailure("0002"),
                         Box{"Houve um problema na verificação do Direito de Acesso do usuário na "
                             "Transação EMI001. ",
                             BoxIcon::Exclamation, "TarnEmissao"}));

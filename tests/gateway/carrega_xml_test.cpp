@@ -6,6 +6,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -51,8 +52,7 @@ TEST_F(CarregaXMLTest, LoadsOnceAndShowsNothing) {
 }
 
 TEST_F(CarregaXMLTest, UnreachableAndIllFormedAreOneFailure) {
-    const Box expected{
-        .text = "não veio", .icon = BoxIcon::Critical, .title = "TarnEMISSAO - ERRO INESPERADO"};
+    const Box expected = requestFailure("não veio");
     seams_.loader.failOn("comando=x").on("comando=x", "<html><br></html>").on("comando=x", "");
     for (int i = 1; i <= 3; ++i) {
         EXPECT_FALSE(load());

@@ -115,7 +115,7 @@ TEST_F(CancellationScreen, ARefusalIsTheServersWords) {
     find();
     fillIn(0);
     cancel();
-    EXPECT_THAT(boxes.shown, ElementsAre(untitled("Prazo vencido")));
+    EXPECT_THAT(boxes.shown, ElementsAre(exclamation("Prazo vencido")));
     allKept();
 }
 

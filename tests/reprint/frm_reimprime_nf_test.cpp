@@ -62,7 +62,7 @@ TEST_F(FrmReImprimeNFTest, OpensForCancelling) {
 TEST_F(FrmReImprimeNFTest, ADenialOpensNothing) {
     server.on("sTransacao=EMI003", answers::status("Sem direito"));
     choose(menu, "mnuNF", "mCNF");
-    EXPECT_THAT(boxes.shown, ElementsAre(untitled("Sem direito")));
+    EXPECT_THAT(boxes.shown, ElementsAre(exclamation("Sem direito")));
     EXPECT_EQ(server.addresses.size(), 1U);
     EXPECT_FALSE(isOpen());
     EXPECT_TRUE(menusEnabled());

@@ -12,22 +12,10 @@
 #include "desk/mdi_menu.h"
 #include "reprint/frm_reimprime_nf.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/screen_test.h"
 
 namespace tarn::test {
-
-inline Box transportFailure(const std::string& number) {
-    return {"ERRO Tarn" + number +
-                " - Não foi possível obter os dados da Internet. Verifique a conexão com a "
-                "Internet.",
-            BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
-}
-inline Box notice(const std::string& text) {
-    return {text, BoxIcon::Exclamation, "Aviso"};
-}
-inline Box untitled(const std::string& text) {
-    return {text, BoxIcon::Exclamation, "TarnEmissao"};
-}
 
 inline std::string noteRow(const std::string& kind) {
     return "<z:row DC_TIP_NF='VENDA &lt;b&gt;' IC_TIP_NF='" + kind +

@@ -78,7 +78,7 @@ TEST_F(ReprintScreen, ARefusalIsTheServersWords) {
     server.on("sel_gera_nf", answers::status("Nota &lt;bloqueada&gt;"));
     find();
     print();
-    EXPECT_THAT(boxes.shown, ElementsAre(untitled("Nota <bloqueada>")));
+    EXPECT_THAT(boxes.shown, ElementsAre(exclamation("Nota <bloqueada>")));
     EXPECT_EQ(data(), found());
     EXPECT_THAT(spooler.calls, IsEmpty());
 }

@@ -7,21 +7,13 @@
 #include "runtime/runtime_error.h"
 #include "tests/notes/note_fixture.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
 namespace {
 
-const std::string noInternet =
-    " - Não foi possível obter os dados da Internet. Verifique a conexão com a Internet.";
 const std::string gap(50, ' ');
-
-Box transportFailure(const std::string& number) {
-    return {"ERRO Tarn" + number + noInternet, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
-}
-Box notice(const std::string& text) {
-    return {text, BoxIcon::Exclamation, "Aviso"};
-}
 
 // Loaded answers of which no status can be read.
 const std::vector<std::string> noStatus{

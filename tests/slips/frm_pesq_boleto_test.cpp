@@ -132,7 +132,7 @@ TEST_F(FrmPesqBoletoTest, FailedListsKeepTheirFirstItemAndTheScreenOpens) {
     withScreen([&](QWidget& screen) {
         EXPECT_THAT(items(list(screen, "cboFilial")), ElementsAre("<-TODAS->=0"));
         EXPECT_THAT(items(list(screen, "cboCartCob")), ElementsAre("--------=0"));
-        EXPECT_THAT(boxes.shown, ElementsAre(wideFailure(), wideFailure()));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide, noInternet9Wide));
         EXPECT_THAT(server.queries(), ElementsAre(branchesQuery, portfoliosQuery));
     });
 }
@@ -141,11 +141,11 @@ TEST_F(FrmPesqBoletoTest, ThreeFieldsMustBeThereBeforeASearchIsSent) {
     withScreen([&](QWidget& screen) {
         server.addresses.clear();
         click(screen, "cmdPesquisar");
-        EXPECT_THAT(boxes.shown, ElementsAre(inform("Data Emissão De é Obrigatório.     ")));
+        EXPECT_THAT(boxes.shown, ElementsAre(information("Data Emissão De é Obrigatório.     ")));
         EXPECT_EQ(focused(screen), "txtDtEmsDe");
         type(screen, "txtDtEmsDe", "1");
         click(screen, "cmdPesquisar");
-        EXPECT_EQ(boxes.shown.back(), inform("Data de Vencimento Obrigatória.     "));
+        EXPECT_EQ(boxes.shown.back(), information("Data de Vencimento Obrigatória.     "));
         EXPECT_EQ(focused(screen), "txtDtVncAte");
         type(screen, "txtDtVncAte", "1");
         click(screen, "cmdPesquisar");
@@ -219,7 +219,7 @@ TEST_F(FrmPesqBoletoTest, AFailedSearchLeavesTheGrid) {
         grid::click(grid(screen), 1, 1);
         server.failOn("sel_boleto&ID_EMP_TARN=2161");
         click(screen, "cmdPesquisar");
-        EXPECT_THAT(boxes.shown, ElementsAre(failure()));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
         EXPECT_THAT(grid::ticks(grid(screen)), ElementsAre(true));
     });
 }
@@ -255,7 +255,7 @@ TEST_F(FrmPesqBoletoTest, TheHeadingOfTheFirstColumnGoesByTheLastRow) {
 }
 
 TEST_F(FrmPesqBoletoTest, TickingTheCheckBoxIsExplained) {
-    const Box explanation = inform(
+    const Box explanation = information(
         "Esta opção só deverá ser selecionada quando se deseja incluir, no momento da impressão do "
         "boleto, um documento que esteja sem carteira de cobrança associada. A carteira a ser "
         "associada é a selecionada no combo acima.      ");
@@ -339,7 +339,7 @@ TEST_F(FrmPesqBoletoTest, FailedListsLoseWhatTheyHeldOnTheNextActivation) {
         server.failOn("sel_filiais&ID_EMP_TARN=2161").failOn("sel_carteira&ID_EMP_TARN=2161");
         modals.then("FrmPesqCliente", [](QWidget& dialog) { key(dialog, Qt::Key_Escape); });
         click(screen, "cmdPesqCli");
-        EXPECT_THAT(boxes.shown, ElementsAre(wideFailure(), wideFailure()));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide, noInternet9Wide));
         EXPECT_THAT(items(list(screen, "cboFilial")), ElementsAre("<-TODAS->=0"));
         EXPECT_THAT(items(list(screen, "cboCartCob")), ElementsAre("--------=0"));
         EXPECT_THAT(grid::ticks(grid(screen)), ElementsAre(true));

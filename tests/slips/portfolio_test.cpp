@@ -6,6 +6,7 @@
 
 #include "runtime/runtime_error.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -78,10 +79,7 @@ TEST_F(PortfolioTest, AFieldSpelledInAnotherCaseIsAFailure) {
 TEST_F(PortfolioTest, AFailedRequestIsTold) {
     seams.loader.failOn("sel_carteira_cob");
     EXPECT_FALSE(loadPortfolio(seams.environment, session, 12));
-    EXPECT_THAT(seams.boxes.shown,
-                ElementsAre(Box{"ERRO Tarn0009 - Não foi possível obter os dados da Internet. "
-                                "Verifique a conexão com a Internet.",
-                                BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"}));
+    EXPECT_THAT(seams.boxes.shown, ElementsAre(noInternet9));
 }
 
 }  // namespace

@@ -38,11 +38,12 @@ TEST_F(PrintSlipsScreen, PortfolioAndNumberMustBeThere) {
         server.addresses.clear();
         click(screen, "cmdImprimir");
         EXPECT_THAT(boxes.shown,
-                    ElementsAre(inform("Carteira Cobrança é um campo obrigatório!     ")));
+                    ElementsAre(information("Carteira Cobrança é um campo obrigatório!     ")));
         EXPECT_EQ(focused(screen), "cboCartCob");
         pick(screen, "cboCartCob", wallet57Item);
         click(screen, "cmdImprimir");
-        EXPECT_EQ(boxes.shown.back(), inform("Nr. Boleto Bancário é um campo obrigatório!     "));
+        EXPECT_EQ(boxes.shown.back(),
+                  information("Nr. Boleto Bancário é um campo obrigatório!     "));
         EXPECT_EQ(focused(screen), "txtNr_Bol_Banc");
         EXPECT_THAT(server.addresses, IsEmpty());
     });
@@ -120,7 +121,7 @@ TEST_F(PrintSlipsScreen, WithoutThePortfolioNothingHappens) {
         grid::click(grid(screen), 1, 1);
         server.failOn("sel_carteira_cob&ID_EMP_TARN=2161&ID_CRT_COB=5");
         print(screen, "1234");
-        EXPECT_THAT(boxes.shown, ElementsAre(failure()));
+        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
         EXPECT_THAT(server.queries(), ElementsAre(wallet57Query));
         EXPECT_THAT(grid::ticks(grid(screen)), ElementsAre(true));
         EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "1234");

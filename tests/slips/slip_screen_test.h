@@ -9,6 +9,7 @@
 
 #include "desk/mdi_menu.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/grid.h"
 #include "tests/support/screen_test.h"
 
@@ -30,21 +31,7 @@ protected:
     static constexpr int wallet57Item = 1;   // cboCartCob; its number is 5
     static constexpr int wallet101Item = 2;  // its number is 6
 
-    static Box inform(const std::string& text) { return {text, BoxIcon::Information, "TArn"}; }
-    static Box transportFailure(const std::string& text) {
-        return {text, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
-    }
-    static Box wideFailure() {
-        return transportFailure(
-            "ERRO    Tarn0009 - Não foi possível obter os dados da Internet. Verifique a conexão "
-            "com a Internet.");
-    }
-    static Box failure() {
-        return transportFailure(
-            "ERRO Tarn0009 - Não foi possível obter os dados da Internet. Verifique a conexão com "
-            "a Internet.");
-    }
-    static Box nothingTicked() { return inform("Selecione um item na Lista!     "); }
+    static Box nothingTicked() { return information("Selecione um item na Lista!     "); }
 
     // A bill of bank 1016, another one's where given.
     static std::string line(const std::string& number, const std::string& bank = "1016") {

@@ -6,6 +6,7 @@
 
 #include "gateway/xml_document.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -150,10 +151,6 @@ protected:
     Sessao session;
 };
 
-Box critical(const std::string& text) {
-    return {text, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
-}
-
 TEST_F(SlipSearchTest, SendsTheWholeFilter) {
     seams.loader.on("sel_boleto", answers::rowset("<z:row NR_DOC='1'/><z:row NR_DOC='2'/>"));
     const SlipFilter filter{.documents = {.customer = "991",
@@ -190,9 +187,7 @@ TEST_F(SlipSearchTest, EmptyValuesStayEmpty) {
 TEST_F(SlipSearchTest, AFailedSearchIsToldWithOneBlank) {
     seams.loader.failOn("sel_boleto");
     EXPECT_FALSE(searchSlips(seams.environment, session, {}));
-    EXPECT_THAT(seams.boxes.shown,
-                ElementsAre(critical("ERRO Tarn0009 - Não foi possível obter os dados da "
-                                     "Internet. Verifique a conexão com a Internet.")));
+    EXPECT_THAT(seams.boxes.shown, ElementsAre(noInternet9));
 }
 
 TEST_F(SlipSearchTest, Portfolios) {
@@ -210,9 +205,7 @@ TEST_F(SlipSearchTest, FailedPortfoliosLeaveTheFirstItemAndAreToldWithFourBlanks
     seams.loader.failOn("sel_carteira");
     EXPECT_THAT(portfoliosForFilter(seams.environment, session),
                 ElementsAre(ListItem{"--------", 0}));
-    EXPECT_THAT(seams.boxes.shown,
-                ElementsAre(critical("ERRO    Tarn0009 - Não foi possível obter os dados da "
-                                     "Internet. Verifique a conexão com a Internet.")));
+    EXPECT_THAT(seams.boxes.shown, ElementsAre(noInternet9Wide));
 }
 
 std::string textOf(const std::optional<SlipRefusal>& refusal) {
