@@ -4,11 +4,12 @@
 #include <algorithm>
 #include <array>
 
-#include "billing/order_maintenance.h"
-#include "platform/message_boxes.h"
+#include "billing/orders.h"
+#include "common/boxes.h"
 #include "ui_frm_manut_det_oft.h"
 #include "widgets/enter_presses_button.h"
 #include "widgets/field_families.h"
+#include "widgets/form_helpers.h"
 #include "widgets/look.h"
 
 namespace tarn {
@@ -97,18 +98,6 @@ void frmManutDetOFT::load(const GridRow& order) {
     showNumber(*ui_->txtPesoLiquido, order.text(OrderColumn::NetWeight));
 }
 
-QLineEdit& frmManutDetOFT::field(OrderField which) const {
-    switch (which) {
-        case OrderField::GrossWeight:
-            return *ui_->txtPesoBruto;
-        case OrderField::NetWeight:
-            return *ui_->txtPesoLiquido;
-        case OrderField::Quantity:
-            break;
-    }
-    return *ui_->txtQtde;
-}
-
 void frmManutDetOFT::cmdOk_Click() {
     const auto text = [](const QLineEdit* field) { return field->text().toStdString(); };
     const commands::OrderData order{.order = text(ui_->txtOrdFat),
@@ -117,8 +106,10 @@ void frmManutDetOFT::cmdOk_Click() {
                                     .grossWeight = text(ui_->txtPesoBruto),
                                     .netWeight = text(ui_->txtPesoLiquido)};
     if (const auto refusal = dataRefusal(order)) {
-        desk_.environment.boxes.show({std::string(refusal->text), BoxIcon::Information, "Atenção"});
-        field(refusal->field).setFocus();
+        inform(desk_.environment, refusal->text, box_title::attention);
+        focusField(refusal->field, {{OrderField::Quantity, ui_->txtQtde},
+                                    {OrderField::GrossWeight, ui_->txtPesoBruto},
+                                    {OrderField::NetWeight, ui_->txtPesoLiquido}});
         return;
     }
     if (saveOrder(desk_.environment, desk_.session, order)) {

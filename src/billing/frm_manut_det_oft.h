@@ -16,8 +16,6 @@ class frmManutDetOFT;
 
 namespace tarn {
 
-enum class OrderField;
-
 class frmManutDetOFT : public QDialog {
     Q_OBJECT
 
@@ -37,7 +35,6 @@ private:
     void prepareFields();
     void prepareButtons();
     void load(const GridRow& order);
-    QLineEdit& field(OrderField which) const;
 
     void cmdOk_Click();
 

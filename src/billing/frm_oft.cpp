@@ -12,8 +12,8 @@
 #include "billing/frm_mensagem_alerta.h"
 #include "billing/generate_note.h"
 #include "billing/observations.h"
-#include "billing/print_order.h"
-#include "platform/message_boxes.h"
+#include "billing/order_sheet.h"
+#include "common/boxes.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_oft.h"
 #include "widgets/grid_model.h"
@@ -103,8 +103,7 @@ void FrmOFT::Timer_Tick() {
 
 std::optional<GridRow> FrmOFT::selectedOrder() {
     if (orders_->rowCount() == 0) {
-        desk_.environment.boxes.show(
-            {"Selecione a ordem de faturamento.     ", BoxIcon::Exclamation, "Aviso"});
+        warn(desk_.environment, "Selecione a ordem de faturamento.     ", box_title::notice);
         return std::nullopt;
     }
     const QModelIndex activate = ui_->sprDados->currentIndex();

@@ -1,6 +1,7 @@
 #include "billing/generate_note.h"
 
 #include "billing/observations.h"
+#include "common/boxes.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
@@ -34,7 +35,7 @@ GenerationEnd printGenerated(Environment& environment, const Sessao& session,
         warn(environment,
              "Houve um problema na transferência dos dados da Nota Fiscal nº " + note +
                  ". Utilize a tela de Reimpressão de Nota Fiscal.",
-             "Aviso");
+             box_title::notice);
         return GenerationEnd::Finished;
     }
     if (document.empty()) {  // the note may exist: decision D50
@@ -58,7 +59,7 @@ GenerationEnd requestNote(Environment& environment, const Sessao& session, const
         warn(environment,
              "Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, utilize a "
              "tela de Reimpressão de Nota Fiscal. ",
-             "Aviso");
+             box_title::notice);
         return GenerationEnd::Finished;
     }
     if (!answerAccepted(environment, document, "Houve um problema para gerar a Nota Fiscal. ")) {

@@ -1,6 +1,7 @@
 #include "billing/observations.h"
 
 #include "billing/alert.h"
+#include "common/boxes.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
@@ -18,7 +19,7 @@ bool textSearch(Environment& environment, Sessao& session, const std::string& qu
         warn(environment,
              "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e "
              "tente novamente.",
-             "Aviso");
+             box_title::notice);
         return true;
     }
     if (!answerAccepted(

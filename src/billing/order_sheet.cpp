@@ -3,7 +3,11 @@
 #include <string>
 #include <string_view>
 
-#include "common/raw_channel.h"
+#include "common/boxes.h"
+#include "common/printed_line.h"
+#include "gateway/answer.h"
+#include "gateway/commands.h"
+#include "gateway/failure_texts.h"
 #include "gateway/pega_valor.h"
 #include "platform/environment.h"
 #include "runtime/mask.h"
@@ -14,8 +18,8 @@ namespace tarn {
 namespace {
 
 constexpr std::int32_t priceSheetCompany = 1361;
-constexpr int sheetWidth = 77;
-constexpr int totalsColumn = 65;  // where the labels of the totals end
+constexpr std::size_t sheetWidth = 77;
+constexpr std::size_t totalsColumn = 65;  // where the labels of the totals end
 constexpr int totalWidth = 11;
 constexpr int amountWidth = 12;
 constexpr NumberMask twoPlaces{"##,###0.00"};
@@ -90,61 +94,21 @@ Item readItem(const XmlNode& line) {
     return item;
 }
 
-// One job, line by line. Nothing of a line goes out before out().
-class OrderSheet {
-public:
-    explicit OrderSheet(Environment& environment)
-        : channel_(environment.spooler, environment.codePage) {
-        channel_.open();
-    }
+void ruler(PrintedLine& sheet, char stroke) {
+    sheet.text(std::string(sheetWidth, stroke)).out();
+}
 
-    OrderSheet& text(std::string_view fixedText) {
-        line_ += fixedText;
-        return *this;
-    }
-    OrderSheet& blanks(int count) {
-        line_.append(static_cast<std::size_t>(count), ' ');
-        return *this;
-    }
-    OrderSheet& field(std::string_view value, int width) {
-        appendField(line_, value, width, false);
-        return *this;
-    }
-    OrderSheet& value(double number, const NumberMask& mask, int width) {
-        return alignRight(formatNumber(number, mask), width);
-    }
-    OrderSheet& inParentheses(double number, int width) {
-        return alignRight("(" + formatNumber(number, twoPlaces) + ")", width);
-    }
-    void out() {
-        channel_.ImprimeRaw(1, line_, 1);
-        line_.clear();
-    }
-
-    void ruler(char stroke) {
-        line_.append(sheetWidth, stroke);
-        out();
-    }
-    void blankLine() { blanks(sheetWidth).out(); }
-    void close() { channel_.close(); }
-
-private:
-    OrderSheet& alignRight(std::string_view value, int width) {
-        appendField(line_, value, width, true);
-        return *this;
-    }
-
-    RawChannel channel_;
-    std::string line_;
-};
+void blankLine(PrintedLine& sheet) {
+    sheet.blanks(sheetWidth).out();
+}
 
 std::string header(const XmlDocument& document, std::string_view name) {
     return PegaValor(document.selectSingleNode("PRINCIPAL"), 0, name);
 }
 
 // Quantity, code, description; what follows differs.
-OrderSheet& itemStart(OrderSheet& sheet, const Item& item) {
-    return sheet.value(item.quantity, threePlaces, 8)
+PrintedLine& itemStart(PrintedLine& sheet, const Item& item) {
+    return sheet.rightField(item.quantity, threePlaces, 8)
         .blanks(1)
         .field(item.code, 7)
         .blanks(1)
@@ -154,7 +118,7 @@ OrderSheet& itemStart(OrderSheet& sheet, const Item& item) {
 
 // Reads and prints the items in turn; returns their totals.
 template <typename EndOfLine>
-Values printItems(OrderSheet& sheet, const XmlDocument& document, EndOfLine endOfLine) {
+Values printItems(PrintedLine& sheet, const XmlDocument& document, EndOfLine endOfLine) {
     Values totals;
     const XmlNodeList lines = document.selectNodes("//ITEM");
     for (std::size_t i = 0; i < lines.length(); ++i) {
@@ -169,7 +133,7 @@ Values printItems(OrderSheet& sheet, const XmlDocument& document, EndOfLine endO
 
 // `titles` prints the two lines above the instalments, when there are any.
 template <typename Titles>
-void printParcels(OrderSheet& sheet, const XmlDocument& document, Titles titles) {
+void printParcels(PrintedLine& sheet, const XmlDocument& document, Titles titles) {
     const XmlNodeList lines = document.selectNodes("//PARCELA");
     if (lines.length() > 0) {
         titles();
@@ -180,26 +144,26 @@ void printParcels(OrderSheet& sheet, const XmlDocument& document, Titles titles)
         sheet.blanks(28)
             .field(due, 10)
             .blanks(1)
-            .value(value, twoPlaces, amountWidth)
+            .rightField(value, twoPlaces, amountWidth)
             .blanks(1)
             .out();
     }
 }
 
-void label(OrderSheet& sheet, std::string_view text) {
-    sheet.blanks(totalsColumn - static_cast<int>(text.size())).text(text);
+void label(PrintedLine& sheet, std::string_view text) {
+    sheet.blanks(totalsColumn - text.size()).text(text);
 }
 
-void printTotals(OrderSheet& sheet, const Values& totals) {
+void printTotals(PrintedLine& sheet, const Values& totals) {
     const auto total = [&sheet](std::string_view text, double value) {
         label(sheet, text);
-        sheet.value(value, twoPlaces, totalWidth).out();
+        sheet.rightField(value, twoPlaces, totalWidth).out();
     };
     // The closing bracket prints one column behind the digits of the other totals (decision
     // D45).
     const auto discount = [&sheet](std::string_view text, double value) {
         label(sheet, text);
-        sheet.inParentheses(value, amountWidth).out();
+        sheet.rightField("(" + formatNumber(value, twoPlaces) + ")", amountWidth).out();
     };
     discount("VALOR DE DESCONTO: ", totals.discount);
     total("VALOR DE IPI: ", totals.ipi);
@@ -212,60 +176,62 @@ void printTotals(OrderSheet& sheet, const Values& totals) {
     total("VALOR LIQUIDO: ", totals.orderNet());
 }
 
-void printPlainHeader(OrderSheet& sheet, const XmlDocument& document) {
+void printPlainHeader(PrintedLine& sheet, const XmlDocument& document) {
     sheet.out();
     sheet.text("                            ORDEM DE FATURAMENTO                             ")
         .out();
-    sheet.ruler('-');
+    ruler(sheet, '-');
     sheet.text("Cliente:  ").field(header(document, "RAZAO"), 50).blanks(1);
     sheet.text("Data: ").field(header(document, "DT_EMS_NF"), 10).out();
     sheet.text("Vendedor: ").field(header(document, "VENDEDOR"), 67).out();
     sheet.text("                                  PRODUTOS                                   ")
         .out();
-    sheet.ruler('-');
+    ruler(sheet, '-');
     sheet.text("  QTDE    CODIGO         DESCRICAO DO PRODUTO          UNITARIO   VLR.BRUTO  ")
         .out();
     sheet.text("-------- ------- ------------------------------------ ---------- ------------")
         .out();
 }
 
-void printPriceHeader(OrderSheet& sheet, const XmlDocument& document) {
+void printPriceHeader(PrintedLine& sheet, const XmlDocument& document) {
     sheet.out();
     const std::string control = header(document, "NR_CTRL_INT");
     if (control != "0") {
         sheet.field(control, 40);
     }
     sheet.out();
-    sheet.ruler('-');
+    ruler(sheet, '-');
     sheet.field(header(document, "RAZAO"), 50).blanks(17);
     sheet.field(header(document, "DT_EMS_NF"), 10).out();
     sheet.field(header(document, "VENDEDOR"), 67).out();
-    sheet.blankLine();
-    sheet.ruler('-');
+    blankLine(sheet);
+    ruler(sheet, '-');
 }
 
-void printObservations(OrderSheet& sheet) {
+void printObservations(PrintedLine& sheet) {
     constexpr int linesToWrite = 4;
-    sheet.blankLine();
-    sheet.blankLine();
+    blankLine(sheet);
+    blankLine(sheet);
     sheet.text("OBS:_________________________________________________________________________")
         .out();
     for (int i = 0; i < linesToWrite; ++i) {
-        sheet.blankLine();
-        sheet.ruler('_');
+        blankLine(sheet);
+        ruler(sheet, '_');
     }
 }
 
 }  // namespace
 
 void ImprimeOrdemFaturamento(Environment& environment, XmlDocument& document) {
-    OrderSheet sheet(environment);
+    RawChannel channel(environment.spooler, environment.codePage);
+    channel.open();
+    PrintedLine sheet(channel);
     printPlainHeader(sheet, document);
     const Values totals = printItems(sheet, document, [&sheet](const Item& item) {
-        sheet.value(item.unitPrice, twoPlaces, 10).blanks(1);
-        sheet.value(item.values.gross, twoPlaces, totalWidth);
+        sheet.rightField(item.unitPrice, twoPlaces, 10).blanks(1);
+        sheet.rightField(item.values.gross, twoPlaces, totalWidth);
     });
-    sheet.ruler('-');
+    ruler(sheet, '-');
     printTotals(sheet, totals);
     printParcels(sheet, document, [&sheet] {
         sheet.text("                        VENCTO PREVISTO      VALOR                           ")
@@ -273,29 +239,31 @@ void ImprimeOrdemFaturamento(Environment& environment, XmlDocument& document) {
         sheet.text("                      ------------------- -------------                      ")
             .out();
     });
-    sheet.close();
+    channel.close();
     document = XmlDocument();
 }
 
 void ImprimeOrdemFaturamentoPreco(Environment& environment, XmlDocument& document) {
-    OrderSheet sheet(environment);
+    RawChannel channel(environment.spooler, environment.codePage);
+    channel.open();
+    PrintedLine sheet(channel);
     printPriceHeader(sheet, document);
     const Values totals = printItems(sheet, document, [&sheet](const Item& item) {
-        sheet.value(item.unitPrice, threePlaces, 10).blanks(1);
-        sheet.value(item.values.itemNet(), twoPlaces, amountWidth);
+        sheet.rightField(item.unitPrice, threePlaces, 10).blanks(1);
+        sheet.rightField(item.values.itemNet(), twoPlaces, amountWidth);
     });
-    sheet.ruler('-');
-    sheet.blanks(totalsColumn).value(totals.discount, twoPlaces, amountWidth).out();
+    ruler(sheet, '-');
+    sheet.blanks(totalsColumn).rightField(totals.discount, twoPlaces, amountWidth).out();
     sheet.blanks(60).text("-----------------").out();
     sheet.blanks(totalsColumn);
-    sheet.value(totals.orderNet(), twoPlaces, amountWidth).out();
+    sheet.rightField(totals.orderNet(), twoPlaces, amountWidth).out();
     printParcels(sheet, document, [&sheet] {
-        sheet.blankLine();
+        blankLine(sheet);
         sheet.text("                         ---------------- -------------                      ")
             .out();
     });
     printObservations(sheet);
-    sheet.close();
+    channel.close();
     document = XmlDocument();
 }
 
@@ -304,6 +272,20 @@ void printOrder(Environment& environment, const Sessao& session, XmlDocument& do
         ImprimeOrdemFaturamentoPreco(environment, document);
     } else {
         ImprimeOrdemFaturamento(environment, document);
+    }
+}
+
+void printSelectedOrder(Environment& environment, const Sessao& session, const std::string& order) {
+    const std::string problem =
+        "Houve um problema na transferência dos dados da Ordem de Faturamento nº " + order + ".";
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::sel_impr_ordem_fatu(session, order), document,
+                       failure::Tarn0012)) {
+        warn(environment, problem, box_title::notice);
+        return;
+    }
+    if (answerAccepted(environment, document, problem + " ")) {
+        printOrder(environment, session, document);
     }
 }
 

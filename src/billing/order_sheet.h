@@ -2,6 +2,8 @@
 // note is generated: 77 columns on plain paper, one raw job, no page break.
 #pragma once
 
+#include <string>
+
 #include "gateway/sessao.h"
 #include "gateway/xml_document.h"
 
@@ -20,5 +22,9 @@ void ImprimeOrdemFaturamentoPreco(Environment& environment, XmlDocument& documen
 
 // The one of the two that the company uses.
 void printOrder(Environment& environment, const Sessao& session, XmlDocument& document);
+
+// From the selected order to its sheet on paper: fetches the order's document and prints
+// it; every failure to have it is shown.
+void printSelectedOrder(Environment& environment, const Sessao& session, const std::string& order);
 
 }  // namespace tarn

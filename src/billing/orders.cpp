@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "common/boxes.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
@@ -31,11 +32,27 @@ constexpr auto grid = gridOf<OrderColumn>(
      {OrderColumn::GrossWeight, {"PESO_BRU", "", 17, Treatment::Quantity, "Peso bruto"}},
      {OrderColumn::NetWeight, {"PESO_LIQ", "", 17, Treatment::Quantity, "Peso líquido"}}});
 
+// What is tested of one field, and the two refusals.
+struct FieldTest {
+    OrderField field;
+    std::string commands::OrderData::*value;
+    std::string_view empty;
+    std::string_view negative;
+};
+
+constexpr std::array<FieldTest, 3> fieldTests{
+    {{OrderField::Quantity, &commands::OrderData::quantity,
+      "Quantidade Espécie é obrigatório!     ", "Quantidade Espécie inválido!     "},
+     {OrderField::GrossWeight, &commands::OrderData::grossWeight, "Peso Bruto é obrigatório!     ",
+      "Peso Bruto inválido!     "},
+     {OrderField::NetWeight, &commands::OrderData::netWeight, "Peso Líquido é obrigatório!     ",
+      "Peso Líquido inválido!     "}}};
+
 bool confirm(Environment& environment, const std::string& order) {
     const BoxAnswer answer = environment.boxes.show(
         {.text = "Confirma o cancelamento da Ordem de Faturamento nº " + order + " ?     ",
          .icon = BoxIcon::Question,
-         .title = "Aviso",
+         .title = std::string(box_title::notice),
          .buttons = BoxButtons::YesNo});
     return answer == BoxAnswer::Yes;
 }
@@ -70,7 +87,7 @@ bool cancelOrder(Environment& environment, const Sessao& session, const GridRow&
                        document, failure::Tarn0003)) {
         warn(environment,
              "Favor verificar se a Ordem de Faturamento nº " + number + " foi cancelada. ",
-             "Aviso");
+             box_title::notice);
         return false;
     }
     const std::string problem =
@@ -78,10 +95,33 @@ bool cancelOrder(Environment& environment, const Sessao& session, const GridRow&
     if (!answerAccepted(environment, document, problem)) {
         return false;
     }
-    environment.boxes.show({.text = "Ordem de Faturamento cancelada.      ",
-                            .icon = BoxIcon::Information,
-                            .title = "Aviso "});
+    inform(environment, "Ordem de Faturamento cancelada.      ", "Aviso ");
     return true;
+}
+
+std::optional<Refusal<OrderField>> dataRefusal(const commands::OrderData& data) {
+    for (const FieldTest& test : fieldTests) {
+        const std::string_view value = data.*test.value;
+        if (value.empty()) {
+            return Refusal<OrderField>{test.field, std::string(test.empty)};
+        }
+        if (readComma(value) < 0) {
+            return Refusal<OrderField>{test.field, std::string(test.negative)};
+        }
+    }
+    return std::nullopt;
+}
+
+bool saveOrder(Environment& environment, const Sessao& session, const commands::OrderData& data) {
+    XmlDocument document;
+    if (!requestAnswer(environment, commands::MANUTENCAO_OFT(session, data), document,
+                       failure::Tarn0013)) {
+        warn(environment, "Favor verificar se os dados da Ordem de Faturamento foi gravado. ",
+             box_title::notice);
+        return true;
+    }
+    return answerAccepted(environment, document,
+                          "Houve um problema para gravar a Ordem de Faturamento. ");
 }
 
 }  // namespace tarn

@@ -1,5 +1,8 @@
+#include "bills/bill_page.h"
+
 #include "bills/bill_search.h"
-#include "bills/pages.h"
+#include "common/drawn_text.h"
+#include "runtime/text.h"
 
 namespace tarn {
 namespace {
@@ -109,6 +112,47 @@ void acceptance(BillPage& paper, const Issuer& issuer) {
 }
 
 }  // namespace
+
+void BillPage::ImprimeLinha(std::string_view text, double x, double y, double size, bool bold,
+                            std::string_view font) {
+    drawText(run_.printer(), text, x, y, {.name = font, .size = size, .bold = bold});
+}
+
+void BillPage::drawLine(double x1, double y1, double x2, double y2, int width) {
+    run_.printer().DrawWidth = width;
+    run_.check(run_.printer().Line(x1, y1, x2, y2));
+}
+
+void BillPage::picture(const std::optional<Picture>& which, double x, double y) {
+    if (which) {
+        run_.check(run_.printer().PaintPicture(*which, x, y));
+    }
+}
+
+void drawHeader(BillPage& paper, const Issuer& issuer, const GridRow& document,
+                const PageHeader& header) {
+    const CompanyData& data = issuer.data;
+    paper.drawLine(leftMargin, 0.9, rightMargin, 0.9, 15);
+    paper.picture(issuer.pictures.picLogo, 1.6, 1.3);
+    paper.ImprimeLinha(data.DC_RAZ_SOC_ETB, 11, 1.6, 9);
+    paper.ImprimeLinha(data.DC_LG + " - " + " - " + data.NM_BRR, 11, 2.0, 6);
+    paper.ImprimeLinha("CEP: " + data.CD_CEP + header.place, 11, 2.4, 6);
+    paper.ImprimeLinha("Inscrição " + data.federalNumber, 11, 2.8, 6);
+    paper.ImprimeLinha("Inscrição Estadual - " + data.CD_ICR_EST, 11, 3.2, 6);
+    paper.ImprimeLinha("TEL.:" + data.TELEFONE + " - FAX.:" + data.FAX + " - E-MAIL:" + data.EMAIL,
+                       11, 3.6, 6);
+    paper.ImprimeLinha(header.issuedLabel, 11, 4.0, 8);
+    paper.ImprimeLinha(document.text(BillColumn::Issued), 14.3, 4.0, 8);
+}
+
+void drawPieces(BillPage& paper, std::string_view strip, std::size_t characters, double x,
+                std::initializer_list<double> heights, double size) {
+    std::size_t start = 1;
+    for (const double y : heights) {
+        paper.ImprimeLinha(midOf(strip, start, characters), x, y, size, true, "Courier New");
+        start += characters;
+    }
+}
 
 void drawBill(BillPage& paper, const Issuer& issuer, const GridRow& document,
               const std::string& inWords) {

@@ -45,12 +45,14 @@ std::vector<ListItem> documentKinds() {
     return {{"-------------", 0}, {"DUPLICATA", billKind}, {"RECIBO", receiptKind}};
 }
 
-std::optional<SearchRefusal> searchRefusal(int kindPosition, std::string_view dueTo) {
+std::optional<Refusal<BillSearchField>> searchRefusal(int kindPosition, std::string_view dueTo) {
     if (kindPosition <= 0) {
-        return SearchRefusal{"Tipo de Documento Obrigatório.     ", BillSearchField::DocumentKind};
+        return Refusal<BillSearchField>{BillSearchField::DocumentKind,
+                                        "Tipo de Documento Obrigatório.     "};
     }
     if (dueTo.empty()) {
-        return SearchRefusal{"Data de Vencimento Obrigatória.     ", BillSearchField::DueTo};
+        return Refusal<BillSearchField>{BillSearchField::DueTo,
+                                        "Data de Vencimento Obrigatória.     "};
     }
     return std::nullopt;
 }

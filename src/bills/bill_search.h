@@ -10,6 +10,7 @@
 
 #include "common/grid_rows.h"
 #include "common/list_items.h"
+#include "common/refusal.h"
 #include "gateway/commands.h"
 
 namespace tarn {
@@ -52,13 +53,9 @@ inline constexpr std::int32_t billKind = 1;  // item data of cboTpDocto
 // The fixed items of cboTpDocto; the first one is no kind of document.
 std::vector<ListItem> documentKinds();
 
-// Why a search isn't sent: what the box says, and where the focus goes.
+// Why a search isn't sent.
 enum class BillSearchField { DocumentKind, DueTo };
-struct SearchRefusal {
-    std::string_view text;
-    BillSearchField field;
-};
-std::optional<SearchRefusal> searchRefusal(int kindPosition, std::string_view dueTo);
+std::optional<Refusal<BillSearchField>> searchRefusal(int kindPosition, std::string_view dueTo);
 
 // The rows of the grid; nothing when the request failed (the user has been told).
 std::optional<std::vector<GridRow>> searchBills(Environment& environment, const Sessao& session,

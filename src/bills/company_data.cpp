@@ -1,11 +1,33 @@
 #include "bills/company_data.h"
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
 #include "common/tax_number.h"
 #include "gateway/answer.h"
 #include "gateway/pega_valor.h"
 #include "runtime/runtime_error.h"
 
 namespace tarn {
+namespace {
+
+std::optional<Picture> pictureOf(const std::string& folder, const char* file, const char* name) {
+    const std::filesystem::path path = std::filesystem::path(folder) / file;
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(path, failure)) {
+        return std::nullopt;
+    }
+    std::ifstream input(path, std::ios::binary);
+    std::string bytes((std::istreambuf_iterator<char>(input)), std::istreambuf_iterator<char>());
+    if (!input || bytes.empty()) {
+        return std::nullopt;
+    }
+    return Picture(name, std::move(bytes));
+}
+
+}  // namespace
 
 CompanyData companyDataOf(const XmlDocument& answer) {
     if (rowsOf(answer).length() == 0) {
@@ -29,6 +51,12 @@ CompanyData companyDataOf(const XmlDocument& answer) {
             .EMAIL = field("EMAIL"),
             .federalNumber = (naturalPerson ? "CPF nº " : "CNPJ nº ") +
                              cpfCnpj(naturalPerson, field("NR_CGC_CPL"))};
+}
+
+BillPictures loadPictures(const std::string& folder) {
+    return {.picLogo = pictureOf(folder, "LOGODUPL.jpg", "picLogo"),
+            .picVert = pictureOf(folder, "VERTDUPL.jpg", "picVert"),
+            .picAss = pictureOf(folder, "ASSEMITENTE.jpg", "picAss")};
 }
 
 }  // namespace tarn

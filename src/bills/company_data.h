@@ -1,7 +1,10 @@
-// The company whose name and address head each page.
+// The company whose name and address head each page, and the three pictures of a page.
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include "platform/print_operation.h"
 
 namespace tarn {
 
@@ -26,5 +29,16 @@ struct CompanyData {
 // The first row of the answer; an absent field is empty. ObjectVariable when there is
 // no row, or a field is there in another case of letters only.
 CompanyData companyDataOf(const XmlDocument& answer);
+
+// Without its file a picture is nothing, and the page has none there.
+struct BillPictures {
+    std::optional<Picture> picLogo;
+    std::optional<Picture> picVert;
+    std::optional<Picture> picAss;
+};
+
+// LOGODUPL.jpg, VERTDUPL.jpg and ASSEMITENTE.jpg of that folder. A file that can't be
+// read is no failure.
+BillPictures loadPictures(const std::string& folder);
 
 }  // namespace tarn

@@ -6,14 +6,13 @@
 
 #include "bills/bill_search.h"
 #include "bills/print_bills.h"
-#include "platform/message_boxes.h"
+#include "common/boxes.h"
 #include "ui_frm_pesq_dupli.h"
-#include "widgets/combo_items.h"
 #include "widgets/enter_presses_button.h"
+#include "widgets/form_helpers.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 #include "widgets/progress_window.h"
-#include "widgets/search_fields.h"
 
 namespace tarn {
 namespace {
@@ -116,9 +115,9 @@ void FrmPesqDupli::cmdPesqCli_Click() {
 void FrmPesqDupli::cmdPesquisar_Click() {
     const std::string dueTo = ui_->txtDtVncAte->text().toStdString();
     if (const auto refuse = searchRefusal(ui_->cboTpDocto->currentIndex(), dueTo)) {
-        desk_.environment.boxes.show({std::string(refuse->text), BoxIcon::Information, "TArn"});
-        const bool kind = refuse->field == BillSearchField::DocumentKind;
-        (kind ? static_cast<QWidget*>(ui_->cboTpDocto) : ui_->txtDtVncAte)->setFocus();
+        inform(desk_.environment, refuse->text);
+        focusField(refuse->field, {{BillSearchField::DocumentKind, ui_->cboTpDocto},
+                                   {BillSearchField::DueTo, ui_->txtDtVncAte}});
         return;
     }
     const std::int32_t kind = currentItemData(*ui_->cboTpDocto);

@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <memory>
 
-#include "bills/bill_pictures.h"
+#include "bills/company_data.h"
 #include "customers/procura_cliente.h"
 #include "widgets/desk_context.h"
 

@@ -4,16 +4,15 @@
 #include <array>
 #include <span>
 
-#include "bills/bill_paper.h"
+#include "bills/bill_page.h"
 #include "bills/bill_search.h"
-#include "bills/pages.h"
-#include "common/printer_failure.h"
+#include "bills/receipt_page.h"
+#include "common/boxes.h"
 #include "common/valor_extenso.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
 #include "platform/environment.h"
-#include "platform/message_boxes.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 
@@ -47,11 +46,6 @@ void draw(BillPage& paper, const Issuer& issuer, const GridRow& document) {
     } else {
         drawReceipt(paper, issuer, document, inWords);
     }
-    paper.newPage();  // also behind the last page: decision D57
-}
-
-void inform(Environment& environment, const std::string& text) {
-    environment.boxes.show({.text = text, .icon = BoxIcon::Information, .title = "TArn"});
 }
 
 // By the last row, ticked or not, and with two blanks inside: decision D62.
@@ -85,23 +79,21 @@ void printBills(Environment& environment, std::int32_t company, const XmlDocumen
     if (pages == 0) {
         return inform(environment, "Selecione um documento.     ");
     }
-    const auto report = [&progress, pages](std::size_t done) {
-        if (progress) {
-            progress(done, pages);
-        }
-    };
-    report(0);
-    BillPage paper(environment.printer);
-    paper.prepare();
+    if (progress) {
+        progress(0, pages);
+    }
+    DrawnRun run(environment);
+    run.printer().setCopies(1);
+    BillPage paper(run);
     for (const GridRow& document : documents.lines) {
         if (document.ticked) {
             draw(paper, issuer, document);
+            run.newPage();  // also behind the last page: decision D57
         }
     }
-    paper.finish(progress);
-    report(pages);
-    if (paper.failure()) {
-        return showFailure(environment, *paper.failure());
+    run.endDocument(progress, pages);
+    if (run.failed()) {
+        return;
     }
     inform(environment, finalMessage(documents));
 }

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "bills/bill_pictures.h"
+#include "bills/company_data.h"
 #include "common/grid_rows.h"
 #include "platform/progress.h"
 
@@ -26,7 +26,7 @@ void printSelected(Environment& environment, const Sessao& session, const BillRu
 
 // The same with the company's data at hand. A ticked row without an amount raises
 // TypeMismatch before its page, and the document is never ended. Where the printer
-// fails at more than a text the user reads its words instead of the success.
+// fails at more than a text the user has read its words and no success follows.
 void printBills(Environment& environment, std::int32_t company, const XmlDocument& companyData,
                 const BillRun& documents, const Progress& progress);
 

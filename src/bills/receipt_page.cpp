@@ -1,5 +1,6 @@
+#include "bills/receipt_page.h"
+
 #include "bills/bill_search.h"
-#include "bills/pages.h"
 
 namespace tarn {
 namespace {

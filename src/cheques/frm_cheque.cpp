@@ -4,10 +4,11 @@
 #include <QKeyEvent>
 #include <utility>
 
-#include "gateway/answer.h"
+#include "common/boxes.h"
 #include "ui_frm_cheque.h"
 #include "widgets/enter_presses_button.h"
 #include "widgets/field_families.h"
+#include "widgets/form_helpers.h"
 #include "widgets/look.h"
 
 namespace tarn {
@@ -114,28 +115,15 @@ ChequeFields frmCheque::fields() const {
     return fields;
 }
 
-QWidget& frmCheque::field(ChequeField which) const {
-    switch (which) {
-        case ChequeField::Number:
-            return *ui_->txtNumeroCheque;
-        case ChequeField::Series:
-            return *ui_->txtSerie;
-        case ChequeField::Amount:
-            return *ui_->txtValor;
-        case ChequeField::Payee:
-            return *ui_->txtFavorecido;
-        case ChequeField::DepositDate:
-            return *ui_->txtDtDeposito;
-        case ChequeField::Account:
-            break;
-    }
-    return *ui_->cboBancoAgConta;
-}
-
 bool frmCheque::refused(const std::optional<ChequeRefusal>& refuse) {
     if (refuse) {
         warn(desk_.environment, refuse->text);
-        field(refuse->field).setFocus();
+        focusField(refuse->field, {{ChequeField::Account, ui_->cboBancoAgConta},
+                                   {ChequeField::Number, ui_->txtNumeroCheque},
+                                   {ChequeField::Series, ui_->txtSerie},
+                                   {ChequeField::Amount, ui_->txtValor},
+                                   {ChequeField::Payee, ui_->txtFavorecido},
+                                   {ChequeField::DepositDate, ui_->txtDtDeposito}});
     }
     return refuse.has_value();
 }

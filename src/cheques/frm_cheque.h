@@ -37,7 +37,6 @@ private:
     void Carrega_CboBancoAgConta();
 
     ChequeFields fields() const;
-    QWidget& field(ChequeField which) const;
     // Whether there is a refusal; the user is told.
     bool refused(const std::optional<ChequeRefusal>& refuse);
     void clearFields();

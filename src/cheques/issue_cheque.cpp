@@ -1,13 +1,13 @@
 #include "cheques/issue_cheque.h"
 
 #include "cheques/imprime_cheque.h"
+#include "common/boxes.h"
 #include "common/list_items.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
 #include "gateway/pega_valor.h"
 #include "platform/environment.h"
-#include "platform/message_boxes.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 #include "runtime/text.h"
@@ -158,9 +158,7 @@ bool chequeRecorded(Environment& environment, const XmlDocument& answer) {
                         "Houve um problema para gravar cheque no banco de dados. ")) {
         return false;
     }
-    environment.boxes.show({.text = "Cheque emitido com sucesso!     ",
-                            .icon = BoxIcon::Information,
-                            .title = "TArn"});
+    inform(environment, "Cheque emitido com sucesso!     ");
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "common/refusal.h"
 #include "gateway/sessao.h"
 #include "gateway/xml_document.h"
 
@@ -40,11 +41,7 @@ struct ChequeFields {
 };
 
 enum class ChequeField { Account, Number, Series, Amount, Payee, DepositDate };
-
-struct ChequeRefusal {
-    ChequeField field;  // where the focus goes
-    std::string text;   // of the box
-};
+using ChequeRefusal = Refusal<ChequeField>;
 
 // The first test that fails. The server isn't asked. An amount that is no number
 // raises TypeMismatch.

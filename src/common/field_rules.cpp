@@ -1,5 +1,6 @@
 #include "common/field_rules.h"
 
+#include "common/boxes.h"
 #include "platform/machine.h"
 #include "runtime/mask.h"
 #include "runtime/numbers.h"
@@ -46,10 +47,11 @@ std::string yearOf(std::string_view typed, const Date& today) {
 }
 
 FieldResult refusedQuantity(std::string_view message) {
-    return {
-        .text = "0,000",
-        .box = Box{.text = std::string(message), .icon = BoxIcon::Information, .title = "Atenção"},
-        .refocus = true};
+    return {.text = "0,000",
+            .box = Box{.text = std::string(message),
+                       .icon = BoxIcon::Information,
+                       .title = std::string(box_title::attention)},
+            .refocus = true};
 }
 
 }  // namespace
@@ -79,10 +81,11 @@ std::string dateOnLeave(std::string_view text, const Date& today) {
 FieldResult testedDateOnLeave(std::string_view text, const Date& today) {
     FieldResult result{.text = dateOnLeave(text, today), .box = {}};
     if (!result.text.empty() && !parseStrictDate(result.text)) {
-        result = {
-            .text = "",
-            .box = Box{.text = "Data Inválida.      ", .icon = BoxIcon::Critical, .title = "Aviso"},
-            .refocus = true};
+        result = {.text = "",
+                  .box = Box{.text = "Data Inválida.      ",
+                             .icon = BoxIcon::Critical,
+                             .title = std::string(box_title::notice)},
+                  .refocus = true};
     }
     return result;
 }

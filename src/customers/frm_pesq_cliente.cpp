@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/message_boxes.h"
+#include "common/boxes.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_pesq_cliente.h"
 #include "widgets/grid_model.h"
@@ -61,8 +61,8 @@ void FrmPesqCliente::cmdPesquisar_Click() {
 
 void FrmPesqCliente::cmdSelecionar_Click() {
     if (customers_->rowCount() == 0) {
-        desk_.environment.boxes.show(
-            {"Faça uma pesquisa para selecionar um cliente.     ", BoxIcon::Information, "Aviso"});
+        inform(desk_.environment, "Faça uma pesquisa para selecionar um cliente.     ",
+               box_title::notice);
         return;
     }
     const QModelIndex activate = ui_->sprDados->currentIndex();

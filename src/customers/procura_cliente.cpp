@@ -2,11 +2,11 @@
 
 #include <utility>
 
+#include "common/boxes.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
 #include "platform/environment.h"
-#include "platform/message_boxes.h"
 #include "runtime/text.h"
 
 namespace tarn {
@@ -19,10 +19,6 @@ constexpr auto grid =
                             {CustomerColumn::CompanyKind, {"DC_TIP_EMP", "Tipo de Empresa", 26}},
                             {CustomerColumn::Id, {"ID_PES_CLI", "ID_PES_CLI", 14}},
                             {CustomerColumn::Establishment, {"", "ID_ETB_CLI", 14}}});
-
-void inform(Environment& environment, const std::string& text) {
-    environment.boxes.show({.text = text, .icon = BoxIcon::Information, .title = "Aviso"});
-}
 
 }  // namespace
 
@@ -43,7 +39,7 @@ std::vector<GridRow> customerRows(const XmlDocument& answer) {
 bool searchCustomer(Environment& environment, const Sessao& session, const std::string& text,
                     const ShowCustomers& show) {
     if (lengthOf(trimBlanks(text)) < smallestName) {
-        inform(environment, "Nome do cliente deve ter no mínimo 3 letras.    ");
+        inform(environment, "Nome do cliente deve ter no mínimo 3 letras.    ", box_title::notice);
         return false;
     }
     XmlDocument answer;
@@ -54,7 +50,7 @@ bool searchCustomer(Environment& environment, const Sessao& session, const std::
     const bool none = lines.empty();
     show(std::move(lines));
     if (none) {
-        inform(environment, "Pesquisa nao encontrou nenhum registro.     ");
+        inform(environment, "Pesquisa nao encontrou nenhum registro.     ", box_title::notice);
     }
     return true;
 }

@@ -5,7 +5,7 @@
 #include <QMainWindow>
 #include <memory>
 
-#include "labels/label_values.h"
+#include "labels/queue.h"
 #include "widgets/desk_context.h"
 
 class QAction;

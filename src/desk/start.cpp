@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "common/boxes.h"
 #include "gateway/answer.h"
 #include "gateway/carrega_xml.h"
 #include "gateway/commands.h"
@@ -9,7 +10,6 @@
 #include "gateway/pega_valor.h"
 #include "platform/environment.h"
 #include "platform/machine.h"
-#include "platform/message_boxes.h"
 #include "runtime/dates.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
@@ -58,7 +58,7 @@ bool filledIn(Environment& environment, const std::string& value, const std::str
     if (!value.empty()) {
         return true;
     }
-    warn(environment, field + " é um campo obrigatório     ", "Aviso");
+    warn(environment, field + " é um campo obrigatório     ", box_title::notice);
     return false;
 }
 
@@ -98,7 +98,7 @@ bool VerVersao(Environment& environment, Sessao& session, std::string_view versi
         session.VersaoServidor = asYearMonthDay(versionAttribute(document, 1));
         return true;
     }
-    environment.boxes.show({.text = outdatedText(version), .icon = BoxIcon::Information});
+    inform(environment, outdatedText(version), box_title::standard);
     return false;
 }
 
@@ -106,8 +106,7 @@ bool imposeDateFormat(Environment& environment) {
     if (environment.machine.setShortDateFormat("dd/MM/yyyy")) {
         return true;
     }
-    environment.boxes.show(
-        {.text = std::string(dateFormatText), .icon = BoxIcon::Information, .title = "TArn"});
+    inform(environment, std::string(dateFormatText));
     return false;
 }
 

@@ -5,6 +5,13 @@
 #include "platform/message_boxes.h"
 
 namespace tarn {
+namespace {
+
+void warn(Environment& environment, const std::string& text) {
+    environment.boxes.show({.text = text, .icon = BoxIcon::Exclamation});
+}
+
+}  // namespace
 
 bool requestAnswer(Environment& environment, const std::string& query, XmlDocument& document,
                    std::string_view failureMessage) {
@@ -37,14 +44,6 @@ XmlNode rowsetOf(const XmlDocument& answer) {
 XmlNodeList rowsOf(const XmlDocument& answer) {
     const XmlNode rowset = rowsetOf(answer);
     return rowset ? rowset.childNodes() : XmlNodeList();
-}
-
-void warn(Environment& environment, const std::string& text) {
-    environment.boxes.show({.text = text, .icon = BoxIcon::Exclamation});
-}
-
-void warn(Environment& environment, const std::string& text, const std::string& title) {
-    environment.boxes.show({.text = text, .icon = BoxIcon::Exclamation, .title = title});
 }
 
 }  // namespace tarn

@@ -28,8 +28,4 @@ XmlNode rowsetOf(const XmlDocument& answer);
 // Its rows; none for any other answer.
 XmlNodeList rowsOf(const XmlDocument& answer);
 
-// A box with the exclamation icon, by default without a title of its own.
-void warn(Environment& environment, const std::string& text);
-void warn(Environment& environment, const std::string& text, const std::string& title);
-
 }  // namespace tarn

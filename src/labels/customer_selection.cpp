@@ -1,9 +1,10 @@
 #include "labels/customer_selection.h"
 
+#include <algorithm>
+
+#include "common/boxes.h"
 #include "gateway/answer.h"
 #include "gateway/failure_texts.h"
-#include "platform/environment.h"
-#include "platform/message_boxes.h"
 
 namespace tarn::labels {
 namespace {
@@ -59,15 +60,16 @@ std::string MontaURL(std::span<const std::int32_t> data, int position) {
     return text;
 }
 
-MissingDate checkDates(Environment& environment, const commands::LabelFilter& filter) {
-    const bool needs = !filter.product.empty() || !filter.amountFrom.empty() ||
-                       !filter.amountTo.empty() || !filter.quantityFrom.empty() ||
-                       !filter.quantityTo.empty();
+std::optional<Refusal<SaleDate>> dateRefusal(const commands::LabelFilter& filter) {
+    const auto sales = {filter.product, filter.amountFrom, filter.amountTo, filter.quantityFrom,
+                        filter.quantityTo};
+    const bool needs = std::any_of(sales.begin(), sales.end(),
+                                   [](const std::string& text) { return !text.empty(); });
     if (!needs || (!filter.saleFrom.empty() && !filter.saleTo.empty())) {
-        return MissingDate::None;
+        return std::nullopt;
     }
-    environment.boxes.show({.text = "Data de Venda obrigatoria nesta ocasião!", .title = "Alert"});
-    return filter.saleFrom.empty() ? MissingDate::De : MissingDate::To;
+    return Refusal<SaleDate>{filter.saleFrom.empty() ? SaleDate::From : SaleDate::To,
+                             "Data de Venda obrigatoria nesta ocasião!"};
 }
 
 std::span<const GridColumn> selectionGrid() {
@@ -81,7 +83,7 @@ std::vector<GridRow> customersOf(const XmlDocument& answer) {
 std::vector<GridRow> searchCustomers(Environment& environment, const Sessao& session,
                                      const commands::LabelFilter& filter) {
     const std::string query = commands::sel_dados_etq(session, filter);
-    environment.boxes.show({.text = query});
+    tell(environment, query);
     XmlDocument answer;
     if (!requestAnswer(environment, query, answer, failure::Tarn0009Wide)) {
         return {};

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "common/grid_rows.h"
 #include "common/list_items.h"
+#include "common/refusal.h"
 #include "gateway/commands.h"
 
 namespace tarn {
@@ -32,10 +34,9 @@ std::vector<ListItem> loadTowns(Environment& environment, const Sessao& session,
 // empty list has no position and gives the empty text.
 std::string MontaURL(std::span<const std::int32_t> data, int position);
 
-// Before a search: the sale's date that the other filters ask for and that the user, who
-// has been told, must fill in first.
-enum class MissingDate { None, De, To };
-MissingDate checkDates(Environment& environment, const commands::LabelFilter& filter);
+// Before a search: the sale's date that the other filters ask for.
+enum class SaleDate { From, To };
+std::optional<Refusal<SaleDate>> dateRefusal(const commands::LabelFilter& filter);
 
 // A customer is a row of the grid; its tick is the user's own.
 enum class SelectionColumn { Tick, PostalCode, Name, Address, District, State, Town, End };

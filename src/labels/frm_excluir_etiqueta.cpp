@@ -3,12 +3,12 @@
 #include <QKeyEvent>
 #include <QShowEvent>
 
-#include "labels/deletion.h"
-#include "labels/label_values.h"
+#include "common/boxes.h"
+#include "labels/queue.h"
 #include "ui_frm_excluir_etiqueta.h"
-#include "widgets/combo_items.h"
 #include "widgets/enter_presses_button.h"
 #include "widgets/field_controller.h"
+#include "widgets/form_helpers.h"
 #include "widgets/look.h"
 
 namespace tarn {
@@ -47,19 +47,13 @@ void frmExcluirEtiqueta::activate() {
 void frmExcluirEtiqueta::cmdOk_Click() {
     const std::string from = ui_->txtDe->text().toStdString();
     const std::string to = ui_->txtAte->text().toStdString();
-    switch (
-        labels::deleteLabels(desk_.environment, desk_.session, values_.MotivoImpressao, from, to)) {
-        case labels::Deletion::MissingFrom:
-            ui_->txtDe->setFocus();
-            break;
-        case labels::Deletion::MissingTo:
-            ui_->txtAte->setFocus();
-            break;
-        case labels::Deletion::NotANumber:
-            break;
-        case labels::Deletion::Sent:
-            accept();
-            break;
+    if (const auto refusal = labels::rangeRefusal(from, to)) {
+        inform(desk_.environment, refusal->text);
+        return focusField(refusal->field, {{labels::RangeField::From, ui_->txtDe},
+                                           {labels::RangeField::To, ui_->txtAte}});
+    }
+    if (labels::deleteLabels(desk_.environment, desk_.session, values_.MotivoImpressao, from, to)) {
+        accept();
     }
 }
 

@@ -4,13 +4,14 @@
 #include <algorithm>
 #include <vector>
 
+#include "common/boxes.h"
 #include "labels/customer_selection.h"
 #include "labels/print_selection.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_impr_etiq.h"
-#include "widgets/combo_items.h"
 #include "widgets/enter_presses_button.h"
 #include "widgets/field_families.h"
+#include "widgets/form_helpers.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 #include "widgets/look.h"
@@ -135,15 +136,10 @@ void FrmImprEtiq::cmdPesquisar_Click() {
                                        .quantityFrom = text(ui_->txtQtde),
                                        .quantityTo = text(ui_->txtQtAte),
                                        .byPostalCode = ui_->optCep->isChecked()};
-    switch (labels::checkDates(desk_.environment, filter)) {
-        case labels::MissingDate::De:
-            ui_->txtDtVndDe->setFocus();
-            return;
-        case labels::MissingDate::To:
-            ui_->txtDtVndAte->setFocus();
-            return;
-        case labels::MissingDate::None:
-            break;
+    if (const auto refusal = labels::dateRefusal(filter)) {
+        tell(desk_.environment, refusal->text, "Alert");
+        return focusField(refusal->field, {{labels::SaleDate::From, ui_->txtDtVndDe},
+                                           {labels::SaleDate::To, ui_->txtDtVndAte}});
     }
     customers_->show(labels::searchCustomers(desk_.environment, desk_.session, filter));
 }

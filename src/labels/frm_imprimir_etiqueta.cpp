@@ -3,12 +3,12 @@
 #include <QKeyEvent>
 #include <QShowEvent>
 
-#include "labels/label_values.h"
 #include "labels/print_labels.h"
+#include "labels/queue.h"
 #include "ui_frm_imprimir_etiqueta.h"
-#include "widgets/combo_items.h"
 #include "widgets/enter_presses_button.h"
 #include "widgets/field_controller.h"
+#include "widgets/form_helpers.h"
 #include "widgets/look.h"
 #include "widgets/progress_window.h"
 
@@ -54,9 +54,10 @@ void frmImprimirEtiqueta::cmdOk_Click() {
         return;
     }
     ProgressWindow progress(*this);
-    labels::printLabels(desk_.environment, labels::labelFormOf(values_.TipoFormulario), *run,
-                        progress.notices());
-    accept();
+    if (labels::printLabels(desk_.environment, labels::labelFormOf(values_.TipoFormulario), *run,
+                            progress.notices())) {
+        accept();
+    }
 }
 
 void frmImprimirEtiqueta::keyPressEvent(QKeyEvent* event) {

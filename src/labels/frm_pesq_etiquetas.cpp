@@ -3,14 +3,14 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "common/boxes.h"
 #include "labels/frm_excluir_etiqueta.h"
 #include "labels/frm_imprimir_etiqueta.h"
-#include "labels/label_values.h"
 #include "labels/queue.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_pesq_etiquetas.h"
-#include "widgets/combo_items.h"
 #include "widgets/enter_presses_button.h"
+#include "widgets/form_helpers.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 #include "widgets/look.h"
@@ -123,15 +123,10 @@ void frmPesqEtiquetas::CboFilialRemet_Click() {
 
 void frmPesqEtiquetas::cmdImprimir_Click() {
     const int position = ui_->cboTp_Form->currentIndex();
-    switch (labels::checkChoices(desk_.environment, values_, position)) {
-        case labels::MissingChoice::Reason:
-            ui_->cboMotivo->setFocus();
-            return;
-        case labels::MissingChoice::LabelForm:
-            ui_->cboTp_Form->setFocus();
-            return;
-        case labels::MissingChoice::Nothing:
-            break;
+    if (const auto refusal = labels::choiceRefusal(values_, position)) {
+        inform(desk_.environment, refusal->text);
+        return focusField(refusal->field, {{labels::QueueField::Reason, ui_->cboMotivo},
+                                           {labels::QueueField::LabelForm, ui_->cboTp_Form}});
     }
     values_.TipoFormulario = std::to_string(position);
     frmImprimirEtiqueta run(desk_, values_, this);

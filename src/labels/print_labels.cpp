@@ -2,16 +2,16 @@
 
 #include <utility>
 
+#include "common/boxes.h"
+#include "common/drawn_run.h"
 #include "common/raw_channel.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
-#include "labels/imprime_linha.h"
-#include "labels/label_boxes.h"
-#include "labels/label_forms.h"
-#include "labels/label_values.h"
+#include "labels/drawn_forms.h"
+#include "labels/queue.h"
+#include "labels/raw_form.h"
 #include "platform/environment.h"
-#include "platform/printer.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 
@@ -26,43 +26,40 @@ constexpr const char* unreadableSender =
     "o formulário com REMETENTE, uma Filial Remetente e de novo o formulário desejado, e imprima "
     "outra vez. Se continuar, avise o suporte.";
 
-void draw(Environment& environment, LabelForm form, Labels& labels, const Sender& sender,
+void draw(DrawnRun& run, LabelForm form, Labels& labels, const Sender& sender,
           const Progress& progress) {
-    preparePage(environment);
     switch (form) {
         case LabelForm::Pimaco6280:
-            return printPimaco6280(environment, labels, progress);
+            return printPimaco6280(run, labels, progress);
         case LabelForm::A5:
-            return printA5(environment, labels, progress);
+            return printA5(run, labels, progress);
         default:
-            return printA4WithSender(environment, labels, sender, progress);
+            return printA4WithSender(run, labels, sender, progress);
     }
-}
-
-// A printer takes its time over a document of many pages, and tells of them.
-void printDocument(Environment& environment, const Progress& progress) {
-    std::size_t pages = 0;
-    if (progress) {
-        environment.printer.progress = [&progress, &pages](std::size_t done, std::size_t total) {
-            pages = total;
-            progress(done, total);
-        };
-    }
-    const auto failure = environment.printer.EndDoc();
-    environment.printer.progress = nullptr;
-    if (pages > 0) {
-        progress(pages, pages);
-    }
-    showFailure(environment, failure);
 }
 
 // The raw channel is closed along with the drawn document, open or not.
-void endDocument(Environment& environment, LabelForm form, const Progress& progress) {
+void endRun(DrawnRun& run, LabelForm form, const Progress& progress) {
     if (form != LabelForm::A4WithSender) {
-        showFailure(environment, environment.printer.NewPage());
+        run.newPage();
     }
-    printDocument(environment, progress);
-    RawChannel(environment.spooler, environment.codePage).close();
+    run.endDocument(progress);
+    RawChannel(run.environment().spooler, run.environment().codePage).close();
+}
+
+bool printDrawn(Environment& environment, LabelForm form, Labels& labels, const Sender& sender,
+                const Progress& progress) {
+    DrawnRun run(environment);
+    draw(run, form, labels, sender, progress);
+    if (labels.count() == 0) {
+        inform(environment, " Não há Etiquetas nesse intervalo!   ");
+        return true;
+    }
+    if (!run.failed()) {
+        inform(environment, " Etiquetas impressas com sucesso!   ");
+    }
+    endRun(run, form, progress);
+    return !run.failed();
 }
 
 // The range's query; nothing, with the user told, when an end of it is no number.
@@ -128,18 +125,14 @@ std::optional<PrintRun> fetchRange(Environment& environment, const Sessao& sessi
     return PrintRun{std::move(labels), std::move(*sender)};
 }
 
-void printLabels(Environment& environment, LabelForm form, const PrintRun& run,
+bool printLabels(Environment& environment, LabelForm form, const PrintRun& run,
                  const Progress& progress) {
     Labels labels(run.labels);
-    if (form == LabelForm::DotMatrix) {
-        return printDotMatrix(environment, labels, progress);
+    if (form != LabelForm::DotMatrix) {
+        return printDrawn(environment, form, labels, run.sender, progress);
     }
-    draw(environment, form, labels, run.sender, progress);
-    if (labels.count() == 0) {
-        return inform(environment, " Não há Etiquetas nesse intervalo!   ");
-    }
-    inform(environment, " Etiquetas impressas com sucesso!   ");
-    endDocument(environment, form, progress);
+    printDotMatrix(environment, labels, progress);
+    return true;
 }
 
 }  // namespace tarn::labels

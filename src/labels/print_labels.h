@@ -46,8 +46,9 @@ std::optional<PrintRun> fetchRange(Environment& environment, const Sessao& sessi
                                    const LabelValues& values, const Range& range);
 
 // Prints all labels. The last sheet of a drawn form goes to the printer after the user
-// has been told that all is printed.
-void printLabels(Environment& environment, LabelForm form, const PrintRun& run,
+// has been told that all is printed; a document that the printer refused before is told of
+// instead. False: not all was printed.
+bool printLabels(Environment& environment, LabelForm form, const PrintRun& run,
                  const Progress& progress);
 
 }  // namespace tarn::labels

@@ -1,10 +1,9 @@
 #include "labels/print_selection.h"
 
+#include "common/boxes.h"
+#include "common/drawn_run.h"
+#include "common/drawn_text.h"
 #include "labels/customer_selection.h"
-#include "labels/imprime_linha.h"
-#include "platform/environment.h"
-#include "platform/message_boxes.h"
-#include "platform/printer.h"
 #include "runtime/text.h"
 
 namespace tarn::labels {
@@ -38,19 +37,19 @@ struct Place {
 void printCustomer(Environment& environment, const GridRow& customer, double x, double y) {
     std::string town(leftOf(customer.text(SelectionColumn::Town), townCut));
     town.append(" - ").append(customer.text(SelectionColumn::State));
-    write(environment, leftOf(customer.text(SelectionColumn::Name), nameCut), x, y + 0.26,
-          nameSize);
-    write(environment, leftOf(customer.text(SelectionColumn::Address), addressCut), x, y + 0.76,
-          textSize);
-    write(environment, customer.text(SelectionColumn::PostalCode), x, y + 1.26, textSize);
-    write(environment, town, x, y + 1.76, textSize);
+    ImprimeLinha(environment, leftOf(customer.text(SelectionColumn::Name), nameCut), x, y + 0.26,
+                 nameSize);
+    ImprimeLinha(environment, leftOf(customer.text(SelectionColumn::Address), addressCut), x,
+                 y + 0.76, textSize);
+    ImprimeLinha(environment, customer.text(SelectionColumn::PostalCode), x, y + 1.26, textSize);
+    ImprimeLinha(environment, town, x, y + 1.76, textSize);
 }
 
 }  // namespace
 
 void printSelection(Environment& environment, std::span<const GridRow> customers,
                     const Progress& progress) {
-    preparePage(environment);
+    DrawnRun run(environment);
     Place place;
     for (std::size_t i = 0; i < customers.size(); ++i) {
         if (customers[i].ticked) {
@@ -61,8 +60,10 @@ void printSelection(Environment& environment, std::span<const GridRow> customers
             progress(i + 1, customers.size());
         }
     }
-    showFailure(environment, environment.printer.EndDoc());
-    environment.boxes.show({.text = "Impressão Gerada com Sucesso !", .title = "Alerta"});
+    run.endDocument();
+    if (!run.failed()) {
+        tell(environment, "Impressão Gerada com Sucesso !", "Alerta");
+    }
 }
 
 }  // namespace tarn::labels

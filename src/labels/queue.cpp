@@ -1,10 +1,10 @@
 #include "labels/queue.h"
 
+#include "common/boxes.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
-#include "labels/label_boxes.h"
-#include "labels/label_values.h"
+#include "runtime/runtime_error.h"
 
 namespace tarn::labels {
 namespace {
@@ -20,6 +20,10 @@ constexpr auto grid = gridOf<QueueColumn>(
      {QueueColumn::Town, {"MUNICIPIO", "Município", 28}},
      {QueueColumn::State, {"UF", "UF", 5}},
      {QueueColumn::Country, {"PAIS", "País", 14}}});
+
+constexpr const char* rangeNotANumber =
+    "Nada foi excluído. Digite em De e Até os números da coluna Sequencial da lista e clique em "
+    "OK de novo.";
 
 std::vector<ListItem> withNone(std::vector<ListItem> items) {
     items.insert(items.begin(), ListItem{std::string(noChoice), 0});
@@ -64,16 +68,42 @@ std::optional<std::vector<GridRow>> readQueue(Environment& environment, const Se
     return queue;
 }
 
-MissingChoice checkChoices(Environment& environment, const LabelValues& values, int formPosition) {
+std::optional<Refusal<QueueField>> choiceRefusal(const LabelValues& values, int formPosition) {
     if (values.quantity == 0) {
-        inform(environment, "É necessário escolher o Motivo de Impressão.     ");
-        return MissingChoice::Reason;
+        return Refusal<QueueField>{QueueField::Reason,
+                                   "É necessário escolher o Motivo de Impressão.     "};
     }
     if (formPosition == 0) {
-        inform(environment, "Tipo de formulário é um campo obrigatório.     ");
-        return MissingChoice::LabelForm;
+        return Refusal<QueueField>{QueueField::LabelForm,
+                                   "Tipo de formulário é um campo obrigatório.     "};
     }
-    return MissingChoice::Nothing;
+    return std::nullopt;
+}
+
+std::optional<Refusal<RangeField>> rangeRefusal(const std::string& from, const std::string& to) {
+    if (from.empty()) {
+        return Refusal<RangeField>{RangeField::From, "De é um campo obrigatório!  "};
+    }
+    if (to.empty()) {
+        return Refusal<RangeField>{RangeField::To, "Até é um campo obrigatório!  "};
+    }
+    return std::nullopt;
+}
+
+bool deleteLabels(Environment& environment, const Sessao& session, const std::string& reason,
+                  const std::string& from, const std::string& to) {
+    std::string query;
+    try {
+        query = commands::exclui_etiquetas(session, reason, from, to);
+    } catch (const RuntimeError& error) {
+        reportError(environment, error, rangeNotANumber);
+        return false;
+    }
+    // Success whatever became of it: decision D96.
+    XmlDocument answer;
+    requestAnswer(environment, query, answer, failure::Tarn0009);
+    inform(environment, "Etiquetas excluídas com sucesso!     ");
+    return true;
 }
 
 }  // namespace tarn::labels

@@ -1,7 +1,10 @@
-// The queue of labels that the server keeps under reasons of printing.
+// The queue of labels that the server keeps under reasons of printing, and what the label
+// screens tell each other of it.
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -10,6 +13,7 @@
 
 #include "common/grid_rows.h"
 #include "common/list_items.h"
+#include "common/refusal.h"
 
 namespace tarn {
 struct Environment;
@@ -18,7 +22,14 @@ struct Sessao;
 
 namespace tarn::labels {
 
-struct LabelValues;
+// It outlives the screens: one that couldn't read anew works on with what the one before
+// left.
+struct LabelValues {
+    std::string TipoFormulario;        // "1" to "4"
+    std::string MotivoImpressao;       // the reason's description
+    std::int32_t FilialRemetente = 0;  // identifier; 0: none chosen
+    std::size_t quantity = 0;          // rows of the queue as it was last read
+};
 
 // The item that stands for none.
 inline constexpr std::string_view noChoice = "--------";
@@ -58,8 +69,18 @@ std::span<const GridColumn> queueGrid();
 std::optional<std::vector<GridRow>> readQueue(Environment& environment, const Sessao& session,
                                               const std::string& reason, LabelValues& values);
 
-// Before printing: what the user, who has been told, must choose first.
-enum class MissingChoice { Nothing, Reason, LabelForm };
-MissingChoice checkChoices(Environment& environment, const LabelValues& values, int formPosition);
+// Before printing: what must be chosen first.
+enum class QueueField { Reason, LabelForm };
+std::optional<Refusal<QueueField>> choiceRefusal(const LabelValues& values, int formPosition);
+
+// Before a deletion: the end of the range that isn't filled in.
+enum class RangeField { From, To };
+std::optional<Refusal<RangeField>> rangeRefusal(const std::string& from, const std::string& to);
+
+// Takes a range of labels out of the queue of one reason; its ends are sequence numbers as
+// they were typed. True: the request was made and success shown, whatever became of it; the
+// queue, read anew, shows the truth. False: an end is no number, as the user has been told.
+bool deleteLabels(Environment& environment, const Sessao& session, const std::string& reason,
+                  const std::string& from, const std::string& to);
 
 }  // namespace tarn::labels

@@ -1,9 +1,10 @@
+#include "labels/raw_form.h"
+
 #include <algorithm>
 #include <array>
 
 #include "common/raw_channel.h"
 #include "labels/label.h"
-#include "labels/label_forms.h"
 #include "platform/environment.h"
 
 namespace tarn::labels {

@@ -2,10 +2,9 @@
 
 #include <algorithm>
 
-#include "common/printer_failure.h"
+#include "common/drawn_text.h"
 #include "notes/drawn_form.h"
 #include "notes/fields.h"
-#include "notes/imprime_texto_em.h"
 #include "notes/item_rows.h"
 #include "notes/run.h"
 #include "platform/environment.h"
@@ -97,7 +96,7 @@ void drawNote(const DrawnForm& form, const XmlDocument& document, std::string_vi
         std::visit([&page](const auto& s) { drawStep(s, page); }, step);
     }
     if (const auto failure = printer.EndDoc()) {
-        showFailure(environment, *failure);
+        showFailure(environment, *failure, noteLineEnd);
     }
 }
 

@@ -1,12 +1,12 @@
 #include "reprint/reprint_note.h"
 
+#include "common/boxes.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
 #include "gateway/pega_valor.h"
 #include "notes/print_note.h"
 #include "platform/environment.h"
-#include "platform/message_boxes.h"
 #include "runtime/dates.h"
 #include "runtime/runtime_error.h"
 #include "runtime/text.h"
@@ -22,7 +22,7 @@ constexpr const char* dataProblem =
 constexpr const char* cancellationProblem = "Houve um problema no Cancelamento da Nota Fiscal nº ";
 
 void alert(Environment& environment, const std::string& text) {
-    warn(environment, text, "Aviso");
+    warn(environment, text, box_title::notice);
 }
 
 // An answer whose status can't be read counts as an empty one: decision D51.
@@ -162,9 +162,7 @@ bool cancelNote(Environment& environment, const Sessao& session, const CancelReq
     if (!accept(environment, document, cancellationProblem + request.number + ". ")) {
         return false;
     }
-    environment.boxes.show({.text = "Nota fiscal cancelada com sucesso",
-                            .icon = BoxIcon::Information,
-                            .title = "Aviso"});
+    inform(environment, "Nota fiscal cancelada com sucesso", box_title::notice);
     return true;
 }
 

@@ -2,18 +2,16 @@
 
 #include <QKeyEvent>
 
-#include "gateway/answer.h"
-#include "platform/message_boxes.h"
+#include "common/boxes.h"
 #include "slips/print_slips.h"
 #include "slips/slip_search.h"
 #include "ui_frm_pesq_boleto.h"
-#include "widgets/combo_items.h"
 #include "widgets/enter_presses_button.h"
 #include "widgets/field_controller.h"
+#include "widgets/form_helpers.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 #include "widgets/progress_window.h"
-#include "widgets/search_fields.h"
 
 namespace tarn {
 namespace {
@@ -83,21 +81,11 @@ void frmPesqBoleto::activate() {
 }
 
 void frmPesqBoleto::refuse(const SlipRefusal& reason) {
-    desk_.environment.boxes.show({std::string(reason.text), BoxIcon::Information, "TArn"});
-    switch (reason.field) {
-        case SlipSearchField::IssuedFrom:
-            ui_->txtDtEmsDe->setFocus();
-            break;
-        case SlipSearchField::DueTo:
-            ui_->txtDtVncAte->setFocus();
-            break;
-        case SlipSearchField::PortfolioField:
-            ui_->cboCartCob->setFocus();
-            break;
-        case SlipSearchField::BankNumber:
-            ui_->txtNr_Bol_Banc->setFocus();
-            break;
-    }
+    inform(desk_.environment, reason.text);
+    focusField(reason.field, {{SlipSearchField::IssuedFrom, ui_->txtDtEmsDe},
+                              {SlipSearchField::DueTo, ui_->txtDtVncAte},
+                              {SlipSearchField::PortfolioField, ui_->cboCartCob},
+                              {SlipSearchField::BankNumber, ui_->txtNr_Bol_Banc}});
 }
 
 void frmPesqBoleto::cmdPesqCli_Click() {
@@ -155,11 +143,10 @@ void frmPesqBoleto::cmdImprimir_Click() {
 
 void frmPesqBoleto::chkInc_Carteira_Click(bool ticked) {
     if (ticked) {
-        desk_.environment.boxes.show(
-            {"Esta opção só deverá ser selecionada quando se deseja incluir, no momento da "
-             "impressão do boleto, um documento que esteja sem carteira de cobrança associada. A "
-             "carteira a ser associada é a selecionada no combo acima.      ",
-             BoxIcon::Information, "TArn"});
+        inform(desk_.environment,
+               "Esta opção só deverá ser selecionada quando se deseja incluir, no momento da "
+               "impressão do boleto, um documento que esteja sem carteira de cobrança associada. A "
+               "carteira a ser associada é a selecionada no combo acima.      ");
     }
 }
 

@@ -16,7 +16,6 @@ namespace tarn {
 
 class GridModel;
 struct SlipFilter;
-struct SlipRefusal;
 
 class frmPesqBoleto : public QDialog {
     Q_OBJECT

@@ -6,11 +6,11 @@
 #include <limits>
 #include <string_view>
 
+#include "common/boxes.h"
 #include "common/raw_channel.h"
 #include "gateway/commands.h"
 #include "platform/environment.h"
 #include "platform/http_loader.h"
-#include "platform/message_boxes.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 #include "slips/slip_layouts.h"
@@ -173,9 +173,7 @@ void printSlips(Environment& environment, const Sessao& session, const Portfolio
         screen.passed();
     }
     if (slipJob.printed() == 0) {
-        environment.boxes.show({.text = "Selecione um item na Lista!     ",
-                                .icon = BoxIcon::Information,
-                                .title = "TArn"});
+        inform(environment, "Selecione um item na Lista!     ");
     }
 }
 

@@ -59,26 +59,26 @@ std::vector<ListItem> portfoliosForFilter(Environment& environment, const Sessao
 std::optional<SlipRefusal> searchRefusal(const commands::SearchFilter& documents,
                                          int portfolioPosition) {
     if (documents.issuedFrom.empty()) {
-        return SlipRefusal{"Data Emissão De é Obrigatório.     ", SlipSearchField::IssuedFrom};
+        return SlipRefusal{SlipSearchField::IssuedFrom, "Data Emissão De é Obrigatório.     "};
     }
     if (documents.dueTo.empty()) {
-        return SlipRefusal{"Data de Vencimento Obrigatória.     ", SlipSearchField::DueTo};
+        return SlipRefusal{SlipSearchField::DueTo, "Data de Vencimento Obrigatória.     "};
     }
     if (portfolioPosition <= 0) {
-        return SlipRefusal{"Carteira Cobrança é um campo obrigatório.     ",
-                           SlipSearchField::PortfolioField};
+        return SlipRefusal{SlipSearchField::PortfolioField,
+                           "Carteira Cobrança é um campo obrigatório.     "};
     }
     return std::nullopt;
 }
 
 std::optional<SlipRefusal> printRefusal(int portfolioPosition, std::string_view nextNumber) {
     if (portfolioPosition <= 0) {
-        return SlipRefusal{"Carteira Cobrança é um campo obrigatório!     ",
-                           SlipSearchField::PortfolioField};
+        return SlipRefusal{SlipSearchField::PortfolioField,
+                           "Carteira Cobrança é um campo obrigatório!     "};
     }
     if (nextNumber.empty()) {
-        return SlipRefusal{"Nr. Boleto Bancário é um campo obrigatório!     ",
-                           SlipSearchField::BankNumber};
+        return SlipRefusal{SlipSearchField::BankNumber,
+                           "Nr. Boleto Bancário é um campo obrigatório!     "};
     }
     return std::nullopt;
 }

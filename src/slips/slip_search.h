@@ -10,6 +10,7 @@
 
 #include "common/grid_rows.h"
 #include "common/list_items.h"
+#include "common/refusal.h"
 #include "gateway/commands.h"
 
 namespace tarn {
@@ -64,12 +65,9 @@ struct SlipFilter {
     bool includesPortfolio = false;
 };
 
-// Why a search or a print isn't begun: what the box says, and where the focus goes.
+// Why a search or a print isn't begun.
 enum class SlipSearchField { IssuedFrom, DueTo, PortfolioField, BankNumber };
-struct SlipRefusal {
-    std::string_view text;
-    SlipSearchField field;
-};
+using SlipRefusal = Refusal<SlipSearchField>;
 std::optional<SlipRefusal> searchRefusal(const commands::SearchFilter& documents,
                                          int portfolioPosition);
 std::optional<SlipRefusal> printRefusal(int portfolioPosition, std::string_view nextNumber);

@@ -3,26 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "runtime/runtime_error.h"
+#include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
 namespace {
 
 const std::string header = "<?xml version='1.0'?>";
-const std::string failure6 =
-    "ERRO Tarn0006 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
-    "Internet.";
-const std::string failure3 =
-    "ERRO Tarn0003 - Não foi possível obter os dados da Internet. Verifique a conexão com a "
-    "Internet.";
-
-Box transportFailure(const std::string& text) {
-    return {.text = text, .icon = BoxIcon::Critical, .title = "TarnEMISSAO - ERRO INESPERADO"};
-}
-Box exclamation(const std::string& text, const std::string& title = "TarnEmissao") {
-    return {.text = text, .icon = BoxIcon::Exclamation, .title = title};
-}
-
 class OrdersTest : public testing::Test {
 protected:
     OrdersTest() {
@@ -111,7 +99,7 @@ TEST_F(OrdersTest, NoRowsAndNoMessage) {
 
 TEST_F(OrdersTest, AFailedRefreshLeavesAnEmptyList) {
     EXPECT_TRUE(loadOrders(seams_.environment, session_).empty());
-    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{transportFailure(failure6)});
+    EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{transportFailure("0006")});
 }
 
 TEST_F(OrdersTest, ACancelAnsweredWithNoSendsNothing) {
@@ -142,7 +130,7 @@ TEST_F(OrdersTest, CancelWithoutAnAnswerIsToBeCheckedByHandAndNotSentAgain) {
     EXPECT_FALSE(cancel());
     EXPECT_EQ(seams_.boxes.shown,
               (std::vector<Box>{
-                  question_, transportFailure(failure3),
+                  question_, transportFailure("0003"),
                   exclamation("Favor verificar se a Ordem de Faturamento nº 12 foi cancelada. ",
                               "Aviso")}));
     EXPECT_EQ(seams_.loader.queries(), std::vector<std::string>{request_});
@@ -151,6 +139,92 @@ TEST_F(OrdersTest, CancelWithoutAnAnswerIsToBeCheckedByHandAndNotSentAgain) {
 TEST_F(OrdersTest, CancelWithoutAStatus) {
     seams_.loader.on("sp_can_oft", "<R a='' s='OK'/>");
     EXPECT_THROW(cancel(), RuntimeError);
+}
+
+commands::OrderData values(const std::string& quantity, const std::string& gross,
+                           const std::string& net) {
+    return {.order = "12",
+            .observation = "50% & | já",
+            .quantity = quantity,
+            .grossWeight = gross,
+            .netWeight = net};
+}
+
+std::string refused(const commands::OrderData& data, OrderField field) {
+    const auto refusal = dataRefusal(data);
+    if (!refusal) {
+        return "-";
+    }
+    EXPECT_EQ(refusal->field, field);
+    return std::string(refusal->text);
+}
+
+TEST(DataRefusal, ZeroAndMorePass) {
+    EXPECT_FALSE(dataRefusal(values("0,000", "0", "1.234,500")));
+    EXPECT_FALSE(dataRefusal(values("-0", "0,0", "99.999.999,999")));
+}
+
+TEST(DataRefusal, EachTestHasItsTextAndTheFirstCounts) {
+    using enum OrderField;
+    EXPECT_EQ(refused(values("", "", ""), Quantity), "Quantidade Espécie é obrigatório!     ");
+    EXPECT_EQ(refused(values("-1", "", ""), Quantity), "Quantidade Espécie inválido!     ");
+    EXPECT_EQ(refused(values("0", "", "-1"), GrossWeight), "Peso Bruto é obrigatório!     ");
+    EXPECT_EQ(refused(values("0", "-0,001", ""), GrossWeight), "Peso Bruto inválido!     ");
+    EXPECT_EQ(refused(values("0", "0", ""), NetWeight), "Peso Líquido é obrigatório!     ");
+    EXPECT_EQ(refused(values("0", "0", "-1.000,5"), NetWeight), "Peso Líquido inválido!     ");
+}
+
+TEST(DataRefusal, ATextThatIsNoNumberRaisesTheError) {
+    EXPECT_THROW(dataRefusal(values(" ", "", "")), RuntimeError);
+    EXPECT_THROW(dataRefusal(values("0", "abc", "")), RuntimeError);
+    EXPECT_FALSE(refused(values("", "abc", ""), OrderField::Quantity).empty());
+}
+
+class SaveOrderTest : public testing::Test {
+protected:
+    SaveOrderTest() {
+        session_.ID_ETB_TARN = 9;
+        session_.SERVERNAME = "SRV";
+    }
+    bool write() {
+        const bool sent = saveOrder(seams_.environment, session_, values("1,000", "0,000", "2,5"));
+        EXPECT_EQ(seams_.loader.queries(),
+                  std::vector<std::string>{
+                      "COMANDO=MANUTENCAO_OFT&ID_ETB_TARN=9&ID_ORD_FAT=12&ServerName=SRV&DC_OBS="
+                      "50|| | | já&QT_ESP=1,000&PESO_BRU=0,000&PESO_LIQ=2,5"})
+            << "once and never again";
+        return sent;
+    }
+
+    TestEnvironment seams_;
+    Sessao session_;
+};
+
+TEST_F(SaveOrderTest, Written) {
+    seams_.loader.on("MANUTENCAO_OFT", answers::status("OK"));
+    EXPECT_TRUE(write());
+    EXPECT_TRUE(seams_.boxes.shown.empty());
+}
+
+TEST_F(SaveOrderTest, Refused) {
+    seams_.loader.on("MANUTENCAO_OFT", answers::status("Ordem em uso. "));
+    EXPECT_FALSE(write());
+    EXPECT_EQ(seams_.boxes.shown,
+              (std::vector<Box>{{"Ordem em uso. ", BoxIcon::Exclamation, "TarnEmissao"}}));
+}
+
+TEST_F(SaveOrderTest, ALostAnswerIsToBeCheckedByHand) {
+    EXPECT_TRUE(write());
+    EXPECT_EQ(
+        seams_.boxes.shown,
+        (std::vector<Box>{transportFailure("0013"),
+                          {"Favor verificar se os dados da Ordem de Faturamento foi gravado. ",
+                           BoxIcon::Exclamation, "Aviso"}}));
+}
+
+TEST_F(SaveOrderTest, AnAnswerWithoutAStatusRaisesTheError) {
+    seams_.loader.on("MANUTENCAO_OFT", "<R a='0' s='OK'/>");
+    EXPECT_THROW(write(), RuntimeError);
 }
 
 }  // namespace

@@ -1,9 +1,10 @@
-#include "billing/print_order.h"
+#include "billing/order_sheet.h"
 
 #include <gtest/gtest.h>
 
 #include "runtime/runtime_error.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -45,11 +46,8 @@ TEST_F(PrintSelectedOrderTest, FetchesAndPrintsWithoutAWord) {
 
 TEST_F(PrintSelectedOrderTest, AFailedLoadHasTwoBoxes) {
     print();
-    EXPECT_EQ(seams_.boxes.shown,
-              (std::vector<Box>{{"ERRO Tarn0012 - Não foi possível obter os dados da Internet. "
-                                 "Verifique a conexão com a Internet.",
-                                 BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"},
-                                {problem, BoxIcon::Exclamation, "Aviso"}}));
+    EXPECT_EQ(seams_.boxes.shown, (std::vector<Box>{transportFailure("0012"),
+                                                    {problem, BoxIcon::Exclamation, "Aviso"}}));
     expectNothingPrinted();
 }
 

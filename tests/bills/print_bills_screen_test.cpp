@@ -67,7 +67,8 @@ TEST_F(PrintBillsScreenTest, TheTickedRowsInTheGridsOrder) {
     EXPECT_LT(std::ranges::find(done, numberOnPage(1)), std::ranges::find(done, numberOnPage(3)));
     EXPECT_THAT(done, Not(Contains(numberOnPage(2))));
     EXPECT_THAT(done, Contains(acceptance));
-    EXPECT_THAT(boxes.shown, ElementsAre(inform("Duplicata(s)  impressa(s) com sucesso!     ")));
+    EXPECT_THAT(boxes.shown,
+                ElementsAre(information("Duplicata(s)  impressa(s) com sucesso!     ")));
 }
 
 TEST_F(PrintBillsScreenTest, NothingTicked) {
@@ -80,8 +81,8 @@ TEST_F(PrintBillsScreenTest, NothingTicked) {
         EXPECT_THAT(server.queries(), ElementsAre(deskQuery));
     });
     EXPECT_THAT(printer.operations, IsEmpty());
-    EXPECT_THAT(boxes.shown, ElementsAre(inform("Selecione um documento.     "),
-                                         inform("Selecione um documento.     ")));
+    EXPECT_THAT(boxes.shown, ElementsAre(information("Selecione um documento.     "),
+                                         information("Selecione um documento.     ")));
 }
 
 TEST_F(PrintBillsScreenTest, TheOptionDecidesAlsoWhereItIsHidden) {
@@ -94,7 +95,8 @@ TEST_F(PrintBillsScreenTest, TheOptionDecidesAlsoWhereItIsHidden) {
         click(screen, "cmdImprimir");
     });
     EXPECT_THAT(printer.lines(), Contains(triplicateAcceptance).Times(2));
-    EXPECT_THAT(boxes.shown, ElementsAre(inform("Triplicata(s)  impressa(s) com sucesso!     ")));
+    EXPECT_THAT(boxes.shown,
+                ElementsAre(information("Triplicata(s)  impressa(s) com sucesso!     ")));
 }
 
 TEST_F(PrintBillsScreenTest, TypesThatTheSearchForBillsBringsToo) {
@@ -105,7 +107,7 @@ TEST_F(PrintBillsScreenTest, TypesThatTheSearchForBillsBringsToo) {
         click(screen, "cmdImprimir");
     });
     EXPECT_THAT(printer.lines(), Contains("text\t9.300\t4.500\tArial\t16\t1\tRECIBO").Times(3));
-    EXPECT_THAT(boxes.shown, ElementsAre(inform("Recibo(s) impresso(s) com sucesso!     ")));
+    EXPECT_THAT(boxes.shown, ElementsAre(information("Recibo(s) impresso(s) com sucesso!     ")));
 }
 
 TEST_F(PrintBillsScreenTest, ThePicturesAreThoseOfTheLastActivation) {
@@ -136,8 +138,9 @@ TEST_F(PrintBillsScreenTest, APrinterThatRefusesIsToldAndTheScreenStays) {
         EXPECT_TRUE(ticked(screen, 1));
         click(screen, "cmdImprimir");
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(Box{"Descrição :impressora sem papel\r   Numero :482"},
-                                         inform("Duplicata(s)  impressa(s) com sucesso!     ")));
+    EXPECT_THAT(
+        boxes.shown,
+        ElementsAre(printerRefused, information("Duplicata(s)  impressa(s) com sucesso!     ")));
 }
 
 TEST_F(PrintBillsScreenTest, WithoutTheCompanyTheProgramEndsWithTheReport) {
@@ -147,9 +150,7 @@ TEST_F(PrintBillsScreenTest, WithoutTheCompanyTheProgramEndsWithTheReport) {
         server.failOn("sel_dados_empresa&Id_Etb_Tarn=9");
         click(screen, "cmdImprimir");
         ASSERT_EQ(boxes.shown.size(), 2U);
-        EXPECT_EQ(boxes.shown[0],
-                  transportFailure("ERRO Tarn0009 - Não foi possível obter os dados da "
-                                   "Internet. Verifique a conexão com a Internet."));
+        EXPECT_EQ(boxes.shown[0], noInternet9);
         EXPECT_EQ(boxes.shown[1].text.rfind("Erro em tempo de execução '91':\r\r", 0), 0U);
     });
     EXPECT_EQ(end.status(), 3);
@@ -238,7 +239,8 @@ TEST_F(PrintBillsScreenTest, FiveHundredDocumentsOnPaperShowTheirProgress) {
         click(screen, "cmdVoltar");
     });
     choose(other, "mnuDuplicata");
-    EXPECT_THAT(boxes.shown, ElementsAre(inform("Duplicata(s)  impressa(s) com sucesso!     ")));
+    EXPECT_THAT(boxes.shown,
+                ElementsAre(information("Duplicata(s)  impressa(s) com sucesso!     ")));
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"job-001.pdf"});
     QProcess info;
     info.start(QStringLiteral("pdfinfo"), {folder.filePath(QStringLiteral("job-001.pdf"))});

@@ -10,6 +10,7 @@
 #include "runtime/runtime_error.h"
 #include "tests/bills/expected_pages.h"
 #include "tests/support/answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -194,9 +195,8 @@ protected:
         seams_.printer.operations.clear();
         seams_.boxes.shown.clear();
     }
-    static Box message(const std::string& text) { return {text, BoxIcon::Information, "TArn"}; }
     static Box success(const std::string& kindName) {
-        return message(kindName + " com sucesso!     ");
+        return information(kindName + " com sucesso!     ");
     }
 
     TestEnvironment seams_;
@@ -273,8 +273,8 @@ TEST_F(PrintBillsTest, NothingTickedStillAsksForTheCompany) {
     print();
     EXPECT_EQ(seams_.loader.addresses.size(), 2U);
     EXPECT_THAT(seams_.printer.operations, IsEmpty());
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(message("Selecione um documento.     "),
-                                                message("Selecione um documento.     ")));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(information("Selecione um documento.     "),
+                                                information("Selecione um documento.     ")));
 }
 
 TEST_F(PrintBillsTest, EachRowHasItsPageAndTheLastRowTheMessage) {
@@ -453,10 +453,7 @@ TEST_F(PrintBillsTest, WithoutTheCompanyTheRunFailsBeforeTheTicksAreLookedAt) {
         }
         EXPECT_THAT(seams_.printer.operations, IsEmpty());
     }
-    EXPECT_THAT(seams_.boxes.shown,
-                ElementsAre(Box{"ERRO Tarn0009 - Não foi possível obter os dados da Internet. "
-                                "Verifique a conexão com a Internet.",
-                                BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"}));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(noInternet9));
 }
 
 TEST_F(PrintBillsTest, AFieldOfTheCompanyInAnotherCaseFails) {
@@ -491,18 +488,24 @@ TEST_F(PrintBillsTest, ATextThatFailsIsDroppedInSilence) {
     EXPECT_THAT(seams_.boxes.shown, ElementsAre(success("Duplicata(s)  impressa(s)")));
 }
 
-TEST_F(PrintBillsTest, WhatElseThePrinterRefusesIsToldOnceInsteadOfTheSuccess) {
+TEST_F(PrintBillsTest, WhatElseThePrinterRefusesIsToldInsteadOfTheSuccess) {
     const std::size_t end = job({billPageOf()}).size();  // one more with the copies
     for (const std::size_t where : {std::size_t{3}, std::size_t{4}, end - 1, end}) {
         findBill(billRow);
         seams_.printer.failAt = where;
         print();
         EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf()}))) << where;
-        EXPECT_THAT(seams_.boxes.shown,
-                    ElementsAre(Box{"Descrição :impressora sem papel\r   Numero :482"}))
-            << where;
+        EXPECT_THAT(seams_.boxes.shown, ElementsAre(printerRefused)) << where;
         forget();
     }
+}
+
+TEST_F(PrintBillsTest, APrinterThatRefusesEverythingIsToldOnce) {
+    findBill(std::string(billRow) + receiptRow);
+    seams_.printer.refuses = [](const PrintOperation&) { return true; };
+    print();
+    EXPECT_THAT(drawn(), ElementsAreArray(job({billPageOf(), receiptPageOf()})));
+    EXPECT_THAT(seams_.boxes.shown, ElementsAre(printerRefused));
 }
 
 TEST_F(PrintBillsTest, TellsItsProgress) {

@@ -7,6 +7,7 @@
 #include "labels/print_labels.h"
 #include "runtime/runtime_error.h"
 #include "tests/labels/label_answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -17,8 +18,8 @@ namespace {
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 
-const Box printed{" Etiquetas impressas com sucesso!   ", BoxIcon::Information, "TArn"};
-const Box noLabels{" Não há Etiquetas nesse intervalo!   ", BoxIcon::Information, "TArn"};
+const Box printed = information(" Etiquetas impressas com sucesso!   ");
+const Box noLabels = information(" Não há Etiquetas nesse intervalo!   ");
 
 class DrawnForms : public testing::Test {
 protected:
@@ -289,15 +290,13 @@ TEST_F(DrawnForms, ANumberThatCountsAsZeroPrintsNothing) {
 TEST_F(DrawnForms, AFailureIsShownAndTheNextTextDrawn) {
     env.printer.failAt = 3;  // the second text
     EXPECT_EQ(print(LabelForm::A5, labelRows(1)).size(), 12U);
-    EXPECT_THAT(env.boxes.shown,
-                ElementsAre(Box{"Descrição :impressora sem papel\r\n   Numero :482"}, printed));
+    EXPECT_THAT(env.boxes.shown, ElementsAre(printerRefused, printed));
 }
 
 TEST_F(DrawnForms, AFailureOfTheEndIsShownToo) {
     env.printer.failAt = 11;  // EndDoc
     print(LabelForm::A5, labelRows(1));
-    EXPECT_THAT(env.boxes.shown,
-                ElementsAre(printed, Box{"Descrição :impressora sem papel\r\n   Numero :482"}));
+    EXPECT_THAT(env.boxes.shown, ElementsAre(printed, printerRefused));
 }
 
 TEST(Sender, MustHaveARow) {

@@ -407,8 +407,18 @@ TEST_F(SelectionScreen, AFailureWhileDrawingIsShownAndPrintingGoesOn) {
         printer.failAt = 3;
         click(selection, "cmdImprimir");
         EXPECT_EQ(printer.operations.size(), 7U);
-        EXPECT_THAT(boxes.shown,
-                    ElementsAre(Box{"Descrição :impressora sem papel\r\n   Numero :482"}, madeBox));
+        EXPECT_THAT(boxes.shown, ElementsAre(printerRefused, madeBox));
+    });
+}
+
+TEST_F(SelectionScreen, ADocumentThatIsRefusedKeepsTheTicksAndIsNoSuccess) {
+    inFound([this](QWidget& selection) {
+        tick(selection, 1);
+        printer.refuses = isNoText;
+        click(selection, "cmdImprimir");
+        EXPECT_THAT(boxes.shown, ElementsAre(printerRefused));
+        EXPECT_TRUE(selection.isVisible());
+        EXPECT_TRUE(ticked(selection, 1));
     });
 }
 

@@ -203,8 +203,7 @@ TEST_F(PrintScreen, AFailureWhileDrawingIsShownAndPrintingGoesOn) {
         click(print, "cmdOk");
         EXPECT_FALSE(print.isVisible());
     });
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(Box{"Descrição :impressora sem papel\r\n   Numero :482"}, printedBox));
+    EXPECT_THAT(boxes.shown, ElementsAre(printerRefused, printedBox));
     EXPECT_EQ(printer.operations.size(), 2U + 2U * 8U + 2U);
 }
 
@@ -241,30 +240,57 @@ TEST_F(PrintScreen, WhatIsPastedIsReadWhole) {
     });
 }
 
-TEST_F(PrintScreen, APrinterThatRefusesTheSheetOrTheDocumentIsToldAfterTheBox) {
-    const Box refused{"Descrição :impressora sem papel\r\n   Numero :482"};
+TEST_F(PrintScreen, ADocumentRefusedAfterTheBoxIsToldAndTheScreenStaysForAnotherTry) {
     // Two labels: the unit and the orientation, the texts, then what ends the document.
     for (const auto& [form, failAt] : {std::pair{1, 18U}, std::pair{1, 19U}, std::pair{3, 18U},
                                        std::pair{3, 19U}, std::pair{4, 2U + 2U * 26U}}) {
         boxes.shown.clear();
         printer = RecordingPrinter();
         printer.failAt = failAt;
-        inPrinting(form, [](QWidget& print) {
+        inPrinting(form, [this](QWidget& print) {
             range(print, "1", "2");
+            click(print, "cmdOk");
+            EXPECT_TRUE(printer.ended());
+            EXPECT_TRUE(print.isVisible());
+            EXPECT_EQ(text(print, "txtDe"), "1");
+            EXPECT_THAT(boxes.shown, ElementsAre(printedBox, printerRefused));
             click(print, "cmdOk");
             EXPECT_FALSE(print.isVisible());
         });
-        EXPECT_THAT(boxes.shown, ElementsAre(printedBox, refused)) << form << " " << failAt;
-        EXPECT_TRUE(printer.ended());
+        EXPECT_THAT(boxes.shown, ElementsAre(printedBox, printerRefused, printedBox))
+            << form << " " << failAt;
     }
-    boxes.shown.clear();
-    printer = RecordingPrinter();
+}
+
+TEST_F(PrintScreen, ADocumentRefusedBeforeTheBoxIsToldInItsPlace) {
     printer.failAt = 2 + 25;  // the first page of the fourth form
-    inPrinting(4, [](QWidget& print) {
+    inPrinting(4, [this](QWidget& print) {
         range(print, "1", "2");
         click(print, "cmdOk");
+        EXPECT_TRUE(print.isVisible());
+        EXPECT_TRUE(printer.ended());
+        click(print, "cmdCancelar");
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(refused, printedBox));
+    EXPECT_THAT(boxes.shown, ElementsAre(printerRefused));
+}
+
+TEST_F(PrintScreen, ADocumentIsToldOfOnceAndEachSheetIsOne) {
+    server.on("nSeq_De=8&nSeq_Ate=61&", labelRows(61));
+    for (const auto& [form, told] : {std::pair{1, 3}, std::pair{3, 1}, std::pair{4, 1}}) {
+        boxes.shown.clear();
+        printer = RecordingPrinter();
+        printer.refuses = isNoText;
+        inPrinting(form, [](QWidget& print) {
+            range(print, "8", "61");
+            click(print, "cmdOk");
+            EXPECT_TRUE(print.isVisible());
+            click(print, "cmdCancelar");
+        });
+        EXPECT_EQ(std::count(boxes.shown.begin(), boxes.shown.end(), printerRefused), told) << form;
+        // Only the third form ends after all is drawn and told.
+        EXPECT_EQ(std::count(boxes.shown.begin(), boxes.shown.end(), printedBox), form == 3 ? 1 : 0)
+            << form;
+    }
 }
 
 TEST_F(PrintScreen, WhatIsPressedWhileItFetchesAndPrintsIsLost) {

@@ -4,12 +4,11 @@
 
 #include "gateway/sessao.h"
 #include "labels/customer_selection.h"
-#include "labels/deletion.h"
-#include "labels/label_values.h"
 #include "labels/print_labels.h"
 #include "labels/print_selection.h"
 #include "labels/queue.h"
 #include "tests/labels/label_answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -19,19 +18,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-constexpr char internet[] =
-    " - Não foi possível obter os dados da Internet. Verifique a conexão com a Internet.";
-
-Box noInternet(const std::string& number) {
-    return {number + internet, BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"};
-}
-const Box noInternet9 = noInternet("ERRO Tarn0009");
-const Box noInternet9Wide = noInternet("ERRO    Tarn0009");
-
-Box information(const std::string& text) {
-    return {text, BoxIcon::Information, "TArn"};
-}
 
 class LabelFlows : public testing::Test {
 protected:
@@ -188,18 +174,19 @@ TEST_F(LabelFlows, FailedListsHaveTheirOwnTexts) {
 
 TEST_F(LabelFlows, PrintingNeedsAQueueThenAForm) {
     values.quantity = 0;
-    EXPECT_EQ(checkChoices(env.environment, values, 0), MissingChoice::Reason);
+    EXPECT_EQ(choiceRefusal(values, 0),
+              (Refusal<QueueField>{QueueField::Reason,
+                                   "É necessário escolher o Motivo de Impressão.     "}));
     values.quantity = 1;
-    EXPECT_EQ(checkChoices(env.environment, values, 0), MissingChoice::LabelForm);
-    EXPECT_EQ(checkChoices(env.environment, values, 1), MissingChoice::Nothing);
-    EXPECT_THAT(env.boxes.shown,
-                ElementsAre(information("É necessário escolher o Motivo de Impressão.     "),
-                            information("Tipo de formulário é um campo obrigatório.     ")));
+    EXPECT_EQ(choiceRefusal(values, 0),
+              (Refusal<QueueField>{QueueField::LabelForm,
+                                   "Tipo de formulário é um campo obrigatório.     "}));
+    EXPECT_EQ(choiceRefusal(values, 1), std::nullopt);
 }
 
 TEST_F(LabelFlows, ADeletionIsSentAndCalledASuccess) {
     env.loader.on("exclui_etiquetas", answers::status("Recusado"));
-    EXPECT_EQ(deleteLabels(env.environment, session, "--------", "009", "7"), Deletion::Sent);
+    EXPECT_TRUE(deleteLabels(env.environment, session, "--------", "009", "7"));
     EXPECT_THAT(env.loader.queries(),
                 ElementsAre("comando=exclui_etiquetas&ID_EMP_TARN=2161&nSeq_De=9&nSeq_Ate=7"
                             "&nId_Motivo=--------&ServerName=SRV1"));
@@ -207,23 +194,23 @@ TEST_F(LabelFlows, ADeletionIsSentAndCalledASuccess) {
 }
 
 TEST_F(LabelFlows, AFailedDeletionIsCalledASuccessToo) {
-    EXPECT_EQ(deleteLabels(env.environment, session, "X", "1", "2"), Deletion::Sent);
+    EXPECT_TRUE(deleteLabels(env.environment, session, "X", "1", "2"));
     EXPECT_THAT(env.boxes.shown,
                 ElementsAre(noInternet9, information("Etiquetas excluídas com sucesso!     ")));
 }
 
-TEST_F(LabelFlows, ADeletionNeedsBothEnds) {
-    EXPECT_EQ(deleteLabels(env.environment, session, "X", "", ""), Deletion::MissingFrom);
-    EXPECT_EQ(deleteLabels(env.environment, session, "X", "1", ""), Deletion::MissingTo);
-    EXPECT_THAT(env.boxes.shown, ElementsAre(information("De é um campo obrigatório!  "),
-                                             information("Até é um campo obrigatório!  ")));
-    EXPECT_TRUE(env.loader.addresses.empty());
+TEST(RangeRefusal, ADeletionNeedsBothEnds) {
+    EXPECT_EQ(rangeRefusal("", ""),
+              (Refusal<RangeField>{RangeField::From, "De é um campo obrigatório!  "}));
+    EXPECT_EQ(rangeRefusal("1", ""),
+              (Refusal<RangeField>{RangeField::To, "Até é um campo obrigatório!  "}));
+    EXPECT_EQ(rangeRefusal("1", ","), std::nullopt);
 }
 
 TEST_F(LabelFlows, ADeletionOfWhatIsNoNumberIsReported) {
     for (const auto& [from, to] : {std::pair{",", "1"}, std::pair{"1", ",,"}}) {
         env.boxes.shown.clear();
-        EXPECT_EQ(deleteLabels(env.environment, session, "X", from, to), Deletion::NotANumber);
+        EXPECT_FALSE(deleteLabels(env.environment, session, "X", from, to));
         ASSERT_EQ(env.boxes.shown.size(), 1U);
         EXPECT_EQ(env.boxes.shown[0].icon, BoxIcon::Critical);
         EXPECT_EQ(env.boxes.shown[0].text.rfind("Erro em tempo de execução '13':\r\r", 0), 0U);
@@ -269,25 +256,22 @@ TEST(MontaURLTest, GivesTheChosenItemOrAllOthers) {
     EXPECT_EQ(MontaURL({}, -1), "");
 }
 
-TEST_F(LabelFlows, WhatWasBoughtAsksForTheDateOfTheSale) {
-    commands::LabelFilter filter{.postalCodeFrom = "1"};
-    EXPECT_EQ(checkDates(env.environment, filter), MissingDate::None) << "CEP alone is free";
+TEST(DateRefusal, WhatWasBoughtAsksForTheDateOfTheSale) {
+    const std::string text = "Data de Venda obrigatoria nesta ocasião!";
+    EXPECT_EQ(dateRefusal({.postalCodeFrom = "1"}), std::nullopt) << "CEP alone is free";
     for (const auto member :
          {&commands::LabelFilter::product, &commands::LabelFilter::amountFrom,
           &commands::LabelFilter::amountTo, &commands::LabelFilter::quantityFrom,
           &commands::LabelFilter::quantityTo}) {
-        env.boxes.shown.clear();
-        filter = {};
+        commands::LabelFilter filter;
         filter.*member = " ";
-        EXPECT_EQ(checkDates(env.environment, filter), MissingDate::De);
+        EXPECT_EQ(dateRefusal(filter), (Refusal<SaleDate>{SaleDate::From, text}));
         filter.saleTo = "01/01/2012";
-        EXPECT_EQ(checkDates(env.environment, filter), MissingDate::De);
+        EXPECT_EQ(dateRefusal(filter), (Refusal<SaleDate>{SaleDate::From, text}));
         filter.saleFrom = "01/01/2012";
-        EXPECT_EQ(checkDates(env.environment, filter), MissingDate::None);
+        EXPECT_EQ(dateRefusal(filter), std::nullopt);
         filter.saleTo = "";
-        EXPECT_EQ(checkDates(env.environment, filter), MissingDate::To);
-        const Box box{"Data de Venda obrigatoria nesta ocasião!", BoxIcon::None, "Alert"};
-        EXPECT_THAT(env.boxes.shown, ElementsAre(box, box, box));
+        EXPECT_EQ(dateRefusal(filter), (Refusal<SaleDate>{SaleDate::To, text}));
     }
 }
 
@@ -378,8 +362,14 @@ TEST_F(LabelFlows, AFailureOfTheSelectionIsShownAndItGoesOn) {
     env.printer.failAt = 2;
     printSelection(env.environment, customers(1), {});
     EXPECT_EQ(env.printer.operations.size(), 7U);
-    EXPECT_THAT(env.boxes.shown,
-                ElementsAre(Box{"Descrição :impressora sem papel\r\n   Numero :482"}, madeBox));
+    EXPECT_THAT(env.boxes.shown, ElementsAre(printerRefused, madeBox));
+}
+
+TEST_F(LabelFlows, ASelectionThatThePrinterRefusesIsToldInsteadOfTheSuccess) {
+    env.printer.refuses = isNoText;
+    printSelection(env.environment, customers(2), {});
+    EXPECT_EQ(env.printer.operations.size(), 2U + 2U * 4U + 1U);
+    EXPECT_THAT(env.boxes.shown, ElementsAre(printerRefused));
 }
 
 }  // namespace

@@ -10,20 +10,12 @@
 
 #include "desk/mdi_menu.h"
 #include "tests/labels/label_answers.h"
+#include "tests/support/boxes.h"
 #include "tests/support/grid.h"
 #include "tests/support/screen_test.h"
 
 namespace tarn::test {
 
-inline constexpr char internet[] =
-    " - Não foi possível obter os dados da Internet. Verifique a conexão com a Internet.";
-inline const Box noInternet9{std::string("ERRO Tarn0009") + internet, BoxIcon::Critical,
-                             "TarnEMISSAO - ERRO INESPERADO"};
-inline const Box noInternet9Wide{std::string("ERRO    Tarn0009") + internet, BoxIcon::Critical,
-                                 "TarnEMISSAO - ERRO INESPERADO"};
-inline Box information(const std::string& text) {
-    return {text, BoxIcon::Information, "TArn"};
-}
 inline const Box printedBox = information(" Etiquetas impressas com sucesso!   ");
 
 inline constexpr char branchesQuery[] =

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <limits>
 #include <string>
 #include <vector>
@@ -18,13 +19,15 @@ public:
 
     // What to answer and where: index of the operation, from 0.
     std::size_t failAt = never;
+    std::function<bool(const PrintOperation&)> refuses;  // further ones, if set
     PrinterFailure failure{.number = printerTrouble, .description = "impressora sem papel"};
 
     std::vector<PrintOperation> operations;  // refused ones included
 
     std::optional<PrinterFailure> perform(const PrintOperation& operation) override {
         operations.push_back(operation);
-        return operations.size() - 1 == failAt ? std::optional(failure) : std::nullopt;
+        const bool refused = operations.size() - 1 == failAt || (refuses && refuses(operation));
+        return refused ? std::optional(failure) : std::nullopt;
     }
 
     bool ended() const {
@@ -40,5 +43,10 @@ public:
         return all;
     }
 };
+
+// For `refuses`: what is no text.
+inline bool isNoText(const PrintOperation& operation) {
+    return !std::holds_alternative<DrawnText>(operation);
+}
 
 }  // namespace tarn::test

@@ -1,4 +1,4 @@
-#include "bills/bill_pictures.h"
+#include "bills/company_data.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>

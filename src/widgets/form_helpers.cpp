@@ -1,5 +1,6 @@
-#include "widgets/search_fields.h"
+#include "widgets/form_helpers.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVariant>
@@ -15,6 +16,18 @@ constexpr char tag[] = "Tag";
 constexpr int dateWidth = 13;  // characters
 
 }  // namespace
+
+void fillList(QComboBox& list, std::span<const ListItem> items) {
+    list.clear();
+    for (const ListItem& item : items) {
+        list.addItem(QString::fromStdString(item.text), item.data);
+    }
+    list.setCurrentIndex(0);
+}
+
+std::int32_t currentItemData(const QComboBox& list) {
+    return list.currentData().toInt();
+}
 
 void prepareCustomerField(QLineEdit& field, Environment& environment) {
     QPalette forReading = field.palette();

@@ -1,15 +1,29 @@
-// Fields that the searches of documents share: the chosen customer, date ranges, buttons.
+// What screens do with their fields: lists, the chosen customer, date ranges, buttons, and
+// the focus after a refusal.
 #pragma once
 
+#include <QWidget>
+#include <cstdint>
 #include <initializer_list>
+#include <span>
 #include <string>
+#include <utility>
 
+#include "common/list_items.h"
+
+class QComboBox;
 class QLineEdit;
 class QPushButton;
 
 namespace tarn {
 
 struct Environment;
+
+// Empties the list, adds the items and stands on the first one.
+void fillList(QComboBox& list, std::span<const ListItem> items);
+
+// Item data of the current item; 0 when none is.
+std::int32_t currentItemData(const QComboBox& list);
 
 // Shows a name that is chosen elsewhere; looks read-only, and Enter is a Tab stroke.
 void prepareCustomerField(QLineEdit& field, Environment& environment);
@@ -23,5 +37,15 @@ void prepareDates(std::initializer_list<QLineEdit*> fields, Environment& environ
 // With its picture. An access key brings the focus along, so that the field being typed
 // in is completed.
 void prepareButton(QPushButton& button, const char* pictureName);
+
+// Moves the focus to the field that a refusal names.
+template <class Field>
+void focusField(Field which, std::initializer_list<std::pair<Field, QWidget*>> fields) {
+    for (const auto& [field, widget] : fields) {
+        if (field == which) {
+            widget->setFocus();
+        }
+    }
+}
 
 }  // namespace tarn

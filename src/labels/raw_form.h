@@ -1,0 +1,18 @@
+// The form of stationery that labels go to as raw text.
+#pragma once
+
+#include "platform/progress.h"
+
+namespace tarn {
+struct Environment;
+}
+
+namespace tarn::labels {
+
+class Labels;
+
+// All labels of an answer in its order, four across on continuous stationery: a job that
+// sets the pitch, then one with all labels. Tells how far it is.
+void printDotMatrix(Environment& environment, Labels& labels, const Progress& progress);
+
+}  // namespace tarn::labels
