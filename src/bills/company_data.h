@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/print_operation.h"
+#include "platform/printer.h"
 
 namespace tarn {
 

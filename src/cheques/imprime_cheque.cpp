@@ -11,7 +11,6 @@
 #include "platform/environment.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
-#include "runtime/split.h"
 #include "runtime/text.h"
 
 namespace tarn {

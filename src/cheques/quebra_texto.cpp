@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "runtime/split.h"
 #include "runtime/text.h"
 
 namespace tarn {

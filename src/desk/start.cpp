@@ -13,7 +13,6 @@
 #include "runtime/dates.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
-#include "runtime/split.h"
 #include "runtime/text.h"
 
 namespace tarn {

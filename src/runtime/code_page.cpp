@@ -5,7 +5,7 @@
 #include <cstddef>
 
 #include "runtime/ascii.h"
-#include "runtime/utf8.h"
+#include "runtime/text.h"
 
 namespace tarn {
 

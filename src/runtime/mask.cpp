@@ -6,7 +6,6 @@
 #include "runtime/decimal.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "runtime/utf8.h"
 
 namespace tarn {
 

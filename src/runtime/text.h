@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarn {
 
@@ -28,5 +29,23 @@ void appendBlankingControls(std::string& out, std::string_view text);
 
 // A value as part of a line of a text file: backslash, tab, CR and LF as \\, \t, \r, \n.
 std::string escapedLine(std::string_view text);
+
+// The pieces between separators, empty ones too: always at least one. They live as
+// long as the text.
+std::vector<std::string_view> split(std::string_view text, char separator);
+
+// One character of a text: its code point and how many bytes it takes.
+struct Utf8Char {
+    char32_t code = 0;
+    std::size_t bytes = 1;
+};
+
+inline constexpr char32_t malformedByte = 0xFFFD;  // code of a byte that is no UTF-8
+
+// The character at `position`, which must lie inside the text. A malformed byte is
+// one character, `malformedByte`.
+Utf8Char utf8At(std::string_view text, std::size_t position);
+
+void appendUtf8(std::string& out, char32_t code);
 
 }  // namespace tarn

@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "platform/print_operation.h"
+#include "platform/printer.h"
 #include "platform/progress.h"
 
 class QPrinter;
