@@ -86,10 +86,7 @@ Element refusalAnswer(Shape shape, const std::string& text) {
     return statusAnswer(text);
 }
 
-Element answerElement(Shape shape, Reply reply) {
-    if (const auto* refusal = std::get_if<Refusal>(&reply)) {
-        return refusalAnswer(shape, refusal->text);
-    }
+Element answerElement(Reply reply) {
     if (const auto* rowset = std::get_if<Rowset>(&reply)) {
         return rowsetAnswer(*rowset);
     }

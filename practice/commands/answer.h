@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -27,15 +28,14 @@ struct Rowset {
     std::vector<std::vector<std::optional<std::string>>> rows;
 };
 
-// The reason, in words for the clerk, why a command wasn't carried out.
-struct Refusal {
-    std::string text;
+// Why a command isn't carried out, in words for the clerk. Thrown where it is found; the
+// server makes an answer of it.
+class Refusal : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
 };
 
-using Reply = std::variant<Element, Rowset, Refusal>;
-
-template <class T>
-using OrRefusal = std::variant<T, Refusal>;
+using Reply = std::variant<Element, Rowset>;
 
 // The shape in which a command answers, and refuses.
 enum class Shape {
@@ -51,6 +51,6 @@ Element versionAnswer(std::string status, std::optional<std::string> date);
 Element rowsetAnswer(const Rowset& rowset);
 Element refusalAnswer(Shape shape, const std::string& text);
 
-Element answerElement(Shape shape, Reply reply);
+Element answerElement(Reply reply);
 
 }  // namespace tarn::practice

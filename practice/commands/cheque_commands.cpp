@@ -29,28 +29,16 @@ struct Issuer {
     std::string user;
 };
 
-OrRefusal<Issuer> requestedIssuer(const Query& query, CommandContext& context) {
+Issuer requestedIssuer(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "ID_EMP_TARN", context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
     const auto establishment = requestedEstablishment(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&establishment)) {
-        return *refusal;
-    }
-    const auto user = requestedUser(query, "UserCode", std::get<std::int64_t>(company), context);
-    if (const auto* refusal = std::get_if<Refusal>(&user)) {
-        return *refusal;
-    }
-    return Issuer{std::get<Establishment>(establishment), std::get<std::string>(user)};
+    const auto user = requestedUser(query, "UserCode", company, context);
+    return Issuer{establishment, user};
 }
 
 Reply listAccounts(const Query& query, CommandContext& context) {
     const auto requested = requestedIssuer(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&requested)) {
-        return *refusal;
-    }
-    const Establishment& place = std::get<Issuer>(requested).establishment;
+    const Establishment& place = requested.establishment;
     return readRowset(context.database, accountFields,
                       "FROM account a JOIN bank b ON b.id = a.bank_id"
                       " WHERE a.company_id = ? AND a.active = ?"
@@ -72,16 +60,16 @@ struct ChequeKey {
 };
 
 // A cheque's number is the same with zeros in front and without.
-OrRefusal<ChequeKey> requestedCheque(const Query& query, std::int64_t company) {
+ChequeKey requestedCheque(const Query& query, std::int64_t company) {
     const std::string number(trimBlanks(query.value("NR_CHE")));
     const std::string series = upperCase(trimBlanks(query.value("NR_SER")));
     const std::optional<std::int64_t> value = wholeNumber(number);
     if (!value || number.size() > longestNumber) {
-        return Refusal{"O número do cheque \"" + number +
-                       "\" não é válido. Digite até 15 algarismos."};
+        throw Refusal{"O número do cheque \"" + number +
+                      "\" não é válido. Digite até 15 algarismos."};
     }
     if (series.empty() || lengthOf(series) > longestNumber) {
-        return Refusal{"A série do cheque não é válida. Digite de 1 a 15 caracteres."};
+        throw Refusal{"A série do cheque não é válida. Digite de 1 a 15 caracteres."};
     }
     return ChequeKey{company,
                      wholeNumber(query.value("ID_PES_BAN")).value_or(-1),
@@ -105,14 +93,8 @@ constexpr std::string_view thisCheque =
 
 Reply findCheque(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "ID_EMP_TARN", context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
-    const auto key = requestedCheque(query, std::get<std::int64_t>(company));
-    if (const auto* refusal = std::get_if<Refusal>(&key)) {
-        return *refusal;
-    }
-    return readRowset(context.database, chequeFields, thisCheque, std::get<ChequeKey>(key).binds());
+    const auto key = requestedCheque(query, company);
+    return readRowset(context.database, chequeFields, thisCheque, key.binds());
 }
 
 struct ChequeText {
@@ -122,38 +104,37 @@ struct ChequeText {
     std::string purpose;
 };
 
-OrRefusal<ChequeText> requestedText(const Query& query) {
+ChequeText requestedText(const Query& query) {
     const auto cents = screenMoney(trimBlanks(query.value("VL_CH")));
     if (!cents || *cents == 0) {
-        return Refusal{"O valor do cheque não é válido. Digite um valor maior que 0,00."};
+        throw Refusal{"O valor do cheque não é válido. Digite um valor maior que 0,00."};
     }
     const auto deposit = sentDay(query.value("DT_DEP"));
     if (!deposit) {
-        return Refusal{"A data para depósito não é válida. Digite a data como dd/mm/aaaa."};
+        throw Refusal{"A data para depósito não é válida. Digite a data como dd/mm/aaaa."};
     }
     ChequeText text{*cents, *deposit, query.value("DC_FAV"), query.value("DC_OBS")};
     if (lengthOf(text.payee) > longestPayee || lengthOf(text.purpose) > longestPurpose) {
-        return Refusal{
+        throw Refusal{
             "O favorecido passa de 50 caracteres ou a utilização de 250. "
             "Diminua o texto."};
     }
     return text;
 }
 
-std::optional<Refusal> hindrance(CommandContext& context, const ChequeKey& key) {
+void checkAccount(CommandContext& context, const ChequeKey& key) {
     Rows rows = context.database.select(
         "SELECT active FROM account WHERE company_id = ? AND bank_id = ? AND agency = ?"
         " AND number = ?",
         {key.company, key.bank, key.agency, key.account});
     if (!rows.next()) {
-        return Refusal{"A conta " + key.agency + " - " + key.account +
-                       " não está cadastrada. Escolha a conta na lista."};
+        throw Refusal{"A conta " + key.agency + " - " + key.account +
+                      " não está cadastrada. Escolha a conta na lista."};
     }
     if (rows.integer(0) == 0) {
-        return Refusal{"A conta " + key.agency + " - " + key.account +
-                       " está encerrada. Escolha outra conta."};
+        throw Refusal{"A conta " + key.agency + " - " + key.account +
+                      " está encerrada. Escolha outra conta."};
     }
-    return std::nullopt;
 }
 
 Bind textOrNull(const std::string& text) {
@@ -163,24 +144,11 @@ Bind textOrNull(const std::string& text) {
 // The key lets one record in: of two desks that send the same cheque at the same
 // moment, the second one is refused.
 Reply addCheque(const Query& query, CommandContext& context) {
-    const auto requested = requestedIssuer(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&requested)) {
-        return *refusal;
-    }
-    const auto& issuer = std::get<Issuer>(requested);
-    const auto cheque = requestedCheque(query, issuer.establishment.company);
-    if (const auto* refusal = std::get_if<Refusal>(&cheque)) {
-        return *refusal;
-    }
+    const auto issuer = requestedIssuer(query, context);
+    const auto key = requestedCheque(query, issuer.establishment.company);
     const auto text = requestedText(query);
-    if (const auto* refusal = std::get_if<Refusal>(&text)) {
-        return *refusal;
-    }
-    const auto& key = std::get<ChequeKey>(cheque);
-    if (auto refusal = hindrance(context, key)) {
-        return *refusal;
-    }
-    const auto& [cents, deposit, payee, purpose] = std::get<ChequeText>(text);
+    checkAccount(context, key);
+    const auto& [cents, deposit, payee, purpose] = text;
     std::vector<Bind> binds = key.binds();
     binds.insert(binds.end(),
                  {Bind(cents), textOrNull(payee), Bind(deposit), textOrNull(purpose),
@@ -192,8 +160,8 @@ Reply addCheque(const Query& query, CommandContext& context) {
         " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?) ON CONFLICT DO NOTHING",
         binds);
     if (added != 1) {
-        return Refusal{"O cheque nº " + std::to_string(key.number) + " da série " + key.series +
-                       " já está registrado nesta conta. Confira o número do cheque."};
+        throw Refusal{"O cheque nº " + std::to_string(key.number) + " da série " + key.series +
+                      " já está registrado nesta conta. Confira o número do cheque."};
     }
     transaction.commit();
     return statusAnswer();

@@ -2,11 +2,14 @@
 
 #include <array>
 
+#include "practice/commands/fields.h"
 #include "runtime/ascii.h"
 
 namespace tarn::practice {
 
 namespace {
+
+constexpr std::array branchFields = {Field{"FILIAL", "name"}, Field{"ID_ETB", "code"}};
 
 std::array<std::span<const Command>, 8> subjects() {
     return {sessionCommands(), orderCommands(),  noteCommands(),  documentCommands(),
@@ -34,60 +37,62 @@ const Command* findCommand(std::string_view name) {
     return nullptr;
 }
 
-OrRefusal<std::int64_t> requestedCompany(const Query& query, CommandContext& context) {
+std::int64_t requestedCompany(const Query& query, CommandContext& context) {
     const std::string& server = query.value("ServerName");
     Rows rows = context.database.select("SELECT id FROM company WHERE server_name = ?", {server});
     if (!rows.next()) {
-        return Refusal{"O servidor de dados \"" + server +
-                       "\" não existe. Saia do sistema e entre de novo."};
+        throw Refusal{"O servidor de dados \"" + server +
+                      "\" não existe. Saia do sistema e entre de novo."};
     }
     return rows.integer(0);
 }
 
-OrRefusal<std::int64_t> requestedCompany(const Query& query, std::string_view key,
-                                         CommandContext& context) {
-    auto company = requestedCompany(query, context);
-    if (const auto* id = std::get_if<std::int64_t>(&company);
-        id != nullptr && wholeNumber(query.value(key)) != *id) {
-        return Refusal{"A empresa \"" + query.value(key) +
-                       "\" não é a do servidor de dados. Saia do sistema e entre de novo."};
+std::int64_t requestedCompany(const Query& query, std::string_view key, CommandContext& context) {
+    const std::int64_t company = requestedCompany(query, context);
+    if (wholeNumber(query.value(key)) != company) {
+        throw Refusal{"A empresa \"" + query.value(key) +
+                      "\" não é a do servidor de dados. Saia do sistema e entre de novo."};
     }
     return company;
 }
 
-OrRefusal<Establishment> requestedEstablishment(const Query& query, CommandContext& context) {
+Establishment requestedEstablishment(const Query& query, CommandContext& context) {
     return requestedEstablishment(query, "ID_ETB_TARN", context);
 }
 
-OrRefusal<Establishment> requestedEstablishment(const Query& query, std::string_view key,
-                                                CommandContext& context) {
+Establishment requestedEstablishment(const Query& query, std::string_view key,
+                                     CommandContext& context) {
     const auto company = requestedCompany(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
     const std::string& text = query.value(key);
     const std::optional<std::int64_t> code = wholeNumber(text);
     Rows rows = context.database.select(
         "SELECT id, company_id FROM establishment"
         " WHERE code = ? AND company_id = ?",
-        {code.value_or(-1), std::get<std::int64_t>(company)});
+        {code.value_or(-1), company});
     if (!rows.next()) {
-        return Refusal{"O estabelecimento \"" + text +
-                       "\" não existe nesta empresa. Saia do sistema e entre de novo."};
+        throw Refusal{"O estabelecimento \"" + text +
+                      "\" não existe nesta empresa. Saia do sistema e entre de novo."};
     }
     return Establishment{rows.integer(0), rows.integer(1)};
 }
 
-OrRefusal<std::string> requestedUser(const Query& query, std::string_view key, std::int64_t company,
-                                     CommandContext& context) {
+std::string requestedUser(const Query& query, std::string_view key, std::int64_t company,
+                          CommandContext& context) {
     const std::string& code = query.value(key);
     Rows rows = context.database.select(
         "SELECT code FROM app_user WHERE code = ? AND company_id = ?", {code, company});
     if (!rows.next()) {
-        return Refusal{"O usuário \"" + code +
-                       "\" não está cadastrado nesta empresa. Saia do sistema e entre de novo."};
+        throw Refusal{"O usuário \"" + code +
+                      "\" não está cadastrado nesta empresa. Saia do sistema e entre de novo."};
     }
     return rows.text(0);
+}
+
+Reply listNamedBranches(const Query& query, std::string_view companyKey, CommandContext& context) {
+    const auto company = requestedCompany(query, companyKey, context);
+    requestedUser(query, "nId_Pes_Usu", company, context);
+    return readRowset(context.database, branchFields,
+                      "FROM establishment WHERE company_id = ? ORDER BY id", {company});
 }
 
 }  // namespace tarn::practice

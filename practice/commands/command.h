@@ -42,23 +42,25 @@ std::vector<Command> allCommands();
 const Command* findCommand(std::string_view name);  // letters' case doesn't matter
 
 // What a request may see: the company whose data server it names, and of it the
-// establishment it names.
+// establishment it names. These throw a Refusal where there is no such thing.
 struct Establishment {
     std::int64_t id = 0;  // the database's own, not the code on the wire
     std::int64_t company = 0;
 };
 
-OrRefusal<std::int64_t> requestedCompany(const Query& query, CommandContext& context);
-// Refuses also a company that isn't the data server's, where `key` names one.
-OrRefusal<std::int64_t> requestedCompany(const Query& query, std::string_view key,
-                                         CommandContext& context);
-OrRefusal<Establishment> requestedEstablishment(const Query& query, CommandContext& context);
+std::int64_t requestedCompany(const Query& query, CommandContext& context);
+// Also for a company that isn't the data server's, where `key` names one.
+std::int64_t requestedCompany(const Query& query, std::string_view key, CommandContext& context);
+Establishment requestedEstablishment(const Query& query, CommandContext& context);
 // The same, under a key of the command's own.
-OrRefusal<Establishment> requestedEstablishment(const Query& query, std::string_view key,
-                                                CommandContext& context);
-
-// Refuses a user that isn't of the company.
-OrRefusal<std::string> requestedUser(const Query& query, std::string_view key, std::int64_t company,
+Establishment requestedEstablishment(const Query& query, std::string_view key,
                                      CommandContext& context);
+
+// Also for a user that isn't of the company.
+std::string requestedUser(const Query& query, std::string_view key, std::int64_t company,
+                          CommandContext& context);
+
+// The company's establishments by name, as two screens of the labels list them.
+Reply listNamedBranches(const Query& query, std::string_view companyKey, CommandContext& context);
 
 }  // namespace tarn::practice

@@ -1,13 +1,20 @@
-// The commands of bills and receipts: establishments, documents, customers.
+#include "practice/commands/document_commands.h"
+
 #include <array>
 
-#include "practice/commands/document.h"
 #include "practice/commands/fields.h"
 #include "practice/database/stored_text.h"
 #include "runtime/text.h"
 
 namespace tarn::practice {
 namespace {
+
+// An empty text restricts nothing; one that is no number finds nothing.
+void addNumber(Conditions& conditions, std::string_view sql, const std::string& text) {
+    if (!trimBlanks(text).empty()) {
+        conditions.add(sql, wholeNumber(text).value_or(-1));
+    }
+}
 
 constexpr std::array branchFields = {
     Field{"SG_FIL", "short_name"},
@@ -16,16 +23,9 @@ constexpr std::array branchFields = {
 
 Reply listBranches(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "ID_EMP_TARN", context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
-    const std::int64_t id = std::get<std::int64_t>(company);
-    const auto user = requestedUser(query, "UserCode", id, context);
-    if (const auto* refusal = std::get_if<Refusal>(&user)) {
-        return *refusal;
-    }
+    requestedUser(query, "UserCode", company, context);
     return readRowset(context.database, branchFields,
-                      "FROM establishment WHERE company_id = ? ORDER BY id", {id});
+                      "FROM establishment WHERE company_id = ? ORDER BY id", {company});
 }
 
 constexpr std::array billFields = {
@@ -54,14 +54,10 @@ constexpr std::array billFields = {
 };
 
 Reply findBills(const Query& query, CommandContext& context) {
-    auto search = documentSearch(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&search)) {
-        return *refusal;
-    }
-    auto& conditions = std::get<Conditions>(search);
+    auto conditions = documentSearch(query, context);
     const auto kinds = numberList(query.value("ID_TIP_DOC"));
     if (!kinds) {
-        return Refusal{"Tipo de documento inválido na pesquisa. Escolha o tipo na lista."};
+        throw Refusal{"Tipo de documento inválido na pesquisa. Escolha o tipo na lista."};
     }
     conditions.addAnyOf("d.kind_id", *kinds);
     return readRowset(context.database, billFields,
@@ -93,18 +89,15 @@ std::string anywhere(const std::string& text) {
 // ampersands.
 Reply findCustomers(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "id_emp_tarn", context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
     const std::string name = replaceAll(query.value("Filtro"), "|", "&");
     const std::string wanted = searchName(trimBlanks(name));
     if (wanted.empty()) {
-        return Refusal{"O nome do cliente não foi informado. Digite parte do nome."};
+        throw Refusal{"O nome do cliente não foi informado. Digite parte do nome."};
     }
     return readRowset(context.database, customerFields,
                       "FROM customer WHERE company_id = ? AND search_name LIKE ? ESCAPE '!'"
                       " ORDER BY search_name, id",
-                      {std::get<std::int64_t>(company), anywhere(wanted)});
+                      {company, anywhere(wanted)});
 }
 
 constexpr std::array commands = {
@@ -114,6 +107,20 @@ constexpr std::array commands = {
 };
 
 }  // namespace
+
+Conditions documentSearch(const Query& query, CommandContext& context) {
+    const auto company = requestedCompany(query, "ID_EMP_TARN", context);
+    requestedUser(query, "ID_PES_USU", company, context);
+    Conditions conditions("e.company_id = ?", {company});
+    addNumber(conditions, "d.customer_id = ?", query.value("ID_PES_CLI"));
+    addNumber(conditions, "e.code = ?", query.value("ID_ETB_TARN"));
+    conditions.addDays("d.due_on", query, "DT_VNC_DE", "DT_VNC_ATE");
+    conditions.addDays("d.issued_on", query, "DT_EMS_DE", "DT_EMS_ATE");
+    if (!conditions.readable()) {
+        throw Refusal{"Data inválida na pesquisa. Digite as datas como dd/mm/aaaa."};
+    }
+    return conditions;
+}
 
 std::span<const Command> documentCommands() {
     return commands;

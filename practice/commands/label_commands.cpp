@@ -2,7 +2,7 @@
 #include <array>
 #include <cmath>
 
-#include "practice/commands/branch_list.h"
+#include "practice/commands/command.h"
 #include "practice/commands/fields.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -42,11 +42,11 @@ std::optional<double> rangeEnd(const std::string& text, double whenEmpty) {
     return value && std::abs(*value) <= largestSequence ? value : std::nullopt;
 }
 
-OrRefusal<Sequences> requestedSequences(const Query& query) {
+Sequences requestedSequences(const Query& query) {
     const auto from = rangeEnd(query.value("nSeq_De"), 0);
     const auto to = rangeEnd(query.value("nSeq_Ate"), largestSequence);
     if (!from || !to) {
-        return Refusal{"O intervalo de etiquetas não é válido. Digite os seqüenciais da lista."};
+        throw Refusal{"O intervalo de etiquetas não é válido. Digite os seqüenciais da lista."};
     }
     return Sequences{static_cast<std::int64_t>(std::ceil(*from)),
                      static_cast<std::int64_t>(std::floor(*to))};
@@ -55,55 +55,38 @@ OrRefusal<Sequences> requestedSequences(const Query& query) {
 // An empty range is the whole queue of the reason.
 Reply listLabels(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "ID_EMP_TARN", context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
     const auto range = requestedSequences(query);
-    if (const auto* refusal = std::get_if<Refusal>(&range)) {
-        return *refusal;
-    }
-    const auto& [from, to] = std::get<Sequences>(range);
+    const auto& [from, to] = range;
     return readRowset(
         context.database, labelFields,
         "FROM label l JOIN label_reason r ON r.company_id = l.company_id AND r.id = l.reason_id"
         " WHERE l.company_id = ? AND r.description = ? AND l.sequence >= ? AND l.sequence <= ?"
         " AND l.queued_on >= ? ORDER BY l.sequence",
-        {std::get<std::int64_t>(company), query.value("sDc_Mot_Imp"), from, to,
-         context.today.addDays(-daysKept)});
+        {company, query.value("sDc_Mot_Imp"), from, to, context.today.addDays(-daysKept)});
 }
 
 constexpr std::array reasonFields = {Field{"DC_MOT_IMP", "description"}};
 
 Reply listReasons(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "ID_EMP_TARN", context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
     return readRowset(context.database, reasonFields,
                       "FROM label_reason WHERE company_id = ? AND kind = ? ORDER BY id",
-                      {std::get<std::int64_t>(company), query.value("sIc_Ver_Eti")});
+                      {company, query.value("sIc_Ver_Eti")});
 }
 
 // The reason comes by its description, in spite of the key's name.
 Reply deleteLabels(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "ID_EMP_TARN", context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
     if (query.value("nSeq_De").empty() || query.value("nSeq_Ate").empty()) {
-        return Refusal{"O intervalo de etiquetas não foi informado. Nada foi excluído."};
+        throw Refusal{"O intervalo de etiquetas não foi informado. Nada foi excluído."};
     }
     const auto range = requestedSequences(query);
-    if (const auto* refusal = std::get_if<Refusal>(&range)) {
-        return *refusal;
-    }
-    const auto& [from, to] = std::get<Sequences>(range);
-    const std::int64_t id = std::get<std::int64_t>(company);
+    const auto& [from, to] = range;
     Transaction transaction(context.database);
     context.database.execute(
         "DELETE FROM label WHERE company_id = ? AND sequence >= ? AND sequence <= ?"
         " AND reason_id IN (SELECT id FROM label_reason WHERE company_id = ? AND description = ?)",
-        {id, from, to, id, query.value("nId_Motivo")});
+        {company, from, to, company, query.value("nId_Motivo")});
     transaction.commit();
     return statusAnswer();
 }
@@ -126,20 +109,16 @@ constexpr std::array senderFields = {
 // 0 is what the desk sends while no branch is chosen: the company's first one.
 Reply senderData(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "nId_Emp_Tarn", context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
-    const std::int64_t id = std::get<std::int64_t>(company);
     const std::optional<std::int64_t> code = wholeNumber(query.value("nId_Etb_Tarn"));
     if (code == 0) {
         return readRowset(context.database, senderFields,
                           "FROM establishment WHERE id = (SELECT MIN(id) FROM establishment WHERE "
                           "company_id = ?)",
-                          {id});
+                          {company});
     }
     return readRowset(context.database, senderFields,
                       "FROM establishment WHERE company_id = ? AND code = ?",
-                      {id, code.value_or(-1)});
+                      {company, code.value_or(-1)});
 }
 
 constexpr std::array commands = {

@@ -4,7 +4,7 @@
 
 #include "practice/commands/amounts.h"
 #include "practice/commands/command.h"
-#include "practice/commands/document.h"
+#include "practice/commands/document_commands.h"
 #include "practice/commands/fields.h"
 #include "practice/commands/note_document.h"
 #include "practice/commands/order.h"
@@ -14,12 +14,12 @@ namespace {
 
 Refusal whyNotGenerated(const std::optional<Order>& order, const std::string& text) {
     if (!order) {
-        return {"A Ordem de Faturamento nº " + text +
-                " não existe neste estabelecimento. Atualize a lista."};
+        return Refusal{"A Ordem de Faturamento nº " + text +
+                       " não existe neste estabelecimento. Atualize a lista."};
     }
-    return {"A Ordem de Faturamento nº " + text +
-            (order->state == "C" ? " já foi cancelada" : " já virou Nota Fiscal") +
-            ". Atualize a lista."};
+    return Refusal{"A Ordem de Faturamento nº " + text +
+                   (order->state == "C" ? " já foi cancelada" : " já virou Nota Fiscal") +
+                   ". Atualize a lista."};
 }
 
 // Notes of one establishment are made and cancelled one after the other: what the
@@ -124,31 +124,21 @@ Reply generatedAnswer(const NoteKey& key) {
     return root;
 }
 
-std::optional<Refusal> hindrance(CommandContext& context, std::int64_t establishment,
-                                 const Order& order) {
+void checkHindrances(CommandContext& context, std::int64_t establishment, const Order& order) {
     if (order.creditBlocked) {
-        return Refusal{"Cliente com crédito bloqueado. A Nota Fiscal da Ordem de Faturamento nº " +
-                       std::to_string(order.id) +
-                       " não foi gerada. Procure o departamento financeiro."};
+        throw Refusal{"Cliente com crédito bloqueado. A Nota Fiscal da Ordem de Faturamento nº " +
+                      std::to_string(order.id) +
+                      " não foi gerada. Procure o departamento financeiro."};
     }
     if (const std::string missing = missingStock(context.database, establishment, order.id);
         !missing.empty()) {
-        return Refusal{"Produto(s) sem saldo no estoque. A Nota Fiscal não foi gerada.\n" +
-                       missing};
+        throw Refusal{"Produto(s) sem saldo no estoque. A Nota Fiscal não foi gerada.\n" + missing};
     }
-    return std::nullopt;
 }
 
 Reply generateNote(const Query& query, CommandContext& context) {
-    const auto requested = requestedEstablishment(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&requested)) {
-        return *refusal;
-    }
-    const auto& establishment = std::get<Establishment>(requested);
+    const auto establishment = requestedEstablishment(query, context);
     const auto user = requestedUser(query, "ID_PES", establishment.company, context);
-    if (const auto* refusal = std::get_if<Refusal>(&user)) {
-        return *refusal;
-    }
     const std::string& text = query.value("ID_ORD_FAT");
     const std::int64_t id = wholeNumber(text).value_or(-1);
     Transaction transaction(context.database);
@@ -159,42 +149,34 @@ Reply generateNote(const Query& query, CommandContext& context) {
         {id, establishment.id});
     const std::optional<Order> order = loadOrder(context.database, establishment.id, id);
     if (taken != 1 || !order) {
-        return whyNotGenerated(order, text);
+        throw whyNotGenerated(order, text);
     }
-    if (auto refusal = hindrance(context, establishment.id, *order)) {
-        return *refusal;
-    }
+    checkHindrances(context, establishment.id, *order);
     const NoteKey key{establishment.id, order->seriesCode,
                       takeNumber(context.database, establishment.id, order->seriesCode)};
-    insertNote(context, key, *order, std::get<std::string>(user));
+    insertNote(context, key, *order, user);
     insertSaleOf(context, key, *order);
     moveStock(context.database, establishment.id, id, -1);
     transaction.commit();
     return generatedAnswer(key);
 }
 
-OrRefusal<NoteKey> requestedNote(const Query& query, CommandContext& context) {
+NoteKey requestedNote(const Query& query, CommandContext& context) {
     const auto establishment = requestedEstablishment(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&establishment)) {
-        return *refusal;
-    }
-    return NoteKey{std::get<Establishment>(establishment).id, query.value("CD_SER_NF"),
+    return NoteKey{establishment.id, query.value("CD_SER_NF"),
                    wholeNumber(query.value("ID_NF_KESTO")).value_or(-1)};
 }
 
 Refusal noSuchNote(const Query& query) {
-    return {"A Nota Fiscal nº " + query.value("ID_NF_KESTO") + " da série " +
-            query.value("CD_SER_NF") + " não existe ou foi cancelada."};
+    return Refusal{"A Nota Fiscal nº " + query.value("ID_NF_KESTO") + " da série " +
+                   query.value("CD_SER_NF") + " não existe ou foi cancelada."};
 }
 
 Reply fetchNote(const Query& query, CommandContext& context) {
     const auto key = requestedNote(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&key)) {
-        return *refusal;
-    }
-    auto document = noteDocument(context.database, std::get<NoteKey>(key));
+    auto document = noteDocument(context.database, key);
     if (!document) {
-        return noSuchNote(query);
+        throw noSuchNote(query);
     }
     return std::move(*document);
 }
@@ -207,11 +189,7 @@ constexpr std::array noteFields = {
 };
 
 Reply findNote(const Query& query, CommandContext& context) {
-    const auto requested = requestedNote(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&requested)) {
-        return *refusal;
-    }
-    const auto& key = std::get<NoteKey>(requested);
+    const auto key = requestedNote(query, context);
     return readRowset(context.database, noteFields,
                       "FROM note n JOIN billing_order o ON o.id = n.order_id"
                       " JOIN customer c ON c.id = o.customer_id"
@@ -220,21 +198,19 @@ Reply findNote(const Query& query, CommandContext& context) {
                       {key.establishment, key.series, key.number});
 }
 
-std::optional<Refusal> badCancellation(const Query& query, std::int64_t company,
-                                       CommandContext& context) {
+void checkCancellation(const Query& query, std::int64_t company, CommandContext& context) {
     Rows reasons =
         context.database.select("SELECT 1 FROM cancel_reason WHERE company_id = ? AND id = ?",
                                 {company, wholeNumber(query.value("id_mot_can")).value_or(-1)});
     if (!reasons.next()) {
-        return Refusal{"O motivo do cancelamento não está cadastrado. Escolha outro motivo."};
+        throw Refusal{"O motivo do cancelamento não está cadastrado. Escolha outro motivo."};
     }
     const std::string& kind = query.value("Tipo_Can");
     if (kind != "S" && kind != "C") {
-        return Refusal{
+        throw Refusal{
             "O tipo do cancelamento não foi informado. Escolha COM ou SEM a opção de novo "
             "faturamento da venda."};
     }
-    return std::nullopt;
 }
 
 // With the option of billing the sale anew (Tipo_Can C) the order goes back on
@@ -248,31 +224,22 @@ void releaseOrder(CommandContext& context, const NoteKey& key, std::int64_t orde
 
 Reply cancelNote(const Query& query, CommandContext& context) {
     const auto establishment = requestedEstablishment(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&establishment)) {
-        return *refusal;
-    }
-    const std::int64_t company = std::get<Establishment>(establishment).company;
+    const std::int64_t company = establishment.company;
     const auto user = requestedUser(query, "id_pes_usu", company, context);
-    if (const auto* refusal = std::get_if<Refusal>(&user)) {
-        return *refusal;
-    }
-    if (auto refusal = badCancellation(query, company, context)) {
-        return *refusal;
-    }
-    const auto key = std::get<NoteKey>(requestedNote(query, context));
+    checkCancellation(query, company, context);
+    const auto key = requestedNote(query, context);
     Transaction transaction(context.database);
     takeTurn(context.database, key.establishment);
     const int touched = context.database.execute(
         "UPDATE note SET cancelled = 1, cancelled_by = ?, cancel_reason_id = ?"
         " WHERE establishment_id = ? AND series_code = ? AND number = ? AND cancelled = 0",
-        {std::get<std::string>(user), *wholeNumber(query.value("id_mot_can")), key.establishment,
-         key.series, key.number});
+        {user, *wholeNumber(query.value("id_mot_can")), key.establishment, key.series, key.number});
     Rows rows = context.database.select(
         "SELECT n.order_id, o.note_kind FROM note n JOIN billing_order o ON o.id = n.order_id"
         " WHERE n.establishment_id = ? AND n.series_code = ? AND n.number = ?",
         {key.establishment, key.series, key.number});
     if (touched != 1 || !rows.next() || rows.text(1) != query.value("IC_TIP_NF")) {
-        return noSuchNote(query);
+        throw noSuchNote(query);
     }
     releaseOrder(context, key, rows.integer(0), query.value("Tipo_Can") == "C");
     transaction.commit();
@@ -286,13 +253,10 @@ constexpr std::array seriesFields = {
 
 Reply listSeries(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
     return readRowset(context.database, seriesFields,
                       "FROM series s JOIN establishment e ON e.id = s.establishment_id"
                       " WHERE e.company_id = ? GROUP BY s.description, s.code ORDER BY s.code",
-                      {std::get<std::int64_t>(company)});
+                      {company});
 }
 
 constexpr std::array reasonFields = {
@@ -302,12 +266,9 @@ constexpr std::array reasonFields = {
 
 Reply listReasons(const Query& query, CommandContext& context) {
     const auto establishment = requestedEstablishment(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&establishment)) {
-        return *refusal;
-    }
     return readRowset(context.database, reasonFields,
                       "FROM cancel_reason WHERE company_id = ? ORDER BY id",
-                      {std::get<Establishment>(establishment).company});
+                      {establishment.company});
 }
 
 constexpr std::array commands = {

@@ -37,12 +37,9 @@ struct RequestedOrder {
     std::optional<std::string> saleObservation;
 };
 
-OrRefusal<RequestedOrder> requestedOrder(const Query& query, CommandContext& context) {
+RequestedOrder requestedOrder(const Query& query, CommandContext& context) {
     const auto establishment = requestedEstablishment(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&establishment)) {
-        return *refusal;
-    }
-    RequestedOrder order{std::get<Establishment>(establishment), 0, {}, {}, {}};
+    RequestedOrder order{establishment, 0, {}, {}, {}};
     const std::string& text = query.value("ID_ORD_FAT");
     order.id = wholeNumber(text).value_or(-1);
     Rows rows = context.database.select(
@@ -50,8 +47,8 @@ OrRefusal<RequestedOrder> requestedOrder(const Query& query, CommandContext& con
         " WHERE id = ? AND establishment_id = ?",
         {order.id, order.establishment.id});
     if (!rows.next()) {
-        return Refusal{"A Ordem de Faturamento nº " + text +
-                       " não existe neste estabelecimento. Atualize a lista."};
+        throw Refusal{"A Ordem de Faturamento nº " + text +
+                      " não existe neste estabelecimento. Atualize a lista."};
     }
     order.state = rows.text(0);
     order.loadOrder = rows.nullableText(1);
@@ -61,37 +58,31 @@ OrRefusal<RequestedOrder> requestedOrder(const Query& query, CommandContext& con
 
 Refusal notOpen(const RequestedOrder& order) {
     const std::string what = order.state == "F" ? " já virou Nota Fiscal" : " já foi cancelada";
-    return {"A Ordem de Faturamento nº " + std::to_string(order.id) + what + ". Atualize a lista."};
+    return Refusal{"A Ordem de Faturamento nº " + std::to_string(order.id) + what +
+                   ". Atualize a lista."};
 }
 
 Reply listOrders(const Query& query, CommandContext& context) {
     const auto establishment = requestedEstablishment(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&establishment)) {
-        return *refusal;
-    }
     return readRowset(context.database, listFields,
                       "FROM billing_order o JOIN customer c ON c.id = o.customer_id"
                       " JOIN establishment e ON e.id = o.establishment_id"
                       " LEFT JOIN carrier t ON t.id = o.carrier_id"
                       " WHERE o.establishment_id = ? AND o.state = 'A' ORDER BY o.id",
-                      {std::get<Establishment>(establishment).id});
+                      {establishment.id});
 }
 
 Reply cancelOrder(const Query& query, CommandContext& context) {
-    const auto requested = requestedOrder(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&requested)) {
-        return *refusal;
-    }
-    const auto& order = std::get<RequestedOrder>(requested);
+    const auto order = requestedOrder(query, context);
     if (query.value("id_ord_crg") != order.loadOrder.value_or("")) {
-        return Refusal{"A ordem de carga da Ordem de Faturamento nº " + std::to_string(order.id) +
-                       " mudou. Atualize a lista."};
+        throw Refusal{"A ordem de carga da Ordem de Faturamento nº " + std::to_string(order.id) +
+                      " mudou. Atualize a lista."};
     }
     Transaction transaction(context.database);
     const int touched = context.database.execute(
         "UPDATE billing_order SET state = 'C' WHERE id = ? AND state = 'A'", {order.id});
     if (touched != 1) {
-        return notOpen(order);
+        throw notOpen(order);
     }
     transaction.commit();
     return statusAnswer();
@@ -107,23 +98,16 @@ Reply observationAnswer(std::string text) {
 
 Reply saleObservation(const Query& query, CommandContext& context) {
     const auto requested = requestedOrder(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&requested)) {
-        return *refusal;
-    }
-    return observationAnswer(std::get<RequestedOrder>(requested).saleObservation.value_or(""));
+    return observationAnswer(requested.saleObservation.value_or(""));
 }
 
 Reply stockObservation(const Query& query, CommandContext& context) {
-    const auto requested = requestedOrder(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&requested)) {
-        return *refusal;
-    }
-    const auto& order = std::get<RequestedOrder>(requested);
+    const auto order = requestedOrder(query, context);
     return observationAnswer(missingStock(context.database, order.establishment.id, order.id));
 }
 
 // The three screen amounts in thousandths, in the order of the catalogue.
-OrRefusal<std::array<std::int64_t, 3>> typedQuantities(const Query& query) {
+std::array<std::int64_t, 3> typedQuantities(const Query& query) {
     constexpr std::array<std::pair<std::string_view, std::string_view>, 3> quantityFields = {{
         {"QT_ESP", "Quantidade Espécie"},
         {"PESO_BRU", "Peso Bruto"},
@@ -133,8 +117,8 @@ OrRefusal<std::array<std::int64_t, 3>> typedQuantities(const Query& query) {
     for (std::size_t i = 0; i < quantityFields.size(); ++i) {
         const auto value = screenQuantity(query.value(quantityFields[i].first));
         if (!value || *value > largestQuantity) {
-            return Refusal{std::string(quantityFields[i].second) +
-                           " sem valor válido. Digite um valor de 0,000 a 9.999.999,999."};
+            throw Refusal{std::string(quantityFields[i].second) +
+                          " sem valor válido. Digite um valor de 0,000 a 9.999.999,999."};
         }
         values[i] = *value;
     }
@@ -142,20 +126,13 @@ OrRefusal<std::array<std::int64_t, 3>> typedQuantities(const Query& query) {
 }
 
 Reply maintainOrder(const Query& query, CommandContext& context) {
-    const auto requested = requestedOrder(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&requested)) {
-        return *refusal;
-    }
+    const auto order = requestedOrder(query, context);
     const auto quantities = typedQuantities(query);
-    if (const auto* refusal = std::get_if<Refusal>(&quantities)) {
-        return *refusal;
-    }
     const std::string observation = undoBars(query.value("DC_OBS"));
     if (lengthOf(observation) > largestObservation) {
-        return Refusal{"A observação passa de 500 caracteres. Diminua o texto."};
+        throw Refusal{"A observação passa de 500 caracteres. Diminua o texto."};
     }
-    const auto& order = std::get<RequestedOrder>(requested);
-    const auto& [packages, gross, net] = std::get<std::array<std::int64_t, 3>>(quantities);
+    const auto& [packages, gross, net] = quantities;
     Transaction transaction(context.database);
     const int touched = context.database.execute(
         "UPDATE billing_order SET observation = ?, packages = ?, gross_weight = ?, net_weight = ?"
@@ -163,7 +140,7 @@ Reply maintainOrder(const Query& query, CommandContext& context) {
         {observation.empty() ? Bind(std::nullopt) : Bind(observation), packages, gross, net,
          order.id});
     if (touched != 1) {
-        return notOpen(order);
+        throw notOpen(order);
     }
     transaction.commit();
     return statusAnswer();
@@ -199,18 +176,14 @@ void addSheetItems(Element& root, const Order& order) {
 }
 
 Reply orderSheet(const Query& query, CommandContext& context) {
-    const auto requested = requestedOrder(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&requested)) {
-        return *refusal;
-    }
-    const auto& wanted = std::get<RequestedOrder>(requested);
+    const auto wanted = requestedOrder(query, context);
     Rows rows = context.database.select(
         "SELECT " + selectList(sheetFields) +
             " FROM billing_order o JOIN customer c ON c.id = o.customer_id WHERE o.id = ?",
         {wanted.id});
     const auto order = loadOrder(context.database, wanted.establishment.id, wanted.id);
     if (!rows.next() || !order) {
-        return notOpen(wanted);
+        throw notOpen(wanted);
     }
     Element head{"ORDEM", {}, {}};
     setFields(head, rows, sheetFields);

@@ -2,7 +2,7 @@
 // and the customers who live and bought as asked.
 #include <array>
 
-#include "practice/commands/branch_list.h"
+#include "practice/commands/command.h"
 #include "practice/commands/conditions.h"
 #include "practice/commands/fields.h"
 #include "runtime/text.h"
@@ -19,28 +19,19 @@ constexpr std::array stateFields = {Field{"NM_UF", "name"}, Field{"ID_UF", "id"}
 constexpr std::array cityFields = {Field{"NM_MUN", "name"}, Field{"ID_MUN", "id"}};
 
 Reply listCountries(const Query& query, CommandContext& context) {
-    const auto company = requestedCompany(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
+    requestedCompany(query, context);
     return readRowset(context.database, countryFields, "FROM country ORDER BY name", {});
 }
 
 Reply listStates(const Query& query, CommandContext& context) {
-    const auto company = requestedCompany(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
+    requestedCompany(query, context);
     return readRowset(context.database, stateFields,
                       "FROM state WHERE country_id = ? ORDER BY name, id",
                       {wholeNumber(query.value("Pais")).value_or(-1)});
 }
 
 Reply listCities(const Query& query, CommandContext& context) {
-    const auto company = requestedCompany(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
+    requestedCompany(query, context);
     return readRowset(context.database, cityFields,
                       "FROM city WHERE state_id = ? ORDER BY name, id",
                       {wholeNumber(query.value("Estado")).value_or(-1)});
@@ -82,14 +73,11 @@ void addSales(Conditions& conditions, const Query& query) {
 
 Reply findAddressees(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
     const auto branches = numberList(query.value("nIdEtbTarn"));
     if (!branches) {
-        return Refusal{"A filial não foi informada. Escolha a filial na lista."};
+        throw Refusal{"A filial não foi informada. Escolha a filial na lista."};
     }
-    Conditions conditions("c.company_id = ?", {std::get<std::int64_t>(company)});
+    Conditions conditions("c.company_id = ?", {company});
     conditions.addAnyOf("e.code", *branches);
     addPlace(conditions, "u.country_id = ?", query.value("nIdPais"));
     addPlace(conditions, "u.id = ?", query.value("nIdUf"));
@@ -97,7 +85,7 @@ Reply findAddressees(const Query& query, CommandContext& context) {
     conditions.addNumbers(postalCode, query, "nCepDe", "nCepAte");
     addSales(conditions, query);
     if (!conditions.readable()) {
-        return Refusal{"Um dos filtros da pesquisa não é válido. Confira datas e valores."};
+        throw Refusal{"Um dos filtros da pesquisa não é válido. Confira datas e valores."};
     }
     const std::string order = query.value("nIdOrd") == "CEP"
                                   ? std::string(postalCode) + ", c.search_name, c.id"

@@ -36,7 +36,7 @@ Reply logon(const Query& query, CommandContext& context) {
     Rows companies = context.database.select("SELECT name, server_name FROM company WHERE id = ?",
                                              {company.value_or(-1)});
     if (!companies.next()) {
-        return Refusal{"Empresa não cadastrada. Confira o código da empresa."};
+        throw Refusal{"Empresa não cadastrada. Confira o código da empresa."};
     }
     Rows users = context.database.select(
         "SELECT u.code, e.code FROM app_user u JOIN establishment e ON e.id = u.establishment_id"
@@ -44,7 +44,7 @@ Reply logon(const Query& query, CommandContext& context) {
         {*company, storedLogin(query.value("USUARIO")),
          passwordHash(*company, query.value("USUARIO"), query.value("SENHA"))});
     if (!users.next()) {
-        return Refusal{"Usuário ou senha inválidos. Confira e digite de novo."};
+        throw Refusal{"Usuário ou senha inválidos. Confira e digite de novo."};
     }
     Element row{"USUARIO", {}, {}};
     row.set("NCOMPANYCODE", std::to_string(*company))
@@ -60,17 +60,10 @@ Reply logon(const Query& query, CommandContext& context) {
 
 Reply checkRight(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
-    const auto user = requestedUser(query, "nId_Pes_Usu", std::get<std::int64_t>(company), context);
-    if (const auto* refusal = std::get_if<Refusal>(&user)) {
-        return *refusal;
-    }
+    const auto user = requestedUser(query, "nId_Pes_Usu", company, context);
     const std::string& right = query.value("sTransacao");
-    Rows rows =
-        context.database.select("SELECT 1 FROM user_right WHERE user_code = ? AND right_code = ?",
-                                {std::get<std::string>(user), right});
+    Rows rows = context.database.select(
+        "SELECT 1 FROM user_right WHERE user_code = ? AND right_code = ?", {user, right});
     if (rows.next()) {
         return statusAnswer();
     }
@@ -80,8 +73,8 @@ Reply checkRight(const Query& query, CommandContext& context) {
             name = " (" + std::string(known.name) + ")";
         }
     }
-    return Refusal{"Você não tem direito de acesso à transação " + right + name +
-                   ". Peça o acesso ao administrador do sistema."};
+    throw Refusal{"Você não tem direito de acesso à transação " + right + name +
+                  ". Peça o acesso ao administrador do sistema."};
 }
 
 constexpr std::array establishmentFields = {
@@ -106,11 +99,8 @@ constexpr std::array establishmentFields = {
 
 Reply establishmentData(const Query& query, CommandContext& context) {
     const auto establishment = requestedEstablishment(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&establishment)) {
-        return *refusal;
-    }
     return readRowset(context.database, establishmentFields, "FROM establishment WHERE id = ?",
-                      {std::get<Establishment>(establishment).id});
+                      {establishment.id});
 }
 
 constexpr std::array commands = {

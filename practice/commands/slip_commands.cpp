@@ -2,7 +2,7 @@
 // four writes that tell a slip's number.
 #include <array>
 
-#include "practice/commands/document.h"
+#include "practice/commands/document_commands.h"
 #include "practice/commands/fields.h"
 
 namespace tarn::practice {
@@ -43,11 +43,7 @@ constexpr std::array slipFields = {
 // Either what is in the portfolio asked for, or what waits to be entered in one. A
 // receipt goes on no slip.
 Reply findSlipDocuments(const Query& query, CommandContext& context) {
-    auto search = documentSearch(query, context);
-    if (const auto* refusal = std::get_if<Refusal>(&search)) {
-        return *refusal;
-    }
-    auto& conditions = std::get<Conditions>(search);
+    auto conditions = documentSearch(query, context);
     conditions.add("d.kind_id <> ?", receiptKind);
     if (query.value("IC_INC_CAR") == "S") {
         conditions.add("d.portfolio_id IS NULL");
@@ -67,12 +63,8 @@ constexpr std::array portfolioListFields = {
 
 Reply listPortfolios(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "ID_EMP_TARN", context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
     return readRowset(context.database, portfolioListFields,
-                      "FROM portfolio WHERE company_id = ? ORDER BY id",
-                      {std::get<std::int64_t>(company)});
+                      "FROM portfolio WHERE company_id = ? ORDER BY id", {company});
 }
 
 constexpr std::array portfolioFields = {
@@ -83,21 +75,17 @@ constexpr std::array portfolioFields = {
 
 Reply portfolioRecord(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "ID_EMP_TARN", context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
-    return readRowset(
-        context.database, portfolioFields, "FROM portfolio WHERE company_id = ? AND id = ?",
-        {std::get<std::int64_t>(company), wholeNumber(query.value("ID_CRT_COB")).value_or(-1)});
+    return readRowset(context.database, portfolioFields,
+                      "FROM portfolio WHERE company_id = ? AND id = ?",
+                      {company, wholeNumber(query.value("ID_CRT_COB")).value_or(-1)});
 }
 
 // Which of the two tables a document is of, and so what tells it from the others.
-OrRefusal<Conditions> collectionDocument(const Query& query, CommandContext& context) {
+using FindDocument = Conditions (*)(const Query& query, CommandContext& context);
+
+Conditions collectionDocument(const Query& query, CommandContext& context) {
     const auto establishment = requestedEstablishment(query, "ID_ETB", context);
-    if (const auto* refusal = std::get_if<Refusal>(&establishment)) {
-        return *refusal;
-    }
-    Conditions conditions("establishment_id = ?", {std::get<Establishment>(establishment).id});
+    Conditions conditions("establishment_id = ?", {establishment.id});
     conditions.add("receivable = 0");
     conditions.add("kind_id = ?", wholeNumber(query.value("ID_TIP_DOC")).value_or(-1));
     conditions.add("number = ?", query.value("NR_DOC"));
@@ -105,25 +93,22 @@ OrRefusal<Conditions> collectionDocument(const Query& query, CommandContext& con
 }
 
 // One of the desk's two layouts spells the control number's key ID_NR_CLT.
-OrRefusal<Conditions> receivableDocument(const Query& query, CommandContext& context) {
+Conditions receivableDocument(const Query& query, CommandContext& context) {
     const auto establishment = requestedEstablishment(query, "ID_ETB", context);
-    if (const auto* refusal = std::get_if<Refusal>(&establishment)) {
-        return *refusal;
-    }
     const std::string& control = query.value(query.has("ID_NR_CLT") ? "ID_NR_CLT" : "ID_NR_CTL");
-    Conditions conditions("establishment_id = ?", {std::get<Establishment>(establishment).id});
+    Conditions conditions("establishment_id = ?", {establishment.id});
     conditions.add("receivable = 1");
     conditions.add("control_number = ?", wholeNumber(control).value_or(-1));
     return conditions;
 }
 
 // The desk lets a comma through, and sends the number as it was typed.
-OrRefusal<std::string> slipNumber(const Query& query) {
+std::string slipNumber(const Query& query) {
     const std::string& number = query.value("NR_BOL_BANC");
     if (number.empty() || number.size() > longestSlipNumber ||
         number.find_first_not_of("0123456789,") != std::string::npos) {
-        return Refusal{"O número do boleto bancário \"" + number +
-                       "\" não é válido. Digite só algarismos."};
+        throw Refusal{"O número do boleto bancário \"" + number +
+                      "\" não é válido. Digite só algarismos."};
     }
     return number;
 }
@@ -133,22 +118,15 @@ std::vector<Bind> joined(std::vector<Bind> first, const std::vector<Bind>& secon
     return first;
 }
 
-Reply attachNumber(const Query& query, CommandContext& context,
-                   const OrRefusal<Conditions>& document) {
-    if (const auto* refusal = std::get_if<Refusal>(&document)) {
-        return *refusal;
-    }
+Reply attachNumber(const Query& query, CommandContext& context, FindDocument find) {
+    const Conditions document = find(query, context);
     const auto number = slipNumber(query);
-    if (const auto* refusal = std::get_if<Refusal>(&number)) {
-        return *refusal;
-    }
-    const auto& conditions = std::get<Conditions>(document);
     Transaction transaction(context.database);
     const int touched =
-        context.database.execute("UPDATE document SET slip_number = ? WHERE " + conditions.sql(),
-                                 joined({std::get<std::string>(number)}, conditions.binds()));
+        context.database.execute("UPDATE document SET slip_number = ? WHERE " + document.sql(),
+                                 joined({number}, document.binds()));
     if (touched != 1) {
-        return Refusal{"O documento não existe mais. Pesquise de novo."};
+        throw Refusal{"O documento não existe mais. Pesquise de novo."};
     }
     transaction.commit();
     return statusAnswer();
@@ -160,54 +138,33 @@ struct Portfolio {
     std::string agency;
 };
 
-OrRefusal<Portfolio> requestedPortfolio(const Query& query, std::int64_t company,
-                                        CommandContext& context) {
+Portfolio requestedPortfolio(const Query& query, std::int64_t company, CommandContext& context) {
     Rows rows = context.database.select(
         "SELECT id, bank_id, agency FROM portfolio WHERE company_id = ? AND id = ?",
         {company, wholeNumber(query.value("ID_CRT_COB")).value_or(-1)});
     if (!rows.next()) {
-        return Refusal{"A carteira de cobrança não existe. Escolha a carteira na lista."};
+        throw Refusal{"A carteira de cobrança não existe. Escolha a carteira na lista."};
     }
     return Portfolio{rows.integer(0), rows.integer(1), rows.text(2)};
 }
 
 // A document that the portfolio already holds gets the new number; one that is in
 // another portfolio stays as it is.
-Reply enterPortfolio(const Query& query, CommandContext& context,
-                     const OrRefusal<Conditions>& document) {
+Reply enterPortfolio(const Query& query, CommandContext& context, FindDocument find) {
     const auto company = requestedCompany(query, "ID_EMP_TARN", context);
-    if (const auto* refusal = std::get_if<Refusal>(&company)) {
-        return *refusal;
-    }
-    if (const auto* refusal = std::get_if<Refusal>(&document)) {
-        return *refusal;
-    }
-    const std::int64_t id = std::get<std::int64_t>(company);
-    const auto requested = requestedPortfolio(query, id, context);
-    if (const auto* refusal = std::get_if<Refusal>(&requested)) {
-        return *refusal;
-    }
-    const auto user = requestedUser(query, "ID_PES_USU", id, context);
-    if (const auto* refusal = std::get_if<Refusal>(&user)) {
-        return *refusal;
-    }
+    Conditions conditions = find(query, context);
+    const auto portfolio = requestedPortfolio(query, company, context);
+    const auto user = requestedUser(query, "ID_PES_USU", company, context);
     const auto number = slipNumber(query);
-    if (const auto* refusal = std::get_if<Refusal>(&number)) {
-        return *refusal;
-    }
-    const auto& portfolio = std::get<Portfolio>(requested);
-    auto conditions = std::get<Conditions>(document);
     conditions.add("(portfolio_id IS NULL OR portfolio_id = ?)", portfolio.id);
     Transaction transaction(context.database);
     const int touched = context.database.execute(
         "UPDATE document SET portfolio_id = ?, bank_id = COALESCE(bank_id, ?),"
         " agency = COALESCE(agency, ?), slip_number = ?, entered_by = ? WHERE " +
             conditions.sql(),
-        joined({portfolio.id, portfolio.bank, portfolio.agency, std::get<std::string>(number),
-                std::get<std::string>(user)},
-               conditions.binds()));
+        joined({portfolio.id, portfolio.bank, portfolio.agency, number, user}, conditions.binds()));
     if (touched != 1) {
-        return Refusal{
+        throw Refusal{
             "O documento não existe mais ou já está em outra carteira. Pesquise de novo."};
     }
     transaction.commit();
@@ -215,16 +172,16 @@ Reply enterPortfolio(const Query& query, CommandContext& context,
 }
 
 Reply numberCollection(const Query& query, CommandContext& context) {
-    return attachNumber(query, context, collectionDocument(query, context));
+    return attachNumber(query, context, collectionDocument);
 }
 Reply numberReceivable(const Query& query, CommandContext& context) {
-    return attachNumber(query, context, receivableDocument(query, context));
+    return attachNumber(query, context, receivableDocument);
 }
 Reply enterCollection(const Query& query, CommandContext& context) {
-    return enterPortfolio(query, context, collectionDocument(query, context));
+    return enterPortfolio(query, context, collectionDocument);
 }
 Reply enterReceivable(const Query& query, CommandContext& context) {
-    return enterPortfolio(query, context, receivableDocument(query, context));
+    return enterPortfolio(query, context, receivableDocument);
 }
 
 constexpr std::array commands = {

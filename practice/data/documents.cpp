@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "practice/commands/document.h"
+#include "practice/commands/document_commands.h"
 #include "practice/data/finance.h"
 #include "runtime/text.h"
 

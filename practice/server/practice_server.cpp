@@ -90,6 +90,8 @@ Reply PracticeServer::carryOut(const Command& command, const Query& query) {
             }
             CommandContext context{*state_->database, todayOf(options_)};
             return command.handler(query, context);
+        } catch (const Refusal& refusal) {
+            return refusalAnswer(command.shape, refusal.what());
         } catch (const DatabaseConflict&) {
             if (attempt == attempts) {
                 throw;
@@ -110,7 +112,7 @@ std::string PracticeServer::answer(std::string_view rawQuery, Encoding encoding)
         return writeAnswer(unknownCommand(query), encoding);
     }
     Reply reply = state_->executor.run([&] { return carryOut(*command, query); });
-    return writeAnswer(answerElement(command->shape, std::move(reply)), encoding);
+    return writeAnswer(answerElement(std::move(reply)), encoding);
 }
 
 }  // namespace tarn::practice

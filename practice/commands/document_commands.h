@@ -1,4 +1,5 @@
-// Open documents: their kinds, and the search that bills and slips share.
+// The commands of bills and receipts: establishments, documents, customers. Here the kinds
+// of open documents and the search that bills and slips share.
 #pragma once
 
 #include "practice/commands/command.h"
@@ -20,7 +21,7 @@ inline constexpr std::string_view documentTables =
     " LEFT JOIN customer_address b ON b.customer_id = c.id AND b.kind = 'C' ";
 
 // The filters of the request: company, customer, establishment, both ranges of
-// dates. Refuses what can't be read, and a user that isn't of the company.
-OrRefusal<Conditions> documentSearch(const Query& query, CommandContext& context);
+// dates. Throws a Refusal for what can't be read, and a user that isn't of the company.
+Conditions documentSearch(const Query& query, CommandContext& context);
 
 }  // namespace tarn::practice
