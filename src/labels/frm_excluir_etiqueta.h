@@ -1,10 +1,9 @@
 // Takes a range of labels out of the queue of the reason shown there.
 #pragma once
 
-#include <QDialog>
 #include <memory>
 
-#include "widgets/desk_context.h"
+#include "labels/frm_label_range.h"
 
 namespace Ui {
 class frmExcluirEtiqueta;
@@ -12,27 +11,17 @@ class frmExcluirEtiqueta;
 
 namespace tarn {
 
-namespace labels {
-struct LabelValues;
-}
-
-class frmExcluirEtiqueta : public QDialog {
+class frmExcluirEtiqueta : public FrmLabelRange {
     Q_OBJECT
 
 public:
     frmExcluirEtiqueta(DeskContext& desk, const labels::LabelValues& values, QWidget* parent);
     ~frmExcluirEtiqueta() override;
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-
 private:
-    void activate();
-    void cmdOk_Click();
+    void activate() override;
+    void cmdOk_Click() override;
 
-    DeskContext& desk_;
-    const labels::LabelValues& values_;
     std::unique_ptr<Ui::frmExcluirEtiqueta> ui_;
 };
 

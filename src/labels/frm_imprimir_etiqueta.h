@@ -1,10 +1,9 @@
 // Prints a range of the label queue on the form chosen there.
 #pragma once
 
-#include <QDialog>
 #include <memory>
 
-#include "widgets/desk_context.h"
+#include "labels/frm_label_range.h"
 
 namespace Ui {
 class frmImprimirEtiqueta;
@@ -12,27 +11,17 @@ class frmImprimirEtiqueta;
 
 namespace tarn {
 
-namespace labels {
-struct LabelValues;
-}
-
-class frmImprimirEtiqueta : public QDialog {
+class frmImprimirEtiqueta : public FrmLabelRange {
     Q_OBJECT
 
 public:
     frmImprimirEtiqueta(DeskContext& desk, const labels::LabelValues& values, QWidget* parent);
     ~frmImprimirEtiqueta() override;
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-
 private:
-    void activate();
-    void cmdOk_Click();
+    void activate() override;
+    void cmdOk_Click() override;
 
-    DeskContext& desk_;
-    const labels::LabelValues& values_;
     std::unique_ptr<Ui::frmImprimirEtiqueta> ui_;
 };
 

@@ -9,7 +9,6 @@
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
 #include "labels/drawn_forms.h"
-#include "labels/queue.h"
 #include "labels/raw_form.h"
 #include "platform/environment.h"
 #include "runtime/numbers.h"

@@ -8,6 +8,7 @@
 
 #include "gateway/xml_document.h"
 #include "labels/label.h"
+#include "labels/queue.h"
 #include "platform/progress.h"
 
 namespace tarn {
@@ -16,8 +17,6 @@ struct Sessao;
 }  // namespace tarn
 
 namespace tarn::labels {
-
-struct LabelValues;
 
 enum class LabelForm : int { Pimaco6280 = 1, DotMatrix = 2, A5 = 3, A4WithSender = 4 };
 
@@ -32,12 +31,6 @@ std::string_view labelFormName(LabelForm form);
 struct PrintRun {
     XmlDocument labels;  // answer of sel_etiquetas
     Sender sender;
-};
-
-// Sequence numbers as they were typed.
-struct Range {
-    std::string from;
-    std::string to;
 };
 
 // Fetches the labels of a range and their sender. Nothing, with the user told why, when

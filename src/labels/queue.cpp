@@ -80,21 +80,21 @@ std::optional<Refusal<QueueField>> choiceRefusal(const LabelValues& values, int 
     return std::nullopt;
 }
 
-std::optional<Refusal<RangeField>> rangeRefusal(const std::string& from, const std::string& to) {
-    if (from.empty()) {
+std::optional<Refusal<RangeField>> rangeRefusal(const Range& range) {
+    if (range.from.empty()) {
         return Refusal<RangeField>{RangeField::From, "De é um campo obrigatório!  "};
     }
-    if (to.empty()) {
+    if (range.to.empty()) {
         return Refusal<RangeField>{RangeField::To, "Até é um campo obrigatório!  "};
     }
     return std::nullopt;
 }
 
 bool deleteLabels(Environment& environment, const Sessao& session, const std::string& reason,
-                  const std::string& from, const std::string& to) {
+                  const Range& range) {
     std::string query;
     try {
-        query = commands::exclui_etiquetas(session, reason, from, to);
+        query = commands::exclui_etiquetas(session, reason, range.from, range.to);
     } catch (const RuntimeError& error) {
         reportError(environment, error, rangeNotANumber);
         return false;

@@ -73,14 +73,20 @@ std::optional<std::vector<GridRow>> readQueue(Environment& environment, const Se
 enum class QueueField { Reason, LabelForm };
 std::optional<Refusal<QueueField>> choiceRefusal(const LabelValues& values, int formPosition);
 
+// Sequence numbers as they were typed.
+struct Range {
+    std::string from;
+    std::string to;
+};
+
 // Before a deletion: the end of the range that isn't filled in.
 enum class RangeField { From, To };
-std::optional<Refusal<RangeField>> rangeRefusal(const std::string& from, const std::string& to);
+std::optional<Refusal<RangeField>> rangeRefusal(const Range& range);
 
-// Takes a range of labels out of the queue of one reason; its ends are sequence numbers as
-// they were typed. True: the request was made and success shown, whatever became of it; the
-// queue, read anew, shows the truth. False: an end is no number, as the user has been told.
+// Takes a range of labels out of the queue of one reason. True: the request was made and
+// success shown, whatever became of it; the queue, read anew, shows the truth. False: an end
+// is no number, as the user has been told.
 bool deleteLabels(Environment& environment, const Sessao& session, const std::string& reason,
-                  const std::string& from, const std::string& to);
+                  const Range& range);
 
 }  // namespace tarn::labels

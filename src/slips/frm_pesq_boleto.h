@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "customers/procura_cliente.h"
+#include "slips/slip_search.h"
 #include "widgets/desk_context.h"
 
 namespace Ui {

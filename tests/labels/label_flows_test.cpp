@@ -186,7 +186,7 @@ TEST_F(LabelFlows, PrintingNeedsAQueueThenAForm) {
 
 TEST_F(LabelFlows, ADeletionIsSentAndCalledASuccess) {
     env.loader.on("exclui_etiquetas", answers::status("Recusado"));
-    EXPECT_TRUE(deleteLabels(env.environment, session, "--------", "009", "7"));
+    EXPECT_TRUE(deleteLabels(env.environment, session, "--------", {"009", "7"}));
     EXPECT_THAT(env.loader.queries(),
                 ElementsAre("comando=exclui_etiquetas&ID_EMP_TARN=2161&nSeq_De=9&nSeq_Ate=7"
                             "&nId_Motivo=--------&ServerName=SRV1"));
@@ -194,23 +194,23 @@ TEST_F(LabelFlows, ADeletionIsSentAndCalledASuccess) {
 }
 
 TEST_F(LabelFlows, AFailedDeletionIsCalledASuccessToo) {
-    EXPECT_TRUE(deleteLabels(env.environment, session, "X", "1", "2"));
+    EXPECT_TRUE(deleteLabels(env.environment, session, "X", {"1", "2"}));
     EXPECT_THAT(env.boxes.shown,
                 ElementsAre(noInternet9, information("Etiquetas excluídas com sucesso!     ")));
 }
 
 TEST(RangeRefusal, ADeletionNeedsBothEnds) {
-    EXPECT_EQ(rangeRefusal("", ""),
+    EXPECT_EQ(rangeRefusal({}),
               (Refusal<RangeField>{RangeField::From, "De é um campo obrigatório!  "}));
-    EXPECT_EQ(rangeRefusal("1", ""),
+    EXPECT_EQ(rangeRefusal({"1", ""}),
               (Refusal<RangeField>{RangeField::To, "Até é um campo obrigatório!  "}));
-    EXPECT_EQ(rangeRefusal("1", ","), std::nullopt);
+    EXPECT_EQ(rangeRefusal({"1", ","}), std::nullopt);
 }
 
 TEST_F(LabelFlows, ADeletionOfWhatIsNoNumberIsReported) {
     for (const auto& [from, to] : {std::pair{",", "1"}, std::pair{"1", ",,"}}) {
         env.boxes.shown.clear();
-        EXPECT_FALSE(deleteLabels(env.environment, session, "X", from, to));
+        EXPECT_FALSE(deleteLabels(env.environment, session, "X", {from, to}));
         ASSERT_EQ(env.boxes.shown.size(), 1U);
         EXPECT_EQ(env.boxes.shown[0].icon, BoxIcon::Critical);
         EXPECT_EQ(env.boxes.shown[0].text.rfind("Erro em tempo de execução '13':\r\r", 0), 0U);

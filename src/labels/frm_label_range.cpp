@@ -1,0 +1,48 @@
+#include "labels/frm_label_range.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShowEvent>
+
+#include "widgets/enter_presses_button.h"
+#include "widgets/field_controller.h"
+#include "widgets/look.h"
+
+namespace tarn {
+
+FrmLabelRange::FrmLabelRange(DeskContext& desk, const labels::LabelValues& values, QWidget* parent)
+    : QDialog(parent), desk_(desk), values_(values) {}
+
+void FrmLabelRange::prepareControls(QLineEdit* txtDe, QLineEdit* txtAte, QPushButton* cmdOk,
+                                    const char* okPicture, QPushButton* cmdCancelar) {
+    from_ = txtDe;
+    to_ = txtAte;
+    for (QLineEdit* field : {txtDe, txtAte}) {
+        new FieldController(field, KeyFilter::Decimal, desk_.environment);
+    }
+    setIcon(*cmdOk, okPicture);
+    setIcon(*cmdCancelar, "give_up");
+    connect(cmdOk, &QPushButton::clicked, this, &FrmLabelRange::cmdOk_Click);
+    connect(cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
+    txtDe->setFocus();
+}
+
+labels::Range FrmLabelRange::range() const {
+    return {from_->text().toStdString(), to_->text().toStdString()};
+}
+
+void FrmLabelRange::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!event->spontaneous()) {
+        activate();
+    }
+}
+
+void FrmLabelRange::keyPressEvent(QKeyEvent* event) {
+    if (!enterPressesButton(*this, *event)) {
+        QDialog::keyPressEvent(event);
+    }
+}
+
+}  // namespace tarn
