@@ -6,6 +6,7 @@
 #include "billing/observations.h"
 #include "runtime/runtime_error.h"
 #include "tests/support/boxes.h"
+#include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -42,10 +43,6 @@ struct ScriptedAlert : AlertDialog {
 class GenerateNoteTest : public testing::Test {
 protected:
     GenerateNoteTest() {
-        session_.NCOMPANYCODE = 1361;
-        session_.ID_ETB_TARN = 9;
-        session_.UserCode = "u1";
-        session_.SERVERNAME = "SRV";
         seams_.loader.on("Seleciona_Obs_Vnd_X_Ord", observation(""))
             .on("Seleciona_Obs_Ord_X_Est", observation(""));
     }
@@ -87,7 +84,7 @@ protected:
     const std::string noteDocument_ = header + "<PRINCIPAL a=\"\" s=\"OK\"><C/></PRINCIPAL>";
 
     TestEnvironment seams_;
-    Sessao session_;
+    Sessao session_ = sessionOf(1361, 9, "u1", "SRV");
     ScriptedAlert alert_{session_};
     std::vector<std::string> printed_;
 };

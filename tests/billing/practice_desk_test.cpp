@@ -3,9 +3,9 @@
 #include <thread>
 
 #include "billing/frm_oft.h"
-#include "platform/curl/curl_loader.h"
 #include "practice/server/http_front.h"
 #include "practice/server/practice_server.h"
+#include "tests/support/network_desk.h"
 #include "tests/support/screen_test.h"
 #include "widgets/free_text_field.h"
 
@@ -53,11 +53,8 @@ protected:
     }
 
     Practice practice;
-    CurlLoader curl;
-    BlockingLoader real{curl};
-    Environment overNetwork{real, spooler, printer, boxes, clock, machine, practice.baseUrl()};
-    DeskContext realDesk{overNetwork, session, end};
-    FrmOFT list{realDesk};
+    NetworkDesk network{desk, practice.baseUrl()};
+    FrmOFT list{network.desk};
 };
 
 TEST_F(PracticeDeskTest, WhatIsTypedComesBackInTheList) {

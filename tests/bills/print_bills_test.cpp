@@ -11,6 +11,7 @@
 #include "tests/bills/expected_pages.h"
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
+#include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -166,12 +167,7 @@ std::string without(std::string line, const std::string& field) {
 
 class PrintBillsTest : public testing::Test {
 protected:
-    PrintBillsTest() {
-        session_.NCOMPANYCODE = 1361;
-        session_.ID_ETB_TARN = 9;
-        session_.SERVERNAME = "SRV1";
-        seams_.loader.on("sel_dados_empresa", answers::rowset(wholeCompany));
-    }
+    PrintBillsTest() { seams_.loader.on("sel_dados_empresa", answers::rowset(wholeCompany)); }
     // The rows of the grid, all of them ticked.
     void findBill(const std::string& lines) {
         XmlDocument answer;
@@ -200,7 +196,7 @@ protected:
     }
 
     TestEnvironment seams_;
-    Sessao session_;
+    Sessao session_ = sessionOf(1361, 9);
     std::vector<GridRow> lines_;
     bool triplicate_ = false;
     BillPictures pictures_{Picture("picLogo", "l"), Picture("picVert", "v"),

@@ -6,6 +6,7 @@
 #include "runtime/runtime_error.h"
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
+#include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -30,12 +31,6 @@ constexpr char recordQuery[] =
 
 class IssueChequeTest : public testing::Test {
 protected:
-    IssueChequeTest() {
-        session_.NCOMPANYCODE = 2041;
-        session_.ID_ETB_TARN = 6001;
-        session_.UserCode = "77";
-        session_.SERVERNAME = "SRV1";
-    }
     std::vector<std::string> queries() { return seams_.loader.queries(); }
     RuntimeErrorCode errorOfIssuing() {
         try {
@@ -60,7 +55,7 @@ protected:
 
     TestEnvironment seams_;
     Environment& environment_ = seams_.environment;
-    Sessao session_;
+    Sessao session_ = sessionOf(2041, 6001);
     ChequeFields fields_{.account = BankAccount{.description = "BANCO",
                                                 .ID_PES_BAN = 901,
                                                 .CD_AGE_BAN = " 0123 ",

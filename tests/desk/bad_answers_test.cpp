@@ -7,11 +7,11 @@
 
 #include "billing/frm_oft.h"
 #include "desk/frm_logon.h"
-#include "platform/curl/curl_loader.h"
 #include "platform/qt/qt_message_boxes.h"
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
 #include "tests/support/loopback_server.h"
+#include "tests/support/network_desk.h"
 #include "tests/support/screen_test.h"
 
 namespace tarn::test {
@@ -100,12 +100,9 @@ protected:
     }
 
     LoopbackServer http;
-    CurlLoader curl;
-    BlockingLoader network{curl};
-    Environment overHttp{network, spooler, printer, boxes, clock, machine, http.baseUrl()};
-    DeskContext netDesk{overHttp, session, end};
-    FrmLogon logon{netDesk, nullptr};
-    FrmOFT orders{netDesk};
+    NetworkDesk network{desk, http.baseUrl()};
+    FrmLogon logon{network.desk, nullptr};
+    FrmOFT orders{network.desk};
 };
 
 class NoDocumentComes : public BadAnswers, public testing::WithParamInterface<NoDocument> {};
@@ -225,7 +222,7 @@ TEST_F(BadAnswers, AStatusInLowerCaseOrWithMarkupIsARefusalShownAsItStands) {
 
 TEST_F(BadAnswers, MarkupReachesTheRealBoxAsPlainText) {
     QtMessageBoxes real;
-    Environment withBoxes{network, spooler, printer, real, clock, machine, http.baseUrl()};
+    Environment withBoxes{network.blocking, spooler, printer, real, clock, machine, http.baseUrl()};
     DeskContext shownDesk{withBoxes, session, end};
     FrmLogon screen(shownDesk, nullptr);
     screen.show();

@@ -5,9 +5,9 @@
 
 #include "billing/frm_oft.h"
 #include "desk/mdi_menu.h"
-#include "platform/curl/curl_loader.h"
 #include "tests/support/answers.h"
 #include "tests/support/loopback_server.h"
+#include "tests/support/network_desk.h"
 #include "tests/support/screen_test.h"
 
 namespace tarn::test {
@@ -34,11 +34,8 @@ protected:
     }
 
     LoopbackServer http;
-    CurlLoader curl;
-    BlockingLoader network{curl};
-    Environment overHttp{network, spooler, printer, boxes, clock, machine, http.baseUrl()};
-    DeskContext netDesk{overHttp, session, end};
-    MDIMenu menu{netDesk};
+    NetworkDesk network{desk, http.baseUrl()};
+    MDIMenu menu{network.desk};
 };
 
 TEST_F(DeskOverHttp, LogsOnAndListsTheOrders) {

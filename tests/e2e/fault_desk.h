@@ -15,11 +15,11 @@
 
 #include "desk/mdi_menu.h"
 #include "gateway/xml_document.h"
-#include "platform/curl/curl_loader.h"
 #include "platform/request_line.h"
 #include "practice/database/database.h"
 #include "tests/support/boxes.h"
 #include "tests/support/grid.h"
+#include "tests/support/network_desk.h"
 #include "tests/support/practice_page.h"
 #include "tests/support/screen_test.h"
 
@@ -93,7 +93,7 @@ protected:
 
     void SetUp() override {
         ScreenTest::SetUp();
-        QObject::connect(&end, &ProgramEnd::didEnd, &end, [this] { network.close(); });
+        QObject::connect(&end, &ProgramEnd::didEnd, &end, [this] { network.blocking.close(); });
         menu.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&menu));
     }
@@ -209,11 +209,8 @@ protected:
     const std::string file = newDatabase(folder);
     PracticePage page{file};
     practice::Database database{file};
-    CurlLoader curl;
-    BlockingLoader network{curl};
-    Environment overHttp{network, spooler, printer, boxes, clock, machine, page.baseUrl()};
-    DeskContext netDesk{overHttp, session, end};
-    MDIMenu menu{netDesk};
+    NetworkDesk network{desk, page.baseUrl()};
+    MDIMenu menu{network.desk};
 };
 
 }  // namespace tarn::test

@@ -7,9 +7,9 @@
 #include "billing/frm_oft.h"
 #include "desk/mdi_menu.h"
 #include "notes/layouts/layouts.h"
-#include "platform/curl/curl_loader.h"
 #include "reprint/frm_reimprime_nf.h"
 #include "tests/notes/note_fixture.h"
+#include "tests/support/network_desk.h"
 #include "tests/support/practice_page.h"
 #include "tests/support/screen_test.h"
 
@@ -80,11 +80,8 @@ protected:
                        "Aviso"};
 
     PracticePage page;
-    CurlLoader curl;
-    BlockingLoader network{curl};
-    Environment overHttp{network, spooler, printer, boxes, clock, machine, page.baseUrl()};
-    DeskContext netDesk{overHttp, session, end};
-    MDIMenu menu{netDesk};
+    NetworkDesk network{desk, page.baseUrl()};
+    MDIMenu menu{network.desk};
 };
 
 TEST_F(NoteLife, IssuedPrintedAgainCancelledAndGone) {

@@ -12,6 +12,7 @@
 #include "platform/curl/curl_loader.h"
 #include "runtime/runtime_error.h"
 #include "tests/support/loopback_server.h"
+#include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -25,13 +26,6 @@ struct NoAlert : AlertDialog {
 
 class GatewayLoopbackTest : public testing::Test {
 protected:
-    GatewayLoopbackTest() {
-        session_.NCOMPANYCODE = 1361;
-        session_.ID_ETB_TARN = 9;
-        session_.UserCode = "u1";
-        session_.SERVERNAME = "SRV";
-    }
-
     bool load(const std::string& query) {
         return CarregaXML(environment_, environment_.baseUrl + query, document_, false, "", 0, "",
                           "falhou");
@@ -53,7 +47,7 @@ protected:
                              .clock = seams_.clock,
                              .machine = seams_.machine,
                              .baseUrl = server_.baseUrl()};
-    Sessao session_;
+    Sessao session_ = sessionOf(1361, 9, "u1", "SRV");
     NoAlert alert_;
     XmlDocument document_;
     std::vector<std::string> printed_;

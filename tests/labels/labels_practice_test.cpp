@@ -1,6 +1,6 @@
 // The labels against the practice server itself, over a real connection.
-#include "platform/curl/curl_loader.h"
 #include "tests/labels/label_screens.h"
+#include "tests/support/network_desk.h"
 #include "tests/support/practice_page.h"
 
 namespace tarn::test {
@@ -24,11 +24,8 @@ protected:
     }
 
     PracticePage page;
-    CurlLoader curl;
-    BlockingLoader real{curl};
-    Environment overNetwork{real, spooler, printer, boxes, clock, machine, page.baseUrl()};
-    DeskContext realDesk{overNetwork, session, end};
-    MDIMenu realMenu{realDesk};
+    NetworkDesk network{desk, page.baseUrl()};
+    MDIMenu realMenu{network.desk};
 };
 
 TEST_F(PracticeLabels, AReasonIsPrintedAndItsLastLabelDeleted) {

@@ -8,6 +8,7 @@
 #include "tests/notes/note_fixture.h"
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
+#include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -23,12 +24,6 @@ const std::vector<std::string> noStatus{
 
 class ReprintTest : public testing::Test {
 protected:
-    ReprintTest() {
-        session.NCOMPANYCODE = 1361;
-        session.ID_ETB_TARN = 9;
-        session.UserCode = "u1";
-        session.SERVERNAME = "SRV";
-    }
     std::vector<std::string> series() {
         std::vector<std::string> items;
         EXPECT_TRUE(loadSeries(environment, session, items));
@@ -66,7 +61,7 @@ protected:
 
     TestEnvironment seams;
     Environment& environment = seams.environment;
-    Sessao session;
+    Sessao session = sessionOf(1361, 9, "u1", "SRV");
 };
 
 TEST_F(ReprintTest, AnItemIsDescriptionFiftyBlanksBarAndTrimmedCode) {

@@ -6,6 +6,7 @@
 
 #include "runtime/runtime_error.h"
 #include "tests/slips/slip_fixture.h"
+#include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -36,13 +37,6 @@ GridRow ofBank(const std::string& number, const std::string& bank) {
 
 class PrintSlipsTest : public testing::Test {
 protected:
-    PrintSlipsTest() {
-        session.NCOMPANYCODE = 2161;
-        session.ID_ETB_TARN = 9;
-        session.UserCode = "77";
-        session.SERVERNAME = "SRV1";
-    }
-
     void run(const Portfolio& portfolio, const std::string& first) {
         if (ticks.empty()) {
             ticks.assign(documents.size(), true);
@@ -93,7 +87,7 @@ protected:
     }
 
     TestEnvironment seams;
-    Sessao session;
+    Sessao session = sessionOf(2161, 9);
     std::vector<GridRow> documents{document()};
     std::vector<bool> ticks;  // of the next run; empty: all
     bool includesPortfolio = false;

@@ -7,6 +7,7 @@
 #include "gateway/xml_document.h"
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
+#include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -140,15 +141,8 @@ TEST(SlipRows, NoRows) {
 
 class SlipSearchTest : public testing::Test {
 protected:
-    SlipSearchTest() {
-        session.NCOMPANYCODE = 2161;
-        session.ID_ETB_TARN = 9;
-        session.UserCode = "77";
-        session.SERVERNAME = "SRV1";
-    }
-
     TestEnvironment seams;
-    Sessao session;
+    Sessao session = sessionOf(2161, 9);
 };
 
 TEST_F(SlipSearchTest, SendsTheWholeFilter) {

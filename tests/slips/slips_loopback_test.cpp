@@ -1,10 +1,10 @@
 // One whole run over real HTTP: a server on loopback, the real loader.
-#include "platform/curl/curl_loader.h"
 
 #include <thread>
 
 #include "tests/slips/slip_screen_test.h"
 #include "tests/support/loopback_server.h"
+#include "tests/support/network_desk.h"
 
 namespace tarn::test {
 namespace {
@@ -49,11 +49,8 @@ protected:
     }
 
     LoopbackServer http;
-    CurlLoader curl;
-    BlockingLoader network{curl};
-    Environment overNetwork{network, spooler, printer, boxes, clock, machine, http.baseUrl()};
-    DeskContext networkDesk{overNetwork, session, end};
-    MDIMenu desk{networkDesk};
+    NetworkDesk network{ScreenTest::desk, http.baseUrl()};
+    MDIMenu desk{network.desk};
 };
 
 // The writes meet an HTTP error, a connection that hangs up and a body that is no XML.
