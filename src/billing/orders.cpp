@@ -8,6 +8,7 @@
 #include "gateway/failure_texts.h"
 #include "platform/environment.h"
 #include "platform/message_boxes.h"
+#include "runtime/numbers.h"
 
 namespace tarn {
 namespace {

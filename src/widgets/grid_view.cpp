@@ -18,15 +18,17 @@ namespace {
 
 constexpr double monitorPart = 0.9;
 
-// What a button acts on is what the clerk sees: a click with Ctrl on the selected row
-// leaves it selected.
+// What a button acts on is what the clerk sees: neither a click with Ctrl on the selected
+// row nor one below the last row unselects it. New rows leave no current one behind.
 class CurrentRowSelection : public QItemSelectionModel {
 public:
     using QItemSelectionModel::QItemSelectionModel;
     using QItemSelectionModel::select;
 
     void select(const QItemSelection& rows, SelectionFlags command) override {
-        if (!(command & (Deselect | Toggle))) {
+        const bool unselects =
+            command.testAnyFlags(Deselect | Toggle) || (command.testFlag(Clear) && rows.isEmpty());
+        if (!unselects || !currentIndex().isValid()) {
             QItemSelectionModel::select(rows, command);
         }
     }

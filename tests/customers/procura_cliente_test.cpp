@@ -37,7 +37,7 @@ TEST_F(ProcuraClienteTest, SendsTheTextWithBarsForAmpersands) {
 TEST_F(ProcuraClienteTest, AFailedRequestIsFalse) {
     EXPECT_FALSE(ProcuraCliente(seams_.environment, session_, answer_, "abc"));
     EXPECT_THAT(seams_.boxes.shown,
-                ElementsAre(BoxrequestFailure(
+                ElementsAre(requestFailure(
                     "Tarn0024 - Erro na pesquisa de cliente - Não foi possível obter "
                     "os dados da Internet. Verifique a conexão com a Internet.")));
 }
