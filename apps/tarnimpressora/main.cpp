@@ -7,8 +7,8 @@
 #include "apps/tarnimpressora/options.h"
 #include "apps/tarnimpressora/with_window.h"
 #include "apps/tarnimpressora/without_window.h"
+#include "dotmatrix/dialect.h"
 #include "dotmatrix/form_file.h"
-#include "dotmatrix/print_mode.h"
 #include "forms/form_loader.h"
 #include "forms/layout_forms.h"
 

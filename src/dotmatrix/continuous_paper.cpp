@@ -5,6 +5,47 @@
 
 namespace tarn::dotmatrix {
 
+FormTable::FormTable(const Form& first, std::size_t index)
+    : runs_{Run{.first = index, .count = 1, .top = first.top, .height = first.height}} {}
+
+void FormTable::append(PaperUnits height) {
+    const Form last = back();
+    if (runs_.back().height == height) {
+        ++runs_.back().count;
+    } else {
+        runs_.push_back(
+            {.first = size(), .count = 1, .top = last.top + last.height, .height = height});
+    }
+}
+
+void FormTable::setLastHeight(PaperUnits height) {
+    if (runs_.back().count == 1) {
+        runs_.back().height = height;
+        return;
+    }
+    const Form last = back();
+    --runs_.back().count;
+    runs_.push_back({.first = size(), .count = 1, .top = last.top, .height = height});
+}
+
+Form FormTable::at(std::size_t index) const {
+    const auto after =
+        std::upper_bound(runs_.begin(), runs_.end(), index,
+                         [](std::size_t wanted, const Run& run) { return wanted < run.first; });
+    const Run& run = after == runs_.begin() ? *after : *(after - 1);
+    const std::size_t place = std::min(index, run.first + run.count - 1) - run.first;
+    return {run.top + static_cast<PaperUnits>(place) * run.height, run.height};
+}
+
+std::size_t FormTable::formAt(PaperUnits y) const {
+    const auto after =
+        std::upper_bound(runs_.begin(), runs_.end(), y,
+                         [](PaperUnits wanted, const Run& run) { return wanted < run.top; });
+    const Run& run = after == runs_.begin() ? *after : *(after - 1);
+    const PaperUnits place = std::max<PaperUnits>(0, (y - run.top) / run.height);
+    return run.first + std::min(static_cast<std::size_t>(place), run.count - 1);
+}
+
 ContinuousPaper::ContinuousPaper(PaperUnits formHeight)
     : formHeight_(std::max<PaperUnits>(formHeight, 1)), forms_({0, formHeight_}) {}
 
@@ -121,6 +162,23 @@ char16_t ContinuousPaper::characterAt(std::size_t job, std::size_t jobLine,
         }
     }
     return found;
+}
+
+FormPage pageOf(const ContinuousPaper& paper, std::size_t form) {
+    FormPage page{.form = form, .shape = paper.forms().at(form), .lines = {}};
+    const auto& lines = paper.lines();
+    for (std::size_t i = paper.firstLineOf(form); i < lines.size() && lines[i].form == form; ++i) {
+        page.lines.push_back(lines[i]);
+    }
+    return page;
+}
+
+PaperPages pagesOf(const ContinuousPaper& paper) {
+    return {.count = paper.printedForms(),
+            .contentWidth = paper.contentWidth(),
+            .page = [&paper](std::size_t form) {
+                return std::make_shared<const FormPage>(pageOf(paper, form));
+            }};
 }
 
 }  // namespace tarn::dotmatrix

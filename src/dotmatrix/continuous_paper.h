@@ -1,15 +1,57 @@
 // The paper that has come out of the printer: one endless strip, divided into
 // forms by perforations, with every character where its needles struck. x counts from
 // the first print position.
+//
+// Lengths are whole numbers of 1/2160 inch: the pitches of these printers (10, 12,
+// 15, 17.14 and 20 characters an inch) and their feeds (1/72, 1/180 and 1/216 inch)
+// are all exact in it. y counts from the top of the first form.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <vector>
 
-#include "dotmatrix/form_table.h"
-
 namespace tarn::dotmatrix {
+
+using PaperUnits = std::int64_t;
+inline constexpr PaperUnits unitsPerInch = 2160;
+
+struct Form {
+    PaperUnits top = 0;
+    PaperUnits height = 0;
+};
+
+// Where the perforations of the paper are. Forms of one height that follow each other
+// take the room of one, so that a million of them cost nothing. Never empty. Forms count
+// from 0; those before the first one added are unknown.
+class FormTable {
+public:
+    explicit FormTable(const Form& first, std::size_t index = 0);
+
+    // The next form, below the last one; `height` is above 0.
+    void append(PaperUnits height);
+    void setLastHeight(PaperUnits height);
+
+    std::size_t size() const { return runs_.back().first + runs_.back().count; }
+    // `index` is not below the first form's; the last form for one past the end.
+    Form at(std::size_t index) const;
+    Form operator[](std::size_t index) const { return at(index); }
+    Form front() const { return at(runs_.front().first); }
+    Form back() const { return at(size() - 1); }
+    // The form that holds `y`, the first or last one for what lies outside.
+    std::size_t formAt(PaperUnits y) const;
+
+private:
+    struct Run {
+        std::size_t first = 0;
+        std::size_t count = 1;
+        PaperUnits top = 0;
+        PaperUnits height = 0;
+    };
+    std::vector<Run> runs_;
+};
 
 enum Style : std::uint8_t {
     plain = 0,
@@ -113,5 +155,25 @@ private:
     FormTable forms_;
     std::vector<PaperLine> lines_;
 };
+
+// One form of the paper with what is printed on it: what is drawn, written and searched
+// page by page.
+struct FormPage {
+    std::size_t form = 0;  // from 0
+    Form shape{};
+    std::vector<PaperLine> lines;  // in the order of printing
+};
+
+FormPage pageOf(const ContinuousPaper& paper, std::size_t form);
+
+// Paper to be written to a file; it must not change meanwhile.
+struct PaperPages {
+    std::size_t count = 0;  // forms up to the last one that is printed on
+    PaperUnits contentWidth = 0;
+    std::function<std::shared_ptr<const FormPage>(std::size_t form)> page;
+};
+
+// `paper` must outlive the result.
+PaperPages pagesOf(const ContinuousPaper& paper);
 
 }  // namespace tarn::dotmatrix

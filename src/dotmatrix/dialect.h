@@ -1,5 +1,8 @@
-// How a printer is set up at its panel before the first byte comes.
+// How a printer is set up: at its panel before the first byte comes, and by the bytes, for
+// the look of the next character.
 #pragma once
+
+#include <cstdint>
 
 #include "dotmatrix/continuous_paper.h"
 #include "runtime/code_page.h"
@@ -19,6 +22,24 @@ struct Dialect {
     // The oldest printers of the family print 12 characters an inch when both elite and
     // condensed are on; all later ones 20, in whichever order the two came.
     bool eliteOverridesCondensed = false;
+};
+
+// The part of a printer's state that decides how the next character looks.
+struct PrintMode {
+    bool elite = false;      // 12 instead of 10 an inch
+    bool micron = false;     // 15 an inch
+    bool condensed = false;  // 17.14 instead of 10, 20 instead of 12
+    bool wide = false;       // double width until cancelled
+    bool wideLine = false;   // double width to the end of the line
+    bool eliteOverridesCondensed = false;
+    std::uint8_t style = plain;
+
+    // Width of one character cell.
+    std::uint16_t cellWidth() const;
+    void setStyle(Style bit, bool on);
+    // Master select: bits 0 elite, 2 condensed, 3 emphasised, 4 double strike,
+    // 5 double width, 6 italic, 7 underline. Bit 1, proportional, is not drawn.
+    void select(std::uint8_t bits);
 };
 
 }  // namespace tarn::dotmatrix

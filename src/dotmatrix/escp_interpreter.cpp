@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "dotmatrix/glyph_table.h"
-
 namespace tarn::dotmatrix {
 
 namespace {
@@ -24,9 +22,6 @@ constexpr std::uint8_t deviceControl4 = 0x14;
 constexpr std::uint8_t escape = 0x1B;
 constexpr std::uint8_t deleteByte = 0x7F;
 
-constexpr int tabColumns = 8;
-// Backspaces of another pitch can bring the head back without giving back the columns.
-constexpr PaperUnits maxColumn = 4096;
 constexpr std::uint8_t maxFormLines = 127;
 constexpr std::uint8_t maxFormInches = 22;
 // No label is lower; shorter forms would only flood the paper with perforations.
@@ -42,13 +37,16 @@ bool isOn(std::uint8_t parameter) {
 }  // namespace
 
 EscpInterpreter::EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect)
-    : paper_(paper), dialect_(dialect) {
+    : paper_(paper), dialect_(dialect), head_(paper_, dialect_, state_, notices_) {
     dialect_.carriageWidth = std::max(dialect_.carriageWidth, narrowestCarriage);
     reset();
 }
 
 EscpInterpreter::EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect, PrinterState state)
-    : paper_(paper), dialect_(dialect), state_(std::move(state)) {
+    : paper_(paper),
+      dialect_(dialect),
+      state_(std::move(state)),
+      head_(paper_, dialect_, state_, notices_) {
     dialect_.carriageWidth = std::max(dialect_.carriageWidth, narrowestCarriage);
 }
 
@@ -92,12 +90,12 @@ void EscpInterpreter::take(std::uint8_t byte) {
 
 void EscpInterpreter::takeText(std::uint8_t byte) {
     if (hasUpperControls(dialect_.codePage) && byte >= 0x80 && byte < 0xA0) {
-        note(NoticeKind::UpperControl, std::string(1, static_cast<char>(byte)));
+        head_.note(NoticeKind::UpperControl, std::string(1, static_cast<char>(byte)));
         takeControl(static_cast<std::uint8_t>(byte - 0x80), byte);
     } else if (byte < 0x20 || byte == deleteByte) {
         takeControl(byte, byte);
     } else {
-        printCharacter(glyphOf(byte, dialect_.codePage));
+        head_.print(glyphOf(byte, dialect_.codePage));
     }
 }
 
@@ -107,22 +105,22 @@ void EscpInterpreter::takeControl(std::uint8_t code, std::uint8_t byte) {
         case bell:
             break;
         case backspaceByte:
-            backspace();
+            head_.backspace();
             break;
         case tab:
-            horizontalTab();
+            head_.horizontalTab();
             break;
         case lineFeed:
         case verticalTab:  // without vertical tabs set it feeds one line
-            newLine();
+            head_.newLine();
             break;
         case formFeed:
             paper_.feedToNextForm();
-            carriageReturn();
+            head_.carriageReturn();
             state_.mode.wideLine = false;
             break;
         case carriageReturnByte:
-            carriageReturn();
+            head_.carriageReturn();
             break;
         case shiftOut:
             state_.mode.wideLine = true;
@@ -141,7 +139,7 @@ void EscpInterpreter::takeControl(std::uint8_t code, std::uint8_t byte) {
             state_.waiting = Waiting::Escape;
             break;
         default:
-            note(NoticeKind::UnknownControl, std::string(1, static_cast<char>(byte)));
+            head_.note(NoticeKind::UnknownControl, std::string(1, static_cast<char>(byte)));
             break;
     }
 }
@@ -156,13 +154,13 @@ void EscpInterpreter::takeEscape(std::uint8_t byte) {
         // Forms are in use whose set-up reads ESC ESC G and wants double strike, so the
         // first ESC is the one that is dropped. A printer that drops the pair prints "G"
         // instead; the notice tells where.
-        note(NoticeKind::RepeatedEscape, state_.command);
+        head_.note(NoticeKind::RepeatedEscape, state_.command);
         state_.command.assign(1, static_cast<char>(byte));
         return;
     }
     const auto shape = shapeOf(code);
     if (!shape) {
-        note(NoticeKind::UnknownCommand, state_.command);
+        head_.note(NoticeKind::UnknownCommand, state_.command);
         state_.waiting = Waiting::Text;
         return;
     }
@@ -199,7 +197,7 @@ void EscpInterpreter::finishCommand() {
         execute();
         return;
     }
-    note(NoticeKind::NotDrawn, state_.command);
+    head_.note(NoticeKind::NotDrawn, state_.command);
     if (state_.shape.tail != Tail::Data) {
         return;
     }
@@ -282,7 +280,7 @@ void EscpInterpreter::executeFeed(std::uint8_t parameter) {
             break;
         case 'A':
             if (parameter > maxSpacing) {
-                note(NoticeKind::BadParameter, state_.command);
+                head_.note(NoticeKind::BadParameter, state_.command);
             } else {
                 state_.lineSpacing = parameter * (unitsPerInch / (nine ? 72 : 60));
             }
@@ -308,7 +306,7 @@ void EscpInterpreter::executeFeed(std::uint8_t parameter) {
 void EscpInterpreter::setFormLines(std::uint8_t lines) {
     const PaperUnits height = lines * state_.lineSpacing;
     if (lines > maxFormLines || height < shortestForm || height > maxFormInches * unitsPerInch) {
-        note(NoticeKind::BadParameter, state_.command);
+        head_.note(NoticeKind::BadParameter, state_.command);
         return;
     }
     paper_.setFormHeight(height);
@@ -316,7 +314,7 @@ void EscpInterpreter::setFormLines(std::uint8_t lines) {
 
 void EscpInterpreter::setFormInches(std::uint8_t inches) {
     if (inches < 1 || inches > maxFormInches) {
-        note(NoticeKind::BadParameter, state_.command);
+        head_.note(NoticeKind::BadParameter, state_.command);
         return;
     }
     paper_.setFormHeight(inches * unitsPerInch);
@@ -328,76 +326,11 @@ void EscpInterpreter::reset() {
     state_.mode.condensed = dialect_.condensed;
     state_.mode.eliteOverridesCondensed = dialect_.eliteOverridesCondensed;
     state_.lineSpacing = unitsPerInch / 6;
-    carriageReturn();
+    head_.carriageReturn();
     // The paper stays where it is; only a changed form length starts a new form here.
     if (paper_.formHeight() != dialect_.formHeight) {
         paper_.setFormHeight(dialect_.formHeight);
     }
-}
-
-void EscpInterpreter::printCharacter(char16_t character) {
-    const std::uint16_t width = state_.mode.cellWidth();
-    if (state_.x + width > dialect_.carriageWidth) {
-        note(NoticeKind::PastRightMargin, {});
-        newLine();
-        // The end of the line may have ended double width, so the cell is measured anew.
-        printCharacter(character);
-        return;
-    }
-    const bool isBlank = character == u' ' || character == u'\u00A0';
-    if (!isBlank || (state_.mode.style & underlined) != 0) {
-        Cell cell;
-        cell.x = static_cast<std::int32_t>(state_.x);
-        cell.width = width;
-        cell.column = state_.column;
-        cell.character = isBlank ? u' ' : character;
-        cell.style = state_.mode.style;
-        paper_.print(cell, state_.columnsBefore);
-    }
-    state_.x += width;
-    passColumns(1);
-}
-
-void EscpInterpreter::passColumns(PaperUnits count) {
-    state_.column =
-        static_cast<std::uint16_t>(std::min<PaperUnits>(state_.column + count, maxColumn));
-}
-
-void EscpInterpreter::newLine() {
-    paper_.feedRow(state_.lineSpacing);
-    carriageReturn();
-    state_.mode.wideLine = false;
-}
-
-void EscpInterpreter::carriageReturn() {
-    state_.x = 0;
-    state_.column = 1;
-    state_.columnsBefore = 0;
-}
-
-void EscpInterpreter::horizontalTab() {
-    const PaperUnits width = state_.mode.cellWidth();
-    const PaperUnits stride = tabColumns * width;
-    const PaperUnits stop = (state_.x / stride + 1) * stride;
-    if (stop > dialect_.carriageWidth) {
-        return;  // no stop is left in this line
-    }
-    passColumns((stop - state_.x + width - 1) / width);
-    state_.x = stop;
-}
-
-void EscpInterpreter::backspace() {
-    if (state_.column == 1) {
-        return;
-    }
-    state_.x = std::max<PaperUnits>(state_.x - state_.mode.cellWidth(), 0);
-    --state_.column;
-}
-
-void EscpInterpreter::note(NoticeKind kind, std::string bytes) {
-    notices_.add({kind, paper_.currentJob(), paper_.jobLine(),
-                  static_cast<std::size_t>(state_.column - state_.columnsBefore),
-                  std::move(bytes)});
 }
 
 }  // namespace tarn::dotmatrix

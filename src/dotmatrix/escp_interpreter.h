@@ -9,23 +9,17 @@
 #include <string>
 #include <string_view>
 
-#include "dotmatrix/command_table.h"
 #include "dotmatrix/continuous_paper.h"
 #include "dotmatrix/dialect.h"
-#include "dotmatrix/print_mode.h"
+#include "dotmatrix/escp_tables.h"
+#include "dotmatrix/print_head.h"
 #include "dotmatrix/print_notice.h"
 
 namespace tarn::dotmatrix {
 
 // Everything that the bytes so far have set in the printer, but for the paper.
-struct PrinterState {
+struct PrinterState : HeadState {
     enum class Waiting { Text, Escape, Parameters, ListEnd, Data };
-
-    PrintMode mode;
-    PaperUnits lineSpacing = unitsPerInch / 6;
-    PaperUnits x = 0;                 // of the head
-    std::uint16_t column = 1;         // printed characters since the left margin, from 1
-    std::uint16_t columnsBefore = 0;  // as in PaperLine
 
     Waiting waiting = Waiting::Text;
     CommandShape shape;
@@ -39,6 +33,9 @@ public:
     EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect);
     // Goes on with a printer in that state; the paper must stand where it stood then.
     EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect, PrinterState state);
+
+    EscpInterpreter(const EscpInterpreter&) = delete;
+    EscpInterpreter& operator=(const EscpInterpreter&) = delete;
 
     // A new job goes on where the head stands, also in the middle of a line.
     void startJob();
@@ -61,18 +58,12 @@ private:
     void setFormLines(std::uint8_t lines);
     void setFormInches(std::uint8_t inches);
     void reset();
-    void printCharacter(char16_t character);
-    void newLine();
-    void carriageReturn();
-    void horizontalTab();
-    void backspace();
-    void passColumns(PaperUnits count);
-    void note(NoticeKind kind, std::string bytes);
 
     ContinuousPaper& paper_;
     Dialect dialect_;
     NoticeLog notices_;
     PrinterState state_;
+    PrintHead head_;
 };
 
 }  // namespace tarn::dotmatrix

@@ -4,8 +4,8 @@
 #include <QImage>
 #include <QRectF>
 
+#include "dotmatrix/continuous_paper.h"
 #include "dotmatrix/form_design.h"
-#include "dotmatrix/form_page.h"
 
 class QPainter;
 

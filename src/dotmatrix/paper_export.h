@@ -8,7 +8,7 @@
 #include <functional>
 #include <optional>
 
-#include "dotmatrix/form_page.h"
+#include "dotmatrix/continuous_paper.h"
 #include "dotmatrix/paper_painter.h"
 
 namespace tarn::dotmatrix {

@@ -7,8 +7,8 @@
 #include <QString>
 #include <memory>
 
+#include "dotmatrix/continuous_paper.h"
 #include "dotmatrix/form_design.h"
-#include "dotmatrix/form_page.h"
 
 class QPainter;
 

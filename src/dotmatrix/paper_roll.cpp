@@ -93,28 +93,45 @@ void PaperRoll::printLive(std::string_view bytes) {
     ++version_;
 }
 
+// The bytes from an offset on, in chunks that end where a job begins; `startJob` is told of
+// each job on the way, `print` answers whether more is wanted.
+void PaperRoll::replay(qint64 from, const std::function<void(RollJob&)>& startJob,
+                       const std::function<bool(std::string_view)>& print) {
+    auto next =
+        std::lower_bound(jobs_.begin(), jobs_.end(), from,
+                         [](const RollJob& job, qint64 wanted) { return job.offset < wanted; });
+    for (qint64 at = from;;) {
+        for (; next != jobs_.end() && next->offset <= at; ++next) {
+            startJob(*next);
+        }
+        const qint64 end = next == jobs_.end() ? length_ : next->offset;
+        if (at == end) {
+            return;
+        }
+        bytes_->seek(at);
+        const QByteArray chunk = bytes_->read(std::min(chunkBytes, end - at));
+        if (chunk.isEmpty() ||
+            !print({chunk.constData(), static_cast<std::size_t>(chunk.size())})) {
+            return;
+        }
+        at += chunk.size();
+    }
+}
+
 void PaperRoll::setDialect(const Dialect& dialect) {
     dialect_ = dialect;
     begin(topOfPaper(dialect_), switchedOn(dialect_));
-    std::size_t next = 0;
-    const auto startJobsAt = [&](qint64 offset) {
-        for (; next < jobs_.size() && jobs_[next].offset <= offset; ++next) {
+    replay(
+        0,
+        [this](RollJob& job) {
             printer_->startJob();
-            jobs_[next].form = paper_->currentForm();
-            jobs_[next].y = paper_->y();
-        }
-    };
-    startJobsAt(0);
-    while (printed_ < length_) {
-        const qint64 jobEnd = next < jobs_.size() ? jobs_[next].offset : length_;
-        bytes_->seek(printed_);
-        const QByteArray chunk = bytes_->read(std::min(chunkBytes, jobEnd - printed_));
-        if (chunk.isEmpty()) {
-            break;
-        }
-        printLive({chunk.constData(), static_cast<std::size_t>(chunk.size())});
-        startJobsAt(printed_);
-    }
+            job.form = paper_->currentForm();
+            job.y = paper_->y();
+        },
+        [this](std::string_view bytes) {
+            printLive(bytes);
+            return true;
+        });
 }
 
 void PaperRoll::tearOff(bool jobGoesOn) {
@@ -165,32 +182,21 @@ FormPage PaperRoll::printAgain(std::size_t form) {
     const Mark& mark = after == marks_.begin() ? *after : *(after - 1);
     ContinuousPaper paper(mark.position);
     EscpInterpreter printer(paper, dialect_, mark.state);
-    auto next =
-        std::lower_bound(jobs_.begin(), jobs_.end(), mark.offset,
-                         [](const RollJob& job, qint64 wanted) { return job.offset < wanted; });
-    qint64 at = mark.offset;
-    while (at < length_ && paper.currentForm() <= form) {
-        for (; next != jobs_.end() && next->offset <= at; ++next) {
-            printer.startJob();
-        }
-        const qint64 end = next == jobs_.end() ? length_ : next->offset;
-        bytes_->seek(at);
-        const QByteArray chunk = bytes_->read(std::min(chunkBytes, end - at));
-        if (chunk.isEmpty()) {
-            break;
-        }
-        for (const char& byte : chunk) {
-            const std::size_t before = paper.currentForm();
-            printer.feed({&byte, 1});
-            if (paper.currentForm() != before) {
-                paper.forgetFormsBefore(std::min(form, paper.currentForm()));
+    replay(
+        mark.offset, [&](RollJob&) { printer.startJob(); },
+        [&](std::string_view bytes) {
+            for (const char& byte : bytes) {
+                const std::size_t before = paper.currentForm();
+                printer.feed({&byte, 1});
+                if (paper.currentForm() != before) {
+                    paper.forgetFormsBefore(std::min(form, paper.currentForm()));
+                }
                 if (paper.currentForm() > form) {
-                    break;
+                    return false;
                 }
             }
-        }
-        at += chunk.size();
-    }
+            return true;
+        });
     FormPage page = pageOf(paper, form);
     page.shape = forms().at(form);
     return page;

@@ -6,6 +6,7 @@
 
 #include <QTemporaryFile>
 #include <cstddef>
+#include <functional>
 #include <list>
 #include <memory>
 #include <optional>
@@ -13,9 +14,9 @@
 #include <string_view>
 #include <vector>
 
+#include "dotmatrix/continuous_paper.h"
 #include "dotmatrix/dialect.h"
 #include "dotmatrix/escp_interpreter.h"
-#include "dotmatrix/form_page.h"
 
 namespace tarn::dotmatrix {
 
@@ -69,6 +70,8 @@ private:
     void begin(const PaperPosition& position, PrinterState state);
     void printLive(std::string_view bytes);
     void markHere();
+    void replay(qint64 from, const std::function<void(RollJob&)>& startJob,
+                const std::function<bool(std::string_view)>& print);
     FormPage printAgain(std::size_t form);
 
     Dialect dialect_;

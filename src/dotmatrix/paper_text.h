@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "dotmatrix/form_page.h"
+#include "dotmatrix/continuous_paper.h"
 
 namespace tarn::dotmatrix {
 

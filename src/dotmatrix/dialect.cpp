@@ -1,4 +1,4 @@
-#include "dotmatrix/print_mode.h"
+#include "dotmatrix/dialect.h"
 
 namespace tarn::dotmatrix {
 
