@@ -1,60 +1,34 @@
 #include "printer/printer_window.h"
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QClipboard>
 #include <QDockWidget>
-#include <QFile>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QLabel>
-#include <QLineEdit>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QProgressDialog>
 #include <QStatusBar>
-#include <QToolBar>
 #include <chrono>
 
-#include "printer/paper_print.h"
+#include "forms/form_loader.h"
+#include "printer/form_menu.h"
+#include "printer/job_files.h"
+#include "printer/paper_files.h"
+#include "printer/paper_search_bar.h"
+#include "printer/printer_menus.h"
 
 namespace tarn::dotmatrix {
 
 namespace {
 
 constexpr std::chrono::milliseconds repaintInterval(40);
-constexpr std::size_t formsAStep = 40;
-constexpr qint64 readAtOnce = 256LL * 1024;
-constexpr double zoomStep = 1.25;
-constexpr int progressAfter = 400;  // milliseconds
+constexpr int logLines = 2000;
 
-WindowQuestions askTheUser(QWidget* window) {
-    return {[window](const QString& title, const QString& suggested, const QString& kinds) {
-                return QFileDialog::getSaveFileName(window, title, suggested, kinds);
-            },
-            [window](const QString& title, const QString& kinds) {
-                return QFileDialog::getOpenFileNames(window, title, QString(), kinds);
-            },
-            [window](QPrinter& printer) {
-                return QPrintDialog(&printer, window).exec() == QDialog::Accepted;
-            }};
+PaperUnits rulerCellOf(const Dialect& dialect) {
+    return PrintMode{.elite = dialect.elite, .condensed = dialect.condensed}.cellWidth();
 }
 
 }  // namespace
-
-// A job file that is being taken, a piece at a time.
-class JobFile {
-public:
-    explicit JobFile(const QString& name) : file_(name) {}
-    bool open() { return file_.open(QIODevice::ReadOnly); }
-    QFile& file() { return file_; }
-    bool begun = false;
-
-private:
-    QFile file_;
-};
 
 PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, const PaintOptions& options,
                              std::optional<int> itemLines)
@@ -63,15 +37,13 @@ PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, const PaintOpti
     setWindowTitle(QStringLiteral("Impressora matricial virtual"));
     resize(1100, 780);
     questions_ = askTheUser(this);
-    view_ = new PaperView(roll_, this);
-    view_->setObjectName(QStringLiteral("paper"));
-    setCentralWidget(view_);
-    makeActions();
-    makeSearchBar();
+    makeParts();
+    makeLog();
+    makeMenus();
+    addToolBar(Qt::BottomToolBarArea, search_);
+    search_->hide();
     makeStatusBar();
-    options_.rulerCell =
-        PrintMode{.elite = roll_.dialect().elite, .condensed = roll_.dialect().condensed}
-            .cellWidth();
+    options_.rulerCell = rulerCellOf(roll_.dialect());
     view_->setOptions(options_);
 
     changed_.setSingleShot(true);
@@ -86,14 +58,85 @@ PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, const PaintOpti
         log(why.isEmpty() ? QStringLiteral("%1: impresso.").arg(name)
                           : QStringLiteral("%1: %2").arg(name, why));
     });
-    connect(&intake_, &JobIntake::idle, this, &PrinterWindow::takeFile, Qt::QueuedConnection);
-    searching_.setInterval(0);
-    connect(&searching_, &QTimer::timeout, this, &PrinterWindow::searchOn);
     view_->setFocus();
     paperChanged();
 }
 
-PrinterWindow::~PrinterWindow() = default;
+void PrinterWindow::makeParts() {
+    view_ = new PaperView(roll_, this);
+    view_->setObjectName(QStringLiteral("paper"));
+    setCentralWidget(view_);
+    search_ = new PaperSearchBar(roll_, *view_, this);
+    files_ = new PaperFiles(roll_, options_, questions_, *this);
+    jobFiles_ = new JobFiles(intake_, this);
+    connect(files_, &PaperFiles::failed, this, &PrinterWindow::complain);
+    connect(jobFiles_, &JobFiles::failed, this, &PrinterWindow::complain);
+}
+
+void PrinterWindow::makeLog() {
+    logText_ = new QPlainTextEdit(this);
+    logText_->setObjectName(QStringLiteral("log"));
+    logText_->setAccessibleName(QStringLiteral("Registro da impressora"));
+    logText_->setReadOnly(true);
+    logText_->setMaximumBlockCount(logLines);
+    logDock_ = new QDockWidget(QStringLiteral("Registro"), this);
+    logDock_->setObjectName(QStringLiteral("logPanel"));
+    logDock_->setWidget(logText_);
+    addDockWidget(Qt::BottomDockWidgetArea, logDock_);
+    logDock_->hide();
+}
+
+void PrinterWindow::makeMenus() {
+    auto* menus = new PrinterMenus(*this, *view_, *search_, *files_, options_);
+    connect(menus, &PrinterMenus::openWanted, this, &PrinterWindow::openJobs);
+    connect(menus, &PrinterMenus::copyWanted, this, &PrinterWindow::copyText);
+    connect(menus, &PrinterMenus::selectWanted, this, &PrinterWindow::selectForm);
+    connect(menus, &PrinterMenus::previousWanted, this, &PrinterWindow::previousJob);
+    connect(menus, &PrinterMenus::nextWanted, this, &PrinterWindow::nextJob);
+    connect(menus, &PrinterMenus::tearOffWanted, this, &PrinterWindow::tearOff);
+    connect(menus, &PrinterMenus::logWanted, this,
+            [this] { logDock_->setVisible(!logDock_->isVisible()); });
+    connect(menus, &PrinterMenus::rulerWanted, this, [this](bool on) {
+        options_.ruler = on;
+        view_->setOptions(options_);
+    });
+    connect(menus, &PrinterMenus::bandsWanted, this, [this](bool on) {
+        options_.bands = on;
+        view_->setOptions(options_);
+    });
+    makeFormMenu();
+}
+
+void PrinterWindow::makeFormMenu() {
+    const auto present = options_.design
+                             ? std::optional(QString::fromStdString(options_.design->name))
+                             : std::nullopt;
+    forms_ = new FormMenu(present, this);
+    menuBar()->addMenu(forms_);
+    connect(forms_, &FormMenu::formChosen, this, &PrinterWindow::layForm);
+    connect(forms_, &FormMenu::fileWanted, this, &PrinterWindow::layFormOfFile);
+    connect(forms_, &FormMenu::blankChosen, this, [this] {
+        options_.design.reset();
+        options_.picture.reset();
+        forms_->keepChoice();
+        usePanel(roll_.dialect());
+    });
+}
+
+void PrinterWindow::makeStatusBar() {
+    waitingText_ = new QLabel(this);
+    waitingText_->setObjectName(QStringLiteral("waiting"));
+    waitingText_->setTextFormat(Qt::PlainText);
+    spotText_ = new QLabel(this);
+    spotText_->setObjectName(QStringLiteral("position"));
+    countText_ = new QLabel(this);
+    countText_->setObjectName(QStringLiteral("count"));
+    statusBar()->addWidget(waitingText_, 1);
+    statusBar()->addPermanentWidget(spotText_);
+    statusBar()->addPermanentWidget(countText_);
+    connect(view_, &PaperView::hovered, this, &PrinterWindow::showSpot);
+    connect(view_, &PaperView::zoomed, this, &PrinterWindow::showCounts);
+}
 
 void PrinterWindow::setWaitingText(const QString& text) {
     waitingText_->setText(text);
@@ -112,106 +155,9 @@ void PrinterWindow::complain(const QString& text) {
 }
 
 void PrinterWindow::openJobs() {
-    files_ += questions_.open(QStringLiteral("Abrir trabalho"),
-                              QStringLiteral("Trabalhos crus (*.prn);;Todos os arquivos (*)"));
-    takeFile();
-}
-
-// A piece each time round the event loop.
-void PrinterWindow::takeFile() {
-    if (!file_) {
-        if (files_.isEmpty() || intake_.busy()) {
-            return;
-        }
-        file_ = std::make_unique<JobFile>(files_.takeFirst());
-        if (!file_->open()) {
-            complain(QStringLiteral("Não foi possível ler o trabalho \"%1\" (%2). Confira o nome "
-                                    "do arquivo e a permissão de leitura.")
-                         .arg(file_->file().fileName(), file_->file().errorString()));
-            file_.reset();
-            return takeFile();
-        }
-        intake_.begin(QFileInfo(file_->file()).fileName());
-    }
-    const QByteArray piece = file_->file().read(readAtOnce);
-    if (piece.isEmpty()) {
-        file_.reset();
-        intake_.end();
-        return;
-    }
-    if (!intake_.take(piece)) {
-        file_.reset();
-        return;
-    }
-    QMetaObject::invokeMethod(this, &PrinterWindow::takeFile, Qt::QueuedConnection);
-}
-
-void PrinterWindow::writeOut(
-    const QString& what, const std::function<std::optional<QString>(const WriteProgress&)>& write) {
-    QProgressDialog progress(what, QStringLiteral("Interromper"), 0,
-                             static_cast<int>(roll_.printedForms()), this);
-    progress.setObjectName(QStringLiteral("progress"));
-    progress.setWindowTitle(windowTitle());
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(progressAfter);
-    const auto failure = write([&progress](std::size_t form) {
-        progress.setValue(static_cast<int>(form));
-        return !progress.wasCanceled();
-    });
-    const bool stopped = progress.wasCanceled();
-    progress.reset();
-    if (failure && !stopped) {
-        complain(QStringLiteral("Não foi possível gravar o papel (%1). Confira a pasta, a "
-                                "permissão e o espaço em disco, e tente de novo.")
-                     .arg(*failure));
-    }
-}
-
-void PrinterWindow::savePdf() {
-    const QString file = questions_.saveAs(
-        QStringLiteral("Salvar PDF"), QStringLiteral("papel.pdf"), QStringLiteral("PDF (*.pdf)"));
-    if (!file.isEmpty()) {
-        writeOut(QStringLiteral("Gravando o PDF..."), [&](const WriteProgress& progress) {
-            return writePdf(roll_.pages(), options_, file, progress);
-        });
-    }
-}
-
-void PrinterWindow::savePng() {
-    const QString file =
-        questions_.saveAs(QStringLiteral("Salvar figuras"), QStringLiteral("papel.png"),
-                          QStringLiteral("Figuras (*.png)"));
-    if (!file.isEmpty()) {
-        writeOut(QStringLiteral("Gravando as figuras..."), [&](const WriteProgress& progress) {
-            return writePng(roll_.pages(), options_, file, progress);
-        });
-    }
-}
-
-void PrinterWindow::saveText() {
-    const QString file =
-        questions_.saveAs(QStringLiteral("Salvar texto"), QStringLiteral("papel.txt"),
-                          QStringLiteral("Texto (*.txt)"));
-    if (!file.isEmpty()) {
-        writeOut(QStringLiteral("Gravando o texto..."),
-                 [&](const WriteProgress&) { return writeText(roll_.pages(), file); });
-    }
-}
-
-void PrinterWindow::printOut() {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(QStringLiteral("Papel da impressora virtual"));
-    printer.setFromTo(1, static_cast<int>(roll_.printedForms()));
-    if (!questions_.print(printer)) {
-        return;
-    }
-    const int from = std::max(1, printer.fromPage());
-    const int to =
-        printer.toPage() < from ? static_cast<int>(roll_.printedForms()) : printer.toPage();
-    writeOut(QStringLiteral("Imprimindo..."), [&](const WriteProgress& progress) {
-        return printPaper(printer, roll_.pages(), static_cast<std::size_t>(from - 1),
-                          static_cast<std::size_t>(to - 1), options_, progress);
-    });
+    jobFiles_->add(
+        questions_.open(QStringLiteral("Abrir trabalho"),
+                        QStringLiteral("Trabalhos crus (*.prn);;Todos os arquivos (*)")));
 }
 
 void PrinterWindow::copyText() {
@@ -222,53 +168,6 @@ void PrinterWindow::copyText() {
 
 void PrinterWindow::selectForm() {
     view_->select(regionOf(roll_, view_->presentForm()));
-}
-
-void PrinterWindow::find() {
-    searchBar_->show();
-    searchText_->setFocus();
-    searchText_->selectAll();
-}
-
-void PrinterWindow::findNext() {
-    search(PaperSearch::Direction::Down);
-}
-
-void PrinterWindow::findPrevious() {
-    search(PaperSearch::Direction::Up);
-}
-
-void PrinterWindow::search(PaperSearch::Direction direction) {
-    const QString text = searchText_->text();
-    if (text.isEmpty()) {
-        return find();
-    }
-    searchBar_->show();
-    if (text != foundText_) {
-        found_.reset();
-        foundText_ = text;
-    }
-    search_ = std::make_unique<PaperSearch>(roll_, text, direction, found_);
-    searchResult_->setText(QStringLiteral("Procurando..."));
-    searching_.start();
-}
-
-void PrinterWindow::searchOn() {
-    const PaperSearch::Step step = search_->step(formsAStep);
-    if (step == PaperSearch::Step::Searching) {
-        return;
-    }
-    searching_.stop();
-    if (step == PaperSearch::Step::NotThere) {
-        searchResult_->setText(QStringLiteral("O papel não tem este texto."));
-        view_->mark(std::nullopt);
-        return;
-    }
-    found_ = search_->found();
-    searchResult_->setText(search_->wrapped() ? QStringLiteral("A busca deu a volta no papel.")
-                                              : QString());
-    view_->mark(found_);
-    view_->reveal(*found_);
 }
 
 void PrinterWindow::previousJob() {
@@ -296,9 +195,7 @@ void PrinterWindow::nextJob() {
 }
 
 void PrinterWindow::tearOff() {
-    searching_.stop();
-    search_.reset();
-    found_.reset();
+    search_->forget();
     roll_.tearOff(intake_.busy());
     noticesLogged_ = roll_.notices().total();
     view_->select(std::nullopt);
@@ -307,65 +204,32 @@ void PrinterWindow::tearOff() {
     paperChanged();
 }
 
-void PrinterWindow::zoomIn() {
-    view_->setZoom(view_->zoom() * zoomStep);
-}
-
-void PrinterWindow::zoomOut() {
-    view_->setZoom(view_->zoom() / zoomStep);
-}
-
-void PrinterWindow::trueSize() {
-    view_->setZoom(1);
-}
-
-void PrinterWindow::fitWidth() {
-    view_->fitWidth();
-}
-
-void PrinterWindow::showLog() {
-    logDock_->setVisible(!logDock_->isVisible());
-}
-
-void PrinterWindow::chooseForm(const QString& name) {
-    if (name.isEmpty()) {
-        options_.design.reset();
-        options_.picture.reset();
-        chosenForm_ = forms_->checkedAction();
-        return usePanel(roll_.dialect());
-    }
+void PrinterWindow::layForm(const QString& name) {
     auto loaded = loadForm(name, itemLines_);
     if (const auto* wrong = std::get_if<QString>(&loaded)) {
-        chosenForm_->setChecked(true);
+        forms_->undoChoice();
         return complain(*wrong);
     }
-    chosenForm_ = forms_->checkedAction();
+    forms_->keepChoice();
     const auto& form = std::get<LoadedForm>(loaded);
     lay(form, options_);
     usePanel(panelFor(*form.design, roll_.dialect()));
 }
 
-void PrinterWindow::chooseFormFile() {
+void PrinterWindow::layFormOfFile() {
     const QStringList files = questions_.open(
         QStringLiteral("Formulário"),
         QStringLiteral("Formulários (*.txt *.form *.png *.jpg *.jpeg);;Todos os arquivos (*)"));
-    if (files.isEmpty()) {
-        chosenForm_->setChecked(true);
-        return;
-    }
-    chooseForm(files.front());
+    files.isEmpty() ? forms_->undoChoice() : layForm(files.front());
 }
 
 // The jobs so far are printed again, as the printer would have with this panel.
 void PrinterWindow::usePanel(const Dialect& dialect) {
-    searching_.stop();
-    search_.reset();
+    search_->forget();
     QApplication::setOverrideCursor(Qt::WaitCursor);
     roll_.setDialect(dialect);
     QApplication::restoreOverrideCursor();
-    options_.rulerCell =
-        PrintMode{.elite = dialect.elite, .condensed = dialect.condensed}.cellWidth();
-    found_.reset();
+    options_.rulerCell = rulerCellOf(dialect);
     noticesLogged_ = roll_.notices().total();
     view_->setOptions(options_);
     paperChanged();
