@@ -131,9 +131,9 @@ void declareLadder(CLI::App& app, Choice& choice) {
     declareSession(*commands, *request);
     commands->callback([&choice, request] {
         choice.run = [request](PrintEnvironment&) {
-            const std::string_view name = layoutFor(
+            const notes::Layout* layout = layoutFor(
                 request->ladder(), request->session.NCOMPANYCODE, request->session.ID_ETB_TARN);
-            show(name.empty() ? "-" : name);
+            show(layout == nullptr ? "-" : layout->name);
         };
     });
 }

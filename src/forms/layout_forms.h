@@ -2,6 +2,7 @@
 // a field can land, at the pitch in which it lands there.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,6 +15,16 @@ namespace tarn::dotmatrix {
 // "ImprimeNF_1361"; a layout of two forms has "ImprimeNF_2421_3621", by establishment,
 // and "ImprimeNF_2421", the form of all others. In the order of the ladder.
 std::vector<std::string> layoutFormNames();
+
+// A form and who prints on it: a company and an establishment that the reprint screen's
+// ladder brings to it.
+struct LadderForm {
+    std::string name;
+    std::int32_t company = 0;
+    std::int32_t establishment = 0;
+    bool linesOfNote = false;  // it is as long as the note's items, not as QT_MAX_IT says
+};
+std::vector<LadderForm> ladderForms();
 
 // The drawing of one of them, nothing for any other name. `itemLines` is how many lines
 // the form has for items (0 and up); without it as many as fill a sheet of 11 inches.

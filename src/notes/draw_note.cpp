@@ -1,12 +1,10 @@
 #include "notes/draw_note.h"
 
-#include <algorithm>
-
 #include "common/drawn_text.h"
 #include "notes/drawn_form.h"
 #include "notes/fields.h"
-#include "notes/item_rows.h"
-#include "notes/run.h"
+#include "notes/items.h"
+#include "notes/print_pen.h"
 #include "platform/environment.h"
 #include "platform/printer.h"
 #include "runtime/mask.h"
@@ -39,19 +37,12 @@ void drawStep(const DrawnRow& step, Page& page) {
 }
 
 void drawStep(const DrawnParcels& block, Page& page) {
-    const double count = page.run.document.number(Source::QTDE_PARC);
-    if (count >= block.limit + 1) {
-        if (page.run.losses != nullptr) {
-            page.run.losses->add({.kind = Loss::Kind::ParcelsOverflow,
-                                  .field = "QTDE_PARC",
-                                  .count = static_cast<int>(std::min<double>(count, 9999)),
-                                  .limit = block.limit});
-        }
+    const int count = parcelCount(block.limit, page.run);
+    if (count > block.limit) {
         return page.draw(block.message, block.x, block.y, false);
     }
     double y = block.y;
-    for (int parcel = 1; parcel <= count; ++parcel) {
-        page.run.parcel = parcel;
+    for (page.run.parcel = 1; page.run.parcel <= count; ++page.run.parcel) {
         page.draw(block.row, block.x, y);
         y += block.step;
     }
@@ -61,20 +52,13 @@ void drawStep(const DrawnItems& block, Page& page) {
     Run& run = page.run;
     lineCount(Source::QT_MAX_IT, run);  // drawn pages have no such limit, but it must be a number
     double y = block.y;
-    std::size_t position = firstItem;
-    do {
-        if (run.losses != nullptr) {
-            run.losses->item(static_cast<int>(position - firstItem) + 1);
-        }
+    forEachItem(run, [&](int item, std::size_t position) {
+        run.watchItem(item);
         run.document.goToItem(position);
         readNumbers(Quantity::Amount, true, run);
         page.draw(block.row, block.x, y);
         y += block.step;
-        position = positionAfter(position);
-    } while (run.document.isItem(position));
-    if (run.losses != nullptr) {
-        run.losses->item(0);
-    }
+    });
 }
 
 }  // namespace

@@ -52,12 +52,15 @@ struct DrawnForm {
 constexpr Flaw flawOf(const DrawnForm& form) {
     int itemBlocks = 0;
     for (const DrawnStep& step : form.steps) {
-        const Flaw flaw =
-            std::visit([](const auto& s) { return check::fields(s.row.fields()); }, step);
+        const check::InHand hand{.item = std::holds_alternative<DrawnItems>(step),
+                                 .parcel = std::holds_alternative<DrawnParcels>(step)};
+        int next = firstColumn;
+        const Flaw flaw = std::visit(
+            [&](const auto& s) { return check::fields(s.row.fields(), next, hand); }, step);
         if (flaw != Flaw::None) {
             return flaw;
         }
-        itemBlocks += std::holds_alternative<DrawnItems>(step) ? 1 : 0;
+        itemBlocks += hand.item ? 1 : 0;
     }
     return itemBlocks == 1 ? Flaw::None : Flaw::ItemsMissing;
 }

@@ -6,12 +6,14 @@
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 
+// A rule without a case must not compile, whatever the build makes of warnings.
+#pragma GCC diagnostic error "-Wswitch"
+
 namespace tarn::notes {
 namespace {
 
 constexpr std::string_view companyMask = "@@.@@@.@@@/@@@@-@@";
 constexpr std::string_view personMask = "@@@.@@@.@@@-@@";
-constexpr NumberMask cfopMask = "#,#00";
 constexpr NumberMask wholeMask = "#";
 
 bool isEntry(Run& run) {
@@ -37,9 +39,9 @@ std::string carrierTaxNumber(Run& run) {
     return fillMask(formatText(run.document.text(Source::NR_CGC_CPL_TRP), wholeMask), companyMask);
 }
 
-void appendPostalCode(std::string& out, std::string_view code) {
+std::string_view appendPostalCode(std::string& out, std::string_view code) {
     const std::string digits = zerosBefore(code, 8);
-    out.append(leftOf(digits, 5)).append("-").append(rightOf(digits, 3));
+    return out.append(leftOf(digits, 5)).append("-").append(rightOf(digits, 3));
 }
 
 // An amount that is only masked: empty stays empty.
@@ -48,11 +50,6 @@ void appendAmount(std::string& out, Source source, std::string_view amount,
     if (!amount.empty() && !appendText(out, amount, mask)) {
         refuseNumber(source, amount);
     }
-}
-
-void appendOriginTax(std::string& out, Run& run) {
-    out.append(run.document.text(Source::IC_ORI_PRO));
-    out.append(run.document.text(Source::SIT_TRI));
 }
 
 // VL_DSC in per cent of the line total; it isn't looked at when there is no total.
@@ -86,128 +83,94 @@ void appendObservation(std::string& out, Run& run) {
     }
 }
 
-void appendComputed(std::string& out, const Field& field, Run& run) {
-    switch (field.source) {
-        case Source::LineTotal:
-            return appendNumber(out, run.item.lineTotal, field.mask);
-        case Source::Discount:
-            return appendNumber(out, discountOf(run), field.mask);
-        case Source::ProductTotal:
-            return appendNumber(out, productTotal(run), field.mask);
-        case Source::WeightSum:
-            return appendNumber(out, run.weightSum, field.mask);
-        case Source::TaxCredit:
-            return appendNumber(out, taxCredit(run), field.mask);
-        case Source::LastServiceRate:
-            return appendNumber(out, run.services.lastRate, field.mask);
-        case Source::ServiceTaxSum:
-            return appendNumber(out, run.services.taxSum, field.mask);
-        default:  // ServiceSum
-            return appendNumber(out, run.services.sum, field.mask);
-    }
-}
-
-// The value under its source's own rule, into `out` or straight from the document.
-std::string_view usualValue(std::string& out, const Field& field, Run& run) {
-    NoteDocument& document = run.document;
-    switch (field.source) {
-        case Source::Literal:
-            break;
-        case Source::Mark:
-            return "X";
-        case Source::EntryOrExit:
-            return isEntry(run) ? "ENTRADA" : "SAÍDA";
-        case Source::NoteNumber:
-            return run.noteNumber;
-        case Source::ParcelNumber:
-            out += std::to_string(run.parcel);
-            out += ')';
-            break;
-        case Source::NR_DOC:
-            return document.text(ofParcel(Source::NR_DOC1, run.parcel));
-        case Source::DT_VNC_DOC:
-            return document.text(ofParcel(Source::DT_VNC_DOC1, run.parcel));
-        case Source::VL_PRN_DOC: {
-            const Source source = ofParcel(Source::VL_PRN_DOC1, run.parcel);
-            appendAmount(out, source, document.amount(source), field.mask);
-            break;
-        }
-        case Source::CFOP:
-            out += formatText(document.text(Source::CFOP), cfopMask);
-            break;
-        case Source::CGC_CPF:
-            out += taxNumber(run);
-            break;
-        case Source::NR_CGC_CPL_TRP:
-            out += carrierTaxNumber(run);
-            break;
-        case Source::CEP:
-        case Source::CEP_COB:
-        case Source::CEP_ETG:
-            appendPostalCode(out, document.text(field.source));
-            break;
-        case Source::ID_VND_DIR:
-            return document.text(Source::ID_VND_DIR) == "0" ? ""
-                                                            : document.text(Source::ID_VND_DIR);
-        case Source::CFOP_ITEM:
-            return document.text(Source::CFOP_ITEM) == "0" ? "0000"
-                                                           : document.text(Source::CFOP_ITEM);
-        case Source::OriginTax:
-            appendOriginTax(out, run);
-            break;
-        case Source::QuantitySum:
-            out += numberText(run.quantitySum);
-            break;
-        case Source::AmountInWords:
-            out += ValorExtenso(document.number(Source::VALOR_TOT_NF));
-            break;
-        case Source::LegalText:
-            return midOf(legalTextOf(run), field.start, field.length);
-        case Source::Observation: {
-            appendObservation(out, run);
-            out = midOf(out, field.start, field.length);
-            break;
-        }
-        case Source::ClassLine:
-            return run.classes;
-        case Source::TaxCreditRate:
-            return hasCreditRate(run) ? "1,86" : "";
-        case Source::LineTotal:
-        case Source::Discount:
-        case Source::ProductTotal:
-        case Source::WeightSum:
-        case Source::TaxCredit:
-        case Source::LastServiceRate:
-        case Source::ServiceTaxSum:
-        case Source::ServiceSum:
-            appendComputed(out, field, run);
-            break;
-        default:
-            return document.text(field.source);
-    }
-    return out;
-}
-
+// From `out` when it had to be made there, else straight from the document.
 std::string_view valueOf(std::string& out, const Field& field, Run& run) {
+    NoteDocument& document = run.document;
+    const auto masked = [&](double number) -> std::string_view {
+        appendNumber(out, number, field.mask);
+        return out;
+    };
+    const auto maskedAmount = [&](Source source) -> std::string_view {
+        appendAmount(out, source, document.amount(source), field.mask);
+        return out;
+    };
+    const auto insteadOfZero = [&](std::string_view other) {
+        const std::string_view text = document.text(field.source);
+        return text == "0" ? other : text;
+    };
     switch (field.rule) {
         case Rule::AsText:
-            return run.document.text(field.source);
+            return document.text(field.source);
         case Rule::AsAmount:
-            return run.document.amount(field.source);
-        case Rule::General:
-            out += numberText(run.item.quantity);
-            return out;
+            return document.amount(field.source);
         case Rule::Masked:
-            if (field.source == Source::QTDE) {
-                appendNumber(out, run.item.quantity, field.mask);
-            } else {
-                appendAmount(out, field.source, run.document.amount(field.source), field.mask);
-            }
-            return out;
-        case Rule::Usual:
-            break;
+            return maskedAmount(field.source);
+        case Rule::MaskedText:
+            return out += formatText(document.text(field.source), field.mask);
+        case Rule::PostalCode:
+            return appendPostalCode(out, document.text(field.source));
+        case Rule::BlankZero:
+            return insteadOfZero("");
+        case Rule::FourZeros:
+            return insteadOfZero("0000");
+        case Rule::TaxNumber:
+            return out += taxNumber(run);
+        case Rule::CarrierTaxNumber:
+            return out += carrierTaxNumber(run);
+        case Rule::Quantity:
+            return masked(run.item.quantity);
+        case Rule::General:
+            return out += numberText(run.item.quantity);
+        case Rule::OriginTax:
+            out += document.text(Source::IC_ORI_PRO);
+            return out += document.text(Source::SIT_TRI);
+        case Rule::LineTotal:
+            return masked(run.item.lineTotal);
+        case Rule::Discount:
+            return masked(discountOf(run));
+        case Rule::ParcelDocument:
+            return document.text(ofParcel(Source::NR_DOC1, run.parcel));
+        case Rule::ParcelAmount:
+            return maskedAmount(ofParcel(Source::VL_PRN_DOC1, run.parcel));
+        case Rule::ParcelDue:
+            return document.text(ofParcel(Source::DT_VNC_DOC1, run.parcel));
+        case Rule::ParcelNumber:
+            return out.append(std::to_string(run.parcel)).append(")");
+        case Rule::FormText:
+            return {};
+        case Rule::Mark:
+            return "X";
+        case Rule::EntryOrExit:
+            return isEntry(run) ? "ENTRADA" : "SAÍDA";
+        case Rule::NoteNumber:
+            return run.noteNumber;
+        case Rule::ProductTotal:
+            return masked(productTotal(run));
+        case Rule::QuantitySum:
+            return out += numberText(run.quantitySum);
+        case Rule::WeightSum:
+            return masked(run.weightSum);
+        case Rule::AmountInWords:
+            return out += ValorExtenso(document.number(Source::VALOR_TOT_NF));
+        case Rule::LegalText:
+            return midOf(legalTextOf(run), field.start, field.length);
+        case Rule::Observation:
+            appendObservation(out, run);
+            return out = midOf(out, field.start, field.length);
+        case Rule::ClassLine:
+            return run.classes;
+        case Rule::TaxCredit:
+            return masked(taxCredit(run));
+        case Rule::TaxCreditRate:
+            return hasCreditRate(run) ? "1,86" : "";
+        case Rule::LastServiceRate:
+            return masked(run.services.lastRate);
+        case Rule::ServiceTaxSum:
+            return masked(run.services.taxSum);
+        case Rule::ServiceSum:
+            return masked(run.services.sum);
     }
-    return usualValue(out, field, run);
+    return {};
 }
 
 void appendFormField(std::string& line, const Field& field, int column, Run& run) {
@@ -246,11 +209,6 @@ int appendFields(std::string& line, int column, std::span<const Field> fields, R
         column = start + (field.width > 0 ? field.width : field.room);
     }
     return column;
-}
-
-void printRow(const Row& row, Run& run) {
-    appendFields(run.line, firstColumn, row.fields(), run);
-    run.send(row.advance);
 }
 
 void closeTexts(Run& run) {

@@ -11,15 +11,9 @@ namespace tarn::notes {
 
 struct Run;
 
-// First printed column of a line's own text.
-inline constexpr int firstColumn = 2;
-
 // Appends the fields to `line`, which has reached `column`, with the blanks before
 // them; returns the column that the form has behind the last one.
 int appendFields(std::string& line, int column, std::span<const Field> fields, Run& run);
-
-// Reads, builds and sends one printed row.
-void printRow(const Row& row, Run& run);
 
 // The legal texts joined, with the observation where the form has them together.
 const std::string& legalTextOf(Run& run);

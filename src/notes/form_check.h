@@ -1,15 +1,17 @@
 // What the compiler checks of a form before it can print.
 #pragma once
 
-#include "notes/layout.h"
+#include "notes/walk.h"
 
 namespace tarn::notes {
 
 enum class Flaw {
     None,
-    ColumnBeforeTwo,    // column 1 is the blank of every line
-    FieldsOverlap,      // columns must ascend and leave each field its room
-    RightWithoutWidth,  // there is nothing to be aligned to
+    ColumnBeforeTwo,      // column 1 is the blank of every line
+    FieldsOverlap,        // columns must ascend and leave each field its room
+    RuleOfAnotherSource,  // the field can't become text by it
+    OutsideItsBlock,      // no item or parcel is in hand there
+    RightWithoutWidth,    // there is nothing to be aligned to
     PieceWithoutLength,
     ParcelPlaces,  // as many places as parcels in a row, up to the known limit
     NegativeAdvance,
@@ -24,22 +26,41 @@ constexpr int roomOf(const Field& field) {
     return field.width > 0 ? field.width : field.room;
 }
 
-constexpr Flaw fields(std::span<const Field> fields, int from = 2) {
-    int next = from;
+constexpr bool isText(Source source) {
+    return source == Source::LegalText || source == Source::Observation;
+}
+
+// What is in hand where a field stands.
+struct InHand {
+    bool item = false;
+    bool parcel = false;
+};
+
+constexpr Flaw flawOf(const Field& field, InHand hand) {
+    if (field.column < firstColumn ||
+        (field.source == Source::Mark && field.entryColumn < firstColumn)) {
+        return Flaw::ColumnBeforeTwo;
+    }
+    if (isText(field.source) && (field.start < 1 || field.length < 1)) {
+        return Flaw::PieceWithoutLength;
+    }
+    if (!fits(field.source, field.rule)) {
+        return Flaw::RuleOfAnotherSource;
+    }
+    if ((isOfItem(field.source) && !hand.item) || (isOfParcel(field.rule) && !hand.parcel)) {
+        return Flaw::OutsideItsBlock;
+    }
+    return field.right && field.width == 0 ? Flaw::RightWithoutWidth : Flaw::None;
+}
+
+// The flaw of a call's fields from column `next` on, which becomes the column behind them.
+constexpr Flaw fields(std::span<const Field> fields, int& next, InHand hand) {
     for (const Field& field : fields) {
-        if (field.column < 2 || (field.source == Source::Mark && field.entryColumn < 2)) {
-            return Flaw::ColumnBeforeTwo;
+        if (const Flaw flaw = flawOf(field, hand); flaw != Flaw::None) {
+            return flaw;
         }
-        const bool piece = field.source == Source::LegalText || field.source == Source::Observation;
-        if (piece && (field.start < 1 || field.length < 1)) {
-            return Flaw::PieceWithoutLength;
-        }
-        if (field.right && field.width == 0) {
-            return Flaw::RightWithoutWidth;
-        }
-        const int first = field.source == Source::Mark && field.entryColumn < field.column
-                              ? field.entryColumn
-                              : field.column;
+        const bool entryFirst = field.source == Source::Mark && field.entryColumn < field.column;
+        const int first = entryFirst ? field.entryColumn : field.column;
         const int last = field.entryColumn > field.column ? field.entryColumn : field.column;
         if (first < next) {
             return Flaw::FieldsOverlap;
@@ -49,96 +70,124 @@ constexpr Flaw fields(std::span<const Field> fields, int from = 2) {
     return Flaw::None;
 }
 
+// As many places as parcels in a row. Parcels of a row share its line, or each begins
+// its own call.
 constexpr Flaw parcels(const Parcels& block) {
     const bool placed = block.perRow >= 1 && block.perRow <= 4 && block.limit >= block.perRow &&
                         block.limit <= mostParcels && block.rowEnds >= 0;
     if (!placed) {
         return Flaw::ParcelPlaces;
     }
-    int next = 2;
+    int next = firstColumn;
     for (std::size_t i = 0; i < block.places.size(); ++i) {
         const Place& place = block.places[i];
-        const bool used = i < static_cast<std::size_t>(block.perRow);
-        if (used == place.fields().empty()) {
+        if ((i < static_cast<std::size_t>(block.perRow)) == place.fields().empty()) {
             return Flaw::ParcelPlaces;
         }
-        // Parcels of a row share its line, or each begins its own call.
-        const Flaw flaw = fields(place.fields(), block.callPerParcel ? 2 : next);
+        next = block.callPerParcel ? firstColumn : next;
+        const Flaw flaw = fields(place.fields(), next, {.parcel = true});
         if (flaw != Flaw::None) {
             return flaw;
-        }
-        if (used) {
-            const Field& last = place.fields().back();
-            next = last.column + roomOf(last);
         }
     }
     return Flaw::None;
 }
 
-// Line ends of the block for three parcels, which every form with parcels has
-// room for.
-constexpr int heightOf(const Parcels& block) {
-    return 3 / block.perRow * block.rowEnds + block.lineEnds[3];
-}
+// Walks a form as a note with three parcels, which every form with parcels has room
+// for, and counts its line ends besides those of the item lines.
+class CheckingPen {
+public:
+    constexpr void setUp(std::string_view) {}
+    constexpr void control(std::string_view) {}
+    constexpr void margin(int column) { next_ = column; }
+    constexpr void fields(std::span<const Field> list) {
+        for (const Field& field : list) {
+            showsLegalText_ |= field.source == Source::LegalText;
+            showsClasses_ |= field.source == Source::ClassLine;
+            showsSums_ |= field.source == Source::QuantitySum || field.source == Source::WeightSum;
+        }
+        found(check::fields(list, next_, hand_));
+    }
+    constexpr void end(int lineEnds) {
+        found(lineEnds < 0 ? Flaw::NegativeAdvance : Flaw::None);
+        lineEnds_ += lineEnds;
+        next_ = firstColumn;
+        hand_ = {};
+    }
 
-constexpr int serviceLines = 6;
+    constexpr int parcels(const Parcels& block) {
+        found(check::parcels(block));
+        // Nothing is walked that has no places.
+        return flaw_ == Flaw::None ? 3 : block.limit + 1;
+    }
+    constexpr void tooMany(const Parcels&) {}
+    constexpr void parcel(int) { hand_.parcel = true; }
+    constexpr int belowParcels(const Parcels& block, int count) {
+        return block.lineEnds[static_cast<std::size_t>(count)];
+    }
 
-constexpr int heightOf(const Items& block) {
-    return block.services ? serviceLines : block.constant + block.lineEnds;
-}
+    constexpr void items(const Items& block) {
+        ++itemBlocks_;
+        collectsLegalText_ |= block.legalTexts;
+        collectsClasses_ |= block.classes;
+        collectsSums_ |= block.sums;
+        for (const Row* row : {&block.code, &block.line}) {
+            hand_.item = true;
+            fields(row->fields());
+            end(0);
+        }
+    }
+    constexpr void controlBelowItems(std::string_view) {}
+    constexpr int emptyItemLines(const Items& block) {
+        lineEnds_ += block.constant;
+        return 0;
+    }
 
-struct Totals {
-    int lineEnds = 0;
-    int itemBlocks = 0;
-    bool showsLegalText = false;
-    bool showsClasses = false;
-    bool showsSums = false;
-    bool collectsLegalText = false;
-    bool collectsClasses = false;
-    bool collectsSums = false;
+    constexpr int services() { return serviceLines; }
+    constexpr bool service(int) { return hand_.item = true; }
+    constexpr bool creditToTake() { return true; }
+    constexpr void band(const Band& band) {
+        showsLegalText_ |= band.source == Source::LegalText;
+        const bool whole = band.piece > 0 && band.most > 0 && band.lines >= band.most;
+        found(whole ? Flaw::None : Flaw::PieceWithoutLength);
+        end(band.lines);
+    }
+
+    constexpr int lineEnds() const { return lineEnds_; }
+    // The first one of the form.
+    constexpr Flaw flaw() const {
+        if (flaw_ != Flaw::None) {
+            return flaw_;
+        }
+        if (itemBlocks_ != 1) {
+            return Flaw::ItemsMissing;
+        }
+        const bool collected = (!showsLegalText_ || collectsLegalText_) &&
+                               showsClasses_ == collectsClasses_ && showsSums_ == collectsSums_;
+        return collected ? Flaw::None : Flaw::TextNotCollected;
+    }
+
+private:
+    constexpr void found(Flaw flaw) { flaw_ = flaw_ == Flaw::None ? flaw : flaw_; }
+
+    Flaw flaw_ = Flaw::None;
+    int next_ = firstColumn;
+    InHand hand_{};
+    int lineEnds_ = 0;
+    int itemBlocks_ = 0;
+    bool showsLegalText_ = false;
+    bool showsClasses_ = false;
+    bool showsSums_ = false;
+    bool collectsLegalText_ = false;
+    bool collectsClasses_ = false;
+    bool collectsSums_ = false;
 };
 
-constexpr void see(Totals& totals, std::span<const Field> fields) {
-    for (const Field& field : fields) {
-        totals.showsLegalText |= field.source == Source::LegalText;
-        totals.showsClasses |= field.source == Source::ClassLine;
-        totals.showsSums |=
-            field.source == Source::QuantitySum || field.source == Source::WeightSum;
-    }
-}
-
-constexpr Flaw step(const Row& row, Totals& totals) {
-    totals.lineEnds += row.advance;
-    see(totals, row.fields());
-    return row.advance < 0 ? Flaw::NegativeAdvance : fields(row.fields());
-}
-constexpr Flaw step(const Control& control, Totals& totals) {
-    totals.lineEnds += control.advance;
-    return control.advance < 0 ? Flaw::NegativeAdvance : Flaw::None;
-}
-constexpr Flaw step(const Parcels& block, Totals& totals) {
-    totals.lineEnds += heightOf(block);
-    return parcels(block);
-}
-constexpr Flaw step(const Items& block, Totals& totals) {
-    totals.lineEnds += heightOf(block);
-    ++totals.itemBlocks;
-    totals.collectsLegalText |= block.legalTexts;
-    totals.collectsClasses |= block.classes;
-    totals.collectsSums |= block.sums;
-    const Flaw flaw = fields(block.line.fields());
-    return flaw != Flaw::None ? flaw : fields(block.code.fields());
-}
-constexpr Flaw step(const Band& band, Totals& totals) {
-    totals.lineEnds += band.lines;
-    totals.showsLegalText |= band.source == Source::LegalText;
-    const bool whole = band.piece > 0 && band.most > 0 && band.lines >= band.most;
-    return whole ? Flaw::None : Flaw::PieceWithoutLength;
-}
-constexpr Flaw step(const Credit& credit, Totals& totals) {
-    totals.lineEnds += credit.amount.advance + credit.rate.advance;
-    const Flaw flaw = fields(credit.amount.fields());
-    return flaw != Flaw::None ? flaw : fields(credit.rate.fields());
+// Line ends of the block for three parcels.
+constexpr int heightOf(const Parcels& block) {
+    CheckingPen pen;
+    walk(block, pen);
+    return pen.lineEnds();
 }
 
 }  // namespace check
@@ -146,23 +195,12 @@ constexpr Flaw step(const Credit& credit, Totals& totals) {
 // The first flaw of a form; layouts are declared with
 // `static_assert(flawOf(form) == Flaw::None)`.
 constexpr Flaw flawOf(const Form& form) {
-    check::Totals totals;
-    for (const Step& step : form.steps) {
-        const Flaw flaw = std::visit([&](const auto& s) { return check::step(s, totals); }, step);
-        if (flaw != Flaw::None) {
-            return flaw;
-        }
+    check::CheckingPen pen;
+    walkForm(form, pen);
+    if (pen.flaw() != Flaw::None) {
+        return pen.flaw();
     }
-    if (totals.itemBlocks != 1) {
-        return Flaw::ItemsMissing;
-    }
-    const bool collected = (!totals.showsLegalText || totals.collectsLegalText) &&
-                           totals.showsClasses == totals.collectsClasses &&
-                           totals.showsSums == totals.collectsSums;
-    if (!collected) {
-        return Flaw::TextNotCollected;
-    }
-    return totals.lineEnds == form.length ? Flaw::None : Flaw::LengthDiffers;
+    return pen.lineEnds() == form.length ? Flaw::None : Flaw::LengthDiffers;
 }
 
 }  // namespace tarn::notes

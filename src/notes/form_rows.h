@@ -5,77 +5,6 @@
 
 namespace tarn::notes {
 
-// Mask under which a source prints unless its field names another.
-constexpr std::string_view usualMask(Source source) {
-    switch (source) {
-        case Source::QTDE:
-            return "##0.000";
-        case Source::QT_ESP:
-        case Source::PESO_BRU:
-        case Source::PESO_LIQ:
-            return "#,###,##0.000";
-        case Source::VALOR_UN:
-        case Source::VL_PRN_DOC:
-        case Source::Discount:
-        case Source::ICMS:
-        case Source::AQ_IPI:
-        case Source::IPI:
-        case Source::VL_IPI:
-        case Source::VL_LIQ_IT:
-        case Source::LastServiceRate:
-            return "####0.00";
-        case Source::LineTotal:
-            return "##,###0.00";
-        case Source::VALOR_BASE_ICMS:
-        case Source::VALOR_ICMS:
-        case Source::VALOR_BAS_ICMS_RTD:
-        case Source::VALOR_ICMS_RTD:
-        case Source::VALOR_TOTAL:
-        case Source::VALOR_FRETE:
-        case Source::VALOR_SEGURO:
-        case Source::VALOR_DES_ASC:
-        case Source::VALOR_TOT_IPI:
-        case Source::VALOR_TOT_NF:
-        case Source::ProductTotal:
-        case Source::TaxCredit:
-            return "###,###0.00";
-        case Source::WeightSum:
-            return "###,###0.000";
-        case Source::ServiceTaxSum:
-        case Source::ServiceSum:
-            return "#,###,##0.00";
-        default:
-            return "";
-    }
-}
-
-// An attribute that is an amount prints under its mask; what is computed has a
-// rule of its own and takes only the mask.
-constexpr Rule usualRule(Source source) {
-    return isAttribute(source) && !usualMask(source).empty() ? Rule::Masked : Rule::Usual;
-}
-
-// Room that a form leaves for a field without a width, where another follows it.
-constexpr int usualRoom(Source source) {
-    switch (source) {
-        case Source::CGC_CPF:
-        case Source::NR_CGC_CPL_TRP:
-            return 18;
-        case Source::CEP:
-        case Source::CEP_COB:
-        case Source::CEP_ETG:
-            return 9;
-        case Source::NoteNumber:
-            return 6;
-        case Source::ParcelNumber:
-            return 2;
-        case Source::Mark:
-            return 1;
-        default:
-            return 0;
-    }
-}
-
 constexpr int charactersOf(std::string_view utf8) {
     int count = 0;
     for (const char c : utf8) {
@@ -85,13 +14,14 @@ constexpr int charactersOf(std::string_view utf8) {
 }
 
 constexpr Field fieldOf(Source source, int column, int width) {
+    const SourceRow& usual = rowOf(source);
     Field field;
     field.source = source;
-    field.rule = usualRule(source);
+    field.rule = usual.rule;
     field.column = static_cast<std::uint16_t>(column);
     field.width = static_cast<std::uint16_t>(width);
-    field.room = static_cast<std::uint16_t>(usualRoom(source));
-    field.mask = NumberMask(usualMask(source));
+    field.room = static_cast<std::uint16_t>(usual.room);
+    field.mask = NumberMask(usual.mask);
     return field;
 }
 

@@ -1,11 +1,27 @@
-#include "notes/blocks.h"
+#include "notes/items.h"
+
+#include <limits>
+
 #include "notes/fields.h"
-#include "notes/form_check.h"
-#include "notes/item_rows.h"
-#include "notes/run.h"
+#include "notes/walk.h"
+#include "runtime/numbers.h"
+#include "runtime/runtime_error.h"
 
 namespace tarn::notes {
 namespace {
+
+double quantityOf(Quantity kind, NoteDocument& document) {
+    switch (kind) {
+        case Quantity::Amount:
+            return document.number(Source::QTDE);
+        case Quantity::AmountOrFive:
+            return document.number(Source::QTDE, "5");
+        case Quantity::PointsGroup:
+            break;
+    }
+    return document.present(Source::QTDE) ? numberOf(Source::QTDE, document.text(Source::QTDE))
+                                          : 5.0;
+}
 
 void collectClass(Run& run) {
     const std::string_view group = run.document.text(Source::GF_AGRUP);
@@ -48,40 +64,6 @@ void lose(Run& run, Loss::Kind kind, int item, std::size_t position, int limit) 
                      .limit = limit});
 }
 
-void watchItem(Run& run, int item) {
-    if (run.losses != nullptr) {
-        run.losses->item(item);
-    }
-}
-
-// Prints the item rows; returns how many lines they took.
-int printRows(const Items& block, int mostItems, Run& run) {
-    NoteDocument& document = run.document;
-    int seen = 0;
-    int printed = 0;
-    std::size_t position = firstItem;
-    do {
-        ++seen;
-        if (block.overflow == Overflow::Pushing || seen <= mostItems) {
-            watchItem(run, seen);
-            document.goToItem(position);
-            if (!block.productsOnly || document.text(Source::IC_TP_CAD) == "P") {
-                printItem(block, run);
-                ++printed;
-            } else if (block.services) {
-                run.services.rows.push_back(position);
-            } else {
-                lose(run, Loss::Kind::Unplaced, seen, position, mostItems);
-            }
-        } else {
-            lose(run, Loss::Kind::Item, seen, position, mostItems);
-        }
-        position = positionAfter(position);
-    } while (document.isItem(position));
-    watchItem(run, 0);
-    return printed;
-}
-
 // Lines that the form doesn't have push all that stands below.
 void watchLines(const Items& block, int mostItems, int printed, Run& run) {
     const int spare = mostItems - printed + (block.fillsForm ? block.constant : 0);
@@ -93,27 +75,60 @@ void watchLines(const Items& block, int mostItems, int printed, Run& run) {
 
 }  // namespace
 
-void printItems(const Items& block, Run& run) {
-    const int mostItems = lineCount(Source::QT_MAX_IT, run);
-    int serviceLines = 0;
-    if (block.services && !run.document.text(Source::QT_MAX_IT_NF_SRV).empty()) {
-        serviceLines = lineCount(Source::QT_MAX_IT_NF_SRV, run);
+int lineCount(Source source, Run& run) {
+    const std::string_view text = run.document.text(source);
+    if (!isNumeric(text)) {
+        refuseNumber(source, text);
     }
-    const int printed = printRows(block, mostItems, run);
+    return readInt16(text);
+}
+
+void readNumbers(Quantity kind, bool sums, Run& run) {
+    NoteDocument& document = run.document;
+    run.item.quantity = quantityOf(kind, document);
+    run.item.lineTotal = document.number(Source::VALOR_UN) * run.item.quantity;
+    if (sums) {
+        run.weightSum += document.number(Source::PESO) * run.item.quantity;
+        run.quantitySum += run.item.quantity;
+    }
+}
+
+std::size_t positionAfter(std::size_t position) {
+    if (position == static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
+        throw RuntimeError(RuntimeErrorCode::Overflow, "a nota tem itens demais");
+    }
+    return position + 1;
+}
+
+std::string nameOfItem(NoteDocument& document) {
+    try {
+        std::string name(document.text(Source::CD_PRO));
+        const std::string_view description = document.text(Source::DESCRICAO);
+        return name.append(name.empty() || description.empty() ? "" : " ").append(description);
+    } catch (const RuntimeError&) {
+        return {};  // nothing prints of this row, and so nothing stops for it
+    }
+}
+
+int printItems(const Items& block, int mostItems, Run& run) {
+    int printed = 0;
+    forEachItem(run, [&](int item, std::size_t position) {
+        if (block.overflow == Overflow::Cutting && item > mostItems) {
+            return lose(run, Loss::Kind::Item, item, position, mostItems);
+        }
+        run.watchItem(item);
+        run.document.goToItem(position);
+        if (!block.productsOnly || run.document.text(Source::IC_TP_CAD) == "P") {
+            printItem(block, run);
+            ++printed;
+        } else if (block.services) {
+            run.services.rows.push_back(position);
+        } else {
+            lose(run, Loss::Kind::Unplaced, item, position, mostItems);
+        }
+    });
     watchLines(block, mostItems, printed, run);
-    if (!block.controlAfter.empty()) {
-        run.line = block.controlAfter;
-        run.send(0);
-    }
-    if (block.fillsForm) {
-        const int blanks = mostItems - printed + block.constant;
-        run.send(blanks > 0 ? blanks : 0);  // its blank is sent also for 0: decision N26
-    }
-    if (block.services) {
-        printServices(serviceLines, run);
-    } else if (block.lineEnds > 0) {
-        run.send(block.lineEnds);
-    }
+    return printed;
 }
 
 }  // namespace tarn::notes

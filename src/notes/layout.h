@@ -14,24 +14,14 @@
 #include <string_view>
 #include <variant>
 
-#include "notes/source.h"
+#include "notes/source_table.h"
 #include "runtime/mask.h"
 
 namespace tarn::notes {
 
-// How a source becomes text. Every source has its usual rule; a layout names
-// another one where its form differs.
-enum class Rule : std::uint8_t {
-    Usual,
-    AsText,    // the attribute's text as it stands
-    AsAmount,  // the attribute's text with a decimal comma, "0" when absent, no mask
-    General,   // a number in the general conversion to text: 12,5
-    Masked,    // an amount under the field's mask
-};
-
 struct Field {
     Source source = Source::Literal;
-    Rule rule = Rule::Usual;
+    Rule rule = Rule::FormText;
     bool right = false;
     std::uint16_t column = 0;
     std::uint16_t entryColumn = 0;  // Mark on an entry note

@@ -12,39 +12,13 @@ bool isNumber(std::string_view text) {
     return !trimmed.empty() && trimmed.find_first_not_of("0123456789.,-") == std::string_view::npos;
 }
 
-struct Name {
-    Source source;
-    std::string_view words;
-};
-
-// Of what isn't an attribute.
-constexpr Name names[] = {{Source::NoteNumber, "número da nota"},
-                          {Source::NR_DOC, "NR_DOC"},
-                          {Source::VL_PRN_DOC, "VL_PRN_DOC"},
-                          {Source::DT_VNC_DOC, "DT_VNC_DOC"},
-                          {Source::OriginTax, "IC_ORI_PRO e SIT_TRI"},
-                          {Source::LineTotal, "total do item"},
-                          {Source::Discount, "desconto"},
-                          {Source::ProductTotal, "total dos produtos"},
-                          {Source::QuantitySum, "soma das quantidades"},
-                          {Source::WeightSum, "soma dos pesos"},
-                          {Source::LegalText, "textos legais e observação"},
-                          {Source::Observation, "DC_OBS"},
-                          {Source::TaxCredit, "crédito de imposto"},
-                          {Source::LastServiceRate, "AQ_ISS"},
-                          {Source::ServiceTaxSum, "soma de VL_ISS"},
-                          {Source::ServiceSum, "soma de VL_LIQ_IT"}};
-
 std::string nameOf(Source source, int parcel) {
+    const SourceRow& row = rowOf(source);
     if (isAttribute(source)) {
-        return std::string(attributeName(source));
+        return std::string(row.name);
     }
-    const auto* name = std::find_if(std::begin(names), std::end(names),
-                                    [source](const Name& n) { return n.source == source; });
-    std::string words(name == std::end(names) ? "texto do formulário" : name->words);
-    const bool ofParcel =
-        source == Source::NR_DOC || source == Source::VL_PRN_DOC || source == Source::DT_VNC_DOC;
-    return ofParcel ? words + std::to_string(parcel) : words;
+    const bool numbered = isOfParcel(row.rule) && row.rule != Rule::ParcelNumber;
+    return std::string(row.words) + (numbered ? std::to_string(parcel) : "");
 }
 
 std::string placeOf(const Loss& loss) {

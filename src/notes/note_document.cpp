@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 
+#include "notes/source_table.h"
 #include "runtime/numbers.h"
 #include "runtime/runtime_error.h"
 
@@ -35,6 +36,15 @@ struct RowNames {
 const RowNames& rowNames() {
     static const RowNames names;
     return names;
+}
+
+// Layouts are checked for it when they are compiled.
+[[noreturn]] void refuseSource(Source source) {
+    const SourceRow& row = rowOf(source);
+    throw RuntimeError(RuntimeErrorCode::ObjectVariable,
+                       "o documento da nota não traz " +
+                           std::string(isAttribute(source) ? row.name : row.words) +
+                           " neste lugar do formulário");
 }
 
 }  // namespace
@@ -82,7 +92,10 @@ RowReader& NoteDocument::readerOf(Source source) {
     };
     const std::size_t index = indexOf(source);
     if (index >= firstOfItem) {
-        return *item_;  // goToItem comes first
+        if (index >= attributeCount || !item_) {
+            refuseSource(source);
+        }
+        return *item_;
     }
     if (index >= firstOfForm) {
         return reader(form_, 2, rowNames().form);
@@ -119,7 +132,7 @@ double numberOf(Source source, std::string_view text) {
 
 void refuseNumber(Source source, std::string_view text) {
     std::string detail = "o campo ";
-    detail.append(attributeName(source)).append(" da nota traz \"").append(text);
+    detail.append(rowOf(source).name).append(" da nota traz \"").append(text);
     detail += "\", que não é um número";
     throw RuntimeError(RuntimeErrorCode::TypeMismatch, detail);
 }

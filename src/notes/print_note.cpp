@@ -10,21 +10,6 @@
 namespace tarn {
 namespace {
 
-// The issuing screen hands this layout a number that nothing ever set; the call
-// fails before a byte is printed.
-constexpr std::string_view onlyFromReprint = "ImprimeNF_2161_3383";
-
-const notes::Layout& installed(std::string_view name) {
-    const notes::Layout* layout = notes::layoutByName(name);
-    if (layout == nullptr) {
-        throw RuntimeError(RuntimeErrorCode::ObjectRequired,
-                           std::string(name) +
-                               ": este layout de nota não está instalado nesta versão. Quando "
-                               "estiver, a nota pode ser impressa pela tela de reimpressão");
-    }
-    return *layout;
-}
-
 void print(const notes::Layout& layout, Environment& environment, const Sessao& session,
            const XmlDocument& document, const std::string& noteNumber, notes::LossLog* losses) {
     if (layout.drawn != nullptr) {
@@ -38,14 +23,16 @@ void print(const notes::Layout& layout, Environment& environment, const Sessao& 
 
 void printNote(Ladder ladder, Environment& environment, const Sessao& session,
                XmlDocument& document, const std::string& noteNumber, notes::LossLog* losses) {
-    const std::string_view name = layoutFor(ladder, session.NCOMPANYCODE, session.ID_ETB_TARN);
-    if (ladder == Ladder::Issuing && name == onlyFromReprint) {
+    const notes::Layout* layout = layoutFor(ladder, session.NCOMPANYCODE, session.ID_ETB_TARN);
+    // The issuing screen hands this layout a number that nothing ever set; the call
+    // fails before a byte is printed.
+    if (ladder == Ladder::Issuing && layout == &notes::imprimeNF_2161_3383) {
         throw RuntimeError(RuntimeErrorCode::ObjectRequired,
-                           std::string(name) +
+                           std::string(layout->name) +
                                ": as notas deste estabelecimento só saem pela tela de reimpressão");
     }
-    if (!name.empty()) {
-        print(installed(name), environment, session, document, noteNumber, losses);
+    if (layout != nullptr) {
+        print(*layout, environment, session, document, noteNumber, losses);
     }
     document = XmlDocument();
 }

@@ -2,12 +2,11 @@
 // company and establishment, the layout prints.
 #pragma once
 
-#include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "gateway/sessao.h"
 #include "gateway/xml_document.h"
+#include "notes/ladder.h"
 
 namespace tarn {
 
@@ -15,12 +14,6 @@ struct Environment;
 namespace notes {
 class LossLog;
 }
-
-// The two screens run ladders that differ in two steps.
-enum class Ladder { Issuing, Reprint };
-
-// Name of the layout ("ImprimeNF_1361"), or "" where nothing is printed.
-std::string_view layoutFor(Ladder ladder, std::int32_t company, std::int32_t establishment);
 
 // Prints the note of an answer whose status reads "OK" and lets go of the document.
 // `noteNumber` holds the note's number as digits. What was sent before an

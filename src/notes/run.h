@@ -47,6 +47,13 @@ struct Run {
     std::string line{};   // the printed line in hand, reused
     std::string value{};  // the field in hand, reused
 
+    // Item row in hand, from 1, for whoever watches; 0 outside the items.
+    void watchItem(int number) const {
+        if (losses != nullptr) {
+            losses->item(number);
+        }
+    }
+
     // One call of the channel with what stands in `line`, which is empty afterwards.
     void send(int lineEnds) {
         channel->ImprimeRaw(1, line, lineEnds);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "notes/ladder.h"
 #include "tests/dotmatrix/note_streams.h"
 #include "tests/dotmatrix/printer_rig.h"
 
@@ -123,6 +124,22 @@ TEST(LayoutFormNames, AreThoseOfTheFormsAndNoOther) {
     EXPECT_EQ(names.size(), 23U);
     EXPECT_FALSE(layoutForm("ImprimeNF_2541"));  // it draws on blank paper
     EXPECT_FALSE(layoutForm(""));
+}
+
+// What the list says of a form holds: its notes go on it, by the reprint screen's ladder
+// and by the form's own establishment.
+TEST(LadderForms, TheirCompaniesPrintOnThem) {
+    std::vector<std::string> names;
+    for (const LadderForm& form : ladderForms()) {
+        names.push_back(form.name);
+        const notes::Layout* layout = layoutFor(Ladder::Reprint, form.company, form.establishment);
+        ASSERT_NE(layout, nullptr) << form.name;
+        const bool own = layout->other != nullptr && form.establishment == layout->establishment;
+        EXPECT_EQ(form.name, std::string(layout->name) +
+                                 (own ? "_" + std::to_string(form.establishment) : ""));
+        EXPECT_EQ(form.linesOfNote, form.name == "ImprimeNF_Padrao");
+    }
+    EXPECT_EQ(names, layoutFormNames());
 }
 
 const FormBox& boxNamed(const FormDesign& design, const std::string& label) {

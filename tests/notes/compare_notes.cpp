@@ -4,27 +4,21 @@
 
 namespace tarn::test {
 
-void PrintTo(const FormFacts& form, std::ostream* out) {
-    *out << form.name;
-}
-
-std::vector<MapRow> mapOf(const FormFacts& form) {
-    return readMap(std::string(TARN_NOTE_MAPS) + "/imprime_nf_" + form.name + ".map");
-}
-
 namespace {
 
 // Name of the field in which two lines begin to differ.
 std::string differsIn(const ExpectedCall& call, const std::string& actual) {
     const std::string expected = call.bytes();
     std::size_t at = 0;
-    while (at < expected.size() && at < actual.size() && expected[at] == actual[at])
+    while (at < expected.size() && at < actual.size() && expected[at] == actual[at]) {
         ++at;
+    }
     const int column = static_cast<int>(at) + 1;
     std::string name = "the gaps";
     for (const MapField& field : call.fields) {
-        if (column >= field.column && (field.width < 0 || column < field.column + field.width))
+        if (column >= field.column && (field.width < 0 || column < field.column + field.width)) {
             name = field.source;
+        }
     }
     return "column " + std::to_string(column) + ", " + name;
 }

@@ -1,18 +1,12 @@
 // Printed jobs against expected ones.
 #pragma once
 
-#include <ostream>
 #include <string>
 #include <vector>
 
 #include "tests/notes/expected_note.h"
 
 namespace tarn::test {
-
-// How a test's name shows the form.
-void PrintTo(const FormFacts& form, std::ostream* out);
-
-std::vector<MapRow> mapOf(const FormFacts& form);
 
 // Fatal failure at the first call that differs, with the field it differs in.
 void compareJob(const std::vector<ExpectedCall>& expected, const std::vector<std::string>& writes);

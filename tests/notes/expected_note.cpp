@@ -11,12 +11,15 @@ namespace {
 // Characters for which a form leaves room where a field without a width stands
 // before another: a company's tax number, a postal code, "1)".
 std::size_t roomOf(const MapField& field, const std::string& text) {
-    if (field.source == "CGC_CPF" || field.source == "NR_CGC_CPL_TRP")
+    if (field.source == "CGC_CPF" || field.source == "NR_CGC_CPL_TRP") {
         return 18;
-    if (field.source.starts_with("CEP"))
+    }
+    if (field.source.starts_with("CEP")) {
         return 9;
-    if (field.source.starts_with("parcel number"))
+    }
+    if (field.source.starts_with("parcel number")) {
         return 2;
+    }
     return text.size();
 }
 
@@ -34,15 +37,15 @@ std::string led(const std::string& text) {
 
 class Builder {
 public:
-    Builder(const FormFacts& form, const std::vector<MapRow>& map, const NoteCase& note,
-            const Sums& sums)
-        : form_(form), map_(map), note_(note), sums_(sums) {}
+    Builder(const FormFacts& form, const NoteCase& note, const Sums& sums)
+        : form_(form), map_(form.rows), note_(note), sums_(sums) {}
 
     ExpectedNote build() {
         note_jobs_.jobs.emplace_back();
         setUp();
-        while (row_ < map_.size())
+        while (row_ < map_.size()) {
             block();
+        }
         return std::move(note_jobs_);
     }
 
@@ -65,36 +68,40 @@ private:
     // as a line of its own.
     void control() {
         call(led(row().control), 0, row().line, "control bytes");
-        if (row().advance > 0)
+        if (row().advance > 0) {
             emptyCall(row().advance, "line ends behind control bytes");
+        }
         ++row_;
     }
 
     void setUp() {
-        if (!form_.setupInOwnJob)
+        if (!form_.setupInOwnJob) {
             return;
+        }
         call(led(row().control), 0, 0, "set-up job");
         note_jobs_.jobs.emplace_back();
-        if (row().advance > 0)
+        if (row().advance > 0) {
             emptyCall(row().advance, "line ends behind the set-up");
+        }
         ++row_;
     }
 
     void block() {
-        if (!row().control.empty())
+        if (!row().control.empty()) {
             control();
-        else if (row().shows("DT_VNC_DOC"))
+        } else if (row().shows("DT_VNC_DOC")) {
             parcels();
-        else if (row().shows("CD_PRO") || row().shows("DESCRICAO"))
+        } else if (row().shows("CD_PRO") || row().shows("DESCRICAO")) {
             items();
-        else if (row().shows("legend text"))
+        } else if (row().shows("legend text")) {
             texts();
-        else if (row().shows("\"CL. FISCAL - \""))
+        } else if (row().shows("\"CL. FISCAL - \"")) {
             classLine();
-        else if (row().shows("tax credit"))
+        } else if (row().shows("tax credit")) {
             taxCredit();
-        else
+        } else {
             plainRow();
+        }
     }
 
     // A row of fields, each call built as if it began a line: the blank of the
@@ -105,8 +112,9 @@ private:
         for (const MapField& field : fields) {
             const std::string text = valueOf(field.source, parcel, item);
             const std::size_t start = static_cast<std::size_t>(field.column) - 1 + shift;
-            if (start < line.size())
+            if (start < line.size()) {
                 throw std::logic_error("fields overlap at " + field.source);
+            }
             line.resize(start, ' ');
             if (field.width >= 0) {
                 line += fitted(text, field.width, field.right);
@@ -119,10 +127,12 @@ private:
     }
 
     std::string valueOf(const std::string& source, int parcel, int item) const {
-        if (source == "blank")
+        if (source == "blank") {
             return "";
-        if (source == "\"X\"")
+        }
+        if (source == "\"X\"") {
             return "X";
+        }
         if (source.front() == '"') {
             const std::size_t end = source.find('"', 1);
             const std::string literal = printerBytes(source.substr(1, end - 1));
@@ -131,26 +141,35 @@ private:
                        ? literal
                        : literal + valueOf(source.substr(joined + 5), parcel, item);
         }
-        if (source == "note number")
+        if (source == "note number") {
             return "004321";
-        if (source == "CFOP")
-            return form_.cfop;
+        }
+        if (source == "CFOP") {
+            return note_.overflowing ? overflowOf("CFOP") : form_.cfop;
+        }
         // The server's mark for a sale without an order of ours.
-        if (source == "ID_VND_DIR")
+        if (source == "ID_VND_DIR") {
             return note_.directOrder == "0" ? "" : note_.directOrder;
-        if (source == "DC_OBS")
+        }
+        if (source == "DC_OBS") {
             return printerBytes(note_.observation);
-        if (source == "ValorExtenso of VALOR_TOT_NF")
+        }
+        if (source == "ValorExtenso of VALOR_TOT_NF") {
             return printedField("words");
-        if (source == "quantity sum")
+        }
+        if (source == "quantity sum") {
             return sums_.quantity;
-        if (source == "weight sum")
+        }
+        if (source == "weight sum") {
             return sums_.weight;
-        if (parcel > 0)
-            return printedParcel(source, parcel);
-        if (item >= 0)
+        }
+        if (parcel > 0) {
+            return printedParcel(source, parcel, note_.overflowing);
+        }
+        if (item >= 0) {
             return itemValue(source, item);
-        return printedField(source);
+        }
+        return printedField(source, note_.overflowing);
     }
 
     std::string itemValue(const std::string& source, int item) const {
@@ -158,17 +177,20 @@ private:
         const bool otherName = form_.name == "padrao" && source == "AQ_IPI";
         const std::string field = otherName ? "IPI" : source;
         const auto way = form_.ways.find(field);
-        return printedItem(field, way == form_.ways.end() ? "" : way->second, item);
+        return printedItem(field, way == form_.ways.end() ? "" : way->second, item,
+                           note_.overflowing);
     }
 
     void plainRow() {
         std::vector<MapField> fields = row().fields;
         int advance = row().advance;
-        if (fields.front().source == "\"X\"" && note_.entry)
+        if (fields.front().source == "\"X\"" && note_.entry) {
             fields.front().column = form_.entryColumn;
+        }
         // The band of the legal texts takes the last lines below the volumes.
-        if (row().shows("QT_ESP") && form_.texts.shape == TextShape::Bands)
+        if (row().shows("QT_ESP") && form_.texts.shape == TextShape::Bands) {
             advance -= form_.texts.bandLines;
+        }
         const auto lineEnd = std::find_if(fields.begin(), fields.end(), [](const MapField& f) {
             return f.source == "\"\\r\\n\"";
         });
@@ -177,8 +199,9 @@ private:
             // what follows begins in column 5 of the next line.
             const std::vector<MapField> first(fields.begin(), lineEnd);
             std::vector<MapField> second(lineEnd + 1, fields.end());
-            for (MapField& field : second)
+            for (MapField& field : second) {
                 field.column -= 44;
+            }
             call(placed(first, 0, -1) + "\r\n" + placed(second, 0, -1), advance, row().line,
                  "order references, twice");
             line_ += form_.repeatedLines;
@@ -211,18 +234,20 @@ private:
 
 void Builder::parcels() {
     std::vector<MapRow> rows;
-    while (row().shows("DT_VNC_DOC"))
+    while (row().shows("DT_VNC_DOC")) {
         rows.push_back(map_[row_++]);
+    }
     const ParcelFacts& facts = form_.parcels.value();
-    if (note_.parcels == 0)
+    if (note_.parcels == 0) {
         call(" ", facts.lastLineEnds[0], rows[0].line, "no parcels");
-    else if (note_.parcels > facts.limit)
+    } else if (note_.parcels > facts.limit) {
         call(led(printerBytes(facts.message)), facts.lineEndsAbove, rows[0].line,
              "too many parcels");
-    else if (facts.oneCallEach)
+    } else if (facts.oneCallEach) {
         parcelCalls(rows);
-    else
+    } else {
         parcelRows(rows[0].fields, rows[0].line);
+    }
 }
 
 // Rows of several parcels. Every row begins with the same margin; the blanks
@@ -244,13 +269,15 @@ void Builder::parcelRows(const std::vector<MapField>& first, int mapLine) {
             MapField field = place < static_cast<std::size_t>(places)
                                  ? first[place * perPlace + i]
                                  : first[(place - 1) * perPlace + i];
-            if (place >= static_cast<std::size_t>(places))
+            if (place >= static_cast<std::size_t>(places)) {
                 field.column += step;
+            }
             const std::string text = valueOf(field.source, static_cast<int>(n), -1);
             line.resize(static_cast<std::size_t>(field.column) - 1 + shift, ' ');
             line += field.width < 0 ? text : fitted(text, field.width, field.right);
-            if (field.width < 0)
+            if (field.width < 0) {
                 shift += text.size() - roomOf(field, text);
+            }
         }
         if (n % static_cast<std::size_t>(facts.perRow) == 0) {
             call(line, facts.rowLineEnds, n <= static_cast<std::size_t>(facts.perRow) ? mapLine : 0,
@@ -276,8 +303,9 @@ void Builder::parcelCalls(const std::vector<MapRow>& rows) {
 
 void Builder::items() {
     std::vector<MapRow> rows;
-    while (row().shows("CD_PRO") || row().shows("DESCRICAO"))
+    while (row().shows("CD_PRO") || row().shows("DESCRICAO")) {
         rows.push_back(map_[row_++]);
+    }
     const int printed = printedItems();
     for (int item = 0; item < printed; ++item) {
         for (const MapRow& own : rows) {
@@ -293,17 +321,20 @@ void Builder::items() {
         ++row_;
     }
     // With no line left the call is still made and leaves its blank.
-    if (form_.name != "padrao")
+    if (form_.name != "padrao") {
         emptyCall(plainItemLines - printed + form_.itemConstant, "lines without an item");
-    if (form_.afterItems > 0)
+    }
+    if (form_.afterItems > 0) {
         emptyCall(form_.afterItems, "below the items");
+    }
 }
 
 void Builder::classLine() {
     std::string line = " CL. FISCAL - ";
     const int printed = printedItems();
-    for (int item = 0; item < printed; ++item)
-        line += printedItem("class", "", item);
+    for (int item = 0; item < printed; ++item) {
+        line += printedItem("class", "", item, note_.overflowing);
+    }
     call(line, row().advance, row().line, "classes");
     ++row_;
 }
@@ -389,16 +420,20 @@ void Builder::bands() {
     const auto band = [&](const std::string& text, bool twoCalls, int lines, int mapLine,
                           const std::string& what) {
         std::vector<std::string> parts;
-        for (std::size_t at = 0; at < text.size(); at += facts.bandWidth)
+        for (std::size_t at = 0; at < text.size(); at += facts.bandWidth) {
             parts.push_back(text.substr(at, facts.bandWidth));
-        if (parts.empty())
+        }
+        if (parts.empty()) {
             parts.emplace_back();
-        if (twoCalls && parts.size() == 1)
+        }
+        if (twoCalls && parts.size() == 1) {
             parts.emplace_back();
+        }
         const int calls = std::min(static_cast<int>(parts.size()), facts.bandLines);
-        for (int i = 0; i < calls; ++i)
+        for (int i = 0; i < calls; ++i) {
             call(led(parts[static_cast<std::size_t>(i)]), i + 1 < calls ? 1 : lines - (calls - 1),
                  i == 0 ? mapLine : 0, what + led(std::to_string(i + 1)));
+        }
     };
     band(joinedTexts(facts, note_, printedItems(), false), false, facts.bandLines, 0,
          "legal texts");
@@ -422,15 +457,17 @@ void Builder::taxCredit() {
 
 std::string ExpectedCall::bytes() const {
     std::string out = text;
-    for (int i = 0; i < lineEnds; ++i)
+    for (int i = 0; i < lineEnds; ++i) {
         out += "\r\n";
+    }
     return out;
 }
 
 std::string fitted(const std::string& text, int width, bool right) {
     const auto size = static_cast<std::size_t>(width);
-    if (text.size() >= size)
+    if (text.size() >= size) {
         return text.substr(0, size);
+    }
     const std::string room(size - text.size(), ' ');
     return right ? room + text : text + room;
 }
@@ -443,23 +480,25 @@ std::string joinedTexts(const TextFacts& facts, const NoteCase& note, int printe
     for (int item = 0; item < printedItems; ++item) {
         const std::string& text =
             note.legalTexts[static_cast<std::size_t>(item) % note.legalTexts.size()];
-        if (!seen.insert(text).second)
+        if (!seen.insert(text).second) {
             continue;
-        if (!out.empty())
+        }
+        if (!out.empty()) {
             out += separator;
+        }
         out += printerBytes(text);
     }
     if (withObservation && !note.observation.empty()) {
-        if (facts.separatorBeforeObservation)
+        if (facts.separatorBeforeObservation) {
             out += separator;
+        }
         out += facts.beforeObservation + printerBytes(note.observation);
     }
     return out;
 }
 
-ExpectedNote expectedNote(const FormFacts& form, const std::vector<MapRow>& map,
-                          const NoteCase& note, const Sums& sums) {
-    return Builder(form, map, note, sums).build();
+ExpectedNote expectedNote(const FormFacts& form, const NoteCase& note, const Sums& sums) {
+    return Builder(form, note, sums).build();
 }
 
 }  // namespace tarn::test

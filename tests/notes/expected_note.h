@@ -1,12 +1,11 @@
-// The paper that a note must give on a form, call by call, worked out from the
-// form's line map and facts and from nothing of the program.
+// The paper that a note must give on a form, call by call, worked out from the form's
+// map and from nothing of the program.
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "tests/notes/form_facts.h"
-#include "tests/notes/form_map.h"
 #include "tests/notes/plain_note.h"
 
 namespace tarn::test {
@@ -34,8 +33,7 @@ struct Sums {
     std::string weight = "1.568,750";
 };
 
-ExpectedNote expectedNote(const FormFacts& form, const std::vector<MapRow>& map,
-                          const NoteCase& note, const Sums& sums = {});
+ExpectedNote expectedNote(const FormFacts& form, const NoteCase& note, const Sums& sums = {});
 
 // Pads with blanks or cuts.
 std::string fitted(const std::string& text, int width, bool right);

@@ -31,6 +31,12 @@ static_assert(flawWith(row(3, bare(CGC_CPF, 46), left(DT_EMS_NF, 63, 10)), 5) ==
               Flaw::FieldsOverlap);
 static_assert(flawWith(row(3, text("TEXTO", 2), left(CFOP, 6, 5)), 5) == Flaw::FieldsOverlap);
 static_assert(flawWith(row(3, text("ENDEREÇO", 2), left(CFOP, 10, 5)), 5) == Flaw::None);
+static_assert(flawWith(row(3, as(Rule::AsText, left(NR_DOC, 2, 9))), 5) ==
+              Flaw::RuleOfAnotherSource);
+static_assert(flawWith(row(3, as(Rule::ServiceSum, left(VALOR_TOTAL, 2, 9))), 5) ==
+              Flaw::RuleOfAnotherSource);
+static_assert(flawWith(row(3, as(Rule::General, left(ICMS, 2, 9))), 5) ==
+              Flaw::RuleOfAnotherSource);
 static_assert(flawWith(row(3, right(CFOP, 2, 0)), 5) == Flaw::RightWithoutWidth);
 static_assert(flawWith(row(3, piece(LegalText, 2, 0, 62)), 5) == Flaw::PieceWithoutLength);
 static_assert(flawWith(row(-1), 1) == Flaw::NegativeAdvance);
@@ -68,11 +74,11 @@ static_assert(flawOfSecondPlace(12) == Flaw::FieldsOverlap);
 static_assert(flawOfSecondPlace(13) == Flaw::None);
 
 TEST(FormCheck, MasksAndRoomsComeWithTheSource) {
-    EXPECT_EQ(right(QTDE, 2, 7).rule, Rule::Masked);
+    EXPECT_EQ(right(QTDE, 2, 7).rule, Rule::Quantity);
     EXPECT_EQ(right(QTDE, 2, 7).mask.leastDecimals, 3);
     EXPECT_EQ(under("####0", right(ICMS, 2, 2)).mask.mostDecimals, 0);
     EXPECT_EQ(as(Rule::AsText, left(CFOP, 2, 7)).rule, Rule::AsText);
-    EXPECT_EQ(left(CFOP, 2, 7).rule, Rule::Usual);
+    EXPECT_EQ(left(CFOP, 2, 7).rule, Rule::MaskedText);
     EXPECT_EQ(bare(CEP_COB, 2).room, 9);
     EXPECT_EQ(text("PROGRAMAÇÃO", 2).room, 11);
 }

@@ -1,14 +1,16 @@
-// What the forms ask for beyond their line maps: who prints on which, marks,
-// heights, parcels, the shape of the texts at the foot.
+// What stands on each form, read from its file in tests/notes/maps: who prints on it,
+// marks, heights, parcels, the shape of the texts at the foot, and its lines.
 #pragma once
 
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 
-#include "notes/print_note.h"
+#include "notes/ladder.h"
+#include "tests/notes/form_map.h"
 
 namespace tarn::test {
 
@@ -51,7 +53,7 @@ struct TextFacts {
 };
 
 struct FormFacts {
-    std::string name{};  // of the map file
+    std::string name{};  // "1361" of imprime_nf_1361.map
     std::int32_t company = 0;
     std::int32_t establishment = 1;
     int length = 0;      // line ends beside the item lines
@@ -68,9 +70,13 @@ struct FormFacts {
     std::string cfop = "5.102";
     int repeatedLines = 0;  // lines that the form prints once more than its map counts
     Ladder ladder = Ladder::Issuing;
+    std::vector<MapRow> rows{};
 };
 
 const std::vector<FormFacts>& allForms();
 const FormFacts& formNamed(const std::string& name);
+
+// How a test's name shows the form.
+void PrintTo(const FormFacts& form, std::ostream* out);
 
 }  // namespace tarn::test

@@ -1,7 +1,6 @@
 #include "tests/notes/form_map.h"
 
 #include <algorithm>
-#include <fstream>
 #include <regex>
 #include <stdexcept>
 
@@ -12,8 +11,9 @@ namespace {
 MapField fieldOf(const std::string& text) {
     static const std::regex shape(R"(\s*(.+) @(\d+):(\d+|-)(R?)\s*)");
     std::smatch match;
-    if (!std::regex_match(text, match, shape))
+    if (!std::regex_match(text, match, shape)) {
         throw std::runtime_error("unreadable field: " + text);
+    }
     MapField field;
     field.source = match[1];
     field.column = std::stoi(match[2]);
@@ -24,16 +24,27 @@ MapField fieldOf(const std::string& text) {
 
 std::string bytesOf(const std::string& hex) {
     std::string bytes;
-    for (std::size_t i = 0; i < hex.size(); i += 3)
+    for (std::size_t i = 0; i < hex.size(); i += 3) {
         bytes += static_cast<char>(std::stoi(hex.substr(i, 2), nullptr, 16));
+    }
     return bytes;
 }
 
-MapRow rowOf(const std::string& line) {
+}  // namespace
+
+bool MapRow::shows(const std::string& source) const {
+    return std::any_of(fields.begin(), fields.end(), [&](const MapField& field) {
+        return field.source == source || field.source.find(" and " + source) != std::string::npos ||
+               field.source.starts_with(source + " and ");
+    });
+}
+
+MapRow readRow(const std::string& line) {
     static const std::regex shape(R"((\d+) \+(\d+) (.+))");
     std::smatch match;
-    if (!std::regex_match(line, match, shape))
+    if (!std::regex_match(line, match, shape)) {
         throw std::runtime_error("unreadable row: " + line);
+    }
     MapRow row;
     row.line = std::stoi(match[1]);
     row.advance = std::stoi(match[2]);
@@ -49,27 +60,6 @@ MapRow rowOf(const std::string& line) {
         at = end == std::string::npos ? end : end + separator.size();
     }
     return row;
-}
-
-}  // namespace
-
-bool MapRow::shows(const std::string& source) const {
-    return std::any_of(fields.begin(), fields.end(), [&](const MapField& field) {
-        return field.source == source || field.source.find(" and " + source) != std::string::npos ||
-               field.source.starts_with(source + " and ");
-    });
-}
-
-std::vector<MapRow> readMap(const std::string& fileName) {
-    std::ifstream file(fileName);
-    if (!file)
-        throw std::runtime_error("no map: " + fileName);
-    std::vector<MapRow> rows;
-    for (std::string line; std::getline(file, line);) {
-        if (!line.empty() && line[0] != '#')
-            rows.push_back(rowOf(line));
-    }
-    return rows;
 }
 
 }  // namespace tarn::test

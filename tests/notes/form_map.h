@@ -1,4 +1,4 @@
-// Reader of the line maps in tests/notes/maps.
+// The lines of the forms, as tests/notes/maps writes them.
 #pragma once
 
 #include <string>
@@ -24,6 +24,6 @@ struct MapRow {
 };
 
 // Throws std::runtime_error for a line that it can't read.
-std::vector<MapRow> readMap(const std::string& fileName);
+MapRow readRow(const std::string& line);
 
 }  // namespace tarn::test

@@ -29,132 +29,6 @@ const std::string parcelsRow =
           L(73, 10, 'V'), R(86, 15, "123456789012345,00"), L(114, 10, "DOC-3"),
           L(127, 10, "07/04/2009"), R(140, 15, "1300,25")});
 
-TEST(ImprimeNF2161_3341, EveryLine) {
-    expectPaper(
-        printed(of3341(), fullNote()), 53,
-        {{1, line({T(142, "004567")})},
-         {3, line({T(106, "X")})},
-         {7, line({L(6, 40, 'n'), L(50, 8, 'c')})},
-         {9, line({L(6, 82, 'r'), L(100, 28, "12.345.678/0001-95"), L(143, 14, 'd')})},
-         {11, line({L(6, 81, 'e'), L(87, 21, 'b'), L(118, 12, "01310-100"), L(137, 14, "")})},
-         {12,
-          line({L(6, 49, 'm'), L(62, 18, 'f'), L(94, 3, 'u'), L(102, 28, 'i'), L(136, 14, "")})},
-         {15, parcelsRow},
-         {16, "     "},
-         {18, line({L(6, 7, 'P'), L(16, 64, 'D'), L(88, 3, "oSS"), L(94, 5, 'U'),
-                    R(102, 7, "10000000,000"), R(122, 9, unitPrice), R(136, 17, lineTotal),
-                    L(159, 2, "18,00")})},
-         {19, line({L(6, 7, "P-002"), L(16, 64, "ARRUELA LISA"), L(88, 3, "120"), L(94, 5, "UN"),
-                    R(102, 7, "400,000"), R(122, 9, "1234,50"), R(136, 17, "493.800,00"),
-                    L(159, 2, "7,")})},
-         {20, " "},
-         {24, " "},
-         {30, line({R(2, 24, wide('1')), R(31, 23, wide('2')), R(59, 22, wide('3')),
-                    R(86, 22, wide('4')), R(123, 24, wide('5'))})},
-         {32, line({R(2, 24, "10,00"), R(31, 23, "5,50"), R(59, 22, "0,25"), R(86, 22, "80,04"),
-                    R(123, 24, "1.696,54")})},
-         {34, line({L(6, 59, 't'), L(98, 2, 'q'), L(105, 13, 'p'), L(122, 2, 'v'),
-                    L(129, 27, " 2.345.678/0001-10")})},
-         {35, line({L(6, 65, 'l'), L(83, 35, 'w'), L(122, 2, 's'), L(129, 27, 'k')})},
-         {37, line({R(2, 17, "12,000"), L(25, 17, "VOLUME"), L(47, 15, ""), L(67, 21, ""),
-                    R(109, 22, "123.456.789.012.345,000"), R(139, 20, "1.200,000")})},
-         {39, line({L(6, 15, "FAT: 004567"), T(21, ", "), L(23, 20, labelled("N/PED: ", 'x')),
-                    T(43, ", "), L(45, 20, labelled("S/PED: ", 'y')), T(65, ", "),
-                    L(67, 30, labelled("VEND: ", 'z'))})},
-         {40, line({T(6, ruler(1, 62))})},
-         {41, line({T(6, ruler(63, 62))})},
-         {42, line({T(6, ruler(125, 62))})},
-         {43, line({T(6, ruler(187, 62))})},
-         {44, line({T(6, ruler(249, 62))})},
-         {45, line({T(6, ruler(311, 62))})},
-         {49, line({T(137, "004567")})}});
-}
-
-TEST(ImprimeNF2161_3381, EveryLine) {
-    expectPaper(
-        printed(of3381(), fullNote()), 52,
-        {{1, line({T(120, "004567")})},
-         {2, line({T(90, "X")})},
-         {7, line({L(2, 37, 'n'), L(41, 8, 'c')})},
-         {9, line({L(2, 80, 'r'), L(84, 30, "12.345.678/0001-95"), L(119, 14, 'd')})},
-         {11, line({L(2, 69, 'e'), L(71, 18, 'b'), L(99, 12, "01310-100"), L(118, 14, "")})},
-         {12, line({L(2, 50, 'm'), L(55, 18, 'f'), L(81, 3, 'u'), L(89, 28, 'i'), L(123, 14, "")})},
-         {14, line({L(6, 10, "DOC-1"), L(18, 10, "07/02/2009"), R(31, 10, "100,50"), L(51, 10, 'N'),
-                    L(63, 10, 'V'), R(76, 10, "123456789012345,00"), L(96, 10, "DOC-3"),
-                    L(108, 10, "07/04/2009"), R(121, 10, "1300,25")})},
-         {15, "     "},
-         {17, line({L(2, 7, 'P'), L(11, 62, 'D'), L(75, 3, "oSS"), L(80, 5, 'U'),
-                    R(87, 7, "10000000,000"), R(98, 9, unitPrice), R(110, 17, lineTotal),
-                    L(135, 2, "18,00")})},
-         {18, line({L(2, 7, "P-002"), L(11, 62, "ARRUELA LISA"), L(75, 3, "120"), L(80, 5, "UN"),
-                    R(87, 7, "400,000"), R(98, 9, "1234,50"), R(110, 17, "493.800,00"),
-                    L(135, 2, "7,")})},
-         {19, " "},
-         {23, " "},
-         {29, line({R(2, 24, wide('1')), R(28, 23, wide('2')), R(54, 22, wide('3')),
-                    R(78, 22, wide('4')), R(110, 24, wide('5'))})},
-         {30, line({R(2, 24, "10,00"), R(28, 23, "5,50"), R(53, 22, "0,25"), R(77, 22, "80,04"),
-                    R(109, 24, "1.696,54")})},
-         {33, line({L(2, 63, 't'), L(83, 2, 'q'), L(87, 13, 'p'), L(102, 2, 'v'),
-                    L(106, 27, " 2.345.678/0001-10")})},
-         {34, line({L(2, 65, 'l'), L(72, 28, 'w'), L(102, 3, 's'), L(107, 25, 'k')})},
-         {36, line({R(2, 15, "12,000"), L(20, 17, "VOLUME"), L(42, 15, ""), L(62, 21, ""),
-                    R(93, 22, "123.456.789.012.345,000"), R(120, 15, "1.200,000")})},
-         {38, line({L(2, 12, "FAT: 004567"), T(14, ", "), L(16, 15, labelled("N/PED: ", 'x')),
-                    T(31, ", "), L(33, 16, labelled("S/PED: ", 'y')), T(49, ", "),
-                    L(51, 15, labelled("VEND: ", 'z'))})},
-         {39, line({T(2, ruler(1, 62))})},
-         {40, line({T(2, ruler(63, 62))})},
-         {41, line({T(2, ruler(125, 62))})},
-         {42, line({T(2, ruler(187, 62))})},
-         {43, line({T(2, ruler(249, 62))})},
-         {44, line({T(2, ruler(311, 62))})},
-         {48, line({T(122, "004567")})}});
-}
-
-TEST(ImprimeNF2161_3383, EveryLine) {
-    const std::string references =
-        line({L(6, 15, "FAT: 004567"), T(21, ", "), L(23, 20, labelled("N/PED: ", 'x'))});
-    expectPaper(printed(of3383(), fullNote()), 49,
-                {{1, line({T(122, "004567")})},
-                 {2, line({T(105, "X")})},
-                 {7, line({L(6, 38, 'n'), L(44, 8, 'c')})},
-                 {9, line({L(6, 82, 'r'), L(93, 28, "12.345.678/0001-95"), L(126, 10, 'd')})},
-                 {11, line({L(6, 70, 'e'), L(76, 21, 'b'), L(107, 12, "01310-100")})},
-                 {12, line({L(6, 49, 'm'), L(59, 18, 'f'), L(82, 3, 'u'), L(90, 28, 'i')})},
-                 {15, parcelsRow},
-                 {16, "     "},
-                 {18, line({L(6, 7, 'P'), L(16, 57, 'D'), L(76, 3, "oSS"), L(82, 5, 'U'),
-                            R(88, 7, "10000000,000"), R(102, 9, unitPrice), R(116, 17, lineTotal),
-                            L(136, 2, "18,00")})},
-                 {19, line({L(6, 7, "P-002"), L(16, 57, "ARRUELA LISA"), L(76, 3, "120"),
-                            L(82, 5, "UN"), R(88, 7, "400,000"), R(102, 9, "1234,50"),
-                            R(116, 17, "493.800,00"), L(136, 2, "7,")})},
-                 {20, " "},
-                 {24, " "},
-                 {27, line({R(2, 24, wide('1')), R(31, 23, wide('2')), R(59, 22, wide('3')),
-                            R(86, 22, wide('4')), R(113, 22, wide('5'))})},
-                 {29, line({R(2, 24, "10,00"), R(31, 23, "5,50"), R(59, 22, "0,25"),
-                            R(86, 22, "80,04"), R(113, 22, "1.696,54")})},
-                 {31, line({L(6, 59, 't'), L(84, 2, 'q'), L(91, 13, 'p'), L(106, 2, 'v'),
-                            L(110, 27, " 2.345.678/0001-10")})},
-                 {32, line({L(6, 65, 'l'), L(75, 28, 'w'), L(104, 2, 's'), L(108, 20, 'k')})},
-                 {34, line({R(2, 17, "12,000"), L(25, 17, "VOLUME"), L(47, 15, ""), L(67, 21, ""),
-                            R(93, 22, "123.456.789.012.345,000"), R(118, 20, "1.200,000")})},
-                 // The first references twice; the rest begins in column 5 of a line more
-                 // than the form has.
-                 {35, references},
-                 {36, references},
-                 {37, "    " + L(1, 20, labelled("S/PED: ", 'y')).text + ", " +
-                          L(1, 30, labelled("VEND: ", 'z')).text},
-                 {38, line({T(6, ruler(1, 62))})},
-                 {39, line({T(6, ruler(63, 62))})},
-                 {40, line({T(6, ruler(125, 62))})},
-                 {41, line({T(6, ruler(187, 62))})},
-                 {42, line({T(6, ruler(311, 62))})},
-                 {45, line({T(124, "004567")})}});
-}
-
 TEST(ImprimeNF2161, SetUpGoesInAJobOfItsOwn) {
     for (const notes::Form* form : {&of3341(), &of3381(), &of3383()}) {
         const std::vector<Job> jobs = print(*form, fullNote().xml());
@@ -176,7 +50,7 @@ TEST(ImprimeNF2161_3383, TheReferencesAreTwoCalls) {
 
 std::vector<std::string> legalLines(const notes::Form& form, std::size_t first, std::size_t count,
                                     const std::string& legal, const std::string& observation) {
-    NoteText note = fullNote();
+    NoteDraft note = fullNote();
     for (Attributes& item : note.items) {
         item["DC_TXT_LEG_NF"] = legal;
     }
@@ -210,8 +84,8 @@ TEST(ImprimeNF2161_3341, ASeparatorStandsAlsoBeforeTheObservation) {
 
 // The service block -------------------------------------------------------------
 
-NoteText withServices(int services, const std::string& lines) {
-    NoteText note = fullNote();
+NoteDraft withServices(int services, const std::string& lines) {
+    NoteDraft note = fullNote();
     note.form["QT_MAX_IT_NF_SRV"] = lines;
     for (int i = 1; i <= services; ++i) {
         note.items.push_back({{"CD_PRO", "S" + std::to_string(i) + "-AAAAAAAAAAAAAA"},
@@ -266,7 +140,7 @@ TEST(ImprimeNF2161Services, MoreLinesPushTheTotalsAndFewerShowNoSums) {
 }
 
 TEST(ImprimeNF2161Services, AreNoProducts) {
-    NoteText note = fullNote();
+    NoteDraft note = fullNote();
     note.items[1]["IC_TP_CAD"] = "S";
     note.items[1]["DC_TXT_LEG_NF"] = "NOT STORED";
     const std::vector<std::string> full = linesOf(printed(of3341(), fullNote()));

@@ -29,8 +29,8 @@ std::string at(const std::string& y, const std::string& text) {
     return at("1.100", y, text);
 }
 
-NoteText drawnNote() {
-    NoteText note = sampleNote();
+NoteDraft drawnNote() {
+    NoteDraft note = sampleNote();
     note.head.merge(Attributes{{"NR_DOC1", "4567/1"},
                                {"NR_DOC2", "4567/2"},
                                {"NR_DOC3", "4567/3"},
@@ -132,13 +132,13 @@ protected:
         ASSERT_TRUE(document_.loadXML(xml));
         printNote(Ladder::Issuing, seams_.environment, session_, document_, number);
     }
-    std::vector<std::string> drawn(const NoteText& note) {
+    std::vector<std::string> drawn(const NoteDraft& note) {
         seams_.printer.operations.clear();
         draw(note.xml());
         return seams_.printer.lines();
     }
     // The error of a note that stops, and the lines drawn until then.
-    std::optional<RuntimeErrorCode> stopped(const NoteText& note) {
+    std::optional<RuntimeErrorCode> stopped(const NoteDraft& note) {
         seams_.printer.operations.clear();
         try {
             draw(note.xml());
@@ -175,7 +175,7 @@ TEST_F(ImprimeNF2541, BothLaddersReachIt) {
 }
 
 TEST_F(ImprimeNF2541, AnEntryNote) {
-    NoteText note = drawnNote();
+    NoteDraft note = drawnNote();
     for (const std::string kind : {"E", "Entrada"}) {
         note.head["Ent_Sai"] = kind;
         EXPECT_EQ(drawn(note).at(2), at("1.100", "1.000", "ENTRADA", "1"));
@@ -187,7 +187,7 @@ TEST_F(ImprimeNF2541, AnEntryNote) {
 }
 
 TEST_F(ImprimeNF2541, NoneToFourParcels) {
-    NoteText note = drawnNote();
+    NoteDraft note = drawnNote();
     note.head.merge(
         Attributes{{"NR_DOC4", "4567/4"}, {"DT_VNC_DOC4", "07/05/2009"}, {"VL_PRN_DOC4", "0.5"}});
     std::vector<std::string> parcels = parcelLines();
@@ -208,7 +208,7 @@ TEST_F(ImprimeNF2541, NoneToFourParcels) {
 }
 
 TEST_F(ImprimeNF2541, MoreThanFourParcelsLeaveTheMessage) {
-    NoteText note = drawnNote();
+    NoteDraft note = drawnNote();
     for (const std::string count : {"5", "12", "5.5"}) {
         note.head["QTDE_PARC"] = count;
         const std::vector<std::string> lines = drawn(note);
@@ -220,7 +220,7 @@ TEST_F(ImprimeNF2541, MoreThanFourParcelsLeaveTheMessage) {
 }
 
 TEST_F(ImprimeNF2541, ItemsStandFourMillimetresApartWhateverTheirKind) {
-    NoteText note = drawnNote();
+    NoteDraft note = drawnNote();
     note.items.push_back(note.items[1]);
     note.items[2]["IC_TP_CAD"] = "S";
     note.form["QT_MAX_IT"] = "1";
@@ -233,7 +233,7 @@ TEST_F(ImprimeNF2541, ItemsStandFourMillimetresApartWhateverTheirKind) {
 }
 
 TEST_F(ImprimeNF2541, ManyItemsRunIntoTheTotals) {
-    NoteText note = drawnNote();
+    NoteDraft note = drawnNote();
     note.items.resize(40, note.items[1]);
     const std::vector<std::string> lines = drawn(note);
     EXPECT_EQ(lines.at(18 + 36), at("24.400", secondItem()));
@@ -242,7 +242,7 @@ TEST_F(ImprimeNF2541, ManyItemsRunIntoTheTotals) {
 }
 
 TEST_F(ImprimeNF2541, WhatIsAbsentLeavesItsPlaceAndItsPunctuation) {
-    NoteText note;
+    NoteDraft note;
     note.form["QT_MAX_IT"] = "6";
     note.items.emplace_back();
     const std::vector<std::string> expected = {
@@ -280,7 +280,7 @@ TEST_F(ImprimeNF2541, WhatIsAbsentLeavesItsPlaceAndItsPunctuation) {
 }
 
 TEST_F(ImprimeNF2541, ValuesAsTheyStand) {
-    NoteText note = drawnNote();
+    NoteDraft note = drawnNote();
     note.head["CFOP"] = "5102/6102";
     note.head["IC_TIP_PES"] = "F";
     note.head["CGC_CPF"] = "12345678901";
@@ -304,7 +304,7 @@ TEST_F(ImprimeNF2541, ALongerNumberIsDrawnInFull) {
 }
 
 TEST_F(ImprimeNF2541, AnErrorLeavesTheDocumentUnended) {
-    NoteText note = drawnNote();
+    NoteDraft note = drawnNote();
     note.head["QTDE_PARC"] = "";
     EXPECT_EQ(stopped(note), RuntimeErrorCode::TypeMismatch);
     EXPECT_EQ(lastText(), headLines().back());

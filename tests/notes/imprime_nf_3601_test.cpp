@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "notes/layouts/layouts.h"
-#include "tests/notes/wide_note.h"
+#include "tests/notes/paper.h"
 
 namespace tarn::test {
 namespace {
@@ -50,70 +50,12 @@ const std::string volumes =
     line({R(2, 13, "12,000"), L(20, 17, "VOLUME"), L(42, 25, ""), L(69, 24, ""),
           R(126, 22, "123.456.789.012.345,000"), R(149, 12, "1.200,000")});
 
-const std::vector<Line> paper3601 = {
-    {1, " "},
-    {3, line({T(150, "004567")})},
-    {5, line({T(110, "X")})},
-    {10, line({L(2, 52, 'n'), L(59, 8, 'c')})},
-    {12, recipient},
-    {14, address},
-    {15, town},
-    {18, threeParcels},
-    {26, item(97, true)},
-    {27, item(97, false)},
-    {28, " "},
-    {33, taxes},
-    {34, totals},
-    {37, carrier},
-    {38, carrierTown},
-    {40, volumes},
-    {42, line({T(2, ruler(1, 88))})},
-    {43, line({T(2, ruler(89, 88))})},
-    {44, line({T(2, ruler(601, 88))})},
-    {45, line({T(2, ruler(689, 88))})},
-    {46, line({L(2, 28, 'x'), L(35, 28, 'z')})},
-    {51, line({T(142, "004567")})},
-};
-
-const std::vector<Line> paper5282 = {
-    {1, line({T(150, "004567")})},
-    {3, line({T(110, "X")})},
-    {8, line({L(2, 50, 'n'), L(59, 8, 'c')})},
-    {10, recipient},
-    {12, address},
-    {13, town},
-    {16, threeParcels},
-    {24, item(98, true)},
-    {25, item(98, false)},
-    {26, " "},
-    {31, " "},
-    {32, taxes},
-    {33, totals},
-    {36, carrier},
-    {37, carrierTown},
-    {39, volumes},
-    {41, line({T(2, ruler(1, 88))})},
-    {42, line({T(2, ruler(89, 88))})},
-    {43, line({T(2, ruler(601, 88))})},
-    {44, line({T(2, ruler(689, 88))})},
-    {45, line({L(2, 28, 'x'), L(35, 28, 'z')})},
-    {50, line({T(142, "004567")})},
-};
-
-TEST(ImprimeNF3601, EveryLine) {
-    expectPaper(printed(form3601(), wideNote()), 53, paper3601);
-}
-
-TEST(ImprimeNFE5282, EveryLine) {
-    expectPaper(printed(form5282(), wideNote()), 54, paper5282);
-}
-
 TEST(ImprimeNF3601, SetUpAndFirstCalls) {
-    const std::vector<Job> jobs = print(form3601(), wideNote().xml());
+    const std::vector<Job> jobs = print(form3601(), fullNote().xml());
     ASSERT_EQ(jobs.size(), 2U);
     EXPECT_EQ(jobs[0].writes, Lines{" \x0F\x1BM"});
     EXPECT_EQ(jobs[1].writes[0], " \r\n\r\n");
-    const std::vector<Job> others = print(form5282(), wideNote().xml());
+    const std::vector<Job> others = print(form5282(), fullNote().xml());
     ASSERT_EQ(others.size(), 2U);
     EXPECT_EQ(others[0].writes, Lines{" \x0F\x1BM"});
     EXPECT_EQ(others[1].writes[0], line({T(150, "004567")}) + "\r\n\r\n");
@@ -141,7 +83,7 @@ TEST(ImprimeNF3601, FourNumberedParcelsToARow) {
                                                                 {&form5282(), 16}};
     for (const auto& [form, at] : forms) {
         const auto block = [form = form, at = at](int count) {
-            const Lines found = rows(printed(*form, wideParcels(count)), at, at + 8);
+            const Lines found = rows(printed(*form, withParcels(count)), at, at + 8);
             EXPECT_EQ(found[8].substr(0, 5), " PPPP") << count;
             return Lines(found.begin(), found.begin() + 8);
         };
@@ -156,10 +98,10 @@ TEST(ImprimeNF3601, FourNumberedParcelsToARow) {
 }
 
 TEST(ImprimeNF3601, TheFourthPlaceGoesOnByTheSameStep) {
-    const std::string four = linesOf(printed(form3601(), wideParcels(4)))[17];
+    const std::string four = linesOf(printed(form3601(), withParcels(4)))[17];
     EXPECT_EQ(four.substr(119),
               line({T(2, "4)"), L(4, 10, "D4"), L(15, 10, "VENC4"), R(26, 12, "4,50")}).substr(1));
-    const std::string ninth = linesOf(printed(form3601(), wideParcels(12)))[19];
+    const std::string ninth = linesOf(printed(form3601(), withParcels(12)))[19];
     EXPECT_EQ(ninth.substr(2, 4), "9)D9");
     EXPECT_EQ(ninth.substr(41, 5), "10)D1");
     EXPECT_EQ(ninth.substr(81, 5), "11)D1");
@@ -170,24 +112,24 @@ TEST(ImprimeNF3601, TooManyParcelsRaiseTheItemsByOneLine) {
     const std::pair<const notes::Form*, std::size_t> forms[] = {{&form3601(), 18},
                                                                 {&form5282(), 16}};
     for (const auto& [form, at] : forms) {
-        const std::string stream = printed(*form, wideParcels(13));
+        const std::string stream = printed(*form, withParcels(13));
         const Lines found = rows(stream, at, at + 7);
         EXPECT_EQ(found[0], " N\xFAmero de Parcelas maior do que 12");
         EXPECT_EQ(Lines(found.begin() + 1, found.begin() + 7), Lines(6));
         EXPECT_EQ(found[7].substr(0, 5), " PPPP");
-        EXPECT_EQ(linesOf(stream).size(), linesOf(printed(*form, wideParcels(3))).size() - 1);
+        EXPECT_EQ(linesOf(stream).size(), linesOf(printed(*form, withParcels(3))).size() - 1);
     }
 }
 
 TEST(ImprimeNF3601, AFullFormKeepsOneBlankLine) {
     // 3601 has one line behind the sixth item, 5282 one more.
-    EXPECT_EQ(rows(printed(form3601(), wideItems(6)), 32, 33), (Lines{" ", taxes}));
-    EXPECT_EQ(rows(printed(form5282(), wideItems(6)), 30, 32), (Lines{" ", " ", taxes}));
-    EXPECT_EQ(rows(printed(form3601(), wideItems(9)), 32, 33), (Lines{" ", taxes}));
+    EXPECT_EQ(rows(printed(form3601(), withItems(6)), 32, 33), (Lines{" ", taxes}));
+    EXPECT_EQ(rows(printed(form5282(), withItems(6)), 30, 32), (Lines{" ", " ", taxes}));
+    EXPECT_EQ(rows(printed(form3601(), withItems(9)), 32, 33), (Lines{" ", taxes}));
 }
 
 TEST(ImprimeNF3601, APointInAQuantityGroups) {
-    NoteText note = wideItems(2);
+    NoteDraft note = withItems(2);
     note.items[0]["QTDE"] = "12.500";
     note.items[0]["VALOR_UN"] = "2";
     note.items[1].erase("QTDE");
@@ -205,7 +147,7 @@ TEST(ImprimeNF3601, APointInAQuantityGroups) {
 
 TEST(ImprimeNF3601, TwoLinesForEachText) {
     const auto bands = [](const std::string& legal, const std::string& observation) {
-        const NoteText note = wideTexts(legal, observation);
+        const NoteDraft note = withTexts(legal, observation);
         const Lines lines = rows(printed(form3601(), note), 42, 46);
         EXPECT_EQ(lines, rows(printed(form5282(), note), 41, 45));
         EXPECT_EQ(lines.back(), line({L(2, 28, 'x'), L(35, 28, 'z')}));
@@ -220,7 +162,7 @@ TEST(ImprimeNF3601, TwoLinesForEachText) {
 }
 
 TEST(ImprimeNF3601, AnOrderNumberOfZeroPrintsNothing) {
-    NoteText note = wideNote();
+    NoteDraft note = fullNote();
     note.head["ID_VND_DIR"] = "0";
     note.head["VENDEDOR"] = "MARIA";
     EXPECT_EQ(linesOf(printed(form3601(), note))[45], line({L(2, 28, ""), L(35, 28, "MARIA")}));

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "notes/layouts/layouts.h"
-#include "tests/notes/wide_note.h"
+#include "tests/notes/paper.h"
 
 namespace tarn::test {
 namespace {
@@ -52,81 +52,9 @@ const std::string threeParcels =
     parcels({"DOC-1", "NNNNNNNNNN", "DOC-3"}, {"07/02/2009", "VVVVVVVVVV", "07/04/2009"},
             {"100,50", "123456789012345,00", "1300,25"});
 
-const std::vector<Line> paper3881 = {
-    {1, " "},
-    {2, line({T(152, "004567")})},
-    {4, line({T(99, "X")})},
-    {10, line({L(4, 40, 'n'), L(48, 7, 'c')})},
-    {13, recipient},
-    {15, plain + line({L(2, 34, 'e'), L(46, 17, 'b'), L(69, 12, "01310-100"), L(81, 10, "")})},
-    {17, line({L(2, 19, 'm'), L(29, 16, 'f'), L(51, 3, 'u'), L(62, 18, 'i'), L(86, 14, "")})},
-    {20, condensed + " "},
-    {21, firstItem},
-    {22, secondItem},
-    {23, condensed + " "},
-    {27, threeParcels},
-    {28, "  "},
-    {30, plain + line({R(3, 16, wide('1')), R(21, 10, wide('2')), R(36, 20, wide('3')),
-                       R(60, 16, wide('4')), R(80, 15, wide('5'))})},
-    {32, line({R(3, 16, "10,00"), R(21, 10, "5,50"), R(37, 20, "0,25"), R(61, 16, "80,04"),
-               R(81, 15, "1.696,54")})},
-    {35, line({L(2, 34, 't'), L(57, 2, 'q'), L(63, 11, 'p'), L(75, 2, 'v'),
-               L(78, 18, " 2.345.678/0001-10")})},
-    {37, line({L(2, 34, 'l'), L(46, 24, 'w'), L(75, 2, 's'), L(78, 18, 'k')})},
-    {39, line({R(6, 11, "12,000"), L(19, 11, "VOLUME"), L(35, 8, ""), L(45, 16, ""),
-               R(68, 16, "123.456.789.012.345,000"), R(87, 9, "1.200,000")})},
-    {42, line({T(2, ruler(1, 44))})},
-    {43, line({T(2, ruler(45, 44))})},
-    {44, line({T(2, ruler(89, 44))})},
-    {45, line({T(2, ruler(601, 44))})},
-    {46, line({T(2, ruler(645, 44))})},
-    {47, line({T(2, ruler(689, 44))})},
-    {52, line({T(10, "004567")})},
-};
-
-const std::vector<Line> paper6001 = {
-    {1, " "},
-    {2, line({T(152, "004567")})},
-    {4, line({T(99, "X")})},
-    {10, line({L(4, 40, 'n'), L(48, 7, 'c')})},
-    {13, recipient},
-    {15, plain + line({L(2, 34, 'e'), L(46, 17, 'b'), L(69, 12, "01310-100"), L(83, 14, "")})},
-    {16, line({L(2, 19, 'm'), L(29, 16, 'f'), L(51, 3, 'u'), L(62, 18, 'i'), L(86, 14, "")})},
-    {18, condensed + " "},
-    {19, firstItem},
-    {20, secondItem},
-    {21, condensed + " "},
-    {25, threeParcels},
-    {26, "  "},
-    {28, plain + line({R(3, 16, wide('1')), R(20, 10, wide('2')), R(35, 20, wide('3')),
-                       R(59, 16, wide('4')), R(79, 15, wide('5'))})},
-    {30, line({R(3, 16, "10,00"), R(20, 10, "5,50"), R(36, 20, "0,25"), R(60, 16, "80,04"),
-               R(80, 15, "1.696,54")})},
-    {33, line({L(2, 34, 't'), L(57, 2, 'q'), L(63, 11, 'p'), L(76, 2, 'v'),
-               L(79, 18, " 2.345.678/0001-10")})},
-    {34, line({L(2, 34, 'l'), L(46, 24, 'w'), L(76, 2, 's'), L(79, 18, 'k')})},
-    {35, line({R(6, 11, "12,000"), L(19, 11, "VOLUME"), L(35, 8, ""), L(45, 16, ""),
-               R(68, 16, "123.456.789.012.345,000"), R(87, 9, "1.200,000")})},
-    {37, line({T(2, ruler(1, 44))})},
-    {38, line({T(2, ruler(45, 44))})},
-    {39, line({T(2, ruler(89, 44))})},
-    {40, line({T(2, ruler(601, 44))})},
-    {41, line({T(2, ruler(645, 44))})},
-    {42, line({T(2, ruler(689, 44))})},
-    {47, line({T(12, "004567")})},
-};
-
-TEST(ImprimeNF3881, EveryLine) {
-    expectPaper(printed(form3881(), wideNote()), 55, paper3881);
-}
-
-TEST(ImprimeNFE6001, EveryLine) {
-    expectPaper(printed(form6001(), wideNote()), 50, paper6001);
-}
-
 TEST(ImprimeNF3881, ControlBytesAreCallsOfTheirOwn) {
     for (const notes::Form* form : {&form3881(), &form6001()}) {
-        const std::vector<Job> jobs = print(*form, wideNote().xml());
+        const std::vector<Job> jobs = print(*form, fullNote().xml());
         ASSERT_EQ(jobs.size(), 2U);
         EXPECT_EQ(jobs[0].writes, Lines{condensed});
         const Lines& writes = jobs[1].writes;
@@ -154,7 +82,7 @@ TEST(ImprimeNF3881, ParcelsHaveTheirNumbersBelowTheItems) {
                                                                 {&form6001(), 25}};
     for (const auto& [form, at] : forms) {
         const auto block = [form = form, at = at](int count) {
-            return rows(printed(*form, wideParcels(count)), at - 1, at + 2);
+            return rows(printed(*form, withParcels(count)), at - 1, at + 2);
         };
         EXPECT_EQ(block(0), (Lines{"", " ", "", ""}));
         EXPECT_EQ(block(1), (Lines{"", parcels({"D1"}, {"VENC1"}, {"1,50"}), "", ""}));
@@ -163,7 +91,7 @@ TEST(ImprimeNF3881, ParcelsHaveTheirNumbersBelowTheItems) {
         EXPECT_EQ(block(3), (Lines{"", parcels(documents, dates, values), "  ", ""}));
         EXPECT_EQ(block(4), (Lines{"", " N\xFAmero de Parcelas maior do que 3", "", ""}));
         for (const int count : {0, 1, 2, 3, 4, 12}) {
-            const std::string totals = linesOf(printed(*form, wideParcels(count)))[at + 2];
+            const std::string totals = linesOf(printed(*form, withParcels(count)))[at + 2];
             EXPECT_EQ(totals.substr(0, 7), plain + "  123") << count;
         }
     }
@@ -172,8 +100,8 @@ TEST(ImprimeNF3881, ParcelsHaveTheirNumbersBelowTheItems) {
 // A full form has no blank lines, but their call still sends its blank ahead of the
 // parcels.
 TEST(ImprimeNF3881, AFullFormHasItsParcelsBehindTwoBlanks) {
-    const NoteText six = [] {
-        NoteText note = wideItems(6);
+    const NoteDraft six = [] {
+        NoteDraft note = withItems(6);
         note.head["QTDE_PARC"] = "1";
         return note;
     }();
@@ -183,7 +111,7 @@ TEST(ImprimeNF3881, AFullFormHasItsParcelsBehindTwoBlanks) {
 }
 
 TEST(ImprimeNF3881, OnlyHereDoesAPointInAQuantityStayDecimal) {
-    NoteText note = wideItems(3);
+    NoteDraft note = withItems(3);
     note.items[0]["QTDE"] = "12.500";
     note.items[0]["VALOR_UN"] = "2";
     note.items[1]["QTDE"] = "1000";
@@ -203,7 +131,7 @@ TEST(ImprimeNF3881, OnlyHereDoesAPointInAQuantityStayDecimal) {
 
 TEST(ImprimeNF3881, ABadAmountKeepsTheCodeOffThePaper) {
     for (const char* field : {"QTDE", "VALOR_UN", "ICMS"}) {
-        NoteText note = wideItems(2);
+        NoteDraft note = withItems(2);
         note.items[1][field] = "nada";
         const Lines lines = linesOf(untilTypeError(form3881(), note));
         ASSERT_EQ(lines.size(), 22U) << field;
@@ -213,7 +141,7 @@ TEST(ImprimeNF3881, ABadAmountKeepsTheCodeOffThePaper) {
 
 TEST(ImprimeNF3881, TextsShareTheirBandsByLength) {
     const auto bands = [](const std::string& legal, const std::string& observation) {
-        const NoteText note = wideTexts(legal, observation);
+        const NoteDraft note = withTexts(legal, observation);
         const Lines lines = rows(printed(form3881(), note), 42, 52);
         // Establishment 6001 has the same bands five lines higher.
         Lines others = rows(printed(form6001(), note), 37, 47);

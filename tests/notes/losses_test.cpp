@@ -16,9 +16,9 @@ namespace {
 using notes::Loss;
 
 // Printed on the company's own form, watched.
-std::vector<Loss> lossesOf(std::int32_t company, const NoteText& note,
+std::vector<Loss> lossesOf(std::int32_t company, const NoteDraft& note,
                            std::int32_t establishment = 1) {
-    JobSpooler spooler;
+    RecordingSpooler spooler;
     TestEnvironment seams;
     Environment environment{.http = seams.loader,
                             .spooler = spooler,
@@ -39,7 +39,7 @@ std::vector<Loss> lossesOf(std::int32_t company, const NoteText& note,
     return log.losses();
 }
 
-std::vector<std::string> toldOf(std::int32_t company, const NoteText& note,
+std::vector<std::string> toldOf(std::int32_t company, const NoteDraft& note,
                                 std::int32_t establishment = 1) {
     std::vector<std::string> told;
     for (const Loss& loss : lossesOf(company, note, establishment)) {
@@ -55,7 +55,7 @@ TEST(Losses, ANoteThatFitsLosesNothing) {
 }
 
 TEST(Losses, ATextTooLongForItsBox) {
-    NoteText note = sampleNote();
+    NoteDraft note = sampleNote();
     note.head["RAZAO"] = std::string(82, 'R') + " LTDA ÇÃO";
     EXPECT_EQ(toldOf(1361, note), Told{"linha 10, coluna 2, RAZAO: não cabe; perde \" LTDA ÇÃO\""});
     note.head["RAZAO"] = std::string(82, 'R') + "    ";  // blanks are no loss
@@ -63,7 +63,7 @@ TEST(Losses, ATextTooLongForItsBox) {
 }
 
 TEST(Losses, DigitsOfAnAmount) {
-    NoteText note = sampleNote();
+    NoteDraft note = sampleNote();
     note.items[1]["VALOR_UN"] = "1234567.89";  // nine columns from 89 on, line 23
     note.items[1]["QTDE"] = "1";
     note.items[1]["VL_DSC"] = "0";
@@ -85,20 +85,20 @@ TEST(Losses, DecimalsThatAreZeroAreNoLoss) {
 }
 
 TEST(Losses, ParcelsAreNamedByTheirNumber) {
-    NoteText note = sampleNote();
+    NoteDraft note = sampleNote();
     note.head["DT_VNC_DOC2"] = "07/03/20099";
     EXPECT_EQ(toldOf(1361, note), Told{"linha 17, coluna 86, DT_VNC_DOC2: não cabe; perde \"9\""});
 }
 
 TEST(Losses, TooManyParcels) {
-    NoteText note = sampleNote();
+    NoteDraft note = sampleNote();
     note.head["QTDE_PARC"] = "10";
     EXPECT_EQ(toldOf(1361, note),
               Told{"QTDE_PARC: 10 parcelas, o formulário tem lugar para 9; nenhuma imprime"});
 }
 
-NoteText withItems(std::size_t count) {
-    NoteText note = sampleNote();
+NoteDraft withItems(std::size_t count) {
+    NoteDraft note = sampleNote();
     Attributes last = note.items.back();
     last["AQ_IPI"] = "5";
     note.items.back() = last;
@@ -136,7 +136,7 @@ TEST(Losses, ItemsPastACuttingForm) {
 }
 
 TEST(Losses, AServiceOnAFormForProducts) {
-    NoteText note = withItems(3);
+    NoteDraft note = withItems(3);
     note.items[2]["IC_TP_CAD"] = "S";
     EXPECT_EQ(toldOf(2321, note),
               Told{"item 3, DESCRICAO: não imprime, o formulário não tem lugar para serviços; "
@@ -144,7 +144,7 @@ TEST(Losses, AServiceOnAFormForProducts) {
 }
 
 TEST(Losses, ServicesPastTheirLines) {
-    NoteText note = withItems(5);
+    NoteDraft note = withItems(5);
     note.form["QT_MAX_IT_NF_SRV"] = "2";
     for (std::size_t i = 2; i < 5; ++i) {
         note.items[i]["IC_TP_CAD"] = "S";
@@ -161,8 +161,8 @@ std::string letters(std::size_t count, char last) {
     return std::string(count - 1, 'x') + last;
 }
 
-NoteText withLegal(const std::string& text) {
-    NoteText note = sampleNote();
+NoteDraft withLegal(const std::string& text) {
+    NoteDraft note = sampleNote();
     for (Attributes& item : note.items) {
         item["DC_TXT_LEG_NF"] = text;
     }
@@ -194,13 +194,13 @@ TEST(Losses, OverlappingPiecesLoseNothingBetweenThem) {
 }
 
 TEST(Losses, ABandAndAnObservationPastTheirLines) {
-    NoteText note = withLegal(letters(133, 'Z'));
+    NoteDraft note = withLegal(letters(133, 'Z'));
     note.head["DC_OBS"] = letters(134, 'W');
     const Told told = toldOf(3881, note);
     ASSERT_EQ(told.size(), 2U);
     EXPECT_NE(told[0].find("textos legais e observação: não cabe; perde \"Z\""), std::string::npos);
     EXPECT_NE(told[1].find("DC_OBS: não cabe; perde \"xW\""), std::string::npos);
-    NoteText labelled = withLegal("");
+    NoteDraft labelled = withLegal("");
     labelled.head["DC_OBS"] = letters(149, 'V');  // " OBS.: " and 148 characters are 155
     const Told other = toldOf(1521, labelled);
     ASSERT_EQ(other.size(), 1U);
@@ -208,7 +208,7 @@ TEST(Losses, ABandAndAnObservationPastTheirLines) {
 }
 
 TEST(Losses, ADrawnPageHasNoLines) {
-    NoteText note = sampleNote();
+    NoteDraft note = sampleNote();
     note.head["QTDE_PARC"] = "5";
     note.head["INSC_EST"] = std::string(25, '1') + "2";
     EXPECT_EQ(toldOf(2541, note),
@@ -218,7 +218,7 @@ TEST(Losses, ADrawnPageHasNoLines) {
 
 // Control characters of a value don't reach the terminal.
 TEST(Losses, WhatIsLostIsShownAsPlainText) {
-    NoteText note = sampleNote();
+    NoteDraft note = sampleNote();
     note.head["RAZAO"] = std::string(82, 'R') + "a&#10;b";
     Loss loss{.kind = Loss::Kind::Text, .line = 1, .column = 2, .field = "X", .lost = "a\x1B\nb"};
     EXPECT_EQ(describe(loss), "linha 1, coluna 2, X: não cabe; perde \"a  b\"");
@@ -232,7 +232,7 @@ TEST(Losses, TheWatchedNotePrintsTheSame) {
         }
         const std::string xml = withItems(9).xml();
         const auto jobs = print(*layout->form, xml);
-        JobSpooler spooler;
+        RecordingSpooler spooler;
         RawChannel channel(spooler, CodePage::Page1252);
         XmlDocument document;
         ASSERT_TRUE(document.loadXML(xml));

@@ -7,82 +7,8 @@
 #include "notes/pipeline.h"
 
 namespace tarn::test {
-namespace {
-
-std::string escaped(std::string_view text) {
-    std::string out;
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                out += "&amp;";
-                break;
-            case '<':
-                out += "&lt;";
-                break;
-            case '"':
-                out += "&quot;";
-                break;
-            default:
-                if (static_cast<unsigned char>(c) < 32) {
-                    out += "&#" + std::to_string(static_cast<int>(c)) + ";";
-                } else {
-                    out += c;
-                }
-        }
-    }
-    return out;
-}
-
-std::string element(std::string_view name, const Attributes& attributes) {
-    std::string out = "  <" + std::string(name);
-    for (const auto& [attribute, value] : attributes) {
-        out += " " + attribute + "=\"" + escaped(value) + "\"";
-    }
-    return out + "/>\r\n";
-}
-
-}  // namespace
-
-std::string Job::bytes() const {
-    std::string all;
-    for (const std::string& write : writes) {
-        all += write;
-    }
-    return all;
-}
-
-bool JobSpooler::openPrinter(const std::string& name) {
-    return name == "matricial";
-}
-
-bool JobSpooler::startDocument(const JobDescription& job) {
-    EXPECT_FALSE(job.docName || job.outputFile || job.dataType);
-    jobs.emplace_back();
-    return true;
-}
-
-std::size_t JobSpooler::write(std::string_view bytes) {
-    jobs.back().writes.emplace_back(bytes);
-    return bytes.size();
-}
-
-bool JobSpooler::endDocument() {
-    jobs.back().ended = true;
-    return true;
-}
-
-std::string NoteText::xml() const {
-    std::string out =
-        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<PRINCIPAL ID=\"1\" STATUS=\"OK\">\r\n";
-    out += element("NOTA", head) + element("TOTAIS", totals) + element("FORMULARIO", form);
-    for (const Attributes& item : items) {
-        out += element("ITEM", item);
-    }
-    return out + "</PRINCIPAL>\r\n";
-}
-
-NoteText sampleNote() {
-    NoteText note;
+NoteDraft sampleNote() {
+    NoteDraft note;
     note.head = {{"Ent_Sai", "S"},
                  {"NatOper", "VENDA DE MERCADORIA"},
                  {"CFOP", "5102"},
@@ -159,7 +85,7 @@ std::vector<Job> print(const notes::Form& form, const std::string& xml,
                        std::optional<RuntimeErrorCode>* error, std::string_view number) {
     XmlDocument document;
     EXPECT_TRUE(document.loadXML(xml)) << xml;
-    JobSpooler spooler;
+    RecordingSpooler spooler;
     RawChannel channel(spooler, CodePage::Page1252);
     try {
         notes::printNote(form, document, number, channel);
@@ -172,7 +98,7 @@ std::vector<Job> print(const notes::Form& form, const std::string& xml,
     return spooler.jobs;
 }
 
-std::string printed(const notes::Form& form, const NoteText& note) {
+std::string printed(const notes::Form& form, const NoteDraft& note) {
     const std::vector<Job> jobs = print(form, note.xml());
     EXPECT_TRUE(jobs.back().ended);
     return jobs.back().bytes();

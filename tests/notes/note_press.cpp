@@ -16,8 +16,9 @@ int Printed::lineEnds() const {
     const std::string bytes = jobs.back().bytes();
     int count = 0;
     for (std::size_t at = bytes.find("\r\n"); at != std::string::npos;
-         at = bytes.find("\r\n", at + 2))
+         at = bytes.find("\r\n", at + 2)) {
         ++count;
+    }
     return count;
 }
 
@@ -34,8 +35,9 @@ Printed printXml(Ladder ladder, std::int32_t company, std::int32_t establishment
     session.NCOMPANYCODE = company;
     session.ID_ETB_TARN = establishment;
     XmlDocument document;
-    if (!document.loadXML(xml))
+    if (!document.loadXML(xml)) {
         throw std::runtime_error("the test's note isn't well-formed");
+    }
     Printed printed;
     try {
         printNote(ladder, environment, session, document, plainNumber);

@@ -60,7 +60,13 @@ Attributes fullHead() {
             {"PESO_LIQ", "1200"},
             {"ID_VND_DIR", letters('x')},
             {"NR_PED_CLI", letters('y')},
-            {"VENDEDOR", letters('z')}};
+            {"VENDEDOR", letters('z')},
+            {"COMPLEMENTO", letters('o')},
+            {"COMPLEMENTO_COB", letters('O')},
+            {"COMPLEMENTO_ETG", letters('Q')},
+            {"CEP_ETG", "70040010"},
+            {"DC_OBS", ruler(601, 300)},
+            {"ID_EMP_TARN", "3681"}};
 }
 
 Attributes fullTotals() {
@@ -74,7 +80,8 @@ Attributes fullTotals() {
             {"VALOR_SEGURO", "5.5"},
             {"VALOR_DES_ASC", "0.25"},
             {"VALOR_TOT_IPI", "80.04"},
-            {"VALOR_TOT_NF", "1696.54"}};
+            {"VALOR_TOT_NF", "1696.54"},
+            {"VL_IMPOSTO_CREDITAR", "1500"}};
 }
 
 Attributes overflowingItem() {
@@ -92,7 +99,11 @@ Attributes overflowingItem() {
             {"IPI", "13.50"},
             {"VL_IPI", "77777777.25"},
             {"PESO", "0.5"},
-            {"DC_TXT_LEG_NF", ruler(1, 400)}};
+            {"POS_NF", letters('T')},
+            {"GF_AGRUP", "12345"},
+            {"ID_CLA_FIS", "84818099"},
+            {"CFOP_ITEM", letters('I')},
+            {"DC_TXT_LEG_NF", ruler(1, 500)}};
 }
 
 Attributes plainItem() {
@@ -110,7 +121,11 @@ Attributes plainItem() {
             {"IPI", "6"},
             {"VL_IPI", "3.5"},
             {"PESO", "2"},
-            {"DC_TXT_LEG_NF", ruler(1, 400)}};
+            {"POS_NF", "B"},
+            {"GF_AGRUP", "2"},
+            {"ID_CLA_FIS", "84811"},
+            {"CFOP_ITEM", "0"},
+            {"DC_TXT_LEG_NF", ruler(1, 500)}};
 }
 
 }  // namespace
@@ -145,18 +160,6 @@ std::string line(const std::vector<Cell>& cells) {
     return out;
 }
 
-void expectPaper(const std::string& stream, std::size_t lineEnds, const std::vector<Line>& told) {
-    const std::vector<std::string> lines = linesOf(stream);
-    EXPECT_EQ(lines.size(), lineEnds + 1);
-    std::size_t next = 0;
-    for (std::size_t number = 1; number <= lines.size(); ++number) {
-        const bool isTold = next < told.size() && told[next].number == number;
-        EXPECT_EQ(lines[number - 1], isTold ? told[next].text : "") << "line " << number;
-        next += isTold ? 1 : 0;
-    }
-    EXPECT_EQ(next, told.size());
-}
-
 std::string ruler(std::size_t start, std::size_t length) {
     constexpr std::string_view marks = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ";
     std::string out;
@@ -166,35 +169,64 @@ std::string ruler(std::size_t start, std::size_t length) {
     return out;
 }
 
-NoteText fullNote() {
-    NoteText note;
-    note.head = fullHead();
-    note.totals = fullTotals();
-    note.form = {{"QT_MAX_IT", "6"}};
-    note.items = {overflowingItem(), plainItem()};
-    return note;
+NoteDraft fullNote() {
+    return {.head = fullHead(),
+            .totals = fullTotals(),
+            .form = {{"QT_MAX_IT", "6"}},
+            .items = {overflowingItem(), plainItem()}};
 }
 
 std::string wide(char digit) {
     return std::string(1, digit) + "23.456.789.012.345,00";
 }
 
-NoteText withParcels(int count) {
-    NoteText note = fullNote();
+NoteDraft withParcels(int count) {
+    NoteDraft note = fullNote();
     note.head["QTDE_PARC"] = std::to_string(count);
-    for (int n = 1; n <= 12; ++n) {
-        const std::string parcel = std::to_string(n);
-        note.head["NR_DOC" + parcel] = "D" + parcel;
-        note.head["VL_PRN_DOC" + parcel] = parcel + ".5";
-        note.head["DT_VNC_DOC" + parcel] = "VENC" + parcel;
+    for (std::size_t n = 1; n <= 12; ++n) {
+        note.head[numbered("NR_DOC", n)] = numbered("D", n);
+        note.head[numbered("VL_PRN_DOC", n)] = numbered("", n) + ".5";
+        note.head[numbered("DT_VNC_DOC", n)] = numbered("VENC", n);
     }
     return note;
 }
 
-NoteText withItems(std::size_t count) {
-    NoteText note = fullNote();
-    note.items.assign(count, plainItem());
+NoteDraft withItems(std::size_t count) {
+    NoteDraft note = fullNote();
+    note.head.erase("DC_OBS");
+    note.items.assign(count, note.items[1]);
+    for (std::size_t i = 0; i < count; ++i) {
+        note.items[i]["CD_PRO"] = numbered("C", i + 1);
+        note.items[i]["DC_TXT_LEG_NF"] = numbered("L", i + 1);
+    }
     return note;
+}
+
+NoteDraft withTexts(const std::string& legal, const std::string& observation) {
+    NoteDraft note = fullNote();
+    for (Attributes& item : note.items) {
+        item["DC_TXT_LEG_NF"] = legal;
+    }
+    note.head["DC_OBS"] = observation;
+    return note;
+}
+
+std::vector<std::string> rows(const std::string& stream, std::size_t from, std::size_t to) {
+    const std::vector<std::string> lines = linesOf(stream);
+    EXPECT_LE(to, lines.size());
+    std::vector<std::string> out;
+    for (std::size_t i = from; i <= to && i <= lines.size(); ++i) {
+        out.push_back(lines[i - 1]);
+    }
+    return out;
+}
+
+std::string untilTypeError(const notes::Form& form, const NoteDraft& note) {
+    std::optional<RuntimeErrorCode> error;
+    const std::vector<Job> jobs = print(form, note.xml(), &error);
+    EXPECT_EQ(error, RuntimeErrorCode::TypeMismatch);
+    EXPECT_FALSE(jobs.back().ended);
+    return jobs.back().bytes();
 }
 
 std::string below(const std::string& stream, std::size_t number) {

@@ -9,6 +9,8 @@ namespace tarn::test {
 
 namespace {
 
+using namespace std::string_view_literals;
+
 struct Shown {
     std::string_view field;
     std::string_view wire;
@@ -175,6 +177,87 @@ constexpr std::array itemsShown{
     ItemShown{"VL_IPI", "", {"2,03", "1234,56"}},
 };
 
+// Of an overflowing note's first item, where it isn't a text: as the server sends it.
+constexpr std::array longNumbers{
+    Shown{"QTDE", "10000000", ""},
+    Shown{"VALOR_UN", "123456789", ""},
+    Shown{"VL_DSC", "12345678900000000", ""},
+    Shown{"ICMS", "1800.5", ""},
+    Shown{"AQ_IPI", "1250", ""},
+    Shown{"IPI", "9250.25", ""},
+    Shown{"VL_IPI", "77777777.25", ""},
+};
+
+// And as forms print it, by the ways of printedItem.
+struct LongShown {
+    std::string_view field;
+    std::string_view way;
+    std::string_view printed;
+};
+constexpr std::array longNumbersShown{
+    LongShown{"QTDE", "", "10000000,000"},
+    LongShown{"QTDE", "general", "10000000"},
+    LongShown{"QTDE", "raw", "10000000"},
+    LongShown{"QTDE", "pointless", "10000000,000"},
+    LongShown{"QTDE", "grouped", "10.000.000,000"},
+    LongShown{"VALOR_UN", "", "123456789,00"},
+    LongShown{"VALOR_UN", "grouped", "123.456.789,00"},
+    LongShown{"line total", "", "1.234.567.890.000.000,00"},
+    LongShown{"line total", "pointless", "1.234.567.890.000.000,00"},
+    LongShown{"discount percentage", "", "1000,00"},
+    LongShown{"ICMS", "", "1800,50"},
+    LongShown{"ICMS", "whole", "1801"},
+    LongShown{"ICMS", "raw", "1800,5"},
+    LongShown{"AQ_IPI", "", "1250,00"},
+    LongShown{"IPI", "raw", "9250,25"},
+    LongShown{"VL_IPI", "", "77777777,25"},
+};
+
+// Fields whose text decides or is put together with others, and the total in words.
+bool staysPlain(std::string_view field) {
+    constexpr std::array fields{"IC_TIP_PES"sv, "CGC_CPF"sv,     "CEP"sv,          "CEP_COB"sv,
+                                "CEP_ETG"sv,    "ID_EMP_TARN"sv, "VALOR_TOT_NF"sv, "IC_ORI_PRO"sv,
+                                "IC_TP_CAD"sv,  "ID_CLA_FIS"sv,  "PESO"sv,         "AQ_ISS"sv};
+    return std::find(fields.begin(), fields.end(), field) != fields.end();
+}
+
+// An amount of 15 digits, its first one by its place in the table.
+struct LongAmount {
+    std::string wire;
+    std::string printed;
+};
+LongAmount longAmount(std::size_t place, std::size_t decimals) {
+    const std::string first = std::to_string(place % 9 + 1);
+    return {first + "23456789012345", first + "23.456.789.012.345," + std::string(decimals, '0')};
+}
+
+// The wire and printed text of a head or totals field, overflowing.
+LongAmount overflowed(const Shown& shown, std::size_t place) {
+    if (staysPlain(shown.field)) {
+        return {std::string(shown.wire), std::string(shown.printed)};
+    }
+    if (shown.field == "VALOR_TOTAL_DESC") {
+        return {"0", ""};
+    }
+    if (shown.field == "NR_CGC_CPL_TRP") {
+        return {"transportadoraABCDEFGHIJKLMN", "transportadoraAB.CDE.FGH/IJKL-MN"};
+    }
+    const std::size_t comma = shown.printed.find(',');
+    const bool amount = shown.wire != shown.printed && comma != std::string_view::npos;
+    if (amount) {
+        return longAmount(place, shown.printed.size() - comma - 1);
+    }
+    return {overflowOf(shown.field), overflowOf(shown.field)};
+}
+
+template <typename Table>
+void addFields(Attributes& row, const Table& table, bool overflowing) {
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        row.emplace(table[i].field,
+                    overflowing ? overflowed(table[i], i).wire : std::string(table[i].wire));
+    }
+}
+
 std::string escaped(std::string_view text) {
     std::string out;
     for (const char c : text) {
@@ -206,8 +289,9 @@ std::string escaped(std::string_view text) {
 
 std::string rowXml(std::string_view name, const Attributes& attributes) {
     std::string out = "  <" + std::string(name);
-    for (const auto& [field, value] : attributes)
+    for (const auto& [field, value] : attributes) {
         out += " " + field + "=\"" + escaped(value) + "\"";
+    }
     return out + "/>\n";
 }
 
@@ -218,70 +302,133 @@ const Shown* find(const Table& table, std::string_view field) {
     return found == table.end() ? nullptr : &*found;
 }
 
+bool isLongText(std::string_view field) {
+    return !staysPlain(field) && find(longNumbers, field) == nullptr;
+}
+
+std::string itemWire(const Shown& shown, std::size_t turn, bool overflowing) {
+    if (overflowing && isLongText(shown.field)) {
+        return overflowOf(shown.field);
+    }
+    const Shown* number = find(longNumbers, shown.field);
+    return std::string(overflowing && turn == 0 && number != nullptr ? number->wire : shown.wire);
+}
+
 }  // namespace
+
+std::string overflowOf(std::string_view field) {
+    std::string text;
+    while (text.size() < 200) {
+        text.append(field).append(".");
+    }
+    text.resize(200);
+    return text;
+}
 
 std::string NoteDraft::xml() const {
     std::string out =
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<PRINCIPAL CODIGO=\"0\" STATUS=\"OK\">\n";
     out += rowXml("NOTA", head) + rowXml("TOTAIS", totals) + rowXml("FORMULARIO", form);
-    for (const Attributes& item : items)
+    for (const Attributes& item : items) {
         out += rowXml("ITEM", item);
+    }
     return out + "</PRINCIPAL>\n";
 }
 
 NoteDraft draftOf(const NoteCase& note) {
     NoteDraft draft;
-    for (const Shown& shown : headFields)
-        draft.head.emplace(shown.field, shown.wire);
+    addFields(draft.head, headFields, note.overflowing);
     draft.head.emplace("Ent_Sai", note.entry ? "E" : "S");
     draft.head.emplace("ID_VND_DIR", note.directOrder);
     draft.head.emplace("DC_OBS", note.observation);
     draft.head.emplace("QTDE_PARC", std::to_string(note.parcels));
     for (std::size_t i = 0; i < parcels.size(); ++i) {
         const std::string n = std::to_string(i + 1);
-        draft.head.emplace("NR_DOC" + n, parcels[i].number);
-        draft.head.emplace("VL_PRN_DOC" + n, parcels[i].amount);
-        draft.head.emplace("DT_VNC_DOC" + n, parcels[i].due);
+        const bool all = note.overflowing;
+        draft.head.emplace("NR_DOC" + n,
+                           all ? overflowOf("NR_DOC" + n) : std::string(parcels[i].number));
+        draft.head.emplace("VL_PRN_DOC" + n,
+                           all ? longAmount(i, 2).wire : std::string(parcels[i].amount));
+        draft.head.emplace("DT_VNC_DOC" + n,
+                           all ? overflowOf("DT_VNC_DOC" + n) : std::string(parcels[i].due));
     }
-    for (const Shown& shown : totalsFields)
-        draft.totals.emplace(shown.field, shown.wire);
+    addFields(draft.totals, totalsFields, note.overflowing);
     draft.totals.emplace("VL_IMPOSTO_CREDITAR", note.taxCredit);
     draft.form.emplace("QT_MAX_IT", std::to_string(plainItemLines));
     for (int i = 0; i < note.items; ++i) {
         const auto turn = static_cast<std::size_t>(i) % 2;
         Attributes& item = draft.items.emplace_back();
-        for (const Shown& shown : itemFields[turn])
-            item.emplace(shown.field, shown.wire);
+        for (const Shown& shown : itemFields[turn]) {
+            item.emplace(shown.field, itemWire(shown, turn, note.overflowing));
+        }
         item.emplace("DC_TXT_LEG_NF",
                      note.legalTexts[static_cast<std::size_t>(i) % note.legalTexts.size()]);
     }
     return draft;
 }
 
-std::string printedField(std::string_view field) {
+std::string printedField(std::string_view field, bool overflowing) {
+    // The overflowing total has no discount.
+    const bool total = overflowing && field == "product total";
+    const std::string_view wanted = total ? "VALOR_TOTAL" : field;
+    for (std::size_t i = 0; overflowing && i < headFields.size(); ++i) {
+        if (headFields[i].field == wanted) {
+            return printerBytes(overflowed(headFields[i], i).printed);
+        }
+    }
+    for (std::size_t i = 0; overflowing && i < totalsFields.size(); ++i) {
+        if (totalsFields[i].field == wanted) {
+            return printerBytes(overflowed(totalsFields[i], i).printed);
+        }
+    }
     for (const Shown* shown :
-         {find(headFields, field), find(totalsFields, field), find(computedFields, field)}) {
-        if (shown != nullptr)
+         {find(headFields, wanted), find(totalsFields, wanted), find(computedFields, wanted)}) {
+        if (shown != nullptr) {
             return printerBytes(shown->printed);
+        }
     }
     throw std::out_of_range("no printed text for " + std::string(field));
 }
 
-std::string printedParcel(std::string_view field, int parcel) {
-    const Parcel& p = parcels.at(static_cast<std::size_t>(parcel) - 1);
-    if (field == "NR_DOC")
-        return printerBytes(p.number);
-    if (field == "DT_VNC_DOC")
-        return printerBytes(p.due);
-    if (field == "VL_PRN_DOC")
-        return std::string(p.printedAmount);
-    return std::to_string(parcel) + ")";
+std::string printedParcel(std::string_view field, int parcel, bool overflowing) {
+    const auto place = static_cast<std::size_t>(parcel) - 1;
+    const Parcel& p = parcels.at(place);
+    const std::string n = std::to_string(parcel);
+    if (field == "NR_DOC") {
+        return overflowing ? overflowOf("NR_DOC" + n) : printerBytes(p.number);
+    }
+    if (field == "DT_VNC_DOC") {
+        return overflowing ? overflowOf("DT_VNC_DOC" + n) : printerBytes(p.due);
+    }
+    if (field == "VL_PRN_DOC") {
+        std::string amount =
+            overflowing ? longAmount(place, 2).printed : std::string(p.printedAmount);
+        amount.erase(std::remove(amount.begin(), amount.end(), '.'), amount.end());
+        return amount;
+    }
+    return n + ")";
 }
 
-std::string printedItem(std::string_view field, std::string_view way, int item) {
+std::string printedItem(std::string_view field, std::string_view way, int item, bool overflowing) {
+    const auto turn = static_cast<std::size_t>(item) % 2;
+    if (overflowing && field == "IC_ORI_PRO and SIT_TRI") {
+        return (turn == 0 ? "0" : "1") + overflowOf("SIT_TRI");
+    }
+    if (overflowing && field == "class") {
+        return " " + overflowOf("GF_AGRUP") + (turn == 0 ? ") 84811 " : ") 84812 ");
+    }
+    if (overflowing && find(itemFields[0], field) != nullptr && isLongText(field)) {
+        return overflowOf(field);
+    }
+    for (const LongShown& shown : longNumbersShown) {
+        if (overflowing && turn == 0 && shown.field == field && shown.way == way) {
+            return std::string(shown.printed);
+        }
+    }
     for (const ItemShown& shown : itemsShown) {
-        if (shown.field == field && shown.way == way)
-            return printerBytes(shown.printed[static_cast<std::size_t>(item) % 2]);
+        if (shown.field == field && shown.way == way) {
+            return printerBytes(shown.printed[turn]);
+        }
     }
     throw std::out_of_range("no printed text for " + std::string(field) + " " + std::string(way));
 }

@@ -32,6 +32,9 @@ struct NoteCase {
                                         "ISENÇÃO DO IPI - DEC. 4.544"};
     std::string directOrder = "77123";
     std::string taxCredit = "1500";
+    // Texts of 200 characters, each its field's name again and again, and long numbers
+    // in the first item, so that every field is cut at its width.
+    bool overflowing = false;
 };
 
 inline constexpr int plainItemLines = 6;
@@ -43,13 +46,16 @@ NoteDraft draftOf(const NoteCase& note);
 // Fields of the head and totals rows by the server's name; "product total",
 // "quantity sum", "weight sum" and "words" (the total in words) are those of the
 // plain note.
-std::string printedField(std::string_view field);
-std::string printedParcel(std::string_view field, int parcel);
+std::string printedField(std::string_view field, bool overflowing = false);
+std::string printedParcel(std::string_view field, int parcel, bool overflowing = false);
 // `way` is one of the ways in which forms differ over one field: "" the ordinary
 // one, "general" and "raw" without a mask, "pointless" where the point of a
 // quantity is taken for the one between thousands, "grouped" with that point,
 // "whole" without decimals.
-std::string printedItem(std::string_view field, std::string_view way, int item);
+std::string printedItem(std::string_view field, std::string_view way, int item,
+                        bool overflowing = false);
+// The text of an overflowing field.
+std::string overflowOf(std::string_view field);
 
 // UTF-8 turned into bytes; only for characters that the page has.
 std::string printerBytes(std::string_view utf8);

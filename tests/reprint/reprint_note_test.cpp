@@ -191,7 +191,7 @@ TEST_F(ReprintTest, EstablishmentsWithoutAFormPrintNothingAndSayNothing) {
 }
 
 TEST_F(ReprintTest, AnErrorOfTheLayoutIsThatOfANote) {
-    test::NoteText note = test::sampleNote();
+    test::NoteDraft note = test::sampleNote();
     note.items.clear();
     EXPECT_THROW(reimprime(note.xml()), ErrorAfterNote);
 }

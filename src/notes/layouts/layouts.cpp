@@ -1,6 +1,5 @@
 #include "notes/layouts/layouts.h"
 
-#include <algorithm>
 #include <array>
 
 namespace tarn::notes {
@@ -34,13 +33,6 @@ std::span<const Layout* const> allLayouts() {
     };
     // clang-format on
     return layouts;
-}
-
-const Layout* layoutByName(std::string_view name) {
-    const auto layouts = allLayouts();
-    const auto found = std::find_if(layouts.begin(), layouts.end(),
-                                    [name](const Layout* layout) { return layout->name == name; });
-    return found == layouts.end() ? nullptr : *found;
 }
 
 }  // namespace tarn::notes

@@ -1,8 +1,7 @@
-// The layouts that this version prints, and how the ladder's names find them.
+// The layouts that this version prints.
 #pragma once
 
 #include <span>
-#include <string_view>
 
 #include "notes/layout.h"
 
@@ -33,8 +32,5 @@ extern const Layout imprimeNF_Padrao;
 
 // In the order of the ladder.
 std::span<const Layout* const> allLayouts();
-
-// Null for a name that is not among them.
-const Layout* layoutByName(std::string_view name);
 
 }  // namespace tarn::notes

@@ -32,8 +32,9 @@ class Services : public testing::TestWithParam<std::string> {};
 
 void checkServices(const FormFacts& form, const ServiceCase& block) {
     NoteDraft draft = draftOf({});
-    if (!block.lines.empty())
+    if (!block.lines.empty()) {
         draft.form["QT_MAX_IT_NF_SRV"] = block.lines;
+    }
     for (int i = 1; i <= block.services; ++i) {
         Attributes row = draft.items[0];
         row["IC_TP_CAD"] = "S";
@@ -48,17 +49,19 @@ void checkServices(const FormFacts& form, const ServiceCase& block) {
     }
     const Printed printed = print(form, draft);
     ASSERT_FALSE(printed.error) << printed.error->description();
-    const std::vector<ExpectedCall> plain = expectedNote(form, mapOf(form), {}).jobs.back();
+    const std::vector<ExpectedCall> plain = expectedNote(form, {}).jobs.back();
     std::vector<std::string> expected;
     for (const ExpectedCall& call : plain) {
-        if (call.what == "below the items")
+        if (call.what == "below the items") {
             expected.insert(expected.end(), block.printed.begin(), block.printed.end());
-        else
+        } else {
             expected.push_back(call.bytes());
+        }
     }
     const auto& writes = printed.jobs.back().writes;
-    for (std::size_t i = 0; i < std::min(expected.size(), writes.size()); ++i)
+    for (std::size_t i = 0; i < std::min(expected.size(), writes.size()); ++i) {
         ASSERT_EQ(readable(expected[i]), readable(writes[i])) << "call " << i + 1;
+    }
     ASSERT_EQ(expected.size(), writes.size());
 }
 
@@ -109,8 +112,9 @@ TEST_P(Services, MoreServicesThanLines) {
     }
     lines[3] += fitted("1,00", 5, true) + fitted("452,25", 15, true);
     lines[5] += fitted("45.004,50", 15, true);
-    for (std::string& line : lines)
+    for (std::string& line : lines) {
         line += lineEnd;
+    }
     checkServices(formNamed(GetParam()), {"7", 9, lines});
 }
 

@@ -25,7 +25,7 @@ protected:
         ASSERT_TRUE(printed.error) << "printed to the end";
         EXPECT_EQ(static_cast<int>(number), static_cast<int>(printed.error->number()))
             << printed.error->description();
-        std::vector<ExpectedCall> before = expectedNote(form(), mapOf(form()), like).jobs.back();
+        std::vector<ExpectedCall> before = expectedNote(form(), like).jobs.back();
         const auto stop = std::find_if(before.begin(), before.end(), stopsAt);
         ASSERT_NE(before.end(), stop);
         before.erase(stop, before.end());
@@ -64,8 +64,9 @@ TEST_P(BrokenNote, NoItem) {
 TEST_P(BrokenNote, RootOfAnotherName) {
     std::string xml = draftOf({}).xml();
     for (std::size_t at = xml.find("PRINCIPAL"); at != std::string::npos;
-         at = xml.find("PRINCIPAL"))
+         at = xml.find("PRINCIPAL")) {
         xml.replace(at, 9, "principal");
+    }
     check(xml, RuntimeErrorCode::ObjectVariable, isMark);
 }
 

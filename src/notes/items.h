@@ -1,16 +1,14 @@
-// The item rows of a note document, for forms that print lines and for pages that
-// are drawn.
+// The item rows of a note document, for forms that print lines and for pages that are
+// drawn.
 #pragma once
 
 #include <cstddef>
 #include <string>
 
 #include "notes/layout.h"
+#include "notes/run.h"
 
 namespace tarn::notes {
-
-class NoteDocument;
-struct Run;
 
 // A count of lines that the form row tells; TypeMismatch for what is no number.
 int lineCount(Source source, Run& run);
@@ -22,8 +20,23 @@ void readNumbers(Quantity kind, bool sums, Run& run);
 // The next position; Overflow past what the row counter holds.
 std::size_t positionAfter(std::size_t position);
 
+// Calls `visit` with the number of each item row, from 1, and its position. There is
+// at least one.
+template <class Visit>
+void forEachItem(Run& run, const Visit& visit) {
+    std::size_t position = firstItem;
+    do {
+        visit(static_cast<int>(position - firstItem) + 1, position);
+        position = positionAfter(position);
+    } while (run.document.isItem(position));
+    run.watchItem(0);
+}
+
 // Code and description of the item row in hand, for telling it from others; empty where
 // the row has neither in their own spelling.
 std::string nameOfItem(NoteDocument& document);
+
+// Prints the item rows on a form of `mostItems` lines; returns how many lines they took.
+int printItems(const Items& block, int mostItems, Run& run);
 
 }  // namespace tarn::notes

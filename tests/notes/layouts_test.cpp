@@ -10,16 +10,33 @@ namespace tarn::test {
 
 namespace {
 
+std::string counted(const std::string& word, std::size_t length) {
+    std::string text;
+    for (int n = 1; text.size() < length; ++n) {
+        text += word + std::to_string(n) + " ";
+    }
+    text.resize(length);
+    return text;
+}
+
 class FormMap : public testing::TestWithParam<FormFacts> {
 protected:
     const FormFacts& form() const { return GetParam(); }
 
+    // Of the note's own job.
+    std::string bytesOf(const NoteDraft& draft) const {
+        const Printed printed = print(form(), draft);
+        EXPECT_FALSE(printed.error);
+        return printed.jobs.back().bytes();
+    }
+
     // Prints and compares; `sums` as expectedNote takes them.
     void check(const NoteCase& note, const Sums& sums = {}) {
         const Printed printed = print(form(), draftOf(note));
-        if (printed.error)
+        if (printed.error) {
             FAIL() << printed.error->description();
-        const ExpectedNote expected = expectedNote(form(), mapOf(form()), note, sums);
+        }
+        const ExpectedNote expected = expectedNote(form(), note, sums);
         ASSERT_EQ(expected.jobs.size(), printed.jobs.size());
         for (std::size_t job = 0; job < expected.jobs.size(); ++job) {
             ASSERT_NO_FATAL_FAILURE(compareJob(expected.jobs[job], printed.jobs[job].writes))
@@ -34,7 +51,7 @@ std::string nameOf(const testing::TestParamInfo<FormFacts>& info) {
 
 // The maps hold together: from row to row, and with the length of the form.
 TEST_P(FormMap, MapAndFactsAgree) {
-    const ExpectedNote expected = expectedNote(form(), mapOf(form()), NoteCase{});
+    const ExpectedNote expected = expectedNote(form(), NoteCase{});
     int below = 0;  // what a form prints once more moves the rows below it
     int lineEnds = 0;
     std::size_t mapped = 0;
@@ -43,8 +60,9 @@ TEST_P(FormMap, MapAndFactsAgree) {
             EXPECT_EQ(call.mapLine + below, call.line) << call.what;
             ++mapped;
         }
-        if (call.what == "order references, twice")
+        if (call.what == "order references, twice") {
             below = form().repeatedLines;
+        }
         lineEnds += call.lineEnds;
     }
     EXPECT_GT(mapped, 12U);
@@ -60,6 +78,33 @@ TEST_P(FormMap, EntryNote) {
     NoteCase note;
     note.entry = true;
     check(note);
+}
+
+// Every field cut at its width, the texts of the foot too long for their places.
+TEST_P(FormMap, OverflowingNote) {
+    NoteCase note;
+    note.overflowing = true;
+    note.directOrder = overflowOf("ID_VND_DIR");
+    note.observation = counted("O", 500);
+    note.legalTexts = {counted("L", 500)};
+    check(note, {"10001250", "5.001.562,500"});
+}
+
+// Only what begins with a capital E is an entry.
+TEST_P(FormMap, AnythingElseIsAnExit) {
+    const std::string exit = bytesOf(draftOf({}));
+    NoteCase entryCase;
+    entryCase.entry = true;
+    const std::string entry = bytesOf(draftOf(entryCase));
+    NoteDraft draft = draftOf({});
+    for (const char* word : {"e", "", " E", "SE"}) {
+        draft.head["Ent_Sai"] = word;
+        EXPECT_EQ(bytesOf(draft), exit) << word;
+    }
+    draft.head.erase("Ent_Sai");
+    EXPECT_EQ(bytesOf(draft), exit);
+    draft.head["Ent_Sai"] = "ENTRADA";
+    EXPECT_EQ(bytesOf(draft), entry);
 }
 
 // The jobs' lives: each opened, one page, ended and closed, without a name.
@@ -86,9 +131,53 @@ TEST_P(FormMap, EveryNumberOfParcels) {
         NoteCase note;
         note.parcels = parcels;
         check(note);
-        if (HasFatalFailure() || IsSkipped())
+        if (HasFatalFailure() || IsSkipped()) {
             return;
+        }
     }
+}
+
+TEST_P(FormMap, AFractionOfAParcelIsCutAndNoneIsZero) {
+    NoteCase note;
+    note.parcels = form().parcels ? form().parcels->limit : 3;
+    const std::string whole = bytesOf(draftOf(note));
+    NoteDraft draft = draftOf(note);
+    draft.head["QTDE_PARC"] += ".9";
+    EXPECT_EQ(bytesOf(draft), whole);
+    draft.head.erase("QTDE_PARC");
+    note.parcels = 0;
+    EXPECT_EQ(bytesOf(draft), bytesOf(draftOf(note)));
+    draft.head["QTDE_PARC"] = "40000";
+    note.parcels = 13;
+    EXPECT_EQ(bytesOf(draft), bytesOf(draftOf(note)));
+}
+
+// Of a form that cuts, rows past its lines are not even read.
+TEST_P(FormMap, RowsPastTheLinesOfAFormThatCuts) {
+    NoteCase six;
+    six.items = plainItemLines;
+    NoteCase eight;
+    eight.items = plainItemLines + 2;
+    NoteDraft draft = draftOf(eight);
+    draft.items[6]["QTDE"] = "nada";
+    draft.items[6]["DC_TXT_LEG_NF"] = "NUNCA";
+    draft.items[7]["IC_TP_CAD"] = "S";
+    if (form().pushes) {
+        EXPECT_TRUE(print(form(), draft).error);
+    } else {
+        EXPECT_EQ(bytesOf(draft), bytesOf(draftOf(six)));
+    }
+}
+
+// A row that is no product is not read either, where the form prints products only.
+TEST_P(FormMap, ARowOfNoKindIsNoProduct) {
+    NoteCase three;
+    three.items = 3;
+    NoteDraft draft = draftOf(three);
+    draft.items[1].erase("IC_TP_CAD");
+    draft.items[1]["QTDE"] = "nada";
+    draft.items[1]["VL_ISS"] = draft.items[1]["VL_LIQ_IT"] = "1";
+    EXPECT_EQ(print(form(), draft).error.has_value(), !form().onlyProducts);
 }
 
 TEST_P(FormMap, EveryNumberOfItems) {
@@ -102,17 +191,10 @@ TEST_P(FormMap, EveryNumberOfItems) {
         NoteCase note;
         note.items = static_cast<int>(items);
         check(note, sums[items - 1]);
-        if (HasFatalFailure() || IsSkipped())
+        if (HasFatalFailure() || IsSkipped()) {
             return;
+        }
     }
-}
-
-std::string counted(const std::string& word, std::size_t length) {
-    std::string text;
-    for (int n = 1; text.size() < length; ++n)
-        text += word + std::to_string(n) + " ";
-    text.resize(length);
-    return text;
 }
 
 // Texts of every length around the ends of the pieces, each part recognisable.
@@ -126,20 +208,23 @@ TEST_P(FormMap, TextsOfEveryLength) {
         legal.legalTexts = {counted("L", length)};
         legal.observation = "";
         check(legal);
-        if (HasFatalFailure() || IsSkipped())
+        if (HasFatalFailure() || IsSkipped()) {
             return;
+        }
         NoteCase observation;
         observation.legalTexts = {""};
         observation.observation = counted("O", length);
         check(observation);
-        if (HasFatalFailure())
+        if (HasFatalFailure()) {
             return;
+        }
         NoteCase both;
         both.legalTexts = {counted("L", length), counted("M", 70)};
         both.observation = counted("O", length);
         check(both);
-        if (HasFatalFailure())
+        if (HasFatalFailure()) {
             return;
+        }
     }
 }
 
@@ -152,8 +237,9 @@ TEST_P(FormMap, EmptyAndRepeatedLegalTexts) {
         note.items = 4;
         note.legalTexts = texts;
         check(note, {"2525", "3.137,500"});
-        if (HasFatalFailure() || IsSkipped())
+        if (HasFatalFailure() || IsSkipped()) {
             return;
+        }
     }
 }
 
@@ -161,6 +247,10 @@ TEST_P(FormMap, NoOrderOfOurs) {
     NoteCase note;
     note.directOrder = "0";
     check(note);
+    const std::string none = bytesOf(draftOf(note));
+    NoteDraft draft = draftOf(note);
+    draft.head.erase("ID_VND_DIR");
+    EXPECT_EQ(bytesOf(draft), none);
     note.directOrder = "00";
     check(note);
 }

@@ -41,14 +41,18 @@ protected:
 
     // Line ends that `items` item rows add to the plain note's.
     int moreBy(int items) const {
-        if (form().name == "padrao")
-            return items - 2;  // this form has no blank lines to give
-        if (!form().pushes)
+        if (form().name == "padrao") {
+            return items - 2;
+        }  // this form has no blank lines to give
+        if (!form().pushes) {
             return 0;
-        if (form().name == "2041")
-            return std::max(0, items - plainItemLines + 1);  // a full form is one longer
-        if (form().name == "7")
-            return std::max(0, items - plainItemLines - 1);  // has one line of grace
+        }
+        if (form().name == "2041") {
+            return std::max(0, items - plainItemLines + 1);
+        }  // a full form is one longer
+        if (form().name == "7") {
+            return std::max(0, items - plainItemLines - 1);
+        }  // has one line of grace
         return std::max(0, items - plainItemLines);
     }
 };
@@ -90,8 +94,9 @@ TEST_P(FormLength, ServiceAmongTheProducts) {
     NoteCase note;
     note.items = 7;
     NoteDraft draft = draftOf(note);
-    for (std::size_t i = 0; i < draft.items.size(); ++i)
+    for (std::size_t i = 0; i < draft.items.size(); ++i) {
         draft.items[i]["DESCRICAO"] = "ROW" + std::to_string(i + 1) + ";";
+    }
     draft.items[1]["IC_TP_CAD"] = "S";
     draft.items[1]["VL_LIQ_IT"] = "1";
     draft.items[1]["VL_ISS"] = "1";
@@ -100,8 +105,9 @@ TEST_P(FormLength, ServiceAmongTheProducts) {
     std::string rows;
     const std::string bytes = printed.jobs.back().bytes();
     for (std::size_t at = bytes.find("ROW"); at != std::string::npos;
-         at = bytes.find("ROW", at + 1))
+         at = bytes.find("ROW", at + 1)) {
         rows += bytes[at + 3];
+    }
     if (!form().onlyProducts) {
         EXPECT_EQ("1234567", rows);
         EXPECT_EQ(plainLength() + moreBy(7), printed.lineEnds());
