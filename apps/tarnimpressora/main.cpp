@@ -18,9 +18,11 @@ using tarn::printer::complain;
 using tarn::printer::Ending;
 using tarn::printer::Options;
 
+// Name, company, establishment, and "nota" where the note's items make the form's lines.
 int listForms() {
-    for (const std::string& name : tarn::dotmatrix::layoutFormNames()) {
-        std::puts(name.c_str());
+    for (const tarn::dotmatrix::LadderForm& form : tarn::dotmatrix::ladderForms()) {
+        std::printf("%s %d %d%s\n", form.name.c_str(), form.company, form.establishment,
+                    form.linesOfNote ? " nota" : "");
     }
     return 0;
 }

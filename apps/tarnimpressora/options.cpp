@@ -169,7 +169,8 @@ void declare(CLI::App& app, Options& options, Raw& raw) {
                    "folha inteira ou um formulário escrito em texto");
     app.add_option("--itens", raw.items,
                    "Linhas de item do formulário (usual: as que enchem 11 polegadas)");
-    app.add_flag("--formularios", options.listForms, "Mostra os nomes dos formulários");
+    app.add_flag("--formularios", options.listForms,
+                 "Mostra os formulários: nome, empresa e estabelecimento");
     app.add_option("--mostra-formulario", options.writtenForm,
                    "Mostra um formulário escrito em texto, para servir de começo a outro");
     app.add_flag("--regua", options.ruler, "Desenha os números das linhas e das colunas");

@@ -143,7 +143,10 @@ TEST_F(CommandLine, FormsAreListedAndWrittenAsText) {
     const Ran list = run({"--formularios"});
     EXPECT_EQ(list.status, 0);
     EXPECT_EQ(QString::fromStdString(list.out).count(u'\n'), 23);
-    EXPECT_NE(list.out.find("ImprimeNF_2421_3621\nImprimeNF_2421\n"), std::string::npos);
+    EXPECT_NE(list.out.find("ImprimeNF_2421_3621 2421 3621\nImprimeNF_2421 2421 1\n"),
+              std::string::npos);
+    EXPECT_NE(list.out.find("ImprimeNF_E6001 1 6001\n"), std::string::npos);
+    EXPECT_NE(list.out.find("ImprimeNF_Padrao 1 1 nota\n"), std::string::npos);
     const Ran form = run({"--mostra-formulario", "ImprimeNF_1361"});
     EXPECT_EQ(form.status, 0);
     EXPECT_EQ(form.out.find("nome ImprimeNF_1361\naltura 66\nligar 10\npasso 17\n"), 0U);
