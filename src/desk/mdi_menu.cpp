@@ -20,6 +20,7 @@
 #include "platform/machine.h"
 #include "platform/qt/wait_cursor.h"
 #include "reprint/frm_reimprime_nf.h"
+#include "runtime/version.h"
 #include "slips/frm_pesq_boleto.h"
 #include "ui_mdi_menu.h"
 #include "widgets/look.h"
@@ -27,8 +28,10 @@
 namespace tarn {
 namespace {
 
-const auto titleWithSession =
-    QStringLiteral("TARN EMISSÕES - Rotina Mercantil - Versão de 07/01/2009 - Release 17 - G");
+QString titleWithSession() {
+    return QStringLiteral("TARN EMISSÕES - Rotina Mercantil - Versão de %1 - %2")
+        .arg(QLatin1StringView(versionDate), QLatin1StringView(releaseName));
+}
 
 QLabel* newPanel(QStatusBar& bar, const char* name, const QString& accessible, int width) {
     auto* panel = new QLabel(&bar);
@@ -82,7 +85,7 @@ void MDIMenu::load() {
         const WaitCursor hourglass;
         desk_.session.DirSistema = desk_.environment.machine.systemDirectory() + "\\";
     }
-    if (!VerVersao(desk_.environment, desk_.session, programVersion)) {
+    if (!VerVersao(desk_.environment, desk_.session, versionDate)) {
         desk_.end.endProgram();
         return;
     }
@@ -101,7 +104,7 @@ bool MDIMenu::logOn() {
 }
 
 void MDIMenu::activate() {
-    setWindowTitle(titleWithSession);
+    setWindowTitle(titleWithSession());
     const std::string_view notice =
         printerNotice(desk_.session.NCOMPANYCODE, desk_.session.ID_ETB_TARN);
     if (!notice.empty()) {

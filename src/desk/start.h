@@ -11,8 +11,6 @@ namespace tarn {
 
 struct Environment;
 
-inline constexpr std::string_view programVersion = "07/01/2009";
-
 // Version gate: false when the program is out of date (the box has been shown)
 // and must end. A server out of reach leaves the gate open. Errors are ignored.
 bool VerVersao(Environment& environment, Sessao& session, std::string_view version);

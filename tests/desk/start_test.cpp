@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "runtime/runtime_error.h"
+#include "runtime/version.h"
 #include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
@@ -33,7 +34,7 @@ protected:
     bool verify(const std::string& body) {
         seams_.loader.on("VERSAO", body);
         session_.VersaoServidor = "old";
-        return VerVersao(environment_, session_, programVersion);
+        return VerVersao(environment_, session_, versionDate);
     }
 };
 
@@ -56,7 +57,7 @@ TEST_F(VerVersaoTest, AdmittedWithADateThatIsNoneOrIsMissing) {
     EXPECT_EQ(session_.VersaoServidor, "hoje");
     TestEnvironment other;
     other.loader.on("VERSAO", header + "<V><L a='OK'/></V>");
-    EXPECT_TRUE(VerVersao(other.environment, session_, programVersion));
+    EXPECT_TRUE(VerVersao(other.environment, session_, versionDate));
     EXPECT_EQ(session_.VersaoServidor, "");
     EXPECT_TRUE(other.boxes.shown.empty());
 }
@@ -64,7 +65,7 @@ TEST_F(VerVersaoTest, AdmittedWithADateThatIsNoneOrIsMissing) {
 TEST_F(VerVersaoTest, OutOfReachLeavesTheGateOpen) {
     seams_.loader.failOn("VERSAO");
     session_.VersaoServidor = "old";
-    EXPECT_TRUE(VerVersao(environment_, session_, programVersion));
+    EXPECT_TRUE(VerVersao(environment_, session_, versionDate));
     EXPECT_EQ(session_.VersaoServidor, "");
     EXPECT_EQ(seams_.boxes.shown, std::vector<Box>{requestFailure(
                                       "Não consegui verificar a versão do TarnEMISSAO porque não "
@@ -84,7 +85,7 @@ TEST_F(VerVersaoTest, AnAnswerThatCannotBeReadIsNotOk) {
           header + "<V><L/></V>", header + "<V><L a='ok'/></V>"}) {
         TestEnvironment other;
         other.loader.on("VERSAO", body);
-        EXPECT_FALSE(VerVersao(other.environment, session_, programVersion)) << body;
+        EXPECT_FALSE(VerVersao(other.environment, session_, versionDate)) << body;
         ASSERT_EQ(other.boxes.shown.size(), 1U);
         EXPECT_EQ(other.boxes.shown[0].text, outdated);
     }

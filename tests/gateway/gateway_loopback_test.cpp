@@ -11,6 +11,7 @@
 #include "gateway/commands.h"
 #include "platform/curl/curl_loader.h"
 #include "runtime/runtime_error.h"
+#include "runtime/version.h"
 #include "tests/support/loopback_server.h"
 #include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
@@ -129,7 +130,7 @@ TEST_F(GatewayLoopbackTest, LogonThenRightsThenName) {
 
 TEST_F(GatewayLoopbackTest, TheGateStaysOpenWithoutAServer) {
     server_.closePort();
-    EXPECT_TRUE(VerVersao(environment_, session_, programVersion));
+    EXPECT_TRUE(VerVersao(environment_, session_, versionDate));
     EXPECT_EQ(seams_.boxes.shown.size(), 1U);
 }
 
