@@ -15,7 +15,6 @@
 namespace {
 
 using tarn::printer::complain;
-using tarn::printer::Ending;
 using tarn::printer::Options;
 
 // Name, company, establishment, and "nota" where the note's items make the form's lines.
@@ -62,9 +61,8 @@ bool useForm(Options& options, tarn::dotmatrix::PaintOptions& looks) {
 
 int run(int argc, char** argv) {
     auto read = tarn::printer::readCommandLine(argc, argv);
-    if (const auto* ending = std::get_if<Ending>(&read)) {
-        std::fputs(ending->text.c_str(), ending->status == 0 ? stdout : stderr);
-        return ending->status;
+    if (const auto* ending = std::get_if<tarn::cli::Ending>(&read)) {
+        return tarn::cli::say(*ending);
     }
     auto& options = std::get<Options>(read);
     if (options.listForms) {

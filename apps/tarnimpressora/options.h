@@ -7,6 +7,7 @@
 #include <variant>
 #include <vector>
 
+#include "cli/command_line.h"
 #include "dotmatrix/dialect.h"
 
 namespace tarn::printer {
@@ -23,7 +24,7 @@ struct Options {
     bool ownPitch = false;
 
     std::string form;  // name or file of the pre-printed form, empty for blank paper
-    std::optional<int> itemLines;
+    std::optional<std::int32_t> itemLines;
     bool ruler = false;
     bool listForms = false;
     std::string writtenForm;  // to be written to stdout as text
@@ -37,12 +38,6 @@ struct Options {
     bool waits() const { return port.has_value() || !folder.empty(); }
 };
 
-// Why the program ends here instead: the help was asked for, or the line is wrong.
-struct Ending {
-    int status = 0;
-    std::string text;  // for stdout when status is 0, else for stderr; ends in LF
-};
-
-std::variant<Options, Ending> readCommandLine(int argc, const char* const* argv);
+std::variant<Options, cli::Ending> readCommandLine(int argc, const char* const* argv);
 
 }  // namespace tarn::printer

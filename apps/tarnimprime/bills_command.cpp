@@ -43,18 +43,17 @@ void print(const Request& request, PrintEnvironment& desk) {
 
 }  // namespace
 
-void declareBills(CLI::App& app, Choice& choice) {
-    CLI::App* commands = app.add_subcommand("duplicatas", "Imprime duplicatas e recibos");
+void declareBills(cli::CommandLine& line, Choice& choice) {
+    cli::Command command = line.command("duplicatas", "imprime duplicatas e recibos");
     const auto request = std::make_shared<Request>();
-    declareCode(*commands, "--empresa", request->company, "Código da empresa");
-    commands->add_option("--dados", request->data, "Dados da empresa (EMP.xml)")->required();
-    commands->add_flag("--triplicata", request->triplicate, "Triplicatas em vez de duplicatas");
-    declareTicks(*commands, request->tick);
-    commands->add_option("--pasta-figuras", request->pictureFolder,
-                         "Pasta das figuras da página (LOGODUPL.jpg e outras)");
-    commands->add_option("documentos", request->documents, "Documentos da pesquisa (DOCS.xml)")
-        ->required();
-    commands->callback([&choice, request] {
+    command.whole("--empresa", request->company, "Código da empresa").required();
+    command.text("--dados", request->data, "dados da empresa (EMP.xml)").required();
+    command.flag("--triplicata", request->triplicate, "triplicatas em vez de duplicatas");
+    declareTicks(command, request->tick);
+    command.text("--pasta-figuras", request->pictureFolder,
+                 "pasta das figuras da página (LOGODUPL.jpg e outras)");
+    command.texts("documentos", request->documents, "documentos da pesquisa (DOCS.xml)").required();
+    command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
     });
 }

@@ -26,18 +26,16 @@ void print(const Request& request, PrintEnvironment& desk) {
 
 }  // namespace
 
-void declareCheque(CLI::App& app, Choice& choice) {
-    CLI::App* commands = app.add_subcommand("cheque", "Imprime um cheque");
+void declareCheque(cli::CommandLine& line, Choice& choice) {
+    cli::Command command = line.command("cheque", "imprime um cheque");
     const auto request = std::make_shared<Request>();
-    commands->add_option("--banco", request->bank, "Código oficial do banco")->required();
-    commands->add_option("--valor", request->value, "Valor como o campo o mostra: 1.234,56")
-        ->required();
-    commands
-        ->add_option("--favorecido", request->payee, "Favorecido, em maiúsculas; pode ser vazio")
-        ->required();
-    commands->add_option("--data", request->data, "Data para depósito, dd/mm/yyyy")->required();
-    commands->add_option("--municipio", request->town, "Município do estabelecimento")->required();
-    commands->callback([&choice, request] {
+    command.text("--banco", request->bank, "Código oficial do banco").required();
+    command.text("--valor", request->value, "valor como o campo o mostra: 1.234,56").required();
+    command.text("--favorecido", request->payee, "favorecido, em maiúsculas; pode ser vazio")
+        .required();
+    command.text("--data", request->data, "data para depósito, dd/mm/yyyy").required();
+    command.text("--municipio", request->town, "município do estabelecimento").required();
+    command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
     });
 }

@@ -21,7 +21,7 @@ struct LabelRequest {
 
 void print(const LabelRequest& request, PrintEnvironment& desk) {
     if (!isNumeric(request.form)) {
-        throw UsageError("--formulario pede um número de 1 a 4.");
+        cli::refuseValue("--formulario", "um número de 1 a 4", request.form);
     }
     const labels::LabelForm form = labels::labelFormOf(request.form);
     const labels::Sender sender = labels::readSender(readAnswer(request.sender));
@@ -51,29 +51,26 @@ void print(const SelectionRequest& request, PrintEnvironment& desk) {
 
 }  // namespace
 
-void declareLabels(CLI::App& app, Choice& choice) {
-    CLI::App* commands = app.add_subcommand("etiquetas", "Imprime etiquetas da fila");
+void declareLabels(cli::CommandLine& line, Choice& choice) {
+    cli::Command command = line.command("etiquetas", "imprime etiquetas da fila");
     const auto request = std::make_shared<LabelRequest>();
-    commands
-        ->add_option("--formulario", request->form,
-                     "1 PIMACO 6280, 2 matricial, 3 A5, 4 A4 com remetente")
-        ->required();
-    commands->add_option("--remetente", request->sender, "Dados do remetente (REM.xml)")
-        ->required();
-    commands->add_option("documentos", request->files, "Etiquetas (ETQ.xml)")->required();
-    commands->callback([&choice, request] {
+    command
+        .text("--formulario", request->form, "1 PIMACO 6280, 2 matricial, 3 A5, 4 A4 com remetente")
+        .required();
+    command.text("--remetente", request->sender, "dados do remetente (REM.xml)").required();
+    command.texts("documentos", request->files, "etiquetas (ETQ.xml)").required();
+    command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
     });
 }
 
-void declareLabelSelection(CLI::App& app, Choice& choice) {
-    CLI::App* commands =
-        app.add_subcommand("etiquetas-selecao", "Imprime etiquetas da seleção de clientes");
+void declareLabelSelection(cli::CommandLine& line, Choice& choice) {
+    cli::Command command =
+        line.command("etiquetas-selecao", "imprime etiquetas da seleção de clientes");
     const auto request = std::make_shared<SelectionRequest>();
-    declareTicks(*commands, request->tick);
-    commands->add_option("documentos", request->files, "Clientes da pesquisa (ROWS.xml)")
-        ->required();
-    commands->callback([&choice, request] {
+    declareTicks(command, request->tick);
+    command.texts("documentos", request->files, "clientes da pesquisa (ROWS.xml)").required();
+    command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
     });
 }

@@ -1,3 +1,4 @@
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -26,15 +27,30 @@ struct Request {
     Ladder ladder() const { return reprint ? Ladder::Reprint : Ladder::Issuing; }
 };
 
-void declareSession(CLI::App& commands, Request& request) {
-    declareCode(commands, "--empresa", request.session.NCOMPANYCODE, "Código da empresa");
-    declareCode(commands, "--estabelecimento", request.session.ID_ETB_TARN,
-                "Código do estabelecimento");
-    commands.add_flag("--reimpressao", request.reprint, "Escada da tela de reimpressão");
+void declareSession(cli::Command& command, Request& request) {
+    command.whole("--empresa", request.session.NCOMPANYCODE, "Código da empresa").required();
+    command.whole("--estabelecimento", request.session.ID_ETB_TARN, "Código do estabelecimento")
+        .required();
+    command.flag("--reimpressao", request.reprint, "escada da tela de reimpressão");
+}
+
+const notes::Layout* layoutOf(const Request& request) {
+    return layoutFor(request.ladder(), request.session.NCOMPANYCODE, request.session.ID_ETB_TARN);
+}
+
+// On the desk such a note prints nothing either, and nothing is said.
+void sayWhereNoForm(const Request& request) {
+    if (layoutOf(request) == nullptr) {
+        std::fprintf(stderr,
+                     "tarnimprime: a empresa %d, estabelecimento %d, não tem formulário de nota: "
+                     "nada é impresso.\n",
+                     request.session.NCOMPANYCODE, request.session.ID_ETB_TARN);
+    }
 }
 
 void print(const Request& request, PrintEnvironment& desk) {
     std::vector<XmlDocument> documents = readAnswers(request.files);
+    sayWhereNoForm(request);
     Environment& environment = desk.environment();
     for (XmlDocument& document : documents) {
         printNote(request.ladder(), environment, request.session, document, request.number);
@@ -45,6 +61,7 @@ void print(const Request& request, PrintEnvironment& desk) {
 // error of the run time is said too.
 bool check(const Request& request, PrintEnvironment& desk) {
     std::vector<XmlDocument> documents = readAnswers(request.files);
+    sayWhereNoForm(request);
     Environment& environment = desk.dryRunEnvironment();
     bool anyLoss = false;
     for (std::size_t i = 0; i < documents.size(); ++i) {
@@ -86,13 +103,13 @@ std::optional<std::string> content(const std::string& file) {
 XmlDocument readAnswer(const std::string& file) {
     const std::optional<std::string> bytes = content(file);
     if (!bytes) {
-        throw UsageError("não foi possível ler \"" + file +
-                         "\". Confira o nome do arquivo e a permissão de leitura.");
+        throw cli::WrongUsage("não foi possível ler \"" + file +
+                              "\". Confira o nome do arquivo e a permissão de leitura.");
     }
     XmlDocument document;
     if (!document.loadXML(*bytes)) {
-        throw UsageError("\"" + file +
-                         "\" não é uma resposta do servidor: o XML está incompleto ou errado.");
+        throw cli::WrongUsage(
+            "\"" + file + "\" não é uma resposta do servidor: o XML está incompleto ou errado.");
     }
     return document;
 }
@@ -106,15 +123,15 @@ std::vector<XmlDocument> readAnswers(const std::vector<std::string>& files) {
     return documents;
 }
 
-void declareNote(CLI::App& app, Choice& choice) {
-    CLI::App* commands = app.add_subcommand("nota", "Imprime notas fiscais pela escada");
+void declareNote(cli::CommandLine& line, Choice& choice) {
+    cli::Command command = line.command("nota", "imprime notas fiscais pela escada");
     const auto request = std::make_shared<Request>();
-    declareSession(*commands, *request);
-    commands->add_option("--numero", request->number, "Número da nota")->required();
-    commands->add_option("documentos", request->files, "Documentos de nota (DOC.xml)")->required();
-    commands->add_flag("--confere", request->check,
-                       "Não imprime: diz o que a nota perde no seu formulário (status 4 se perde)");
-    commands->callback([&choice, request] {
+    declareSession(command, *request);
+    command.text("--numero", request->number, "Número da nota").required();
+    command.texts("documentos", request->files, "documentos de nota (DOC.xml)").required();
+    command.flag("--confere", request->check,
+                 "Não imprime: diz o que a nota perde no seu formulário (status 4 se perde)");
+    command.whenChosen([&choice, request] {
         choice.run = [&choice, request](PrintEnvironment& desk) {
             if (!request->check) {
                 print(*request, desk);
@@ -125,14 +142,13 @@ void declareNote(CLI::App& app, Choice& choice) {
     });
 }
 
-void declareLadder(CLI::App& app, Choice& choice) {
-    CLI::App* commands = app.add_subcommand("escada", "Mostra o layout de uma empresa");
+void declareLadder(cli::CommandLine& line, Choice& choice) {
+    cli::Command command = line.command("escada", "mostra o layout de uma empresa");
     const auto request = std::make_shared<Request>();
-    declareSession(*commands, *request);
-    commands->callback([&choice, request] {
+    declareSession(command, *request);
+    command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment&) {
-            const notes::Layout* layout = layoutFor(
-                request->ladder(), request->session.NCOMPANYCODE, request->session.ID_ETB_TARN);
+            const notes::Layout* layout = layoutOf(*request);
             show(layout == nullptr ? "-" : layout->name);
         };
     });

@@ -23,13 +23,12 @@ void print(const Request& request, PrintEnvironment& desk) {
 
 }  // namespace
 
-void declareOrder(CLI::App& app, Choice& choice) {
-    CLI::App* commands = app.add_subcommand("ordem", "Imprime folhas de ordem de faturamento");
+void declareOrder(cli::CommandLine& line, Choice& choice) {
+    cli::Command command = line.command("ordem", "imprime folhas de ordem de faturamento");
     const auto request = std::make_shared<Request>();
-    commands->add_option("--empresa", request->session.NCOMPANYCODE, "Código da empresa")
-        ->required();
-    commands->add_option("documentos", request->files, "Documentos de ordem (DOC.xml)")->required();
-    commands->callback([&choice, request] {
+    command.whole("--empresa", request->session.NCOMPANYCODE, "Código da empresa").required();
+    command.texts("documentos", request->files, "documentos de ordem (DOC.xml)").required();
+    command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
     });
 }

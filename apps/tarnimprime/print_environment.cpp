@@ -29,15 +29,6 @@ public:
     std::optional<PrinterFailure> perform(const PrintOperation&) override { return std::nullopt; }
 };
 
-CodePage pageOf(const std::string& number) {
-    for (const int known : {1252, 850, 860}) {
-        if (number == std::to_string(known)) {
-            return *codePageByNumber(known);
-        }
-    }
-    throw UsageError("--pagina-de-codigo pede 1252, 850 ou 860.");
-}
-
 }  // namespace
 
 BoxAnswer TerminalBoxes::show(const Box& box) {
@@ -63,8 +54,8 @@ void PrintEnvironment::prepareFolder() {
     const auto files = std::make_shared<JobFiles>(std::filesystem::path(*options_.destination),
                                                   JobNumbering::FromOne);
     if (!files->makeDirectory()) {
-        throw UsageError("não foi possível criar a pasta \"" + *options_.destination +
-                         "\". Confira o nome e a permissão de gravação.");
+        throw cli::WrongUsage("não foi possível criar a pasta \"" + *options_.destination +
+                              "\". Confira o nome e a permissão de gravação.");
     }
     spooler_ = std::make_unique<DirectorySpooler>(files);
     if (options_.format == "ops") {
@@ -76,11 +67,11 @@ void PrintEnvironment::prepareFolder() {
 
 void PrintEnvironment::preparePrinter() {
     if (options_.format == "ops") {
-        throw UsageError("--formato ops grava em uma pasta: dê também --destino PASTA.");
+        throw cli::WrongUsage("--formato ops grava em uma pasta: dê também --destino PASTA.");
     }
     spooler_ = makeSystemSpooler();
     if (!spooler_ || spooler_->defaultPrinter().empty()) {
-        throw UsageError(
+        throw cli::WrongUsage(
             "esta máquina não tem impressora padrão. Defina uma, ou grave os trabalhos em uma "
             "pasta com --destino PASTA.");
     }
@@ -92,31 +83,21 @@ void PrintEnvironment::prepareNothing() {
     pages_ = std::make_unique<NoPages>();
 }
 
-CodePage PrintEnvironment::checkOptions() const {
-    const CodePage page = pageOf(options_.codePage);
-    if (options_.format != "pdf" && options_.format != "ops") {
-        throw UsageError("--formato pede pdf ou ops.");
-    }
-    return page;
-}
-
 Environment& PrintEnvironment::environment() {
-    const CodePage page = checkOptions();
     if (!environment_) {
         options_.destination ? prepareFolder() : preparePrinter();
     }
-    return assemble(page);
+    return assemble();
 }
 
 Environment& PrintEnvironment::dryRunEnvironment() {
-    const CodePage page = checkOptions();
     if (!environment_) {
         options_.destination ? prepareFolder() : prepareNothing();
     }
-    return assemble(page);
+    return assemble();
 }
 
-Environment& PrintEnvironment::assemble(CodePage page) {
+Environment& PrintEnvironment::assemble() {
     if (!environment_) {
         environment_ = std::make_unique<Environment>(Environment{.http = server_,
                                                                  .spooler = *spooler_,
@@ -125,7 +106,7 @@ Environment& PrintEnvironment::assemble(CodePage page) {
                                                                  .clock = clock_,
                                                                  .machine = machine_,
                                                                  .baseUrl = {},
-                                                                 .codePage = page});
+                                                                 .codePage = options_.codePage});
     }
     return *environment_;
 }

@@ -41,7 +41,7 @@ class PrintEnvironment {
 public:
     explicit PrintEnvironment(const GlobalOptions& options);
 
-    // For printing; UsageError when there is nowhere to print.
+    // For printing; cli::WrongUsage when there is nowhere to print.
     Environment& environment();
     // Directory of the jobs, if they go into one.
     const std::optional<std::string>& destination() const { return options_.destination; }
@@ -53,8 +53,7 @@ private:
     void prepareFolder();
     void preparePrinter();
     void prepareNothing();
-    Environment& assemble(CodePage page);
-    CodePage checkOptions() const;
+    Environment& assemble();
 
     const GlobalOptions& options_;
     NoServer server_;

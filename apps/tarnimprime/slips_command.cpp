@@ -37,8 +37,8 @@ public:
         const std::string file = *folder + "/requests.txt";
         output_.open(file, std::ios::binary | std::ios::trunc);
         if (!output_) {
-            throw UsageError("não foi possível gravar \"" + file +
-                             "\". Confira a permissão de gravação.");
+            throw cli::WrongUsage("não foi possível gravar \"" + file +
+                                  "\". Confira a permissão de gravação.");
         }
     }
     HttpAnswer get(const std::string& request) override {
@@ -90,26 +90,24 @@ void print(const Request& request, PrintEnvironment& desk) {
 
 }  // namespace
 
-void declareSlips(CLI::App& app, Choice& choice) {
-    CLI::App* commands = app.add_subcommand("boletos", "Imprime boletos bancários");
+void declareSlips(cli::CommandLine& line, Choice& choice) {
+    cli::Command command = line.command("boletos", "imprime boletos bancários");
     const auto request = std::make_shared<Request>();
     request->session.SERVERNAME = "SRV";
     request->session.UserCode = "U1";
-    declareCode(*commands, "--empresa", request->session.NCOMPANYCODE, "Código da empresa");
-    declareCode(*commands, "--estabelecimento", request->session.ID_ETB_TARN,
-                "Código do estabelecimento");
-    commands->add_option("--carteira", request->portfolio, "Carteira de cobrança (CART.xml)")
-        ->required();
-    commands
-        ->add_option("--proximo", request->slips.next,
-                     "Número do próximo boleto, sem agência e sem dígito verificador")
-        ->required();
-    commands->add_flag("--inclui-carteira", request->slips.includesPortfolio,
-                       "Inclui os documentos na carteira: vale o banco dela, não o de cada um");
-    declareTicks(*commands, request->tick);
-    commands->add_option("documentos", request->documents, "Documentos da pesquisa (DOCS.xml)")
-        ->required();
-    commands->callback([&choice, request] {
+    command.whole("--empresa", request->session.NCOMPANYCODE, "Código da empresa").required();
+    command.whole("--estabelecimento", request->session.ID_ETB_TARN, "Código do estabelecimento")
+        .required();
+    command.text("--carteira", request->portfolio, "carteira de cobrança (CART.xml)").required();
+    command
+        .text("--proximo", request->slips.next,
+              "Número do próximo boleto, sem agência e sem dígito verificador")
+        .required();
+    command.flag("--inclui-carteira", request->slips.includesPortfolio,
+                 "inclui os documentos na carteira: vale o banco dela, não o de cada um");
+    declareTicks(command, request->tick);
+    command.texts("documentos", request->documents, "documentos da pesquisa (DOCS.xml)").required();
+    command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
     });
 }

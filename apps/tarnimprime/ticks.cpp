@@ -15,17 +15,18 @@ std::size_t rowOf(std::string_view text, std::size_t count) {
     const char* const end = number.data() + number.size();
     const auto readValue = std::from_chars(number.data(), end, line);
     if (readValue.ec != std::errc() || readValue.ptr != end || line < 1 || line > count) {
-        throw UsageError("--marca pede números de linha de 1 a " + std::to_string(count) +
-                         ", separados por vírgula: \"" + std::string(text) + "\" não é um deles.");
+        throw cli::WrongUsage("--marca pede números de linha de 1 a " + std::to_string(count) +
+                              ", separados por vírgula: \"" + std::string(text) +
+                              "\" não é um deles.");
     }
     return line;
 }
 
 }  // namespace
 
-void declareTicks(CLI::App& commands, TickedRows& tick) {
-    commands.add_option("--marca", tick,
-                        "Linhas que imprimem, a partir de 1 (1,3); sem ela, todas; vazia, nenhuma");
+void declareTicks(cli::Command& command, TickedRows& tick) {
+    command.text("--marca", tick,
+                 "linhas que imprimem, a partir de 1 (1,3); sem ela, todas; vazia, nenhuma");
 }
 
 void tickRows(std::vector<GridRow>& lines, const TickedRows& tick) {

@@ -13,10 +13,10 @@ namespace tarn::print {
 // Left out: every row prints.
 using TickedRows = std::optional<std::string>;
 
-void declareTicks(CLI::App& commands, TickedRows& tick);
+void declareTicks(cli::Command& command, TickedRows& tick);
 
 // Ticks the rows that it names, from 1, separated by commas; none for an empty one.
-// UsageError for a number that no row has.
+// cli::WrongUsage for a number that no row has.
 void tickRows(std::vector<GridRow>& lines, const TickedRows& tick);
 
 }  // namespace tarn::print

@@ -1,6 +1,6 @@
 // The job of a clerk in the real screens, without anybody at the keys. Leaves a picture
 // of every step and the printed jobs in a folder.
-#include <CLI/CLI.hpp>
+#include <QDir>
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -11,6 +11,7 @@
 #include "apps/tarnroteiro/labels_walk.h"
 #include "apps/tarnroteiro/note_walk.h"
 #include "apps/tarnroteiro/printer_picture.h"
+#include "cli/command_line.h"
 #include "desk/desk_assembly.h"
 
 namespace tarn {
@@ -92,19 +93,28 @@ static void fatalOnly(QtMsgType kind, const QMessageLogContext&, const QString& 
 int main(int argc, char** argv) {
     qInstallMessageHandler(fatalOnly);
     tarn::WalkLogon input;
-    CLI::App app("Percorre o trabalho principal nas telas reais e guarda as imagens e o papel.",
-                 "tarnroteiro");
-    app.add_option("--servidor", input.server, "endereço do servidor de treino");
-    app.add_option("--saida", input.folder, "pasta das imagens e do papel")->required();
-    app.add_option("--empresa", input.company, "empresa do logon de treino");
-    app.add_option("--usuario", input.user, "usuário do logon de treino");
-    app.add_option("--senha", input.password, "senha do logon de treino");
     std::string name = "dia";
-    app.add_option("--roteiro", name,
-                   "dia (usual), recusa (de quem não pode emitir), selecao (de etiquetas) ou "
-                   "impressora (a janela da impressora virtual com a nota que já está na pasta)")
-        ->check(CLI::IsMember({"dia", "recusa", "selecao", "impressora"}));
-    CLI11_PARSE(app, argc, argv);
+    tarn::cli::CommandLine line(
+        "tarnroteiro",
+        "Percorre o trabalho principal nas telas reais e guarda as imagens e o papel.");
+    line.text("--servidor", input.server, "endereço do servidor de treino").called("URL");
+    line.text("--saida", input.folder, "pasta das imagens e do papel").called("PASTA").required();
+    line.text("--empresa", input.company, "empresa do logon de treino");
+    line.text("--usuario", input.user, "usuário do logon de treino");
+    // As by text(), whose help would tell the usual one.
+    line.value("--senha", "senha do logon de treino",
+               [&input](const std::string& text) { input.password = text; });
+    line.oneOf("--roteiro", name, {"dia", "recusa", "selecao", "impressora"},
+               "dia, recusa (de quem não pode emitir), selecao (de etiquetas) ou impressora (a "
+               "janela da impressora virtual com a nota que já está na pasta)");
+    if (const auto ending = line.read(argc, argv)) {
+        return tarn::cli::say(*ending);
+    }
+    if (!QDir().mkpath(QString::fromStdString(input.folder))) {
+        std::fprintf(stderr, "tarnroteiro: não foi possível criar a pasta \"%s\".\n",
+                     input.folder.c_str());
+        return tarn::cli::statusUsage;
+    }
     tarn::DeskApplication program(argc, argv);
     if (name == "impressora") {
         return tarn::pictureOfPrinter(input.folder) ? 0 : 1;

@@ -4,6 +4,7 @@
 #include <string>
 #include <variant>
 
+#include "cli/command_line.h"
 #include "runtime/code_page.h"
 
 namespace tarn {
@@ -16,17 +17,10 @@ struct Options {
     bool labelSelection = false;
 };
 
-// The program doesn't start: help or version was asked for (status 0, `text` for the
-// standard output) or the usage is wrong (status 1, `text` for the error output).
-struct NoStart {
-    int status = 0;
-    std::string text;
-};
-
 // `environmentServer` is what TARN_SERVIDOR holds, `fallback` the address of the build.
-std::variant<Options, NoStart> readOptions(int argc, const char* const* argv,
-                                           const std::string& environmentServer,
-                                           const std::string& fallback);
+std::variant<Options, cli::Ending> readOptions(int argc, const char* const* argv,
+                                               const std::string& environmentServer,
+                                               const std::string& fallback);
 
 // The address as requests need it: a bare server ("http://host:8610") gets the path of
 // the one page, an address of a page its question mark. Empty: no http or https address.

@@ -308,11 +308,14 @@ TEST_F(Tarnimprime, TheMachinesLanguageChangesNothing) {
     ::unsetenv("LC_ALL");
 }
 
-TEST_F(Tarnimprime, NoLayoutPrintsNothingAndSaysNothing) {
+TEST_F(Tarnimprime, ACompanyWithoutAFormPrintsNothingAndIsTold) {
     const Result result = run({"nota", "--destino", file("papel"), "--empresa", "2161",
                                "--estabelecimento", "1", "--numero", "1", data("note_1361.xml")});
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.out + result.err, "");
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(result.err,
+              "tarnimprime: a empresa 2161, estabelecimento 1, não tem formulário de nota: nada é "
+              "impresso.\n");
     EXPECT_FALSE(hasJob("job-001.prn"));
 }
 

@@ -108,17 +108,22 @@ TEST(Tarnservidor, LogsNothing) {
 TEST(Tarnservidor, RefusesWrongValues) {
     expectRefusal({"--porta", "0", "--endereco", "300.1.1.1"},
                   "O endereço \"300.1.1.1\" não existe");
-    expectRefusal({"--porta", "65536"}, "A porta \"65536\" não existe");
-    expectRefusal({"--porta", "abc"}, "A porta \"abc\" não existe");
-    expectRefusal({"--porta"}, "Falta o valor da opção --porta");
-    expectRefusal({"--semente", "x"}, "A semente \"x\" não é um número inteiro");
-    expectRefusal({"--hoje", "31/02/2012"}, "A data \"31/02/2012\" não existe");
+    expectRefusal({"--porta", "65536"},
+                  "--porta pede um número inteiro de 0 a 65535: \"65536\" não serve.");
+    expectRefusal({"--porta", "abc"},
+                  "--porta pede um número inteiro de 0 a 65535: \"abc\" não serve.");
+    expectRefusal({"--porta"}, "falta o valor da opção --porta.");
+    expectRefusal({"--semente", "x"},
+                  "--semente pede um número inteiro, só de algarismos: \"x\" não serve.");
+    expectRefusal({"--hoje", "31/02/2012"},
+                  "--hoje pede uma data dd/mm/aaaa do calendário: \"31/02/2012\" não serve.");
     expectRefusal({"--banco", "postgresql://ana:segredo@h"},
                   "O endereço do banco de dados \"postgresql://ana@h\" não é válido");
     expectRefusal({"--banco", "postgresql://127.0.0.1:1/pratica"},
                   "Confira se o servidor PostgreSQL está no ar");
-    expectRefusal({"--codificacao", "latin1"}, "A codificação \"latin1\" não existe");
-    expectRefusal({"--nada"}, "A opção \"--nada\" não existe");
+    expectRefusal({"--codificacao", "latin1"},
+                  "--codificacao pede windows-1252, iso-8859-1 ou utf-8: \"latin1\" não serve.");
+    expectRefusal({"--nada"}, "opção ou argumento desconhecido: --nada.");
 }
 
 TEST(Tarnservidor, CommitsTheFaultsTold) {
@@ -143,7 +148,7 @@ TEST(Tarnservidor, RefusesFaultsThatItDoesNotKnow) {
     expectRefusal({"--falha", "LOGIN=501"}, "A falha \"501\" não existe. Use recusa");
     expectRefusal({"--falha", "NADA=500"}, "O comando \"NADA\" não existe neste servidor");
     expectRefusal({"--falha", "LOGIN"}, "não diz de que comando");
-    expectRefusal({"--falha"}, "Falta o valor da opção --falha");
+    expectRefusal({"--falha"}, "falta o valor da opção --falha.");
 }
 
 TEST(Tarnservidor, RefusesABusyPort) {

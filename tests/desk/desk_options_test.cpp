@@ -9,15 +9,15 @@ namespace {
 
 constexpr char fallback[] = "http://fixo/Kestomain/TarnEmissao.asp?";
 
-std::variant<Options, NoStart> read(std::vector<const char*> words, const char* env = "") {
+std::variant<Options, cli::Ending> read(std::vector<const char*> words, const char* env = "") {
     words.insert(words.begin(), "tarnemissao");
     return readOptions(static_cast<int>(words.size()), words.data(), env, fallback);
 }
 Options optionsOf(const std::vector<const char*>& words, const char* env = "") {
     return std::get<Options>(read(words, env));
 }
-NoStart stop(const std::vector<const char*>& words) {
-    return std::get<NoStart>(read(words));
+cli::Ending stop(const std::vector<const char*>& words) {
+    return std::get<cli::Ending>(read(words));
 }
 
 TEST(Options, WithoutOptionsTheBuildsServerAndTheMachinesPrinter) {
@@ -68,9 +68,9 @@ TEST(Options, WrongUsageSaysWhat) {
         {{"--foo"}, "tarnemissao: opção ou argumento desconhecido: --foo.\n"},
         {{"--servidor"}, "tarnemissao: falta o valor da opção --servidor.\n"},
         {{"--pagina-de-codigo", "437"},
-         "tarnemissao: --pagina-de-codigo aceita 1252, 850 ou 860.\n"},
+         "tarnemissao: --pagina-de-codigo pede 1252, 850 ou 860: \"437\" não serve.\n"},
         {{"--pagina-de-codigo", "abc"},
-         "tarnemissao: valor que não serve: --pagina-de-codigo = abc.\n"},
+         "tarnemissao: --pagina-de-codigo pede 1252, 850 ou 860: \"abc\" não serve.\n"},
         {{"--impressora-virtual", ""},
          "tarnemissao: --impressora-virtual pede o nome de uma pasta.\n"},
         {{"--servidor", "ftp://x"},

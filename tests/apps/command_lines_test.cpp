@@ -1,0 +1,83 @@
+// What the command lines of all programs have in common, and a desk without a display.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QProcessEnvironment>
+
+#include "runtime/version.h"
+
+namespace tarn::test {
+namespace {
+
+constexpr int patienceMs = 60000;  // for a slow machine
+
+struct Ran {
+    int status = -1;  // -1: didn't end by itself
+    std::string out;
+    std::string err;
+};
+
+Ran run(const char* program, const QStringList& arguments,
+        const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment()) {
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
+    const bool ended =
+        process.waitForFinished(patienceMs) && process.exitStatus() == QProcess::NormalExit;
+    return {ended ? process.exitCode() : -1, process.readAllStandardOutput().toStdString(),
+            process.readAllStandardError().toStdString()};
+}
+
+struct Program {
+    const char* name;
+    const char* path;
+};
+void PrintTo(const Program& program, std::ostream* out) {
+    *out << program.name;
+}
+
+class EveryProgram : public testing::TestWithParam<Program> {};
+
+TEST_P(EveryProgram, SaysTheReleasesVersion) {
+    for (const char* word : {"--versao", "--version"}) {
+        const Ran ran = run(GetParam().path, {word});
+        EXPECT_EQ(ran.status, 0);
+        EXPECT_EQ(ran.out, "TarnEmissao " + std::string(productVersion) + "\n");
+        EXPECT_EQ(ran.err, "");
+    }
+}
+
+TEST_P(EveryProgram, ShowsItsHelp) {
+    for (const char* word : {"--ajuda", "--help", "-h"}) {
+        const Ran ran = run(GetParam().path, {word});
+        EXPECT_EQ(ran.status, 0);
+        EXPECT_THAT(ran.out, testing::HasSubstr(std::string("Uso: ") + GetParam().name));
+        EXPECT_EQ(ran.err, "");
+    }
+}
+
+TEST_P(EveryProgram, RefusesAnOptionThatItDoesNotKnow) {
+    const Ran ran = run(GetParam().path, {"--nada"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.out, "");
+    EXPECT_THAT(ran.err, testing::StartsWith(std::string(GetParam().name) + ": "));
+    EXPECT_THAT(ran.err, testing::EndsWith(std::string("\nUse ") + GetParam().name +
+                                           " --ajuda para ver as opções.\n"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, EveryProgram,
+    testing::Values(Program{"tarnemissao", TARNEMISSAO}, Program{"tarnimpressora", TARNIMPRESSORA},
+                    Program{"tarnimprime", TARNIMPRIME}, Program{"tarnroteiro", TARNROTEIRO},
+                    Program{"tarnservidor", TARNSERVIDOR}),
+    [](const testing::TestParamInfo<Program>& info) { return std::string(info.param.name); });
+
+TEST(TheWalk, SaysThatItNeedsAFolder) {
+    const Ran ran = run(TARNROTEIRO, {});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err, testing::StartsWith("tarnroteiro: falta a opção --saida.\n"));
+}
+
+}  // namespace
+}  // namespace tarn::test
