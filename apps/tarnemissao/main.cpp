@@ -1,11 +1,17 @@
 // The desk.
+#include <memory>
+
 #include "desk/desk_assembly.h"
+#include "widgets/opening_display.h"
 
 namespace {
 
 constexpr char noPrinter[] =
     "tarnemissao: este programa foi compilado sem impressora do sistema; use "
     "--impressora-virtual PASTA.\n";
+constexpr char noDisplay[] =
+    "tarnemissao: não há tela em que abrir a mesa. Entre numa sessão gráfica e abra o programa de "
+    "lá; as variáveis DISPLAY e WAYLAND_DISPLAY dizem qual é a tela.\n";
 
 }  // namespace
 
@@ -20,7 +26,9 @@ int main(int argc, char** argv) {
     if (!printers.raw) {
         return tarn::cli::say({tarn::cli::statusUsage, noPrinter});
     }
+    auto opening = std::make_unique<tarn::OpeningDisplay>(noDisplay);
     tarn::DeskApplication program(argc, argv);
+    opening.reset();
     tarn::Desk desk(program, options, std::move(printers));
     desk.open();
     return program.exec();

@@ -79,5 +79,24 @@ TEST(TheWalk, SaysThatItNeedsAFolder) {
     EXPECT_THAT(ran.err, testing::StartsWith("tarnroteiro: falta a opção --saida.\n"));
 }
 
+TEST(TheDesk, WithoutADisplaySaysWhatToDo) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* display : {"", ":65000"}) {  // none, and one that isn't there
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+            environment.remove(name);
+        }
+        if (*display != '\0') {
+            environment.insert("DISPLAY", display);
+        }
+        const Ran ran = run(TARNEMISSAO, {"--impressora-virtual", "saida"}, environment);
+        EXPECT_EQ(ran.status, 1) << display;
+        EXPECT_EQ(ran.out, "");
+        EXPECT_EQ(ran.err,
+                  "tarnemissao: não há tela em que abrir a mesa. Entre numa sessão gráfica e abra "
+                  "o programa de lá; as variáveis DISPLAY e WAYLAND_DISPLAY dizem qual é a tela.\n")
+            << display;
+    }
+}
+
 }  // namespace
 }  // namespace tarn::test
