@@ -35,6 +35,6 @@ function(tarn_add_library name)
 endfunction()
 
 # What nearly every file reads, precompiled once for each of the larger targets. A file
-# includes what it uses all the same: the preset `debug` builds without.
+# includes what it uses all the same.
 set(tarn_precompiled_std <algorithm> <array> <charconv> <cmath> <cstdint> <functional> <memory>
     <optional> <span> <string> <string_view> <utility> <variant> <vector>)

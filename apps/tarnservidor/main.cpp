@@ -131,8 +131,8 @@ int main(int argc, char** argv) {
                           "Servidor de prática do TarnEmissao: a página do servidor central com "
                           "dados inventados.");
     declare(line, arguments);
-    if (const auto ending = line.read(argc, argv)) {
-        return cli::say(*ending);
+    if (const auto done = line.read(argc, argv)) {
+        return cli::say(*done);
     }
     for (const std::string& text : arguments.faultTexts) {
         if (const auto wrong = arguments.faults.add(text)) {

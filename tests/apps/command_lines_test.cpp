@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Program{"tarnemissao", TARNEMISSAO}, Program{"tarnimpressora", TARNIMPRESSORA},
                     Program{"tarnimprime", TARNIMPRIME}, Program{"tarnroteiro", TARNROTEIRO},
                     Program{"tarnservidor", TARNSERVIDOR}),
-    [](const testing::TestParamInfo<Program>& info) { return std::string(info.param.name); });
+    [](const testing::TestParamInfo<Program>& each) { return std::string(each.param.name); });
 
 TEST(TheWalk, SaysThatItNeedsAFolder) {
     const Ran ran = run(TARNROTEIRO, {});

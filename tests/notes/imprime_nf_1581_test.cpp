@@ -20,14 +20,6 @@ std::string labelled(const std::string& label, char letter) {
 }
 
 // The same on both forms.
-const std::string references =
-    line({L(2, 20, labelled("N/PED: ", 'x')), T(22, ", "), L(24, 20, labelled("S/PED: ", 'y')),
-          T(44, ", "), L(46, 30, labelled("VEND: ", 'z'))});
-const std::string condition = line({L(2, 70, labelled("COND.PAGTO: ", 'g'))});
-const std::string parcelsRow = line({T(3, "1)"), L(5, 10, "07/02/2009"), R(15, 9, "100,50"),
-                                     T(25, "2)"), L(27, 10, 'V'), R(37, 9, "123456789012345,00"),
-                                     T(47, "3)"), L(49, 10, "07/04/2009"), R(59, 9, "1300,25")});
-
 TEST(ImprimeNF1581, SetUpsGoInAJobOfTheirOwn) {
     EXPECT_EQ(print(of1581(), fullNote().xml())[0].writes, std::vector<std::string>{" \x0F"});
     EXPECT_EQ(print(of2801(), fullNote().xml())[0].writes, std::vector<std::string>{" \x0F\x1BM"});

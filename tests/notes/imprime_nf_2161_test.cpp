@@ -19,16 +19,6 @@ const notes::Form& of3383() {
     return notes::imprimeNF_2161_3383.formFor(3383);
 }
 
-std::string labelled(const std::string& label, char letter) {
-    return label + std::string(40, letter);
-}
-
-// The parcels of 3341 and 3383 stand at the same columns.
-const std::string parcelsRow =
-    line({L(6, 10, "DOC-1"), L(19, 10, "07/02/2009"), R(32, 15, "100,50"), L(60, 10, 'N'),
-          L(73, 10, 'V'), R(86, 15, "123456789012345,00"), L(114, 10, "DOC-3"),
-          L(127, 10, "07/04/2009"), R(140, 15, "1300,25")});
-
 TEST(ImprimeNF2161, SetUpGoesInAJobOfItsOwn) {
     for (const notes::Form* form : {&of3341(), &of3381(), &of3383()}) {
         const std::vector<Job> jobs = print(*form, fullNote().xml());

@@ -19,16 +19,6 @@ const notes::Form& ofOthers() {
     return notes::imprimeNF_2421.formFor(3622);
 }
 
-std::string labelled(const std::string& label, char letter) {
-    return label + std::string(40, letter);
-}
-
-// The same on the three forms.
-const std::string firstReferences =
-    line({L(2, 15, "FAT: 004567"), T(17, ", "), L(19, 20, labelled("N/PED: ", 'x'))});
-const std::string secondReferences =
-    line({L(2, 20, labelled("S/PED: ", 'y')), T(22, ", "), L(24, 30, labelled("VEND: ", 'z'))});
-
 TEST(ImprimeNF2321, TheNumberStandsAmongTheReferencesOnly) {
     const std::vector<Job> jobs = print(of2321(), fullNote().xml());
     ASSERT_EQ(jobs.size(), 2U);
@@ -77,6 +67,7 @@ TEST(ImprimeNF2421, TheLabelOfThePaymentConditionAlwaysPrints) {
 
 TEST(ImprimeNF2421, TheLegalTextsPiecesOverlap) {
     NoteDraft note = fullNote();
+    note.head["DC_OBS"] = "";
     for (Attributes& item : note.items) {
         item["DC_TXT_LEG_NF"] = ruler(1, 130);
     }

@@ -16,39 +16,9 @@ const notes::Form& form5282() {
     return notes::imprimeNF_E5282.formFor(5282);
 }
 
-const std::string threeParcels =
-    line({T(3, "1)"), L(5, 10, "DOC-1"), L(16, 10, "07/02/2009"), R(27, 12, "100,50"), T(42, "2)"),
-          L(44, 10, 'N'), L(55, 10, 'V'), R(66, 12, "123456789012345,00"), T(81, "3)"),
-          L(83, 10, "DOC-3"), L(94, 10, "07/04/2009"), R(105, 12, "1300,25")});
-
-std::string item(std::size_t unit, bool first) {
-    return first ? line({L(2, 10, 'P'), L(19, 65, 'D'), L(90, 4, "oSSS"), L(unit, 6, 'U'),
-                         R(110, 7, "10000000,000"), R(122, 13, unitPrice), R(138, 19, lineTotal),
-                         R(159, 2, "18")})
-                 : line({L(2, 10, "P-002"), L(19, 65, "ARRUELA LISA"), L(90, 4, "120"),
-                         L(unit, 6, "UN"), R(110, 7, "400,000"), R(122, 13, "1234,50"),
-                         R(138, 19, "493.800,00"), R(159, 2, "7")});
-}
-
-// Recipient, address and town.
-const std::string recipient =
-    line({L(2, 90, 'r'), L(102, 28, "12.345.678/0001-95"), L(142, 14, 'd')});
-const std::string address =
-    line({L(2, 68, 'e'), L(76, 35, 'b'), L(115, 12, "01310-100"), L(133, 14, "")});
-const std::string town =
-    line({L(2, 56, 'm'), L(68, 16, 'f'), L(101, 3, 'u'), L(109, 28, 'i'), L(143, 14, "")});
-// Totals, carrier and volumes.
+// The totals of the taxes.
 const std::string taxes = line({R(3, 25, wide('1')), R(33, 23, wide('2')), R(63, 22, wide('3')),
                                 R(101, 22, wide('4')), R(136, 25, wide('5'))});
-const std::string totals = line({R(3, 25, "10,00"), R(33, 23, "5,50"), R(63, 22, "0,25"),
-                                 R(101, 22, "80,04"), R(136, 25, "1.696,54")});
-const std::string carrier = line({L(2, 62, 't'), L(86, 2, 'q'), L(96, 13, 'p'), L(118, 2, 'v'),
-                                  L(124, 22, " 2.345.678/0001-10")});
-const std::string carrierTown =
-    line({L(2, 65, 'l'), L(79, 38, 'w'), L(119, 2, 's'), L(124, 20, 'k')});
-const std::string volumes =
-    line({R(2, 13, "12,000"), L(20, 17, "VOLUME"), L(42, 25, ""), L(69, 24, ""),
-          R(126, 22, "123.456.789.012.345,000"), R(149, 12, "1.200,000")});
 
 TEST(ImprimeNF3601, SetUpAndFirstCalls) {
     const std::vector<Job> jobs = print(form3601(), fullNote().xml());

@@ -23,19 +23,6 @@ const notes::Form& form6001() {
 const std::string plain = " \x12";
 const std::string condensed = " \x0F\x1BM";
 
-const std::string recipient = plain + line({L(2, 46, 'r'), L(59, 18, "12.345.678/0001-95")}) +
-                              condensed + line({L(2, 14, 'd')});
-
-// The item's code goes ahead in its own call.
-const std::string firstItem =
-    line({L(3, 6, 'P')}) +
-    line({L(4, 70, 'D'), L(92, 4, "oSSS"), L(98, 4, 'U'), R(107, 7, "10.000.000,000"),
-          R(115, 12, unitPrice), R(134, 13, lineTotal), L(149, 2, "18,00")});
-const std::string secondItem =
-    line({L(3, 6, "P-002")}) +
-    line({L(4, 70, "ARRUELA LISA"), L(92, 4, "120"), L(98, 4, "UN"), R(107, 7, "400,000"),
-          R(115, 12, "1234,50"), R(134, 13, "493.800,00"), L(149, 2, "7,00")});
-
 std::string parcels(const Lines& documents, const Lines& dates, const Lines& values) {
     std::vector<Cell> cells;
     for (std::size_t i = 0; i < documents.size(); ++i) {
@@ -47,10 +34,6 @@ std::string parcels(const Lines& documents, const Lines& dates, const Lines& val
     }
     return line(cells);
 }
-
-const std::string threeParcels =
-    parcels({"DOC-1", "NNNNNNNNNN", "DOC-3"}, {"07/02/2009", "VVVVVVVVVV", "07/04/2009"},
-            {"100,50", "123456789012345,00", "1300,25"});
 
 TEST(ImprimeNF3881, ControlBytesAreCallsOfTheirOwn) {
     for (const notes::Form* form : {&form3881(), &form6001()}) {

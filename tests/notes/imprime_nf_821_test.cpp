@@ -16,8 +16,6 @@ const notes::Form& form3301() {
     return notes::imprimeNF_3301.formFor(1);
 }
 
-const std::string classes = "CL. FISCAL -  12345) 84818099  2) 84811 ";
-
 TEST(ImprimeNF821, TheNoteBeginsWithTheLineEndsBehindTheSetUp) {
     const std::vector<Job> jobs = print(form821(), fullNote().xml());
     ASSERT_EQ(jobs.size(), 2U);
