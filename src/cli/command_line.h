@@ -76,7 +76,7 @@ public:
     Option oneOf(const std::string& name, std::string& into, const std::vector<std::string>& words,
                  const std::string& about);
     Option flag(const std::string& name, bool& into, const std::string& about);
-    // --pagina-de-codigo
+    // `--pagina-de-codigo`
     Option codePage(CodePage& into);
 
     // For a command: called when it is the one given.

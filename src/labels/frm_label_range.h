@@ -1,5 +1,5 @@
 // What deletion and printing of labels share as dialogs: a range of sequence numbers of the
-// queue, OK and Cancelar.
+// queue, OK and "Cancelar".
 #pragma once
 
 #include <QDialog>
