@@ -49,7 +49,7 @@ std::string documentsOf(int rows) {
         all.append(n).append(
             "' EG_COB='RUA DO PORTO, 3' MUN_COB='SANTOS' ES_COB='SP' CD_CEP_COB='11000-000'/>");
     }
-    return tarn::answers::rowset(all);
+    return tarn::test::answers::rowset(all);
 }
 
 // The search shown in a window of its own, its fields filled.
@@ -72,7 +72,7 @@ public:
     }
 
 private:
-    tarn::TestEnvironment seams_;
+    tarn::test::TestEnvironment seams_;
     tarn::Environment environment_;
     tarn::Sessao session_;
     tarn::ProgramEnd end_;
@@ -117,7 +117,7 @@ void bill_search(benchmark::State& state) {
             benchmark::Counter(leastOf(filled[rows]) * 1e6 / rows);
     }
 }
-BENCHMARK(bill_search)->Iterations(7)->Unit(benchmark::millisecond);
+BENCHMARK(bill_search)->Iterations(7)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

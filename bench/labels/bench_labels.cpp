@@ -69,7 +69,7 @@ public:
 
 tarn::XmlDocument parsed(const std::string& rows) {
     tarn::XmlDocument document;
-    document.loadXML(tarn::answers::rowset(rows));
+    document.loadXML(tarn::test::answers::rowset(rows));
     return document;
 }
 
@@ -145,7 +145,7 @@ void measure(const char* what, const Small& printSmall, const Large& printLarge)
 }
 
 void labels(benchmark::State& state) {
-    tarn::TestEnvironment seams;
+    tarn::test::TestEnvironment seams;
     CountingSpooler spooler;
     CountingPrinter printer;
     SilentBoxes boxes;
@@ -173,7 +173,7 @@ void labels(benchmark::State& state) {
             [&] { tarn::labels::printSelection(environment, manyTicked, {}); });
     }
 }
-BENCHMARK(labels)->Iterations(31)->Unit(benchmark::millisecond);
+BENCHMARK(labels)->Iterations(31)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

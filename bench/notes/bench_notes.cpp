@@ -144,9 +144,9 @@ void note(benchmark::State& state) {
     state.counters["layout_ns_per_item"] = Counter(layout * 1e9 / items);
     state.counters["ratio"] = Counter(ratioOf(times.whole, times.bare));
 }
-BENCHMARK(note)->Arg(5)->Iterations(4000)->Unit(benchmark::microsecond);
-BENCHMARK(note)->Arg(50)->Iterations(1000)->Unit(benchmark::microsecond);
-BENCHMARK(note)->Arg(5000)->Iterations(41)->Unit(benchmark::microsecond);
+BENCHMARK(note)->Arg(5)->Iterations(4000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(note)->Arg(50)->Iterations(1000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(note)->Arg(5000)->Iterations(41)->Unit(benchmark::kMicrosecond);
 
 struct LadderForm {
     const char* name;
@@ -194,7 +194,7 @@ private:
 
 // Parse and layout of the same note on one form over the bare parse.
 double ratioOfForm(const LadderForm& form, const std::string& xml) {
-    tarn::TestEnvironment seams;
+    tarn::test::TestEnvironment seams;
     CountingSpooler spooler;
     CountingPrinter printer;
     tarn::Environment environment{.http = seams.loader,

@@ -40,7 +40,7 @@ std::string ordersOf(int rows) {
         all.append("' TRANSPORTADORA='TRANSPORTES RÁPIDOS' NM_PES_MOT='JOÃO' DC_OBS='' QT_ESP='");
         all.append(n).append(".5' PESO_BRU='1234.891' PESO_LIQ='1200'/>");
     }
-    return tarn::answers::rowset(all);
+    return tarn::test::answers::rowset(all);
 }
 
 // The order list shown in a window of its own.
@@ -57,7 +57,7 @@ public:
     }
 
 private:
-    tarn::TestEnvironment seams_;
+    tarn::test::TestEnvironment seams_;
     tarn::Environment environment_;
     tarn::Sessao session_;
     tarn::ProgramEnd end_;
@@ -93,7 +93,7 @@ void order_list(benchmark::State& state) {
             benchmark::Counter(leastOf(measured()[rows]) * 1e6 / rows);
     }
 }
-BENCHMARK(order_list)->Iterations(7)->Unit(benchmark::millisecond);
+BENCHMARK(order_list)->Iterations(7)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

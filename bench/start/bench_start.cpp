@@ -61,8 +61,9 @@ void tell(const char* what, const Starts& starts) {
 int main(int /*argc*/, char** argv) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     setenv("QT_LOGGING_RULES", "*=false", 1);
-    tarn::LoopbackServer server;
-    server.on("VERSAO_TARN_EMISSAO", tarn::LoopbackReply::xml(tarn::answers::version("OK")));
+    tarn::test::LoopbackServer server;
+    server.on("VERSAO_TARN_EMISSAO",
+              tarn::test::LoopbackReply::xml(tarn::test::answers::version("OK")));
     const std::filesystem::path folder = std::filesystem::path(argv[0]).parent_path();
     Starts desk{folder / "start_desk", {}, {}};
     Starts text{folder / "start_text_window", {}, {}};

@@ -19,7 +19,7 @@ private:
 };
 
 // The seams of the tests over that server.
-inline Environment environmentOver(AnswerAtHand& server, TestEnvironment& seams) {
+inline Environment environmentOver(AnswerAtHand& server, test::TestEnvironment& seams) {
     return {.http = server,
             .spooler = seams.spooler,
             .printer = seams.printer,
