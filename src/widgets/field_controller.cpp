@@ -124,13 +124,13 @@ void FieldController::apply(const FieldResult& result) {
         edit_->setText(QString::fromStdString(result.text));
         return;
     }
-    gate_.shut();
+    refusing_.emplace(InputGate::ofApplication());
     QMetaObject::invokeMethod(
         this, [this, result] { refuse(result); }, Qt::QueuedConnection);
 }
 
 void FieldController::refuse(const FieldResult& result) {
-    gate_.open();
+    refusing_.reset();
     environment_.boxes.show(*result.box);
     edit_->setText(QString::fromStdString(result.text));
     if (result.refocus) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <optional>
 
 #include "common/field_rules.h"
 #include "platform/qt/input_gate.h"
@@ -68,7 +69,7 @@ private:
     KeyFilter filter_;
     Environment& environment_;
     EnterKey enterKey_;
-    InputGate gate_;
+    std::optional<ShutGate> refusing_;
     bool editing_ = false;
     bool selectAfterClick_ = false;
 };

@@ -36,7 +36,7 @@ private:
     void repaint();
 
     QWidget& screen_;
-    InputGate gate_;
+    InputGate& gate_ = InputGate::ofApplication();
     QElapsedTimer start_;
     QElapsedTimer painting_;  // since the windows last repainted
     std::unique_ptr<QWidget> window_;

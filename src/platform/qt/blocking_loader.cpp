@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QScopedValueRollback>
 #include <future>
 #include <stdexcept>
 #include <thread>
@@ -14,9 +15,10 @@ HttpAnswer BlockingLoader::get(const std::string& address) {
     if (closed_) {
         return {};
     }
-    if (gate_.isShut()) {
+    if (underWay_) {
         throw std::logic_error("a second request while one is under way");
     }
+    const QScopedValueRollback<bool> underWay(underWay_, true);
     const WaitCursor hourglass;
     const ShutGate shut(gate_);
     QEventLoop loop;
@@ -28,7 +30,7 @@ HttpAnswer BlockingLoader::get(const std::string& address) {
     });
     loop.exec();
     worker.join();
-    QCoreApplication::processEvents();  // what came in with the answer is discarded too
+    QCoreApplication::processEvents();  // what came in with the answer came in time
     return answer.get();
 }
 

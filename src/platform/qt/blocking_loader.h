@@ -21,7 +21,8 @@ public:
 
 private:
     HttpLoader& loader_;
-    InputGate gate_;
+    InputGate& gate_ = InputGate::ofApplication();
+    bool underWay_ = false;
     bool closed_ = false;
 };
 
