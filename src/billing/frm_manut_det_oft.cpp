@@ -6,8 +6,8 @@
 
 #include "billing/orders.h"
 #include "common/boxes.h"
+#include "platform/qt/acting_keys.h"
 #include "ui_frm_manut_det_oft.h"
-#include "widgets/enter_presses_button.h"
 #include "widgets/field_families.h"
 #include "widgets/form_helpers.h"
 #include "widgets/look.h"
@@ -119,7 +119,7 @@ void frmManutDetOFT::cmdOk_Click() {
 }
 
 void frmManutDetOFT::keyPressEvent(QKeyEvent* event) {
-    if (!enterPressesButton(*this, *event)) {
+    if (!isEnter(*event)) {
         QDialog::keyPressEvent(event);
     }
 }

@@ -20,7 +20,6 @@ frmMensagemAlerta::frmMensagemAlerta(Sessao& session, AlertMode mode, QWidget* p
         QString::fromStdString(replaceAll(session_.TextoMensagem, "\n", "\r\n")));
     ui_->txtMensagem->setMinimumSize(fontMetrics().averageCharWidth() * 64,
                                      fontMetrics().lineSpacing() * 10);
-    (outOfStock ? ui_->cmdVoltar : ui_->cmdOk)->setDefault(true);
     connect(ui_->cmdOk, &QPushButton::clicked, this, [this] { respond("S"); });
     connect(ui_->cmdCancelar, &QPushButton::clicked, this, [this] { respond("N"); });
     connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::reject);

@@ -4,9 +4,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMdiSubWindow>
-#include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QTimer>
 
 #include "billing/frm_manut_det_oft.h"
 #include "billing/frm_mensagem_alerta.h"
@@ -14,8 +12,10 @@
 #include "billing/observations.h"
 #include "billing/order_sheet.h"
 #include "common/boxes.h"
+#include "platform/qt/tick.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_oft.h"
+#include "widgets/gesture_filter.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 #include "widgets/look.h"
@@ -26,27 +26,18 @@ namespace {
 constexpr int intervalMs = 60000;
 constexpr int visibleLines = 18;
 
-// What follows a click or a key without the user having looked again.
-bool isRepeatedGesture(const QEvent& event) {
-    return event.type() == QEvent::MouseButtonDblClick ||
-           (event.type() == QEvent::KeyPress &&
-            static_cast<const QKeyEvent&>(event).isAutoRepeat());
-}
-
 }  // namespace
 
 FrmOFT::FrmOFT(DeskContext& desk)
     : desk_(desk),
       ui_(std::make_unique<Ui::FrmOFT>()),
       orders_(new GridModel(orderGrid(), this)),
-      timer_(new QTimer(this)) {
+      timer_(new Tick(intervalMs, this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *orders_);
     prepareButtons();
     timer_->setObjectName(QStringLiteral("Timer"));
-    timer_->setInterval(intervalMs);
-    connect(timer_, &QTimer::timeout, this, &FrmOFT::Timer_Tick);
-    ui_->cmdSelecionar->installEventFilter(this);
+    connect(timer_, &Tick::ticked, this, &FrmOFT::Timer_Tick);
 }
 
 FrmOFT::~FrmOFT() = default;
@@ -91,13 +82,10 @@ void FrmOFT::loadSpread() {
     orders_->show(loadOrders(desk_.environment, desk_.session));
 }
 
-// A tick that comes while the one before still shows its box is dropped, so that boxes
-// don't pile up on a desk that nobody sits at.
+// Nobody asked for it: what is typed or clicked elsewhere meanwhile still counts, but the
+// rows here are others afterwards.
 void FrmOFT::Timer_Tick() {
-    if (noTick_) {
-        return;
-    }
-    const QScopedValueRollback<bool> keep(noTick_, true);
+    const Unasked tick(InputGate::ofApplication(), this);
     loadSpread();
 }
 
@@ -127,6 +115,7 @@ void FrmOFT::cmdSelecionar_Click() {
         GenerationEnd::Finished) {
         loadSpread();
         timer_->start();
+        ignoreClicksHere(*ui_->cmdSelecionar);  // the next order is the selected one
     }
 }
 
@@ -171,16 +160,10 @@ void FrmOFT::CmdFechar_Click() {
     }
 }
 
-// After a note the next order is the selected one: the second click of a double click
-// and a key held down would generate its note too.
-bool FrmOFT::eventFilter(QObject* /*watched*/, QEvent* event) {
-    return isRepeatedGesture(*event);
-}
-
 // No shortcut: that would also be taken from a dialog that is just opening over this
 // screen, and close the screen under it.
 void FrmOFT::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && !event->isAutoRepeat()) {
+    if (event->key() == Qt::Key_Escape) {
         ui_->CmdFechar->click();
     } else {
         QWidget::keyPressEvent(event);

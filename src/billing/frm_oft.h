@@ -9,8 +9,6 @@
 #include "billing/orders.h"
 #include "widgets/desk_context.h"
 
-class QTimer;
-
 namespace Ui {
 class FrmOFT;
 }
@@ -18,6 +16,7 @@ class FrmOFT;
 namespace tarn {
 
 class GridModel;
+class Tick;
 
 class FrmOFT : public QWidget {
     Q_OBJECT
@@ -38,7 +37,6 @@ signals:
     void closed();
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -58,8 +56,7 @@ private:
     DeskContext& desk_;
     std::unique_ptr<Ui::FrmOFT> ui_;
     GridModel* orders_;
-    QTimer* timer_;
-    bool noTick_ = false;
+    Tick* timer_;
 };
 
 }  // namespace tarn

@@ -7,8 +7,8 @@
 #include "bills/bill_search.h"
 #include "bills/print_bills.h"
 #include "common/boxes.h"
+#include "platform/qt/acting_keys.h"
 #include "ui_frm_pesq_dupli.h"
-#include "widgets/enter_presses_button.h"
 #include "widgets/form_helpers.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
@@ -144,8 +144,9 @@ void FrmPesqDupli::cmdImprimir_Click() {
                   progress.notices());
 }
 
+// Neither key presses a button that hasn't the focus.
 void FrmPesqDupli::keyPressEvent(QKeyEvent* event) {
-    if (!enterPressesButton(*this, *event)) {
+    if (!isEnter(*event) && event->key() != Qt::Key_Escape) {
         QDialog::keyPressEvent(event);
     }
 }

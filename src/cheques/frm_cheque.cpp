@@ -1,12 +1,11 @@
 #include "cheques/frm_cheque.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <utility>
 
 #include "common/boxes.h"
+#include "platform/qt/acting_keys.h"
 #include "ui_frm_cheque.h"
-#include "widgets/enter_presses_button.h"
 #include "widgets/field_families.h"
 #include "widgets/form_helpers.h"
 #include "widgets/look.h"
@@ -23,20 +22,12 @@ constexpr int maxObservation = 250;
 constexpr int screenWidth = 76;
 constexpr int shortWidth = 26;
 constexpr int observationLines = 5;
-constexpr int clickWait = 20;  // milliseconds between two looks at the mouse
-
-bool isEnter(const QKeyEvent& key) {
-    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-}
 
 }  // namespace
 
 frmCheque::frmCheque(DeskContext& desk, QWidget* parent)
     : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::frmCheque>()) {
     ui_->setupUi(this);
-    wait_.setObjectName(QStringLiteral("wait"));
-    wait_.setSingleShot(true);
-    connect(&wait_, &QTimer::timeout, this, &frmCheque::waitEnded);
     prepareFields();
     prepareButtons();
 }
@@ -46,6 +37,7 @@ frmCheque::~frmCheque() = default;
 void frmCheque::prepareFields() {
     Environment& environment = desk_.environment;
     ui_->cboBancoAgConta->installEventFilter(this);
+    letEnterMoveOn(*ui_->cboBancoAgConta);
     ui_->txtNumeroCheque->setMaxLength(maxNumber);
     ui_->txtSerie->setMaxLength(maxSeries);
     ui_->txtValor->setMaxLength(maxAmount);
@@ -61,7 +53,7 @@ void frmCheque::prepareFields() {
     onlyTakes(*ui_->txtNumeroCheque, QStringLiteral("[0-9]*"), environment.machine);
     onlyTakes(*ui_->txtValor, QStringLiteral("[0-9.,]*"), environment.machine);
     for (const FieldController* key : {number, series}) {
-        connect(key, &FieldController::wasLeft, &wait_, [this] { wait_.start(0); });
+        connect(key, &FieldController::wasLeft, this, &frmCheque::checkOnLeaving);
     }
     const int character = fontMetrics().averageCharWidth();
     ui_->cboBancoAgConta->setMinimumWidth(character * screenWidth);
@@ -80,7 +72,7 @@ void frmCheque::prepareButtons() {
         button->setIconSize({side, side});
     }
     connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmCheque::cmdImprimir_Click);
-    connect(ui_->cmdCancelar, &QPushButton::clicked, this, &frmCheque::cmdCancelar_Click);
+    connect(ui_->cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmCheque::load() {
@@ -136,33 +128,26 @@ void frmCheque::clearFields() {
     ui_->txtObservacao->loadText({});
 }
 
-// Once the focus has settled, and not between the two halves of a click: the second one
-// would be lost to the request.
-void frmCheque::waitEnded() {
-    if (QGuiApplication::mouseButtons() != Qt::NoButton ||
-        QApplication::activePopupWidget() != nullptr) {
-        wait_.start(clickWait);
-    } else {
-        checkNumber();
-    }
-}
-
-void frmCheque::checkNumber() {
-    if (const auto refuse = numberRefusal(desk_.environment, desk_.session, fields())) {
-        warn(desk_.environment, refuse->text);
-    }
-}
-
-// A click that took the focus counts after what its leaving asks for.
-void frmCheque::checkBeforeClick() {
-    if (wait_.isActive()) {
-        wait_.stop();
-        checkNumber();
-    }
+// Once the focus has settled, with the fields as they were left. Until then and while the
+// server answers all input waits, a click that took the focus too; it counts afterwards.
+void frmCheque::checkOnLeaving() {
+    leaving_ = std::make_unique<Leaving>();
+    QMetaObject::invokeMethod(
+        this,
+        [this, left = fields()] {
+            std::optional<ChequeRefusal> refusal;
+            {
+                const std::unique_ptr<Leaving> ends = std::move(leaving_);
+                refusal = numberRefusal(desk_.environment, desk_.session, left);
+            }
+            if (refusal) {
+                warn(desk_.environment, refusal->text);
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void frmCheque::cmdImprimir_Click() {
-    checkBeforeClick();
     const ChequeFields cheque = fields();
     if (refused(fieldRefusal(cheque)) ||
         refused(numberRefusal(desk_.environment, desk_.session, cheque))) {
@@ -174,11 +159,6 @@ void frmCheque::cmdImprimir_Click() {
     }
 }
 
-void frmCheque::cmdCancelar_Click() {
-    checkBeforeClick();
-    reject();
-}
-
 bool frmCheque::eventFilter(QObject* watched, QEvent* event) {
     if (watched == ui_->cboBancoAgConta && event->type() == QEvent::KeyPress &&
         isEnter(*static_cast<QKeyEvent*>(event))) {
@@ -188,8 +168,9 @@ bool frmCheque::eventFilter(QObject* watched, QEvent* event) {
     return QDialog::eventFilter(watched, event);
 }
 
+// Neither key presses a button that hasn't the focus.
 void frmCheque::keyPressEvent(QKeyEvent* event) {
-    if (!enterPressesButton(*this, *event)) {
+    if (!isEnter(*event) && event->key() != Qt::Key_Escape) {
         QDialog::keyPressEvent(event);
     }
 }

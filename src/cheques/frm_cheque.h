@@ -3,11 +3,12 @@
 #pragma once
 
 #include <QDialog>
-#include <QTimer>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "cheques/issue_cheque.h"
+#include "platform/qt/input_gate.h"
 #include "widgets/desk_context.h"
 
 namespace Ui {
@@ -32,6 +33,11 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    struct Leaving {
+        Unasked unasked{InputGate::ofApplication()};
+        ShutGate shut{InputGate::ofApplication()};
+    };
+
     void prepareFields();
     void prepareButtons();
     void Carrega_CboBancoAgConta();
@@ -41,16 +47,13 @@ private:
     bool refused(const std::optional<ChequeRefusal>& refuse);
     void clearFields();
 
-    void waitEnded();
-    void checkNumber();
-    void checkBeforeClick();
+    void checkOnLeaving();
     void cmdImprimir_Click();
-    void cmdCancelar_Click();
 
     DeskContext& desk_;
     std::unique_ptr<Ui::frmCheque> ui_;
     std::vector<BankAccount> accounts_;  // by position of the list
-    QTimer wait_;                        // runs from leaving number or series to its check
+    std::unique_ptr<Leaving> leaving_;   // from leaving number or series to its check
 };
 
 }  // namespace tarn

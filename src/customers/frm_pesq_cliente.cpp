@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "common/boxes.h"
+#include "platform/qt/acting_keys.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_pesq_cliente.h"
 #include "widgets/grid_model.h"
@@ -39,8 +40,9 @@ void FrmPesqCliente::prepareButtons() {
     connect(ui_->cmdPesquisar, &QPushButton::clicked, this, &FrmPesqCliente::cmdPesquisar_Click);
     connect(ui_->cmdSelecionar, &QPushButton::clicked, this, &FrmPesqCliente::cmdSelecionar_Click);
     connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::reject);
-    // A double click on a row, and Enter in the grid.
-    connect(ui_->sprDados, &QTableView::activated, this, &FrmPesqCliente::cmdSelecionar_Click);
+    connect(ui_->txtNmCli, &QLineEdit::returnPressed, ui_->cmdPesquisar, &QPushButton::click);
+    // Not the signal that a desktop may want after a single click.
+    connect(ui_->sprDados, &QTableView::doubleClicked, this, &FrmPesqCliente::cmdSelecionar_Click);
 }
 
 // What goes wrong in here beyond the request is not shown: the search can be repeated.
@@ -71,11 +73,12 @@ void FrmPesqCliente::cmdSelecionar_Click() {
     accept();
 }
 
-// Enter in the grid is no click on the default button.
+// Enter chooses the grid's row; elsewhere it has been taken.
 void FrmPesqCliente::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter || !ui_->sprDados->hasFocus()) {
+    if (!isEnter(*event)) {
         QDialog::keyPressEvent(event);
+    } else if (ui_->sprDados->hasFocus() && ui_->sprDados->currentIndex().isValid()) {
+        cmdSelecionar_Click();
     }
 }
 

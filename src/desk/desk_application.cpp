@@ -1,7 +1,9 @@
 #include "desk/desk_application.h"
 
 #include "platform/message_boxes.h"
+#include "platform/qt/input_gate.h"
 #include "widgets/desk_context.h"
+#include "widgets/gesture_filter.h"
 #include "widgets/look.h"
 
 namespace tarn {
@@ -9,6 +11,7 @@ namespace tarn {
 DeskApplication::DeskApplication(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("TarnEmissao"));
     setQuitOnLastWindowClosed(false);  // the program ends where it says so, nowhere else
+    new GestureFilter(*this);
     applyLook(*this);
 }
 
@@ -25,6 +28,7 @@ bool DeskApplication::notify(QObject* receiver, QEvent* event) {
 }
 
 void reportError(const DeskContext& desk, const std::exception_ptr& error) {
+    const TicksWait noTicks(InputGate::ofApplication());
     Box box;
     box.icon = BoxIcon::Critical;
     try {

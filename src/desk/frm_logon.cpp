@@ -7,6 +7,7 @@
 #include "desk/start.h"
 #include "maker.h"
 #include "platform/message_boxes.h"
+#include "platform/qt/acting_keys.h"
 #include "platform/qt/wait_cursor.h"
 #include "runtime/runtime_error.h"
 #include "ui_frm_logon.h"
@@ -22,6 +23,7 @@ FrmLogon::FrmLogon(DeskContext& desk, QWidget* parent)
     ui_->imgProgram->setPixmap(windowIcon().pixmap(QSize(side, side), devicePixelRatio()));
     for (QLineEdit* field : {ui_->txtEmpresa, ui_->txtUsuario}) {
         field->installEventFilter(this);
+        letEnterMoveOn(*field);
         field->setMinimumWidth(field->fontMetrics().averageCharWidth() * 32);
     }
     layout()->setSizeConstraint(QLayout::SetFixedSize);
@@ -43,11 +45,7 @@ void FrmLogon::reject() {
 // Enter in the first two fields is a Tab stroke; in the password the default button
 // takes it.
 bool FrmLogon::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress) {
-        return false;
-    }
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key != Qt::Key_Return && key != Qt::Key_Enter) {
+    if (event->type() != QEvent::KeyPress || !isEnter(*static_cast<QKeyEvent*>(event))) {
         return false;
     }
     if (watched == ui_->txtUsuario) {

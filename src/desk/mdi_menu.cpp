@@ -18,6 +18,7 @@
 #include "labels/frm_impr_etiq.h"
 #include "labels/frm_pesq_etiquetas.h"
 #include "platform/machine.h"
+#include "platform/qt/input_gate.h"
 #include "platform/qt/wait_cursor.h"
 #include "reprint/frm_reimprime_nf.h"
 #include "runtime/version.h"
@@ -52,6 +53,7 @@ MDIMenu::MDIMenu(DeskContext& desk)
       ui_(std::make_unique<Ui::MDIMenu>()),
       collection_(std::make_unique<CollectionScreens>(desk, *this)) {
     ui_->setupUi(this);
+    InputGate::ofApplication().letClose(*this);
     ui_->mnuNF->insertSeparator(ui_->mCNF)->setObjectName(QStringLiteral("NFtraco"));
     panel1_ = newPanel(*ui_->StatusBar1, "Panel1", QStringLiteral("Impressora configurada"), 3);
     panel2_ = newPanel(*ui_->StatusBar1, "Panel2", QStringLiteral("Estabelecimento"), 2);

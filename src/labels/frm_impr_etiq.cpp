@@ -7,9 +7,9 @@
 #include "common/boxes.h"
 #include "labels/customer_selection.h"
 #include "labels/print_selection.h"
+#include "platform/qt/acting_keys.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_impr_etiq.h"
-#include "widgets/enter_presses_button.h"
 #include "widgets/field_families.h"
 #include "widgets/form_helpers.h"
 #include "widgets/grid_model.h"
@@ -149,8 +149,9 @@ void FrmImprEtiq::cmdImprimir_Click() {
     labels::printSelection(desk_.environment, customers_->lines(), progress.notices());
 }
 
+// Neither key presses a button that hasn't the focus.
 void FrmImprEtiq::keyPressEvent(QKeyEvent* event) {
-    if (!enterPressesButton(*this, *event)) {
+    if (!isEnter(*event) && event->key() != Qt::Key_Escape) {
         QDialog::keyPressEvent(event);
     }
 }

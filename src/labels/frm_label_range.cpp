@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QShowEvent>
 
-#include "widgets/enter_presses_button.h"
+#include "platform/qt/acting_keys.h"
 #include "widgets/field_controller.h"
 #include "widgets/look.h"
 
@@ -39,8 +39,9 @@ void FrmLabelRange::showEvent(QShowEvent* event) {
     }
 }
 
+// Neither key presses a button that hasn't the focus.
 void FrmLabelRange::keyPressEvent(QKeyEvent* event) {
-    if (!enterPressesButton(*this, *event)) {
+    if (!isEnter(*event) && event->key() != Qt::Key_Escape) {
         QDialog::keyPressEvent(event);
     }
 }

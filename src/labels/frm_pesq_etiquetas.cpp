@@ -7,9 +7,9 @@
 #include "labels/frm_excluir_etiqueta.h"
 #include "labels/frm_imprimir_etiqueta.h"
 #include "labels/queue.h"
+#include "platform/qt/acting_keys.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_pesq_etiquetas.h"
-#include "widgets/enter_presses_button.h"
 #include "widgets/form_helpers.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
@@ -138,8 +138,9 @@ void frmPesqEtiquetas::cmdExcluir_Click() {
     runModal(deletion);
 }
 
+// Neither key presses a button that hasn't the focus.
 void frmPesqEtiquetas::keyPressEvent(QKeyEvent* event) {
-    if (!enterPressesButton(*this, *event)) {
+    if (!isEnter(*event) && event->key() != Qt::Key_Escape) {
         QDialog::keyPressEvent(event);
     }
 }

@@ -3,13 +3,13 @@
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QMdiSubWindow>
-#include <QShortcut>
 #include <QStyledItemDelegate>
 #include <QVariant>
 
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_reimprime_nf.h"
 #include "widgets/field_controller.h"
+#include "widgets/gesture_filter.h"
 #include "widgets/look.h"
 
 namespace tarn {
@@ -66,9 +66,6 @@ FrmReImprimeNF::FrmReImprimeNF(DeskContext& desk, NoteJob job)
     prepareButtons();
     connect(ui_->txtNF, &QLineEdit::textChanged, this, &FrmReImprimeNF::LimpaDados);
     connect(ui_->cboSerie, &QComboBox::activated, this, &FrmReImprimeNF::LimpaDados);
-    auto* esc =
-        new QShortcut(Qt::Key_Escape, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
-    connect(esc, &QShortcut::activated, ui_->CmdFechar, &QPushButton::click);
 }
 
 FrmReImprimeNF::~FrmReImprimeNF() = default;
@@ -168,6 +165,7 @@ void FrmReImprimeNF::cmdSelecionar_Click() {
     const std::string series = tagDe(*ui_->LBLNOTA);
     if (!cancelling()) {
         reprintNote(desk_.environment, desk_.session, number, series);
+        ignoreClicksHere(*ui_->cmdSelecionar);
         return;
     }
     CancelRequest request{.number = number, .series = series, .noteKind = tagDe(*ui_->LblTipoNf)};

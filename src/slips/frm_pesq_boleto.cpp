@@ -3,10 +3,10 @@
 #include <QKeyEvent>
 
 #include "common/boxes.h"
+#include "platform/qt/acting_keys.h"
 #include "slips/print_slips.h"
 #include "slips/slip_search.h"
 #include "ui_frm_pesq_boleto.h"
-#include "widgets/enter_presses_button.h"
 #include "widgets/field_controller.h"
 #include "widgets/form_helpers.h"
 #include "widgets/grid_model.h"
@@ -150,8 +150,9 @@ void frmPesqBoleto::chkInc_Carteira_Click(bool ticked) {
     }
 }
 
+// Neither key presses a button that hasn't the focus.
 void frmPesqBoleto::keyPressEvent(QKeyEvent* event) {
-    if (!enterPressesButton(*this, *event)) {
+    if (!isEnter(*event) && event->key() != Qt::Key_Escape) {
         QDialog::keyPressEvent(event);
     }
 }

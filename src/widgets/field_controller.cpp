@@ -11,16 +11,13 @@
 #include "platform/environment.h"
 #include "platform/machine.h"
 #include "platform/message_boxes.h"
+#include "platform/qt/acting_keys.h"
 
 namespace tarn {
 namespace {
 
 constexpr Qt::KeyboardModifiers commandModifiers =
     Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-
-bool isEnter(const QKeyEvent& key) {
-    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-}
 
 // Keys that stand for no character of a text, whatever Qt writes into their text.
 bool isCharacter(const QKeyEvent& key) {
@@ -51,6 +48,9 @@ FieldController::FieldController(QLineEdit* edit, KeyFilter filter, Environment&
                                  EnterKey enterKey)
     : QObject(edit), edit_(edit), filter_(filter), environment_(environment), enterKey_(enterKey) {
     edit->installEventFilter(this);
+    if (enterKey != EnterKey::BeepOnly) {
+        letEnterMoveOn(*edit);
+    }
 }
 
 bool FieldController::eventFilter(QObject* watched, QEvent* event) {

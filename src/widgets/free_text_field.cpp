@@ -7,6 +7,7 @@
 #include <QTextBlock>
 #include <algorithm>
 
+#include "platform/qt/acting_keys.h"
 #include "widgets/field_controller.h"
 
 namespace tarn {
@@ -23,6 +24,7 @@ QString oneParagraph(QString text) {
 
 FreeTextField::FreeTextField(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
+    letEnterMoveOn(*this);
 }
 
 void FreeTextField::loadText(const std::string& text) {
@@ -68,7 +70,7 @@ void FreeTextField::withinLimit(Edit edit) {
 }
 
 void FreeTextField::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (isEnter(*event)) {
         sendTab(*this);
         return;
     }

@@ -28,10 +28,6 @@ quint64 since(quint64 then, quint64 now) {
     return static_cast<quint32>(now - then);
 }
 
-bool isEnter(const QKeyEvent& stroke) {
-    return stroke.key() == Qt::Key_Return || stroke.key() == Qt::Key_Enter;
-}
-
 QPoint globalOf(const QMouseEvent& event) {
     return event.globalPosition().toPoint();
 }
@@ -137,7 +133,7 @@ bool GestureFilter::dropsStroke(QObject* receiver, const QKeyEvent& stroke) {
 
 bool GestureFilter::pressesButton(QObject* receiver, const QKeyEvent& stroke) {
     auto* button = qobject_cast<QPushButton*>(receiver);
-    if (button == nullptr || !isEnter(stroke)) {
+    if (button == nullptr || !isEnter(stroke) || gate_.isShut()) {
         return false;
     }
     button->click();

@@ -82,7 +82,7 @@ protected:
             return false;
         }
         const QModelIndex activate = grid_.currentIndex();
-        if (activate.isValid() && !static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
+        if (activate.isValid()) {
             model_.tick(activate.row(), !model_.ticked(activate.row()));
         }
         return true;

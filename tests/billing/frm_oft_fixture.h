@@ -4,12 +4,12 @@
 #include <QMdiArea>
 #include <QPlainTextEdit>
 #include <QTableView>
-#include <QTimer>
 #include <functional>
 #include <string>
 
 #include "billing/frm_oft.h"
 #include "desk/mdi_menu.h"
+#include "platform/qt/tick.h"
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
 #include "tests/support/screen_test.h"
@@ -54,8 +54,8 @@ protected:
     }
     FrmOFT& screen() { return named<FrmOFT>(menu, "FrmOFT"); }
     QTableView& grid() { return named<QTableView>(menu, "sprDados"); }
-    QTimer& timer() { return *screen().findChild<QTimer*>(QStringLiteral("Timer")); }
-    void tick() { QMetaObject::invokeMethod(&timer(), "timeout"); }
+    Tick& timer() { return *screen().findChild<Tick*>(QStringLiteral("Timer")); }
+    void tick() { QMetaObject::invokeMethod(&timer(), "ticked"); }
     std::string cell(int row, int column) {
         return grid().model()->index(row, column - 1).data().toString().toStdString();
     }

@@ -2,12 +2,12 @@
 // screens, the real loader, a real server on loopback.
 #include <QLabel>
 #include <QTableView>
-#include <QTimer>
 #include <atomic>
 
 #include "billing/frm_oft.h"
 #include "desk/frm_logon.h"
 #include "platform/qt/qt_message_boxes.h"
+#include "platform/qt/tick.h"
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
 #include "tests/support/loopback_server.h"
@@ -90,7 +90,7 @@ protected:
         EXPECT_FALSE(end.ended());
     }
     int rows() { return named<QTableView>(orders, "sprDados").model()->rowCount(); }
-    bool timerRuns() { return orders.findChild<QTimer*>(QStringLiteral("Timer"))->isActive(); }
+    bool timerRuns() { return orders.findChild<Tick*>(QStringLiteral("Timer"))->isActive(); }
     std::size_t asked(const std::string& command) {
         std::size_t count = 0;
         for (const std::string& query : http.queries()) {

@@ -3,9 +3,9 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QTimer>
 
 #include "billing/frm_oft.h"
+#include "platform/qt/tick.h"
 #include "reprint/frm_reimprime_nf.h"
 #include "tests/e2e/fault_desk.h"
 
@@ -41,7 +41,7 @@ protected:
         }
         return -1;
     }
-    bool timerRuns() { return named<QTimer>(menu, "Timer").isActive(); }
+    bool timerRuns() { return named<Tick>(menu, "Timer").isActive(); }
     // Clicks the order and a button.
     void press(const std::string& order, const char* button) {
         ASSERT_GE(rowOf(order), 1);

@@ -106,6 +106,12 @@ protected:
             modal.accept();
         });
         modal.exec();
+        activate();
+    }
+    // Off-screen a modal window takes the activation along.
+    void activate() {
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
     // What a user types goes to whatever has the focus.
     void types(const char* text) { QTest::keyClicks(focus(), QString::fromLatin1(text)); }
@@ -216,11 +222,11 @@ TEST_F(InputGateTest, WhatActsWaitsWhenNobodyAsked) {
             EXPECT_EQ(acts + otherActs + shortcut.count(), 0);
         });
     });
-    EXPECT_EQ(acts, 1);
     EXPECT_EQ(shortcut.count(), 1);
     EXPECT_EQ(window.first.text(), QStringLiteral("1"));
     EXPECT_TRUE(window.button.hasFocus());
-    EXPECT_EQ(otherActs, 0) << "a key goes to what has the focus by then";
+    EXPECT_EQ(acts, 2) << "a key goes to what has the focus by then";
+    EXPECT_EQ(otherActs, 0);
 }
 
 TEST_F(InputGateTest, WhatActsOnWhatIsChangingIsDroppedAllTheSame) {
@@ -415,6 +421,7 @@ TEST_F(InputGateTest, AScreenOpenedOverAnotherTypesOnByItself) {
             screen.accept();
         });
         screen.exec();
+        activate();
     });
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.first.text() == "1"; }));
 }

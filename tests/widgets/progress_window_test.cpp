@@ -6,8 +6,8 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QTest>
-#include <QTimer>
 
+#include "platform/qt/tick.h"
 #include "tests/support/user.h"
 
 namespace tarn::test {
@@ -71,30 +71,30 @@ TEST_F(ProgressWindowTest, ALongRunOfFewItemsShowsItselfInTheEnd) {
     }));
 }
 
-TEST_F(ProgressWindowTest, WindowsRepaintAndInputIsDiscarded) {
+TEST_F(ProgressWindowTest, WindowsRepaintAndInputWaits) {
     PaintCounter painted(&screen);
     painted.resize(100, 100);
     painted.show();
     QLineEdit field(&screen);
     field.show();
     field.setFocus();
-    QTimer clock;
-    clock.setObjectName(QStringLiteral("Timer"));
+    Tick clock(0, nullptr);
     int beats = 0;
-    QObject::connect(&clock, &QTimer::timeout, [&] { ++beats; });
-    QCoreApplication::processEvents();
+    QObject::connect(&clock, &Tick::ticked, [&] { ++beats; });
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&screen));
     ProgressWindow progress(screen);
     const Progress report = progress.notices();
     report(0, 500);
     const int before = painted.paintings;
     painted.update();
-    clock.start(0);
+    clock.start();
     QCoreApplication::postEvent(&field, new QKeyEvent(QEvent::KeyPress, Qt::Key_A, {}, "a"));
     report(500, 500);
     EXPECT_GT(painted.paintings, before);
     EXPECT_EQ(field.text(), QString());
     EXPECT_EQ(beats, 0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return beats > 0; })) << "it ticks behind the run";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return field.text() == QStringLiteral("a"); }));
 }
 
 TEST_F(ProgressWindowTest, AGivenUpRunTakesItsWindowAlong) {

@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QTextEdit>
 #include <QWindow>
+#include <algorithm>
 
 namespace tarn {
 namespace {
@@ -31,10 +32,6 @@ bool isText(const QWidget* widget) {
     }
     return qobject_cast<const QLineEdit*>(widget) != nullptr ||
            qobject_cast<const QAbstractSpinBox*>(widget) != nullptr || isTextOfLines(widget);
-}
-
-bool isEnter(const QKeyEvent& stroke) {
-    return stroke.key() == Qt::Key_Return || stroke.key() == Qt::Key_Enter;
 }
 
 bool movesOrErases(int key) {
@@ -89,6 +86,10 @@ bool isCommand(const QKeyEvent& stroke) {
 }
 
 }  // namespace
+
+bool isEnter(const QKeyEvent& stroke) {
+    return stroke.key() == Qt::Key_Return || stroke.key() == Qt::Key_Enter;
+}
 
 bool isModifierKey(const QKeyEvent& stroke) {
     switch (stroke.key()) {

@@ -9,6 +9,8 @@ class QWidget;
 
 namespace tarn {
 
+bool isEnter(const QKeyEvent& stroke);
+
 // Shift, Ctrl, Alt and their like by themselves.
 bool isModifierKey(const QKeyEvent& stroke);
 
@@ -17,8 +19,8 @@ bool isModifierKey(const QKeyEvent& stroke);
 // all but the arrows. `target` is the widget that gets the stroke; may be null.
 bool acts(const QKeyEvent& stroke, const QWidget* target);
 
-// From now on Enter in this field is its Tab stroke, which edits, as far as what is
-// typed ahead is concerned.
+// From now on Enter in this field is its Tab stroke, which edits as far as typing ahead is
+// concerned.
 void letEnterMoveOn(QWidget& field);
 
 // What may be held and typed later: what doesn't act, and Enter where it moves on.

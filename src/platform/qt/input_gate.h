@@ -20,6 +20,7 @@
 // Ticks (tick.h) wait while the gate is shut and while a TicksWait lives.
 #pragma once
 
+#include <QEvent>
 #include <QObject>
 #include <QPointer>
 #include <QWidget>

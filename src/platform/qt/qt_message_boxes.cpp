@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "platform/qt/input_gate.h"
+
 namespace tarn {
 namespace {
 
@@ -62,6 +64,7 @@ QString linesOnScreen(const std::string& text) {
 }
 
 BoxAnswer QtMessageBoxes::show(const Box& box) {
+    const TicksWait noTicks(InputGate::ofApplication());
     const ArrowCursor arrow;
     QMessageBox window(windowInFront());
     window.setObjectName(QStringLiteral("MessageBox"));

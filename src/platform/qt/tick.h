@@ -17,6 +17,7 @@ public:
     Tick(int intervalMs, QObject* parent);
 
     void start() { timer_.start(); }
+    int interval() const { return timer_.interval(); }
     void setInterval(int milliseconds) { timer_.setInterval(milliseconds); }
     // A tick that waits is forgotten.
     void stop();

@@ -1,0 +1,170 @@
+#include "tests/support/x11_user.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QTimer>
+#include <stdexcept>
+#include <thread>
+
+#include <X11/XKBlib.h>
+#include <X11/Xlib.h>
+#include <X11/extensions/XTest.h>
+#undef Bool
+#undef KeyPress
+#undef None
+
+namespace tarn::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr unsigned repeatDelayMs = 300;
+constexpr unsigned repeatIntervalMs = 33;
+constexpr auto stroke = 20ms;  // from press to release
+constexpr auto patience = 10s;
+
+}  // namespace
+
+struct X11User::Connection {
+    Connection() : display(XOpenDisplay(nullptr)) {
+        if (display == nullptr) {
+            throw std::runtime_error("no X server");
+        }
+        XkbSetAutoRepeatRate(display, XkbUseCoreKbd, repeatDelayMs, repeatIntervalMs);
+        XSync(display, False);
+    }
+    ~Connection() { XCloseDisplay(display); }
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    void key(const char* name, bool down) const {
+        const KeySym symbol = XStringToKeysym(name);
+        const KeyCode code = symbol == NoSymbol ? KeyCode{0} : XKeysymToKeycode(display, symbol);
+        if (code == 0) {
+            throw std::runtime_error(std::string("no such key: ") + name);
+        }
+        XTestFakeKeyEvent(display, code, down ? True : False, CurrentTime);
+        XFlush(display);
+    }
+
+    Display* display;
+};
+
+X11User::X11User() : connection_(std::make_unique<Connection>()) {}
+
+X11User::~X11User() = default;
+
+void X11User::does(const std::function<void(X11User&)>& script,
+                   const std::function<void()>& atEnd) {
+    QEventLoop loop;
+    bool over = false;
+    std::exception_ptr failure;
+    QTimer closer;  // a routine may open one window after another
+    QObject::connect(&closer, &QTimer::timeout, [&over] {
+        if (QWidget* modal = QApplication::activeModalWidget(); modal != nullptr && over) {
+            modal->close();
+        }
+    });
+    closer.start(20);
+    std::jthread hands([&] {
+        try {
+            script(*this);
+        } catch (...) {
+            failure = std::current_exception();
+        }
+        inProgram([&] {
+            if (atEnd) {
+                atEnd();
+            }
+            over = true;
+        });
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    while (!over) {
+        loop.exec();
+    }
+    hands.join();
+    if (failure) {
+        std::rethrow_exception(failure);
+    }
+}
+
+void X11User::wait(Time time) const {
+    std::this_thread::sleep_for(time);
+}
+
+void X11User::press(const char* key) {
+    connection_->key(key, true);
+}
+
+void X11User::release(const char* key) {
+    connection_->key(key, false);
+}
+
+void X11User::tap(const char* key) {
+    hold(key, stroke);
+}
+
+void X11User::hold(const char* key, Time time) {
+    press(key);
+    wait(time);
+    release(key);
+}
+
+void X11User::chord(const char* modifier, const char* key) {
+    holdChord(modifier, key, stroke);
+}
+
+void X11User::holdChord(const char* modifier, const char* key, Time time) {
+    press(modifier);
+    hold(key, time);
+    release(modifier);
+}
+
+void X11User::type(const char* text, Time pace) {
+    for (const char* letter = text; *letter != '\0'; ++letter) {
+        const char name[] = {*letter, '\0'};
+        const auto begin = std::chrono::steady_clock::now();
+        tap(*letter == ' ' ? "space" : *letter == ',' ? "comma" : name);
+        std::this_thread::sleep_until(begin + pace);
+    }
+}
+
+void X11User::moveTo(QPoint where) {
+    XTestFakeMotionEvent(connection_->display, -1, where.x(), where.y(), CurrentTime);
+    XFlush(connection_->display);
+}
+
+void X11User::click(Time pause) {
+    XTestFakeButtonEvent(connection_->display, 1, True, CurrentTime);
+    XFlush(connection_->display);
+    wait(10ms);
+    XTestFakeButtonEvent(connection_->display, 1, False, CurrentTime);
+    XFlush(connection_->display);
+    wait(pause);
+}
+
+void X11User::clickOn(const QWidget& widget) {
+    QPoint middle;
+    inProgram([&] { middle = widget.mapToGlobal(widget.rect().center()); });
+    moveTo(middle);
+    click();
+}
+
+void X11User::inProgram(const std::function<void()>& look) const {
+    QMetaObject::invokeMethod(qApp, look, Qt::BlockingQueuedConnection);
+}
+
+bool X11User::waitUntil(const std::function<bool()>& condition) const {
+    const auto end = std::chrono::steady_clock::now() + patience;
+    bool met = false;
+    while (!met && std::chrono::steady_clock::now() < end) {
+        inProgram([&] { met = condition(); });
+        if (!met) {
+            std::this_thread::sleep_for(5ms);
+        }
+    }
+    return met;
+}
+
+}  // namespace tarn::test
