@@ -30,6 +30,7 @@ endif()
 if(TARN_BUILD_TESTS)
   find_package(GTest REQUIRED)
   include(GoogleTest)
+  find_package(X11)
 endif()
 
 if(TARN_BUILD_BENCH)

@@ -161,8 +161,17 @@ TEST_F(GenerateNoteScreen, ADoubleClickGeneratesOnce) {
     QTest::mouseRelease(&button, Qt::LeftButton);
     EXPECT_THAT(server.queries(), testing::Contains(noteQuery).Times(1));
     EXPECT_EQ(spooler.jobs.size(), 2U);
-    QTest::mouseClick(&button, Qt::LeftButton);
+    click(screen(), "cmdSelecionar");
     EXPECT_EQ(spooler.jobs.size(), 4U) << "a click of its own counts";
+}
+
+// The list's first order is selected by then: whoever saw nothing happen would issue its
+// note.
+TEST_F(GenerateNoteScreen, AnImpatientClickAfterTheNoteGeneratesNone) {
+    openAt1361("note_1361.xml");
+    click(screen(), "cmdSelecionar");
+    QTest::mouseClick(&named<QWidget>(screen(), "cmdSelecionar"), Qt::LeftButton);
+    EXPECT_EQ(spooler.jobs.size(), 2U);
 }
 
 TEST_F(GenerateNoteScreen, AHeldKeyGeneratesOnce) {
@@ -241,13 +250,18 @@ TEST_F(GenerateNoteScreen, AnAlertLeftUnansweredGeneratesNothing) {
     EXPECT_FALSE(timer().isActive());
 }
 
-TEST_F(GenerateNoteScreen, EnterConfirmsTheObservationAndLeavesTheStockNotice) {
+TEST_F(GenerateNoteScreen, EnterAnswersAnAlertOnlyByTheButtonThatHasTheFocus) {
     open();
     noteComesOut();
     observation("x");
     stock("ARROZ");
-    for (int window = 0; window < 2; ++window) {
-        modals.then("frmMensagemAlerta", [](QWidget& alert) { key(alert, Qt::Key_Return); });
+    for (const char* button : {"cmdOk", "cmdVoltar"}) {
+        modals.then("frmMensagemAlerta", [button](QWidget& alert) {
+            key(alert, Qt::Key_Return);
+            EXPECT_TRUE(alert.isVisible()) << "the text has the focus";
+            named<QWidget>(alert, button).setFocus();
+            key(alert, Qt::Key_Return);
+        });
     }
     click(screen(), "cmdSelecionar");
     EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, stockQuery));

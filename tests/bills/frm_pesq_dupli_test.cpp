@@ -425,7 +425,6 @@ TEST_F(FrmPesqDupliTest, EachWayOutUnloadsIt) {
     findBill(1);
     const std::function<void(QWidget&)> ways[] = {
         [](QWidget& screen) { click(screen, "cmdVoltar"); },
-        [](QWidget& screen) { key(screen, Qt::Key_Escape); },
         [](QWidget& screen) { screen.close(); }};
     for (const auto& out : ways) {
         withScreen([&](QWidget& screen) {
@@ -443,7 +442,18 @@ TEST_F(FrmPesqDupliTest, EachWayOutUnloadsIt) {
     EXPECT_FALSE(end.ended());
 }
 
-TEST_F(FrmPesqDupliTest, WhatIsPressedDuringARequestIsLost) {
+TEST_F(FrmPesqDupliTest, EscLeavesEverythingAsItIs) {
+    findBill(1);
+    withScreen([&](QWidget& screen) {
+        search(screen);
+        key(screen, Qt::Key_Escape);
+        EXPECT_TRUE(screen.isVisible());
+        EXPECT_EQ(lines(screen), 1);
+        click(screen, "cmdVoltar");
+    });
+}
+
+TEST_F(FrmPesqDupliTest, WhatActsDuringARequestIsLost) {
     findBill(3);
     withScreen([&](QWidget& screen) {
         pickFrom(screen, "cboTpDocto", bill);

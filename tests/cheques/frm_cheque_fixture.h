@@ -72,7 +72,7 @@ protected:
             work(screen);
             settle();
             if (screen.isVisible()) {
-                key(screen, Qt::Key_Escape);
+                screen.close();
             }
             EXPECT_FALSE(screen.isVisible());
         });

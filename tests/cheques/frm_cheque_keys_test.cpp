@@ -240,7 +240,7 @@ TEST_F(FrmChequeTest, ADoubleClickPrintsOneCheque) {
     EXPECT_EQ(spooler.jobs.size(), 1U);
 }
 
-TEST_F(FrmChequeTest, EnterHeldDownPrintsNothing) {
+TEST_F(FrmChequeTest, EnterHeldDownMovesNothing) {
     useFilled([&](QWidget& screen) {
         named<QWidget>(screen, "txtFavorecido").setFocus();
         for (int repeat = 0; repeat < 10; ++repeat) {
@@ -250,20 +250,29 @@ TEST_F(FrmChequeTest, EnterHeldDownPrintsNothing) {
             QCoreApplication::sendEvent(&target, &held);
             settle();
         }
-        EXPECT_EQ(focused(screen), "cmdImprimir");
+        EXPECT_EQ(focused(screen), "txtFavorecido");
         EXPECT_THAT(server.queries(), IsEmpty());
         EXPECT_THAT(boxes.shown, IsEmpty());
     });
     EXPECT_THAT(spooler.calls, IsEmpty());
 }
 
-TEST_F(FrmChequeTest, AClickThatLeavesTheSeriesIsAskedAboutWhenItIsWhole) {
+TEST_F(FrmChequeTest, EscClosesNothing) {
+    useFilled([&](QWidget& screen) {
+        key(screen, Qt::Key_Escape);
+        EXPECT_TRUE(screen.isVisible());
+        expectFilled(screen);
+    });
+}
+
+TEST_F(FrmChequeTest, AClickThatLeavesTheSeriesCountsAfterItsCheck) {
     useFilled([&](QWidget& screen) {
         named<QWidget>(screen, "txtSerie").setFocus();
         mouse(screen, "cmdImprimir", true);
         settle();
         EXPECT_EQ(focused(screen), "cmdImprimir");
-        EXPECT_THAT(server.queries(), IsEmpty()) << "the button is still down";
+        EXPECT_THAT(server.queries(), ElementsAre(usualCheck));
+        EXPECT_TRUE(named<QPushButton>(screen, "cmdImprimir").isDown());
         mouse(screen, "cmdImprimir", false);
         settle();
         EXPECT_THAT(server.queries(),
@@ -272,27 +281,35 @@ TEST_F(FrmChequeTest, AClickThatLeavesTheSeriesIsAskedAboutWhenItIsWhole) {
     });
 }
 
-TEST_F(FrmChequeTest, AClickIntoAnotherFieldIsAskedAboutAfterIt) {
+TEST_F(FrmChequeTest, AClickIntoAnotherFieldIsALeaving) {
     useFilled([&](QWidget& screen) {
         named<QWidget>(screen, "txtNumeroCheque").setFocus();
         mouse(screen, "txtFavorecido", true);
         settle();
-        EXPECT_THAT(server.queries(), IsEmpty());
+        EXPECT_THAT(server.queries(), ElementsAre(usualCheck));
         mouse(screen, "txtFavorecido", false);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !server.addresses.empty(); }));
+        settle();
         EXPECT_THAT(server.queries(), ElementsAre(usualCheck));
         EXPECT_EQ(focused(screen), "txtFavorecido");
     });
 }
 
-TEST_F(FrmChequeTest, AClickOnTheListIsAskedAboutWhenItIsClosed) {
+TEST_F(FrmChequeTest, OpeningTheListAsksAboutTheAccountThatWasLeft) {
     useFilled([&](QWidget& screen) {
         named<QWidget>(screen, "txtNumeroCheque").setFocus();
         chooseAccount(screen, 2);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !server.addresses.empty(); }));
-        EXPECT_THAT(
-            server.queries(),
-            ElementsAre(checkQuery("000123", "AÇ1", "&Id_Pes_Ban=902&Cd_Age_Ban=9&Nr_Ccor=1")));
+        EXPECT_THAT(server.queries(), ElementsAre(usualCheck));
+    });
+}
+
+TEST_F(FrmChequeTest, EachOfTwoLeavingsInARowIsAskedAbout) {
+    useFilled([&](QWidget& screen) {
+        named<QWidget>(screen, "txtNumeroCheque").setFocus();
+        QTest::keyClick(screen.focusWidget(), Qt::Key_Return);
+        QTest::keyClick(screen.focusWidget(), Qt::Key_Return);
+        settle();
+        EXPECT_EQ(focused(screen), "txtValor");
+        EXPECT_THAT(server.queries(), ElementsAre(usualCheck, usualCheck));
     });
 }
 

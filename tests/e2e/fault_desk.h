@@ -2,9 +2,7 @@
 // and the server's database to look at behind it.
 #pragma once
 
-#include <QFile>
 #include <QTableView>
-#include <QTemporaryDir>
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -20,6 +18,7 @@
 #include "tests/support/boxes.h"
 #include "tests/support/grid.h"
 #include "tests/support/network_desk.h"
+#include "tests/support/practice_database.h"
 #include "tests/support/practice_page.h"
 #include "tests/support/screen_test.h"
 
@@ -72,18 +71,6 @@ inline Box endReportWithNote() {
         "\r\rA Nota Fiscal pode ter sido gerada no servidor. Caso tenha sido gerada, utilize a "
         "tela de Reimpressão de Nota Fiscal para imprimi-la.";
     return report;
-}
-
-// A database file of the practice server in this folder; its data is made once a run.
-inline std::string newDatabase(const QTemporaryDir& folder) {
-    static const QTemporaryDir common;
-    static const QString made = common.filePath("pratica.db");
-    if (!QFile::exists(made)) {
-        const PracticePage maker(made.toStdString());
-    }
-    const QString file = folder.filePath("pratica.db");
-    EXPECT_TRUE(QFile::copy(made, file));
-    return file.toStdString();
 }
 
 class FaultDesk : public ScreenTest {

@@ -351,11 +351,13 @@ TEST_F(PrintScreen, AFieldInAnotherCaseEndsTheProgramBeforeTheSheetComesOut) {
     EXPECT_FALSE(printer.ended());
 }
 
-TEST_F(PrintScreen, EscLeavesWithoutPrinting) {
+TEST_F(PrintScreen, EscLeavesNothing) {
     inPrinting(1, [this](QWidget& print) {
         range(print, "1", "2");
         key(print, Qt::Key_Escape);
-        EXPECT_FALSE(print.isVisible());
+        EXPECT_TRUE(print.isVisible());
+        EXPECT_EQ(text(print, "txtAte"), "2");
+        click(print, "cmdCancelar");
         EXPECT_TRUE(printer.operations.empty());
     });
 }

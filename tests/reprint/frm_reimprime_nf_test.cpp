@@ -330,8 +330,12 @@ TEST_F(FrmReImprimeNFTest, CmdFecharFreesTheMenus) {
     closeBy([&] { click(screen(), "CmdFechar"); });
 }
 
-TEST_F(FrmReImprimeNFTest, EscFreesTheMenus) {
-    closeBy([&] { key(screen(), Qt::Key_Escape); });
+TEST_F(FrmReImprimeNFTest, EscClosesNothing) {
+    open("mCNF");
+    type(screen(), "txtNF", "45");
+    key(screen(), Qt::Key_Escape);
+    EXPECT_EQ(named<QLineEdit>(screen(), "txtNF").text(), QStringLiteral("45"));
+    EXPECT_TRUE(screen().isVisible());
 }
 
 TEST_F(FrmReImprimeNFTest, TheWindowsButtonFreesTheMenus) {

@@ -167,13 +167,11 @@ TEST_F(SlipKeys, ListsAreChosenFromByKeyAndByWheel) {
     });
 }
 
-TEST_F(SlipKeys, ClosingDuringARequestDoesNothing) {
+TEST_F(SlipKeys, ClosingTheScreenDuringARequestDoesNothing) {
     withScreen([&](QWidget& screen) {
         server.on("sel_boleto", answers::rowset(line("1")));
         fillIn(screen);
-        for (QWidget* window : {&screen, static_cast<QWidget*>(&menu)}) {
-            QCoreApplication::postEvent(window, new QCloseEvent);
-        }
+        QCoreApplication::postEvent(&screen, new QCloseEvent);
         for (const QEvent::Type stroke : {QEvent::KeyPress, QEvent::KeyRelease}) {
             QCoreApplication::postEvent(&screen,
                                         new QKeyEvent(stroke, Qt::Key_Escape, Qt::NoModifier));
@@ -185,20 +183,28 @@ TEST_F(SlipKeys, ClosingDuringARequestDoesNothing) {
     });
 }
 
-TEST_F(SlipKeys, EscAndTheWindowsButtonCloseIt) {
-    for (const bool byKey : {true, false}) {
-        server.addresses.clear();
-        withScreen([&](QWidget& screen) {
-            type(screen, "txtNr_Bol_Banc", "77");
-            if (byKey) {
-                key(screen, Qt::Key_Escape);
-            } else {
-                screen.close();
-            }
-            EXPECT_FALSE(screen.isVisible());
-        });
-        EXPECT_THAT(server.queries(), ElementsAre(branchesQuery, portfoliosQuery, deskQuery));
-    }
+TEST_F(SlipKeys, ClosingTheDeskDuringARequestEndsTheProgram) {
+    withScreen([&](QWidget& screen) {
+        server.on("sel_boleto", answers::rowset(line("1")));
+        fillIn(screen);
+        QCoreApplication::postEvent(&menu, new QCloseEvent);
+        click(screen, "cmdPesquisar");
+        EXPECT_TRUE(end.ended());
+        EXPECT_EQ(end.status(), 0);
+        screen.close();
+    });
+}
+
+TEST_F(SlipKeys, TheWindowsButtonClosesItAndEscDoesNot) {
+    withScreen([&](QWidget& screen) {
+        type(screen, "txtNr_Bol_Banc", "77");
+        key(screen, Qt::Key_Escape);
+        EXPECT_TRUE(screen.isVisible());
+        EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "77");
+        screen.close();
+        EXPECT_FALSE(screen.isVisible());
+    });
+    EXPECT_THAT(server.queries(), ElementsAre(branchesQuery, portfoliosQuery, deskQuery));
     withScreen([&](QWidget& screen) {
         EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "") << "it comes back empty";
     });

@@ -14,6 +14,8 @@
 #include <QTest>
 #include <string>
 
+#include "platform/qt/input_gate.h"
+
 namespace tarn::test {
 
 // The widget (or other object) of that name; a name that the screen lacks fails the
@@ -27,8 +29,29 @@ T& named(const QObject& screen, const char* name) {
     return *found;
 }
 
+// Users look before they go on: what the gesture sets off is over, unless it was made in
+// haste while the program worked.
+template <typename Gesture>
+void atLeisure(Gesture gesture) {
+    const InputGate& gate = InputGate::ofApplication();
+    const bool ready = gate.isQuiet();
+    gesture();
+    if (ready) {
+        EXPECT_TRUE(QTest::qWaitFor([&gate] { return gate.isQuiet(); }));
+    }
+}
+
+// The pointer comes from elsewhere and clicks once.
+inline void clickAt(QWidget& widget, QPoint place) {
+    QMouseEvent coming(QEvent::MouseMove, QPoint(-50, -50), widget.mapToGlobal(QPoint(-50, -50)),
+                       Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &coming);
+    atLeisure([&] { QTest::mouseClick(&widget, Qt::LeftButton, {}, place); });
+}
+
 inline void click(const QObject& screen, const char* name) {
-    QTest::mouseClick(&named<QWidget>(screen, name), Qt::LeftButton);
+    auto& widget = named<QWidget>(screen, name);
+    clickAt(widget, widget.rect().center());
 }
 
 // Keystrokes of a text of any letters, accented ones too.
@@ -42,7 +65,7 @@ inline void keys(QWidget& widget, const char* text) {
 // Gives the field the focus and types over what it holds.
 inline void type(const QObject& screen, const char* name, const char* text) {
     auto& field = named<QLineEdit>(screen, name);
-    field.setFocus();
+    atLeisure([&field] { field.setFocus(); });
     field.selectAll();
     keys(field, text);
 }
@@ -50,7 +73,7 @@ inline void type(const QObject& screen, const char* name, const char* text) {
 // Opens a drop-down list and clicks the item.
 inline void pick(const QObject& screen, const char* name, int row) {
     auto& list = named<QComboBox>(screen, name);
-    list.setFocus();
+    atLeisure([&list] { list.setFocus(); });
     QTest::keyClick(&list, Qt::Key_Space);
     QAbstractItemView& items = *list.view();
     ASSERT_TRUE(items.isVisible()) << name << " didn't open";
@@ -63,7 +86,7 @@ inline void pick(const QObject& screen, const char* name, int row) {
 // A key to whatever has the focus in the window.
 inline void key(QWidget& window, Qt::Key stroke) {
     QWidget* target = window.focusWidget() != nullptr ? window.focusWidget() : &window;
-    QTest::keyClick(target, stroke);
+    atLeisure([&] { QTest::keyClick(target, stroke); });
 }
 
 inline std::string focused(const QWidget& window) {

@@ -44,6 +44,8 @@ public:
     void shut();
     void open();
     bool isShut() const { return shut_ > 0; }
+    // Open, and nothing held that is still to be typed.
+    bool isQuiet() const { return !isShut() && held_.empty(); }
 
     // Closing this window ends the program: it is closed also while the gate is shut.
     void letClose(QWidget& window) { closing_ = &window; }

@@ -1,0 +1,116 @@
+// The desk on a private X server with a real keyboard and mouse, its practice server
+// behind real HTTP.
+#pragma once
+
+#include <QAction>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTemporaryDir>
+#include <QTest>
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "desk/mdi_menu.h"
+#include "desk/start.h"
+#include "platform/curl/curl_loader.h"
+#include "platform/qt/blocking_loader.h"
+#include "platform/qt/qt_message_boxes.h"
+#include "tests/support/fixed_machine.h"
+#include "tests/support/practice_database.h"
+#include "tests/support/recording_printer.h"
+#include "tests/support/recording_spooler.h"
+#include "tests/support/user.h"
+#include "tests/support/x11_user.h"
+
+namespace tarn::test {
+
+class DeskX11 : public testing::Test {
+protected:
+    using Time = std::chrono::milliseconds;
+
+    // Clara of company 1361 is logged on.
+    void SetUp() override {
+        ASSERT_TRUE(logOn(environment, session, "1361", "clara", "pratica"));
+        menu.resize(1100, 800);
+        menu.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&menu));
+        ASSERT_TRUE(
+            QTest::qWaitFor([this] { return !menu.windowHandle()->frameMargins().isNull(); }));
+        page.takeQueries();
+    }
+    // The answers to this command come so much later.
+    void delay(const char* command, Time time) {
+        page.fail(command, {practice::FaultKind::Slow, time});
+    }
+    // For scripts: opens a screen by its menu entry and waits until it takes input.
+    QWidget& opens(X11User& hands, const char* entry, const char* name) {
+        hands.inProgram([&] {
+            QTimer::singleShot(0, &menu, [this, entry] { named<QAction>(menu, entry).trigger(); });
+        });
+        return appears(hands, name);
+    }
+    QWidget& appears(X11User& hands, const char* name) {
+        QWidget* screen = nullptr;
+        const bool ready = hands.waitUntil([&] {
+            screen = find(name);
+            return screen != nullptr && screen->isVisible() &&
+                   QApplication::activeWindow() == screen->window() && isReady();
+        });
+        if (!ready) {
+            throw std::runtime_error(std::string("no screen came: ") + name);
+        }
+        return *screen;
+    }
+    static QWidget* find(const char* name) {
+        for (QWidget* top : QApplication::topLevelWidgets()) {
+            if (top->objectName() == QLatin1StringView(name) && top->isVisible()) {
+                return top;
+            }
+            if (auto* inside = top->findChild<QWidget*>(QLatin1StringView(name))) {
+                return inside;
+            }
+        }
+        return nullptr;
+    }
+    static bool isReady() {
+        return InputGate::ofApplication().isQuiet() && QGuiApplication::overrideCursor() == nullptr;
+    }
+    static void focus(const X11User& hands, QWidget& widget) {
+        hands.inProgram([&] { widget.setFocus(); });
+        if (!hands.waitUntil([&] { return widget.hasFocus() && isReady(); })) {
+            throw std::runtime_error("no focus");
+        }
+    }
+    void closeInnerScreens() {
+        for (QMdiSubWindow* inner : named<QMdiArea>(menu, "mdiArea").subWindowList()) {
+            inner->close();
+        }
+        QTest::qWait(1);
+    }
+    std::size_t asked(const std::string& command) {
+        std::size_t times = 0;
+        for (const std::string& query : page.takeQueries()) {
+            times += query.find(command) != std::string::npos ? 1U : 0U;
+        }
+        return times;
+    }
+
+    QTemporaryDir folder;
+    PracticePage page{newDatabase(folder)};
+    RecordingSpooler spooler;
+    RecordingPrinter printer;
+    QtMessageBoxes boxes;
+    FixedClock clock;
+    FixedMachine machine;
+    CurlLoader curl;
+    BlockingLoader network{curl};
+    Environment environment{network, spooler, printer, boxes, clock, machine, page.baseUrl()};
+    Sessao session;
+    ProgramEnd end;
+    DeskContext desk{environment, session, end};
+    MDIMenu menu{desk};
+    X11User user;
+};
+
+}  // namespace tarn::test
