@@ -17,6 +17,10 @@ public:
     // what may not stand in a request line. The result says whether it failed; an
     // exception means that something unexpected went wrong.
     virtual HttpAnswer get(const std::string& address) = 0;
+
+    // From any thread, for good: the request under way, if it can be given up, and all
+    // later ones are failed loads at once.
+    virtual void close() {}
 };
 
 }  // namespace tarn

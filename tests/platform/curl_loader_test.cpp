@@ -1,11 +1,16 @@
 #include "platform/curl/curl_loader.h"
 
+#include <arpa/inet.h>
 #include <gtest/gtest.h>
+#include <netinet/in.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <cstdlib>
 #include <future>
+#include <vector>
 
 #include "tests/support/loopback_server.h"
 
@@ -197,6 +202,98 @@ TEST_F(CurlLoaderTest, WaitsForASlowAnswer) {
     EXPECT_EQ(answer.wait_for(std::chrono::seconds(0)), std::future_status::timeout);
     server_.release();
     EXPECT_TRUE(answer.get().loaded);
+}
+
+// Milliseconds from now on.
+class Stopwatch {
+public:
+    long long elapsed() const {
+        return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start_).count();
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+    Clock::time_point start_ = Clock::now();
+};
+
+// Connections to it are neither taken nor refused: what it may hold waiting is full.
+class FullPort {
+public:
+    FullPort() {
+        address_.sin_family = AF_INET;
+        address_.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t length = sizeof address_;
+        const int listener = open(0);
+        EXPECT_EQ(::bind(listener, generic(), length), 0);
+        EXPECT_EQ(::listen(listener, 0), 0);
+        EXPECT_EQ(::getsockname(listener, generic(), &length), 0);
+        for (int i = 0; i < 4; ++i) {
+            ::connect(open(SOCK_NONBLOCK), generic(), length);
+        }
+    }
+    ~FullPort() {
+        for (const int one : sockets_) {
+            ::close(one);
+        }
+    }
+    FullPort(const FullPort&) = delete;
+    FullPort& operator=(const FullPort&) = delete;
+
+    std::string host() const {
+        return "http://127.0.0.1:" + std::to_string(ntohs(address_.sin_port));
+    }
+
+private:
+    int open(int flags) {
+        sockets_.push_back(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | flags, 0));
+        return sockets_.back();
+    }
+    sockaddr* generic() { return reinterpret_cast<sockaddr*>(&address_); }
+
+    sockaddr_in address_{};
+    std::vector<int> sockets_;
+};
+
+constexpr long long muchLater = 20'000;  // ms; less than any limit that isn't a test's own
+
+TEST_F(CurlLoaderTest, AServerThatTakesNoConnectionIsGivenUp) {
+    const FullPort full;
+    CurlLoader hasty({.connect = std::chrono::milliseconds(200)});
+    const Stopwatch time;
+    EXPECT_FALSE(hasty.get(full.host() + "/?x").loaded);
+    EXPECT_GE(time.elapsed(), 200);
+    EXPECT_LT(time.elapsed(), muchLater);
+}
+
+TEST_F(CurlLoaderTest, AServerThatTakesTheRequestAndNeverAnswersIsGivenUp) {
+    LoopbackReply mute = LoopbackReply::xml("<R/>");
+    mute.waits = true;
+    server_.on("", mute);
+    CurlLoader hasty({.silence = std::chrono::seconds(1)});
+    const Stopwatch time;
+    EXPECT_FALSE(hasty.get(server_.baseUrl() + "x").loaded);
+    EXPECT_GE(time.elapsed(), 1000);
+    EXPECT_LT(time.elapsed(), muchLater);
+    EXPECT_EQ(server_.requestLines().size(), 1U);
+}
+
+TEST_F(CurlLoaderTest, WaitsHalfAMinuteForAConnectionAndTwoForAByte) {
+    EXPECT_EQ(TimeLimits().connect, std::chrono::seconds(30));
+    EXPECT_EQ(TimeLimits().silence, std::chrono::minutes(2));
+}
+
+TEST_F(CurlLoaderTest, ClosingGivesTheRequestUnderWayUpAndAllLaterOnes) {
+    LoopbackReply mute = LoopbackReply::xml("<R/>");
+    mute.waits = true;
+    server_.on("mute", mute).on("other", LoopbackReply::xml("<R/>"));
+    auto answer = std::async(std::launch::async, [this] { return get("mute"); });
+    server_.waitForRequests(1);
+    const Stopwatch time;
+    loader_.close();
+    EXPECT_FALSE(answer.get().loaded);
+    EXPECT_LT(time.elapsed(), muchLater);
+    expectFailure("other");
+    EXPECT_EQ(server_.requestLines().size(), 1U);
 }
 
 TEST_F(CurlLoaderTest, NothingOfTheAddressIsPrinted) {

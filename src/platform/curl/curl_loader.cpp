@@ -2,6 +2,7 @@
 
 #include <curl/curl.h>
 
+#include <atomic>
 #include <memory>
 #include <new>
 #include <stdexcept>
@@ -14,10 +15,12 @@ namespace {
 
 constexpr std::size_t largestBody = std::size_t{64} * 1024 * 1024;
 constexpr std::size_t largestHead = std::size_t{1024} * 1024;
-constexpr int mostRedirects = 20;            // what browsers allow
-constexpr long connectSeconds = 2'000'000L;  // libcurl's own would be 300
+constexpr int mostRedirects = 20;  // what browsers allow
+constexpr long bytesASecond = 1;   // slower than that is silence
+constexpr long probeSeconds = 30;  // of silence before TCP asks whether the server is there
 
 using Easy = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
+using Multi = std::unique_ptr<CURLM, decltype(&curl_multi_cleanup)>;
 using Url = std::unique_ptr<CURLU, decltype(&curl_url_cleanup)>;
 
 struct Received {
@@ -80,10 +83,27 @@ bool mayFollow(const std::string& from, const std::string& to) {
            (scheme == "http" && port == "80" && newScheme == "https" && newPort == "443");
 }
 
-Easy newRequest(Received& received) {
+[[noreturn]] void notReady() {
+    throw std::runtime_error("Não foi possível preparar o acesso à Internet (libcurl).");
+}
+
+void limitTime(CURL* curl, const TimeLimits& limits) {
+    curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(limits.connect.count()));
+    curl_easy_setopt(curl, CURLOPT_LOW_SPEED_LIMIT, bytesASecond);
+    curl_easy_setopt(curl, CURLOPT_LOW_SPEED_TIME, static_cast<long>(limits.silence.count()));
+    curl_easy_setopt(curl, CURLOPT_TCP_KEEPALIVE, 1L);
+    curl_easy_setopt(curl, CURLOPT_TCP_KEEPIDLE, probeSeconds);
+    curl_easy_setopt(curl, CURLOPT_TCP_KEEPINTVL, probeSeconds);
+    curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
+#if LIBCURL_VERSION_NUM >= 0x075700
+    curl_easy_setopt(curl, CURLOPT_QUICK_EXIT, 1L);  // a name still looked up holds up no end
+#endif
+}
+
+Easy newRequest(Received& received, const TimeLimits& limits) {
     Easy easy(curl_easy_init(), curl_easy_cleanup);
     if (easy == nullptr) {
-        throw std::runtime_error("Não foi possível preparar o acesso à Internet (libcurl).");
+        notReady();
     }
     CURL* curl = easy.get();
     curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "http,https");
@@ -96,8 +116,7 @@ Easy newRequest(Received& received) {
     curl_easy_setopt(curl, CURLOPT_ACCEPT_ENCODING, "");  // all that libcurl unpacks
     curl_easy_setopt(curl, CURLOPT_PATH_AS_IS, 1L);
     curl_easy_setopt(curl, CURLOPT_FAILONERROR, 1L);
-    curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT, connectSeconds);
-    curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
+    limitTime(curl, limits);
     curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, takeBody);
     curl_easy_setopt(curl, CURLOPT_WRITEDATA, &received);
     curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, countHead);
@@ -105,11 +124,57 @@ Easy newRequest(Received& received) {
     return easy;
 }
 
+}  // namespace
+
+// What a transfer under way can be woken by from another thread.
+struct CurlLoader::Transfers {
+    Multi multi{curl_multi_init(), curl_multi_cleanup};
+    std::atomic<bool> closed = false;
+
+    // Carries the request out; false also when the loader was closed meanwhile.
+    bool run(CURL* easy) {
+        if (curl_multi_add_handle(multi.get(), easy) != CURLM_OK) {
+            return false;
+        }
+        int underWay = 1;
+        while (underWay > 0 && !closed && curl_multi_perform(multi.get(), &underWay) == CURLM_OK &&
+               underWay > 0) {
+            constexpr int milliseconds = 1000;  // libcurl's own time-outs cut that short
+            curl_multi_poll(multi.get(), nullptr, 0, milliseconds, nullptr);
+        }
+        int further = 0;
+        const CURLMsg* end = curl_multi_info_read(multi.get(), &further);
+        const bool done =
+            end != nullptr && end->msg == CURLMSG_DONE && end->data.result == CURLE_OK;
+        curl_multi_remove_handle(multi.get(), easy);
+        return done;
+    }
+};
+
+CurlLoader::CurlLoader(const TimeLimits& limits) : limits_(limits) {
+    static const CURLcode ready = curl_global_init(CURL_GLOBAL_DEFAULT);
+    if (ready != CURLE_OK) {
+        notReady();
+    }
+    transfers_ = std::make_unique<Transfers>();
+    if (transfers_->multi == nullptr) {
+        notReady();
+    }
+}
+
+CurlLoader::~CurlLoader() = default;
+
+void CurlLoader::close() {
+    transfers_->closed = true;
+    curl_multi_wakeup(transfers_->multi.get());
+}
+
 // One request. Fills `next` when the server sends elsewhere.
-bool perform(const std::string& line, Received& received, std::string& next) {
-    const Easy easy = newRequest(received);
+bool CurlLoader::perform(const std::string& line, std::string& body, std::string& next) {
+    Received received;
+    const Easy easy = newRequest(received, limits_);
     if (curl_easy_setopt(easy.get(), CURLOPT_URL, line.c_str()) != CURLE_OK ||
-        curl_easy_perform(easy.get()) != CURLE_OK) {
+        !transfers_->run(easy.get())) {
         return false;
     }
     long status = 0;
@@ -120,28 +185,20 @@ bool perform(const std::string& line, Received& received, std::string& next) {
         next = redirect;
         return true;
     }
+    body = std::move(received.body);
     return status >= 200 && status < 300;
-}
-
-}  // namespace
-
-CurlLoader::CurlLoader() {
-    static const CURLcode ready = curl_global_init(CURL_GLOBAL_DEFAULT);
-    if (ready != CURLE_OK) {
-        throw std::runtime_error("Não foi possível preparar o acesso à Internet (libcurl).");
-    }
 }
 
 HttpAnswer CurlLoader::get(const std::string& address) {
     std::string line = requestLine(address);
     for (int hops = 0; hops <= mostRedirects; ++hops) {
-        Received received;
+        std::string body;
         std::string next;
-        if (!perform(line, received, next)) {
+        if (!perform(line, body, next)) {
             return {};
         }
         if (next.empty()) {
-            return {.loaded = true, .body = std::move(received.body)};
+            return {.loaded = true, .body = std::move(body)};
         }
         if (!mayFollow(line, next)) {
             return {};

@@ -34,4 +34,9 @@ HttpAnswer BlockingLoader::get(const std::string& address) {
     return answer.get();
 }
 
+void BlockingLoader::close() {
+    closed_ = true;
+    loader_.close();
+}
+
 }  // namespace tarn

@@ -16,8 +16,8 @@ public:
 
     HttpAnswer get(const std::string& address) override;
 
-    // The program is ending: from now on nothing is sent, each request fails at once.
-    void close() { closed_ = true; }
+    // The program is ending: the request under way is given up, and nothing more is sent.
+    void close() override;
 
 private:
     HttpLoader& loader_;
