@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
-#include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
 #include <utility>
@@ -59,10 +58,10 @@ void Walk::look() {
     QWidget* window = frontWindow(steps_.front().window);
     if (window == nullptr) {
         ++looks_;
-        const auto* notice = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (notice != nullptr) {
-            finish(
-                QStringLiteral("uma caixa que não faz parte do roteiro: %1").arg(notice->text()));
+        const QWidget* front = QApplication::activeModalWidget();
+        if (front != nullptr && front->objectName() == QStringLiteral("MessageBox")) {
+            finish(QStringLiteral("uma caixa que não faz parte do roteiro: %1")
+                       .arg(front->accessibleDescription()));
         } else if (looks_ == maxLooks) {
             finish(QStringLiteral("a janela %1 não abriu").arg(steps_.front().window));
         }

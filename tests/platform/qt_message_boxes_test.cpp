@@ -3,9 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
-#include <QMessageBox>
+#include <QMainWindow>
 #include <QPushButton>
+#include <QTextEdit>
+#include <algorithm>
+#include <iterator>
 
+#include "platform/qt/box_window.h"
 #include "tests/support/modal_steps.h"
 #include "tests/support/user.h"
 
@@ -17,8 +21,7 @@ constexpr char boxName[] = "MessageBox";
 struct Shown {
     QString text;
     QString title;
-    Qt::TextFormat format = Qt::AutoText;
-    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    bool icon = false;
     QStringList buttons;
 };
 
@@ -26,10 +29,11 @@ BoxAnswer show(const Box& box, Qt::Key key, Shown* shown = nullptr) {
     ModalSteps modals;
     modals.then(boxName, [&](QWidget& window) {
         if (shown != nullptr) {
-            const auto& message = static_cast<const QMessageBox&>(window);
-            auto& label = named<QLabel>(window, "qt_msgbox_label");
-            *shown = {label.text(), message.windowTitle(), label.textFormat(), message.icon(), {}};
-            for (const QAbstractButton* button : message.buttons()) {
+            *shown = {named<QTextEdit>(window, "text").toPlainText(),
+                      window.windowTitle(),
+                      named<QLabel>(window, "icon").isVisible(),
+                      {}};
+            for (const QPushButton* button : window.findChildren<QPushButton*>()) {
                 shown->buttons << button->text();
             }
         }
@@ -44,7 +48,6 @@ TEST(QtMessageBoxes, ShowsMarkupAsText) {
         Shown shown;
         show({text}, Qt::Key_Return, &shown);
         EXPECT_EQ(shown.text, QString::fromUtf8(text));
-        EXPECT_EQ(shown.format, Qt::PlainText);
     }
 }
 
@@ -63,17 +66,22 @@ TEST(QtMessageBoxes, KeepsBlanksAndTitle) {
     EXPECT_EQ(shown.title, QStringLiteral("TarnEmissao"));
 }
 
+QImage iconOf(BoxIcon icon) {
+    const BoxWindow box({"x", icon}, nullptr);
+    return named<QLabel>(box, "icon").pixmap().toImage();
+}
+
 TEST(QtMessageBoxes, HasTheIconAskedFor) {
-    const std::pair<BoxIcon, QMessageBox::Icon> pairs[] = {
-        {BoxIcon::None, QMessageBox::NoIcon},
-        {BoxIcon::Information, QMessageBox::Information},
-        {BoxIcon::Exclamation, QMessageBox::Warning},
-        {BoxIcon::Question, QMessageBox::Question},
-        {BoxIcon::Critical, QMessageBox::Critical}};
-    for (const auto& [asked, expected] : pairs) {
-        Shown shown;
-        show({"x", asked}, Qt::Key_Return, &shown);
-        EXPECT_EQ(shown.icon, expected);
+    Shown shown;
+    show({"x"}, Qt::Key_Return, &shown);
+    EXPECT_FALSE(shown.icon);
+    show({"x", BoxIcon::Information}, Qt::Key_Return, &shown);
+    EXPECT_TRUE(shown.icon);
+    const QImage icons[] = {iconOf(BoxIcon::Information), iconOf(BoxIcon::Exclamation),
+                            iconOf(BoxIcon::Question), iconOf(BoxIcon::Critical)};
+    for (const QImage& one : icons) {
+        EXPECT_FALSE(one.isNull());
+        EXPECT_EQ(std::count(std::begin(icons), std::end(icons), one), 1);
     }
 }
 
@@ -95,8 +103,7 @@ TEST(QtMessageBoxes, QuestionDefaultsToSim) {
 TEST(QtMessageBoxes, QuestionTakesAClickOnNo) {
     ModalSteps modals;
     modals.then(boxName, [](QWidget& window) {
-        auto& box = static_cast<QMessageBox&>(window);
-        QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
+        QTest::mouseClick(window.findChildren<QPushButton*>().at(1), Qt::LeftButton);
     });
     EXPECT_EQ(QtMessageBoxes().show({"x", BoxIcon::Question, "Aviso", BoxButtons::YesNo}),
               BoxAnswer::No);
@@ -112,6 +119,52 @@ TEST(QtMessageBoxes, ShowsAnArrowOverARoutineWithTheHourglass) {
     QtMessageBoxes().show({"x"});
     EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
     QGuiApplication::restoreOverrideCursor();
+}
+
+TEST(QtMessageBoxes, StandsInFrontOfTheWindowThatIsActive) {
+    QWidget screen;
+    screen.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&screen));
+    ModalSteps modals;
+    modals.then(boxName, [&](QWidget& window) {
+        EXPECT_EQ(window.parentWidget(), &screen);
+        EXPECT_FALSE(window.testAttribute(Qt::WA_ShowWithoutActivating));
+        tarn::test::key(window, Qt::Key_Return);
+    });
+    QtMessageBoxes().show({"x"});
+}
+
+TEST(QtMessageBoxes, BehindAnotherProgramItStandsInFrontOfTheDeskAndLeavesTheKeyboardThere) {
+    QtMessageBoxes boxes;
+    QMainWindow desk;
+    desk.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&desk));
+    QWidget other;
+    other.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    other.hide();
+    ASSERT_TRUE(QTest::qWaitFor([] { return QGuiApplication::focusWindow() == nullptr; }));
+    ModalSteps modals;
+    modals.then(boxName, [&](QWidget& window) {
+        EXPECT_EQ(window.parentWidget(), &desk);
+        EXPECT_TRUE(window.testAttribute(Qt::WA_ShowWithoutActivating));
+        tarn::test::key(window, Qt::Key_Return);
+    });
+    boxes.show({"x"});
+}
+
+TEST(QtMessageBoxes, OfAProgramThatIsOnlyStartingItTakesTheKeyboard) {
+    QtMessageBoxes boxes;
+    QMainWindow desk;
+    desk.setAttribute(Qt::WA_DontShowOnScreen);
+    desk.show();
+    ModalSteps modals;
+    modals.then(boxName, [&](QWidget& window) {
+        EXPECT_EQ(window.parentWidget(), &desk);
+        EXPECT_FALSE(window.testAttribute(Qt::WA_ShowWithoutActivating));
+        tarn::test::key(window, Qt::Key_Return);
+    });
+    boxes.show({"x"});
 }
 
 }  // namespace

@@ -1,48 +1,34 @@
 #include "platform/qt/qt_message_boxes.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QMessageBox>
+#include <QMainWindow>
+#include <QWindow>
+
+#include "platform/qt/box_window.h"
 
 #include "platform/qt/input_gate.h"
 
 namespace tarn {
 namespace {
 
-QMessageBox::Icon iconOf(BoxIcon icon) {
-    switch (icon) {
-        case BoxIcon::Information:
-            return QMessageBox::Information;
-        case BoxIcon::Exclamation:
-            return QMessageBox::Warning;
-        case BoxIcon::Question:
-            return QMessageBox::Question;
-        case BoxIcon::Critical:
-            return QMessageBox::Critical;
-        case BoxIcon::None:
-            break;
+QWidget* mainWindow() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (qobject_cast<QMainWindow*>(window) != nullptr && window->isVisible()) {
+            return window;
+        }
     }
-    return QMessageBox::NoIcon;
+    return nullptr;
 }
 
-void addButtons(QMessageBox& box, BoxButtons buttons) {
-    if (buttons == BoxButtons::Ok) {
-        box.setStandardButtons(QMessageBox::Ok);
-        box.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
-        return;
-    }
-    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.button(QMessageBox::Yes)->setText(QStringLiteral("&Sim"));
-    box.button(QMessageBox::No)->setText(QStringLiteral("&Não"));
-    box.setDefaultButton(QMessageBox::Yes);
-    box.setEscapeButton(QMessageBox::No);
-}
-
+// Also of a program whose windows all lie behind another program's.
 QWidget* windowInFront() {
     if (QWidget* modal = QApplication::activeModalWidget()) {
         return modal;
     }
-    return QApplication::activeWindow();
+    if (QWidget* active = QApplication::activeWindow()) {
+        return active;
+    }
+    return mainWindow();
 }
 
 // An arrow over the box, also when a routine that shows the hourglass asks.
@@ -63,22 +49,26 @@ QString linesOnScreen(const std::string& text) {
     return shown;
 }
 
+QtMessageBoxes::QtMessageBoxes() : hadKeyboard_(QGuiApplication::focusWindow() != nullptr) {
+    QObject::connect(
+        qGuiApp, &QGuiApplication::focusWindowChanged, &watch_,
+        [this](const QWindow* window) { hadKeyboard_ = hadKeyboard_ || window != nullptr; });
+}
+
+bool QtMessageBoxes::isElsewhere() const {
+    return hadKeyboard_ && QGuiApplication::focusWindow() == nullptr;
+}
+
 BoxAnswer QtMessageBoxes::show(const Box& box) {
     const TicksWait noTicks(InputGate::ofApplication());
     const ArrowCursor arrow;
-    QMessageBox window(windowInFront());
-    window.setObjectName(QStringLiteral("MessageBox"));
-    window.setWindowModality(Qt::ApplicationModal);
-    window.setTextFormat(Qt::PlainText);
-    window.setWindowTitle(QString::fromStdString(box.title));
-    window.setText(linesOnScreen(box.text));
-    window.setIcon(iconOf(box.icon));
-    addButtons(window, box.buttons);
-    const int answer = window.exec();
-    if (box.buttons == BoxButtons::Ok) {
-        return BoxAnswer::Ok;
+    QWidget* behind = windowInFront();
+    BoxWindow window(box, behind);
+    if (behind != nullptr && isElsewhere()) {
+        window.setAttribute(Qt::WA_ShowWithoutActivating);
+        QApplication::alert(behind);
     }
-    return answer == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
+    return window.ask();
 }
 
 }  // namespace tarn
