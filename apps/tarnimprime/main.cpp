@@ -56,7 +56,7 @@ int execute(int argc, char** argv) {
     } catch (const cli::WrongUsage& error) {
         return failure(error.what(), cli::statusUsage);
     } catch (const RuntimeError& error) {
-        return failure(replaceAll(reportText(error, false), "\r", "\n"), runtimeErrorStatus);
+        return failure(replaceAll(reportText(error), "\r", "\n"), runtimeErrorStatus);
     }
     return choice.status;
 }

@@ -1,8 +1,11 @@
 #include "desk/desk_application.h"
 
+#include "desk/report.h"
 #include "platform/message_boxes.h"
 #include "platform/qt/input_gate.h"
+#include "runtime/runtime_error.h"
 #include "widgets/desk_context.h"
+#include "widgets/focus_return.h"
 #include "widgets/gesture_filter.h"
 #include "widgets/look.h"
 
@@ -12,12 +15,15 @@ DeskApplication::DeskApplication(int& argc, char** argv) : QApplication(argc, ar
     setApplicationName(QStringLiteral("TarnEmissao"));
     setQuitOnLastWindowClosed(false);  // the program ends where it says so, nowhere else
     new GestureFilter(*this);
+    new FocusReturn(*this);
     applyLook(*this);
 }
 
 bool DeskApplication::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
+    } catch (const ProgramEnded&) {
+        return false;
     } catch (...) {
         if (!report_) {
             throw;
@@ -27,22 +33,16 @@ bool DeskApplication::notify(QObject* receiver, QEvent* event) {
     }
 }
 
+// What was under way when the error came is over; nothing new may begin under the box.
 void reportError(const DeskContext& desk, const std::exception_ptr& error) {
-    const TicksWait noTicks(InputGate::ofApplication());
-    Box box;
-    box.icon = BoxIcon::Critical;
-    try {
-        std::rethrow_exception(error);
-    } catch (const RuntimeError& known) {
-        box.text = reportText(known, dynamic_cast<const ErrorAfterNote*>(&known) != nullptr);
-    } catch (const std::exception& other) {
-        box.text = std::string(
-                       "Aconteceu um erro inesperado e o programa será encerrado. Anote o "
-                       "texto abaixo e fale com o suporte.\r\r") +
-                   other.what();
+    if (desk.end.ended() || desk.end.failing()) {
+        return;
     }
-    if (!desk.end.ended()) {
-        desk.environment.boxes.show(box);
+    desk.end.failWith(runtimeErrorStatus);
+    const TicksWait noTicks(InputGate::ofApplication());
+    try {
+        desk.environment.boxes.show(reportOf(error));
+    } catch (const ProgramEnded&) {  // the desk was closed under the box
     }
     desk.end.endProgram(runtimeErrorStatus);
 }

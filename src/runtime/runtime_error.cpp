@@ -1,5 +1,7 @@
 #include "runtime/runtime_error.h"
 
+#include <new>
+
 namespace tarn {
 
 namespace {
@@ -43,10 +45,16 @@ std::string failureText(const RuntimeError& error) {
            "':\r\r" + error.description() + ".";
 }
 
-std::string reportText(const RuntimeError& error, bool noteMayExist) {
-    std::string text = failureText(error);
-    text += "\r\rO programa será encerrado. Anote esta mensagem e avise o suporte.";
-    if (noteMayExist) {
+std::string reportText(const std::exception& error) {
+    std::string text;
+    if (const auto* known = dynamic_cast<const RuntimeError*>(&error)) {
+        text = failureText(*known);
+    } else if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) {
+        text = "Erro em tempo de execução:\r\rFalta memória nesta máquina.";
+    } else {
+        text = "Erro em tempo de execução:\r\rO programa encontrou um erro que não esperava.";
+    }
+    if (dynamic_cast<const NoteMayExist*>(&error) != nullptr) {
         text +=
             "\r\rA Nota Fiscal pode ter sido gerada no servidor. Caso tenha sido gerada, utilize a "
             "tela de Reimpressão de Nota Fiscal para imprimi-la.";

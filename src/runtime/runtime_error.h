@@ -32,11 +32,30 @@ private:
     RuntimeErrorCode number_;
 };
 
-// The same after a fiscal note was asked of the server: it may exist there, unprinted.
-class ErrorAfterNote : public RuntimeError {
+// What every error is that comes after a fiscal note was asked of the server: it may exist
+// there, unprinted.
+struct NoteMayExist {};
+
+class ErrorAfterNote : public RuntimeError, public NoteMayExist {
 public:
     explicit ErrorAfterNote(const RuntimeError& error) : RuntimeError(error) {}
 };
+class UnexpectedAfterNote : public std::runtime_error, public NoteMayExist {
+public:
+    explicit UnexpectedAfterNote(const std::exception& error) : std::runtime_error(error.what()) {}
+};
+
+// Runs what follows the request for a note; its errors come out as one of these two.
+template <typename Routine>
+auto afterNote(const Routine& routine) {
+    try {
+        return routine();
+    } catch (const RuntimeError& error) {
+        throw ErrorAfterNote(error);
+    } catch (const std::exception& error) {
+        throw UnexpectedAfterNote(error);
+    }
+}
 
 inline constexpr int runtimeErrorStatus = 3;  // exit status of a program that such an error ended
 
@@ -44,8 +63,9 @@ inline constexpr int runtimeErrorStatus = 3;  // exit status of a program that s
 // full stop: what every report of such an error begins with.
 std::string failureText(const RuntimeError& error);
 
-// Text of the box that ends the program: failureText, that it ends, and, when a fiscal
-// note may already exist on the server, how to print it.
-std::string reportText(const RuntimeError& error, bool noteMayExist);
+// Text of the box that ends the program: failureText, or for any other exception a sentence
+// without the words of the library that it came from; and how to print a note that may exist
+// on the server.
+std::string reportText(const std::exception& error);
 
 }  // namespace tarn

@@ -7,8 +7,23 @@ void ProgramEnd::endProgram(int status) {
         return;
     }
     ended_ = true;
-    status_ = status;
-    emit didEnd(status);
+    if (!failing_) {
+        status_ = status;
+    }
+    emit didEnd(status_);
+}
+
+void ProgramEnd::failWith(int status) {
+    if (!ended_ && !failing_) {
+        failing_ = true;
+        status_ = status;
+    }
+}
+
+void ProgramEnd::leaveIfEnded() const {
+    if (ended_) {
+        throw ProgramEnded{};
+    }
 }
 
 }  // namespace tarn

@@ -21,24 +21,56 @@ protected:
 TEST_F(DeskApplicationTest, ReportsTheRunTimesErrorOnceAndEndsWithThree) {
     clickRaising(RuntimeError(RuntimeErrorCode::TypeMismatch));
     clickRaising(RuntimeError(RuntimeErrorCode::Overflow));
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{
-                                 reportText(RuntimeError(RuntimeErrorCode::TypeMismatch), false),
-                                 BoxIcon::Critical}));
+    EXPECT_THAT(boxes.shown,
+                testing::ElementsAre(Box{reportText(RuntimeError(RuntimeErrorCode::TypeMismatch)),
+                                         BoxIcon::Critical}));
     EXPECT_EQ(end.status(), 3);
 }
 
 TEST_F(DeskApplicationTest, ReportsANoteThatMayExist) {
     const RuntimeError error(RuntimeErrorCode::ObjectVariable);
     clickRaising(ErrorAfterNote(error));
-    EXPECT_THAT(boxes.texts(), testing::ElementsAre(reportText(error, true)));
+    EXPECT_THAT(boxes.texts(), testing::ElementsAre(reportText(ErrorAfterNote(error))));
 }
 
-TEST_F(DeskApplicationTest, ReportsAnyOtherException) {
-    clickRaising(std::runtime_error("sem memória"));
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
-    EXPECT_NE(boxes.shown[0].text.find("sem memória"), std::string::npos);
+TEST_F(DeskApplicationTest, ReportsAnyOtherExceptionWithoutItsOwnWords) {
+    const std::out_of_range error("basic_string::substr");
+    testing::internal::CaptureStderr();
+    clickRaising(error);
+    EXPECT_THAT(boxes.shown,
+                testing::ElementsAre(Box{reportText(error), BoxIcon::Critical, "TarnEmissao"}));
     EXPECT_EQ(end.status(), 3);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "tarnemissao: Erro em tempo de execução: O programa encontrou um erro que não "
+              "esperava. (basic_string::substr)\n");
+}
+
+TEST_F(DeskApplicationTest, TheReportIsALineOnTheErrorOutput) {
+    testing::internal::CaptureStderr();
+    clickRaising(RuntimeError(RuntimeErrorCode::TypeMismatch));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "tarnemissao: Erro em tempo de execução '13': Há um texto onde era esperado um "
+              "número.\n");
+}
+
+TEST_F(DeskApplicationTest, WhatFailsUnderTheReportIsNotReportedToo) {
+    boxes.onShow = [this](const Box&) { clickRaising(RuntimeError(RuntimeErrorCode::Overflow)); };
+    clickRaising(RuntimeError(RuntimeErrorCode::TypeMismatch));
+    EXPECT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(end.status(), 3);
+}
+
+TEST_F(DeskApplicationTest, ClosedUnderTheReportTheProgramStillEndsWithThree) {
+    boxes.onShow = [this](const Box&) { end.endProgram(); };
+    clickRaising(RuntimeError(RuntimeErrorCode::TypeMismatch));
+    EXPECT_EQ(end.status(), 3);
+}
+
+TEST_F(DeskApplicationTest, ARoutineThatTheEndCameOverIsLeftWithoutAWord) {
+    end.endProgram();
+    clickRaising(ProgramEnded{});
+    EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_EQ(end.status(), 0);
 }
 
 TEST_F(DeskApplicationTest, AfterTheEndNothingIsSent) {

@@ -61,9 +61,9 @@ inline const Box refusal{refusalText, BoxIcon::Exclamation, "TarnEmissao"};
 // What ends the program where an answer lacks what it must have; `detail` as the screen
 // adds it.
 inline Box endReport(const std::string& detail = "") {
-    return {"Erro em tempo de execução '91':\r\rFalta um dado na resposta do servidor" + detail +
-                ".\r\rO programa será encerrado. Anote esta mensagem e avise o suporte.",
-            BoxIcon::Critical, "TarnEmissao"};
+    return {
+        "Erro em tempo de execução '91':\r\rFalta um dado na resposta do servidor" + detail + ".",
+        BoxIcon::Critical, "TarnEmissao"};
 }
 inline Box endReportWithNote() {
     Box report = endReport();
