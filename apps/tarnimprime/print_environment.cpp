@@ -6,6 +6,7 @@
 #include "apps/tarnimprime/windowless_pages.h"
 #include "platform/directory/directory_spooler.h"
 #include "platform/directory/ops_printer.h"
+#include "platform/directory/picture_folder.h"
 #include "platform/system_spooler.h"
 #include "runtime/text.h"
 
@@ -29,6 +30,17 @@ public:
     std::optional<PrinterFailure> perform(const PrintOperation&) override { return std::nullopt; }
 };
 
+std::tm localTime() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+#ifdef _WIN32
+    localtime_s(&local, &now);
+#else
+    localtime_r(&now, &local);
+#endif
+    return local;
+}
+
 }  // namespace
 
 BoxAnswer TerminalBoxes::show(const Box& box) {
@@ -38,14 +50,13 @@ BoxAnswer TerminalBoxes::show(const Box& box) {
 }
 
 Date SystemClock::today() {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-#ifdef _WIN32
-    localtime_s(&local, &now);
-#else
-    localtime_r(&now, &local);
-#endif
+    const std::tm local = localTime();
     return {local.tm_mday, local.tm_mon + 1, local.tm_year + 1900};
+}
+
+TimeOfDay SystemClock::timeOfDay() {
+    const std::tm local = localTime();
+    return {.hour = local.tm_hour, .minute = local.tm_min};
 }
 
 PrintEnvironment::PrintEnvironment(const GlobalOptions& options) : options_(options) {}
@@ -99,14 +110,16 @@ Environment& PrintEnvironment::dryRunEnvironment() {
 
 Environment& PrintEnvironment::assemble() {
     if (!environment_) {
-        environment_ = std::make_unique<Environment>(Environment{.http = server_,
-                                                                 .spooler = *spooler_,
-                                                                 .printer = *pages_,
-                                                                 .boxes = boxes_,
-                                                                 .clock = clock_,
-                                                                 .machine = machine_,
-                                                                 .baseUrl = {},
-                                                                 .codePage = options_.codePage});
+        environment_ =
+            std::make_unique<Environment>(Environment{.http = server_,
+                                                      .spooler = *spooler_,
+                                                      .printer = *pages_,
+                                                      .boxes = boxes_,
+                                                      .clock = clock_,
+                                                      .machine = machine_,
+                                                      .baseUrl = {},
+                                                      .codePage = options_.codePage,
+                                                      .pictureFolder = usualPictureFolder()});
     }
     return *environment_;
 }

@@ -28,6 +28,7 @@ public:
 class SystemClock : public Clock {
 public:
     Date today() override;
+    TimeOfDay timeOfDay() override;
 };
 
 class NoMachine : public Machine {

@@ -54,6 +54,9 @@ CompanyData companyDataOf(const XmlDocument& answer) {
 }
 
 BillPictures loadPictures(const std::string& folder) {
+    if (folder.empty()) {
+        return {};
+    }
     return {.picLogo = pictureOf(folder, "LOGODUPL.jpg", "picLogo"),
             .picVert = pictureOf(folder, "VERTDUPL.jpg", "picVert"),
             .picAss = pictureOf(folder, "ASSEMITENTE.jpg", "picAss")};

@@ -1,9 +1,11 @@
 #include "desk/desk_options.h"
 
+#include <optional>
+
+#include "desk/server_address.h"
+
 namespace tarn {
 namespace {
-
-constexpr char page[] = "/Kestomain/TarnEmissao.asp?";
 
 constexpr char footer[] =
     "\nVariável de ambiente: TARN_SERVIDOR, endereço do servidor quando falta --servidor.\n"
@@ -12,26 +14,11 @@ constexpr char footer[] =
 
 }  // namespace
 
-std::string serverAddress(const std::string& typed) {
-    for (const std::string scheme : {"http://", "https://"}) {
-        if (typed.size() <= scheme.size() || typed.compare(0, scheme.size(), scheme) != 0) {
-            continue;
-        }
-        if (typed.find('?') != std::string::npos) {
-            return typed;
-        }
-        const std::size_t bar = typed.find('/', scheme.size());
-        const bool noPage = bar == std::string::npos || bar + 1 == typed.size();
-        return noPage ? typed.substr(0, bar) + page : typed + "?";
-    }
-    return {};
-}
-
 std::variant<Options, cli::Ending> readOptions(int argc, const char* const* argv,
                                                const std::string& environmentServer,
                                                const std::string& fallback) {
     Options options;
-    std::string server = environmentServer.empty() ? fallback : environmentServer;
+    std::optional<std::string> server;
     std::optional<std::string> virtualPrinter;
     cli::CommandLine line("tarnemissao",
                           "TarnEmissao: emissão de notas, duplicatas, boletos, cheques e "
@@ -55,11 +42,18 @@ std::variant<Options, cli::Ending> readOptions(int argc, const char* const* argv
         return line.wrong("--impressora-virtual pede o nome de uma pasta.");
     }
     options.virtualPrinter = virtualPrinter.value_or("");
-    options.baseUrl = serverAddress(server);
-    if (options.baseUrl.empty()) {
-        return line.wrong("o endereço do servidor deve começar com http:// ou https://: \"" +
-                          server + "\".");
+    std::string source = "--servidor";
+    if (!server && !environmentServer.empty()) {
+        source = "TARN_SERVIDOR";
+        server = environmentServer;
     }
+    options.serverReplaced = server.has_value();
+    const std::string typed = server.value_or(fallback);
+    const ServerAddress address = serverAddress(typed);
+    if (address.url.empty()) {
+        return line.wrong(source + " \"" + shownAddress(typed) + "\": " + address.refusal);
+    }
+    options.baseUrl = address.url;
     return options;
 }
 

@@ -10,8 +10,9 @@
 namespace tarn {
 
 struct Options {
-    std::string baseUrl;         // ends in "?"
-    std::string virtualPrinter;  // directory; empty: the machine's printer
+    std::string baseUrl;          // ends in "?"
+    bool serverReplaced = false;  // baseUrl isn't the build's own
+    std::string virtualPrinter;   // directory; empty: the machine's printer
     CodePage codePage = CodePage::Page1252;
     std::string pictureFolder;  // empty: the usual one
     bool labelSelection = false;
@@ -21,9 +22,5 @@ struct Options {
 std::variant<Options, cli::Ending> readOptions(int argc, const char* const* argv,
                                                const std::string& environmentServer,
                                                const std::string& fallback);
-
-// The address as requests need it: a bare server ("http://host:8610") gets the path of
-// the one page, an address of a page its question mark. Empty: no http or https address.
-std::string serverAddress(const std::string& typed);
 
 }  // namespace tarn

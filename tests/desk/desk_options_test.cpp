@@ -34,14 +34,10 @@ TEST(Options, TheServerOfTheCommandLineGoesBeforeTheEnvironments) {
               "https://linha/p.asp?");
 }
 
-TEST(Options, AServerGetsThePathOfTheOnePage) {
-    EXPECT_EQ(serverAddress("http://h:8610"), "http://h:8610/Kestomain/TarnEmissao.asp?");
-    EXPECT_EQ(serverAddress("https://h/"), "https://h/Kestomain/TarnEmissao.asp?");
-    EXPECT_EQ(serverAddress("http://h/x.asp"), "http://h/x.asp?");
-    EXPECT_EQ(serverAddress("http://h/x.asp?"), "http://h/x.asp?");
-    for (const char* wrong : {"", "h:8610", "ftp://h", "http://", "file:///etc/passwd"}) {
-        EXPECT_EQ(serverAddress(wrong), "") << wrong;
-    }
+TEST(Options, SaysWhetherTheServerWasReplaced) {
+    EXPECT_FALSE(optionsOf({}).serverReplaced);
+    EXPECT_TRUE(optionsOf({}, "http://amb").serverReplaced);
+    EXPECT_TRUE(optionsOf({"--servidor", "http://linha"}).serverReplaced);
 }
 
 TEST(Options, ReadsTheOthers) {
@@ -74,13 +70,23 @@ TEST(Options, WrongUsageSaysWhat) {
         {{"--impressora-virtual", ""},
          "tarnemissao: --impressora-virtual pede o nome de uma pasta.\n"},
         {{"--servidor", "ftp://x"},
-         "tarnemissao: o endereço do servidor deve começar com http:// ou https://: "
-         "\"ftp://x\".\n"}};
+         "tarnemissao: --servidor \"ftp://x\": o endereço do servidor começa com http:// ou "
+         "https://.\n"},
+        {{"--servidor", "http://ana:segredo@h/x.asp?a=1"},
+         "tarnemissao: --servidor \"http://h/x.asp\": depois do \"?\" não vem nada: o programa põe "
+         "o "
+         "pedido ali.\n"}};
     for (const auto& [words, text] : cases) {
         EXPECT_EQ(stop(words).status, 1);
         EXPECT_EQ(stop(words).text,
                   std::string(text) + "Use tarnemissao --ajuda para ver as opções.\n");
     }
+}
+
+TEST(Options, AWrongServerOfTheEnvironmentIsCalledByItsName) {
+    EXPECT_EQ(std::get<NoStart>(read({}, "servidor:8610")).text,
+              "tarnemissao: TARN_SERVIDOR \"servidor:8610\": o endereço do servidor começa com "
+              "http:// ou https://.\nUse tarnemissao --ajuda para ver as opções.\n");
 }
 
 }  // namespace

@@ -172,5 +172,17 @@ TEST_F(DirectorySpoolerTest, AFullDiskIsAFailure) {
     EXPECT_EQ(spooler.write("ABC"), 0U);
 }
 
+TEST_F(DirectorySpoolerTest, SaysBeforeTheFirstJobWhetherTheFolderCanBeWritten) {
+    EXPECT_TRUE(JobFiles(directory_).canWrite());
+    EXPECT_TRUE(fs::is_directory(directory_));
+    EXPECT_TRUE(fs::is_empty(directory_)) << "left something behind";
+    std::ofstream(base_ / "arquivo").put('x');
+    EXPECT_FALSE(JobFiles(base_ / "arquivo").canWrite());
+    EXPECT_FALSE(JobFiles(base_ / "arquivo" / "saida").canWrite());
+#ifdef __linux__
+    EXPECT_FALSE(JobFiles("/proc").canWrite()) << "not even the super-user may write there";
+#endif
+}
+
 }  // namespace
 }  // namespace tarn::test

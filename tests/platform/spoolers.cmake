@@ -1,4 +1,5 @@
 tarn_add_test(directory_spooler_test LABEL unit SOURCES directory_spooler_test.cpp
+  picture_folder_test.cpp
   LIBRARIES tarn_platform)
 
 if(CUPS_FOUND)

@@ -14,6 +14,7 @@ public:
     explicit FixedClock(Date date = {15, 3, 2012}) : date_(date) {}
 
     Date today() override { return date_; }
+    TimeOfDay timeOfDay() override { return {.hour = 10, .minute = 32}; }
     void set(const Date& date) { date_ = date; }
 
 private:

@@ -60,6 +60,18 @@ bool JobFiles::makeDirectory() const {
     return fs::is_directory(directory_, failed);
 }
 
+// Under a name that nothing takes for a job's.
+bool JobFiles::canWrite() const {
+    if (!makeDirectory()) {
+        return false;
+    }
+    const fs::path probe = directory_ / ".gravacao";
+    const bool made = makeEmpty(probe, true);
+    std::error_code failed;
+    fs::remove(probe, failed);
+    return made;
+}
+
 std::optional<fs::path> JobFiles::create(std::string_view extension) {
     if (!makeDirectory()) {
         return std::nullopt;

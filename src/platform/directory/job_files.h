@@ -23,6 +23,9 @@ public:
     // Makes the directory if it isn't there; false when that can't be done.
     bool makeDirectory() const;
 
+    // Whether a job's file could be made: there, made by now, and open to this user.
+    bool canWrite() const;
+
     // The next job's file, now there and empty, `extension` without a point. Nothing
     // when it can't be made; the number is then not spent.
     std::optional<std::filesystem::path> create(std::string_view extension);

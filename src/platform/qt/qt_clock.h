@@ -1,4 +1,4 @@
-// Today, by the machine's own calendar.
+// Today and now, by the machine's own clock.
 #pragma once
 
 #include "platform/clock.h"
@@ -8,6 +8,7 @@ namespace tarn {
 class QtClock : public Clock {
 public:
     Date today() override;
+    TimeOfDay timeOfDay() override;
 };
 
 }  // namespace tarn
