@@ -2,6 +2,7 @@
 
 #include <QIcon>
 
+#include "desk/server_address.h"
 #include "desk/start.h"
 #include "maker.h"
 #include "ui_frm_ajuda.h"
@@ -18,6 +19,10 @@ frmAjuda::frmAjuda(DeskContext& desk, QWidget* parent)
     ui_->Label1->setText(QString::fromUtf8(makerName));
     ui_->Label2->setText(QStringLiteral("Telefone: %1").arg(QString::fromUtf8(supportPhone)));
     ui_->Label3->setText(QStringLiteral("Suporte: %1").arg(QString::fromUtf8(supportAddress)));
+    ui_->lblVersion->setText(QStringLiteral("Versão: %1").arg(QLatin1StringView(programRelease)));
+    ui_->lblServer->setText(
+        QStringLiteral("Servidor: %1")
+            .arg(QString::fromStdString(shownAddress(desk.environment.baseUrl))));
     ui_->Label5->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::accept);
