@@ -1,14 +1,13 @@
 // The desk.
 #include <memory>
+#include <string>
+#include <utility>
 
 #include "desk/desk_assembly.h"
 #include "widgets/opening_display.h"
 
 namespace {
 
-constexpr char noPrinter[] =
-    "tarnemissao: este programa foi compilado sem impressora do sistema; use "
-    "--impressora-virtual PASTA.\n";
 constexpr char noDisplay[] =
     "tarnemissao: não há tela em que abrir a mesa. Entre numa sessão gráfica e abra o programa de "
     "lá; as variáveis DISPLAY e WAYLAND_DISPLAY dizem qual é a tela.\n";
@@ -23,13 +22,11 @@ int main(int argc, char** argv) {
     }
     const auto& options = std::get<tarn::Options>(parsed);
     auto printers = tarn::printersOf(options);
-    if (!printers.raw) {
-        return tarn::cli::say({tarn::cli::statusUsage, noPrinter});
+    if (const std::string obstacle = tarn::printerObstacle(options, printers); !obstacle.empty()) {
+        return tarn::cli::say({tarn::cli::statusUsage, "tarnemissao: " + obstacle + "\n"});
     }
     auto opening = std::make_unique<tarn::OpeningDisplay>(noDisplay);
     tarn::DeskApplication program(argc, argv);
     opening.reset();
-    tarn::Desk desk(program, options, std::move(printers));
-    desk.open();
-    return program.exec();
+    return tarn::runDesk(program, options, std::move(printers));
 }

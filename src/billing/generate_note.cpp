@@ -1,6 +1,7 @@
 #include "billing/generate_note.h"
 
 #include "billing/observations.h"
+#include "common/acts.h"
 #include "common/boxes.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
@@ -26,28 +27,46 @@ std::string valueByPosition(const XmlDocument& document, std::size_t index) {
     return std::string(document.documentElement().child(index).attributes().item(0).text());
 }
 
+struct GeneratedNote {
+    std::string order;
+    std::string number;
+    std::string series;
+
+    std::string name() const { return noteName(number); }
+};
+
+// The note stands on the server; its paper is up to the reprint screen.
+GenerationEnd notPrinted(const Environment& environment, const GeneratedNote& note,
+                         GenerationEnd end) {
+    tellDone(environment, note.name() + " da ordem " + note.order +
+                              " gerada, mas não impressa: use ReImpressão de NF");
+    return end;
+}
+
 GenerationEnd printGenerated(Environment& environment, const Sessao& session,
-                             const std::string& note, const std::string& series,
-                             const PrintStep& print) {
+                             const GeneratedNote& note, const PrintStep& print) {
     XmlDocument document;
-    if (!requestAnswer(environment, commands::sel_gera_nf(session, note, series), document,
-                       failure::Tarn0005)) {
+    if (!requestAnswer(environment, commands::sel_gera_nf(session, note.number, note.series),
+                       document, failure::Tarn0005)) {
         warn(environment,
-             "Houve um problema na transferência dos dados da Nota Fiscal nº " + note +
+             "Houve um problema na transferência dos dados da Nota Fiscal nº " + note.number +
                  ". Utilize a tela de Reimpressão de Nota Fiscal.",
              box_title::notice);
-        return GenerationEnd::Finished;
+        return notPrinted(environment, note, GenerationEnd::Finished);
     }
     if (document.empty()) {  // the note may exist: decision D50
         throw RuntimeError(RuntimeErrorCode::ObjectRequired);
     }
     if (!answerAccepted(environment, document, "")) {
-        return GenerationEnd::Stopped;
+        return notPrinted(environment, note, GenerationEnd::Stopped);
     }
     if (session.NCOMPANYCODE == companyOfReprint && session.ID_ETB_TARN == establishmentOfReprint) {
         throw RuntimeError(RuntimeErrorCode::ObjectRequired);
     }
-    print(environment, session, document, note);
+    print(environment, session, document, note.number);
+    tellPrinted(environment, {.sent = note.name() + " da ordem " + note.order + " enviada",
+                              .made = note.name() + " gerada",
+                              .remedy = "use ReImpressão de NF"});
     return GenerationEnd::Finished;
 }
 
@@ -65,9 +84,10 @@ GenerationEnd requestNote(Environment& environment, const Sessao& session, const
     if (!answerAccepted(environment, document, "Houve um problema para gerar a Nota Fiscal. ")) {
         return GenerationEnd::Stopped;
     }
-    const std::string note = valueByPosition(document, 0);
-    const std::string series = valueByPosition(document, 1);
-    return printGenerated(environment, session, note, series, print);
+    const GeneratedNote note{.order = order,
+                             .number = valueByPosition(document, 0),
+                             .series = valueByPosition(document, 1)};
+    return printGenerated(environment, session, note, print);
 }
 
 }  // namespace
@@ -77,11 +97,7 @@ GenerationEnd generateNote(Environment& environment, Sessao& session, AlertDialo
     if (!acceptedNotices(environment, session, alert, order)) {
         return GenerationEnd::Stopped;
     }
-    try {
-        return requestNote(environment, session, order, print);
-    } catch (const RuntimeError& error) {
-        throw ErrorAfterNote(error);
-    }
+    return afterNote([&] { return requestNote(environment, session, order, print); });
 }
 
 }  // namespace tarn

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "common/acts.h"
 #include "common/boxes.h"
 #include "common/printed_line.h"
 #include "gateway/answer.h"
@@ -286,6 +287,9 @@ void printSelectedOrder(Environment& environment, const Sessao& session, const s
     }
     if (answerAccepted(environment, document, problem + " ")) {
         printOrder(environment, session, document);
+        tellPrinted(environment, {.sent = "Folha da ordem " + order + " enviada",
+                                  .made = "Folha da ordem " + order + " lida do servidor",
+                                  .remedy = "imprima de novo"});
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "common/acts.h"
 #include "common/boxes.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
@@ -96,6 +97,7 @@ bool cancelOrder(Environment& environment, const Sessao& session, const GridRow&
     if (!answerAccepted(environment, document, problem)) {
         return false;
     }
+    tellDone(environment, "Ordem " + number + " cancelada");
     inform(environment, "Ordem de Faturamento cancelada.      ", "Aviso ");
     return true;
 }
@@ -121,8 +123,12 @@ bool saveOrder(Environment& environment, const Sessao& session, const commands::
              box_title::notice);
         return true;
     }
-    return answerAccepted(environment, document,
-                          "Houve um problema para gravar a Ordem de Faturamento. ");
+    if (!answerAccepted(environment, document,
+                        "Houve um problema para gravar a Ordem de Faturamento. ")) {
+        return false;
+    }
+    tellDone(environment, "Ordem " + data.order + " gravada");
+    return true;
 }
 
 }  // namespace tarn

@@ -1,8 +1,12 @@
 #include "desk/desk_assembly.h"
 
 #include <QTimer>
+#include <iostream>
 
+#include "desk/report.h"
+#include "desk/server_address.h"
 #include "platform/directory/directory_spooler.h"
+#include "platform/directory/picture_folder.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/system_spooler.h"
 
@@ -16,23 +20,41 @@ Printers printersOf(const Options& options) {
     return {std::make_unique<DirectorySpooler>(files), std::make_unique<QtPrinter>(files)};
 }
 
+std::string printerObstacle(const Options& options, const Printers& printers) {
+    if (!printers.raw) {
+        return "este programa foi compilado sem impressora do sistema; use --impressora-virtual "
+               "PASTA.";
+    }
+    if (!options.virtualPrinter.empty() && !JobFiles(options.virtualPrinter).canWrite()) {
+        return "--impressora-virtual \"" + options.virtualPrinter +
+               "\": não é possível gravar nesta pasta. Confira o nome e a permissão.";
+    }
+    return {};
+}
+
 Desk::Desk(DeskApplication& program, const Options& options, Printers printers)
     : program_(program),
       labelSelection_(options.labelSelection),
       printers_(std::move(printers)),
-      environment_{.http = http_,
-                   .spooler = *printers_.raw,
-                   .printer = *printers_.pages,
+      teller_(clock_, std::cerr),
+      environment_{.http = server_,
+                   .spooler = spooler_,
+                   .printer = pages_,
                    .boxes = boxes_,
                    .clock = clock_,
                    .machine = machine_,
                    .baseUrl = options.baseUrl,
-                   .codePage = options.codePage} {
-    if (!options.pictureFolder.empty()) {
-        environment_.pictureFolder = options.pictureFolder;
+                   .codePage = options.codePage,
+                   .pictureFolder =
+                       options.pictureFolder.empty() ? usualPictureFolder() : options.pictureFolder,
+                   .acts = &teller_} {
+    if (options.serverReplaced) {
+        menu_.showServer(QString::fromStdString(shownAddress(options.baseUrl)));
     }
+    QObject::connect(&teller_, &Teller::lineChanged, &menu_, &MDIMenu::tell);
     program_.setErrorReport([this](const std::exception_ptr& error) { reportError(desk_, error); });
     QObject::connect(&end_, &ProgramEnd::didEnd, &program_, [this](int status) {
+        menu_.hide();
         http_.close();
         QCoreApplication::exit(status);
     });
@@ -49,6 +71,15 @@ void Desk::open() {
         if (labelSelection_ && !end_.ended()) {
             menu_.openLabelSelection();
         }
+    });
+}
+
+int runDesk(DeskApplication& program, const Options& options, Printers printers) {
+    reportUncaughtErrors();
+    return reportingErrors([&] {
+        Desk desk(program, options, std::move(printers));
+        desk.open();
+        return DeskApplication::exec();
     });
 }
 

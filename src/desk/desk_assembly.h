@@ -2,9 +2,11 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "desk/desk_application.h"
 #include "desk/desk_options.h"
+#include "desk/desk_seams.h"
 #include "desk/mdi_menu.h"
 #include "platform/curl/curl_loader.h"
 #include "platform/printer.h"
@@ -14,6 +16,7 @@
 #include "platform/qt/qt_message_boxes.h"
 #include "platform/spooler.h"
 #include "widgets/desk_context.h"
+#include "widgets/teller.h"
 
 namespace tarn {
 
@@ -26,6 +29,14 @@ struct Printers {
 // `raw` is null where the program was built without a printer of the system and
 // the options name none.
 Printers printersOf(const Options& options);
+
+// Why the printer that the options name can't be printed on, as a line for the error
+// output; empty: it can, as far as is known before the first job.
+std::string printerObstacle(const Options& options, const Printers& printers);
+
+// Opens the desk and runs its event loop; the program's exit status. An error that nothing
+// else catches is reported, whether it comes before the loop, in it or after it.
+int runDesk(DeskApplication& program, const Options& options, Printers printers);
 
 class Desk {
 public:
@@ -45,12 +56,17 @@ private:
     CurlLoader network_;
     BlockingLoader http_{network_};
     Printers printers_;
-    QtMessageBoxes boxes_;
+    QtMessageBoxes boxesOnScreen_;
     QtClock clock_;
     QtMachine machine_;
+    ProgramEnd end_;
+    Teller teller_;
+    DeskLoader server_{http_, teller_, end_};
+    DeskSpooler spooler_{*printers_.raw, teller_.paper(), end_};
+    DeskPrinter pages_{*printers_.pages, teller_.paper(), end_};
+    DeskBoxes boxes_{boxesOnScreen_, end_};
     Environment environment_;
     Sessao session_;
-    ProgramEnd end_;
     DeskContext desk_{environment_, session_, end_};
     MDIMenu menu_{desk_};
 };

@@ -2,7 +2,7 @@
 
 #include <QCloseEvent>
 #include <QDialog>
-#include <QLabel>
+#include <QGridLayout>
 #include <QMdiSubWindow>
 #include <QScreen>
 #include <QShowEvent>
@@ -25,25 +25,16 @@
 #include "slips/frm_pesq_boleto.h"
 #include "ui_mdi_menu.h"
 #include "widgets/look.h"
+#include "widgets/status_panel.h"
 
 namespace tarn {
 namespace {
 
+constexpr int panelGap = 2;  // pixels
+
 QString titleWithSession() {
     return QStringLiteral("TARN EMISSÕES - Rotina Mercantil - Versão de %1 - %2")
         .arg(QLatin1StringView(versionDate), QLatin1StringView(releaseName));
-}
-
-QLabel* newPanel(QStatusBar& bar, const char* name, const QString& accessible, int width) {
-    auto* panel = new QLabel(&bar);
-    panel->setObjectName(QLatin1StringView(name));
-    panel->setAccessibleName(accessible);
-    panel->setTextFormat(Qt::PlainText);
-    panel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    panel->setMargin(2);
-    panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    bar.addWidget(panel, width);
-    return panel;
 }
 
 }  // namespace
@@ -55,8 +46,7 @@ MDIMenu::MDIMenu(DeskContext& desk)
     ui_->setupUi(this);
     InputGate::ofApplication().letClose(*this);
     ui_->mnuNF->insertSeparator(ui_->mCNF)->setObjectName(QStringLiteral("NFtraco"));
-    panel1_ = newPanel(*ui_->StatusBar1, "Panel1", QStringLiteral("Impressora configurada"), 3);
-    panel2_ = newPanel(*ui_->StatusBar1, "Panel2", QStringLiteral("Estabelecimento"), 2);
+    preparePanels();
     ui_->mdiArea->setBackground(palette().brush(QPalette::Mid));
     resize(screen()->availableSize() * 0.85);
     connect(ui_->mdiArea, &QMdiArea::subWindowActivated, this, &MDIMenu::centre);
@@ -66,6 +56,40 @@ MDIMenu::MDIMenu(DeskContext& desk)
 // Its screens are destroyed after it: what they tell then may not reach it any more.
 MDIMenu::~MDIMenu() {
     ui_->mdiArea->disconnect(this);
+}
+
+// What was done has a line of its own, as wide as the desk.
+void MDIMenu::preparePanels() {
+    auto* panels = new QWidget(ui_->StatusBar1);
+    auto* grid = new QGridLayout(panels);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(panelGap);
+    const auto newPanel = [panels](const char* name, const QString& what) {
+        return new StatusPanel(name, what, panels);
+    };
+    panel1_ = newPanel("Panel1", QStringLiteral("Impressora configurada"));
+    panel2_ = newPanel("Panel2", QStringLiteral("Estabelecimento"));
+    panel3_ = newPanel("Panel3", QStringLiteral("Último acontecimento"));
+    panel4_ = newPanel("Panel4", QStringLiteral("Servidor"));
+    panel4_->hide();
+    grid->addWidget(panel3_, 0, 0, 1, 3);
+    int column = 0;
+    for (QWidget* panel : {panel1_, panel2_, panel4_}) {
+        grid->addWidget(panel, 1, column++);
+    }
+    grid->setColumnStretch(0, 3);
+    grid->setColumnStretch(1, 2);
+    ui_->StatusBar1->addWidget(panels, 1);
+}
+
+void MDIMenu::tell(const QString& line) {
+    panel3_->setText(line);
+}
+
+void MDIMenu::showServer(const QString& address) {
+    panel4_->setText(QStringLiteral("Servidor: %1").arg(address));
+    panel4_->show();
+    static_cast<QGridLayout*>(panel4_->parentWidget()->layout())->setColumnStretch(2, 2);
 }
 
 void MDIMenu::connectMenu() {
@@ -119,7 +143,7 @@ bool MDIMenu::hasRight(const char* transaction) {
     return VerificaDireitoAcesso(desk_.environment, desk_.session, transaction);
 }
 
-// Only a modal screen of the menu activates the desk again: decision D98.
+// A modal screen of the menu activates the desk again, but for the help: decisions D98, D122.
 void MDIMenu::runModal(QDialog& screen) {
     screen.exec();
     if (!desk_.end.ended()) {
@@ -184,11 +208,11 @@ void MDIMenu::mnuChequeImpressao_Click() {
 
 void MDIMenu::mnuAjuda_Click() {
     frmAjuda help(desk_, this);
-    if (!help.load()) {
+    if (help.load()) {
+        help.exec();
+    } else {
         desk_.end.endProgram();
-        return;
     }
-    runModal(help);
 }
 
 void MDIMenu::lockMenus() {

@@ -6,11 +6,11 @@
 #include <memory>
 
 #include "labels/queue.h"
+#include "platform/qt/close_request.h"
 #include "widgets/desk_context.h"
 
 class QAction;
 class QDialog;
-class QLabel;
 class QMdiSubWindow;
 
 namespace Ui {
@@ -20,6 +20,7 @@ class MDIMenu;
 namespace tarn {
 
 class CollectionScreens;
+class StatusPanel;
 enum class NoteJob;
 
 class MDIMenu : public QMainWindow {
@@ -37,6 +38,11 @@ public:
     // been closed.
     void openLabelSelection();
 
+    // The line of what was done last, on Panel3.
+    void tell(const QString& line);
+    // The server, on a panel of its own: it isn't the usual one.
+    void showServer(const QString& address);
+
     // Enables mnuEtiquetas and mnuNF again when a screen that disabled them closes.
     void LiberaMenus();
 
@@ -46,6 +52,7 @@ protected:
 
 private:
     void connectMenu();
+    void preparePanels();
     void lockMenus();
     bool logOn();
     void activate();
@@ -68,9 +75,12 @@ private:
     DeskContext& desk_;
     std::unique_ptr<Ui::MDIMenu> ui_;
     std::unique_ptr<CollectionScreens> collection_;
+    CloseRequest closeRequest_{*this};
     labels::LabelValues labelValues_;  // from one opening to the next
-    QLabel* panel1_ = nullptr;         // printer notice
-    QLabel* panel2_ = nullptr;         // establishment's name
+    StatusPanel* panel1_ = nullptr;    // printer notice
+    StatusPanel* panel2_ = nullptr;    // establishment's name
+    StatusPanel* panel3_ = nullptr;    // what was done last, or is waited for
+    StatusPanel* panel4_ = nullptr;    // server, where it was replaced for the run
 };
 
 }  // namespace tarn

@@ -7,6 +7,7 @@
 
 namespace tarn {
 
+class ActLog;
 class Clock;
 class HttpLoader;
 class Machine;
@@ -23,7 +24,8 @@ struct Environment {
     Machine& machine;
     std::string baseUrl;  // ends in "?", the query follows at once
     CodePage codePage = CodePage::Page1252;
-    std::string pictureFolder = "C:/TARN/";  // of the pictures of bills and receipts
+    std::string pictureFolder = {};  // of the pictures of bills and receipts; empty: none
+    ActLog* acts = nullptr;          // null: nobody listens
 };
 
 }  // namespace tarn

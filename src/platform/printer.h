@@ -128,6 +128,9 @@ public:
     std::optional<PrinterFailure> NewPage() { return perform(PageBreak{}); }
     std::optional<PrinterFailure> EndDoc() { return perform(DocumentEnd{}); }
 
+    // The machine's name of the printer; empty where it has none.
+    virtual std::string name() { return {}; }
+
     // What all of these come down to.
     virtual std::optional<PrinterFailure> perform(const PrintOperation& operation) = 0;
 };

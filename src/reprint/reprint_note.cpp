@@ -1,5 +1,6 @@
 #include "reprint/reprint_note.h"
 
+#include "common/acts.h"
 #include "common/boxes.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
@@ -132,11 +133,10 @@ void reprintNote(Environment& environment, const Sessao& session, const std::str
     if (!accept(environment, document, dataProblem + number + ". ")) {
         return;
     }
-    try {
-        printNote(Ladder::Reprint, environment, session, document, number);
-    } catch (const RuntimeError& error) {
-        throw ErrorAfterNote(error);
-    }
+    afterNote([&] { printNote(Ladder::Reprint, environment, session, document, number); });
+    tellPrinted(environment, {.sent = noteName(number) + " enviada de novo",
+                              .made = noteName(number) + " lida do servidor",
+                              .remedy = "imprima de novo"});
 }
 
 bool cancelNote(Environment& environment, const Sessao& session, const CancelRequest& request) {
@@ -162,6 +162,7 @@ bool cancelNote(Environment& environment, const Sessao& session, const CancelReq
     if (!accept(environment, document, cancellationProblem + request.number + ". ")) {
         return false;
     }
+    tellDone(environment, noteName(request.number) + " cancelada");
     inform(environment, "Nota fiscal cancelada com sucesso", box_title::notice);
     return true;
 }

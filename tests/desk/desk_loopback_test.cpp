@@ -63,7 +63,6 @@ TEST_F(DeskOverHttp, AHangingServerHoldsTheDeskUntilItAnswers) {
     QTimer::singleShot(0, &menu, [this] {
         click(menu, "CmdAtualizar");
         click(menu, "CmdFechar");
-        menu.close();
         http.release();
     });
     click(menu, "CmdAtualizar");
@@ -71,6 +70,20 @@ TEST_F(DeskOverHttp, AHangingServerHoldsTheDeskUntilItAnswers) {
     EXPECT_NE(menu.findChild<FrmOFT*>(), nullptr);
     EXPECT_TRUE(menu.isVisible());
     EXPECT_FALSE(end.ended());
+}
+
+// The answer never comes: without an end of the request this test wouldn't end.
+TEST_F(DeskOverHttp, ClosingTheDeskGivesUpTheRequestUnderWay) {
+    choose(menu, "mnuNF", "mOFT");
+    http.setHandler([](const std::string&) {
+        LoopbackReply reply = LoopbackReply::xml("");
+        reply.waits = true;
+        return reply;
+    });
+    QTimer::singleShot(0, &menu, [this] { menu.close(); });
+    click(menu, "CmdAtualizar");
+    EXPECT_TRUE(end.ended());
+    EXPECT_EQ(end.status(), 0);
 }
 
 TEST_F(DeskOverHttp, AServerThatWentAwayIsToldAndTheDeskGoesOn) {

@@ -247,22 +247,31 @@ TEST_F(MDIMenuTest, AnUnreadableRightEndsTheProgramWithTheReport) {
     EXPECT_EQ(end.status(), 3);
 }
 
-TEST_F(MDIMenuTest, HelpActivatesTheDeskAgain) {
+TEST_F(MDIMenuTest, HelpTellsHowToReachSupportAndWhatToTellIt) {
     logOn();
-    server.on("sel_dados_empresa", answers::branch("Filial Norte"));
-    const std::size_t sent = server.addresses.size();
     modals.then("frmAjuda", [&](QWidget& help) {
         EXPECT_EQ(machine.dateFormats.size(), 2U);
         EXPECT_EQ(named<QLabel>(help, "Label4").text(), QStringLiteral("Ajuda"));
         EXPECT_EQ(named<QLabel>(help, "Label1").text(), QStringLiteral("TARN Sistemas"));
         EXPECT_TRUE(named<QLabel>(help, "Label2").text().contains(u"(11) 5555-0100"));
         EXPECT_TRUE(named<QLabel>(help, "Label3").text().contains(u"suporte@tarn.example"));
+        EXPECT_EQ(named<QLabel>(help, "lblVersion").text(),
+                  QStringLiteral("Versão: " TARN_VERSION));
+        EXPECT_EQ(named<QLabel>(help, "lblServer").text(),
+                  QStringLiteral("Servidor: http://servidor/pagina.asp"));
         click(help, "cmdVoltar");
     });
     choose(menu, "mnuAjuda");
-    EXPECT_EQ(server.addresses.size(), sent + 1);
-    EXPECT_EQ(server.queries().back(),
-              "comando=sel_dados_empresa&Id_Etb_Tarn=3382&ServerName=SRV1");
+}
+
+TEST_F(MDIMenuTest, HelpAsksNothingOfAServerThatMayBeDown) {
+    logOn();
+    const std::size_t sent = server.addresses.size();
+    modals.then("frmAjuda", [](QWidget& help) { key(help, Qt::Key_Escape); });
+    choose(menu, "mnuAjuda");
+    EXPECT_EQ(server.addresses.size(), sent);
+    EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_FALSE(end.ended());
 }
 
 TEST_F(MDIMenuTest, HelpEndsTheProgramWhereTheDateFormatIsRefused) {
@@ -278,13 +287,40 @@ TEST_F(MDIMenuTest, HelpEndsTheProgramWhereTheDateFormatIsRefused) {
 TEST_F(MDIMenuTest, AnActivationWithoutTheServerEndsTheProgram) {
     logOn();
     ScriptedLoader down;
-    server = down.failOn("sel_dados_empresa");
-    modals.then("frmAjuda", [](QWidget& help) { key(help, Qt::Key_Escape); });
-    choose(menu, "mnuAjuda");
+    server = down.failOn("sel_dados_empresa")
+                 .on("sTransacao=EMI005", answers::status("OK"))
+                 .on("sel_banco_agencia_conta", answers::rowset(""));
+    modals.then("frmCheque", [](QWidget& cheque) { click(cheque, "cmdCancelar"); });
+    choose(menu, "mnuCheque", "mnuChequeImpressao");
     ASSERT_EQ(boxes.shown.size(), 2U);
     EXPECT_EQ(boxes.shown[0], (noInternet9));
     EXPECT_EQ(boxes.shown[1].text.rfind("Erro em tempo de execução '91':\r\r", 0), 0U);
     EXPECT_EQ(end.status(), 3);
+}
+
+TEST_F(MDIMenuTest, WhatWasDoneStandsOnThePanelOfItsOwn) {
+    EXPECT_EQ(panel("Panel3"), "");
+    menu.tell(QStringLiteral("10:32 NF 008529 da ordem 45112 enviada a LX-300"));
+    EXPECT_EQ(panel("Panel3"), "10:32 NF 008529 da ordem 45112 enviada a LX-300");
+    EXPECT_GT(named<QWidget>(menu, "Panel3").width(), menu.width() * 9 / 10);
+}
+
+TEST_F(MDIMenuTest, AServerThatIsntTheUsualOneHasAPanel) {
+    EXPECT_FALSE(named<QWidget>(menu, "Panel4").isVisible());
+    menu.showServer(QStringLiteral("http://127.0.0.1:8610"));
+    EXPECT_TRUE(named<QWidget>(menu, "Panel4").isVisible());
+    EXPECT_EQ(panel("Panel4"), "Servidor: http://127.0.0.1:8610");
+}
+
+TEST_F(MDIMenuTest, ClosingTheDeskUnderAModalScreenEndsTheProgram) {
+    logOn();
+    modals.then("frmAjuda", [this](QWidget& help) {
+        menu.close();
+        EXPECT_TRUE(end.ended());
+        static_cast<QDialog&>(help).reject();
+    });
+    choose(menu, "mnuAjuda");
+    EXPECT_EQ(end.status(), 0);
 }
 
 TEST_F(MDIMenuTest, AClickOnThePictureDoesNothing) {

@@ -3,6 +3,7 @@
 
 #include "platform/environment.h"
 #include "tests/support/fixed_machine.h"
+#include "tests/support/recorded_acts.h"
 #include "tests/support/recording_printer.h"
 #include "tests/support/recording_spooler.h"
 #include "tests/support/scripted_boxes.h"
@@ -17,13 +18,15 @@ struct TestEnvironment {
     ScriptedBoxes boxes;
     FixedClock clock;
     FixedMachine machine;
+    RecordedActs acts;
     Environment environment{.http = loader,
                             .spooler = spooler,
                             .printer = printer,
                             .boxes = boxes,
                             .clock = clock,
                             .machine = machine,
-                            .baseUrl = "http://servidor/p.asp?"};
+                            .baseUrl = "http://servidor/p.asp?",
+                            .acts = &acts};
 };
 
 }  // namespace tarn::test

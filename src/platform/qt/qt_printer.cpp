@@ -101,6 +101,10 @@ std::optional<PrinterFailure> QtPrinter::end() {
     return std::nullopt;
 }
 
+std::string QtPrinter::name() {
+    return files_ ? files_->directory().string() : QPrinterInfo::defaultPrinterName().toStdString();
+}
+
 std::optional<PrinterFailure> QtPrinter::perform(const PrintOperation& operation) {
     if (const auto* orientation = std::get_if<Orientation>(&operation)) {
         orientation_ = *orientation;

@@ -23,6 +23,7 @@ public:
     // `files` may be shared with the spooler that writes into the same directory.
     explicit QtPrinter(std::shared_ptr<JobFiles> files) : files_(std::move(files)) {}
 
+    std::string name() override;
     std::optional<PrinterFailure> perform(const PrintOperation& operation) override;
 
 private:

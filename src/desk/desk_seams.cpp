@@ -1,0 +1,123 @@
+#include "desk/desk_seams.h"
+
+#include "platform/act_log.h"
+#include "widgets/program_end.h"
+#include "widgets/teller.h"
+
+namespace tarn {
+namespace {
+
+constexpr char noPrinter[] = "esta máquina não tem impressora padrão";
+
+void meet(PaperOutcome& paper, const std::string& obstacle) {
+    if (paper.obstacle.empty()) {
+        paper.obstacle = obstacle;
+    }
+}
+
+// What happened, without what to do about it.
+std::string firstSentence(const std::string& description) {
+    const std::size_t end = description.find(". ");
+    std::string sentence = description.substr(0, end);
+    if (end == std::string::npos && sentence.ends_with('.')) {
+        sentence.pop_back();
+    }
+    return sentence;
+}
+
+}  // namespace
+
+HttpAnswer DeskLoader::get(const std::string& address) {
+    end_.leaveIfEnded();
+    HttpAnswer answer = [&] {
+        const Waiting waiting(teller_);
+        return real_.get(address);
+    }();
+    end_.leaveIfEnded();
+    return answer;
+}
+
+std::string DeskSpooler::defaultPrinter() {
+    return real_.defaultPrinter();
+}
+
+bool DeskSpooler::noted(bool taken) {
+    if (!taken && open_) {
+        meet(paper_, "a impressora " + paper_.printer + " recusou o trabalho");
+    }
+    return taken;
+}
+
+bool DeskSpooler::openPrinter(const std::string& name) {
+    end_.leaveIfEnded();
+    open_ = true;
+    paper_.asked = true;
+    paper_.printer = name;
+    if (name.empty()) {
+        meet(paper_, noPrinter);
+    }
+    return noted(real_.openPrinter(name));
+}
+
+bool DeskSpooler::startDocument(const JobDescription& job) {
+    return noted(real_.startDocument(job));
+}
+
+bool DeskSpooler::startPage() {
+    return noted(real_.startPage());
+}
+
+std::size_t DeskSpooler::write(std::string_view bytes) {
+    end_.leaveIfEnded();
+    const std::size_t taken = real_.write(bytes);
+    noted(taken == bytes.size());
+    return taken;
+}
+
+bool DeskSpooler::endPage() {
+    return noted(real_.endPage());
+}
+
+bool DeskSpooler::endDocument() {
+    return noted(real_.endDocument());
+}
+
+// The job was handed over before that.
+bool DeskSpooler::closePrinter() {
+    open_ = false;
+    return real_.closePrinter();
+}
+
+// The real printer counts its pages only while it puts them on paper.
+std::optional<PrinterFailure> DeskPrinter::passOn(const PrintOperation& operation) {
+    if (!std::holds_alternative<DocumentEnd>(operation)) {
+        return real_.perform(operation);
+    }
+    real_.progress = progress;
+    std::optional<PrinterFailure> failure = real_.perform(operation);
+    real_.progress = nullptr;
+    return failure;
+}
+
+std::optional<PrinterFailure> DeskPrinter::perform(const PrintOperation& operation) {
+    end_.leaveIfEnded();
+    std::optional<PrinterFailure> failure = passOn(operation);
+    if (draws(operation)) {
+        paper_.asked = true;
+    }
+    if (failure) {
+        meet(paper_, firstSentence(failure->description));
+    } else if (std::holds_alternative<DocumentEnd>(operation) && paper_.printer.empty()) {
+        paper_.printer = real_.name();
+    }
+    return failure;
+}
+
+BoxAnswer DeskBoxes::show(const Box& box) {
+    end_.leaveIfEnded();
+    const BoxAnswer answer = real_.show(box);
+    end_.leaveIfEnded();
+    return answer;
+}
+
+}  // namespace tarn

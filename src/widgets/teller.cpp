@@ -1,0 +1,78 @@
+#include "widgets/teller.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <ostream>
+#include <utility>
+
+#include "platform/clock.h"
+#include "runtime/text.h"
+
+namespace tarn {
+namespace {
+
+std::string sentence(const PaperAct& act, const PaperOutcome& paper) {
+    if (!paper.obstacle.empty()) {
+        return act.made + ", mas " + paper.obstacle + ": " + act.remedy;
+    }
+    if (!paper.asked) {
+        return act.made + "; nada foi impresso";
+    }
+    return act.sent + (paper.printer.empty() ? " à impressora" : " a " + paper.printer);
+}
+
+}  // namespace
+
+Teller::Teller(Clock& clock, std::ostream& errors, std::chrono::milliseconds second)
+    : clock_(clock), errors_(errors), second_(second) {
+    connect(&counting_, &QTimer::timeout, this, &Teller::count);
+}
+
+void Teller::done(const std::string& what) {
+    tell(what);
+}
+
+void Teller::printed(const PaperAct& act) {
+    tell(sentence(act, std::exchange(paper_, {})));
+}
+
+// What is told holds data of the server.
+void Teller::tell(const std::string& what) {
+    const TimeOfDay now = clock_.timeOfDay();
+    std::array<char, 8> time{};
+    std::snprintf(time.data(), time.size(), "%02d:%02d ", now.hour % 24, now.minute % 60);
+    const std::string line = time.data() + blankControls(what);
+    told_ = QString::fromStdString(line);
+    errors_ << line << std::endl;
+    emit lineChanged(this->line());
+}
+
+void Teller::waitBegins() {
+    seconds_ = 0;
+    waiting_.start();
+    counting_.start(second_);
+}
+
+void Teller::waitEnds() {
+    counting_.stop();
+    waiting_.invalidate();
+    if (std::exchange(seconds_, 0) > 0) {
+        emit lineChanged(line());
+    }
+}
+
+void Teller::count() {
+    const bool first = seconds_ == 0;
+    seconds_ = std::max<qint64>(seconds_ + 1, waiting_.elapsed() / second_.count());
+    if (first) {
+        errors_ << "Aguardando o servidor" << std::endl;
+    }
+    emit lineChanged(line());
+}
+
+QString Teller::line() const {
+    return seconds_ == 0 ? told_ : QStringLiteral("Aguardando o servidor há %1 s").arg(seconds_);
+}
+
+}  // namespace tarn
