@@ -7,6 +7,7 @@
 #include "bills/bill_page.h"
 #include "bills/bill_search.h"
 #include "bills/receipt_page.h"
+#include "common/acts.h"
 #include "common/boxes.h"
 #include "common/valor_extenso.h"
 #include "gateway/answer.h"
@@ -58,6 +59,24 @@ std::string finalMessage(const BillRun& documents) {
     return kindName + " impressa(s) com sucesso!     ";
 }
 
+// Which pages were drawn; a document's own kind decides it.
+PaperAct pagesSent(const BillRun& documents) {
+    std::size_t bills = 0;
+    std::size_t receipts = 0;
+    for (const GridRow& document : documents.lines) {
+        if (document.ticked) {
+            ++(isOneOf(drawnKinds, document) ? bills : receipts);
+        }
+    }
+    const Noun bill = documents.triplicate ? Noun{"triplicata", "triplicatas", true}
+                                           : Noun{"duplicata", "duplicatas", true};
+    std::string what = bills == 0 ? "" : counted(bills, bill);
+    if (receipts > 0) {
+        what += (bills == 0 ? "" : " e ") + counted(receipts, {"recibo", "recibos"});
+    }
+    return piecesSent(what, bills + receipts, receipts == 0, "imprima de novo");
+}
+
 }  // namespace
 
 void printSelected(Environment& environment, const Sessao& session, const BillRun& documents,
@@ -92,6 +111,7 @@ void printBills(Environment& environment, std::int32_t company, const XmlDocumen
         }
     }
     run.endDocument(progress, pages);
+    tellPrinted(environment, pagesSent(documents));
     if (run.failed()) {
         return;
     }

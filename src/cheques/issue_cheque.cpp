@@ -1,6 +1,7 @@
 #include "cheques/issue_cheque.h"
 
 #include "cheques/imprime_cheque.h"
+#include "common/acts.h"
 #include "common/boxes.h"
 #include "common/list_items.h"
 #include "gateway/answer.h"
@@ -60,6 +61,27 @@ void print(Environment& environment, const ChequeFields& fields, const std::stri
                    .sFavorecido = payee,
                    .sDataDeposito = trimBlanks(fields.depositDate),
                    .sNmMun = town});
+}
+
+bool record(Environment& environment, const Sessao& session, const ChequeFields& fields) {
+    XmlDocument answer;
+    return requestAnswer(environment,
+                         commands::adiciona_controle_cheque_emitido(session, chequeFrom(fields)),
+                         answer, failure::Tarn0009) &&
+           chequeRecorded(environment, answer);
+}
+
+PaperAct paperOf(const ChequeFields& fields, bool recorded) {
+    std::string name = "Cheque ";
+    name.append(trimBlanks(fields.number)).append(" série ").append(inUpperCase(fields.series));
+    if (recorded) {
+        return {.sent = name + " registrado e enviado",
+                .made = name + " registrado",
+                .remedy = "anule-o e emita outro com o número seguinte"};
+    }
+    return {.sent = name + " sem registro no servidor, enviado",
+            .made = name + " sem registro no servidor",
+            .remedy = "imprima de novo"};
 }
 
 }  // namespace
@@ -137,14 +159,10 @@ bool issueCheque(Environment& environment, const Sessao& session, const ChequeFi
         return false;
     }
     print(environment, fields, PegaValor(rowsetOf(company), 0, "NM_MUN"));
-    XmlDocument answer;
-    if (!requestAnswer(environment,
-                       commands::adiciona_controle_cheque_emitido(session, chequeFrom(fields)),
-                       answer, failure::Tarn0009)) {
-        return false;
-    }
     try {
-        return chequeRecorded(environment, answer);
+        const bool recorded = record(environment, session, fields);
+        tellPrinted(environment, paperOf(fields, recorded));
+        return recorded;
     } catch (const RuntimeError& error) {
         throw RuntimeError(error.number(),
                            "o cheque nº " + std::string(trimBlanks(fields.number)) +

@@ -27,9 +27,16 @@ std::string noteName(std::string_view number) {
     return name.append(number);
 }
 
-std::string counted(std::size_t count, std::string_view one, std::string_view many) {
+std::string counted(std::size_t count, const Noun& noun) {
     std::string text = std::to_string(count) + " ";
-    return text.append(count == 1 ? one : many);
+    return text.append(count == 1 ? noun.one : noun.many);
+}
+
+PaperAct piecesSent(const std::string& what, std::size_t count, bool feminine,
+                    const std::string& remedy) {
+    const std::string ending = std::string(feminine ? "a" : "o") + (count == 1 ? "" : "s");
+    return {
+        .sent = what + " enviad" + ending, .made = what + " preparad" + ending, .remedy = remedy};
 }
 
 }  // namespace tarn

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "common/acts.h"
 #include "gateway/answer.h"
 #include "gateway/pega_valor.h"
 #include "runtime/numbers.h"
@@ -49,6 +50,14 @@ void report(const Progress& progress, std::size_t done, const Labels& labels) {
     if (progress) {
         progress(done, labels.count());
     }
+}
+
+void tellLabels(const Environment& environment, std::size_t count) {
+    if (count == 0) {
+        return tellDone(environment, "Nenhuma etiqueta impressa");
+    }
+    tellPrinted(environment, piecesSent(counted(count, {"etiqueta", "etiquetas", true}), count,
+                                        true, "imprima de novo"));
 }
 
 Sender readSender(const XmlDocument& answer) {

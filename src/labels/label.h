@@ -9,6 +9,10 @@
 #include "gateway/xml_document.h"
 #include "platform/progress.h"
 
+namespace tarn {
+struct Environment;
+}
+
 namespace tarn::labels {
 
 // An address of the queue, by the names of its fields; absent is empty.
@@ -42,6 +46,9 @@ private:
 
 // Tells who follows the run, if anyone, that so many of the labels are printed.
 void report(const Progress& progress, std::size_t done, const Labels& labels);
+
+// Says what came of the paper of so many.
+void tellLabels(const Environment& environment, std::size_t count);
 
 struct Sender {
     std::string NOME;

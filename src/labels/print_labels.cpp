@@ -127,11 +127,14 @@ std::optional<PrintRun> fetchRange(Environment& environment, const Sessao& sessi
 bool printLabels(Environment& environment, LabelForm form, const PrintRun& run,
                  const Progress& progress) {
     Labels labels(run.labels);
-    if (form != LabelForm::DotMatrix) {
-        return printDrawn(environment, form, labels, run.sender, progress);
+    bool printed = true;
+    if (form == LabelForm::DotMatrix) {
+        printDotMatrix(environment, labels, progress);
+    } else {
+        printed = printDrawn(environment, form, labels, run.sender, progress);
     }
-    printDotMatrix(environment, labels, progress);
-    return true;
+    tellLabels(environment, labels.count());
+    return printed;
 }
 
 }  // namespace tarn::labels

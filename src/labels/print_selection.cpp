@@ -1,9 +1,12 @@
 #include "labels/print_selection.h"
 
+#include <algorithm>
+
 #include "common/boxes.h"
 #include "common/drawn_run.h"
 #include "common/drawn_text.h"
 #include "labels/customer_selection.h"
+#include "labels/label.h"
 #include "runtime/text.h"
 
 namespace tarn::labels {
@@ -61,6 +64,8 @@ void printSelection(Environment& environment, std::span<const GridRow> customers
         }
     }
     run.endDocument();
+    tellLabels(environment,
+               static_cast<std::size_t>(std::ranges::count(customers, true, &GridRow::ticked)));
     if (!run.failed()) {
         tell(environment, "Impressão Gerada com Sucesso !", "Alerta");
     }

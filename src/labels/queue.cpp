@@ -1,5 +1,6 @@
 #include "labels/queue.h"
 
+#include "common/acts.h"
 #include "common/boxes.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
@@ -101,7 +102,10 @@ bool deleteLabels(Environment& environment, const Sessao& session, const std::st
     }
     // Success whatever became of it: decision D96.
     XmlDocument answer;
-    requestAnswer(environment, query, answer, failure::Tarn0009);
+    const bool answered = requestAnswer(environment, query, answer, failure::Tarn0009);
+    tellDone(environment,
+             "Exclusão das etiquetas " + range.from + " a " + range.to +
+                 (answered ? " enviada" : " sem resposta do servidor: confira na fila"));
     inform(environment, "Etiquetas excluídas com sucesso!     ");
     return true;
 }

@@ -6,6 +6,7 @@
 #include <limits>
 #include <string_view>
 
+#include "common/acts.h"
 #include "common/boxes.h"
 #include "common/raw_channel.h"
 #include "gateway/commands.h"
@@ -51,6 +52,8 @@ public:
     // The job for it is open.
     void print(const GridRow& document);
     int printed() const { return printed_; }
+    // What of the ticked rows came of it.
+    void tellPaper() const;
 
 private:
     void sendQuery(const std::string& query);
@@ -65,6 +68,8 @@ private:
     RunningNumber running_;
     RawChannel channel_;
     std::int16_t printed_ = 0;
+    std::string first_;  // number as printed
+    std::string last_;
 };
 
 void SlipJob::send(std::string_view sequence) {
@@ -120,6 +125,10 @@ void SlipJob::print(const GridRow& document) {
         printSevenDigitLines(channel_, document, number);
     }
     channel_.close();
+    last_ = number.digits;
+    if (printed_ == 0) {
+        first_ = last_;
+    }
     account();
 }
 
@@ -129,6 +138,17 @@ void SlipJob::account() {
         throw RuntimeError(RuntimeErrorCode::Overflow, "boletos impressos de uma vez");
     }
     ++printed_;
+}
+
+void SlipJob::tellPaper() const {
+    if (printed_ == 0) {
+        return tellDone(environment_, "Nenhum boleto impresso");
+    }
+    const auto count = static_cast<std::size_t>(printed_);
+    std::string what = counted(count, {"boleto", "boletos"}) + " (nº " + first_;
+    what += count == 1 ? ")" : " a " + last_ + ")";
+    tellPrinted(environment_,
+                piecesSent(what, count, false, "imprima de novo com os mesmos números"));
 }
 
 // Tells how many of the ticked rows are done with.
@@ -163,14 +183,19 @@ void printSlips(Environment& environment, const Sessao& session, const Portfolio
                 const SlipRun& request, std::span<const GridRow> lines, const SlipRunView& screen) {
     SlipJob slipJob(environment, session, portfolio, request);
     Count count(screen.progress, lines);
+    bool ticked = false;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (lines[i].ticked) {
+            ticked = true;
             slipJob.preparePrinter();
             screen.untick(i);
             slipJob.print(lines[i]);
             count.advance();
         }
         screen.passed();
+    }
+    if (ticked) {
+        slipJob.tellPaper();
     }
     if (slipJob.printed() == 0) {
         inform(environment, "Selecione um item na Lista!     ");

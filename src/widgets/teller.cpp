@@ -30,6 +30,7 @@ Teller::Teller(Clock& clock, std::ostream& errors, std::chrono::milliseconds sec
 }
 
 void Teller::done(const std::string& what) {
+    paper_ = {};
     tell(what);
 }
 
