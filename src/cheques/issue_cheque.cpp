@@ -73,7 +73,9 @@ bool record(Environment& environment, const Sessao& session, const ChequeFields&
 
 PaperAct paperOf(const ChequeFields& fields, bool recorded) {
     std::string name = "Cheque ";
-    name.append(trimBlanks(fields.number)).append(" série ").append(inUpperCase(fields.series));
+    name.append(trimBlanks(fields.number))
+        .append(" série ")
+        .append(upperCase(trimBlanks(fields.series)));
     if (recorded) {
         return {.sent = name + " registrado e enviado",
                 .made = name + " registrado",

@@ -5,6 +5,7 @@
 #include "desk/server_address.h"
 #include "desk/start.h"
 #include "maker.h"
+#include "runtime/version.h"
 #include "ui_frm_ajuda.h"
 #include "widgets/look.h"
 
@@ -19,7 +20,7 @@ frmAjuda::frmAjuda(DeskContext& desk, QWidget* parent)
     ui_->Label1->setText(QString::fromUtf8(makerName));
     ui_->Label2->setText(QStringLiteral("Telefone: %1").arg(QString::fromUtf8(supportPhone)));
     ui_->Label3->setText(QStringLiteral("Suporte: %1").arg(QString::fromUtf8(supportAddress)));
-    ui_->lblVersion->setText(QStringLiteral("Versão: %1").arg(QLatin1StringView(programRelease)));
+    ui_->lblVersion->setText(QStringLiteral("Versão: %1").arg(QLatin1StringView(productVersion)));
     ui_->lblServer->setText(
         QStringLiteral("Servidor: %1")
             .arg(QString::fromStdString(shownAddress(desk.environment.baseUrl))));

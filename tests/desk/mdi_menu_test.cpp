@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QStatusBar>
 
+#include "runtime/version.h"
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
 #include "tests/support/screen_test.h"
@@ -256,7 +257,7 @@ TEST_F(MDIMenuTest, HelpTellsHowToReachSupportAndWhatToTellIt) {
         EXPECT_TRUE(named<QLabel>(help, "Label2").text().contains(u"(11) 5555-0100"));
         EXPECT_TRUE(named<QLabel>(help, "Label3").text().contains(u"suporte@tarn.example"));
         EXPECT_EQ(named<QLabel>(help, "lblVersion").text(),
-                  QStringLiteral("Versão: " TARN_VERSION));
+                  QStringLiteral("Versão: ") + QLatin1StringView(productVersion));
         EXPECT_EQ(named<QLabel>(help, "lblServer").text(),
                   QStringLiteral("Servidor: http://servidor/pagina.asp"));
         click(help, "cmdVoltar");

@@ -183,7 +183,7 @@ TEST_F(ToldActs, Slips) {
 }
 
 TEST_F(ToldActs, ACheque) {
-    const ChequeFields cheque{.account = BankAccount{.NR_OFI_BAN = "1"},
+    const ChequeFields cheque{.account = BankAccount{.description = "BANCO", .NR_OFI_BAN = "1"},
                               .number = " 1002 ",
                               .series = "a",
                               .value = "80,00",
