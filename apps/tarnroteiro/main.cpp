@@ -13,6 +13,7 @@
 #include "apps/tarnroteiro/printer_picture.h"
 #include "cli/command_line.h"
 #include "desk/desk_assembly.h"
+#include "desk/server_address.h"
 
 namespace tarn {
 namespace {
@@ -55,7 +56,7 @@ constexpr std::array namedWalks{NamedWalk{"dia", walkDay}, NamedWalk{"recusa", w
 int advance(DeskApplication& program, const WalkLogon& input, const std::string& name) {
     const auto namedWalk = std::ranges::find(namedWalks, name, &NamedWalk::name);
     Options options;
-    options.baseUrl = serverAddress(input.server);
+    options.baseUrl = serverAddress(input.server).url;
     options.virtualPrinter = input.folder;
     options.labelSelection = name == "selecao";
     Desk desk(program, options, printersOf(options));

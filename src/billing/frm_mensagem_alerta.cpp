@@ -1,6 +1,5 @@
 #include "billing/frm_mensagem_alerta.h"
 
-#include "runtime/text.h"
 #include "ui_frm_mensagem_alerta.h"
 
 namespace tarn {
@@ -16,8 +15,8 @@ frmMensagemAlerta::frmMensagemAlerta(Sessao& session, AlertMode mode, QWidget* p
         ui_->Label1->setText(
             QStringLiteral("Produto(s) sem saldo no estoque. Favor alimentar o estoque."));
     }
-    ui_->txtMensagem->setPlainText(
-        QString::fromStdString(replaceAll(session_.TextoMensagem, "\n", "\r\n")));
+    // CR LF, CR and LF are one line end each (decision D112); so the widget reads them.
+    ui_->txtMensagem->setPlainText(QString::fromStdString(session_.TextoMensagem));
     ui_->txtMensagem->setMinimumSize(fontMetrics().averageCharWidth() * 64,
                                      fontMetrics().lineSpacing() * 10);
     connect(ui_->cmdOk, &QPushButton::clicked, this, [this] { respond("S"); });

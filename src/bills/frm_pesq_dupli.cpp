@@ -46,6 +46,7 @@ FrmPesqDupli::FrmPesqDupli(DeskContext& desk, QWidget* parent)
     prepareFields();
     prepareButtons();
     fitToGrid(*this, *ui_->sprDados, visibleLines);
+    ui_->cboFilial->setFocus();  // txtCliente takes no typing (decision D116)
 }
 
 FrmPesqDupli::~FrmPesqDupli() = default;

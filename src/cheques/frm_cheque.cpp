@@ -1,5 +1,6 @@
 #include "cheques/frm_cheque.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <utility>
 
@@ -38,6 +39,7 @@ void frmCheque::prepareFields() {
     Environment& environment = desk_.environment;
     ui_->cboBancoAgConta->installEventFilter(this);
     letEnterMoveOn(*ui_->cboBancoAgConta);
+    ui_->cboBancoAgConta->view()->installEventFilter(this);
     ui_->txtNumeroCheque->setMaxLength(maxNumber);
     ui_->txtSerie->setMaxLength(maxSeries);
     ui_->txtValor->setMaxLength(maxAmount);
@@ -50,8 +52,6 @@ void frmCheque::prepareFields() {
     new FieldController(ui_->txtFavorecido, KeyFilter::None, environment,
                         FieldController::EnterKey::TabOnly);
     new DateField(ui_->txtDtDeposito, KeyFilter::Integer, environment, DateField::Test::Calendar);
-    onlyTakes(*ui_->txtNumeroCheque, QStringLiteral("[0-9]*"), environment.machine);
-    onlyTakes(*ui_->txtValor, QStringLiteral("[0-9.,]*"), environment.machine);
     for (const FieldController* key : {number, series}) {
         connect(key, &FieldController::wasLeft, this, &frmCheque::checkOnLeaving);
     }
@@ -160,12 +160,22 @@ void frmCheque::cmdImprimir_Click() {
 }
 
 bool frmCheque::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == ui_->cboBancoAgConta && event->type() == QEvent::KeyPress &&
-        isEnter(*static_cast<QKeyEvent*>(event))) {
-        sendTab(*ui_->cboBancoAgConta);
-        return true;
+    if (event->type() != QEvent::KeyPress || !isEnter(*static_cast<QKeyEvent*>(event))) {
+        return QDialog::eventFilter(watched, event);
     }
-    return QDialog::eventFilter(watched, event);
+    if (watched == ui_->cboBancoAgConta->view()) {
+        chooseFromOpenList(*event);
+    }
+    sendTab(*ui_->cboBancoAgConta);
+    return true;
+}
+
+// At once, so that what is typed next goes into the next field and not into the list.
+void frmCheque::chooseFromOpenList(QEvent& enter) {
+    QAbstractItemView& list = *ui_->cboBancoAgConta->view();
+    list.removeEventFilter(this);
+    QCoreApplication::sendEvent(&list, &enter);
+    list.installEventFilter(this);
 }
 
 // Neither key presses a button that hasn't the focus.

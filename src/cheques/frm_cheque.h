@@ -48,6 +48,7 @@ private:
     void clearFields();
 
     void checkOnLeaving();
+    void chooseFromOpenList(QEvent& enter);
     void cmdImprimir_Click();
 
     DeskContext& desk_;

@@ -25,9 +25,8 @@ void warn(Environment& environment, const std::string& text, std::string_view ti
     show(environment, text, BoxIcon::Exclamation, title);
 }
 
-void reportError(Environment& environment, const RuntimeError& error, std::string_view whatToDo) {
-    show(environment, failureText(error).append("\r\r").append(whatToDo), BoxIcon::Critical,
-         box_title::standard);
+void reportError(Environment& environment, const RuntimeError& error) {
+    show(environment, failureText(error), BoxIcon::Critical, box_title::standard);
 }
 
 }  // namespace tarn

@@ -26,8 +26,7 @@ void inform(Environment& environment, const std::string& text,
 void warn(Environment& environment, const std::string& text,
           std::string_view title = box_title::standard);
 
-// An error that ends nothing but the action (decision D32); `whatToDo` (Portuguese) follows
-// its report.
-void reportError(Environment& environment, const RuntimeError& error, std::string_view whatToDo);
+// An error that ends nothing but the action (decision D32).
+void reportError(Environment& environment, const RuntimeError& error);
 
 }  // namespace tarn

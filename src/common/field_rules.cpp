@@ -1,5 +1,7 @@
 #include "common/field_rules.h"
 
+#include <utility>
+
 #include "common/boxes.h"
 #include "platform/machine.h"
 #include "runtime/mask.h"
@@ -64,6 +66,35 @@ std::int16_t SoNumeroInteiro(std::int16_t& key, Machine& machine) {
     return filter(key, isIntegerKey(key), machine);
 }
 
+bool takes(KeyFilter filter, char32_t character, Machine& machine) {
+    if (filter == KeyFilter::None) {
+        return true;
+    }
+    constexpr char32_t highest = 0x7FFF;  // of a key code
+    const bool isCode = character <= highest && character != backspaceKey;
+    auto key = static_cast<std::int16_t>(isCode ? character : 0);
+    return (filter == KeyFilter::Decimal ? SoNumeroVirgula(key, machine)
+                                         : SoNumeroInteiro(key, machine)) != 0;
+}
+
+std::optional<std::string> takenOf(KeyFilter filter, std::string_view pasted, Machine& machine) {
+    if (filter == KeyFilter::None) {
+        return std::string(pasted);
+    }
+    constexpr std::string_view punctuation = " ./-";
+    std::string taken;
+    for (const char character : pasted) {
+        const bool isDigit = character >= '0' && character <= '9';
+        if (isDigit || (character == commaKey && filter == KeyFilter::Decimal)) {
+            taken += character;
+        } else if (character != commaKey && punctuation.find(character) == std::string::npos) {
+            machine.beep();
+            return std::nullopt;
+        }
+    }
+    return taken;
+}
+
 std::string dateOnEnter(std::string_view text) {
     return replaceAll(text, "/", "");
 }
@@ -85,7 +116,8 @@ FieldResult testedDateOnLeave(std::string_view text, const Date& today) {
                   .box = Box{.text = "Data Inválida.      ",
                              .icon = BoxIcon::Critical,
                              .title = std::string(box_title::notice)},
-                  .refocus = true};
+                  .refocus = true,
+                  .textUnderBox = std::move(result.text)};
     }
     return result;
 }

@@ -19,12 +19,24 @@ class Machine;
 std::int16_t SoNumeroVirgula(std::int16_t& key, Machine& machine);  // digits, backspace, comma
 std::int16_t SoNumeroInteiro(std::int16_t& key, Machine& machine);  // digits, backspace
 
-// What a field shows after it was left, and the box to show first, if any. With
-// `refocus` the focus goes back to the field after the box.
+// What a field admits: any character, digits and the comma, digits.
+enum class KeyFilter { None, Decimal, Integer };
+
+// One character, however it was brought; a refused one beeps. A backspace is a key and no
+// character of a text.
+bool takes(KeyFilter filter, char32_t character, Machine& machine);
+// What of a pasted or dropped text goes in: all but its blanks, points, slashes, hyphens and,
+// where the field takes none, commas. Nothing, with a beep, when more would have to be left out.
+std::optional<std::string> takenOf(KeyFilter filter, std::string_view pasted, Machine& machine);
+
+// What a field shows after it was left, the box to show first, if any, and what it shows
+// meanwhile, if it isn't what was typed. With `refocus` the focus goes back to the field
+// after the box.
 struct FieldResult {
     std::string text;
     std::optional<Box> box;
     bool refocus = false;
+    std::optional<std::string> textUnderBox = std::nullopt;
 };
 
 // Date fields: 8 characters without slashes while edited, 10 with them outside.

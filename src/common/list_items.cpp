@@ -9,12 +9,16 @@
 
 namespace tarn {
 
-std::int32_t itemData(std::string_view text) {
+std::optional<std::int32_t> itemNumber(std::string_view text) {
     try {
         return readInt32(text);
     } catch (const RuntimeError&) {
-        return 0;
+        return std::nullopt;
     }
+}
+
+std::int32_t itemData(std::string_view text) {
+    return itemNumber(text).value_or(0);
 }
 
 std::vector<ListItem> listItemsOf(const XmlDocument& answer, std::string_view textField,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,7 +19,9 @@ struct ListItem {
     bool operator==(const ListItem&) const = default;
 };
 
-// The number that a text holds, blanks around allowed; 0 for what is no 32-bit number.
+// The number that a text holds, blanks around allowed; nothing for what is no 32-bit number.
+std::optional<std::int32_t> itemNumber(std::string_view text);
+// The same where 0 stands for nothing.
 std::int32_t itemData(std::string_view text);
 
 // One for each row of the answer, in its order; what is absent is empty, or 0.

@@ -17,14 +17,6 @@
 namespace tarn::labels {
 namespace {
 
-constexpr const char* rangeNotANumber =
-    "Nada foi impresso. Digite em De e Até os números da coluna Sequencial da lista e clique em "
-    "OK de novo.";
-constexpr const char* unreadableSender =
-    "Nada foi impresso: o servidor não tem os dados da Filial Remetente. Cancele, escolha na lista "
-    "o formulário com REMETENTE, uma Filial Remetente e de novo o formulário desejado, e imprima "
-    "outra vez. Se continuar, avise o suporte.";
-
 void draw(DrawnRun& run, LabelForm form, Labels& labels, const Sender& sender,
           const Progress& progress) {
     switch (form) {
@@ -67,18 +59,20 @@ std::optional<std::string> queryOf(const Range& range, Environment& environment,
     try {
         return commands::sel_etiquetas(session, reason, range.from, range.to);
     } catch (const RuntimeError& error) {
-        reportError(environment, error, rangeNotANumber);
+        reportError(environment, error);
         return std::nullopt;
     }
 }
 
+// Nothing, with the user told, where the answer has no sender; anything else that is wrong
+// with it ends the program (decisions D15 and D94).
 std::optional<Sender> senderFrom(const XmlDocument& answer, Environment& environment) {
-    try {
-        return readSender(answer);
-    } catch (const RuntimeError& error) {
-        reportError(environment, error, unreadableSender);
+    if (rowsOf(answer).length() == 0) {
+        reportError(environment, RuntimeError(RuntimeErrorCode::ObjectVariable,
+                                              "o servidor não tem os dados da Filial Remetente"));
         return std::nullopt;
     }
+    return readSender(answer);
 }
 
 }  // namespace

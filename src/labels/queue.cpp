@@ -22,10 +22,6 @@ constexpr auto grid = gridOf<QueueColumn>(
      {QueueColumn::State, {"UF", "UF", 5}},
      {QueueColumn::Country, {"PAIS", "País", 14}}});
 
-constexpr const char* rangeNotANumber =
-    "Nada foi excluído. Digite em De e Até os números da coluna Sequencial da lista e clique em "
-    "OK de novo.";
-
 std::vector<ListItem> withNone(std::vector<ListItem> items) {
     items.insert(items.begin(), ListItem{std::string(noChoice), 0});
     return items;
@@ -97,7 +93,7 @@ bool deleteLabels(Environment& environment, const Sessao& session, const std::st
     try {
         query = commands::exclui_etiquetas(session, reason, range.from, range.to);
     } catch (const RuntimeError& error) {
-        reportError(environment, error, rangeNotANumber);
+        reportError(environment, error);
         return false;
     }
     // Success whatever became of it: decision D96.

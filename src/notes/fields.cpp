@@ -45,10 +45,10 @@ std::string_view appendPostalCode(std::string& out, std::string_view code) {
 }
 
 // An amount that is only masked: empty stays empty.
-void appendAmount(std::string& out, Source source, std::string_view amount,
-                  const NumberMask& mask) {
+void appendAmount(std::string& out, Source source, NoteDocument& document, const NumberMask& mask) {
+    const std::string_view amount = document.amount(source);
     if (!amount.empty() && !appendText(out, amount, mask)) {
-        refuseNumber(source, amount);
+        refuseNumber(source, document.text(source));
     }
 }
 
@@ -91,7 +91,7 @@ std::string_view valueOf(std::string& out, const Field& field, Run& run) {
         return out;
     };
     const auto maskedAmount = [&](Source source) -> std::string_view {
-        appendAmount(out, source, document.amount(source), field.mask);
+        appendAmount(out, source, document, field.mask);
         return out;
     };
     const auto insteadOfZero = [&](std::string_view other) {

@@ -119,7 +119,11 @@ bool NoteDocument::isItem(std::size_t position) const {
 }
 
 double NoteDocument::number(Source source, std::string_view absent) {
-    return numberOf(source, amount(source, absent));
+    const std::optional<double> value = parseComma(amount(source, absent));
+    if (!value) {
+        refuseNumber(source, text(source));
+    }
+    return *value;
 }
 
 double numberOf(Source source, std::string_view text) {

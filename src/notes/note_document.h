@@ -52,6 +52,7 @@ private:
 
 // The text of `source` as a number by the comma reading.
 double numberOf(Source source, std::string_view text);
+// `text` as the server sent it, so that it can be found there.
 [[noreturn]] void refuseNumber(Source source, std::string_view text);
 
 }  // namespace tarn::notes

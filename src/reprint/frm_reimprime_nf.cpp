@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QMdiSubWindow>
+#include <QStandardItemModel>
 #include <QStyledItemDelegate>
 #include <QVariant>
 
@@ -111,10 +112,21 @@ void FrmReImprimeNF::fillLists() {
     if (!goesOn) {
         return;
     }
-    for (const ListItem& reason : loadReasons(desk_.environment, desk_.session)) {
-        ui_->CboMot_Can->addItem(QString::fromStdString(reason.text), reason.data);
+    for (const CancelReason& reason : loadReasons(desk_.environment, desk_.session)) {
+        addReason(reason);
     }
     ui_->CboMot_Can->setCurrentIndex(-1);
+}
+
+// One without its number is shown, but neither mouse nor keys stop at it.
+void FrmReImprimeNF::addReason(const CancelReason& reason) {
+    QComboBox& list = *ui_->CboMot_Can;
+    list.addItem(QString::fromStdString(reason.description),
+                 reason.id ? QVariant(*reason.id) : QVariant());
+    if (!reason.id) {
+        auto* items = qobject_cast<QStandardItemModel*>(list.model());
+        items->item(list.count() - 1)->setEnabled(false);
+    }
 }
 
 NoteFields FrmReImprimeNF::fields() const {
@@ -135,8 +147,19 @@ void FrmReImprimeNF::show(const FoundNote& note) {
     put(*ui_->LblDtEm, note.issued);
     put(*ui_->LBLCliente, note.customer);
     put(*ui_->LBLNOTA, note.number, note.series);
-    ui_->OptionReimp_0->setEnabled(note.kind != uncancellableKind);
-    ui_->OptionReimp_1->setEnabled(note.kind != uncancellableKind);
+    const bool cancellable = note.kind != uncancellableKind;
+    ui_->OptionReimp_0->setEnabled(cancellable);
+    ui_->OptionReimp_1->setEnabled(cancellable);
+    if (!cancellable) {
+        clearOption();
+    }
+}
+
+void FrmReImprimeNF::clearOption() {
+    ui_->OptionReimp->setExclusive(false);  // an exclusive group keeps one option selected
+    ui_->OptionReimp_0->setChecked(false);
+    ui_->OptionReimp_1->setChecked(false);
+    ui_->OptionReimp->setExclusive(true);
 }
 
 void FrmReImprimeNF::LimpaDados() {
@@ -144,10 +167,7 @@ void FrmReImprimeNF::LimpaDados() {
     put(*ui_->LblTipoNf, "");
     put(*ui_->LblDtEm, "");
     put(*ui_->LBLNOTA, "", "");
-    ui_->OptionReimp->setExclusive(false);  // an exclusive group keeps one option selected
-    ui_->OptionReimp_0->setChecked(false);
-    ui_->OptionReimp_1->setChecked(false);
-    ui_->OptionReimp->setExclusive(true);
+    clearOption();
     ui_->CboMot_Can->setCurrentIndex(-1);
 }
 
@@ -172,8 +192,8 @@ void FrmReImprimeNF::cmdSelecionar_Click() {
     if (ui_->OptionReimp->checkedButton() != nullptr) {
         request.option = ui_->OptionReimp_1->isChecked() ? Rebilling::Without : Rebilling::With;
     }
-    if (ui_->CboMot_Can->currentIndex() >= 0) {
-        request.reason = ui_->CboMot_Can->currentData().toInt();
+    if (const QVariant reason = ui_->CboMot_Can->currentData(); reason.isValid()) {
+        request.reason = reason.toInt();
     }
     if (cancelNote(desk_.environment, desk_.session, request)) {
         LimpaDados();

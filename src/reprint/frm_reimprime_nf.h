@@ -37,9 +37,11 @@ private:
     void prepare(NoteJob job);
     void prepareButtons();
     void fillLists();
+    void addReason(const CancelReason& reason);
     NoteFields fields() const;
     void show(const FoundNote& note);
     bool cancelling() const;
+    void clearOption();
     // Forgets the note that was found.
     void LimpaDados();
 

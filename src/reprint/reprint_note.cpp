@@ -2,6 +2,7 @@
 
 #include "common/acts.h"
 #include "common/boxes.h"
+#include "common/list_items.h"
 #include "gateway/answer.h"
 #include "gateway/commands.h"
 #include "gateway/failure_texts.h"
@@ -67,7 +68,7 @@ std::string seriesCode(std::string_view item) {
     return std::string(item.substr(start, item.find('|', start) - start));
 }
 
-std::vector<ListItem> loadReasons(Environment& environment, const Sessao& session) {
+std::vector<CancelReason> loadReasons(Environment& environment, const Sessao& session) {
     XmlDocument document;
     if (!requestAnswer(environment, commands::SEL_MOT_CAN(session), document, failure::Tarn0011)) {
         return {};
@@ -76,7 +77,13 @@ std::vector<ListItem> loadReasons(Environment& environment, const Sessao& sessio
         alert(environment, "Houve um problema na transferência dos Motivos de Cancelamento. ");
         return {};
     }
-    return listItemsOf(document, "DC_MOT_CAN", "ID_MOT_CAN");
+    std::vector<CancelReason> reasons;
+    for (const XmlNode row : rowsOf(document)) {
+        const XmlAttributes fields = row.attributes();
+        reasons.push_back(
+            {std::string(fields.textOf("DC_MOT_CAN")), itemNumber(fields.textOf("ID_MOT_CAN"))});
+    }
+    return reasons;
 }
 
 std::optional<FoundNote> searchNote(Environment& environment, const Sessao& session,
@@ -133,7 +140,8 @@ void reprintNote(Environment& environment, const Sessao& session, const std::str
     if (!accept(environment, document, dataProblem + number + ". ")) {
         return;
     }
-    afterNote([&] { printNote(Ladder::Reprint, environment, session, document, number); });
+    afterNote([&] { printNote(Ladder::Reprint, environment, session, document, number); },
+              NoteState::Exists);
     tellPrinted(environment, {.sent = noteName(number) + " enviada de novo",
                               .made = noteName(number) + " lida do servidor",
                               .remedy = "imprima de novo"});

@@ -8,7 +8,6 @@
 #include <string_view>
 #include <vector>
 
-#include "common/list_items.h"
 #include "gateway/sessao.h"
 
 namespace tarn {
@@ -22,7 +21,11 @@ bool loadSeries(Environment& environment, const Sessao& session, std::vector<std
 // The code that an item carries: its second piece between bars.
 std::string seriesCode(std::string_view item);
 
-std::vector<ListItem> loadReasons(Environment& environment, const Sessao& session);
+struct CancelReason {
+    std::string description;
+    std::optional<std::int32_t> id;  // without one it can't be chosen
+};
+std::vector<CancelReason> loadReasons(Environment& environment, const Sessao& session);
 
 // What the user chose and typed.
 struct NoteFields {
@@ -52,7 +55,7 @@ std::optional<FoundNote> searchNote(Environment& environment, const Sessao& sess
 bool noteSelected(Environment& environment, const NoteFields& fields, std::string_view foundNote);
 
 // Fetches the note and prints it by the ladder of this screen. An error of the layout
-// comes out as ErrorAfterNote.
+// comes out as ErrorAfterNote (NoteState::Exists).
 void reprintNote(Environment& environment, const Sessao& session, const std::string& number,
                  const std::string& series);
 

@@ -54,10 +54,12 @@ std::string reportText(const std::exception& error) {
     } else {
         text = "Erro em tempo de execução:\r\rO programa encontrou um erro que não esperava.";
     }
-    if (dynamic_cast<const NoteMayExist*>(&error) != nullptr) {
-        text +=
-            "\r\rA Nota Fiscal pode ter sido gerada no servidor. Caso tenha sido gerada, utilize a "
-            "tela de Reimpressão de Nota Fiscal para imprimi-la.";
+    if (const auto* affected = dynamic_cast<const NoteAffected*>(&error)) {
+        text += affected->note == NoteState::Exists
+                    ? "\r\rA Nota Fiscal continua no servidor e pode ser impressa outra vez pela "
+                      "tela de Reimpressão de Nota Fiscal."
+                    : "\r\rA Nota Fiscal pode ter sido gerada no servidor. Caso tenha sido gerada, "
+                      "utilize a tela de Reimpressão de Nota Fiscal para imprimi-la.";
     }
     return text;
 }

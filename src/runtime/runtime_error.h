@@ -32,28 +32,35 @@ private:
     RuntimeErrorCode number_;
 };
 
+// What is known of the fiscal note that an error hit: it was asked of the server, or it had
+// been made there before.
+enum class NoteState { MayExist, Exists };
+struct NoteAffected {
+    NoteState note;
+};
+
 // What every error is that comes after a fiscal note was asked of the server: it may exist
 // there, unprinted.
-struct NoteMayExist {};
-
-class ErrorAfterNote : public RuntimeError, public NoteMayExist {
+class ErrorAfterNote : public RuntimeError, public NoteAffected {
 public:
-    explicit ErrorAfterNote(const RuntimeError& error) : RuntimeError(error) {}
+    explicit ErrorAfterNote(const RuntimeError& error, NoteState state = NoteState::MayExist)
+        : RuntimeError(error), NoteAffected{state} {}
 };
-class UnexpectedAfterNote : public std::runtime_error, public NoteMayExist {
+class UnexpectedAfterNote : public std::runtime_error, public NoteAffected {
 public:
-    explicit UnexpectedAfterNote(const std::exception& error) : std::runtime_error(error.what()) {}
+    explicit UnexpectedAfterNote(const std::exception& error, NoteState state = NoteState::MayExist)
+        : std::runtime_error(error.what()), NoteAffected{state} {}
 };
 
 // Runs what follows the request for a note; its errors come out as one of these two.
 template <typename Routine>
-auto afterNote(const Routine& routine) {
+auto afterNote(const Routine& routine, NoteState state = NoteState::MayExist) {
     try {
         return routine();
     } catch (const RuntimeError& error) {
-        throw ErrorAfterNote(error);
+        throw ErrorAfterNote(error, state);
     } catch (const std::exception& error) {
-        throw UnexpectedAfterNote(error);
+        throw UnexpectedAfterNote(error, state);
     }
 }
 

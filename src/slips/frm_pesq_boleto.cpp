@@ -36,6 +36,7 @@ frmPesqBoleto::frmPesqBoleto(DeskContext& desk, QWidget* parent)
     prepareButtons();
     connect(this, &frmPesqBoleto::shown, this, &frmPesqBoleto::activate, Qt::QueuedConnection);
     fitToGrid(*this, *ui_->sprDados, visibleLines);
+    ui_->cboFilial->setFocus();  // txtCliente takes no typing (decision D116)
 }
 
 frmPesqBoleto::~frmPesqBoleto() = default;
@@ -46,7 +47,6 @@ void frmPesqBoleto::prepareFields() {
                  desk_.environment);
     QLineEdit& number = *ui_->txtNr_Bol_Banc;
     new FieldController(&number, KeyFilter::Decimal, desk_.environment);
-    onlyTakes(number, QStringLiteral("[0-9,]*"), desk_.environment.machine);
     number.setFixedWidth(numberWidth * number.fontMetrics().averageCharWidth());
 }
 

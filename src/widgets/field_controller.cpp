@@ -1,30 +1,18 @@
 #include "widgets/field_controller.h"
 
 #include <QCoreApplication>
-#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QRegularExpressionValidator>
-#include <algorithm>
 #include <utility>
 
 #include "platform/environment.h"
 #include "platform/machine.h"
 #include "platform/message_boxes.h"
 #include "platform/qt/acting_keys.h"
+#include "widgets/character_filter.h"
 
 namespace tarn {
 namespace {
-
-constexpr Qt::KeyboardModifiers commandModifiers =
-    Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-
-// Keys that stand for no character of a text, whatever Qt writes into their text.
-bool isCharacter(const QKeyEvent& key) {
-    return !key.text().isEmpty() && key.key() != Qt::Key_Escape && key.key() != Qt::Key_Delete &&
-           key.key() != Qt::Key_Tab && key.key() != Qt::Key_Backtab &&
-           (key.modifiers() & commandModifiers) == Qt::NoModifier;
-}
 
 // Reasons by which the focus comes and goes without the user choosing a field.
 bool isPassing(Qt::FocusReason reason) {
@@ -39,15 +27,13 @@ void sendTab(QWidget& widget) {
     QCoreApplication::sendEvent(&widget, &stroke);
 }
 
-void onlyTakes(QLineEdit& edit, const QString& pattern, Machine& machine) {
-    edit.setValidator(new QRegularExpressionValidator(QRegularExpression(pattern), &edit));
-    QObject::connect(&edit, &QLineEdit::inputRejected, &edit, [&machine] { machine.beep(); });
-}
-
 FieldController::FieldController(QLineEdit* edit, KeyFilter filter, Environment& environment,
                                  EnterKey enterKey)
     : QObject(edit), edit_(edit), filter_(filter), environment_(environment), enterKey_(enterKey) {
     edit->installEventFilter(this);
+    if (filter != KeyFilter::None) {
+        new CharacterFilter(*edit, filter, environment.machine);
+    }
     if (enterKey != EnterKey::BeepOnly) {
         letEnterMoveOn(*edit);
     }
@@ -59,12 +45,11 @@ bool FieldController::eventFilter(QObject* watched, QEvent* event) {
     }
     switch (event->type()) {
         case QEvent::KeyPress:
-            return keyPressed(static_cast<const QKeyEvent&>(*event));
-        case QEvent::InputMethod: {
-            const QString committed = static_cast<QInputMethodEvent*>(event)->commitString();
-            return !std::all_of(committed.begin(), committed.end(),
-                                [this](QChar character) { return passes(character); });
-        }
+            if (!isEnter(static_cast<const QKeyEvent&>(*event))) {
+                return false;
+            }
+            enterPressed();
+            return true;
         case QEvent::FocusIn:
             focusIn(static_cast<QFocusEvent*>(event)->reason());
             return false;
@@ -81,26 +66,13 @@ bool FieldController::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-bool FieldController::keyPressed(const QKeyEvent& key) {
-    if (isEnter(key)) {
-        if (enterKey_ != EnterKey::BeepOnly) {
-            sendTab(*edit_);
-        }
-        if (enterKey_ != EnterKey::TabOnly) {
-            passes(u'\r');
-        }
-        return true;
+void FieldController::enterPressed() {
+    if (enterKey_ != EnterKey::BeepOnly) {
+        sendTab(*edit_);
     }
-    return isCharacter(key) && !passes(key.text().front());
-}
-
-bool FieldController::passes(QChar character) {
-    if (filter_ == KeyFilter::None) {
-        return true;
+    if (enterKey_ != EnterKey::TabOnly && filter_ != KeyFilter::None) {
+        environment_.machine.beep();
     }
-    auto key = static_cast<std::int16_t>(character.unicode());
-    return (filter_ == KeyFilter::Decimal ? SoNumeroVirgula(key, environment_.machine)
-                                          : SoNumeroInteiro(key, environment_.machine)) != 0;
 }
 
 void FieldController::focusIn(Qt::FocusReason reason) {
@@ -123,6 +95,9 @@ void FieldController::apply(const FieldResult& result) {
     if (!result.box) {
         edit_->setText(QString::fromStdString(result.text));
         return;
+    }
+    if (result.textUnderBox) {
+        edit_->setText(QString::fromStdString(*result.textUnderBox));
     }
     refusing_.emplace(InputGate::ofApplication());
     QMetaObject::invokeMethod(

@@ -4,7 +4,6 @@
 
 #include "platform/clock.h"
 #include "platform/environment.h"
-#include "platform/machine.h"
 
 namespace tarn {
 namespace {
@@ -14,23 +13,17 @@ constexpr int quantityLength = 13;
 }  // namespace
 
 DateField::DateField(QLineEdit* edit, KeyFilter filter, Environment& environment, Test test)
-    : FieldController(edit, filter, environment),
-      test_(test),
-      digits_(QRegularExpression(filter == KeyFilter::Decimal ? QStringLiteral("[0-9,]*")
-                                                              : QStringLiteral("[0-9]*"))) {
+    : FieldController(edit, filter, environment), test_(test) {
     edit->setMaxLength(dateLengthShown);
-    connect(edit, &QLineEdit::inputRejected, this, [&environment] { environment.machine.beep(); });
 }
 
 void DateField::entered() {
     edit().setText(QString::fromStdString(dateOnEnter(edit().text().toStdString())));
     edit().setMaxLength(dateLengthEditing);
-    edit().setValidator(&digits_);
     edit().selectAll();
 }
 
 void DateField::left() {
-    edit().setValidator(nullptr);
     edit().setMaxLength(dateLengthShown);
     const std::string typed = edit().text().toStdString();
     const Date today = environment().clock.today();

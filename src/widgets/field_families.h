@@ -3,15 +3,13 @@
 #pragma once
 
 #include <QLineEdit>
-#include <QRegularExpressionValidator>
 
 #include "widgets/field_controller.h"
 
 namespace tarn {
 
 // Bare digits while edited, dd/mm/yyyy when left; what was left out of the date is
-// today's. A pasted text with anything but those digits (and commas, by its filter) is
-// refused. A tested one refuses what is no day of the calendar.
+// today's. A tested one refuses what is no day of the calendar.
 class DateField : public FieldController {
     Q_OBJECT
 
@@ -26,7 +24,6 @@ protected:
 
 private:
     Test test_;
-    QRegularExpressionValidator digits_;  // in force while the field is edited
 };
 
 // Three decimals, up to 9.999.999,999. The messages' texts must outlive the field.

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "platform/qt/acting_keys.h"
+#include "runtime/text.h"
 #include "widgets/field_controller.h"
 
 namespace tarn {
@@ -28,22 +29,23 @@ FreeTextField::FreeTextField(QWidget* parent) : QPlainTextEdit(parent) {
 }
 
 void FreeTextField::loadText(const std::string& text) {
-    shown_ = text;
-    setPlainText(QString::fromStdString(text));
+    shown_ = leftOf(text, static_cast<std::size_t>(limit_));
+    crLf_ = shown_.find("\r\n") != std::string::npos;
+    setPlainText(QString::fromStdString(shown_));
     document()->setModified(false);
-    limit_ = std::max(limit_, length());
 }
 
-// The raw text, since the plain one has blanks for no-break blanks.
 std::string FreeTextField::text() const {
     if (!document()->isModified()) {
         return shown_;
     }
-    const bool crLf = shown_.find("\r\n") != std::string::npos;
-    return document()
-        ->toRawText()
-        .replace(QChar::ParagraphSeparator, crLf ? QStringLiteral("\r\n") : QStringLiteral("\n"))
-        .toStdString();
+    return std::string(leftOf(edited(), static_cast<std::size_t>(limit_)));
+}
+
+// The raw text, since the plain one has blanks for no-break blanks.
+std::string FreeTextField::edited() const {
+    const QString lineEnd = crLf_ ? QStringLiteral("\r\n") : QStringLiteral("\n");
+    return document()->toRawText().replace(QChar::ParagraphSeparator, lineEnd).toStdString();
 }
 
 QSize FreeTextField::sizeHint() const {
@@ -52,14 +54,17 @@ QSize FreeTextField::sizeHint() const {
 }
 
 int FreeTextField::length() const {
-    return document()->characterCount() - 1;  // it counts an end of its own
+    return static_cast<int>(lengthOf(edited()));
 }
 
-// What goes over the limit was put right before the cursor.
+// What goes over the limit was put right before the cursor. No more goes than came: line
+// ends of several kinds become one kind with the first change.
 template <typename Edit>
 void FreeTextField::withinLimit(Edit edit) {
+    const int before = length();
     edit();
-    const int excess = length() - limit_;
+    const int after = length();
+    const int excess = std::min(after - limit_, after - before);
     if (excess > 0) {
         QTextCursor cursor = textCursor();
         cursor.joinPreviousEditBlock();

@@ -13,14 +13,14 @@ class FreeTextField : public QPlainTextEdit {
 public:
     explicit FreeTextField(QWidget* parent = nullptr);
 
-    // Most characters that the user can bring it to.
+    // Most characters that it holds, line ends as their characters.
     void setMaxLength(int characters) { limit_ = characters; }
     // How many lines it shows where its window has the height it asks for.
     void setVisibleLines(int lines) { lines_ = lines; }
 
-    // A text that comes from elsewhere is shown whole, line ends and all.
+    // A text that comes from elsewhere is shown with its line ends, up to the limit.
     void loadText(const std::string& text);
-    // What it holds; untouched, exactly the text that was shown.
+    // What it holds; untouched, exactly what was loaded.
     std::string text() const;
 
     QSize sizeHint() const override;
@@ -35,9 +35,12 @@ private:
     template <typename Edit>
     void withinLimit(Edit edit);
 
+    std::string edited() const;
+
     int limit_ = 32767;
     int lines_ = 4;
     std::string shown_;
+    bool crLf_ = false;  // how a line of what was loaded ends
 };
 
 }  // namespace tarn

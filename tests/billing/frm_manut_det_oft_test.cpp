@@ -1,13 +1,12 @@
 #include "billing/frm_manut_det_oft.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QLabel>
 #include <QMimeData>
 #include <QPushButton>
 
 #include "tests/billing/frm_oft_fixture.h"
 #include "tests/support/boxes.h"
+#include "tests/support/entering.h"
 #include "widgets/free_text_field.h"
 
 namespace tarn::test {
@@ -76,10 +75,6 @@ protected:
         obs(dialog).setFocus();
         obs(dialog).selectAll();
         keys(obs(dialog), typed);
-    }
-    static void paste(QWidget& field, const QString& pasted) {
-        QApplication::clipboard()->setText(pasted);
-        QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
     }
     static void settle() {
         for (int turn = 0; turn < 3; ++turn) {
@@ -445,6 +440,50 @@ TEST_F(FrmManutDetOFTTest, TheObservationTakesFiveHundredCharactersAndNoMore) {
         obs(dialog).selectAll();
         paste(obs(dialog), QStringLiteral("p").repeated(700));
         EXPECT_EQ(text(dialog, "txtObs"), std::string(500, 'p'));
+    });
+}
+
+TEST_F(FrmManutDetOFTTest, ALongObservationIsCutToTheFieldsLength) {
+    std::string sent;
+    for (int i = 0; i < 62; ++i) {
+        sent += "çbcdefghij";
+    }
+    const std::string kept = sent.substr(0, 50 * 11);  // 500 characters, each ç of two bytes
+    open(orders("DC_OBS='" + sent + "' QT_ESP='1' PESO_BRU='1' PESO_LIQ='1'"));
+    server.on("MANUTENCAO_OFT", answers::status("OK"));
+    edit([&](QWidget& dialog) {
+        EXPECT_EQ(text(dialog, "txtObs"), kept);
+        QTest::keyClick(&obs(dialog), Qt::Key_End, Qt::ControlModifier);
+        keys(obs(dialog), "!");
+        EXPECT_EQ(text(dialog, "txtObs"), kept) << "there is no room for more";
+        QTest::keyClick(&obs(dialog), Qt::Key_Backspace);
+        keys(obs(dialog), "!?");
+        click(dialog, "cmdOk");
+    });
+    EXPECT_THAT(saved(), testing::ElementsAre(written("1001", kept.substr(0, kept.size() - 1) + "!",
+                                                      "1,000", "1,000", "1,000")));
+}
+
+// A line end of two characters takes the room of two.
+TEST_F(FrmManutDetOFTTest, LineEndsCountAsTheirCharacters) {
+    open(orders("DC_OBS='a&#13;&#10;" + std::string(600, 'b') + "' QT_ESP='1'"));
+    look([&](QWidget& dialog) {
+        const std::string kept = "a\r\n" + std::string(497, 'b');
+        EXPECT_EQ(text(dialog, "txtObs"), kept);
+        QTest::keyClick(&obs(dialog), Qt::Key_Home, Qt::ControlModifier);
+        keys(obs(dialog), "x");
+        EXPECT_EQ(text(dialog, "txtObs"), kept);
+        QTest::keyClick(&obs(dialog), Qt::Key_Delete);
+        keys(obs(dialog), "xy");
+        EXPECT_EQ(text(dialog, "txtObs"), "x" + kept.substr(1));
+    });
+}
+
+TEST_F(FrmManutDetOFTTest, FieldsOfNumbersTakeNothingElse) {
+    look([&](QWidget& dialog) {
+        for (const char* name : {"txtQtde", "txtPesoBruto", "txtPesoLiquido"}) {
+            expectNumbersOnly(dialog, name, machine, Comma::Taken);
+        }
     });
 }
 

@@ -177,6 +177,13 @@ TEST_F(FrmOFTTest, AnAcceptedObservationLetsTheMaintenanceGoOn) {
     EXPECT_TRUE(boxes.shown.empty());
 }
 
+TEST_F(FrmOFTTest, EachKindOfLineEndIsOneInTheAlert) {
+    open();
+    observation("a&#13;&#10;b&#13;c&#10;d&#13;&#10;&#13;&#10;e&#10;&#13;f");
+    answerAlert("cmdCancelar", "a\nb\nc\nd\n\ne\n\nf");
+    click(screen(), "cmdDetOFT");
+}
+
 TEST_F(FrmOFTTest, ACancelledObservationStopsMaintenanceAndSheet) {
     open();
     observation("x");

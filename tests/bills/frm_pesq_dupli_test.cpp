@@ -7,6 +7,7 @@
 
 #include "tests/bills/bill_screen_test.h"
 #include "tests/support/boxes.h"
+#include "tests/support/entering.h"
 #include "tests/support/grid.h"
 
 namespace tarn::test {
@@ -119,7 +120,7 @@ TEST_F(FrmPesqDupliTest, TheGridShowsAllItsColumns) {
 
 TEST_F(FrmPesqDupliTest, TabGoesThroughTheFieldsThenTheButtons) {
     withScreen([&](QWidget& screen) {
-        EXPECT_EQ(focused(screen), "txtCliente");
+        EXPECT_EQ(focused(screen), "cboFilial") << "txtCliente takes no typing";
         EXPECT_THAT(
             tabOrder(screen, "txtCliente", 15),
             ElementsAre("txtCliente", "cboFilial", "cboTpDocto", "txtDtEmsDe", "txtDtEmsAte",
@@ -220,6 +221,14 @@ TEST_F(FrmPesqDupliTest, ASearchWithEverything) {
                                 "&ID_ETB_TARN=12&DT_VNC_DE=05/03/2012&DT_VNC_ATE=31/12/2012"
                                 "&DT_EMS_DE=01/01/2012&DT_EMS_ATE=31/01/2012&ID_PES_USU=77"
                                 "&ServerName=SRV1"));
+    });
+}
+
+TEST_F(FrmPesqDupliTest, DateFieldsTakeNumbersOnly) {
+    withScreen([&](QWidget& screen) {
+        for (const char* name : {"txtDtEmsDe", "txtDtEmsAte", "txtDtVncDe", "txtDtVncAte"}) {
+            expectNumbersOnly(screen, name, machine, Comma::Taken);
+        }
     });
 }
 

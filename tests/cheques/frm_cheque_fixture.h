@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QApplication>
-#include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
 #include <functional>
@@ -11,6 +10,7 @@
 #include "desk/mdi_menu.h"
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
+#include "tests/support/entering.h"
 #include "tests/support/screen_test.h"
 #include "widgets/free_text_field.h"
 
@@ -122,10 +122,6 @@ protected:
     }
     static int account(const QWidget& screen) {
         return named<QComboBox>(screen, "cboBancoAgConta").currentIndex();
-    }
-    static void paste(QWidget& field, const QString& pasted) {
-        QApplication::clipboard()->setText(pasted);
-        QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
     }
     // Lets what was put off until the focus has settled happen.
     static void settle() {

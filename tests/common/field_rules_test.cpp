@@ -39,6 +39,47 @@ TEST(KeyFilters, CodesOutsideTheByteRange) {
     EXPECT_EQ(machine.beeps, 3);
 }
 
+TEST(KeyFilters, JudgeEveryCharacter) {
+    for (char32_t character = 0; character < 0x20000; ++character) {
+        const bool digit = character >= '0' && character <= '9';
+        FixedMachine machine;
+        EXPECT_TRUE(takes(KeyFilter::None, character, machine));
+        EXPECT_EQ(machine.beeps, 0);
+        const bool decimal = digit || character == ',';
+        ASSERT_EQ(takes(KeyFilter::Decimal, character, machine), decimal)
+            << static_cast<unsigned>(character);
+        ASSERT_EQ(takes(KeyFilter::Integer, character, machine), digit)
+            << static_cast<unsigned>(character);
+        ASSERT_EQ(machine.beeps, (decimal ? 0 : 1) + (digit ? 0 : 1))
+            << static_cast<unsigned>(character);
+    }
+}
+
+TEST(KeyFilters, TakePunctuationOutOfWhatIsPasted) {
+    FixedMachine machine;
+    EXPECT_EQ(takenOf(KeyFilter::Decimal, " 1.234,50 ", machine), "1234,50");
+    EXPECT_EQ(takenOf(KeyFilter::Integer, "1.234,50", machine), "123450");
+    EXPECT_EQ(takenOf(KeyFilter::Decimal, "31/03-2012", machine), "31032012");
+    EXPECT_EQ(takenOf(KeyFilter::Decimal, " ./-", machine), "");
+    EXPECT_EQ(takenOf(KeyFilter::Integer, ",", machine), "");
+    EXPECT_EQ(takenOf(KeyFilter::Decimal, "", machine), "");
+    EXPECT_EQ(takenOf(KeyFilter::None, "R$ 1,5\r\n", machine), "R$ 1,5\r\n");
+    EXPECT_EQ(machine.beeps, 0);
+}
+
+TEST(KeyFilters, RefuseAWholePasteForOneCharacter) {
+    for (const char* pasted : {"12a", "R$ 5", "1\n2", "12\r\n", "1\t", "nº 5",
+                               "1\xC2\xA0"
+                               "000",
+                               "\xEF\xBC\x91", "\b1", "1e3"}) {
+        for (const KeyFilter filter : {KeyFilter::Decimal, KeyFilter::Integer}) {
+            FixedMachine machine;
+            EXPECT_EQ(takenOf(filter, pasted, machine), std::nullopt) << pasted;
+            EXPECT_EQ(machine.beeps, 1) << pasted;
+        }
+    }
+}
+
 TEST(DateField, CompletesWhatWasTyped) {
     EXPECT_EQ(dateOnLeave("15", today), "15/03/2012");
     EXPECT_EQ(dateOnLeave("1", today), "01/03/2012");
@@ -89,6 +130,7 @@ TEST(DepositDate, IsTestedOnTheCalendar) {
         const FieldResult result = testedDateOnLeave(bad, today);
         EXPECT_EQ(result.text, "") << bad;
         EXPECT_EQ(result.box, refusal) << bad;
+        EXPECT_EQ(result.textUnderBox, dateOnLeave(bad, today)) << bad;
         EXPECT_TRUE(result.refocus) << bad;
     }
 }

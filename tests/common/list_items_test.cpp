@@ -20,6 +20,10 @@ TEST(ItemData, IsThe32BitNumberOfItsTextOrZero) {
     EXPECT_EQ(itemData("-7"), -7);
     EXPECT_EQ(itemData("2147483647"), 2147483647);
     EXPECT_EQ(itemData("2147483648"), 0);
+    EXPECT_EQ(itemNumber("0"), 0);
+    EXPECT_EQ(itemNumber("2147483648"), std::nullopt);
+    EXPECT_EQ(itemNumber(""), std::nullopt);
+    EXPECT_EQ(itemNumber("x"), std::nullopt);
     EXPECT_EQ(itemData(""), 0);
     EXPECT_EQ(itemData("A1"), 0);
 }

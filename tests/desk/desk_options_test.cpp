@@ -84,7 +84,7 @@ TEST(Options, WrongUsageSaysWhat) {
 }
 
 TEST(Options, AWrongServerOfTheEnvironmentIsCalledByItsName) {
-    EXPECT_EQ(std::get<NoStart>(read({}, "servidor:8610")).text,
+    EXPECT_EQ(std::get<cli::Ending>(read({}, "servidor:8610")).text,
               "tarnemissao: TARN_SERVIDOR \"servidor:8610\": o endereço do servidor começa com "
               "http:// ou https://.\nUse tarnemissao --ajuda para ver as opções.\n");
 }

@@ -182,8 +182,8 @@ constexpr std::array buttons{
     ButtonCase{"mnuImprClientes", "cmdExcluir", "frmExcluirEtiqueta", "cmdCancelar", nullptr},
 };
 
-INSTANTIATE_TEST_SUITE_P(Each, OneGesture, testing::ValuesIn(buttons), [](const auto& info) {
-    return std::string(info.param.entry) + "_" + info.param.screen + "_" + info.param.button;
+INSTANTIATE_TEST_SUITE_P(Each, OneGesture, testing::ValuesIn(buttons), [](const auto& each) {
+    return std::string(each.param.entry) + "_" + each.param.screen + "_" + each.param.button;
 });
 
 }  // namespace

@@ -28,9 +28,9 @@ std::vector<Pace> paces() {
     return all;
 }
 
-std::string nameOf(const testing::TestParamInfo<Pace>& info) {
-    return "AnswerAfter" + std::to_string(info.param.answer) + "KeyEach" +
-           std::to_string(info.param.key);
+std::string nameOf(const testing::TestParamInfo<Pace>& each) {
+    return "AnswerAfter" + std::to_string(each.param.answer) + "KeyEach" +
+           std::to_string(each.param.key);
 }
 
 class TypingOn : public DeskX11, public testing::WithParamInterface<Pace> {

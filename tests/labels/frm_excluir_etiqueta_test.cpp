@@ -1,4 +1,5 @@
 #include "tests/labels/label_screens.h"
+#include "tests/support/entering.h"
 
 namespace tarn::test {
 
@@ -121,6 +122,15 @@ TEST_F(DeletionScreen, NoReasonTravelsAsItReads) {
             click(deletion, "cmdOk");
         });
         EXPECT_THAT(server.queries(), ElementsAre(deletionQuery("1", "2", "--------")));
+    });
+}
+
+TEST_F(DeletionScreen, TheRangeTakesNumbersOnly) {
+    inDeletion([this](QWidget& deletion) {
+        for (const char* name : {"txtDe", "txtAte"}) {
+            expectNumbersOnly(deletion, name, machine, Comma::Taken);
+        }
+        click(deletion, "cmdCancelar");
     });
 }
 

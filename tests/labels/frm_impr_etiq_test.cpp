@@ -1,6 +1,7 @@
 #include <QRadioButton>
 
 #include "tests/labels/label_screens.h"
+#include "tests/support/entering.h"
 
 namespace tarn::test {
 
@@ -328,6 +329,15 @@ TEST_F(SelectionScreen, PostalCodesAskForNoDate) {
         click(selection, "cmdPesquisar");
         EXPECT_EQ(boxes.shown.size(), 1U);
         EXPECT_THAT(server.queries().back(), testing::HasSubstr("&nCepDe=1&nCepAte=&dDtDe=&"));
+    });
+}
+
+TEST_F(SelectionScreen, FieldsOfNumbersTakeNothingElse) {
+    inSelection([this](QWidget& selection) {
+        for (const char* name : {"txtCepDe", "txtCepAte", "txtDtVndDe", "txtDtVndAte", "txtVlrDe",
+                                 "txtVlrAte", "txtQtde", "txtQtAte"}) {
+            expectNumbersOnly(selection, name, machine, Comma::Taken);
+        }
     });
 }
 

@@ -7,6 +7,7 @@
 #include "labels/print_labels.h"
 #include "labels/print_selection.h"
 #include "labels/queue.h"
+#include "runtime/runtime_error.h"
 #include "tests/labels/label_answers.h"
 #include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
@@ -85,9 +86,11 @@ TEST_F(LabelFlows, ARangeThatIsNoNumberSendsNothing) {
         const Box& box = env.boxes.shown[0];
         EXPECT_EQ(box.icon, BoxIcon::Critical);
         EXPECT_EQ(box.title, "TarnEmissao");
-        EXPECT_EQ(box.text.rfind("Erro em tempo de execução '13':\r\r", 0), 0U) << box.text;
-        EXPECT_NE(box.text.find("Nada foi impresso. Digite em De e Até"), std::string::npos);
-        EXPECT_EQ(box.text.find("programa"), std::string::npos) << "it goes on";
+        const std::string wrong = std::string_view(from) == "1" ? to : from;
+        EXPECT_EQ(box.text,
+                  "Erro em tempo de execução '13':\r\r"
+                  "Há um texto onde era esperado um número: \"" +
+                      wrong + "\".");
     }
     EXPECT_TRUE(env.loader.addresses.empty());
     expectsNothingPrinted();
@@ -121,9 +124,19 @@ TEST_F(LabelFlows, ASenderWithoutARowIsReportedForEveryForm) {
         EXPECT_FALSE(printRange("1", "2"));
         ASSERT_EQ(env.boxes.shown.size(), 1U);
         EXPECT_EQ(env.boxes.shown[0].icon, BoxIcon::Critical);
-        EXPECT_EQ(env.boxes.shown[0].text.rfind("Erro em tempo de execução '91':\r\r", 0), 0U);
+        EXPECT_EQ(env.boxes.shown[0].text,
+                  "Erro em tempo de execução '91':\r\rFalta um dado na resposta do servidor: "
+                  "o servidor não tem os dados da Filial Remetente.");
         expectsNothingPrinted();
     }
+}
+
+TEST_F(LabelFlows, AFieldOfTheSenderInAnotherCaseIsAnErrorLikeAnyOther) {
+    env.loader.on("sel_etiquetas", labelRows(2))
+        .on("sel_dados_remetente", answers::rowset("<z:row nome='X'/>"));
+    EXPECT_THROW(printRange("1", "2"), RuntimeError);
+    EXPECT_THAT(env.boxes.shown, testing::IsEmpty());
+    expectsNothingPrinted();
 }
 
 TEST_F(LabelFlows, TheQueueOfAReasonIsReadWhole) {

@@ -142,6 +142,53 @@ TEST_F(CancellationScreen, ANoteOfTypeDIsFoundAndNeverCancelled) {
     EXPECT_THAT(server.addresses, IsEmpty());
 }
 
+// The option was chosen for the note that the same search found before.
+TEST_F(CancellationScreen, ATypeDFoundBySearchingAgainClearsTheOption) {
+    find("S");
+    fillIn(1);
+    ScriptedLoader other;
+    server = other.on("SEL_NF", answers::rowset(noteRow("D")));
+    click(screen(), "cmdPesquisar");
+    EXPECT_FALSE(option(0).isChecked() || option(1).isChecked());
+    EXPECT_EQ(chosen("CboMot_Can"), errorReason);
+    server.addresses.clear();
+    cancel();
+    EXPECT_THAT(boxes.shown, ElementsAre(kindMissing));
+    EXPECT_THAT(server.addresses, IsEmpty());
+}
+
+TEST_F(CancellationScreen, AReasonWithoutItsNumberCantBeChosen) {
+    click(screen(), "CmdFechar");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
+    lists();
+    ScriptedLoader others = server;
+    server = others.on("SEL_MOT_CAN", answers::rowset("<z:row DC_MOT_CAN='Sem'/>"
+                                                      "<z:row DC_MOT_CAN='Boa' ID_MOT_CAN='0'/>"
+                                                      "<z:row DC_MOT_CAN='Ruim' ID_MOT_CAN='x'/>"));
+    openEmpty("mCNF");
+    find();
+    tick(0);
+    auto& reasons = named<QComboBox>(screen(), "CboMot_Can");
+    EXPECT_EQ(reasons.count(), 3);
+    reasons.setFocus();
+    QTest::keyClick(&reasons, Qt::Key_Space);
+    QAbstractItemView& items = *reasons.view();
+    QTest::mouseClick(items.viewport(), Qt::LeftButton, {},
+                      items.visualRect(items.model()->index(2, 0)).center());
+    EXPECT_EQ(reasons.currentIndex(), -1) << "a click on it chooses nothing";
+    reasons.hidePopup();
+    reasons.setCurrentIndex(0);
+    cancel();
+    EXPECT_THAT(boxes.shown, ElementsAre(reasonMissing)) << "and to stand on it is no choice";
+    EXPECT_THAT(server.addresses, IsEmpty());
+    server.on("sp_can_nf", answers::status("OK"));
+    reasons.setCurrentIndex(-1);
+    QTest::keyClick(&reasons, Qt::Key_Down);
+    EXPECT_EQ(reasons.currentIndex(), 1) << "the arrow passes over it";
+    cancel();
+    EXPECT_THAT(server.queries(), ElementsAre(testing::HasSubstr("&id_mot_can=0&")));
+}
+
 TEST_F(CancellationScreen, TheSearchAloneDecidesWhetherTheOptionsAreEnabled) {
     find("D");
     type(screen(), "txtNF", "1");

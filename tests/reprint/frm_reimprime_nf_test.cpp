@@ -5,6 +5,7 @@
 #include <QStyledItemDelegate>
 
 #include "tests/reprint/note_screen_test.h"
+#include "tests/support/entering.h"
 
 namespace tarn::test {
 namespace {
@@ -293,6 +294,11 @@ TEST_F(FrmReImprimeNFTest, TheNumberTakesDigitsAndCommaAndEnterOnlyBeeps) {
     EXPECT_EQ(field.text(), QStringLiteral("1,2"));
     EXPECT_EQ(machine.beeps, 4);
     EXPECT_THAT(server.addresses, IsEmpty());
+}
+
+TEST_F(FrmReImprimeNFTest, TheNumberTakesNothingElseHoweverItComes) {
+    open("mRINF");
+    expectNumbersOnly(screen(), "txtNF", machine, Comma::Taken);
 }
 
 TEST_F(FrmReImprimeNFTest, BothJobsWantSeriesNumberAndNote) {

@@ -103,7 +103,10 @@ TEST_F(ReprintScreen, AnErrorInTheNoteEndsTheProgramWithTheReport) {
     EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
     EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '13':\r\r", 0), 0U)
         << boxes.shown[0].text;
-    EXPECT_NE(boxes.shown[0].text.find("tela de Reimpressão de Nota Fiscal"), std::string::npos);
+    EXPECT_THAT(
+        boxes.shown[0].text,
+        testing::EndsWith("\r\rA Nota Fiscal continua no servidor e pode ser impressa outra "
+                          "vez pela tela de Reimpressão de Nota Fiscal."));
     EXPECT_EQ(end.status(), 3);
     ASSERT_EQ(spooler.jobs.size(), 2U);
     EXPECT_TRUE(spooler.jobs[0].closed);

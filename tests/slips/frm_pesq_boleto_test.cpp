@@ -103,7 +103,7 @@ TEST_F(FrmPesqBoletoTest, SaysWhatItsFieldsAre) {
                   QStringLiteral("Inserir os Doctos abaixo na carteira selecionada"));
         EXPECT_TRUE(named<QLineEdit>(screen, "txtCliente").isReadOnly());
         EXPECT_EQ(named<QLineEdit>(screen, "txtNr_Bol_Banc").maxLength(), 13);
-        EXPECT_EQ(focused(screen), "txtCliente");
+        EXPECT_EQ(focused(screen), "cboFilial") << "txtCliente takes no typing";
         EXPECT_THAT(tabOrder(screen, "txtCliente", 16),
                     ElementsAre("txtCliente", "cboFilial", "cboCartCob", "txtDtEmsDe",
                                 "txtDtEmsAte", "txtDtVncDe", "txtDtVncAte", "chkInc_Carteira",

@@ -348,9 +348,9 @@ std::vector<Pace> paces() {
     return all;
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, TypingOn, testing::ValuesIn(paces()), [](const auto& info) {
-    return "AnswerAfter" + std::to_string(info.param.answer) + "KeyEach" +
-           std::to_string(info.param.key);
+INSTANTIATE_TEST_SUITE_P(Each, TypingOn, testing::ValuesIn(paces()), [](const auto& each) {
+    return "AnswerAfter" + std::to_string(each.param.answer) + "KeyEach" +
+           std::to_string(each.param.key);
 });
 
 }  // namespace
