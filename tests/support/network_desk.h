@@ -1,6 +1,7 @@
 // A desk over a real server, with the other seams of a screen test.
 #pragma once
 
+#include <QObject>
 #include <string>
 
 #include "platform/curl/curl_loader.h"
@@ -19,12 +20,15 @@ struct NetworkDesk {
                       test.environment.clock,
                       test.environment.machine,
                       baseUrl},
-          desk{environment, test.session, test.end} {}
+          desk{environment, test.session, test.end} {
+        QObject::connect(&test.end, &ProgramEnd::didEnd, &context, [this] { blocking.close(); });
+    }
 
     CurlLoader curl;
     BlockingLoader blocking{curl};
     Environment environment;
     DeskContext desk;
+    QObject context;
 };
 
 }  // namespace tarn::test
