@@ -1,30 +1,38 @@
-# What every target of the project shares: warnings, sanitizers, and the shape in which
-# libraries are declared.
+# What every target of the project shares: warnings, sanitizers, optimisation, and the shape
+# in which libraries are declared.
 
-add_library(tarn_options INTERFACE)
-target_compile_options(tarn_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+add_library(tarn_common_options INTERFACE)
+target_compile_options(tarn_common_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
                        -fstack-protector-strong)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # g++ 12 sees overlapping copies and overruns in "text" + std::string and in its like
   # (GCC bugs 105651 and 105329).
-  target_compile_options(tarn_options INTERFACE -Wno-restrict -Wno-array-bounds
+  target_compile_options(tarn_common_options INTERFACE -Wno-restrict -Wno-array-bounds
                          -Wno-stringop-overflow)
 endif()
 if(TARN_WERROR)
-  target_compile_options(tarn_options INTERFACE -Werror)
+  target_compile_options(tarn_common_options INTERFACE -Werror)
 endif()
 if(TARN_SANITIZE)
-  target_compile_options(tarn_options INTERFACE -fsanitize=address,undefined
+  target_compile_options(tarn_common_options INTERFACE -fsanitize=address,undefined
                          -fno-sanitize-recover=all -fno-omit-frame-pointer
                          # g++ sees uninitialized reads in instrumented library code
                          $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
-  target_link_options(tarn_options INTERFACE -fsanitize=address,undefined)
+  target_link_options(tarn_common_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(TARN_FUZZ)
   # Coverage for libFuzzer; only the fuzzers themselves link its main.
-  target_compile_options(tarn_options INTERFACE -fsanitize=fuzzer-no-link)
-  target_link_options(tarn_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_compile_options(tarn_common_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(tarn_common_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
+
+# Of product code alone: the presets leave the flags of a build type empty, so that test code
+# is compiled alike in each of them and a compiler cache knows it again.
+add_library(tarn_options INTERFACE)
+target_link_libraries(tarn_options INTERFACE tarn_common_options)
+target_compile_options(tarn_options INTERFACE $<$<CONFIG:Release>:-O2> $<$<CONFIG:Debug>:-g>)
+target_compile_definitions(tarn_options INTERFACE $<$<CONFIG:Release>:NDEBUG>
+                           $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 
 # tarn_add_library(NAME): a static library whose rooms add their own sources; apps and
 # practice include by their own folder's name.

@@ -1,11 +1,13 @@
 # How tests are declared, and what they share.
 
 # Test code runs once and is compiled often: it isn't worth optimising. Qt asks for
-# position-independent code; with it everywhere one precompiled header serves all.
+# position-independent code; with it everywhere one precompiled header serves all. Nothing
+# depends on the build type, QT_NO_DEBUG neither, which Qt leaves out for Debug.
 add_library(tarn_test_options INTERFACE)
-target_link_libraries(tarn_test_options INTERFACE tarn_options)
+target_link_libraries(tarn_test_options INTERFACE tarn_common_options)
 target_compile_options(tarn_test_options INTERFACE
-                       $<$<CXX_COMPILER_ID:GNU,Clang>:-O0;-fPIC>)
+                       $<$<CXX_COMPILER_ID:GNU,Clang>:-O0;-g1;-fPIC>)
+target_compile_definitions(tarn_test_options INTERFACE QT_NO_DEBUG)
 
 set(tarn_precompiled_test ${tarn_precompiled_std} <fstream> <map> <set> <sstream>
     <gmock/gmock.h> <gtest/gtest.h>)
