@@ -6,7 +6,6 @@
 
 #include "billing/orders.h"
 #include "common/boxes.h"
-#include "platform/qt/acting_keys.h"
 #include "ui_frm_manut_det_oft.h"
 #include "widgets/field_families.h"
 #include "widgets/form_helpers.h"
@@ -30,7 +29,7 @@ void showNumber(QLineEdit& field, const std::string& text) {
 }  // namespace
 
 frmManutDetOFT::frmManutDetOFT(DeskContext& desk, const GridRow& order, QWidget* parent)
-    : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::frmManutDetOFT>()) {
+    : DeskDialog(desk, Esc::Closes, parent), ui_(std::make_unique<Ui::frmManutDetOFT>()) {
     ui_->setupUi(this);
     prepareFields();
     prepareButtons();
@@ -115,12 +114,6 @@ void frmManutDetOFT::cmdOk_Click() {
     if (saveOrder(desk_.environment, desk_.session, order)) {
         emit saved();
         accept();
-    }
-}
-
-void frmManutDetOFT::keyPressEvent(QKeyEvent* event) {
-    if (!isEnter(*event)) {
-        QDialog::keyPressEvent(event);
     }
 }
 

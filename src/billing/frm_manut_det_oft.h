@@ -2,11 +2,10 @@
 // quantity of packages and the two weights. The rest is shown for reference.
 #pragma once
 
-#include <QDialog>
 #include <memory>
 
 #include "billing/orders.h"
-#include "widgets/desk_context.h"
+#include "widgets/desk_dialog.h"
 
 class QLineEdit;
 
@@ -16,7 +15,7 @@ class frmManutDetOFT;
 
 namespace tarn {
 
-class frmManutDetOFT : public QDialog {
+class frmManutDetOFT : public DeskDialog {
     Q_OBJECT
 
 public:
@@ -28,9 +27,6 @@ signals:
     // The write was sent: the list must be read again. Comes before the dialog closes.
     void saved();
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
     void prepareFields();
     void prepareButtons();
@@ -38,7 +34,6 @@ private:
 
     void cmdOk_Click();
 
-    DeskContext& desk_;
     std::unique_ptr<Ui::frmManutDetOFT> ui_;
 };
 

@@ -2,12 +2,10 @@
 
 #include <QBuffer>
 #include <QImageReader>
-#include <QKeyEvent>
 
 #include "bills/bill_search.h"
 #include "bills/print_bills.h"
 #include "common/boxes.h"
-#include "platform/qt/acting_keys.h"
 #include "ui_frm_pesq_dupli.h"
 #include "widgets/form_helpers.h"
 #include "widgets/grid_model.h"
@@ -37,8 +35,7 @@ QPixmap thumbnail(const Picture& picture, const QSize& space) {
 }  // namespace
 
 FrmPesqDupli::FrmPesqDupli(DeskContext& desk, QWidget* parent)
-    : QDialog(parent),
-      desk_(desk),
+    : DeskDialog(desk, Esc::ClosesNothing, parent),
       ui_(std::make_unique<Ui::FrmPesqDupli>()),
       documents_(new GridModel(billGrid(), this)) {
     ui_->setupUi(this);
@@ -79,11 +76,8 @@ void FrmPesqDupli::takeCustomer(const Customer& customer) {
 }
 
 // The first activation comes when the screen stands before the user.
-void FrmPesqDupli::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (!event->spontaneous()) {
-        QMetaObject::invokeMethod(this, &FrmPesqDupli::activate, Qt::QueuedConnection);
-    }
+void FrmPesqDupli::opened() {
+    QMetaObject::invokeMethod(this, &FrmPesqDupli::activate, Qt::QueuedConnection);
 }
 
 void FrmPesqDupli::activate() {
@@ -143,13 +137,6 @@ void FrmPesqDupli::cmdImprimir_Click() {
                    .triplicate = !ui_->optDupl->isChecked(),
                    .pictures = pictures_},
                   progress.notices());
-}
-
-// Neither key presses a button that hasn't the focus.
-void FrmPesqDupli::keyPressEvent(QKeyEvent* event) {
-    if (!isEnter(*event) && event->key() != Qt::Key_Escape) {
-        QDialog::keyPressEvent(event);
-    }
 }
 
 }  // namespace tarn

@@ -1,12 +1,11 @@
 // Finds bills and receipts of the company and prints the ticked ones.
 #pragma once
 
-#include <QDialog>
 #include <memory>
 
 #include "bills/company_data.h"
 #include "customers/procura_cliente.h"
-#include "widgets/desk_context.h"
+#include "widgets/desk_dialog.h"
 
 namespace Ui {
 class FrmPesqDupli;
@@ -16,7 +15,7 @@ namespace tarn {
 
 class GridModel;
 
-class FrmPesqDupli : public QDialog {
+class FrmPesqDupli : public DeskDialog {
     Q_OBJECT
 
 public:
@@ -31,8 +30,7 @@ signals:
     void customerWanted();
 
 protected:
-    void showEvent(QShowEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
+    void opened() override;
 
 private:
     void prepareFields();
@@ -45,7 +43,6 @@ private:
     void cmdPesquisar_Click();
     void cmdImprimir_Click();
 
-    DeskContext& desk_;
     std::unique_ptr<Ui::FrmPesqDupli> ui_;
     GridModel* documents_;
     BillPictures pictures_;

@@ -27,7 +27,7 @@ constexpr int observationLines = 5;
 }  // namespace
 
 frmCheque::frmCheque(DeskContext& desk, QWidget* parent)
-    : QDialog(parent), desk_(desk), ui_(std::make_unique<Ui::frmCheque>()) {
+    : DeskDialog(desk, Esc::ClosesNothing, parent), ui_(std::make_unique<Ui::frmCheque>()) {
     ui_->setupUi(this);
     prepareFields();
     prepareButtons();
@@ -178,18 +178,8 @@ void frmCheque::chooseFromOpenList(QEvent& enter) {
     list.installEventFilter(this);
 }
 
-// Neither key presses a button that hasn't the focus.
-void frmCheque::keyPressEvent(QKeyEvent* event) {
-    if (!isEnter(*event) && event->key() != Qt::Key_Escape) {
-        QDialog::keyPressEvent(event);
-    }
-}
-
-void frmCheque::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (!event->spontaneous()) {
-        ui_->cboBancoAgConta->setFocus();
-    }
+void frmCheque::opened() {
+    ui_->cboBancoAgConta->setFocus();
 }
 
 }  // namespace tarn

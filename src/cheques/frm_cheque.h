@@ -2,14 +2,13 @@
 // cheque and records it on the server.
 #pragma once
 
-#include <QDialog>
 #include <memory>
 #include <optional>
 #include <vector>
 
 #include "cheques/issue_cheque.h"
 #include "platform/qt/input_gate.h"
-#include "widgets/desk_context.h"
+#include "widgets/desk_dialog.h"
 
 namespace Ui {
 class frmCheque;
@@ -17,7 +16,7 @@ class frmCheque;
 
 namespace tarn {
 
-class frmCheque : public QDialog {
+class frmCheque : public DeskDialog {
     Q_OBJECT
 
 public:
@@ -29,8 +28,7 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void showEvent(QShowEvent* event) override;
+    void opened() override;
 
 private:
     struct Leaving {
@@ -51,7 +49,6 @@ private:
     void chooseFromOpenList(QEvent& enter);
     void cmdImprimir_Click();
 
-    DeskContext& desk_;
     std::unique_ptr<Ui::frmCheque> ui_;
     std::vector<BankAccount> accounts_;  // by position of the list
     std::unique_ptr<Leaving> leaving_;   // from leaving number or series to its check

@@ -1,12 +1,10 @@
 #include "customers/frm_pesq_cliente.h"
 
-#include <QKeyEvent>
 #include <exception>
 #include <utility>
 #include <vector>
 
 #include "common/boxes.h"
-#include "platform/qt/acting_keys.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_pesq_cliente.h"
 #include "widgets/grid_model.h"
@@ -21,8 +19,7 @@ constexpr int visibleLines = 12;
 }  // namespace
 
 FrmPesqCliente::FrmPesqCliente(DeskContext& desk, QWidget* parent)
-    : QDialog(parent),
-      desk_(desk),
+    : DeskDialog(desk, Esc::Closes, parent),
       ui_(std::make_unique<Ui::FrmPesqCliente>()),
       customers_(new GridModel(customerGrid(), this)) {
     ui_->setupUi(this);
@@ -74,10 +71,8 @@ void FrmPesqCliente::cmdSelecionar_Click() {
 }
 
 // Enter chooses the grid's row; elsewhere it has been taken.
-void FrmPesqCliente::keyPressEvent(QKeyEvent* event) {
-    if (!isEnter(*event)) {
-        QDialog::keyPressEvent(event);
-    } else if (ui_->sprDados->hasFocus() && ui_->sprDados->currentIndex().isValid()) {
+void FrmPesqCliente::enterPressed() {
+    if (ui_->sprDados->hasFocus() && ui_->sprDados->currentIndex().isValid()) {
         cmdSelecionar_Click();
     }
 }

@@ -2,11 +2,10 @@
 // It is hidden when left: what was typed and found is there at the next opening.
 #pragma once
 
-#include <QDialog>
 #include <memory>
 
 #include "customers/procura_cliente.h"
-#include "widgets/desk_context.h"
+#include "widgets/desk_dialog.h"
 
 namespace Ui {
 class FrmPesqCliente;
@@ -16,7 +15,7 @@ namespace tarn {
 
 class GridModel;
 
-class FrmPesqCliente : public QDialog {
+class FrmPesqCliente : public DeskDialog {
     Q_OBJECT
 
 public:
@@ -28,7 +27,7 @@ signals:
     void chosen(const tarn::Customer& customer);
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    void enterPressed() override;
 
 private:
     void prepareButtons();
@@ -36,7 +35,6 @@ private:
     void cmdPesquisar_Click();
     void cmdSelecionar_Click();
 
-    DeskContext& desk_;
     std::unique_ptr<Ui::FrmPesqCliente> ui_;
     GridModel* customers_;
 };

@@ -16,19 +16,18 @@ frmExcluirEtiqueta::frmExcluirEtiqueta(DeskContext& desk, const labels::LabelVal
 
 frmExcluirEtiqueta::~frmExcluirEtiqueta() = default;
 
-void frmExcluirEtiqueta::activate() {
+void frmExcluirEtiqueta::opened() {
     const ListItem item{values().MotivoImpressao, 0};
     fillList(*ui_->cboMotivo, std::span(&item, 1));
 }
 
 void frmExcluirEtiqueta::cmdOk_Click() {
     if (const auto refusal = labels::rangeRefusal(range())) {
-        inform(desk().environment, refusal->text);
+        inform(desk_.environment, refusal->text);
         return focusField(refusal->field, {{labels::RangeField::From, ui_->txtDe},
                                            {labels::RangeField::To, ui_->txtAte}});
     }
-    if (labels::deleteLabels(desk().environment, desk().session, values().MotivoImpressao,
-                             range())) {
+    if (labels::deleteLabels(desk_.environment, desk_.session, values().MotivoImpressao, range())) {
         accept();
     }
 }

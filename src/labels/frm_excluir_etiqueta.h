@@ -19,7 +19,7 @@ public:
     ~frmExcluirEtiqueta() override;
 
 private:
-    void activate() override;
+    void opened() override;
     void cmdOk_Click() override;
 
     std::unique_ptr<Ui::frmExcluirEtiqueta> ui_;

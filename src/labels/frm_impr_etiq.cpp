@@ -1,13 +1,11 @@
 #include "labels/frm_impr_etiq.h"
 
-#include <QKeyEvent>
 #include <algorithm>
 #include <vector>
 
 #include "common/boxes.h"
 #include "labels/customer_selection.h"
 #include "labels/print_selection.h"
-#include "platform/qt/acting_keys.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_impr_etiq.h"
 #include "widgets/field_families.h"
@@ -38,8 +36,7 @@ std::string listParameter(const QComboBox& list) {
 }  // namespace
 
 FrmImprEtiq::FrmImprEtiq(DeskContext& desk, QWidget* parent)
-    : QDialog(parent),
-      desk_(desk),
+    : DeskDialog(desk, Esc::ClosesNothing, parent),
       ui_(std::make_unique<Ui::FrmImprEtiq>()),
       customers_(new GridModel(labels::selectionGrid(), this)) {
     ui_->setupUi(this);
@@ -147,13 +144,6 @@ void FrmImprEtiq::cmdPesquisar_Click() {
 void FrmImprEtiq::cmdImprimir_Click() {
     ProgressWindow progress(*this);
     labels::printSelection(desk_.environment, customers_->lines(), progress.notices());
-}
-
-// Neither key presses a button that hasn't the focus.
-void FrmImprEtiq::keyPressEvent(QKeyEvent* event) {
-    if (!isEnter(*event) && event->key() != Qt::Key_Escape) {
-        QDialog::keyPressEvent(event);
-    }
 }
 
 }  // namespace tarn

@@ -2,10 +2,9 @@
 // labels of the ticked ones, without passing through the queue. No menu leads here.
 #pragma once
 
-#include <QDialog>
 #include <memory>
 
-#include "widgets/desk_context.h"
+#include "widgets/desk_dialog.h"
 
 class QComboBox;
 
@@ -17,7 +16,7 @@ namespace tarn {
 
 class GridModel;
 
-class FrmImprEtiq : public QDialog {
+class FrmImprEtiq : public DeskDialog {
     Q_OBJECT
 
 public:
@@ -26,9 +25,6 @@ public:
 
     // Before it shows: fills the lists.
     void load();
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void prepareFields();
@@ -42,7 +38,6 @@ private:
     void cmdPesquisar_Click();
     void cmdImprimir_Click();
 
-    DeskContext& desk_;
     std::unique_ptr<Ui::FrmImprEtiq> ui_;
     GridModel* customers_;
 };

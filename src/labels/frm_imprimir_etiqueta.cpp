@@ -17,7 +17,7 @@ frmImprimirEtiqueta::frmImprimirEtiqueta(DeskContext& desk, const labels::LabelV
 
 frmImprimirEtiqueta::~frmImprimirEtiqueta() = default;
 
-void frmImprimirEtiqueta::activate() {
+void frmImprimirEtiqueta::opened() {
     const labels::LabelForm form = labels::labelFormOf(values().TipoFormulario);
     const ListItem item{std::string(labels::labelFormName(form)), static_cast<std::int32_t>(form)};
     fillList(*ui_->cboTp_Form, std::span(&item, 1));
@@ -25,12 +25,12 @@ void frmImprimirEtiqueta::activate() {
 }
 
 void frmImprimirEtiqueta::cmdOk_Click() {
-    const auto run = labels::fetchRange(desk().environment, desk().session, values(), range());
+    const auto run = labels::fetchRange(desk_.environment, desk_.session, values(), range());
     if (!run) {
         return;
     }
     ProgressWindow progress(*this);
-    if (labels::printLabels(desk().environment, labels::labelFormOf(values().TipoFormulario), *run,
+    if (labels::printLabels(desk_.environment, labels::labelFormOf(values().TipoFormulario), *run,
                             progress.notices())) {
         accept();
     }

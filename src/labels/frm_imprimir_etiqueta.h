@@ -19,7 +19,7 @@ public:
     ~frmImprimirEtiqueta() override;
 
 private:
-    void activate() override;
+    void opened() override;
     void cmdOk_Click() override;
 
     std::unique_ptr<Ui::frmImprimirEtiqueta> ui_;

@@ -1,18 +1,15 @@
 #include "labels/frm_label_range.h"
 
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShowEvent>
 
-#include "platform/qt/acting_keys.h"
 #include "widgets/field_controller.h"
 #include "widgets/look.h"
 
 namespace tarn {
 
 FrmLabelRange::FrmLabelRange(DeskContext& desk, const labels::LabelValues& values, QWidget* parent)
-    : QDialog(parent), desk_(desk), values_(values) {}
+    : DeskDialog(desk, Esc::ClosesNothing, parent), values_(values) {}
 
 void FrmLabelRange::prepareControls(QLineEdit* txtDe, QLineEdit* txtAte, QPushButton* cmdOk,
                                     const char* okPicture, QPushButton* cmdCancelar) {
@@ -30,20 +27,6 @@ void FrmLabelRange::prepareControls(QLineEdit* txtDe, QLineEdit* txtAte, QPushBu
 
 labels::Range FrmLabelRange::range() const {
     return {from_->text().toStdString(), to_->text().toStdString()};
-}
-
-void FrmLabelRange::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (!event->spontaneous()) {
-        activate();
-    }
-}
-
-// Neither key presses a button that hasn't the focus.
-void FrmLabelRange::keyPressEvent(QKeyEvent* event) {
-    if (!isEnter(*event) && event->key() != Qt::Key_Escape) {
-        QDialog::keyPressEvent(event);
-    }
 }
 
 }  // namespace tarn

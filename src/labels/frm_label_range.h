@@ -2,17 +2,15 @@
 // queue, OK and "Cancelar".
 #pragma once
 
-#include <QDialog>
-
 #include "labels/queue.h"
-#include "widgets/desk_context.h"
+#include "widgets/desk_dialog.h"
 
 class QLineEdit;
 class QPushButton;
 
 namespace tarn {
 
-class FrmLabelRange : public QDialog {
+class FrmLabelRange : public DeskDialog {
     Q_OBJECT
 
 protected:
@@ -22,19 +20,12 @@ protected:
     void prepareControls(QLineEdit* txtDe, QLineEdit* txtAte, QPushButton* cmdOk,
                          const char* okPicture, QPushButton* cmdCancelar);
 
-    // Each time the screen becomes the active one.
-    virtual void activate() = 0;
     virtual void cmdOk_Click() = 0;
 
-    void keyPressEvent(QKeyEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-
-    DeskContext& desk() const { return desk_; }
     const labels::LabelValues& values() const { return values_; }
     labels::Range range() const;
 
 private:
-    DeskContext& desk_;
     const labels::LabelValues& values_;
     QLineEdit* from_ = nullptr;
     QLineEdit* to_ = nullptr;

@@ -1,13 +1,11 @@
 #include "labels/frm_pesq_etiquetas.h"
 
-#include <QKeyEvent>
 #include <utility>
 
 #include "common/boxes.h"
 #include "labels/frm_excluir_etiqueta.h"
 #include "labels/frm_imprimir_etiqueta.h"
 #include "labels/queue.h"
-#include "platform/qt/acting_keys.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_pesq_etiquetas.h"
 #include "widgets/form_helpers.h"
@@ -23,8 +21,7 @@ constexpr int visibleLines = 14;
 }  // namespace
 
 frmPesqEtiquetas::frmPesqEtiquetas(DeskContext& desk, labels::LabelValues& values, QWidget* parent)
-    : QDialog(parent),
-      desk_(desk),
+    : DeskDialog(desk, Esc::ClosesNothing, parent),
       values_(values),
       ui_(std::make_unique<Ui::frmPesqEtiquetas>()),
       queue_(new GridModel(labels::queueGrid(), this)) {
@@ -136,13 +133,6 @@ void frmPesqEtiquetas::cmdImprimir_Click() {
 void frmPesqEtiquetas::cmdExcluir_Click() {
     frmExcluirEtiqueta deletion(desk_, values_, this);
     runModal(deletion);
-}
-
-// Neither key presses a button that hasn't the focus.
-void frmPesqEtiquetas::keyPressEvent(QKeyEvent* event) {
-    if (!isEnter(*event) && event->key() != Qt::Key_Escape) {
-        QDialog::keyPressEvent(event);
-    }
 }
 
 }  // namespace tarn

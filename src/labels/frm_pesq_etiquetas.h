@@ -2,10 +2,9 @@
 // stationery and the sender, and hands over to printing or to deletion.
 #pragma once
 
-#include <QDialog>
 #include <memory>
 
-#include "widgets/desk_context.h"
+#include "widgets/desk_dialog.h"
 
 namespace Ui {
 class frmPesqEtiquetas;
@@ -19,7 +18,7 @@ namespace labels {
 struct LabelValues;
 }
 
-class frmPesqEtiquetas : public QDialog {
+class frmPesqEtiquetas : public DeskDialog {
     Q_OBJECT
 
 public:
@@ -28,9 +27,6 @@ public:
 
     // Before it shows: fills the lists, and the grid with the queue of no reason.
     void load();
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void prepareQueueGrid();
@@ -47,7 +43,6 @@ private:
     void cmdImprimir_Click();
     void cmdExcluir_Click();
 
-    DeskContext& desk_;
     labels::LabelValues& values_;
     std::unique_ptr<Ui::frmPesqEtiquetas> ui_;
     GridModel* queue_;

@@ -1,9 +1,6 @@
 #include "slips/frm_pesq_boleto.h"
 
-#include <QKeyEvent>
-
 #include "common/boxes.h"
-#include "platform/qt/acting_keys.h"
 #include "slips/print_slips.h"
 #include "slips/slip_search.h"
 #include "ui_frm_pesq_boleto.h"
@@ -26,15 +23,13 @@ std::string text(const QLineEdit& field) {
 }  // namespace
 
 frmPesqBoleto::frmPesqBoleto(DeskContext& desk, QWidget* parent)
-    : QDialog(parent),
-      desk_(desk),
+    : DeskDialog(desk, Esc::ClosesNothing, parent),
       ui_(std::make_unique<Ui::frmPesqBoleto>()),
       documents_(new GridModel(slipGrid(), this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *documents_);
     prepareFields();
     prepareButtons();
-    connect(this, &frmPesqBoleto::shown, this, &frmPesqBoleto::activate, Qt::QueuedConnection);
     fitToGrid(*this, *ui_->sprDados, visibleLines);
     ui_->cboFilial->setFocus();  // txtCliente takes no typing (decision D116)
 }
@@ -68,11 +63,8 @@ void frmPesqBoleto::takeCustomer(const Customer& customer) {
 }
 
 // The first activation comes when the screen stands before the user.
-void frmPesqBoleto::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (!event->spontaneous()) {
-        emit shown();
-    }
+void frmPesqBoleto::opened() {
+    QMetaObject::invokeMethod(this, &frmPesqBoleto::activate, Qt::QueuedConnection);
 }
 
 void frmPesqBoleto::activate() {
@@ -147,13 +139,6 @@ void frmPesqBoleto::chkInc_Carteira_Click(bool ticked) {
                "Esta opção só deverá ser selecionada quando se deseja incluir, no momento da "
                "impressão do boleto, um documento que esteja sem carteira de cobrança associada. A "
                "carteira a ser associada é a selecionada no combo acima.      ");
-    }
-}
-
-// Neither key presses a button that hasn't the focus.
-void frmPesqBoleto::keyPressEvent(QKeyEvent* event) {
-    if (!isEnter(*event) && event->key() != Qt::Key_Escape) {
-        QDialog::keyPressEvent(event);
     }
 }
 

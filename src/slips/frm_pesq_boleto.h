@@ -2,12 +2,11 @@
 // the ticked ones.
 #pragma once
 
-#include <QDialog>
 #include <memory>
 
 #include "customers/procura_cliente.h"
 #include "slips/slip_search.h"
-#include "widgets/desk_context.h"
+#include "widgets/desk_dialog.h"
 
 namespace Ui {
 class frmPesqBoleto;
@@ -18,7 +17,7 @@ namespace tarn {
 class GridModel;
 struct SlipFilter;
 
-class frmPesqBoleto : public QDialog {
+class frmPesqBoleto : public DeskDialog {
     Q_OBJECT
 
 public:
@@ -31,12 +30,9 @@ public:
 signals:
     // To be answered by the customer dialog, which has closed when this returns.
     void customerWanted();
-    // It has come before the user.
-    void shown();
 
 protected:
-    void showEvent(QShowEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
+    void opened() override;
 
 private:
     void prepareFields();
@@ -52,7 +48,6 @@ private:
     void cmdImprimir_Click();
     void chkInc_Carteira_Click(bool ticked);
 
-    DeskContext& desk_;
     std::unique_ptr<Ui::frmPesqBoleto> ui_;
     GridModel* documents_;
 };
