@@ -46,8 +46,10 @@ void ProgressWindow::report(std::size_t done, std::size_t total) {
 }
 
 void ProgressWindow::open() {
-    window_ = std::make_unique<QWidget>(&screen_,
-                                        Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    window_ =
+        std::make_unique<QWidget>(&screen_, Qt::Dialog | Qt::CustomizeWindowHint |
+                                                Qt::WindowTitleHint | Qt::WindowDoesNotAcceptFocus);
+    window_->setAttribute(Qt::WA_ShowWithoutActivating);
     window_->setObjectName(QStringLiteral("progress"));
     window_->setWindowTitle(QStringLiteral("Impressão"));
     auto* column = new QVBoxLayout(window_.get());

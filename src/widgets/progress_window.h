@@ -16,9 +16,9 @@ class QWidget;
 namespace tarn {
 
 // Lives as long as the run. While it shows progress the program's windows
-// repaint, what is typed and clicked is discarded and no timer of a screen fires. Its
-// window comes at once for many items, otherwise when the run has lasted a while, and
-// goes at the end. A message box shown by the run itself works as ever.
+// repaint, their input waits (InputGate) and no timer of a screen fires. Its window comes
+// at once for many items, otherwise when the run has lasted a while, and goes at the end;
+// the keyboard stays with the screen. A message box shown by the run itself works as ever.
 class ProgressWindow {
 public:
     explicit ProgressWindow(QWidget& screen);
