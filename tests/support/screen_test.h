@@ -8,6 +8,7 @@
 
 #include "desk/desk_application.h"
 #include "platform/qt/blocking_loader.h"
+#include "platform/qt/input_gate.h"
 #include "tests/support/fixed_machine.h"
 #include "tests/support/modal_steps.h"
 #include "tests/support/recording_printer.h"
@@ -18,6 +19,15 @@
 #include "widgets/desk_context.h"
 
 namespace tarn::test {
+
+// Ticks wait under them, as under those on the screen.
+class BoxesOverTicks : public ScriptedBoxes {
+public:
+    BoxAnswer show(const Box& box) override {
+        const TicksWait noTicks(InputGate::ofApplication());
+        return ScriptedBoxes::show(box);
+    }
+};
 
 class ScreenTest : public testing::Test {
 protected:
@@ -43,7 +53,7 @@ protected:
     BlockingLoader blocking{server};
     RecordingSpooler spooler;
     RecordingPrinter printer;
-    ScriptedBoxes boxes;
+    BoxesOverTicks boxes;
     FixedClock clock;
     FixedMachine machine;
     Environment environment{
