@@ -110,7 +110,7 @@ protected:
     }
     static void clear(const QWidget& screen, const char* name) {
         auto& field = named<QLineEdit>(screen, name);
-        field.setFocus();
+        atLeisure([&field] { field.setFocus(); });
         field.selectAll();
         QTest::keyClick(&field, Qt::Key_Delete);
     }

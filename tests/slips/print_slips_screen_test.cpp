@@ -248,7 +248,6 @@ TEST_F(PrintSlipsScreen, ASecondClickOrClosingDuringTheRunDoesNothing) {
                                          Qt::LeftButton, Qt::NoModifier));
         }
         QCoreApplication::postEvent(&screen, new QCloseEvent);
-        QCoreApplication::postEvent(&menu, new QCloseEvent);
         click(screen, "cmdImprimir");
         QCoreApplication::processEvents();
         EXPECT_THAT(numbers(), ElementsAre("0000000001234/7", "0000000001235/6"));

@@ -56,6 +56,8 @@ inline void pasteByMenu(QWidget& field, const QString& text) {
         }
     }
     menu->close();
+    field.activateWindow();  // off-screen an open menu takes the activation along
+    EXPECT_TRUE(QTest::qWaitForWindowActive(field.window()));
 }
 
 // True: the field took something of it.
@@ -77,7 +79,7 @@ inline void expectNumbersOnly(QWidget& screen, const char* name, FixedMachine& m
     SCOPED_TRACE(name);
     auto& field = named<QLineEdit>(screen, name);
     const auto holds = [&field](const char* text) { return field.text().toStdString() == text; };
-    field.setFocus();
+    atLeisure([&field] { field.setFocus(); });
     field.selectAll();
     paste(field, QStringLiteral("1.2/3-4 5"));
     EXPECT_TRUE(holds("12345")) << field.text().toStdString();

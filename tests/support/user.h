@@ -99,7 +99,7 @@ inline std::vector<std::string> tabOrder(QWidget& window, const char* first, std
     named<QWidget>(window, first).setFocus();
     std::vector<std::string> order{focused(window)};
     while (order.size() < count) {
-        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        key(window, Qt::Key_Tab);
         order.push_back(focused(window));
     }
     return order;
