@@ -466,8 +466,7 @@ TEST_F(FrmManutDetOFTTest, ALongObservationIsCutToTheFieldsLength) {
 
 // A line end of two characters takes the room of two.
 TEST_F(FrmManutDetOFTTest, LineEndsCountAsTheirCharacters) {
-    open(orders("DC_OBS='a&#13;&#10;" + std::string(600, 'b') + "' QT_ESP='1'"));
-    look([&](QWidget& dialog) {
+    const auto typesIn = [&](QWidget& dialog) {
         const std::string kept = "a\r\n" + std::string(497, 'b');
         EXPECT_EQ(text(dialog, "txtObs"), kept);
         QTest::keyClick(&obs(dialog), Qt::Key_Home, Qt::ControlModifier);
@@ -476,7 +475,8 @@ TEST_F(FrmManutDetOFTTest, LineEndsCountAsTheirCharacters) {
         QTest::keyClick(&obs(dialog), Qt::Key_Delete);
         keys(obs(dialog), "xy");
         EXPECT_EQ(text(dialog, "txtObs"), "x" + kept.substr(1));
-    });
+    };
+    look(typesIn, orders("DC_OBS='a&#13;&#10;" + std::string(600, 'b') + "' QT_ESP='1'"));
 }
 
 TEST_F(FrmManutDetOFTTest, FieldsOfNumbersTakeNothingElse) {
