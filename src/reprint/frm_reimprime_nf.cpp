@@ -1,8 +1,10 @@
 #include "reprint/frm_reimprime_nf.h"
 
+#include <QAbstractItemView>
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QMdiSubWindow>
+#include <QMouseEvent>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
 #include <QVariant>
@@ -51,6 +53,28 @@ public:
     }
 };
 
+// A click on an item that can't be chosen chooses nothing; the toolkit would take the one
+// that the keys stand on.
+class ClicksOnItems : public QObject {
+public:
+    explicit ClicksOnItems(QAbstractItemView& items) : QObject(&items), items_(items) {
+        items.viewport()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* /*viewport*/, QEvent* event) override {
+        if (event->type() != QEvent::MouseButtonRelease) {
+            return false;
+        }
+        const QPoint place = static_cast<QMouseEvent*>(event)->position().toPoint();
+        return items_.viewport()->rect().contains(place) &&
+               !items_.indexAt(place).flags().testFlag(Qt::ItemIsEnabled);
+    }
+
+private:
+    QAbstractItemView& items_;
+};
+
 }  // namespace
 
 FrmReImprimeNF::FrmReImprimeNF(DeskContext& desk, NoteJob job)
@@ -59,6 +83,7 @@ FrmReImprimeNF::FrmReImprimeNF(DeskContext& desk, NoteJob job)
     new FieldController(ui_->txtNF, KeyFilter::Decimal, desk.environment,
                         FieldController::EnterKey::BeepOnly);
     ui_->cboSerie->setItemDelegate(new SeriesItem(this));
+    new ClicksOnItems(*ui_->CboMot_Can->view());
     // A customer's name may take two lines.
     const QLabel& customer = *ui_->LBLCliente;
     ui_->LBLCliente->setMinimumHeight(2 * customer.fontMetrics().lineSpacing() +

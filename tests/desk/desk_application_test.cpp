@@ -14,7 +14,12 @@ protected:
     void clickRaising(const Error& error) {
         QPushButton button;
         QObject::connect(&button, &QPushButton::clicked, [&] { throw error; });
-        QTest::mouseClick(&button, Qt::LeftButton);
+        const QPointF place = QRectF(button.rect()).center();
+        for (const auto& [type, held] : {std::pair(QEvent::MouseButtonPress, Qt::LeftButton),
+                                         std::pair(QEvent::MouseButtonRelease, Qt::NoButton)}) {
+            QMouseEvent event(type, place, place, Qt::LeftButton, held, Qt::NoModifier);
+            QCoreApplication::sendEvent(&button, &event);
+        }
     }
 };
 

@@ -49,7 +49,7 @@ struct FailingEnd {
 };
 struct Screen {
     FailingEnd part;
-    ~Screen() {}
+    ~Screen() noexcept {}  // as every destructor whose members can't throw
 };
 
 TEST_F(ReportTest, AnErrorInADestructorIsReportedLikeAnyOther) {

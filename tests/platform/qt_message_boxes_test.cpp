@@ -139,10 +139,11 @@ TEST(QtMessageBoxes, BehindAnotherProgramItStandsInFrontOfTheDeskAndLeavesTheKey
     QMainWindow desk;
     desk.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&desk));
-    QWidget other;
-    other.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-    other.hide();
+    {
+        QWidget other;  // goes, and the keyboard with it
+        other.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    }
     ASSERT_TRUE(QTest::qWaitFor([] { return QGuiApplication::focusWindow() == nullptr; }));
     ModalSteps modals;
     modals.then(boxName, [&](QWidget& window) {

@@ -160,11 +160,12 @@ TEST_F(CancellationScreen, ATypeDFoundBySearchingAgainClearsTheOption) {
 TEST_F(CancellationScreen, AReasonWithoutItsNumberCantBeChosen) {
     click(screen(), "CmdFechar");
     ASSERT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
-    lists();
-    ScriptedLoader others = server;
-    server = others.on("SEL_MOT_CAN", answers::rowset("<z:row DC_MOT_CAN='Sem'/>"
-                                                      "<z:row DC_MOT_CAN='Boa' ID_MOT_CAN='0'/>"
-                                                      "<z:row DC_MOT_CAN='Ruim' ID_MOT_CAN='x'/>"));
+    server = ScriptedLoader();
+    server.on("sTransacao=EMI00", answers::status("OK"))
+        .on("SEL_SERIE_NF", answers::rowset("<z:row CD_SER_NF='A'/><z:row CD_SER_NF='U'/>"))
+        .on("SEL_MOT_CAN", answers::rowset("<z:row DC_MOT_CAN='Sem'/>"
+                                           "<z:row DC_MOT_CAN='Boa' ID_MOT_CAN='0'/>"
+                                           "<z:row DC_MOT_CAN='Ruim' ID_MOT_CAN='x'/>"));
     openEmpty("mCNF");
     find();
     tick(0);

@@ -14,6 +14,7 @@
 #include <QTextEdit>
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 #include "platform/qt/qt_message_boxes.h"
 
@@ -131,7 +132,9 @@ void BoxWindow::fitToText() {
         (screen()->availableSize() * mostOfScreen / 100) -
         QSize(layout()->contentsMargins().left() * 3 + icon_->sizeHint().width(),
               buttons_->sizeHint().height() + frame + layout()->contentsMargins().top() * 3);
-    QTextDocument& document = *text_->document();
+    // A copy, since the view breaks its own document's lines at the width that it has so far.
+    const std::unique_ptr<QTextDocument> copy(text_->document()->clone());
+    QTextDocument& document = *copy;
     document.setDefaultFont(text_->font());
     const int readable = std::min(readableWidth * fontMetrics().averageCharWidth(), most.width());
     document.setTextWidth(-1);
