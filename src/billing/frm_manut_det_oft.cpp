@@ -60,14 +60,9 @@ void frmManutDetOFT::prepareFields() {
 }
 
 void frmManutDetOFT::prepareButtons() {
-    const int side = fontMetrics().height() * 2;
-    ui_->cmdOk->setIcon(picture(QStringLiteral("save")));
-    ui_->cmdCancelar->setIcon(picture(QStringLiteral("give_up")));
-    for (QPushButton* button : {ui_->cmdOk, ui_->cmdCancelar}) {
-        button->setIconSize({side, side});
-    }
-    connect(ui_->cmdOk, &QPushButton::clicked, this, &frmManutDetOFT::cmdOk_Click);
-    connect(ui_->cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
+    const Buttons buttons(this, setLargeIcon);
+    buttons.add(ui_->cmdOk, "save", &frmManutDetOFT::cmdOk_Click);
+    buttons.add(ui_->cmdCancelar, "give_up", &QDialog::reject);
 }
 
 void frmManutDetOFT::load(const GridRow& order) {

@@ -3,7 +3,6 @@
 #include <QCloseEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QMdiSubWindow>
 #include <QScrollBar>
 
 #include "billing/frm_manut_det_oft.h"
@@ -15,6 +14,7 @@
 #include "platform/qt/tick.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_oft.h"
+#include "widgets/form_helpers.h"
 #include "widgets/gesture_filter.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
@@ -43,18 +43,13 @@ FrmOFT::FrmOFT(DeskContext& desk)
 FrmOFT::~FrmOFT() = default;
 
 void FrmOFT::prepareButtons() {
-    const int side = fontMetrics().height() * 2;
-    const auto prepare = [this, side](QPushButton* button, const char* pictureName, auto routine) {
-        button->setIcon(picture(QLatin1StringView(pictureName)));
-        button->setIconSize({side, side});
-        connect(button, &QPushButton::clicked, this, routine);
-    };
-    prepare(ui_->cmdSelecionar, "generate_note", &FrmOFT::cmdSelecionar_Click);
-    prepare(ui_->CmdFechar, "close", &FrmOFT::CmdFechar_Click);
-    prepare(ui_->CmdAtualizar, "refresh", &FrmOFT::loadSpread);
-    prepare(ui_->CmdCanOft, "cancel_order", &FrmOFT::CmdCanOft_Click);
-    prepare(ui_->cmdImprimirOF, "print_order", &FrmOFT::cmdImprimirOF_Click);
-    prepare(ui_->cmdDetOFT, "edit_order", &FrmOFT::cmdDetOFT_Click);
+    const Buttons buttons(this, setLargeIcon);
+    buttons.add(ui_->cmdSelecionar, "generate_note", &FrmOFT::cmdSelecionar_Click);
+    buttons.add(ui_->CmdFechar, "close", &FrmOFT::CmdFechar_Click);
+    buttons.add(ui_->CmdAtualizar, "refresh", &FrmOFT::loadSpread);
+    buttons.add(ui_->CmdCanOft, "cancel_order", &FrmOFT::CmdCanOft_Click);
+    buttons.add(ui_->cmdImprimirOF, "print_order", &FrmOFT::cmdImprimirOF_Click);
+    buttons.add(ui_->cmdDetOFT, "edit_order", &FrmOFT::cmdDetOFT_Click);
 }
 
 // Wide enough for the columns that have a heading.
@@ -153,11 +148,7 @@ void FrmOFT::cmdDetOFT_Click() {
 }
 
 void FrmOFT::CmdFechar_Click() {
-    if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget())) {
-        window->close();
-    } else {
-        close();
-    }
+    closeScreen(*this);
 }
 
 // No shortcut: that would also be taken from a dialog that is just opening over this

@@ -60,15 +60,12 @@ void FrmPesqDupli::prepareFields() {
 }
 
 void FrmPesqDupli::prepareButtons() {
-    const auto prepare = [this](QPushButton* button, const char* pictureName, auto routine) {
-        prepareButton(*button, pictureName);
-        connect(button, &QPushButton::clicked, this, routine);
-    };
-    prepare(ui_->cmdPesqCli, "search_customer", &FrmPesqDupli::cmdPesqCli_Click);
-    prepare(ui_->cmdLimpar, "clear", [this] { takeCustomer({}); });
-    prepare(ui_->cmdPesquisar, "search", &FrmPesqDupli::cmdPesquisar_Click);
-    prepare(ui_->cmdVoltar, "close", &QDialog::reject);
-    prepare(ui_->cmdImprimir, "print", &FrmPesqDupli::cmdImprimir_Click);
+    const Buttons buttons(this, prepareButton);
+    buttons.add(ui_->cmdPesqCli, "search_customer", &FrmPesqDupli::cmdPesqCli_Click);
+    buttons.add(ui_->cmdLimpar, "clear", [this] { takeCustomer({}); });
+    buttons.add(ui_->cmdPesquisar, "search", &FrmPesqDupli::cmdPesquisar_Click);
+    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject);
+    buttons.add(ui_->cmdImprimir, "print", &FrmPesqDupli::cmdImprimir_Click);
 }
 
 void FrmPesqDupli::takeCustomer(const Customer& customer) {

@@ -65,14 +65,9 @@ void frmCheque::prepareFields() {
 }
 
 void frmCheque::prepareButtons() {
-    const int side = fontMetrics().height() * 2;
-    ui_->cmdImprimir->setIcon(picture(QStringLiteral("print_cheque")));
-    ui_->cmdCancelar->setIcon(picture(QStringLiteral("give_up")));
-    for (QPushButton* button : {ui_->cmdImprimir, ui_->cmdCancelar}) {
-        button->setIconSize({side, side});
-    }
-    connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmCheque::cmdImprimir_Click);
-    connect(ui_->cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
+    const Buttons buttons(this, setLargeIcon);
+    buttons.add(ui_->cmdImprimir, "print_cheque", &frmCheque::cmdImprimir_Click);
+    buttons.add(ui_->cmdCancelar, "give_up", &QDialog::reject);
 }
 
 void frmCheque::load() {

@@ -7,6 +7,7 @@
 #include "common/boxes.h"
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_pesq_cliente.h"
+#include "widgets/form_helpers.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 #include "widgets/look.h"
@@ -31,12 +32,10 @@ FrmPesqCliente::FrmPesqCliente(DeskContext& desk, QWidget* parent)
 FrmPesqCliente::~FrmPesqCliente() = default;
 
 void FrmPesqCliente::prepareButtons() {
-    setIcon(*ui_->cmdPesquisar, "search");
-    setIcon(*ui_->cmdSelecionar, "select");
-    setIcon(*ui_->cmdVoltar, "close");
-    connect(ui_->cmdPesquisar, &QPushButton::clicked, this, &FrmPesqCliente::cmdPesquisar_Click);
-    connect(ui_->cmdSelecionar, &QPushButton::clicked, this, &FrmPesqCliente::cmdSelecionar_Click);
-    connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::reject);
+    const Buttons buttons(this, setIcon);
+    buttons.add(ui_->cmdPesquisar, "search", &FrmPesqCliente::cmdPesquisar_Click);
+    buttons.add(ui_->cmdSelecionar, "select", &FrmPesqCliente::cmdSelecionar_Click);
+    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject);
     connect(ui_->txtNmCli, &QLineEdit::returnPressed, ui_->cmdPesquisar, &QPushButton::click);
     // Not the signal that a desktop may want after a single click.
     connect(ui_->sprDados, &QTableView::doubleClicked, this, &FrmPesqCliente::cmdSelecionar_Click);

@@ -66,12 +66,10 @@ void FrmImprEtiq::prepareCustomerGrid() {
 }
 
 void FrmImprEtiq::prepareButtons() {
-    setIcon(*ui_->cmdPesquisar, "search");
-    setIcon(*ui_->cmdImprimir, "print");
-    setIcon(*ui_->cmdVoltar, "close");
-    connect(ui_->cmdPesquisar, &QPushButton::clicked, this, &FrmImprEtiq::cmdPesquisar_Click);
-    connect(ui_->cmdImprimir, &QPushButton::clicked, this, &FrmImprEtiq::cmdImprimir_Click);
-    connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::reject);
+    const Buttons buttons(this, setIcon);
+    buttons.add(ui_->cmdPesquisar, "search", &FrmImprEtiq::cmdPesquisar_Click);
+    buttons.add(ui_->cmdImprimir, "print", &FrmImprEtiq::cmdImprimir_Click);
+    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject);
 }
 
 void FrmImprEtiq::load() {

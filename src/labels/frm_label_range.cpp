@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "widgets/field_controller.h"
+#include "widgets/form_helpers.h"
 #include "widgets/look.h"
 
 namespace tarn {
@@ -18,10 +19,9 @@ void FrmLabelRange::prepareControls(QLineEdit* txtDe, QLineEdit* txtAte, QPushBu
     for (QLineEdit* field : {txtDe, txtAte}) {
         new FieldController(field, KeyFilter::Decimal, desk_.environment);
     }
-    setIcon(*cmdOk, okPicture);
-    setIcon(*cmdCancelar, "give_up");
-    connect(cmdOk, &QPushButton::clicked, this, &FrmLabelRange::cmdOk_Click);
-    connect(cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
+    const Buttons buttons(this, setIcon);
+    buttons.add(cmdOk, okPicture, &FrmLabelRange::cmdOk_Click);
+    buttons.add(cmdCancelar, "give_up", &QDialog::reject);
     txtDe->setFocus();
 }
 

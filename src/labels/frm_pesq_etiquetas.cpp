@@ -53,12 +53,10 @@ void frmPesqEtiquetas::prepareQueueGrid() {
 }
 
 void frmPesqEtiquetas::prepareButtons() {
-    setIcon(*ui_->cmdImprimir, "print");
-    setIcon(*ui_->cmdExcluir, "cancel_order");
-    setIcon(*ui_->cmdVoltar, "close");
-    connect(ui_->cmdImprimir, &QPushButton::clicked, this, &frmPesqEtiquetas::cmdImprimir_Click);
-    connect(ui_->cmdExcluir, &QPushButton::clicked, this, &frmPesqEtiquetas::cmdExcluir_Click);
-    connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::reject);
+    const Buttons buttons(this, setIcon);
+    buttons.add(ui_->cmdImprimir, "print", &frmPesqEtiquetas::cmdImprimir_Click);
+    buttons.add(ui_->cmdExcluir, "cancel_order", &frmPesqEtiquetas::cmdExcluir_Click);
+    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject);
 }
 
 void frmPesqEtiquetas::load() {

@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QButtonGroup>
 #include <QCloseEvent>
-#include <QMdiSubWindow>
 #include <QMouseEvent>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
@@ -12,6 +11,7 @@
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_reimprime_nf.h"
 #include "widgets/field_controller.h"
+#include "widgets/form_helpers.h"
 #include "widgets/gesture_filter.h"
 #include "widgets/look.h"
 
@@ -108,16 +108,11 @@ void FrmReImprimeNF::prepare(NoteJob job) {
 }
 
 void FrmReImprimeNF::prepareButtons() {
-    const int side = fontMetrics().height() * 2;
-    const auto prepare = [this, side](QPushButton* button, const char* pictureName, auto routine) {
-        button->setIcon(picture(QLatin1StringView(pictureName)));
-        button->setIconSize({side, side});
-        connect(button, &QPushButton::clicked, this, routine);
-    };
-    prepare(ui_->cmdPesquisar, "search_note", &FrmReImprimeNF::cmdPesquisar_Click);
-    prepare(ui_->cmdSelecionar, cancelling() ? "cancel_note" : "reprint_note",
-            &FrmReImprimeNF::cmdSelecionar_Click);
-    prepare(ui_->CmdFechar, "close", &FrmReImprimeNF::CmdFechar_Click);
+    const Buttons buttons(this, setLargeIcon);
+    buttons.add(ui_->cmdPesquisar, "search_note", &FrmReImprimeNF::cmdPesquisar_Click);
+    buttons.add(ui_->cmdSelecionar, cancelling() ? "cancel_note" : "reprint_note",
+                &FrmReImprimeNF::cmdSelecionar_Click);
+    buttons.add(ui_->CmdFechar, "close", &FrmReImprimeNF::CmdFechar_Click);
 }
 
 void FrmReImprimeNF::load() {
@@ -226,11 +221,7 @@ void FrmReImprimeNF::cmdSelecionar_Click() {
 }
 
 void FrmReImprimeNF::CmdFechar_Click() {
-    if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget())) {
-        window->close();
-    } else {
-        close();
-    }
+    closeScreen(*this);
 }
 
 void FrmReImprimeNF::closeEvent(QCloseEvent* event) {

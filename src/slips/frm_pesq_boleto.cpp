@@ -46,15 +46,12 @@ void frmPesqBoleto::prepareFields() {
 }
 
 void frmPesqBoleto::prepareButtons() {
-    const auto prepare = [this](QPushButton* button, const char* pictureName, auto routine) {
-        prepareButton(*button, pictureName);
-        connect(button, &QPushButton::clicked, this, routine);
-    };
-    prepare(ui_->cmdPesqCli, "search_customer", &frmPesqBoleto::cmdPesqCli_Click);
-    prepare(ui_->cmdLimpar, "clear", [this] { takeCustomer({}); });
-    prepare(ui_->cmdPesquisar, "search", &frmPesqBoleto::cmdPesquisar_Click);
-    prepare(ui_->cmdImprimir, "print", &frmPesqBoleto::cmdImprimir_Click);
-    prepare(ui_->cmdVoltar, "close", &QDialog::reject);
+    const Buttons buttons(this, prepareButton);
+    buttons.add(ui_->cmdPesqCli, "search_customer", &frmPesqBoleto::cmdPesqCli_Click);
+    buttons.add(ui_->cmdLimpar, "clear", [this] { takeCustomer({}); });
+    buttons.add(ui_->cmdPesquisar, "search", &frmPesqBoleto::cmdPesquisar_Click);
+    buttons.add(ui_->cmdImprimir, "print", &frmPesqBoleto::cmdImprimir_Click);
+    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject);
     connect(ui_->chkInc_Carteira, &QCheckBox::clicked, this, &frmPesqBoleto::chkInc_Carteira_Click);
 }
 

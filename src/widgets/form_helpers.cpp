@@ -2,7 +2,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPushButton>
+#include <QMdiSubWindow>
 #include <QVariant>
 
 #include "widgets/field_families.h"
@@ -57,6 +57,14 @@ void prepareButton(QPushButton& button, const char* pictureName) {
     setIcon(button, pictureName);
     button.setAutoDefault(false);
     QObject::connect(&button, &QPushButton::pressed, &button, [&button] { button.setFocus(); });
+}
+
+void closeScreen(QWidget& screen) {
+    if (auto* window = qobject_cast<QMdiSubWindow*>(screen.parentWidget())) {
+        window->close();
+    } else {
+        screen.close();
+    }
 }
 
 }  // namespace tarn

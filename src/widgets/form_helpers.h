@@ -2,7 +2,7 @@
 // the focus after a refusal.
 #pragma once
 
-#include <QWidget>
+#include <QPushButton>
 #include <cstdint>
 #include <initializer_list>
 #include <span>
@@ -13,7 +13,6 @@
 
 class QComboBox;
 class QLineEdit;
-class QPushButton;
 
 namespace tarn {
 
@@ -37,6 +36,28 @@ void prepareDates(std::initializer_list<QLineEdit*> fields, Environment& environ
 // With its picture. An access key brings the focus along, so that the field being typed
 // in is completed.
 void prepareButton(QPushButton& button, const char* pictureName);
+
+// The buttons of a screen: each gets its picture, as `look` shows it, and what its click does.
+template <class Screen>
+class Buttons {
+public:
+    using Look = void (*)(QPushButton& button, const char* pictureName);
+
+    Buttons(Screen* screen, Look look) : screen_(screen), look_(look) {}
+
+    template <class Routine>
+    void add(QPushButton* button, const char* pictureName, Routine routine) const {
+        look_(*button, pictureName);
+        QObject::connect(button, &QPushButton::clicked, screen_, routine);
+    }
+
+private:
+    Screen* screen_;
+    Look look_;
+};
+
+// Closes a screen along with the inner window of the desk that holds it.
+void closeScreen(QWidget& screen);
 
 // Moves the focus to the field that a refusal names.
 template <class Field>

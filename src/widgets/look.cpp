@@ -96,6 +96,11 @@ void translateToolkit(QApplication& program) {
     }
 }
 
+void showPicture(QPushButton& button, const char* name, int side) {
+    button.setIcon(picture(QLatin1StringView(name)));
+    button.setIconSize({side, side});
+}
+
 }  // namespace
 
 void applyLook(QApplication& program) {
@@ -112,9 +117,11 @@ QIcon picture(const QString& name) {
 }
 
 void setIcon(QPushButton& button, const char* name) {
-    const int side = button.fontMetrics().height() * 3 / 2;
-    button.setIcon(picture(QLatin1StringView(name)));
-    button.setIconSize({side, side});
+    showPicture(button, name, button.fontMetrics().height() * 3 / 2);
+}
+
+void setLargeIcon(QPushButton& button, const char* name) {
+    showPicture(button, name, button.fontMetrics().height() * 2);
 }
 
 }  // namespace tarn

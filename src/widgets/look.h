@@ -13,7 +13,8 @@ void applyLook(QApplication& program);
 // A picture drawn for the program (":/desk/<nome>.svg"), sharp at any scale. Drawn
 // when first shown.
 QIcon picture(const QString& name);
-// The same on a button that also has a text.
+// The same on a button that also has a text, and larger on one that has none.
 void setIcon(QPushButton& button, const char* name);
+void setLargeIcon(QPushButton& button, const char* name);
 
 }  // namespace tarn
