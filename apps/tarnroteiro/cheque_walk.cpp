@@ -19,11 +19,12 @@ void walkCheque(Walk& walk) {
                   choose(window, "mnuCheque", "mnuChequeImpressao");
               })
         .when("frmCheque", "",
+              [](QWidget& screen) { chooseInList(screen, "cboBancoAgConta", firstAccount); })
+        .when("frmCheque", "", [](QWidget& screen) { typeIn(screen, "txtNumeroCheque", number); })
+        .when("frmCheque", "", [](QWidget& screen) { typeIn(screen, "txtSerie", "A1"); })
+        .when("frmCheque", "", [](QWidget& screen) { typeIn(screen, "txtValor", "1234,56"); })
+        .when("frmCheque", "",
               [&](QWidget& screen) {
-                  chooseInList(screen, "cboBancoAgConta", firstAccount);
-                  typeIn(screen, "txtNumeroCheque", number);
-                  typeIn(screen, "txtSerie", "A1");
-                  typeIn(screen, "txtValor", "1234,56");
                   typeIn(screen, "txtFavorecido", "Papelaria Três Pontes Ltda");
                   auto& usage = child<QWidget>(screen, "txtObservacao");
                   usage.setFocus();

@@ -7,6 +7,8 @@
 #include <QPixmap>
 #include <utility>
 
+#include "platform/qt/input_gate.h"
+
 namespace tarn {
 namespace {
 
@@ -46,9 +48,11 @@ QWidget* Walk::frontWindow(const QString& name) const {
 
 void Walk::look() {
     clock_.start();  // a step may stay in a modal window's loop, in which the next one comes
-    // While a request is under way what is clicked is discarded.
-    if (QGuiApplication::overrideCursor() != nullptr &&
-        QGuiApplication::overrideCursor()->shape() == Qt::WaitCursor) {
+    // While a request is under way what is clicked is discarded, and what is typed waits.
+    const InputGate& gate = InputGate::ofApplication();
+    const bool isBusy = QGuiApplication::overrideCursor() != nullptr &&
+                        QGuiApplication::overrideCursor()->shape() == Qt::WaitCursor;
+    if (isBusy || gate.isShut()) {
         return;
     }
     if (steps_.empty()) {
@@ -68,8 +72,8 @@ void Walk::look() {
         return;
     }
     // Off-screen the activation doesn't come back by itself from a window that closed;
-    // without it no field is ever left.
-    if (++looks_ < maxLooks && !window->isActiveWindow()) {
+    // without it no field is ever left, and what is held is never typed.
+    if (++looks_ < maxLooks && !(window->isActiveWindow() && gate.isQuiet())) {
         window->activateWindow();
         return;
     }
