@@ -16,6 +16,7 @@
 #include "ui_frm_oft.h"
 #include "widgets/form_helpers.h"
 #include "widgets/gesture_filter.h"
+#include "widgets/grid_foot.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 #include "widgets/look.h"
@@ -25,6 +26,7 @@ namespace {
 
 constexpr int intervalMs = 60000;
 constexpr int visibleLines = 18;
+constexpr RowNoun rowNoun{"ordem", "ordens", true};
 
 }  // namespace
 
@@ -35,6 +37,7 @@ FrmOFT::FrmOFT(DeskContext& desk)
       timer_(new Tick(intervalMs, this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *orders_);
+    ui_->footDados->serve(*ui_->sprDados, *orders_, rowNoun);
     prepareButtons();
     timer_->setObjectName(QStringLiteral("Timer"));
     connect(timer_, &Tick::ticked, this, &FrmOFT::Timer_Tick);

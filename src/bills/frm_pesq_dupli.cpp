@@ -8,6 +8,7 @@
 #include "common/boxes.h"
 #include "ui_frm_pesq_dupli.h"
 #include "widgets/form_helpers.h"
+#include "widgets/grid_foot.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 #include "widgets/progress_window.h"
@@ -16,6 +17,7 @@ namespace tarn {
 namespace {
 
 constexpr int visibleLines = 14;
+constexpr RowNoun rowNoun{"documento", "documentos"};
 constexpr int pictureHeight = 2;  // lines
 
 // Decoded at the size shown, however many dots the file has. Nothing for no picture.
@@ -40,6 +42,7 @@ FrmPesqDupli::FrmPesqDupli(DeskContext& desk, QWidget* parent)
       documents_(new GridModel(billGrid(), this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *documents_);
+    ui_->footDados->serve(*ui_->sprDados, *documents_, rowNoun);
     prepareFields();
     prepareButtons();
     fitToGrid(*this, *ui_->sprDados, visibleLines);

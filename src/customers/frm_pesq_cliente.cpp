@@ -8,6 +8,7 @@
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_pesq_cliente.h"
 #include "widgets/form_helpers.h"
+#include "widgets/grid_foot.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 #include "widgets/look.h"
@@ -16,6 +17,7 @@ namespace tarn {
 namespace {
 
 constexpr int visibleLines = 12;
+constexpr RowNoun rowNoun{"cliente", "clientes"};
 
 }  // namespace
 
@@ -25,6 +27,7 @@ FrmPesqCliente::FrmPesqCliente(DeskContext& desk, QWidget* parent)
       customers_(new GridModel(customerGrid(), this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *customers_);
+    ui_->footDados->serve(*ui_->sprDados, *customers_, rowNoun);
     prepareButtons();
     fitToGrid(*this, *ui_->sprDados, visibleLines);
 }

@@ -10,6 +10,7 @@
 #include "ui_frm_impr_etiq.h"
 #include "widgets/field_families.h"
 #include "widgets/form_helpers.h"
+#include "widgets/grid_foot.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 #include "widgets/look.h"
@@ -19,6 +20,7 @@ namespace tarn {
 namespace {
 
 constexpr int visibleLines = 12;
+constexpr RowNoun rowNoun{"cliente", "clientes"};
 
 commands::ChosenItem chosen(const QComboBox& list) {
     return {.position = std::max(list.currentIndex(), 0), .data = currentItemData(list)};
@@ -62,6 +64,7 @@ void FrmImprEtiq::prepareFields() {
 
 void FrmImprEtiq::prepareCustomerGrid() {
     prepareGrid(*ui_->sprDados, *customers_);
+    ui_->footDados->serve(*ui_->sprDados, *customers_, rowNoun);
     fitToGrid(*this, *ui_->sprDados, visibleLines);
 }
 

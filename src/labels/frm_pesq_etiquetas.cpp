@@ -9,6 +9,7 @@
 #include "platform/qt/wait_cursor.h"
 #include "ui_frm_pesq_etiquetas.h"
 #include "widgets/form_helpers.h"
+#include "widgets/grid_foot.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 #include "widgets/look.h"
@@ -17,6 +18,7 @@ namespace tarn {
 namespace {
 
 constexpr int visibleLines = 14;
+constexpr RowNoun rowNoun{"etiqueta", "etiquetas", true};
 
 }  // namespace
 
@@ -49,6 +51,7 @@ frmPesqEtiquetas::~frmPesqEtiquetas() = default;
 
 void frmPesqEtiquetas::prepareQueueGrid() {
     prepareGrid(*ui_->sprDados, *queue_);
+    ui_->footDados->serve(*ui_->sprDados, *queue_, rowNoun);
     fitToGrid(*this, *ui_->sprDados, visibleLines);
 }
 

@@ -6,6 +6,7 @@
 #include "ui_frm_pesq_boleto.h"
 #include "widgets/field_controller.h"
 #include "widgets/form_helpers.h"
+#include "widgets/grid_foot.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 #include "widgets/progress_window.h"
@@ -14,6 +15,7 @@ namespace tarn {
 namespace {
 
 constexpr int visibleLines = 14;
+constexpr RowNoun rowNoun{"documento", "documentos"};
 constexpr int numberWidth = 18;  // characters
 
 std::string text(const QLineEdit& field) {
@@ -28,6 +30,7 @@ frmPesqBoleto::frmPesqBoleto(DeskContext& desk, QWidget* parent)
       documents_(new GridModel(slipGrid(), this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *documents_);
+    ui_->footDados->serve(*ui_->sprDados, *documents_, rowNoun);
     prepareFields();
     prepareButtons();
     fitToGrid(*this, *ui_->sprDados, visibleLines);

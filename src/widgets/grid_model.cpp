@@ -1,9 +1,26 @@
 #include "widgets/grid_model.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
+
+#include "runtime/numbers.h"
 
 namespace tarn {
 namespace {
+
+// Far above any document; a sum of as many rows as memory holds stays a whole number.
+constexpr double mostCents = 1e12;
+
+std::optional<std::size_t> shownAmount(std::span<const GridColumn> columns) {
+    const auto found = std::find_if(columns.begin(), columns.end(), [](const GridColumn& column) {
+        return column.treatment == Treatment::Amount && column.width > 0;
+    });
+    if (found == columns.end()) {
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>(found - columns.begin());
+}
 
 bool standsRight(const GridColumn& column) {
     return column.treatment == Treatment::Number || column.treatment == Treatment::Amount ||
@@ -24,16 +41,39 @@ QString hint(const GridColumn& column) {
 }  // namespace
 
 GridModel::GridModel(std::span<const GridColumn> columns, QObject* parent)
-    : QAbstractTableModel(parent), columns_(columns) {}
+    : QAbstractTableModel(parent), columns_(columns), amountColumn_(shownAmount(columns)) {}
 
 void GridModel::show(std::vector<GridRow> lines) {
     beginResetModel();
     lines_ = std::move(lines);
+    tally_ = {};
+    for (const GridRow& line : lines_) {
+        count(line);
+    }
     endResetModel();
 }
 
+std::int64_t GridModel::centsOf(const GridRow& line) const {
+    if (!amountColumn_ || *amountColumn_ >= line.cells.size()) {
+        return 0;
+    }
+    const double amount = parseComma(line.cells[*amountColumn_]).value_or(0);
+    return std::llround(std::clamp(amount * 100, -mostCents, mostCents));
+}
+
+void GridModel::count(const GridRow& line) {
+    if (line.ticked) {
+        ++tally_.ticked;
+        tally_.cents += centsOf(line);
+    }
+}
+
 void GridModel::tick(int number, bool value) {
-    lines_.at(static_cast<std::size_t>(number)).ticked = value;
+    GridRow& line = lines_.at(static_cast<std::size_t>(number));
+    if (std::exchange(line.ticked, value) != value) {
+        tally_.ticked += value ? 1 : -1;
+        tally_.cents += value ? centsOf(line) : -centsOf(line);
+    }
     const QModelIndex box = index(number, 0);
     emit dataChanged(box, box, {Qt::CheckStateRole});
 }
@@ -43,8 +83,10 @@ void GridModel::toggleByLastRow() {
         return;
     }
     const bool value = !lines_.back().ticked;
+    tally_ = {};
     for (GridRow& line : lines_) {
         line.ticked = value;
+        count(line);
     }
     emit dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::CheckStateRole});
 }

@@ -3,12 +3,21 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
 #include "common/grid_rows.h"
 
 namespace tarn {
+
+// What the ticked rows come to. Kept with each tick, whatever the number of rows.
+struct GridTally {
+    int ticked = 0;
+    std::int64_t cents = 0;  // of the first amount shown; 0 where no column has one
+};
 
 class GridModel : public QAbstractTableModel {
     Q_OBJECT
@@ -27,6 +36,9 @@ public:
     // Every row gets the opposite of the last row's tick.
     void toggleByLastRow();
 
+    const GridTally& tally() const { return tally_; }
+    bool countsAmounts() const { return amountColumn_.has_value(); }
+
     const GridColumn& column(int number) const {
         return columns_[static_cast<std::size_t>(number)];
     }
@@ -40,8 +52,13 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    std::int64_t centsOf(const GridRow& line) const;
+    void count(const GridRow& line);
+
     std::span<const GridColumn> columns_;
+    std::optional<std::size_t> amountColumn_;
     std::vector<GridRow> lines_;
+    GridTally tally_;
 };
 
 }  // namespace tarn

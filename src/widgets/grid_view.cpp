@@ -1,7 +1,9 @@
 #include "widgets/grid_view.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -10,6 +12,7 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QTableView>
+#include <QToolTip>
 
 #include "widgets/grid_model.h"
 
@@ -31,6 +34,30 @@ public:
         if (!unselects || !currentIndex().isValid()) {
             QItemSelectionModel::select(rows, command);
         }
+    }
+};
+
+// What a cell has no room for is its tool tip.
+class Cell : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override {
+        if (event->type() != QEvent::ToolTip) {
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        }
+        const QRect seen = option.rect.intersected(view->viewport()->rect());
+        const bool cut = sizeHint(option, index).width() > seen.width();
+        QToolTip::showText(event->globalPos(), cut ? tip(index) : QString(), view->viewport(),
+                           option.rect);
+        return true;
+    }
+
+private:
+    static QString tip(const QModelIndex& index) {
+        const QString text = index.data().toString();
+        return text.isEmpty() ? text : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
     }
 };
 
@@ -68,24 +95,40 @@ protected:
     }
 };
 
-// The space key in any column of a row is for its check box.
-class SpaceKey : public QObject {
+// A row as a line of a table: the texts shown, with a tab between two.
+QString lineOf(const QTableView& grid, const GridModel& model, int row) {
+    QStringList texts;
+    for (int column = 0; column < model.columnCount(); ++column) {
+        if (!grid.isColumnHidden(column) && !isTick(model.column(column))) {
+            QString text = model.index(row, column).data().toString();
+            texts += text.replace(u'\t', u' ').replace(u'\n', u' ').replace(u'\r', u' ');
+        }
+    }
+    return texts.join(u'\t');
+}
+
+// The space key in any column of a row is for its check box, Ctrl+C copies the row.
+class RowKeys : public QObject {
 public:
-    SpaceKey(QTableView& grid, GridModel& model) : QObject(&grid), grid_(grid), model_(model) {
+    RowKeys(QTableView& grid, GridModel& model) : QObject(&grid), grid_(grid), model_(model) {
         grid.installEventFilter(this);
     }
 
 protected:
     bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress ||
-            static_cast<QKeyEvent*>(event)->key() != Qt::Key_Space) {
+        if (event->type() != QEvent::KeyPress) {
             return false;
         }
-        const QModelIndex activate = grid_.currentIndex();
-        if (activate.isValid()) {
-            model_.tick(activate.row(), !model_.ticked(activate.row()));
+        const auto& stroke = static_cast<const QKeyEvent&>(*event);
+        const bool tick = stroke.key() == Qt::Key_Space && model_.hasCheckBox();
+        const bool copy = stroke.matches(QKeySequence::Copy);
+        const QModelIndex current = grid_.currentIndex();
+        if (current.isValid() && tick) {
+            model_.tick(current.row(), !model_.ticked(current.row()));
+        } else if (current.isValid() && copy) {
+            QGuiApplication::clipboard()->setText(lineOf(grid_, model_, current.row()));
         }
-        return true;
+        return tick || copy;
     }
 
 private:
@@ -95,7 +138,6 @@ private:
 
 void prepareBox(QTableView& grid, GridModel& model) {
     grid.setItemDelegateForColumn(0, new CheckBoxInCell(&grid));
-    new SpaceKey(grid, model);
     if (model.column(0).treatment == Treatment::TickAlone) {
         return;
     }
@@ -123,6 +165,8 @@ void prepareSelection(QTableView& grid, GridModel& model) {
 void prepareGrid(QTableView& grid, GridModel& model) {
     grid.setModel(&model);
     prepareSelection(grid, model);
+    grid.setItemDelegate(new Cell(&grid));
+    new RowKeys(grid, model);
     const int character = grid.fontMetrics().averageCharWidth();
     for (int column = 0; column < model.columnCount(); ++column) {
         const int width = model.column(column).width;

@@ -10,6 +10,7 @@ class GridModel;
 
 // Shows the model in the grid: widths, hidden columns, row heights. The current row is
 // the selected one, always: the first after new rows, and no click or key unselects it.
+// A cell that is cut shows its text as a tool tip; Ctrl+C copies the current row.
 // With a check box column: a click in its cell and the space key anywhere in the row tick
 // it, a click on its heading is toggleByLastRow, unless the column says otherwise.
 void prepareGrid(QTableView& grid, GridModel& model);

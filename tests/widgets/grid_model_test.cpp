@@ -97,5 +97,36 @@ TEST_F(GridModelTest, NewRowsComeUnticked) {
     EXPECT_EQ(model.rowCount(), 0);
 }
 
+TEST_F(GridModelTest, TheTallyFollowsEachTick) {
+    model.show({{{"", "A", "x", "1,00"}}, {{"", "B", "y", "1.234,56"}}, {{"", "C", "z", "-0,01"}}});
+    EXPECT_TRUE(model.countsAmounts());
+    const auto tally = [this] { return std::pair(model.tally().ticked, model.tally().cents); };
+    EXPECT_EQ(tally(), std::pair(0, std::int64_t{0}));
+    model.tick(1, true);
+    model.tick(1, true);
+    EXPECT_EQ(tally(), std::pair(1, std::int64_t{123456})) << "ticked twice it counts once";
+    model.setData(model.index(2, 0), Qt::Checked, Qt::CheckStateRole);
+    EXPECT_EQ(tally(), std::pair(2, std::int64_t{123455}));
+    model.tick(1, false);
+    EXPECT_EQ(tally(), std::pair(1, std::int64_t{-1}));
+    model.toggleByLastRow();
+    EXPECT_EQ(tally(), std::pair(0, std::int64_t{0}));
+    model.toggleByLastRow();
+    EXPECT_EQ(tally(), std::pair(3, std::int64_t{123555}));
+    model.show({{{"", "D", "x", "2,00"}, true}, {{"", "E", "y", "sem valor"}, true}});
+    EXPECT_EQ(tally(), std::pair(2, std::int64_t{200})) << "what is no amount counts nothing";
+    GridModel none(withoutTicks, nullptr);
+    EXPECT_FALSE(none.countsAmounts()) << "a quantity is no amount";
+}
+
+TEST_F(GridModelTest, ATallyOfManyAmountsHasNoFractionOfACent) {
+    std::vector<GridRow> rows(20'000, GridRow{{"", "A", "x", "0,10"}});
+    rows.push_back({{"", "B", "y", "9.999.999.999.999.999.999,00"}});
+    model.show(std::move(rows));
+    model.toggleByLastRow();
+    model.tick(20'000, false);
+    EXPECT_EQ(model.tally().cents, 200'000);
+}
+
 }  // namespace
 }  // namespace tarn::test

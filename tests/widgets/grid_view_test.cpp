@@ -4,9 +4,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QTableView>
 #include <QTest>
+#include <QToolTip>
 
 #include "widgets/grid_model.h"
 
@@ -161,6 +165,37 @@ TEST_F(GridViewTest, TheCurrentRowIsTheSelectedOne) {
     EXPECT_TRUE(onlySelected(0));
     model.show({});
     EXPECT_FALSE(grid.currentIndex().isValid());
+}
+
+TEST_F(GridViewTest, CtrlCCopiesTheShownCellsOfTheCurrentRow) {
+    model.show({{{"", "A\tB\nC", "x", "1,00"}}, {{"", " D ", "y", "2,00"}}});
+    QTest::keyClick(&grid, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("A B C\t1,00"));
+    QTest::keyClick(&grid, Qt::Key_Down);
+    QTest::keyClick(&grid, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral(" D \t2,00"));
+    EXPECT_THAT(ticks(), ElementsAre(false, false));
+    model.show({});
+    QTest::keyClick(&grid, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral(" D \t2,00")) << "no row";
+}
+
+TEST_F(GridViewTest, ACutCellShowsItsTextAsAToolTip) {
+    const std::string name(60, 'n');
+    model.show({{{"", name + " <b>", "x", "1,00"}}, {{"", "curto", "y", "2,00"}}});
+    const auto tipAt = [this](int row, int column) {
+        QToolTip::hideText();  // takes its time
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+        const QPoint place = grid.visualRect(model.index(row, column)).center();
+        QHelpEvent help(QEvent::ToolTip, place, grid.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(grid.viewport(), &help);
+        return QToolTip::isVisible() ? QToolTip::text().toStdString() : "";
+    };
+    EXPECT_EQ(tipAt(0, 1), "<p>" + name + " &lt;b&gt;</p>") << "whole, and as text";
+    EXPECT_EQ(tipAt(1, 1), "") << "nothing is cut";
+    grid.setColumnWidth(1, 10);
+    EXPECT_EQ(tipAt(1, 1), "<p>curto</p>");
+    EXPECT_EQ(tipAt(1, 0), "") << "a box has no text";
 }
 
 // Where the space key has no box to tick, the view takes it for the selection.

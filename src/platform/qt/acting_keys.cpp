@@ -118,7 +118,7 @@ bool acts(const QKeyEvent& stroke, const QWidget* target) {
         return !movesOrErases(stroke.key());
     }
     if (isEnter(stroke)) {
-        return !isTextOfLines(target);
+        return !isTextOfLines(target) || stroke.modifiers().testFlag(Qt::ControlModifier);
     }
     if (stroke.key() == Qt::Key_Space) {
         return !isText(target);
@@ -131,7 +131,8 @@ void letEnterMoveOn(QWidget& field) {
 }
 
 bool edits(const QKeyEvent& stroke, const QWidget* target) {
-    if (isEnter(stroke) && target != nullptr && target->property(enterMovesOn).toBool()) {
+    if (isEnter(stroke) && !stroke.modifiers().testFlag(Qt::ControlModifier) && target != nullptr &&
+        target->property(enterMovesOn).toBool()) {
         return true;
     }
     return !isModifierKey(stroke) && !acts(stroke, target);

@@ -14,9 +14,9 @@ bool isEnter(const QKeyEvent& stroke);
 // Shift, Ctrl, Alt and their like by themselves.
 bool isModifierKey(const QKeyEvent& stroke);
 
-// Enter (but in a text of several lines), Esc, Space (but in a text), function keys,
-// Alt with a key, Ctrl with a key that is none of a text's own commands, and in a menu
-// all but the arrows. `target` is the widget that gets the stroke; may be null.
+// Enter (but without Ctrl in a text of several lines), Esc, Space (but in a text),
+// function keys, Alt with a key, Ctrl with a key that is none of a text's own commands,
+// and in a menu all but the arrows. `target` is the widget that gets the stroke; may be null.
 bool acts(const QKeyEvent& stroke, const QWidget* target);
 
 // From now on Enter in this field is its Tab stroke, which edits as far as typing ahead is
