@@ -9,6 +9,17 @@
 
 #include "platform/message_boxes.h"
 
+namespace tarn {
+
+// How a failed comparison shows a box; it is looked for where the box is declared.
+inline void PrintTo(const Box& box, std::ostream* out) {
+    constexpr const char* icons[] = {"None", "Information", "Exclamation", "Question", "Critical"};
+    *out << "[" << icons[static_cast<int>(box.icon)] << "] \"" << box.title << "\": \"" << box.text
+         << "\"" << (box.buttons == BoxButtons::YesNo ? " (yes/no)" : "");
+}
+
+}  // namespace tarn
+
 namespace tarn::test {
 
 class ScriptedBoxes : public MessageBoxes {
@@ -38,12 +49,5 @@ public:
         return all;
     }
 };
-
-// How a failed comparison shows a box.
-inline void PrintTo(const Box& box, std::ostream* out) {
-    constexpr const char* icons[] = {"None", "Information", "Exclamation", "Question", "Critical"};
-    *out << "[" << icons[static_cast<int>(box.icon)] << "] \"" << box.title << "\": \"" << box.text
-         << "\"" << (box.buttons == BoxButtons::YesNo ? " (yes/no)" : "");
-}
 
 }  // namespace tarn::test

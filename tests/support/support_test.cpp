@@ -79,6 +79,12 @@ TEST(ScriptedBoxes, AnswersFromTheQueueThenByDefault) {
     EXPECT_EQ(boxes.texts(), (std::vector<std::string>{"Q", "Q", "O"}));
 }
 
+// Else a failed comparison would show the bytes of two objects.
+TEST(ScriptedBoxes, ABoxIsReadableWhereAComparisonFails) {
+    EXPECT_EQ(testing::PrintToString(Box{"Gerou?", BoxIcon::Question, "Aviso", BoxButtons::YesNo}),
+              R"([Question] "Aviso": "Gerou?" (yes/no))");
+}
+
 TEST(ScriptedLoader, AnswersInSequenceAndKeepsAddresses) {
     ScriptedLoader loader;
     loader.on("comando=a", "1").on("comando=a", "2").failOn("comando=ab");
