@@ -15,7 +15,8 @@ namespace tarn::print {
 
 class PrintEnvironment;
 
-inline constexpr int statusLoss = 4;  // a note that was looked over loses something
+inline constexpr int statusRefused = 1;  // part of a drawn document, by the printer
+inline constexpr int statusLoss = 4;     // a note that was looked over loses something
 
 // Options that stand before or after any command.
 struct GlobalOptions {

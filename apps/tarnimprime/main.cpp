@@ -58,6 +58,9 @@ int execute(int argc, char** argv) {
     } catch (const RuntimeError& error) {
         return failure(replaceAll(reportText(error), "\r", "\n"), runtimeErrorStatus);
     }
+    if (desk.pagesRefused()) {
+        return failure("a impressora recusou o documento, todo ou em parte.", statusRefused);
+    }
     return choice.status;
 }
 

@@ -1,9 +1,11 @@
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "apps/tarnimprime/commands.h"
 #include "apps/tarnimprime/print_environment.h"
 #include "billing/order_sheet.h"
+#include "gateway/answer.h"
 
 namespace tarn::print {
 namespace {
@@ -13,8 +15,19 @@ struct Request {
     std::vector<std::string> files;
 };
 
+// A refused order is no sheet: decision D117.
+void demandAccepted(const XmlDocument& order) {
+    const std::optional<std::string> status = statusIfAny(order);
+    if (status && *status != "OK") {
+        throw cli::WrongUsage(*status);
+    }
+}
+
 void print(const Request& request, PrintEnvironment& desk) {
     std::vector<XmlDocument> documents = readAnswers(request.files);
+    for (const XmlDocument& document : documents) {
+        demandAccepted(document);
+    }
     Environment& environment = desk.environment();
     for (XmlDocument& document : documents) {
         printOrder(environment, request.session, document);

@@ -49,6 +49,12 @@ BoxAnswer TerminalBoxes::show(const Box& box) {
     return box.buttons == BoxButtons::YesNo ? BoxAnswer::Yes : BoxAnswer::Ok;
 }
 
+std::optional<PrinterFailure> WatchedPages::perform(const PrintOperation& operation) {
+    auto failure = pages_->perform(operation);
+    refused_ |= failure.has_value();
+    return failure;
+}
+
 Date SystemClock::today() {
     const std::tm local = localTime();
     return {local.tm_mday, local.tm_mon + 1, local.tm_year + 1900};
@@ -70,9 +76,9 @@ void PrintEnvironment::prepareFolder() {
     }
     spooler_ = std::make_unique<DirectorySpooler>(files);
     if (options_.format == "ops") {
-        pages_ = std::make_unique<OpsPrinter>(files);
+        drawOn(std::make_unique<OpsPrinter>(files));
     } else {
-        pages_ = std::make_unique<WindowlessPages>(files);
+        drawOn(std::make_unique<WindowlessPages>(files));
     }
 }
 
@@ -86,12 +92,16 @@ void PrintEnvironment::preparePrinter() {
             "esta máquina não tem impressora padrão. Defina uma, ou grave os trabalhos em uma "
             "pasta com --destino PASTA.");
     }
-    pages_ = std::make_unique<WindowlessPages>(nullptr);
+    drawOn(std::make_unique<WindowlessPages>(nullptr));
 }
 
 void PrintEnvironment::prepareNothing() {
     spooler_ = std::make_unique<NoPaper>();
-    pages_ = std::make_unique<NoPages>();
+    drawOn(std::make_unique<NoPages>());
+}
+
+void PrintEnvironment::drawOn(std::unique_ptr<Printer> pages) {
+    pages_ = std::make_unique<WatchedPages>(std::move(pages));
 }
 
 Environment& PrintEnvironment::environment() {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include "apps/tarnimprime/commands.h"
 #include "platform/clock.h"
@@ -23,6 +25,20 @@ public:
 class TerminalBoxes : public MessageBoxes {
 public:
     BoxAnswer show(const Box& box) override;
+};
+
+// Remembers whether the printer refused anything.
+class WatchedPages : public Printer {
+public:
+    explicit WatchedPages(std::unique_ptr<Printer> pages) : pages_(std::move(pages)) {}
+
+    bool refused() const { return refused_; }
+    std::string name() override { return pages_->name(); }
+    std::optional<PrinterFailure> perform(const PrintOperation& operation) override;
+
+private:
+    std::unique_ptr<Printer> pages_;
+    bool refused_ = false;
 };
 
 class SystemClock : public Clock {
@@ -49,11 +65,14 @@ public:
     // For looking at what would print: as `environment` where a directory was given, else
     // nothing is printed.
     Environment& dryRunEnvironment();
+    // Whether the printer refused part of a drawn document.
+    bool pagesRefused() const { return pages_ && pages_->refused(); }
 
 private:
     void prepareFolder();
     void preparePrinter();
     void prepareNothing();
+    void drawOn(std::unique_ptr<Printer> pages);
     Environment& assemble();
 
     const GlobalOptions& options_;
@@ -62,7 +81,7 @@ private:
     SystemClock clock_;
     NoMachine machine_;
     std::unique_ptr<Spooler> spooler_;
-    std::unique_ptr<Printer> pages_;
+    std::unique_ptr<WatchedPages> pages_;
     std::unique_ptr<Environment> environment_;
 };
 

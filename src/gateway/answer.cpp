@@ -3,6 +3,7 @@
 #include "gateway/carrega_xml.h"
 #include "platform/environment.h"
 #include "platform/message_boxes.h"
+#include "runtime/runtime_error.h"
 
 namespace tarn {
 namespace {
@@ -21,6 +22,14 @@ bool requestAnswer(Environment& environment, const std::string& query, XmlDocume
 
 std::string statusOf(const XmlDocument& document) {
     return std::string(document.child(1).attributes().item(1).text());
+}
+
+std::optional<std::string> statusIfAny(const XmlDocument& document) {
+    try {
+        return statusOf(document);
+    } catch (const RuntimeError&) {
+        return std::nullopt;
+    }
 }
 
 bool answerAccepted(Environment& environment, const XmlDocument& document,

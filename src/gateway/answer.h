@@ -1,6 +1,7 @@
 // One request as every routine makes it, the checks on its answer, and its rows.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,8 @@ bool requestAnswer(Environment& environment, const std::string& query, XmlDocume
 // Text of the second attribute of the document's second child; RuntimeError
 // ObjectVariable when there is none (no declaration, one attribute only).
 std::string statusOf(const XmlDocument& document);
+// The same; nothing when there is none.
+std::optional<std::string> statusIfAny(const XmlDocument& document);
 
 // False, with the user told, when the answer is empty (`emptyMessage`) or its status
 // isn't exactly "OK" (the server's own text). ObjectVariable when it has no status.

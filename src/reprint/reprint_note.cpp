@@ -29,18 +29,13 @@ void alert(Environment& environment, const std::string& text) {
 
 // An answer whose status can't be read counts as an empty one: decision D51.
 bool accept(Environment& environment, const XmlDocument& document, const std::string& problem) {
-    std::string status;
-    try {
-        status = statusOf(document);
-    } catch (const RuntimeError&) {
+    const std::optional<std::string> status = statusIfAny(document);
+    if (!status) {
         alert(environment, problem);
-        return false;
+    } else if (*status != "OK") {
+        warn(environment, *status);
     }
-    if (status != "OK") {
-        warn(environment, status);
-        return false;
-    }
-    return true;
+    return status == "OK";
 }
 
 }  // namespace

@@ -117,6 +117,19 @@ TEST_F(TarnimprimeLabels, DrawnFormsAsPdf) {
     EXPECT_EQ(job("job-001.pdf").substr(0, 5), "%PDF-");
 }
 
+// A folder where the file would go takes no page.
+TEST_F(TarnimprimeLabels, ARefusedSheetIsAFailure) {
+    fs::create_directories(file("papel/job-001.ops"));
+    const std::string reason = "não foi possível gravar na pasta";
+    for (const Result& result : {print("1", {"--formato", "ops"}), printSelected({})}) {
+        EXPECT_EQ(result.status, 1);
+        EXPECT_NE(result.err.find(reason), std::string::npos) << result.err;
+        EXPECT_NE(result.err.find("tarnimprime: a impressora recusou o documento"),
+                  std::string::npos)
+            << result.err;
+    }
+}
+
 TEST_F(TarnimprimeLabels, WithoutLabelsNothingIsEnded) {
     std::ofstream(file("vazio.xml")) << "<xml xmlns:rs='r'><rs:data/></xml>";
     const Result result =

@@ -385,6 +385,28 @@ TEST_F(Tarnimprime, AnOrderWithoutAFieldKeepsTheLinesBeforeIt) {
     EXPECT_EQ(job("job-001.prn"), golden.substr(0, golden.find("   12,000")));
 }
 
+// Beside a good one too: what was refused is found out before anything prints.
+TEST_F(Tarnimprime, ARefusedOrderPrintsNothing) {
+    std::ofstream(file("recusa.xml"), std::ios::binary)
+        << R"(<?xml version="1.0"?><PRINCIPAL cod="1" status="Ordem cancelada."/>)";
+    const Result result = run({"ordem", "--destino", file("papel"), "--empresa", "2041",
+                               orderData("order_at_sight.xml"), file("recusa.xml")});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.err, "tarnimprime: Ordem cancelada.\n");
+    EXPECT_FALSE(hasJob("job-001.prn"));
+}
+
+TEST_F(Tarnimprime, AnOrderWithoutAStatusPrintsAsItIs) {
+    std::string order = contentOf(orderData("order_in_parcels.xml"));
+    const std::string status = " status=\"OK\"";
+    order.erase(order.find(status), status.size());
+    std::ofstream(file("ordem.xml"), std::ios::binary) << order;
+    const Result result =
+        run({"ordem", "--destino", file("papel"), "--empresa", "2041", file("ordem.xml")});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(job("job-001.prn"), contentOf(orderData("order_in_parcels.prn")));
+}
+
 TEST_F(Tarnimprime, AnOrderSheetWithoutACompanyOrADocumentIsWrongUsage) {
     for (const std::vector<std::string>& words :
          {std::vector<std::string>{"ordem", orderData("order_at_sight.xml")},

@@ -32,6 +32,15 @@ TEST(StatusOf, CannotBeRead) {
     expectObjectError([&] { statusOf(document); });
 }
 
+TEST(StatusIfAny, IsNothingWhereItCannotBeRead) {
+    XmlDocument document;
+    EXPECT_EQ(statusIfAny(document), std::nullopt);
+    ASSERT_TRUE(document.loadXML("<?xml version='1.0'?><R x='OK'/>"));
+    EXPECT_EQ(statusIfAny(document), std::nullopt);
+    ASSERT_TRUE(document.loadXML("<?xml version='1.0'?><R x='1' y='OK'/>"));
+    EXPECT_EQ(statusIfAny(document), "OK");
+}
+
 TEST(AnswerAccepted, OnlyTheExactOK) {
     TestEnvironment seams;
     XmlDocument document;
