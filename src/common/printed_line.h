@@ -17,7 +17,7 @@ public:
 
     PrintedLine& blanks(std::size_t count);
     PrintedLine& text(std::string_view value);
-    // Cut or filled up with blanks to so many characters; FormataCampo.
+    // Cut or filled up with blanks to so many characters.
     PrintedLine& field(std::string_view value, int width);
     PrintedLine& rightField(std::string_view value, int width);
     PrintedLine& rightField(double value, const NumberMask& mask, int width);

@@ -17,16 +17,6 @@ std::size_t countOf(int value) {
 
 }  // namespace
 
-std::string FormataCampo(std::string& text, int width, bool alignRight) {
-    const std::size_t room = countOf(width);
-    const std::size_t length = lengthOf(text);
-    if (length > room) {
-        return std::string(leftOf(text, room));
-    }
-    text.insert(alignRight ? 0 : text.size(), room - length, ' ');
-    return text;
-}
-
 void appendField(std::string& line, std::string_view text, int width, bool alignRight) {
     const std::size_t room = countOf(width);
     const std::string_view head = text.substr(0, room);

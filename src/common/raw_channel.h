@@ -10,13 +10,8 @@
 
 namespace tarn {
 
-// Pads `text` with blanks to `width` characters, in place, and returns it; a
-// longer text comes back cut to its first `width` characters and stays whole
-// in the caller's variable. Raises InvalidArgument for a negative width.
-std::string FormataCampo(std::string& text, int width, bool alignRight);
-
-// The same for building lines: appends the field to `line`, each control
-// character of the value as one blank.
+// `FormataCampo`: appends `text` to `line`, cut to its first `width` characters or filled up with
+// blanks, each control character as one blank. Raises InvalidArgument for a negative width.
 void appendField(std::string& line, std::string_view text, int width, bool alignRight);
 
 class RawChannel {

@@ -124,51 +124,39 @@ TEST_F(RawChannelTest, AJobNeverClosedIsNotContinued) {
     EXPECT_TRUE(spooler_.jobs.at(1).closed);
 }
 
-TEST(FormataCampo, PadsInPlace) {
-    std::string text = "AB";
-    EXPECT_EQ(FormataCampo(text, 5, false), "AB   ");
-    EXPECT_EQ(text, "AB   ");
-    text = "AB";
-    EXPECT_EQ(FormataCampo(text, 5, true), "   AB");
-    EXPECT_EQ(text, "   AB");
-    text = "ÇÃ";
-    EXPECT_EQ(FormataCampo(text, 4, true), "  ÇÃ");
+std::string field(std::string_view text, int width, bool alignRight) {
+    std::string line;
+    appendField(line, text, width, alignRight);
+    return line;
 }
 
-TEST(FormataCampo, ExactWidthComesBackUnchanged) {
+TEST(AppendField, FillsUpAtEitherEnd) {
+    EXPECT_EQ(field("AB", 5, false), "AB   ");
+    EXPECT_EQ(field("AB", 5, true), "   AB");
+    EXPECT_EQ(field("ÇÃ", 4, true), "  ÇÃ");
+    EXPECT_EQ(field("ÇÃ", 4, false), "ÇÃ  ");
+}
+
+TEST(AppendField, TheExactWidthStaysAndALongerTextLosesItsEnd) {
     for (const bool alignRight : {false, true}) {
-        std::string text = "ABCDE";
-        EXPECT_EQ(FormataCampo(text, 5, alignRight), "ABCDE");
-        EXPECT_EQ(text, "ABCDE");
+        EXPECT_EQ(field("ABCDE", 5, alignRight), "ABCDE");
+        EXPECT_EQ(field("1.234,50", 5, alignRight), "1.234");
+        EXPECT_EQ(field("ÇÃÕÉÁÍÓ", 5, alignRight), "ÇÃÕÉÁ");
     }
 }
 
-TEST(FormataCampo, CutsButLeavesTheCallersText) {
-    for (const bool alignRight : {false, true}) {
-        std::string text = "1.234,50";
-        EXPECT_EQ(FormataCampo(text, 5, alignRight), "1.234");
-        EXPECT_EQ(text, "1.234,50");
-    }
-    std::string accents = "ÇÃÕÉÁÍÓ";
-    EXPECT_EQ(FormataCampo(accents, 5, false), "ÇÃÕÉÁ");
-    EXPECT_EQ(accents, "ÇÃÕÉÁÍÓ");
-}
-
-TEST(FormataCampo, WidthZeroAndBelow) {
-    std::string text = "A";
-    EXPECT_EQ(FormataCampo(text, 0, false), "");
-    EXPECT_EQ(text, "A");
-    std::string empty;
-    EXPECT_EQ(FormataCampo(empty, 0, true), "");
+TEST(AppendField, WidthZeroAndBelow) {
+    EXPECT_EQ(field("A", 0, false), "");
+    EXPECT_EQ(field("", 0, true), "");
     try {
-        FormataCampo(text, -1, false);
+        field("A", -1, false);
         FAIL() << "no error";
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.number(), RuntimeErrorCode::InvalidArgument);
     }
 }
 
-TEST(AppendField, PadsCutsAndBlanksControls) {
+TEST(AppendField, GoesBehindWhatIsThereWithControlsBlanked) {
     std::string line = "\x0F";
     appendField(line, "AB", 4, false);
     appendField(line, "12,5", 6, true);
