@@ -1,5 +1,6 @@
 #include "labels/label.h"
 
+#include <algorithm>
 #include <array>
 
 #include "common/acts.h"
@@ -11,39 +12,39 @@
 namespace tarn::labels {
 namespace {
 
-enum Field : std::size_t {
-    NOME,
-    ENDERECO,
-    SOMENTE_ENDERECO,
-    NUMERO,
-    COMPLEMENTO,
-    BAIRRO,
-    MUNICIPIO,
-    UF,
-    CEP,
-    CODIGO
+struct LabelField {
+    std::string_view name;
+    std::string_view Label::*text;
 };
 
-constexpr std::array<std::string_view, 10> fields{
-    "NOME", "ENDERECO", "SOMENTE_ENDERECO", "NUMERO", "COMPLEMENTO", "BAIRRO", "MUNICIPIO", "UF",
-    "CEP",  "CODIGO"};
+constexpr std::array<LabelField, 10> fields{{{"NOME", &Label::NOME},
+                                             {"ENDERECO", &Label::ENDERECO},
+                                             {"SOMENTE_ENDERECO", &Label::SOMENTE_ENDERECO},
+                                             {"NUMERO", &Label::NUMERO},
+                                             {"COMPLEMENTO", &Label::COMPLEMENTO},
+                                             {"BAIRRO", &Label::BAIRRO},
+                                             {"MUNICIPIO", &Label::MUNICIPIO},
+                                             {"UF", &Label::UF},
+                                             {"CEP", &Label::CEP},
+                                             {"CODIGO", &Label::CODIGO}}};
+
+constexpr auto names = [] {
+    std::array<std::string_view, fields.size()> all;
+    std::ranges::transform(fields, all.begin(), &LabelField::name);
+    return all;
+}();
 
 }  // namespace
 
-Labels::Labels(const XmlDocument& answer) : rows_(rowsOf(answer)), reader_(fields) {}
+Labels::Labels(const XmlDocument& answer) : rows_(rowsOf(answer)), reader_(names) {}
 
 Label Labels::read(std::size_t index) {
     reader_.read(rows_.item(index));
-    return {.NOME = reader_.text(NOME),
-            .ENDERECO = reader_.text(ENDERECO),
-            .SOMENTE_ENDERECO = reader_.text(SOMENTE_ENDERECO),
-            .NUMERO = reader_.text(NUMERO),
-            .COMPLEMENTO = reader_.text(COMPLEMENTO),
-            .BAIRRO = reader_.text(BAIRRO),
-            .MUNICIPIO = reader_.text(MUNICIPIO),
-            .UF = reader_.text(UF),
-            .CEP = reader_.text(CEP),
-            .CODIGO = reader_.text(CODIGO)};
+    Label label;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        label.*fields[i].text = reader_.text(i);
+    }
+    return label;
 }
 
 void report(const Progress& progress, std::size_t done, const Labels& labels) {
