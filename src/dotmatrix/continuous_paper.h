@@ -53,20 +53,20 @@ private:
     std::vector<Run> runs_;
 };
 
-enum Style : std::uint8_t {
-    plain = 0,
-    emphasised = 1,
-    doubleStrike = 2,
-    underlined = 4,
-    italicShear = 8,
-};
+// How a character is printed: the sum of what holds.
+using Style = std::uint8_t;
+inline constexpr Style plain = 0;
+inline constexpr Style emphasised = 1;
+inline constexpr Style doubleStrike = 2;
+inline constexpr Style underlined = 4;
+inline constexpr Style italicShear = 8;
 
 struct Cell {
     std::int32_t x = 0;
     std::uint16_t width = 0;   // of the whole cell
     std::uint16_t column = 1;  // printed characters since the left margin, from 1
     char16_t character = u' ';
-    std::uint8_t style = plain;
+    Style style = plain;
 };
 
 // What one job printed in one row. Blanks leave no cell, and a row on which

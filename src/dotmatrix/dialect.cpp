@@ -25,7 +25,7 @@ std::uint16_t PrintMode::cellWidth() const {
 }
 
 void PrintMode::setStyle(Style bit, bool on) {
-    style = static_cast<std::uint8_t>(on ? style | bit : style & ~bit);
+    style = static_cast<Style>(on ? style | bit : style & ~bit);
 }
 
 void PrintMode::select(std::uint8_t bits) {

@@ -32,7 +32,7 @@ struct PrintMode {
     bool wide = false;       // double width until cancelled
     bool wideLine = false;   // double width to the end of the line
     bool eliteOverridesCondensed = false;
-    std::uint8_t style = plain;
+    Style style = plain;
 
     // Width of one character cell.
     std::uint16_t cellWidth() const;
