@@ -37,7 +37,7 @@ FrmOFT::FrmOFT(DeskContext& desk)
       timer_(new Tick(intervalMs, this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *orders_);
-    ui_->footDados->serve(*ui_->sprDados, *orders_, rowNoun);
+    ui_->gridFoot->serve(*ui_->sprDados, *orders_, rowNoun);
     prepareButtons();
     timer_->setObjectName(QStringLiteral("Timer"));
     connect(timer_, &Tick::ticked, this, &FrmOFT::Timer_Tick);

@@ -42,7 +42,7 @@ FrmPesqDupli::FrmPesqDupli(DeskContext& desk, QWidget* parent)
       documents_(new GridModel(billGrid(), this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *documents_);
-    ui_->footDados->serve(*ui_->sprDados, *documents_, rowNoun);
+    ui_->gridFoot->serve(*ui_->sprDados, *documents_, rowNoun);
     prepareFields();
     prepareButtons();
     fitToGrid(*this, *ui_->sprDados, visibleLines);

@@ -27,7 +27,7 @@ FrmPesqCliente::FrmPesqCliente(DeskContext& desk, QWidget* parent)
       customers_(new GridModel(customerGrid(), this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *customers_);
-    ui_->footDados->serve(*ui_->sprDados, *customers_, rowNoun);
+    ui_->gridFoot->serve(*ui_->sprDados, *customers_, rowNoun);
     prepareButtons();
     fitToGrid(*this, *ui_->sprDados, visibleLines);
 }

@@ -64,7 +64,7 @@ void FrmImprEtiq::prepareFields() {
 
 void FrmImprEtiq::prepareCustomerGrid() {
     prepareGrid(*ui_->sprDados, *customers_);
-    ui_->footDados->serve(*ui_->sprDados, *customers_, rowNoun);
+    ui_->gridFoot->serve(*ui_->sprDados, *customers_, rowNoun);
     fitToGrid(*this, *ui_->sprDados, visibleLines);
 }
 

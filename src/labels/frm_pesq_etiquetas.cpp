@@ -51,7 +51,7 @@ frmPesqEtiquetas::~frmPesqEtiquetas() = default;
 
 void frmPesqEtiquetas::prepareQueueGrid() {
     prepareGrid(*ui_->sprDados, *queue_);
-    ui_->footDados->serve(*ui_->sprDados, *queue_, rowNoun);
+    ui_->gridFoot->serve(*ui_->sprDados, *queue_, rowNoun);
     fitToGrid(*this, *ui_->sprDados, visibleLines);
 }
 

@@ -30,7 +30,7 @@ frmPesqBoleto::frmPesqBoleto(DeskContext& desk, QWidget* parent)
       documents_(new GridModel(slipGrid(), this)) {
     ui_->setupUi(this);
     prepareGrid(*ui_->sprDados, *documents_);
-    ui_->footDados->serve(*ui_->sprDados, *documents_, rowNoun);
+    ui_->gridFoot->serve(*ui_->sprDados, *documents_, rowNoun);
     prepareFields();
     prepareButtons();
     fitToGrid(*this, *ui_->sprDados, visibleLines);
