@@ -16,7 +16,9 @@ namespace {
 
 constexpr int maxObservation = 500;
 // Widths and heights in characters and lines.
-constexpr int fieldWidth = 40;
+constexpr int fieldWidth = 30;
+constexpr int mostFieldWidth = 58;
+constexpr int fieldMargin = 3;
 constexpr int numberWidth = 15;
 constexpr int observationLines = 7;  // all of its characters
 
@@ -24,6 +26,14 @@ constexpr int observationLines = 7;  // all of its characters
 void showNumber(QLineEdit& field, const std::string& text) {
     field.setMaxLength(std::max(field.maxLength(), static_cast<int>(text.size())));
     field.setText(QString::fromStdString(text));
+}
+
+// As far as a small monitor has room for two such fields.
+void showWhole(QLineEdit& field) {
+    const QFontMetrics letters = field.fontMetrics();
+    const int character = letters.averageCharWidth();
+    const int whole = letters.horizontalAdvance(field.text()) + character * fieldMargin;
+    field.setMinimumWidth(std::clamp(whole, character * fieldWidth, character * mostFieldWidth));
 }
 
 }  // namespace
@@ -82,6 +92,7 @@ void frmManutDetOFT::load(const GridRow& order) {
         const QString text = QString::fromStdString(order.text(one.column));
         one.field->setText(text);
         one.field->setCursorPosition(0);
+        showWhole(*one.field);
         if (!text.isEmpty()) {  // whole, where the field is short
             one.field->setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
         }

@@ -1,9 +1,7 @@
 #include "billing/frm_oft.h"
 
 #include <QCloseEvent>
-#include <QHeaderView>
 #include <QKeyEvent>
-#include <QScrollBar>
 
 #include "billing/frm_manut_det_oft.h"
 #include "billing/frm_mensagem_alerta.h"
@@ -25,7 +23,6 @@ namespace tarn {
 namespace {
 
 constexpr int intervalMs = 60000;
-constexpr int visibleLines = 18;
 constexpr RowNoun rowNoun{"ordem", "ordens", true};
 
 }  // namespace
@@ -53,18 +50,6 @@ void FrmOFT::prepareButtons() {
     buttons.add(ui_->CmdCanOft, "cancel_order", &FrmOFT::CmdCanOft_Click);
     buttons.add(ui_->cmdImprimirOF, "print_order", &FrmOFT::cmdImprimirOF_Click);
     buttons.add(ui_->cmdDetOFT, "edit_order", &FrmOFT::cmdDetOFT_Click);
-}
-
-// Wide enough for the columns that have a heading.
-QSize FrmOFT::sizeHint() const {
-    const QTableView& grid = *ui_->sprDados;
-    int width = grid.verticalHeader()->sizeHint().width() + 2 * grid.frameWidth() +
-                grid.verticalScrollBar()->sizeHint().width();
-    for (int column = 0; column < orders_->columnCount(); ++column) {
-        width += orders_->column(column).heading.empty() ? 0 : grid.columnWidth(column);
-    }
-    const int height = grid.verticalHeader()->defaultSectionSize() * visibleLines;
-    return QWidget::sizeHint() - grid.sizeHint() + QSize(width, height);
 }
 
 void FrmOFT::load() {

@@ -30,8 +30,6 @@ public:
     // Reads the list anew; selection and scroll position are lost.
     void loadSpread();
 
-    QSize sizeHint() const override;
-
 signals:
     void loaded();
     void closed();

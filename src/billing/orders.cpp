@@ -16,23 +16,23 @@ namespace {
 
 constexpr auto grid = gridOf<OrderColumn>(
     {{OrderColumn::Order,
-      {"ID_ORD_FAT", "Ord. Fat.", 12, Treatment::Text, "Número da ordem de faturamento"}},
-     {OrderColumn::Customer, {"NM_PES_CPL", "Cliente", 34, Treatment::Text, "Cliente"}},
+      {"ID_ORD_FAT", "Ord. Fat.", 10, Treatment::Text, "Número da ordem de faturamento"}},
+     {OrderColumn::Customer, {"NM_PES_CPL", "Cliente", 40, Treatment::Text, "Cliente"}},
      {OrderColumn::Establishment,
-      {"NM_RDU", "Estabelecimento", 19, Treatment::Text, "Estabelecimento"}},
+      {"NM_RDU", "Estabelecimento", 16, Treatment::Text, "Estabelecimento"}},
      {OrderColumn::NoteKind,
-      {"DC_TIP_NF", "Tipo de NF", 18, Treatment::Text, "Tipo de nota fiscal"}},
+      {"DC_TIP_NF", "Tipo de NF", 24, Treatment::Text, "Tipo de nota fiscal"}},
      {OrderColumn::Generated,
-      {"DT_GER_OFT", "Dt. Emissão", 14, Treatment::Text, "Data em que a ordem foi gerada"}},
+      {"DT_GER_OFT", "Dt. Emissão", 12, Treatment::Text, "Data em que a ordem foi gerada"}},
      {OrderColumn::LoadOrder,
-      {"ID_ORD_CRG", "Ord. Carga", 13, Treatment::Text, "Número da ordem de carga"}},
+      {"ID_ORD_CRG", "Ord. Carga", 11, Treatment::Text, "Número da ordem de carga"}},
      {OrderColumn::Carrier,
       {"TRANSPORTADORA", "Transportadora", 24, Treatment::Text, "Transportadora"}},
      {OrderColumn::Driver, {"NM_PES_MOT", "Motorista", 24, Treatment::Text, "Motorista"}},
-     {OrderColumn::Observation, {"DC_OBS", "", 26, Treatment::Text, "Observação"}},
-     {OrderColumn::Quantity, {"QT_ESP", "", 17, Treatment::Quantity, "Quantidade de volumes"}},
-     {OrderColumn::GrossWeight, {"PESO_BRU", "", 17, Treatment::Quantity, "Peso bruto"}},
-     {OrderColumn::NetWeight, {"PESO_LIQ", "", 17, Treatment::Quantity, "Peso líquido"}}});
+     {OrderColumn::Observation, {"DC_OBS", "", 24, Treatment::Text, "Observação"}},
+     {OrderColumn::Quantity, {"QT_ESP", "", 9, Treatment::Quantity, "Quantidade de volumes"}},
+     {OrderColumn::GrossWeight, {"PESO_BRU", "", 12, Treatment::Quantity, "Peso bruto"}},
+     {OrderColumn::NetWeight, {"PESO_LIQ", "", 12, Treatment::Quantity, "Peso líquido"}}});
 
 // What is tested of one field, and the two refusals.
 struct FieldTest {

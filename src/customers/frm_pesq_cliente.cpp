@@ -29,6 +29,7 @@ FrmPesqCliente::FrmPesqCliente(DeskContext& desk, QWidget* parent)
     prepareGrid(*ui_->sprDados, *customers_);
     ui_->gridFoot->serve(*ui_->sprDados, *customers_, rowNoun);
     prepareButtons();
+    showPlaceholderWhole(*ui_->txtNmCli);
     fitToGrid(*this, *ui_->sprDados, visibleLines);
 }
 

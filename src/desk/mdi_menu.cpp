@@ -31,6 +31,19 @@ namespace tarn {
 namespace {
 
 constexpr int panelGap = 2;  // pixels
+// The desk as it opens: a part of the monitor, but all of a small one; pixels, also of what
+// a window manager puts around it.
+constexpr double monitorPart = 0.85;
+constexpr QSize smallMonitor(1180, 760);
+constexpr QSize windowFrame(8, 38);
+// Lines of the banner; of a desk that is lower than so many lines, the second.
+constexpr int bannerLines = 3;
+constexpr int lowBannerLines = 1;
+constexpr int lowDeskLines = 42;
+
+QSize openingSize(const QSize& monitor) {
+    return (monitor * monitorPart).expandedTo(smallMonitor).boundedTo(monitor - windowFrame);
+}
 
 QString titleWithSession() {
     return QStringLiteral("TARN EMISSÕES - Rotina Mercantil - Versão de %1 - %2")
@@ -48,7 +61,9 @@ MDIMenu::MDIMenu(DeskContext& desk)
     ui_->mnuNF->insertSeparator(ui_->mCNF)->setObjectName(QStringLiteral("NFtraco"));
     preparePanels();
     ui_->mdiArea->setBackground(palette().brush(QPalette::Mid));
-    resize(screen()->availableSize() * 0.85);
+    resize(openingSize(screen()->availableSize()));
+    setMinimumWidth(menuBar()->sizeHint().width());
+    ui_->mdiArea->viewport()->installEventFilter(this);
     connect(ui_->mdiArea, &QMdiArea::subWindowActivated, this, &MDIMenu::centre);
     connectMenu();
 }
@@ -185,7 +200,9 @@ void MDIMenu::openInArea(Screen* screen) {
         screen, Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                     Qt::WindowCloseButtonHint);
     window->setAttribute(Qt::WA_DeleteOnClose);
-    window->resize(window->sizeHint().boundedTo(ui_->mdiArea->size()));
+    connect(window, &QObject::destroyed, ui_->mdiArea, &QWidget::updateGeometry);
+    ui_->mdiArea->updateGeometry();  // the desk is never smaller than its screen needs
+    fitScreens();
     window->show();
     screen->load();
 }
@@ -230,6 +247,36 @@ void MDIMenu::centre(QMdiSubWindow* window) {
     if (window != nullptr && !window->isMaximized()) {
         window->move((ui_->mdiArea->viewport()->width() - window->width()) / 2, 0);
     }
+}
+
+void MDIMenu::fitScreens() {
+    const QSize area = ui_->mdiArea->viewport()->size();
+    for (QMdiSubWindow* window : ui_->mdiArea->subWindowList()) {
+        QSize wanted = window->sizeHint();
+        const QSizePolicy room = window->widget()->sizePolicy();
+        if (room.horizontalPolicy() == QSizePolicy::Expanding) {
+            wanted.setWidth(area.width());
+        }
+        if (room.verticalPolicy() == QSizePolicy::Expanding) {
+            wanted.setHeight(area.height());
+        }
+        window->resize(wanted.boundedTo(area).expandedTo(window->minimumSizeHint()));
+        centre(window);
+    }
+}
+
+bool MDIMenu::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize) {
+        fitScreens();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MDIMenu::resizeEvent(QResizeEvent* event) {
+    const int line = fontMetrics().height();
+    const int lines = height() < lowDeskLines * line ? lowBannerLines : bannerLines;
+    ui_->Picture1->setFixedHeight(lines * line);
+    QMainWindow::resizeEvent(event);
 }
 
 void MDIMenu::closeEvent(QCloseEvent* event) {

@@ -49,6 +49,8 @@ public:
 protected:
     // Closing the window by any means ends the program at once.
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void connectMenu();
@@ -63,6 +65,8 @@ private:
     template <typename Screen>
     void openInArea(Screen* screen);
     void centre(QMdiSubWindow* window);
+    // Screens follow the area: as large as they like to be, as far as it goes.
+    void fitScreens();
 
     void labels(const char* kind);
     void mOFT_Click();

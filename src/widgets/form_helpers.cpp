@@ -13,7 +13,9 @@ namespace {
 
 // A field's tag: the code behind what it shows.
 constexpr char tag[] = "Tag";
-constexpr int dateWidth = 13;  // characters
+// Characters.
+constexpr int dateWidth = 13;
+constexpr int placeholderMargin = 3;
 
 }  // namespace
 
@@ -44,6 +46,12 @@ void showCustomer(QLineEdit& field, const std::string& id, const std::string& na
 
 std::string customerId(const QLineEdit& field) {
     return field.property(tag).toString().toStdString();
+}
+
+void showPlaceholderWhole(QLineEdit& field) {
+    const QFontMetrics letters = field.fontMetrics();
+    field.setMinimumWidth(letters.horizontalAdvance(field.placeholderText()) +
+                          letters.averageCharWidth() * placeholderMargin);
 }
 
 void prepareDates(std::initializer_list<QLineEdit*> fields, Environment& environment) {

@@ -30,6 +30,9 @@ void prepareCustomerField(QLineEdit& field, Environment& environment);
 void showCustomer(QLineEdit& field, const std::string& id, const std::string& name);
 std::string customerId(const QLineEdit& field);
 
+// The field is never too narrow for the text that stands in it while it is empty.
+void showPlaceholderWhole(QLineEdit& field);
+
 // Date fields as wide as a date. They belong to their screens.
 void prepareDates(std::initializer_list<QLineEdit*> fields, Environment& environment);
 

@@ -14,12 +14,19 @@
 #include <QTableView>
 #include <QToolTip>
 
+#include "widgets/column_widths.h"
 #include "widgets/grid_model.h"
 
 namespace tarn {
 namespace {
 
-constexpr double monitorPart = 0.9;
+constexpr int fewestLines = 4;
+// Pixels: what a window manager puts around a screen, at most; and the size up to which a
+// screen may be larger than the desk.
+constexpr int frameWidth = 8;
+constexpr int frameHeight = 38;
+constexpr int usefulWidth = 1016;
+constexpr int usefulHeight = 720;
 
 // What a button acts on is what the clerk sees: neither a click with Ctrl on the selected
 // row nor one below the last row unselects it. New rows leave no current one behind.
@@ -160,6 +167,22 @@ void prepareSelection(QTableView& grid, GridModel& model) {
     });
 }
 
+// However small its screen is made.
+void keepSomeLines(QTableView& grid) {
+    grid.setMinimumHeight(grid.horizontalHeader()->sizeHint().height() +
+                          grid.verticalHeader()->defaultSectionSize() * fewestLines +
+                          grid.horizontalScrollBar()->sizeHint().height() + 2 * grid.frameWidth());
+}
+
+// What is good to look at, and a window manager's frame around it.
+QSize mostFor(const QWidget& screen) {
+    const QSize monitor = screen.screen()->availableSize() - QSize(frameWidth, frameHeight);
+    const QWidget* desk = screen.parentWidget();
+    return desk == nullptr
+               ? monitor
+               : desk->window()->size().expandedTo({usefulWidth, usefulHeight}).boundedTo(monitor);
+}
+
 }  // namespace
 
 void prepareGrid(QTableView& grid, GridModel& model) {
@@ -167,16 +190,12 @@ void prepareGrid(QTableView& grid, GridModel& model) {
     prepareSelection(grid, model);
     grid.setItemDelegate(new Cell(&grid));
     new RowKeys(grid, model);
-    const int character = grid.fontMetrics().averageCharWidth();
-    for (int column = 0; column < model.columnCount(); ++column) {
-        const int width = model.column(column).width;
-        grid.setColumnHidden(column, width == 0);
-        grid.setColumnWidth(column, width * character);
-    }
+    adaptColumns(grid, model);
     grid.horizontalHeader()->setSectionsClickable(true);
     grid.horizontalHeader()->setHighlightSections(false);
     grid.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     grid.verticalHeader()->setDefaultSectionSize(grid.fontMetrics().height() * 3 / 2);
+    keepSomeLines(grid);
     if (model.hasCheckBox()) {
         prepareBox(grid, model);
     }
@@ -193,8 +212,8 @@ void fitToGrid(QWidget& screen, const QTableView& grid, int lines) {
         grid.verticalScrollBar()->sizeHint().width() + frame;
     const QSize missing = QSize(width, height) - grid.sizeHint();
     screen.resize((screen.sizeHint() + missing)
-                      .expandedTo(screen.sizeHint())
-                      .boundedTo(screen.screen()->availableSize() * monitorPart));
+                      .expandedTo(screen.minimumSizeHint())
+                      .boundedTo(mostFor(screen)));
 }
 
 }  // namespace tarn

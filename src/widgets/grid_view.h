@@ -16,7 +16,7 @@ class GridModel;
 void prepareGrid(QTableView& grid, GridModel& model);
 
 // Makes the screen large enough for so many rows and all shown columns of its grid, as
-// far as the monitor goes.
+// far as the desk behind it goes; on a small monitor, as far as that goes.
 void fitToGrid(QWidget& screen, const QTableView& grid, int lines);
 
 }  // namespace tarn

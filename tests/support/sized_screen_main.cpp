@@ -1,0 +1,38 @@
+// The main of a program of screen tests on a monitor of TARN_TEST_MONITOR dots ("1920x1080"),
+// off-screen, at the scale of QT_SCALE_FACTOR, on a dark desktop if TARN_TEST_DESKTOP is
+// "dark".
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "desk/desk_application.h"
+#include "tests/support/dark_desktop.h"
+#include "widgets/look.h"
+
+static void setMonitor(const QString& file) {
+    const QByteArray dots = qEnvironmentVariableIsSet("TARN_TEST_MONITOR")
+                                ? qgetenv("TARN_TEST_MONITOR")
+                                : QByteArray("1024x768");
+    const QList<QByteArray> sides = dots.split('x');
+    QFile told(file);
+    if (sides.size() != 2 || !told.open(QIODevice::WriteOnly)) {
+        qFatal("no monitor: %s", dots.constData());
+    }
+    told.write(R"({"screens":[{"name":"monitor","x":0,"y":0,"logicalDpi":96,"logicalBaseDpi":96,)"
+               R"("dpr":1,"width":)" +
+               sides[0] + R"(,"height":)" + sides[1] + "}]}");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(file));
+}
+
+int main(int argc, char** argv) {
+    const QTemporaryDir folder;
+    setMonitor(folder.filePath(QStringLiteral("monitor.json")));
+    testing::InitGoogleTest(&argc, argv);
+    tarn::DeskApplication application(argc, argv);
+    if (qgetenv("TARN_TEST_DESKTOP") == "dark") {
+        tarn::test::setDarkDesktop();
+        tarn::applyLook(application);
+    }
+    return RUN_ALL_TESTS();
+}
