@@ -17,8 +17,9 @@ public:
 
     bool empty() const { return bytes_.empty(); }
     std::uint8_t byte() {
-        if (bytes_.empty())
+        if (bytes_.empty()) {
             return 0;
+        }
         const std::uint8_t value = bytes_.front();
         bytes_ = bytes_.subspan(1);
         return value;

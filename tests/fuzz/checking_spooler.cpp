@@ -23,13 +23,16 @@ bool commandsPrinter(char c) {
 }  // namespace
 
 std::size_t CheckingSpooler::write(std::string_view text) {
-    if (state_ != Page)
+    if (state_ != Page) {
         broken("a write outside a page");
+    }
     bytes += text.size();
-    if (std::find(commands.begin(), commands.end(), text) != commands.end())
+    if (std::find(commands.begin(), commands.end(), text) != commands.end()) {
         return text.size();
-    if (!text.starts_with(' '))
+    }
+    if (!text.starts_with(' ')) {
         broken("a call without the blank of its column");
+    }
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text.substr(i, 2) == "\r\n") {
             ++lineEnds;

@@ -38,8 +38,9 @@ public:
 private:
     enum State { Closed, Open, Document, Page, PageEnded, DocumentEnded };
     bool step(State from, State to) {
-        if (state_ != from)
+        if (state_ != from) {
             broken("a job's calls are out of order");
+        }
         state_ = to;
         return true;
     }

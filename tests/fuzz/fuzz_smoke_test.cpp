@@ -14,21 +14,24 @@ namespace {
 
 std::vector<std::uint8_t> seededBytes(std::mt19937_64& random, std::size_t length) {
     std::vector<std::uint8_t> bytes(length);
-    for (std::uint8_t& byte : bytes)
+    for (std::uint8_t& byte : bytes) {
         byte = static_cast<std::uint8_t>(random() & 0xFFU);
+    }
     return bytes;
 }
 
 TEST(FuzzSmoke, Notes) {
     std::mt19937_64 random(20090107);
-    for (int i = 0; i < TARN_SMOKE_NOTES; ++i)
+    for (int i = 0; i < TARN_SMOKE_NOTES; ++i) {
         printNotes(seededBytes(random, static_cast<std::size_t>(i) % 900));
+    }
 }
 
 TEST(FuzzSmoke, Answers) {
     std::mt19937_64 random(20120315);
-    for (int i = 0; i < TARN_SMOKE_ANSWERS; ++i)
+    for (int i = 0; i < TARN_SMOKE_ANSWERS; ++i) {
         readAnswer(seededBytes(random, static_cast<std::size_t>(i) % 60));
+    }
 }
 
 }  // namespace

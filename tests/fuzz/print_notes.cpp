@@ -110,11 +110,13 @@ constexpr std::array pieces{"A"sv,
 std::string wildText(ByteSource& source) {
     std::string text;
     const std::size_t count = source.below(40);
-    for (std::size_t i = 0; i < count; ++i)
+    for (std::size_t i = 0; i < count; ++i) {
         text += source.of(pieces);
+    }
     if (source.oneIn(8) && !text.empty()) {
-        while (text.size() < 700)
+        while (text.size() < 700) {
             text += text;
+        }
     }
     return text;
 }
@@ -168,8 +170,9 @@ std::string madeNote(ByteSource& source) {
     note.entry = source.oneIn(2);
     test::NoteDraft draft = test::draftOf(note);
     draft.form["QT_MAX_IT"] = std::to_string(source.below(20));
-    if (source.oneIn(2))
+    if (source.oneIn(2)) {
         draft.form["QT_MAX_IT_NF_SRV"] = std::to_string(source.below(12));
+    }
     const std::size_t rarity = std::array<std::size_t, 4>{251, 60, 20, 6}[source.below(4)];
     mutate(draft.head, source, rarity);
     mutate(draft.totals, source, rarity);
@@ -195,8 +198,9 @@ std::string madeNote(ByteSource& source) {
          {"<ITEM", "<item"}}};
     if (source.oneIn(8)) {
         const auto& [from, to] = turns[source.below(turns.size())];
-        if (const std::size_t at = xml.find(from); at != std::string::npos)
+        if (const std::size_t at = xml.find(from); at != std::string::npos) {
             xml = xml.substr(0, at).append(to).append(xml, at + from.size());
+        }
     }
     return xml;
 }
@@ -210,8 +214,9 @@ constexpr std::array<std::pair<int, int>, 28> sessions{
 void printOn(Ladder ladder, const std::pair<int, int>& key, const std::string& xml,
              const std::string& number) {
     XmlDocument document;
-    if (!document.loadXML(xml))
+    if (!document.loadXML(xml)) {
         return;
+    }
     CheckingSpooler spooler;
     test::RecordingPrinter printer;
     test::ScriptedLoader http;
@@ -227,12 +232,15 @@ void printOn(Ladder ladder, const std::pair<int, int>& key, const std::string& x
     } catch (const RuntimeError&) {
         return;
     }
-    if (!spooler.closed())
+    if (!spooler.closed()) {
         broken("a note printed to its end left its job open");
-    if (!printer.operations.empty() && !printer.ended())
+    }
+    if (!printer.operations.empty() && !printer.ended()) {
         broken("a drawn note was not ended");
-    if (!document.empty())
+    }
+    if (!document.empty()) {
         broken("the document was kept");
+    }
 }
 
 }  // namespace
@@ -243,8 +251,9 @@ void printNotes(std::span<const std::uint8_t> bytes) {
     const std::string number(source.of(noteNumbers));
     const bool raw = source.oneIn(16);
     const std::string xml = raw ? std::string(source.rest()) : madeNote(source);
-    for (const Ladder ladder : {Ladder::Issuing, Ladder::Reprint})
+    for (const Ladder ladder : {Ladder::Issuing, Ladder::Reprint}) {
         printOn(ladder, key, xml, number);
+    }
 }
 
 }  // namespace tarn::fuzz

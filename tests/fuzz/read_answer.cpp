@@ -60,8 +60,9 @@ constexpr std::array names{"VL"sv, "vl"sv, "Nome"sv, "NOME"sv, "STATUS"sv, ""sv,
 
 std::string assembled(ByteSource& source) {
     std::string xml;
-    while (!source.empty())
+    while (!source.empty()) {
         xml += source.of(tokens);
+    }
     return xml;
 }
 
@@ -96,8 +97,9 @@ void checkRows(const XmlNode& node) {
             if (resultOf([&] { return reader.text(field); }) !=
                     resultOf([&] { return PegaValor(node, i, name); }) ||
                 resultOf([&] { return reader.number(field); }) !=
-                    resultOf([&] { return PegaValor(node, i, name, 0); }))
+                    resultOf([&] { return PegaValor(node, i, name, 0); })) {
                 broken("the reading of rows and that of one attribute differ");
+            }
         }
     }
 }
@@ -107,13 +109,16 @@ void checkNode(const XmlNode& node, int depth) {
     for (std::size_t i = 0; i < attributes.length(); ++i) {
         const XmlAttribute attribute = attributes.item(i);
         const XmlAttribute found = attributes.getNamedItem(attribute.name());
-        if (!found || found.text() != attribute.text())
+        if (!found || found.text() != attribute.text()) {
             broken("an attribute isn't found by its own name");
-        if (!attribute.name().ends_with(attribute.baseName()))
+        }
+        if (!attribute.name().ends_with(attribute.baseName())) {
             broken("a base name isn't the end of the name");
+        }
     }
-    if (attributes.item(attributes.length()))
+    if (attributes.item(attributes.length())) {
         broken("an attribute past the end");
+    }
     const std::size_t count = node.childCount();
     for (const std::string_view name : names) {
         for (std::size_t i = 0; i <= count && i < 4; ++i) {
@@ -124,17 +129,21 @@ void checkNode(const XmlNode& node, int depth) {
     checkRows(node);
     for (const std::string_view path : paths) {
         const XmlNodeList all = node.selectNodes(path);
-        if (static_cast<bool>(node.selectSingleNode(path)) != (all.length() > 0))
+        if (static_cast<bool>(node.selectSingleNode(path)) != (all.length() > 0)) {
             broken("one node and all nodes of a path differ");
-        if (all.item(all.length()))
+        }
+        if (all.item(all.length())) {
             broken("a node past the end of a list");
+        }
     }
-    if (node.childNodes().length() != count || node.child(count))
+    if (node.childNodes().length() != count || node.child(count)) {
         broken("children counted in two ways differ");
+    }
     for (std::size_t i = 0; i < count && depth < 6; ++i) {
         const XmlNode child = node.child(i);
-        if (!child)
+        if (!child) {
             broken("a counted child is missing");
+        }
         checkNode(child, depth + 1);
     }
 }
@@ -148,22 +157,26 @@ void readAnswer(std::span<const std::uint8_t> bytes) {
     const std::string answer = raw ? std::string(source.rest()) : assembled(source);
     XmlDocument document;
     const bool loaded = document.loadXML(answer);
-    if (loaded == document.empty())
+    if (loaded == document.empty()) {
         broken("a load's result and its document differ");
+    }
     attempt([&] { statusOf(document); });
     document.selectNodes(path);
     if (!loaded) {
-        if (document.documentElement() || !document.xml().empty() || document.childCount() != 0)
+        if (document.documentElement() || !document.xml().empty() || document.childCount() != 0) {
             broken("something is left of a failed load");
+        }
         return;
     }
     const XmlNode root = document.documentElement();
-    if (!root)
+    if (!root) {
         broken("a loaded answer without a root");
+    }
     checkNode(root, 0);
     XmlDocument again;
-    if (!again.loadXML(document.xml()))
+    if (!again.loadXML(document.xml())) {
         broken("an answer written out can't be read");
+    }
 }
 
 }  // namespace tarn::fuzz

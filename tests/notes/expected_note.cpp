@@ -41,12 +41,12 @@ public:
         : form_(form), map_(form.rows), note_(note), sums_(sums) {}
 
     ExpectedNote build() {
-        note_jobs_.jobs.emplace_back();
+        noteJobs_.jobs.emplace_back();
         setUp();
         while (row_ < map_.size()) {
             block();
         }
-        return std::move(note_jobs_);
+        return std::move(noteJobs_);
     }
 
 private:
@@ -58,7 +58,7 @@ private:
 
     void call(const std::string& text, int lineEnds, int mapLine, const std::string& what,
               const std::vector<MapField>& fields = {}) {
-        note_jobs_.jobs.back().push_back(
+        noteJobs_.jobs.back().push_back(
             {text, std::max(lineEnds, 0), line_, mapLine, what, fields});
         line_ += std::max(lineEnds, 0);
     }
@@ -79,7 +79,7 @@ private:
             return;
         }
         call(led(row().control), 0, 0, "set-up job");
-        note_jobs_.jobs.emplace_back();
+        noteJobs_.jobs.emplace_back();
         if (row().advance > 0) {
             emptyCall(row().advance, "line ends behind the set-up");
         }
@@ -227,7 +227,7 @@ private:
     const std::vector<MapRow>& map_;
     const NoteCase& note_;
     const Sums& sums_;
-    ExpectedNote note_jobs_;
+    ExpectedNote noteJobs_;
     std::size_t row_ = 0;
     int line_ = 1;
 };

@@ -16,8 +16,8 @@ inline constexpr notes::Items plainItems{
     .line = notes::row(1, notes::left(notes::Source::CD_PRO, 2, 5)), .lineEnds = 1};
 
 // Prints a form of the steps in one job; the note is the sample.
-template <std::size_t N>
-std::string streamOf(const notes::Step (&steps)[N], const NoteDraft& note,
+template <std::size_t count>
+std::string streamOf(const notes::Step (&steps)[count], const NoteDraft& note,
                      notes::Joined observation = notes::Joined::Labelled) {
     const notes::Form form{.length = 0, .observation = observation, .steps = steps};
     const std::vector<Job> jobs = print(form, note.xml());
