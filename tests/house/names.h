@@ -11,7 +11,7 @@
 namespace tarn::test {
 
 struct HashText {
-    using is_transparent = void;
+    using is_transparent = void;  // NOLINT(readability-identifier-naming)
     std::size_t operator()(std::string_view text) const {
         return std::hash<std::string_view>{}(text);
     }

@@ -17,6 +17,7 @@
 
 // Tries the shortcuts with a stroke as the window system's way does; QtGui exports it for
 // QTest, and offers no other door.
+// NOLINTNEXTLINE(readability-identifier-naming)
 extern Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, ulong timestamp, int key,
                                                       Qt::KeyboardModifiers modifiers,
                                                       const QString& text, bool isAutoRepeat,
