@@ -39,7 +39,7 @@ void writeElement(xmlTextWriter* writer, const Element& element) {
 }  // namespace
 
 std::optional<Encoding> encodingByName(std::string_view name) {
-    for (const Encoding encoding : {Encoding::Windows1252, Encoding::Iso8859_1, Encoding::Utf8}) {
+    for (const Encoding encoding : {Encoding::Windows1252, Encoding::Iso8859, Encoding::Utf8}) {
         if (name == encodingName(encoding)) {
             return encoding;
         }
@@ -49,7 +49,7 @@ std::optional<Encoding> encodingByName(std::string_view name) {
 
 std::string_view encodingName(Encoding encoding) {
     switch (encoding) {
-        case Encoding::Iso8859_1:
+        case Encoding::Iso8859:
             return "iso-8859-1";
         case Encoding::Utf8:
             return "utf-8";

@@ -9,7 +9,7 @@
 
 namespace tarn::practice {
 
-enum class Encoding { Windows1252, Iso8859_1, Utf8 };
+enum class Encoding { Windows1252, Iso8859, Utf8 };
 
 std::optional<Encoding> encodingByName(std::string_view name);  // as the declaration spells it
 std::string_view encodingName(Encoding encoding);
