@@ -1,5 +1,5 @@
 // What a command answers, before it is written out: elements and attributes in
-// the order in which they are to stand.
+// the order in which they go out.
 #pragma once
 
 #include <optional>

@@ -47,7 +47,7 @@ int companyIndex(int company);  // place in its table, from 0
 // table, from 1. 0 for one that isn't there.
 int establishmentId(int company, int code);
 
-// The establishments of a company, which stand together in their table.
+// The establishments of a company, which are together in their table.
 struct Branches {
     int first = 0;  // the database's own number
     int count = 0;

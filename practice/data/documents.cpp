@@ -64,7 +64,7 @@ std::int64_t amountOf(int i, Dice& dice) {
     return static_cast<std::size_t>(i) < firstNumbers.size() ? turn(firstNumbers, i) : drawn;
 }
 
-// A third of the documents stand in no portfolio, receipts never do.
+// A third of the documents are in no portfolio, receipts never do.
 std::optional<int> drawnPortfolio(int kind, Dice& dice) {
     const int count = static_cast<int>(portfolioRows().size());
     const int row = dice.below(count + count / 2);

@@ -12,7 +12,7 @@ QUrl urlOf(const std::string& address) {
     return QUrl(QString::fromStdString(address), QUrl::StrictMode);
 }
 
-// Without the password, wherever in the address it stands.
+// Without the password, wherever in the address it is.
 std::string withoutPassword(QUrl url) {
     url.setPassword({});
     QUrlQuery query(url);

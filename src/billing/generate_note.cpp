@@ -35,7 +35,7 @@ struct GeneratedNote {
     std::string name() const { return noteName(number); }
 };
 
-// The note stands on the server; its paper is up to the reprint screen.
+// The note exists on the server; its paper is up to the reprint screen.
 GenerationEnd notPrinted(const Environment& environment, const GeneratedNote& note,
                          GenerationEnd end) {
     tellDone(environment, note.name() + " da ordem " + note.order +

@@ -23,7 +23,7 @@ using PrintStep =
     std::function<void(Environment&, const Sessao&, XmlDocument&, const std::string& note)>;
 
 // Everything from the observations to the printed note. The caller has switched
-// its timer off. The two cases in which the note stands on the server and can't be
+// its timer off. The two cases in which the note exists on the server and can't be
 // printed here, and every error of a layout, come out as ErrorAfterNote.
 GenerationEnd generateNote(Environment& environment, Sessao& session, AlertDialog& alert,
                            const std::string& order, const PrintStep& print);

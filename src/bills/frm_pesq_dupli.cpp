@@ -75,7 +75,7 @@ void FrmPesqDupli::takeCustomer(const Customer& customer) {
     showCustomer(*ui_->txtCliente, customer.id, customer.name);
 }
 
-// The first activation comes when the screen stands before the user.
+// The first activation comes when the user sees the screen.
 void FrmPesqDupli::opened() {
     QMetaObject::invokeMethod(this, &FrmPesqDupli::activate, Qt::QueuedConnection);
 }

@@ -29,7 +29,7 @@ struct BankAccount {
 std::optional<std::vector<BankAccount>> loadAccounts(Environment& environment,
                                                      const Sessao& session);
 
-// The screen's fields as they stand.
+// The screen's fields as they are.
 struct ChequeFields {
     std::optional<BankAccount> account = std::nullopt;  // none: the first item, or no item at all
     std::string number = {};

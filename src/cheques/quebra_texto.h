@@ -7,7 +7,7 @@
 namespace tarn {
 
 // Lines are joined by character 13. The blank between two words isn't counted, so a
-// line may be `width` + 1 characters long; a longer word stands alone on its line.
+// line may be `width` + 1 characters long; a longer word is alone on its line.
 // Blanks ahead of the first word are lost, doubled ones inside a line stay.
 std::string QuebraTexto(std::string_view text, std::size_t width);
 

@@ -1,4 +1,4 @@
-// Message boxes as the routines show them; their texts stand at the routines.
+// Message boxes as the routines show them; their texts are at the routines.
 #pragma once
 
 #include <string>

@@ -34,7 +34,7 @@ std::string monthOf(std::string_view typed, const Date& today) {
     return formatText(midOf(typed, 3, 2), "00");
 }
 
-// A year of one to three characters stands behind "2" and zeros: 5 is 2005.
+// A year of one to three characters comes behind "2" and zeros: 5 is 2005.
 std::string yearOf(std::string_view typed, const Date& today) {
     if (lengthOf(typed) < 5) {
         return formatNumber(today.year, "0000");

@@ -18,8 +18,8 @@ class XmlDocument;
 enum class Treatment {
     Tick,               // none: a check box, whose heading ticks all rows at once
     TickAlone,          // none: a check box, whose heading does nothing
-    Text,               // as it stands
-    Number,             // as it stands, at the right edge
+    Text,               // as it is
+    Number,             // as it is, at the right edge
     Amount,             // read with a point as decimal mark, shown under "###,##0.00"
     Quantity,           // the same under "###,###,###,##0.000"
     CpfCnpj,            // masked for the kind of person that PES_JUR tells

@@ -242,7 +242,7 @@ void MDIMenu::LiberaMenus() {
     ui_->mnuNF->setEnabled(true);
 }
 
-// Screens stand in the middle of the desk's width, at its top.
+// Screens open in the middle of the desk's width, at its top.
 void MDIMenu::centre(QMdiSubWindow* window) {
     if (window != nullptr && !window->isMaximized()) {
         window->move((ui_->mdiArea->viewport()->width() - window->width()) / 2, 0);

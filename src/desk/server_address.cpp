@@ -30,7 +30,7 @@ bool hasHost(std::string_view server) {
     return !host.empty() && host.front() != ':';
 }
 
-// A path without a query: that of a page stands, a folder gets the page.
+// A path without a query: that of a page is kept, a folder gets the page.
 std::string withPage(std::string_view path) {
     while (path.ends_with('/')) {
         path.remove_suffix(1);

@@ -79,10 +79,10 @@ struct PaperLine {
     std::size_t jobLine = 0;  // line and form feeds since the job began, from 1
     // Columns that an earlier job had passed in this row when this one began.
     std::uint16_t columnsBefore = 0;
-    std::vector<Cell> cells;  // in the order of printing; an overprint stands later
+    std::vector<Cell> cells;  // in the order of printing; an overprint comes later
 };
 
-// Where the printer stands on the paper, for going on from there later.
+// Where the printer is on the paper, for going on from there later.
 struct PaperPosition {
     std::size_t form = 0;  // from 0
     Form shape{};          // of that form
@@ -104,7 +104,7 @@ public:
     // Goes on from a position; what was printed before it is not on this paper.
     explicit ContinuousPaper(const PaperPosition& position);
 
-    // A new job goes on where the paper stands; the first job is 1.
+    // A new job goes on where the paper is; the first job is 1.
     void startJob();
     // Feeds one row of `distance` (0 and up), over perforations where it must.
     void feedRow(PaperUnits distance);
@@ -112,7 +112,7 @@ public:
     void feedFine(PaperUnits distance);
     void feedToNextForm();
     // The present row becomes the first of a form of this height (above 0), and so do
-    // all that follow it. What stands in the row goes along.
+    // all that follow it. What is in the row goes along.
     void setFormHeight(PaperUnits height);
     // Puts a character into the present row. `columnsBefore` as in PaperLine.
     void print(const Cell& cell, std::uint16_t columnsBefore);
@@ -126,13 +126,13 @@ public:
     const FormTable& forms() const { return forms_; }
     // In the order of printing: ascending by y, forms in order.
     const std::vector<PaperLine>& lines() const { return lines_; }
-    // Lets go of what stands on the forms before this one; their shapes stay known.
+    // Lets go of what is on the forms before this one; their shapes stay known.
     void forgetFormsBefore(std::size_t form);
 
     // Forms up to the last on which something is printed, 1 at least: a job whose last
     // line end just reaches the next form doesn't spoil a sheet.
     std::size_t printedForms() const { return printedForms_; }
-    // Index range [first, last) in lines() of what stands on a form.
+    // Index range [first, last) in lines() of what is on a form.
     std::size_t firstLineOf(std::size_t form) const;
     // Right edge of the rightmost character.
     PaperUnits contentWidth() const { return contentWidth_; }

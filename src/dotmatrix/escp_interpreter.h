@@ -31,13 +31,13 @@ class EscpInterpreter {
 public:
     // The paper must have been made with the dialect's form height and outlive this.
     EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect);
-    // Goes on with a printer in that state; the paper must stand where it stood then.
+    // Goes on with a printer in that state; the paper must be where it was then.
     EscpInterpreter(ContinuousPaper& paper, const Dialect& dialect, PrinterState state);
 
     EscpInterpreter(const EscpInterpreter&) = delete;
     EscpInterpreter& operator=(const EscpInterpreter&) = delete;
 
-    // A new job goes on where the head stands, also in the middle of a line.
+    // A new job goes on where the head is, also in the middle of a line.
     void startJob();
     void feed(std::string_view bytes);
 

@@ -67,7 +67,7 @@ void paintBox(QPainter& painter, const FormBox& box, double left) {
     painter.setPen(QPen(formInk, boxLine));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(frame);
-    // With half a line to spare the words stand above the print.
+    // With half a line to spare the words are above the print.
     const bool roomy = box.height % lineHeight != 0;
     const double points = roomy ? roomyLabel : tightLabel;
     paintLetters(painter, frame.topLeft() + QPointF(1.0, points * 0.95), points,

@@ -11,7 +11,7 @@ class QPainter;
 
 namespace tarn::dotmatrix {
 
-// The painter's unit is the point; `left` is where the first print position stands.
+// The painter's unit is the point; `left` is where the first print position is.
 void paintDesign(QPainter& painter, const FormDesign& form, double left);
 
 // The picture stretched over `sheet`.

@@ -72,7 +72,7 @@ std::optional<QString> PaperRoll::feed(std::string_view bytes) {
     return std::nullopt;
 }
 
-// Byte by byte: a mark must stand right behind the byte that began a form.
+// Byte by byte: a mark must be right behind the byte that began a form.
 void PaperRoll::printLive(std::string_view bytes) {
     const std::size_t first = paper_->currentForm();
     std::size_t form = first;

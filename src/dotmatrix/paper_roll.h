@@ -31,7 +31,7 @@ class PaperRoll {
 public:
     explicit PaperRoll(const Dialect& dialect);
 
-    // A job goes on where the paper stands. Bytes before the first job make one
+    // A job goes on where the paper is. Bytes before the first job make one
     // without a name.
     void startJob(std::string name);
     // Prints the bytes; nothing, or why they could not be kept (they are then not

@@ -15,7 +15,7 @@ std::string textOf(const ContinuousPaper& paper);
 
 // The lines of one form, without the form feed.
 void appendText(std::string& out, const FormPage& page);
-// What stands in one row, without blanks at its end; the cells are of that row.
+// What is in one row, without blanks at its end; the cells are of that row.
 void putInto(std::u16string& row, const Cell& cell);
 
 }  // namespace tarn::dotmatrix

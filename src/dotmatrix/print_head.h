@@ -1,4 +1,4 @@
-// The head of the printer: where it stands in the line, and how the next character
+// The head of the printer: where it is in the line, and how the next character
 // comes onto the paper.
 #pragma once
 
@@ -30,7 +30,7 @@ public:
     void carriageReturn();
     void horizontalTab();
     void backspace();
-    // With the place where it stands.
+    // With its place.
     void note(NoticeKind kind, std::string bytes);
 
 private:

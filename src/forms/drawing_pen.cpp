@@ -136,7 +136,7 @@ int DrawingPen::belowParcels(const notes::Parcels& block, int count) {
     return std::max(0, notes::check::heightOf(block) - count / block.perRow * block.rowEnds);
 }
 
-// One box for all of them. What stands below the items finds the head at the left: control
+// One box for all of them. What is below the items finds the head at the left: control
 // bytes there are on the line below the last item, which is seldom the last line of the box.
 void DrawingPen::items(const notes::Items& block) {
     if (itemLines_ == 0) {

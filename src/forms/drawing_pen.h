@@ -1,5 +1,5 @@
 // The pen that draws a form: it sends the form's own bytes and line ends to a printer, as
-// a note does, and keeps a box wherever the head stands when a field begins.
+// a note does, and keeps a box wherever the head is when a field begins.
 #pragma once
 
 #include <span>
@@ -30,7 +30,7 @@ public:
 
     void setUp(std::string_view bytes);
     void control(std::string_view bytes);
-    void margin(int) {}  // a box stands where its field's column is
+    void margin(int) {}  // a box is where its field's column is
     void fields(std::span<const notes::Field> list);
     void end(int lineEnds);
 

@@ -39,7 +39,7 @@ std::vector<NamedForm> namedForms() {
     return forms;
 }
 
-// The boxes of a line grow half a line upwards, for their words, where nothing stands
+// The boxes of a line grow half a line upwards, for their words, where nothing is
 // above any of them.
 void giveHeadroom(std::vector<FormBox>& boxes) {
     std::set<PaperUnits> tight;

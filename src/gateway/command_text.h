@@ -1,4 +1,4 @@
-// How the text of a command is put together, and the forms in which values stand in it.
+// How the text of a command is put together, and the forms in which values appear in it.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 
 namespace tarn::commands {
 
-// A key with its separators, such as "&ServerName=", and what stands behind it.
+// A key with its separators, such as "&ServerName=", and what follows it.
 struct Parameter {
     std::string_view key;
     std::string value;

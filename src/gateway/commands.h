@@ -1,5 +1,5 @@
 // The commands of the server's one page: each function gives the query text that
-// stands behind BaseUrl. Keys keep the spelling and order in which the server knows
+// follows BaseUrl. Keys keep the spelling and order in which the server knows
 // them; values go as they are. Item data of a list is a 32-bit integer; where an item
 // data of 0 means "all", nothing is sent behind the key's "=".
 #pragma once

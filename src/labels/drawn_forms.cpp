@@ -96,7 +96,7 @@ constexpr double left = 1;
 constexpr double lineStep = 0.8;
 constexpr std::size_t fullLine = 45;  // characters
 
-// What stands of a block where on the page; centimetres.
+// What of a block is where on the page; centimetres.
 struct Block {
     std::string_view title;
     double titleY = 0;
@@ -165,7 +165,7 @@ private:
     double y_;
 };
 
-// Down to the postal code, in whose line the column then stands.
+// Down to the postal code, in whose line the column then is.
 Column printBlock(Environment& environment, const Block& block, const Address& address) {
     ImprimeLinha(environment, block.title, left, block.titleY, titleSize);
     ImprimeLinha(environment, "=====================", left, block.strokeY, strokeSize);

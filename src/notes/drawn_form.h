@@ -26,7 +26,7 @@ struct DrawnParcels {
     double y = 0;
     double step = 0;
     int limit = 0;               // the highest QTDE_PARC that is drawn
-    std::string_view message{};  // stands at `y` above the limit
+    std::string_view message{};  // printed at `y` above the limit
     Row row{};
 };
 

@@ -30,7 +30,7 @@ constexpr bool isText(Source source) {
     return source == Source::LegalText || source == Source::Observation;
 }
 
-// What is in hand where a field stands.
+// What is in hand where a field prints.
 struct InHand {
     bool item = false;
     bool parcel = false;

@@ -64,7 +64,7 @@ void lose(Run& run, Loss::Kind kind, int item, std::size_t position, int limit) 
                      .limit = limit});
 }
 
-// Lines that the form doesn't have push all that stands below.
+// Lines that the form doesn't have push all that is below.
 void watchLines(const Items& block, int mostItems, int printed, Run& run) {
     const int spare = mostItems - printed + (block.fillsForm ? block.constant : 0);
     if (run.losses != nullptr && spare < 0) {

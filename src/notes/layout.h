@@ -3,7 +3,7 @@
 // shapes a layout file is written in; the pipeline prints them.
 //
 // Columns count from 1 as on the form; column 1 is the blank that every line
-// begins with, so the first field stands in column 2 at the earliest. Widths count
+// begins with, so the first field is in column 2 at the earliest. Widths count
 // characters. An advance is the number of line ends behind a line.
 #pragma once
 
@@ -60,7 +60,7 @@ struct Place {
 
 struct Parcels {
     int limit = 0;               // the highest QTDE_PARC that prints
-    std::string_view message{};  // stands in the block above the limit
+    std::string_view message{};  // printed in the block above the limit
     int perRow = 1;
     std::array<Place, 4> places{};
     // Line ends of the block's last call, by QTDE_PARC from 0 to `limit`, and of the
@@ -73,7 +73,7 @@ struct Parcels {
 
 // What becomes of item rows past QT_MAX_IT.
 enum class Overflow : std::uint8_t {
-    Pushing,  // all print, what stands below moves down
+    Pushing,  // all print, what is below moves down
     Cutting,  // they are dropped
 };
 
@@ -93,7 +93,7 @@ struct Items {
     bool legalTexts = true;           // collects DC_TXT_LEG_NF
     bool classes = false;             // collects the class line
     bool sums = false;                // adds up quantities and weights
-    bool services = false;            // the service block stands below the products
+    bool services = false;            // the service block is below the products
     std::string_view controlAfter{};  // control bytes behind the last item
     bool fillsForm = true;            // blank lines up to QT_MAX_IT
     int constant = 0;                 // blank lines more (or less)

@@ -17,7 +17,7 @@ struct Loss {
         Amount,          // digits that have no room: what prints is another number
         Item,            // an item row that doesn't print, for want of lines
         Unplaced,        // an item row that doesn't print: the form has no place for its kind
-        ItemsOver,       // more item lines than the form's; all below stands lower
+        ItemsOver,       // more item lines than the form's; all below is lower
         ParcelsOverflow  // none prints
     };
     Kind kind{};
@@ -41,7 +41,7 @@ class LossLog {
 public:
     const std::vector<Loss>& losses() const { return losses_; }
 
-    // Where the run stands.
+    // Where the run is.
     void lineEnds(int count) { line_ += count; }
     void drawnPage() { line_ = 0; }
     void item(int number) { item_ = number; }

@@ -23,7 +23,7 @@ public:
     explicit NoteDocument(const XmlDocument& document);
 
     bool present(Source source) { return readerOf(source).present(fieldOf(source)); }
-    // Text reading: the text as it stands, "" when absent.
+    // Text reading: the text as it is, "" when absent.
     std::string_view text(Source source) { return readerOf(source).text(fieldOf(source)); }
     // Amount reading: "." turned into ",", `absent` when absent.
     std::string_view amount(Source source, std::string_view absent = "0") {

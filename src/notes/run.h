@@ -54,7 +54,7 @@ struct Run {
         }
     }
 
-    // One call of the channel with what stands in `line`, which is empty afterwards.
+    // One call of the channel with what is in `line`, which is empty afterwards.
     void send(int lineEnds) {
         channel->ImprimeRaw(1, line, lineEnds);
         line.clear();

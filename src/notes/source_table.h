@@ -15,10 +15,10 @@ namespace tarn::notes {
 // one where its form differs.
 enum class Rule : std::uint8_t {
     // An attribute of the document, whichever it is.
-    AsText,      // as it stands
+    AsText,      // as it is
     AsAmount,    // with a decimal comma, "0" when absent, no mask
     Masked,      // an amount under the field's mask; empty stays empty
-    MaskedText,  // under the field's mask where it is a number, else as it stands
+    MaskedText,  // under the field's mask where it is a number, else as it is
     PostalCode,  // 00000-000
     BlankZero,   // nothing for "0"
     FourZeros,   // "0000" for "0"

@@ -14,7 +14,7 @@ class HttpLoader {
 public:
     virtual ~HttpLoader() = default;
     // `address` is the plain text of the whole URL (UTF-8). The loader percent-encodes
-    // what may not stand in a request line. The result says whether it failed; an
+    // what may not be in a request line. The result says whether it failed; an
     // exception means that something unexpected went wrong.
     virtual HttpAnswer get(const std::string& address) = 0;
 

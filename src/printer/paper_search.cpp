@@ -21,7 +21,7 @@ QString folded(const QString& text) {
     return out;
 }
 
-// All rows of a form: what stands in it, and where.
+// All rows of a form: what is in it, and where.
 struct Row {
     std::u16string text;
     std::vector<const Cell*> cells;

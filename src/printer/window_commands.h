@@ -17,7 +17,7 @@ struct Command {
     QString text{};
     QKeySequence keys{};
     QString hint{};
-    bool inTools = false;  // stands in the tool bar too
+    bool inTools = false;  // is in the tool bar too
 };
 
 class WindowCommands {

@@ -50,7 +50,7 @@ bool appendText(std::string& out, std::string_view text, const NumberMask& mask)
 
 // A "@" mask over a text (UTF-8, one character a placeholder): filled from the
 // right; a placeholder left over prints a blank, the mask's punctuation always
-// prints, characters beyond the mask stand in front of it.
+// prints, characters beyond the mask come in front of it.
 std::string fillMask(std::string_view text, std::string_view mask);
 
 }  // namespace tarn

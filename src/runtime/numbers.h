@@ -9,7 +9,7 @@
 namespace tarn {
 
 // Comma-reading conversion (decision D3): blanks around, an optional sign, digits in which
-// points may stand anywhere after the first one (dropped), optionally a comma and
+// points may be anywhere after the first one (dropped), optionally a comma and
 // more digits, at least one digit in all. Nothing else is a number.
 std::optional<double> parseComma(std::string_view text);
 bool isNumeric(std::string_view text);

@@ -62,7 +62,7 @@ void frmPesqBoleto::takeCustomer(const Customer& customer) {
     showCustomer(*ui_->txtCliente, customer.id, customer.name);
 }
 
-// The first activation comes when the screen stands before the user.
+// The first activation comes when the user sees the screen.
 void frmPesqBoleto::opened() {
     QMetaObject::invokeMethod(this, &frmPesqBoleto::activate, Qt::QueuedConnection);
 }

@@ -23,7 +23,7 @@ struct Portfolio {
     bool isWallet57() const;
 };
 
-// With several rows the last one stands, each field on its own.
+// With several rows the last one counts, each field on its own.
 Portfolio portfolioOf(const XmlDocument& answer);
 
 // By the item data of the list; nothing: the user has been told.

@@ -1,4 +1,4 @@
-// Form of company 2041: 186 columns in condensed print. The legal text stands beside
+// Form of company 2041: 186 columns in condensed print. The legal text is beside
 // the column of the order references (decision N36). With a full form it grows by a line (N25).
 #include "notes/form_check.h"
 #include "notes/form_rows.h"

@@ -1,4 +1,4 @@
-// Form of company 2321: the note number stands among the order references only. The
+// Form of company 2321: the note number is among the order references only. The
 // second and third piece of the legal text share a character.
 #include "notes/form_check.h"
 #include "notes/form_rows.h"

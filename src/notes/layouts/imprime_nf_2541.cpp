@@ -50,7 +50,7 @@ constexpr DrawnStep steps[] = {
                    right(VALOR_UN, 75, 9), right(LineTotal, 86, 10),
                    as(Rule::AsAmount, right(ICMS, 98, 4)), as(Rule::AsAmount, right(IPI, 102, 4)))},
 
-    // The withheld tax stands twice, the first time in the place of its base.
+    // The withheld tax is there twice, the first time in the place of its base.
     drawn(25.0, right(VALOR_BASE_ICMS, 2, 15), right(VALOR_ICMS, 19, 15),
           right(VALOR_ICMS_RTD, 36, 15), right(VALOR_ICMS_RTD, 53, 15), right(VALOR_TOTAL, 70, 15)),
     drawn(25.5, right(VALOR_FRETE, 2, 15), right(VALOR_SEGURO, 19, 15),

@@ -1,4 +1,4 @@
-// Form of company 2801: wide paper, 166 columns. The parcels stand in the box of the
+// Form of company 2801: wide paper, 166 columns. The parcels are in the box of the
 // additional data, above the legal text. Six of them fill it, and what is left of their
 // last row goes ahead of the legal text on its line.
 #include "notes/form_check.h"

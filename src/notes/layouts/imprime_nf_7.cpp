@@ -1,5 +1,5 @@
 // Form of company 7: neither parcels nor carrier, and two fixed texts in the box of
-// the legal text. The date of issue stands twice.
+// the legal text. The date of issue is there twice.
 #include "notes/form_check.h"
 #include "notes/form_rows.h"
 #include "notes/layouts/layouts.h"

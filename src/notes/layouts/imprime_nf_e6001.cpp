@@ -1,6 +1,6 @@
 // Form of establishment 6001. The recipient, the totals and the carrier print in plain
 // pitch, date, items and parcels condensed; columns count from the left of each call.
-// The parcels stand below the items.
+// The parcels are below the items.
 #include "notes/form_check.h"
 #include "notes/form_rows.h"
 #include "notes/layouts/layouts.h"
