@@ -93,7 +93,7 @@ double growthOf(std::map<int, std::vector<double>>& times) {
 }
 
 // One round searches for every size, so that a busy machine slows all alike.
-void bill_search(benchmark::State& state) {
+void billSearch(benchmark::State& state) {
     std::map<int, std::string> answers;
     for (const int rows : sizes) {
         answers[rows] = documentsOf(rows);
@@ -117,7 +117,7 @@ void bill_search(benchmark::State& state) {
             benchmark::Counter(leastOf(filled[rows]) * 1e6 / rows);
     }
 }
-BENCHMARK(bill_search)->Iterations(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(billSearch)->Iterations(7)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

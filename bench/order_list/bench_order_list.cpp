@@ -71,7 +71,7 @@ std::map<int, std::vector<double>>& measured() {
 }
 
 // One round fills the list with every size, so that a busy machine slows all alike.
-void order_list(benchmark::State& state) {
+void orderList(benchmark::State& state) {
     std::map<int, std::string> answers;
     for (const int rows : sizes) {
         answers[rows] = ordersOf(rows);
@@ -93,7 +93,7 @@ void order_list(benchmark::State& state) {
             benchmark::Counter(leastOf(measured()[rows]) * 1e6 / rows);
     }
 }
-BENCHMARK(order_list)->Iterations(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(orderList)->Iterations(7)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -41,9 +41,9 @@ constexpr const char* reference =
     "FEITA. DESCONTO DE 2% ATÉ 10 DIAS ANTES DO VENCIMENTO, SOMENTE COM AUTORIZAÇÃO. OS JUROS SÃO "
     "CONTADOS POR DIA CORRIDO & O PAGAMENTO PARCIAL NÃO É ACEITO.";
 
-template <class T, std::size_t N>
-T turn(const std::array<T, N>& turns, int i) {
-    return turns[static_cast<std::size_t>(i) % N];
+template <class T, std::size_t count>
+T turn(const std::array<T, count>& turns, int i) {
+    return turns[static_cast<std::size_t>(i) % count];
 }
 
 Bind referenceText(int i) {

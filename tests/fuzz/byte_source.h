@@ -26,9 +26,9 @@ public:
     }
     std::size_t below(std::size_t count) { return byte() % count; }
     bool oneIn(std::size_t count) { return byte() % count == count - 1; }
-    template <std::size_t N>
-    std::string_view of(const std::array<std::string_view, N>& pool) {
-        return pool[below(N)];
+    template <std::size_t size>
+    std::string_view of(const std::array<std::string_view, size>& pool) {
+        return pool[below(size)];
     }
     std::string_view rest() {
         const std::string_view all(reinterpret_cast<const char*>(bytes_.data()), bytes_.size());
