@@ -32,8 +32,9 @@ BankAccount accountOf(const XmlNode& rowset, std::size_t index) {
         .append(account.CD_AGE_BAN)
         .append(" - ")
         .append(account.NR_CCOR);
-    if (const XmlAttribute name = rowset.child(index).attributes().getNamedItem("DC_CCOR")) {
-        account.description.append(" - ").append(name.text());
+    const std::string name = PegaValor(rowset, index, "DC_CCOR");
+    if (rowset.child(index).attributes().getNamedItem("DC_CCOR")) {
+        account.description.append(" - ").append(name);
     }
     return account;
 }

@@ -82,10 +82,16 @@ void FrmLogon::btnLogin_Click() {
     }
 }
 
+// The pointer is busy only once there is something to wait for.
 bool FrmLogon::tryLogon() {
+    const std::string company = ui_->txtEmpresa->text().toStdString();
+    const std::string user = ui_->txtUsuario->text().toStdString();
+    const std::string password = ui_->txtSenha->text().toStdString();
+    if (!canLogOn(desk_.environment, company, user, password)) {
+        return false;
+    }
     const WaitCursor hourglass;
-    return logOn(desk_.environment, desk_.session, ui_->txtEmpresa->text().toStdString(),
-                 ui_->txtUsuario->text().toStdString(), ui_->txtSenha->text().toStdString());
+    return logOn(desk_.environment, desk_.session, company, user, password);
 }
 
 }  // namespace tarn

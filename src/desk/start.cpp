@@ -109,15 +109,17 @@ bool imposeDateFormat(Environment& environment) {
     return false;
 }
 
+bool canLogOn(Environment& environment, const std::string& company, const std::string& user,
+              const std::string& password) {
+    return filledIn(environment, company, "Empresa") && filledIn(environment, user, "Usuário") &&
+           filledIn(environment, password, "Senha");
+}
+
 bool logOn(Environment& environment, Sessao& session, const std::string& company,
            const std::string& user, const std::string& password) {
-    if (!filledIn(environment, company, "Empresa") || !filledIn(environment, user, "Usuário") ||
-        !filledIn(environment, password, "Senha")) {
-        return false;
-    }
     XmlDocument document;
     CarregaXML(environment, environment.baseUrl + commands::LOGIN(company, user, password),
-               document, false, "", -1, "", std::string(failure::Tarn0001));
+               document, false, "", -1, "", std::string(failure::Tarn0001), session.PrefixoArquivo);
     if (!answerAccepted(environment, document, "Houve um problema para efetuar o Login.")) {
         return false;
     }

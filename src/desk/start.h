@@ -19,6 +19,10 @@ bool VerVersao(Environment& environment, Sessao& session, std::string_view versi
 // program must end.
 bool imposeDateFormat(Environment& environment);
 
+// Whether none of the three is empty; false: the user has been told.
+bool canLogOn(Environment& environment, const std::string& company, const std::string& user,
+              const std::string& password);
+
 // One try at the logon with the three texts as typed. True: `session` is filled.
 // False: the user has been told; the screen stays. Anything unexpected comes out as
 // an exception, for the screen's handler.

@@ -13,9 +13,9 @@
 namespace tarn {
 namespace {
 
-// No prefix is ever set: the copy lands in the current directory.
-std::string copyName(const std::string& fileName) {
-    return fileName + ".XML";
+// Without a prefix the copy lands in the current directory.
+std::string copyName(const std::string& prefix, const std::string& fileName) {
+    return prefix + fileName + ".XML";
 }
 
 void erase(const std::string& file) {
@@ -48,10 +48,11 @@ bool load(Environment& environment, const std::string& url, XmlDocument& documen
 
 bool CarregaXML(Environment& environment, const std::string& url, XmlDocument& document,
                 bool /*asynchronous*/, const std::string& fileName, int writesFile,
-                const std::string& /*reserved*/, const std::string& failureMessage) {
+                const std::string& /*reserved*/, const std::string& failureMessage,
+                const std::string& PrefixoArquivo) {
     const bool wantsCopy = !fileName.empty() && writesFile > 0;
     try {
-        return load(environment, url, document, wantsCopy ? copyName(fileName) : "",
+        return load(environment, url, document, wantsCopy ? copyName(PrefixoArquivo, fileName) : "",
                     failureMessage);
     } catch (const std::exception& error) {
         environment.boxes.show({.text = error.what(), .icon = BoxIcon::Critical, .title = "Aviso"});

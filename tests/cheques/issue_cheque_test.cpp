@@ -302,5 +302,10 @@ TEST_F(IssueChequeTest, AnEmptyAnswerIsToldAndOneWithoutAStatusIsAnError) {
     EXPECT_EQ(seams_.spooler.jobs.size(), 1U);
 }
 
+TEST_F(IssueChequeTest, ANameOfTheAccountInAnotherSpellingIsAnError) {
+    seams_.loader.on("sel_banco_agencia_conta", answers::rowset("<z:row dc_ccor='MATRIZ'/>"));
+    EXPECT_THROW(loadAccounts(environment_, session_), RuntimeError);
+}
+
 }  // namespace
 }  // namespace tarn::test

@@ -117,9 +117,9 @@ TEST_F(StartTest, DateFormatRefused) {
 // Logon
 
 TEST_F(StartTest, EmptyFieldsAreRefusedInOrderWithoutARequest) {
-    EXPECT_FALSE(logOn(environment_, session_, "", "", ""));
-    EXPECT_FALSE(logOn(environment_, session_, "e", "", ""));
-    EXPECT_FALSE(logOn(environment_, session_, "e", "u", ""));
+    EXPECT_FALSE(canLogOn(environment_, "", "", ""));
+    EXPECT_FALSE(canLogOn(environment_, "e", "", ""));
+    EXPECT_FALSE(canLogOn(environment_, "e", "u", ""));
     EXPECT_EQ(seams_.boxes.shown,
               (std::vector<Box>{exclamation("Empresa é um campo obrigatório     ", "Aviso"),
                                 exclamation("Usuário é um campo obrigatório     ", "Aviso"),
@@ -129,6 +129,7 @@ TEST_F(StartTest, EmptyFieldsAreRefusedInOrderWithoutARequest) {
 
 TEST_F(StartTest, BlanksGoToTheServer) {
     seams_.loader.on("LOGIN", header + "<R a='' s='ok'/>");
+    EXPECT_TRUE(canLogOn(environment_, " ", "  ", "   "));
     EXPECT_FALSE(logOn(environment_, session_, " ", "  ", "   "));
     EXPECT_EQ(seams_.loader.queries(),
               std::vector<std::string>{"comando=LOGIN&EMPRESA= &USUARIO=  &SENHA=   "});

@@ -104,6 +104,20 @@ TEST_F(CarregaXMLTest, KeepsACopyAndAFailedLoadDeletesIt) {
     EXPECT_EQ(seams_.boxes.shown.size(), 2U);
 }
 
+TEST_F(CarregaXMLTest, TheCopysNameBeginsWithThePrefix) {
+    seams_.loader.on("comando=x", "<R/>").failOn("comando=x");
+    fs::create_directory("copias");
+    const auto get = [this] {
+        return CarregaXML(seams_.environment, seams_.environment.baseUrl + "comando=x", document_,
+                          false, "copia", 1, "", "", "copias/9_");
+    };
+    EXPECT_TRUE(get());
+    EXPECT_TRUE(fs::exists("copias/9_copia.XML"));
+    EXPECT_FALSE(fs::exists("copia.XML"));
+    EXPECT_FALSE(get());
+    EXPECT_FALSE(fs::exists("copias/9_copia.XML"));
+}
+
 TEST_F(CarregaXMLTest, ACopyThatCannotBeWrittenFailsTheLoad) {
     seams_.loader.on("comando=x", "<R/>");
     EXPECT_FALSE(load("sem/esta/pasta", 1));

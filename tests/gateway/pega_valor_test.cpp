@@ -41,6 +41,17 @@ TEST_F(PegaValorTest, PresenceIgnoresCaseAndTheLookupDoesNot) {
     expectObjectError([&] { PegaValor(node, 0, "UserCode", 0); });
 }
 
+TEST_F(PegaValorTest, AnotherSpellingIsReportedByBothNames) {
+    const XmlNode& node = load("<L Nm_Fil='x'/>");
+    try {
+        PegaValor(node, 0, "NM_FIL");
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.description(),
+                  "Falta um dado na resposta do servidor: o campo NM_FIL vem com o nome Nm_Fil");
+    }
+}
+
 TEST_F(PegaValorTest, TheLookupTakesItsOwnSpellingWhereverItStands) {
     const XmlNode& node = load("<L razao='lower' RAZAO='UPPER'/>");
     EXPECT_EQ(PegaValor(node, 0, "RAZAO"), "UPPER");
