@@ -71,8 +71,9 @@ void frmManutDetOFT::prepareFields() {
 
 void frmManutDetOFT::prepareButtons() {
     const Buttons buttons(this, setLargeIcon);
-    buttons.add(ui_->cmdOk, "save", &frmManutDetOFT::cmdOk_Click);
-    buttons.add(ui_->cmdCancelar, "give_up", &QDialog::reject);
+    buttons.add(ui_->cmdOk, "save", &frmManutDetOFT::cmdOk_Click, {ScreenKey::MainAct});
+    buttons.add(ui_->cmdCancelar, "give_up", &QDialog::reject,
+                {ScreenKey::Escape, ScreenKey::Close});
 }
 
 void frmManutDetOFT::load(const GridRow& order) {
@@ -96,6 +97,8 @@ void frmManutDetOFT::load(const GridRow& order) {
         if (!text.isEmpty()) {  // whole, where the field is short
             one.field->setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
         }
+        // Otherwise readers would read the tool tip, markup and all.
+        one.field->setAccessibleDescription(QStringLiteral("Só para leitura"));
     }
     ui_->txtObs->loadText(order.text(OrderColumn::Observation));
     showNumber(*ui_->txtQtde, order.text(OrderColumn::Quantity));

@@ -44,11 +44,14 @@ FrmOFT::~FrmOFT() = default;
 
 void FrmOFT::prepareButtons() {
     const Buttons buttons(this, setLargeIcon);
-    buttons.add(ui_->cmdSelecionar, "generate_note", &FrmOFT::cmdSelecionar_Click);
-    buttons.add(ui_->CmdFechar, "close", &FrmOFT::CmdFechar_Click);
-    buttons.add(ui_->CmdAtualizar, "refresh", &FrmOFT::loadSpread);
+    buttons.add(ui_->cmdSelecionar, "generate_note", &FrmOFT::cmdSelecionar_Click,
+                {ScreenKey::MainAct});
+    buttons.add(ui_->CmdFechar, "close", &FrmOFT::CmdFechar_Click,
+                {ScreenKey::Escape, ScreenKey::Close});
+    buttons.add(ui_->CmdAtualizar, "refresh", &FrmOFT::loadSpread, {ScreenKey::Refresh});
     buttons.add(ui_->CmdCanOft, "cancel_order", &FrmOFT::CmdCanOft_Click);
-    buttons.add(ui_->cmdImprimirOF, "print_order", &FrmOFT::cmdImprimirOF_Click);
+    buttons.add(ui_->cmdImprimirOF, "print_order", &FrmOFT::cmdImprimirOF_Click,
+                {ScreenKey::Print});
     buttons.add(ui_->cmdDetOFT, "edit_order", &FrmOFT::cmdDetOFT_Click);
 }
 
@@ -121,13 +124,9 @@ void FrmOFT::cmdDetOFT_Click() {
     if (!order || !observationsAccepted(*order)) {
         return;
     }
-    // The list may have been renewed under the observation: the row that is active now
-    // is the one that opens.
-    const auto activate = selectedOrder();
-    if (!activate) {
-        return;
-    }
-    frmManutDetOFT dialog(desk_, *activate, this);
+    // The list may have been renewed under the observation: the row that is active now is the
+    // one that opens, and without rows the one whose observation was accepted.
+    frmManutDetOFT dialog(desk_, orders_->rowCount() > 0 ? *selectedOrder() : *order, this);
     connect(&dialog, &frmManutDetOFT::saved, this, [this] {
         loadSpread();
         timer_->start();

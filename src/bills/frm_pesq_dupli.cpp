@@ -67,8 +67,9 @@ void FrmPesqDupli::prepareButtons() {
     buttons.add(ui_->cmdPesqCli, "search_customer", &FrmPesqDupli::cmdPesqCli_Click);
     buttons.add(ui_->cmdLimpar, "clear", [this] { takeCustomer({}); });
     buttons.add(ui_->cmdPesquisar, "search", &FrmPesqDupli::cmdPesquisar_Click);
-    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject);
-    buttons.add(ui_->cmdImprimir, "print", &FrmPesqDupli::cmdImprimir_Click);
+    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject, {ScreenKey::Close});
+    buttons.add(ui_->cmdImprimir, "print", &FrmPesqDupli::cmdImprimir_Click,
+                {ScreenKey::Print, ScreenKey::MainAct});
 }
 
 void FrmPesqDupli::takeCustomer(const Customer& customer) {
@@ -81,10 +82,18 @@ void FrmPesqDupli::opened() {
 }
 
 void FrmPesqDupli::activate() {
-    fillList(*ui_->cboTpDocto, documentKinds());
-    fillList(*ui_->cboFilial, branchesForFilter(desk_.environment, desk_.session));
+    Carrega_CboTpDocto();
+    Carrega_CboFilial();
     pictures_ = loadPictures(desk_.environment.pictureFolder);
     showPictures();
+}
+
+void FrmPesqDupli::Carrega_CboTpDocto() {
+    fillList(*ui_->cboTpDocto, documentKinds());
+}
+
+void FrmPesqDupli::Carrega_CboFilial() {
+    fillList(*ui_->cboFilial, branchesForFilter(desk_.environment, desk_.session));
 }
 
 // Small, so that the user sees what the pages will show.

@@ -37,6 +37,8 @@ private:
     void prepareButtons();
     // On every activation: both lists are filled anew, the pictures read again.
     void activate();
+    void Carrega_CboTpDocto();
+    void Carrega_CboFilial();
     void showPictures();
 
     void cmdPesqCli_Click();

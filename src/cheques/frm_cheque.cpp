@@ -66,8 +66,9 @@ void frmCheque::prepareFields() {
 
 void frmCheque::prepareButtons() {
     const Buttons buttons(this, setLargeIcon);
-    buttons.add(ui_->cmdImprimir, "print_cheque", &frmCheque::cmdImprimir_Click);
-    buttons.add(ui_->cmdCancelar, "give_up", &QDialog::reject);
+    buttons.add(ui_->cmdImprimir, "print_cheque", &frmCheque::cmdImprimir_Click,
+                {ScreenKey::Print, ScreenKey::MainAct});
+    buttons.add(ui_->cmdCancelar, "give_up", &QDialog::reject, {ScreenKey::Close});
 }
 
 void frmCheque::load() {

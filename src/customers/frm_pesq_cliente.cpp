@@ -38,8 +38,9 @@ FrmPesqCliente::~FrmPesqCliente() = default;
 void FrmPesqCliente::prepareButtons() {
     const Buttons buttons(this, setIcon);
     buttons.add(ui_->cmdPesquisar, "search", &FrmPesqCliente::cmdPesquisar_Click);
-    buttons.add(ui_->cmdSelecionar, "select", &FrmPesqCliente::cmdSelecionar_Click);
-    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject);
+    buttons.add(ui_->cmdSelecionar, "select", &FrmPesqCliente::cmdSelecionar_Click,
+                {ScreenKey::MainAct});
+    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject, {ScreenKey::Escape, ScreenKey::Close});
     connect(ui_->txtNmCli, &QLineEdit::returnPressed, ui_->cmdPesquisar, &QPushButton::click);
     // Not the signal that a desktop may want after a single click.
     connect(ui_->sprDados, &QTableView::doubleClicked, this, &FrmPesqCliente::cmdSelecionar_Click);

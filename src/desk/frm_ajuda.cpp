@@ -8,6 +8,7 @@
 #include "runtime/version.h"
 #include "ui_frm_ajuda.h"
 #include "widgets/look.h"
+#include "widgets/shortcuts.h"
 
 namespace tarn {
 
@@ -26,6 +27,7 @@ frmAjuda::frmAjuda(DeskContext& desk, QWidget* parent)
             .arg(QString::fromStdString(shownAddress(desk.environment.baseUrl))));
     ui_->Label5->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
+    giveKeys(*ui_->cmdVoltar, {ScreenKey::Escape, ScreenKey::Close});
     connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::accept);
 }
 

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QGridLayout>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QScreen>
 #include <QShowEvent>
 
@@ -200,6 +201,9 @@ void MDIMenu::openInArea(Screen* screen) {
         screen, Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                     Qt::WindowCloseButtonHint);
     window->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction* entry : window->systemMenu()->actions()) {
+        entry->setShortcuts(QList<QKeySequence>());  // Ctrl+W is the screen's own
+    }
     connect(window, &QObject::destroyed, ui_->mdiArea, &QWidget::updateGeometry);
     ui_->mdiArea->updateGeometry();  // the desk is never smaller than its screen needs
     fitScreens();

@@ -71,8 +71,9 @@ void FrmImprEtiq::prepareCustomerGrid() {
 void FrmImprEtiq::prepareButtons() {
     const Buttons buttons(this, setIcon);
     buttons.add(ui_->cmdPesquisar, "search", &FrmImprEtiq::cmdPesquisar_Click);
-    buttons.add(ui_->cmdImprimir, "print", &FrmImprEtiq::cmdImprimir_Click);
-    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject);
+    buttons.add(ui_->cmdImprimir, "print", &FrmImprEtiq::cmdImprimir_Click,
+                {ScreenKey::Print, ScreenKey::MainAct});
+    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject, {ScreenKey::Close});
 }
 
 void FrmImprEtiq::load() {

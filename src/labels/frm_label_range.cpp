@@ -20,8 +20,8 @@ void FrmLabelRange::prepareControls(QLineEdit* txtDe, QLineEdit* txtAte, QPushBu
         new FieldController(field, KeyFilter::Decimal, desk_.environment);
     }
     const Buttons buttons(this, setIcon);
-    buttons.add(cmdOk, okPicture, &FrmLabelRange::cmdOk_Click);
-    buttons.add(cmdCancelar, "give_up", &QDialog::reject);
+    buttons.add(cmdOk, okPicture, &FrmLabelRange::cmdOk_Click, {ScreenKey::MainAct});
+    buttons.add(cmdCancelar, "give_up", &QDialog::reject, {ScreenKey::Close});
     txtDe->setFocus();
 }
 

@@ -57,9 +57,10 @@ void frmPesqEtiquetas::prepareQueueGrid() {
 
 void frmPesqEtiquetas::prepareButtons() {
     const Buttons buttons(this, setIcon);
-    buttons.add(ui_->cmdImprimir, "print", &frmPesqEtiquetas::cmdImprimir_Click);
+    buttons.add(ui_->cmdImprimir, "print", &frmPesqEtiquetas::cmdImprimir_Click,
+                {ScreenKey::Print, ScreenKey::MainAct});
     buttons.add(ui_->cmdExcluir, "cancel_order", &frmPesqEtiquetas::cmdExcluir_Click);
-    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject);
+    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject, {ScreenKey::Close});
 }
 
 void frmPesqEtiquetas::load() {

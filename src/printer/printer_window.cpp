@@ -65,6 +65,7 @@ PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, const PaintOpti
 void PrinterWindow::makeParts() {
     view_ = new PaperView(roll_, this);
     view_->setObjectName(QStringLiteral("paper"));
+    view_->setAccessibleName(QStringLiteral("Papel impresso"));
     setCentralWidget(view_);
     search_ = new PaperSearchBar(roll_, *view_, this);
     files_ = new PaperFiles(roll_, options_, questions_, *this);

@@ -39,14 +39,18 @@ void put(QLabel& label, const std::string& value, const std::string& code) {
     label.setProperty(tag, QString::fromStdString(code));
 }
 
-// An open list is as wide as its items; the code behind a series' gap isn't shown.
+// What is read of a series: not the code behind its gap.
+QString readable(const QString& series) {
+    return series.left(series.lastIndexOf(u'|')).trimmed();
+}
+
+// An open list is as wide as its items.
 class SeriesItem : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QString displayText(const QVariant& item, const QLocale& /*locale*/) const override {
-        const QString whole = item.toString();
-        return whole.left(whole.lastIndexOf(u'|')).trimmed();
+        return readable(item.toString());
     }
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& item) const override {
         return QStyledItemDelegate::sizeHint(option, item) + QSize(0, itemGap);
@@ -83,6 +87,10 @@ FrmReImprimeNF::FrmReImprimeNF(DeskContext& desk, NoteJob job)
     new FieldController(ui_->txtNF, KeyFilter::Decimal, desk.environment,
                         FieldController::EnterKey::BeepOnly);
     ui_->cboSerie->setItemDelegate(new SeriesItem(this));
+    connect(ui_->cboSerie, &QComboBox::currentTextChanged, ui_->cboSerie,
+            [list = ui_->cboSerie](const QString& series) {
+                list->setAccessibleDescription(readable(series));
+            });
     new ClicksOnItems(*ui_->CboMot_Can->view());
     // A customer's name may take two lines.
     const QLabel& customer = *ui_->LBLCliente;
@@ -111,8 +119,8 @@ void FrmReImprimeNF::prepareButtons() {
     const Buttons buttons(this, setLargeIcon);
     buttons.add(ui_->cmdPesquisar, "search_note", &FrmReImprimeNF::cmdPesquisar_Click);
     buttons.add(ui_->cmdSelecionar, cancelling() ? "cancel_note" : "reprint_note",
-                &FrmReImprimeNF::cmdSelecionar_Click);
-    buttons.add(ui_->CmdFechar, "close", &FrmReImprimeNF::CmdFechar_Click);
+                &FrmReImprimeNF::cmdSelecionar_Click, {ScreenKey::MainAct});
+    buttons.add(ui_->CmdFechar, "close", &FrmReImprimeNF::CmdFechar_Click, {ScreenKey::Close});
 }
 
 void FrmReImprimeNF::load() {
@@ -126,7 +134,10 @@ void FrmReImprimeNF::fillLists() {
     std::vector<std::string> series;
     const bool goesOn = loadSeries(desk_.environment, desk_.session, series);
     for (const std::string& one : series) {
-        ui_->cboSerie->addItem(QString::fromStdString(one));
+        const QString item = QString::fromStdString(one);
+        ui_->cboSerie->addItem(item);
+        ui_->cboSerie->setItemData(ui_->cboSerie->count() - 1, readable(item),
+                                   Qt::AccessibleTextRole);
     }
     ui_->cboSerie->setCurrentIndex(-1);
     if (!goesOn) {

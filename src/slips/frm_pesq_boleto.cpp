@@ -53,8 +53,9 @@ void frmPesqBoleto::prepareButtons() {
     buttons.add(ui_->cmdPesqCli, "search_customer", &frmPesqBoleto::cmdPesqCli_Click);
     buttons.add(ui_->cmdLimpar, "clear", [this] { takeCustomer({}); });
     buttons.add(ui_->cmdPesquisar, "search", &frmPesqBoleto::cmdPesquisar_Click);
-    buttons.add(ui_->cmdImprimir, "print", &frmPesqBoleto::cmdImprimir_Click);
-    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject);
+    buttons.add(ui_->cmdImprimir, "print", &frmPesqBoleto::cmdImprimir_Click,
+                {ScreenKey::Print, ScreenKey::MainAct});
+    buttons.add(ui_->cmdVoltar, "close", &QDialog::reject, {ScreenKey::Close});
     connect(ui_->chkInc_Carteira, &QCheckBox::clicked, this, &frmPesqBoleto::chkInc_Carteira_Click);
 }
 
@@ -68,7 +69,15 @@ void frmPesqBoleto::opened() {
 }
 
 void frmPesqBoleto::activate() {
+    Carrega_CboFilial();
+    Carrega_Cart_Cobranca();
+}
+
+void frmPesqBoleto::Carrega_CboFilial() {
     fillList(*ui_->cboFilial, branchesForFilter(desk_.environment, desk_.session));
+}
+
+void frmPesqBoleto::Carrega_Cart_Cobranca() {
     fillList(*ui_->cboCartCob, portfoliosForFilter(desk_.environment, desk_.session));
 }
 

@@ -39,6 +39,8 @@ private:
     void prepareButtons();
     // On every activation: both lists are filled anew.
     void activate();
+    void Carrega_CboFilial();
+    void Carrega_Cart_Cobranca();
     // Tells why, and brings the focus to the field.
     void refuse(const SlipRefusal& reason);
     void show(const SlipFilter& filter);

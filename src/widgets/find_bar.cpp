@@ -11,11 +11,6 @@
 #include "widgets/shortcuts.h"
 
 namespace tarn {
-namespace {
-
-constexpr int textWidth = 30;  // characters
-
-}  // namespace
 
 FindBar::FindBar(QTableView& grid, QWidget* parent)
     : QWidget(parent), grid_(grid), text_(new QLineEdit(this)), result_(new QLabel(this)) {
@@ -41,8 +36,9 @@ void FindBar::build() {
     setObjectName(QStringLiteral("findBar"));
     text_->setObjectName(QStringLiteral("findText"));
     text_->setAccessibleName(QStringLiteral("Procurar na lista"));
-    text_->setPlaceholderText(QStringLiteral("Enter ou F3: próxima; Esc: fechar"));
-    text_->setMinimumWidth(textWidth * fontMetrics().averageCharWidth());
+    const QString hint = QStringLiteral("Enter ou F3: próxima; Esc: fechar");
+    text_->setPlaceholderText(hint);
+    text_->setMinimumWidth(fontMetrics().horizontalAdvance(hint + QStringLiteral("000")));
     result_->setObjectName(QStringLiteral("findResult"));
     result_->setTextFormat(Qt::PlainText);
     auto* label = new QLabel(QStringLiteral("Procurar na lista"), this);

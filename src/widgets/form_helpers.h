@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "common/list_items.h"
+#include "widgets/shortcuts.h"
 
 class QComboBox;
 class QLineEdit;
@@ -40,7 +41,8 @@ void prepareDates(std::initializer_list<QLineEdit*> fields, Environment& environ
 // in is completed.
 void prepareButton(QPushButton& button, const char* pictureName);
 
-// The buttons of a screen: each gets its picture, as `look` shows it, and what its click does.
+// The buttons of a screen: each gets its picture, as `look` shows it, what its click does and
+// the keys that press it.
 template <class Screen>
 class Buttons {
 public:
@@ -49,8 +51,10 @@ public:
     Buttons(Screen* screen, Look look) : screen_(screen), look_(look) {}
 
     template <class Routine>
-    void add(QPushButton* button, const char* pictureName, Routine routine) const {
+    void add(QPushButton* button, const char* pictureName, Routine routine,
+             std::initializer_list<ScreenKey> keys = {}) const {
         look_(*button, pictureName);
+        giveKeys(*button, keys);
         QObject::connect(button, &QPushButton::clicked, screen_, routine);
     }
 

@@ -146,7 +146,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
         return hint(which);
     }
     if (role == Qt::AccessibleTextRole && heading(which).trimmed().isEmpty()) {
-        return hint(which);
+        return hint(which).isEmpty() && isTick(which) ? QStringLiteral("Marcada") : hint(which);
     }
     if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);

@@ -97,6 +97,9 @@ void giveKeys(QPushButton& button, std::initializer_list<ScreenKey> keys) {
         pressing += named.keys;
         closes = closes || key == ScreenKey::Close;
     }
+    if (names.isEmpty()) {
+        return;
+    }
     button.setToolTip(
         QStringLiteral("%1 (%2)").arg(button.toolTip(), names.join(QStringLiteral(" ou "))));
     if (!pressing.isEmpty()) {

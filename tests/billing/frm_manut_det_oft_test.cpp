@@ -1,5 +1,6 @@
 #include "billing/frm_manut_det_oft.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QMimeData>
 #include <QPushButton>
@@ -97,6 +98,12 @@ TEST_F(FrmManutDetOFTTest, ShowsTheTwelveCellsOfTheActiveRow) {
         EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery)) << "nothing is read anew";
         EXPECT_EQ(named<QLineEdit>(dialog, "txtCliente").toolTip(),
                   QStringLiteral("<p>JOSÉ &lt;b&gt;</p>"));
+        const auto spoken = [&dialog](QAccessible::Text what) {
+            return QAccessible::queryAccessibleInterface(&named<QWidget>(dialog, "txtCliente"))
+                ->text(what);
+        };
+        EXPECT_EQ(spoken(QAccessible::Value), QStringLiteral("JOSÉ <b>"));
+        EXPECT_EQ(spoken(QAccessible::Description), QStringLiteral("Só para leitura"));
     });
     EXPECT_TRUE(boxes.shown.empty());
 }
@@ -396,11 +403,9 @@ TEST_F(FrmManutDetOFTTest, EnterMovesOnFromTheFourFieldsInSilence) {
         obs(dialog).setFocus();
         key(dialog, Qt::Key_Enter);
         EXPECT_EQ(focused(dialog), "txtQtde");
-        for (const auto modifier : {Qt::ShiftModifier, Qt::ControlModifier}) {
-            obs(dialog).setFocus();
-            QTest::keyClick(&obs(dialog), Qt::Key_Return, modifier);
-            EXPECT_EQ(focused(dialog), "txtQtde");
-        }
+        obs(dialog).setFocus();
+        QTest::keyClick(&obs(dialog), Qt::Key_Return, Qt::ShiftModifier);
+        EXPECT_EQ(focused(dialog), "txtQtde");
         EXPECT_EQ(text(dialog, "txtObs"), "obs");
         EXPECT_EQ(machine.beeps, 0);
         EXPECT_TRUE(boxes.shown.empty());
@@ -563,17 +568,32 @@ TEST_F(FrmManutDetOFTTest, TheListRenewedUnderTheObservationOpensTheRowThatIsAct
     });
 }
 
-TEST_F(FrmManutDetOFTTest, TheListEmptiedUnderTheObservationOpensNothing) {
+TEST_F(FrmManutDetOFTTest, TheListEmptiedUnderTheObservationOpensTheOrderThatWasAccepted) {
     open();
     observation("x");
     server.on("sel_ordem_fatu", answers::rowset(""));
     modals.then("frmMensagemAlerta", [&](QWidget& alert) {
         tick();
         tick();
+        EXPECT_EQ(rows(), 0);
         click(alert, "cmdOk");
     });
-    click(screen(), "cmdDetOFT");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(selectOne));
+    edit([](QWidget& dialog) {
+        EXPECT_EQ(text(dialog, "txtOrdFat"), "1001");
+        click(dialog, "cmdCancelar");
+    });
+    EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST_F(FrmManutDetOFTTest, CtrlEnterSavesFromTheObservationToo) {
+    open();
+    server.on("MANUTENCAO_OFT", answers::status("OK"));
+    edit([&](QWidget& dialog) {
+        typeObs(dialog, "nova");
+        QTest::keyClick(&obs(dialog), Qt::Key_Return, Qt::ControlModifier);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_THAT(saved(), testing::ElementsAre(testing::HasSubstr("&DC_OBS=nova&")));
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QPushButton>
@@ -338,6 +339,55 @@ TEST_F(FrmOFTTest, TheDeskCanBeLeftWithTheListOpen) {
     EXPECT_TRUE(end.ended());
     EXPECT_TRUE(server.addresses.empty());
     EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST_F(FrmOFTTest, TheButtonsHaveKeys) {
+    noteComesOut();
+    open();
+    const auto stroke = [this](Qt::Key key, Qt::KeyboardModifiers with) {
+        server.addresses.clear();
+        QTest::keyClick(grid().window()->focusWidget(), key, with);
+    };
+    stroke(Qt::Key_F5, Qt::NoModifier);
+    EXPECT_THAT(server.queries(), testing::ElementsAre(listQuery));
+    EXPECT_TRUE(grid().hasFocus()) << "the arrows go on moving in the list";
+    stroke(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(server.queries().at(0), obsQuery);
+    stroke(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_THAT(server.queries(), testing::Contains(noteQuery));
+    EXPECT_EQ(named<QPushButton>(screen(), "CmdAtualizar").toolTip(),
+              QStringLiteral("Atualizar a lista de ordens (F5)"));
+}
+
+TEST_F(FrmOFTTest, CtrlWClosesTheScreenAlone) {
+    closesBy([&] { QTest::keyClick(&grid(), Qt::Key_W, Qt::ControlModifier); });
+    EXPECT_TRUE(menu.isVisible());
+}
+
+TEST_F(FrmOFTTest, EscClosesAnOpenSearchBarFirst) {
+    open();
+    EXPECT_EQ(named<QLabel>(screen(), "count").text(), QStringLiteral("2 ordens"));
+    QTest::keyClick(&grid(), Qt::Key_F, Qt::ControlModifier);
+    auto& bar = named<QWidget>(screen(), "findBar");
+    EXPECT_TRUE(bar.isVisible());
+    key(*grid().window(), Qt::Key_Escape);
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_NE(menu.findChild<FrmOFT*>(), nullptr);
+    key(*grid().window(), Qt::Key_Escape);
+    EXPECT_TRUE(closed());
+}
+
+TEST_F(FrmOFTTest, AReaderSpeaksTheHeadingsThatAreNotShown) {
+    open();
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&grid());
+    std::vector<std::string> spoken;
+    for (int child = 0; child < table->childCount(); ++child) {
+        if (table->child(child)->role() == QAccessible::ColumnHeader) {
+            spoken.push_back(table->child(child)->text(QAccessible::Name).toStdString());
+        }
+    }
+    EXPECT_THAT(spoken, testing::IsSupersetOf(
+                            {"Observação", "Quantidade de volumes", "Peso bruto", "Peso líquido"}));
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // Opening, fields, search and grid of FrmPesqDupli.
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QFile>
 #include <QImageReader>
@@ -504,6 +505,19 @@ TEST_F(FrmPesqDupliTest, APictureOfVeryManyDotsIsShownToo) {
     });
     QImageReader::setAllocationLimit(usual);
     EXPECT_THAT(boxes.shown, IsEmpty());
+}
+
+TEST_F(FrmPesqDupliTest, AReaderSpeaksOfWhatAreDatesAndTicks) {
+    withScreen([&](QWidget& screen) {
+        const auto name = [&screen](const char* field) {
+            return QAccessible::queryAccessibleInterface(&named<QWidget>(screen, field))
+                ->text(QAccessible::Name)
+                .toStdString();
+        };
+        EXPECT_EQ(name("txtDtEmsDe"), "Data de emissão, de");
+        EXPECT_EQ(name("txtDtVncAte"), "Data de vencimento, até");
+        EXPECT_EQ(name("count"), "Nenhum documento");
+    });
 }
 
 }  // namespace

@@ -369,5 +369,34 @@ TEST_F(FrmChequeTest, ALoneCommaIsNoAmount) {
     });
 }
 
+TEST_F(FrmChequeTest, CtrlEnterPrintsOnceTheFieldBeingTypedInIsChecked) {
+    useFilled([&](QWidget& screen) {
+        type(screen, "txtNumeroCheque", "77");
+        server.addresses.clear();
+        atLeisure(
+            [&] { QTest::keyClick(screen.focusWidget(), Qt::Key_Return, Qt::ControlModifier); });
+        settle();
+        const auto queries = server.queries();
+        ASSERT_EQ(queries.size(), 4U);
+        EXPECT_EQ(queries[0], checkQuery("77", "AÇ1")) << "on leaving the field";
+        EXPECT_EQ(queries[1], checkQuery("77", "AÇ1")) << "before printing";
+        EXPECT_EQ(spooler.jobs.size(), 1U);
+        EXPECT_THAT(boxes.shown, testing::ElementsAre(success));
+    });
+}
+
+TEST_F(FrmChequeTest, ADateRefusedStopsTheKeyAndCtrlWClosesTheScreen) {
+    useFilled([&](QWidget& screen) {
+        type(screen, "txtDtDeposito", "31022012");
+        atLeisure([&] { QTest::keyClick(screen.focusWidget(), Qt::Key_P, Qt::ControlModifier); });
+        settle();
+        EXPECT_THAT(boxes.texts(), testing::ElementsAre("Data Inválida.      "));
+        EXPECT_THAT(server.addresses, testing::IsEmpty());
+        EXPECT_EQ(focused(screen), "txtDtDeposito");
+        QTest::keyClick(screen.focusWidget(), Qt::Key_W, Qt::ControlModifier);
+        EXPECT_FALSE(screen.isVisible());
+    });
+}
+
 }  // namespace
 }  // namespace tarn::test

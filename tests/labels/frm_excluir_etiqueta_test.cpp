@@ -153,5 +153,21 @@ TEST_F(DeletionScreen, KeysAreFilteredAndEnterGoesOn) {
     });
 }
 
+TEST_F(DeletionScreen, CtrlEnterDeletesAndCtrlWClosesTheScreenInFrontAlone) {
+    inDeletion([this](QWidget& deletion) {
+        type(deletion, "txtDe", "1");
+        type(deletion, "txtAte", "2");
+        atLeisure(
+            [&] { QTest::keyClick(deletion.focusWidget(), Qt::Key_Return, Qt::ControlModifier); });
+        EXPECT_FALSE(deletion.isVisible());
+        EXPECT_THAT(boxes.shown, ElementsAre(deletedBox));
+    });
+    inDeletion([](QWidget& deletion) {
+        QTest::keyClick(deletion.focusWidget(), Qt::Key_W, Qt::ControlModifier);
+        EXPECT_FALSE(deletion.isVisible());
+        EXPECT_TRUE(deletion.parentWidget()->isVisible());
+    });
+}
+
 }  // namespace
 }  // namespace tarn::test

@@ -197,5 +197,27 @@ TEST_F(SlipKeys, TheWindowsButtonClosesItAndEscDoesNot) {
     });
 }
 
+TEST_F(SlipKeys, TheButtonsHaveKeys) {
+    withScreen([&](QWidget& screen) {
+        const auto stroke = [&screen](Qt::Key key) {
+            atLeisure([&] { QTest::keyClick(screen.focusWidget(), key, Qt::ControlModifier); });
+        };
+        named<QWidget>(screen, "txtDtEmsDe").setFocus();
+        keys(named<QWidget>(screen, "txtDtEmsDe"), "01022012");
+        stroke(Qt::Key_P);
+        EXPECT_EQ(boxes.shown.size(), 1U) << "refused for want of a portfolio";
+        EXPECT_EQ(shown(screen, "txtDtEmsDe"), "01/02/2012") << "completed before that";
+        EXPECT_EQ(focused(screen), "cboCartCob");
+        stroke(Qt::Key_Return);
+        EXPECT_EQ(boxes.shown.size(), 2U);
+        EXPECT_EQ(named<QPushButton>(screen, "cmdImprimir").toolTip(),
+                  QStringLiteral("Imprimir os boletos dos documentos marcados (Ctrl+P ou "
+                                 "Ctrl+Enter)"));
+        stroke(Qt::Key_W);
+        EXPECT_FALSE(screen.isVisible());
+    });
+    EXPECT_TRUE(menu.isVisible());
+}
+
 }  // namespace
 }  // namespace tarn::test

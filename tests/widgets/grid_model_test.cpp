@@ -58,6 +58,9 @@ TEST_F(GridModelTest, HeadingsAndWhatTheyHint) {
     EXPECT_EQ(heading(0, Qt::ToolTipRole), QStringLiteral("Marcar ou desmarcar todas as linhas"));
     EXPECT_EQ(heading(3, Qt::ToolTipRole), QStringLiteral("Valor"));
     EXPECT_EQ(heading(3, Qt::AccessibleTextRole), QStringLiteral("Valor"));
+    EXPECT_EQ(
+        GridModel(withoutTicks, nullptr).headerData(0, Qt::Horizontal, Qt::AccessibleTextRole),
+        QStringLiteral("Marcada"));
     EXPECT_EQ(model.headerData(1, Qt::Vertical, Qt::DisplayRole), 2) << "rows count from 1";
     const GridModel other(withoutTicks, nullptr);
     EXPECT_FALSE(other.headerData(0, Qt::Horizontal, Qt::ToolTipRole).isValid());
