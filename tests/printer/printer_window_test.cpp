@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QDockWidget>
 #include <QFile>
@@ -418,6 +419,11 @@ TEST_F(Window, EveryCommandHasATextAndAHint) {
         }
     }
     EXPECT_GT(seen, 18);
+}
+
+TEST_F(Window, AReaderSpeaksOfThePaper) {
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&view_)->text(QAccessible::Name),
+              QStringLiteral("Papel impresso"));
 }
 
 }  // namespace
