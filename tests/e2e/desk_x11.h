@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "desk/desk_application.h"
 #include "desk/mdi_menu.h"
 #include "desk/start.h"
 #include "platform/curl/curl_loader.h"
@@ -25,18 +26,30 @@
 
 namespace tarn::test {
 
-class DeskX11 : public testing::Test {
-protected:
+// A desk of its own, its database and server too.
+class RunningDesk {
+public:
     using Time = std::chrono::milliseconds;
 
-    // Clara of company 1361 is logged on.
-    void SetUp() override {
-        ASSERT_TRUE(logOn(environment, session, "1361", "clara", "pratica"));
+    RunningDesk() {
+        static_cast<DeskApplication*>(qApp)->setErrorReport(
+            [this](const std::exception_ptr& error) { reportError(desk, error); });
+    }
+    ~RunningDesk() { static_cast<DeskApplication*>(qApp)->setErrorReport(nullptr); }
+    RunningDesk(const RunningDesk&) = delete;
+    RunningDesk& operator=(const RunningDesk&) = delete;
+
+    void show() {
         menu.resize(1100, 800);
         menu.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&menu));
         ASSERT_TRUE(
             QTest::qWaitFor([this] { return !menu.windowHandle()->frameMargins().isNull(); }));
+    }
+    // Clara of company 1361 is logged on.
+    void enter() {
+        ASSERT_TRUE(logOn(environment, session, "1361", "clara", "pratica"));
+        show();
         page.takeQueries();
     }
     // The answers to this command come so much later.
@@ -55,12 +68,17 @@ protected:
         const bool ready = hands.waitUntil([&] {
             screen = find(name);
             return screen != nullptr && screen->isVisible() &&
-                   QApplication::activeWindow() == screen->window() && isReady();
+                   QApplication::activeWindow() == screen->window() && X11User::isReady();
         });
         if (!ready) {
             throw std::runtime_error(std::string("no screen came: ") + name);
         }
         return *screen;
+    }
+    // For scripts: a click that may open a window, which isn't waited for.
+    static void press(const X11User& hands, QWidget& screen, const char* button) {
+        auto& which = named<QPushButton>(screen, button);
+        hands.inProgram([&] { QTimer::singleShot(0, &which, [&which] { which.click(); }); });
     }
     static QWidget* find(const char* name) {
         for (QWidget* top : QApplication::topLevelWidgets()) {
@@ -73,12 +91,9 @@ protected:
         }
         return nullptr;
     }
-    static bool isReady() {
-        return InputGate::ofApplication().isQuiet() && QGuiApplication::overrideCursor() == nullptr;
-    }
     static void focus(const X11User& hands, QWidget& widget) {
         hands.inProgram([&] { widget.setFocus(); });
-        if (!hands.waitUntil([&] { return widget.hasFocus() && isReady(); })) {
+        if (!hands.waitUntil([&] { return widget.hasFocus() && X11User::isReady(); })) {
             throw std::runtime_error("no focus");
         }
     }
@@ -111,6 +126,11 @@ protected:
     DeskContext desk{environment, session, end};
     MDIMenu menu{desk};
     X11User user;
+};
+
+class DeskX11 : public testing::Test, protected RunningDesk {
+protected:
+    void SetUp() override { enter(); }
 };
 
 }  // namespace tarn::test

@@ -3,7 +3,8 @@
 // itself anew meanwhile.
 #include <gtest/gtest.h>
 
-#include "billing/frm_oft.h"
+#include <iostream>
+
 #include "platform/qt/tick.h"
 #include "tests/e2e/desk_x11.h"
 #include "widgets/free_text_field.h"
@@ -14,9 +15,13 @@ namespace {
 using namespace std::chrono_literals;
 
 struct Pace {
-    int answer;
+    int answer;  // milliseconds, as the next
     int key;
 };
+
+void PrintTo(const Pace& pace, std::ostream* out) {
+    *out << "answers after " << pace.answer << " ms, a key each " << pace.key << " ms";
+}
 
 std::vector<Pace> paces() {
     std::vector<Pace> all;
@@ -33,27 +38,72 @@ std::string nameOf(const testing::TestParamInfo<Pace>& each) {
            std::to_string(each.param.key);
 }
 
+struct Field {
+    const char* name;
+    const char* typed;
+};
+
+struct Screen {
+    const char* entry;  // of the menu; null: a button of the order list
+    const char* button;
+    const char* name;
+    std::vector<Field> fields;
+};
+
 class TypingOn : public DeskX11, public testing::WithParamInterface<Pace> {
 protected:
     Time answer() const { return Time(GetParam().answer); }
     Time pace() const { return Time(GetParam().key); }
     static std::string text(const QWidget& screen, const char* field) {
-        return named<QLineEdit>(screen, field).text().toStdString();
+        if (const auto* line = screen.findChild<QLineEdit*>(QLatin1StringView(field))) {
+            return line->text().toStdString();
+        }
+        return named<FreeTextField>(screen, field).text();
     }
-    // The order list behind what opens next reads itself anew all the time.
-    void openTickingList(X11User& hands) {
+    static void clear(const QWidget& screen, const char* field) {
+        QMetaObject::invokeMethod(&named<QWidget>(screen, field), "clear");
+    }
+    QWidget& openOverList(X11User& hands, const Screen& which) {
         opens(hands, "mOFT", "FrmOFT");
-        hands.inProgram([this] {
-            auto& tick = named<Tick>(menu, "Timer");
-            tick.setInterval(700);
-        });
-        delay("sel_ordem_fatu", answer());
-        page.takeQueries();
+        if (which.button == nullptr) {
+            return opens(hands, which.entry, which.name);
+        }
+        QWidget& behind =
+            which.entry == nullptr ? *find("FrmOFT") : opens(hands, which.entry, "FrmPesqDupli");
+        press(hands, behind, which.button);
+        return appears(hands, which.name);
     }
-    static void waitForAll(const X11User& hands) {
-        EXPECT_TRUE(hands.waitUntil([] { return isReady(); }));
-        hands.wait(50ms);
-        EXPECT_TRUE(hands.waitUntil([] { return isReady(); }));
+    // A row of a table for the reader of the test's output.
+    void tell(const char* screen, const char* field, const std::string& typed,
+              const std::string& held) const {
+        std::cout << "| " << screen << " | " << field << " | " << GetParam().answer << " | "
+                  << GetParam().key << " | " << typed.size() << " | " << held.size() << " | "
+                  << (typed == held ? "all, in order" : "NOT: " + held) << " |" << std::endl;
+        EXPECT_EQ(held, typed) << screen << " " << field;
+    }
+    // The order list behind the screen reads itself anew all the time.
+    void typeOverList(const Screen& which) {
+        user.does([&](X11User& hands) {
+            QWidget& screen = openOverList(hands, which);
+            auto& timer = named<Tick>(menu, "Timer");
+            hands.inProgram([&timer] {
+                timer.stop();
+                timer.setInterval(200);
+            });
+            delay("sel_ordem_fatu", answer());
+            page.takeQueries();
+            for (const Field& field : which.fields) {
+                hands.inProgram([&] { clear(screen, field.name); });
+                focus(hands, named<QWidget>(screen, field.name));
+                hands.inProgram([&timer] { timer.start(); });
+                hands.type(field.typed, pace());
+                hands.inProgram([&timer] { timer.stop(); });
+                hands.settle();
+                hands.inProgram(
+                    [&] { tell(which.name, field.name, field.typed, text(screen, field.name)); });
+            }
+        });
+        EXPECT_GT(asked("sel_ordem_fatu"), 0U) << "the list was to read itself meanwhile";
     }
 };
 
@@ -61,7 +111,10 @@ TEST_P(TypingOn, TheChequeHoldsWhatWasTyped) {
     delay("seleciona_um_controle_cheque_emitido", answer());
     user.does([&](X11User& hands) {
         QWidget& screen = opens(hands, "mnuChequeImpressao", "frmCheque");
-        hands.inProgram([&] { named<QComboBox>(screen, "cboBancoAgConta").setCurrentIndex(1); });
+        hands.inProgram([&] {
+            named<QComboBox>(screen, "cboBancoAgConta").setCurrentIndex(1);
+            named<QLineEdit>(screen, "txtSerie").setText(QStringLiteral("z"));
+        });
         focus(hands, named<QWidget>(screen, "txtNumeroCheque"));
         hands.type("778", pace());
         hands.tap("Return");
@@ -71,66 +124,66 @@ TEST_P(TypingOn, TheChequeHoldsWhatWasTyped) {
         hands.tap("Return");
         hands.type("joao da silva", pace());
         hands.tap("Tab");
-        waitForAll(hands);
+        hands.settle();
         hands.inProgram([&] {
-            EXPECT_EQ(text(screen, "txtNumeroCheque"), "778");
-            EXPECT_EQ(text(screen, "txtSerie"), "a");
+            const auto holds = [&](const char* field, const char* typed) {
+                tell("frmCheque, checks under way", field, typed, text(screen, field));
+            };
             EXPECT_EQ(text(screen, "txtValor"), "12.345,67");
-            EXPECT_EQ(text(screen, "txtFavorecido"), "joao da silva");
+            holds("txtNumeroCheque", "778");
+            holds("txtSerie", "a");
+            holds("txtFavorecido", "joao da silva");
         });
     });
     EXPECT_EQ(asked("seleciona_um_controle_cheque_emitido"), 2U);
 }
 
-const std::string longText = "0123456789 abcdefghij 9876543210 jihgfedcba";
-
-TEST_P(TypingOn, TheObservationOverTheOrderListHoldsWhatWasTyped) {
-    user.does([&](X11User& hands) {
-        openTickingList(hands);
-        hands.inProgram([this] {
-            QTimer::singleShot(0, &menu, [this] { named<QPushButton>(menu, "cmdDetOFT").click(); });
-        });
-        QWidget& screen = appears(hands, "frmManutDetOFT");
-        auto& field = named<FreeTextField>(screen, "txtObs");
-        hands.inProgram([&field] { field.clear(); });
-        focus(hands, field);
-        hands.type(longText.c_str(), pace());
-        hands.inProgram([this] { named<Tick>(menu, "Timer").stop(); });
-        waitForAll(hands);
-        hands.inProgram([&] { EXPECT_EQ(field.toPlainText().toStdString(), longText); });
-    });
-    EXPECT_GT(asked("sel_ordem_fatu"), 0U);
+TEST_P(TypingOn, TheMaintenanceOverTheOrderListHoldsWhatWasTyped) {
+    typeOverList({nullptr,
+                  "cmdDetOFT",
+                  "frmManutDetOFT",
+                  {{"txtObs", "0123456789 abcdefghij 9876543210"},
+                   {"txtQtde", "1234,5"},
+                   {"txtPesoBruto", "9876,54"},
+                   {"txtPesoLiquido", "1029,38"}}});
 }
 
-struct OverTheList {
-    const char* entry;
-    const char* screen;
-    const char* field;
-    const char* typed;
-    const char* shown;
-};
+TEST_P(TypingOn, BillsOverTheOrderListHoldWhatWasTyped) {
+    typeOverList({"mnuDuplicata",
+                  nullptr,
+                  "FrmPesqDupli",
+                  {{"txtDtEmsDe", "15032012"},
+                   {"txtDtEmsAte", "16042013"},
+                   {"txtDtVncDe", "17052014"},
+                   {"txtDtVncAte", "18062015"}}});
+}
 
-TEST_P(TypingOn, EachFieldOverTheOrderListHoldsWhatWasTyped) {
-    for (const OverTheList& which :
-         {OverTheList{"mnuBoleto", "frmPesqBoleto", "txtNr_Bol_Banc", "1234567890123",
-                      "1234567890123"},
-          OverTheList{"mnuBoleto", "frmPesqBoleto", "txtDtVncAte", "15032013", "15032013"},
-          OverTheList{"mnuDuplicata", "FrmPesqDupli", "txtDtVncDe", "15032013", "15032013"},
-          OverTheList{"mnuChequeImpressao", "frmCheque", "txtFavorecido", "jose maria e filhos",
-                      "jose maria e filhos"}}) {
-        SCOPED_TRACE(which.field);
-        user.does([&](X11User& hands) {
-            openTickingList(hands);
-            QWidget& screen = opens(hands, which.entry, which.screen);
-            focus(hands, named<QWidget>(screen, which.field));
-            hands.type(which.typed, pace());
-            hands.inProgram([this] { named<Tick>(menu, "Timer").stop(); });
-            waitForAll(hands);
-            hands.inProgram([&] { EXPECT_EQ(text(screen, which.field), which.shown); });
-        });
-        closeInnerScreens();
-        page.heal();
-    }
+TEST_P(TypingOn, CustomersOverTheOrderListHoldWhatWasTyped) {
+    typeOverList(
+        {"mnuDuplicata", "cmdPesqCli", "FrmPesqCliente", {{"txtNmCli", "padaria tres irmaos"}}});
+}
+
+TEST_P(TypingOn, SlipsOverTheOrderListHoldWhatWasTyped) {
+    typeOverList({"mnuBoleto",
+                  nullptr,
+                  "frmPesqBoleto",
+                  {{"txtDtEmsDe", "15032012"},
+                   {"txtDtEmsAte", "16042013"},
+                   {"txtDtVncDe", "17052014"},
+                   {"txtDtVncAte", "18062015"},
+                   {"txtNr_Bol_Banc", "1234567890123"}}});
+}
+
+TEST_P(TypingOn, TheChequeOverTheOrderListHoldsWhatWasTyped) {
+    typeOverList({"mnuChequeImpressao",
+                  nullptr,
+                  "frmCheque",
+                  {{"txtNumeroCheque", "000123"},
+                   {"txtSerie", "ab1"},
+                   {"txtValor", "4321,09"},
+                   {"txtFavorecido", "jose maria e filhos"},
+                   {"txtDtDeposito", "15032013"},
+                   {"txtObservacao", "material de escritorio"}}});
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, TypingOn, testing::ValuesIn(paces()), nameOf);

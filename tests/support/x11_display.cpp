@@ -1,6 +1,5 @@
 #include "tests/support/x11_display.h"
 
-#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <fcntl.h>
 #include <signal.h>
@@ -52,20 +51,38 @@ std::string displayTold(int reader) {
     return told;
 }
 
-// A window manager tells the root window that it manages it.
-bool isManaged(Display* display) {
-    const Atom mark = XInternAtom(display, "_NET_SUPPORTING_WM_CHECK", False);
+// What a window manager tells each window that it manages.
+bool isManaged(Display* display, Window window) {
+    const Atom mark = XInternAtom(display, "WM_STATE", False);
     Atom type = None;
     int format = 0;
     unsigned long count = 0;
     unsigned long left = 0;
     unsigned char* data = nullptr;
-    XGetWindowProperty(display, DefaultRootWindow(display), mark, 0, 1, False, XA_WINDOW, &type,
-                       &format, &count, &left, &data);
+    XGetWindowProperty(display, window, mark, 0, 1, False, mark, &type, &format, &count, &left,
+                       &data);
     if (data != nullptr) {
         XFree(data);
     }
     return count == 1;
+}
+
+// Whether a window shown now is managed soon: one shown while the manager starts may be
+// overlooked.
+bool managesWindows(Display* display) {
+    const Window probe =
+        XCreateSimpleWindow(display, DefaultRootWindow(display), 0, 0, 10, 10, 0, 0, 0);
+    XMapWindow(display, probe);
+    bool managed = false;
+    for (int look = 0; look < 50 && !managed; ++look) {
+        managed = isManaged(display, probe);
+        if (!managed) {
+            std::this_thread::sleep_for(10ms);
+        }
+    }
+    XDestroyWindow(display, probe);
+    XSync(display, False);
+    return managed;
 }
 
 void waitForManager() {
@@ -74,11 +91,10 @@ void waitForManager() {
         throw std::runtime_error("the X server takes no connection");
     }
     const auto end = std::chrono::steady_clock::now() + patience;
-    while (!isManaged(display.get())) {
+    while (!managesWindows(display.get())) {
         if (std::chrono::steady_clock::now() > end) {
             throw std::runtime_error("no window manager (openbox) came up");
         }
-        std::this_thread::sleep_for(20ms);
     }
 }
 

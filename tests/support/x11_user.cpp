@@ -1,16 +1,21 @@
 #include "tests/support/x11_user.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QTimer>
 #include <stdexcept>
 #include <thread>
+
+#include "platform/qt/input_gate.h"
 
 #include <X11/XKBlib.h>
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
 #undef Bool
 #undef KeyPress
+#undef KeyRelease
 #undef None
 
 namespace tarn::test {
@@ -21,7 +26,7 @@ using namespace std::chrono_literals;
 constexpr unsigned repeatDelayMs = 300;
 constexpr unsigned repeatIntervalMs = 33;
 constexpr auto stroke = 20ms;  // from press to release
-constexpr auto patience = 10s;
+constexpr X11User::Time longest = 10s;
 
 }  // namespace
 
@@ -50,7 +55,30 @@ struct X11User::Connection {
     Display* display;
 };
 
-X11User::X11User() : connection_(std::make_unique<Connection>()) {}
+// Sees the releases of a key that does nothing, before any filter of the program does.
+class X11User::Watch : public QObject {
+public:
+    static constexpr const char* key = "Shift_R";
+
+    Watch() { qApp->installEventFilter(this); }
+
+    int seen() const { return seen_; }
+
+protected:
+    bool eventFilter(QObject* /*receiver*/, QEvent* event) override {
+        if (event->type() == QEvent::KeyRelease &&
+            static_cast<QKeyEvent*>(event)->key() == Qt::Key_Shift) {
+            ++seen_;
+        }
+        return false;
+    }
+
+private:
+    int seen_ = 0;
+};
+
+X11User::X11User()
+    : connection_(std::make_unique<Connection>()), watch_(std::make_unique<Watch>()) {}
 
 X11User::~X11User() = default;
 
@@ -151,11 +179,59 @@ void X11User::clickOn(const QWidget& widget) {
     click();
 }
 
+// What is over may put off some work into the event loop: the second turn sees it over too.
+void X11User::settle() {
+    for (int turn = 0; turn < 2; ++turn) {
+        arrive();
+        if (!waitUntil(isReady)) {
+            throw std::runtime_error("the program doesn't come to rest");
+        }
+    }
+}
+
+// A stroke made while the window manager hands the keyboard over reaches nobody.
+void X11User::arrive() {
+    int before = 0;
+    inProgram([&] { before = watch_->seen(); });
+    const auto end = std::chrono::steady_clock::now() + longest;
+    const auto hasCome = [&] { return watch_->seen() > before; };
+    do {
+        tap(Watch::key);
+        if (waitUntil(hasCome, 200ms)) {
+            return;
+        }
+    } while (std::chrono::steady_clock::now() < end);
+    throw std::runtime_error("strokes don't arrive");
+}
+
+bool X11User::isReady() {
+    const QCursor* cursor = QGuiApplication::overrideCursor();
+    return InputGate::ofApplication().isQuiet() &&
+           (cursor == nullptr || cursor->shape() != Qt::WaitCursor);
+}
+
 void X11User::inProgram(const std::function<void()>& look) const {
-    QMetaObject::invokeMethod(qApp, look, Qt::BlockingQueuedConnection);
+    std::exception_ptr failure;
+    QMetaObject::invokeMethod(
+        qApp,
+        [&] {
+            try {
+                look();
+            } catch (...) {
+                failure = std::current_exception();
+            }
+        },
+        Qt::BlockingQueuedConnection);
+    if (failure) {
+        std::rethrow_exception(failure);
+    }
 }
 
 bool X11User::waitUntil(const std::function<bool()>& condition) const {
+    return waitUntil(condition, longest);
+}
+
+bool X11User::waitUntil(const std::function<bool()>& condition, Time patience) const {
     const auto end = std::chrono::steady_clock::now() + patience;
     bool met = false;
     while (!met && std::chrono::steady_clock::now() < end) {

@@ -39,13 +39,24 @@ public:
     void click(Time pause = Time(40));  // where the pointer stands; `pause` after it
     void clickOn(const QWidget& widget);
 
+    // Waits until all that was done has arrived.
+    void arrive();
+    // And until what it set off is over.
+    void settle();
+    // No request is under way, and nothing held is still to be typed.
+    static bool isReady();
+
     // What the program's own thread says.
     void inProgram(const std::function<void()>& look) const;
     bool waitUntil(const std::function<bool()>& condition) const;
 
 private:
     struct Connection;
+    class Watch;
+    bool waitUntil(const std::function<bool()>& condition, Time patience) const;
+
     std::unique_ptr<Connection> connection_;
+    std::unique_ptr<Watch> watch_;
 };
 
 }  // namespace tarn::test
