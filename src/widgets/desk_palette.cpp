@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QToolTip>
-#include <array>
 
 namespace tarn {
 namespace {
@@ -13,14 +12,6 @@ constexpr QRgb face = 0xffe4e9e9;
 constexpr QRgb ink = 0xff1d2b2e;
 constexpr QRgb faded = 0xff566365;  // still to be read: 4,5 times as light or dark as its ground
 constexpr QRgb visited = 0xff5a4a78;
-
-// Those to which a desktop may give colours of their own.
-constexpr std::array kindsOfWidget{
-    "QAbstractButton", "QAbstractItemView", "QCheckBox",   "QComboBox",
-    "QGroupBox",       "QHeaderView",       "QLabel",      "QLineEdit",
-    "QMenu",           "QMenuBar",          "QMessageBox", "QPushButton",
-    "QTabBar",         "QRadioButton",      "QTextEdit",   "QPlainTextEdit",
-    "QTextControl",    "QToolButton",       "QStatusBar",  "QTipLabel"};
 
 }  // namespace
 
@@ -50,10 +41,7 @@ QPalette deskPalette() {
 
 void replacePalettes() {
     const QPalette palette = deskPalette();
-    QApplication::setPalette(palette);
-    for (const char* kind : kindsOfWidget) {
-        QApplication::setPalette(palette, kind);
-    }
+    QApplication::setPalette(palette);  // drops those of single kinds
     QToolTip::setPalette(palette);
 }
 
