@@ -34,7 +34,8 @@ void walkCheque(Walk& walk) {
               })
         .when("MessageBox", "cheque-emitido", accept)
         .when("frmCheque", "",
-              [](QWidget& screen) {
+              [&](QWidget& screen) {
+                  walk.printed("cheque");
                   typeIn(screen, "txtNumeroCheque", number);
                   child<QLineEdit>(screen, "txtValor").setFocus();
               })

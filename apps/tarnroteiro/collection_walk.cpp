@@ -13,6 +13,8 @@ constexpr int isWallet57 = 1;
 constexpr int box = 0;  // column of the check boxes
 constexpr const char* sinceEver = "01012000";
 constexpr const char* untilEver = "31122099";
+// The last bill found until then is one of the kind that the final message speaks of.
+constexpr const char* untilAugust = "31082012";
 
 void tickFirst(QWidget& screen, int count) {
     for (int line = 0; line < count; ++line) {
@@ -36,7 +38,7 @@ void walkBills(Walk& walk) {
         .when("FrmPesqDupli", "",
               [&](QWidget& screen) {
                   chooseInList(screen, "cboTpDocto", bill);
-                  typeIn(screen, "txtDtVncAte", untilEver);
+                  typeIn(screen, "txtDtVncAte", untilAugust);
                   click(screen, "cmdPesquisar");
                   tickFirst(screen, 2);
                   walk.photograph(screen, "duplicatas");
@@ -45,6 +47,7 @@ void walkBills(Walk& walk) {
         .when("MessageBox", "duplicatas-impressas", accept)
         .when("FrmPesqDupli", "",
               [&](QWidget& screen) {
+                  walk.printed("duplicata");
                   click(screen, "cmdLimpar");
                   chooseInList(screen, "cboTpDocto", receipt);
                   click(screen, "cmdPesquisar");
@@ -53,7 +56,10 @@ void walkBills(Walk& walk) {
                   click(screen, "cmdImprimir");
               })
         .when("MessageBox", "", accept)
-        .when("FrmPesqDupli", "", [](QWidget& screen) { click(screen, "cmdVoltar"); });
+        .when("FrmPesqDupli", "", [&](QWidget& screen) {
+            walk.printed("recibo");
+            click(screen, "cmdVoltar");
+        });
 }
 
 void walkSlips(Walk& walk) {
@@ -74,6 +80,7 @@ void walkSlips(Walk& walk) {
                   typeIn(screen, "txtNr_Bol_Banc", "1234");
                   walk.photograph(screen, "boletos");
                   click(screen, "cmdImprimir");
+                  walk.printed("boleto");
                   walk.photograph(screen, "boleto-impresso");
               })
         .when("frmPesqBoleto", "", [](QWidget& screen) { click(screen, "cmdVoltar"); });

@@ -40,7 +40,8 @@ void walkLabels(Walk& walk) {
               })
         .when("MessageBox", "etiquetas-impressas", accept)
         .when("frmPesqEtiquetas", "",
-              [](QWidget& screen) {
+              [&](QWidget& screen) {
+                  walk.printed("etiquetas");
                   chooseInList(screen, "cboTp_Form", dotMatrix);
                   click(screen, "cmdImprimir");
               })
@@ -49,7 +50,11 @@ void walkLabels(Walk& walk) {
                   typeRange(screen, "1", "5");
                   click(screen, "cmdOk");
               })
-        .when("frmPesqEtiquetas", "", [](QWidget& screen) { click(screen, "cmdExcluir"); })
+        .when("frmPesqEtiquetas", "",
+              [&](QWidget& screen) {
+                  walk.printed("etiquetas-matriciais");
+                  click(screen, "cmdExcluir");
+              })
         .when("frmExcluirEtiqueta", "",
               [&](QWidget& screen) {
                   typeRange(screen, "1", "3");

@@ -1,6 +1,8 @@
 // The job of a clerk in the real screens, without anybody at the keys. Leaves a picture
 // of every step and the printed jobs in a folder.
+#include <QCursor>
 #include <QDir>
+#include <QScreen>
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -19,8 +21,8 @@ namespace tarn {
 namespace {
 
 // The desk as a clerk's screen shows it, whatever the size of the screen that is lacking.
-constexpr int deskWidth = 1280;
-constexpr int deskHeight = 820;
+constexpr int deskWidth = 1060;
+constexpr int deskHeight = 690;
 
 void walkDay(Walk& walk, const WalkLogon& input) {
     walkIssuing(walk);
@@ -58,6 +60,7 @@ int advance(DeskApplication& program, const WalkLogon& input, const std::string&
     Options options;
     options.baseUrl = serverAddress(input.server).url;
     options.virtualPrinter = input.folder;
+    options.serverReplaced = true;
     options.labelSelection = name == "selecao";
     Desk desk(program, options, printersOf(options));
     Walk walk(QString::fromStdString(input.folder));
@@ -70,6 +73,9 @@ int advance(DeskApplication& program, const WalkLogon& input, const std::string&
             QCoreApplication::exit(1);
         }
     });
+    // Neither the pointer nor the beat of the cursor is to be on a picture.
+    QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
+    QApplication::setCursorFlashTime(0);
     desk.menu().resize(deskWidth, deskHeight);
     desk.open();
     walk.start();

@@ -1,20 +1,17 @@
 #include "apps/tarnroteiro/note_walk.h"
 
-#include <QDir>
 #include <QFile>
 #include <QMenu>
 
 #include "apps/tarnroteiro/gestures.h"
+#include "apps/tarnroteiro/paper_list.h"
 
 namespace tarn {
 namespace {
 
-// The number of the note that came out last, read off its paper: the first line's
-// columns 125 to 130.
+// The number of the note, read off its paper: the first line's columns 125 to 130.
 std::string numberOnPaper(const std::string& folder) {
-    const QDir sheets(QString::fromStdString(folder));
-    const QStringList jobs = sheets.entryList({"job-*.prn"}, QDir::Files, QDir::Name);
-    QFile note(jobs.isEmpty() ? QString() : sheets.filePath(jobs.last()));
+    QFile note(jobsOf(QString::fromStdString(folder), "nota").value(1));  // 0 sets the printer up
     if (!note.open(QIODevice::ReadOnly)) {
         qFatal("a nota não saiu na impressora");
     }
@@ -66,9 +63,10 @@ void walkIssuing(Walk& walk) {
                   click(dialog, "cmdOk");
               })
         .when("FrmOFT", "",
-              [](QWidget& screen) {
+              [&](QWidget& screen) {
                   clickInGrid(screen, first, customer);
                   click(screen, "cmdImprimirOF");
+                  walk.printed("ordem");
               })
         .when("FrmOFT", "",
               [](QWidget& screen) {
@@ -89,7 +87,11 @@ void walkIssuing(Walk& walk) {
                   click(screen, "cmdSelecionar");
               })
         .when("frmMensagemAlerta", "observacao", [](QWidget& dialog) { click(dialog, "cmdOk"); })
-        .when("FrmOFT", "nota-emitida", [](QWidget& screen) { click(screen, "CmdFechar"); })
+        .when("FrmOFT", "nota-emitida",
+              [&](QWidget& screen) {
+                  walk.printed("nota");
+                  click(screen, "CmdFechar");
+              })
         .when("MDIMenu", "", [](QWidget& window) { clickInBar(window, "mnuAjuda"); })
         .when("frmAjuda", "ajuda", [](QWidget& dialog) { click(dialog, "cmdVoltar"); });
 }
@@ -105,6 +107,7 @@ void walkReprint(Walk& walk, const WalkLogon& input) {
                   search(screen, numberOnPaper(input.folder));
                   walk.photograph(screen, "reimpressao-preenchida");
                   click(screen, "cmdSelecionar");
+                  walk.printed("reimpressao");
               })
         .when("FrmReImprimeNF", "", [](QWidget& screen) { click(screen, "CmdFechar"); });
 }

@@ -1,28 +1,43 @@
 #include "apps/tarnroteiro/printer_picture.h"
 
+#include <QAction>
 #include <QDir>
 #include <QFile>
+#include <QStatusBar>
 #include <QTest>
+#include <algorithm>
 #include <cstdio>
 
+#include "apps/tarnroteiro/gestures.h"
+#include "apps/tarnroteiro/paper_list.h"
+#include "apps/tarnroteiro/photo.h"
 #include "forms/form_loader.h"
 #include "printer/printer_window.h"
 
 namespace tarn {
 namespace {
 
-constexpr int width = 1280;
-constexpr int height = 820;
+constexpr int width = 1000;
+constexpr int height = 690;
 
 bool print(dotmatrix::PaperRoll& roll, const QString& file) {
     QFile job(file);
     if (!job.open(QIODevice::ReadOnly)) {
-        std::fprintf(stderr, "tarnroteiro: não há %s; ande primeiro o roteiro do dia.\n",
-                     qPrintable(file));
+        std::fprintf(stderr, "tarnroteiro: não há %s.\n", qPrintable(file));
         return false;
     }
     roll.startJob(QFileInfo(file).fileName().toStdString());
     return !roll.feed(job.readAll().toStdString());
+}
+
+bool printNote(dotmatrix::PaperRoll& roll, const QString& folder) {
+    const QStringList jobs = jobsOf(folder, QStringLiteral("nota"));
+    if (jobs.isEmpty()) {
+        std::fprintf(stderr, "tarnroteiro: não há nota em %s; ande primeiro o roteiro do dia.\n",
+                     qPrintable(folder));
+    }
+    return !jobs.isEmpty() &&
+           std::ranges::all_of(jobs, [&](const QString& job) { return print(roll, job); });
 }
 
 }  // namespace
@@ -30,8 +45,7 @@ bool print(dotmatrix::PaperRoll& roll, const QString& file) {
 bool pictureOfPrinter(const std::string& folder) {
     const QDir sheets(QString::fromStdString(folder));
     dotmatrix::PaperRoll roll{dotmatrix::Dialect{}};
-    if (!print(roll, sheets.filePath("job-002.prn")) ||
-        !print(roll, sheets.filePath("job-003.prn"))) {
+    if (!printNote(roll, sheets.path())) {
         return false;
     }
     const auto form = dotmatrix::loadForm("ImprimeNF_1361");
@@ -44,14 +58,17 @@ bool pictureOfPrinter(const std::string& folder) {
     dotmatrix::lay(std::get<dotmatrix::LoadedForm>(form), look);
     dotmatrix::JobIntake input(roll);
     dotmatrix::PrinterWindow window(roll, input, look);
-    window.setWaitingText(QStringLiteral("Esperando trabalhos em 127.0.0.1:9100"));
+    window.setWaitingText(QStringLiteral("Imprimindo da pasta %1").arg(sheets.path()));
     window.resize(width, height);
     window.show();
     if (!QTest::qWaitForWindowExposed(&window)) {
         std::fputs("tarnroteiro: a janela da impressora não abriu.\n", stderr);
         return false;
     }
-    return window.grab().save(sheets.filePath("impressora-virtual.png"));
+    // The paper stands at its end: back to where the note begins.
+    child<QAction>(window, "previousJob").trigger();
+    window.statusBar()->clearMessage();
+    return photoOf(window).save(sheets.filePath("impressora-virtual.png"));
 }
 
 }  // namespace tarn

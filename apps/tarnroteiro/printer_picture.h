@@ -5,7 +5,7 @@
 
 namespace tarn {
 
-// The note of the walk (job-002.prn and job-003.prn of the folder) on its form, saved as
+// The note of the walk, which paper_list.h names in the folder, on its form, saved as
 // `impressora-virtual.png` in the same folder. False, with a word on stderr, when a job or
 // the form can't be read. Needs a QApplication.
 bool pictureOfPrinter(const std::string& folder);

@@ -3,10 +3,11 @@
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
-#include <QPainter>
 #include <QPixmap>
 #include <utility>
 
+#include "apps/tarnroteiro/paper_list.h"
+#include "apps/tarnroteiro/photo.h"
 #include "platform/qt/input_gate.h"
 
 namespace tarn {
@@ -92,24 +93,21 @@ void Walk::finish(const QString& reason) {
 }
 
 void Walk::photograph(QWidget& window, const QString& name) {
-    // A dialog is shown over the desk, as the clerk sees it.
     QWidget* desk = nullptr;
     for (QWidget* top : QApplication::topLevelWidgets()) {
-        desk = top->objectName() == QStringLiteral("MDIMenu") ? top : desk;
+        const bool isDesk = top->objectName() == QStringLiteral("MDIMenu") && top->isVisible();
+        desk = isDesk ? top : desk;
     }
-    QPixmap photo = desk == nullptr ? window.grab() : desk->grab();
-    if (desk != nullptr && window.isWindow() && &window != desk) {
-        const QPixmap dialog = window.grab();
-        QPainter painter(&photo);
-        const QPoint place((desk->width() - window.width()) / 2,
-                           (desk->height() - window.height()) / 2);
-        painter.drawPixmap(place, dialog);
-        painter.setPen(Qt::darkGray);
-        painter.drawRect(QRect(place, window.size()).adjusted(-1, -1, 0, 0));
-    }
+    clock_.stop();  // a photo may turn the event loop, in which no further step may come
+    const QPixmap photo = photoOf(window, desk);
+    clock_.start();
     ++photos_;
     photo.save(QDir(folder_).filePath(
         QStringLiteral("passo-%1-%2.png").arg(photos_, 2, 10, QLatin1Char('0')).arg(name)));
+}
+
+void Walk::printed(const QString& document) {
+    listJobs(folder_, document);
 }
 
 }  // namespace tarn

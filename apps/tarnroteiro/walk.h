@@ -29,6 +29,8 @@ public:
     bool complete() const { return steps_.empty(); }
 
     void photograph(QWidget& window, const QString& name);
+    // What came out of the printer since the last time is of this document (paper_list.h).
+    void printed(const QString& document);
 
 signals:
     // `reason` is empty when every step was taken.

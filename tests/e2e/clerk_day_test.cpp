@@ -144,6 +144,18 @@ TEST(ClerkDay, TheDatabaseHoldsWhatTheDayDidAndNothingElse) {
                 ElementsAre("597|4"));
 }
 
+TEST(ClerkDay, EveryPaperIsListedByItsDocument) {
+    EXPECT_EQ(paper("papel.txt"),
+              "ordem job-001.prn\n"
+              "nota job-002.prn\nnota job-003.prn\n"
+              "reimpressao job-004.prn\nreimpressao job-005.prn\n"
+              "duplicata job-006.pdf\nrecibo job-007.pdf\n"
+              "boleto job-008.prn\nboleto job-009.prn\nboleto job-010.prn\nboleto job-011.prn\n"
+              "cheque job-012.prn\n"
+              "etiquetas job-013.pdf\n"
+              "etiquetas-matriciais job-014.prn\netiquetas-matriciais job-015.prn\n");
+}
+
 TEST(ClerkDay, EveryPaperOfTheDayIsThere) {
     const QStringList jobs =
         QDir(clerk_day::dayFolder).entryList({"job-*"}, QDir::Files, QDir::Name);
