@@ -23,9 +23,9 @@ XmlAttribute spelledAs(std::string_view name, const XmlAttribute& present,
     }
     const XmlAttribute other = row.getNamedItem(name);
     if (!other) {
-        throw RuntimeError(RuntimeErrorCode::ObjectVariable,
-                           "o campo " + std::string(name) + " vem com o nome " +
-                               std::string(present.name()));
+        throw RuntimeError(
+            RuntimeErrorCode::ObjectVariable,
+            "o campo " + std::string(name) + " vem com o nome " + std::string(present.name()));
     }
     return other;
 }

@@ -46,8 +46,7 @@ TEST_P(EveryEncoding, TurnsForbiddenControlsIntoBlanks) {
 }
 
 INSTANTIATE_TEST_SUITE_P(AnswerWriter, EveryEncoding,
-                         testing::Values(Encoding::Windows1252, Encoding::Iso8859,
-                                         Encoding::Utf8));
+                         testing::Values(Encoding::Windows1252, Encoding::Iso8859, Encoding::Utf8));
 
 TEST(AnswerWriter, KnowsItsEncodingsByName) {
     EXPECT_EQ(encodingByName("iso-8859-1"), Encoding::Iso8859);

@@ -1,19 +1,17 @@
 #include "platform/qt/input_gate.h"
 
 #include <QAbstractButton>
-#include <QAbstractScrollArea>
-#include <QAbstractSlider>
 #include <QApplication>
 #include <QEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QThread>
 #include <algorithm>
 
 #include "platform/qt/acting_keys.h"
+#include "platform/qt/input_events.h"
 
 // Tries the shortcuts with a stroke as the window system's way does; QtGui exports it for
 // QTest, and offers no other door.
@@ -25,57 +23,6 @@ extern Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* receiver, ulong t
 
 namespace tarn {
 namespace {
-
-bool isInput(QEvent::Type type) {
-    switch (type) {
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonRelease:
-        case QEvent::MouseButtonDblClick:
-        case QEvent::MouseMove:
-        case QEvent::NonClientAreaMouseButtonPress:
-        case QEvent::NonClientAreaMouseButtonRelease:
-        case QEvent::NonClientAreaMouseButtonDblClick:
-        case QEvent::NonClientAreaMouseMove:
-        case QEvent::KeyPress:
-        case QEvent::KeyRelease:
-        case QEvent::Shortcut:
-        case QEvent::ShortcutOverride:
-        case QEvent::InputMethod:
-        case QEvent::Wheel:
-        case QEvent::ContextMenu:
-        case QEvent::Close:
-        case QEvent::TouchBegin:
-        case QEvent::TouchUpdate:
-        case QEvent::TouchEnd:
-        case QEvent::TabletPress:
-        case QEvent::TabletMove:
-        case QEvent::TabletRelease:
-        case QEvent::NativeGesture:
-        case QEvent::DragEnter:
-        case QEvent::DragMove:
-        case QEvent::Drop:
-            return true;
-        default:
-            return false;
-    }
-}
-
-// Of what comes in while something held for the same window is still to be typed, these
-// queue up; the rest has no order to keep.
-bool keepsOrder(QEvent::Type type) {
-    switch (type) {
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonRelease:
-        case QEvent::MouseButtonDblClick:
-        case QEvent::KeyPress:
-        case QEvent::KeyRelease:
-        case QEvent::ShortcutOverride:
-        case QEvent::InputMethod:
-            return true;
-        default:
-            return false;
-    }
-}
 
 int loopLevel() {
     return QThread::currentThread()->loopLevel();
@@ -94,26 +41,6 @@ bool isBehindModal(const QObject* receiver) {
         widget = widget->parentWidget();
     }
     return modal != nullptr && widget == nullptr;
-}
-
-// A close that is refused must read as refused, a shortcut as taken.
-void settle(QEvent* event) {
-    if (event->type() == QEvent::Close || event->type() == QEvent::DragEnter) {
-        event->ignore();
-    } else {
-        event->accept();
-    }
-}
-
-// What a release only ends, without doing anything: a scroll bar's drag, a selection.
-bool onlyEndsDrag(const QObject* receiver) {
-    return qobject_cast<const QAbstractSlider*>(receiver) != nullptr ||
-           qobject_cast<const QLineEdit*>(receiver) != nullptr;
-}
-
-bool isMouse(QEvent::Type type) {
-    return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
-           type == QEvent::MouseButtonDblClick;
 }
 
 bool isActive(const QWidget& window) {
