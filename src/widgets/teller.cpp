@@ -1,8 +1,7 @@
 #include "widgets/teller.h"
 
+#include <QTime>
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <ostream>
 #include <utility>
 
@@ -41,9 +40,9 @@ void Teller::printed(const PaperAct& act) {
 // What is told holds data of the server.
 void Teller::tell(const std::string& what) {
     const TimeOfDay now = clock_.timeOfDay();
-    std::array<char, 8> time{};
-    std::snprintf(time.data(), time.size(), "%02d:%02d ", now.hour % 24, now.minute % 60);
-    const std::string line = time.data() + blankControls(what);
+    const std::string time =
+        QTime(now.hour, now.minute).toString(QStringLiteral("HH:mm ")).toStdString();
+    const std::string line = time + blankControls(what);
     told_ = QString::fromStdString(line);
     errors_ << line << std::endl;
     emit lineChanged(this->line());
