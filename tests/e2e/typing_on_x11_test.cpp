@@ -7,6 +7,7 @@
 
 #include "platform/qt/tick.h"
 #include "tests/e2e/desk_x11.h"
+#include "tests/e2e/ways_x11.h"
 #include "widgets/free_text_field.h"
 
 namespace tarn::test {
@@ -48,6 +49,7 @@ struct Screen {
     const char* button;
     const char* name;
     std::vector<Field> fields;
+    ways::Way way = nullptr;  // in place of the first two
 };
 
 class TypingOn : public DeskX11, public testing::WithParamInterface<Pace> {
@@ -65,6 +67,9 @@ protected:
     }
     QWidget& openOverList(X11User& hands, const Screen& which) {
         opens(hands, "mOFT", "FrmOFT");
+        if (which.way != nullptr) {
+            return which.way(*this, hands);
+        }
         if (which.button == nullptr) {
             return opens(hands, which.entry, which.name);
         }
@@ -184,6 +189,22 @@ TEST_P(TypingOn, TheChequeOverTheOrderListHoldsWhatWasTyped) {
                    {"txtFavorecido", "jose maria e filhos"},
                    {"txtDtDeposito", "15032013"},
                    {"txtObservacao", "material de escritorio"}}});
+}
+
+TEST_P(TypingOn, LabelRangesOverTheOrderListHoldWhatWasTyped) {
+    typeOverList({nullptr,
+                  nullptr,
+                  "frmImprimirEtiqueta",
+                  {{"txtDe", "1234567"}, {"txtAte", "7654321"}},
+                  ways::labelPrinting});
+}
+
+TEST_P(TypingOn, LabelDeletionsOverTheOrderListHoldWhatWasTyped) {
+    typeOverList({nullptr,
+                  nullptr,
+                  "frmExcluirEtiqueta",
+                  {{"txtDe", "1234567"}, {"txtAte", "7654321"}},
+                  ways::labelDeletion});
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, TypingOn, testing::ValuesIn(paces()), nameOf);
