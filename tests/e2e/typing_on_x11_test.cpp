@@ -66,7 +66,7 @@ protected:
         QMetaObject::invokeMethod(&named<QWidget>(screen, field), "clear");
     }
     QWidget& openOverList(X11User& hands, const Screen& which) {
-        opens(hands, "mOFT", "FrmOFT");
+        QWidget& orders = opens(hands, "mOFT", "FrmOFT");
         if (which.way != nullptr) {
             return which.way(*this, hands);
         }
@@ -74,7 +74,7 @@ protected:
             return opens(hands, which.entry, which.name);
         }
         QWidget& behind =
-            which.entry == nullptr ? *find("FrmOFT") : opens(hands, which.entry, "FrmPesqDupli");
+            which.entry == nullptr ? orders : opens(hands, which.entry, "FrmPesqDupli");
         press(hands, behind, which.button);
         return appears(hands, which.name);
     }
