@@ -16,14 +16,20 @@
 #include <cmath>
 #include <memory>
 
-#include "platform/qt/qt_message_boxes.h"
-
 namespace tarn {
 namespace {
 
 constexpr int readableWidth = 80;  // characters; a longer line is broken
 constexpr int mostOfScreen = 90;   // per cent of its width and height, frame included
 constexpr int frame = 40;          // pixels kept for the window manager's
+
+// The text with each CR, LF and CR LF as one line break, as widgets want it.
+QString linesOnScreen(const std::string& text) {
+    QString shown = QString::fromStdString(text);
+    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    shown.replace(u'\r', u'\n');
+    return shown;
+}
 
 // A text for reading that looks like a label. Keys that it has no use for go to the box.
 class BoxText : public QTextEdit {

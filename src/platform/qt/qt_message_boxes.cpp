@@ -42,13 +42,6 @@ public:
 
 }  // namespace
 
-QString linesOnScreen(const std::string& text) {
-    QString shown = QString::fromStdString(text);
-    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    shown.replace(u'\r', u'\n');
-    return shown;
-}
-
 QtMessageBoxes::QtMessageBoxes() : hadKeyboard_(QGuiApplication::focusWindow() != nullptr) {
     QObject::connect(
         qGuiApp, &QGuiApplication::focusWindowChanged, &watch_,

@@ -2,14 +2,10 @@
 #pragma once
 
 #include <QObject>
-#include <QString>
 
 #include "platform/message_boxes.h"
 
 namespace tarn {
-
-// The text with each CR, LF and CR LF as one line break, as widgets want it.
-QString linesOnScreen(const std::string& text);
 
 // A box stands in front of a window of the program, and takes the keyboard only from the
 // program's own: decision D129.
