@@ -44,5 +44,5 @@ function(tarn_add_test name)
   tarn_reuse_test_headers(${name} "${arg_LIBRARIES}")
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
     PROPERTIES LABELS "${arg_LABEL}" ${arg_PROPERTIES}
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.qpa.*=false;ASAN_OPTIONS=detect_leaks=0")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()

@@ -1,6 +1,5 @@
-// The main of a program of screen tests on a monitor of TARN_TEST_MONITOR dots ("1920x1080"),
-// off-screen, at the scale of QT_SCALE_FACTOR, on a dark desktop if TARN_TEST_DESKTOP is
-// "dark".
+// The main of a program of screen tests on a monitor of TARN_TEST_MONITOR dots and scale
+// ("1920x1080x1.5"), off-screen, on a dark desktop if TARN_TEST_DESKTOP is "dark".
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -13,15 +12,16 @@
 static void setMonitor(const QString& file) {
     const QByteArray dots = qEnvironmentVariableIsSet("TARN_TEST_MONITOR")
                                 ? qgetenv("TARN_TEST_MONITOR")
-                                : QByteArray("1024x768");
+                                : QByteArray("1024x768x1");
     const QList<QByteArray> sides = dots.split('x');
     QFile told(file);
-    if (sides.size() != 2 || !told.open(QIODevice::WriteOnly)) {
+    if (sides.size() != 3 || !told.open(QIODevice::WriteOnly)) {
         qFatal("no monitor: %s", dots.constData());
     }
     told.write(R"({"screens":[{"name":"monitor","x":0,"y":0,"logicalDpi":96,"logicalBaseDpi":96,)"
                R"("dpr":1,"width":)" +
                sides[0] + R"(,"height":)" + sides[1] + "}]}");
+    qputenv("QT_SCALE_FACTOR", sides[2]);
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(file));
 }
 
