@@ -68,7 +68,8 @@ public:
         const bool ready = hands.waitUntil([&] {
             screen = find(name);
             return screen != nullptr && screen->isVisible() &&
-                   QApplication::activeWindow() == screen->window() && X11User::isReady();
+                   QApplication::activeWindow() == screen->window() &&
+                   hands.typesInto(*screen->window()) && X11User::isReady();
         });
         if (!ready) {
             throw std::runtime_error(std::string("no screen came: ") + name);

@@ -204,6 +204,13 @@ void X11User::arrive() {
     throw std::runtime_error("strokes don't arrive");
 }
 
+bool X11User::typesInto(const QWidget& window) const {
+    Window focused = 0;
+    int revert = 0;
+    XGetInputFocus(connection_->display, &focused, &revert);
+    return focused == window.winId();
+}
+
 bool X11User::isReady() {
     const QCursor* cursor = QGuiApplication::overrideCursor();
     return InputGate::ofApplication().isQuiet() &&

@@ -41,6 +41,10 @@ public:
 
     // Waits until all that was done has arrived.
     void arrive();
+    // The X server hands the strokes to this window. The toolkit calls a modal window active
+    // before the window manager has given it the keyboard, and one closed in between leaves
+    // no window active.
+    bool typesInto(const QWidget& window) const;
     // And until what it set off is over.
     void settle();
     // No request is under way, and nothing held is still to be typed.
