@@ -73,8 +73,7 @@ private:
 };
 
 bool isScreen(std::string_view path) {
-    const std::string_view file = path.substr(path.rfind('/') + 1);
-    return file.starts_with("frm_") || file.substr(0, file.find('.')).ends_with("_model");
+    return path.substr(path.rfind('/') + 1).starts_with("frm_");
 }
 
 // Qt's own headers are named Q... or Qt.../...; Designer's are ui_*.h.
