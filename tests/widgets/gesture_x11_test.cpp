@@ -14,29 +14,15 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-#include "platform/qt/acting_keys.h"
 #include "platform/qt/input_gate.h"
 #include "tests/support/x11_user.h"
+#include "tests/widgets/tab_field.h"
 #include "widgets/gesture_filter.h"
 
 namespace tarn::test {
 namespace {
 
 using namespace std::chrono_literals;
-
-class Field : public QLineEdit {
-public:
-    Field() { letEnterMoveOn(*this); }
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Return) {
-            QTest::keyClick(this, Qt::Key_Tab);
-        } else {
-            QLineEdit::keyPressEvent(event);
-        }
-    }
-};
 
 class Window : public QDialog {
 public:
@@ -56,7 +42,7 @@ public:
         EXPECT_TRUE(QTest::qWaitFor([this] { return !windowHandle()->frameMargins().isNull(); }));
     }
 
-    Field first, second, third;
+    TabField first, second, third;
     QPushButton button{"&Grava"};
     QPushButton other{"Fecha"};
     QCheckBox tick{"Marca"};

@@ -16,26 +16,11 @@
 #include <QVBoxLayout>
 #include <functional>
 
-#include "platform/qt/acting_keys.h"
 #include "tests/support/timed_events.h"
+#include "tests/widgets/tab_field.h"
 
 namespace tarn::test {
 namespace {
-
-// A field where Enter is the Tab stroke.
-class Field : public QLineEdit {
-public:
-    Field() { letEnterMoveOn(*this); }
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Return) {
-            QTest::keyClick(this, Qt::Key_Tab);
-        } else {
-            QLineEdit::keyPressEvent(event);
-        }
-    }
-};
 
 class Window : public QDialog {
 public:
@@ -52,7 +37,7 @@ public:
         first.setFocus();
     }
 
-    Field first, second, third;
+    TabField first, second, third;
     QPushButton button{"&Grava"};
     QPushButton other{"Fecha"};
     QTableWidget grid{3, 2};
