@@ -31,7 +31,7 @@ constexpr int notFound = 404;
 constexpr int serverError = 500;
 constexpr std::int64_t defaultWait = 10;     // seconds
 constexpr std::int64_t longestWait = 3600;   // seconds
-constexpr std::size_t tooLarge = 64U << 20;  // the desk takes no larger body
+constexpr std::size_t tooLarge = 16U << 20;  // the desk takes no larger body
 
 constexpr const char* html = "text/html; charset=utf-8";
 constexpr const char* refusal =

@@ -25,7 +25,7 @@ enum class FaultKind {
     NoDeclaration,  // well-formed, without the XML declaration
     WrongEncoding,  // declared as utf-8, written in windows-1252
     Slow,           // the right answer, late
-    Huge            // the right answer, and blanks beyond 64 MiB behind it
+    Huge            // the right answer, and blanks beyond 16 MiB behind it
 };
 
 struct Fault {

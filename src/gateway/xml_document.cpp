@@ -1,13 +1,9 @@
 #include "gateway/xml_document.h"
 
 #include "gateway/xml_tree.h"
+#include "platform/http_loader.h"
 
 namespace tarn {
-namespace {
-
-constexpr std::size_t largestAnswer = std::size_t{64} * 1024 * 1024;
-
-}  // namespace
 
 XmlDocument::XmlDocument() = default;
 XmlDocument::~XmlDocument() = default;

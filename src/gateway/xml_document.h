@@ -20,8 +20,8 @@ public:
     XmlDocument(XmlDocument&&) noexcept;
     XmlDocument& operator=(XmlDocument&&) noexcept;
 
-    // Parses in strict mode: no network, no external or internal subset, any
-    // declared encoding, 64 MiB at most. False leaves the document empty.
+    // Parses in strict mode: no network, no external or internal subset, an encoding
+    // and a size within answer_limits.h. False leaves the document empty.
     bool loadXML(std::string_view bytes);
 
     std::string xml() const;  // "" while empty

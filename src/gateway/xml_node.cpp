@@ -28,22 +28,24 @@ std::string_view withoutPrefix(std::string_view name) {
     return colon == std::string_view::npos ? name : name.substr(colon + 1);
 }
 
-std::string_view prefixOf(const xmlNs* ns) {
-    return ns == nullptr ? std::string_view{} : viewOf(ns->prefix);
+std::string_view prefixOf(const xmlNode& element) {
+    return element.ns == nullptr ? std::string_view{} : viewOf(element.ns->prefix);
 }
 
 // Prefix and name as one text that lives as long as the document.
-std::string_view qualifiedName(const xmlDoc& doc, const xmlNs* ns, const xmlChar* name) {
-    return viewOf(prefixOf(ns).empty() ? name : xmlDictQLookup(doc.dict, ns->prefix, name));
+std::string_view writtenName(const xmlNode& element) {
+    return viewOf(prefixOf(element).empty()
+                      ? element.name
+                      : xmlDictQLookup(element.doc->dict, element.ns->prefix, element.name));
 }
 
-bool nameIs(const xmlNs* ns, const xmlChar* name, std::string_view wanted) {
-    const std::string_view prefix = prefixOf(ns);
+bool nameIs(const xmlNode& element, std::string_view wanted) {
+    const std::string_view prefix = prefixOf(element);
     if (prefix.empty()) {
-        return viewOf(name) == wanted;
+        return viewOf(element.name) == wanted;
     }
     return wanted.size() > prefix.size() && wanted.starts_with(prefix) &&
-           wanted[prefix.size()] == ':' && wanted.substr(prefix.size() + 1) == viewOf(name);
+           wanted[prefix.size()] == ':' && wanted.substr(prefix.size() + 1) == viewOf(element.name);
 }
 
 // Next node of the tree in document order, never leaving what is below `top`.
@@ -62,7 +64,7 @@ bool isBlank(std::string_view text) {
 }
 
 void addMatching(NodeVector& found, const xmlNode& node, std::string_view name) {
-    if (isElement(node) && nameIs(node.ns, node.name, name)) {
+    if (isElement(node) && nameIs(node, name)) {
         found.push_back(&node);
     }
 }
@@ -105,8 +107,7 @@ NodeVector byPath(const xmlNode& from, std::string_view path, bool firstOnly) {
 }  // namespace
 
 std::string_view XmlAttribute::name() const {
-    const xmlAttr& attribute = given(attribute_);
-    return qualifiedName(*attribute.doc, attribute.ns, attribute.name);
+    return viewOf(given(attribute_).written);
 }
 
 std::string_view XmlAttribute::baseName() const {
@@ -114,10 +115,8 @@ std::string_view XmlAttribute::baseName() const {
 }
 
 std::string_view XmlAttribute::text() const {
-    // Without a document type every reference is resolved while parsing: the
-    // value is one text node.
-    const xmlNode* value = given(attribute_).children;
-    return value == nullptr ? std::string_view{} : viewOf(value->content);
+    const XmlAttributeData& attribute = given(attribute_);
+    return {attribute.text, attribute.length};
 }
 
 // The document's dictionary holds each name once.
@@ -126,16 +125,18 @@ const char* XmlAttribute::nameAddress() const {
 }
 
 bool XmlAttribute::hasPrefix() const {
-    return given(attribute_).ns != nullptr;
+    const XmlAttributeData& attribute = given(attribute_);
+    return attribute.written != attribute.name;
 }
 
 XmlAttribute XmlAttribute::next() const {
-    return XmlAttribute(given(attribute_).next);
+    const XmlAttributeData* behind = &given(attribute_) + 1;
+    return XmlAttribute(behind->name == nullptr ? nullptr : behind);
 }
 
 XmlAttribute XmlAttributes::first() const {
     const xmlNode& element = given(element_);
-    return XmlAttribute(isElement(element) ? element.properties : nullptr);
+    return XmlAttribute(isElement(element) ? XmlTree::attributesOf(element) : nullptr);
 }
 
 std::size_t XmlAttributes::length() const {
@@ -155,11 +156,11 @@ XmlAttribute XmlAttributes::item(std::size_t index) const {
 }
 
 XmlAttribute XmlAttributes::getNamedItem(std::string_view name) const {
-    const xmlAttr* attribute = first().attribute_;
-    while (attribute != nullptr && !nameIs(attribute->ns, attribute->name, name)) {
-        attribute = attribute->next;
+    XmlAttribute attribute = first();
+    while (attribute && attribute.name() != name) {
+        attribute = attribute.next();
     }
-    return XmlAttribute(attribute);
+    return attribute;
 }
 
 std::string_view XmlAttributes::textOf(std::string_view name) const {
@@ -185,7 +186,7 @@ XmlNode XmlNodeList::item(std::size_t index) const {
 
 std::string_view XmlNode::nodeName() const {
     const xmlNode& node = given(node_);
-    return isDeclaration(node) ? "xml" : qualifiedName(*node.doc, node.ns, node.name);
+    return isDeclaration(node) ? "xml" : writtenName(node);
 }
 
 std::string_view XmlNode::baseName() const {

@@ -1,4 +1,4 @@
-// The nodes of an answer: thin handles over libxml2's own tree, nothing is copied. They
+// The nodes of an answer: thin handles over the tree, nothing is copied. They
 // live as long as their document. White space between elements, comments and processing
 // instructions are not nodes; child access by position costs O(1).
 #pragma once
@@ -10,11 +10,12 @@
 #include <utility>
 #include <vector>
 
-// libxml2's own tags, so that its headers stay out of this one.
-struct _xmlAttr;  // NOLINT(bugprone-reserved-identifier)
+// libxml2's own tag, so that its headers stay out of this one.
 struct _xmlNode;  // NOLINT(bugprone-reserved-identifier)
 
 namespace tarn {
+
+struct XmlAttributeData;
 
 // An attribute: its name, base name (no prefix) and text. Null when absent; any read of a
 // null one raises RuntimeError ObjectVariable.
@@ -33,8 +34,8 @@ public:
 
 private:
     friend class XmlAttributes;
-    explicit XmlAttribute(const _xmlAttr* attribute) : attribute_(attribute) {}
-    const _xmlAttr* attribute_ = nullptr;
+    explicit XmlAttribute(const XmlAttributeData* attribute) : attribute_(attribute) {}
+    const XmlAttributeData* attribute_ = nullptr;
 };
 
 // In document order. Namespace declarations are not among them.

@@ -1,9 +1,12 @@
 // Seam: one blocking HTTP GET.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace tarn {
+
+inline constexpr std::size_t largestAnswer = std::size_t{16} * 1024 * 1024;  // bytes
 
 struct HttpAnswer {
     bool loaded = false;  // false: unreachable, refused, HTTP error, body cut or too large

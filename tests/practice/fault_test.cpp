@@ -189,7 +189,7 @@ TEST(Fault, SendsMoreThanTheDeskTakes) {
     EXPECT_FALSE(server.get(versionQuery).loaded);
     const auto answer = server.raw(versionQuery);
     ASSERT_TRUE(answer);
-    EXPECT_GT(answer->body.size(), 64U << 20);
+    EXPECT_GT(answer->body.size(), 16U << 20);
     EXPECT_EQ(answer->body.rfind("<?xml", 0), 0U);
 }
 

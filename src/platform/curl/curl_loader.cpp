@@ -13,7 +13,6 @@
 namespace tarn {
 namespace {
 
-constexpr std::size_t largestBody = std::size_t{64} * 1024 * 1024;
 constexpr std::size_t largestHead = std::size_t{1024} * 1024;
 constexpr int mostRedirects = 20;  // what browsers allow
 constexpr long bytesASecond = 1;   // slower than that is silence
@@ -31,7 +30,7 @@ struct Received {
 std::size_t takeBody(const char* data, std::size_t size, std::size_t count, void* user) {
     auto& received = *static_cast<Received*>(user);
     const std::size_t length = size * count;
-    if (length > largestBody - received.body.size()) {
+    if (length > largestAnswer - received.body.size()) {
         return 0;  // libcurl ends the transfer
     }
     try {

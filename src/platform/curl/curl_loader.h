@@ -24,7 +24,7 @@ public:
     // would send the request a second time, and a command may not run twice.
     // Redirects are followed only within the server that was asked, and from http to
     // https of the same host; anything else is a failure, as the address may hold a
-    // password. So is a body over 64 MiB, which is dropped while it arrives. The
+    // password. So is a body over largestAnswer, which is dropped while it arrives. The
     // address is never logged. Raises std::runtime_error when libcurl can't be set up.
     // One call at a time.
     HttpAnswer get(const std::string& address) override;
