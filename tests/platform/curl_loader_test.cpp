@@ -100,11 +100,15 @@ TEST_F(CurlLoaderTest, HttpErrorsAreFailures) {
     server_.on("a404", LoopbackReply::error(404, "<R/>"))
         .on("a500", LoopbackReply::error(500, "<R/>"))
         .on("a401", LoopbackReply::error(401, "<R/>"))
-        .on("a304", LoopbackReply::error(304, ""));
+        .on("a304", LoopbackReply::error(304, ""))
+        .on("a206", LoopbackReply::error(206, "<R/>"))
+        .on("a203", LoopbackReply::error(203, "<R/>"));
     expectFailure("a404");
     expectFailure("a500");
     expectFailure("a401");
     expectFailure("a304");
+    expectFailure("a206");
+    expectFailure("a203");
 }
 
 TEST_F(CurlLoaderTest, RedirectsWithinTheServer) {

@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::size_t largestHead = std::size_t{1024} * 1024;
 constexpr int mostRedirects = 20;  // what browsers allow
+constexpr long ok = 200;           // nobody asks for a part, and none is taken for the whole
 constexpr long bytesASecond = 1;   // slower than that is silence
 constexpr long probeSeconds = 30;  // of silence before TCP asks whether the server is there
 
@@ -185,7 +186,7 @@ bool CurlLoader::perform(const std::string& line, std::string& body, std::string
         return true;
     }
     body = std::move(received.body);
-    return status >= 200 && status < 300;
+    return status == ok;
 }
 
 HttpAnswer CurlLoader::get(const std::string& address) {
