@@ -10,10 +10,12 @@
 #include <cerrno>
 #include <condition_variable>
 #include <mutex>
+#include <set>
 #include <stdexcept>
 #include <thread>
 #include <utility>
 
+#include "practice/server/connection_threads.h"
 #include "practice/server/request_stream.h"
 
 namespace tarn::practice {
@@ -67,30 +69,71 @@ std::string_view queryOf(std::string_view target) {
     return mark == std::string_view::npos ? std::string_view{} : target.substr(mark + 1);
 }
 
-// One request a connection, so that the end waits for no idle one; its target
-// is handed on as it came.
+// The connections being served, so that the end waits for no silent one.
+class OpenConnections {
+public:
+    // False once all have been ended; the connection isn't taken then.
+    bool add(socket_t socket) {
+        const std::lock_guard lock(mutex_);
+        return !ended_ && open_.insert(socket).second;
+    }
+    void remove(socket_t socket) {
+        const std::lock_guard lock(mutex_);
+        open_.erase(socket);
+    }
+    // Nothing more is read; what is being answered is still sent.
+    void endReading() {
+        const std::lock_guard lock(mutex_);
+        ended_ = true;
+        for (const socket_t socket : open_) {
+            shutdown(socket, SHUT_RD);
+        }
+    }
+
+private:
+    std::mutex mutex_;
+    std::set<socket_t> open_;
+    bool ended_ = false;
+};
+
+// One request a connection; its target is handed on as it came.
 class PageServer : public httplib::Server {
 public:
+    explicit PageServer(std::chrono::milliseconds requestTime) : requestTime_(requestTime) {}
+
     // Keeps the request that this thread is serving without an answer.
     static void sendNothing() { current_->mute(); }
+    void endReading() { connections_.endReading(); }
+    // Of connections not yet taken; the library asks for five.
+    void lengthenQueue() { ::listen(svr_sock_, SOMAXCONN); }
 
 private:
     bool process_and_close_socket(socket_t socket) override {
-        RequestStream stream(socket, read_timeout_sec_, write_timeout_sec_);
-        current_ = &stream;
-        bool closed = false;
-        const bool done =
-            process_request(stream, true, closed, [&stream](httplib::Request& request) {
-                request.target = stream.target();
-                // Uncompressed: the library would spend a tenth of a second on a long list.
-                request.headers.erase("Accept-Encoding");
-            });
+        bool done = false;
+        if (connections_.add(socket)) {
+            done = serve(socket);
+            connections_.remove(socket);
+        }
         shutdown(socket, SHUT_RDWR);
         close(socket);
         return done;
     }
 
+    bool serve(socket_t socket) {
+        RequestStream stream(socket, requestTime_, write_timeout_sec_);
+        current_ = &stream;
+        bool closed = false;
+        return process_request(stream, true, closed, [&stream](httplib::Request& request) {
+            request.target = stream.target();
+            // Uncompressed: the library would spend a tenth of a second on a long list.
+            request.headers.erase("Accept-Encoding");
+        });
+    }
+
     static thread_local RequestStream* current_;  // of the request being served
+
+    std::chrono::milliseconds requestTime_;
+    OpenConnections connections_;
 };
 
 thread_local RequestStream* PageServer::current_ = nullptr;
@@ -123,6 +166,8 @@ void sendWithBlanks(httplib::Response& response, std::string body, std::size_t b
 }  // namespace
 
 struct HttpFront::State {
+    explicit State(std::chrono::milliseconds requestTime) : server(requestTime) {}
+
     Answer answer;
     std::string contentType;
     PageServer server;
@@ -152,11 +197,14 @@ void HttpFront::State::send(Page page, httplib::Response& response) {
     }
 }
 
-HttpFront::HttpFront(Answer answer, std::string contentType) : state_(std::make_unique<State>()) {
+HttpFront::HttpFront(Answer answer, std::string contentType, std::chrono::milliseconds requestTime)
+    : state_(std::make_unique<State>(requestTime)) {
     state_->answer = std::move(answer);
     state_->contentType = std::move(contentType);
     State* state = state_.get();
     state->server.set_socket_options(reuseAddressOnly);
+    state->server.set_payload_max_length(RequestStream::mostBodyBytes);
+    state->server.new_task_queue = [] { return new ConnectionThreads; };
     // Waits for connections in short turns, so that a stop is always noticed.
     state->server.set_idle_interval(0, turnMicroseconds);
     state->server.Get(std::string(pagePath),
@@ -196,6 +244,7 @@ int HttpFront::bind(const std::string& address, int port) {
     if (bound < 0) {
         throw std::runtime_error(whyNotBound(address, port, errno));
     }
+    state_->server.lengthenQueue();
     return bound;
 }
 
@@ -215,6 +264,7 @@ void HttpFront::stop() {
     }
     state_->stopping.notify_all();
     state_->server.stop();
+    state_->server.endReading();
 }
 
 }  // namespace tarn::practice

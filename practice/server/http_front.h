@@ -1,6 +1,7 @@
 // The practice server's network side: the one page, GET only.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -17,7 +18,11 @@ public:
     // Gives the page for a query text, and throws where it can't.
     using Answer = std::function<Page(std::string_view rawQuery)>;
 
-    HttpFront(Answer answer, std::string contentType);
+    // A connection that hasn't sent its whole request after this time is closed.
+    static constexpr std::chrono::seconds usualRequestTime{10};
+
+    HttpFront(Answer answer, std::string contentType,
+              std::chrono::milliseconds requestTime = usualRequestTime);
     ~HttpFront();
     HttpFront(const HttpFront&) = delete;
     HttpFront& operator=(const HttpFront&) = delete;
@@ -27,7 +32,7 @@ public:
     int bind(const std::string& address, int port);
     void serve();  // blocks until stop()
     // From any other thread; waits for a serve() that is about to begin. Ends the
-    // waiting of pages that are to be late.
+    // waiting of pages that are to be late, and of requests that aren't there yet.
     void stop();
 
 private:

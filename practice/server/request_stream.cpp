@@ -25,9 +25,10 @@ bool ready(socket_t socket, short events, int milliseconds) {
 
 }  // namespace
 
-RequestStream::RequestStream(socket_t socket, time_t readSeconds, time_t writeSeconds)
+RequestStream::RequestStream(socket_t socket, std::chrono::milliseconds requestTime,
+                             time_t writeSeconds)
     : socket_(socket),
-      readMilliseconds_(static_cast<int>(readSeconds) * millisecond),
+      end_(std::chrono::steady_clock::now() + requestTime),
       writeMilliseconds_(static_cast<int>(writeSeconds) * millisecond) {}
 
 std::string RequestStream::target() const {
@@ -40,7 +41,7 @@ std::string RequestStream::target() const {
 }
 
 bool RequestStream::is_readable() const {
-    return next_ < pending_.size() || ready(socket_, POLLIN, readMilliseconds_);
+    return next_ < pending_.size() || ready(socket_, POLLIN, millisecondsLeft());
 }
 
 bool RequestStream::is_writable() const {
@@ -68,10 +69,17 @@ ssize_t RequestStream::write(const char* bytes, size_t size) {
     return sent;
 }
 
+int RequestStream::millisecondsLeft() const {
+    const auto left =
+        std::chrono::ceil<std::chrono::milliseconds>(end_ - std::chrono::steady_clock::now());
+    return static_cast<int>(std::max(left.count(), std::chrono::milliseconds::rep{0}));
+}
+
 bool RequestStream::fill() {
     pending_.clear();
     next_ = 0;
-    if (!ready(socket_, POLLIN, readMilliseconds_)) {
+    const int milliseconds = millisecondsLeft();
+    if (milliseconds == 0 || !withinBounds() || !ready(socket_, POLLIN, milliseconds)) {
         return false;
     }
     std::array<char, pieceBytes> piece{};
@@ -85,12 +93,35 @@ bool RequestStream::fill() {
     return count > 0;
 }
 
+bool RequestStream::withinBounds() const {
+    return line_.size() <= mostLineBytes && headBytes_ <= mostHeadBytes &&
+           bodyBytes_ <= mostBodyBytes;
+}
+
 char RequestStream::taken(char byte) {
-    if (!inLine_) {
+    if (part_ == Part::Body) {
+        ++bodyBytes_;
         return byte;
     }
+    ++headBytes_;
+    if (part_ == Part::Line) {
+        return takenFromLine(byte);
+    }
+    if (byte == '\n') {
+        part_ = blankLine_ ? Part::Body : Part::Head;
+        blankLine_ = true;
+    } else if (byte != '\r') {
+        blankLine_ = false;
+    }
+    return byte;
+}
+
+char RequestStream::takenFromLine(char byte) {
     line_.push_back(byte);
-    inLine_ = byte != '\n';
+    if (byte == '\n') {
+        part_ = Part::Head;
+        blankLine_ = true;
+    }
     const bool hidden = marked_ && byte == '?';
     marked_ = marked_ || byte == '?';
     return hidden ? standIn : byte;

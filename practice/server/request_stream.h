@@ -1,9 +1,11 @@
 // A connection's bytes, with the request line's later question marks hidden
-// from a parser that takes only one.
+// from a parser that takes only one, and no more of them than a request may have.
 #pragma once
 
 #include <httplib.h>
 
+#include <chrono>
+#include <cstddef>
 #include <string>
 
 namespace tarn::practice {
@@ -11,10 +13,18 @@ namespace tarn::practice {
 // A second "?" may stand as it is in a query, yet the library refuses it. Read
 // through this stream each "?" of the request line but the first is "_", of the
 // same length; target() has it as it came.
+//
+// The library looks at a line's length only once the line has ended, so the bounds are
+// here: beyond them reading fails, and so it does when the whole request isn't there in time.
 class RequestStream : public httplib::Stream {
 public:
-    // Doesn't own the socket. A read or write waits so many seconds at the most.
-    RequestStream(socket_t socket, time_t readSeconds, time_t writeSeconds);
+    static constexpr std::size_t mostLineBytes = 64UL * 1024;
+    static constexpr std::size_t mostHeadBytes = 256UL * 1024;  // the request line among them
+    static constexpr std::size_t mostBodyBytes = 64UL * 1024;   // the page reads none
+
+    // Doesn't own the socket. The request has so long from now on; a write waits so many
+    // seconds at the most.
+    RequestStream(socket_t socket, std::chrono::milliseconds requestTime, time_t writeSeconds);
 
     // The target of the request line as it came; complete once the line is read.
     std::string target() const;
@@ -31,14 +41,22 @@ public:
     socket_t socket() const override { return socket_; }
 
 private:
+    enum class Part { Line, Head, Body };
+
+    int millisecondsLeft() const;
     bool fill();
+    bool withinBounds() const;
     char taken(char byte);
+    char takenFromLine(char byte);
 
     socket_t socket_;
-    int readMilliseconds_;
+    std::chrono::steady_clock::time_point end_;
     int writeMilliseconds_;
     std::string line_;  // the request line as it came
-    bool inLine_ = true;
+    Part part_ = Part::Line;
+    std::size_t headBytes_ = 0;
+    std::size_t bodyBytes_ = 0;
+    bool blankLine_ = false;  // nothing in the head's present line so far
     bool marked_ = false;
     bool muted_ = false;
     std::string pending_;  // taken from the socket, not yet read

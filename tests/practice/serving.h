@@ -3,6 +3,7 @@
 
 #include <httplib.h>
 
+#include <chrono>
 #include <string>
 #include <thread>
 #include <utility>
@@ -14,8 +15,9 @@ namespace tarn::practice::test {
 // A front that serves for the life of a test.
 class Serving {
 public:
-    explicit Serving(HttpFront::Answer answer)
-        : front_(std::move(answer), "text/xml; charset=windows-1252"),
+    explicit Serving(HttpFront::Answer answer,
+                     std::chrono::milliseconds requestTime = HttpFront::usualRequestTime)
+        : front_(std::move(answer), "text/xml; charset=windows-1252", requestTime),
           port_(front_.bind("127.0.0.1", 0)),
           thread_([this] { front_.serve(); }) {}
     ~Serving() {
