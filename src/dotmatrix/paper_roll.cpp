@@ -10,7 +10,6 @@ namespace {
 constexpr std::size_t seenKept = 24;
 // A note has some 4,000 bytes, so printing again begins at most a few pages above.
 constexpr qint64 betweenMarks = 16LL * 1024;
-constexpr qint64 chunkBytes = 16LL * 1024;
 
 PaperPosition topOfPaper(const Dialect& dialect) {
     return {.form = 0,
@@ -39,13 +38,22 @@ void PaperRoll::begin(const PaperPosition& position, PrinterState state) {
     printer_ = std::make_unique<EscpInterpreter>(*paper_, dialect_, std::move(state));
     marks_.clear();
     seen_.clear();
+    again_.reset();
     printed_ = 0;
     markHere();
     ++version_;
 }
 
 void PaperRoll::markHere() {
-    marks_.push_back({printed_, paper_->currentForm(), paper_->position(), printer_->state()});
+    marks_.push_back({.offset = printed_,
+                      .position = paper_->position(),
+                      .atEmptyForm = paper_->lines().empty(),
+                      .state = printer_->state()});
+}
+
+// What is in a row may yet move to the next form with it, so a mark is where the row is empty.
+bool PaperRoll::canMarkHere() const {
+    return paper_->lines().empty() || paper_->lines().back().y != paper_->y();
 }
 
 void PaperRoll::startJob(std::string name) {
@@ -72,19 +80,18 @@ std::optional<QString> PaperRoll::feed(std::string_view bytes) {
     return std::nullopt;
 }
 
-// Byte by byte: a mark must be right behind the byte that began a form.
+// Byte by byte: a mark must be right behind the byte that began a row.
 void PaperRoll::printLive(std::string_view bytes) {
     const std::size_t first = paper_->currentForm();
     std::size_t form = first;
     for (const char& byte : bytes) {
         printer_->feed({&byte, 1});
         ++printed_;
-        if (paper_->currentForm() == form) {
-            continue;
+        if (paper_->currentForm() != form) {
+            form = paper_->currentForm();
+            paper_->forgetFormsBefore(form);
         }
-        form = paper_->currentForm();
-        paper_->forgetFormsBefore(form);
-        if (printed_ - marks_.back().offset >= betweenMarks && paper_->lines().empty()) {
+        if (printed_ - marks_.back().offset >= betweenMarks && canMarkHere()) {
             markHere();
         }
     }
@@ -93,45 +100,19 @@ void PaperRoll::printLive(std::string_view bytes) {
     ++version_;
 }
 
-// The bytes from an offset on, in chunks that end where a job begins; `startJob` is told of
-// each job on the way, `print` answers whether more is wanted.
-void PaperRoll::replay(qint64 from, const std::function<void(RollJob&)>& startJob,
-                       const std::function<bool(std::string_view)>& print) {
-    auto next =
-        std::lower_bound(jobs_.begin(), jobs_.end(), from,
-                         [](const RollJob& job, qint64 wanted) { return job.offset < wanted; });
-    for (qint64 at = from;;) {
-        for (; next != jobs_.end() && next->offset <= at; ++next) {
-            startJob(*next);
-        }
-        const qint64 end = next == jobs_.end() ? length_ : next->offset;
-        if (at == end) {
-            return;
-        }
-        bytes_->seek(at);
-        const QByteArray chunk = bytes_->read(std::min(chunkBytes, end - at));
-        if (chunk.isEmpty() ||
-            !print({chunk.constData(), static_cast<std::size_t>(chunk.size())})) {
-            return;
-        }
-        at += chunk.size();
-    }
-}
-
 void PaperRoll::setDialect(const Dialect& dialect) {
     dialect_ = dialect;
     begin(topOfPaper(dialect_), switchedOn(dialect_));
-    replay(
-        0,
-        [this](RollJob& job) {
-            printer_->startJob();
-            job.form = paper_->currentForm();
-            job.y = paper_->y();
-        },
-        [this](std::string_view bytes) {
-            printLive(bytes);
-            return true;
-        });
+    RollReader reader(kept(), 0);
+    const auto startJob = [this](std::size_t index) {
+        printer_->startJob();
+        jobs_[index].form = paper_->currentForm();
+        jobs_[index].y = paper_->y();
+    };
+    for (std::string_view piece = reader.next(startJob); !piece.empty();
+         piece = reader.next(startJob)) {
+        printLive(piece);
+    }
 }
 
 void PaperRoll::tearOff(bool jobGoesOn) {
@@ -175,29 +156,18 @@ std::shared_ptr<const FormPage> PaperRoll::page(std::size_t form) {
     return seen_.front();
 }
 
+const RollMark& PaperRoll::markBefore(std::size_t form) const {
+    const auto after = std::ranges::upper_bound(marks_, form, {}, &RollMark::firstWholeForm);
+    return after == marks_.begin() ? *after : *(after - 1);
+}
+
+// Goes on where the last form was printed again, unless a mark lies nearer.
 FormPage PaperRoll::printAgain(std::size_t form) {
-    const auto after =
-        std::upper_bound(marks_.begin(), marks_.end(), form,
-                         [](std::size_t wanted, const Mark& mark) { return wanted < mark.form; });
-    const Mark& mark = after == marks_.begin() ? *after : *(after - 1);
-    ContinuousPaper paper(mark.position);
-    EscpInterpreter printer(paper, dialect_, mark.state);
-    replay(
-        mark.offset, [&](RollJob&) { printer.startJob(); },
-        [&](std::string_view bytes) {
-            for (const char& byte : bytes) {
-                const std::size_t before = paper.currentForm();
-                printer.feed({&byte, 1});
-                if (paper.currentForm() != before) {
-                    paper.forgetFormsBefore(std::min(form, paper.currentForm()));
-                }
-                if (paper.currentForm() > form) {
-                    return false;
-                }
-            }
-            return true;
-        });
-    FormPage page = pageOf(paper, form);
+    const RollMark& mark = markBefore(form);
+    if (!again_ || again_->firstForm() > form || again_->offset() < mark.offset) {
+        again_.emplace(kept(), dialect_, mark);
+    }
+    FormPage page = again_->page(form);
     page.shape = forms().at(form);
     return page;
 }

@@ -6,7 +6,6 @@
 
 #include <QTemporaryFile>
 #include <cstddef>
-#include <functional>
 #include <list>
 #include <memory>
 #include <optional>
@@ -17,15 +16,9 @@
 #include "dotmatrix/continuous_paper.h"
 #include "dotmatrix/dialect.h"
 #include "dotmatrix/escp_interpreter.h"
+#include "dotmatrix/roll_printing.h"
 
 namespace tarn::dotmatrix {
-
-struct RollJob {
-    std::string name;
-    std::size_t form = 0;  // where it begins, from 0
-    PaperUnits y = 0;
-    qint64 offset = 0;  // of its first byte among all bytes
-};
 
 class PaperRoll {
 public:
@@ -54,24 +47,19 @@ public:
     // Changes when the paper does, also on the form that was there before.
     std::size_t version() const { return version_; }
 
-    // Empty where the bytes can't be read again.
+    // Empty where the bytes can't be read again. Forms asked for in their order cost the
+    // printing of their bytes, each other one up to a mark's distance.
     std::shared_ptr<const FormPage> page(std::size_t form);
     // For files; `this` must outlive the result.
     PaperPages pages();
 
 private:
-    struct Mark {
-        qint64 offset = 0;
-        std::size_t form = 0;
-        PaperPosition position;
-        PrinterState state;
-    };
-
     void begin(const PaperPosition& position, PrinterState state);
     void printLive(std::string_view bytes);
     void markHere();
-    void replay(qint64 from, const std::function<void(RollJob&)>& startJob,
-                const std::function<bool(std::string_view)>& print);
+    bool canMarkHere() const;
+    RollBytes kept() const { return {*bytes_, jobs_, length_}; }
+    const RollMark& markBefore(std::size_t form) const;
     FormPage printAgain(std::size_t form);
 
     Dialect dialect_;
@@ -81,8 +69,9 @@ private:
     std::unique_ptr<ContinuousPaper> paper_;
     std::unique_ptr<EscpInterpreter> printer_;
     std::vector<RollJob> jobs_;
-    std::vector<Mark> marks_;
+    std::vector<RollMark> marks_;
     std::list<std::shared_ptr<const FormPage>> seen_;  // the latest first
+    std::optional<RollPrinting> again_;
     std::size_t version_ = 0;
 };
 

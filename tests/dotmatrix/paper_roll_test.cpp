@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+#include <functional>
 #include <random>
 
 #include "dotmatrix/paper_text.h"
@@ -183,6 +185,63 @@ TEST(PaperRoll, AFormThatIsBlackKeepsNoMore) {
     EXPECT_EQ(cells, mostCellsOnForm);
     roll.feed("\fagora");
     EXPECT_EQ(roll.page(1)->lines.size(), 1U);
+}
+
+double secondsOf(const std::function<void()>& work) {
+    const std::clock_t before = std::clock();
+    work();
+    return static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
+}
+
+std::string repeated(std::string_view piece, std::size_t times) {
+    std::string all;
+    for (std::size_t i = 0; i < times; ++i) {
+        all += piece;
+    }
+    return all;
+}
+
+// Printing each one from the mark before it would cost thousands of times the job.
+TEST(PaperRoll, ManyLowFormsInTheirOrderCostOnePrintingOfTheJob) {
+    PaperRoll roll({});
+    const double printing = secondsOf([&roll] { roll.feed(repeated("\f", 30'000) + "fim"); });
+    ASSERT_EQ(roll.printedForms(), 30'001U);
+    const PaperPages pages = roll.pages();
+    const double again = secondsOf([&pages] {
+        for (std::size_t form = 0; form < pages.count; ++form) {
+            ASSERT_EQ(pages.page(form)->lines.size(), form == 30'000 ? 1U : 0U);
+        }
+    });
+    EXPECT_LT(again, 50 * printing);
+}
+
+// The text before ESC C goes along, so no form begins empty.
+TEST(PaperRoll, AJobWhoseFormsAllBeginWithTextCanBeReadAnywhere) {
+    const std::string job = repeated(
+        "\nx\x1B"
+        "C\x05",
+        200'000);
+    PaperRoll roll({});
+    const double printing = secondsOf([&] { roll.feed(job); });
+    ASSERT_EQ(roll.printedForms(), 200'001U);
+    const double one = secondsOf([&] { ASSERT_EQ(roll.page(199'900)->lines.size(), 1U); });
+    EXPECT_LT(10 * one, printing);
+    const double again = secondsOf([&] { ASSERT_EQ(roll.page(100'000)->lines.size(), 1U); });
+    EXPECT_LT(10 * again, printing);
+}
+
+TEST(PaperRoll, FormsThatBeginWithTextAreThoseOfThePaper) {
+    const std::string job = repeated(
+        "\nx y\x1B"
+        "C\x05 z\r\num\x1BJ\x20" +
+            std::string(300, 'd') + "\r\n",
+        300);
+    PaperRoll roll({});
+    PrinterRig rig;
+    roll.startJob("job");
+    roll.feed(job);
+    rig.job(job);
+    expectSame(roll, rig.paper);
 }
 
 TEST(FormTable, RunsOfEqualFormsAreFoundByPlaceAndHeight) {
