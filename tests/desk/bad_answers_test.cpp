@@ -1,7 +1,7 @@
 // What a clerk meets when the server's answer is not what it should be: the real
 // screens, the real loader, a real server on loopback.
+#include <QPlainTextEdit>
 #include <QTableView>
-#include <QTextEdit>
 #include <QTimer>
 #include <atomic>
 
@@ -235,7 +235,7 @@ TEST_F(BadAnswers, MarkupReachesTheRealBoxAsPlainText) {
     http.on("comando=LOGIN",
             LoopbackReply::xml(answers::status("Cliente &lt;A &amp; B&gt; &lt;i&gt;Ltda")));
     modals.then("MessageBox", [](QWidget& box) {
-        EXPECT_EQ(named<QTextEdit>(box, "text").toPlainText(),
+        EXPECT_EQ(named<QPlainTextEdit>(box, "text").toPlainText(),
                   QStringLiteral("Cliente <A & B> <i>Ltda"));
         EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
         key(box, Qt::Key_Escape);

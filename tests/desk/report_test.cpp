@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QTextEdit>
+#include <QPlainTextEdit>
 #include <stdexcept>
 
 #include "runtime/runtime_error.h"
@@ -21,7 +21,7 @@ protected:
     void expectReport(const char* text) {
         modals.then("MessageBox", [text](QWidget& box) {
             EXPECT_EQ(box.windowTitle(), QStringLiteral("TarnEmissao"));
-            EXPECT_EQ(named<QTextEdit>(box, "text").toPlainText(), QString::fromUtf8(text));
+            EXPECT_EQ(named<QPlainTextEdit>(box, "text").toPlainText(), QString::fromUtf8(text));
             key(box, Qt::Key_Return);
         });
     }

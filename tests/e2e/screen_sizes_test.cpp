@@ -307,6 +307,11 @@ TEST_F(ScreenSizes, Boxes) {
         "box-long");
     see(endReportWithNote(), "box-report");
     see({std::string(6000, 'x'), BoxIcon::Exclamation, "Aviso"}, "box-huge");
+    std::string missing;
+    for (int product = 1; product <= 3000; ++product) {
+        missing += "Falta o produto " + std::to_string(product) + " no depósito\n";
+    }
+    see({missing, BoxIcon::Exclamation, "Aviso"}, "box-list");
 }
 
 TEST_F(ScreenSizes, Progress) {

@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTextBlock>
-#include <QTextEdit>
 #include <QTextLayout>
+#include <QWheelEvent>
+#include <ctime>
 
 #include "tests/support/user.h"
 
@@ -18,13 +20,13 @@ namespace {
 class BoxWindowTest : public testing::Test {
 protected:
     // A box with this text, open.
-    QTextEdit& open(const std::string& text) {
+    QPlainTextEdit& open(const std::string& text) {
         box = std::make_unique<BoxWindow>(Box{text, BoxIcon::Information}, nullptr);
         box->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(box.get()));
-        return named<QTextEdit>(*box, "text");
+        return named<QPlainTextEdit>(*box, "text");
     }
-    static void expectWhole(const QTextEdit& text) {
+    static void expectWhole(const QPlainTextEdit& text) {
         EXPECT_EQ(text.verticalScrollBar()->maximum(), 0) << "lines out of sight";
         EXPECT_EQ(text.horizontalScrollBar()->maximum(), 0) << "text beyond the edge";
         for (QTextBlock block = text.document()->begin(); block.isValid(); block = block.next()) {
@@ -43,20 +45,20 @@ protected:
 };
 
 TEST_F(BoxWindowTest, AShortTextStandsInALineOfItsOwnLength) {
-    const QTextEdit& text = open("Digite o Nº Nota !!!    ");
+    const QPlainTextEdit& text = open("Digite o Nº Nota !!!    ");
     expectWhole(text);
     EXPECT_LT(text.width(), text.fontMetrics().horizontalAdvance(QString(40, u'x')));
     EXPECT_EQ(text.document()->begin().layout()->lineCount(), 1);
 }
 
 TEST_F(BoxWindowTest, LinesThatTheTextBreaksItselfAreKept) {
-    const QTextEdit& text = open("a\r\rb\nc");
+    const QPlainTextEdit& text = open("a\r\rb\nc");
     expectWhole(text);
     EXPECT_EQ(text.document()->blockCount(), 4);
 }
 
 TEST_F(BoxWindowTest, ATextWithoutABlankIsBrokenWhereTheLineEnds) {
-    const QTextEdit& text = open("comando=sel_dados_etq" + std::string(1200, '&'));
+    const QPlainTextEdit& text = open("comando=sel_dados_etq" + std::string(1200, '&'));
     expectWhole(text);
     expectOnScreen();
     EXPECT_GT(text.document()->begin().layout()->lineCount(), 5);
@@ -71,7 +73,7 @@ TEST_F(BoxWindowTest, ATextTooLongForTheScreenScrollsToItsEnd) {
                                         }
                                         return lines + end;
                                     }()}) {
-        QTextEdit& shown = open(text);
+        QPlainTextEdit& shown = open(text);
         expectOnScreen();
         EXPECT_TRUE(shown.verticalScrollBar()->isVisible());
         EXPECT_EQ(shown.horizontalScrollBar()->maximum(), 0);
@@ -83,8 +85,49 @@ TEST_F(BoxWindowTest, ATextTooLongForTheScreenScrollsToItsEnd) {
     }
 }
 
+std::string repeated(const std::string& piece, std::size_t bytes) {
+    std::string text;
+    while (text.size() < bytes) {
+        text += piece;
+    }
+    return text;
+}
+
+// A window that takes longer over it stands still for a clerk.
+constexpr std::clock_t patience = 3 * CLOCKS_PER_SEC;
+
+TEST_F(BoxWindowTest, AMegabyteIsThereAtOnceAndItsEndTooAndTheButtonIsInSight) {
+    for (const char* piece :
+         {"linha\r", "Falta o produto 001 no depósito\r\n", "a b ", "W", "\tW\n"}) {
+        SCOPED_TRACE(piece);
+        const std::string whole = repeated(piece, 1'000'000);
+        const std::clock_t start = std::clock();
+        QPlainTextEdit& text = open(whole);
+        QTest::keyClick(&text, Qt::Key_End, Qt::ControlModifier);
+        box->grab();
+        EXPECT_LT(std::clock() - start, patience);
+        EXPECT_GE(text.toPlainText().size(), 940'000) << "whole";
+        expectOnScreen();
+        auto& button = named<QPushButton>(*box, "");
+        EXPECT_TRUE(box->rect().contains(QRect(button.mapTo(box.get(), QPoint()), button.size())));
+        QTest::mouseClick(&button, Qt::LeftButton);
+        EXPECT_FALSE(box->isVisible());
+    }
+}
+
+TEST_F(BoxWindowTest, AWheelOverTheTextScrollsItAndEnterStillPressesTheButton) {
+    QPlainTextEdit& text = open(repeated("linha\r", 20'000));
+    const QPoint middle = text.viewport()->rect().center();
+    QWheelEvent wheel(middle, text.viewport()->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(text.viewport(), &wheel);
+    EXPECT_GT(text.verticalScrollBar()->value(), 0);
+    QTest::keyClick(&text, Qt::Key_Return);
+    EXPECT_FALSE(box->isVisible());
+}
+
 TEST_F(BoxWindowTest, CtrlCCopiesTheWholeTextFromTheButtonAndFromTheText) {
-    QTextEdit& text = open("Erro 7\rAvise");
+    QPlainTextEdit& text = open("Erro 7\rAvise");
     for (QWidget* from :
          {static_cast<QWidget*>(&named<QPushButton>(*box, "")), static_cast<QWidget*>(&text)}) {
         QGuiApplication::clipboard()->setText(QStringLiteral("antes"));
@@ -95,14 +138,14 @@ TEST_F(BoxWindowTest, CtrlCCopiesTheWholeTextFromTheButtonAndFromTheText) {
 }
 
 TEST_F(BoxWindowTest, WhatTheMouseSelectsIsCopiedAlone) {
-    QTextEdit& text = open("Erro 7");
+    QPlainTextEdit& text = open("Erro 7");
     QTest::mouseDClick(text.viewport(), Qt::LeftButton, {}, {3, text.viewport()->height() / 2});
     QTest::keyClick(&text, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Erro"));
 }
 
 TEST_F(BoxWindowTest, NothingCanBeTypedIntoTheText) {
-    QTextEdit& text = open("Erro");
+    QPlainTextEdit& text = open("Erro");
     text.setFocus();
     QTest::keyClicks(&text, QStringLiteral("abc"));
     QTest::keyClick(&text, Qt::Key_Delete);
@@ -110,7 +153,7 @@ TEST_F(BoxWindowTest, NothingCanBeTypedIntoTheText) {
 }
 
 TEST_F(BoxWindowTest, TheButtonHasTheKeyboardAndTabReachesTheTextAndReturns) {
-    QTextEdit& text = open("Erro");
+    QPlainTextEdit& text = open("Erro");
     auto& button = named<QPushButton>(*box, "");
     EXPECT_TRUE(button.hasFocus());
     QTest::keyClick(&button, Qt::Key_Tab);

@@ -4,8 +4,8 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTextEdit>
 #include <algorithm>
 #include <iterator>
 
@@ -29,7 +29,7 @@ BoxAnswer show(const Box& box, Qt::Key key, Shown* shown = nullptr) {
     ModalSteps modals;
     modals.then(boxName, [&](QWidget& window) {
         if (shown != nullptr) {
-            *shown = {named<QTextEdit>(window, "text").toPlainText(),
+            *shown = {named<QPlainTextEdit>(window, "text").toPlainText(),
                       window.windowTitle(),
                       named<QLabel>(window, "icon").isVisible(),
                       {}};

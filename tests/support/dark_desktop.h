@@ -27,7 +27,7 @@ inline void setDarkDesktop() {
     for (const char* kind :
          {"QAbstractButton", "QAbstractItemView", "QCheckBox", "QComboBox", "QGroupBox",
           "QHeaderView", "QLabel", "QLineEdit", "QMenu", "QMenuBar", "QMessageBox", "QRadioButton",
-          "QTabBar", "QTextEdit", "QTextControl", "QToolButton"}) {
+          "QPlainTextEdit", "QTabBar", "QTextEdit", "QTextControl", "QToolButton"}) {
         QApplication::setPalette(darkPalette(), kind);
     }
     QToolTip::setPalette(darkPalette());

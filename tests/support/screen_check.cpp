@@ -14,7 +14,6 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QTableView>
-#include <QTextEdit>
 #include <algorithm>
 #include <cmath>
 
@@ -97,8 +96,13 @@ private:
         }
     }
 
+    static bool isWithoutBar(const QWidget& widget) {
+        const auto* text = qobject_cast<const QPlainTextEdit*>(&widget);
+        return text != nullptr && text->verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOff;
+    }
+
     void one(const QWidget& widget) {
-        if (qobject_cast<const QTextEdit*>(&widget) == nullptr) {  // that is for scroll bars
+        if (!isWithoutBar(widget)) {  // that is for scroll bars
             needs(widget, widget.minimumSizeHint(), "and must be");
         }
         if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
@@ -116,8 +120,6 @@ private:
             oneGrid(*grid);
         } else if (const auto* free = qobject_cast<const QPlainTextEdit*>(&widget)) {
             lines(*free);
-        } else if (const auto* box = qobject_cast<const QTextEdit*>(&widget)) {
-            lines(*box);
         } else if (const auto* menus = qobject_cast<const QMenuBar*>(&widget)) {
             oneMenuBar(*menus);
         }
@@ -181,8 +183,7 @@ private:
     }
 
     // All of it, or a few lines and the means to see the rest.
-    template <class Text>
-    void lines(const Text& text) {
+    void lines(const QPlainTextEdit& text) {
         const int room = text.viewport()->height();
         if (text.horizontalScrollBar()->maximum() > 0) {
             fault(text, "has lines beyond its edge");

@@ -6,15 +6,16 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyle>
 #include <QTextDocument>
-#include <QTextEdit>
 #include <algorithm>
 #include <cmath>
-#include <memory>
+
+#include "platform/qt/text_room.h"
 
 namespace tarn {
 namespace {
@@ -32,20 +33,18 @@ QString linesOnScreen(const std::string& text) {
 }
 
 // A text for reading that looks like a label. Keys that it has no use for go to the box.
-class BoxText : public QTextEdit {
+class BoxText : public QPlainTextEdit {
 public:
-    explicit BoxText(QWidget* parent) : QTextEdit(parent) {
+    explicit BoxText(QWidget* parent) : QPlainTextEdit(parent) {
         setObjectName(QStringLiteral("text"));
         setReadOnly(true);
         setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-        setAcceptRichText(false);
         setUndoRedoEnabled(false);
         setTabChangesFocus(true);
         setFrameStyle(QFrame::NoFrame);
         QPalette seeThrough = palette();
         seeThrough.setColor(QPalette::Base, Qt::transparent);
         setPalette(seeThrough);
-        document()->setDocumentMargin(0);
     }
 
 protected:
@@ -53,7 +52,7 @@ protected:
         if (event->matches(QKeySequence::Copy) && !textCursor().hasSelection()) {
             event->ignore();
         } else {
-            QTextEdit::keyPressEvent(event);
+            QPlainTextEdit::keyPressEvent(event);
         }
     }
 };
@@ -134,31 +133,28 @@ void BoxWindow::showText(const std::string& text) {
 // As wide as its lines, up to what is good to read; wider where that is too high for the
 // screen; and where nothing helps it scrolls.
 void BoxWindow::fitToText() {
-    const QSize most =
-        (screen()->availableSize() * mostOfScreen / 100) -
-        QSize(layout()->contentsMargins().left() * 3 + icon_->sizeHint().width(),
-              buttons_->sizeHint().height() + frame + layout()->contentsMargins().top() * 3);
-    // A copy, since the view breaks its own document's lines at the width that it has so far.
-    const std::unique_ptr<QTextDocument> copy(text_->document()->clone());
-    QTextDocument& document = *copy;
-    document.setDefaultFont(text_->font());
-    const int readable = std::min(readableWidth * fontMetrics().averageCharWidth(), most.width());
-    document.setTextWidth(-1);
-    int width = static_cast<int>(std::ceil(document.idealWidth()));
-    const auto height = [&document](int forWidth) {
-        document.setTextWidth(forWidth);
-        return static_cast<int>(std::ceil(document.size().height()));
+    constexpr int lastLine = 1;  // dot below it, without which the view scrolls
+    const int edge = static_cast<int>(std::ceil(text_->document()->documentMargin()));
+    const QSize edges(edge * 2, edge * 2 + lastLine);
+    const QMargins margins = layout()->contentsMargins();
+    const QSize most = screen()->availableSize() * mostOfScreen / 100 -
+                       QSize(margins.left() * 3 + icon_->sizeHint().width(),
+                             buttons_->sizeHint().height() + frame + margins.top() * 3) -
+                       edges;
+    const QString lines = text();
+    const auto roomIn = [&](int width) {
+        return roomOf(lines, text_->font(), text_->wordWrapMode(), {width, most.height()}, text_);
     };
-    width = std::min(width, readable);
-    const bool tooHigh = height(width) > most.height();
+    const int readable = std::min(readableWidth * fontMetrics().averageCharWidth(), most.width());
     const int bar = text_->verticalScrollBar()->sizeHint().width();
-    const bool scrolls = tooHigh && height(most.width() - bar) > most.height();
-    if (tooHigh) {
-        width = most.width() - (scrolls ? bar : 0);
+    TextRoom room = roomIn(readable);
+    if (!room.fits) {
+        room = roomIn(most.width() - bar);
+        room.size = {most.width(), std::min(room.size.height(), most.height())};
     }
-    text_->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    text_->setVerticalScrollBarPolicy(room.fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
     text_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    text_->setFixedSize(width + (scrolls ? bar : 0), std::min(height(width), most.height()));
+    text_->setFixedSize(room.size + edges);
 }
 
 void BoxWindow::addButtons(BoxButtons buttons) {

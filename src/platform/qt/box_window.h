@@ -9,7 +9,7 @@
 class QDialogButtonBox;
 class QKeyEvent;
 class QLabel;
-class QTextEdit;
+class QPlainTextEdit;
 
 namespace tarn {
 
@@ -35,7 +35,7 @@ private:
     void fitToText();
 
     QLabel* icon_;
-    QTextEdit* text_;
+    QPlainTextEdit* text_;
     QDialogButtonBox* buttons_;
 };
 
