@@ -1,6 +1,6 @@
 #include "runtime/numbers.h"
 
-#include <array>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -12,6 +12,8 @@
 namespace tarn {
 
 namespace {
+
+constexpr std::int64_t farExponent = std::int64_t{1} << 62U;  // no text is as long
 
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
@@ -94,17 +96,26 @@ private:
     int digits_ = 0;
 };
 
-// What from_chars refuses for its size: beyond the largest double or below the
-// least. The exponent's sign tells when there is one, else the length does.
+// What from_chars refuses for its size: beyond the largest double or below the least. Which of
+// the two, the place of the first digit that counts and the exponent tell together.
 double limitOf(std::string_view number) {
-    const std::size_t exponent = number.find('e');
-    const std::string_view digits = number.substr(0, exponent);
+    const std::size_t mark = std::min(number.find('e'), number.size());
+    const std::string_view digits = number.substr(0, mark);
     const std::size_t first = digits.find_first_of("123456789");
+    if (first == std::string_view::npos) {
+        return 0;
+    }
     const std::size_t point = std::min(digits.find('.'), digits.size());
-    const bool largeDigits = first != std::string_view::npos && first + 1 < point;
-    const bool small =
-        exponent == std::string_view::npos ? !largeDigits : number.substr(exponent, 2) == "e-";
-    if (small) {
+    std::string_view exponentText = number.substr(std::min(mark + 1, number.size()));
+    exponentText.remove_prefix(exponentText.starts_with('+') ? 1 : 0);
+    std::int64_t exponent = 0;
+    const auto read =
+        std::from_chars(exponentText.data(), exponentText.data() + exponentText.size(), exponent);
+    if (read.ec == std::errc::result_out_of_range) {
+        exponent = exponentText.starts_with('-') ? -farExponent : farExponent;
+    }
+    const auto place = static_cast<std::int64_t>(point) - static_cast<std::int64_t>(first);
+    if (std::clamp(exponent, -farExponent, farExponent) + place < 0) {
         return 0;
     }
     const double largest = std::numeric_limits<double>::max();

@@ -96,6 +96,11 @@ TEST(PointReading, NeverFails) {
     EXPECT_EQ(readPoint("1e-999"), 0.0);
     EXPECT_EQ(readPoint(std::string(400, '9')), largest);
     EXPECT_EQ(readPoint("0." + std::string(400, '0') + "1"), 0.0);
+    EXPECT_EQ(readPoint("1" + std::string(400, '0') + "e-5"), largest);
+    EXPECT_EQ(readPoint("-1" + std::string(400, '0') + "e-5"), -largest);
+    EXPECT_EQ(readPoint("0." + std::string(400, '0') + "1e5"), 0.0);
+    EXPECT_EQ(readPoint("1" + std::string(400, '0') + "e-99999999999999999999"), 0.0);
+    EXPECT_EQ(readPoint("0.01e+99999999999999999999"), largest);
 }
 
 TEST(NumberText, FifteenDigitsAndAComma) {
