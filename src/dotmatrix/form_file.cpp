@@ -11,8 +11,13 @@ namespace tarn::dotmatrix {
 namespace {
 
 constexpr PaperUnits lineHeight = unitsPerInch / 6;
-constexpr double mostLines = 22 * 6;
-constexpr double mostColumns = 1000;
+// How far beside the sheet something may stand, and how wide it may be, in units: what one
+// pitch can tell, each other one can.
+constexpr PaperUnits farthestLeft = -216;
+constexpr PaperUnits highest = -lineHeight;
+constexpr PaperUnits widest = 1000 * 216;
+constexpr PaperUnits longest = 22 * unitsPerInch;
+constexpr double mostFigures = 10'000;  // of any number
 constexpr std::string_view blanks = " \t\r";
 
 struct PitchName {
@@ -45,8 +50,8 @@ public:
         rest_.remove_prefix(word.size());
         return word;
     }
-    // A number of at most `most`, with a decimal comma or point.
-    std::optional<double> number(double most) {
+    // A number with a decimal comma or point.
+    std::optional<double> number() {
         std::string text(next());
         for (char& c : text) {
             c = c == ',' ? '.' : c;
@@ -54,8 +59,15 @@ public:
         double value = 0;
         const char* end = text.data() + text.size();
         const auto read = std::from_chars(text.data(), end, value, std::chars_format::fixed);
-        const bool sound = read.ec == std::errc() && read.ptr == end && value >= 0 && value <= most;
+        const bool sound =
+            read.ec == std::errc() && read.ptr == end && std::fabs(value) <= mostFigures;
         return sound ? std::optional(value) : std::nullopt;
+    }
+    // A number of things of `size`, from `first` on, where what it comes to lies in these bounds.
+    std::optional<PaperUnits> units(double size, double first, PaperUnits least, PaperUnits most) {
+        const auto count = number();
+        const PaperUnits length = count ? std::llround((*count - first) * size) : least - 1;
+        return length >= least && length <= most ? std::optional(length) : std::nullopt;
     }
     std::string rest() {
         skipBlanks();
@@ -108,11 +120,11 @@ public:
 
 private:
     std::string readHeight(Words& words) {
-        const auto lines = words.number(mostLines);
-        if (!lines || *lines < 3) {
+        const auto height = words.units(oneLine, 0, 3 * lineHeight, longest);
+        if (!height) {
             return "\"altura\" pede um número de linhas de 3 a 132.";
         }
-        form.height = std::llround(*lines * static_cast<double>(lineHeight));
+        form.height = *height;
         return {};
     }
 
@@ -129,36 +141,30 @@ private:
     }
 
     std::string readBox(Words& words) {
-        const auto line = words.number(mostLines);
-        const auto column = words.number(mostColumns);
-        const auto width = words.number(mostColumns);
-        const auto height = words.number(mostLines);
-        if (!line || !column || !width || !height || *width <= 0 || *height <= 0) {
+        const auto y = words.units(oneLine, 1, highest, longest);
+        const auto x = words.units(column_, 1, farthestLeft, widest);
+        const auto width = words.units(column_, 0, 1, widest);
+        const auto height = words.units(oneLine, 0, 1, longest);
+        if (!y || !x || !width || !height) {
             return "\"caixa\" pede linha, coluna, largura e altura em números, e depois o "
                    "rótulo.";
         }
-        form.boxes.push_back({xOf(*column), yOf(*line), std::llround(*width * column_),
-                              std::llround(*height * static_cast<double>(lineHeight)),
-                              words.rest()});
+        form.boxes.push_back({*x, *y, *width, *height, words.rest()});
         return {};
     }
 
     std::string readText(Words& words) {
-        const auto line = words.number(mostLines);
-        const auto column = words.number(mostColumns);
+        const auto y = words.units(oneLine, 1, highest, longest);
+        const auto x = words.units(column_, 1, farthestLeft, widest);
         std::string text = words.rest();
-        if (!line || !column || text.empty()) {
+        if (!y || !x || text.empty()) {
             return "\"texto\" pede linha e coluna em números, e depois o texto.";
         }
-        form.texts.push_back({xOf(*column), yOf(*line), std::move(text)});
+        form.texts.push_back({*x, *y, std::move(text)});
         return {};
     }
 
-    PaperUnits xOf(double column) const { return std::llround((column - 1) * column_); }
-    static PaperUnits yOf(double line) {
-        return std::llround((line - 1) * static_cast<double>(lineHeight));
-    }
-
+    static constexpr double oneLine = static_cast<double>(lineHeight);
     double column_ = 216;
 };
 

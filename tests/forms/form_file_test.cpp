@@ -65,6 +65,11 @@ TEST(FormText, EveryFaultIsToldWithItsLine) {
         {"caixa 1 2 0 1 x", "\"caixa\" pede"},
         {"caixa 1 2 -3 1 x", "\"caixa\" pede"},
         {"caixa 1 2 1e3 1 x", "\"caixa\" pede"},
+        {"caixa 1 2 0,001 1 x", "\"caixa\" pede"},
+        {"caixa 1 -1 3 1 x", "\"caixa\" pede"},
+        {"caixa 1 1001,5 3 1 x", "\"caixa\" pede"},
+        {"texto -0,5 2 x", "\"texto\" pede linha e coluna"},
+        {"texto 134 2 x", "\"texto\" pede linha e coluna"},
         {"texto 1 2", "\"texto\" pede linha e coluna"},
         {"altura 2", "\"altura\" pede um número de linhas de 3 a 132."},
         {"altura", "\"altura\" pede"},
@@ -76,6 +81,30 @@ TEST(FormText, EveryFaultIsToldWithItsLine) {
         const FormTextError error = errorOf(std::string("nome x\n\n") + line);
         EXPECT_EQ(error.line, 3U) << line;
         EXPECT_EQ(error.what.find(expected), 0U) << error.what;
+    }
+}
+
+// Columns are read in any pitch and written in one: what lies at the bounds of one pitch
+// must be readable in the other.
+TEST(FormText, TheBoundsOfOnePitchAreThoseOfEach) {
+    for (const char* pitch : {"10", "12", "17", "20"}) {
+        for (const char* box : {"caixa 0 0 1 132 x", "caixa 1 1000 1000 1", "caixa 133 1 0,01 0,01",
+                                "texto 0 0,0001 x", "texto 132 999,9999 x"}) {
+            const FormDesign form = read(std::string("passo ") + pitch + "\n" + box);
+            const FormDesign again = read(writeForm(form));
+            ASSERT_EQ(again.boxes.size(), form.boxes.size()) << pitch << box;
+            for (std::size_t i = 0; i < form.boxes.size(); ++i) {
+                EXPECT_EQ(again.boxes[i].x, form.boxes[i].x) << pitch << box;
+                EXPECT_EQ(again.boxes[i].y, form.boxes[i].y) << pitch << box;
+                EXPECT_EQ(again.boxes[i].width, form.boxes[i].width) << pitch << box;
+                EXPECT_EQ(again.boxes[i].height, form.boxes[i].height) << pitch << box;
+            }
+            ASSERT_EQ(again.texts.size(), form.texts.size()) << pitch << box;
+            for (std::size_t i = 0; i < form.texts.size(); ++i) {
+                EXPECT_EQ(again.texts[i].x, form.texts[i].x) << pitch << box;
+                EXPECT_EQ(again.texts[i].y, form.texts[i].y) << pitch << box;
+            }
+        }
     }
 }
 
