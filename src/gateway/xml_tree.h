@@ -34,7 +34,7 @@ struct XmlAttributeData {
 
 struct XmlTree {
     struct DocDeleter {
-        void operator()(xmlDoc* doc) const { xmlFreeDoc(doc); }
+        void operator()(xmlDoc* tree) const { xmlFreeDoc(tree); }
     };
     std::pmr::monotonic_buffer_resource attributes;
     std::unique_ptr<xmlDoc, DocDeleter> doc;

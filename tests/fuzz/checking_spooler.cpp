@@ -9,10 +9,20 @@ namespace {
 
 using namespace std::string_view_literals;
 
-// The only commands that a form sends, each in a write of its own.
-constexpr std::array commands{" \x0F"sv,      " \x12"sv,          " \x1B\x0F\x0F"sv,
-                              " \x1B\x17"sv,  " \x0F\x1B\x1BG"sv, " \x0F\x1B\x1BM"sv,
-                              " \x0F\x1BM"sv, " \x0F\x1BG"sv,     " \x1B#3"sv};
+// The only commands that a document sends, each in a write of its own.
+constexpr std::array commands{" \x0F"sv,
+                              " \x12"sv,
+                              " \x1B\x0F\x0F"sv,
+                              " \x1B\x17"sv,
+                              " \x0F\x1B\x1BG"sv,
+                              " \x0F\x1B\x1BM"sv,
+                              " \x0F\x1BM"sv,
+                              " \x0F\x1BG"sv,
+                              " \x1B#3"sv,
+                              " \x1B"
+                              "A\x06"sv,
+                              " \x1B"
+                              "2"sv};
 
 // A byte that a printer of these forms takes for a command, or that has no shape.
 bool commandsPrinter(char c) {

@@ -1,6 +1,4 @@
-#include <algorithm>
 #include <array>
-#include <cctype>
 #include <string>
 #include <utility>
 
@@ -11,6 +9,7 @@
 #include "tests/fuzz/byte_source.h"
 #include "tests/fuzz/checking_spooler.h"
 #include "tests/fuzz/fuzz_entries.h"
+#include "tests/fuzz/wild_values.h"
 #include "tests/notes/plain_note.h"
 #include "tests/support/fixed_machine.h"
 #include "tests/support/recording_printer.h"
@@ -23,145 +22,8 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::array numbers{"0"sv,
-                             "1"sv,
-                             "-1"sv,
-                             ""sv,
-                             " "sv,
-                             "0.00"sv,
-                             "-0.005"sv,
-                             "1.005"sv,
-                             "12.500"sv,
-                             "1234567.891"sv,
-                             "99999999999999999999.99"sv,
-                             "1e308"sv,
-                             "1E5"sv,
-                             "-1e-9"sv,
-                             "NaN"sv,
-                             "inf"sv,
-                             "0x10"sv,
-                             "1,5"sv,
-                             "1.234,56"sv,
-                             "1.2.3"sv,
-                             "1,2,3"sv,
-                             ".5"sv,
-                             "5."sv,
-                             ","sv,
-                             "."sv,
-                             "-"sv,
-                             "+7"sv,
-                             " 7 "sv,
-                             "007"sv,
-                             "32767"sv,
-                             "32768"sv,
-                             "-32768"sv,
-                             "65536"sv,
-                             "2147483648"sv,
-                             "9"sv,
-                             "4"sv,
-                             "6"sv,
-                             "12"sv,
-                             "13"sv,
-                             "2.5"sv,
-                             "9.99"sv,
-                             "0000000000000000000000000000000000000001"sv,
-                             "12345678901234567890123456789"sv,
-                             "\xD9\xA3"sv,
-                             "1\xC2\xA0"
-                             "000"sv,
-                             "P"sv,
-                             "S"sv,
-                             "E"sv,
-                             "F"sv,
-                             "p"sv};
-
-// Control characters that XML can carry, the block that printers take for
-// commands, characters off every page, and malformed ends of words.
-constexpr std::array pieces{"A"sv,
-                            " "sv,
-                            "\n"sv,
-                            "\r"sv,
-                            "\t"sv,
-                            "\x7F"sv,
-                            "\xC2\x80"sv,
-                            "\xC2\x9B"sv,
-                            "\xC2\x92"sv,
-                            "\xC2\xA0"sv,
-                            "\xC2\xAD"sv,
-                            "\xE2\x80\x99"sv,
-                            "\xE2\x82\xAC"sv,
-                            "\xE2\x80\xA8"sv,
-                            "\xF0\x9F\x98\x80"sv,
-                            "\xC3\x87"sv,
-                            "e\xCC\x81"sv,
-                            "\\"sv,
-                            " \\\\ "sv,
-                            "&"sv,
-                            "<"sv,
-                            "\""sv,
-                            "'"sv,
-                            "|"sv,
-                            "0"sv,
-                            "\xEF\xBB\xBF"sv,
-                            "\xEF\xBF\xBD"sv,
-                            "OBS.: "sv,
-                            "abcdefghijklmnopqrstuvwxyz0123456789"sv};
-
-std::string wildText(ByteSource& source) {
-    std::string text;
-    const std::size_t count = source.below(40);
-    for (std::size_t i = 0; i < count; ++i) {
-        text += source.of(pieces);
-    }
-    if (source.oneIn(8) && !text.empty()) {
-        while (text.size() < 700) {
-            text += text;
-        }
-    }
-    return text;
-}
-
-std::string recased(std::string name, ByteSource& source) {
-    const bool upper = source.oneIn(2);
-    std::transform(name.begin(), name.end(), name.begin(), [&](unsigned char c) {
-        return static_cast<char>(upper ? std::toupper(c) : std::tolower(c));
-    });
-    return name;
-}
-
 constexpr std::array noteNumbers{"4321"sv, "0"sv,   "1234567"sv,
                                  ""sv,     "12a"sv, "99999999999999999999"sv};
-
-// Leaves most attributes alone, so that most notes reach their foot.
-void mutate(test::Attributes& row, ByteSource& source, std::size_t rarity) {
-    test::Attributes changed;
-    for (auto& [name, value] : row) {
-        if (!source.oneIn(rarity)) {
-            changed.emplace(name, value);
-            continue;
-        }
-        switch (source.below(6)) {
-            case 0:
-                changed.emplace(name, source.of(numbers));
-                break;
-            case 1:
-                changed.emplace(name, wildText(source));
-                break;
-            case 2:
-                break;
-            case 3:
-                changed.emplace(name, "");
-                break;
-            case 4:
-                changed.emplace(recased(name, source), value);
-                break;
-            default:
-                changed.emplace(name, std::string(value).append(source.of(numbers)));
-                break;
-        }
-    }
-    row = std::move(changed);
-}
 
 std::string madeNote(ByteSource& source) {
     test::NoteCase note;
@@ -181,7 +43,7 @@ std::string madeNote(ByteSource& source) {
         if (source.oneIn(4)) {
             item.erase("IC_TP_CAD");
             item.emplace("IC_TP_CAD", "S");
-            item.emplace("VL_LIQ_IT", source.of(numbers));
+            item.emplace("VL_LIQ_IT", wildNumber(source));
             item.emplace("VL_ISS", "1.5");
         }
         mutate(item, source, rarity);
