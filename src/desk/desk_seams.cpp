@@ -27,14 +27,23 @@ std::string firstSentence(const std::string& description) {
 
 }  // namespace
 
-HttpAnswer DeskLoader::get(const std::string& address) {
+template <typename Work>
+auto DeskLoader::waited(const Work& work) {
     end_.leaveIfEnded();
-    HttpAnswer answer = [&] {
+    auto result = [&] {
         const Waiting waiting(teller_);
-        return real_.get(address);
+        return work();
     }();
     end_.leaveIfEnded();
-    return answer;
+    return result;
+}
+
+HttpAnswer DeskLoader::get(const std::string& address) {
+    return waited([&] { return real_.get(address); });
+}
+
+bool DeskLoader::load(const std::string& address, const BodyReader& read) {
+    return waited([&] { return real_.load(address, read); });
 }
 
 std::string DeskSpooler::defaultPrinter() {

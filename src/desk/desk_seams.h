@@ -20,9 +20,14 @@ public:
         : real_(real), teller_(teller), end_(end) {}
 
     HttpAnswer get(const std::string& address) override;
+    bool load(const std::string& address, const BodyReader& read) override;
     void close() override { real_.close(); }
 
 private:
+    // `work` between two looks at whether the program has ended.
+    template <typename Work>
+    auto waited(const Work& work);
+
     HttpLoader& real_;
     Teller& teller_;
     const ProgramEnd& end_;

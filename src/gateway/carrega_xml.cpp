@@ -25,8 +25,8 @@ void erase(const std::string& file) {
 
 bool load(Environment& environment, const std::string& url, XmlDocument& document,
           const std::string& copy, const std::string& failureMessage) {
-    const HttpAnswer answer = environment.http.get(url);
-    if (answer.loaded && document.loadXML(answer.body)) {
+    const auto read = [&document](std::string_view body) { return document.loadXML(body); };
+    if (environment.http.load(url, read)) {
         if (!copy.empty() && !document.save(copy)) {
             throw std::runtime_error("Não foi possível gravar o arquivo " + copy + ".");
         }

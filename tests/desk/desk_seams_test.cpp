@@ -131,6 +131,7 @@ TEST_F(DeskSeamsTest, TheRealPrintersProgressIsHandedOn) {
 TEST_F(DeskSeamsTest, AfterTheEndEachLeavesTheRoutineThatWantsIt) {
     end.endProgram();
     EXPECT_THROW(server.get("http://s/?x"), ProgramEnded);
+    EXPECT_THROW(server.load("http://s/?x", [](auto) { return true; }), ProgramEnded);
     EXPECT_THROW(boxes.show({"x"}), ProgramEnded);
     EXPECT_THROW(print(), ProgramEnded);
     EXPECT_THROW(printer.Print("x"), ProgramEnded);
@@ -149,6 +150,8 @@ TEST_F(DeskSeamsTest, TheEndUnderABoxLeavesTheRoutineThatShowedIt) {
 TEST_F(DeskSeamsTest, AnAnswerIsHandedOn) {
     realServer.on("x", "<R/>");
     EXPECT_EQ(server.get("http://s/?x").body, "<R/>");
+    EXPECT_TRUE(server.load("http://s/?x", [](auto body) { return body == "<R/>"; }));
+    EXPECT_FALSE(server.load("http://s/?x", [](auto) { return false; }));
     realBoxes.answers = {BoxAnswer::No};
     EXPECT_EQ(boxes.show({"x", BoxIcon::Question, "t", BoxButtons::YesNo}), BoxAnswer::No);
 }

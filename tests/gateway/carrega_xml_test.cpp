@@ -84,6 +84,30 @@ TEST_F(CarregaXMLTest, AnErrorInsideIsShownByItsDescription) {
                   {.text = "memória esgotada", .icon = BoxIcon::Critical, .title = "Aviso"}}));
 }
 
+// So that a loader with a thread of its own parses there.
+TEST_F(CarregaXMLTest, TheLoaderReadsTheAnswer) {
+    class ReadingLoader : public HttpLoader {
+    public:
+        bool inLoader = false;
+        HttpAnswer get(const std::string&) override { return {}; }
+        bool load(const std::string&, const BodyReader& read) override {
+            inLoader = read("<R/>");
+            return inLoader;
+        }
+    } reading;
+    Environment environment{.http = reading,
+                            .spooler = seams_.spooler,
+                            .printer = seams_.printer,
+                            .boxes = seams_.boxes,
+                            .clock = seams_.clock,
+                            .machine = seams_.machine,
+                            .baseUrl = "http://servidor/p.asp?"};
+    EXPECT_TRUE(
+        CarregaXML(environment, "http://servidor/p.asp?x", document_, false, "", 0, "", "m"));
+    EXPECT_TRUE(reading.inLoader);
+    EXPECT_EQ(document_.documentElement().nodeName(), "R");
+}
+
 TEST_F(CarregaXMLTest, NoCopyUnlessNameAndPositiveWish) {
     seams_.loader.on("comando=x", "<R/>");
     EXPECT_TRUE(load("", 1));

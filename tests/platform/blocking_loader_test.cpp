@@ -100,6 +100,41 @@ TEST_F(BlockingLoaderTest, WindowsRepaintWhileTheRequestIsUnderWay) {
     EXPECT_TRUE(painted);
 }
 
+TEST_F(BlockingLoaderTest, WindowsRepaintWhileTheAnswerIsRead) {
+    held.release.set_value();
+    std::promise<void> painted;
+    std::future<void> paint = painted.get_future();
+    bool once = false;
+    const auto read = [&](std::string_view body) {
+        EXPECT_EQ(body, "<a/>");
+        EXPECT_EQ(std::this_thread::get_id(), held.thread);
+        QMetaObject::invokeMethod(&window, [&] {
+            EXPECT_TRUE(InputGate::ofApplication().isShut());
+            window.onPaint = [&] {
+                if (!std::exchange(once, true)) {
+                    painted.set_value();
+                }
+            };
+            window.update();
+        });
+        return paint.wait_for(std::chrono::seconds(20)) == std::future_status::ready;
+    };
+    EXPECT_TRUE(loader.load("x", read));
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(BlockingLoaderTest, WhatTheReaderSaysAndThrowsIsHandedBack) {
+    held.release.set_value();
+    EXPECT_FALSE(loader.load("x", [](std::string_view) { return false; }));
+    held.release = {};
+    held.release.set_value();
+    EXPECT_THROW(
+        loader.load("x", [](std::string_view) -> bool { throw std::runtime_error("no memory"); }),
+        std::runtime_error);
+    loader.close();
+    EXPECT_FALSE(loader.load("x", [](std::string_view) { return true; }));
+}
+
 TEST_F(BlockingLoaderTest, ShowsTheHourglassOnlyMeanwhile) {
     requestWhile([] {
         ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);

@@ -11,7 +11,8 @@
 
 namespace tarn {
 
-HttpAnswer BlockingLoader::get(const std::string& address) {
+template <typename Work>
+auto BlockingLoader::awaited(const Work& work) -> decltype(work()) {
     if (closed_) {
         return {};
     }
@@ -22,8 +23,8 @@ HttpAnswer BlockingLoader::get(const std::string& address) {
     const WaitCursor hourglass;
     const ShutGate shut(gate_);
     QEventLoop loop;
-    std::packaged_task<HttpAnswer()> request([this, &address] { return loader_.get(address); });
-    std::future<HttpAnswer> answer = request.get_future();
+    std::packaged_task<decltype(work())()> request(work);
+    auto answer = request.get_future();
     std::jthread worker([&request, &loop] {
         request();
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
@@ -32,6 +33,14 @@ HttpAnswer BlockingLoader::get(const std::string& address) {
     worker.join();
     QCoreApplication::processEvents();  // what came in with the answer came in time
     return answer.get();
+}
+
+HttpAnswer BlockingLoader::get(const std::string& address) {
+    return awaited([&] { return loader_.get(address); });
+}
+
+bool BlockingLoader::load(const std::string& address, const BodyReader& read) {
+    return awaited([&] { return loader_.load(address, read); });
 }
 
 void BlockingLoader::close() {
