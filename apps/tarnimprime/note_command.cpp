@@ -1,7 +1,7 @@
+#include <array>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <system_error>
@@ -12,6 +12,7 @@
 #include "apps/tarnimprime/print_environment.h"
 #include "notes/losses.h"
 #include "notes/print_note.h"
+#include "platform/http_loader.h"
 #include "runtime/runtime_error.h"
 
 namespace tarn::print {
@@ -85,6 +86,7 @@ bool check(const Request& request, PrintEnvironment& desk) {
 }
 
 // Nothing for a file that can't be read: a stream would raise its own error on a directory.
+// Of one larger than an answer may be so much that it shows.
 std::optional<std::string> content(const std::string& file) {
     std::error_code failure;
     if (std::filesystem::is_directory(file, failure)) {
@@ -94,7 +96,12 @@ std::optional<std::string> content(const std::string& file) {
     if (!input.is_open()) {
         return std::nullopt;
     }
-    std::string bytes((std::istreambuf_iterator<char>(input)), std::istreambuf_iterator<char>());
+    std::string bytes;
+    std::array<char, std::size_t{64} * 1024> piece{};
+    while (bytes.size() <= largestAnswer && (input.read(piece.data(), piece.size()), true) &&
+           input.gcount() > 0) {
+        bytes.append(piece.data(), static_cast<std::size_t>(input.gcount()));
+    }
     return input.bad() ? std::nullopt : std::optional(std::move(bytes));
 }
 

@@ -269,6 +269,23 @@ TEST_F(Tarnimprime, AnEmptyFileIsNoAnswer) {
     EXPECT_FALSE(hasJob("job-001.prn"));
 }
 
+TEST_F(Tarnimprime, AFileWithoutEndOrOfTooManyAttributesIsRefusedAtOnce) {
+    std::ofstream crowded(file("cheio.xml"));
+    crowded << "<?xml version='1.0'?><PRINCIPAL><x";
+    for (int i = 0; i < 400'000; ++i) {
+        crowded << " a" << i << "=''";
+    }
+    crowded << "/></PRINCIPAL>";
+    crowded.close();
+    for (const std::string& wrong : {std::string("/dev/zero"), file("cheio.xml")}) {
+        const Result result = run({"nota", "--destino", file("papel"), "--empresa", "1361",
+                                   "--estabelecimento", "1", "--numero", "1", wrong});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_NE(result.err.find("não é uma resposta do servidor"), std::string::npos)
+            << result.err;
+    }
+}
+
 TEST_F(Tarnimprime, GlobalOptionsStandBeforeOrAfterTheCommandAndOnce) {
     const std::vector<std::string> note = {"nota", "--empresa", "1361", "--estabelecimento",
                                            "1",    "--numero",  "4567"};
