@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "dotmatrix/paper_export.h"
+#include "runtime/text.h"
 
 namespace tarn::printer {
 
@@ -39,7 +40,7 @@ bool written(const std::optional<QString>& failure, const std::string& file) {
 }  // namespace
 
 void complain(const QString& text) {
-    std::fputs(("tarnimpressora: " + text + "\n").toUtf8().constData(), stderr);
+    std::fputs(forTerminal("tarnimpressora: " + text.toStdString() + "\n").c_str(), stderr);
 }
 
 bool printFiles(const Options& options, dotmatrix::PaperRoll& roll) {
@@ -66,7 +67,7 @@ bool printFiles(const Options& options, dotmatrix::PaperRoll& roll) {
 std::size_t showNotices(const dotmatrix::NoticeLog& notices, std::size_t from) {
     std::size_t shown = 0;
     for (std::size_t i = from; i < notices.kept().size() && shown < noticesShown; ++i) {
-        std::fputs(("aviso: " + describe(notices.kept()[i]) + "\n").c_str(), stderr);
+        std::fputs(forTerminal("aviso: " + describe(notices.kept()[i]) + "\n").c_str(), stderr);
         ++shown;
     }
     if (notices.total() > from + shown) {

@@ -19,7 +19,7 @@ void show(std::string_view line) {
 namespace {
 
 int failure(const std::string& text, int status) {
-    std::fprintf(stderr, "tarnimprime: %s\n", text.c_str());
+    std::fputs(forTerminal("tarnimprime: " + text + "\n").c_str(), stderr);
     return status;
 }
 

@@ -14,6 +14,7 @@
 #include "notes/print_note.h"
 #include "platform/http_loader.h"
 #include "runtime/runtime_error.h"
+#include "runtime/text.h"
 
 namespace tarn::print {
 namespace {
@@ -69,7 +70,7 @@ bool check(const Request& request, PrintEnvironment& desk) {
         notes::LossLog losses;
         const auto say = [&] {
             for (const notes::Loss& loss : losses.losses()) {
-                show(request.files[i] + ": " + describe(loss));
+                show(forTerminal(request.files[i] + ": " + describe(loss)));
             }
         };
         try {

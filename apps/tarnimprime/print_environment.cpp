@@ -45,7 +45,7 @@ std::tm localTime() {
 
 BoxAnswer TerminalBoxes::show(const Box& box) {
     const std::string text = replaceAll(replaceAll(box.text, "\r\n", "\n"), "\r", "\n");
-    std::fprintf(stderr, "%s: %s\n", box.title.c_str(), text.c_str());
+    std::fputs(forTerminal(box.title + ": " + text + "\n").c_str(), stderr);
     return box.buttons == BoxButtons::YesNo ? BoxAnswer::Yes : BoxAnswer::Ok;
 }
 

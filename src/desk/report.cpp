@@ -18,7 +18,7 @@ void writeLine(const std::string& text, const std::string& ofLibrary) {
     if (!ofLibrary.empty()) {
         line += " (" + ofLibrary + ")";
     }
-    std::cerr << line << std::endl;
+    std::cerr << forTerminal(line) << std::endl;
 }
 
 Box boxOf(const std::exception& error) {

@@ -216,6 +216,22 @@ void appendBlankingControls(std::string& out, std::string_view text) {
     }
 }
 
+std::string forTerminal(std::string_view text) {
+    std::string out;
+    for (std::size_t at = 0; at < text.size();) {
+        const Utf8Char c = utf8At(text, at);
+        const bool stays = c.code == '\n' || c.code == '\t';
+        const bool commands = c.code < 0x20 || (c.code >= 0x7F && c.code < 0xA0);
+        if (c.code == malformedByte || (commands && !stays)) {
+            out += '?';
+        } else {
+            out += text.substr(at, c.bytes);
+        }
+        at += c.bytes;
+    }
+    return out;
+}
+
 std::string escapedLine(std::string_view text) {
     std::string out;
     for (const char c : text) {

@@ -27,6 +27,10 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
 std::string blankControls(std::string_view text);
 void appendBlankingControls(std::string& out, std::string_view text);
 
+// For a terminal, which takes control characters for commands: all but line ends and tabs,
+// those from 0x80 to 0x9F too, and malformed bytes are "?".
+std::string forTerminal(std::string_view text);
+
 // A value as part of a line of a text file: backslash, tab, CR and LF as \\, \t, \r, \n.
 std::string escapedLine(std::string_view text);
 

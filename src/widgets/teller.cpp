@@ -44,7 +44,7 @@ void Teller::tell(const std::string& what) {
         QTime(now.hour, now.minute).toString(QStringLiteral("HH:mm ")).toStdString();
     const std::string line = time + blankControls(what);
     told_ = QString::fromStdString(line);
-    errors_ << line << std::endl;
+    errors_ << forTerminal(line) << std::endl;
     emit lineChanged(this->line());
 }
 

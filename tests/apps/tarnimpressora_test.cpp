@@ -115,6 +115,17 @@ TEST_F(CommandLine, WrongUsageSaysWhatToGive) {
     EXPECT_FALSE(QFile::exists(path("n.txt")));
 }
 
+TEST_F(CommandLine, AFormsTextDoesntCommandTheTerminal) {
+    QFile form(path("mau.frm"));
+    ASSERT_TRUE(form.open(QIODevice::WriteOnly));
+    form.write("\x1B]0;PWN\x07\x1B[31m\xC2\x9B 1\n");
+    form.close();
+    const Ran ran =
+        run({"--formulario", path("mau.frm"), "--texto", path("n.txt"), file("1.prn", "x")});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_NE(ran.err.find("\"?]0;PWN??[31m?\" não é palavra"), std::string::npos) << ran.err;
+}
+
 TEST_F(CommandLine, UnreadableJobOrUnwritableFileEndsWithOne) {
     for (const QString& job : {path("none.prn"), folder_.path()}) {
         const Ran ran = run({"--texto", path("n.txt"), job});

@@ -286,6 +286,16 @@ TEST_F(Tarnimprime, AFileWithoutEndOrOfTooManyAttributesIsRefusedAtOnce) {
     }
 }
 
+TEST_F(Tarnimprime, NothingOfTheServersCommandsTheTerminal) {
+    std::ofstream(file("recusa.xml"))
+        << "<?xml version='1.0'?><R A='1' STATUS='Ação &#155;31mrecusada&#127;&#144;"
+           "&#10;linha'/>";
+    const Result result =
+        run({"ordem", "--destino", file("papel"), "--empresa", "1361", file("recusa.xml")});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.err.find("Ação ?31mrecusada??\nlinha"), std::string::npos) << result.err;
+}
+
 TEST_F(Tarnimprime, GlobalOptionsStandBeforeOrAfterTheCommandAndOnce) {
     const std::vector<std::string> note = {"nota", "--empresa", "1361", "--estabelecimento",
                                            "1",    "--numero",  "4567"};

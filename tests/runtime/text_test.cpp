@@ -74,6 +74,18 @@ TEST(Text, ControlCharactersBecomeBlanks) {
     EXPECT_EQ(line, "\x1B X");  // what stood there stays
 }
 
+TEST(Text, NothingCommandsATerminal) {
+    EXPECT_EQ(forTerminal("Ação\n\tR$ 1"), "Ação\n\tR$ 1");
+    EXPECT_EQ(forTerminal("\x1B]0;PWN\x07\x1B[31m\r\x7F\b"), "?]0;PWN??[31m???");
+    EXPECT_EQ(forTerminal("\xC2\x9B"
+                          "31m \xC2\x80\xC2\x9F\xC2\xA0"),
+              "?31m ??\xC2\xA0");
+    EXPECT_EQ(forTerminal("\x9B"
+                          "31m \xC3"),
+              "?31m ?");
+    EXPECT_EQ(forTerminal(std::string("\0", 1)), "?");
+}
+
 TEST(Text, APartOfALineIsEscaped) {
     EXPECT_EQ(escapedLine(""), "");
     EXPECT_EQ(escapedLine("São|&"), "São|&");
