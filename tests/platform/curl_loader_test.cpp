@@ -3,6 +3,7 @@
 #include <arpa/inet.h>
 #include <gtest/gtest.h>
 #include <netinet/in.h>
+#include <netinet/tcp.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -278,6 +279,71 @@ TEST_F(CurlLoaderTest, AServerThatTakesTheRequestAndNeverAnswersIsGivenUp) {
     EXPECT_GE(time.elapsed(), 1000);
     EXPECT_LT(time.elapsed(), muchLater);
     EXPECT_EQ(server_.requestLines().size(), 1U);
+}
+
+TEST_F(CurlLoaderTest, AServerThatFallsSilentWithinTheAnswerIsGivenUp) {
+    LoopbackReply half = LoopbackReply::cut("<R>");
+    half.fallsSilent = true;
+    server_.on("", half);
+    CurlLoader hasty({.silence = std::chrono::seconds(1)});
+    const Stopwatch time;
+    EXPECT_FALSE(hasty.get(server_.baseUrl() + "x").loaded);
+    EXPECT_GE(time.elapsed(), 1000);
+    EXPECT_LT(time.elapsed(), muchLater);
+}
+
+LoopbackReply dripping(std::size_t bytes, int milliseconds) {
+    LoopbackReply reply = LoopbackReply::huge("<R/>", bytes);
+    reply.drip = std::chrono::milliseconds(milliseconds);
+    return reply;
+}
+
+TEST_F(CurlLoaderTest, ADripIsNoSilence) {
+    server_.on("", dripping(10, 200));
+    CurlLoader hasty({.silence = std::chrono::seconds(1)});
+    const Stopwatch time;
+    EXPECT_EQ(hasty.get(server_.baseUrl() + "x").body, "<R/>          ");
+    EXPECT_GE(time.elapsed(), 2000);
+}
+
+TEST_F(CurlLoaderTest, ClosingEndsADrip) {
+    server_.on("", dripping(1'000'000, 20));
+    auto answer = std::async(std::launch::async, [this] { return get("x"); });
+    server_.waitForRequests(1);
+    const Stopwatch time;
+    loader_.close();
+    EXPECT_FALSE(answer.get().loaded);
+    EXPECT_LT(time.elapsed(), muchLater);
+}
+
+// The values of a socket option on the one connection of this process to that port.
+int optionOf(int port, int level, int option) {
+    for (int socket = 0; socket < 1024; ++socket) {
+        sockaddr_in peer{};
+        socklen_t length = sizeof peer;
+        if (::getpeername(socket, reinterpret_cast<sockaddr*>(&peer), &length) == 0 &&
+            peer.sin_family == AF_INET && ntohs(peer.sin_port) == port) {
+            int value = -1;
+            length = sizeof value;
+            ::getsockopt(socket, level, option, &value, &length);
+            return value;
+        }
+    }
+    return -1;
+}
+
+// A server that lost its power says nothing, not even that it is gone.
+TEST_F(CurlLoaderTest, AsksAfterAMuteServerEveryHalfMinute) {
+    LoopbackReply mute = LoopbackReply::xml("<R/>");
+    mute.waits = true;
+    server_.on("", mute);
+    auto answer = std::async(std::launch::async, [this] { return get("x"); });
+    server_.waitForRequests(1);
+    EXPECT_EQ(optionOf(server_.port(), SOL_SOCKET, SO_KEEPALIVE), 1);
+    EXPECT_EQ(optionOf(server_.port(), IPPROTO_TCP, TCP_KEEPIDLE), 30);
+    EXPECT_EQ(optionOf(server_.port(), IPPROTO_TCP, TCP_KEEPINTVL), 30);
+    server_.release();
+    EXPECT_TRUE(answer.get().loaded);
 }
 
 TEST_F(CurlLoaderTest, WaitsHalfAMinuteForAConnectionAndTwoForAByte) {

@@ -48,7 +48,8 @@ void sendReply(int connection, const LoopbackReply& reply) {
     }
     bool open = sendAll(connection, head + "\r\n") && sendAll(connection, reply.body);
     const std::string blanks(64 * 1024, ' ');
-    for (std::size_t left = reply.streamed; open && left > 0;) {
+    const bool atOnce = reply.drip == reply.drip.zero();
+    for (std::size_t left = atOnce ? reply.streamed : 0; open && left > 0;) {
         const std::size_t count = std::min(left, blanks.size());
         open = sendAll(connection, std::string_view(blanks).substr(0, count));
         left -= count;
@@ -233,8 +234,21 @@ void LoopbackServer::answer(int connection) {
     }
     if (!reply.closesAtOnce) {
         sendReply(connection, reply);
+        drip(connection, reply);
         ::shutdown(connection, SHUT_WR);
     }
+}
+
+void LoopbackServer::drip(int connection, const LoopbackReply& reply) {
+    std::unique_lock lock(mutex_);
+    if (reply.drip > reply.drip.zero()) {
+        std::size_t left = reply.streamed;
+        while (left > 0 && !changed_.wait_for(lock, reply.drip, [&] { return stopping_; }) &&
+               sendAll(connection, " ")) {
+            --left;
+        }
+    }
+    changed_.wait(lock, [&] { return !reply.fallsSilent || released_ || stopping_; });
 }
 
 LoopbackReply LoopbackServer::replyFor(const std::string& requestLine) {

@@ -3,6 +3,7 @@
 // keeps the raw request lines.
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <cstddef>
 #include <deque>
@@ -18,11 +19,13 @@ namespace tarn::test {
 struct LoopbackReply {
     int status = 200;
     std::string body;
-    std::vector<std::string> headers;  // further header lines, without their line end
-    std::size_t missing = 0;           // bytes announced beyond those that come
-    std::size_t streamed = 0;          // blanks sent behind the body, as many as asked
-    bool closesAtOnce = false;         // hangs up without a word
-    bool waits = false;                // answers only after release()
+    std::vector<std::string> headers;   // further header lines, without their line end
+    std::size_t missing = 0;            // bytes announced beyond those that come
+    std::size_t streamed = 0;           // blanks sent behind the body, as many as asked
+    bool closesAtOnce = false;          // hangs up without a word
+    bool waits = false;                 // answers only after release()
+    std::chrono::milliseconds drip{0};  // one blank behind the body so often, `streamed` in all
+    bool fallsSilent = false;           // behind what it sends, until release()
 
     static LoopbackReply xml(std::string text);
     static LoopbackReply error(int status, std::string text);
@@ -62,6 +65,7 @@ public:
 private:
     void serve();
     void answer(int connection);
+    void drip(int connection, const LoopbackReply& reply);
     LoopbackReply replyFor(const std::string& requestLine);
 
     int listener_ = -1;
