@@ -1,12 +1,13 @@
 # How tests are declared, and what they share.
 
-# Test code runs once and is compiled often: it isn't worth optimising. Qt asks for
-# position-independent code; with it everywhere one precompiled header serves all. Nothing
-# depends on the build type, QT_NO_DEBUG neither, which Qt leaves out for Debug.
+# Test code runs once and is compiled often: it is worth neither optimising nor symbols for a
+# debugger (-DCMAKE_CXX_FLAGS=-g brings them). Qt asks for position-independent code; with it
+# everywhere one precompiled header serves all. Nothing depends on the build type,
+# QT_NO_DEBUG neither, which Qt leaves out for Debug.
 add_library(tarn_test_options INTERFACE)
 target_link_libraries(tarn_test_options INTERFACE tarn_common_options)
 target_compile_options(tarn_test_options INTERFACE
-                       $<$<CXX_COMPILER_ID:GNU,Clang>:-O0;-g1;-fPIC>)
+                       $<$<CXX_COMPILER_ID:GNU,Clang>:-O0;-fPIC>)
 target_compile_definitions(tarn_test_options INTERFACE QT_NO_DEBUG)
 
 set(tarn_precompiled_test ${tarn_precompiled_std} <fstream> <map> <set> <sstream>
@@ -20,10 +21,14 @@ function(tarn_add_test_library name)
   target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(${name} PUBLIC ${arg_LIBRARIES} GTest::gtest GTest::gmock
                         PRIVATE tarn_test_options)
-  tarn_reuse_test_headers(${name} "${arg_LIBRARIES}")
+  tarn_share_test_code(${name} "${arg_LIBRARIES}")
 endfunction()
 
-function(tarn_reuse_test_headers name libraries)
+# Most of the code of a test source are the templates and fixtures that it shares with its
+# neighbours: sources are compiled in lumps, which hold them once, so names without linkage
+# are one program's, not one file's.
+function(tarn_share_test_code name libraries)
+  set_target_properties(${name} PROPERTIES UNITY_BUILD ${TARN_LUMPS} UNITY_BUILD_BATCH_SIZE 8)
   if("tarn_screen_support" IN_LIST libraries)
     target_precompile_headers(${name} REUSE_FROM tarn_screen_support)
   else()
@@ -41,7 +46,7 @@ function(tarn_add_test name)
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
   target_link_libraries(${name} PRIVATE tarn_test_options ${arg_LIBRARIES} GTest::gmock
                         $<IF:$<BOOL:${arg_QT}>,GTest::gtest,GTest::gtest_main>)
-  tarn_reuse_test_headers(${name} "${arg_LIBRARIES}")
+  tarn_share_test_code(${name} "${arg_LIBRARIES}")
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
     PROPERTIES LABELS "${arg_LABEL}" ${arg_PROPERTIES}
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen")

@@ -12,17 +12,17 @@
 namespace tarn::test {
 namespace {
 
-const std::string header = "<?xml version='1.0'?>";
+const std::string xmlDeclaration = "<?xml version='1.0'?>";
 const Box searchFailed = exclamation(
     "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e tente "
     "novamente.",
     "Aviso");
 
 std::string observation(const std::string& text) {
-    return header + "<R a='' s='OK'><L OBSERVACAO='" + text + "'/></R>";
+    return xmlDeclaration + "<R a='' s='OK'><L OBSERVACAO='" + text + "'/></R>";
 }
 std::string refuse(const std::string& text) {
-    return header + "<R a='' s='" + text + "'><L OBSERVACAO=''/></R>";
+    return xmlDeclaration + "<R a='' s='" + text + "'><L OBSERVACAO=''/></R>";
 }
 
 struct ScriptedAlert : AlertDialog {
@@ -80,8 +80,9 @@ protected:
     const std::string noteQuery_ =
         "comando=sel_gera_nf&ID_ETB_TARN=9&ID_NF_KESTO=555&CD_SER_NF=A1&ServerName=SRV";
     const std::string generated_ =
-        header + "<R a='' s='OK'>\n <x qualquer='555' b='1'/>\n <y z='A1'/></R>";
-    const std::string noteDocument_ = header + "<PRINCIPAL a=\"\" s=\"OK\"><C/></PRINCIPAL>";
+        xmlDeclaration + "<R a='' s='OK'>\n <x qualquer='555' b='1'/>\n <y z='A1'/></R>";
+    const std::string noteDocument_ =
+        xmlDeclaration + "<PRINCIPAL a=\"\" s=\"OK\"><C/></PRINCIPAL>";
 
     TestEnvironment seams_;
     Sessao session_ = sessionOf(1361, 9, "u1", "SRV");
@@ -202,8 +203,9 @@ TEST_F(GenerateNoteTest, GenerationRefused) {
 
 TEST_F(GenerateNoteTest, GenerationWithoutStatusOrIdentity) {
     for (const std::string& answer :
-         {std::string("<R a='' s='OK'><x q='1'/><y z='A'/></R>"), header + "<R a='' s='OK'/>",
-          header + "<R a='' s='OK'><x q='1'/></R>", header + "<R a='' s='OK'><x/><y z='A'/></R>"}) {
+         {std::string("<R a='' s='OK'><x q='1'/><y z='A'/></R>"),
+          xmlDeclaration + "<R a='' s='OK'/>", xmlDeclaration + "<R a='' s='OK'><x q='1'/></R>",
+          xmlDeclaration + "<R a='' s='OK'><x/><y z='A'/></R>"}) {
         TestEnvironment other;
         other.loader.on("Seleciona", observation("")).on("SP_GERA_NF", answer);
         EXPECT_THROW(generateNote(other.environment, session_, alert_, "12",

@@ -164,11 +164,11 @@ const Lines emptyTotals{b(46) + "VALOR DE DESCONTO:       (0,00)",
                         b(35) + "VALOR DE DESPESAS ACESSORIAS:        0,00",
                         b(43) + "----------------------------------",
                         b(50) + "VALOR LIQUIDO:        0,00"};
-const std::string observation =
+const std::string observationFrame =
     "OBS:_________________________________________________________________________";
 const std::string writingLine(77, '_');
-const Lines priceFoot{blankLine,   blankLine, observation, blankLine, writingLine, blankLine,
-                      writingLine, blankLine, writingLine, blankLine, writingLine};
+const Lines priceFoot{blankLine,   blankLine, observationFrame, blankLine, writingLine, blankLine,
+                      writingLine, blankLine, writingLine,      blankLine, writingLine};
 
 TEST_F(OrderSheetTest, StandardSheetWithoutInstalments) {
     const Lines body{"   2,500 P1      PARAFUSO" + b(28) + "      10,00       25,00",

@@ -10,7 +10,6 @@
 namespace tarn::test {
 namespace {
 
-const std::string header = "<?xml version='1.0'?>";
 class OrdersTest : public testing::Test {
 protected:
     OrdersTest() {
@@ -21,8 +20,9 @@ protected:
     }
 
     std::vector<GridRow> load(const std::string& lines) {
-        seams_.loader.on("sel_ordem_fatu", header + "<xml xmlns:rs='r' xmlns:z='z'><rs:data>" +
-                                               lines + "</rs:data></xml>");
+        seams_.loader.on("sel_ordem_fatu",
+                         "<?xml version='1.0'?><xml xmlns:rs='r' xmlns:z='z'><rs:data>" + lines +
+                             "</rs:data></xml>");
         return loadOrders(seams_.environment, session_);
     }
     bool cancel() { return cancelOrder(seams_.environment, session_, order_); }
@@ -110,7 +110,7 @@ TEST_F(OrdersTest, ACancelAnsweredWithNoSendsNothing) {
 }
 
 TEST_F(OrdersTest, Cancelled) {
-    seams_.loader.on("sp_can_oft", header + "<R a='' s='OK'/>");
+    seams_.loader.on("sp_can_oft", "<?xml version='1.0'?><R a='' s='OK'/>");
     EXPECT_TRUE(cancel());
     EXPECT_EQ(seams_.boxes.shown,
               (std::vector<Box>{question_,
@@ -121,7 +121,7 @@ TEST_F(OrdersTest, Cancelled) {
 }
 
 TEST_F(OrdersTest, CancelRefused) {
-    seams_.loader.on("sp_can_oft", header + "<R a='' s='Ordem em uso. '/>");
+    seams_.loader.on("sp_can_oft", "<?xml version='1.0'?><R a='' s='Ordem em uso. '/>");
     EXPECT_FALSE(cancel());
     EXPECT_EQ(seams_.boxes.shown, (std::vector<Box>{question_, exclamation("Ordem em uso. ")}));
 }

@@ -7,6 +7,7 @@
 
 #include "dotmatrix/paper_export.h"
 #include "tests/dotmatrix/note_streams.h"
+#include "tests/dotmatrix/paper_page.h"
 #include "tests/dotmatrix/poppler.h"
 #include "tests/dotmatrix/printer_rig.h"
 
@@ -15,9 +16,7 @@ namespace tarn::test {
 using namespace dotmatrix;
 namespace {
 
-constexpr double tolerance = 0.2 / 25.4 * pointsPerInch;  // 0.2 mm
 constexpr double pointsPerUnit = pointsPerInch / static_cast<double>(unitsPerInch);
-constexpr double strip = 36;
 
 struct Expected {
     QString text;

@@ -2,12 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
-#include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <map>
 
 #include "dotmatrix/paper_export.h"
+#include "tests/dotmatrix/paper_page.h"
+#include "tests/dotmatrix/poppler.h"
 #include "tests/dotmatrix/printer_rig.h"
 
 namespace tarn::test {
@@ -15,33 +15,11 @@ namespace tarn::test {
 using namespace dotmatrix;
 namespace {
 
-QString output(const QString& program, const QStringList& arguments) {
-    QProcess process;
-    process.start(program, arguments);
-    EXPECT_TRUE(process.waitForFinished()) << program.toStdString();
-    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
-
-struct Box {
-    double left = 0;
-    double right = 0;
-    double top = 0;
-};
-
 // Words of the first page by their text, in points.
-std::map<QString, Box> wordsOf(const QString& pdf) {
-    static const QRegularExpression word(
-        QStringLiteral("<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" "
-                       "yMax=\"[0-9.]+\">([^<]*)<"));
-    const QString text =
-        output(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-l"),
-                                             QStringLiteral("1"), pdf, QStringLiteral("-")});
-    std::map<QString, Box> found;
-    for (auto match = word.globalMatch(text); match.hasNext();) {
-        const auto one = match.next();
-        found[one.captured(4)] = {one.captured(1).toDouble(), one.captured(3).toDouble(),
-                                  one.captured(2).toDouble()};
+std::map<QString, Word> wordsOf(const QString& pdf) {
+    std::map<QString, Word> found;
+    for (const Word& word : wordsIn(pdf)) {
+        found[word.text] = word;
     }
     return found;
 }
@@ -61,9 +39,6 @@ protected:
     QString file(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
     QTemporaryDir folder_;
 };
-
-constexpr double tolerance = 0.2 / 25.4 * pointsPerInch;  // 0.2 mm
-constexpr double strip = 36;
 
 TEST_F(PaperFiles, PdfWordsStandOnTheGridAtEachPitch) {
     PrinterRig rig;

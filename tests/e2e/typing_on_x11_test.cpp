@@ -34,7 +34,7 @@ std::vector<Pace> paces() {
     return all;
 }
 
-std::string nameOf(const testing::TestParamInfo<Pace>& each) {
+std::string paceName(const testing::TestParamInfo<Pace>& each) {
     return "AnswerAfter" + std::to_string(each.param.answer) + "KeyEach" +
            std::to_string(each.param.key);
 }
@@ -207,7 +207,7 @@ TEST_P(TypingOn, LabelDeletionsOverTheOrderListHoldWhatWasTyped) {
                   ways::labelDeletion});
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, TypingOn, testing::ValuesIn(paces()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Each, TypingOn, testing::ValuesIn(paces()), paceName);
 
 }  // namespace
 }  // namespace tarn::test

@@ -17,7 +17,7 @@ namespace tarn::test {
 using namespace dotmatrix;
 namespace {
 
-constexpr PaperUnits lineHeight = unitsPerInch / 6;
+constexpr PaperUnits sixthOfAnInch = unitsPerInch / 6;
 
 std::string contentOf(const std::string& file) {
     std::ifstream in(file, std::ios::binary);
@@ -37,7 +37,7 @@ FormDesign practiceForm(const std::string& name) {
 
 bool holds(const FormBox& box, const PaperLine& line, const Cell& cell) {
     return box.x <= cell.x && cell.x + cell.width <= box.x + box.width && box.y <= line.y &&
-           line.y + lineHeight <= box.y + box.height;
+           line.y + sixthOfAnInch <= box.y + box.height;
 }
 
 // What lies in no box of the form, as "line/column".
@@ -48,7 +48,7 @@ std::string astray(const FormDesign& form, const PrinterRig& rig) {
             const bool inBox = std::ranges::any_of(
                 form.boxes, [&](const FormBox& box) { return holds(box, line, cell); });
             if (!inBox) {
-                found += std::to_string(line.y / lineHeight + 1) + "/" +
+                found += std::to_string(line.y / sixthOfAnInch + 1) + "/" +
                          std::to_string(cell.column) + " ";
             }
         }

@@ -11,7 +11,7 @@
 namespace tarn::test {
 namespace {
 
-const notes::Form& form() {
+const notes::Form& form1361() {
     return notes::imprimeNF_1361.formFor(1);
 }
 
@@ -35,11 +35,11 @@ TEST(ImprimeNF1361, TheGoldenFile) {
     std::stringstream golden;
     golden << file.rdbuf();
     ASSERT_GT(golden.str().size(), 2000U);
-    EXPECT_EQ(printed(form(), sampleNote()), golden.str());
+    EXPECT_EQ(printed(form1361(), sampleNote()), golden.str());
 }
 
 TEST(ImprimeNF1361, TheSetUpGoesInAJobOfItsOwn) {
-    const std::vector<Job> jobs = print(form(), sampleNote().xml());
+    const std::vector<Job> jobs = print(form1361(), sampleNote().xml());
     ASSERT_EQ(jobs.size(), 2U);
     EXPECT_EQ(jobs[0].writes, std::vector<std::string>{" \x0F"});
     EXPECT_TRUE(jobs[0].ended);
@@ -49,7 +49,7 @@ TEST(ImprimeNF1361, TheSetUpGoesInAJobOfItsOwn) {
 // One write a call: the parcels take two, the items one each and two below, the
 // legal text three.
 TEST(ImprimeNF1361, OneWriteForEachPrintedRow) {
-    const std::vector<Job> jobs = print(form(), sampleNote().xml());
+    const std::vector<Job> jobs = print(form1361(), sampleNote().xml());
     const std::vector<std::string>& writes = jobs[1].writes;
     ASSERT_EQ(writes.size(), 24U);
     EXPECT_EQ(writes[0], lineOf(130, {{90, "X"}, {125, "004567"}}) + "\r\n\r\n\r\n\r\n\r\n\r\n");
@@ -64,7 +64,7 @@ TEST(ImprimeNF1361, AnEntryNoteHasItsMarkFurtherRight) {
     for (const std::string kind : {"E", "ENTRADA"}) {
         NoteDraft note = sampleNote();
         note.head["Ent_Sai"] = kind;
-        expectLine(linesOf(printed(form(), note)), {1, 130, {{104, "X"}, {125, "004567"}}});
+        expectLine(linesOf(printed(form1361(), note)), {1, 130, {{104, "X"}, {125, "004567"}}});
     }
 }
 
@@ -72,16 +72,16 @@ TEST(ImprimeNF1361, AnythingButACapitalEIsAnExit) {
     for (const std::string kind : {"e", " E", "", "S", "ÉE"}) {
         NoteDraft note = sampleNote();
         note.head["Ent_Sai"] = kind;
-        expectLine(linesOf(printed(form(), note)), {1, 130, {{90, "X"}, {125, "004567"}}});
+        expectLine(linesOf(printed(form1361(), note)), {1, 130, {{90, "X"}, {125, "004567"}}});
     }
     NoteDraft without = sampleNote();
     without.head.erase("Ent_Sai");
-    expectLine(linesOf(printed(form(), without)), {1, 130, {{90, "X"}, {125, "004567"}}});
+    expectLine(linesOf(printed(form1361(), without)), {1, 130, {{90, "X"}, {125, "004567"}}});
 }
 
 // Parcels ----------------------------------------------------------------------
 
-NoteDraft withParcels(int count) {
+NoteDraft noteOfParcels(int count) {
     NoteDraft note = sampleNote();
     note.head["QTDE_PARC"] = std::to_string(count);
     for (std::size_t n = 1; n <= 12; ++n) {
@@ -102,7 +102,7 @@ constexpr std::size_t rowLength[] = {22, 54, 95, 136};
 TEST(ImprimeNF1361, RowsOfParcelsByTheirNumber) {
     for (int count = 1; count <= 9; ++count) {
         SCOPED_TRACE(count);
-        const std::vector<std::string> lines = linesOf(printed(form(), withParcels(count)));
+        const std::vector<std::string> lines = linesOf(printed(form1361(), noteOfParcels(count)));
         for (int row = 0; row <= count / 3; ++row) {
             Values values;
             const int held = std::min(3, count - 3 * row);
@@ -124,21 +124,21 @@ TEST(ImprimeNF1361, NoParcelsLeaveTheFormOneLineLower) {
     for (const std::string count : {"0", "0.9", "0,5"}) {
         NoteDraft note = sampleNote();
         note.head["QTDE_PARC"] = count;
-        const std::vector<std::string> lines = linesOf(printed(form(), note));
+        const std::vector<std::string> lines = linesOf(printed(form1361(), note));
         expectLine(lines, {17, 1, {}});
         EXPECT_EQ(lines[22].substr(0, 6), " P-001");
         EXPECT_EQ(lines.size(), 61U);
     }
     NoteDraft absent = sampleNote();
     absent.head.erase("QTDE_PARC");
-    EXPECT_EQ(linesOf(printed(form(), absent)).size(), 61U);
+    EXPECT_EQ(linesOf(printed(form1361(), absent)).size(), 61U);
 }
 
 TEST(ImprimeNF1361, TooManyParcelsLeaveTheMessage) {
     for (const std::string count : {"10", "12", "9999999", "999999999999999999999"}) {
-        NoteDraft note = withParcels(10);
+        NoteDraft note = noteOfParcels(10);
         note.head["QTDE_PARC"] = count;
-        const std::vector<std::string> lines = linesOf(printed(form(), note));
+        const std::vector<std::string> lines = linesOf(printed(form1361(), note));
         expectLine(lines, {17, 34, {{2, "N\xFAmero de Parcelas maior do que 9"}}});
         for (std::size_t line = 18; line < 23; ++line) {
             expectLine(lines, {line, 0, {}});
@@ -149,9 +149,9 @@ TEST(ImprimeNF1361, TooManyParcelsLeaveTheMessage) {
 }
 
 TEST(ImprimeNF1361, AFractionOfAParcelIsCut) {
-    NoteDraft note = withParcels(9);
+    NoteDraft note = noteOfParcels(9);
     note.head["QTDE_PARC"] = "9.9";
-    const std::vector<std::string> lines = linesOf(printed(form(), note));
+    const std::vector<std::string> lines = linesOf(printed(form1361(), note));
     EXPECT_EQ(lines[18].substr(118, 4), "9,50");
     EXPECT_EQ(lines.size(), 60U);
 }
@@ -162,13 +162,13 @@ TEST(ImprimeNF1361, AnAbsentParcelPrintsZeroAndAnEmptyOneBlanks) {
     note.head.erase("DT_VNC_DOC1");
     note.head["VL_PRN_DOC2"] = "";
     expectLine(
-        linesOf(printed(form(), note)),
+        linesOf(printed(form1361(), note)),
         {17, 136, {{36, "0,00"}, {86, "07/03/2009"}, {116, "1300,25"}, {127, "07/04/2009"}}});
 }
 
 // Items ------------------------------------------------------------------------
 
-NoteDraft withItems(std::size_t count) {
+NoteDraft noteOfItems(std::size_t count) {
     NoteDraft note = sampleNote();
     const Attributes item = note.items[0];
     note.items.assign(count, item);
@@ -178,7 +178,7 @@ NoteDraft withItems(std::size_t count) {
 TEST(ImprimeNF1361, TheTotalsKeepTheirLineUpToQtMaxIt) {
     for (std::size_t count = 1; count <= 6; ++count) {
         SCOPED_TRACE(count);
-        const std::vector<std::string> lines = linesOf(printed(form(), withItems(count)));
+        const std::vector<std::string> lines = linesOf(printed(form1361(), noteOfItems(count)));
         EXPECT_EQ(lines.size(), 60U);
         for (std::size_t i = 0; i < count; ++i) {
             EXPECT_EQ(lines[21 + i].substr(0, 6), " P-001");
@@ -190,41 +190,41 @@ TEST(ImprimeNF1361, TheTotalsKeepTheirLineUpToQtMaxIt) {
 // A full form: the call of the blank lines still sends its blank, ahead of the
 // next one's.
 TEST(ImprimeNF1361, AFullFormHasNoBlankLines) {
-    const std::vector<std::string> lines = linesOf(printed(form(), withItems(6)));
+    const std::vector<std::string> lines = linesOf(printed(form1361(), noteOfItems(6)));
     expectLine(lines, {28, 2, {}});
     expectLine(lines, {29, 0, {}});
 }
 
 TEST(ImprimeNF1361, MoreItemsPushTheFormDown) {
-    const std::vector<std::string> seven = linesOf(printed(form(), withItems(7)));
+    const std::vector<std::string> seven = linesOf(printed(form1361(), noteOfItems(7)));
     EXPECT_EQ(seven.size(), 61U);
     EXPECT_EQ(seven[27].substr(0, 6), " P-001");
     expectLine(seven, {29, 2, {}});
     EXPECT_EQ(seven[30].substr(17, 8), "1.600,75");
-    EXPECT_EQ(linesOf(printed(form(), withItems(9))).size(), 63U);
+    EXPECT_EQ(linesOf(printed(form1361(), noteOfItems(9))).size(), 63U);
 }
 
 TEST(ImprimeNF1361, EveryKindOfItemIsPrinted) {
     NoteDraft note = sampleNote();
     note.items[0]["IC_TP_CAD"] = "S";
     note.items[1].erase("IC_TP_CAD");
-    const std::vector<std::string> lines = linesOf(printed(form(), note));
+    const std::vector<std::string> lines = linesOf(printed(form1361(), note));
     EXPECT_EQ(lines[21].substr(0, 6), " P-001");
     EXPECT_EQ(lines[22].substr(0, 6), " P-002");
 }
 
 TEST(ImprimeNF1361, AnotherElementEndsTheItemsButTheFirstIsReadWhateverItsName) {
-    std::string xml = withItems(3).xml();
+    std::string xml = noteOfItems(3).xml();
     const std::size_t first = xml.find("<ITEM");
     const std::size_t second = xml.find("<ITEM", first + 1);
     const std::size_t third = xml.find("<ITEM", second + 1);
     std::string renamed = xml;
     renamed.replace(third, 5, "<ITEN");
     renamed.replace(first, 5, "<PROD");
-    EXPECT_EQ(linesOf(print(form(), renamed).back().bytes())[23], " ") << "two items";
+    EXPECT_EQ(linesOf(print(form1361(), renamed).back().bytes())[23], " ") << "two items";
     std::string prefixed = xml;
     prefixed.replace(second, 5, "<x:ITEM xmlns:x=\"urn:x\"");
-    EXPECT_EQ(linesOf(print(form(), prefixed).back().bytes())[24], " ") << "three items";
+    EXPECT_EQ(linesOf(print(form1361(), prefixed).back().bytes())[24], " ") << "three items";
 }
 
 TEST(ImprimeNF1361, AQuantityOfZeroHasNoDiscount) {
@@ -232,7 +232,7 @@ TEST(ImprimeNF1361, AQuantityOfZeroHasNoDiscount) {
     note.items[0]["QTDE"] = "0";
     note.items[0]["VL_DSC"] = "no number, and not looked at";
     note.items[1].erase("QTDE");
-    const std::vector<std::string> lines = linesOf(printed(form(), note));
+    const std::vector<std::string> lines = linesOf(printed(form1361(), note));
     EXPECT_EQ(lines[21].substr(77, 47),
               lineOf(47, {{3, "0,000"}, {15, "100,06"}, {37, "0,00"}, {44, "0,00"}}));
     EXPECT_EQ(lines[22].substr(77, 7), "  0,000");
@@ -243,7 +243,7 @@ TEST(ImprimeNF1361, AmountsAreCutFromTheRight) {
     note.items[0]["QTDE"] = "123456.789";
     note.items[0]["VALOR_UN"] = "12345678.9";
     note.items[0]["ICMS"] = "-0.001";
-    const std::string item = linesOf(printed(form(), note))[21];
+    const std::string item = linesOf(printed(form1361(), note))[21];
     EXPECT_EQ(item.substr(77, 7), "123456,");
     EXPECT_EQ(item.substr(88, 9), "12345678,");
     EXPECT_EQ(item.substr(124, 5), "0,00 ");
@@ -257,12 +257,12 @@ TEST(ImprimeNF1361, NaturalPersonsHaveTheirOwnTaxNumber) {
     NoteDraft note = sampleNote();
     note.head["IC_TIP_PES"] = "F";
     note.head["CGC_CPF"] = "12345678901";
-    EXPECT_EQ(linesOf(printed(form(), note))[9].substr(88, 28), "123.456.789-01              ");
+    EXPECT_EQ(linesOf(printed(form1361(), note))[9].substr(88, 28), "123.456.789-01              ");
     note.head["CGC_CPF"] = "1";
-    EXPECT_EQ(linesOf(printed(form(), note))[9].substr(88, 14), "000.000.000-01");
+    EXPECT_EQ(linesOf(printed(form1361(), note))[9].substr(88, 14), "000.000.000-01");
     note.head["IC_TIP_PES"] = "f";
     note.head.erase("CGC_CPF");
-    EXPECT_EQ(linesOf(printed(form(), note))[9].substr(88, 18), "00.000.000/0000-00");
+    EXPECT_EQ(linesOf(printed(form1361(), note))[9].substr(88, 18), "00.000.000/0000-00");
 }
 
 TEST(ImprimeNF1361, TheOperationCodeGetsItsPoint) {
@@ -272,7 +272,7 @@ TEST(ImprimeNF1361, TheOperationCodeGetsItsPoint) {
     for (const auto& [code, shown] : codes) {
         NoteDraft note = sampleNote();
         note.head["CFOP"] = code;
-        EXPECT_EQ(linesOf(printed(form(), note))[6].substr(43, 8), shown) << code;
+        EXPECT_EQ(linesOf(printed(form1361(), note))[6].substr(43, 8), shown) << code;
     }
 }
 
@@ -282,7 +282,7 @@ TEST(ImprimeNF1361, PostalCodesHaveEightDigits) {
     for (const auto& [code, shown] : codes) {
         NoteDraft note = sampleNote();
         note.head["CEP"] = code;
-        EXPECT_EQ(linesOf(printed(form(), note))[11].substr(104, 12), shown) << code;
+        EXPECT_EQ(linesOf(printed(form1361(), note))[11].substr(104, 12), shown) << code;
     }
 }
 
@@ -297,31 +297,32 @@ TEST(ImprimeNF1361, TheCarriersTaxNumberLosesItsLeadingZeros) {
     for (const auto& [number, shown] : numbers) {
         NoteDraft note = sampleNote();
         note.head["NR_CGC_CPL_TRP"] = number;
-        EXPECT_EQ(linesOf(printed(form(), note))[34].substr(109, shown.size()), shown) << number;
+        EXPECT_EQ(linesOf(printed(form1361(), note))[34].substr(109, shown.size()), shown)
+            << number;
     }
 }
 
 TEST(ImprimeNF1361, AnOrderNumberOfZeroPrintsTheLabelAlone) {
     NoteDraft note = sampleNote();
     note.head["ID_VND_DIR"] = "0";
-    expectLine(linesOf(printed(form(), note)), {43, 63, {{16, "N/PEDIDO: "}}});
+    expectLine(linesOf(printed(form1361(), note)), {43, 63, {{16, "N/PEDIDO: "}}});
     note.head["ID_VND_DIR"] = "00";
-    expectLine(linesOf(printed(form(), note)), {43, 63, {{16, "N/PEDIDO: 00"}}});
+    expectLine(linesOf(printed(form1361(), note)), {43, 63, {{16, "N/PEDIDO: 00"}}});
     note.head.erase("ID_VND_DIR");
-    expectLine(linesOf(printed(form(), note)), {43, 63, {{16, "N/PEDIDO: "}}});
+    expectLine(linesOf(printed(form1361(), note)), {43, 63, {{16, "N/PEDIDO: "}}});
 }
 
 TEST(ImprimeNF1361, LongTextsLoseTheirTails) {
     NoteDraft note = sampleNote();
     note.head["NatOper"] = std::string(37, 'N') + "ÇÃO";
     note.head["VENDEDOR"] = std::string(50, 'V');
-    const std::vector<std::string> lines = linesOf(printed(form(), note));
+    const std::vector<std::string> lines = linesOf(printed(form1361(), note));
     expectLine(lines, {7, 51, {{2, std::string(37, 'N') + "\xC7"}, {44, "5.102"}}});
     expectLine(lines, {45, 63, {{16, "VENDEDOR: " + std::string(38, 'V')}}});
 }
 
 TEST(ImprimeNF1361, LongNoteNumbersPrintInFull) {
-    const std::vector<Job> jobs = print(form(), sampleNote().xml(), nullptr, "12345678");
+    const std::vector<Job> jobs = print(form1361(), sampleNote().xml(), nullptr, "12345678");
     const std::vector<std::string> lines = linesOf(jobs[1].bytes());
     expectLine(lines, {1, 132, {{90, "X"}, {125, "12345678"}}});
     expectLine(lines, {42, 63, {{16, "FATURA..: 12345678"}}});
@@ -331,7 +332,7 @@ TEST(ImprimeNF1361, LongNoteNumbersPrintInFull) {
 // Legal text -------------------------------------------------------------------
 
 std::vector<std::string> legalLines(const NoteDraft& note) {
-    const std::vector<std::string> lines = linesOf(printed(form(), note));
+    const std::vector<std::string> lines = linesOf(printed(form1361(), note));
     return {lines[45], lines[46], lines[47], lines[48]};
 }
 
@@ -383,7 +384,7 @@ TEST(ImprimeNF1361, NoValueMovesALineOrCommandsThePrinter) {
     note.head["VENDEDOR"] = "X\nY";
     note.head["DC_OBS"] = "LINHA 1\r\nLINHA 2";
     note.items[0]["DESCRICAO"] = "CAIXA\nGRANDE";
-    const std::vector<std::string> lines = linesOf(printed(form(), note));
+    const std::vector<std::string> lines = linesOf(printed(form1361(), note));
     EXPECT_EQ(lines.size(), 60U);
     EXPECT_EQ(lines[9].substr(1, 9), "A  B C D ");
     EXPECT_EQ(lines[21].substr(11, 13), "CAIXA GRANDE ");
@@ -394,7 +395,7 @@ TEST(ImprimeNF1361, NoValueMovesALineOrCommandsThePrinter) {
 TEST(ImprimeNF1361, CharactersOutsideThePageTakeOneColumnEach) {
     NoteDraft note = sampleNote();
     note.head["NatOper"] = "“A” – ’B€ 漢 ½";
-    EXPECT_EQ(linesOf(printed(form(), note))[6],
+    EXPECT_EQ(linesOf(printed(form1361(), note))[6],
               lineOf(51, {{2, "\"A\" - 'BE ? \xBD"}, {44, "5.102"}}));
 }
 
@@ -408,7 +409,7 @@ struct Failure {
 
 void expectFailure(const std::string& xml, const Failure& expected) {
     std::optional<RuntimeErrorCode> error;
-    const std::vector<Job> jobs = print(form(), xml, &error);
+    const std::vector<Job> jobs = print(form1361(), xml, &error);
     ASSERT_EQ(jobs.size(), 2U);
     EXPECT_TRUE(jobs[0].ended);
     EXPECT_EQ(jobs[0].bytes(), " \x0F");
@@ -455,7 +456,7 @@ TEST(ImprimeNF1361Errors, EmptyAmountsThatAreOnlyMaskedPrintBlank) {
     note.totals["VALOR_FRETE"] = "";
     note.totals.erase("VALOR_SEGURO");
     note.items[0]["ICMS"] = "";
-    const std::vector<std::string> lines = linesOf(printed(form(), note));
+    const std::vector<std::string> lines = linesOf(printed(form1361(), note));
     expectLine(lines, {32, 136, {{50, "0,00"}, {77, "0,25"}, {103, "80,04"}, {129, "1.696,54"}}});
     EXPECT_EQ(lines[21].substr(124, 10), "     5,00 ");
 }
@@ -499,7 +500,7 @@ TEST(ImprimeNF1361Errors, AFieldInAnotherCaseOfLettersIsAnObjectError) {
 TEST(ImprimeNF1361Errors, AFieldSpelledTwiceIsTakenAsSpelledHere) {
     NoteDraft note = sampleNote();
     note.head["CFoP"] = "1111";
-    expectLine(linesOf(printed(form(), note)),
+    expectLine(linesOf(printed(form1361(), note)),
                {7, 51, {{2, "VENDA DE MERCADORIA"}, {44, "5.102"}}});
 }
 
@@ -507,7 +508,7 @@ TEST(ImprimeNF1361, CommentsAndTextBetweenRowsDontCount) {
     std::string xml = sampleNote().xml();
     xml.insert(xml.find("<TOTAIS"), "<!-- totais --> texto ");
     xml.insert(xml.rfind("<ITEM"), "<!-- item -->");
-    EXPECT_EQ(print(form(), xml).back().bytes(), printed(form(), sampleNote()));
+    EXPECT_EQ(print(form1361(), xml).back().bytes(), printed(form1361(), sampleNote()));
 }
 
 }  // namespace

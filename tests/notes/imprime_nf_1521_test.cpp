@@ -7,7 +7,7 @@
 namespace tarn::test {
 namespace {
 
-const notes::Form& form() {
+const notes::Form& form1521() {
     return notes::imprimeNF_1521.formFor(1);
 }
 
@@ -22,7 +22,7 @@ std::string parcel(std::size_t n) {
 }
 
 TEST(ImprimeNF1521, TheSetUpHasAJobOfItsOwn) {
-    const std::vector<Job> jobs = print(form(), fullNote().xml());
+    const std::vector<Job> jobs = print(form1521(), fullNote().xml());
     ASSERT_EQ(jobs.size(), 2U);
     EXPECT_EQ(jobs[0].writes, Lines{" \x1B#3"});
     EXPECT_TRUE(jobs[0].ended);
@@ -34,7 +34,9 @@ TEST(ImprimeNF1521, TheSetUpHasAJobOfItsOwn) {
 }
 
 TEST(ImprimeNF1521, ParcelsStandSideBySideTwoLinesApart) {
-    const auto block = [](int count) { return rows(printed(form(), withParcels(count)), 20, 31); };
+    const auto block = [](int count) {
+        return rows(printed(form1521(), withParcels(count)), 20, 31);
+    };
     const auto expectBlock = [&](int count,
                                  const std::vector<std::pair<std::size_t, std::string>>& told) {
         SCOPED_TRACE(count);
@@ -68,21 +70,21 @@ TEST(ImprimeNF1521, ParcelsStandSideBySideTwoLinesApart) {
 TEST(ImprimeNF1521, TheAmountInWordsMayBeEmpty) {
     NoteDraft note = fullNote();
     note.totals["VALOR_TOT_NF"] = "0";
-    EXPECT_EQ(rows(printed(form(), note), 19, 19), Lines{"    "});
+    EXPECT_EQ(rows(printed(form1521(), note), 19, 19), Lines{"    "});
     note.totals.erase("VALOR_TOT_NF");
-    EXPECT_EQ(rows(printed(form(), note), 19, 19), Lines{"    "});
+    EXPECT_EQ(rows(printed(form1521(), note), 19, 19), Lines{"    "});
     note.totals["VALOR_TOT_NF"] = "1";
-    EXPECT_EQ(rows(printed(form(), note), 19, 19), Lines{"    UM REAL"});
+    EXPECT_EQ(rows(printed(form1521(), note), 19, 19), Lines{"    UM REAL"});
     note.totals["VALOR_TOT_NF"] = "";
-    EXPECT_EQ(linesOf(untilTypeError(form(), note)).size(), 19U);
+    EXPECT_EQ(linesOf(untilTypeError(form1521(), note)).size(), 19U);
 }
 
 TEST(ImprimeNF1521, EmptyTextsKeepTheirMargins) {
-    EXPECT_EQ(rows(printed(form(), withTexts("", "")), 38, 40),
+    EXPECT_EQ(rows(printed(form1521(), withTexts("", "")), 38, 40),
               (Lines{"     ", "      ", "      "}));
-    EXPECT_EQ(rows(printed(form(), withTexts("REDUZIDA", "")), 38, 40),
+    EXPECT_EQ(rows(printed(form1521(), withTexts("REDUZIDA", "")), 38, 40),
               (Lines{"     ", "      REDUZIDA", "      "}));
-    EXPECT_EQ(rows(printed(form(), withTexts("", "URGENTE")), 38, 40),
+    EXPECT_EQ(rows(printed(form1521(), withTexts("", "URGENTE")), 38, 40),
               (Lines{"      OBS.: URGENTE", "      ", "      "}));
 }
 
@@ -92,7 +94,7 @@ TEST(ImprimeNF1521, AddressesPrintTheirTextsAlsoWhenEmpty) {
                              "ENDERECO_ETG", "BAIRRO_ETG", "CEP_ETG", "MUNICIPIO_ETG", "UF_ETG"}) {
         note.head.erase(name);
     }
-    const Lines lines = linesOf(printed(form(), note));
+    const Lines lines = linesOf(printed(form1521(), note));
     EXPECT_EQ(lines[16], line({L(95, 12, "00000-000")}));
     EXPECT_EQ(lines[40],
               line({T(5, "ENDERECO DE ENTREGA:"), L(91, 12, "00000-000"), L(129, 20, "")}));

@@ -7,12 +7,12 @@
 namespace tarn::test {
 namespace {
 
-const notes::Form& form() {
+const notes::Form& form2041() {
     return notes::imprimeNF_2041.formFor(1);
 }
 
 TEST(ImprimeNF2041, TheJobBeginsWithItsBlankLines) {
-    const std::vector<Job> jobs = print(form(), fullNote().xml());
+    const std::vector<Job> jobs = print(form2041(), fullNote().xml());
     ASSERT_EQ(jobs.size(), 2U);
     EXPECT_EQ(jobs[0].writes, std::vector<std::string>{" \x0F"});
     EXPECT_EQ(jobs[1].writes[0], " \r\n\r\n\r\n");
@@ -28,7 +28,7 @@ TEST(ImprimeNF2041, ShortTextsKeepTheColumnOfTheLegalText) {
     note.head["ID_VND_DIR"] = "0";
     note.head.erase("NR_PED_CLI");
     note.head.erase("DC_CND_PAG");
-    const std::vector<std::string> lines = linesOf(printed(form(), note));
+    const std::vector<std::string> lines = linesOf(printed(form2041(), note));
     EXPECT_EQ(lines[42], line({L(6, 20, ""), L(28, 70, "COND.PAGTO: ")}));
     // The observation follows the legal text at once.
     EXPECT_EQ(lines[43], line({T(28, "REDUZIDAFR\xC1GIL")}));
@@ -40,21 +40,21 @@ TEST(ImprimeNF2041, ShortTextsKeepTheColumnOfTheLegalText) {
 TEST(ImprimeNF2041, TheObservationRunsOnThroughThePieces) {
     NoteDraft note = fullNote();
     note.head.erase("DC_OBS");
-    const std::string legalAlone = printed(form(), note);
+    const std::string legalAlone = printed(form2041(), note);
     for (Attributes& item : note.items) {
         item["DC_TXT_LEG_NF"] = ruler(1, 80);
     }
     note.head["DC_OBS"] = ruler(81, 300);
-    EXPECT_EQ(printed(form(), note), legalAlone);
+    EXPECT_EQ(printed(form2041(), note), legalAlone);
 }
 
 TEST(ImprimeNF2041, EveryKindOfItemPrintsAndTheDiscountIsNotLookedAt) {
     NoteDraft note = fullNote();
-    const std::string plain = printed(form(), note);
+    const std::string plain = printed(form2041(), note);
     note.items[0]["IC_TP_CAD"] = "S";
     note.items[1].erase("IC_TP_CAD");
     note.items[0]["VL_DSC"] = "nada";
-    EXPECT_EQ(printed(form(), note), plain);
+    EXPECT_EQ(printed(form2041(), note), plain);
 }
 
 }  // namespace

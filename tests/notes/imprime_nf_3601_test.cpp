@@ -33,7 +33,7 @@ TEST(ImprimeNF3601, SetUpAndFirstCalls) {
 
 // Parcels `from` to `to` of one row. The number has no width: behind one of two
 // digits all stands a column further right.
-std::string row(std::size_t from, std::size_t to) {
+std::string row3601(std::size_t from, std::size_t to) {
     std::vector<Cell> cells;
     std::size_t shift = 0;
     for (std::size_t n = from; n <= to; ++n) {
@@ -58,12 +58,14 @@ TEST(ImprimeNF3601, FourNumberedParcelsToARow) {
             return Lines(found.begin(), found.begin() + 8);
         };
         EXPECT_EQ(block(0), (Lines{" ", "", "", "", "", "", "", ""}));
-        EXPECT_EQ(block(1), (Lines{row(1, 1), "", "", "", "", "", "", ""}));
-        EXPECT_EQ(block(3), (Lines{row(1, 3), "", "", "", "", "", "", ""}));
-        EXPECT_EQ(block(4), (Lines{row(1, 4), "  ", "", "", "", "", "", ""}));
-        EXPECT_EQ(block(8), (Lines{row(1, 4), row(5, 8), "  ", "", "", "", "", ""}));
-        EXPECT_EQ(block(11), (Lines{row(1, 4), row(5, 8), row(9, 11), "", "", "", "", ""}));
-        EXPECT_EQ(block(12), (Lines{row(1, 4), row(5, 8), row(9, 12), "  ", "", "", "", ""}));
+        EXPECT_EQ(block(1), (Lines{row3601(1, 1), "", "", "", "", "", "", ""}));
+        EXPECT_EQ(block(3), (Lines{row3601(1, 3), "", "", "", "", "", "", ""}));
+        EXPECT_EQ(block(4), (Lines{row3601(1, 4), "  ", "", "", "", "", "", ""}));
+        EXPECT_EQ(block(8), (Lines{row3601(1, 4), row3601(5, 8), "  ", "", "", "", "", ""}));
+        EXPECT_EQ(block(11),
+                  (Lines{row3601(1, 4), row3601(5, 8), row3601(9, 11), "", "", "", "", ""}));
+        EXPECT_EQ(block(12),
+                  (Lines{row3601(1, 4), row3601(5, 8), row3601(9, 12), "  ", "", "", "", ""}));
     }
 }
 

@@ -16,7 +16,7 @@ const notes::Form& others() {
     return notes::imprimeNF_4621.formFor(1);
 }
 
-const std::string setUp = " \x0F\x1BG";
+const std::string setUp4621 = " \x0F\x1BG";
 
 // Each parcel is a call of its own, with its blank; the first of a row leaves ten more.
 std::string first7321(const std::string& date, const std::string& value) {
@@ -37,7 +37,7 @@ TEST(ImprimeNF4621, TheSetUpOpensTheJobOfTheNote) {
         const std::vector<Job> jobs = print(*form, fullNote().xml());
         ASSERT_EQ(jobs.size(), 1U);
         EXPECT_TRUE(jobs[0].ended);
-        EXPECT_EQ(jobs[0].writes[0], setUp);
+        EXPECT_EQ(jobs[0].writes[0], setUp4621);
     }
 }
 

@@ -16,7 +16,7 @@ const notes::Form& of7() {
     return notes::imprimeNF_7.formFor(1);
 }
 
-const std::string setUp = " \x1B\x0F\x0F \x1B\x17 ";
+const std::string blankSetUp = " \x1B\x0F\x0F \x1B\x17 ";
 
 TEST(ImprimeNFPadrao, OneJobHoldsSetUpAndNote) {
     const std::vector<Job> jobs = print(fallback(), fullNote().xml());
@@ -83,7 +83,7 @@ TEST(ImprimeNFPadrao, WithoutTheNodeTheNumberIsOut) {
     EXPECT_EQ(error, RuntimeErrorCode::ObjectVariable);
     ASSERT_EQ(jobs.size(), 1U);
     EXPECT_FALSE(jobs[0].ended);
-    EXPECT_EQ(jobs[0].bytes(), setUp + "\r\n" + line({T(68, "004567")}) + "\r\n");
+    EXPECT_EQ(jobs[0].bytes(), blankSetUp + "\r\n" + line({T(68, "004567")}) + "\r\n");
 }
 
 TEST(ImprimeNF7, ParcelsAreNotLookedAt) {

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "tests/notes/compare_notes.h"
+#include "tests/notes/form_name.h"
 #include "tests/notes/note_press.h"
 
 namespace tarn::test {
@@ -56,10 +57,6 @@ protected:
         return std::max(0, items - plainItemLines);
     }
 };
-
-std::string nameOf(const testing::TestParamInfo<FormFacts>& info) {
-    return info.param.name;
-}
 
 TEST_P(FormLength, ByParcels) {
     for (int parcels = 0; parcels <= 15; ++parcels) {
@@ -118,7 +115,7 @@ TEST_P(FormLength, ServiceAmongTheProducts) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Forms, FormLength, testing::ValuesIn(allForms()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Forms, FormLength, testing::ValuesIn(allForms()), formName);
 
 }  // namespace
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/notes/compare_notes.h"
+#include "tests/notes/form_name.h"
 #include "tests/notes/note_press.h"
 
 namespace tarn::test {
@@ -44,10 +45,6 @@ protected:
         }
     }
 };
-
-std::string nameOf(const testing::TestParamInfo<FormFacts>& info) {
-    return info.param.name;
-}
 
 // The maps hold together: from row to row, and with the length of the form.
 TEST_P(FormMap, MapAndFactsAgree) {
@@ -263,7 +260,7 @@ TEST_P(FormMap, NoTaxCredit) {
     check(note);
 }
 
-INSTANTIATE_TEST_SUITE_P(Forms, FormMap, testing::ValuesIn(allForms()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Forms, FormMap, testing::ValuesIn(allForms()), formName);
 
 }  // namespace
 

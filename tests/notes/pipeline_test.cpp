@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "tests/notes/compare_notes.h"
+#include "tests/notes/form_name.h"
 #include "tests/notes/note_press.h"
 
 namespace tarn::test {
@@ -50,10 +51,6 @@ protected:
     // that reads the document.
     static bool isMark(const ExpectedCall& call) { return call.what == "\"X\""; }
 };
-
-std::string nameOf(const testing::TestParamInfo<FormFacts>& info) {
-    return info.param.name;
-}
 
 TEST_P(BrokenNote, NoItem) {
     NoteDraft draft = draftOf({});
@@ -138,7 +135,7 @@ TEST_P(BrokenNote, NameInAnotherCase) {
     check(draft.xml(), RuntimeErrorCode::ObjectVariable, showing("NatOper"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Forms, BrokenNote, testing::ValuesIn(allForms()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Forms, BrokenNote, testing::ValuesIn(allForms()), formName);
 
 }  // namespace
 

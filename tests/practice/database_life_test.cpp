@@ -14,7 +14,8 @@
 namespace tarn::practice::test {
 namespace {
 
-constexpr const char* listQuery = "comando=sel_ordem_fatu&ID_ETB_TARN=1361&ServerName=DADOS1361";
+constexpr const char* orderListQuery =
+    "comando=sel_ordem_fatu&ID_ETB_TARN=1361&ServerName=DADOS1361";
 
 class PracticeFile : public testing::Test {
 protected:
@@ -43,14 +44,14 @@ TEST(PracticeSeed, TheSameSeedGivesTheSameAnswers) {
             "&ServerName=DADOS1361";
         EXPECT_EQ(one.server().answer(query), other.server().answer(query));
     }
-    EXPECT_EQ(one.server().answer(listQuery), other.server().answer(listQuery));
+    EXPECT_EQ(one.server().answer(orderListQuery), other.server().answer(orderListQuery));
     EXPECT_EQ(one.generate("45001").number, other.generate("45001").number);
 }
 
 TEST(PracticeSeed, AnotherSeedGivesOtherData) {
     Desk one(optionsOf(":memory:", 7));
     Desk other(optionsOf(":memory:", 8));
-    EXPECT_NE(one.server().answer(listQuery), other.server().answer(listQuery));
+    EXPECT_NE(one.server().answer(orderListQuery), other.server().answer(orderListQuery));
     EXPECT_EQ(one.orders(), other.orders());
 }
 

@@ -5,13 +5,13 @@
 namespace tarn::practice::test {
 namespace {
 
-std::string findQuery(const Generated& note) {
+std::string findNoteQuery(const Generated& note) {
     return "comando=SEL_NF&ID_ETB_TARN=1361&ID_NF_KESTO=" + note.number +
            "&CD_SER_NF=" + note.series + "&ServerName=DADOS1361";
 }
 
-std::string cancelQuery(const Generated& note, const char* option, const char* kind = "S",
-                        const char* reason = "1") {
+std::string cancelNoteQuery(const Generated& note, const char* option, const char* kind = "S",
+                            const char* reason = "1") {
     return std::string("comando=sp_can_nf&ID_ETB_TARN=1361&IC_TIP_NF=") + kind +
            "&ID_NF_KESTO=" + note.number + "&CD_SER_NF=" + note.series + "&id_mot_can=" + reason +
            "&id_pes_usu=101&Tipo_Can=" + option + "&ServerName=DADOS1361";
@@ -95,54 +95,54 @@ TEST(NoteCommands, AnUnknownNoteIsRefused) {
               "A Nota Fiscal nº 1 da série 1 não existe ou foi cancelada.");
     EXPECT_EQ(statusOf(desk.note({"", ""})),
               "A Nota Fiscal nº  da série  não existe ou foi cancelada.");
-    EXPECT_TRUE(rowsOf(desk.ask(findQuery({"12,5", "1"}))).empty());
+    EXPECT_TRUE(rowsOf(desk.ask(findNoteQuery({"12,5", "1"}))).empty());
 }
 
 TEST(NoteCommands, FindGivesTheFourFields) {
     Desk desk;
     const Generated note = desk.generate("45002");
-    const XmlDocument document = desk.ask(findQuery({"000" + note.number, note.series}));
+    const XmlDocument document = desk.ask(findNoteQuery({"000" + note.number, note.series}));
     const std::vector<XmlNode> rows = rowsOf(document);
     ASSERT_EQ(rows.size(), 1U);
     EXPECT_EQ(field(rows[0], "DC_TIP_NF"), "Venda de mercadoria");
     EXPECT_EQ(field(rows[0], "IC_TIP_NF"), "S");
     EXPECT_EQ(field(rows[0], "DT_EMS_NF"), "05/09/2012");
     EXPECT_EQ(field(rows[0], "NM_PES_CPL"), "MARIA DA CONCEIÇÃO ALBUQUERQUE D'ÁVILA");
-    EXPECT_TRUE(rowsOf(desk.ask(findQuery({note.number, "2"}))).empty());
+    EXPECT_TRUE(rowsOf(desk.ask(findNoteQuery({note.number, "2"}))).empty());
 }
 
 TEST(NoteCommands, ACancelledNoteIsNoLongerFound) {
     Desk desk;
     const Generated note = desk.generate("45001");
-    EXPECT_EQ(desk.status(cancelQuery(note, "S")), "OK");
-    EXPECT_TRUE(rowsOf(desk.ask(findQuery(note))).empty());
+    EXPECT_EQ(desk.status(cancelNoteQuery(note, "S")), "OK");
+    EXPECT_TRUE(rowsOf(desk.ask(findNoteQuery(note))).empty());
     EXPECT_NE(statusOf(desk.note(note)), "OK");
     EXPECT_FALSE(isListed(desk, "45001"));
-    EXPECT_EQ(desk.status(cancelQuery(note, "S")),
+    EXPECT_EQ(desk.status(cancelNoteQuery(note, "S")),
               "A Nota Fiscal nº " + note.number + " da série 1 não existe ou foi cancelada.");
 }
 
 TEST(NoteCommands, WithTheOptionOfBillingAnewTheOrderComesBack) {
     Desk desk;
     const Generated note = desk.generate("45001");
-    EXPECT_EQ(desk.status(cancelQuery(note, "C")), "OK");
+    EXPECT_EQ(desk.status(cancelNoteQuery(note, "C")), "OK");
     EXPECT_TRUE(isListed(desk, "45001"));
     const Generated again = desk.generate("45001");
     EXPECT_EQ(std::stoi(again.number), std::stoi(note.number) + 1);
-    EXPECT_TRUE(rowsOf(desk.ask(findQuery(note))).empty());
-    EXPECT_EQ(rowsOf(desk.ask(findQuery(again))).size(), 1U);
+    EXPECT_TRUE(rowsOf(desk.ask(findNoteQuery(note))).empty());
+    EXPECT_EQ(rowsOf(desk.ask(findNoteQuery(again))).size(), 1U);
 }
 
 TEST(NoteCommands, ABadCancellationLeavesTheNote) {
     Desk desk;
     const Generated note = desk.generate("45001");
-    EXPECT_EQ(desk.status(cancelQuery(note, "S", "S", "77")),
+    EXPECT_EQ(desk.status(cancelNoteQuery(note, "S", "S", "77")),
               "O motivo do cancelamento não está cadastrado. Escolha outro motivo.");
-    EXPECT_EQ(desk.status(cancelQuery(note, "X")),
+    EXPECT_EQ(desk.status(cancelNoteQuery(note, "X")),
               "O tipo do cancelamento não foi informado. Escolha COM ou SEM a opção de novo "
               "faturamento da venda.");
-    EXPECT_NE(desk.status(cancelQuery(note, "S", "D")), "OK");
-    EXPECT_EQ(rowsOf(desk.ask(findQuery(note))).size(), 1U);
+    EXPECT_NE(desk.status(cancelNoteQuery(note, "S", "D")), "OK");
+    EXPECT_EQ(rowsOf(desk.ask(findNoteQuery(note))).size(), 1U);
     EXPECT_EQ(statusOf(desk.note(note)), "OK");
 }
 
@@ -153,7 +153,7 @@ TEST(NoteCommands, StockLeavesWithTheNoteAndComesBackWithItsCancellation) {
     constexpr int times = 600;
     for (int i = 0; i < times; ++i) {
         const Generated note = desk.generate("45001");
-        ASSERT_EQ(desk.status(cancelQuery(note, "C")), "OK");
+        ASSERT_EQ(desk.status(cancelNoteQuery(note, "C")), "OK");
     }
     EXPECT_EQ(stockText(desk, "45001"), "");
 }

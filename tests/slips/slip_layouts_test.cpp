@@ -169,16 +169,16 @@ Lines pieces7(std::size_t length) {
 std::string piece(char letter, std::size_t length) {
     return " " + std::string(length, letter) + "\r\n";
 }
-const std::string none = "  \r\n";
+const std::string noPiece = "  \r\n";
 
 TEST(Wallet57, TheInstructionIsCutInThree) {
-    EXPECT_EQ(pieces57(0), (Lines{none, none, none, none}));
-    EXPECT_EQ(pieces57(1), (Lines{piece('A', 1), none, none, none}));
-    EXPECT_EQ(pieces57(79), (Lines{piece('A', 79), none, none, none}));
-    EXPECT_EQ(pieces57(80), (Lines{piece('A', 79), piece('B', 1), none, none}));
-    EXPECT_EQ(pieces57(158), (Lines{piece('A', 79), piece('B', 79), none, none}));
-    EXPECT_EQ(pieces57(159), (Lines{piece('A', 79), piece('B', 79), piece('C', 1), none}));
-    const Lines full{piece('A', 79), piece('B', 79), piece('C', 79), none};
+    EXPECT_EQ(pieces57(0), (Lines{noPiece, noPiece, noPiece, noPiece}));
+    EXPECT_EQ(pieces57(1), (Lines{piece('A', 1), noPiece, noPiece, noPiece}));
+    EXPECT_EQ(pieces57(79), (Lines{piece('A', 79), noPiece, noPiece, noPiece}));
+    EXPECT_EQ(pieces57(80), (Lines{piece('A', 79), piece('B', 1), noPiece, noPiece}));
+    EXPECT_EQ(pieces57(158), (Lines{piece('A', 79), piece('B', 79), noPiece, noPiece}));
+    EXPECT_EQ(pieces57(159), (Lines{piece('A', 79), piece('B', 79), piece('C', 1), noPiece}));
+    const Lines full{piece('A', 79), piece('B', 79), piece('C', 79), noPiece};
     EXPECT_EQ(pieces57(237), full);
     EXPECT_EQ(pieces57(238), full);
     EXPECT_EQ(pieces57(400), full);
@@ -186,12 +186,12 @@ TEST(Wallet57, TheInstructionIsCutInThree) {
 }
 
 TEST(SevenDigits, TheInstructionIsCutInFour) {
-    EXPECT_EQ(pieces7(0), (Lines{none, none, none, none}));
-    EXPECT_EQ(pieces7(79), (Lines{piece('A', 79), none, none, none}));
-    EXPECT_EQ(pieces7(80), (Lines{piece('A', 79), piece('B', 1), none, none}));
-    EXPECT_EQ(pieces7(158), (Lines{piece('A', 79), piece('B', 79), none, none}));
-    EXPECT_EQ(pieces7(159), (Lines{piece('A', 79), piece('B', 79), piece('C', 1), none}));
-    EXPECT_EQ(pieces7(237), (Lines{piece('A', 79), piece('B', 79), piece('C', 79), none}));
+    EXPECT_EQ(pieces7(0), (Lines{noPiece, noPiece, noPiece, noPiece}));
+    EXPECT_EQ(pieces7(79), (Lines{piece('A', 79), noPiece, noPiece, noPiece}));
+    EXPECT_EQ(pieces7(80), (Lines{piece('A', 79), piece('B', 1), noPiece, noPiece}));
+    EXPECT_EQ(pieces7(158), (Lines{piece('A', 79), piece('B', 79), noPiece, noPiece}));
+    EXPECT_EQ(pieces7(159), (Lines{piece('A', 79), piece('B', 79), piece('C', 1), noPiece}));
+    EXPECT_EQ(pieces7(237), (Lines{piece('A', 79), piece('B', 79), piece('C', 79), noPiece}));
     EXPECT_EQ(pieces7(238), (Lines{piece('A', 79), piece('B', 79), piece('C', 79), piece('D', 1)}));
     const Lines full{piece('A', 79), piece('B', 79), piece('C', 79), piece('D', 79)};
     EXPECT_EQ(pieces7(316), full);

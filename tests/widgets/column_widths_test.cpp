@@ -13,11 +13,11 @@
 namespace tarn::test {
 namespace {
 
-constexpr std::array<GridColumn, 5> columns{{{"A", "Nº", 10},
-                                             {"B", "Cliente", 40},
-                                             {"C", "", 0},
-                                             {"D", "Valor", 12, Treatment::Amount},
-                                             {"E", "Cidade", 30}}};
+constexpr std::array<GridColumn, 5> fiveColumns{{{"A", "Nº", 10},
+                                                 {"B", "Cliente", 40},
+                                                 {"C", "", 0},
+                                                 {"D", "Valor", 12, Treatment::Amount},
+                                                 {"E", "Cidade", 30}}};
 
 class ColumnWidthsTest : public testing::Test {
 protected:
@@ -43,7 +43,7 @@ protected:
         }
     }
 
-    GridModel model{columns, nullptr};
+    GridModel model{fiveColumns, nullptr};
     QTableView grid;
 };
 

@@ -20,9 +20,9 @@
 namespace tarn::test {
 namespace {
 
-class Window : public QDialog {
+class GestureWindow : public QDialog {
 public:
-    Window() {
+    GestureWindow() {
         auto* layout = new QVBoxLayout(this);
         for (QWidget* widget : std::initializer_list<QWidget*>{&button, &other, &tick, &field,
                                                                &next, &lines, &list, &grid}) {
@@ -67,7 +67,7 @@ protected:
     }
     QPoint middle() const { return window.button.rect().center(); }
 
-    Window window;
+    GestureWindow window;
     int acts = 0;
     int otherActs = 0;
     const quint64 t = later();

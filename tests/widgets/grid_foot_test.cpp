@@ -10,18 +10,12 @@
 #include <QVBoxLayout>
 
 #include "tests/support/user.h"
+#include "tests/widgets/small_grid.h"
 #include "widgets/grid_model.h"
 #include "widgets/grid_view.h"
 
 namespace tarn::test {
 namespace {
-
-enum class Column { Tick, Name, Kept, Value, End };
-
-constexpr auto columns = gridOf<Column>({{Column::Tick, {"", "", 4, Treatment::Tick}},
-                                         {Column::Name, {"NOME", "Nome", 20}},
-                                         {Column::Kept, {"ID", "Guardada", 0}},
-                                         {Column::Value, {"VL", "Valor", 12, Treatment::Amount}}});
 
 class GridFootTest : public testing::Test {
 protected:

@@ -5,10 +5,10 @@
 
 #include <QSignalSpy>
 
+#include "tests/widgets/small_grid.h"
+
 namespace tarn::test {
 namespace {
-
-enum class Column { Tick, Name, Kept, Value, End };
 
 constexpr auto table =
     gridOf<Column>({{Column::Tick, {"", "", 4, Treatment::Tick}},

@@ -14,17 +14,12 @@
 
 #include "widgets/grid_model.h"
 
+#include "tests/widgets/small_grid.h"
+
 namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
-
-enum class Column { Tick, Name, Kept, Value, End };
-
-constexpr auto columns = gridOf<Column>({{Column::Tick, {"", "", 4, Treatment::Tick}},
-                                         {Column::Name, {"NOME", "Nome", 20}},
-                                         {Column::Kept, {"ID", "Guardada", 0}},
-                                         {Column::Value, {"VL", "Valor", 12, Treatment::Amount}}});
 
 class GridViewTest : public testing::Test {
 protected:

@@ -22,9 +22,9 @@
 namespace tarn::test {
 namespace {
 
-class Window : public QDialog {
+class GateWindow : public QDialog {
 public:
-    Window() {
+    GateWindow() {
         auto* layout = new QVBoxLayout(this);
         for (QWidget* widget :
              std::initializer_list<QWidget*>{&first, &second, &third, &button, &other, &grid}) {
@@ -103,11 +103,11 @@ protected:
     void strikes(Qt::Key key) { QTest::keyClick(focus(), key); }
     QWidget* focus() const {
         return window.focusWidget() != nullptr ? window.focusWidget()
-                                               : const_cast<Window*>(&window);
+                                               : const_cast<GateWindow*>(&window);
     }
 
     InputGate& gate = InputGate::ofApplication();
-    Window window;
+    GateWindow window;
     int acts = 0;
     int otherActs = 0;
 };
@@ -412,7 +412,7 @@ TEST_F(InputGateTest, AScreenOpenedOverAnotherTypesOnByItself) {
 }
 
 TEST_F(InputGateTest, OnlyTheProgramsOwnWindowClosesMeanwhile) {
-    Window desk;
+    GateWindow desk;
     gate.letClose(desk);
     routine([&] {
         request([&] {
