@@ -36,7 +36,6 @@ endif()
 
 if(TARN_BUILD_TESTS)
   find_package(GTest REQUIRED)
-  include(GoogleTest)
   find_package(X11)
 endif()
 

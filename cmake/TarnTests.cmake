@@ -36,18 +36,45 @@ function(tarn_share_test_code name libraries)
   endif()
 endfunction()
 
-# tarn_add_test(NAME LABEL label SOURCES ... LIBRARIES ...): a GoogleTest program, one ctest
-# entry for each of its cases. A program that brings its own main (QT) is linked without
-# gtest_main and runs off-screen. PROPERTIES are those of ctest, for each case; its time
-# limit is the test preset's.
+# tarn_add_test(NAME LABEL label SOURCES ... LIBRARIES ...): a GoogleTest program. A program
+# that brings its own main (QT) is linked without gtest_main and runs off-screen. It is known
+# to ctest by its suites, or in SHARDS parts of its cases, for suites that mostly wait and can
+# do so side by side. PROPERTIES are those of ctest, for each entry; its time limit is the
+# test preset's.
 function(tarn_add_test name)
-  cmake_parse_arguments(arg "QT" "LABEL" "SOURCES;LIBRARIES;PROPERTIES" ${ARGN})
+  cmake_parse_arguments(arg "QT" "LABEL;SHARDS" "SOURCES;LIBRARIES;PROPERTIES" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
   target_link_libraries(${name} PRIVATE tarn_test_options ${arg_LIBRARIES} GTest::gmock
                         $<IF:$<BOOL:${arg_QT}>,GTest::gtest,GTest::gtest_main>)
   tarn_share_test_code(${name} "${arg_LIBRARIES}")
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
-    PROPERTIES LABELS "${arg_LABEL}" ${arg_PROPERTIES}
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  if(arg_SHARDS)
+    tarn_enter_shards(${name} ${arg_SHARDS} LABELS "${arg_LABEL}" ${arg_PROPERTIES})
+  else()
+    tarn_enter_suites(${name} ${name} LABELS "${arg_LABEL}" ${arg_PROPERTIES}
+                      ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  endif()
+endfunction()
+
+# tarn_enter_suites(NAME ENTRY PROPERTY VALUE ...): the suites of a program, as ENTRY.Suite.
+function(tarn_enter_suites name entry)
+  set(script "${CMAKE_CURRENT_BINARY_DIR}/${entry}_suites.cmake")
+  file(GENERATE OUTPUT "${script}" CONTENT "\
+set(program \"$<TARGET_FILE:${name}>\")
+set(entry \"${entry}\")
+set(names \"${CMAKE_CURRENT_BINARY_DIR}/${entry}_suites.txt\")
+set(properties \"${ARGN}\")
+include(\"${PROJECT_SOURCE_DIR}/cmake/AddSuites.cmake\")
+")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
+endfunction()
+
+# tarn_enter_shards(NAME COUNT PROPERTY VALUE ...): every COUNT-th case of a program each.
+function(tarn_enter_shards name count)
+  foreach(part RANGE 1 ${count})
+    math(EXPR index "${part} - 1")
+    add_test(NAME ${name}.${part} COMMAND ${name} --gtest_brief=1)
+    set_tests_properties(${name}.${part} PROPERTIES ${ARGN}
+      ENVIRONMENT "GTEST_TOTAL_SHARDS=${count};GTEST_SHARD_INDEX=${index}")
+  endforeach()
 endfunction()
