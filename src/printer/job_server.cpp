@@ -3,6 +3,7 @@
 #include <QHostAddress>
 #include <QTcpSocket>
 #include <QTime>
+#include <algorithm>
 
 namespace tarn::dotmatrix {
 
@@ -16,12 +17,20 @@ QString nameOf(const QTcpSocket& socket) {
         .arg(socket.peerAddress().toString(), QTime::currentTime().toString("HH:mm:ss"));
 }
 
+bool hasSent(const QTcpSocket* socket) {
+    return socket->bytesAvailable() > 0;
+}
+
+bool isGone(const QTcpSocket* socket) {
+    return !hasSent(socket) && socket->state() == QAbstractSocket::UnconnectedState;
+}
+
 }  // namespace
 
 JobServer::JobServer(JobIntake& intake) : intake_(intake) {
     patience_.setInterval(patience);
     connect(&patience_, &QTimer::timeout, this, [this] {
-        if (current_ != nullptr && !waiting_.empty()) {
+        if (current_ != nullptr && nextJob() != waiting_.end()) {
             finish(QStringLiteral("a conexão ficou em silêncio e outros trabalhos esperavam."));
         }
     });
@@ -42,21 +51,56 @@ void JobServer::incomingConnection(qintptr handle) {
     auto* socket = new QTcpSocket(this);
     // What is more waits in the sender.
     socket->setReadBufferSize(readAtOnce);
-    if (!socket->setSocketDescriptor(handle) || waiting_.size() >= mostWaiting) {
+    if (!socket->setSocketDescriptor(handle) || !makeRoom()) {
         delete socket;
         return;
     }
     waiting_.push_back(socket);
+    connect(socket, &QTcpSocket::readyRead, this, &JobServer::startNext);
+    connect(socket, &QTcpSocket::disconnected, this, &JobServer::startNext);
     startNext();
 }
 
+std::size_t JobServer::waitingJobs() const {
+    return static_cast<std::size_t>(std::ranges::count_if(waiting_, hasSent));
+}
+
+JobServer::Waiting::iterator JobServer::nextJob() {
+    return std::ranges::find_if(waiting_, hasSent);
+}
+
+// False where every connection that waits has sent something.
+bool JobServer::makeRoom() {
+    if (waiting_.size() < mostWaiting) {
+        return true;
+    }
+    const auto silent = std::ranges::find_if_not(waiting_, hasSent);
+    if (silent == waiting_.end()) {
+        return false;
+    }
+    (*silent)->disconnect(this);
+    (*silent)->deleteLater();
+    waiting_.erase(silent);
+    return true;
+}
+
+// Whenever a connection that waits sends something or goes.
 void JobServer::startNext() {
-    if (current_ != nullptr || waiting_.empty()) {
+    std::erase_if(waiting_, [this](QTcpSocket* socket) {
+        if (isGone(socket)) {
+            socket->disconnect(this);
+            socket->deleteLater();
+        }
+        return isGone(socket);
+    });
+    const auto next = nextJob();
+    if (current_ != nullptr || next == waiting_.end()) {
         return;
     }
-    current_ = waiting_.front();
-    waiting_.pop_front();
+    current_ = *next;
+    waiting_.erase(next);
     begun_ = false;
+    current_->disconnect(this);
     connect(current_, &QTcpSocket::readyRead, this, &JobServer::readSome);
     connect(current_, &QTcpSocket::disconnected, this, &JobServer::readSome);
     patience_.start();

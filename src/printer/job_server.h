@@ -1,5 +1,6 @@
 // A raw network printer: each connection is a job. Connections wait for each other, and
-// what they send waits in the sender meanwhile.
+// what they send waits in the sender meanwhile. One that has sent nothing is no job yet and
+// keeps none waiting.
 #pragma once
 
 #include <QTcpServer>
@@ -19,29 +20,35 @@ class JobServer : public QTcpServer {
     Q_OBJECT
 
 public:
-    // More connections than these are turned away.
+    // Where so many wait, the oldest that has sent nothing goes; where all have sent
+    // something, the new one is turned away.
     static constexpr std::size_t mostWaiting = 64;
 
     // `intake` must outlive this. listen() as of QTcpServer.
     explicit JobServer(JobIntake& intake);
     ~JobServer() override;
 
-    // A silent connection ends after this time when others wait behind it.
+    // A connection that falls silent ends after this time when jobs wait behind it.
     void setPatience(std::chrono::milliseconds patience) { patience_.setInterval(patience); }
     std::size_t waiting() const { return waiting_.size(); }
+    std::size_t waitingJobs() const;  // those of them that have sent something
 
 protected:
     void incomingConnection(qintptr handle) override;
 
 private:
+    using Waiting = std::deque<QTcpSocket*>;
+
+    Waiting::iterator nextJob();
+    bool makeRoom();
     void startNext();
     void readSome();
     void finish(const QString& remark);
 
     JobIntake& intake_;
-    std::deque<QTcpSocket*> waiting_;  // in the order of arrival
-    QTcpSocket* current_ = nullptr;
-    bool begun_ = false;  // the current connection has sent something
+    Waiting waiting_;                // in the order of arrival
+    QTcpSocket* current_ = nullptr;  // has sent something
+    bool begun_ = false;             // the intake has taken of it
     QTimer patience_;
 };
 

@@ -125,8 +125,8 @@ TEST_F(Server, ASecondConnectionWaitsForTheFirst) {
     const auto first = connected();
     const auto second = connected();
     first->write("primeiro ");
-    second->write("segundo\r\n");
     ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "primeiro\n"; }, limit));
+    second->write("segundo\r\n");
     ASSERT_TRUE(QTest::qWaitFor([&] { return server_.waiting() == 1; }, limit));
     second->disconnectFromHost();
     first->write("ainda\r\n");
@@ -194,16 +194,60 @@ TEST_F(SmallServer, AJobOverItsSizeIsCutOffAndTheNextPrints) {
     EXPECT_EQ(text(), "1234567890\nx\n");
 }
 
-TEST_F(Server, TooManyAtOnceAreTurnedAway) {
+TEST_F(Server, TooManyJobsAtOnceAreTurnedAway) {
     const auto first = connected();
     first->write("a");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "a\n"; }, limit));
     std::vector<std::unique_ptr<QTcpSocket>> crowd;
-    for (std::size_t i = 0; i < JobServer::mostWaiting + 1; ++i) {
+    for (std::size_t i = 0; i < JobServer::mostWaiting; ++i) {
+        crowd.push_back(connected());
+        crowd.back()->write("b");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return server_.waitingJobs() == i + 1; }, limit));
+    }
+    const auto last = connected();
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return last->state() == QAbstractSocket::UnconnectedState; }, limit));
+    EXPECT_EQ(server_.waiting(), JobServer::mostWaiting);
+}
+
+TEST_F(Server, ASilentConnectionKeepsNoJobWaiting) {
+    server_.setPatience(std::chrono::hours(1));
+    const auto silent = connected();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server_.waiting() == 1; }, limit));
+    send("um\r\n");
+    ASSERT_TRUE(waitForJobs(1));
+    EXPECT_EQ(text(), "um\n");
+    EXPECT_EQ(silent->state(), QAbstractSocket::ConnectedState);
+    silent->write("dois");
+    silent->disconnectFromHost();
+    ASSERT_TRUE(waitForJobs(2));
+    EXPECT_EQ(text(), "um\ndois\n");
+}
+
+TEST_F(Server, ManySilentConnectionsGiveWayToNewOnes) {
+    std::vector<std::unique_ptr<QTcpSocket>> crowd;
+    for (std::size_t i = 0; i < JobServer::mostWaiting + 3; ++i) {
         crowd.push_back(connected());
     }
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return crowd.back()->state() == QAbstractSocket::UnconnectedState; }, limit));
-    EXPECT_EQ(server_.waiting(), JobServer::mostWaiting);
+    send("um\r\n");
+    ASSERT_TRUE(waitForJobs(1));
+    EXPECT_EQ(text(), "um\n");
+    EXPECT_EQ(ended_[0].remark, QString());
+    EXPECT_LE(server_.waiting(), JobServer::mostWaiting);
+    EXPECT_EQ(crowd.front()->state(), QAbstractSocket::UnconnectedState);
+    EXPECT_EQ(crowd.back()->state(), QAbstractSocket::ConnectedState);
+}
+
+TEST_F(Server, AJobThatFellSilentGoesOnWhileOnlySilentOnesWait) {
+    server_.setPatience(std::chrono::milliseconds(20));
+    const auto job = connected();
+    job->write("um");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "um\n"; }, limit));
+    const auto silent = connected();
+    QTest::qWait(100);
+    EXPECT_EQ(ended_.size(), 0U);
+    job->write(" dois");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text() == "um dois\n"; }, limit));
 }
 
 class Watched : public Intake {
