@@ -9,16 +9,27 @@ namespace tarn::practice {
 namespace {
 
 QUrl urlOf(const std::string& address) {
-    return QUrl(QString::fromStdString(address), QUrl::StrictMode);
+    return QUrl(QString::fromStdString(address).trimmed(), QUrl::StrictMode);
 }
 
 // Without the password, wherever in the address it is.
 std::string withoutPassword(QUrl url) {
     url.setPassword({});
-    QUrlQuery query(url);
-    query.removeAllQueryItems("password");
-    url.setQuery(query.isEmpty() ? QString() : query.query());
+    QUrlQuery query;
+    for (const auto& [key, value] : QUrlQuery(url).queryItems(QUrl::FullyEncoded)) {
+        if (!key.contains(QLatin1StringView("pass"), Qt::CaseInsensitive)) {
+            query.addQueryItem(key, value);
+        }
+    }
+    url.setQuery(query.isEmpty() ? QString() : query.query(QUrl::FullyEncoded));
     return url.toString().toStdString();
+}
+
+// A user and a password that a mistyped address has elsewhere than where they belong.
+bool mayHoldMore(const QUrl& url) {
+    const QString path = url.path(QUrl::FullyDecoded);
+    return url.hasFragment() || path.contains(u'@') || path.contains(u':') ||
+           !(path.isEmpty() || path.startsWith(u'/'));
 }
 
 std::string taken(QUrlQuery& query, const char* key, const QString& otherwise) {
@@ -29,8 +40,12 @@ std::string taken(QUrlQuery& query, const char* key, const QString& otherwise) {
 
 }  // namespace
 
+// Letters' case counts for nothing in a scheme, and what is only nearly an address is one
+// that can't be read, not a file's name.
 bool isServerAddress(const std::string& address) {
-    return address.starts_with("postgresql://") || address.starts_with("postgres://");
+    const QString text = QString::fromStdString(address).trimmed();
+    return text.startsWith(QLatin1StringView("postgresql:"), Qt::CaseInsensitive) ||
+           text.startsWith(QLatin1StringView("postgres:"), Qt::CaseInsensitive);
 }
 
 ServerAddress serverAddress(const std::string& address) {
@@ -56,11 +71,13 @@ ServerAddress serverAddress(const std::string& address) {
 }
 
 std::string shownAddress(const std::string& address) {
-    if (!isServerAddress(address)) {
-        return address;
+    if (isServerAddress(address)) {
+        const QUrl url = urlOf(address);
+        return url.isValid() && !mayHoldMore(url) ? withoutPassword(url) : "postgresql://...";
     }
-    const QUrl url = urlOf(address);
-    return url.isValid() ? withoutPassword(url) : "postgresql://...";
+    // Another program's address, taken for a file's name.
+    const std::size_t mark = address.find("://");
+    return mark == std::string::npos ? address : address.substr(0, mark) + "://...";
 }
 
 }  // namespace tarn::practice

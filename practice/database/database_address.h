@@ -14,7 +14,7 @@ struct ServerAddress {
     std::string options;  // what else the address asks for, as the driver takes it
 };
 
-// "postgresql://..." and "postgres://..."; all else is a file's name.
+// What begins with "postgresql:" or "postgres:", in any case; all else is a file's name.
 bool isServerAddress(const std::string& address);
 
 // Throws DatabaseError, with a text for the user, for an address that can't be read

@@ -119,6 +119,8 @@ TEST(Tarnservidor, RefusesWrongValues) {
                   "--hoje pede uma data dd/mm/aaaa do calendário: \"31/02/2012\" não serve.");
     expectRefusal({"--banco", "postgresql://ana:segredo@h"},
                   "O endereço do banco de dados \"postgresql://ana@h\" não é válido");
+    expectRefusal({"--banco", "POSTGRESQL:ana:segredo@h/d"},
+                  "O endereço do banco de dados \"postgresql://...\" não é válido");
     expectRefusal({"--banco", "postgresql://127.0.0.1:1/pratica"},
                   "Confira se o servidor PostgreSQL está no ar");
     expectRefusal({"--codificacao", "latin1"},

@@ -19,6 +19,10 @@ std::string errorOf(const std::string& address) {
 TEST(DatabaseAddress, TellsAServerFromAFile) {
     EXPECT_TRUE(isServerAddress("postgresql://h/d"));
     EXPECT_TRUE(isServerAddress("postgres://h/d"));
+    for (const char* server :
+         {"POSTGRESQL://h/d", "Postgres://h/d", " postgresql://h/d", "postgresql:h/d"}) {
+        EXPECT_TRUE(isServerAddress(server)) << server;
+    }
     for (const char* file : {":memory:", "pratica.db", "/tmp/postgresql://x", ""}) {
         EXPECT_FALSE(isServerAddress(file)) << file;
     }
@@ -32,6 +36,8 @@ TEST(DatabaseAddress, ReadsItsParts) {
     EXPECT_EQ(full.user, "ana");
     EXPECT_EQ(full.password, "s@nha");
     EXPECT_EQ(full.options, "");
+    EXPECT_EQ(serverAddress("POSTGRESQL://Ana:S@h/D").password, "S");
+    EXPECT_EQ(serverAddress("POSTGRESQL://Ana:S@h/D").database, "D");
     const ServerAddress least = serverAddress("postgres:///pratica");
     EXPECT_EQ(least.host, "");
     EXPECT_EQ(least.port, -1);
@@ -60,6 +66,17 @@ TEST(DatabaseAddress, IsShownWithoutItsPassword) {
               "postgresql:///d?user=ana");
     EXPECT_EQ(shownAddress("postgresql://h:x/d?password=segredo"), "postgresql://...");
     EXPECT_EQ(shownAddress("pratica.db"), "pratica.db");
+    EXPECT_EQ(shownAddress("POSTGRESQL://ana:segredo@h/d?sslmode=require&application_name=a%26b"),
+              "postgresql://ana@h/d?sslmode=require&application_name=a%26b");
+    for (const char* mistyped :
+         {"postgresql:ana:segredo@h/d", "postgresql:/ana:segredo@h/d",
+          "postgresql:///ana:segredo@h/d", "POSTGRES:ana:segredo@h/d", " postgresql:ana:segredo@h",
+          "postgresql://h/ana:segredo@d", "postgresql://h/d#segredo", "mysql://ana:segredo@h/d",
+          "postgresql://ana@h/d?Password=segredo", "postgresql://ana@h/d?sslpassword=segredo",
+          "pgsql://ana:segredo@h/d", "xpostgresql://ana:segredo@h/d"}) {
+        EXPECT_EQ(shownAddress(mistyped).find("segredo"), std::string::npos) << mistyped;
+        EXPECT_EQ(errorOf(mistyped).find("segredo"), std::string::npos) << mistyped;
+    }
 }
 
 TEST(DatabaseAddress, ThatNoServerAnswersIsAClearError) {
