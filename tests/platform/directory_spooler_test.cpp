@@ -81,6 +81,23 @@ TEST_F(DirectorySpoolerTest, NumberingGoesOnBehindTheHighestPresent) {
     EXPECT_EQ(bytesOf("job-007.prn"), "old");
 }
 
+TEST_F(DirectorySpoolerTest, NumbersBeyondReasonAreNotContinued) {
+    fs::create_directories(directory_);
+    std::ofstream(directory_ / "job-2147483647.prn") << "old";
+    std::ofstream(directory_ / "job-1000000000.prn") << "old";
+    {
+        DirectorySpooler spooler(directory_);
+        EXPECT_TRUE(print(spooler, "A"));
+        EXPECT_EQ(bytesOf("job-001.prn"), "A");
+    }
+    std::ofstream(directory_ / "job-999999999.prn") << "old";
+    DirectorySpooler spooler(directory_);
+    EXPECT_TRUE(spooler.openPrinter("x"));
+    EXPECT_FALSE(spooler.startDocument({}));
+    EXPECT_EQ(bytesOf("job-2147483647.prn"), "old");
+    EXPECT_EQ(std::distance(fs::directory_iterator(directory_), {}), 4);
+}
+
 TEST_F(DirectorySpoolerTest, NumberingFromOneTakesThePlaceOfOldFiles) {
     fs::create_directories(directory_);
     std::ofstream(directory_ / "job-001.prn") << "a long old text";

@@ -14,6 +14,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view prefix = "job-";
+// No printer gets so far; what is above is somebody else's file.
+constexpr int highestNumber = 999'999'999;
 
 // The number in "job-012.prn", 0 for any other name.
 int numberOf(const std::string& name) {
@@ -25,7 +27,7 @@ int numberOf(const std::string& name) {
     const char* last = name.data() + name.size();
     const auto read = std::from_chars(first, last, number);
     const bool shaped = read.ec == std::errc() && read.ptr != last && *read.ptr == '.';
-    return shaped && *first != '-' ? number : 0;
+    return shaped && *first != '-' && number <= highestNumber ? number : 0;
 }
 
 int highestIn(const fs::path& directory) {
@@ -79,7 +81,9 @@ std::optional<fs::path> JobFiles::create(std::string_view extension) {
     const bool replace = numbering_ == JobNumbering::FromOne;
     int number = replace ? last_ : std::max(last_, highestIn(directory_));
     do {
-        ++number;
+        if (++number > highestNumber) {
+            break;
+        }
         fs::path file = directory_ / nameOf(number, extension);
         errno = 0;
         if (makeEmpty(file, replace)) {
