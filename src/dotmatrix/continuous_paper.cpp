@@ -1,49 +1,84 @@
 #include "dotmatrix/continuous_paper.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace tarn::dotmatrix {
 
-FormTable::FormTable(const Form& first, std::size_t index)
-    : runs_{Run{.first = index, .count = 1, .top = first.top, .height = first.height}} {}
+namespace {
+
+constexpr std::size_t runsBetweenPlaces = 64;
+constexpr std::uint32_t mostAlike = std::numeric_limits<std::uint32_t>::max();
+
+}  // namespace
+
+FormTable::FormTable(const Form& first, std::size_t index) : size_(index), lastTop_(first.top) {
+    addRun(first.height);
+}
+
+// Its one form is the last of all, at lastTop_.
+void FormTable::addRun(PaperUnits height) {
+    if (runs_.size() % runsBetweenPlaces == 0) {
+        places_.push_back({.form = size_, .top = lastTop_});
+    }
+    runs_.push_back({.height = static_cast<std::uint32_t>(height)});
+    ++size_;
+}
 
 void FormTable::append(PaperUnits height) {
-    const Form last = back();
-    if (runs_.back().height == height) {
-        ++runs_.back().count;
+    Run& last = runs_.back();
+    lastTop_ += last.height;
+    if (last.height == height && last.count < mostAlike) {
+        ++last.count;
+        ++size_;
     } else {
-        runs_.push_back(
-            {.first = size(), .count = 1, .top = last.top + last.height, .height = height});
+        addRun(height);
     }
 }
 
 void FormTable::setLastHeight(PaperUnits height) {
-    if (runs_.back().count == 1) {
-        runs_.back().height = height;
+    Run& last = runs_.back();
+    if (last.count == 1) {
+        last.height = static_cast<std::uint32_t>(height);
         return;
     }
-    const Form last = back();
-    --runs_.back().count;
-    runs_.push_back({.first = size(), .count = 1, .top = last.top, .height = height});
+    --last.count;
+    --size_;
+    addRun(height);
+}
+
+template <typename IsIt>
+FormTable::Stretch FormTable::stretchFrom(std::size_t place, IsIt isIt) const {
+    std::size_t index = place * runsBetweenPlaces;
+    Stretch stretch{.begin = places_[place], .run = runs_[index]};
+    while (!isIt(stretch) && index + 1 < runs_.size()) {
+        stretch.begin = {.form = stretch.begin.form + stretch.run.count, .top = stretch.bottom()};
+        stretch.run = runs_[++index];
+    }
+    return stretch;
 }
 
 Form FormTable::at(std::size_t index) const {
-    const auto after =
-        std::upper_bound(runs_.begin(), runs_.end(), index,
-                         [](std::size_t wanted, const Run& run) { return wanted < run.first; });
-    const Run& run = after == runs_.begin() ? *after : *(after - 1);
-    const std::size_t place = std::min(index, run.first + run.count - 1) - run.first;
-    return {run.top + static_cast<PaperUnits>(place) * run.height, run.height};
+    const auto after = std::ranges::upper_bound(places_, index, {}, &Place::form);
+    const std::size_t place =
+        after == places_.begin() ? 0 : static_cast<std::size_t>(after - places_.begin()) - 1;
+    const Stretch found = stretchFrom(place, [index](const Stretch& stretch) {
+        return index < stretch.begin.form + stretch.run.count;
+    });
+    const std::size_t within = std::min(index, size_ - 1) - found.begin.form;
+    return {found.begin.top + static_cast<PaperUnits>(within) * found.run.height, found.run.height};
 }
 
 std::size_t FormTable::formAt(PaperUnits y) const {
-    const auto after =
-        std::upper_bound(runs_.begin(), runs_.end(), y,
-                         [](PaperUnits wanted, const Run& run) { return wanted < run.top; });
-    const Run& run = after == runs_.begin() ? *after : *(after - 1);
-    const PaperUnits place = std::max<PaperUnits>(0, (y - run.top) / run.height);
-    return run.first + std::min(static_cast<std::size_t>(place), run.count - 1);
+    const auto after = std::ranges::upper_bound(places_, y, {}, &Place::top);
+    const std::size_t place =
+        after == places_.begin() ? 0 : static_cast<std::size_t>(after - places_.begin()) - 1;
+    const Stretch found =
+        stretchFrom(place, [y](const Stretch& stretch) { return y < stretch.bottom(); });
+    const PaperUnits within = std::max<PaperUnits>(0, (y - found.begin.top) / found.run.height);
+    return found.begin.form +
+           std::min<std::size_t>(static_cast<std::size_t>(within), found.run.count - 1U);
 }
 
 ContinuousPaper::ContinuousPaper(PaperUnits formHeight)

@@ -24,8 +24,9 @@ struct Form {
 };
 
 // Where the perforations of the paper are. Forms of one height that follow each other
-// take the room of one, so that a million of them cost nothing. Never empty. Forms count
-// from 0; those before the first one added are unknown.
+// take the room of one, so that a million of them cost nothing, and forms of ever changing
+// heights cost eight bytes each. Never empty. Forms count from 0; those before the first
+// one added are unknown.
 class FormTable {
 public:
     explicit FormTable(const Form& first, std::size_t index = 0);
@@ -34,23 +35,44 @@ public:
     void append(PaperUnits height);
     void setLastHeight(PaperUnits height);
 
-    std::size_t size() const { return runs_.back().first + runs_.back().count; }
+    std::size_t size() const { return size_; }
     // `index` is not below the first form's; the last form for one past the end.
     Form at(std::size_t index) const;
     Form operator[](std::size_t index) const { return at(index); }
-    Form front() const { return at(runs_.front().first); }
-    Form back() const { return at(size() - 1); }
+    Form front() const { return {places_.front().top, runs_.front().height}; }
+    Form back() const { return {lastTop_, runs_.back().height}; }
     // The form that holds `y`, the first or last one for what lies outside.
     std::size_t formAt(PaperUnits y) const;
 
 private:
+    // Neither a form's height nor how many are alike comes near what these hold.
     struct Run {
-        std::size_t first = 0;
-        std::size_t count = 1;
-        PaperUnits top = 0;
-        PaperUnits height = 0;
+        std::uint32_t height = 0;
+        std::uint32_t count = 1;
     };
+    // Where every so many runs begin.
+    struct Place {
+        std::size_t form = 0;
+        PaperUnits top = 0;
+    };
+    // The forms of one run.
+    struct Stretch {
+        Place begin;
+        Run run;
+        PaperUnits bottom() const {
+            return begin.top + static_cast<PaperUnits>(run.count) * run.height;
+        }
+    };
+
+    void addRun(PaperUnits height);
+    // The first run from the place before on that `isIt`, or the last one.
+    template <typename IsIt>
+    Stretch stretchFrom(std::size_t place, IsIt isIt) const;
+
     std::vector<Run> runs_;
+    std::vector<Place> places_;
+    std::size_t size_;
+    PaperUnits lastTop_;
 };
 
 // How a character is printed: the sum of what holds.

@@ -244,6 +244,33 @@ TEST(PaperRoll, FormsThatBeginWithTextAreThoseOfThePaper) {
     expectSame(roll, rig.paper);
 }
 
+// Against the plain list of all of them.
+TEST(FormTable, FormsOfEverChangingHeightsAreFoundToo) {
+    std::mt19937 random(1);
+    std::vector<Form> all{{0, 100}};
+    FormTable table(all.front());
+    for (int i = 0; i < 5000; ++i) {
+        const auto height = static_cast<PaperUnits>(100 + random() % 3 * 10);
+        if (random() % 3 == 0) {
+            all.back().height = height;
+            table.setLastHeight(height);
+        }
+        for (std::size_t alike = random() % 3; alike-- > 0;) {
+            all.push_back({all.back().top + all.back().height, height});
+            table.append(height);
+        }
+    }
+    ASSERT_EQ(table.size(), all.size());
+    for (std::size_t form = 0; form < all.size(); ++form) {
+        ASSERT_EQ(table[form].top, all[form].top) << form;
+        ASSERT_EQ(table[form].height, all[form].height) << form;
+        ASSERT_EQ(table.formAt(all[form].top), form);
+        ASSERT_EQ(table.formAt(all[form].top + all[form].height - 1), form);
+    }
+    EXPECT_EQ(table.back().top, all.back().top);
+    EXPECT_EQ(table.at(all.size() + 5).top, all.back().top);
+}
+
 TEST(FormTable, RunsOfEqualFormsAreFoundByPlaceAndHeight) {
     FormTable forms({0, 100});
     for (int i = 0; i < 9; ++i) {
