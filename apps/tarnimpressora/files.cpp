@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "dotmatrix/paper_export.h"
+#include "printer/job_intake.h"
 #include "runtime/text.h"
 
 namespace tarn::printer {
@@ -14,18 +15,23 @@ namespace {
 constexpr std::size_t noticesShown = 50;
 
 bool readJob(const std::string& file, QByteArray& bytes) {
+    constexpr qint64 most = dotmatrix::JobIntake::maxJobBytes;
     QFile in(QFile::decodeName(file.c_str()));
     // A directory opens on some systems and then reads as nothing.
-    if (in.open(QIODevice::ReadOnly)) {
-        bytes = in.readAll();
-        if (in.error() == QFileDevice::NoError) {
-            return true;
-        }
+    const bool read = in.open(QIODevice::ReadOnly) &&
+                      (bytes = in.read(most + 1), in.error() == QFileDevice::NoError);
+    if (!read) {
+        complain(QStringLiteral("não foi possível ler o trabalho \"%1\" (%2). "
+                                "Confira o nome do arquivo e a permissão de leitura.")
+                     .arg(in.fileName(), in.errorString()));
+    } else if (bytes.size() > most) {
+        complain(
+            QStringLiteral("o trabalho \"%1\" passa de %2 bytes. Confira o nome do arquivo, ou "
+                           "divida o trabalho.")
+                .arg(in.fileName())
+                .arg(most));
     }
-    complain(QStringLiteral("não foi possível ler o trabalho \"%1\" (%2). "
-                            "Confira o nome do arquivo e a permissão de leitura.")
-                 .arg(in.fileName(), in.errorString()));
-    return false;
+    return read && bytes.size() <= most;
 }
 
 bool written(const std::optional<QString>& failure, const std::string& file) {

@@ -1,6 +1,8 @@
 #include "dotmatrix/paper_roll.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <system_error>
 #include <utility>
 
 namespace tarn::dotmatrix {
@@ -69,15 +71,25 @@ std::optional<QString> PaperRoll::feed(std::string_view bytes) {
     if (jobs_.empty()) {
         startJob({});
     }
-    const auto count = static_cast<qint64>(bytes.size());
-    const bool kept = (bytes_->isOpen() || bytes_->open()) && bytes_->seek(length_) &&
-                      bytes_->write(bytes.data(), count) == count && bytes_->flush();
-    if (!kept) {
-        return bytes_->errorString();
+    if (auto failure = keep(bytes)) {
+        return failure;
     }
-    length_ += count;
+    length_ += static_cast<qint64>(bytes.size());
     printLive(bytes);
     return std::nullopt;
+}
+
+// The toolkit's file forgets why a write failed.
+std::optional<QString> PaperRoll::keep(std::string_view bytes) {
+    const auto count = static_cast<qint64>(bytes.size());
+    errno = 0;
+    const bool kept = (bytes_->isOpen() || bytes_->open()) && bytes_->seek(length_) &&
+                      bytes_->write(bytes.data(), count) == count && bytes_->flush();
+    if (kept) {
+        return std::nullopt;
+    }
+    return errno == 0 ? bytes_->errorString()
+                      : QString::fromStdString(std::generic_category().message(errno));
 }
 
 // Byte by byte: a mark must be right behind the byte that began a row.

@@ -55,6 +55,7 @@ public:
 
 private:
     void begin(const PaperPosition& position, PrinterState state);
+    std::optional<QString> keep(std::string_view bytes);
     void printLive(std::string_view bytes);
     void markHere();
     bool canMarkHere() const;

@@ -62,10 +62,13 @@ std::variant<LoadedForm, QString> loadForm(const QString& form, std::optional<in
         design.name = QFileInfo(form).completeBaseName().toStdString();
         return withPicture(std::move(design), form);
     }
-    const QByteArray bytes = file.read(largestText);
+    const QByteArray bytes = file.read(largestText + 1);
     if (file.error() != QFileDevice::NoError) {
         return QStringLiteral("não foi possível ler o formulário \"%1\" (%2).")
             .arg(form, file.errorString());
+    }
+    if (bytes.size() > largestText) {
+        return QStringLiteral("o formulário \"%1\" passa de %2 bytes.").arg(form).arg(largestText);
     }
     return fromText(bytes, form);
 }

@@ -140,6 +140,44 @@ TEST_F(CommandLine, UnreadableJobOrUnwritableFileEndsWithOne) {
     EXPECT_NE(ran.err.find("não foi possível gravar"), std::string::npos);
 }
 
+// A bound on the size of any file stands for a full disk; the shell's signal for it is off.
+TEST_F(CommandLine, AJobThatTheTemporaryFolderCannotHoldIsToldWhy) {
+    const QString job = file("1.prn", QByteArray("uma linha\r\n").repeated(10'000));
+    QProcess process;
+    process.start(QStringLiteral("/bin/sh"), {"-c", "trap '' XFSZ; ulimit -f 8; exec \"$@\"", "sh",
+                                              TARNIMPRESSORA, "--texto", path("n.txt"), job});
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 1);
+    const std::string err = process.readAllStandardError().toStdString();
+    EXPECT_NE(err.find("não foi possível guardar o trabalho (File too large)."), std::string::npos)
+        << err;
+}
+
+// Its size isn't known before it is read.
+TEST_F(CommandLine, AJobOverItsSizeIsRefused) {
+    if (!QFile::exists(QStringLiteral("/dev/zero"))) {
+        GTEST_SKIP() << "no /dev/zero here";
+    }
+    const Ran ran = run({"--texto", path("n.txt"), "/dev/zero"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_NE(ran.err.find("o trabalho \"/dev/zero\" passa de 67108864 bytes."), std::string::npos)
+        << ran.err;
+    EXPECT_FALSE(QFile::exists(path("n.txt")));
+}
+
+TEST_F(CommandLine, AFormOverItsSizeIsRefused) {
+    const QString job = file("1.prn", "x");
+    const QByteArray comment = QByteArray("# um comentário qualquer\n").repeated(50'000);
+    const Ran ran = run({"--formulario", file("f.frm", comment + "texto 1 1 fim\n"), "--texto",
+                         path("n.txt"), job});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_NE(ran.err.find("o formulário \"" + path("f.frm").toStdString() +
+                           "\" passa de 1048576 bytes."),
+              std::string::npos)
+        << ran.err;
+    EXPECT_FALSE(QFile::exists(path("n.txt")));
+}
+
 TEST_F(CommandLine, WithoutADisplayItSaysWhatToGive) {
     for (const QStringList& arguments : {QStringList(), QStringList{file("1.prn", "x")}}) {
         const Ran ran = run(arguments, false);
