@@ -87,7 +87,13 @@ void PrintEnvironment::preparePrinter() {
         throw cli::WrongUsage("--formato ops grava em uma pasta: dê também --destino PASTA.");
     }
     spooler_ = makeSystemSpooler();
-    if (!spooler_ || spooler_->defaultPrinter().empty()) {
+    const bool hasPrinter = spooler_ && !spooler_->defaultPrinter().empty();
+    if (spooler_ && !spooler_->answers()) {
+        throw cli::WrongUsage(
+            std::string(spoolerIsSilent) +
+            ". Confira se está ligado, ou grave os trabalhos em uma pasta com --destino PASTA.");
+    }
+    if (!hasPrinter) {
         throw cli::WrongUsage(
             "esta máquina não tem impressora padrão. Defina uma, ou grave os trabalhos em uma "
             "pasta com --destino PASTA.");

@@ -50,9 +50,17 @@ std::string DeskSpooler::defaultPrinter() {
     return real_.defaultPrinter();
 }
 
+std::string DeskSpooler::obstacle() const {
+    if (!real_.answers()) {
+        return std::string(spoolerIsSilent);
+    }
+    return paper_.printer.empty() ? noPrinter
+                                  : "a impressora " + paper_.printer + " recusou o trabalho";
+}
+
 bool DeskSpooler::noted(bool taken) {
     if (!taken && open_) {
-        meet(paper_, "a impressora " + paper_.printer + " recusou o trabalho");
+        meet(paper_, obstacle());
     }
     return taken;
 }
@@ -63,7 +71,7 @@ bool DeskSpooler::openPrinter(const std::string& name) {
     paper_.asked = true;
     paper_.printer = name;
     if (name.empty()) {
-        meet(paper_, noPrinter);
+        meet(paper_, obstacle());
     }
     return noted(real_.openPrinter(name));
 }

@@ -46,8 +46,10 @@ public:
     bool endPage() override;
     bool endDocument() override;
     bool closePrinter() override;
+    bool answers() const override { return real_.answers(); }
 
 private:
+    std::string obstacle() const;
     bool noted(bool taken);
 
     Spooler& real_;

@@ -17,6 +17,10 @@ struct JobDescription {
     std::optional<std::string> dataType;
 };
 
+// What is told of a print service that doesn't answer; Portuguese, part of a sentence.
+inline constexpr std::string_view spoolerIsSilent =
+    "o serviço de impressão desta máquina não responde";
+
 class Spooler {
 public:
     virtual ~Spooler() = default;
@@ -30,6 +34,9 @@ public:
     virtual bool endPage() = 0;
     virtual bool endDocument() = 0;
     virtual bool closePrinter() = 0;
+
+    // Whether the system's print service answered when it was last asked for something.
+    virtual bool answers() const { return true; }
 };
 
 }  // namespace tarn

@@ -18,4 +18,13 @@ std::unique_ptr<Spooler> makeSystemSpooler() {
 #endif
 }
 
+bool systemSpoolerAnswers() {
+    const std::unique_ptr<Spooler> spooler = makeSystemSpooler();
+    if (!spooler) {
+        return true;
+    }
+    spooler->defaultPrinter();
+    return spooler->answers();
+}
+
 }  // namespace tarn

@@ -10,4 +10,7 @@ namespace tarn {
 // CUPS, or the spooler of Windows; null where it was built with neither.
 std::unique_ptr<Spooler> makeSystemSpooler();
 
+// Asks the system's print service something; whether it answers.
+bool systemSpoolerAnswers();
+
 }  // namespace tarn

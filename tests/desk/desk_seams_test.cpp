@@ -60,6 +60,14 @@ TEST_F(DeskSeamsTest, WithoutAPrinterThatIsTold) {
     EXPECT_EQ(told(), "Nota gerada, mas esta máquina não tem impressora padrão: imprima de novo");
 }
 
+TEST_F(DeskSeamsTest, APrintServiceThatDoesntAnswerIsNoMissingPrinter) {
+    realSpooler.silent = true;
+    print();
+    EXPECT_EQ(
+        told(),
+        "Nota gerada, mas o serviço de impressão desta máquina não responde: imprima de novo");
+}
+
 TEST_F(DeskSeamsTest, APrinterThatCantBeOpenedRefusedTheJob) {
     realSpooler.failOpen = 0;
     print();

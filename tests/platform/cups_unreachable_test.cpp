@@ -12,6 +12,7 @@ TEST(CupsSpoolerWithoutServer, EveryCallFails) {
     setenv("CUPS_SERVER", "/nonexistent/cups.sock", 1);
     CupsSpooler spooler;
     EXPECT_EQ(spooler.defaultPrinter(), "");
+    EXPECT_FALSE(spooler.answers());
     EXPECT_FALSE(spooler.openPrinter("queue"));
     EXPECT_FALSE(spooler.startDocument({}));
     EXPECT_EQ(spooler.write("A"), 0U);

@@ -5,6 +5,8 @@ tarn_add_test(directory_spooler_test LABEL unit SOURCES directory_spooler_test.c
 if(CUPS_FOUND)
   tarn_add_test(cups_unreachable_test LABEL unit SOURCES cups_unreachable_test.cpp
     LIBRARIES tarn_platform)
+  tarn_add_test(cups_silent_test LABEL unit SOURCES cups_silent_test.cpp
+    LIBRARIES tarn_core tarn_platform)
   # One server for all its cases when run as a program, one for each under ctest.
   tarn_add_test(cups_spooler_test LABEL cups SOURCES cups_spooler_test.cpp
     LIBRARIES tarn_core tarn_platform tarn_test_support Cups::Cups)

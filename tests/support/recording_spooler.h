@@ -38,6 +38,7 @@ public:
     std::string printer = "Impressora de teste";
     std::size_t failOpen = never;   // index of the openPrinter that fails, from 0
     std::size_t failWrite = never;  // index of the write that fails, from 0, over all jobs
+    bool silent = false;            // answers nothing, like a service that hangs
 
     // What happened.
     std::vector<Call> calls;
@@ -47,12 +48,13 @@ public:
 
     std::string bytes(std::size_t job = 0) const { return jobs.at(job).bytes(); }
 
-    std::string defaultPrinter() override { return printer; }
+    std::string defaultPrinter() override { return silent ? "" : printer; }
+    bool answers() const override { return !silent; }
 
     bool openPrinter(const std::string& name) override {
         calls.push_back(Call::Open);
         opened.push_back(name);
-        open_ = opened.size() - 1 != failOpen;  // either way the job before is let go
+        open_ = opened.size() - 1 != failOpen && !silent;  // either way the job before is let go
         started_ = false;
         return open_;
     }

@@ -4,6 +4,8 @@
 
 #include <sys/socket.h>
 
+#include <array>
+
 namespace tarn {
 
 namespace {
@@ -13,33 +15,60 @@ struct CloseHttp {
 };
 using Connection = std::unique_ptr<http_t, CloseHttp>;
 
-struct FreeDestination {
-    void operator()(cups_dest_t* dest) const { cupsFreeDests(1, dest); }
-};
-using Destination = std::unique_ptr<cups_dest_t, FreeDestination>;
+// How long the server may be silent. It answers at once what it is asked here, also where its
+// printers are slow or stopped.
+constexpr int patienceSeconds = 4;
 
-// A connection of its own: a document under way must not meet other requests.
-Connection connectToServer() {
-    constexpr int milliseconds = 30000;
-    return Connection(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                                   milliseconds, nullptr));
+// Nobody sits at a terminal: where a server wants a password the request fails.
+const char* noPassword(const char*, http_t*, const char*, const char*, void*) {
+    return nullptr;
 }
 
-// A name as defaultPrinter gives it: the queue, and behind "/" an instance of it.
-Destination findDestination(http_t* http, const std::string& name) {
-    const std::size_t slash = name.find('/');
-    const std::string queue = name.substr(0, slash);
-    const std::string instance = slash == std::string::npos ? "" : name.substr(slash + 1);
-    return Destination(
-        cupsGetNamedDest(http, queue.c_str(), instance.empty() ? nullptr : instance.c_str()));
+int giveUp(http_t*, void* answers) {
+    *static_cast<bool*>(answers) = false;
+    return 0;
 }
 
-const char* textOrNull(const std::optional<std::string>& text) {
-    return text && !text->empty() ? text->c_str() : nullptr;
+// A connection of its own: a document under way must not meet other requests. `answers`, which
+// must outlive it, is from now on whether the server did.
+Connection connectToServer(bool& answers) {
+    cupsSetPasswordCB2(noPassword, nullptr);  // known to one thread alone
+    Connection connection(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
+                                       cupsEncryption(), 1, patienceSeconds * 1000, nullptr));
+    answers = connection != nullptr;
+    if (connection) {
+        httpSetTimeout(connection.get(), patienceSeconds, giveUp, &answers);
+    }
+    return connection;
+}
+
+// Of a name as defaultPrinter gives it: behind "/" stands an instance of the queue.
+std::string queueOf(const std::string& name) {
+    return name.substr(0, name.find('/'));
 }
 
 bool isOk(ipp_status_t status) {
     return status >= IPP_STATUS_OK && status <= IPP_STATUS_OK_CONFLICTING;
+}
+
+// Asked for in so many words: libcups' own search goes on over other connections, which wait
+// for minutes.
+bool hasQueue(http_t* http, const std::string& queue) {
+    std::array<char, HTTP_MAX_URI> uri{};
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), uri.size(), "ipp", nullptr, "localhost", 0,
+                     "/printers/%s", queue.c_str());
+    ipp_t* request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "printer-name");
+    ippDelete(cupsDoRequest(http, request, "/"));
+    return isOk(cupsLastError());
+}
+
+const char* textOrNull(const std::optional<std::string>& text) {
+    return text && !text->empty() ? text->c_str() : nullptr;
 }
 
 }  // namespace
@@ -62,7 +91,8 @@ struct CupsSpooler::Handle {
             return;
         }
         connection.reset();
-        if (const Connection other = connectToServer()) {
+        bool answers = false;
+        if (const Connection other = connectToServer(answers)) {
             constexpr int keepInHistory = 0;
             cupsCancelJob2(other.get(), queue.c_str(), job, keepInHistory);
         }
@@ -70,39 +100,33 @@ struct CupsSpooler::Handle {
     }
 };
 
-CupsSpooler::CupsSpooler() {
-    // Where a server wants a password the request fails: nobody sits at a terminal.
-    cupsSetPasswordCB2([](const char*, http_t*, const char*, const char*,
-                          void*) -> const char* { return nullptr; },
-                       nullptr);
-}
+CupsSpooler::CupsSpooler() = default;
 
 CupsSpooler::~CupsSpooler() = default;
 
 std::string CupsSpooler::defaultPrinter() {
-    const Connection connection = connectToServer();
+    const Connection connection = connectToServer(answers_);
     if (!connection) {
         return {};
     }
-    const Destination dest(cupsGetNamedDest(connection.get(), nullptr, nullptr));
-    if (!dest) {
-        return {};
-    }
-    std::string name = dest->name;
-    return dest->instance == nullptr ? name : name.append("/").append(dest->instance);
+    const char* name = cupsGetDefault2(connection.get());
+    return name == nullptr ? std::string() : std::string(name);
 }
 
 bool CupsSpooler::openPrinter(const std::string& name) {
     handle_.reset();
-    Connection connection = connectToServer();
-    if (name.empty() || !connection) {
+    if (name.empty()) {
         return false;
     }
-    const Destination dest = findDestination(connection.get(), name);
-    if (!dest) {
+    Connection connection = connectToServer(answers_);
+    if (!connection) {
         return false;
     }
-    handle_ = std::make_unique<Handle>(std::move(connection), dest->name);
+    const std::string queue = queueOf(name);
+    if (!hasQueue(connection.get(), queue)) {
+        return false;
+    }
+    handle_ = std::make_unique<Handle>(std::move(connection), queue);
     return true;
 }
 
@@ -141,7 +165,11 @@ std::size_t CupsSpooler::write(std::string_view bytes) {
     }
     const http_status_t status =
         cupsWriteRequestData(handle_->connection.get(), bytes.data(), bytes.size());
-    return status == HTTP_STATUS_CONTINUE ? bytes.size() : 0;
+    if (status != HTTP_STATUS_CONTINUE) {
+        handle_->cancel();  // rather than half a form, and a wait for each of its lines
+        return 0;
+    }
+    return bytes.size();
 }
 
 bool CupsSpooler::endPage() {

@@ -9,7 +9,8 @@ namespace tarn {
 
 // Jobs go out as "application/vnd.cups-raw" whatever data type they ask for, without
 // banner pages. A job that isn't ended when its handle is replaced or closed, or
-// when the object dies, is cancelled: nothing of it prints and the queue goes on.
+// when the object dies, is cancelled: nothing of it prints and the queue goes on. The same
+// becomes of a job during which the server fell silent.
 class CupsSpooler : public Spooler {
 public:
     CupsSpooler();
@@ -25,9 +26,12 @@ public:
     bool endPage() override;
     bool endDocument() override;
     bool closePrinter() override;
+    bool answers() const override { return answers_; }
 
 private:
     struct Handle;
+
+    bool answers_ = true;
     std::unique_ptr<Handle> handle_;  // null while no printer is open
 };
 

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/qt/page_painter.h"
+#include "platform/system_spooler.h"
 
 namespace tarn {
 namespace {
@@ -52,6 +53,10 @@ std::optional<PrinterFailure> QtPrinter::obstacle() const {
     if (files_) {
         return files_->makeDirectory() ? std::nullopt : std::optional(unwritable(*files_));
     }
+    if (!systemSpoolerAnswers()) {  // the toolkit would wait a minute for it
+        return trouble(std::string(spoolerIsSilent) +
+                       ". Confira se está ligado e imprima de novo.");
+    }
     if (QPrinterInfo::defaultPrinter().isNull()) {
         return trouble("esta máquina não tem impressora padrão. Defina uma e imprima de novo.");
     }
@@ -88,6 +93,9 @@ std::optional<PrinterFailure> QtPrinter::end() {
     std::optional<PrinterFailure> met = std::exchange(obstacle_, std::nullopt);
     if (!std::exchange(drawn_, false) || met) {
         return met;
+    }
+    if (const auto now = obstacle()) {  // the clerk may have waited before a box meanwhile
+        return now;
     }
     QPrinter printer(QPrinter::HighResolution);
     setUp(printer);
