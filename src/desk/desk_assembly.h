@@ -11,6 +11,7 @@
 #include "platform/curl/curl_loader.h"
 #include "platform/printer.h"
 #include "platform/qt/blocking_loader.h"
+#include "platform/qt/patient_printing.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_machine.h"
 #include "platform/qt/qt_message_boxes.h"
@@ -62,8 +63,11 @@ private:
     ProgramEnd end_;
     Teller teller_;
     DeskLoader server_{http_, teller_, end_};
-    DeskSpooler spooler_{*printers_.raw, teller_.paper(), end_};
-    DeskPrinter pages_{*printers_.pages, teller_.paper(), end_};
+    SideThread beside_;
+    PatientSpooler rawJobs_{*printers_.raw, beside_};
+    PatientPrinter drawnPages_{*printers_.pages, beside_};
+    DeskSpooler spooler_{rawJobs_, teller_, end_};
+    DeskPrinter pages_{drawnPages_, teller_, end_};
     DeskBoxes boxes_{boxesOnScreen_, end_};
     Environment environment_;
     Sessao session_;

@@ -2,11 +2,12 @@
 
 #include "platform/act_log.h"
 #include "widgets/program_end.h"
-#include "widgets/teller.h"
 
 namespace tarn {
 namespace {
 
+constexpr char server[] = "o servidor";
+constexpr char printer[] = "a impressora";
 constexpr char noPrinter[] = "esta máquina não tem impressora padrão";
 
 void meet(PaperOutcome& paper, const std::string& obstacle) {
@@ -31,7 +32,7 @@ template <typename Work>
 auto DeskLoader::waited(const Work& work) {
     end_.leaveIfEnded();
     auto result = [&] {
-        const Waiting waiting(teller_);
+        const Waiting waiting(teller_, server);
         return work();
     }();
     end_.leaveIfEnded();
@@ -46,8 +47,15 @@ bool DeskLoader::load(const std::string& address, const BodyReader& read) {
     return waited([&] { return real_.load(address, read); });
 }
 
+template <typename Call>
+auto DeskSpooler::waitFor(Call call) const {
+    const Waiting waiting(teller_, printer);
+    return call();
+}
+
 std::string DeskSpooler::defaultPrinter() {
-    return real_.defaultPrinter();
+    end_.leaveIfEnded();
+    return waitFor([this] { return real_.defaultPrinter(); });
 }
 
 std::string DeskSpooler::obstacle() const {
@@ -73,11 +81,11 @@ bool DeskSpooler::openPrinter(const std::string& name) {
     if (name.empty()) {
         meet(paper_, obstacle());
     }
-    return noted(real_.openPrinter(name));
+    return noted(waitFor([&] { return real_.openPrinter(name); }));
 }
 
 bool DeskSpooler::startDocument(const JobDescription& job) {
-    return noted(real_.startDocument(job));
+    return noted(waitFor([&] { return real_.startDocument(job); }));
 }
 
 bool DeskSpooler::startPage() {
@@ -86,7 +94,7 @@ bool DeskSpooler::startPage() {
 
 std::size_t DeskSpooler::write(std::string_view bytes) {
     end_.leaveIfEnded();
-    const std::size_t taken = real_.write(bytes);
+    const std::size_t taken = waitFor([&] { return real_.write(bytes); });
     noted(taken == bytes.size());
     return taken;
 }
@@ -96,17 +104,18 @@ bool DeskSpooler::endPage() {
 }
 
 bool DeskSpooler::endDocument() {
-    return noted(real_.endDocument());
+    return noted(waitFor([this] { return real_.endDocument(); }));
 }
 
 // The job was handed over before that.
 bool DeskSpooler::closePrinter() {
     open_ = false;
-    return real_.closePrinter();
+    return waitFor([this] { return real_.closePrinter(); });
 }
 
 // The real printer counts its pages only while it puts them on paper.
 std::optional<PrinterFailure> DeskPrinter::passOn(const PrintOperation& operation) {
+    const Waiting waiting(teller_, printer);
     if (!std::holds_alternative<DocumentEnd>(operation)) {
         return real_.perform(operation);
     }

@@ -1,18 +1,17 @@
 // The machine's seams as the running desk hands them to its routines. What became of the
-// paper, and how long the server is waited for, is noted for the teller; and after the end
-// of the program they lead nowhere: ProgramEnded leaves the routine that still wants them.
+// paper, and how long the server or a printer is waited for, is noted for the teller; and after the
+// end of the program they lead nowhere: ProgramEnded leaves the routine that still wants them.
 #pragma once
 
 #include "platform/http_loader.h"
 #include "platform/message_boxes.h"
 #include "platform/printer.h"
 #include "platform/spooler.h"
+#include "widgets/teller.h"
 
 namespace tarn {
 
 class ProgramEnd;
-class Teller;
-struct PaperOutcome;
 
 class DeskLoader : public HttpLoader {
 public:
@@ -35,8 +34,8 @@ private:
 
 class DeskSpooler : public Spooler {
 public:
-    DeskSpooler(Spooler& real, PaperOutcome& paper, const ProgramEnd& end)
-        : real_(real), paper_(paper), end_(end) {}
+    DeskSpooler(Spooler& real, Teller& teller, const ProgramEnd& end)
+        : real_(real), teller_(teller), paper_(teller.paper()), end_(end) {}
 
     std::string defaultPrinter() override;
     bool openPrinter(const std::string& name) override;
@@ -49,10 +48,13 @@ public:
     bool answers() const override { return real_.answers(); }
 
 private:
+    template <typename Call>
+    auto waitFor(Call call) const;
     std::string obstacle() const;
     bool noted(bool taken);
 
     Spooler& real_;
+    Teller& teller_;
     PaperOutcome& paper_;
     const ProgramEnd& end_;
     bool open_ = false;  // what is refused without a job is no refusal
@@ -60,8 +62,8 @@ private:
 
 class DeskPrinter : public Printer {
 public:
-    DeskPrinter(Printer& real, PaperOutcome& paper, const ProgramEnd& end)
-        : real_(real), paper_(paper), end_(end) {}
+    DeskPrinter(Printer& real, Teller& teller, const ProgramEnd& end)
+        : real_(real), teller_(teller), paper_(teller.paper()), end_(end) {}
 
     std::string name() override { return real_.name(); }
     std::optional<PrinterFailure> perform(const PrintOperation& operation) override;
@@ -70,6 +72,7 @@ private:
     std::optional<PrinterFailure> passOn(const PrintOperation& operation);
 
     Printer& real_;
+    Teller& teller_;
     PaperOutcome& paper_;
     const ProgramEnd& end_;
 };

@@ -48,7 +48,8 @@ void Teller::tell(const std::string& what) {
     emit lineChanged(this->line());
 }
 
-void Teller::waitBegins() {
+void Teller::waitBegins(const std::string& forWhat) {
+    waitedFor_ = forWhat;
     seconds_ = 0;
     waiting_.start();
     counting_.start(second_);
@@ -66,13 +67,16 @@ void Teller::count() {
     const bool first = seconds_ == 0;
     seconds_ = std::max<qint64>(seconds_ + 1, waiting_.elapsed() / second_.count());
     if (first) {
-        errors_ << "Aguardando o servidor" << std::endl;
+        errors_ << "Aguardando " << waitedFor_ << std::endl;
     }
     emit lineChanged(line());
 }
 
 QString Teller::line() const {
-    return seconds_ == 0 ? told_ : QStringLiteral("Aguardando o servidor há %1 s").arg(seconds_);
+    return seconds_ == 0 ? told_
+                         : QStringLiteral("Aguardando %1 há %2 s")
+                               .arg(QString::fromStdString(waitedFor_))
+                               .arg(seconds_);
 }
 
 }  // namespace tarn

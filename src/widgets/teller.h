@@ -30,7 +30,8 @@ public:
     // To be noted by those who print.
     PaperOutcome& paper() { return paper_; }
 
-    void waitBegins();
+    // `forWhat` with its article, Portuguese: "o servidor".
+    void waitBegins(const std::string& forWhat);
     void waitEnds();
 
     QString line() const;
@@ -49,13 +50,16 @@ private:
     QString told_;
     QTimer counting_;
     QElapsedTimer waiting_;  // invalid: nothing is waited for
+    std::string waitedFor_;
     qint64 seconds_ = 0;
 };
 
-// The server, waited for while this lives.
+// Something, waited for while this lives.
 class Waiting {
 public:
-    explicit Waiting(Teller& teller) : teller_(teller) { teller_.waitBegins(); }
+    Waiting(Teller& teller, const std::string& forWhat) : teller_(teller) {
+        teller_.waitBegins(forWhat);
+    }
     ~Waiting() { teller_.waitEnds(); }
     Waiting(const Waiting&) = delete;
     Waiting& operator=(const Waiting&) = delete;

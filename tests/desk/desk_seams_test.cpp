@@ -42,8 +42,8 @@ protected:
     RecordingPrinter realPrinter;
     ScriptedBoxes realBoxes;
     DeskLoader server{realServer, teller, end};
-    DeskSpooler spooler{realSpooler, teller.paper(), end};
-    DeskPrinter printer{realPrinter, teller.paper(), end};
+    DeskSpooler spooler{realSpooler, teller, end};
+    DeskPrinter printer{realPrinter, teller, end};
     DeskBoxes boxes{realBoxes, end};
 };
 
@@ -129,7 +129,7 @@ public:
 
 TEST_F(DeskSeamsTest, TheRealPrintersProgressIsHandedOn) {
     CountingPrinter counting;
-    DeskPrinter pages(counting, teller.paper(), end);
+    DeskPrinter pages(counting, teller, end);
     std::size_t seen = 0;
     pages.progress = [&](std::size_t done, std::size_t) { seen = done; };
     pages.EndDoc();

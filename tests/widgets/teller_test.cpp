@@ -88,7 +88,7 @@ TEST_F(TellerTest, AValueCanBeginNoLineOfItsOwn) {
 TEST_F(TellerTest, ALongWaitIsToldAndCountsOn) {
     teller.done("Ordem 45112 gravada");
     {
-        const Waiting server(teller);
+        const Waiting waiting(teller, "o servidor");
         EXPECT_EQ(line(), "10:32 Ordem 45112 gravada") << "a short wait isn't worth a word";
         const QSignalSpy changes(&teller, &Teller::lineChanged);
         EXPECT_TRUE(counts(3));
@@ -106,10 +106,10 @@ TEST_F(TellerTest, ALongWaitIsToldAndCountsOn) {
 TEST_F(TellerTest, EachWaitCountsFromItsOwnBeginning) {
     constexpr int longWait = 40;
     {
-        const Waiting server(teller);
+        const Waiting waiting(teller, "o servidor");
         EXPECT_TRUE(counts(longWait));
     }
-    const Waiting server(teller);
+    const Waiting waiting(teller, "o servidor");
     EXPECT_EQ(line(), "");
     const QSignalSpy changes(&teller, &Teller::lineChanged);
     EXPECT_TRUE(counts(1));
@@ -118,7 +118,7 @@ TEST_F(TellerTest, EachWaitCountsFromItsOwnBeginning) {
 
 TEST_F(TellerTest, WhatIsDoneDuringAWaitShowsAfterIt) {
     {
-        const Waiting server(teller);
+        const Waiting waiting(teller, "o servidor");
         EXPECT_TRUE(counts(1));
         teller.done("Ordem 1 gravada");
         EXPECT_EQ(line().rfind("Aguardando", 0), 0U);
