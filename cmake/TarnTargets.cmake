@@ -2,7 +2,10 @@
 # in which libraries are declared.
 
 add_library(tarn_common_options INTERFACE)
-target_compile_options(tarn_common_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+# In a lump a local name may well be a neighbour's global one.
+set(tarn_in_lumps $<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>)
+target_compile_options(tarn_common_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion
+                       $<IF:${tarn_in_lumps},$<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>,-Wshadow>
                        -fstack-protector-strong)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # g++ 12 sees overlapping copies and overruns in "text" + std::string and in its like
