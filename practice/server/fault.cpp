@@ -16,8 +16,12 @@ constexpr std::array kindNames = {
     KindName{"recusa", FaultKind::Refuse},
     KindName{"fecha-antes", FaultKind::CloseBefore},
     KindName{"fecha-no-meio", FaultKind::CloseWithin},
+    KindName{"reset-antes", FaultKind::ResetBefore},
+    KindName{"reset-no-cabecalho", FaultKind::ResetWithinHead},
+    KindName{"reset-no-meio", FaultKind::ResetWithinBody},
     KindName{"404", FaultKind::NotFound},
     KindName{"500", FaultKind::ServerError},
+    KindName{"206", FaultKind::Partial},
     KindName{"vazio", FaultKind::Empty},
     KindName{"html", FaultKind::Html},
     KindName{"cortado", FaultKind::CutXml},
@@ -27,6 +31,7 @@ constexpr std::array kindNames = {
     KindName{"enorme", FaultKind::Huge},
 };
 
+constexpr int partialContent = 206;
 constexpr int notFound = 404;
 constexpr int serverError = 500;
 constexpr std::int64_t defaultWait = 10;     // seconds
@@ -46,6 +51,12 @@ Page htmlError(int status, std::string_view title) {
     Page page(htmlPage(title));
     page.contentType = html;
     page.status = status;
+    return page;
+}
+
+Page unanswered(Ending ending) {
+    Page page("");
+    page.ending = ending;
     return page;
 }
 
@@ -85,6 +96,15 @@ Page spoilt(PracticeServer& server, const Fault& fault, std::string_view rawQuer
     switch (fault.kind) {
         case FaultKind::CloseWithin:
             page.ending = Ending::Within;
+            break;
+        case FaultKind::ResetWithinHead:
+            page.ending = Ending::ResetWithinHead;
+            break;
+        case FaultKind::ResetWithinBody:
+            page.ending = Ending::ResetWithinBody;
+            break;
+        case FaultKind::Partial:
+            page.status = partialContent;
             break;
         case FaultKind::Empty:
             page.body.clear();
@@ -187,11 +207,10 @@ Page answeredPage(PracticeServer& server, const FaultPlan& plan, std::string_vie
             return htmlError(notFound, "Página não encontrada");
         case FaultKind::ServerError:
             return htmlError(serverError, "Erro interno do servidor");
-        case FaultKind::CloseBefore: {
-            Page page("");
-            page.ending = Ending::Before;
-            return page;
-        }
+        case FaultKind::CloseBefore:
+            return unanswered(Ending::Before);
+        case FaultKind::ResetBefore:
+            return unanswered(Ending::ResetBefore);
         default:
             return spoilt(server, *fault, rawQuery);
     }

@@ -14,18 +14,22 @@
 namespace tarn::practice {
 
 enum class FaultKind {
-    Refuse,         // a refusal in the command's own shape, no rows where it has none
-    CloseBefore,    // no answer at all
-    CloseWithin,    // the body ends half-way
-    NotFound,       // HTTP 404
-    ServerError,    // HTTP 500
-    Empty,          // a body of no bytes
-    Html,           // a page that is no XML
-    CutXml,         // the first half, as if it were all
-    NoDeclaration,  // well-formed, without the XML declaration
-    WrongEncoding,  // declared as utf-8, written in windows-1252
-    Slow,           // the right answer, late
-    Huge            // the right answer, and blanks beyond 16 MiB behind it
+    Refuse,           // a refusal in the command's own shape, no rows where it has none
+    CloseBefore,      // no answer at all
+    CloseWithin,      // the body ends half-way
+    ResetBefore,      // the connection is reset without an answer,
+    ResetWithinHead,  // within the head of the answer,
+    ResetWithinBody,  // within its body
+    NotFound,         // HTTP 404
+    ServerError,      // HTTP 500
+    Partial,          // the right answer, as a part of one: HTTP 206
+    Empty,            // a body of no bytes
+    Html,             // a page that is no XML
+    CutXml,           // the first half, as if it were all
+    NoDeclaration,    // well-formed, without the XML declaration
+    WrongEncoding,    // declared as utf-8, written in windows-1252
+    Slow,             // the right answer, late
+    Huge              // the right answer, and blanks beyond 16 MiB behind it
 };
 
 struct Fault {
@@ -49,7 +53,7 @@ private:
 
 std::string faultNames();  // as the command line names them, separated by commas
 
-// Refuse, CloseBefore, NotFound and ServerError keep the command from being carried
+// Refuse, CloseBefore, ResetBefore, NotFound and ServerError keep the command from being carried
 // out; all others spoil its answer alone.
 Page answeredPage(PracticeServer& server, const FaultPlan& plan, std::string_view rawQuery);
 

@@ -9,6 +9,7 @@
 #include <atomic>
 #include <cerrno>
 #include <condition_variable>
+#include <limits>
 #include <mutex>
 #include <set>
 #include <stdexcept>
@@ -26,6 +27,7 @@ constexpr int serverError = 500;
 constexpr int notFound = 404;
 constexpr time_t turnMicroseconds = 50000;
 constexpr std::size_t blanksAtOnce = 1U << 16;
+constexpr std::size_t someOfTheHead = 20;  // bytes
 
 // Without the library's own SO_REUSEPORT, under which a port already served
 // would be taken a second time in silence.
@@ -103,6 +105,8 @@ public:
 
     // Keeps the request that this thread is serving without an answer.
     static void sendNothing() { current_->mute(); }
+    // Sends at most so many bytes of the answer and resets the connection.
+    static void resetAfter(std::size_t bytes) { current_->resetAfter(bytes); }
     void endReading() { connections_.endReading(); }
     // Of connections not yet taken; the library asks for five.
     void lengthenQueue() { ::listen(svr_sock_, SOMAXCONN); }
@@ -113,8 +117,9 @@ private:
         if (connections_.add(socket)) {
             done = serve(socket);
             connections_.remove(socket);
+        } else {
+            shutdown(socket, SHUT_RDWR);
         }
-        shutdown(socket, SHUT_RDWR);
         close(socket);
         return done;
     }
@@ -123,11 +128,19 @@ private:
         RequestStream stream(socket, requestTime_, write_timeout_sec_);
         current_ = &stream;
         bool closed = false;
-        return process_request(stream, true, closed, [&stream](httplib::Request& request) {
-            request.target = stream.target();
-            // Uncompressed: the library would spend a tenth of a second on a long list.
-            request.headers.erase("Accept-Encoding");
-        });
+        const bool done =
+            process_request(stream, true, closed, [&stream](httplib::Request& request) {
+                request.target = stream.target();
+                // Uncompressed: the library would spend a tenth of a second on a long list.
+                request.headers.erase("Accept-Encoding");
+            });
+        if (stream.isToBeReset()) {
+            const linger atOnce{1, 0};
+            setsockopt(socket, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+        } else {
+            shutdown(socket, SHUT_RDWR);
+        }
+        return done;
     }
 
     static thread_local RequestStream* current_;  // of the request being served
@@ -163,6 +176,14 @@ void sendWithBlanks(httplib::Response& response, std::string body, std::size_t b
         });
 }
 
+void sendWhole(httplib::Response& response, Page page, const std::string& type) {
+    if (page.blanksBehind > 0) {
+        sendWithBlanks(response, std::move(page.body), page.blanksBehind, type);
+    } else {
+        response.set_content(page.body, type);
+    }
+}
+
 }  // namespace
 
 struct HttpFront::State {
@@ -186,14 +207,27 @@ void HttpFront::State::send(Page page, httplib::Response& response) {
     }
     const std::string type = page.contentType.empty() ? contentType : page.contentType;
     response.status = page.status;
-    if (page.ending == Ending::Before) {
-        PageServer::sendNothing();
-    } else if (page.ending == Ending::Within) {
-        sendHalf(response, std::move(page.body), type);
-    } else if (page.blanksBehind > 0) {
-        sendWithBlanks(response, std::move(page.body), page.blanksBehind, type);
-    } else {
-        response.set_content(page.body, type);
+    switch (page.ending) {
+        case Ending::Before:
+            PageServer::sendNothing();
+            break;
+        case Ending::ResetBefore:
+            PageServer::resetAfter(0);
+            break;
+        case Ending::ResetWithinHead:
+            PageServer::resetAfter(someOfTheHead);
+            response.set_content(page.body, type);
+            break;
+        case Ending::ResetWithinBody:
+            PageServer::resetAfter(std::numeric_limits<std::size_t>::max());
+            sendHalf(response, std::move(page.body), type);
+            break;
+        case Ending::Within:
+            sendHalf(response, std::move(page.body), type);
+            break;
+        case Ending::Whole:
+            sendWhole(response, std::move(page), type);
+            break;
     }
 }
 

@@ -9,8 +9,11 @@ namespace tarn::practice {
 
 enum class Ending {
     Whole,
-    Within,  // the connection closes after half the body
-    Before   // the connection closes without a byte
+    Within,           // the connection closes after half the body
+    Before,           // the connection closes without a byte
+    ResetBefore,      // the connection is reset without a byte,
+    ResetWithinHead,  // after some of the head,
+    ResetWithinBody   // after half the body
 };
 
 struct Page {

@@ -59,13 +59,15 @@ ssize_t RequestStream::read(char* bytes, size_t size) {
 }
 
 ssize_t RequestStream::write(const char* bytes, size_t size) {
-    if (muted_ || !is_writable()) {
+    size = std::min(size, bytesLeft_);
+    if (bytesLeft_ == 0 || !is_writable()) {
         return -1;
     }
     ssize_t sent = 0;
     do {
         sent = send(socket_, bytes, size, MSG_NOSIGNAL);
     } while (sent < 0 && errno == EINTR);
+    bytesLeft_ -= sent > 0 ? static_cast<std::size_t>(sent) : 0;
     return sent;
 }
 

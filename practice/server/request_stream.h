@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <limits>
 #include <string>
 
 namespace tarn::practice {
@@ -29,7 +30,13 @@ public:
     // The target of the request line as it came; complete once the line is read.
     std::string target() const;
 
-    void mute() { muted_ = true; }  // every write fails from then on
+    void mute() { bytesLeft_ = 0; }  // every write fails from then on
+    // After so many bytes every write fails, and whoever asked is to be reset.
+    void resetAfter(std::size_t bytes) {
+        bytesLeft_ = bytes;
+        reset_ = true;
+    }
+    bool isToBeReset() const { return reset_; }
 
     bool is_readable() const override;
     bool is_writable() const override;
@@ -58,7 +65,8 @@ private:
     std::size_t bodyBytes_ = 0;
     bool blankLine_ = false;  // nothing in the head's present line so far
     bool marked_ = false;
-    bool muted_ = false;
+    std::size_t bytesLeft_ = std::numeric_limits<std::size_t>::max();
+    bool reset_ = false;
     std::string pending_;  // taken from the socket, not yet read
     std::size_t next_ = 0;
 };

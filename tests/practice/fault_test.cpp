@@ -99,6 +99,27 @@ TEST(Fault, ClosesInTheMiddleOfTheBodyOfWhatWasCarriedOut) {
     EXPECT_EQ(server.desk().orders().size(), orderCount - 1);
 }
 
+TEST(Fault, ResetsTheConnection) {
+    FaultyServer before({"SP_GERA_NF=reset-antes"});
+    EXPECT_FALSE(before.get(generate).loaded);
+    EXPECT_EQ(before.desk().orders().size(), orderCount);
+    for (const char* place : {"cabecalho", "meio"}) {
+        FaultyServer server({std::string("SP_GERA_NF=reset-no-") + place});
+        EXPECT_FALSE(server.get(generate).loaded);
+        EXPECT_FALSE(server.raw(generate));
+        EXPECT_EQ(server.desk().orders().size(), orderCount - 1) << place;
+    }
+}
+
+TEST(Fault, CallsTheWholeAnswerAPart) {
+    FaultyServer server({"sel_ordem_fatu=206"});
+    EXPECT_FALSE(server.get(list).loaded);
+    const auto answer = server.raw(list);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->status, 206);
+    EXPECT_EQ(rowsOf(parsed(answer->body)).size(), orderCount);
+}
+
 class FaultStatus : public testing::TestWithParam<int> {};
 
 TEST_P(FaultStatus, AnswersWithAnErrorAndCarriesNothingOut) {
@@ -222,10 +243,10 @@ TEST(Fault, SaysWhyItCannotBeTaken) {
               "A falha \"LOGIN\" não diz de que comando. Escreva --falha COMANDO=FALHA.");
     EXPECT_EQ(plan.add("NADA=500"),
               "O comando \"NADA\" não existe neste servidor. Confira --falha.");
-    EXPECT_EQ(
-        plan.add("LOGIN=501"),
-        "A falha \"501\" não existe. Use recusa, fecha-antes, fecha-no-meio, 404, 500, vazio, "
-        "html, cortado, sem-declaracao, codificacao-errada, lento[:SEGUNDOS], enorme.");
+    EXPECT_EQ(plan.add("LOGIN=501"),
+              "A falha \"501\" não existe. Use recusa, fecha-antes, fecha-no-meio, reset-antes, "
+              "reset-no-cabecalho, reset-no-meio, 404, 500, 206, vazio, html, cortado, "
+              "sem-declaracao, codificacao-errada, lento[:SEGUNDOS], enorme.");
     for (const char* wrong : {"LOGIN=", "LOGIN=lento:", "LOGIN=lento:x", "LOGIN=lento:3601",
                               "LOGIN=500:1", "=500", ""}) {
         EXPECT_NE(plan.add(wrong), std::nullopt) << wrong;
