@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 #include <string>
 
 #include "platform/curl/curl_loader.h"
@@ -10,6 +11,18 @@
 #include "widgets/desk_context.h"
 
 namespace tarn::test {
+
+// Hands requests on, to another address where a test says so.
+struct Detour : HttpLoader {
+    explicit Detour(HttpLoader& loader) : real(loader) {}
+    HttpAnswer get(const std::string& address) override {
+        return real.get(instead ? instead(address) : address);
+    }
+    void close() override { real.close(); }
+
+    HttpLoader& real;
+    std::function<std::string(const std::string& address)> instead;  // on the loader's thread
+};
 
 struct NetworkDesk {
     NetworkDesk(const DeskContext& test, const std::string& baseUrl)
@@ -25,7 +38,8 @@ struct NetworkDesk {
     }
 
     CurlLoader curl;
-    BlockingLoader blocking{curl};
+    Detour detour{curl};
+    BlockingLoader blocking{detour};
     Environment environment;
     DeskContext desk;
     QObject context;
