@@ -45,6 +45,10 @@ public:
         process_.terminate();
         EXPECT_TRUE(process_.waitForFinished(patienceMs));
     }
+    void kill() {
+        process_.kill();
+        EXPECT_TRUE(process_.waitForFinished(patienceMs));
+    }
     const QString& address() const { return address_; }
 
 private:

@@ -34,12 +34,16 @@ void BusyDesk::workOnce() {
 }
 
 XmlDocument BusyDesk::ask(const std::string& query) {
-    const HttpAnswer answer = loader_->get(baseUrl_ + query);
     XmlDocument document;
+    if (cutOff_) {
+        return document;
+    }
+    const HttpAnswer answer = loader_->get(baseUrl_ + query);
     const bool loaded = answer.loaded && document.loadXML(answer.body);
     const std::lock_guard lock(done_.mutex);
     ++done_.requests;
     if (!loaded) {
+        cutOff_ = true;
         done_.failures.push_back(query);
     }
     return document;

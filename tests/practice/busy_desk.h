@@ -44,6 +44,8 @@ public:
     BusyDesk(std::string baseUrl, int place, DoneAtOnce& done);
 
     void workOnce();
+    // A request had no answer: nothing is known of it, and no other is made.
+    bool cutOff() const { return cutOff_; }
 
 private:
     XmlDocument ask(const std::string& query);
@@ -64,6 +66,7 @@ private:
     Sessao clerk_;
     std::mt19937_64 random_;
     int turns_ = 0;
+    bool cutOff_ = false;
 };
 
 }  // namespace tarn::practice::test

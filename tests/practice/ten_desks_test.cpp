@@ -11,6 +11,7 @@
 #include <thread>
 
 #include "practice/database/database.h"
+#include "tests/practice/books.h"
 #include "tests/practice/busy_desk.h"
 #include "tests/practice/practice_desk.h"
 #include "tests/practice/serving.h"
@@ -19,53 +20,9 @@
 namespace tarn::practice::test {
 namespace {
 
-constexpr const char* placeQuery =
-    "(SELECT id FROM establishment WHERE company_id = 1361 AND code = 1363)";
-
 std::chrono::seconds workingTime() {
     const QByteArray seconds = qgetenv("TARN_DESKS_SECONDS");
     return std::chrono::seconds(seconds.isEmpty() ? 3 : seconds.toInt());
-}
-
-std::map<std::string, std::string> twoColumns(Database& database, const std::string& sql) {
-    std::map<std::string, std::string> values;
-    Rows rows = database.select(sql);
-    while (rows.next()) {
-        values.emplace(rows.text(0), rows.text(1));
-    }
-    return values;
-}
-
-std::multiset<std::string> oneColumn(Database& database, const std::string& sql) {
-    std::multiset<std::string> values;
-    Rows rows = database.select(sql);
-    while (rows.next()) {
-        values.insert(rows.text(0));
-    }
-    return values;
-}
-
-std::int64_t number(Database& database, const std::string& sql) {
-    Rows rows = database.select(sql);
-    return rows.next() ? rows.integer(0) : -1;
-}
-
-// Each product's stock and what the notes that stand have taken from it.
-std::map<std::string, std::string> stockAndTaken(Database& database) {
-    return twoColumns(
-        database,
-        "SELECT s.product_id, s.quantity + COALESCE((SELECT SUM(CASE o.entry WHEN 1 THEN"
-        " -i.quantity ELSE i.quantity END) FROM order_item i"
-        " JOIN billing_order o ON o.id = i.order_id JOIN note n ON n.order_id = o.id"
-        " WHERE n.cancelled = 0 AND i.product_id = s.product_id"
-        " AND n.establishment_id = s.establishment_id), 0)"
-        " FROM stock s WHERE s.establishment_id = " +
-            std::string(placeQuery));
-}
-
-std::int64_t numbersLeft(Database& database) {
-    return number(database, "SELECT SUM(next_number) FROM series WHERE establishment_id = " +
-                                std::string(placeQuery));
 }
 
 void workAtOnce(const std::vector<std::string>& baseUrls, DoneAtOnce& done) {
@@ -94,7 +51,7 @@ void expectNothingTwice(const DoneAtOnce& done) {
 
 // The notes stand as they were given, and without a gap.
 void expectNotes(Database& database, const DoneAtOnce& done, std::int64_t numbersBefore) {
-    const std::string place = placeQuery;
+    const std::string place = busyPlaceQuery;
     EXPECT_EQ(oneColumn(database,
                         "SELECT series_code || '/' || number FROM note"
                         " WHERE establishment_id = " +
