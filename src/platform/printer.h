@@ -16,7 +16,7 @@
 namespace tarn {
 
 // What is drawn on a page, one operation each. Coordinates are centimetres from the top left
-// corner of the sheet, x to the right, y down.
+// corner of the area that the printer can print on (decision D130), x to the right, y down.
 
 enum class ScaleMode : int { Centimetres = 7 };
 enum class Orientation : int { Portrait = 1, Landscape = 2 };
@@ -105,7 +105,7 @@ public:
     std::string FontName = "Arial";
     double FontSize = 8;  // points
     bool FontBold = false;
-    double CurrentX = 0;  // centimetres from the corner of the sheet
+    double CurrentX = 0;  // centimetres from the corner of the printable area
     double CurrentY = 0;
     int DrawWidth = 1;  // of lines, in dots of 1/600 inch
 

@@ -15,9 +15,11 @@ namespace tarn::test {
 
 class CupsTest : public testing::Test {
 protected:
-    static void SetUpTestSuite() {
+    static void SetUpTestSuite() { startServer(PrivateCupsd::queueName); }
+    static void startServer(const char* defaultQueue) {
         if (PrivateCupsd::whyMissing().empty()) {
             server_ = std::make_unique<PrivateCupsd>();
+            server_->makeDefault(defaultQueue);
             failure_ = server_->start();
         }
     }

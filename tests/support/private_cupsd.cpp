@@ -15,6 +15,7 @@
 #include <cstring>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <thread>
 
 namespace tarn::test {
@@ -51,6 +52,28 @@ int millisecondsUntil(Clock::time_point end) {
 bool readableBy(int socket, Clock::time_point end) {
     pollfd watched{.fd = socket, .events = POLLIN, .revents = 0};
     return poll(&watched, 1, millisecondsUntil(end)) == 1;
+}
+
+// What the page queue's printer can: one size of paper, PDF.
+std::string pagePrinter() {
+    constexpr int width = 595;  // points
+    constexpr int height = 842;
+    constexpr int margin = PrivateCupsd::pageMargin;
+    std::ostringstream ppd;
+    ppd << "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n"
+        << "*LanguageVersion: English\n*LanguageEncoding: ISOLatin1\n*PCFileName: \"PAGES.PPD\"\n"
+        << "*Manufacturer: \"Test\"\n*Product: \"(Pages)\"\n*ModelName: \"Pages\"\n"
+        << "*ShortNickName: \"Pages\"\n*NickName: \"Pages\"\n*PSVersion: \"(3010) 0\"\n"
+        << "*LanguageLevel: \"3\"\n*ColorDevice: False\n*DefaultColorSpace: Gray\n"
+        << "*cupsVersion: 2.4\n*cupsFilter2: \"application/pdf application/pdf 0 -\"\n"
+        << "*OpenUI *PageSize/Media Size: PickOne\n*DefaultPageSize: A4\n*PageSize A4/A4: \"\"\n"
+        << "*CloseUI: *PageSize\n"
+        << "*OpenUI *PageRegion/Media Region: PickOne\n*DefaultPageRegion: A4\n"
+        << "*PageRegion A4/A4: \"\"\n*CloseUI: *PageRegion\n"
+        << "*DefaultImageableArea: A4\n*ImageableArea A4/A4: \"" << margin << " " << margin << " "
+        << width - margin << " " << height - margin << "\"\n*DefaultPaperDimension: A4\n"
+        << "*PaperDimension A4/A4: \"" << width << " " << height << "\"\n";
+    return ppd.str();
 }
 
 }  // namespace
@@ -120,10 +143,20 @@ void PrivateCupsd::writeConfiguration() const {
     if (geteuid() == 0) {
         files << "User nobody\nGroup nogroup\nSystemGroup root\n";
     }
-    std::ofstream(directory_ / "root" / "printers.conf")
-        << "<DefaultPrinter " << queueName << ">\nInfo test\nDeviceURI socket://127.0.0.1:" << port_
-        << "\nState Idle\nAccepting Yes\nShared No\nErrorPolicy "
-           "retry-job\n</DefaultPrinter>\n";
+    writeQueues();
+}
+
+void PrivateCupsd::writeQueues() const {
+    std::ofstream queues(directory_ / "root" / "printers.conf");
+    for (const std::string queue : {queueName, pageQueueName}) {
+        const std::string section = queue == default_ ? "DefaultPrinter" : "Printer";
+        queues << "<" << section << " " << queue
+               << ">\nInfo test\nDeviceURI socket://127.0.0.1:" << port_
+               << "\nState Idle\nAccepting Yes\nShared No\nErrorPolicy retry-job\n</" << section
+               << ">\n";
+    }
+    std::ofstream(directory_ / "root" / "ppd" / (std::string(pageQueueName) + ".ppd"))
+        << pagePrinter();
 }
 
 void PrivateCupsd::run() {

@@ -1,6 +1,6 @@
 // A cupsd of the test's own: its files in a new directory, reached by a socket in
-// there, with one raw queue whose printer is a loopback socket of the test. The
-// system's cupsd, if there is one, isn't touched.
+// there, with a raw queue and one of drawn pages, whose printer is a loopback socket of the
+// test. The system's cupsd, if there is one, isn't touched.
 #pragma once
 
 #include <sys/types.h>
@@ -16,6 +16,9 @@ namespace tarn::test {
 class PrivateCupsd {
 public:
     static constexpr const char* queueName = "tarn_raw";
+    // A4, takes PDF as it is; leaves this many points at each edge of the sheet.
+    static constexpr const char* pageQueueName = "tarn_pages";
+    static constexpr int pageMargin = 18;
 
     // Why no cupsd can be run here, for a test to skip with; empty when it can.
     static std::string whyMissing();
@@ -28,9 +31,11 @@ public:
     // The queue's printer listens on this loopback port, and nextJob() hears nothing; to
     // be called before start().
     void printTo(int port) { port_ = port; }
+    // The queue that is the default printer; likewise.
+    void makeDefault(const char* queue) { default_ = queue; }
 
     // Runs the server and, for this process and its children, makes it the CUPS
-    // server (CUPS_SERVER) with the queue as the default printer. To be called before
+    // server (CUPS_SERVER) with one of its queues as the default printer. To be called before
     // anything uses libcups. Returns what went wrong, empty for nothing.
     std::string start();
 
@@ -47,6 +52,7 @@ public:
 private:
     std::string listenAsPrinter();
     void writeConfiguration() const;
+    void writeQueues() const;
     void run();
     bool answers() const;
     bool isGone();
@@ -56,6 +62,7 @@ private:
     std::filesystem::path directory_;
     int printer_ = -1;  // listening socket
     int port_ = 0;
+    std::string default_ = queueName;
     pid_t server_ = -1;
     std::map<std::string, std::optional<std::string>> environmentBefore_;
 };

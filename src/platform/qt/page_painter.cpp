@@ -5,6 +5,7 @@
 #include <QFontMetricsF>
 #include <QImage>
 #include <QImageReader>
+#include <QPageLayout>
 #include <QPainter>
 #include <QPen>
 #include <QPrinter>
@@ -85,6 +86,17 @@ std::size_t pagesOf(std::span<const PrintOperation> document) {
     return pages;
 }
 
+// Where the printable area begins on the sheet, in dots; a PDF can be printed on everywhere.
+QPointF printableCorner(const QPrinter& printer) {
+    if (printer.outputFormat() == QPrinter::PdfFormat) {
+        return {};
+    }
+    QPageLayout page = printer.pageLayout();
+    page.setUnits(QPageLayout::Inch);
+    const QMarginsF margins = page.minimumMargins();
+    return QPointF(margins.left(), margins.top()) * printer.resolution();
+}
+
 class PagePainter {
 public:
     PagePainter(QPrinter& printer, std::size_t pages, const Progress& progress)
@@ -93,6 +105,7 @@ public:
           progress_(progress),
           dotsPerInch_(printer.resolution()),
           dotsPerCentimetre_(dotsPerInch_ / centimetresPerInch),
+          corner_(printableCorner(printer)),
           begun_(painter_.begin(&printer)) {}
 
     bool take(const PrintOperation& operation) {
@@ -108,9 +121,7 @@ public:
     bool end() { return begun_ && painter_.end(); }
 
 private:
-    QPointF at(double x, double y) const {
-        return {x * dotsPerCentimetre_, y * dotsPerCentimetre_};
-    }
+    QPointF at(double x, double y) const { return corner_ + QPointF(x, y) * dotsPerCentimetre_; }
 
     bool beginPage() {
         if (breakAsked_ && progress_) {
@@ -176,6 +187,7 @@ private:
     std::map<const std::string*, QImage> images_;
     double dotsPerInch_;
     double dotsPerCentimetre_;
+    QPointF corner_;
     QPainter painter_;
     bool begun_;
     bool pageBegun_ = false;

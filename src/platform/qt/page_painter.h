@@ -10,7 +10,8 @@ class QPrinter;
 
 namespace tarn {
 
-// False when the printer doesn't take the document. `progress` is called for each page
+// The printer draws on whole sheets; coordinates are counted from the corner of what it can
+// print on. False when it doesn't take the document. `progress` is called for each page
 // that is done, but not of the end.
 bool paintDocument(QPrinter& printer, std::span<const PrintOperation> document,
                    const Progress& progress);
