@@ -37,6 +37,23 @@ target_compile_options(tarn_options INTERFACE $<$<CONFIG:Release>:-O2> $<$<CONFI
 target_compile_definitions(tarn_options INTERFACE $<$<CONFIG:Release>:NDEBUG>
                            $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 
+# What dpkg-buildflags gives with hardening=+all, and what later Debians add to it. Debian's
+# compilers make position-independent code by themselves; _FORTIFY_SOURCE needs optimisation.
+if(TARN_HARDEN)
+  include(CheckCXXCompilerFlag)
+  foreach(flag -fstack-clash-protection -fcf-protection)
+    string(MAKE_C_IDENTIFIER "TARN_HAS${flag}" known)
+    check_cxx_compiler_flag(${flag} ${known})
+    if(${known})
+      target_compile_options(tarn_options INTERFACE ${flag})
+    endif()
+  endforeach()
+  target_compile_options(tarn_options INTERFACE -Wformat -Werror=format-security
+                         -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+  target_link_options(tarn_options INTERFACE
+                      "$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie;-Wl,-z,relro;-Wl,-z,now>")
+endif()
+
 # tarn_add_library(NAME): a static library whose rooms add their own sources; apps and
 # practice include by their own folder's name.
 function(tarn_add_library name)
