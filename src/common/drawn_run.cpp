@@ -14,6 +14,18 @@ Printer& DrawnRun::printer() {
     return environment_.printer;
 }
 
+void DrawnRun::ImprimeLinha(std::string_view text, double x, double y, double size) {
+    const auto failure = drawText(printer(), text, x, y, {.size = size});
+    if (!failure) {
+        texts_ = Texts::Taken;
+        return;
+    }
+    if (texts_ == Texts::None) {
+        texts_ = Texts::NoneTaken;
+    }
+    showFailure(environment_, *failure, documentLineEnd);
+}
+
 void DrawnRun::check(const std::optional<PrinterFailure>& failure) {
     if (failure && !told_) {
         told_ = true;

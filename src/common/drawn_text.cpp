@@ -37,11 +37,6 @@ void showFailure(Environment& environment, const PrinterFailure& failure,
     environment.boxes.show({.text = text});
 }
 
-void ImprimeLinha(Environment& environment, std::string_view text, double x, double y,
-                  double size) {
-    tell(environment, drawText(environment.printer, text, x, y, {.size = size}), documentLineEnd);
-}
-
 // Positions of a note are single precision.
 void ImprimeTextoEm(Environment& environment, std::string_view text, double x, double y, bool bold,
                     double size, std::string_view font, int margin) {

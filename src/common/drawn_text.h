@@ -30,10 +30,6 @@ inline constexpr std::string_view documentLineEnd = "\r\n";
 
 void showFailure(Environment& environment, const PrinterFailure& failure, std::string_view lineEnd);
 
-// A text of a label, Arial bold, half a centimetre off. A failure is told, each time, and
-// printing goes on (decision D97).
-void ImprimeLinha(Environment& environment, std::string_view text, double x, double y, double size);
-
 // A text of a drawn note, half a centimetre off with `margin` 0. A failure is told and the
 // note goes on.
 void ImprimeTextoEm(Environment& environment, std::string_view text, double x, double y, bool bold,

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "common/drawn_run.h"
-#include "common/drawn_text.h"
 #include "labels/label.h"
 #include "runtime/text.h"
 
@@ -25,11 +24,11 @@ struct Origin {
     double y = 0;
 };
 
-void writeLine(Environment& environment, const Line& line, const Label& label, const Origin& origin,
+void writeLine(DrawnRun& run, const Line& line, const Label& label, const Origin& origin,
                double size) {
     const std::string_view text = label.*line.field;
-    ImprimeLinha(environment, line.cut ? leftOf(text, cutAt) : text, origin.x + line.x,
-                 origin.y + line.y, size);
+    run.ImprimeLinha(line.cut ? leftOf(text, cutAt) : text, origin.x + line.x, origin.y + line.y,
+                     size);
 }
 
 // PIMACO 6280
@@ -143,11 +142,9 @@ Address addressOf(const Sender& sender) {
 // Texts of one block, downwards.
 class Column {
 public:
-    Column(Environment& environment, double y) : environment_(environment), y_(y) {}
+    Column(DrawnRun& run, double y) : run_(run), y_(y) {}
 
-    void text(std::string_view text, double x) {
-        ImprimeLinha(environment_, text, x, y_, textSize);
-    }
+    void text(std::string_view text, double x) { run_.ImprimeLinha(text, x, y_, textSize); }
     void goDown() { y_ += lineStep; }
     // A text too long for the line goes on in the next one, whatever is left of it.
     void longText(std::string_view whole) {
@@ -161,15 +158,15 @@ public:
     }
 
 private:
-    Environment& environment_;
+    DrawnRun& run_;
     double y_;
 };
 
 // Down to the postal code, in whose line the column then is.
-Column printBlock(Environment& environment, const Block& block, const Address& address) {
-    ImprimeLinha(environment, block.title, left, block.titleY, titleSize);
-    ImprimeLinha(environment, "=====================", left, block.strokeY, strokeSize);
-    Column column(environment, block.textY);
+Column printBlock(DrawnRun& run, const Block& block, const Address& address) {
+    run.ImprimeLinha(block.title, left, block.titleY, titleSize);
+    run.ImprimeLinha("=====================", left, block.strokeY, strokeSize);
+    Column column(run, block.textY);
     column.longText(address.name);
     column.longText(address.street);
     column.text("Nº ", left);
@@ -193,7 +190,7 @@ void printPimaco6280(DrawnRun& run, Labels& labels, const Progress& progress) {
     for (std::size_t i = 0; i < labels.count(); ++i) {
         const Label label = labels.read(i);
         for (const Line& line : pimacoLines) {
-            writeLine(run.environment(), line, label, place.origin, pimacoSize);
+            writeLine(run, line, label, place.origin, pimacoSize);
         }
         if (!place.advance()) {
             run.newPage();
@@ -207,12 +204,12 @@ void printPimaco6280(DrawnRun& run, Labels& labels, const Progress& progress) {
 void printA5(DrawnRun& run, Labels& labels, const Progress& progress) {
     for (std::size_t i = 0; i < labels.count(); ++i) {
         const Label label = labels.read(i);
-        writeLine(run.environment(), a5Name, label, {}, a5Size);
+        writeLine(run, a5Name, label, {}, a5Size);
         if (lengthOf(label.NOME) > longName) {
-            writeLine(run.environment(), a5Name, label, {}, a5Size);
+            writeLine(run, a5Name, label, {}, a5Size);
         }
         for (const Line& line : a5Lines) {
-            writeLine(run.environment(), line, label, {}, a5Size);
+            writeLine(run, line, label, {}, a5Size);
         }
         report(progress, i + 1, labels);
     }
@@ -222,10 +219,10 @@ void printA4WithSender(DrawnRun& run, Labels& labels, const Sender& sender,
                        const Progress& progress) {
     for (std::size_t i = 0; i < labels.count(); ++i) {
         const Label label = labels.read(i);
-        Column column = printBlock(run.environment(), recipientBlock, addressOf(label));
+        Column column = printBlock(run, recipientBlock, addressOf(label));
         column.goDown();
         column.text(label.CODIGO, left);
-        printBlock(run.environment(), senderBlock, addressOf(sender));
+        printBlock(run, senderBlock, addressOf(sender));
         run.newPage();
         report(progress, i + 1, labels);
     }

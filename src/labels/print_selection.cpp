@@ -4,7 +4,6 @@
 
 #include "common/boxes.h"
 #include "common/drawn_run.h"
-#include "common/drawn_text.h"
 #include "labels/customer_selection.h"
 #include "labels/label.h"
 #include "runtime/text.h"
@@ -37,15 +36,14 @@ struct Place {
     double y() const { return line * height; }
 };
 
-void printCustomer(Environment& environment, const GridRow& customer, double x, double y) {
+void printCustomer(DrawnRun& run, const GridRow& customer, double x, double y) {
     std::string town(leftOf(customer.text(SelectionColumn::Town), townCut));
     town.append(" - ").append(customer.text(SelectionColumn::State));
-    ImprimeLinha(environment, leftOf(customer.text(SelectionColumn::Name), nameCut), x, y + 0.26,
-                 nameSize);
-    ImprimeLinha(environment, leftOf(customer.text(SelectionColumn::Address), addressCut), x,
-                 y + 0.76, textSize);
-    ImprimeLinha(environment, customer.text(SelectionColumn::PostalCode), x, y + 1.26, textSize);
-    ImprimeLinha(environment, town, x, y + 1.76, textSize);
+    run.ImprimeLinha(leftOf(customer.text(SelectionColumn::Name), nameCut), x, y + 0.26, nameSize);
+    run.ImprimeLinha(leftOf(customer.text(SelectionColumn::Address), addressCut), x, y + 0.76,
+                     textSize);
+    run.ImprimeLinha(customer.text(SelectionColumn::PostalCode), x, y + 1.26, textSize);
+    run.ImprimeLinha(town, x, y + 1.76, textSize);
 }
 
 }  // namespace
@@ -57,7 +55,7 @@ void printSelection(Environment& environment, std::span<const GridRow> customers
     for (std::size_t i = 0; i < customers.size(); ++i) {
         if (customers[i].ticked) {
             place.advance();
-            printCustomer(environment, customers[i], place.x(), place.y());
+            printCustomer(run, customers[i], place.x(), place.y());
         }
         if (progress) {
             progress(i + 1, customers.size());

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "common/drawn_run.h"
 #include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
 
@@ -27,10 +28,21 @@ TEST(DrawText, ANotesMarginTakesTheHalfCentimetre) {
                                                  "text\t1.600\t1.500\tArial\t8\t0\tb"));
 }
 
+TEST(DrawnRun, HasFailedWhereNotOneTextWasTaken) {
+    TestEnvironment env;
+    DrawnRun run(env.environment);
+    EXPECT_FALSE(run.failed()) << "nothing was asked";
+    env.printer.failAt = env.printer.operations.size();
+    run.ImprimeLinha("a", 1, 1, 6);
+    EXPECT_TRUE(run.failed());
+    run.ImprimeLinha("b", 1, 2, 6);
+    EXPECT_FALSE(run.failed()) << "one text less: decision D97";
+}
+
 TEST(ShowFailure, LabelsAndNotesDifferInTheLineEnd) {
     TestEnvironment env;
     env.printer.refuses = [](const PrintOperation&) { return true; };
-    ImprimeLinha(env.environment, "a", 1, 1, 6);
+    DrawnRun(env.environment).ImprimeLinha("a", 1, 1, 6);
     ImprimeTextoEm(env.environment, "a", 1, 1, false, 8, "Arial", 0);
     EXPECT_THAT(env.boxes.shown,
                 ElementsAre(plain("Descrição :impressora sem papel\r\n   Numero :482"),
