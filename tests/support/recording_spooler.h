@@ -2,7 +2,9 @@
 // each job, and fails where it is told to.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <limits>
 #include <string>
 #include <string_view>
@@ -39,6 +41,8 @@ public:
     std::size_t failOpen = never;   // index of the openPrinter that fails, from 0
     std::size_t failWrite = never;  // index of the write that fails, from 0, over all jobs
     bool silent = false;            // answers nothing, like a service that hangs
+    // Further failures, if set: the call and its index among those of its kind, from 0.
+    std::function<bool(Call, std::size_t)> refuses;
 
     // What happened.
     std::vector<Call> calls;
@@ -52,16 +56,16 @@ public:
     bool answers() const override { return !silent; }
 
     bool openPrinter(const std::string& name) override {
-        calls.push_back(Call::Open);
+        const bool refused = refusing(Call::Open);
         opened.push_back(name);
-        open_ = opened.size() - 1 != failOpen && !silent;  // either way the job before is let go
+        open_ = opened.size() - 1 != failOpen && !refused &&
+                !silent;  // either way the job before is let go
         started_ = false;
         return open_;
     }
 
     bool startDocument(const JobDescription& job) override {
-        calls.push_back(Call::StartDocument);
-        if (!open_) {
+        if (refusing(Call::StartDocument) || !open_) {
             return false;
         }
         jobs.push_back({.description = job, .writes = {}});
@@ -69,15 +73,12 @@ public:
         return true;
     }
 
-    bool startPage() override {
-        calls.push_back(Call::StartPage);
-        return started_;
-    }
+    bool startPage() override { return !refusing(Call::StartPage) && started_; }
 
     std::size_t write(std::string_view bytes) override {
-        calls.push_back(Call::Write);
+        const bool refused = refusing(Call::Write);
         const bool fails = writes++ == failWrite;
-        if (fails || !started_) {
+        if (fails || refused || !started_) {
             return 0;
         }
         jobs.back().writes.emplace_back(bytes);
@@ -85,33 +86,38 @@ public:
     }
 
     bool endPage() override {
-        calls.push_back(Call::EndPage);
-        if (started_) {
+        const bool done = !refusing(Call::EndPage) && started_;
+        if (done) {
             jobs.back().pageEnded = true;
         }
-        return started_;
+        return done;
     }
 
     bool endDocument() override {
-        calls.push_back(Call::EndDocument);
-        if (started_) {
+        const bool done = !refusing(Call::EndDocument) && started_;
+        if (done) {
             jobs.back().ended = true;
         }
-        return started_;
+        return done;
     }
 
     bool closePrinter() override {
-        calls.push_back(Call::Close);
+        const bool done = !refusing(Call::Close) && open_;
         if (started_) {
             jobs.back().closed = true;
         }
-        const bool wasOpen = open_;
         open_ = false;
         started_ = false;
-        return wasOpen;
+        return done;
     }
 
 private:
+    bool refusing(Call call) {
+        const auto before = static_cast<std::size_t>(std::ranges::count(calls, call));
+        calls.push_back(call);
+        return refuses && refuses(call, before);
+    }
+
     bool open_ = false;
     bool started_ = false;
 };
