@@ -10,6 +10,8 @@ if(CUPS_FOUND)
   # One server for all its cases when run as a program, one for each under ctest.
   tarn_add_test(cups_spooler_test LABEL cups SOURCES cups_spooler_test.cpp
     LIBRARIES tarn_core tarn_platform tarn_test_support Cups::Cups)
+  tarn_add_test(cups_troubles_test LABEL cups SOURCES cups_troubles_test.cpp
+    LIBRARIES tarn_core tarn_platform tarn_test_support)
   tarn_add_test(cups_note_test LABEL cups SOURCES cups_note_test.cpp
     LIBRARIES tarn_core tarn_platform tarn_test_support)
   target_compile_definitions(cups_note_test PRIVATE

@@ -65,7 +65,8 @@ std::string pagePrinter() {
         << "*Manufacturer: \"Test\"\n*Product: \"(Pages)\"\n*ModelName: \"Pages\"\n"
         << "*ShortNickName: \"Pages\"\n*NickName: \"Pages\"\n*PSVersion: \"(3010) 0\"\n"
         << "*LanguageLevel: \"3\"\n*ColorDevice: False\n*DefaultColorSpace: Gray\n"
-        << "*cupsVersion: 2.4\n*cupsFilter2: \"application/pdf application/pdf 0 -\"\n"
+        << "*cupsVersion: 2.4\n*cupsSNMPSupplies: False\n*cupsFilter2: \"application/pdf "
+           "application/pdf 0 -\"\n"
         << "*OpenUI *PageSize/Media Size: PickOne\n*DefaultPageSize: A4\n*PageSize A4/A4: \"\"\n"
         << "*CloseUI: *PageSize\n"
         << "*OpenUI *PageRegion/Media Region: PickOne\n*DefaultPageRegion: A4\n"
@@ -243,9 +244,49 @@ std::optional<std::string> PrivateCupsd::nextJob(std::chrono::milliseconds timeO
     return count == 0 ? std::optional(bytes) : std::nullopt;
 }
 
+namespace {
+
+// What an administrator does, with the tools of CUPS.
+bool administer(const char* program, const char* queue) {
+    const pid_t tool = fork();
+    if (tool == 0) {
+        execlp(program, program, queue, nullptr);
+        _exit(127);
+    }
+    int status = -1;
+    return waitpid(tool, &status, 0) == tool && status == 0;
+}
+
+}  // namespace
+
+bool PrivateCupsd::pauseQueue(const char* queue) const {
+    return administer("cupsdisable", queue);
+}
+
+bool PrivateCupsd::resumeQueue(const char* queue) const {
+    return administer("cupsenable", queue);
+}
+
+bool PrivateCupsd::refuseJobs(const char* queue) const {
+    return administer("cupsreject", queue);
+}
+
+bool PrivateCupsd::acceptJobs(const char* queue) const {
+    return administer("cupsaccept", queue);
+}
+
+void PrivateCupsd::holdStill() const {
+    kill(server_, SIGSTOP);
+}
+
+void PrivateCupsd::goOn() const {
+    kill(server_, SIGCONT);
+}
+
 void PrivateCupsd::stop() {
     restoreEnvironment();
     if (server_ > 0) {
+        goOn();
         kill(server_, SIGTERM);
         if (!waitFor([this] { return isGone(); }, stopLimit)) {
             kill(server_, SIGKILL);

@@ -43,6 +43,17 @@ public:
     // none came whole, in that time. A job waits until it is asked for.
     std::optional<std::string> nextJob(std::chrono::milliseconds timeOut);
 
+    // The queue takes jobs and prints none until it is resumed; it refuses jobs until it
+    // accepts them again. Return whether the server did so.
+    bool pauseQueue(const char* queue) const;
+    bool resumeQueue(const char* queue) const;
+    bool refuseJobs(const char* queue) const;
+    bool acceptJobs(const char* queue) const;
+
+    // The server says nothing until it may go on.
+    void holdStill() const;
+    void goOn() const;
+
     // Ends the server, waits until it is gone, and removes its files.
     void stop();
 

@@ -63,8 +63,10 @@ bool hasQueue(http_t* http, const std::string& queue) {
                  cupsUser());
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                  "printer-name");
-    ippDelete(cupsDoRequest(http, request, "/"));
-    return isOk(cupsLastError());
+    ipp_t* answer = cupsDoRequest(http, request, "/");
+    const bool found = answer != nullptr && isOk(ippGetStatusCode(answer));
+    ippDelete(answer);
+    return found;
 }
 
 const char* textOrNull(const std::optional<std::string>& text) {
@@ -180,7 +182,10 @@ bool CupsSpooler::endDocument() {
     if (!handle_ || handle_->job == 0) {
         return false;
     }
-    if (!isOk(cupsFinishDocument(handle_->connection.get(), handle_->queue.c_str()))) {
+    // Of a server that fell silent the call gives the status before.
+    const ipp_status_t status =
+        cupsFinishDocument(handle_->connection.get(), handle_->queue.c_str());
+    if (!isOk(status) || !answers_) {
         handle_->cancel();
         return false;
     }
