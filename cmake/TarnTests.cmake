@@ -26,6 +26,9 @@ set(tarn_precompiled_test ${tarn_precompiled_std} <fstream> <map> <set> <sstream
 # link tarn_screen_support read its precompiled header, the others that of tarn_test_headers.
 function(tarn_add_test_library name)
   cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+  if("tarn_core" IN_LIST arg_LIBRARIES)
+    list(PREPEND arg_LIBRARIES tarn_recorders)
+  endif()
   add_library(${name} STATIC ${arg_SOURCES})
   target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(${name} PUBLIC ${arg_LIBRARIES} GTest::gtest GTest::gmock
@@ -52,6 +55,9 @@ endfunction()
 # test preset's.
 function(tarn_add_test name)
   cmake_parse_arguments(arg "QT" "LABEL;SHARDS" "SOURCES;LIBRARIES;PROPERTIES" ${ARGN})
+  if("tarn_core" IN_LIST arg_LIBRARIES)
+    list(PREPEND arg_LIBRARIES tarn_recorders)
+  endif()
   add_executable(${name} ${arg_SOURCES})
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
   target_link_libraries(${name} PRIVATE tarn_test_options ${arg_LIBRARIES} GTest::gmock

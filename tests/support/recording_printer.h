@@ -2,10 +2,10 @@
 // refuses where it is told to.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <limits>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,29 +24,17 @@ public:
 
     std::vector<PrintOperation> operations;  // refused ones included
 
-    std::optional<PrinterFailure> perform(const PrintOperation& operation) override {
-        operations.push_back(operation);
-        const bool refused = operations.size() - 1 == failAt || (refuses && refuses(operation));
-        return refused ? std::optional(failure) : std::nullopt;
-    }
+    RecordingPrinter();
+    ~RecordingPrinter() override;
 
-    bool ended() const {
-        return !operations.empty() && std::holds_alternative<DocumentEnd>(operations.back());
-    }
+    std::optional<PrinterFailure> perform(const PrintOperation& operation) override;
+
+    bool ended() const;
     // One line an operation that has one.
-    std::vector<std::string> lines() const {
-        std::vector<std::string> all;
-        for (const PrintOperation& operation : operations) {
-            all.push_back(operationLine(operation));
-        }
-        std::erase(all, "");
-        return all;
-    }
+    std::vector<std::string> lines() const;
 };
 
 // For `refuses`: what is no text.
-inline bool isNoText(const PrintOperation& operation) {
-    return !std::holds_alternative<DrawnText>(operation);
-}
+bool isNoText(const PrintOperation& operation);
 
 }  // namespace tarn::test

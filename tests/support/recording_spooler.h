@@ -2,7 +2,6 @@
 // each job, and fails where it is told to.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <limits>
@@ -50,73 +49,23 @@ public:
     std::vector<Job> jobs;            // in the order of startDocument
     std::size_t writes = 0;           // asked for, failed ones included
 
+    RecordingSpooler();
+    ~RecordingSpooler() override;
+
     std::string bytes(std::size_t job = 0) const { return jobs.at(job).bytes(); }
 
-    std::string defaultPrinter() override { return silent ? "" : printer; }
-    bool answers() const override { return !silent; }
-
-    bool openPrinter(const std::string& name) override {
-        const bool refused = refusing(Call::Open);
-        opened.push_back(name);
-        open_ = opened.size() - 1 != failOpen && !refused &&
-                !silent;  // either way the job before is let go
-        started_ = false;
-        return open_;
-    }
-
-    bool startDocument(const JobDescription& job) override {
-        if (refusing(Call::StartDocument) || !open_) {
-            return false;
-        }
-        jobs.push_back({.description = job, .writes = {}});
-        started_ = true;
-        return true;
-    }
-
-    bool startPage() override { return !refusing(Call::StartPage) && started_; }
-
-    std::size_t write(std::string_view bytes) override {
-        const bool refused = refusing(Call::Write);
-        const bool fails = writes++ == failWrite;
-        if (fails || refused || !started_) {
-            return 0;
-        }
-        jobs.back().writes.emplace_back(bytes);
-        return bytes.size();
-    }
-
-    bool endPage() override {
-        const bool done = !refusing(Call::EndPage) && started_;
-        if (done) {
-            jobs.back().pageEnded = true;
-        }
-        return done;
-    }
-
-    bool endDocument() override {
-        const bool done = !refusing(Call::EndDocument) && started_;
-        if (done) {
-            jobs.back().ended = true;
-        }
-        return done;
-    }
-
-    bool closePrinter() override {
-        const bool done = !refusing(Call::Close) && open_;
-        if (started_) {
-            jobs.back().closed = true;
-        }
-        open_ = false;
-        started_ = false;
-        return done;
-    }
+    std::string defaultPrinter() override;
+    bool answers() const override;
+    bool openPrinter(const std::string& name) override;
+    bool startDocument(const JobDescription& job) override;
+    bool startPage() override;
+    std::size_t write(std::string_view bytes) override;
+    bool endPage() override;
+    bool endDocument() override;
+    bool closePrinter() override;
 
 private:
-    bool refusing(Call call) {
-        const auto before = static_cast<std::size_t>(std::ranges::count(calls, call));
-        calls.push_back(call);
-        return refuses && refuses(call, before);
-    }
+    bool refusing(Call call);
 
     bool open_ = false;
     bool started_ = false;

@@ -23,31 +23,18 @@ namespace tarn::test {
 // Ticks wait under them, as under those on the screen.
 class BoxesOverTicks : public ScriptedBoxes {
 public:
-    BoxAnswer show(const Box& box) override {
-        const TicksWait noTicks(InputGate::ofApplication());
-        return ScriptedBoxes::show(box);
-    }
+    BoxAnswer show(const Box& box) override;
 };
 
 class ScreenTest : public testing::Test {
 protected:
-    void SetUp() override {
-        static_cast<DeskApplication*>(qApp)->setErrorReport(
-            [this](const std::exception_ptr& error) { reportError(desk, error); });
-        QObject::connect(&end, &ProgramEnd::didEnd, &end, [this] { blocking.close(); });
-    }
-    void TearDown() override {
-        static_cast<DeskApplication*>(qApp)->setErrorReport(nullptr);
-        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "a cursor was left behind";
-    }
+    ScreenTest();
+    ~ScreenTest() override;
 
-    void entered(std::int32_t company, std::int32_t establishment) {
-        session.NCOMPANYCODE = company;
-        session.ID_ETB_TARN = establishment;
-        session.UserCode = "77";
-        session.SERVERNAME = "SRV1";
-        session.DATA = "15/03/2012";
-    }
+    void SetUp() override;
+    void TearDown() override;
+
+    void entered(std::int32_t company, std::int32_t establishment);
 
     ScriptedLoader server;
     BlockingLoader blocking{server};

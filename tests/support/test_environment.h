@@ -12,6 +12,9 @@
 namespace tarn::test {
 
 struct TestEnvironment {
+    TestEnvironment();
+    ~TestEnvironment();
+
     ScriptedLoader loader;
     RecordingSpooler spooler;
     RecordingPrinter printer;

@@ -1,0 +1,82 @@
+#include "tests/support/recording_spooler.h"
+
+#include <algorithm>
+
+namespace tarn::test {
+
+RecordingSpooler::RecordingSpooler() = default;
+RecordingSpooler::~RecordingSpooler() = default;
+
+std::string RecordingSpooler::defaultPrinter() {
+    return silent ? "" : printer;
+}
+
+bool RecordingSpooler::answers() const {
+    return !silent;
+}
+
+bool RecordingSpooler::openPrinter(const std::string& name) {
+    const bool refused = refusing(Call::Open);
+    opened.push_back(name);
+    open_ = opened.size() - 1 != failOpen && !refused &&
+            !silent;  // either way the job before is let go
+    started_ = false;
+    return open_;
+}
+
+bool RecordingSpooler::startDocument(const JobDescription& job) {
+    if (refusing(Call::StartDocument) || !open_) {
+        return false;
+    }
+    jobs.push_back({.description = job, .writes = {}});
+    started_ = true;
+    return true;
+}
+
+bool RecordingSpooler::startPage() {
+    return !refusing(Call::StartPage) && started_;
+}
+
+std::size_t RecordingSpooler::write(std::string_view bytes) {
+    const bool refused = refusing(Call::Write);
+    const bool fails = writes++ == failWrite;
+    if (fails || refused || !started_) {
+        return 0;
+    }
+    jobs.back().writes.emplace_back(bytes);
+    return bytes.size();
+}
+
+bool RecordingSpooler::endPage() {
+    const bool done = !refusing(Call::EndPage) && started_;
+    if (done) {
+        jobs.back().pageEnded = true;
+    }
+    return done;
+}
+
+bool RecordingSpooler::endDocument() {
+    const bool done = !refusing(Call::EndDocument) && started_;
+    if (done) {
+        jobs.back().ended = true;
+    }
+    return done;
+}
+
+bool RecordingSpooler::closePrinter() {
+    const bool done = !refusing(Call::Close) && open_;
+    if (started_) {
+        jobs.back().closed = true;
+    }
+    open_ = false;
+    started_ = false;
+    return done;
+}
+
+bool RecordingSpooler::refusing(Call call) {
+    const auto before = static_cast<std::size_t>(std::ranges::count(calls, call));
+    calls.push_back(call);
+    return refuses && refuses(call, before);
+}
+
+}  // namespace tarn::test
