@@ -1,5 +1,7 @@
 #include "billing/frm_manut_det_oft.h"
 
+#include <gmock/gmock.h>
+
 #include <QAccessible>
 #include <QLabel>
 #include <QMimeData>
@@ -8,6 +10,7 @@
 #include "tests/billing/frm_oft_fixture.h"
 #include "tests/support/boxes.h"
 #include "tests/support/entering.h"
+#include "tests/support/texts.h"
 #include "widgets/free_text_field.h"
 
 namespace tarn::test {
@@ -92,10 +95,9 @@ TEST_F(FrmManutDetOFTTest, ShowsTheTwelveCellsOfTheActiveRow) {
         EXPECT_EQ(dialog.windowTitle(),
                   QStringLiteral("Alteração dos dados da Ordem de Faturamento"));
         EXPECT_TRUE(dialog.isModal());
-        EXPECT_THAT(texts(dialog),
-                    testing::ElementsAre("1001", "JOSÉ <b>", "MATRIZ", "VENDA", "12/03/2012", "77",
-                                         "TT", "MM", "obs", "12,500", "1.234.567,892", "0,000"));
-        EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery)) << "nothing is read anew";
+        EXPECT_EQ(texts(dialog), (Texts{"1001", "JOSÉ <b>", "MATRIZ", "VENDA", "12/03/2012", "77",
+                                        "TT", "MM", "obs", "12,500", "1.234.567,892", "0,000"}));
+        EXPECT_EQ(server.queries(), (Texts{obsQuery})) << "nothing is read anew";
         EXPECT_EQ(named<QLineEdit>(dialog, "txtCliente").toolTip(),
                   QStringLiteral("<p>JOSÉ &lt;b&gt;</p>"));
         const auto spoken = [&dialog](QAccessible::Text what) {
@@ -170,8 +172,8 @@ TEST_F(FrmManutDetOFTTest, TheSecondRowOpensWhenItIsActive) {
     QTest::mouseClick(grid().viewport(), Qt::LeftButton, {},
                       grid().visualRect(grid().model()->index(1, 1)).center());
     edit([](QWidget& dialog) {
-        EXPECT_THAT(texts(dialog), testing::ElementsAre("1002", "B", "", "", "", "78", "", "", "",
-                                                        "1,000", "", ""));
+        EXPECT_EQ(texts(dialog),
+                  (Texts{"1002", "B", "", "", "", "78", "", "", "", "1,000", "", ""}));
         click(dialog, "cmdCancelar");
     });
 }
@@ -184,7 +186,7 @@ TEST_F(FrmManutDetOFTTest, OkSendsTheFieldsAsTheyStandAndReadsTheListAnew) {
         click(dialog, "cmdOk");
         EXPECT_FALSE(dialog.isVisible());
     });
-    EXPECT_THAT(server.queries(), testing::ElementsAre(untouched, listQuery));
+    EXPECT_EQ(server.queries(), (Texts{untouched, listQuery}));
     EXPECT_TRUE(boxes.shown.empty());
     EXPECT_TRUE(timer().isActive());
 }
@@ -199,8 +201,8 @@ TEST_F(FrmManutDetOFTTest, TypedValuesTravelInTheirScreenForm) {
         type(dialog, "txtPesoLiquido", ",5");
         click(dialog, "cmdOk");
     });
-    EXPECT_THAT(saved(), testing::ElementsAre(written("1001", "100|| à vista | já || ok",
-                                                      "1.234,500", "0,000", "0,500")));
+    EXPECT_EQ(saved(),
+              (Texts{written("1001", "100|| à vista | já || ok", "1.234,500", "0,000", "0,500")}));
     EXPECT_TRUE(boxes.shown.empty());
 }
 
@@ -232,11 +234,10 @@ TEST_F(FrmManutDetOFTTest, ALostWriteIsToldOnceAndTheListRead) {
         click(dialog, "cmdOk");
         EXPECT_FALSE(dialog.isVisible());
     });
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    transportFailure("0013"),
-                    notice("Favor verificar se os dados da Ordem de Faturamento foi gravado. ")));
-    EXPECT_THAT(server.queries(), testing::ElementsAre(untouched, listQuery));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{transportFailure("0013"),
+                     notice("Favor verificar se os dados da Ordem de Faturamento foi gravado. ")}));
+    EXPECT_EQ(server.queries(), (Texts{untouched, listQuery}));
     EXPECT_TRUE(timer().isActive());
 }
 
@@ -250,17 +251,15 @@ TEST_F(FrmManutDetOFTTest, ARefusalLeavesWhatWasTyped) {
         server.addresses.clear();
         click(dialog, "cmdOk");
         EXPECT_TRUE(dialog.isVisible());
-        EXPECT_THAT(boxes.shown,
-                    testing::ElementsAre(exclamation("Ordem em uso por outro <usuário>")));
+        EXPECT_EQ(boxes.shown, (Boxes{exclamation("Ordem em uso por outro <usuário>")}));
         EXPECT_EQ(text(dialog, "txtObs"), "novo texto");
         EXPECT_EQ(text(dialog, "txtQtde"), "7,000");
         EXPECT_EQ(server.addresses.size(), 1U) << "the list isn't read";
         type(dialog, "txtQtde", "6");
         click(dialog, "cmdOk");
     });
-    EXPECT_THAT(saved(), testing::ElementsAre(
-                             written("1001", "novo texto", "7,000", "1.234.567,892", "0,000"),
-                             written("1001", "novo texto", "6,000", "1.234.567,892", "0,000")));
+    EXPECT_EQ(saved(), (Texts{written("1001", "novo texto", "7,000", "1.234.567,892", "0,000"),
+                              written("1001", "novo texto", "6,000", "1.234.567,892", "0,000")}));
     EXPECT_EQ(boxes.shown.size(), 1U);
 }
 
@@ -293,11 +292,10 @@ TEST_F(FrmManutDetOFTTest, FieldsLeftEmptyByTheListAreAskedForInOrder) {
         type(dialog, "txtPesoLiquido", "3");
         click(dialog, "cmdOk");
     });
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(attention("Quantidade Espécie é obrigatório!     "),
-                                     attention("Peso Bruto é obrigatório!     "),
-                                     attention("Peso Líquido é obrigatório!     ")));
-    EXPECT_THAT(saved(), testing::ElementsAre(written("1001", "o", "1,000", "2,000", "3,000")));
+    EXPECT_EQ(boxes.shown, (Boxes{attention("Quantidade Espécie é obrigatório!     "),
+                                  attention("Peso Bruto é obrigatório!     "),
+                                  attention("Peso Líquido é obrigatório!     ")}));
+    EXPECT_EQ(saved(), (Texts{written("1001", "o", "1,000", "2,000", "3,000")}));
 }
 
 TEST_F(FrmManutDetOFTTest, NegativeFieldsAreRefusedInOrder) {
@@ -312,9 +310,9 @@ TEST_F(FrmManutDetOFTTest, NegativeFieldsAreRefusedInOrder) {
         EXPECT_TRUE(server.addresses.empty());
         click(dialog, "cmdCancelar");
     });
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(attention("Quantidade Espécie inválido!     "),
-                                                  attention("Peso Bruto inválido!     "),
-                                                  attention("Peso Líquido inválido!     ")));
+    EXPECT_EQ(boxes.shown, (Boxes{attention("Quantidade Espécie inválido!     "),
+                                  attention("Peso Bruto inválido!     "),
+                                  attention("Peso Líquido inválido!     ")}));
 }
 
 TEST_F(FrmManutDetOFTTest, EachNumberFieldHasItsOwnMessages) {
@@ -331,14 +329,14 @@ TEST_F(FrmManutDetOFTTest, EachNumberFieldHasItsOwnMessages) {
             key(dialog, Qt::Key_Delete);
             key(dialog, Qt::Key_Return);
             settle();
-            EXPECT_THAT(boxes.shown, testing::ElementsAre(attention(invalid)));
+            EXPECT_EQ(boxes.shown, (Boxes{attention(invalid)}));
             EXPECT_EQ(text(dialog, field), "0,000");
             EXPECT_EQ(focused(dialog), field);
             boxes.shown.clear();
             type(dialog, field, "10000000");
             key(dialog, Qt::Key_Tab);
             settle();
-            EXPECT_THAT(boxes.shown, testing::ElementsAre(attention(large)));
+            EXPECT_EQ(boxes.shown, (Boxes{attention(large)}));
             EXPECT_EQ(text(dialog, field), "0,000");
             EXPECT_EQ(focused(dialog), field);
         }
@@ -368,7 +366,7 @@ TEST_F(FrmManutDetOFTTest, ABadFieldKeepsTheClickOnOkFromCounting) {
         key(dialog, Qt::Key_Delete);
         click(dialog, "cmdOk");
         settle();
-        EXPECT_THAT(boxes.shown, testing::ElementsAre(attention("Quantidade inválido.     ")));
+        EXPECT_EQ(boxes.shown, (Boxes{attention("Quantidade inválido.     ")}));
         EXPECT_TRUE(server.addresses.empty());
         EXPECT_EQ(focused(dialog), "txtQtde");
         key(dialog, Qt::Key_Escape);
@@ -389,8 +387,7 @@ TEST_F(FrmManutDetOFTTest, TheLargestWeightOfTheListIsShownWhole) {
     open(orders("QT_ESP='9999999.9995' PESO_BRU='123456789.5' PESO_LIQ='1'"));
     server.on("MANUTENCAO_OFT", answers::status("OK"));
     edit([](QWidget& dialog) { click(dialog, "cmdOk"); });
-    EXPECT_THAT(saved(), testing::ElementsAre(
-                             written("1001", "", "10.000.000,000", "123.456.789,500", "1,000")));
+    EXPECT_EQ(saved(), (Texts{written("1001", "", "10.000.000,000", "123.456.789,500", "1,000")}));
 }
 
 TEST_F(FrmManutDetOFTTest, EnterMovesOnFromTheFourFieldsInSilence) {
@@ -424,7 +421,7 @@ TEST_F(FrmManutDetOFTTest, EnterInAReferenceFieldDoesNothingAndOnAButtonPressesI
         key(dialog, Qt::Key_Return);
         EXPECT_FALSE(dialog.isVisible());
     });
-    EXPECT_THAT(saved(), testing::ElementsAre(untouched));
+    EXPECT_EQ(saved(), (Texts{untouched}));
 }
 
 TEST_F(FrmManutDetOFTTest, TheObservationTakesFiveHundredCharactersAndNoMore) {
@@ -465,8 +462,9 @@ TEST_F(FrmManutDetOFTTest, ALongObservationIsCutToTheFieldsLength) {
         keys(obs(dialog), "!?");
         click(dialog, "cmdOk");
     });
-    EXPECT_THAT(saved(), testing::ElementsAre(written("1001", kept.substr(0, kept.size() - 1) + "!",
-                                                      "1,000", "1,000", "1,000")));
+    EXPECT_EQ(
+        saved(),
+        (Texts{written("1001", kept.substr(0, kept.size() - 1) + "!", "1,000", "1,000", "1,000")}));
 }
 
 // A line end of two characters takes the room of two.
@@ -527,14 +525,14 @@ TEST_F(FrmManutDetOFTTest, LineEndsThatTheListBringsStayAsTheyAre) {
         keys(obs(dialog), "!");
         click(dialog, "cmdOk");
     });
-    EXPECT_THAT(saved(), testing::ElementsAre(written("1001",
-                                                      "a\r\nb\nc\xC2\xA0"
-                                                      "d",
-                                                      "1,000", "1,000", "1,000"),
-                                              written("1001",
-                                                      "a\r\nb\r\nc\xC2\xA0"
-                                                      "d!",
-                                                      "1,000", "1,000", "1,000")));
+    EXPECT_EQ(saved(), (Texts{written("1001",
+                                      "a\r\nb\nc\xC2\xA0"
+                                      "d",
+                                      "1,000", "1,000", "1,000"),
+                              written("1001",
+                                      "a\r\nb\r\nc\xC2\xA0"
+                                      "d!",
+                                      "1,000", "1,000", "1,000")}));
 }
 
 TEST_F(FrmManutDetOFTTest, ATickUnderTheOpenDialogLeavesItsFields) {
@@ -549,7 +547,7 @@ TEST_F(FrmManutDetOFTTest, ATickUnderTheOpenDialogLeavesItsFields) {
         EXPECT_EQ(texts(dialog), before);
         click(dialog, "cmdOk");
     });
-    EXPECT_THAT(saved(), testing::ElementsAre(untouched));
+    EXPECT_EQ(saved(), (Texts{untouched}));
 }
 
 TEST_F(FrmManutDetOFTTest, TheListRenewedUnderTheObservationOpensTheRowThatIsActiveThen) {

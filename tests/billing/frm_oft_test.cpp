@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+
 #include <QAccessible>
 #include <QLabel>
 #include <QMdiSubWindow>
@@ -5,6 +7,7 @@
 #include <QTimer>
 
 #include "tests/billing/frm_oft_fixture.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
@@ -19,10 +22,9 @@ const std::string orderDocument =
 TEST_F(FrmOFTTest, OpensWithTheRightAndTheList) {
     server.on("sel_ordem_fatu", twoOrders);
     choose(menu, "mnuNF", "mOFT");
-    EXPECT_THAT(server.queries(),
-                testing::ElementsAre("Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName="
-                                     "SRV1&sTransacao=EMI001",
-                                     listQuery));
+    EXPECT_EQ(server.queries(), (Texts{"Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName="
+                                       "SRV1&sTransacao=EMI001",
+                                       listQuery}));
     EXPECT_EQ(screen().windowTitle(), QStringLiteral("Faturamento"));
     EXPECT_FALSE(named<QMenu>(menu, "mnuEtiquetas").isEnabled());
     EXPECT_FALSE(named<QMenu>(menu, "mnuNF").isEnabled());
@@ -45,12 +47,11 @@ TEST_F(FrmOFTTest, ShowsTwelveColumnsAsRead) {
                                .toString()
                                .toStdString());
     }
-    EXPECT_THAT(
-        first, testing::ElementsAre("1001", "JOSÉ <b>", "MATRIZ", "VENDA", "12/03/2012", "77", "TT",
-                                    "MM", "obs", "12,500", "1.234.567,892", "0,000"));
-    EXPECT_THAT(headings, testing::ElementsAre("Ord. Fat.", "Cliente", "Estabelecimento",
-                                               "Tipo de NF", "Dt. Emissão", "Ord. Carga",
-                                               "Transportadora", "Motorista", "", "", "", ""));
+    EXPECT_EQ(first, (Texts{"1001", "JOSÉ <b>", "MATRIZ", "VENDA", "12/03/2012", "77", "TT", "MM",
+                            "obs", "12,500", "1.234.567,892", "0,000"}));
+    EXPECT_EQ(headings,
+              (Texts{"Ord. Fat.", "Cliente", "Estabelecimento", "Tipo de NF", "Dt. Emissão",
+                     "Ord. Carga", "Transportadora", "Motorista", "", "", "", ""}));
     EXPECT_EQ(cell(1, 9), "");
     EXPECT_EQ(cell(1, 10), "1,000");
     EXPECT_EQ(cell(1, 11), "");
@@ -75,9 +76,9 @@ TEST_F(FrmOFTTest, ButtonsSpeakByToolTipAndName) {
         EXPECT_FALSE(button.accessibleName().isEmpty()) << name;
         EXPECT_TRUE(button.text().isEmpty()) << name;
     }
-    EXPECT_THAT(tabOrder(screen(), "sprDados", 7),
-                testing::ElementsAre("sprDados", "cmdSelecionar", "CmdFechar", "CmdAtualizar",
-                                     "CmdCanOft", "cmdImprimirOF", "cmdDetOFT"));
+    EXPECT_EQ(tabOrder(screen(), "sprDados", 7),
+              (Texts{"sprDados", "cmdSelecionar", "CmdFechar", "CmdAtualizar", "CmdCanOft",
+                     "cmdImprimirOF", "cmdDetOFT"}));
 }
 
 TEST_F(FrmOFTTest, AnEmptyListSaysNothingAndEachButtonAsksForAnOrder) {
@@ -86,7 +87,7 @@ TEST_F(FrmOFTTest, AnEmptyListSaysNothingAndEachButtonAsksForAnOrder) {
     for (const char* button : {"cmdDetOFT", "CmdCanOft", "cmdImprimirOF", "cmdSelecionar"}) {
         click(screen(), button);
     }
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(selectOne, selectOne, selectOne, selectOne));
+    EXPECT_EQ(boxes.shown, (Boxes{selectOne, selectOne, selectOne, selectOne}));
     EXPECT_TRUE(server.addresses.empty());
     EXPECT_FALSE(timer().isActive()) << "the generation's first step switches it off";
 }
@@ -97,7 +98,7 @@ TEST_F(FrmOFTTest, TheTimerAndTheButtonReadTheListAnew) {
     tick();
     EXPECT_EQ(grid().currentIndex().row(), 0) << "the selection is lost";
     click(screen(), "CmdAtualizar");
-    EXPECT_THAT(server.queries(), testing::ElementsAre(listQuery, listQuery));
+    EXPECT_EQ(server.queries(), (Texts{listQuery, listQuery}));
 }
 
 TEST_F(FrmOFTTest, AFailedRefreshLeavesAnEmptyGridAndTheNextTickTriesAgain) {
@@ -106,7 +107,7 @@ TEST_F(FrmOFTTest, AFailedRefreshLeavesAnEmptyGridAndTheNextTickTriesAgain) {
     tick();  // the answer of before is used up by this one
     tick();
     EXPECT_EQ(rows(), 0);
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(transportFailure("0006")));
+    EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0006")}));
     tick();
     EXPECT_EQ(boxes.shown.size(), 2U);
     EXPECT_TRUE(timer().isActive());
@@ -142,15 +143,14 @@ TEST_F(FrmOFTTest, CancelAsksSendsTellsAndRefreshes) {
     open();
     server.on("sp_can_oft", answers::status("OK"));
     click(screen(), "CmdCanOft");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    Box{"Confirma o cancelamento da Ordem de Faturamento nº 1001 ?     ",
-                        BoxIcon::Question, "Aviso", BoxButtons::YesNo},
-                    Box{"Ordem de Faturamento cancelada.      ", BoxIcon::Information, "Aviso "}));
-    EXPECT_THAT(server.queries(),
-                testing::ElementsAre("comando=sp_can_oft&id_etb_tarn=6001&id_ord_fat=1001&"
-                                     "id_ord_crg=77&ServerName=SRV1",
-                                     listQuery));
+    EXPECT_EQ(
+        boxes.shown,
+        (Boxes{Box{"Confirma o cancelamento da Ordem de Faturamento nº 1001 ?     ",
+                   BoxIcon::Question, "Aviso", BoxButtons::YesNo},
+               Box{"Ordem de Faturamento cancelada.      ", BoxIcon::Information, "Aviso "}}));
+    EXPECT_EQ(server.queries(), (Texts{"comando=sp_can_oft&id_etb_tarn=6001&id_ord_fat=1001&"
+                                       "id_ord_crg=77&ServerName=SRV1",
+                                       listQuery}));
 }
 
 TEST_F(FrmOFTTest, ACancelAnsweredWithNoSendsNothing) {
@@ -190,7 +190,7 @@ TEST_F(FrmOFTTest, AnAcceptedObservationLetsTheMaintenanceGoOn) {
     answerAlert("cmdOk", "Linha 1\nLinha <2>");
     modals.then("frmManutDetOFT", [](QWidget& dialog) { click(dialog, "cmdCancelar"); });
     click(screen(), "cmdDetOFT");
-    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery));
+    EXPECT_EQ(server.queries(), (Texts{obsQuery}));
     EXPECT_TRUE(boxes.shown.empty());
 }
 
@@ -210,7 +210,7 @@ TEST_F(FrmOFTTest, ACancelledObservationStopsMaintenanceAndSheet) {
     }
     EXPECT_TRUE(boxes.shown.empty());
     EXPECT_TRUE(spooler.calls.empty());
-    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, obsQuery));
+    EXPECT_EQ(server.queries(), (Texts{obsQuery, obsQuery}));
     EXPECT_EQ(session.ConfirmaMensagem, "N");
 }
 
@@ -236,7 +236,7 @@ TEST_F(FrmOFTTest, TheAlertHasAPairOfButtonsOrOne) {
         click(alert, "cmdVoltar");
     });
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, stockQuery));
+    EXPECT_EQ(server.queries(), (Texts{obsQuery, stockQuery}));
     EXPECT_TRUE(boxes.shown.empty());
     EXPECT_FALSE(timer().isActive());
 }
@@ -262,7 +262,7 @@ TEST_F(FrmOFTTest, PrintsTheSheetOfTheSelectedOrder) {
     observation("x");
     answerAlert("cmdOk", "x");
     click(screen(), "cmdImprimirOF");
-    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, sheetQuery));
+    EXPECT_EQ(server.queries(), (Texts{obsQuery, sheetQuery}));
     EXPECT_TRUE(boxes.shown.empty());
     ASSERT_EQ(spooler.jobs.size(), 1U);
     EXPECT_EQ(spooler.jobs[0].writes.at(3),
@@ -286,14 +286,13 @@ TEST_F(FrmOFTTest, ASheetThatCantBeHadIsToldAndTheDeskStaysAsItIs) {
         .on("sel_impr_ordem_fatu", answers::status("Ordem faturada"));
     click(screen(), "cmdImprimirOF");
     click(screen(), "cmdImprimirOF");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(transportFailure("0012"),
-                                     notice("Houve um problema na transferência dos dados da Ordem "
-                                            "de Faturamento nº 1001."),
-                                     exclamation("Ordem faturada")));
+    EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0012"),
+                                  notice("Houve um problema na transferência dos dados da Ordem "
+                                         "de Faturamento nº 1001."),
+                                  exclamation("Ordem faturada")}));
     EXPECT_TRUE(spooler.calls.empty());
     EXPECT_EQ(rows(), 2);
-    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, sheetQuery, obsQuery, sheetQuery));
+    EXPECT_EQ(server.queries(), (Texts{obsQuery, sheetQuery, obsQuery, sheetQuery}));
 }
 
 TEST_F(FrmOFTTest, AFailedObservationStillPrintsTheSheet) {
@@ -349,7 +348,7 @@ TEST_F(FrmOFTTest, TheButtonsHaveKeys) {
         QTest::keyClick(grid().window()->focusWidget(), key, with);
     };
     stroke(Qt::Key_F5, Qt::NoModifier);
-    EXPECT_THAT(server.queries(), testing::ElementsAre(listQuery));
+    EXPECT_EQ(server.queries(), (Texts{listQuery}));
     EXPECT_TRUE(grid().hasFocus()) << "the arrows go on moving in the list";
     stroke(Qt::Key_P, Qt::ControlModifier);
     EXPECT_EQ(server.queries().at(0), obsQuery);

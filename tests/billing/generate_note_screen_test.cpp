@@ -1,9 +1,12 @@
 // From the selected order to the printed note, on the screen: the boxes, the requests,
 // the timer and the paper of every way a generation can end.
+#include <gmock/gmock.h>
+
 #include <fstream>
 #include <iterator>
 
 #include "tests/billing/frm_oft_fixture.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
@@ -49,9 +52,8 @@ TEST_F(GenerateNoteScreen, GeneratesTheNoteAndRefreshes) {
     observation("x");
     click(screen(), "cmdSelecionar");
     EXPECT_FALSE(timerRan) << "no refresh while the generation runs";
-    EXPECT_THAT(server.queries(),
-                testing::ElementsAre(obsQuery, stockQuery, noteQuery, documentQuery, listQuery));
-    EXPECT_THAT(boxes.shown, testing::IsEmpty());
+    EXPECT_EQ(server.queries(), (Texts{obsQuery, stockQuery, noteQuery, documentQuery, listQuery}));
+    EXPECT_EQ(boxes.shown, Boxes{});
     EXPECT_TRUE(timer().isActive());
 }
 
@@ -61,7 +63,7 @@ TEST_F(GenerateNoteScreen, ARefusedObservationGeneratesNothing) {
     observation("x");
     answerAlert("cmdCancelar", "x");
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery));
+    EXPECT_EQ(server.queries(), (Texts{obsQuery}));
     EXPECT_FALSE(timer().isActive());
     click(screen(), "CmdAtualizar");
     EXPECT_EQ(server.queries().back(), listQuery);
@@ -72,11 +74,10 @@ TEST_F(GenerateNoteScreen, AnUnknownGenerationIsToldAndTheListRead) {
     open();
     server.failOn("SP_GERA_NF");
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    transportFailure("0004"),
-                    notice("Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, "
-                           "utilize a tela de Reimpressão de Nota Fiscal. ")));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{transportFailure("0004"),
+                     notice("Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, "
+                            "utilize a tela de Reimpressão de Nota Fiscal. ")}));
     EXPECT_EQ(server.queries().back(), listQuery);
     EXPECT_TRUE(timer().isActive());
 }
@@ -85,7 +86,7 @@ TEST_F(GenerateNoteScreen, ARefusedGenerationShowsOneBoxAndLeavesTheList) {
     open();
     server.on("SP_GERA_NF", answers::status("Limite de crédito"));
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclamation("Limite de crédito")));
+    EXPECT_EQ(boxes.shown, (Boxes{exclamation("Limite de crédito")}));
     EXPECT_EQ(server.queries().back(), noteQuery);
     EXPECT_EQ(rows(), 2);
     EXPECT_FALSE(timer().isActive());
@@ -96,11 +97,10 @@ TEST_F(GenerateNoteScreen, ALostDocumentIsToldAndTheListRead) {
     noteComesOut();
     server.failOn("sel_gera_nf&ID_ETB_TARN=6001");
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    transportFailure("0005"),
-                    notice("Houve um problema na transferência dos dados da Nota Fiscal nº 555. "
-                           "Utilize a tela de Reimpressão de Nota Fiscal.")));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{transportFailure("0005"),
+                     notice("Houve um problema na transferência dos dados da Nota Fiscal nº 555. "
+                            "Utilize a tela de Reimpressão de Nota Fiscal.")}));
     EXPECT_EQ(server.queries().back(), listQuery);
     EXPECT_TRUE(timer().isActive());
 }
@@ -137,18 +137,17 @@ TEST_F(GenerateNoteScreen, ThePrintedNoteIsTheFormsByteForByte) {
     openAt1361("note_1361.xml");
     ASSERT_FALSE(noteFile("note_1361.prn").empty());
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     ASSERT_EQ(spooler.jobs.size(), 2U);
     EXPECT_EQ(spooler.bytes(0), " \x0F");
     EXPECT_EQ(spooler.bytes(1), noteFile("note_1361.prn"));
     for (const auto& job : spooler.jobs) {
         EXPECT_TRUE(job.ended && job.closed);
     }
-    EXPECT_THAT(server.queries(),
-                testing::ElementsAre(obsQuery, stockQuery, noteQuery,
-                                     "comando=sel_gera_nf&ID_ETB_TARN=6001&ID_NF_KESTO=4567&"
-                                     "CD_SER_NF=U&ServerName=SRV1",
-                                     listQuery));
+    EXPECT_EQ(server.queries(), (Texts{obsQuery, stockQuery, noteQuery,
+                                       "comando=sel_gera_nf&ID_ETB_TARN=6001&ID_NF_KESTO=4567&"
+                                       "CD_SER_NF=U&ServerName=SRV1",
+                                       listQuery}));
     EXPECT_TRUE(timer().isActive());
 }
 
@@ -205,8 +204,8 @@ TEST_F(GenerateNoteScreen, ObservationsThatTheServerRefusesStopBeforeTheNote) {
     open();
     server.on("Seleciona_Obs_Vnd_X_Ord", answers::status("ok"));
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclamation("ok")));
-    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery));
+    EXPECT_EQ(boxes.shown, (Boxes{exclamation("ok")}));
+    EXPECT_EQ(server.queries(), (Texts{obsQuery}));
     EXPECT_FALSE(timer().isActive());
 }
 
@@ -214,8 +213,8 @@ TEST_F(GenerateNoteScreen, AStockCheckThatTheServerRefusesStopsBeforeTheNote) {
     open();
     server.on("Seleciona_Obs_Ord_X_Est", answers::status("Cliente &lt;A &amp; B&gt; Ltda"));
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclamation("Cliente <A & B> Ltda")));
-    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, stockQuery));
+    EXPECT_EQ(boxes.shown, (Boxes{exclamation("Cliente <A & B> Ltda")}));
+    EXPECT_EQ(server.queries(), (Texts{obsQuery, stockQuery}));
     EXPECT_FALSE(timer().isActive());
 }
 
@@ -227,10 +226,9 @@ TEST_F(GenerateNoteScreen, ObservationsOutOfReachDontStopTheNote) {
     const Box searchFailed = notice(
         "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e tente "
         "novamente.");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(transportFailure("0004"), searchFailed,
-                                                  transportFailure("0004"), searchFailed));
-    EXPECT_THAT(server.queries(),
-                testing::ElementsAre(obsQuery, stockQuery, noteQuery, documentQuery, listQuery));
+    EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0004"), searchFailed, transportFailure("0004"),
+                                  searchFailed}));
+    EXPECT_EQ(server.queries(), (Texts{obsQuery, stockQuery, noteQuery, documentQuery, listQuery}));
     EXPECT_TRUE(timer().isActive());
 }
 
@@ -246,7 +244,7 @@ TEST_F(GenerateNoteScreen, AnAlertLeftUnansweredGeneratesNothing) {
         modals.then("frmMensagemAlerta", leave);
         click(screen(), "cmdSelecionar");
     }
-    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, obsQuery));
+    EXPECT_EQ(server.queries(), (Texts{obsQuery, obsQuery}));
     EXPECT_FALSE(timer().isActive());
 }
 
@@ -264,7 +262,7 @@ TEST_F(GenerateNoteScreen, EnterAnswersAnAlertOnlyByTheButtonThatHasTheFocus) {
         });
     }
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(server.queries(), testing::ElementsAre(obsQuery, stockQuery));
+    EXPECT_EQ(server.queries(), (Texts{obsQuery, stockQuery}));
     EXPECT_TRUE(boxes.shown.empty());
     EXPECT_FALSE(timer().isActive());
 }
@@ -274,7 +272,7 @@ TEST_F(GenerateNoteScreen, ARefusedDocumentIsToldInTheServersWords) {
     noteComesOut();
     server.on("sel_gera_nf&ID_ETB_TARN=6001", answers::status("Nota em uso"));
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(exclamation("Nota em uso")));
+    EXPECT_EQ(boxes.shown, (Boxes{exclamation("Nota em uso")}));
     EXPECT_EQ(server.queries().back(), documentQuery);
     EXPECT_EQ(rows(), 2);
     EXPECT_TRUE(spooler.calls.empty());

@@ -8,6 +8,7 @@
 #include "tests/support/boxes.h"
 #include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
@@ -89,9 +90,6 @@ protected:
     ScriptedAlert alert_{session_};
     std::vector<std::string> printed_;
 };
-
-using Texts = std::vector<std::string>;
-using Boxes = std::vector<Box>;
 
 TEST_F(GenerateNoteTest, GeneratedAndPrinted) {
     answers(generated_, noteDocument_);

@@ -70,7 +70,7 @@ TEST_F(PracticeDeskTest, WhatIsTypedComesBackInTheList) {
         EXPECT_FALSE(dialog.isVisible());
     });
     click(list, "cmdDetOFT");
-    EXPECT_THAT(boxes.shown, testing::IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     EXPECT_EQ(cell(1), order);
     EXPECT_EQ(cell(9), "50% à vista & 50% em 30 dias #1 + \"João\"");
     EXPECT_EQ(cell(10), "1.234,500");
@@ -95,7 +95,7 @@ TEST_F(PracticeDeskTest, ARefusalOfTheServerLeavesTheDialogOpen) {
 
 TEST_F(PracticeDeskTest, TheSheetOfAnOrderComesOut) {
     click(list, "cmdImprimirOF");
-    EXPECT_THAT(boxes.shown, testing::IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     ASSERT_EQ(spooler.jobs.size(), 1U);
     const auto& lines = spooler.jobs[0].writes;
     EXPECT_TRUE(spooler.jobs[0].closed);

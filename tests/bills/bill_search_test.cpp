@@ -1,16 +1,14 @@
 // What the search asks for and the cells that its rows become.
 #include "bills/bill_search.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "gateway/xml_document.h"
 #include "tests/support/answers.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
 
 std::vector<GridRow> rowsOf(const std::string& lines) {
     XmlDocument answer;
@@ -27,10 +25,29 @@ TEST(BillRows, EachColumnTakesItsAttribute) {
         "MUN_COB='c21' ES_COB='c22' CD_CEP_COB='c23'/>");
     ASSERT_EQ(lines.size(), 1U);
     EXPECT_FALSE(lines[0].ticked);
-    EXPECT_THAT(lines[0].cells,
-                ElementsAre("", "c2", "c3", "c4", "c5", "c6", "c7", "1.234.567,90", "c9", "c10",
-                            "c11", "01.234.567/0001-89", "c13", "J", "DOCTO_COBRANCA", "c16", "",
-                            "c18", "c19", "c20", "c21", "c22", "c23"));
+    EXPECT_EQ(lines[0].cells, (Texts{"",
+                                     "c2",
+                                     "c3",
+                                     "c4",
+                                     "c5",
+                                     "c6",
+                                     "c7",
+                                     "1.234.567,90",
+                                     "c9",
+                                     "c10",
+                                     "c11",
+                                     "01.234.567/0001-89",
+                                     "c13",
+                                     "J",
+                                     "DOCTO_COBRANCA",
+                                     "c16",
+                                     "",
+                                     "c18",
+                                     "c19",
+                                     "c20",
+                                     "c21",
+                                     "c22",
+                                     "c23"}));
 }
 
 TEST(BillRows, AReceivableHasItsControlNumberInsteadOfTheReference) {
@@ -73,7 +90,7 @@ TEST(BillRows, AmountsAreReadWithAPoint) {
     for (const GridRow& line : lines) {
         values.push_back(line.text(BillColumn::Value));
     }
-    EXPECT_THAT(values, ElementsAre("0,50", "0,00", "", "1,23", "-1.234,01", "0,00", ""));
+    EXPECT_EQ(values, (Texts{"0,50", "0,00", "", "1,23", "-1.234,01", "0,00", ""}));
 }
 
 TEST(BillRows, WithoutRowsThereAreNone) {
@@ -85,8 +102,9 @@ TEST(BillRows, WithoutRowsThereAreNone) {
 }
 
 TEST(DocumentKinds, AreFixed) {
-    EXPECT_THAT(documentKinds(), ElementsAre(ListItem{"-------------", 0}, ListItem{"DUPLICATA", 1},
-                                             ListItem{"RECIBO", 12}));
+    EXPECT_EQ(documentKinds(),
+              (std::vector<ListItem>{ListItem{"-------------", 0}, ListItem{"DUPLICATA", 1},
+                                     ListItem{"RECIBO", 12}}));
 }
 
 }  // namespace

@@ -1,4 +1,6 @@
 // Opening, fields, search and grid of FrmPesqDupli.
+#include <gmock/gmock.h>
+
 #include <QAccessible>
 #include <QCloseEvent>
 #include <QFile>
@@ -10,12 +12,10 @@
 #include "tests/support/boxes.h"
 #include "tests/support/entering.h"
 #include "tests/support/grid.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class FrmPesqDupliTest : public BillScreenTest {
 protected:
@@ -57,17 +57,17 @@ protected:
 
 TEST_F(FrmPesqDupliTest, OpensWithItsLists) {
     withScreen([&](QWidget& screen) {
-        EXPECT_THAT(server.queries(), ElementsAre(branchesQuery)) << "no right is asked";
+        EXPECT_EQ(server.queries(), (Texts{branchesQuery})) << "no right is asked";
         EXPECT_TRUE(screen.isModal());
-        EXPECT_THAT(items(screen, "cboFilial"), ElementsAre("<-TODAS->=0", "MATRIZ=9", "SUL=12"));
-        EXPECT_THAT(items(screen, "cboTpDocto"),
-                    ElementsAre("-------------=0", "DUPLICATA=1", "RECIBO=12"));
+        EXPECT_EQ(items(screen, "cboFilial"), (Texts{"<-TODAS->=0", "MATRIZ=9", "SUL=12"}));
+        EXPECT_EQ(items(screen, "cboTpDocto"),
+                  (Texts{"-------------=0", "DUPLICATA=1", "RECIBO=12"}));
         EXPECT_EQ(position(screen, "cboFilial"), 0);
         EXPECT_EQ(position(screen, "cboTpDocto"), 0);
         EXPECT_EQ(lines(screen), 0);
     });
-    EXPECT_THAT(server.queries(), ElementsAre(branchesQuery, deskQuery));
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(server.queries(), (Texts{branchesQuery, deskQuery}));
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmPesqDupliTest, SaysWhatItsFieldsAre) {
@@ -106,13 +106,29 @@ TEST_F(FrmPesqDupliTest, SaysWhatItsFieldsAre) {
 TEST_F(FrmPesqDupliTest, TheGridShowsAllItsColumns) {
     withScreen([&](QWidget& screen) {
         const auto& table = named<QTableView>(screen, "sprDados");
-        EXPECT_THAT(
-            grid::headings(table),
-            ElementsAre("", "Filial", "Dt.de Vencimento", "Dt.de Emissão", "Nº do Documento",
-                        "Cliente", "Endereço", "Vlr.do Documento", "CEP", "Município", "Filial",
-                        "CNPJ / CPF", "I.E.", "TP_PES", "TP_DOCTO1", "TP_DOCTO2", "ID_NR_CTL",
-                        "IC_REF_REC", "NR_DOC_NF", "Endereço Cobrança", "Município Cobrança",
-                        "Estado Cobrança", "CEP Cobrança"));
+        EXPECT_EQ(grid::headings(table), (Texts{"",
+                                                "Filial",
+                                                "Dt.de Vencimento",
+                                                "Dt.de Emissão",
+                                                "Nº do Documento",
+                                                "Cliente",
+                                                "Endereço",
+                                                "Vlr.do Documento",
+                                                "CEP",
+                                                "Município",
+                                                "Filial",
+                                                "CNPJ / CPF",
+                                                "I.E.",
+                                                "TP_PES",
+                                                "TP_DOCTO1",
+                                                "TP_DOCTO2",
+                                                "ID_NR_CTL",
+                                                "IC_REF_REC",
+                                                "NR_DOC_NF",
+                                                "Endereço Cobrança",
+                                                "Município Cobrança",
+                                                "Estado Cobrança",
+                                                "CEP Cobrança"}));
         for (int column = 0; column < table.model()->columnCount(); ++column) {
             EXPECT_FALSE(table.isColumnHidden(column)) << column + 1;
         }
@@ -122,11 +138,10 @@ TEST_F(FrmPesqDupliTest, TheGridShowsAllItsColumns) {
 TEST_F(FrmPesqDupliTest, TabGoesThroughTheFieldsThenTheButtons) {
     withScreen([&](QWidget& screen) {
         EXPECT_EQ(focused(screen), "cboFilial") << "txtCliente takes no typing";
-        EXPECT_THAT(
-            tabOrder(screen, "txtCliente", 15),
-            ElementsAre("txtCliente", "cboFilial", "cboTpDocto", "txtDtEmsDe", "txtDtEmsAte",
-                        "txtDtVncDe", "txtDtVncAte", "optDupl", "sprDados", "cmdPesquisar",
-                        "cmdPesqCli", "cmdLimpar", "cmdImprimir", "cmdVoltar", "txtCliente"));
+        EXPECT_EQ(tabOrder(screen, "txtCliente", 15),
+                  (Texts{"txtCliente", "cboFilial", "cboTpDocto", "txtDtEmsDe", "txtDtEmsAte",
+                         "txtDtVncDe", "txtDtVncAte", "optDupl", "sprDados", "cmdPesquisar",
+                         "cmdPesqCli", "cmdLimpar", "cmdImprimir", "cmdVoltar", "txtCliente"}));
     });
 }
 
@@ -134,10 +149,10 @@ TEST_F(FrmPesqDupliTest, WithoutTheBranchesItOpensWithAllOfThem) {
     ScriptedLoader outside;
     server = outside.failOn("sel_filiais").on("sel_dados_empresa", answers::branch("F"));
     withScreen([&](QWidget& screen) {
-        EXPECT_THAT(items(screen, "cboFilial"), ElementsAre("<-TODAS->=0"));
+        EXPECT_EQ(items(screen, "cboFilial"), (Texts{"<-TODAS->=0"}));
         EXPECT_THAT(items(screen, "cboTpDocto"), testing::SizeIs(3));
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
+    EXPECT_EQ(boxes.shown, (Boxes{noInternet9Wide}));
 }
 
 TEST_F(FrmPesqDupliTest, BranchesAsTheyCome) {
@@ -148,8 +163,8 @@ TEST_F(FrmPesqDupliTest, BranchesAsTheyCome) {
                                            "<z:row SG_FIL='B' ID_ETB_TARN='x'/>"
                                            "<z:row SG_FIL='C' ID_ETB_TARN='99999999999'/>"));
     withScreen([&](QWidget& screen) {
-        EXPECT_THAT(items(screen, "cboFilial"),
-                    ElementsAre("<-TODAS->=0", " <b>A =0", "=7", "B=0", "C=0"));
+        EXPECT_EQ(items(screen, "cboFilial"),
+                  (Texts{"<-TODAS->=0", " <b>A =0", "=7", "B=0", "C=0"}));
     });
 }
 
@@ -168,11 +183,11 @@ TEST_F(FrmPesqDupliTest, TheSearchWantsAKindThenADueDate) {
         click(screen, "cmdPesquisar");
         EXPECT_EQ(focused(screen), "txtDtVncAte");
         EXPECT_EQ(position(screen, "cboTpDocto"), bill) << "a box is no activation";
-        EXPECT_THAT(server.addresses, IsEmpty());
+        EXPECT_EQ(server.addresses, Texts{});
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(information("Tipo de Documento Obrigatório.     "),
-                                         information("Tipo de Documento Obrigatório.     "),
-                                         information("Data de Vencimento Obrigatória.     ")));
+    EXPECT_EQ(boxes.shown, (Boxes{information("Tipo de Documento Obrigatório.     "),
+                                  information("Tipo de Documento Obrigatório.     "),
+                                  information("Data de Vencimento Obrigatória.     ")}));
 }
 
 TEST_F(FrmPesqDupliTest, ASearchForAll) {
@@ -181,20 +196,19 @@ TEST_F(FrmPesqDupliTest, ASearchForAll) {
         server.addresses.clear();
         search(screen);
         search(screen, receipt);
-        EXPECT_THAT(
-            server.queries(),
-            ElementsAre("comando=sel_duplicata&ID_EMP_TARN=1361"
-                        "&ID_TIP_DOC=1,201,202,203,262,341,342,361&ID_PES_CLI=&ID_ETB_TARN="
-                        "&DT_VNC_DE=&DT_VNC_ATE=31/12/2012&DT_EMS_DE=&DT_EMS_ATE=&ID_PES_USU=77"
-                        "&ServerName=SRV1",
-                        "comando=sel_duplicata&ID_EMP_TARN=1361&ID_TIP_DOC=12&ID_PES_CLI="
-                        "&ID_ETB_TARN=&DT_VNC_DE=&DT_VNC_ATE=31/12/2012&DT_EMS_DE=&DT_EMS_ATE="
-                        "&ID_PES_USU=77&ServerName=SRV1"));
+        EXPECT_EQ(server.queries(),
+                  (Texts{"comando=sel_duplicata&ID_EMP_TARN=1361"
+                         "&ID_TIP_DOC=1,201,202,203,262,341,342,361&ID_PES_CLI=&ID_ETB_TARN="
+                         "&DT_VNC_DE=&DT_VNC_ATE=31/12/2012&DT_EMS_DE=&DT_EMS_ATE=&ID_PES_USU=77"
+                         "&ServerName=SRV1",
+                         "comando=sel_duplicata&ID_EMP_TARN=1361&ID_TIP_DOC=12&ID_PES_CLI="
+                         "&ID_ETB_TARN=&DT_VNC_DE=&DT_VNC_ATE=31/12/2012&DT_EMS_DE=&DT_EMS_ATE="
+                         "&ID_PES_USU=77&ServerName=SRV1"}));
         EXPECT_EQ(lines(screen), 2);
         EXPECT_EQ(cell(screen, 2, 5), "2");
         EXPECT_FALSE(ticked(screen, 1) || ticked(screen, 2));
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmPesqDupliTest, ASearchWithEverything) {
@@ -216,12 +230,12 @@ TEST_F(FrmPesqDupliTest, ASearchWithEverything) {
         type(screen, "txtDtVncDe", "5");
         type(screen, "txtDtVncAte", "311212");
         click(screen, "cmdPesquisar");
-        EXPECT_THAT(server.queries(),
-                    ElementsAre("comando=sel_duplicata&ID_EMP_TARN=1361"
-                                "&ID_TIP_DOC=1,201,202,203,262,341,342,361&ID_PES_CLI=0071"
-                                "&ID_ETB_TARN=12&DT_VNC_DE=05/03/2012&DT_VNC_ATE=31/12/2012"
-                                "&DT_EMS_DE=01/01/2012&DT_EMS_ATE=31/01/2012&ID_PES_USU=77"
-                                "&ServerName=SRV1"));
+        EXPECT_EQ(server.queries(),
+                  (Texts{"comando=sel_duplicata&ID_EMP_TARN=1361"
+                         "&ID_TIP_DOC=1,201,202,203,262,341,342,361&ID_PES_CLI=0071"
+                         "&ID_ETB_TARN=12&DT_VNC_DE=05/03/2012&DT_VNC_ATE=31/12/2012"
+                         "&DT_EMS_DE=01/01/2012&DT_EMS_ATE=31/01/2012&ID_PES_USU=77"
+                         "&ServerName=SRV1"}));
     });
 }
 
@@ -292,13 +306,13 @@ TEST_F(FrmPesqDupliTest, EnterPressesOnlyAButtonThatHasTheFocus) {
             named<QWidget>(screen, name).setFocus();
             key(screen, Qt::Key_Return);
         }
-        EXPECT_THAT(server.addresses, IsEmpty());
+        EXPECT_EQ(server.addresses, Texts{});
         EXPECT_TRUE(screen.isVisible());
         named<QWidget>(screen, "cmdPesquisar").setFocus();
         key(screen, Qt::Key_Return);
         EXPECT_EQ(server.addresses.size(), 1U);
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmPesqDupliTest, ReceiptsHideTheKindOfBillUntilTheNextSearchForBills) {
@@ -335,7 +349,7 @@ TEST_F(FrmPesqDupliTest, AFailedSearchLeavesTheGrid) {
         EXPECT_TRUE(ticked(screen, 2));
         EXPECT_FALSE(named<QWidget>(screen, "optDupl").isVisible());
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
+    EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
 }
 
 TEST_F(FrmPesqDupliTest, NothingFoundEmptiesTheGridInSilence) {
@@ -349,7 +363,7 @@ TEST_F(FrmPesqDupliTest, NothingFoundEmptiesTheGridInSilence) {
             EXPECT_EQ(lines(screen), expected);
         }
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmPesqDupliTest, TicksByMouseKeyAndHeading) {
@@ -390,7 +404,7 @@ TEST_F(FrmPesqDupliTest, CmdLimparEmptiesTheCustomerAlone) {
         EXPECT_EQ(position(screen, "cboTpDocto"), bill);
         EXPECT_EQ(shown(screen, "txtDtVncAte"), "31/12/2012");
         EXPECT_EQ(lines(screen), 1);
-        EXPECT_THAT(server.addresses, IsEmpty());
+        EXPECT_EQ(server.addresses, Texts{});
         click(screen, "cmdPesquisar");
         EXPECT_NE(server.queries().back().find("&ID_PES_CLI=&"), std::string::npos);
     });
@@ -404,7 +418,7 @@ TEST_F(FrmPesqDupliTest, TheCustomerDialogActivatesTheScreenAgain) {
         clickCell(screen, 1, 1);
         server.addresses.clear();
         withCustomers(screen, [](QWidget& dialog) { click(dialog, "cmdVoltar"); });
-        EXPECT_THAT(server.queries(), ElementsAre(branchesQuery));
+        EXPECT_EQ(server.queries(), (Texts{branchesQuery}));
         EXPECT_EQ(position(screen, "cboFilial"), 0) << "the choices are lost";
         EXPECT_EQ(position(screen, "cboTpDocto"), 0);
         EXPECT_EQ(shown(screen, "txtDtVncAte"), "31/12/2012");
@@ -428,7 +442,7 @@ TEST_F(FrmPesqDupliTest, PicturesAreReadOnEachActivation) {
         EXPECT_TRUE(show(screen, "picLogo") && show(screen, "picAss"));
         EXPECT_FALSE(show(screen, "picVert"));
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmPesqDupliTest, EachWayOutUnloadsIt) {
@@ -447,7 +461,7 @@ TEST_F(FrmPesqDupliTest, EachWayOutUnloadsIt) {
             out(screen);
             EXPECT_FALSE(screen.isVisible());
         });
-        EXPECT_THAT(server.queries(), ElementsAre(deskQuery));
+        EXPECT_EQ(server.queries(), (Texts{deskQuery}));
     }
     EXPECT_FALSE(end.ended());
 }
@@ -504,7 +518,7 @@ TEST_F(FrmPesqDupliTest, APictureOfVeryManyDotsIsShownToo) {
         EXPECT_FALSE(show(screen, "picVert")) << "no picture";
     });
     QImageReader::setAllocationLimit(usual);
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmPesqDupliTest, AReaderSpeaksOfWhatAreDatesAndTicks) {

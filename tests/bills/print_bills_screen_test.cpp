@@ -1,4 +1,6 @@
 // Printing from FrmPesqDupli, to a recording printer and to paper.
+#include <gmock/gmock.h>
+
 #include <QDir>
 #include <QProcess>
 #include <QProgressBar>
@@ -6,13 +8,12 @@
 
 #include "platform/qt/qt_printer.h"
 #include "tests/bills/bill_screen_test.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
 
 using testing::Contains;
-using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::Not;
 
 class PrintBillsScreenTest : public BillScreenTest {
@@ -58,7 +59,7 @@ TEST_F(PrintBillsScreenTest, TheTickedRowsInTheGridsOrder) {
         clickCell(screen, 3, 1);
         clickCell(screen, 1, 1);
         click(screen, "cmdImprimir");
-        EXPECT_THAT(server.queries(), ElementsAre(deskQuery));
+        EXPECT_EQ(server.queries(), (Texts{deskQuery}));
         EXPECT_TRUE(ticked(screen, 1) && !ticked(screen, 2) && ticked(screen, 3)) << "ticks stay";
         EXPECT_EQ(focused(screen), "cmdImprimir");
     });
@@ -67,8 +68,7 @@ TEST_F(PrintBillsScreenTest, TheTickedRowsInTheGridsOrder) {
     EXPECT_LT(std::ranges::find(done, numberOnPage(1)), std::ranges::find(done, numberOnPage(3)));
     EXPECT_THAT(done, Not(Contains(numberOnPage(2))));
     EXPECT_THAT(done, Contains(acceptance));
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(information("Duplicata(s)  impressa(s) com sucesso!     ")));
+    EXPECT_EQ(boxes.shown, (Boxes{information("Duplicata(s)  impressa(s) com sucesso!     ")}));
 }
 
 TEST_F(PrintBillsScreenTest, NothingTicked) {
@@ -78,11 +78,11 @@ TEST_F(PrintBillsScreenTest, NothingTicked) {
         click(screen, "cmdImprimir");
         search(screen);
         click(screen, "cmdImprimir");
-        EXPECT_THAT(server.queries(), ElementsAre(deskQuery));
+        EXPECT_EQ(server.queries(), (Texts{deskQuery}));
     });
-    EXPECT_THAT(printer.operations, IsEmpty());
-    EXPECT_THAT(boxes.shown, ElementsAre(information("Selecione um documento.     "),
-                                         information("Selecione um documento.     ")));
+    EXPECT_THAT(printer.operations, testing::IsEmpty());
+    EXPECT_EQ(boxes.shown, (Boxes{information("Selecione um documento.     "),
+                                  information("Selecione um documento.     ")}));
 }
 
 TEST_F(PrintBillsScreenTest, TheOptionDecidesAlsoWhereItIsHidden) {
@@ -95,8 +95,7 @@ TEST_F(PrintBillsScreenTest, TheOptionDecidesAlsoWhereItIsHidden) {
         click(screen, "cmdImprimir");
     });
     EXPECT_THAT(printer.lines(), Contains(triplicateAcceptance).Times(2));
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(information("Triplicata(s)  impressa(s) com sucesso!     ")));
+    EXPECT_EQ(boxes.shown, (Boxes{information("Triplicata(s)  impressa(s) com sucesso!     ")}));
 }
 
 TEST_F(PrintBillsScreenTest, TypesThatTheSearchForBillsBringsToo) {
@@ -107,7 +106,7 @@ TEST_F(PrintBillsScreenTest, TypesThatTheSearchForBillsBringsToo) {
         click(screen, "cmdImprimir");
     });
     EXPECT_THAT(printer.lines(), Contains("text\t9.300\t4.500\tArial\t16\t1\tRECIBO").Times(3));
-    EXPECT_THAT(boxes.shown, ElementsAre(information("Recibo(s) impresso(s) com sucesso!     ")));
+    EXPECT_EQ(boxes.shown, (Boxes{information("Recibo(s) impresso(s) com sucesso!     ")}));
 }
 
 TEST_F(PrintBillsScreenTest, ThePicturesAreThoseOfTheLastActivation) {
@@ -138,9 +137,8 @@ TEST_F(PrintBillsScreenTest, APrinterThatRefusesIsToldAndTheScreenStays) {
         EXPECT_TRUE(ticked(screen, 1));
         click(screen, "cmdImprimir");
     });
-    EXPECT_THAT(
-        boxes.shown,
-        ElementsAre(printerRefused, information("Duplicata(s)  impressa(s) com sucesso!     ")));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{printerRefused, information("Duplicata(s)  impressa(s) com sucesso!     ")}));
 }
 
 TEST_F(PrintBillsScreenTest, WithoutTheCompanyTheProgramEndsWithTheReport) {
@@ -154,7 +152,7 @@ TEST_F(PrintBillsScreenTest, WithoutTheCompanyTheProgramEndsWithTheReport) {
         EXPECT_EQ(boxes.shown[1].text.rfind("Erro em tempo de execução '91':\r\r", 0), 0U);
     });
     EXPECT_EQ(end.status(), 3);
-    EXPECT_THAT(printer.operations, IsEmpty());
+    EXPECT_THAT(printer.operations, testing::IsEmpty());
 }
 
 TEST_F(PrintBillsScreenTest, ARowWithoutAnAmountEndsTheProgramWithTheReport) {
@@ -239,8 +237,7 @@ TEST_F(PrintBillsScreenTest, FiveHundredDocumentsOnPaperShowTheirProgress) {
         click(screen, "cmdVoltar");
     });
     choose(other, "mnuDuplicata");
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(information("Duplicata(s)  impressa(s) com sucesso!     ")));
+    EXPECT_EQ(boxes.shown, (Boxes{information("Duplicata(s)  impressa(s) com sucesso!     ")}));
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"job-001.pdf"});
     QProcess info;
     info.start(QStringLiteral("pdfinfo"), {folder.filePath(QStringLiteral("job-001.pdf"))});

@@ -1,11 +1,11 @@
 // The cheque's screen under the clerk's hands: keys, mouse, clipboard.
+#include <gmock/gmock.h>
+
 #include "tests/cheques/frm_cheque_fixture.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr std::array<const char*, 7> fields{"cboBancoAgConta", "txtNumeroCheque", "txtSerie",
                                             "txtValor",        "txtFavorecido",   "txtDtDeposito",
@@ -69,11 +69,11 @@ TEST_F(FrmChequeTest, EnterMovesOnAndBeepsWhereKeysAreNumbers) {
             EXPECT_EQ(focused(screen), stroke.arrives);
             EXPECT_EQ(machine.beeps, stroke.beeps) << "on the way to " << stroke.arrives;
         }
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck, usualCheck));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck, usualCheck}));
         EXPECT_EQ(account(screen), 1) << "no list opened";
         expectFilled(screen);
         key(screen, Qt::Key_Enter);
-        EXPECT_THAT(boxes.shown, ElementsAre(success)) << "on the button it is a click";
+        EXPECT_EQ(boxes.shown, (Boxes{success})) << "on the button it is a click";
     });
 }
 
@@ -159,7 +159,7 @@ TEST_F(FrmChequeTest, TheAmountIsSelectedAndFormatted) {
         key(screen, Qt::Key_Tab);
         EXPECT_EQ(text(screen, "txtValor"), "");
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmChequeTest, AnAmountOverTheLimitIsRefusedOnLeaving) {
@@ -168,18 +168,18 @@ TEST_F(FrmChequeTest, AnAmountOverTheLimitIsRefusedOnLeaving) {
         type(screen, "txtValor", "10000000000000");
         key(screen, Qt::Key_Tab);
         settle();
-        EXPECT_THAT(boxes.shown, ElementsAre(refused));
+        EXPECT_EQ(boxes.shown, (Boxes{refused}));
         EXPECT_EQ(text(screen, "txtValor"), "10000000000000") << "the text stays";
         EXPECT_EQ(named<QLineEdit>(screen, "txtValor").selectedText(),
                   QStringLiteral("10000000000000"));
         EXPECT_EQ(focused(screen), "txtValor");
         click(screen, "cmdImprimir");
         settle();
-        EXPECT_THAT(boxes.shown, ElementsAre(refused, refused)) << "the click doesn't count";
-        EXPECT_THAT(server.queries(), IsEmpty());
+        EXPECT_EQ(boxes.shown, (Boxes{refused, refused})) << "the click doesn't count";
+        EXPECT_EQ(server.queries(), Texts{});
         type(screen, "txtValor", "1");
     });
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(FrmChequeTest, ADateThatIsNoneIsEmptiedAndTheClickDoesntCount) {
@@ -190,18 +190,18 @@ TEST_F(FrmChequeTest, ADateThatIsNoneIsEmptiedAndTheClickDoesntCount) {
         type(screen, "txtDtDeposito", "31022012");
         click(screen, "cmdImprimir");
         settle();
-        EXPECT_THAT(boxes.shown, ElementsAre(refused));
+        EXPECT_EQ(boxes.shown, (Boxes{refused}));
         boxes.onShow = {};
         EXPECT_EQ(underBox, "31/02/2012");
         EXPECT_EQ(text(screen, "txtDtDeposito"), "");
         EXPECT_EQ(focused(screen), "txtDtDeposito");
-        EXPECT_THAT(server.queries(), IsEmpty());
+        EXPECT_EQ(server.queries(), Texts{});
         keys(*screen.focusWidget(), "1604");
         key(screen, Qt::Key_Return);
         EXPECT_EQ(text(screen, "txtDtDeposito"), "16/04/2012");
         EXPECT_EQ(focused(screen), "txtObservacao");
     });
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(FrmChequeTest, TheDateIsEditedWithoutItsSlashes) {
@@ -213,7 +213,7 @@ TEST_F(FrmChequeTest, TheDateIsEditedWithoutItsSlashes) {
         key(screen, Qt::Key_Tab);
         EXPECT_EQ(text(screen, "txtDtDeposito"), "15/03/2012");
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmChequeTest, FieldsOfNumbersTakeNothingElse) {
@@ -227,7 +227,7 @@ TEST_F(FrmChequeTest, FieldsOfNumbersTakeNothingElse) {
         key(screen, Qt::Key_Tab);
         EXPECT_EQ(text(screen, "txtValor"), "1.234,50");
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmChequeTest, TheObservationStaysOneParagraph) {
@@ -251,7 +251,7 @@ TEST_F(FrmChequeTest, ADoubleClickPrintsOneCheque) {
         QTest::mouseDClick(screen.windowHandle(), Qt::LeftButton, {},
                            button.mapTo(&screen, button.rect().center()));
         settle();
-        EXPECT_THAT(boxes.shown, ElementsAre(success)) << "the second click is none";
+        EXPECT_EQ(boxes.shown, (Boxes{success})) << "the second click is none";
     });
     EXPECT_EQ(spooler.jobs.size(), 1U);
 }
@@ -267,10 +267,10 @@ TEST_F(FrmChequeTest, EnterHeldDownMovesNothing) {
             settle();
         }
         EXPECT_EQ(focused(screen), "txtFavorecido");
-        EXPECT_THAT(server.queries(), IsEmpty());
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(server.queries(), Texts{});
+        EXPECT_EQ(boxes.shown, Boxes{});
     });
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(FrmChequeTest, EscClosesNothing) {
@@ -287,13 +287,12 @@ TEST_F(FrmChequeTest, AClickThatLeavesTheSeriesCountsAfterItsCheck) {
         mouse(screen, "cmdImprimir", true);
         settle();
         EXPECT_EQ(focused(screen), "cmdImprimir");
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck}));
         EXPECT_TRUE(named<QPushButton>(screen, "cmdImprimir").isDown());
         mouse(screen, "cmdImprimir", false);
         settle();
-        EXPECT_THAT(server.queries(),
-                    ElementsAre(usualCheck, usualCheck, companyQuery, usualRecord));
-        EXPECT_THAT(boxes.shown, ElementsAre(success));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck, usualCheck, companyQuery, usualRecord}));
+        EXPECT_EQ(boxes.shown, (Boxes{success}));
     });
 }
 
@@ -302,10 +301,10 @@ TEST_F(FrmChequeTest, AClickIntoAnotherFieldIsALeaving) {
         named<QWidget>(screen, "txtNumeroCheque").setFocus();
         mouse(screen, "txtFavorecido", true);
         settle();
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck}));
         mouse(screen, "txtFavorecido", false);
         settle();
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck}));
         EXPECT_EQ(focused(screen), "txtFavorecido");
     });
 }
@@ -314,7 +313,7 @@ TEST_F(FrmChequeTest, OpeningTheListAsksAboutTheAccountThatWasLeft) {
     useFilled([&](QWidget& screen) {
         named<QWidget>(screen, "txtNumeroCheque").setFocus();
         chooseAccount(screen, 2);
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck}));
     });
 }
 
@@ -325,35 +324,35 @@ TEST_F(FrmChequeTest, EachOfTwoLeavingsInARowIsAskedAbout) {
         QTest::keyClick(screen.focusWidget(), Qt::Key_Return);
         settle();
         EXPECT_EQ(focused(screen), "txtValor");
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck, usualCheck));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck, usualCheck}));
     });
 }
 
 TEST_F(FrmChequeTest, ClosingAsksNothingAndPrintsNothing) {
     useFilled([&](QWidget& screen) { named<QWidget>(screen, "txtNumeroCheque").setFocus(); });
-    EXPECT_THAT(server.queries(), ElementsAre(companyQuery)) << "of the desk";
+    EXPECT_EQ(server.queries(), (Texts{companyQuery})) << "of the desk";
     useFilled([&](QWidget& screen) {
         named<QWidget>(screen, "txtNumeroCheque").setFocus();
         screen.close();
         EXPECT_FALSE(screen.isVisible());
-        EXPECT_THAT(server.queries(), IsEmpty());
+        EXPECT_EQ(server.queries(), Texts{});
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(FrmChequeTest, TheCancelButtonClosesAndAClickOnItLeavesTheField) {
     useFilled([&](QWidget& screen) {
         click(screen, "cmdCancelar");
         EXPECT_FALSE(screen.isVisible());
-        EXPECT_THAT(server.queries(), IsEmpty());
+        EXPECT_EQ(server.queries(), Texts{});
     });
     server.on("seleciona_um_controle_cheque_emitido", answers::rowset("<z:row/>"));
     useFilled([&](QWidget& screen) {
         named<QWidget>(screen, "txtNumeroCheque").setFocus();
         click(screen, "cmdCancelar");
         EXPECT_FALSE(screen.isVisible());
-        EXPECT_THAT(boxes.shown, ElementsAre(taken));
+        EXPECT_EQ(boxes.shown, (Boxes{taken}));
     });
     EXPECT_FALSE(end.ended());
 }
@@ -381,7 +380,7 @@ TEST_F(FrmChequeTest, CtrlEnterPrintsOnceTheFieldBeingTypedInIsChecked) {
         EXPECT_EQ(queries[0], checkQuery("77", "AÇ1")) << "on leaving the field";
         EXPECT_EQ(queries[1], checkQuery("77", "AÇ1")) << "before printing";
         EXPECT_EQ(spooler.jobs.size(), 1U);
-        EXPECT_THAT(boxes.shown, testing::ElementsAre(success));
+        EXPECT_EQ(boxes.shown, (Boxes{success}));
     });
 }
 
@@ -390,8 +389,8 @@ TEST_F(FrmChequeTest, ADateRefusedStopsTheKeyAndCtrlWClosesTheScreen) {
         type(screen, "txtDtDeposito", "31022012");
         atLeisure([&] { QTest::keyClick(screen.focusWidget(), Qt::Key_P, Qt::ControlModifier); });
         settle();
-        EXPECT_THAT(boxes.texts(), testing::ElementsAre("Data Inválida.      "));
-        EXPECT_THAT(server.addresses, testing::IsEmpty());
+        EXPECT_EQ(boxes.texts(), (Texts{"Data Inválida.      "}));
+        EXPECT_EQ(server.addresses, Texts{});
         EXPECT_EQ(focused(screen), "txtDtDeposito");
         QTest::keyClick(screen.focusWidget(), Qt::Key_W, Qt::ControlModifier);
         EXPECT_FALSE(screen.isVisible());

@@ -1,12 +1,12 @@
 #include "cheques/frm_cheque.h"
 
+#include <gmock/gmock.h>
+
 #include "tests/cheques/frm_cheque_fixture.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 TEST_F(FrmChequeTest, OpensWithTheAccountsAndTheSessionsDate) {
     use([&](QWidget& screen) {
@@ -19,9 +19,9 @@ TEST_F(FrmChequeTest, OpensWithTheAccountsAndTheSessionsDate) {
         for (int i = 0; i < list.count(); ++i) {
             items.emplace_back(list.itemText(i).toStdString(), list.itemData(i).toInt());
         }
-        EXPECT_THAT(items, ElementsAre(std::pair{"------------", 0},
-                                       std::pair{"ITAU - 0123 - 4567-8 - MATRIZ", 901},
-                                       std::pair{"SANTANDER - 9 - 1", 902}));
+        EXPECT_THAT(items, testing::ElementsAre(std::pair{"------------", 0},
+                                                std::pair{"ITAU - 0123 - 4567-8 - MATRIZ", 901},
+                                                std::pair{"SANTANDER - 9 - 1", 902}));
         EXPECT_EQ(account(screen), 0);
         EXPECT_EQ(text(screen, "txtDtDeposito"), "15/03/2012");
         for (const char* empty : {"txtNumeroCheque", "txtSerie", "txtValor", "txtFavorecido"}) {
@@ -30,24 +30,24 @@ TEST_F(FrmChequeTest, OpensWithTheAccountsAndTheSessionsDate) {
         EXPECT_EQ(purposeOf(screen), "");
         EXPECT_EQ(focused(screen), "cboBancoAgConta");
     });
-    EXPECT_THAT(onOpening, ElementsAre(rightQuery, accountsQuery));
-    EXPECT_THAT(server.queries(), ElementsAre(companyQuery)) << "the desk is active again";
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(onOpening, (Texts{rightQuery, accountsQuery}));
+    EXPECT_EQ(server.queries(), (Texts{companyQuery})) << "the desk is active again";
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmChequeTest, WithoutTheRightItDoesntOpen) {
     server.on("ServerName=SRV1&sTransacao=EMI005", answers::status("Sem direito a cheques. "));
     choose(menu, "mnuCheque", "mnuChequeImpressao");
-    EXPECT_THAT(boxes.shown, ElementsAre(exclamation("Sem direito a cheques. ")));
-    EXPECT_THAT(server.queries(), ElementsAre(rightQuery));
+    EXPECT_EQ(boxes.shown, (Boxes{exclamation("Sem direito a cheques. ")}));
+    EXPECT_EQ(server.queries(), (Texts{rightQuery}));
     EXPECT_EQ(modals.taken(), 0);
 }
 
 TEST_F(FrmChequeTest, PrintsThenRecordsAndKeepsWhatTheNextChequeNeeds) {
     useFilled([&](QWidget& screen) {
         click(screen, "cmdImprimir");
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck, companyQuery, usualRecord));
-        EXPECT_THAT(boxes.shown, ElementsAre(success));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck, companyQuery, usualRecord}));
+        EXPECT_EQ(boxes.shown, (Boxes{success}));
         EXPECT_EQ(account(screen), 1);
         EXPECT_EQ(text(screen, "txtSerie"), "aç1");
         EXPECT_EQ(text(screen, "txtDtDeposito"), "15/03/2012");
@@ -82,10 +82,10 @@ TEST_F(FrmChequeTest, TheNextNumberOfTheBookCanBeTypedAtOnce) {
         keys(*screen.focusWidget(), "000124");
         key(screen, Qt::Key_Tab);
         settle();
-        EXPECT_THAT(server.queries(), ElementsAre(checkQuery("000124", "AÇ1")));
+        EXPECT_EQ(server.queries(), (Texts{checkQuery("000124", "AÇ1")}));
         type(screen, "txtValor", "100");
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(success, success));
+        EXPECT_EQ(boxes.shown, (Boxes{success, success}));
         EXPECT_THAT(server.queries().back(), recordQuery("000124", "100,00", "", ""));
     });
     EXPECT_EQ(spooler.jobs.size(), 2U);
@@ -96,7 +96,7 @@ TEST_F(FrmChequeTest, TheClicksTestsInTheirOrderAndWhereTheFocusGoes) {
         const auto refuses = [&](const char* focus, const char* message) {
             boxes.shown.clear();
             click(screen, "cmdImprimir");
-            EXPECT_THAT(boxes.shown, ElementsAre(exclamation(message)));
+            EXPECT_EQ(boxes.shown, (Boxes{exclamation(message)}));
             EXPECT_EQ(focused(screen), focus);
         };
         chooseAccount(screen, 0);
@@ -110,7 +110,7 @@ TEST_F(FrmChequeTest, TheClicksTestsInTheirOrderAndWhereTheFocusGoes) {
         refuses("txtNumeroCheque", "Nº Cheque é um campo obrigatório. ");
         type(screen, "txtNumeroCheque", "000123");
         refuses("txtSerie", "Série é um campo obrigatório. ");
-        EXPECT_THAT(server.queries(), IsEmpty()) << "a blank series isn't filled in";
+        EXPECT_EQ(server.queries(), Texts{}) << "a blank series isn't filled in";
         type(screen, "txtSerie", "aç1");
         named<QWidget>(screen, "cmdCancelar").setFocus();
         settle();
@@ -124,11 +124,11 @@ TEST_F(FrmChequeTest, TheClicksTestsInTheirOrderAndWhereTheFocusGoes) {
                 "100,00. ");
         type(screen, "txtFavorecido", "M");
         refuses("txtDtDeposito", "Data para Depósito é um campo obrigatório. ");
-        EXPECT_THAT(server.queries(), IsEmpty());
+        EXPECT_EQ(server.queries(), Texts{});
         type(screen, "txtDtDeposito", "15032012");
         boxes.shown.clear();
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(success));
+        EXPECT_EQ(boxes.shown, (Boxes{success}));
     });
     EXPECT_EQ(spooler.jobs.size(), 1U);
 }
@@ -139,15 +139,15 @@ TEST_F(FrmChequeTest, AHundredNeedsNoPayeeAndACentMoreDoes) {
         type(screen, "txtValor", "100,01");
         click(screen, "cmdImprimir");
         EXPECT_EQ(focused(screen), "txtFavorecido");
-        EXPECT_THAT(server.queries(), IsEmpty());
-        EXPECT_THAT(spooler.jobs, IsEmpty());
+        EXPECT_EQ(server.queries(), Texts{});
+        EXPECT_THAT(spooler.jobs, testing::IsEmpty());
         type(screen, "txtValor", "100");
         boxes.shown.clear();
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(success));
-        EXPECT_THAT(server.queries(),
-                    ElementsAre(usualCheck, companyQuery,
-                                recordQuery("000123", "100,00", "", "COMPRA DE PEÇAS")));
+        EXPECT_EQ(boxes.shown, (Boxes{success}));
+        EXPECT_EQ(server.queries(),
+                  (Texts{usualCheck, companyQuery,
+                         recordQuery("000123", "100,00", "", "COMPRA DE PEÇAS")}));
     });
     ASSERT_EQ(spooler.jobs.size(), 1U);
     EXPECT_EQ(spooler.jobs[0].writes.at(4), "     \r\n\r\n");
@@ -157,20 +157,20 @@ TEST_F(FrmChequeTest, ATakenNumberStopsTheClick) {
     server.on("seleciona_um_controle_cheque_emitido", answers::rowset("<z:row NR_CHE='000123'/>"));
     useFilled([&](QWidget& screen) {
         click(screen, "cmdImprimir");
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck));
-        EXPECT_THAT(boxes.shown, ElementsAre(taken));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck}));
+        EXPECT_EQ(boxes.shown, (Boxes{taken}));
         EXPECT_EQ(focused(screen), "txtNumeroCheque");
         expectFilled(screen);
     });
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(FrmChequeTest, AFailedCheckLetsThePrintThrough) {
     server.failOn("seleciona_um_controle_cheque_emitido");
     useFilled([&](QWidget& screen) {
         click(screen, "cmdImprimir");
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck, companyQuery, usualRecord));
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide, success));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck, companyQuery, usualRecord}));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9Wide, success}));
     });
     EXPECT_EQ(spooler.jobs.size(), 1U);
 }
@@ -181,13 +181,13 @@ TEST_F(FrmChequeTest, WithoutTheTownNothingIsPrinted) {
         without.on("seleciona_um", answers::rowset("")).failOn("sel_dados_empresa");
         server = without;
         click(screen, "cmdImprimir");
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck, companyQuery));
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck, companyQuery}));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
         expectFilled(screen);
         EXPECT_EQ(focused(screen), "cmdImprimir") << "the focus isn't moved";
         server.on("sel_dados_empresa&Id_Etb_Tarn", answers::branch("F"));
     });
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(FrmChequeTest, ARecordThatFailsAfterThePrintLeavesTheFields) {
@@ -195,12 +195,12 @@ TEST_F(FrmChequeTest, ARecordThatFailsAfterThePrintLeavesTheFields) {
         .on("adiciona_controle_cheque_emitido", answers::status("OK"));
     useFilled([&](QWidget& screen) {
         click(screen, "cmdImprimir");
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck, companyQuery, usualRecord));
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck, companyQuery, usualRecord}));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
         EXPECT_EQ(spooler.jobs.size(), 1U);
         expectFilled(screen);
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, success));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9, success}));
         EXPECT_EQ(spooler.jobs.size(), 2U) << "printed again";
         EXPECT_EQ(spooler.bytes(0), spooler.bytes(1));
     });
@@ -210,7 +210,7 @@ TEST_F(FrmChequeTest, ARefusedRecordShowsTheServersWordsAndLeavesTheFields) {
     server.on("adiciona_controle_cheque_emitido", answers::status("Talão &lt;b&gt; bloqueado"));
     useFilled([&](QWidget& screen) {
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(exclamation("Talão <b> bloqueado")));
+        EXPECT_EQ(boxes.shown, (Boxes{exclamation("Talão <b> bloqueado")}));
         expectFilled(screen);
         EXPECT_EQ(focused(screen), "cmdImprimir") << "the focus isn't moved";
     });
@@ -239,17 +239,17 @@ TEST_F(FrmChequeTest, ABankCodeThatIsNoNumberEndsTheProgramBeforeThePrint) {
         EXPECT_EQ(boxes.shown[0].text.rfind("Erro em tempo de execução '13'", 0), 0U);
         EXPECT_EQ(end.status(), 3);
     });
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(FrmChequeTest, APrinterThatFailsIsNotNoticed) {
     spooler.failOpen = 0;
     useFilled([&](QWidget& screen) {
         click(screen, "cmdImprimir");
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck, companyQuery, usualRecord));
-        EXPECT_THAT(boxes.shown, ElementsAre(success));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck, companyQuery, usualRecord}));
+        EXPECT_EQ(boxes.shown, (Boxes{success}));
     });
-    EXPECT_THAT(spooler.jobs, IsEmpty());
+    EXPECT_THAT(spooler.jobs, testing::IsEmpty());
 }
 
 TEST_F(FrmChequeTest, AnotherAccountsChequeGoesToItsBank) {
@@ -268,22 +268,21 @@ TEST_F(FrmChequeTest, AnotherAccountsChequeGoesToItsBank) {
 TEST_F(FrmChequeTest, AFailedListLeavesNoAccountToChoose) {
     server.failOn("sel_banco_agencia_conta&ID_EMP");
     use([&](QWidget& screen) {
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9Wide}));
         EXPECT_EQ(named<QComboBox>(screen, "cboBancoAgConta").count(), 0);
         EXPECT_EQ(text(screen, "txtDtDeposito"), "15/03/2012") << "the load goes on";
         type(screen, "txtNumeroCheque", "000123");
         type(screen, "txtSerie", "aç1");
         key(screen, Qt::Key_Tab);
         settle();
-        EXPECT_THAT(server.queries(),
-                    ElementsAre(checkQuery("000123", "AÇ1", "&Id_Pes_Ban=0&Cd_Age_Ban=&Nr_Ccor=")));
+        EXPECT_EQ(server.queries(),
+                  (Texts{checkQuery("000123", "AÇ1", "&Id_Pes_Ban=0&Cd_Age_Ban=&Nr_Ccor=")}));
         boxes.shown.clear();
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown,
-                    ElementsAre(exclamation("Banco/Ag./Conta é um campo obrigatório. ")));
+        EXPECT_EQ(boxes.shown, (Boxes{exclamation("Banco/Ag./Conta é um campo obrigatório. ")}));
         EXPECT_EQ(focused(screen), "cboBancoAgConta");
     });
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(FrmChequeTest, ComingBackFromTheTaskBarKeepsTheFocus) {
@@ -304,16 +303,16 @@ TEST_F(FrmChequeTest, ATakenNumberIsToldOnLeavingEitherField) {
     useFilled([&](QWidget& screen) {
         named<QWidget>(screen, "txtNumeroCheque").setFocus();
         settle();
-        EXPECT_THAT(server.queries(), IsEmpty());
+        EXPECT_EQ(server.queries(), Texts{});
         key(screen, Qt::Key_Tab);
         settle();
-        EXPECT_THAT(boxes.shown, ElementsAre(taken));
+        EXPECT_EQ(boxes.shown, (Boxes{taken}));
         EXPECT_EQ(focused(screen), "txtSerie") << "where the user was going";
         key(screen, Qt::Key_Return);
         settle();
-        EXPECT_THAT(boxes.shown, ElementsAre(taken, taken));
+        EXPECT_EQ(boxes.shown, (Boxes{taken, taken}));
         EXPECT_EQ(focused(screen), "txtValor");
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck, usualCheck));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck, usualCheck}));
         expectFilled(screen);
     });
 }
@@ -330,9 +329,9 @@ TEST_F(FrmChequeTest, NothingIsAskedWhileNumberOrSeriesIsBlank) {
         type(screen, "txtSerie", "A");
         key(screen, Qt::Key_Tab);
         settle();
-        EXPECT_THAT(server.queries(), IsEmpty());
+        EXPECT_EQ(server.queries(), Texts{});
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmChequeTest, AFailedCheckOnLeavingIsToldByTheGatewayAlone) {
@@ -341,7 +340,7 @@ TEST_F(FrmChequeTest, AFailedCheckOnLeavingIsToldByTheGatewayAlone) {
         named<QWidget>(screen, "txtSerie").setFocus();
         key(screen, Qt::Key_Tab);
         settle();
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9Wide}));
         EXPECT_EQ(focused(screen), "txtValor");
     });
 }
@@ -352,11 +351,11 @@ TEST_F(FrmChequeTest, AClickOnThePrintButtonLeavesTheFieldFirst) {
         named<QWidget>(screen, "txtSerie").setFocus();
         click(screen, "cmdImprimir");
         settle();
-        EXPECT_THAT(server.queries(), ElementsAre(usualCheck, usualCheck));
-        EXPECT_THAT(boxes.shown, ElementsAre(taken, taken));
+        EXPECT_EQ(server.queries(), (Texts{usualCheck, usualCheck}));
+        EXPECT_EQ(boxes.shown, (Boxes{taken, taken}));
         EXPECT_EQ(focused(screen), "txtNumeroCheque");
     });
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 }  // namespace

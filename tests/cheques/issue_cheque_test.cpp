@@ -8,12 +8,12 @@
 #include "tests/support/boxes.h"
 #include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr char accountsQuery[] =
     "comando=sel_banco_agencia_conta&ID_EMP_TARN=2041&ID_ETB_TARN=6001&UserCode=77&IC_ATV_INA=A"
@@ -87,15 +87,15 @@ TEST_F(IssueChequeTest, TheListOfAccounts) {
         shown.push_back(account.description);
         data.push_back(account.ID_PES_BAN);
     }
-    EXPECT_THAT(shown, ElementsAre("------------", "ITAU - 0123 - 4567-8 - MATRIZ",
-                                   "SANTANDER - 9 - 1", "C - 2 - 3 - ", " -  - "));
+    EXPECT_EQ(shown, (Texts{"------------", "ITAU - 0123 - 4567-8 - MATRIZ", "SANTANDER - 9 - 1",
+                            "C - 2 - 3 - ", " -  - "}));
     EXPECT_THAT(data, ElementsAre(0, 901, -902, 0, 0));
     EXPECT_EQ(accounts->at(1).CD_AGE_BAN, "0123");
     EXPECT_EQ(accounts->at(1).NR_CCOR, "4567-8");
     EXPECT_EQ(accounts->at(1).NR_OFI_BAN, "341");
     EXPECT_EQ(accounts->at(4).NR_OFI_BAN, "");
-    EXPECT_THAT(queries(), ElementsAre(accountsQuery));
-    EXPECT_THAT(seams_.boxes.shown, IsEmpty());
+    EXPECT_EQ(queries(), (Texts{accountsQuery}));
+    EXPECT_EQ(seams_.boxes.shown, Boxes{});
 }
 
 TEST_F(IssueChequeTest, WithoutAccountsTheListHasItsFirstItem) {
@@ -111,7 +111,7 @@ TEST_F(IssueChequeTest, WithoutAccountsTheListHasItsFirstItem) {
 TEST_F(IssueChequeTest, AFailedListIsNone) {
     seams_.loader.failOn("sel_banco_agencia_conta");
     EXPECT_FALSE(loadAccounts(environment_, session_));
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(noInternet9Wide));
+    EXPECT_EQ(seams_.boxes.shown, (Boxes{noInternet9Wide}));
 }
 
 TEST_F(IssueChequeTest, AnAccountSpelledInAnotherCaseIsAnObjectError) {
@@ -142,8 +142,8 @@ TEST_F(IssueChequeTest, TheTestsOfTheFieldsInTheirOrder) {
     EXPECT_EQ(refusedAt(ChequeField::Account), "-") << "100,00 needs no payee";
     fields_.value = "0,01";
     EXPECT_EQ(refusedAt(ChequeField::Account), "-");
-    EXPECT_THAT(queries(), IsEmpty());
-    EXPECT_THAT(seams_.boxes.shown, IsEmpty());
+    EXPECT_EQ(queries(), Texts{});
+    EXPECT_EQ(seams_.boxes.shown, Boxes{});
 }
 
 TEST_F(IssueChequeTest, AnAmountThatIsNoNumberIsTheTypeError) {
@@ -159,8 +159,8 @@ TEST_F(IssueChequeTest, AnAmountThatIsNoNumberIsTheTypeError) {
 TEST_F(IssueChequeTest, ANumberWithoutARowIsFree) {
     seams_.loader.on("seleciona_um", answers::rowset(""));
     EXPECT_TRUE(ValidaCheque(environment_, session_, fields_));
-    EXPECT_THAT(queries(), ElementsAre(checkQuery));
-    EXPECT_THAT(seams_.boxes.shown, IsEmpty());
+    EXPECT_EQ(queries(), (Texts{checkQuery}));
+    EXPECT_EQ(seams_.boxes.shown, Boxes{});
 }
 
 TEST_F(IssueChequeTest, ANumberWithARowIsTaken) {
@@ -178,7 +178,7 @@ TEST_F(IssueChequeTest, ANumberWithARowIsTaken) {
 TEST_F(IssueChequeTest, AFailedCheckLetsTheNumberThrough) {
     seams_.loader.failOn("seleciona_um");
     EXPECT_TRUE(ValidaCheque(environment_, session_, fields_));
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(noInternet9Wide));
+    EXPECT_EQ(seams_.boxes.shown, (Boxes{noInternet9Wide}));
 }
 
 TEST_F(IssueChequeTest, TheCheckWaitsForNumberAndSeries) {
@@ -188,24 +188,23 @@ TEST_F(IssueChequeTest, TheCheckWaitsForNumberAndSeries) {
     fields_.number = "1";
     fields_.series = " ";
     EXPECT_FALSE(numberRefusal(environment_, session_, fields_));
-    EXPECT_THAT(queries(), IsEmpty());
+    EXPECT_EQ(queries(), Texts{});
 }
 
 TEST_F(IssueChequeTest, TheCheckWithoutAnAccount) {
     seams_.loader.on("seleciona_um", answers::rowset(""));
     fields_.account = std::nullopt;
     ValidaCheque(environment_, session_, fields_);
-    EXPECT_THAT(queries(),
-                ElementsAre("comando=seleciona_um_controle_cheque_emitido&ID_EMP_TARN=2041"
-                            "&ID_ETB_TARN=6001&Id_Pes_Ban=0&Cd_Age_Ban=&Nr_Ccor=&Nr_Che=000123"
-                            "&Nr_Ser=AÇ1&ServerName=SRV1"));
+    EXPECT_EQ(queries(), (Texts{"comando=seleciona_um_controle_cheque_emitido&ID_EMP_TARN=2041"
+                                "&ID_ETB_TARN=6001&Id_Pes_Ban=0&Cd_Age_Ban=&Nr_Ccor=&Nr_Che=000123"
+                                "&Nr_Ser=AÇ1&ServerName=SRV1"}));
 }
 
 TEST_F(IssueChequeTest, PrintsThenRecords) {
     townIs("NM_MUN='Campinas'");
     seams_.loader.on("adiciona", answers::status("OK"));
     EXPECT_TRUE(issueCheque(environment_, session_, fields_));
-    EXPECT_THAT(queries(), ElementsAre(townQuery, recordQuery));
+    EXPECT_EQ(queries(), (Texts{townQuery, recordQuery}));
     ASSERT_EQ(seams_.spooler.jobs.size(), 1U);
     const auto& writes = seams_.spooler.jobs[0].writes;
     ASSERT_EQ(writes.size(), 9U) << "bank 33";
@@ -213,8 +212,8 @@ TEST_F(IssueChequeTest, PrintsThenRecords) {
     EXPECT_EQ(writes[6], " " + std::string(12, ' ') + "JO\xC3O & FILHOS\r\n\r\n\r\n\r\n");
     EXPECT_EQ(writes[7].substr(0, 92), " " + std::string(72, ' ') + "Campinas  15      M")
         << "the town as it comes";
-    EXPECT_THAT(seams_.boxes.shown,
-                ElementsAre(Box{"Cheque emitido com sucesso!     ", BoxIcon::Information, "TArn"}));
+    EXPECT_EQ(seams_.boxes.shown,
+              (Boxes{Box{"Cheque emitido com sucesso!     ", BoxIcon::Information, "TArn"}}));
 }
 
 TEST_F(IssueChequeTest, TheRecordComesAfterThePrint) {
@@ -226,16 +225,16 @@ TEST_F(IssueChequeTest, TheRecordComesAfterThePrint) {
     };
     EXPECT_FALSE(issueCheque(environment_, session_, fields_));
     EXPECT_EQ(closedAtTheBox, 2U) << "one job, closed";
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(noInternet9));
-    EXPECT_THAT(queries(), ElementsAre(townQuery, recordQuery)) << "not sent again";
+    EXPECT_EQ(seams_.boxes.shown, (Boxes{noInternet9}));
+    EXPECT_EQ(queries(), (Texts{townQuery, recordQuery})) << "not sent again";
 }
 
 TEST_F(IssueChequeTest, WithoutTheTownNothingIsPrintedOrRecorded) {
     seams_.loader.failOn("sel_dados_empresa");
     EXPECT_FALSE(issueCheque(environment_, session_, fields_));
-    EXPECT_THAT(queries(), ElementsAre(townQuery));
-    EXPECT_THAT(seams_.spooler.calls, IsEmpty());
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(noInternet9));
+    EXPECT_EQ(queries(), (Texts{townQuery}));
+    EXPECT_THAT(seams_.spooler.calls, testing::IsEmpty());
+    EXPECT_EQ(seams_.boxes.shown, (Boxes{noInternet9}));
 }
 
 TEST_F(IssueChequeTest, AnAbsentTownIsEmptyAndAMissingRowAnError) {
@@ -250,7 +249,7 @@ TEST_F(IssueChequeTest, AnAbsentTownIsEmptyAndAMissingRowAnError) {
         seams_.loader.on("sel_dados_empresa", answer);
         seams_.spooler = RecordingSpooler();
         EXPECT_EQ(errorOfIssuing(), RuntimeErrorCode::ObjectVariable);
-        EXPECT_THAT(seams_.spooler.calls, IsEmpty());
+        EXPECT_THAT(seams_.spooler.calls, testing::IsEmpty());
         EXPECT_THAT(queries().back(), townQuery);
     }
 }
@@ -266,7 +265,7 @@ TEST_F(IssueChequeTest, WhatCannotBeReadIsFoundBeforeThePrint) {
     fields_.account->NR_OFI_BAN = "1";
     fields_.depositDate = "15/03";
     EXPECT_EQ(errorOfIssuing(), RuntimeErrorCode::OutOfRange);
-    EXPECT_THAT(seams_.spooler.calls, IsEmpty());
+    EXPECT_THAT(seams_.spooler.calls, testing::IsEmpty());
     EXPECT_THAT(queries(), testing::Each(townQuery)) << "and before the record";
 }
 
@@ -275,8 +274,8 @@ TEST_F(IssueChequeTest, APrinterThatIsntThereChangesNothing) {
     seams_.loader.on("adiciona", answers::status("OK"));
     seams_.spooler.failOpen = 0;
     EXPECT_TRUE(issueCheque(environment_, session_, fields_));
-    EXPECT_THAT(seams_.spooler.jobs, IsEmpty());
-    EXPECT_THAT(queries(), ElementsAre(townQuery, recordQuery));
+    EXPECT_THAT(seams_.spooler.jobs, testing::IsEmpty());
+    EXPECT_EQ(queries(), (Texts{townQuery, recordQuery}));
     EXPECT_EQ(seams_.boxes.shown.size(), 1U);
 }
 
@@ -286,16 +285,16 @@ TEST_F(IssueChequeTest, ARefusedRecordShowsTheServersWords) {
         .on("adiciona", answers::status("ok"));
     EXPECT_FALSE(issueCheque(environment_, session_, fields_));
     EXPECT_FALSE(issueCheque(environment_, session_, fields_));
-    EXPECT_THAT(seams_.boxes.shown, ElementsAre(Box{"Cheque <b> bloqueado. ", BoxIcon::Exclamation},
-                                                Box{"ok", BoxIcon::Exclamation}));
+    EXPECT_EQ(seams_.boxes.shown, (Boxes{Box{"Cheque <b> bloqueado. ", BoxIcon::Exclamation},
+                                         Box{"ok", BoxIcon::Exclamation}}));
     EXPECT_EQ(seams_.spooler.jobs.size(), 2U) << "a new click prints again";
 }
 
 TEST_F(IssueChequeTest, AnEmptyAnswerIsToldAndOneWithoutAStatusIsAnError) {
     EXPECT_FALSE(chequeRecorded(environment_, XmlDocument()));
-    EXPECT_THAT(seams_.boxes.shown,
-                ElementsAre(Box{"Houve um problema para gravar cheque no banco de dados. ",
-                                BoxIcon::Exclamation}));
+    EXPECT_EQ(seams_.boxes.shown,
+              (Boxes{Box{"Houve um problema para gravar cheque no banco de dados. ",
+                         BoxIcon::Exclamation}}));
     townIs("NM_MUN='C'");
     seams_.loader.on("adiciona", "<R a='0' s='OK'/>");
     EXPECT_EQ(errorOfIssuing(), RuntimeErrorCode::ObjectVariable);

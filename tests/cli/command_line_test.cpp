@@ -4,11 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "runtime/version.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -66,8 +65,8 @@ TEST(CommandLine, ReadsIntoTheCallersVariables) {
     ASSERT_FALSE(plain.ending) << plain.ending->text;
     EXPECT_EQ(plain.text, "a b");
     EXPECT_EQ(plain.other, "");
-    EXPECT_THAT(plain.again, ElementsAre("x=1", "y=2"));
-    EXPECT_THAT(plain.files, ElementsAre("um.prn", "dois.prn"));
+    EXPECT_EQ(plain.again, (Texts{"x=1", "y=2"}));
+    EXPECT_EQ(plain.files, (Texts{"um.prn", "dois.prn"}));
     EXPECT_EQ(plain.code, 12);
     EXPECT_EQ(plain.port, 0);
     EXPECT_EQ(plain.format, "ops");
@@ -92,7 +91,7 @@ TEST(CommandLine, TakesAnEmptyTextInEitherSpellingAndValuesAfterTwoDashes) {
     ASSERT_FALSE(plain.ending) << plain.ending->text;
     EXPECT_EQ(plain.code, -3);
     EXPECT_EQ(plain.other, "");
-    EXPECT_THAT(plain.files, ElementsAre("-5", ""));
+    EXPECT_EQ(plain.files, (Texts{"-5", ""}));
 }
 
 TEST(CommandLine, SaysWhichOptionAndWhichValueWontDo) {
@@ -174,7 +173,7 @@ TEST(CommandLine, OptionsOfTheProgramStandBeforeAndAfterTheCommand) {
         EXPECT_EQ(commands.chosen, "nota");
         EXPECT_EQ(commands.destination, "d");
         EXPECT_EQ(commands.company, 7);
-        EXPECT_THAT(commands.files, ElementsAre("a.xml"));
+        EXPECT_EQ(commands.files, (Texts{"a.xml"}));
     }
 }
 

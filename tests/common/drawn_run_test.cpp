@@ -1,28 +1,26 @@
 #include "common/drawn_run.h"
 
 #include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <utility>
 #include <vector>
 
 #include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 TEST(DrawnRun, BeginsInCentimetresAndPortrait) {
     TestEnvironment env;
     DrawnRun run(env.environment);
     run.newPage();
     run.endDocument();
-    EXPECT_THAT(env.printer.lines(),
-                ElementsAre("scale\t7", "orientation\t1", "newpage", "enddoc"));
+    EXPECT_EQ(env.printer.lines(), (Texts{"scale\t7", "orientation\t1", "newpage", "enddoc"}));
     EXPECT_FALSE(run.failed());
-    EXPECT_THAT(env.boxes.shown, IsEmpty());
+    EXPECT_EQ(env.boxes.shown, Boxes{});
 }
 
 TEST(DrawnRun, TellsTheFirstFailureOfEachDocument) {
@@ -31,7 +29,7 @@ TEST(DrawnRun, TellsTheFirstFailureOfEachDocument) {
     DrawnRun run(env.environment);
     run.check(run.printer().Line(1, 1, 2, 1));
     EXPECT_TRUE(run.failed());
-    EXPECT_THAT(env.boxes.shown, ElementsAre(printerRefused)) << "at once";
+    EXPECT_EQ(env.boxes.shown, (Boxes{printerRefused})) << "at once";
     run.newPage();
     run.endDocument();
     EXPECT_EQ(env.boxes.shown.size(), 1U);
@@ -53,7 +51,7 @@ TEST(DrawnRun, ProgressEndsBeforeAFailureIsTold) {
     DrawnRun run(env.environment);
     run.endDocument(
         [&told](std::size_t done, std::size_t total) { told.emplace_back(done, total); }, 7);
-    EXPECT_THAT(told, ElementsAre(std::pair(7U, 7U), std::pair(0U, 0U)));
+    EXPECT_THAT(told, testing::ElementsAre(std::pair(7U, 7U), std::pair(0U, 0U)));
     EXPECT_FALSE(env.printer.progress) << "no longer told";
 }
 

@@ -8,12 +8,10 @@
 
 #include "gateway/xml_document.h"
 #include "tests/support/answers.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 enum class Column {
     Tick,
@@ -58,10 +56,10 @@ TEST(GridRows, EachColumnTreatsItsAttribute) {
         "TIPO_DOCTO='DOCTO_RECEBER' C='c' R='r'/>"
         "<z:row NOME='B' VL='1,5' QT='x' CGC='191' C='c' R='r'/>");
     ASSERT_EQ(rows.size(), 2U);
-    EXPECT_THAT(rows[0].cells, ElementsAre("", " A ", "1.234,50", "1.234,500", "000.000.001-91",
-                                           "F", "c", "", ""));
-    EXPECT_THAT(rows[1].cells,
-                ElementsAre("", "B", "1,00", "0,000", "00.000.000/0001-91", "J", "", "r", ""));
+    EXPECT_EQ(rows[0].cells,
+              (Texts{"", " A ", "1.234,50", "1.234,500", "000.000.001-91", "F", "c", "", ""}));
+    EXPECT_EQ(rows[1].cells,
+              (Texts{"", "B", "1,00", "0,000", "00.000.000/0001-91", "J", "", "r", ""}));
     EXPECT_FALSE(rows[0].ticked);
 }
 
@@ -69,15 +67,15 @@ TEST(GridRows, EachColumnTreatsItsAttribute) {
 TEST(GridRows, AbsentIsEmptyAndAnEmptyAmountIsZero) {
     const auto rows = rowsFrom("<z:row/><z:row VL='' QT='' CGC=''/><z:row vl='1' z:QT='2'/>");
     ASSERT_EQ(rows.size(), 3U);
-    EXPECT_THAT(rows[0].cells, ElementsAre("", "", "", "", "", "J", "", "", ""));
-    EXPECT_THAT(rows[1].cells,
-                ElementsAre("", "", "0,00", "0,000", "00.000.000/0000-00", "J", "", "", ""));
+    EXPECT_EQ(rows[0].cells, (Texts{"", "", "", "", "", "J", "", "", ""}));
+    EXPECT_EQ(rows[1].cells,
+              (Texts{"", "", "0,00", "0,000", "00.000.000/0000-00", "J", "", "", ""}));
     EXPECT_EQ(rows[2].cells, rows[0].cells) << "another spelling is another name";
 }
 
 TEST(GridRows, WithoutRowsThereAreNone) {
-    EXPECT_THAT(rowsFrom(""), IsEmpty());
-    EXPECT_THAT(gridRows(XmlDocument(), table), IsEmpty());
+    EXPECT_THAT(rowsFrom(""), testing::IsEmpty());
+    EXPECT_THAT(gridRows(XmlDocument(), table), testing::IsEmpty());
 }
 
 TEST(GridRow, ACellIsReadByTheNameOfItsColumn) {

@@ -1,14 +1,14 @@
 // The customer dialog, and its choice on its way into the screen.
 #include "customers/frm_pesq_cliente.h"
 
+#include <gmock/gmock.h>
+
 #include "tests/bills/bill_screen_test.h"
 #include "tests/support/grid.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class FrmPesqClienteTest : public BillScreenTest {
 protected:
@@ -48,16 +48,15 @@ TEST_F(FrmPesqClienteTest, SaysWhatItIs) {
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Pesquisa de Clientes"));
         EXPECT_EQ(named<QLabel>(dialog, "Label1").text(), QStringLiteral("Cliente"));
         const auto& table = named<QTableView>(dialog, "sprDados");
-        EXPECT_THAT(grid::headings(table),
-                    ElementsAre("Cliente", "Tipo de Empresa", "ID_PES_CLI", "ID_ETB_CLI"));
+        EXPECT_EQ(grid::headings(table),
+                  (Texts{"Cliente", "Tipo de Empresa", "ID_PES_CLI", "ID_ETB_CLI"}));
         EXPECT_FALSE(table.isColumnHidden(3)) << "also the one that nothing fills";
         EXPECT_EQ(lines(dialog), 0);
         EXPECT_EQ(focused(dialog), "txtNmCli");
-        EXPECT_THAT(
-            tabOrder(dialog, "txtNmCli", 5),
-            ElementsAre("txtNmCli", "sprDados", "cmdPesquisar", "cmdSelecionar", "cmdVoltar"));
+        EXPECT_EQ(tabOrder(dialog, "txtNmCli", 5),
+                  (Texts{"txtNmCli", "sprDados", "cmdPesquisar", "cmdSelecionar", "cmdVoltar"}));
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmPesqClienteTest, AShortNameIsRefusedBeforeAnyRequest) {
@@ -67,7 +66,7 @@ TEST_F(FrmPesqClienteTest, AShortNameIsRefusedBeforeAnyRequest) {
             EXPECT_EQ(focused(dialog), "txtNmCli");
             EXPECT_EQ(shown(dialog, "txtNmCli"), name);
         }
-        EXPECT_THAT(server.addresses, IsEmpty());
+        EXPECT_EQ(server.addresses, Texts{});
     });
     EXPECT_THAT(boxes.shown, testing::Each(information(
                                  "Nome do cliente deve ter no mínimo 3 letras.    ", "Aviso")));
@@ -79,13 +78,12 @@ TEST_F(FrmPesqClienteTest, TheNameGoesOutAsTyped) {
     withDialog([&](QWidget& dialog) {
         search(dialog, " abc ");
         search(dialog, "A&B&");
-        EXPECT_THAT(server.queries(),
-                    ElementsAre("comando=Sel_Cliente&id_emp_tarn=1361&Filtro= abc &"
-                                "ServerName=SRV1",
-                                "comando=Sel_Cliente&id_emp_tarn=1361&Filtro=A|B|&"
-                                "ServerName=SRV1"));
+        EXPECT_EQ(server.queries(), (Texts{"comando=Sel_Cliente&id_emp_tarn=1361&Filtro= abc &"
+                                           "ServerName=SRV1",
+                                           "comando=Sel_Cliente&id_emp_tarn=1361&Filtro=A|B|&"
+                                           "ServerName=SRV1"}));
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmPesqClienteTest, ShowsWhatWasFound) {
@@ -115,9 +113,9 @@ TEST_F(FrmPesqClienteTest, NothingFoundEmptiesTheGridAndSaysSo) {
         EXPECT_EQ(lines(dialog), 0);
         boxes.onShow = nullptr;
     });
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(information("Pesquisa nao encontrou nenhum registro.     ", "Aviso"),
-                            information("Pesquisa nao encontrou nenhum registro.     ", "Aviso")));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{information("Pesquisa nao encontrou nenhum registro.     ", "Aviso"),
+                     information("Pesquisa nao encontrou nenhum registro.     ", "Aviso")}));
 }
 
 TEST_F(FrmPesqClienteTest, AFailedRequestLeavesTheGrid) {
@@ -128,10 +126,10 @@ TEST_F(FrmPesqClienteTest, AFailedRequestLeavesTheGrid) {
         search(dialog, "xyz");
         EXPECT_EQ(lines(dialog), 2);
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(requestFailure(
-                                 "Tarn0024 - Erro na pesquisa de cliente - Não foi possível "
-                                 "obter os dados da Internet. Verifique a conexão com a "
-                                 "Internet.")));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{requestFailure("Tarn0024 - Erro na pesquisa de cliente - Não foi possível "
+                                    "obter os dados da Internet. Verifique a conexão com a "
+                                    "Internet.")}));
 }
 
 TEST_F(FrmPesqClienteTest, ThePointerIsBusyForTheWholeSearch) {
@@ -164,8 +162,8 @@ TEST_F(FrmPesqClienteTest, WithoutRowsNothingCanBeChosen) {
         click(dialog, "cmdSelecionar");
         EXPECT_TRUE(dialog.isVisible());
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(information(
-                                 "Faça uma pesquisa para selecionar um cliente.     ", "Aviso")));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{information("Faça uma pesquisa para selecionar um cliente.     ", "Aviso")}));
 }
 
 TEST_F(FrmPesqClienteTest, TheActiveRowGoesIntoTheScreen) {
@@ -209,7 +207,7 @@ TEST_F(FrmPesqClienteTest, ADoubleClickOrEnterInTheGridChoosesToo) {
             QTest::keyClick(&grid, Qt::Key_Return);
         });
         EXPECT_EQ(code(screen), "0071");
-        EXPECT_THAT(server.queries(), ElementsAre(branchesQuery)) << "Enter searched nothing";
+        EXPECT_EQ(server.queries(), (Texts{branchesQuery})) << "Enter searched nothing";
     });
 }
 

@@ -1,17 +1,15 @@
 #include "customers/procura_cliente.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "gateway/sessao.h"
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
 
 class ProcuraClienteTest : public testing::Test {
 protected:
@@ -29,17 +27,17 @@ TEST_F(ProcuraClienteTest, SendsTheTextWithBarsForAmpersands) {
     EXPECT_TRUE(ProcuraCliente(seams_.environment, session_, answer_, " a&b&&c "));
     EXPECT_EQ(customerRows(answer_).size(), 1U);
     EXPECT_TRUE(ProcuraCliente(seams_.environment, session_, answer_, std::nullopt));
-    EXPECT_THAT(seams_.loader.queries(),
-                ElementsAre("comando=Sel_Cliente&id_emp_tarn=2041&Filtro= a|b||c &ServerName=S 1",
-                            "comando=Sel_Cliente&id_emp_tarn=2041&Filtro=&ServerName=S 1"));
+    EXPECT_EQ(seams_.loader.queries(),
+              (Texts{"comando=Sel_Cliente&id_emp_tarn=2041&Filtro= a|b||c &ServerName=S 1",
+                     "comando=Sel_Cliente&id_emp_tarn=2041&Filtro=&ServerName=S 1"}));
 }
 
 TEST_F(ProcuraClienteTest, AFailedRequestIsFalse) {
     EXPECT_FALSE(ProcuraCliente(seams_.environment, session_, answer_, "abc"));
-    EXPECT_THAT(seams_.boxes.shown,
-                ElementsAre(requestFailure(
-                    "Tarn0024 - Erro na pesquisa de cliente - Não foi possível obter "
-                    "os dados da Internet. Verifique a conexão com a Internet.")));
+    EXPECT_EQ(
+        seams_.boxes.shown,
+        (Boxes{requestFailure("Tarn0024 - Erro na pesquisa de cliente - Não foi possível obter "
+                              "os dados da Internet. Verifique a conexão com a Internet.")}));
 }
 
 TEST_F(ProcuraClienteTest, AccentedLettersCountOnceAndOnlyBlanksAreTrimmed) {

@@ -115,9 +115,9 @@ TEST_P(NoDocumentComes, AtTheLogon) {
     openLogon();
     answer("comando=LOGIN", GetParam());
     click(logon, "btnLogin");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(transportFailure("0001"),
-                                                  Box{"Houve um problema para efetuar o Login.",
-                                                      BoxIcon::Exclamation}));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{transportFailure("0001"),
+                     Box{"Houve um problema para efetuar o Login.", BoxIcon::Exclamation}}));
     expectAnotherTry();
 }
 
@@ -125,7 +125,7 @@ TEST_P(NoDocumentComes, AtTheListOfOrders) {
     openOrders();
     answer("sel_ordem_fatu&ID_ETB_TARN=9", GetParam());
     click(orders, "CmdAtualizar");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(transportFailure("0006")));
+    EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0006")}));
     EXPECT_EQ(rows(), 0);
     EXPECT_TRUE(timerRuns());
     EXPECT_FALSE(end.ended());
@@ -135,12 +135,11 @@ TEST_P(NoDocumentAmongOthers, AtTheGenerationItIsToBeCheckedByHandAndNotSentAgai
     http.on("SP_GERA_NF&ID_ETB_TARN=9", GetParam().reply);
     openOrders();
     click(orders, "cmdSelecionar");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    transportFailure("0004"),
-                    Box{"Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, "
-                        "utilize a tela de Reimpressão de Nota Fiscal. ",
-                        BoxIcon::Exclamation, "Aviso"}));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{transportFailure("0004"),
+                     Box{"Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, "
+                         "utilize a tela de Reimpressão de Nota Fiscal. ",
+                         BoxIcon::Exclamation, "Aviso"}}));
     EXPECT_EQ(asked("SP_GERA_NF"), 1U);
     EXPECT_EQ(asked("sel_ordem_fatu"), 2U) << "the list is read anew";
     EXPECT_TRUE(timerRuns());
@@ -151,12 +150,11 @@ TEST_P(NoDocumentAmongOthers, AtTheNotesDocumentTheReprintIsNamed) {
     http.on("sel_gera_nf", GetParam().reply);
     openOrders();
     click(orders, "cmdSelecionar");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    transportFailure("0005"),
-                    Box{"Houve um problema na transferência dos dados da Nota Fiscal nº 555. "
-                        "Utilize a tela de Reimpressão de Nota Fiscal.",
-                        BoxIcon::Exclamation, "Aviso"}));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{transportFailure("0005"),
+                     Box{"Houve um problema na transferência dos dados da Nota Fiscal nº 555. "
+                         "Utilize a tela de Reimpressão de Nota Fiscal.",
+                         BoxIcon::Exclamation, "Aviso"}}));
     EXPECT_EQ(asked("sel_gera_nf"), 1U);
     EXPECT_TRUE(timerRuns());
     EXPECT_TRUE(spooler.calls.empty());
@@ -174,11 +172,10 @@ TEST_F(BadAnswers, NoDeclarationAtTheLogonIsTheUnexpectedErrorAndTheEnd) {
     openLogon();
     http.on("comando=LOGIN", LoopbackReply::xml("<PRINCIPAL a='0' b='OK'><C/></PRINCIPAL>"));
     click(logon, "btnLogin");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    Box{"Aconteceu um erro inesperado no sistema. Por favor avise a RVL\nErro = "
-                        "Falta um dado na resposta do servidor",
-                        BoxIcon::Critical, "Aviso"}));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{Box{"Aconteceu um erro inesperado no sistema. Por favor avise a RVL\nErro = "
+                         "Falta um dado na resposta do servidor",
+                         BoxIcon::Critical, "Aviso"}}));
     EXPECT_EQ(end.status(), 3);
     EXPECT_FALSE(logon.isVisible());
 }
@@ -187,10 +184,9 @@ TEST_F(BadAnswers, NoDeclarationAtTheGenerationIsTheReportWithTheWayToTheNote) {
     http.on("SP_GERA_NF&ID_ETB_TARN=9", LoopbackReply::xml("<R a='0' b='OK'/>"));
     openOrders();
     click(orders, "cmdSelecionar");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    Box{reportText(ErrorAfterNote(RuntimeError(RuntimeErrorCode::ObjectVariable))),
-                        BoxIcon::Critical}));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{Box{reportText(ErrorAfterNote(RuntimeError(RuntimeErrorCode::ObjectVariable))),
+                         BoxIcon::Critical}}));
     EXPECT_EQ(end.status(), 3);
 }
 
@@ -208,7 +204,7 @@ TEST_F(BadAnswers, AStatusInLowerCaseOrWithMarkupIsARefusalShownAsItStands) {
     for (const auto& [sent, shown] : refusals) {
         boxes.shown.clear();
         click(logon, "btnLogin");
-        EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{shown, BoxIcon::Exclamation}));
+        EXPECT_EQ(boxes.shown, (Boxes{Box{shown, BoxIcon::Exclamation}}));
         expectAnotherTry();
     }
     for (std::size_t i = 0; i < std::size(refusals); ++i) {
@@ -217,7 +213,7 @@ TEST_F(BadAnswers, AStatusInLowerCaseOrWithMarkupIsARefusalShownAsItStands) {
     for (const auto& [sent, shown] : refusals) {
         boxes.shown.clear();
         click(orders, "cmdSelecionar");
-        EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{shown, BoxIcon::Exclamation}));
+        EXPECT_EQ(boxes.shown, (Boxes{Box{shown, BoxIcon::Exclamation}}));
         EXPECT_FALSE(timerRuns());
     }
 }

@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "tests/support/screen_test.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
@@ -26,24 +27,23 @@ protected:
 TEST_F(DeskApplicationTest, ReportsTheRunTimesErrorOnceAndEndsWithThree) {
     clickRaising(RuntimeError(RuntimeErrorCode::TypeMismatch));
     clickRaising(RuntimeError(RuntimeErrorCode::Overflow));
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(Box{reportText(RuntimeError(RuntimeErrorCode::TypeMismatch)),
-                                         BoxIcon::Critical}));
+    EXPECT_EQ(
+        boxes.shown,
+        (Boxes{Box{reportText(RuntimeError(RuntimeErrorCode::TypeMismatch)), BoxIcon::Critical}}));
     EXPECT_EQ(end.status(), 3);
 }
 
 TEST_F(DeskApplicationTest, ReportsANoteThatMayExist) {
     const RuntimeError error(RuntimeErrorCode::ObjectVariable);
     clickRaising(ErrorAfterNote(error));
-    EXPECT_THAT(boxes.texts(), testing::ElementsAre(reportText(ErrorAfterNote(error))));
+    EXPECT_EQ(boxes.texts(), (Texts{reportText(ErrorAfterNote(error))}));
 }
 
 TEST_F(DeskApplicationTest, ReportsAnyOtherExceptionWithoutItsOwnWords) {
     const std::out_of_range error("basic_string::substr");
     testing::internal::CaptureStderr();
     clickRaising(error);
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(Box{reportText(error), BoxIcon::Critical, "TarnEmissao"}));
+    EXPECT_EQ(boxes.shown, (Boxes{Box{reportText(error), BoxIcon::Critical, "TarnEmissao"}}));
     EXPECT_EQ(end.status(), 3);
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
               "tarnemissao: Erro em tempo de execução: O programa encontrou um erro que não "

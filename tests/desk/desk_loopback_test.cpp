@@ -9,6 +9,7 @@
 #include "tests/support/loopback_server.h"
 #include "tests/support/network_desk.h"
 #include "tests/support/screen_test.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
@@ -40,14 +41,13 @@ protected:
 
 TEST_F(DeskOverHttp, LogsOnAndListsTheOrders) {
     choose(menu, "mnuNF", "mOFT");
-    EXPECT_THAT(
+    EXPECT_EQ(
         http.queries(),
-        testing::ElementsAre(
-            "comando=VERSAO_TARN_EMISSAO&Versao=07/01/2009",
-            "comando=LOGIN&EMPRESA=P%E3o%20&%20Cia&USUARIO=jo%E3o&SENHA=a%23b",
-            "comando=sel_dados_empresa&Id_Etb_Tarn=6001&ServerName=SRV1",
-            "Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName=SRV1&sTransacao=EMI001",
-            "comando=sel_ordem_fatu&ID_ETB_TARN=6001&ServerName=SRV1"));
+        (Texts{"comando=VERSAO_TARN_EMISSAO&Versao=07/01/2009",
+               "comando=LOGIN&EMPRESA=P%E3o%20&%20Cia&USUARIO=jo%E3o&SENHA=a%23b",
+               "comando=sel_dados_empresa&Id_Etb_Tarn=6001&ServerName=SRV1",
+               "Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName=SRV1&sTransacao=EMI001",
+               "comando=sel_ordem_fatu&ID_ETB_TARN=6001&ServerName=SRV1"}));
     EXPECT_EQ(named<QLabel>(menu, "Panel2").text(), QStringLiteral("Filial São Paulo"));
     EXPECT_EQ(named<QTableView>(menu, "sprDados").model()->rowCount(), 1);
     EXPECT_TRUE(boxes.shown.empty());
@@ -90,9 +90,8 @@ TEST_F(DeskOverHttp, AServerThatWentAwayIsToldAndTheDeskGoesOn) {
     choose(menu, "mnuNF", "mOFT");
     http.closePort();
     click(menu, "CmdAtualizar");
-    EXPECT_THAT(boxes.texts(),
-                testing::ElementsAre("ERRO Tarn0006 - Não foi possível obter os dados da Internet. "
-                                     "Verifique a conexão com a Internet."));
+    EXPECT_EQ(boxes.texts(), (Texts{"ERRO Tarn0006 - Não foi possível obter os dados da Internet. "
+                                    "Verifique a conexão com a Internet."}));
     EXPECT_FALSE(end.ended());
 }
 

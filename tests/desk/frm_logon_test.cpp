@@ -5,6 +5,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
 #include "tests/support/screen_test.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
@@ -45,9 +46,8 @@ TEST_F(FrmLogonTest, PasswordShowsStarsAndTakesTwentyCharacters) {
 
 TEST_F(FrmLogonTest, TabOrderFollowsTheEye) {
     EXPECT_EQ(focused(logon), "txtEmpresa");
-    EXPECT_THAT(tabOrder(logon, "txtEmpresa", 6),
-                testing::ElementsAre("txtEmpresa", "txtUsuario", "txtSenha", "btnLogin",
-                                     "cmdFechar", "txtEmpresa"));
+    EXPECT_EQ(tabOrder(logon, "txtEmpresa", 6), (Texts{"txtEmpresa", "txtUsuario", "txtSenha",
+                                                       "btnLogin", "cmdFechar", "txtEmpresa"}));
 }
 
 TEST_F(FrmLogonTest, MissingFieldsAreToldOneByOne) {
@@ -59,11 +59,10 @@ TEST_F(FrmLogonTest, MissingFieldsAreToldOneByOne) {
     type(logon, "txtUsuario", "maria");
     click(logon, "btnLogin");
     EXPECT_EQ(focused(logon), "txtSenha");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    Box{"Empresa é um campo obrigatório     ", BoxIcon::Exclamation, "Aviso"},
-                    Box{"Usuário é um campo obrigatório     ", BoxIcon::Exclamation, "Aviso"},
-                    Box{"Senha é um campo obrigatório     ", BoxIcon::Exclamation, "Aviso"}));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{Box{"Empresa é um campo obrigatório     ", BoxIcon::Exclamation, "Aviso"},
+                     Box{"Usuário é um campo obrigatório     ", BoxIcon::Exclamation, "Aviso"},
+                     Box{"Senha é um campo obrigatório     ", BoxIcon::Exclamation, "Aviso"}}));
     EXPECT_TRUE(server.addresses.empty());
 }
 
@@ -71,8 +70,7 @@ TEST_F(FrmLogonTest, BlanksPassTheMandatoryTest) {
     server.on("comando=LOGIN", answers::status("Empresa inválida"));
     fill(" ", " ", " ");
     click(logon, "btnLogin");
-    EXPECT_THAT(server.queries(),
-                testing::ElementsAre("comando=LOGIN&EMPRESA= &USUARIO= &SENHA= "));
+    EXPECT_EQ(server.queries(), (Texts{"comando=LOGIN&EMPRESA= &USUARIO= &SENHA= "}));
 }
 
 TEST_F(FrmLogonTest, EnterMovesOnAndAtLastLogsOn) {
@@ -86,8 +84,7 @@ TEST_F(FrmLogonTest, EnterMovesOnAndAtLastLogsOn) {
     keys(password(), "x&y");
     EXPECT_TRUE(server.addresses.empty());
     key(logon, Qt::Key_Return);
-    EXPECT_THAT(server.queries(),
-                testing::ElementsAre("comando=LOGIN&EMPRESA=2041&USUARIO=joão&SENHA=x&y"));
+    EXPECT_EQ(server.queries(), (Texts{"comando=LOGIN&EMPRESA=2041&USUARIO=joão&SENHA=x&y"}));
     EXPECT_EQ(logon.result(), QDialog::Accepted);
     EXPECT_FALSE(logon.isVisible());
     EXPECT_FALSE(end.ended());
@@ -118,7 +115,7 @@ TEST_F(FrmLogonTest, ARefusalShowsTheServersWordsAndKeepsWhatWasTyped) {
     server.on("comando=LOGIN", answers::status("Senha inv&#225;lida &lt;b&gt;"));
     fill("2041", "maria", "errada");
     click(logon, "btnLogin");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{"Senha inválida <b>", BoxIcon::Exclamation}));
+    EXPECT_EQ(boxes.shown, (Boxes{Box{"Senha inválida <b>", BoxIcon::Exclamation}}));
     EXPECT_TRUE(logon.isVisible());
     EXPECT_EQ(focused(logon), "txtEmpresa");
     EXPECT_EQ(password().text(), QStringLiteral("errada"));
@@ -130,9 +127,9 @@ TEST_F(FrmLogonTest, AFailedTransportShowsTwoBoxes) {
     server.failOn("comando=LOGIN");
     fill("2041", "maria", "x");
     click(logon, "btnLogin");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(transportFailure("0001"),
-                                                  Box{"Houve um problema para efetuar o Login.",
-                                                      BoxIcon::Exclamation}));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{transportFailure("0001"),
+                     Box{"Houve um problema para efetuar o Login.", BoxIcon::Exclamation}}));
     EXPECT_EQ(focused(logon), "txtEmpresa");
     EXPECT_FALSE(end.ended());
 }

@@ -1,5 +1,7 @@
 #include "desk/mdi_menu.h"
 
+#include <gmock/gmock.h>
+
 #include <QDialog>
 #include <QLabel>
 #include <QStatusBar>
@@ -8,6 +10,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
 #include "tests/support/screen_test.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
@@ -66,20 +69,18 @@ TEST_F(MDIMenuTest, HasTheMenuTree) {
         }
         return all;
     };
-    EXPECT_THAT(entries(*menu.menuBar()),
-                testing::ElementsAre("mnuEtiquetas=&Etiquetas", "mnuNF=&Nota Fiscal",
-                                     "mnuDuplicata=&Duplicata/Recibo", "mnuBoleto=&Boleto Bancário",
-                                     "mnuCheque=&Cheque", "mnuAjuda=&Ajuda", "mSair=&Sair"));
-    EXPECT_THAT(
-        entries(named<QMenu>(menu, "mnuEtiquetas")),
-        testing::ElementsAre("mnuImprClientes=&Clientes", "mnuImprFornecedores=&Fornecedores",
-                             "mnuExportaColetor=&Exporta arquivo para coletor off",
-                             "mnuImpColetor=&Importa arquivo do coletor off"));
-    EXPECT_THAT(entries(named<QMenu>(menu, "mnuNF")),
-                testing::ElementsAre("mOFT=&Impressão de NF", "mRINF=&ReImpressão de NF",
-                                     "NFtraco=-", "mCNF=&Cancelamento de NF"));
-    EXPECT_THAT(entries(named<QMenu>(menu, "mnuCheque")),
-                testing::ElementsAre("mnuChequeImpressao=&Impressão"));
+    EXPECT_EQ(entries(*menu.menuBar()),
+              (Texts{"mnuEtiquetas=&Etiquetas", "mnuNF=&Nota Fiscal",
+                     "mnuDuplicata=&Duplicata/Recibo", "mnuBoleto=&Boleto Bancário",
+                     "mnuCheque=&Cheque", "mnuAjuda=&Ajuda", "mSair=&Sair"}));
+    EXPECT_EQ(entries(named<QMenu>(menu, "mnuEtiquetas")),
+              (Texts{"mnuImprClientes=&Clientes", "mnuImprFornecedores=&Fornecedores",
+                     "mnuExportaColetor=&Exporta arquivo para coletor off",
+                     "mnuImpColetor=&Importa arquivo do coletor off"}));
+    EXPECT_EQ(entries(named<QMenu>(menu, "mnuNF")),
+              (Texts{"mOFT=&Impressão de NF", "mRINF=&ReImpressão de NF", "NFtraco=-",
+                     "mCNF=&Cancelamento de NF"}));
+    EXPECT_EQ(entries(named<QMenu>(menu, "mnuCheque")), (Texts{"mnuChequeImpressao=&Impressão"}));
 }
 
 TEST_F(MDIMenuTest, StartsWithGateLogonAndActivationInThisOrder) {
@@ -92,11 +93,11 @@ TEST_F(MDIMenuTest, StartsWithGateLogonAndActivationInThisOrder) {
         EXPECT_TRUE(menu.isVisible());
     };
     logOn();
-    EXPECT_THAT(beforeLogon, testing::ElementsAre("comando=VERSAO_TARN_EMISSAO&Versao=07/01/2009"));
-    EXPECT_THAT(server.queries(),
-                testing::ElementsAre("comando=VERSAO_TARN_EMISSAO&Versao=07/01/2009",
-                                     "comando=LOGIN&EMPRESA=1&USUARIO=u&SENHA=s",
-                                     "comando=sel_dados_empresa&Id_Etb_Tarn=3382&ServerName=SRV1"));
+    EXPECT_EQ(beforeLogon, (Texts{"comando=VERSAO_TARN_EMISSAO&Versao=07/01/2009"}));
+    EXPECT_EQ(server.queries(),
+              (Texts{"comando=VERSAO_TARN_EMISSAO&Versao=07/01/2009",
+                     "comando=LOGIN&EMPRESA=1&USUARIO=u&SENHA=s",
+                     "comando=sel_dados_empresa&Id_Etb_Tarn=3382&ServerName=SRV1"}));
     EXPECT_EQ(
         menu.windowTitle(),
         QStringLiteral("TARN EMISSÕES - Rotina Mercantil - Versão de 07/01/2009 - Release 17 - G"));
@@ -117,13 +118,13 @@ TEST_F(MDIMenuTest, AnOutdatedVersionEndsTheProgramBeforeTheLogon) {
     ScriptedLoader old;
     server = old.on("VERSAO_TARN_EMISSAO", answers::version("VELHA"));
     menu.load();
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(
-                                 Box{"          TARNEMISSAO DESATUALIZADO ! \r"
-                                     "       Data da Versão TarnEmissao = 07/01/2009\r\r"
-                                     "       Por favor, faça a atualização no site: \r\r"
-                                     "                    www.tarn.example \r\r"
-                                     "      OPÇÃO -> CENTRAL DE ATUALIZAÇÃO                   \r\r",
-                                     BoxIcon::Information}));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{Box{"          TARNEMISSAO DESATUALIZADO ! \r"
+                         "       Data da Versão TarnEmissao = 07/01/2009\r\r"
+                         "       Por favor, faça a atualização no site: \r\r"
+                         "                    www.tarn.example \r\r"
+                         "      OPÇÃO -> CENTRAL DE ATUALIZAÇÃO                   \r\r",
+                         BoxIcon::Information}}));
     EXPECT_TRUE(end.ended());
     EXPECT_EQ(end.status(), 0);
     EXPECT_EQ(modals.taken(), 0);
@@ -134,9 +135,9 @@ TEST_F(MDIMenuTest, AServerOutOfReachAtTheGateLetsTheProgramGoOn) {
     ScriptedLoader down;
     server = down.failOn("VERSAO_TARN_EMISSAO").on("sel_dados_empresa", answers::branch("F"));
     logOn();
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(requestFailure(
-                                 "Não consegui verificar a versão do TarnEMISSAO porque "
-                                 "não tive acesso à internet!!!")));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{requestFailure("Não consegui verificar a versão do TarnEMISSAO porque "
+                                    "não tive acesso à internet!!!")}));
     EXPECT_FALSE(end.ended());
     EXPECT_EQ(panel("Panel2"), "F");
 }
@@ -144,7 +145,7 @@ TEST_F(MDIMenuTest, AServerOutOfReachAtTheGateLetsTheProgramGoOn) {
 TEST_F(MDIMenuTest, ARefusedDateFormatEndsTheProgramAfterTheGateAndBeforeTheLogon) {
     machine.refusesDateFormat = true;
     menu.load();
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{formatText, BoxIcon::Information, "TArn"}));
+    EXPECT_EQ(boxes.shown, (Boxes{Box{formatText, BoxIcon::Information, "TArn"}}));
     EXPECT_TRUE(end.ended());
     EXPECT_EQ(server.addresses.size(), 1U);
 }
@@ -218,20 +219,18 @@ TEST_F(MDIMenuTest, ADenialShowsTheServersWords) {
     logOn();
     rights("EMI002", "Usuário sem direito");
     choose(menu, "mnuNF", "mRINF");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(Box{"Usuário sem direito", BoxIcon::Exclamation}));
+    EXPECT_EQ(boxes.shown, (Boxes{Box{"Usuário sem direito", BoxIcon::Exclamation}}));
 }
 
 TEST_F(MDIMenuTest, AFailedRightsCheckShowsTwoBoxesAndOpensNothing) {
     logOn();
     server.failOn("sTransacao=EMI001");
     choose(menu, "mnuNF", "mOFT");
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(
-                    transportFailure("0002"),
-                    Box{"Houve um problema na verificação do Direito de Acesso do usuário na "
-                        "Transação EMI001. ",
-                        BoxIcon::Exclamation}));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{transportFailure("0002"),
+                     Box{"Houve um problema na verificação do Direito de Acesso do usuário na "
+                         "Transação EMI001. ",
+                         BoxIcon::Exclamation}}));
     EXPECT_EQ(menu.findChild<QWidget*>(QStringLiteral("FrmOFT")), nullptr);
     EXPECT_TRUE(enabled("mnuNF"));
 }
@@ -280,7 +279,7 @@ TEST_F(MDIMenuTest, HelpEndsTheProgramWhereTheDateFormatIsRefused) {
     const std::size_t sent = server.addresses.size();
     machine.refusesDateFormat = true;
     choose(menu, "mnuAjuda");
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{formatText, BoxIcon::Information, "TArn"}));
+    EXPECT_EQ(boxes.shown, (Boxes{Box{formatText, BoxIcon::Information, "TArn"}}));
     EXPECT_TRUE(end.ended());
     EXPECT_EQ(server.addresses.size(), sent);
 }

@@ -1,5 +1,4 @@
 // What each routine says it has done: decision D123.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "billing/alert.h"
@@ -19,12 +18,10 @@
 #include "tests/slips/slip_fixture.h"
 #include "tests/support/answers.h"
 #include "tests/support/test_environment.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 struct NoAlert : AlertDialog {
     void show(AlertMode /*mode*/) override { ADD_FAILURE() << "nothing to accept here"; }
@@ -54,8 +51,8 @@ TEST_F(ToldActs, ANoteGeneratedAndPrinted) {
     seams.loader.on("SP_GERA_NF", answers::generatedNote("8529", "U"))
         .on("sel_gera_nf", answers::status("OK"));
     generate();
-    EXPECT_THAT(told(), ElementsAre("NF 008529 da ordem 45112 enviada | NF 008529 gerada | use "
-                                    "ReImpressão de NF"));
+    EXPECT_EQ(told(), (Texts{"NF 008529 da ordem 45112 enviada | NF 008529 gerada | use "
+                             "ReImpressão de NF"}));
 }
 
 TEST_F(ToldActs, ANoteGeneratedOfWhichTheDocumentDoesntCome) {
@@ -63,8 +60,8 @@ TEST_F(ToldActs, ANoteGeneratedOfWhichTheDocumentDoesntCome) {
         .on("sel_gera_nf", answers::status("Recusa"));
     generate();
     seams.loader.failOn("sel_gera_nf&");
-    EXPECT_THAT(told(), ElementsAre("NF 008529 da ordem 45112 gerada, mas não impressa: use "
-                                    "ReImpressão de NF"));
+    EXPECT_EQ(told(), (Texts{"NF 008529 da ordem 45112 gerada, mas não impressa: use "
+                             "ReImpressão de NF"}));
     ScriptedLoader cut;
     seams.loader = cut.on("SP_GERA_NF", answers::generatedNote("8529", "U"));
     generate();
@@ -75,7 +72,7 @@ TEST_F(ToldActs, ANoteGeneratedOfWhichTheDocumentDoesntCome) {
 TEST_F(ToldActs, ANoteThatIsntKnownToExistIsntTold) {
     seams.loader.on("SP_GERA_NF", answers::status("Crédito bloqueado"));
     generate();
-    EXPECT_THAT(told(), IsEmpty());
+    EXPECT_EQ(told(), Texts{});
 }
 
 TEST_F(ToldActs, ANoteReprinted) {
@@ -83,8 +80,8 @@ TEST_F(ToldActs, ANoteReprinted) {
     session.NCOMPANYCODE = 2161;
     session.ID_ETB_TARN = 6001;  // has no form: nothing to print
     reprintNote(seams.environment, session, "8529", "U");
-    EXPECT_THAT(told(), ElementsAre("NF 008529 enviada de novo | NF 008529 lida do servidor | "
-                                    "imprima de novo"));
+    EXPECT_EQ(told(), (Texts{"NF 008529 enviada de novo | NF 008529 lida do servidor | "
+                             "imprima de novo"}));
 }
 
 TEST_F(ToldActs, ANoteCancelled) {
@@ -92,28 +89,28 @@ TEST_F(ToldActs, ANoteCancelled) {
         .number = "8529", .series = "U", .noteKind = "S", .option = Rebilling::With, .reason = 1};
     seams.loader.on("sp_can_nf", answers::status("Recusa")).on("sp_can_nf", answers::status("OK"));
     cancelNote(seams.environment, session, request);
-    EXPECT_THAT(told(), IsEmpty());
+    EXPECT_EQ(told(), Texts{});
     cancelNote(seams.environment, session, request);
-    EXPECT_THAT(told(), ElementsAre("NF 008529 cancelada"));
+    EXPECT_EQ(told(), (Texts{"NF 008529 cancelada"}));
 }
 
 TEST_F(ToldActs, AnOrderCancelled) {
     seams.loader.on("sp_can_oft", answers::status("Recusa"))
         .on("sp_can_oft", answers::status("OK"));
     cancelOrder(seams.environment, session, order);
-    EXPECT_THAT(told(), IsEmpty());
+    EXPECT_EQ(told(), Texts{});
     cancelOrder(seams.environment, session, order);
-    EXPECT_THAT(told(), ElementsAre("Ordem 45112 cancelada"));
+    EXPECT_EQ(told(), (Texts{"Ordem 45112 cancelada"}));
 }
 
 TEST_F(ToldActs, AnOrderMaintained) {
     const commands::OrderData data{
         .order = "45112", .observation = "", .quantity = "1", .grossWeight = "1", .netWeight = "1"};
     saveOrder(seams.environment, session, data);
-    EXPECT_THAT(told(), IsEmpty()) << "the answer was lost";
+    EXPECT_EQ(told(), Texts{}) << "the answer was lost";
     seams.loader.on("MANUTENCAO_OFT", answers::status("OK"));
     saveOrder(seams.environment, session, data);
-    EXPECT_THAT(told(), ElementsAre("Ordem 45112 gravada"));
+    EXPECT_EQ(told(), (Texts{"Ordem 45112 gravada"}));
 }
 
 TEST_F(ToldActs, AnOrderSheet) {
@@ -121,8 +118,8 @@ TEST_F(ToldActs, AnOrderSheet) {
         "sel_impr_ordem_fatu",
         answers::declaration + "<PRINCIPAL cod='0' status='OK'><CAB RAZAO='CLIENTE'/></PRINCIPAL>");
     printSelectedOrder(seams.environment, session, "45112");
-    EXPECT_THAT(told(), ElementsAre("Folha da ordem 45112 enviada | Folha da ordem 45112 lida do "
-                                    "servidor | imprima de novo"));
+    EXPECT_EQ(told(), (Texts{"Folha da ordem 45112 enviada | Folha da ordem 45112 lida do "
+                             "servidor | imprima de novo"}));
 }
 
 XmlDocument rowsOf(const std::string& rows) {
@@ -152,11 +149,11 @@ TEST_F(ToldActs, BillsAndReceipts) {
     print(bill, true);
     print(bill + receipt, false);
     print("", false);
-    EXPECT_THAT(told(),
-                ElementsAre("2 duplicatas enviadas | 2 duplicatas preparadas | imprima de novo",
-                            "1 triplicata enviada | 1 triplicata preparada | imprima de novo",
-                            "1 duplicata e 1 recibo enviados | 1 duplicata e 1 recibo preparados | "
-                            "imprima de novo"));
+    EXPECT_EQ(told(),
+              (Texts{"2 duplicatas enviadas | 2 duplicatas preparadas | imprima de novo",
+                     "1 triplicata enviada | 1 triplicata preparada | imprima de novo",
+                     "1 duplicata e 1 recibo enviados | 1 duplicata e 1 recibo preparados | "
+                     "imprima de novo"}));
 }
 
 TEST_F(ToldActs, Slips) {
@@ -173,12 +170,11 @@ TEST_F(ToldActs, Slips) {
     print(ticked({document()}));
     print(ticked({ofAnotherBank}));
     print({document()});
-    EXPECT_THAT(told(),
-                ElementsAre("2 boletos (nº 0000012 a 0000013) enviados | 2 boletos (nº 0000012 a "
-                            "0000013) preparados | imprima de novo com os mesmos números",
-                            "1 boleto (nº 0000012) enviado | 1 boleto (nº 0000012) preparado | "
-                            "imprima de novo com os mesmos números",
-                            "Nenhum boleto impresso"))
+    EXPECT_EQ(told(), (Texts{"2 boletos (nº 0000012 a 0000013) enviados | 2 boletos (nº 0000012 a "
+                             "0000013) preparados | imprima de novo com os mesmos números",
+                             "1 boleto (nº 0000012) enviado | 1 boleto (nº 0000012) preparado | "
+                             "imprima de novo com os mesmos números",
+                             "Nenhum boleto impresso"}))
         << "with nothing ticked there is nothing to tell";
 }
 
@@ -195,12 +191,11 @@ TEST_F(ToldActs, ACheque) {
         .on("adiciona_controle", answers::status("Recusa"));
     issueCheque(seams.environment, session, cheque);
     issueCheque(seams.environment, session, cheque);
-    EXPECT_THAT(
-        told(),
-        ElementsAre("Cheque 1002 série A registrado e enviado | Cheque 1002 série A registrado | "
-                    "anule-o e emita outro com o número seguinte",
-                    "Cheque 1002 série A sem registro no servidor, enviado | Cheque 1002 série A "
-                    "sem registro no servidor | imprima de novo"));
+    EXPECT_EQ(told(),
+              (Texts{"Cheque 1002 série A registrado e enviado | Cheque 1002 série A registrado | "
+                     "anule-o e emita outro com o número seguinte",
+                     "Cheque 1002 série A sem registro no servidor, enviado | Cheque 1002 série A "
+                     "sem registro no servidor | imprima de novo"}));
 }
 
 TEST_F(ToldActs, LabelsOfTheQueue) {
@@ -211,10 +206,9 @@ TEST_F(ToldActs, LabelsOfTheQueue) {
         seams.acts.told.clear();
         print(form, "<z:row/><z:row/><z:row/>");
         print(form, "");
-        EXPECT_THAT(told(),
-                    ElementsAre("3 etiquetas enviadas | 3 etiquetas preparadas | imprima de "
-                                "novo",
-                                "Nenhuma etiqueta impressa"));
+        EXPECT_EQ(told(), (Texts{"3 etiquetas enviadas | 3 etiquetas preparadas | imprima de "
+                                 "novo",
+                                 "Nenhuma etiqueta impressa"}));
     }
 }
 
@@ -222,18 +216,17 @@ TEST_F(ToldActs, LabelsOfTheSelection) {
     const GridRow customer{.cells = std::vector<std::string>(labels::selectionGrid().size())};
     labels::printSelection(seams.environment, std::vector{customer, customer}, {});
     labels::printSelection(seams.environment, ticked({customer}), {});
-    EXPECT_THAT(told(), ElementsAre("Nenhuma etiqueta impressa",
-                                    "1 etiqueta enviada | 1 etiqueta preparada | imprima de novo"));
+    EXPECT_EQ(told(), (Texts{"Nenhuma etiqueta impressa",
+                             "1 etiqueta enviada | 1 etiqueta preparada | imprima de novo"}));
 }
 
 TEST_F(ToldActs, LabelsDeleted) {
     labels::deleteLabels(seams.environment, session, "NATAL", {"1", "3"});
     seams.loader.on("exclui_etiquetas", answers::status("OK"));
     labels::deleteLabels(seams.environment, session, "NATAL", {"1", "3"});
-    EXPECT_THAT(told(),
-                ElementsAre("Exclusão das etiquetas 1 a 3 sem resposta do servidor: confira "
-                            "na fila",
-                            "Exclusão das etiquetas 1 a 3 enviada"));
+    EXPECT_EQ(told(), (Texts{"Exclusão das etiquetas 1 a 3 sem resposta do servidor: confira "
+                             "na fila",
+                             "Exclusão das etiquetas 1 a 3 enviada"}));
 }
 
 TEST(Acts, WithoutAListenerNothingHappens) {
@@ -241,7 +234,7 @@ TEST(Acts, WithoutAListenerNothingHappens) {
     seams.environment.acts = nullptr;
     tellDone(seams.environment, "x");
     tellPrinted(seams.environment, {});
-    EXPECT_THAT(seams.acts.told, IsEmpty());
+    EXPECT_EQ(seams.acts.told, Texts{});
 }
 
 TEST(Acts, NameANoteAsItIsPrinted) {

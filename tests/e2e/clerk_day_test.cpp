@@ -15,13 +15,11 @@
 
 #include "tests/e2e/clerk_day.h"
 #include "tests/e2e/programs.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::StartsWith;
 
 using Rows = std::vector<std::string>;  // sorted; values separated by "|"
@@ -104,44 +102,44 @@ TEST(ClerkDay, TheDatabaseHoldsWhatTheDayDidAndNothingElse) {
     const Tables before = contentsOf(clerk_day::before);
     const Ledger ledger(clerk_day::after);
     const Tables now = ledger.everything();
-    EXPECT_THAT(changed(before, now), ElementsAre("billing_order", "cheque", "document", "label",
-                                                  "note", "note_parcel", "series"));
+    EXPECT_EQ(changed(before, now), (Texts{"billing_order", "cheque", "document", "label", "note",
+                                           "note_parcel", "series"}));
 
     // The order that was corrected, and the one whose note was cancelled for good.
     EXPECT_EQ(without(now.at("billing_order"), before.at("billing_order")).size(), 2U);
-    EXPECT_THAT(ledger.rows("SELECT packages, gross_weight, net_weight, state FROM billing_order"
-                            " WHERE id = 45001"),
-                ElementsAre("12000|350500|325400|A"));
-    EXPECT_THAT(ledger.rows("SELECT state FROM billing_order WHERE id = 45006"), ElementsAre("C"));
+    EXPECT_EQ(ledger.rows("SELECT packages, gross_weight, net_weight, state FROM billing_order"
+                          " WHERE id = 45001"),
+              (Texts{"12000|350500|325400|A"}));
+    EXPECT_EQ(ledger.rows("SELECT state FROM billing_order WHERE id = 45006"), (Texts{"C"}));
 
     // One note, cancelled by whom issued it; its number won't be given again.
     EXPECT_EQ(now.at("note").size(), before.at("note").size() + 1);
-    EXPECT_THAT(ledger.rows("SELECT series_code, order_id, issued_by, cancelled, cancelled_by,"
-                            " cancel_reason_id FROM note WHERE number = " +
-                            QString::fromStdString(trimmed)),
-                ElementsAre("1|45006|101|1|101|2"));
+    EXPECT_EQ(ledger.rows("SELECT series_code, order_id, issued_by, cancelled, cancelled_by,"
+                          " cancel_reason_id FROM note WHERE number = " +
+                          QString::fromStdString(trimmed)),
+              (Texts{"1|45006|101|1|101|2"}));
     EXPECT_EQ(without(now.at("series"), before.at("series")).size(), 1U);
     EXPECT_EQ(without(now.at("note_parcel"), before.at("note_parcel")).size(), 1U);
 
     // Two slips with the numbers of their paper.
     EXPECT_EQ(without(now.at("document"), before.at("document")).size(), 2U);
-    EXPECT_THAT(ledger.rows("SELECT slip_number, entered_by FROM document"
-                            " WHERE slip_number IS NOT NULL"),
-                ElementsAre("1234|101", "1235|101"));
+    EXPECT_EQ(ledger.rows("SELECT slip_number, entered_by FROM document"
+                          " WHERE slip_number IS NOT NULL"),
+              (Texts{"1234|101", "1235|101"}));
     EXPECT_THAT(paper("job-009.prn"), HasSubstr("NOSSO NUMERO: 0000000001234/"));
     EXPECT_THAT(paper("job-011.prn"), HasSubstr("NOSSO NUMERO: 0000000001235/"));
 
-    EXPECT_THAT(ledger.rows("SELECT bank_id, agency, account, number, series, amount, payee,"
-                            " deposit_on, purpose, issued_by FROM cheque"),
-                ElementsAre("1016|1123|00912-0|1001|A1|123456|PAPELARIA TRÊS PONTES LTDA|"
-                            "2012-09-05|MATERIAL DE ESCRITÓRIO|101"));
+    EXPECT_EQ(ledger.rows("SELECT bank_id, agency, account, number, series, amount, payee,"
+                          " deposit_on, purpose, issued_by FROM cheque"),
+              (Texts{"1016|1123|00912-0|1001|A1|123456|PAPELARIA TRÊS PONTES LTDA|"
+                     "2012-09-05|MATERIAL DE ESCRITÓRIO|101"}));
 
     // Three labels went, the rest of the reason stays.
-    EXPECT_THAT(without(now.at("label"), before.at("label")), IsEmpty());
+    EXPECT_THAT(without(now.at("label"), before.at("label")), testing::IsEmpty());
     EXPECT_EQ(without(before.at("label"), now.at("label")).size(), 3U);
-    EXPECT_THAT(ledger.rows("SELECT COUNT(*), MIN(sequence) FROM label WHERE company_id = 1361"
-                            " AND reason_id = 1"),
-                ElementsAre("597|4"));
+    EXPECT_EQ(ledger.rows("SELECT COUNT(*), MIN(sequence) FROM label WHERE company_id = 1361"
+                          " AND reason_id = 1"),
+              (Texts{"597|4"}));
 }
 
 TEST(ClerkDay, EveryPaperIsListedByItsDocument) {
@@ -177,9 +175,9 @@ TEST(ClerkDay, EveryPaperOfTheDayIsThere) {
 }
 
 TEST(ClerkDay, ARefusedRightLeavesNothing) {
-    EXPECT_THAT(changed(contentsOf(clerk_day::before), contentsOf(clerk_day::refused)), IsEmpty());
+    EXPECT_EQ(changed(contentsOf(clerk_day::before), contentsOf(clerk_day::refused)), Texts{});
     EXPECT_TRUE(QDir(clerk_day::refusalFolder).exists());
-    EXPECT_THAT(QDir(clerk_day::refusalFolder).entryList({"job-*"}), IsEmpty());
+    EXPECT_THAT(QDir(clerk_day::refusalFolder).entryList({"job-*"}), testing::IsEmpty());
 }
 
 TEST(ClerkDay, TheBulkSelectionPrintsItsLabelsAndChangesNothing) {
@@ -192,7 +190,7 @@ TEST(ClerkDay, TheBulkSelectionPrintsItsLabelsAndChangesNothing) {
                                 "--roteiro", "selecao"}),
               0);
     server.stop();
-    EXPECT_THAT(changed(contentsOf(clerk_day::before), contentsOf(database)), IsEmpty());
+    EXPECT_EQ(changed(contentsOf(clerk_day::before), contentsOf(database)), Texts{});
     EXPECT_THAT(paperOf(folder.path(), "job-001.pdf"), StartsWith("%PDF-"));
 }
 

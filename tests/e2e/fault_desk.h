@@ -96,7 +96,7 @@ protected:
             key(logon, Qt::Key_Return);
         });
         menu.load();
-        ASSERT_THAT(boxes.shown, testing::IsEmpty());
+        ASSERT_EQ(boxes.shown, Boxes{});
         page.takeQueries();
     }
     void fail(const std::string& command, const FaultCase& fault) {

@@ -1,12 +1,12 @@
 // A server that fails at the billing desk: the list of orders, the note that is made,
 // the note's document.
+#include <gmock/gmock.h>
+
 #include "tests/e2e/note_faults.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 const Box checkByHand = notice(
     "Favor verificar se a Nota Fiscal foi gerada. Caso tenha sido gerada, utilize a tela de "
@@ -33,13 +33,13 @@ protected:
 TEST_F(BillingFaults, AListThatDoesntComeIsEmptyAndTheNextTickTriesAgain) {
     under({"sel_ordem_fatu"}, leaving({Left::Nothing}), [this](const FaultCase&) {
         click(menu, "CmdAtualizar");
-        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0006")));
+        EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0006")}));
         EXPECT_EQ(grid::rows(orders()), 0);
         EXPECT_TRUE(timerRuns());
         click(menu, "CmdCanOft");
-        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0006"),
-                                             notice("Selecione a ordem de faturamento.     ")));
-        EXPECT_THAT(takeCommands(), ElementsAre("sel_ordem_fatu"));
+        EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0006"),
+                                      notice("Selecione a ordem de faturamento.     ")}));
+        EXPECT_EQ(takeCommands(), (Texts{"sel_ordem_fatu"}));
     });
     click(menu, "CmdAtualizar");
     EXPECT_EQ(grid::rows(orders()), orderCount);
@@ -48,12 +48,12 @@ TEST_F(BillingFaults, AListThatDoesntComeIsEmptyAndTheNextTickTriesAgain) {
 TEST_F(BillingFaults, AListOfNoRowsIsNoFailure) {
     under({"sel_ordem_fatu"}, leaving({Left::Refusal}), [this](const FaultCase&) {
         click(menu, "CmdAtualizar");
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(boxes.shown, Boxes{});
         EXPECT_EQ(grid::rows(orders()), 0);
     });
     under({"sel_ordem_fatu"}, leaving({Left::NoDeclaration, Left::All}), [this](const FaultCase&) {
         click(menu, "CmdAtualizar");
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(boxes.shown, Boxes{});
         EXPECT_EQ(grid::rows(orders()), orderCount);
         EXPECT_EQ(grid::cell(orders(), 1, 2), "PANIFICADORA E CONFEITARIA PÃO DE ARAÇÁS LTDA");
     });
@@ -64,11 +64,10 @@ TEST_F(BillingFaults, AGenerationWithoutAnAnswerIsToBeCheckedByHand) {
         const std::string order = takeOrder();
         const std::size_t before = notes();
         generate(order);
-        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0004"), checkByHand));
-        EXPECT_THAT(takeCommands(),
-                    ElementsAre("Seleciona_Obs_Vnd_X_Ord", "Seleciona_Obs_Ord_X_Est", "SP_GERA_NF",
-                                "sel_ordem_fatu"));
-        EXPECT_THAT(spooler.calls, IsEmpty());
+        EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0004"), checkByHand}));
+        EXPECT_EQ(takeCommands(), (Texts{"Seleciona_Obs_Vnd_X_Ord", "Seleciona_Obs_Ord_X_Est",
+                                         "SP_GERA_NF", "sel_ordem_fatu"}));
+        EXPECT_THAT(spooler.calls, testing::IsEmpty());
         EXPECT_EQ(notes(), before + (fault.carriedOut ? 1 : 0));
         EXPECT_EQ(rowOf(order) == -1, fault.carriedOut);
         EXPECT_TRUE(timerRuns());
@@ -80,8 +79,8 @@ TEST_F(BillingFaults, TheNoteWhoseAnswerWasLostComesOutOfTheReprintScreen) {
     const std::string order = takeOrder();
     page.fail("SP_GERA_NF", {FaultKind::CloseWithin, {}});
     generate(order);
-    ASSERT_THAT(boxes.shown, ElementsAre(transportFailure("0004"), checkByHand));
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    ASSERT_EQ(boxes.shown, (Boxes{transportFailure("0004"), checkByHand}));
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
     page.heal();
     close<FrmOFT>();
     forget();
@@ -92,7 +91,7 @@ TEST_F(BillingFaults, TheNoteWhoseAnswerWasLostComesOutOfTheReprintScreen) {
     EXPECT_EQ(shown("LBLNOTA"), note);
     EXPECT_EQ(shown("LBLCliente"), "PANIFICADORA E CONFEITARIA PÃO DE ARAÇÁS LTDA");
     click(reprint(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     expectPrinted(note);
 }
 
@@ -100,13 +99,13 @@ TEST_F(BillingFaults, ARefusedGenerationShowsTheServersWordsAndStops) {
     under({"SP_GERA_NF"}, leaving({Left::Refusal}), [this](const FaultCase&) {
         const std::string order = takeOrder();
         generate(order);
-        EXPECT_THAT(boxes.shown, ElementsAre(refusal));
-        EXPECT_THAT(takeCommands(), ElementsAre("Seleciona_Obs_Vnd_X_Ord",
-                                                "Seleciona_Obs_Ord_X_Est", "SP_GERA_NF"));
+        EXPECT_EQ(boxes.shown, (Boxes{refusal}));
+        EXPECT_EQ(takeCommands(),
+                  (Texts{"Seleciona_Obs_Vnd_X_Ord", "Seleciona_Obs_Ord_X_Est", "SP_GERA_NF"}));
         EXPECT_EQ(grid::rows(orders()), orderCount);
         EXPECT_EQ(notes(), 0U);
         EXPECT_FALSE(timerRuns());
-        EXPECT_THAT(spooler.calls, IsEmpty());
+        EXPECT_THAT(spooler.calls, testing::IsEmpty());
     });
 }
 
@@ -114,12 +113,12 @@ TEST_F(BillingFaults, AGenerationWithoutADeclarationEndsTheProgramWithTheWayToTh
     page.fail("SP_GERA_NF", {FaultKind::NoDeclaration, {}});
     const std::string order = takeOrder();
     generate(order);
-    EXPECT_THAT(boxes.shown, ElementsAre(endReportWithNote()));
+    EXPECT_EQ(boxes.shown, (Boxes{endReportWithNote()}));
     EXPECT_EQ(end.status(), 3);
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
     EXPECT_TRUE(found(noteOf(order)));
-    EXPECT_THAT(takeCommands(),
-                ElementsAre("Seleciona_Obs_Vnd_X_Ord", "Seleciona_Obs_Ord_X_Est", "SP_GERA_NF"));
+    EXPECT_EQ(takeCommands(),
+              (Texts{"Seleciona_Obs_Vnd_X_Ord", "Seleciona_Obs_Ord_X_Est", "SP_GERA_NF"}));
 }
 
 // Whoever clicks again while the server takes its time makes no second note.
@@ -129,13 +128,13 @@ TEST_F(BillingFaults, ASlowGenerationMakesOneNote) {
         int impatience = 0;
         QTimer::singleShot(slowWait / 2, &menu, [this, &impatience] {
             EXPECT_NE(QGuiApplication::overrideCursor(), nullptr) << "the hourglass";
-            EXPECT_THAT(spooler.calls, IsEmpty());
+            EXPECT_THAT(spooler.calls, testing::IsEmpty());
             click(menu, "cmdSelecionar");
             ++impatience;
         });
         generate(order);
         EXPECT_EQ(impatience, 1);
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(boxes.shown, Boxes{});
         EXPECT_EQ(notes(), 1U);
         expectPrinted(noteOf(order));
         EXPECT_EQ(rowOf(order), -1);
@@ -149,11 +148,10 @@ TEST_F(BillingFaults, ADocumentThatDoesntComeNamesTheNoteAndTheReprintScreen) {
         generate(order);
         const std::string note = noteOf(order);
         EXPECT_TRUE(found(note));
-        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0005"), notTransferred(note)));
-        EXPECT_THAT(takeCommands(),
-                    ElementsAre("Seleciona_Obs_Vnd_X_Ord", "Seleciona_Obs_Ord_X_Est", "SP_GERA_NF",
-                                "sel_gera_nf", "sel_ordem_fatu"));
-        EXPECT_THAT(spooler.calls, IsEmpty());
+        EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0005"), notTransferred(note)}));
+        EXPECT_EQ(takeCommands(), (Texts{"Seleciona_Obs_Vnd_X_Ord", "Seleciona_Obs_Ord_X_Est",
+                                         "SP_GERA_NF", "sel_gera_nf", "sel_ordem_fatu"}));
+        EXPECT_THAT(spooler.calls, testing::IsEmpty());
         EXPECT_EQ(rowOf(order), -1);
         EXPECT_TRUE(timerRuns());
     });
@@ -164,11 +162,11 @@ TEST_F(BillingFaults, ARefusedDocumentShowsTheServersWordsAndStops) {
     under({"sel_gera_nf"}, leaving({Left::Refusal}), [this](const FaultCase&) {
         const std::string order = takeOrder();
         generate(order);
-        EXPECT_THAT(boxes.shown, ElementsAre(refusal));
+        EXPECT_EQ(boxes.shown, (Boxes{refusal}));
         EXPECT_TRUE(found(noteOf(order)));
         EXPECT_EQ(grid::rows(orders()), orderCount);
         EXPECT_FALSE(timerRuns());
-        EXPECT_THAT(spooler.calls, IsEmpty());
+        EXPECT_THAT(spooler.calls, testing::IsEmpty());
     });
     click(menu, "CmdAtualizar");
     EXPECT_EQ(grid::rows(orders()), orderCount - 1);
@@ -178,10 +176,10 @@ TEST_F(BillingFaults, ADocumentWithoutADeclarationEndsTheProgramWithTheWayToTheN
     page.fail("sel_gera_nf", {FaultKind::NoDeclaration, {}});
     const std::string order = takeOrder();
     generate(order);
-    EXPECT_THAT(boxes.shown, ElementsAre(endReportWithNote()));
+    EXPECT_EQ(boxes.shown, (Boxes{endReportWithNote()}));
     EXPECT_EQ(end.status(), 3);
     EXPECT_TRUE(found(noteOf(order)));
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 // An empty list has no order left to make a second note of.
@@ -189,7 +187,7 @@ TEST_F(BillingFaults, AListThatDoesntComeBehindAGenerationLeavesTheNotePrinted) 
     const std::string order = takeOrder();
     page.fail("sel_ordem_fatu", {FaultKind::ServerError, {}});
     generate(order);
-    EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0006")));
+    EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0006")}));
     expectPrinted(noteOf(order));
     EXPECT_EQ(grid::rows(orders()), 0);
     EXPECT_TRUE(timerRuns());

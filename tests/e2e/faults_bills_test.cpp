@@ -1,14 +1,14 @@
 // A server that fails at the search of bills and of customers.
+#include <gmock/gmock.h>
+
 #include <QComboBox>
 
 #include "tests/e2e/fault_desk.h"
 #include "tests/support/boxes.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 const Box noCustomers = requestFailure(
     "Tarn0024 - Erro na pesquisa de cliente - Não foi possível obter os dados da Internet. "
@@ -53,8 +53,8 @@ TEST_F(BillFaults, ASearchWithoutAnAnswerLeavesTheGridAndTheFields) {
         grid::click(gridOf(screen), 1, 1);
         under({"sel_duplicata"}, leaving({Left::Nothing}), [&](const FaultCase&) {
             click(screen, "cmdPesquisar");
-            EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
-            EXPECT_THAT(takeCommands(), ElementsAre("sel_duplicata"));
+            EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
+            EXPECT_EQ(takeCommands(), (Texts{"sel_duplicata"}));
             EXPECT_EQ(grid::rows(gridOf(screen)), found);
             EXPECT_THAT(grid::ticks(gridOf(screen)), testing::Contains(true));
             EXPECT_EQ(named<QComboBox>(screen, "cboTpDocto").currentIndex(), bills);
@@ -68,12 +68,12 @@ TEST_F(BillFaults, ASearchOfNoRowsEmptiesTheGridInSilence) {
         const int found = search(screen);
         under({"sel_duplicata"}, leaving({Left::Refusal}), [&](const FaultCase&) {
             click(screen, "cmdPesquisar");
-            EXPECT_THAT(boxes.shown, IsEmpty());
+            EXPECT_EQ(boxes.shown, Boxes{});
             EXPECT_EQ(grid::rows(gridOf(screen)), 0);
         });
         under({"sel_duplicata"}, leaving({Left::NoDeclaration, Left::All}), [&](const FaultCase&) {
             click(screen, "cmdPesquisar");
-            EXPECT_THAT(boxes.shown, IsEmpty());
+            EXPECT_EQ(boxes.shown, Boxes{});
             EXPECT_EQ(grid::rows(gridOf(screen)), found);
         });
     });
@@ -83,7 +83,7 @@ TEST_F(BillFaults, BranchesThatDontComeLeaveTheFirstItem) {
     under({"sel_filiais"}, leaving({Left::Nothing}), [this](const FaultCase&) {
         inBills([this](QWidget& screen) {
             auto& list = named<QComboBox>(screen, "cboFilial");
-            EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
+            EXPECT_EQ(boxes.shown, (Boxes{noInternet9Wide}));
             EXPECT_EQ(list.count(), 1);
             EXPECT_EQ(list.currentText(), QStringLiteral("<-TODAS->"));
             page.heal();
@@ -100,8 +100,8 @@ TEST_F(BillFaults, WithoutTheCompanyNothingIsDrawnAndTheProgramEnds) {
         forget();
         page.fail("sel_dados_empresa", {FaultKind::CutXml, {}});
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, companyMissing));
-        EXPECT_THAT(printer.operations, IsEmpty());
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9, companyMissing}));
+        EXPECT_THAT(printer.operations, testing::IsEmpty());
     });
     EXPECT_EQ(end.status(), 3);
 }
@@ -113,8 +113,8 @@ TEST_F(BillFaults, ACompanyOfNoRowsEndsTheProgramToo) {
         forget();
         page.fail("sel_dados_empresa", {FaultKind::Refuse, {}});
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(companyMissing));
-        EXPECT_THAT(printer.operations, IsEmpty());
+        EXPECT_EQ(boxes.shown, (Boxes{companyMissing}));
+        EXPECT_THAT(printer.operations, testing::IsEmpty());
     });
     EXPECT_EQ(end.status(), 3);
 }
@@ -128,8 +128,8 @@ TEST_F(BillFaults, CustomersThatDontComeLeaveTheOnesFoundBefore) {
             const std::string name = grid::cell(gridOf(dialog), 1, 1);
             under({"Sel_Cliente"}, leaving({Left::Nothing}), [&](const FaultCase&) {
                 searchCustomer(dialog, "outro nome");
-                EXPECT_THAT(boxes.shown, ElementsAre(noCustomers));
-                EXPECT_THAT(takeCommands(), ElementsAre("Sel_Cliente"));
+                EXPECT_EQ(boxes.shown, (Boxes{noCustomers}));
+                EXPECT_EQ(takeCommands(), (Texts{"Sel_Cliente"}));
                 EXPECT_EQ(grid::rows(gridOf(dialog)), found);
                 EXPECT_EQ(grid::cell(gridOf(dialog), 1, 1), name);
                 EXPECT_EQ(text(dialog, "txtNmCli"), "outro nome");
@@ -137,18 +137,18 @@ TEST_F(BillFaults, CustomersThatDontComeLeaveTheOnesFoundBefore) {
             under({"Sel_Cliente"}, leaving({Left::NoDeclaration, Left::All}),
                   [&](const FaultCase&) {
                       searchCustomer(dialog, "panif");
-                      EXPECT_THAT(boxes.shown, IsEmpty());
+                      EXPECT_EQ(boxes.shown, Boxes{});
                       EXPECT_EQ(grid::rows(gridOf(dialog)), found);
                   });
             under({"Sel_Cliente"}, leaving({Left::Refusal}), [&](const FaultCase&) {
                 searchCustomer(dialog, "panif");
-                EXPECT_THAT(boxes.shown, ElementsAre(noCustomerFound));
+                EXPECT_EQ(boxes.shown, (Boxes{noCustomerFound}));
                 EXPECT_EQ(grid::rows(gridOf(dialog)), 0);
                 click(dialog, "cmdSelecionar");
-                EXPECT_THAT(boxes.shown,
-                            ElementsAre(noCustomerFound,
-                                        Box{"Faça uma pesquisa para selecionar um cliente.     ",
-                                            BoxIcon::Information, "Aviso"}));
+                EXPECT_EQ(boxes.shown,
+                          (Boxes{noCustomerFound,
+                                 Box{"Faça uma pesquisa para selecionar um cliente.     ",
+                                     BoxIcon::Information, "Aviso"}}));
                 EXPECT_TRUE(dialog.isVisible());
             });
             click(dialog, "cmdVoltar");

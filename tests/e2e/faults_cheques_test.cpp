@@ -1,15 +1,17 @@
 // A server that fails around a cheque: the check of its number, the town, the record that
 // comes behind the paper.
+#include <gmock/gmock.h>
+
 #include <QTimer>
 
 #include "tests/e2e/cheque_faults.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 
 TEST_F(ChequeFaults, ACheckWithoutAnAnswerLetsThePrintThrough) {
     inCheques([this] {
@@ -17,10 +19,10 @@ TEST_F(ChequeFaults, ACheckWithoutAnAnswerLetsThePrintThrough) {
               [this](const FaultCase& fault) {
                   const std::string number = fresh();
                   issueUnder("seleciona_um_controle_cheque_emitido", fault, number);
-                  EXPECT_THAT(boxes.shown, ElementsAre(noCheck, success));
-                  EXPECT_THAT(takeCommands(),
-                              ElementsAre("seleciona_um_controle_cheque_emitido",
-                                          "sel_dados_empresa", "adiciona_controle_cheque_emitido"));
+                  EXPECT_EQ(boxes.shown, (Boxes{noCheck, success}));
+                  EXPECT_EQ(takeCommands(),
+                            (Texts{"seleciona_um_controle_cheque_emitido", "sel_dados_empresa",
+                                   "adiciona_controle_cheque_emitido"}));
                   expectPaper(1);
                   EXPECT_TRUE(recorded(number));
                   expectEmptied();
@@ -38,21 +40,20 @@ TEST_F(ChequeFaults, ANumberAlreadyIssuedPrintsAgainWhenItsCheckFails) {
         type(*screen, "txtNumeroCheque", "700");
         named<QLineEdit>(*screen, "txtFavorecido").setFocus();
         settle();
-        EXPECT_THAT(boxes.shown, ElementsAre(noCheck)) << "on leaving the number";
+        EXPECT_EQ(boxes.shown, (Boxes{noCheck})) << "on leaving the number";
         click(*screen, "cmdImprimir");
-        EXPECT_THAT(
-            boxes.shown,
-            ElementsAre(noCheck, noCheck,
-                        exclamation("O cheque nº 700 da série AB1 já está registrado nesta conta. "
-                                    "Confira o número do cheque.")));
+        EXPECT_EQ(boxes.shown,
+                  (Boxes{noCheck, noCheck,
+                         exclamation("O cheque nº 700 da série AB1 já está registrado nesta conta. "
+                                     "Confira o número do cheque.")}));
         expectPaper(1);
         expectFilled("700");
         page.heal();
         forget();
         click(*screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(taken("700")));
+        EXPECT_EQ(boxes.shown, (Boxes{taken("700")}));
         EXPECT_EQ(focused(*screen), "txtNumeroCheque");
-        EXPECT_THAT(spooler.calls, IsEmpty());
+        EXPECT_THAT(spooler.calls, testing::IsEmpty());
     });
 }
 
@@ -63,7 +64,7 @@ TEST_F(ChequeFaults, ACheckIsReadWithoutADeclarationAndLateToo) {
               [this](const FaultCase& fault) {
                   const std::string number = fresh();
                   issueUnder("seleciona_um_controle_cheque_emitido", fault, number);
-                  EXPECT_THAT(boxes.shown, ElementsAre(success));
+                  EXPECT_EQ(boxes.shown, (Boxes{success}));
                   expectPaper(1);
                   EXPECT_TRUE(recorded(number));
                   fill(number);
@@ -82,7 +83,7 @@ TEST_F(ChequeFaults, ARecordWithoutAnAnswerLeavesThePaperAndTheFields) {
               [this](const FaultCase& fault) {
                   const std::string number = fresh();
                   issueUnder("adiciona_controle_cheque_emitido", fault, number);
-                  EXPECT_THAT(boxes.shown, ElementsAre(noRecord));
+                  EXPECT_EQ(boxes.shown, (Boxes{noRecord}));
                   expectPaper(1);
                   expectFilled(number);
                   EXPECT_EQ(recorded(number), fault.carriedOut);
@@ -90,11 +91,11 @@ TEST_F(ChequeFaults, ARecordWithoutAnAnswerLeavesThePaperAndTheFields) {
                   boxes.shown.clear();
                   click(*screen, "cmdImprimir");
                   if (fault.carriedOut) {
-                      EXPECT_THAT(boxes.shown, ElementsAre(taken(number)));
+                      EXPECT_EQ(boxes.shown, (Boxes{taken(number)}));
                       expectPaper(1);
                       expectFilled(number);
                   } else {
-                      EXPECT_THAT(boxes.shown, ElementsAre(success));
+                      EXPECT_EQ(boxes.shown, (Boxes{success}));
                       expectPaper(2);
                       EXPECT_TRUE(recorded(number));
                       expectEmptied();
@@ -108,7 +109,7 @@ TEST_F(ChequeFaults, ARefusedRecordShowsTheServersWordsBehindThePaper) {
         under({"adiciona_controle_cheque_emitido"}, leaving({Left::Refusal}),
               [this](const FaultCase& fault) {
                   issueUnder("adiciona_controle_cheque_emitido", fault, "801");
-                  EXPECT_THAT(boxes.shown, ElementsAre(refusal));
+                  EXPECT_EQ(boxes.shown, (Boxes{refusal}));
                   expectPaper(1);
                   expectFilled("801");
                   EXPECT_FALSE(recorded("801"));
@@ -126,7 +127,7 @@ TEST_F(ChequeFaults, ARefusedRecordShowsTheServersWordsBehindThePaper) {
                   watch.start(0);
                   issueUnder("adiciona_controle_cheque_emitido", fault, "802");
                   EXPECT_TRUE(printedBefore);
-                  EXPECT_THAT(boxes.shown, ElementsAre(success));
+                  EXPECT_EQ(boxes.shown, (Boxes{success}));
                   EXPECT_TRUE(recorded("802"));
               });
     });
@@ -138,18 +139,17 @@ TEST_F(ChequeFaults, ARecordWithoutADeclarationEndsTheProgramBehindThePaper) {
         forget();
         page.fail("adiciona_controle_cheque_emitido", {FaultKind::NoDeclaration, {}});
         click(*screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(endReport(
-                                     ": o cheque nº 901 foi impresso e talvez não esteja gravado "
-                                     "no servidor; confira-o pelo número e série antes de "
-                                     "imprimir outro")));
+        EXPECT_EQ(boxes.shown,
+                  (Boxes{endReport(": o cheque nº 901 foi impresso e talvez não esteja gravado "
+                                   "no servidor; confira-o pelo número e série antes de "
+                                   "imprimir outro")}));
         expectPaper(1);
         expectFilled("901");
     });
     EXPECT_TRUE(recorded("901"));
     EXPECT_EQ(end.status(), 3);
-    EXPECT_THAT(takeCommands(),
-                ElementsAre("seleciona_um_controle_cheque_emitido", "sel_dados_empresa",
-                            "adiciona_controle_cheque_emitido"))
+    EXPECT_EQ(takeCommands(), (Texts{"seleciona_um_controle_cheque_emitido", "sel_dados_empresa",
+                                     "adiciona_controle_cheque_emitido"}))
         << "the desk asks for nothing any more";
 }
 
@@ -158,7 +158,7 @@ TEST_F(ChequeFaults, AccountsThatDontComeLeaveNothingToChoose) {
     page.fail("sel_banco_agencia_conta", {FaultKind::CloseWithin, {}});
     modals.then("frmCheque", [this](QWidget& opened) {
         screen = &opened;
-        EXPECT_THAT(boxes.shown, ElementsAre(noCheck));
+        EXPECT_EQ(boxes.shown, (Boxes{noCheck}));
         EXPECT_EQ(named<QComboBox>(opened, "cboBancoAgConta").count(), 0);
         EXPECT_EQ(text(opened, "txtDtDeposito"), "05/09/2012");
         page.heal();
@@ -170,10 +170,9 @@ TEST_F(ChequeFaults, AccountsThatDontComeLeaveNothingToChoose) {
             checks,
             testing::Each(HasSubstr("&Id_Pes_Ban=0&Cd_Age_Ban=&Nr_Ccor=&Nr_Che=555&Nr_Ser=AB1&")));
         click(opened, "cmdImprimir");
-        EXPECT_THAT(boxes.shown,
-                    ElementsAre(exclamation("Banco/Ag./Conta é um campo obrigatório. ")));
+        EXPECT_EQ(boxes.shown, (Boxes{exclamation("Banco/Ag./Conta é um campo obrigatório. ")}));
         EXPECT_EQ(focused(opened), "cboBancoAgConta");
-        EXPECT_THAT(spooler.calls, IsEmpty());
+        EXPECT_THAT(spooler.calls, testing::IsEmpty());
         click(opened, "cmdCancelar");
     });
     choose(menu, "mnuCheque", "mnuChequeImpressao");
@@ -183,8 +182,8 @@ TEST_F(ChequeFaults, WithoutTheTownNothingIsPrintedAndNothingRecorded) {
     inCheques([this] {
         under({"sel_dados_empresa"}, leaving({Left::Nothing}), [this](const FaultCase& fault) {
             issueUnder("sel_dados_empresa", fault, "601");
-            EXPECT_THAT(boxes.shown, ElementsAre(noRecord));
-            EXPECT_THAT(spooler.calls, IsEmpty());
+            EXPECT_EQ(boxes.shown, (Boxes{noRecord}));
+            EXPECT_THAT(spooler.calls, testing::IsEmpty());
             EXPECT_FALSE(recorded("601"));
             expectFilled("601");
         });
@@ -198,8 +197,8 @@ TEST_F(ChequeFaults, ATownOfNoRowsEndsTheProgramBeforeThePaper) {
         forget();
         page.fail("sel_dados_empresa", {FaultKind::Refuse, {}});
         click(*screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(endReport()));
-        EXPECT_THAT(spooler.calls, IsEmpty());
+        EXPECT_EQ(boxes.shown, (Boxes{endReport()}));
+        EXPECT_THAT(spooler.calls, testing::IsEmpty());
     });
     EXPECT_FALSE(recorded("602"));
     EXPECT_EQ(end.status(), 3);

@@ -1,14 +1,14 @@
 // A server that fails at the queue of labels: what is listed, printed and deleted.
+#include <gmock/gmock.h>
+
 #include <QComboBox>
 
 #include "tests/e2e/fault_desk.h"
 #include "tests/support/boxes.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 const Box deleted = information("Etiquetas excluídas com sucesso!     ");
 const Box printed = information(" Etiquetas impressas com sucesso!   ");
@@ -54,22 +54,21 @@ TEST_F(LabelFaults, AQueueThatDoesntComeLeavesTheGrid) {
     inQueue([this](QWidget& queue) {
         under({"sel_etiquetas"}, leaving({Left::Nothing}), [&](const FaultCase&) {
             pickIn(queue, "cboMotivo", 0);
-            EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
-            EXPECT_THAT(takeCommands(), ElementsAre("sel_etiquetas"));
+            EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
+            EXPECT_EQ(takeCommands(), (Texts{"sel_etiquetas"}));
             EXPECT_EQ(grid::rows(gridOf(queue)), reasonLabels);
         });
         under({"sel_etiquetas"}, leaving({Left::Refusal}), [&](const FaultCase&) {
             pickIn(queue, "cboMotivo", 1);
-            EXPECT_THAT(boxes.shown, IsEmpty());
+            EXPECT_EQ(boxes.shown, Boxes{});
             EXPECT_EQ(grid::rows(gridOf(queue)), 0);
             click(queue, "cmdImprimir");
-            EXPECT_THAT(
-                boxes.shown,
-                ElementsAre(information("É necessário escolher o Motivo de Impressão.     ")));
+            EXPECT_EQ(boxes.shown,
+                      (Boxes{information("É necessário escolher o Motivo de Impressão.     ")}));
         });
         under({"sel_etiquetas"}, leaving({Left::NoDeclaration, Left::All}), [&](const FaultCase&) {
             pickIn(queue, "cboMotivo", 2);
-            EXPECT_THAT(boxes.shown, IsEmpty());
+            EXPECT_EQ(boxes.shown, Boxes{});
             EXPECT_EQ(grid::rows(gridOf(queue)), reasonLabels);
         });
     });
@@ -83,8 +82,8 @@ TEST_F(LabelFaults, APrintWithoutItsLabelsOrItsSenderKeepsTheRange) {
             for (const char* command : {"sel_etiquetas", "sel_dados_remetente"}) {
                 under({command}, leaving({Left::Nothing}), [&](const FaultCase&) {
                     click(print, "cmdOk");
-                    EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
-                    EXPECT_THAT(printer.operations, IsEmpty());
+                    EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
+                    EXPECT_THAT(printer.operations, testing::IsEmpty());
                     EXPECT_TRUE(print.isVisible());
                     EXPECT_EQ(text(print, "txtDe"), "1");
                     EXPECT_EQ(text(print, "txtAte"), "2");
@@ -97,13 +96,13 @@ TEST_F(LabelFaults, APrintWithoutItsLabelsOrItsSenderKeepsTheRange) {
                 EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
                 EXPECT_THAT(boxes.shown[0].text,
                             testing::StartsWith("Erro em tempo de execução '91':\r\r"));
-                EXPECT_THAT(printer.operations, IsEmpty());
+                EXPECT_THAT(printer.operations, testing::IsEmpty());
                 EXPECT_TRUE(print.isVisible());
                 EXPECT_FALSE(end.ended());
             });
             forget();
             click(print, "cmdOk");
-            EXPECT_THAT(boxes.shown, ElementsAre(printed));
+            EXPECT_EQ(boxes.shown, (Boxes{printed}));
             EXPECT_TRUE(printer.ended());
         });
         click(queue, "cmdImprimir");
@@ -117,11 +116,11 @@ TEST_F(LabelFaults, ADeletionIsAlwaysASuccessAndTheListTellsTheTruth) {
             const std::string last = std::to_string(left);
             deleting(queue, last, last);
             if (fault.left == Left::Nothing) {
-                EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, deleted));
+                EXPECT_EQ(boxes.shown, (Boxes{noInternet9, deleted}));
             } else {
-                EXPECT_THAT(boxes.shown, ElementsAre(deleted)) << "its answer isn't read";
+                EXPECT_EQ(boxes.shown, (Boxes{deleted})) << "its answer isn't read";
             }
-            EXPECT_THAT(takeCommands(), ElementsAre("exclui_etiquetas", "sel_etiquetas"));
+            EXPECT_EQ(takeCommands(), (Texts{"exclui_etiquetas", "sel_etiquetas"}));
             left -= fault.carriedOut ? 1 : 0;
             EXPECT_EQ(kept(), static_cast<std::size_t>(left));
             EXPECT_EQ(grid::rows(gridOf(queue)), left);
@@ -136,7 +135,7 @@ TEST_F(LabelFaults, AServerGoneAtTheDeletionLeavesTheListAsItWas) {
         under({"exclui_etiquetas", "sel_etiquetas"}, leaving({Left::Nothing}),
               [&](const FaultCase&) {
                   deleting(queue, "1", "0");
-                  EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, deleted, noInternet9));
+                  EXPECT_EQ(boxes.shown, (Boxes{noInternet9, deleted, noInternet9}));
                   EXPECT_EQ(grid::rows(gridOf(queue)), reasonLabels);
               });
     });
@@ -146,9 +145,9 @@ TEST_F(LabelFaults, ReasonsThatDontComeLeaveTheFirstItem) {
     under({"sel_motivos", "sel_filiais_remetente"}, leaving({Left::Nothing}),
           [this](const FaultCase&) {
               modals.then("frmPesqEtiquetas", [this](QWidget& queue) {
-                  EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, noInternet9Wide));
-                  EXPECT_THAT(takeCommands(),
-                              ElementsAre("sel_filiais_remetente", "sel_motivos", "sel_etiquetas"));
+                  EXPECT_EQ(boxes.shown, (Boxes{noInternet9, noInternet9Wide}));
+                  EXPECT_EQ(takeCommands(),
+                            (Texts{"sel_filiais_remetente", "sel_motivos", "sel_etiquetas"}));
                   auto& reasons = named<QComboBox>(queue, "cboMotivo");
                   EXPECT_EQ(reasons.count(), 1);
                   EXPECT_EQ(reasons.currentText(), QStringLiteral("--------"));
@@ -161,7 +160,7 @@ TEST_F(LabelFaults, ReasonsThatDontComeLeaveTheFirstItem) {
 
 TEST_F(LabelFaults, ASelectionWithoutItsListsOrItsRowsStaysOpenAndEmpty) {
     modals.then("FrmImprEtiq", [&](QWidget& selection) {
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide, noInternet9Wide));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9Wide, noInternet9Wide}));
         for (const char* list : {"cboPais", "cboFilial", "cboEstado", "cboCidade"}) {
             EXPECT_EQ(named<QComboBox>(selection, list).count(), 0) << list;
         }

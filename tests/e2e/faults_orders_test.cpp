@@ -1,14 +1,14 @@
 // A server that fails at what goes before a note: the observations, an order's
 // cancellation, its correction, its sheet.
+#include <gmock/gmock.h>
+
 #include <QPlainTextEdit>
 
 #include "tests/e2e/note_faults.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 const Box noObservation = notice(
     "Aconteceu um erro na busca da observação da(s) venda(s). Cancele esta tela e tente "
@@ -46,8 +46,8 @@ TEST_F(OrderFaults, ObservationsThatDontComeDontStopTheNote) {
           [this](const FaultCase&) {
               const std::string order = takeOrder();
               generate(order);
-              EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0004"), noObservation,
-                                                   transportFailure("0004"), noObservation));
+              EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0004"), noObservation,
+                                            transportFailure("0004"), noObservation}));
               expectPrinted(noteOf(order));
               EXPECT_TRUE(timerRuns());
           });
@@ -64,9 +64,9 @@ TEST_F(OrderFaults, TheObservationOfTheOrderBeforeIsShownAgain) {
         modals.then("frmMensagemAlerta",
                     [&](QWidget& question) { answer(question, "cmdCancelar", again); });
         generate(takeOrder());
-        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0004"), noObservation));
+        EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0004"), noObservation}));
         EXPECT_EQ(again, first);
-        EXPECT_THAT(takeCommands(), ElementsAre("Seleciona_Obs_Vnd_X_Ord"));
+        EXPECT_EQ(takeCommands(), (Texts{"Seleciona_Obs_Vnd_X_Ord"}));
     });
     EXPECT_EQ(notes(), 0U);
 }
@@ -75,7 +75,7 @@ TEST_F(OrderFaults, ARefusedObservationOrStockStopsTheNote) {
     for (const char* command : {"Seleciona_Obs_Vnd_X_Ord", "Seleciona_Obs_Ord_X_Est"}) {
         under({command}, leaving({Left::Refusal}), [&](const FaultCase&) {
             generate(takeOrder());
-            EXPECT_THAT(boxes.shown, ElementsAre(refusal));
+            EXPECT_EQ(boxes.shown, (Boxes{refusal}));
             EXPECT_THAT(takeCommands(), testing::Contains(command));
             EXPECT_EQ(notes(), 0U);
             EXPECT_FALSE(timerRuns());
@@ -87,7 +87,7 @@ TEST_F(OrderFaults, ARefusedObservationOrStockStopsTheNote) {
 TEST_F(OrderFaults, AStockWithoutADeclarationEndsTheProgram) {
     page.fail("Seleciona_Obs_Ord_X_Est", {FaultKind::NoDeclaration, {}});
     generate(takeOrder());
-    EXPECT_THAT(boxes.shown, ElementsAre(endReport()));
+    EXPECT_EQ(boxes.shown, (Boxes{endReport()}));
     EXPECT_EQ(end.status(), 3);
     EXPECT_EQ(notes(), 0U);
 }
@@ -98,14 +98,13 @@ TEST_F(OrderFaults, ACancellationThatFailsIsToBeCheckedByHand) {
         press(order, "CmdCanOft");
         const Box question = questionFor(order);
         if (fault.left == Left::Refusal) {
-            EXPECT_THAT(boxes.shown, ElementsAre(question, refusal));
+            EXPECT_EQ(boxes.shown, (Boxes{question, refusal}));
         } else {
-            EXPECT_THAT(boxes.shown,
-                        ElementsAre(question, transportFailure("0003"),
-                                    notice("Favor verificar se a Ordem de Faturamento nº " + order +
-                                           " foi cancelada. ")));
+            EXPECT_EQ(boxes.shown, (Boxes{question, transportFailure("0003"),
+                                          notice("Favor verificar se a Ordem de Faturamento nº " +
+                                                 order + " foi cancelada. ")}));
         }
-        EXPECT_THAT(takeCommands(), ElementsAre("sp_can_oft"));
+        EXPECT_EQ(takeCommands(), (Texts{"sp_can_oft"}));
         EXPECT_GE(rowOf(order), 1) << "the list isn't read anew";
         EXPECT_EQ(listed(order), !fault.carriedOut);
     });
@@ -115,7 +114,7 @@ TEST_F(OrderFaults, ACancellationWithoutADeclarationEndsTheProgram) {
     page.fail("sp_can_oft", {FaultKind::NoDeclaration, {}});
     const std::string order = takeOrder();
     press(order, "CmdCanOft");
-    EXPECT_THAT(boxes.shown, ElementsAre(questionFor(order), endReport()));
+    EXPECT_EQ(boxes.shown, (Boxes{questionFor(order), endReport()}));
     EXPECT_EQ(end.status(), 3);
     EXPECT_FALSE(listed(order));
 }
@@ -130,9 +129,9 @@ TEST_F(OrderFaults, ACorrectionWithoutAnAnswerClosesAndTheListTellsTheTruth) {
             EXPECT_FALSE(dialog.isVisible());
         });
         press(order, "cmdDetOFT");
-        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0013"), notSaved));
-        EXPECT_THAT(takeCommands(),
-                    ElementsAre("Seleciona_Obs_Vnd_X_Ord", "MANUTENCAO_OFT", "sel_ordem_fatu"));
+        EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0013"), notSaved}));
+        EXPECT_EQ(takeCommands(),
+                  (Texts{"Seleciona_Obs_Vnd_X_Ord", "MANUTENCAO_OFT", "sel_ordem_fatu"}));
         ASSERT_NE(before, "4.321,000");
         EXPECT_EQ(grid::cell(orders(), rowOf(order), 10), fault.carriedOut ? "4.321,000" : before);
         EXPECT_EQ(packages(order) == "4321000", fault.carriedOut);
@@ -146,7 +145,7 @@ TEST_F(OrderFaults, ARefusedCorrectionStaysAsTypedAndCanBeSentAgain) {
         modals.then("frmManutDetOFT", [this, &order](QWidget& dialog) {
             type(dialog, "txtQtde", "4321");
             click(dialog, "cmdOk");
-            EXPECT_THAT(boxes.shown, ElementsAre(refusal));
+            EXPECT_EQ(boxes.shown, (Boxes{refusal}));
             EXPECT_TRUE(dialog.isVisible());
             EXPECT_EQ(text(dialog, "txtQtde"), "4.321,000");
             EXPECT_NE(packages(order), "4321000");
@@ -165,22 +164,22 @@ TEST_F(OrderFaults, ASheetWithoutItsOrderIsntPrinted) {
               const std::string order = takeOrder();
               press(order, "cmdImprimirOF");
               if (fault.left == Left::Refusal) {
-                  EXPECT_THAT(boxes.shown, ElementsAre(refusal));
+                  EXPECT_EQ(boxes.shown, (Boxes{refusal}));
               } else {
-                  EXPECT_THAT(boxes.shown,
-                              ElementsAre(transportFailure("0012"),
-                                          notice("Houve um problema na transferência dos dados "
-                                                 "da Ordem de Faturamento nº " +
-                                                 order + ".")));
+                  EXPECT_EQ(boxes.shown,
+                            (Boxes{transportFailure("0012"),
+                                   notice("Houve um problema na transferência dos dados "
+                                          "da Ordem de Faturamento nº " +
+                                          order + ".")}));
               }
-              EXPECT_THAT(spooler.calls, IsEmpty());
+              EXPECT_THAT(spooler.calls, testing::IsEmpty());
               EXPECT_GE(rowOf(order), 1);
           });
     page.fail("sel_impr_ordem_fatu", {FaultKind::NoDeclaration, {}});
     forget();
     press(takeOrder(), "cmdImprimirOF");
-    EXPECT_THAT(boxes.shown, ElementsAre(endReport()));
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_EQ(boxes.shown, (Boxes{endReport()}));
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
     EXPECT_EQ(end.status(), 3);
 }
 

@@ -1,11 +1,11 @@
 // A server that fails at the reprint screen, in both of its jobs.
+#include <gmock/gmock.h>
+
 #include "tests/e2e/note_faults.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 const Box notFound = notice("Nota Fiscal não encontrada ou Cancelada !!!    ");
 
@@ -33,12 +33,12 @@ protected:
 TEST_F(ReprintFaults, ListsThatDontComeOnOpeningShowTheirNumbersAlone) {
     under({"SEL_SERIE_NF", "SEL_MOT_CAN"}, leaving({Left::Nothing}), [this](const FaultCase&) {
         open("mCNF");
-        EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0010"), transportFailure("0011")));
+        EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0010"), transportFailure("0011")}));
         boxes.shown.clear();
         click(reprint(), "cmdPesquisar");
         click(reprint(), "cmdSelecionar");
-        EXPECT_THAT(boxes.shown, ElementsAre(notice("Selecione a série da Nota.     "),
-                                             notice("Selecione a série da Nota ")));
+        EXPECT_EQ(boxes.shown, (Boxes{notice("Selecione a série da Nota.     "),
+                                      notice("Selecione a série da Nota ")}));
         close<FrmReImprimeNF>();
     });
 }
@@ -47,15 +47,14 @@ TEST_F(ReprintFaults, ASearchWithoutAnAnswerLeavesTheFields) {
     openWithNote("mRINF");
     under({"SEL_NF"}, leaving({Left::Nothing}), [this](const FaultCase&) {
         click(reprint(), "cmdPesquisar");
-        EXPECT_THAT(boxes.shown,
-                    ElementsAre(transportFailure("0007"),
-                                notice("Houve um problema na Pesquisa da Nota Fiscal !!!")));
-        EXPECT_THAT(takeCommands(), ElementsAre("SEL_NF"));
+        EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0007"),
+                                      notice("Houve um problema na Pesquisa da Nota Fiscal !!!")}));
+        EXPECT_EQ(takeCommands(), (Texts{"SEL_NF"}));
         expectFound();
     });
     under({"SEL_NF"}, leaving({Left::Refusal}), [this](const FaultCase&) {
         click(reprint(), "cmdPesquisar");
-        EXPECT_THAT(boxes.shown, ElementsAre(notFound)) << "no rows";
+        EXPECT_EQ(boxes.shown, (Boxes{notFound})) << "no rows";
         expectFound();
     });
     under({"SEL_NF"}, leaving({Left::Nothing}), [this](const FaultCase&) {
@@ -64,16 +63,15 @@ TEST_F(ReprintFaults, ASearchWithoutAnAnswerLeavesTheFields) {
         EXPECT_EQ(shown("LBLNOTA"), "") << "what was typed forgot the note found before";
         EXPECT_EQ(text(reprint(), "txtNF"), note);
         click(reprint(), "cmdSelecionar");
-        EXPECT_THAT(boxes.shown,
-                    ElementsAre(transportFailure("0007"),
-                                notice("Houve um problema na Pesquisa da Nota Fiscal !!!"),
-                                notice("Preencha o campo Nro da NF e a série e clique em "
-                                       "pesquisar!!!")));
+        EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0007"),
+                                      notice("Houve um problema na Pesquisa da Nota Fiscal !!!"),
+                                      notice("Preencha o campo Nro da NF e a série e clique em "
+                                             "pesquisar!!!")}));
     });
     under({"SEL_NF"}, leaving({Left::NoDeclaration, Left::All}), [this](const FaultCase&) {
         type(reprint(), "txtNF", note.c_str());
         click(reprint(), "cmdPesquisar");
-        EXPECT_THAT(boxes.shown, IsEmpty()) << "its status isn't looked at";
+        EXPECT_EQ(boxes.shown, Boxes{}) << "its status isn't looked at";
         expectFound();
     });
 }
@@ -85,28 +83,26 @@ TEST_F(ReprintFaults, APrintWithoutItsDocumentIsToldAndCanBeRepeated) {
               click(reprint(), "cmdSelecionar");
               switch (fault.left) {
                   case Left::Refusal:
-                      EXPECT_THAT(boxes.shown, ElementsAre(refusal));
+                      EXPECT_EQ(boxes.shown, (Boxes{refusal}));
                       break;
                   case Left::NoDeclaration:
-                      EXPECT_THAT(boxes.shown,
-                                  ElementsAre(notice("Houve um problema na transferência dos "
-                                                     "dados da Nota Fiscal nº " +
-                                                     note + ". ")));
+                      EXPECT_EQ(boxes.shown, (Boxes{notice("Houve um problema na transferência dos "
+                                                           "dados da Nota Fiscal nº " +
+                                                           note + ". ")}));
                       break;
                   default:
-                      EXPECT_THAT(boxes.shown,
-                                  ElementsAre(transportFailure("0008"),
-                                              notice("Houve um problema na transferência dos "
-                                                     "dados da Nota Fiscal !!!")));
+                      EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0008"),
+                                                    notice("Houve um problema na transferência dos "
+                                                           "dados da Nota Fiscal !!!")}));
               }
-              EXPECT_THAT(takeCommands(), ElementsAre("sel_gera_nf"));
-              EXPECT_THAT(spooler.calls, IsEmpty());
+              EXPECT_EQ(takeCommands(), (Texts{"sel_gera_nf"}));
+              EXPECT_THAT(spooler.calls, testing::IsEmpty());
               expectFound();
               EXPECT_FALSE(end.ended());
               page.heal();
               boxes.shown.clear();
               click(reprint(), "cmdSelecionar");
-              EXPECT_THAT(boxes.shown, IsEmpty());
+              EXPECT_EQ(boxes.shown, Boxes{});
               expectPrinted(note);
           });
 }
@@ -116,44 +112,42 @@ TEST_F(ReprintFaults, ASlowDocumentIsPrintedOnce) {
     under({"sel_gera_nf"}, leaving({Left::All}), [this](const FaultCase&) {
         QTimer::singleShot(slowWait / 2, &menu, [this] { click(reprint(), "cmdSelecionar"); });
         click(reprint(), "cmdSelecionar");
-        EXPECT_THAT(takeCommands(), ElementsAre("sel_gera_nf"));
+        EXPECT_EQ(takeCommands(), (Texts{"sel_gera_nf"}));
         expectPrinted(note);
     });
 }
 
 TEST_F(ReprintFaults, ACancellationThatFailsIsToldByWhatIsKnownOfIt) {
     open("mCNF");
-    under(
-        {"sp_can_nf"}, leaving({Left::Nothing, Left::Refusal, Left::NoDeclaration}),
-        [this](const FaultCase& fault) {
-            note = makeNote();
-            search(note);
-            QTest::mouseClick(&named<QWidget>(reprint(), "OptionReimp_1"), Qt::LeftButton, {},
-                              {8, 8});
-            pickIn(menu, "CboMot_Can", 1);
-            click(reprint(), "cmdSelecionar");
-            switch (fault.left) {
-                case Left::Refusal:
-                    EXPECT_THAT(boxes.shown, ElementsAre(refusal));
-                    break;
-                case Left::NoDeclaration:
-                    EXPECT_THAT(
-                        boxes.shown,
-                        ElementsAre(notice("Houve um problema no Cancelamento da Nota Fiscal nº " +
-                                           note + ". ")));
-                    break;
-                default:
-                    EXPECT_THAT(
-                        boxes.shown,
-                        ElementsAre(noInternet9, notice("Favor verificar se a Nota Fiscal foi "
-                                                        "cancelada. ")));
-            }
-            EXPECT_THAT(takeCommands(), ElementsAre("SEL_NF", "sp_can_nf"));
-            EXPECT_EQ(shown("LBLNOTA"), note);
-            EXPECT_EQ(named<QComboBox>(reprint(), "CboMot_Can").currentIndex(), 1);
-            EXPECT_EQ(found(note), !fault.carriedOut);
-            EXPECT_FALSE(end.ended());
-        });
+    under({"sp_can_nf"}, leaving({Left::Nothing, Left::Refusal, Left::NoDeclaration}),
+          [this](const FaultCase& fault) {
+              note = makeNote();
+              search(note);
+              QTest::mouseClick(&named<QWidget>(reprint(), "OptionReimp_1"), Qt::LeftButton, {},
+                                {8, 8});
+              pickIn(menu, "CboMot_Can", 1);
+              click(reprint(), "cmdSelecionar");
+              switch (fault.left) {
+                  case Left::Refusal:
+                      EXPECT_EQ(boxes.shown, (Boxes{refusal}));
+                      break;
+                  case Left::NoDeclaration:
+                      EXPECT_EQ(
+                          boxes.shown,
+                          (Boxes{notice("Houve um problema no Cancelamento da Nota Fiscal nº " +
+                                        note + ". ")}));
+                      break;
+                  default:
+                      EXPECT_EQ(boxes.shown,
+                                (Boxes{noInternet9, notice("Favor verificar se a Nota Fiscal foi "
+                                                           "cancelada. ")}));
+              }
+              EXPECT_EQ(takeCommands(), (Texts{"SEL_NF", "sp_can_nf"}));
+              EXPECT_EQ(shown("LBLNOTA"), note);
+              EXPECT_EQ(named<QComboBox>(reprint(), "CboMot_Can").currentIndex(), 1);
+              EXPECT_EQ(found(note), !fault.carriedOut);
+              EXPECT_FALSE(end.ended());
+          });
 }
 
 }  // namespace

@@ -1,17 +1,17 @@
 // A server that fails while slips are printed: the portfolio's record before, the writes
 // behind which the paper comes all the same.
+#include <gmock/gmock.h>
+
 #include <QCheckBox>
 #include <QComboBox>
 
 #include "tests/e2e/fault_desk.h"
 #include "tests/support/boxes.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 
 const Box noneTicked = information("Selecione um item na Lista!     ");
 const std::vector<std::string> writes{"altera_docto_cob", "altera_docto_rec", "insere_car_cob",
@@ -119,7 +119,7 @@ TEST_F(SlipFaults, SlipsArePrintedWhateverBecomesOfTheirWrites) {
     inSlips(wallet57, true, [this] {
         under(writes, allFaults(), [this](const FaultCase& fault) {
             const std::vector<Document> documents = print("1234", true);
-            EXPECT_THAT(boxes.shown, IsEmpty());
+            EXPECT_EQ(boxes.shown, Boxes{});
             EXPECT_THAT(takeCommands(), testing::SizeIs(5)) << "the portfolio and four writes";
             expectSlips(documents, {"NOSSO NUMERO: 0000000001234/7   CODIGO CLIENTE: ",
                                     "NOSSO NUMERO: 0000000001235/6   CODIGO CLIENTE: "});
@@ -151,7 +151,7 @@ TEST_F(SlipFaults, ADocumentWhoseSecondWriteFailsHasANumberAndNoPortfolio) {
                   EXPECT_EQ(spooler.jobs.size(), 4U);
                   EXPECT_EQ(kept(documents.front()), "2000|57") << "the second write is sent too";
               });
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(boxes.shown, Boxes{});
     });
 }
 
@@ -161,7 +161,7 @@ TEST_F(SlipFaults, TheOtherLayoutIsPrintedWhateverBecomesOfItsWrite) {
         under(writes, allFaults(), [this](const FaultCase& fault) {
             database.execute("UPDATE document SET slip_number = NULL");
             const std::vector<Document> documents = print("1234", true);
-            EXPECT_THAT(boxes.shown, IsEmpty());
+            EXPECT_EQ(boxes.shown, Boxes{});
             EXPECT_THAT(takeCommands(), testing::SizeIs(3)) << "it enters nothing anywhere";
             expectSlips(documents, {"N.N.  0001234-3\r\n", "N.N.  0001235-1\r\n"});
             EXPECT_EQ(kept(documents.front()), fault.carriedOut ? "00012343|-" : "-|-");
@@ -174,9 +174,9 @@ TEST_F(SlipFaults, WithoutThePortfoliosRecordNothingIsTouched) {
     inSlips(wallet57, false, [this] {
         under({"sel_carteira_cob"}, leaving({Left::Nothing}), [this](const FaultCase&) {
             print("1234", false);
-            EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
-            EXPECT_THAT(takeCommands(), ElementsAre("sel_carteira_cob"));
-            EXPECT_THAT(spooler.calls, IsEmpty());
+            EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
+            EXPECT_EQ(takeCommands(), (Texts{"sel_carteira_cob"}));
+            EXPECT_THAT(spooler.calls, testing::IsEmpty());
             EXPECT_EQ(text(*screen, "txtNr_Bol_Banc"), "1234");
             EXPECT_TRUE(ticked());
         });
@@ -185,7 +185,7 @@ TEST_F(SlipFaults, WithoutThePortfoliosRecordNothingIsTouched) {
               [this](const FaultCase&) {
                   expectSlips(print("1234", false),
                               {"NOSSO NUMERO: 0000000001234/7", "NOSSO NUMERO: 0000000001235/6"});
-                  EXPECT_THAT(boxes.shown, IsEmpty());
+                  EXPECT_EQ(boxes.shown, Boxes{});
               });
     });
 }
@@ -195,14 +195,14 @@ TEST_F(SlipFaults, ARefusedPortfolioLeavesTheBankToTheRowOrToNobody) {
     page.fail("sel_carteira_cob", {FaultKind::Refuse, {}});
     inSlips(wallet57, false, [this] {
         const std::vector<Document> documents = print("1234", false);
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(boxes.shown, Boxes{});
         expectSlips(documents, {"N.N.  0001234-3\r\n", "N.N.  0001235-1\r\n"});
         EXPECT_EQ(kept(documents.front()), "00012343|57");
     });
     inSlips(wallet57, true, [this] {
         const std::vector<Document> documents = print("1234", true);
-        EXPECT_THAT(boxes.shown, ElementsAre(noneTicked));
-        EXPECT_THAT(takeCommands(), ElementsAre("sel_carteira_cob"));
+        EXPECT_EQ(boxes.shown, (Boxes{noneTicked}));
+        EXPECT_EQ(takeCommands(), (Texts{"sel_carteira_cob"}));
         ASSERT_EQ(spooler.jobs.size(), 4U) << "the set-up, and a job that is never closed, twice";
         EXPECT_TRUE(spooler.jobs[0].closed);
         EXPECT_FALSE(spooler.jobs[1].ended);
@@ -218,16 +218,16 @@ TEST_F(SlipFaults, ARefusedPortfolioLeavesTheBankToTheRowOrToNobody) {
 TEST_F(SlipFaults, ListsThatDontComeLeaveTheirFirstItems) {
     under({"sel_filiais", "sel_carteira"}, leaving({Left::Nothing}), [this](const FaultCase&) {
         modals.then("frmPesqBoleto", [this](QWidget& opened) {
-            EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide, noInternet9Wide));
+            EXPECT_EQ(boxes.shown, (Boxes{noInternet9Wide, noInternet9Wide}));
             EXPECT_EQ(named<QComboBox>(opened, "cboFilial").currentText(),
                       QStringLiteral("<-TODAS->"));
             EXPECT_EQ(named<QComboBox>(opened, "cboCartCob").currentText(),
                       QStringLiteral("--------"));
             EXPECT_EQ(named<QComboBox>(opened, "cboCartCob").count(), 1);
             click(opened, "cmdImprimir");
-            EXPECT_THAT(boxes.shown,
-                        ElementsAre(noInternet9Wide, noInternet9Wide,
-                                    information("Carteira Cobrança é um campo obrigatório!     ")));
+            EXPECT_EQ(boxes.shown,
+                      (Boxes{noInternet9Wide, noInternet9Wide,
+                             information("Carteira Cobrança é um campo obrigatório!     ")}));
             click(opened, "cmdVoltar");
         });
         choose(menu, "mnuBoleto");
@@ -240,14 +240,14 @@ TEST_F(SlipFaults, ASearchWithoutAnAnswerLeavesTheGrid) {
         ASSERT_GT(before, 0);
         under({"sel_boleto"}, leaving({Left::Nothing}), [this, before](const FaultCase&) {
             click(*screen, "cmdPesquisar");
-            EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
+            EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
             EXPECT_EQ(grid::rows(gridOf(*screen)), before);
         });
         under({"sel_boleto"}, leaving({Left::Refusal}), [this](const FaultCase&) {
             click(*screen, "cmdPesquisar");
-            EXPECT_THAT(boxes.shown,
-                        ElementsAre(Box{"Não foi encontrado nenhum documento para esta pesquisa. ",
-                                        BoxIcon::Exclamation, "TarnEmissao"}));
+            EXPECT_EQ(boxes.shown,
+                      (Boxes{Box{"Não foi encontrado nenhum documento para esta pesquisa. ",
+                                 BoxIcon::Exclamation, "TarnEmissao"}}));
             EXPECT_EQ(grid::rows(gridOf(*screen)), 0);
         });
     });

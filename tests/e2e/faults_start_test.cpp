@@ -1,17 +1,17 @@
 // A server that fails while the desk starts: at the version, the logon, the
 // establishment's name and the rights.
+#include <gmock/gmock.h>
+
 #include <QLabel>
 #include <chrono>
 
 #include "billing/frm_oft.h"
 #include "tests/e2e/fault_desk.h"
 #include "tests/support/boxes.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 const Box noVersion = requestFailure(
     "Não consegui verificar a versão do TarnEMISSAO porque não tive acesso à internet!!!");
@@ -48,11 +48,11 @@ TEST_P(VersionFaults, OnlyAnUnansweredCheckLetsTheProgramGoOn) {
     fail("VERSAO_TARN_EMISSAO", fault);
     const bool outdated = fault.left == Left::Refusal || fault.left == Left::NoDeclaration;
     start(!outdated);
-    EXPECT_THAT(takeCommands(), ElementsAre("VERSAO_TARN_EMISSAO"));
+    EXPECT_EQ(takeCommands(), (Texts{"VERSAO_TARN_EMISSAO"}));
     if (fault.left == Left::All) {
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(boxes.shown, Boxes{});
     } else if (!outdated) {
-        EXPECT_THAT(boxes.shown, ElementsAre(noVersion));
+        EXPECT_EQ(boxes.shown, (Boxes{noVersion}));
     } else {
         ASSERT_EQ(boxes.shown.size(), 1U);
         EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Information);
@@ -80,13 +80,13 @@ TEST_F(StartFaults, ALogonThatFailsKeepsWhatWasTypedAndTheNextTryGetsIn) {
         lost.push_back(hugeAnswer);
         under({"LOGIN"}, lost, [&](const FaultCase&) {
             click(logon, "btnLogin");
-            EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0001"), noLogon));
-            EXPECT_THAT(takeCommands(), ElementsAre("LOGIN"));
+            EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0001"), noLogon}));
+            EXPECT_EQ(takeCommands(), (Texts{"LOGIN"}));
             expectTyped(logon);
         });
         under({"LOGIN"}, leaving({Left::Refusal}), [&](const FaultCase&) {
             click(logon, "btnLogin");
-            EXPECT_THAT(boxes.shown, ElementsAre(refusal));
+            EXPECT_EQ(boxes.shown, (Boxes{refusal}));
             expectTyped(logon);
         });
         under({"LOGIN"}, leaving({Left::All}), [&](const FaultCase&) {
@@ -97,7 +97,7 @@ TEST_F(StartFaults, ALogonThatFailsKeepsWhatWasTypedAndTheNextTryGetsIn) {
         });
     });
     menu.load();
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     EXPECT_EQ(session.SERVERNAME, "DADOS1361");
     EXPECT_EQ(branch(), "Três Irmãos - Matriz São Paulo");
 }
@@ -110,11 +110,10 @@ TEST_F(StartFaults, ALogonWithoutADeclarationIsTheUnexpectedErrorAndTheEnd) {
         EXPECT_FALSE(logon.isVisible());
     });
     menu.load();
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(Box{"Aconteceu um erro inesperado no sistema. Por favor avise a "
-                                "RVL\nErro = Falta um dado na resposta do servidor",
-                                BoxIcon::Critical, "Aviso"}));
-    EXPECT_THAT(takeCommands(), ElementsAre("VERSAO_TARN_EMISSAO", "LOGIN"));
+    EXPECT_EQ(boxes.shown, (Boxes{Box{"Aconteceu um erro inesperado no sistema. Por favor avise a "
+                                      "RVL\nErro = Falta um dado na resposta do servidor",
+                                      BoxIcon::Critical, "Aviso"}}));
+    EXPECT_EQ(takeCommands(), (Texts{"VERSAO_TARN_EMISSAO", "LOGIN"}));
     EXPECT_EQ(end.status(), 3);
 }
 
@@ -132,13 +131,13 @@ TEST_P(NameFaults, TheNameThatDoesntComeEndsTheProgram) {
     QTimer::singleShot(0, &menu, [this] { menu.load(); });
     ASSERT_TRUE(QTest::qWaitFor([this] { return end.ended() || !branch().empty(); }));
     if (fault.left == Left::Nothing) {
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, endReport()));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9, endReport()}));
         EXPECT_EQ(end.status(), 3);
     } else if (fault.left == Left::Refusal) {
-        EXPECT_THAT(boxes.shown, ElementsAre(endReport())) << "no row";
+        EXPECT_EQ(boxes.shown, (Boxes{endReport()})) << "no row";
         EXPECT_EQ(end.status(), 3);
     } else {
-        EXPECT_THAT(boxes.shown, IsEmpty()) << "a list has no status";
+        EXPECT_EQ(boxes.shown, Boxes{}) << "a list has no status";
         EXPECT_EQ(branch(), "Três Irmãos - Matriz São Paulo");
         EXPECT_FALSE(end.ended());
     }
@@ -150,24 +149,23 @@ TEST_F(StartFaults, WithoutAnAnswerToTheRightNoScreenOpens) {
     logOn();
     under({"verifica_direito_acesso"}, leaving({Left::Nothing}), [this](const FaultCase&) {
         open("mOFT");
-        EXPECT_THAT(
-            boxes.shown,
-            ElementsAre(transportFailure("0002"),
-                        Box{"Houve um problema na verificação do Direito de Acesso do usuário na "
-                            "Transação EMI001. ",
-                            BoxIcon::Exclamation, "TarnEmissao"}));
-        EXPECT_THAT(takeCommands(), ElementsAre("verifica_direito_acesso"));
+        EXPECT_EQ(boxes.shown,
+                  (Boxes{transportFailure("0002"),
+                         Box{"Houve um problema na verificação do Direito de Acesso do usuário na "
+                             "Transação EMI001. ",
+                             BoxIcon::Exclamation, "TarnEmissao"}}));
+        EXPECT_EQ(takeCommands(), (Texts{"verifica_direito_acesso"}));
         EXPECT_EQ(menu.findChild<FrmOFT*>(), nullptr);
     });
     under({"verifica_direito_acesso"}, leaving({Left::Refusal}), [this](const FaultCase&) {
         open("mCNF");
-        EXPECT_THAT(boxes.shown, ElementsAre(refusal));
+        EXPECT_EQ(boxes.shown, (Boxes{refusal}));
         EXPECT_EQ(menu.findChild<QWidget*>("FrmReImprimeNF"), nullptr);
     });
     EXPECT_FALSE(end.ended());
     under({"verifica_direito_acesso"}, leaving({Left::All}), [this](const FaultCase&) {
         open("mOFT");
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(boxes.shown, Boxes{});
         EXPECT_NE(menu.findChild<FrmOFT*>(), nullptr);
     });
 }
@@ -176,7 +174,7 @@ TEST_F(StartFaults, ARightWithoutADeclarationEndsTheProgram) {
     logOn();
     page.fail("verifica_direito_acesso", {FaultKind::NoDeclaration, {}});
     open("mOFT");
-    EXPECT_THAT(boxes.shown, ElementsAre(endReport()));
+    EXPECT_EQ(boxes.shown, (Boxes{endReport()}));
     EXPECT_EQ(end.status(), 3);
     EXPECT_EQ(menu.findChild<FrmOFT*>(), nullptr);
 }

@@ -1,5 +1,7 @@
 // The life of a note in the real screens over HTTP: issued, printed again, cancelled,
 // no longer found.
+#include <gmock/gmock.h>
+
 #include <QComboBox>
 #include <QLabel>
 #include <QTableView>
@@ -12,11 +14,10 @@
 #include "tests/support/network_desk.h"
 #include "tests/support/practice_page.h"
 #include "tests/support/screen_test.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
 
 class NoteLife : public ScreenTest {
 protected:
@@ -30,7 +31,7 @@ protected:
             key(logon, Qt::Key_Return);
         });
         menu.load();
-        ASSERT_THAT(boxes.shown, testing::IsEmpty());
+        ASSERT_EQ(boxes.shown, Boxes{});
     }
     void open(const char* entry) {
         choose(menu, "mnuNF", entry);
@@ -59,7 +60,7 @@ protected:
         grid.scrollTo(cell);
         QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(cell).center());
         click(menu, "cmdSelecionar");
-        EXPECT_THAT(boxes.shown, testing::IsEmpty());
+        EXPECT_EQ(boxes.shown, Boxes{});
         EXPECT_EQ(spooler.jobs.size(), 2U);
         close<FrmOFT>();
         return spooler.jobs.empty() ? "" : spooler.jobs.back().bytes().substr(124, 6);
@@ -97,15 +98,14 @@ TEST_F(NoteLife, IssuedPrintedAgainCancelledAndGone) {
     EXPECT_EQ(shown("LblDtEm"), "05/09/2012");
     EXPECT_EQ(shown("LBLCliente"), "PANIFICADORA E CONFEITARIA PÃO DE ARAÇÁS LTDA");
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(page.takeQueries(),
-                ElementsAre("comando=SEL_NF&ID_ETB_TARN=1361&ID_NF_KESTO=" + number +
-                                "&CD_SER_NF=1&ServerName=DADOS1361",
-                            "comando=sel_gera_nf&ID_ETB_TARN=1361&ID_NF_KESTO=" + number +
-                                "&CD_SER_NF=1&ServerName=DADOS1361"));
+    EXPECT_EQ(page.takeQueries(), (Texts{"comando=SEL_NF&ID_ETB_TARN=1361&ID_NF_KESTO=" + number +
+                                             "&CD_SER_NF=1&ServerName=DADOS1361",
+                                         "comando=sel_gera_nf&ID_ETB_TARN=1361&ID_NF_KESTO=" +
+                                             number + "&CD_SER_NF=1&ServerName=DADOS1361"}));
     ASSERT_EQ(spooler.jobs.size(), 4U);
     EXPECT_EQ(spooler.bytes(2), spooler.bytes(0));
     EXPECT_EQ(spooler.bytes(3), spooler.bytes(1));
-    EXPECT_THAT(boxes.shown, testing::IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     close<FrmReImprimeNF>();
 
     open("mCNF");
@@ -114,15 +114,15 @@ TEST_F(NoteLife, IssuedPrintedAgainCancelledAndGone) {
     pick(screen(), "CboMot_Can", 1);
     page.takeQueries();
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(page.takeQueries(),
-                ElementsAre("comando=sp_can_nf&ID_ETB_TARN=1361&IC_TIP_NF=S&ID_NF_KESTO=" + number +
-                            "&CD_SER_NF=1&id_mot_can=2&id_pes_usu=101&Tipo_Can=C&ServerName="
-                            "DADOS1361"));
+    EXPECT_EQ(page.takeQueries(),
+              (Texts{"comando=sp_can_nf&ID_ETB_TARN=1361&IC_TIP_NF=S&ID_NF_KESTO=" + number +
+                     "&CD_SER_NF=1&id_mot_can=2&id_pes_usu=101&Tipo_Can=C&ServerName="
+                     "DADOS1361"}));
     EXPECT_EQ(shown("LBLNOTA"), "");
     click(screen(), "cmdPesquisar");
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(Box{"Nota fiscal cancelada com sucesso", BoxIcon::Information, "Aviso"},
-                            notFound));
+    EXPECT_EQ(
+        boxes.shown,
+        (Boxes{Box{"Nota fiscal cancelada com sucesso", BoxIcon::Information, "Aviso"}, notFound}));
     EXPECT_EQ(shown("LBLNOTA"), "");
     close<FrmReImprimeNF>();
 
@@ -140,8 +140,8 @@ TEST_F(NoteLife, ANoteOfTypeDPrintsAgainAndStays) {
     EXPECT_FALSE(named<QWidget>(screen(), "OptionReimp_0").isEnabled());
     pick(screen(), "CboMot_Can", 0);
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, ElementsAre(Box{"Selecione o Tipo de Cancelamento !!!",
-                                             BoxIcon::Exclamation, "Aviso"}));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{Box{"Selecione o Tipo de Cancelamento !!!", BoxIcon::Exclamation, "Aviso"}}));
     close<FrmReImprimeNF>();
     open("mRINF");
     search(series2, number);
@@ -164,7 +164,7 @@ TEST_F(NoteLife, Company761IssuesOnOneFormAndReprintsOnTheDefaultOne) {
     ASSERT_EQ(spooler.jobs.size(), 2 + expected.size());
     EXPECT_EQ(spooler.jobs.back().bytes(), expected.back().bytes());
     EXPECT_NE(spooler.jobs.back().bytes(), spooler.bytes(1));
-    EXPECT_THAT(boxes.shown, testing::IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 }  // namespace

@@ -13,13 +13,12 @@
 #include "slips/slip_search.h"
 #include "tests/e2e/note_faults.h"
 #include "tests/support/screen_check.h"
+#include "tests/support/texts.h"
 #include "widgets/free_text_field.h"
 #include "widgets/progress_window.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::IsEmpty;
 
 void settle(QWidget& window) {
     QCoreApplication::sendPostedEvents();
@@ -59,14 +58,14 @@ protected:
                      std::to_string(window.height()));
         settle(window);
         photograph(window, name);
-        EXPECT_THAT(faultsOf(window), IsEmpty());
-        EXPECT_THAT(faultsOfPlace(window), IsEmpty());
+        EXPECT_EQ(faultsOf(window), Texts{});
+        EXPECT_EQ(faultsOfPlace(window), Texts{});
     }
     // A dialog as it opens, as small as it goes, as large as the monitor, and as before.
     static void look(QWidget& window, const std::string& name) {
         const QSize usual = window.size();
         expectWhole(window, name);
-        EXPECT_THAT(faultsOfColours(window), IsEmpty());
+        EXPECT_EQ(faultsOfColours(window), Texts{});
         window.resize(0, 0);
         expectWhole(window, name + "-least");
         window.resize(mostOf(window));
@@ -78,16 +77,16 @@ protected:
     void lookAtDesk(const std::string& name) {
         const QSize usual = menu.size();
         expectWhole(menu, name);
-        EXPECT_THAT(faultsOfColours(menu), IsEmpty());
+        EXPECT_EQ(faultsOfColours(menu), Texts{});
         menu.resize(mostOf(menu));
         expectWhole(menu, name + "-most");
         menu.showMaximized();
         settle(menu);
-        EXPECT_THAT(faultsOf(menu), IsEmpty());
+        EXPECT_EQ(faultsOf(menu), Texts{});
         menu.showNormal();
         menu.resize(usual);
         settle(menu);
-        EXPECT_THAT(faultsOf(menu), IsEmpty());
+        EXPECT_EQ(faultsOf(menu), Texts{});
         menu.resize(0, 0);
         expectWhole(menu, name + "-least");
         menu.resize(usual);

@@ -1,16 +1,14 @@
 #include "gateway/answer.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "tests/gateway/rows_fixture.h"
 #include "tests/support/answers.h"
 #include "tests/support/test_environment.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 TEST(StatusOf, TheSecondAttributeOfTheSecondChild) {
     XmlDocument document;
@@ -46,12 +44,12 @@ TEST(AnswerAccepted, OnlyTheExactOK) {
     XmlDocument document;
     ASSERT_TRUE(document.loadXML(answers::status("OK")));
     EXPECT_TRUE(answerAccepted(seams.environment, document, "vazia"));
-    EXPECT_THAT(seams.boxes.shown, IsEmpty());
+    EXPECT_EQ(seams.boxes.shown, Boxes{});
     ASSERT_TRUE(document.loadXML(answers::status("ok")));
     EXPECT_FALSE(answerAccepted(seams.environment, document, "vazia"));
     EXPECT_FALSE(answerAccepted(seams.environment, XmlDocument(), "vazia"));
-    EXPECT_THAT(seams.boxes.shown,
-                ElementsAre(Box{"ok", BoxIcon::Exclamation}, Box{"vazia", BoxIcon::Exclamation}));
+    EXPECT_EQ(seams.boxes.shown,
+              (Boxes{Box{"ok", BoxIcon::Exclamation}, Box{"vazia", BoxIcon::Exclamation}}));
 }
 
 TEST(RequestAnswer, AsksTheServersOnePage) {
@@ -60,12 +58,12 @@ TEST(RequestAnswer, AsksTheServersOnePage) {
     XmlDocument document;
     EXPECT_TRUE(requestAnswer(seams.environment, "comando=x&A=1", document, "falhou"));
     EXPECT_EQ(statusOf(document), "OK");
-    EXPECT_THAT(seams.loader.queries(), ElementsAre("comando=x&A=1"));
+    EXPECT_EQ(seams.loader.queries(), (Texts{"comando=x&A=1"}));
     seams.loader.failOn("comando=y");
     EXPECT_FALSE(requestAnswer(seams.environment, "comando=y", document, "falhou"));
     EXPECT_TRUE(document.empty());
-    EXPECT_THAT(seams.boxes.shown,
-                ElementsAre(Box{"falhou", BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"}));
+    EXPECT_EQ(seams.boxes.shown,
+              (Boxes{Box{"falhou", BoxIcon::Critical, "TarnEMISSAO - ERRO INESPERADO"}}));
 }
 
 TEST(RowsOf, AreTheElementsOfTheRowset) {
@@ -75,7 +73,7 @@ TEST(RowsOf, AreTheElementsOfTheRowset) {
     for (const XmlNode row : rowsOf(document)) {
         all.emplace_back(row.attributes().textOf("A"));
     }
-    EXPECT_THAT(all, ElementsAre("1", "2"));
+    EXPECT_EQ(all, (Texts{"1", "2"}));
     EXPECT_EQ(rowsetOf(document).childCount(), 2U);
     EXPECT_EQ(rowsetOf(document).child(0).attributes().textOf("B"), "") << "absent";
     EXPECT_EQ(rowsetOf(document).child(0).attributes().textOf("a"), "") << "another name";

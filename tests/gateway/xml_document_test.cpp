@@ -9,6 +9,7 @@
 
 #include "platform/http_loader.h"
 #include "runtime/runtime_error.h"
+#include "tests/gateway/rows_fixture.h"
 
 namespace tarn::test {
 namespace {
@@ -40,15 +41,6 @@ bool loads(std::string_view text) {
     EXPECT_EQ(document.empty(), !ok);
     EXPECT_EQ(document.xml().empty(), !ok);
     return ok;
-}
-
-void expectObjectError(const auto& action) {
-    try {
-        action();
-        ADD_FAILURE() << "no error";
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.number(), RuntimeErrorCode::ObjectVariable);
-    }
 }
 
 TEST(XmlDocument, DeclarationIsChild0AndRootChild1) {

@@ -1,7 +1,6 @@
 // Every name of the house is English, but for the given ones (given_names.txt).
 #include "tests/house/names.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -11,12 +10,10 @@
 
 #include "tests/house/source_text.h"
 #include "tests/house/source_tree.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 using Strings = std::vector<std::string>;
 
 Strings texts(const std::vector<SourcePiece>& pieces) {
@@ -125,63 +122,62 @@ TEST(SourceText, PartsCodeFromCommentsAndTexts) {
         "#include \"a/b.h\"\n#include <c>\nint x1 = 0x1F'FFu + 1'000; // one \"quoted\"\n"
         "                // two\n\nchar q = '\\''; auto r = R\"x(no \" name)x\" u8\"é\"_s;\n/* "
         "three\n*/");
-    EXPECT_THAT(texts(source.identifiers),
-                ElementsAre("int", "x1", "char", "q", "auto", "r", "_s"));
-    EXPECT_THAT(texts(source.comments), ElementsAre(" one \"quoted\"\n two\n", "/* three\n"));
-    EXPECT_THAT(texts(source.inQuotes), ElementsAre("a/b.h"));
-    EXPECT_THAT(texts(source.inBrackets), ElementsAre("c"));
+    EXPECT_EQ(texts(source.identifiers), (Texts{"int", "x1", "char", "q", "auto", "r", "_s"}));
+    EXPECT_EQ(texts(source.comments), (Texts{" one \"quoted\"\n two\n", "/* three\n"}));
+    EXPECT_EQ(texts(source.inQuotes), (Texts{"a/b.h"}));
+    EXPECT_EQ(texts(source.inBrackets), (Texts{"c"}));
     EXPECT_EQ(source.identifiers[2].line, 6);
     EXPECT_EQ(source.comments[1].line, 7);
 }
 
 TEST(SourceText, WordsOfACommentLeaveOutWhatIsQuoted) {
-    EXPECT_THAT(wordsOfComment(" The box \"Não há\" of `cmdOk`, isn't 2x an_id.\n"),
-                ElementsAre("The", "box", "of", "isn", "t", "an_id"));
-    EXPECT_THAT(wordsOfComment("an inch: 5\" and não"), ElementsAre("an", "inch", "and", "não"));
+    EXPECT_EQ(wordsOfComment(" The box \"Não há\" of `cmdOk`, isn't 2x an_id.\n"),
+              (Texts{"The", "box", "of", "isn", "t", "an_id"}));
+    EXPECT_EQ(wordsOfComment("an inch: 5\" and não"), (Texts{"an", "inch", "and", "não"}));
 }
 
 TEST(Names, ArePartedIntoWords) {
-    EXPECT_THAT(wordsOfName("FrmOFTTest"), ElementsAre("frm", "oft", "test"));
-    EXPECT_THAT(wordsOfName("imprimeNF_2161_3341"), ElementsAre("imprime", "nf"));
-    EXPECT_THAT(wordsOfName("kMaxLines_"), ElementsAre("k", "max", "lines"));
-    EXPECT_THAT(wordsOfName("chãoÉ"), ElementsAre("chaoe"));
+    EXPECT_EQ(wordsOfName("FrmOFTTest"), (Texts{"frm", "oft", "test"}));
+    EXPECT_EQ(wordsOfName("imprimeNF_2161_3341"), (Texts{"imprime", "nf"}));
+    EXPECT_EQ(wordsOfName("kMaxLines_"), (Texts{"k", "max", "lines"}));
+    EXPECT_EQ(wordsOfName("chãoÉ"), (Texts{"chaoe"}));
     EXPECT_EQ(folded("Ação ßÿ €"), "acao sy ");
 }
 
 TEST(Names, PortugueseOnesAreFound) {
-    EXPECT_THAT(suspectsIn("int caixa = mostraNota();"),
-                ElementsAre("caixa: caixa", "mostraNota: mostra"));
-    EXPECT_THAT(suspectsIn("// the chão below"), ElementsAre("chão: chao"));
+    EXPECT_EQ(suspectsIn("int caixa = mostraNota();"),
+              (Texts{"caixa: caixa", "mostraNota: mostra"}));
+    EXPECT_EQ(suspectsIn("// the chão below"), (Texts{"chão: chao"}));
     NamePlaces names;
     addPath(names, "src/show/mostra_box.cpp");
-    EXPECT_THAT(suspects(names), ElementsAre("mostra_box: mostra"));
+    EXPECT_EQ(suspects(names), (Texts{"mostra_box: mostra"}));
     names.clear();
     addForm(names, "a.ui", "<widget class=\"QLabel\" name=\"lblCaixa\"/><layout class=\"Q\"/>");
-    EXPECT_THAT(suspects(names), ElementsAre("lblCaixa: caixa"));
+    EXPECT_EQ(suspects(names), (Texts{"lblCaixa: caixa"}));
 }
 
 TEST(Names, EnglishTechnicalAndShortOnesPass) {
-    EXPECT_THAT(suspectsIn("int box = cheque + de_late; // show"), IsEmpty());
-    EXPECT_THAT(suspectsIn("auto s = \"caixa\"; // \"mostra\" and `caixa`"), IsEmpty());
+    EXPECT_EQ(suspectsIn("int box = cheque + de_late; // show"), Texts{});
+    EXPECT_EQ(suspectsIn("auto s = \"caixa\"; // \"mostra\" and `caixa`"), Texts{});
 }
 
 TEST(Names, WordsOfBothDictionariesCanBeListed) {
-    EXPECT_THAT(suspectsIn("int nome;"), ElementsAre("nome: nome"));
+    EXPECT_EQ(suspectsIn("int nome;"), (Texts{"nome: nome"}));
 }
 
 TEST(Names, GivenOnesPass) {
-    EXPECT_THAT(suspectsIn("cmdSelecionar_Click(FrmChequeTest, ordem, ordem_, lblNome, "
-                           "ImprimeNF1361Errors, ui_frm_cheque);"),
-                IsEmpty());
+    EXPECT_EQ(suspectsIn("cmdSelecionar_Click(FrmChequeTest, ordem, ordem_, lblNome, "
+                         "ImprimeNF1361Errors, ui_frm_cheque);"),
+              Texts{});
     NamePlaces names;
     addPath(names, "tests/frm_cheque/imprime_nf_1361_test.cpp");
-    EXPECT_THAT(suspects(names), IsEmpty());
+    EXPECT_EQ(suspects(names), Texts{});
 }
 
 TEST(Names, AGivenOneExcusesOnlyItself) {
-    EXPECT_THAT(suspectsIn("ordemBox, cmdSelecionarCaixa"),
-                ElementsAre("ordemBox: ordem", "cmdSelecionarCaixa: caixa"));
-    EXPECT_THAT(suspectsIn("Ordem"), ElementsAre("Ordem: ordem"));
+    EXPECT_EQ(suspectsIn("ordemBox, cmdSelecionarCaixa"),
+              (Texts{"ordemBox: ordem", "cmdSelecionarCaixa: caixa"}));
+    EXPECT_EQ(suspectsIn("Ordem"), (Texts{"Ordem: ordem"}));
 }
 
 class TreeNames : public testing::Test {

@@ -1,14 +1,14 @@
 #include "labels/customer_selection.h"
 
+#include <gmock/gmock.h>
+
 #include "tests/labels/label_flows.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 
 using namespace labels;
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 const ListItem all{"<-TODAS->", -1};
 
@@ -17,25 +17,28 @@ TEST_F(LabelFlows, ListsOfTheSelection) {
         .on("sel_pais", answers::rowset("<z:row NM_PAIS='BRASIL' ID_PAIS='55'/>"))
         .on("sel_estado", answers::rowset("<z:row NM_UF='SÃO PAULO' ID_UF='35'/>"))
         .on("sel_cidade", answers::rowset("<z:row NM_MUN='SANTOS' ID_MUN='-9'/>"));
-    EXPECT_THAT(loadBranches(env.environment, session), ElementsAre(all, ListItem{"SUL", 12}));
-    EXPECT_THAT(loadCountries(env.environment, session), ElementsAre(all, ListItem{"BRASIL", 55}));
-    EXPECT_THAT(loadStates(env.environment, session, 55),
-                ElementsAre(all, ListItem{"SÃO PAULO", 35}));
-    EXPECT_THAT(loadTowns(env.environment, session, 35), ElementsAre(all, ListItem{"SANTOS", -9}));
-    EXPECT_THAT(env.loader.queries(),
-                ElementsAre("comando=sel_filias&nId_Emp_Tarn=2161&nId_Pes_Usu=77&ServerName=SRV1",
-                            "comando=sel_pais&ServerName=SRV1",
-                            "comando=sel_estado&Pais=55&ServerName=SRV1",
-                            "comando=sel_cidade&Estado=35&ServerName=SRV1"));
+    EXPECT_EQ(loadBranches(env.environment, session),
+              (std::vector<ListItem>{all, ListItem{"SUL", 12}}));
+    EXPECT_EQ(loadCountries(env.environment, session),
+              (std::vector<ListItem>{all, ListItem{"BRASIL", 55}}));
+    EXPECT_EQ(loadStates(env.environment, session, 55),
+              (std::vector<ListItem>{all, ListItem{"SÃO PAULO", 35}}));
+    EXPECT_EQ(loadTowns(env.environment, session, 35),
+              (std::vector<ListItem>{all, ListItem{"SANTOS", -9}}));
+    EXPECT_EQ(
+        env.loader.queries(),
+        (Texts{"comando=sel_filias&nId_Emp_Tarn=2161&nId_Pes_Usu=77&ServerName=SRV1",
+               "comando=sel_pais&ServerName=SRV1", "comando=sel_estado&Pais=55&ServerName=SRV1",
+               "comando=sel_cidade&Estado=35&ServerName=SRV1"}));
 }
 
 TEST_F(LabelFlows, FailedListsOfTheSelection) {
-    EXPECT_THAT(loadBranches(env.environment, session), IsEmpty());
-    EXPECT_THAT(loadCountries(env.environment, session), IsEmpty());
-    EXPECT_THAT(loadStates(env.environment, session, 1), IsEmpty());
-    EXPECT_THAT(loadTowns(env.environment, session, 1), IsEmpty());
-    EXPECT_THAT(env.boxes.shown,
-                ElementsAre(noInternet9Wide, noInternet9Wide, noInternet9Wide, noInternet9Wide));
+    EXPECT_THAT(loadBranches(env.environment, session), testing::IsEmpty());
+    EXPECT_THAT(loadCountries(env.environment, session), testing::IsEmpty());
+    EXPECT_THAT(loadStates(env.environment, session, 1), testing::IsEmpty());
+    EXPECT_THAT(loadTowns(env.environment, session, 1), testing::IsEmpty());
+    EXPECT_EQ(env.boxes.shown,
+              (Boxes{noInternet9Wide, noInternet9Wide, noInternet9Wide, noInternet9Wide}));
 }
 
 TEST(MontaURLTest, GivesTheChosenItemOrAllOthers) {
@@ -77,16 +80,16 @@ TEST_F(LabelFlows, TheSearchShowsItsQueryFirst) {
     const std::string query =
         "comando=sel_dados_etq&nIdEtbTarn=1, 2&nIdPais=&nIdMatPro=P&Q&nCepDe=&nCepAte=&dDtDe="
         "&dDtAte=&nVlrDe=&nVlrAte=&nQtDe=&nQtAte=&nIdOrd=NOME&ServerName=SRV1";
-    EXPECT_THAT(env.boxes.shown, ElementsAre(Box{query}));
-    EXPECT_THAT(env.loader.queries(), ElementsAre(query));
+    EXPECT_EQ(env.boxes.shown, (Boxes{Box{query}}));
+    EXPECT_EQ(env.loader.queries(), (Texts{query}));
     ASSERT_EQ(customers.size(), 2U);
-    EXPECT_THAT(customers[0].cells, ElementsAre("", "1", "N", "L", "B", "SP", "M"));
-    EXPECT_THAT(customers[1].cells, ElementsAre("", "2", "", "", "", "", ""));
+    EXPECT_EQ(customers[0].cells, (Texts{"", "1", "N", "L", "B", "SP", "M"}));
+    EXPECT_EQ(customers[1].cells, (Texts{"", "2", "", "", "", "", ""}));
     EXPECT_FALSE(customers[0].ticked);
 }
 
 TEST_F(LabelFlows, AFailedSearchFindsNobody) {
-    EXPECT_THAT(searchCustomers(env.environment, session, {}), IsEmpty());
+    EXPECT_THAT(searchCustomers(env.environment, session, {}), testing::IsEmpty());
     ASSERT_EQ(env.boxes.shown.size(), 2U);
     EXPECT_EQ(env.boxes.shown[1], noInternet9Wide);
 }

@@ -9,6 +9,7 @@
 #include "tests/labels/label_answers.h"
 #include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 
@@ -16,7 +17,6 @@ using namespace labels;
 namespace {
 
 using testing::ElementsAre;
-using testing::ElementsAreArray;
 
 const Box printed = information(" Etiquetas impressas com sucesso!   ");
 const Box noLabels = information(" Não há Etiquetas nesse intervalo!   ");
@@ -71,29 +71,28 @@ TEST_P(Pimaco, EveryLabelInItsPlace) {
     }
     const std::size_t drawnBeforeBox = expected.size();
     expected.insert(expected.end(), {"newpage", "enddoc"});
-    EXPECT_THAT(print(LabelForm::Pimaco6280, labelRows(count)), ElementsAreArray(expected));
-    EXPECT_THAT(env.boxes.shown, ElementsAre(printed));
+    EXPECT_EQ(print(LabelForm::Pimaco6280, labelRows(count)), expected);
+    EXPECT_EQ(env.boxes.shown, (Boxes{printed}));
     EXPECT_EQ(beforeBox, drawnBeforeBox) << "the last sheet waits for OK";
 }
 INSTANTIATE_TEST_SUITE_P(Labels, Pimaco, testing::Values(1, 2, 3, 4, 29, 30, 31, 60, 61));
 
 TEST_F(DrawnForms, TheFirstLabelOfASheetInFull) {
-    EXPECT_THAT(
+    EXPECT_EQ(
         print(LabelForm::Pimaco6280, labelRows(1)),
-        ElementsAre("scale\t7", "orientation\t1", "text\t0.500\t1.200\tArial\t6\t1\tNOME 1",
-                    "text\t0.500\t1.500\tArial\t6\t1\tRUA 1, 5",
-                    "text\t0.500\t1.800\tArial\t6\t1\tCJ 1",
-                    "text\t3.900\t1.800\tArial\t6\t1\tBAIRRO 1",
-                    "text\t0.500\t2.100\tArial\t6\t1\tCIDADE 1",
-                    "text\t3.900\t2.100\tArial\t6\t1\tU1", "text\t0.500\t2.400\tArial\t6\t1\tCEP 1",
-                    "text\t0.500\t2.700\tArial\t6\t1\tCOD 1", "newpage", "enddoc"));
+        (Texts{"scale\t7", "orientation\t1", "text\t0.500\t1.200\tArial\t6\t1\tNOME 1",
+               "text\t0.500\t1.500\tArial\t6\t1\tRUA 1, 5", "text\t0.500\t1.800\tArial\t6\t1\tCJ 1",
+               "text\t3.900\t1.800\tArial\t6\t1\tBAIRRO 1",
+               "text\t0.500\t2.100\tArial\t6\t1\tCIDADE 1", "text\t3.900\t2.100\tArial\t6\t1\tU1",
+               "text\t0.500\t2.400\tArial\t6\t1\tCEP 1", "text\t0.500\t2.700\tArial\t6\t1\tCOD 1",
+               "newpage", "enddoc"}));
 }
 
 // The calls on the raw channel that end every drawn run: no job is open for them.
 TEST_F(DrawnForms, TheRawChannelIsClosedAllTheSame) {
     print(LabelForm::Pimaco6280, labelRows(1));
     using Call = RecordingSpooler::Call;
-    EXPECT_THAT(env.spooler.calls, ElementsAre(Call::EndPage, Call::EndDocument, Call::Close));
+    EXPECT_EQ(env.spooler.calls, (std::vector{Call::EndPage, Call::EndDocument, Call::Close}));
     EXPECT_TRUE(env.spooler.jobs.empty());
 }
 
@@ -102,8 +101,8 @@ TEST_F(DrawnForms, ARangeWithoutLabels) {
         for (const std::string& none : {labelRows(0), std::string("<xml/>")}) {
             TestEnvironment fresh;
             printLabels(fresh.environment, form, run(none, sender), {});
-            EXPECT_THAT(fresh.printer.lines(), ElementsAre("scale\t7", "orientation\t1"));
-            EXPECT_THAT(fresh.boxes.shown, ElementsAre(noLabels));
+            EXPECT_EQ(fresh.printer.lines(), (Texts{"scale\t7", "orientation\t1"}));
+            EXPECT_EQ(fresh.boxes.shown, (Boxes{noLabels}));
             EXPECT_TRUE(fresh.spooler.calls.empty());
         }
     }
@@ -115,12 +114,12 @@ TEST_F(DrawnForms, ThreeFieldsAreCutTo24Characters) {
                             "X' COMPLEMENTO='" + long24 + "X' BAIRRO='" + long24 +
                             "Y' MUNICIPIO='" + long24 + "Z' UF='" + long24 + "X' CEP='" + long24 +
                             "X' CODIGO='" + long24 + "X'/>";
-    EXPECT_THAT(page(LabelForm::Pimaco6280, row),
-                ElementsAre("scale\t7", "orientation\t1", drawn(500, 1200, 6, long24 + "X"),
-                            drawn(500, 1500, 6, long24 + "X"), drawn(500, 1800, 6, long24),
-                            drawn(3900, 1800, 6, long24), drawn(500, 2100, 6, long24),
-                            drawn(3900, 2100, 6, long24 + "X"), drawn(500, 2400, 6, long24 + "X"),
-                            drawn(500, 2700, 6, long24 + "X"), "newpage", "enddoc"));
+    EXPECT_EQ(page(LabelForm::Pimaco6280, row),
+              (Texts{"scale\t7", "orientation\t1", drawn(500, 1200, 6, long24 + "X"),
+                     drawn(500, 1500, 6, long24 + "X"), drawn(500, 1800, 6, long24),
+                     drawn(3900, 1800, 6, long24), drawn(500, 2100, 6, long24),
+                     drawn(3900, 2100, 6, long24 + "X"), drawn(500, 2400, 6, long24 + "X"),
+                     drawn(500, 2700, 6, long24 + "X"), "newpage", "enddoc"}));
 }
 
 TEST_F(DrawnForms, AbsentFieldsAreDrawnEmptyAndControlsAsBlanks) {
@@ -133,13 +132,13 @@ TEST_F(DrawnForms, AbsentFieldsAreDrawnEmptyAndControlsAsBlanks) {
 }
 
 TEST_F(DrawnForms, TheA5Page) {
-    EXPECT_THAT(print(LabelForm::A5, labelRows(1)),
-                ElementsAre("scale\t7", "orientation\t1", drawn(500, 1200, 15, "NOME 1"),
-                            drawn(500, 1800, 15, "RUA 1, 5"), drawn(500, 2400, 15, "BAIRRO 1"),
-                            drawn(10000, 2400, 15, "CJ 1"), drawn(500, 3000, 15, "CIDADE 1"),
-                            drawn(10000, 3000, 15, "U1"), drawn(500, 3600, 15, "CEP 1"),
-                            drawn(500, 4200, 15, "COD 1"), "newpage", "enddoc"));
-    EXPECT_THAT(env.boxes.shown, ElementsAre(printed));
+    EXPECT_EQ(print(LabelForm::A5, labelRows(1)),
+              (Texts{"scale\t7", "orientation\t1", drawn(500, 1200, 15, "NOME 1"),
+                     drawn(500, 1800, 15, "RUA 1, 5"), drawn(500, 2400, 15, "BAIRRO 1"),
+                     drawn(10000, 2400, 15, "CJ 1"), drawn(500, 3000, 15, "CIDADE 1"),
+                     drawn(10000, 3000, 15, "U1"), drawn(500, 3600, 15, "CEP 1"),
+                     drawn(500, 4200, 15, "COD 1"), "newpage", "enddoc"}));
+    EXPECT_EQ(env.boxes.shown, (Boxes{printed}));
     EXPECT_EQ(beforeBox, 10U);
 }
 
@@ -201,8 +200,8 @@ TEST_F(DrawnForms, AnA4PageForEachLabelWithTheSender) {
     }
     const std::size_t drawnBeforeBox = expected.size();
     expected.emplace_back("enddoc");
-    EXPECT_THAT(print(LabelForm::A4WithSender, labelRows(2)), ElementsAreArray(expected));
-    EXPECT_THAT(env.boxes.shown, ElementsAre(printed));
+    EXPECT_EQ(print(LabelForm::A4WithSender, labelRows(2)), expected);
+    EXPECT_EQ(env.boxes.shown, (Boxes{printed}));
     EXPECT_EQ(beforeBox, drawnBeforeBox);
 }
 
@@ -227,7 +226,7 @@ TEST_F(DrawnForms, ANameOf45CharactersTakesOneLineOf46Two) {
     EXPECT_EQ(lines[6], drawn(500, 3100, 20, "R"));
     EXPECT_EQ(lines[15], drawn(500, 7100, 20, "C"));
     const std::vector<std::string> below(lines.begin() + 16, lines.begin() + 28);
-    EXPECT_THAT(below, ElementsAreArray(senderBlock())) << "the sender stays where it is";
+    EXPECT_EQ(below, senderBlock()) << "the sender stays where it is";
 }
 
 TEST_F(DrawnForms, WhatIsLeftOfALongLineIsNotCutAgain) {
@@ -249,14 +248,14 @@ TEST_F(DrawnForms, TheSendersLongLinesAreBrokenAndItsFieldsNotCut) {
         "' MUNICIPIO='" + long30 + "' UF='PR' CEP='8' DESCRICAO=' " + long30 + " ' NUMERO='12A'/>");
     const std::vector<std::string> lines = print(LabelForm::A4WithSender, labelRows(1), from);
     const std::vector<std::string> block(lines.begin() + 15, lines.end() - 2);
-    EXPECT_THAT(block, ElementsAre(drawn(500, 15500, 13, "REMETENTE"), drawn(500, 16000, 10, rule),
-                                   drawn(500, 16500, 20, fullLine), drawn(500, 17300, 20, "+"),
-                                   drawn(500, 18100, 20, fullLine), drawn(500, 18900, 20, "-"),
-                                   drawn(500, 19700, 20, "Nº "), drawn(1500, 19700, 20, "12A"),
-                                   drawn(12500, 19700, 20, " " + long30 + " "),
-                                   drawn(500, 20500, 20, long30), drawn(500, 21300, 20, long30),
-                                   drawn(12500, 21300, 20, "PR"), drawn(500, 22100, 20, "CEP: "),
-                                   drawn(2500, 22100, 20, "8")));
+    EXPECT_EQ(block,
+              (Texts{drawn(500, 15500, 13, "REMETENTE"), drawn(500, 16000, 10, rule),
+                     drawn(500, 16500, 20, fullLine), drawn(500, 17300, 20, "+"),
+                     drawn(500, 18100, 20, fullLine), drawn(500, 18900, 20, "-"),
+                     drawn(500, 19700, 20, "Nº "), drawn(1500, 19700, 20, "12A"),
+                     drawn(12500, 19700, 20, " " + long30 + " "), drawn(500, 20500, 20, long30),
+                     drawn(500, 21300, 20, long30), drawn(12500, 21300, 20, "PR"),
+                     drawn(500, 22100, 20, "CEP: "), drawn(2500, 22100, 20, "8")}));
 }
 
 TEST_F(DrawnForms, TheAddresseesShortFieldsAreCutOnA4) {
@@ -290,13 +289,13 @@ TEST_F(DrawnForms, ANumberThatCountsAsZeroPrintsNothing) {
 TEST_F(DrawnForms, AFailureIsShownAndTheNextTextDrawn) {
     env.printer.failAt = 3;  // the second text
     EXPECT_EQ(print(LabelForm::A5, labelRows(1)).size(), 12U);
-    EXPECT_THAT(env.boxes.shown, ElementsAre(printerRefused, printed));
+    EXPECT_EQ(env.boxes.shown, (Boxes{printerRefused, printed}));
 }
 
 TEST_F(DrawnForms, AFailureOfTheEndIsShownToo) {
     env.printer.failAt = 11;  // EndDoc
     print(LabelForm::A5, labelRows(1));
-    EXPECT_THAT(env.boxes.shown, ElementsAre(printed, printerRefused));
+    EXPECT_EQ(env.boxes.shown, (Boxes{printed, printerRefused}));
 }
 
 TEST(Sender, MustHaveARow) {
@@ -343,7 +342,7 @@ TEST_F(DrawnForms, ThePrintersOwnProgressIsToldAfterTheBox) {
                 [&told](std::size_t done, std::size_t total) {
                     told.push_back(std::to_string(done) + "/" + std::to_string(total));
                 });
-    EXPECT_THAT(told, ElementsAre("1/3", "2/3", "3/3", "box", "1/2", "2/2"));
+    EXPECT_EQ(told, (Texts{"1/3", "2/3", "3/3", "box", "1/2", "2/2"}));
     EXPECT_FALSE(slow.progress);
 }
 

@@ -1,12 +1,11 @@
 #include "tests/labels/label_screens.h"
 #include "tests/support/entering.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 
 using namespace labels;
 namespace {
-
-using testing::ElementsAre;
 
 const Box deletedBox = information("Etiquetas excluídas com sucesso!     ");
 
@@ -34,12 +33,11 @@ TEST_F(DeletionScreen, ShowsTheReason) {
         EXPECT_EQ(labelOf(deletion, "cboMotivo"), "Motivo de Impressão");
         EXPECT_EQ(labelOf(deletion, "txtDe"), "De");
         EXPECT_EQ(labelOf(deletion, "txtAte"), "Até");
-        EXPECT_THAT(items(deletion, "cboMotivo"), ElementsAre("NATAL"));
+        EXPECT_EQ(items(deletion, "cboMotivo"), (Texts{"NATAL"}));
         EXPECT_EQ(named<QComboBox>(deletion, "cboMotivo").currentIndex(), 0);
         EXPECT_EQ(focused(deletion), "txtDe");
-        EXPECT_THAT(
-            tabOrder(deletion, "cboMotivo", 6),
-            ElementsAre("cboMotivo", "txtDe", "txtAte", "cmdOk", "cmdCancelar", "cboMotivo"));
+        EXPECT_EQ(tabOrder(deletion, "cboMotivo", 6),
+                  (Texts{"cboMotivo", "txtDe", "txtAte", "cmdOk", "cmdCancelar", "cboMotivo"}));
         click(deletion, "cmdCancelar");
     });
 }
@@ -51,8 +49,8 @@ TEST_F(DeletionScreen, BothEndsMustBeFilled) {
         type(deletion, "txtDe", "1");
         click(deletion, "cmdOk");
         EXPECT_EQ(focused(deletion), "txtAte");
-        EXPECT_THAT(boxes.shown, ElementsAre(information("De é um campo obrigatório!  "),
-                                             information("Até é um campo obrigatório!  ")));
+        EXPECT_EQ(boxes.shown, (Boxes{information("De é um campo obrigatório!  "),
+                                      information("Até é um campo obrigatório!  ")}));
         EXPECT_TRUE(server.addresses.empty());
         EXPECT_TRUE(deletion.isVisible());
         click(deletion, "cmdCancelar");
@@ -68,11 +66,10 @@ TEST_F(DeletionScreen, SendsTheRangeClosesAndTheQueueIsReadAgain) {
             click(deletion, "cmdOk");
             EXPECT_FALSE(deletion.isVisible());
         });
-        EXPECT_THAT(server.queries(),
-                    ElementsAre(deletionQuery("7", "3", "NATAL"), queueQuery("NATAL")));
+        EXPECT_EQ(server.queries(), (Texts{deletionQuery("7", "3", "NATAL"), queueQuery("NATAL")}));
         EXPECT_EQ(rows(queue), 1) << "what is left";
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(deletedBox)) << "no question before";
+    EXPECT_EQ(boxes.shown, (Boxes{deletedBox})) << "no question before";
 }
 
 TEST_F(DeletionScreen, AFailedDeletionIsCalledASuccessAndTheListTellsTheTruth) {
@@ -87,11 +84,10 @@ TEST_F(DeletionScreen, AFailedDeletionIsCalledASuccessAndTheListTellsTheTruth) {
             click(deletion, "cmdOk");
             EXPECT_FALSE(deletion.isVisible());
         });
-        EXPECT_THAT(server.queries(),
-                    ElementsAre(deletionQuery("1", "2", "NATAL"), queueQuery("NATAL")));
+        EXPECT_EQ(server.queries(), (Texts{deletionQuery("1", "2", "NATAL"), queueQuery("NATAL")}));
         EXPECT_EQ(rows(queue), 2);
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, deletedBox));
+    EXPECT_EQ(boxes.shown, (Boxes{noInternet9, deletedBox}));
 }
 
 TEST_F(DeletionScreen, WhatIsNoNumberIsReportedAndItStaysOpen) {
@@ -117,11 +113,11 @@ TEST_F(DeletionScreen, NoReasonTravelsAsItReads) {
     inQueue([this](QWidget& queue) {
         server.addresses.clear();
         deleting(queue, [](QWidget& deletion) {
-            EXPECT_THAT(items(deletion, "cboMotivo"), ElementsAre("--------"));
+            EXPECT_EQ(items(deletion, "cboMotivo"), (Texts{"--------"}));
             range(deletion, "1", "2");
             click(deletion, "cmdOk");
         });
-        EXPECT_THAT(server.queries(), ElementsAre(deletionQuery("1", "2", "--------")));
+        EXPECT_EQ(server.queries(), (Texts{deletionQuery("1", "2", "--------")}));
     });
 }
 
@@ -160,7 +156,7 @@ TEST_F(DeletionScreen, CtrlEnterDeletesAndCtrlWClosesTheScreenInFrontAlone) {
         atLeisure(
             [&] { QTest::keyClick(deletion.focusWidget(), Qt::Key_Return, Qt::ControlModifier); });
         EXPECT_FALSE(deletion.isVisible());
-        EXPECT_THAT(boxes.shown, ElementsAre(deletedBox));
+        EXPECT_EQ(boxes.shown, (Boxes{deletedBox}));
     });
     inDeletion([](QWidget& deletion) {
         QTest::keyClick(deletion.focusWidget(), Qt::Key_W, Qt::ControlModifier);

@@ -1,15 +1,15 @@
+#include <gmock/gmock.h>
+
 #include <QRadioButton>
 
 #include "tests/labels/label_screens.h"
 #include "tests/support/entering.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 
 using namespace labels;
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 const Box madeBox{"Impressão Gerada com Sucesso !", BoxIcon::None, "Alerta"};
 const Box dateBox{"Data de Venda obrigatoria nesta ocasião!", BoxIcon::None, "Alert"};
@@ -85,20 +85,20 @@ protected:
 TEST_F(SelectionScreen, OpensWithItsListsAndLeavesTheDeskAlone) {
     inSelection([this](QWidget& selection) {
         EXPECT_TRUE(selection.isModal());
-        EXPECT_THAT(server.queries(), ElementsAre(countriesQuery, companysBranchesQuery));
-        EXPECT_THAT(items(selection, "cboPais"), ElementsAre("<-TODAS->", "BRASIL", "CHILE"));
-        EXPECT_THAT(items(selection, "cboFilial"), ElementsAre("<-TODAS->", "A", "B", "C"));
-        EXPECT_THAT(items(selection, "cboEstado"), IsEmpty());
-        EXPECT_THAT(items(selection, "cboCidade"), IsEmpty());
+        EXPECT_EQ(server.queries(), (Texts{countriesQuery, companysBranchesQuery}));
+        EXPECT_EQ(items(selection, "cboPais"), (Texts{"<-TODAS->", "BRASIL", "CHILE"}));
+        EXPECT_EQ(items(selection, "cboFilial"), (Texts{"<-TODAS->", "A", "B", "C"}));
+        EXPECT_EQ(items(selection, "cboEstado"), Texts{});
+        EXPECT_EQ(items(selection, "cboCidade"), Texts{});
         EXPECT_FALSE(enabled(selection, "cboEstado"));
         EXPECT_FALSE(enabled(selection, "cboCidade"));
         EXPECT_TRUE(named<QRadioButton>(selection, "optCep").isChecked());
-        EXPECT_THAT(headings(selection),
-                    ElementsAre(" ", "Cep", "Cliente", "Endereço", "Bairro", "Estado", "Cidade"));
+        EXPECT_EQ(headings(selection),
+                  (Texts{" ", "Cep", "Cliente", "Endereço", "Bairro", "Estado", "Cidade"}));
         EXPECT_TRUE(named<QTableView>(selection, "sprDados").verticalHeader()->isHidden());
     });
     EXPECT_EQ(server.addresses.size(), 2U);
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(SelectionScreen, LabelsAsGiven) {
@@ -131,11 +131,11 @@ TEST_F(SelectionScreen, TabFollowsTheFilters) {
     inSelection([](QWidget& selection) {
         pick(selection, "cboPais", 1);
         pick(selection, "cboEstado", 1);
-        EXPECT_THAT(tabOrder(selection, "cboFilial", 19),
-                    ElementsAre("cboFilial", "cboPais", "cboEstado", "cboCidade", "txtProd",
-                                "txtCepDe", "txtCepAte", "txtDtVndDe", "txtDtVndAte", "txtVlrDe",
-                                "txtVlrAte", "txtQtde", "txtQtAte", "optCep", "optNome", "sprDados",
-                                "cmdPesquisar", "cmdImprimir", "cmdVoltar"));
+        EXPECT_EQ(tabOrder(selection, "cboFilial", 19),
+                  (Texts{"cboFilial", "cboPais", "cboEstado", "cboCidade", "txtProd", "txtCepDe",
+                         "txtCepAte", "txtDtVndDe", "txtDtVndAte", "txtVlrDe", "txtVlrAte",
+                         "txtQtde", "txtQtAte", "optCep", "optNome", "sprDados", "cmdPesquisar",
+                         "cmdImprimir", "cmdVoltar"}));
     });
 }
 
@@ -143,19 +143,19 @@ TEST_F(SelectionScreen, PlacesDependOnEachOther) {
     inSelection([this](QWidget& selection) {
         server.addresses.clear();
         pick(selection, "cboPais", 1);
-        EXPECT_THAT(items(selection, "cboEstado"), ElementsAre("<-TODAS->", "SÃO PAULO"));
+        EXPECT_EQ(items(selection, "cboEstado"), (Texts{"<-TODAS->", "SÃO PAULO"}));
         EXPECT_TRUE(enabled(selection, "cboEstado"));
         EXPECT_FALSE(enabled(selection, "cboCidade"));
         pick(selection, "cboEstado", 1);
-        EXPECT_THAT(items(selection, "cboCidade"), ElementsAre("<-TODAS->", "SANTOS"));
+        EXPECT_EQ(items(selection, "cboCidade"), (Texts{"<-TODAS->", "SANTOS"}));
         EXPECT_TRUE(enabled(selection, "cboCidade"));
-        EXPECT_THAT(server.queries(), ElementsAre("comando=sel_estado&Pais=55&ServerName=SRV1",
-                                                  "comando=sel_cidade&Estado=35&ServerName=SRV1"));
+        EXPECT_EQ(server.queries(), (Texts{"comando=sel_estado&Pais=55&ServerName=SRV1",
+                                           "comando=sel_cidade&Estado=35&ServerName=SRV1"}));
         pick(selection, "cboEstado", 0);
-        EXPECT_THAT(items(selection, "cboCidade"), IsEmpty());
+        EXPECT_EQ(items(selection, "cboCidade"), Texts{});
         EXPECT_FALSE(enabled(selection, "cboCidade"));
         pick(selection, "cboPais", 0);
-        EXPECT_THAT(items(selection, "cboEstado"), IsEmpty());
+        EXPECT_EQ(items(selection, "cboEstado"), Texts{});
         EXPECT_FALSE(enabled(selection, "cboEstado"));
         EXPECT_EQ(server.addresses.size(), 2U);
     });
@@ -197,16 +197,15 @@ TEST_F(SelectionScreen, AFailedStateTakesTheCitiesOfTheFormerOneAway) {
         pick(selection, "cboEstado", 1);
         pick(selection, "cboCidade", 1);
         pick(selection, "cboPais", 2);
-        EXPECT_THAT(items(selection, "cboCidade"), IsEmpty());
+        EXPECT_EQ(items(selection, "cboCidade"), Texts{});
         EXPECT_FALSE(enabled(selection, "cboCidade"));
         pick(selection, "cboEstado", 1);
-        EXPECT_THAT(items(selection, "cboCidade"), IsEmpty());
+        EXPECT_EQ(items(selection, "cboCidade"), Texts{});
         EXPECT_TRUE(enabled(selection, "cboCidade"));
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9Wide}));
         boxes.shown.clear();
         click(selection, "cmdPesquisar");
-        EXPECT_THAT(boxes.shown,
-                    ElementsAre(Box{searchQuery("10, 20, 30", "56&nIdUf=70", noFilter)}));
+        EXPECT_EQ(boxes.shown, (Boxes{Box{searchQuery("10, 20, 30", "56&nIdUf=70", noFilter)}}));
     });
 }
 
@@ -228,24 +227,24 @@ TEST_F(SelectionScreen, FailedPlacesLeaveTheirListsEmpty) {
     server.failOn("comando=sel_estado");
     inSelection([this](QWidget& selection) {
         pick(selection, "cboPais", 2);
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
-        EXPECT_THAT(items(selection, "cboEstado"), IsEmpty());
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9Wide}));
+        EXPECT_EQ(items(selection, "cboEstado"), Texts{});
         EXPECT_TRUE(enabled(selection, "cboEstado"));
         boxes.shown.clear();
         click(selection, "cmdPesquisar");
-        EXPECT_THAT(boxes.shown, ElementsAre(Box{searchQuery("10, 20, 30", "56", noFilter)}));
+        EXPECT_EQ(boxes.shown, (Boxes{Box{searchQuery("10, 20, 30", "56", noFilter)}}));
     });
 }
 
 TEST_F(SelectionScreen, FailedListsLeaveTheScreenOpenAndTheirFiltersEmpty) {
     server = ScriptedLoader();
     inSelection([this](QWidget& selection) {
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide, noInternet9Wide));
-        EXPECT_THAT(items(selection, "cboPais"), IsEmpty());
-        EXPECT_THAT(items(selection, "cboFilial"), IsEmpty());
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9Wide, noInternet9Wide}));
+        EXPECT_EQ(items(selection, "cboPais"), Texts{});
+        EXPECT_EQ(items(selection, "cboFilial"), Texts{});
         boxes.shown.clear();
         click(selection, "cmdPesquisar");
-        EXPECT_THAT(boxes.shown, ElementsAre(Box{searchQuery("", "", noFilter)}, noInternet9Wide));
+        EXPECT_EQ(boxes.shown, (Boxes{Box{searchQuery("", "", noFilter)}, noInternet9Wide}));
         EXPECT_EQ(rows(selection), 0);
     });
 }
@@ -256,14 +255,14 @@ TEST_F(SelectionScreen, ASearchShowsItsQueryThenTheCustomers) {
         boxes.onShow = [this](const Box&) { EXPECT_TRUE(server.addresses.empty()); };
         click(selection, "cmdPesquisar");
         const std::string query = searchQuery("10, 20, 30", "", noFilter);
-        EXPECT_THAT(boxes.shown, ElementsAre(Box{query}));
-        EXPECT_THAT(server.queries(), ElementsAre(query));
+        EXPECT_EQ(boxes.shown, (Boxes{Box{query}}));
+        EXPECT_EQ(server.queries(), (Texts{query}));
         ASSERT_EQ(rows(selection), 3);
         std::vector<std::string> row;
         for (int column = 1; column <= 7; ++column) {
             row.push_back(cell(selection, 2, column));
         }
-        EXPECT_THAT(row, ElementsAre("", "CEP 2", "NOME 2", "RUA 2", "BAIRRO 2", "U2", "CIDADE 2"));
+        EXPECT_EQ(row, (Texts{"", "CEP 2", "NOME 2", "RUA 2", "BAIRRO 2", "U2", "CIDADE 2"}));
         EXPECT_FALSE(ticked(selection, 1));
     });
 }
@@ -288,11 +287,11 @@ TEST_F(SelectionScreen, EveryFilterTravels) {
         QTest::mouseClick(&named<QWidget>(selection, "optNome"), Qt::LeftButton, {}, QPoint(5, 5));
         server.addresses.clear();
         click(selection, "cmdPesquisar");
-        EXPECT_THAT(server.queries(), ElementsAre(searchQuery(
-                                          "20", "55&nIdUf=35&nIdMun=99",
-                                          "P&Q 1&nCepDe=1000&nCepAte=2000&dDtDe=01/01/2012&dDtAte="
-                                          "31/12/2012&nVlrDe=1,5&nVlrAte=2&nQtDe=3&nQtAte=4&nIdOrd="
-                                          "NOME")));
+        EXPECT_EQ(server.queries(),
+                  (Texts{searchQuery("20", "55&nIdUf=35&nIdMun=99",
+                                     "P&Q 1&nCepDe=1000&nCepAte=2000&dDtDe=01/01/2012&dDtAte="
+                                     "31/12/2012&nVlrDe=1,5&nVlrAte=2&nQtDe=3&nQtAte=4&nIdOrd="
+                                     "NOME")}));
     });
 }
 
@@ -307,7 +306,7 @@ TEST_F(SelectionScreen, WhatWasBoughtAsksForTheDatesOfTheSale) {
             type(selection, "txtDtVndDe", "15");
             click(selection, "cmdPesquisar");
             EXPECT_EQ(focused(selection), "txtDtVndAte");
-            EXPECT_THAT(boxes.shown, ElementsAre(dateBox, dateBox)) << field;
+            EXPECT_EQ(boxes.shown, (Boxes{dateBox, dateBox})) << field;
             EXPECT_TRUE(server.addresses.empty());
             EXPECT_EQ(text(selection, "txtDtVndDe"), "15/03/2012");
         });
@@ -381,14 +380,13 @@ TEST_F(SelectionScreen, TickedCustomersPrint) {
         EXPECT_TRUE(ticked(selection, 1));
         EXPECT_FALSE(ticked(selection, 2));
         click(selection, "cmdImprimir");
-        EXPECT_THAT(
-            printer.lines(),
-            ElementsAre("scale\t7", "orientation\t1", drawn(800, 1545, 10, "NOME 1"),
-                        drawn(800, 2045, 8, "RUA 1"), drawn(800, 2545, 8, "CEP 1"),
-                        drawn(800, 3045, 8, "CIDADE 1 - U1"), drawn(11500, 1545, 10, "NOME 3"),
-                        drawn(11500, 2045, 8, "RUA 3"), drawn(11500, 2545, 8, "CEP 3"),
-                        drawn(11500, 3045, 8, "CIDADE 3 - U3"), "enddoc"));
-        EXPECT_THAT(boxes.shown, ElementsAre(madeBox));
+        EXPECT_EQ(printer.lines(),
+                  (Texts{"scale\t7", "orientation\t1", drawn(800, 1545, 10, "NOME 1"),
+                         drawn(800, 2045, 8, "RUA 1"), drawn(800, 2545, 8, "CEP 1"),
+                         drawn(800, 3045, 8, "CIDADE 1 - U1"), drawn(11500, 1545, 10, "NOME 3"),
+                         drawn(11500, 2045, 8, "RUA 3"), drawn(11500, 2545, 8, "CEP 3"),
+                         drawn(11500, 3045, 8, "CIDADE 3 - U3"), "enddoc"}));
+        EXPECT_EQ(boxes.shown, (Boxes{madeBox}));
         EXPECT_TRUE(server.addresses.empty());
         EXPECT_TRUE(selection.isVisible());
     });
@@ -406,8 +404,8 @@ TEST_F(SelectionScreen, TheHeadingTicksNothing) {
 TEST_F(SelectionScreen, NobodyTickedIsCalledASuccess) {
     inFound([this](QWidget& selection) {
         click(selection, "cmdImprimir");
-        EXPECT_THAT(printer.lines(), ElementsAre("scale\t7", "orientation\t1", "enddoc"));
-        EXPECT_THAT(boxes.shown, ElementsAre(madeBox));
+        EXPECT_EQ(printer.lines(), (Texts{"scale\t7", "orientation\t1", "enddoc"}));
+        EXPECT_EQ(boxes.shown, (Boxes{madeBox}));
     });
 }
 
@@ -417,7 +415,7 @@ TEST_F(SelectionScreen, AFailureWhileDrawingIsShownAndPrintingGoesOn) {
         printer.failAt = 3;
         click(selection, "cmdImprimir");
         EXPECT_EQ(printer.operations.size(), 7U);
-        EXPECT_THAT(boxes.shown, ElementsAre(printerRefused, madeBox));
+        EXPECT_EQ(boxes.shown, (Boxes{printerRefused, madeBox}));
     });
 }
 
@@ -426,7 +424,7 @@ TEST_F(SelectionScreen, ADocumentThatIsRefusedKeepsTheTicksAndIsNoSuccess) {
         tick(selection, 1);
         printer.refuses = isNoText;
         click(selection, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(printerRefused));
+        EXPECT_EQ(boxes.shown, (Boxes{printerRefused}));
         EXPECT_TRUE(selection.isVisible());
         EXPECT_TRUE(ticked(selection, 1));
     });

@@ -1,15 +1,15 @@
+#include <gmock/gmock.h>
+
 #include <QDialog>
 
 #include "tests/labels/label_screens.h"
 #include "tests/support/entering.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 
 using namespace labels;
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 using PrintScreen = LabelScreens;
 
@@ -20,8 +20,8 @@ TEST_F(PrintScreen, ShowsTheFormAndWaitsForTheRange) {
     for (int form = 1; form <= 4; ++form) {
         inPrinting(form, [&](QWidget& print) {
             EXPECT_EQ(print.windowTitle(), QStringLiteral("Imprimir Etiquetas"));
-            EXPECT_THAT(items(print, "cboTp_Form"),
-                        ElementsAre(names[static_cast<std::size_t>(form - 1)]));
+            EXPECT_EQ(items(print, "cboTp_Form"),
+                      (Texts{names[static_cast<std::size_t>(form - 1)]}));
             const auto& list = named<QComboBox>(print, "cboTp_Form");
             EXPECT_EQ(list.currentIndex(), 0);
             EXPECT_EQ(list.currentData().toInt(), form);
@@ -38,9 +38,8 @@ TEST_F(PrintScreen, LabelsAndTabOrder) {
         EXPECT_EQ(named<QLabel>(print, "lblSequencial").text(), QStringLiteral("Seqüencial"));
         EXPECT_EQ(labelOf(print, "txtDe"), "De");
         EXPECT_EQ(labelOf(print, "txtAte"), "Até");
-        EXPECT_THAT(
-            tabOrder(print, "cboTp_Form", 6),
-            ElementsAre("cboTp_Form", "txtDe", "txtAte", "cmdOk", "cmdCancelar", "cboTp_Form"));
+        EXPECT_EQ(tabOrder(print, "cboTp_Form", 6),
+                  (Texts{"cboTp_Form", "txtDe", "txtAte", "cmdOk", "cmdCancelar", "cboTp_Form"}));
         click(print, "cmdCancelar");
     });
 }
@@ -81,10 +80,10 @@ TEST_F(PrintScreen, PrintsTheRangeAndCloses) {
             click(print, "cmdOk");
             EXPECT_FALSE(print.isVisible());
         });
-        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL", "7", "1000"),
-                                                  senderQuery("0"), queueQuery("NATAL")));
+        EXPECT_EQ(server.queries(),
+                  (Texts{queueQuery("NATAL", "7", "1000"), senderQuery("0"), queueQuery("NATAL")}));
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(printedBox));
+    EXPECT_EQ(boxes.shown, (Boxes{printedBox}));
     EXPECT_EQ(printer.operations.size(), 2U + 2U * 8U + 2U);
     EXPECT_TRUE(printer.ended());
 }
@@ -95,7 +94,7 @@ TEST_F(PrintScreen, TheRawFormPrintsWithoutAWord) {
         click(print, "cmdOk");
         EXPECT_FALSE(print.isVisible());
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     ASSERT_EQ(spooler.jobs.size(), 2U);
     EXPECT_EQ(spooler.jobs[0].bytes(), " \x0F\x1BM");
     EXPECT_EQ(spooler.jobs[1].writes.size(), 15U);
@@ -112,8 +111,8 @@ TEST_F(PrintScreen, ARangeWithoutLabelsSaysSoAndCloses) {
             click(print, "cmdOk");
             EXPECT_FALSE(print.isVisible());
         });
-        EXPECT_THAT(boxes.shown, ElementsAre(information(" Não há Etiquetas nesse intervalo!   ")));
-        EXPECT_THAT(printer.lines(), ElementsAre("scale\t7", "orientation\t1"));
+        EXPECT_EQ(boxes.shown, (Boxes{information(" Não há Etiquetas nesse intervalo!   ")}));
+        EXPECT_EQ(printer.lines(), (Texts{"scale\t7", "orientation\t1"}));
     }
     inPrinting(2, [](QWidget& print) {
         range(print, "8", "9");
@@ -128,7 +127,7 @@ TEST_F(PrintScreen, AFailedRequestLeavesItOpenForAnotherTry) {
     inPrinting(3, [this](QWidget& print) {
         range(print, "8", "9");
         click(print, "cmdOk");
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
         EXPECT_TRUE(print.isVisible());
         EXPECT_EQ(text(print, "txtDe") + "-" + text(print, "txtAte"), "8-9");
         EXPECT_TRUE(printer.operations.empty());
@@ -136,7 +135,7 @@ TEST_F(PrintScreen, AFailedRequestLeavesItOpenForAnotherTry) {
         click(print, "cmdOk");
         EXPECT_FALSE(print.isVisible());
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(noInternet9, printedBox));
+    EXPECT_EQ(boxes.shown, (Boxes{noInternet9, printedBox}));
 }
 
 TEST_F(PrintScreen, AFailedSenderLeavesItOpenToo) {
@@ -144,7 +143,7 @@ TEST_F(PrintScreen, AFailedSenderLeavesItOpenToo) {
     inPrinting(2, [this](QWidget& print) {
         range(print, "1", "2");
         click(print, "cmdOk");
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
         EXPECT_TRUE(print.isVisible());
         EXPECT_TRUE(spooler.calls.empty());
         click(print, "cmdCancelar");
@@ -203,7 +202,7 @@ TEST_F(PrintScreen, AFailureWhileDrawingIsShownAndPrintingGoesOn) {
         click(print, "cmdOk");
         EXPECT_FALSE(print.isVisible());
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(printerRefused, printedBox));
+    EXPECT_EQ(boxes.shown, (Boxes{printerRefused, printedBox}));
     EXPECT_EQ(printer.operations.size(), 2U + 2U * 8U + 2U);
 }
 
@@ -258,11 +257,11 @@ TEST_F(PrintScreen, ADocumentRefusedAfterTheBoxIsToldAndTheScreenStaysForAnother
             EXPECT_TRUE(printer.ended());
             EXPECT_TRUE(print.isVisible());
             EXPECT_EQ(text(print, "txtDe"), "1");
-            EXPECT_THAT(boxes.shown, ElementsAre(printedBox, printerRefused));
+            EXPECT_EQ(boxes.shown, (Boxes{printedBox, printerRefused}));
             click(print, "cmdOk");
             EXPECT_FALSE(print.isVisible());
         });
-        EXPECT_THAT(boxes.shown, ElementsAre(printedBox, printerRefused, printedBox))
+        EXPECT_EQ(boxes.shown, (Boxes{printedBox, printerRefused, printedBox}))
             << form << " " << failAt;
     }
 }
@@ -276,7 +275,7 @@ TEST_F(PrintScreen, ADocumentRefusedBeforeTheBoxIsToldInItsPlace) {
         EXPECT_TRUE(printer.ended());
         click(print, "cmdCancelar");
     });
-    EXPECT_THAT(boxes.shown, ElementsAre(printerRefused));
+    EXPECT_EQ(boxes.shown, (Boxes{printerRefused}));
 }
 
 TEST_F(PrintScreen, ADocumentIsToldOfOnceAndEachSheetIsOne) {
@@ -318,8 +317,8 @@ TEST_F(PrintScreen, WhatIsPressedWhileItFetchesAndPrintsIsLost) {
         });
         EXPECT_EQ(boxes.shown.size(), form == 2 ? 0U : 1U);
         EXPECT_EQ(spooler.jobs.size(), form == 2 ? 2U : 0U);
-        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL", "8", "9000"),
-                                                  senderQuery("0"), queueQuery("NATAL"), deskQuery))
+        EXPECT_EQ(server.queries(), (Texts{queueQuery("NATAL", "8", "9000"), senderQuery("0"),
+                                           queueQuery("NATAL"), deskQuery}))
             << "fetched once";
     }
 }
@@ -339,7 +338,7 @@ TEST_F(PrintScreen, ThirtyAndSixtyOneLabelsOnSheets) {
         });
         boxes.onShow = nullptr;
         EXPECT_THAT(printer.lines(), testing::Contains("enddoc").Times(documents)) << count;
-        EXPECT_THAT(boxes.shown, ElementsAre(printedBox));
+        EXPECT_EQ(boxes.shown, (Boxes{printedBox}));
     }
 }
 

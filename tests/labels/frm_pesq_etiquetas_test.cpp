@@ -1,12 +1,12 @@
+#include <gmock/gmock.h>
+
 #include "tests/labels/label_screens.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 
 using namespace labels;
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 using QueueScreen = LabelScreens;
 
@@ -16,17 +16,16 @@ const Box chooseForm = information("Tipo de formulário é um campo obrigatório
 TEST_F(QueueScreen, OpensWithItsListsAndNoQueue) {
     inQueue([this](QWidget& queue) {
         EXPECT_TRUE(queue.isModal());
-        EXPECT_THAT(server.queries(),
-                    ElementsAre(branchesQuery, reasonsQuery, queueQuery("--------")));
+        EXPECT_EQ(server.queries(), (Texts{branchesQuery, reasonsQuery, queueQuery("--------")}));
         EXPECT_EQ(named<QLabel>(queue, "lblPesq_Dpc").text(),
                   QStringLiteral("Pesquisa de Etiquetas"));
         EXPECT_EQ(text(queue, "txtTipo"), " CLIENTES");
-        EXPECT_THAT(items(queue, "cboMotivo"), ElementsAre("--------", "NATAL", "PÁSCOA"));
-        EXPECT_THAT(
+        EXPECT_EQ(items(queue, "cboMotivo"), (Texts{"--------", "NATAL", "PÁSCOA"}));
+        EXPECT_EQ(
             items(queue, "cboTp_Form"),
-            ElementsAre("--------", "PIMACO 6280 - LASER", "PIMACO - XXX - MATRICIAL",
-                        "PDF - A5 - DESTINATÁRIO", "PDF - A4 - DESTINATÁRIO - REMETENTE - LASER"));
-        EXPECT_THAT(items(queue, "CboFilialRemet"), ElementsAre("--------", "SUL", "NORTE"));
+            (Texts{"--------", "PIMACO 6280 - LASER", "PIMACO - XXX - MATRICIAL",
+                   "PDF - A5 - DESTINATÁRIO", "PDF - A4 - DESTINATÁRIO - REMETENTE - LASER"}));
+        EXPECT_EQ(items(queue, "CboFilialRemet"), (Texts{"--------", "SUL", "NORTE"}));
         for (const char* list : {"cboMotivo", "cboTp_Form", "CboFilialRemet"}) {
             EXPECT_EQ(named<QComboBox>(queue, list).currentIndex(), 0) << list;
         }
@@ -34,7 +33,7 @@ TEST_F(QueueScreen, OpensWithItsListsAndNoQueue) {
         EXPECT_FALSE(named<QWidget>(queue, "CboFilialRemet").isVisible());
         EXPECT_FALSE(named<QWidget>(queue, "LblFilialRemet").isVisible());
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     EXPECT_EQ(server.queries().back(), deskQuery) << "the desk is the active one again";
     EXPECT_EQ(server.queries().size(), 4U);
 }
@@ -48,9 +47,8 @@ TEST_F(QueueScreen, LabelsAndHeadingsAsGiven) {
         EXPECT_EQ(named<QLabel>(queue, "lblObs").text(),
                   QStringLiteral("* Etiquetas que não excluídas no prazo de 15 dias, serão "
                                  "excluídas automaticamente pelo sistema"));
-        EXPECT_THAT(headings(queue),
-                    ElementsAre("Sequencial", "Cep", "Nome", "Código", "Endereço Nº", "Complemento",
-                                "Bairro", "Município", "UF", "País"));
+        EXPECT_EQ(headings(queue), (Texts{"Sequencial", "Cep", "Nome", "Código", "Endereço Nº",
+                                          "Complemento", "Bairro", "Município", "UF", "País"}));
         EXPECT_TRUE(named<QTableView>(queue, "sprDados").verticalHeader()->isHidden())
             << "row numbers would be taken for the sequence";
         EXPECT_TRUE(named<QLineEdit>(queue, "txtTipo").isReadOnly());
@@ -71,12 +69,12 @@ TEST_F(QueueScreen, SuppliersHaveTheirOwnReasons) {
 TEST_F(QueueScreen, TabFollowsTheFieldsThenTheButtons) {
     inQueue([](QWidget& queue) {
         EXPECT_EQ(focused(queue), "cboMotivo");
-        EXPECT_THAT(tabOrder(queue, "txtTipo", 8),
-                    ElementsAre("txtTipo", "cboMotivo", "cboTp_Form", "sprDados", "cmdImprimir",
-                                "cmdExcluir", "cmdVoltar", "txtTipo"));
+        EXPECT_EQ(tabOrder(queue, "txtTipo", 8),
+                  (Texts{"txtTipo", "cboMotivo", "cboTp_Form", "sprDados", "cmdImprimir",
+                         "cmdExcluir", "cmdVoltar", "txtTipo"}));
         pick(queue, "cboTp_Form", 4);
-        EXPECT_THAT(tabOrder(queue, "cboTp_Form", 3),
-                    ElementsAre("cboTp_Form", "CboFilialRemet", "sprDados"));
+        EXPECT_EQ(tabOrder(queue, "cboTp_Form", 3),
+                  (Texts{"cboTp_Form", "CboFilialRemet", "sprDados"}));
     });
 }
 
@@ -89,14 +87,14 @@ TEST_F(QueueScreen, AReasonShowsItsQueue) {
     inQueue([this](QWidget& queue) {
         server.addresses.clear();
         pick(queue, "cboMotivo", easter);
-        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("PÁSCOA")));
+        EXPECT_EQ(server.queries(), (Texts{queueQuery("PÁSCOA")}));
         ASSERT_EQ(rows(queue), 2);
         std::vector<std::string> row;
         for (int column = 1; column <= 10; ++column) {
             row.push_back(cell(queue, 1, column));
         }
-        EXPECT_THAT(row, ElementsAre("40001", "01000-000", "<b>JOSÉ", "7", "RUA A, 1", "CJ", "SÉ",
-                                     "SÃO PAULO", "SP", "BRASIL"));
+        EXPECT_EQ(row, (Texts{"40001", "01000-000", "<b>JOSÉ", "7", "RUA A, 1", "CJ", "SÉ",
+                              "SÃO PAULO", "SP", "BRASIL"}));
         EXPECT_EQ(cell(queue, 2, 1), "40002");
         EXPECT_EQ(cell(queue, 2, 2), "") << "another case is absent";
     });
@@ -110,7 +108,7 @@ TEST_F(QueueScreen, AnEmptyQueueAsksForTheReasonAllTheSame) {
         EXPECT_EQ(rows(queue), 0);
         pick(queue, "cboTp_Form", 1);
         click(queue, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(chooseReason));
+        EXPECT_EQ(boxes.shown, (Boxes{chooseReason}));
         EXPECT_EQ(focused(queue), "cboMotivo");
     });
 }
@@ -121,7 +119,7 @@ TEST_F(QueueScreen, PrintingNeedsAForm) {
         EXPECT_EQ(focused(queue), "cboMotivo");
         pick(queue, "cboMotivo", christmas);
         click(queue, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, ElementsAre(chooseReason, chooseForm));
+        EXPECT_EQ(boxes.shown, (Boxes{chooseReason, chooseForm}));
         EXPECT_EQ(focused(queue), "cboTp_Form");
     });
 }
@@ -131,7 +129,7 @@ TEST_F(QueueScreen, ChoosingTheSameReasonAgainReadsItAgain) {
         pick(queue, "cboMotivo", christmas);
         server.addresses.clear();
         pick(queue, "cboMotivo", christmas);
-        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL")));
+        EXPECT_EQ(server.queries(), (Texts{queueQuery("NATAL")}));
     });
 }
 
@@ -219,10 +217,10 @@ TEST_F(QueueScreen, WhatIsPressedDuringARequestIsLost) {
         pick(queue, "cboMotivo", christmas);
         QCoreApplication::processEvents();
         EXPECT_TRUE(queue.isVisible());
-        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL")));
+        EXPECT_EQ(server.queries(), (Texts{queueQuery("NATAL")}));
         EXPECT_EQ(rows(queue), 2);
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(QueueScreen, ServerTextsAreShownAsTheyAre) {
@@ -235,14 +233,14 @@ TEST_F(QueueScreen, ServerTextsAreShownAsTheyAre) {
         .on("sel_dados_remetente", sender);
     inQueue([this](QWidget& queue) {
         const std::string reason = " A &B <b>x</b> ";
-        EXPECT_THAT(items(queue, "cboMotivo"), ElementsAre("--------", reason, ""));
-        EXPECT_THAT(items(queue, "CboFilialRemet"), ElementsAre("--------", "<i>Z"));
+        EXPECT_EQ(items(queue, "cboMotivo"), (Texts{"--------", reason, ""}));
+        EXPECT_EQ(items(queue, "CboFilialRemet"), (Texts{"--------", "<i>Z"}));
         pick(queue, "cboMotivo", 2);
         EXPECT_EQ(server.queries().back(), queueQuery("")) << "a reason without a text";
         pick(queue, "cboMotivo", 1);
         EXPECT_EQ(server.queries().back(), queueQuery(reason));
         deleting(queue, [&reason](QWidget& deletion) {
-            EXPECT_THAT(items(deletion, "cboMotivo"), ElementsAre(reason));
+            EXPECT_EQ(items(deletion, "cboMotivo"), (Texts{reason}));
             click(deletion, "cmdCancelar");
         });
         pick(queue, "cboTp_Form", 4);
@@ -261,9 +259,9 @@ TEST_F(QueueScreen, NoReasonChosenByHandIsAskedForOnceAndNotOnReturning) {
         pick(queue, "cboMotivo", christmas);
         server.addresses.clear();
         pick(queue, "cboMotivo", 0);
-        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("--------")));
+        EXPECT_EQ(server.queries(), (Texts{queueQuery("--------")}));
         deleting(queue, [](QWidget& deletion) {
-            EXPECT_THAT(items(deletion, "cboMotivo"), ElementsAre("--------"));
+            EXPECT_EQ(items(deletion, "cboMotivo"), (Texts{"--------"}));
             click(deletion, "cmdCancelar");
         });
         EXPECT_EQ(server.addresses.size(), 1U);
@@ -274,7 +272,7 @@ TEST_F(QueueScreen, ComingBackReadsTheQueueOfTheReason) {
     inReadQueue(1, [this](QWidget& queue) {
         printing(queue, [](QWidget& print) { click(print, "cmdCancelar"); });
         deleting(queue, [](QWidget& deletion) { click(deletion, "cmdCancelar"); });
-        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL"), queueQuery("NATAL")));
+        EXPECT_EQ(server.queries(), (Texts{queueQuery("NATAL"), queueQuery("NATAL")}));
     });
 }
 
@@ -283,7 +281,7 @@ TEST_F(QueueScreen, AFailedReadingKeepsTheGrid) {
         server = ScriptedLoader();
         server.on("sel_dados_empresa", answers::branch("F"));
         pick(queue, "cboMotivo", easter);
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
         EXPECT_EQ(rows(queue), 2);
         EXPECT_EQ(cell(queue, 1, 3), "NOME 1");
         // The rows still count, and the reason is the new one.
@@ -300,8 +298,8 @@ TEST_F(QueueScreen, AFailedReadingKeepsTheGrid) {
 TEST_F(QueueScreen, FailedReasonsLeaveNoneToChoose) {
     server.failOn("comando=sel_motivos");
     inQueue([this](QWidget& queue) {
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9Wide));
-        EXPECT_THAT(items(queue, "cboMotivo"), ElementsAre("--------"));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9Wide}));
+        EXPECT_EQ(items(queue, "cboMotivo"), (Texts{"--------"}));
         EXPECT_EQ(server.queries().back(), queueQuery("--------"));
         EXPECT_EQ(server.addresses.size(), 3U);
     });
@@ -311,8 +309,8 @@ TEST_F(QueueScreen, FailedBranchesLeaveAnEmptyListAndTheFormerSender) {
     inReadQueue(4, [](QWidget& queue) { pick(queue, "CboFilialRemet", south); });
     server.failOn("comando=sel_filiais_remetente");
     inQueue([this](QWidget& queue) {
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
-        EXPECT_THAT(items(queue, "CboFilialRemet"), IsEmpty());
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
+        EXPECT_EQ(items(queue, "CboFilialRemet"), Texts{});
         pick(queue, "cboMotivo", christmas);
         pick(queue, "cboTp_Form", 4);
         printing(queue, [this](QWidget& print) {
@@ -339,8 +337,8 @@ TEST_F(QueueScreen, TheSenderIsAskedForOnTheFourthFormOnlyAndKept) {
             range(print, "1", "2");
             click(print, "cmdOk");
         });
-        EXPECT_THAT(server.queries(), ElementsAre(queueQuery("NATAL", "1", "2"), senderQuery("12"),
-                                                  queueQuery("NATAL")));
+        EXPECT_EQ(server.queries(),
+                  (Texts{queueQuery("NATAL", "1", "2"), senderQuery("12"), queueQuery("NATAL")}));
         EXPECT_EQ(named<QComboBox>(queue, "CboFilialRemet").currentIndex(), south);
     });
 }
@@ -397,7 +395,7 @@ TEST_F(QueueScreen, AQueueLongerThanAnyCounterOf16Bits) {
         pick(queue, "cboTp_Form", 1);
         printing(queue, [](QWidget& print) { click(print, "cmdCancelar"); });
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 }  // namespace

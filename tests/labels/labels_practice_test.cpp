@@ -40,7 +40,7 @@ TEST_F(PracticeLabels, AReasonIsPrintedAndItsLastLabelDeleted) {
             click(print, "cmdOk");
             EXPECT_FALSE(print.isVisible());
         });
-        EXPECT_THAT(boxes.shown, testing::ElementsAre(printedBox));
+        EXPECT_EQ(boxes.shown, (Boxes{printedBox}));
         EXPECT_EQ(printer.operations.size(), 2U + 31U * 8U + 2U + 2U);
         boxes.shown.clear();
         deleting(queue, [](QWidget& deletion) {
@@ -48,8 +48,7 @@ TEST_F(PracticeLabels, AReasonIsPrintedAndItsLastLabelDeleted) {
             click(deletion, "cmdOk");
             EXPECT_FALSE(deletion.isVisible());
         });
-        EXPECT_THAT(boxes.shown,
-                    testing::ElementsAre(information("Etiquetas excluídas com sucesso!     ")));
+        EXPECT_EQ(boxes.shown, (Boxes{information("Etiquetas excluídas com sucesso!     ")}));
         EXPECT_EQ(rows(queue), 30);
         click(queue, "cmdVoltar");
     });
@@ -66,8 +65,8 @@ TEST_F(PracticeLabels, CustomersAreFoundByTheirPlaceAndPrinted) {
         grid::click(gridOf(selection), 1, 1);
         boxes.shown.clear();
         click(selection, "cmdImprimir");
-        EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{"Impressão Gerada com Sucesso !",
-                                                          BoxIcon::None, "Alerta"}));
+        EXPECT_EQ(boxes.shown,
+                  (Boxes{Box{"Impressão Gerada com Sucesso !", BoxIcon::None, "Alerta"}}));
         EXPECT_EQ(printer.operations.size(), 2U + 4U + 1U);
         click(selection, "cmdVoltar");
     });

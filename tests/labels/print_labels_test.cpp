@@ -1,15 +1,15 @@
 #include "labels/print_labels.h"
 
+#include <gmock/gmock.h>
 #include "runtime/runtime_error.h"
+
 #include "tests/labels/label_flows.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 
 using namespace labels;
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr char senderQuery[] =
     "comando=sel_dados_remetente&nId_Emp_Tarn=2161&nId_Etb_Tarn=7&ServerName=SRV1";
@@ -17,12 +17,12 @@ constexpr char senderQuery[] =
 TEST_F(LabelFlows, ARangeIsFetchedWithItsSenderAndPrinted) {
     env.loader.on("sel_etiquetas", labelRows(1)).on("sel_dados_remetente", sender);
     EXPECT_TRUE(printRange("007", " 1.000"));
-    EXPECT_THAT(env.loader.queries(),
-                ElementsAre("comando=sel_etiquetas&ID_EMP_TARN=2161&sDc_Mot_Imp=NATAL & ANO"
-                            "&nSeq_De=7&nSeq_Ate=1000&ServerName=SRV1",
-                            senderQuery));
+    EXPECT_EQ(env.loader.queries(),
+              (Texts{"comando=sel_etiquetas&ID_EMP_TARN=2161&sDc_Mot_Imp=NATAL & ANO"
+                     "&nSeq_De=7&nSeq_Ate=1000&ServerName=SRV1",
+                     senderQuery}));
     EXPECT_EQ(env.printer.operations.size(), 2U + 13U + 12U + 2U);
-    EXPECT_THAT(env.boxes.shown, ElementsAre(information(" Etiquetas impressas com sucesso!   ")));
+    EXPECT_EQ(env.boxes.shown, (Boxes{information(" Etiquetas impressas com sucesso!   ")}));
 }
 
 TEST_F(LabelFlows, EveryFormAsksForTheSender) {
@@ -70,8 +70,8 @@ TEST_F(LabelFlows, AFailedRequestPrintsNothing) {
     second.loader.on("sel_etiquetas", labelRows(2)).failOn("sel_dados_remetente");
     EXPECT_FALSE(printRange(second, "1", "2"));
     EXPECT_EQ(second.loader.addresses.size(), 2U);
-    EXPECT_THAT(env.boxes.shown, ElementsAre(noInternet9));
-    EXPECT_THAT(second.boxes.shown, ElementsAre(noInternet9));
+    EXPECT_EQ(env.boxes.shown, (Boxes{noInternet9}));
+    EXPECT_EQ(second.boxes.shown, (Boxes{noInternet9}));
     expectsNothingPrinted();
     EXPECT_TRUE(second.printer.operations.empty());
 }
@@ -95,7 +95,7 @@ TEST_F(LabelFlows, AFieldOfTheSenderInAnotherCaseIsAnErrorLikeAnyOther) {
     env.loader.on("sel_etiquetas", labelRows(2))
         .on("sel_dados_remetente", answers::rowset("<z:row nome='X'/>"));
     EXPECT_THROW(printRange("1", "2"), RuntimeError);
-    EXPECT_THAT(env.boxes.shown, testing::IsEmpty());
+    EXPECT_EQ(env.boxes.shown, Boxes{});
     expectsNothingPrinted();
 }
 

@@ -1,13 +1,12 @@
 #include "labels/print_selection.h"
 
 #include "tests/labels/label_flows.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 
 using namespace labels;
 namespace {
-
-using testing::ElementsAre;
 
 const Box madeBox{"Impressão Gerada com Sucesso !", BoxIcon::None, "Alerta"};
 
@@ -27,23 +26,23 @@ TEST_F(LabelFlows, TickedCustomersPrintTwoAcross) {
     rows[1].ticked = false;
     printSelection(env.environment, rows, {});
     // 0.7 and 1.7 times 2.55, half a centimetre off.
-    EXPECT_THAT(env.printer.lines(),
-                ElementsAre("scale\t7", "orientation\t1", drawn(800, 1545, 10, "NOME 1"),
-                            drawn(800, 2045, 8, "RUA 1"), drawn(800, 2545, 8, "CEP 1"),
-                            drawn(800, 3045, 8, "CIDADE 1 - U1"), drawn(11500, 1545, 10, "NOME 3"),
-                            drawn(11500, 2045, 8, "RUA 3"), drawn(11500, 2545, 8, "CEP 3"),
-                            drawn(11500, 3045, 8, "CIDADE 3 - U3"), drawn(800, 4095, 10, "NOME 4"),
-                            drawn(800, 4595, 8, "RUA 4"), drawn(800, 5095, 8, "CEP 4"),
-                            drawn(800, 5595, 8, "CIDADE 4 - U4"), "enddoc"));
-    EXPECT_THAT(env.boxes.shown, ElementsAre(madeBox));
+    EXPECT_EQ(env.printer.lines(),
+              (Texts{"scale\t7", "orientation\t1", drawn(800, 1545, 10, "NOME 1"),
+                     drawn(800, 2045, 8, "RUA 1"), drawn(800, 2545, 8, "CEP 1"),
+                     drawn(800, 3045, 8, "CIDADE 1 - U1"), drawn(11500, 1545, 10, "NOME 3"),
+                     drawn(11500, 2045, 8, "RUA 3"), drawn(11500, 2545, 8, "CEP 3"),
+                     drawn(11500, 3045, 8, "CIDADE 3 - U3"), drawn(800, 4095, 10, "NOME 4"),
+                     drawn(800, 4595, 8, "RUA 4"), drawn(800, 5095, 8, "CEP 4"),
+                     drawn(800, 5595, 8, "CIDADE 4 - U4"), "enddoc"}));
+    EXPECT_EQ(env.boxes.shown, (Boxes{madeBox}));
 }
 
 TEST_F(LabelFlows, NobodyTickedIsCalledASuccessToo) {
     std::vector<GridRow> rows = customers(1);
     rows[0].ticked = false;
     printSelection(env.environment, rows, {});
-    EXPECT_THAT(env.printer.lines(), ElementsAre("scale\t7", "orientation\t1", "enddoc"));
-    EXPECT_THAT(env.boxes.shown, ElementsAre(madeBox));
+    EXPECT_EQ(env.printer.lines(), (Texts{"scale\t7", "orientation\t1", "enddoc"}));
+    EXPECT_EQ(env.boxes.shown, (Boxes{madeBox}));
 }
 
 TEST_F(LabelFlows, TheSelectionsPageIsNeverBroken) {
@@ -72,14 +71,14 @@ TEST_F(LabelFlows, AFailureOfTheSelectionIsShownAndItGoesOn) {
     env.printer.failAt = 2;
     printSelection(env.environment, customers(1), {});
     EXPECT_EQ(env.printer.operations.size(), 7U);
-    EXPECT_THAT(env.boxes.shown, ElementsAre(printerRefused, madeBox));
+    EXPECT_EQ(env.boxes.shown, (Boxes{printerRefused, madeBox}));
 }
 
 TEST_F(LabelFlows, ASelectionThatThePrinterRefusesIsToldInsteadOfTheSuccess) {
     env.printer.refuses = isNoText;
     printSelection(env.environment, customers(2), {});
     EXPECT_EQ(env.printer.operations.size(), 2U + 2U * 4U + 1U);
-    EXPECT_THAT(env.boxes.shown, ElementsAre(printerRefused));
+    EXPECT_EQ(env.boxes.shown, (Boxes{printerRefused}));
 }
 
 }  // namespace

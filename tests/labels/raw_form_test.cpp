@@ -5,6 +5,7 @@
 #include "labels/print_labels.h"
 #include "tests/labels/label_answers.h"
 #include "tests/support/test_environment.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 
@@ -12,7 +13,6 @@ using namespace labels;
 namespace {
 
 using testing::ElementsAre;
-using testing::ElementsAreArray;
 
 // The text in a field of that many characters; the tests' texts are ASCII.
 std::string field(std::string text, std::size_t width) {
@@ -57,12 +57,12 @@ protected:
     }
     void expectsJobs() {
         ASSERT_EQ(env.spooler.jobs.size(), 2U);
-        EXPECT_THAT(env.spooler.jobs[0].writes, ElementsAre(" \x0F\x1BM"));
+        EXPECT_EQ(env.spooler.jobs[0].writes, (Texts{" \x0F\x1BM"}));
         for (const RecordingSpooler::Job& job : env.spooler.jobs) {
             EXPECT_EQ(job.description.docName, std::nullopt);
             EXPECT_TRUE(job.pageEnded && job.ended && job.closed);
         }
-        EXPECT_THAT(env.spooler.opened, ElementsAre(env.spooler.printer, env.spooler.printer));
+        EXPECT_EQ(env.spooler.opened, (Texts{env.spooler.printer, env.spooler.printer}));
     }
 
     TestEnvironment env;
@@ -86,7 +86,7 @@ TEST_F(RawForm, FourLabelsStandSideBySide) {
     expectsJobs();
     std::vector<std::string> writes;
     addGroup(writes, 1, 4);
-    EXPECT_THAT(env.spooler.jobs[1].writes, ElementsAreArray(writes));
+    EXPECT_EQ(env.spooler.jobs[1].writes, writes);
     EXPECT_EQ(env.spooler.bytes(1).find("\r\n"), 4U * 55 + 1 + 8 + 13 + 13 + 1);
 }
 
@@ -96,7 +96,7 @@ TEST_F(RawForm, TheFifthLabelBeginsTheNextGroup) {
     std::vector<std::string> writes;
     addGroup(writes, 1, 4);
     addGroup(writes, 5, 5);
-    EXPECT_THAT(env.spooler.jobs[1].writes, ElementsAreArray(writes));
+    EXPECT_EQ(env.spooler.jobs[1].writes, writes);
 }
 
 TEST_F(RawForm, NoLabelsLeaveAnEmptyJobAndSayNothing) {
@@ -115,9 +115,8 @@ TEST_F(RawForm, TheColumnsWidthCuts) {
                           w30 + "' CODIGO='" + w30 + "'/>"));
     const std::string whole = " " + std::string(55, 'w');
     const std::string halves = " " + std::string(27, 'w') + "  " + std::string(26, 'w');
-    EXPECT_THAT(env.spooler.jobs[1].writes,
-                ElementsAre(whole, " \r\n", whole, " \r\n", halves, " \r\n", halves, " \r\n",
-                            halves, " \r\n\r\n"));
+    EXPECT_EQ(env.spooler.jobs[1].writes, (Texts{whole, " \r\n", whole, " \r\n", halves, " \r\n",
+                                                 halves, " \r\n", halves, " \r\n\r\n"}));
 }
 
 TEST_F(RawForm, ACharacterIsAByteAndAControlABlank) {

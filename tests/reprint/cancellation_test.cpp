@@ -1,11 +1,13 @@
 // The cancelling job by clicks.
+#include <gmock/gmock.h>
+
 #include "tests/reprint/note_screen_test.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr char queryWithout[] =
     "comando=sp_can_nf&ID_ETB_TARN=9&IC_TIP_NF=S&ID_NF_KESTO=4567&CD_SER_NF=U&id_mot_can=12&"
@@ -41,8 +43,8 @@ TEST_F(CancellationScreen, WantsTheKindThenTheReason) {
     cancel();
     tick(0);
     cancel();
-    EXPECT_THAT(boxes.shown, ElementsAre(kindMissing, reasonMissing));
-    EXPECT_THAT(server.addresses, IsEmpty());
+    EXPECT_EQ(boxes.shown, (Boxes{kindMissing, reasonMissing}));
+    EXPECT_EQ(server.addresses, Texts{});
     EXPECT_EQ(data(), found());
 }
 
@@ -51,8 +53,8 @@ TEST_F(CancellationScreen, CancelsWithTheOptionOfBillingAgain) {
     find();
     fillIn(0);
     cancel();
-    EXPECT_THAT(server.queries(), ElementsAre(queryWith));
-    EXPECT_THAT(boxes.shown, ElementsAre(success));
+    EXPECT_EQ(server.queries(), (Texts{queryWith}));
+    EXPECT_EQ(boxes.shown, (Boxes{success}));
 }
 
 TEST_F(CancellationScreen, CancelsWithoutThatOptionAndForgetsTheNote) {
@@ -61,8 +63,8 @@ TEST_F(CancellationScreen, CancelsWithoutThatOptionAndForgetsTheNote) {
     fillIn(1);
     boxes.onShow = [this](const Box&) { EXPECT_EQ(data(), found()) << "the box comes first"; };
     cancel();
-    EXPECT_THAT(server.queries(), ElementsAre(queryWithout));
-    EXPECT_THAT(boxes.shown, ElementsAre(success));
+    EXPECT_EQ(server.queries(), (Texts{queryWithout}));
+    EXPECT_EQ(boxes.shown, (Boxes{success}));
     EXPECT_EQ(data(), nothing());
     EXPECT_FALSE(option(0).isChecked() || option(1).isChecked());
     EXPECT_TRUE(option(0).isEnabled() && option(1).isEnabled());
@@ -83,7 +85,7 @@ TEST_F(CancellationScreen, TheOtherOptionTakesTheFirstOnesPlace) {
     fillIn(0);
     EXPECT_FALSE(option(1).isChecked());
     cancel();
-    EXPECT_THAT(server.queries(), ElementsAre(queryWith));
+    EXPECT_EQ(server.queries(), (Texts{queryWith}));
 }
 
 TEST_F(CancellationScreen, OptionsOfTheNoteBeforeAreSelectableAgain) {
@@ -103,10 +105,9 @@ TEST_F(CancellationScreen, AnUnknownResultAsksTheUserToCheckAndSendsNothingAgain
     find();
     fillIn(0);
     cancel();
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(transportFailure("0009"),
-                            notice("Favor verificar se a Nota Fiscal foi cancelada. ")));
-    EXPECT_THAT(server.queries(), ElementsAre(queryWith));
+    EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0009"),
+                                  notice("Favor verificar se a Nota Fiscal foi cancelada. ")}));
+    EXPECT_EQ(server.queries(), (Texts{queryWith}));
     allKept();
 }
 
@@ -115,7 +116,7 @@ TEST_F(CancellationScreen, ARefusalIsTheServersWords) {
     find();
     fillIn(0);
     cancel();
-    EXPECT_THAT(boxes.shown, ElementsAre(exclamation("Prazo vencido")));
+    EXPECT_EQ(boxes.shown, (Boxes{exclamation("Prazo vencido")}));
     allKept();
 }
 
@@ -124,8 +125,8 @@ TEST_F(CancellationScreen, AStatusThatCannotBeReadIsAFailedCancellationAndThePro
     find();
     fillIn(0);
     cancel();
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(notice("Houve um problema no Cancelamento da Nota Fiscal nº 4567. ")));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{notice("Houve um problema no Cancelamento da Nota Fiscal nº 4567. ")}));
     allKept();
     EXPECT_FALSE(end.ended());
 }
@@ -138,8 +139,8 @@ TEST_F(CancellationScreen, ANoteOfTypeDIsFoundAndNeverCancelled) {
     cancel();
     tick(1);
     cancel();
-    EXPECT_THAT(boxes.shown, ElementsAre(kindMissing, kindMissing));
-    EXPECT_THAT(server.addresses, IsEmpty());
+    EXPECT_EQ(boxes.shown, (Boxes{kindMissing, kindMissing}));
+    EXPECT_EQ(server.addresses, Texts{});
 }
 
 // The option was chosen for the note that the same search found before.
@@ -153,8 +154,8 @@ TEST_F(CancellationScreen, ATypeDFoundBySearchingAgainClearsTheOption) {
     EXPECT_EQ(chosen("CboMot_Can"), errorReason);
     server.addresses.clear();
     cancel();
-    EXPECT_THAT(boxes.shown, ElementsAre(kindMissing));
-    EXPECT_THAT(server.addresses, IsEmpty());
+    EXPECT_EQ(boxes.shown, (Boxes{kindMissing}));
+    EXPECT_EQ(server.addresses, Texts{});
 }
 
 TEST_F(CancellationScreen, AReasonWithoutItsNumberCantBeChosen) {
@@ -180,8 +181,8 @@ TEST_F(CancellationScreen, AReasonWithoutItsNumberCantBeChosen) {
     reasons.hidePopup();
     reasons.setCurrentIndex(0);
     cancel();
-    EXPECT_THAT(boxes.shown, ElementsAre(reasonMissing)) << "and to stand on it is no choice";
-    EXPECT_THAT(server.addresses, IsEmpty());
+    EXPECT_EQ(boxes.shown, (Boxes{reasonMissing})) << "and to stand on it is no choice";
+    EXPECT_EQ(server.addresses, Texts{});
     server.on("sp_can_nf", answers::status("OK"));
     reasons.setCurrentIndex(-1);
     QTest::keyClick(&reasons, Qt::Key_Down);
@@ -209,13 +210,13 @@ TEST_F(CancellationScreen, WithoutReasonsItStopsAtTheReason) {
                                                      "<z:row DC_SER_NF='u' CD_SER_NF='U'/>"))
                  .failOn("SEL_MOT_CAN");
     openEmpty("mCNF");
-    EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0011"))) << "no box of the screen's own";
+    EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0011")})) << "no box of the screen's own";
     boxes.shown.clear();
     find();
     tick(1);
     cancel();
-    EXPECT_THAT(boxes.shown, ElementsAre(reasonMissing));
-    EXPECT_THAT(server.addresses, IsEmpty());
+    EXPECT_EQ(boxes.shown, (Boxes{reasonMissing}));
+    EXPECT_EQ(server.addresses, Texts{});
 }
 
 TEST_F(CancellationScreen, ACancelledNoteIsNoLongerFound) {
@@ -226,10 +227,10 @@ TEST_F(CancellationScreen, ACancelledNoteIsNoLongerFound) {
     ScriptedLoader after;
     server = after.on("SEL_NF", answers::rowset(""));
     click(screen(), "cmdPesquisar");
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(success, notice("Nota Fiscal não encontrada ou Cancelada !!!    ")));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{success, notice("Nota Fiscal não encontrada ou Cancelada !!!    ")}));
     EXPECT_EQ(data(), nothing());
-    EXPECT_THAT(server.queries(), ElementsAre(searchQuery));
+    EXPECT_EQ(server.queries(), (Texts{searchQuery}));
 }
 
 }  // namespace

@@ -7,12 +7,10 @@
 
 #include "tests/reprint/note_screen_test.h"
 #include "tests/support/entering.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class FrmReImprimeNFTest : public NoteScreenTest {
 protected:
@@ -24,7 +22,7 @@ protected:
             close();
             EXPECT_TRUE(menusEnabled());
             EXPECT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
-            EXPECT_THAT(server.addresses, IsEmpty());
+            EXPECT_EQ(server.addresses, Texts{});
         }
         EXPECT_FALSE(end.ended());
     }
@@ -33,38 +31,38 @@ protected:
 TEST_F(FrmReImprimeNFTest, OpensForReprinting) {
     lists();
     openEmpty("mRINF");
-    EXPECT_THAT(server.queries(),
-                ElementsAre("Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName=SRV1&"
-                            "sTransacao=EMI002",
-                            seriesQuery, reasonsQuery));
+    EXPECT_EQ(server.queries(),
+              (Texts{"Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName=SRV1&"
+                     "sTransacao=EMI002",
+                     seriesQuery, reasonsQuery}));
     EXPECT_EQ(shown("Label5"), "Reimpressão de Nota Fiscal");
     EXPECT_FALSE(named<QWidget>(screen(), "FrmCancelaNF").isVisible());
     EXPECT_EQ(focused(menu), "cboSerie");
     EXPECT_FALSE(named<QMenu>(menu, "mnuEtiquetas").isEnabled());
     EXPECT_FALSE(named<QMenu>(menu, "mnuNF").isEnabled());
     EXPECT_TRUE(named<QAction>(menu, "mnuDuplicata").isEnabled());
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     EXPECT_FALSE(screen().isModal());
 }
 
 TEST_F(FrmReImprimeNFTest, OpensForCancelling) {
     lists();
     openEmpty("mCNF");
-    EXPECT_THAT(server.queries(),
-                ElementsAre("Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName=SRV1&"
-                            "sTransacao=EMI003",
-                            seriesQuery, reasonsQuery));
+    EXPECT_EQ(server.queries(),
+              (Texts{"Comando=verifica_direito_acesso&nId_Pes_Usu=77&ServerName=SRV1&"
+                     "sTransacao=EMI003",
+                     seriesQuery, reasonsQuery}));
     EXPECT_EQ(shown("Label5"), "Cancelamento de Nota Fiscal");
     EXPECT_TRUE(named<QWidget>(screen(), "FrmCancelaNF").isVisible());
     EXPECT_EQ(focused(menu), "cboSerie");
     EXPECT_FALSE(menusEnabled());
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(FrmReImprimeNFTest, ADenialOpensNothing) {
     server.on("sTransacao=EMI003", answers::status("Sem direito"));
     choose(menu, "mnuNF", "mCNF");
-    EXPECT_THAT(boxes.shown, ElementsAre(exclamation("Sem direito")));
+    EXPECT_EQ(boxes.shown, (Boxes{exclamation("Sem direito")}));
     EXPECT_EQ(server.addresses.size(), 1U);
     EXPECT_FALSE(isOpen());
     EXPECT_TRUE(menusEnabled());
@@ -104,8 +102,8 @@ TEST_F(FrmReImprimeNFTest, SaysWhatItsFieldsAre) {
     for (const char* name : {"cboSerie", "txtNF", "CboMot_Can"}) {
         EXPECT_FALSE(named<QWidget>(screen(), name).accessibleName().isEmpty()) << name;
     }
-    EXPECT_THAT(named<QButtonGroup>(screen(), "OptionReimp").buttons(),
-                ElementsAre(&option(0), &option(1)));
+    EXPECT_EQ(named<QButtonGroup>(screen(), "OptionReimp").buttons(),
+              (QList<QAbstractButton*>{&option(0), &option(1)}));
     EXPECT_FALSE(option(0).isChecked() || option(1).isChecked());
     for (const char* name : {"LBLNOTA", "LblTipoNf", "LblDtEm", "LBLCliente"}) {
         EXPECT_EQ(named<QLabel>(screen(), name).textFormat(), Qt::PlainText);
@@ -133,15 +131,15 @@ TEST_F(FrmReImprimeNFTest, ButtonsSpeakByPictureToolTipAndName) {
 
 TEST_F(FrmReImprimeNFTest, TabFollowsTheEyeInReprinting) {
     open("mRINF");
-    EXPECT_THAT(tabOrder(menu, "cboSerie", 5),
-                ElementsAre("cboSerie", "txtNF", "cmdPesquisar", "cmdSelecionar", "CmdFechar"));
+    EXPECT_EQ(tabOrder(menu, "cboSerie", 5),
+              (Texts{"cboSerie", "txtNF", "cmdPesquisar", "cmdSelecionar", "CmdFechar"}));
 }
 
 TEST_F(FrmReImprimeNFTest, TabFollowsTheEyeInCancelling) {
     open("mCNF");
-    EXPECT_THAT(tabOrder(menu, "cboSerie", 7),
-                ElementsAre("cboSerie", "txtNF", "cmdPesquisar", "OptionReimp_0", "CboMot_Can",
-                            "cmdSelecionar", "CmdFechar"));
+    EXPECT_EQ(tabOrder(menu, "cboSerie", 7),
+              (Texts{"cboSerie", "txtNF", "cmdPesquisar", "OptionReimp_0", "CboMot_Can",
+                     "cmdSelecionar", "CmdFechar"}));
 }
 
 TEST_F(FrmReImprimeNFTest, ListsShowWhatWasReadWithNothingChosen) {
@@ -170,22 +168,22 @@ TEST_F(FrmReImprimeNFTest, WithoutSeriesTheReasonsStillComeAndBothButtonsAskForA
                  .failOn("SEL_SERIE_NF")
                  .on("SEL_MOT_CAN", answers::rowset("<z:row DC_MOT_CAN='A' ID_MOT_CAN='1'/>"));
     openEmpty("mCNF");
-    EXPECT_THAT(boxes.shown, ElementsAre(transportFailure("0010")));
+    EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0010")}));
     EXPECT_EQ(named<QComboBox>(screen(), "CboMot_Can").count(), 1);
     server.addresses.clear();
     boxes.shown.clear();
     type(screen(), "txtNF", "4567");
     click(screen(), "cmdPesquisar");
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(boxes.shown, ElementsAre(notice("Selecione a série da Nota.     "),
-                                         notice("Selecione a série da Nota ")));
-    EXPECT_THAT(server.addresses, IsEmpty());
+    EXPECT_EQ(boxes.shown, (Boxes{notice("Selecione a série da Nota.     "),
+                                  notice("Selecione a série da Nota ")}));
+    EXPECT_EQ(server.addresses, Texts{});
 }
 
 TEST_F(FrmReImprimeNFTest, ListsWithoutRowsSayNothing) {
     server.on("SEL_SERIE_NF", answers::rowset("")).on("SEL_MOT_CAN", answers::rowset(""));
     openEmpty("mCNF");
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     EXPECT_EQ(named<QComboBox>(screen(), "cboSerie").count(), 0);
     EXPECT_EQ(named<QComboBox>(screen(), "CboMot_Can").count(), 0);
 }
@@ -196,9 +194,9 @@ TEST_F(FrmReImprimeNFTest, TheSearchWantsSeriesThenNumber) {
     pickFrom("cboSerie", singleSeries);
     click(screen(), "cmdPesquisar");
     EXPECT_EQ(focused(menu), "cmdPesquisar") << "no box moves the focus";
-    EXPECT_THAT(boxes.shown, ElementsAre(notice("Selecione a série da Nota.     "),
-                                         notice("Digite o Nº Nota !!!    ")));
-    EXPECT_THAT(server.addresses, IsEmpty());
+    EXPECT_EQ(boxes.shown, (Boxes{notice("Selecione a série da Nota.     "),
+                                  notice("Digite o Nº Nota !!!    ")}));
+    EXPECT_EQ(server.addresses, Texts{});
 }
 
 TEST_F(FrmReImprimeNFTest, TheSearchFillsTheFields) {
@@ -208,10 +206,10 @@ TEST_F(FrmReImprimeNFTest, TheSearchFillsTheFields) {
         pickFrom("cboSerie", singleSeries);
         type(screen(), "txtNF", "4567");
         click(screen(), "cmdPesquisar");
-        EXPECT_THAT(server.queries(), ElementsAre(searchQuery));
+        EXPECT_EQ(server.queries(), (Texts{searchQuery}));
         EXPECT_EQ(data(), found());
         EXPECT_TRUE(option(0).isEnabled() && option(1).isEnabled());
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(boxes.shown, Boxes{});
         click(screen(), "CmdFechar");
         ASSERT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
     }
@@ -223,9 +221,8 @@ TEST_F(FrmReImprimeNFTest, AFailedSearchIsToldTwiceAndFillsNothing) {
     pickFrom("cboSerie", singleSeries);
     type(screen(), "txtNF", "4567");
     click(screen(), "cmdPesquisar");
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(transportFailure("0007"),
-                            notice("Houve um problema na Pesquisa da Nota Fiscal !!!")));
+    EXPECT_EQ(boxes.shown, (Boxes{transportFailure("0007"),
+                                  notice("Houve um problema na Pesquisa da Nota Fiscal !!!")}));
     EXPECT_EQ(data(), nothing(""));
 }
 
@@ -235,8 +232,7 @@ TEST_F(FrmReImprimeNFTest, NothingFoundLeavesTheNoteOfTheSearchBefore) {
     ScriptedLoader cancelled;
     server = cancelled.on("SEL_NF", answers::rowset(""));
     click(screen(), "cmdPesquisar");
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(notice("Nota Fiscal não encontrada ou Cancelada !!!    ")));
+    EXPECT_EQ(boxes.shown, (Boxes{notice("Nota Fiscal não encontrada ou Cancelada !!!    ")}));
     EXPECT_EQ(data(), found());
 }
 
@@ -256,10 +252,9 @@ TEST_F(FrmReImprimeNFTest, OneDigitMoreForgetsTheNote) {
     EXPECT_EQ(chosen("CboMot_Can"), -1);
     EXPECT_EQ(chosen("cboSerie"), singleSeries);
     click(screen(), "cmdSelecionar");
-    EXPECT_THAT(
-        boxes.shown,
-        ElementsAre(notice("Preencha o campo Nro da NF e a série e clique em pesquisar!!!")));
-    EXPECT_THAT(server.addresses, IsEmpty());
+    EXPECT_EQ(boxes.shown,
+              (Boxes{notice("Preencha o campo Nro da NF e a série e clique em pesquisar!!!")}));
+    EXPECT_EQ(server.addresses, Texts{});
 }
 
 TEST_F(FrmReImprimeNFTest, TheSameSeriesPickedAgainForgetsTheNote) {
@@ -294,7 +289,7 @@ TEST_F(FrmReImprimeNFTest, TheNumberTakesDigitsAndCommaAndEnterOnlyBeeps) {
     key(screen(), Qt::Key_Backspace);
     EXPECT_EQ(field.text(), QStringLiteral("1,2"));
     EXPECT_EQ(machine.beeps, 4);
-    EXPECT_THAT(server.addresses, IsEmpty());
+    EXPECT_EQ(server.addresses, Texts{});
 }
 
 TEST_F(FrmReImprimeNFTest, TheNumberTakesNothingElseHoweverItComes) {
@@ -312,11 +307,10 @@ TEST_F(FrmReImprimeNFTest, BothJobsWantSeriesNumberAndNote) {
         type(screen(), "txtNF", "4567");
         click(screen(), "cmdSelecionar");
         EXPECT_EQ(focused(menu), "cmdSelecionar");
-        EXPECT_THAT(
-            boxes.shown,
-            ElementsAre(notice("Selecione a série da Nota "), notice("Digite o Nº Nota !!!"),
-                        notice("Preencha o campo Nro da NF e a série e clique em pesquisar!!!")));
-        EXPECT_THAT(server.addresses, IsEmpty());
+        EXPECT_EQ(boxes.shown,
+                  (Boxes{notice("Selecione a série da Nota "), notice("Digite o Nº Nota !!!"),
+                         notice("Preencha o campo Nro da NF e a série e clique em pesquisar!!!")}));
+        EXPECT_EQ(server.addresses, Texts{});
         click(screen(), "CmdFechar");
         ASSERT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
     }
@@ -353,8 +347,8 @@ TEST_F(FrmReImprimeNFTest, TheDeskCanBeLeftWithTheScreenOpen) {
     open("mCNF");
     menu.close();
     EXPECT_TRUE(end.ended());
-    EXPECT_THAT(server.addresses, IsEmpty());
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(server.addresses, Texts{});
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 std::string spoken(QWidget& widget, QAccessible::Text what) {
@@ -387,7 +381,7 @@ TEST_F(FrmReImprimeNFTest, CtrlEnterIsTheScreensActAndCtrlWClosesIt) {
     ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &menu; }));
     named<QWidget>(screen(), "cmdPesquisar").setFocus();
     QTest::keyClick(screen().focusWidget(), Qt::Key_Return, Qt::ControlModifier);
-    EXPECT_THAT(server.queries(), ElementsAre(documentQuery));
+    EXPECT_EQ(server.queries(), (Texts{documentQuery}));
     EXPECT_EQ(boxes.texts(), std::vector<std::string>{"x"});
     named<QWidget>(screen(), "txtNF").setFocus();
     QTest::keyClick(screen().focusWidget(), Qt::Key_Return, Qt::ControlModifier);

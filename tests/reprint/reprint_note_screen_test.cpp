@@ -1,15 +1,15 @@
 // The reprinting job by clicks.
+#include <gmock/gmock.h>
+
 #include <fstream>
 #include <sstream>
 
 #include "tests/notes/note_fixture.h"
 #include "tests/reprint/note_screen_test.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 std::string content(const char* name) {
     std::ifstream file(std::string(TARN_NOTE_DATA) + "/" + name, std::ios::binary);
@@ -31,16 +31,16 @@ TEST_F(ReprintScreen, TheNoteComesOutByteForByteAsOftenAsAsked) {
     server.on("sel_gera_nf", content("note_1361.xml"));
     find();
     print();
-    EXPECT_THAT(server.queries(), ElementsAre(documentQuery));
+    EXPECT_EQ(server.queries(), (Texts{documentQuery}));
     ASSERT_EQ(spooler.jobs.size(), 2U);
     EXPECT_EQ(spooler.bytes(0), " \x0F");
     EXPECT_EQ(spooler.bytes(1), content("note_1361.prn"));
     EXPECT_EQ(data(), found());
     print();
-    EXPECT_THAT(server.queries(), ElementsAre(documentQuery, documentQuery));
+    EXPECT_EQ(server.queries(), (Texts{documentQuery, documentQuery}));
     ASSERT_EQ(spooler.jobs.size(), 4U);
     EXPECT_EQ(spooler.bytes(3), spooler.bytes(1));
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     EXPECT_FALSE(menusEnabled());
 }
 
@@ -58,38 +58,37 @@ TEST_F(ReprintScreen, NumberAndSeriesAreThoseOfTheNoteFound) {
     find();
     named<QComboBox>(screen(), "cboSerie").setCurrentIndex(series1);  // by no choice of the user
     print();
-    EXPECT_THAT(server.queries(), ElementsAre(documentQuery));
+    EXPECT_EQ(server.queries(), (Texts{documentQuery}));
 }
 
 TEST_F(ReprintScreen, ADocumentOutOfReachIsToldTwiceAndTheFieldsStay) {
     server.failOn("sel_gera_nf");
     find();
     print();
-    EXPECT_THAT(
-        boxes.shown,
-        ElementsAre(transportFailure("0008"),
-                    notice("Houve um problema na transferência dos dados da Nota Fiscal !!!")));
-    EXPECT_THAT(server.queries(), ElementsAre(documentQuery));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{transportFailure("0008"),
+                     notice("Houve um problema na transferência dos dados da Nota Fiscal !!!")}));
+    EXPECT_EQ(server.queries(), (Texts{documentQuery}));
     EXPECT_EQ(data(), found());
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(ReprintScreen, ARefusalIsTheServersWords) {
     server.on("sel_gera_nf", answers::status("Nota &lt;bloqueada&gt;"));
     find();
     print();
-    EXPECT_THAT(boxes.shown, ElementsAre(exclamation("Nota <bloqueada>")));
+    EXPECT_EQ(boxes.shown, (Boxes{exclamation("Nota <bloqueada>")}));
     EXPECT_EQ(data(), found());
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(ReprintScreen, AStatusThatCannotBeReadIsAFailedTransferAndTheProgramLivesOn) {
     server.on("sel_gera_nf", "<PRINCIPAL a='' s='OK'/>");
     find();
     print();
-    EXPECT_THAT(boxes.shown,
-                ElementsAre(notice(
-                    "Houve um problema na transferência dos dados da Nota Fiscal nº 4567. ")));
+    EXPECT_EQ(
+        boxes.shown,
+        (Boxes{notice("Houve um problema na transferência dos dados da Nota Fiscal nº 4567. ")}));
     EXPECT_EQ(data(), found());
     EXPECT_FALSE(end.ended());
 }
@@ -118,8 +117,8 @@ TEST_F(ReprintScreen, AnEstablishmentWithoutAFormPrintsNothingAndSaysNothing) {
     server.on("sel_gera_nf", content("note_1361.xml"));
     session.NCOMPANYCODE = 2161;
     print();
-    EXPECT_THAT(spooler.calls, IsEmpty());
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     EXPECT_EQ(data(), found());
 }
 
@@ -128,7 +127,7 @@ TEST_F(ReprintScreen, APrinterThatFailsGoesUnnoticed) {
     spooler.failOpen = 1;
     find();
     print();
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
     print();
     EXPECT_EQ(spooler.jobs.back().bytes(), content("note_1361.prn"));
 }

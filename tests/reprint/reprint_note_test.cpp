@@ -10,6 +10,7 @@
 #include "tests/support/boxes.h"
 #include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
@@ -56,7 +57,7 @@ protected:
             EXPECT_TRUE(job.closed);
         }
         EXPECT_EQ(output, expected);
-        EXPECT_THAT(seams.boxes.shown, testing::IsEmpty());
+        EXPECT_EQ(seams.boxes.shown, Boxes{});
     }
 
     TestEnvironment seams;
@@ -69,11 +70,10 @@ TEST_F(ReprintTest, AnItemIsDescriptionFiftyBlanksBarAndTrimmedCode) {
                     answers::rowset("<z:row DC_SER_NF='Série única ' CD_SER_NF='  U 1 '/>"
                                     "<z:row CD_SER_NF='2'/><z:row DC_SER_NF='Sem código'/>"
                                     "<z:row dc_ser_nf='x' cd_ser_nf='y'/>"));
-    EXPECT_THAT(series(), testing::ElementsAre("Série única " + gap + "|U 1", gap + "|2",
-                                               "Sem código" + gap + "|", gap + "|"));
-    EXPECT_THAT(seams.loader.queries(),
-                testing::ElementsAre("comando=SEL_SERIE_NF&ServerName=SRV"));
-    EXPECT_THAT(seams.boxes.shown, testing::IsEmpty());
+    EXPECT_EQ(series(), (Texts{"Série única " + gap + "|U 1", gap + "|2", "Sem código" + gap + "|",
+                               gap + "|"}));
+    EXPECT_EQ(seams.loader.queries(), (Texts{"comando=SEL_SERIE_NF&ServerName=SRV"}));
+    EXPECT_EQ(seams.boxes.shown, Boxes{});
 }
 
 TEST_F(ReprintTest, TheCodeIsTheSecondPiece) {
@@ -84,14 +84,14 @@ TEST_F(ReprintTest, TheCodeIsTheSecondPiece) {
 
 TEST_F(ReprintTest, NoRowsetNoItems) {
     seams.loader.on("SEL_SERIE_NF", answers::status("OK")).on("SEL_MOT_CAN", answers::rowset(""));
-    EXPECT_THAT(series(), testing::IsEmpty());
+    EXPECT_EQ(series(), Texts{});
     EXPECT_TRUE(loadReasons(environment, session).empty());
-    EXPECT_THAT(seams.boxes.shown, testing::IsEmpty());
+    EXPECT_EQ(seams.boxes.shown, Boxes{});
 }
 
 TEST_F(ReprintTest, SeriesOutOfReachStopNothing) {
-    EXPECT_THAT(series(), testing::IsEmpty());
-    EXPECT_THAT(seams.boxes.shown, testing::ElementsAre(transportFailure("0010")));
+    EXPECT_EQ(series(), Texts{});
+    EXPECT_EQ(seams.boxes.shown, (Boxes{transportFailure("0010")}));
 }
 
 TEST_F(ReprintTest, ReasonsKeepTheirNumber) {
@@ -107,13 +107,12 @@ TEST_F(ReprintTest, ReasonsKeepTheirNumber) {
         reasonsRead,
         testing::ElementsAre(testing::Pair("Erro", 12), testing::Pair("Outro", -3),
                              testing::Pair("Sem", std::nullopt), testing::Pair("", std::nullopt)));
-    EXPECT_THAT(seams.loader.queries(),
-                testing::ElementsAre("comando=SEL_MOT_CAN&ID_ETB_TARN=9&ServerName=SRV"));
+    EXPECT_EQ(seams.loader.queries(), (Texts{"comando=SEL_MOT_CAN&ID_ETB_TARN=9&ServerName=SRV"}));
 }
 
 TEST_F(ReprintTest, ReasonsOutOfReachAreToldOnce) {
     EXPECT_TRUE(loadReasons(environment, session).empty());
-    EXPECT_THAT(seams.boxes.shown, testing::ElementsAre(transportFailure("0011")));
+    EXPECT_EQ(seams.boxes.shown, (Boxes{transportFailure("0011")}));
 }
 
 TEST_F(ReprintTest, TheFirstRowIsTheNote) {
@@ -127,9 +126,8 @@ TEST_F(ReprintTest, TheFirstRowIsTheNote) {
     EXPECT_EQ(note->kindText, "Saída");
     EXPECT_EQ(note->issued, "05/03/2012");
     EXPECT_EQ(note->customer, "PÃO & CIA");
-    EXPECT_THAT(seams.loader.queries(),
-                testing::ElementsAre(
-                    "comando=SEL_NF&ID_ETB_TARN=9&ID_NF_KESTO=0555&CD_SER_NF=A1&ServerName=SRV"));
+    EXPECT_EQ(seams.loader.queries(),
+              (Texts{"comando=SEL_NF&ID_ETB_TARN=9&ID_NF_KESTO=0555&CD_SER_NF=A1&ServerName=SRV"}));
 }
 
 TEST_F(ReprintTest, AbsentFieldsOfTheNoteAreEmptyAndNoDateStaysAsItIs) {
@@ -149,7 +147,7 @@ TEST_F(ReprintTest, NoRowIsNoNoteWhateverTheStatus) {
     seams.loader.on("ID_NF_KESTO=0555&CD", answers::status("Sessão inválida"));
     EXPECT_FALSE(search(""));
     const Box nothing = notice("Nota Fiscal não encontrada ou Cancelada !!!    ");
-    EXPECT_THAT(seams.boxes.shown, testing::ElementsAre(nothing, nothing));
+    EXPECT_EQ(seams.boxes.shown, (Boxes{nothing, nothing}));
 }
 
 TEST_F(ReprintTest, AnUnreadableStatusIsAFailedTransferOfTheJobInHand) {
@@ -159,11 +157,11 @@ TEST_F(ReprintTest, AnUnreadableStatusIsAFailedTransferOfTheJobInHand) {
         reprintNote(other.environment, session, "0555", "A1");
         EXPECT_FALSE(
             cancelNote(other.environment, session, {"0555", "A1", "S", Rebilling::With, 1}));
-        EXPECT_THAT(other.boxes.shown,
-                    testing::ElementsAre(notice("Houve um problema na transferência dos dados da "
-                                                "Nota Fiscal nº 0555. "),
-                                         notice("Houve um problema no Cancelamento da Nota Fiscal "
-                                                "nº 0555. ")))
+        EXPECT_EQ(other.boxes.shown,
+                  (Boxes{notice("Houve um problema na transferência dos dados da "
+                                "Nota Fiscal nº 0555. "),
+                         notice("Houve um problema no Cancelamento da Nota Fiscal "
+                                "nº 0555. ")}))
             << answer;
         EXPECT_TRUE(other.spooler.calls.empty());
     }
@@ -171,7 +169,7 @@ TEST_F(ReprintTest, AnUnreadableStatusIsAFailedTransferOfTheJobInHand) {
 
 TEST_F(ReprintTest, TheStatusIsExact) {
     reimprime(answers::status("ok"));
-    EXPECT_THAT(seams.boxes.shown, testing::ElementsAre(Box{"ok", BoxIcon::Exclamation}));
+    EXPECT_EQ(seams.boxes.shown, (Boxes{Box{"ok", BoxIcon::Exclamation}}));
     EXPECT_TRUE(seams.spooler.calls.empty());
 }
 
@@ -188,7 +186,7 @@ TEST_F(ReprintTest, EstablishmentsWithoutAFormPrintNothingAndSayNothing) {
     session.ID_ETB_TARN = 6001;
     reimprime(test::sampleNote().xml());
     EXPECT_TRUE(seams.spooler.calls.empty());
-    EXPECT_THAT(seams.boxes.shown, testing::IsEmpty());
+    EXPECT_EQ(seams.boxes.shown, Boxes{});
 }
 
 TEST_F(ReprintTest, AnErrorOfTheLayoutIsThatOfANoteThatExists) {
@@ -225,12 +223,11 @@ TEST_F(ReprintTest, TheOptionDecidesTheKindOfCancellation) {
     seams.loader.on("sp_can_nf", answers::status("OK"));
     EXPECT_TRUE(cancelNote(environment, session, {"0555", "A1", "S", Rebilling::Without, 12}));
     EXPECT_TRUE(cancelNote(environment, session, {"7", "", "", Rebilling::With, -1}));
-    EXPECT_THAT(seams.loader.queries(),
-                testing::ElementsAre(
-                    "comando=sp_can_nf&ID_ETB_TARN=9&IC_TIP_NF=S&ID_NF_KESTO=0555&CD_SER_NF=A1&"
-                    "id_mot_can=12&id_pes_usu=u1&Tipo_Can=S&ServerName=SRV",
-                    "comando=sp_can_nf&ID_ETB_TARN=9&IC_TIP_NF=&ID_NF_KESTO=7&CD_SER_NF=&"
-                    "id_mot_can=-1&id_pes_usu=u1&Tipo_Can=C&ServerName=SRV"));
+    EXPECT_EQ(seams.loader.queries(),
+              (Texts{"comando=sp_can_nf&ID_ETB_TARN=9&IC_TIP_NF=S&ID_NF_KESTO=0555&CD_SER_NF=A1&"
+                     "id_mot_can=12&id_pes_usu=u1&Tipo_Can=S&ServerName=SRV",
+                     "comando=sp_can_nf&ID_ETB_TARN=9&IC_TIP_NF=&ID_NF_KESTO=7&CD_SER_NF=&"
+                     "id_mot_can=-1&id_pes_usu=u1&Tipo_Can=C&ServerName=SRV"}));
 }
 
 }  // namespace

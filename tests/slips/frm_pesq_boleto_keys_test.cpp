@@ -1,17 +1,19 @@
 // frmPesqBoleto under the clerk's hands: keys, wheel, clipboard.
+#include <gmock/gmock.h>
+
 #include <QCloseEvent>
 #include <QWheelEvent>
 #include <array>
 
 #include "tests/slips/slip_screen_test.h"
 #include "tests/support/entering.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 
 class SlipKeys : public SlipScreenTest {
 protected:
@@ -78,8 +80,8 @@ TEST_F(SlipKeys, EnterMovesOnInTheFieldsThatAreTypedIn) {
             }
         }
         EXPECT_FALSE(named<QCheckBox>(screen, "chkInc_Carteira").isChecked());
-        EXPECT_THAT(server.addresses, IsEmpty());
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(server.addresses, Texts{});
+        EXPECT_EQ(boxes.shown, Boxes{});
         EXPECT_TRUE(screen.isVisible());
     });
 }
@@ -93,7 +95,7 @@ TEST_F(SlipKeys, DatesAreCompletedOnLeaving) {
         key(screen, Qt::Key_Tab);
         EXPECT_EQ(shown(screen, "txtDtVncAte"), "99/99/2012") << "no test of the date";
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(SlipKeys, EnterHeldDownSinceTheBoxDoesntPressTheButtonAgain) {
@@ -131,7 +133,7 @@ TEST_F(SlipKeys, TwoAccessKeysInARowAreTwoClicksOneAfterTheOther) {
         shortcut(screen, Qt::Key_I);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !boxes.shown.empty(); }));
         EXPECT_THAT(server.queries(), ElementsAre(HasSubstr("sel_boleto"), wallet57Query));
-        EXPECT_THAT(boxes.shown, ElementsAre(nothingTicked()));
+        EXPECT_EQ(boxes.shown, (Boxes{nothingTicked()}));
     });
 }
 
@@ -191,7 +193,7 @@ TEST_F(SlipKeys, TheWindowsButtonClosesItAndEscDoesNot) {
         screen.close();
         EXPECT_FALSE(screen.isVisible());
     });
-    EXPECT_THAT(server.queries(), ElementsAre(branchesQuery, portfoliosQuery, deskQuery));
+    EXPECT_EQ(server.queries(), (Texts{branchesQuery, portfoliosQuery, deskQuery}));
     withScreen([&](QWidget& screen) {
         EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "") << "it comes back empty";
     });

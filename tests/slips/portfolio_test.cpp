@@ -1,19 +1,16 @@
 // The portfolio's record as it is read from the answer.
 #include "slips/portfolio.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "runtime/runtime_error.h"
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
 #include "tests/support/test_environment.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class PortfolioTest : public testing::Test {
 protected:
@@ -41,24 +38,24 @@ protected:
 };
 
 TEST_F(PortfolioTest, AllFieldsAreTexts) {
-    EXPECT_THAT(read("<z:row ID_CRT_COB='012' ID_PES_BAN='1016' NR_CRT_CNAB='057' "
-                     "CD_AGE_BAN_CNAB='112-3' NR_CCOR_CNAB='0456.78'/>"),
-                ElementsAre("012", "1016", "057", "112-3", "0456.78"));
-    EXPECT_THAT(seams.loader.queries(),
-                ElementsAre("comando=sel_carteira_cob&ID_EMP_TARN=2161&ID_CRT_COB=12"
-                            "&ServerName=SRV1"));
-    EXPECT_THAT(seams.boxes.shown, IsEmpty());
+    EXPECT_EQ(read("<z:row ID_CRT_COB='012' ID_PES_BAN='1016' NR_CRT_CNAB='057' "
+                   "CD_AGE_BAN_CNAB='112-3' NR_CCOR_CNAB='0456.78'/>"),
+              (Texts{"012", "1016", "057", "112-3", "0456.78"}));
+    EXPECT_EQ(seams.loader.queries(),
+              (Texts{"comando=sel_carteira_cob&ID_EMP_TARN=2161&ID_CRT_COB=12"
+                     "&ServerName=SRV1"}));
+    EXPECT_EQ(seams.boxes.shown, Boxes{});
 }
 
 TEST_F(PortfolioTest, TheLastRowStandsEachFieldOnItsOwn) {
-    EXPECT_THAT(read("<z:row ID_CRT_COB='1' ID_PES_BAN='1016' NR_CRT_CNAB='57' "
-                     "CD_AGE_BAN_CNAB='1123' NR_CCOR_CNAB='456789'/>"
-                     "<z:row ID_CRT_COB='2' NR_CRT_CNAB='101'/>"),
-                ElementsAre("2", "", "101", "", ""));
+    EXPECT_EQ(read("<z:row ID_CRT_COB='1' ID_PES_BAN='1016' NR_CRT_CNAB='57' "
+                   "CD_AGE_BAN_CNAB='1123' NR_CCOR_CNAB='456789'/>"
+                   "<z:row ID_CRT_COB='2' NR_CRT_CNAB='101'/>"),
+              (Texts{"2", "", "101", "", ""}));
 }
 
 TEST_F(PortfolioTest, WithoutRowsAllIsEmpty) {
-    EXPECT_THAT(read(""), ElementsAre("", "", "", "", ""));
+    EXPECT_EQ(read(""), (Texts{"", "", "", "", ""}));
     seams.loader.on("sel_carteira_cob", "<xml/>");
     const auto portfolio = loadPortfolio(seams.environment, session, 0);
     ASSERT_TRUE(portfolio);
@@ -79,7 +76,7 @@ TEST_F(PortfolioTest, AFieldSpelledInAnotherCaseIsAFailure) {
 TEST_F(PortfolioTest, AFailedRequestIsTold) {
     seams.loader.failOn("sel_carteira_cob");
     EXPECT_FALSE(loadPortfolio(seams.environment, session, 12));
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(noInternet9));
+    EXPECT_EQ(seams.boxes.shown, (Boxes{noInternet9}));
 }
 
 }  // namespace

@@ -1,4 +1,6 @@
 // Printing from frmPesqBoleto.
+#include <gmock/gmock.h>
+
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QProgressBar>
@@ -6,12 +8,10 @@
 #include <algorithm>
 
 #include "tests/slips/slip_screen_test.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class PrintSlipsScreen : public SlipScreenTest {
 protected:
@@ -37,17 +37,17 @@ TEST_F(PrintSlipsScreen, PortfolioAndNumberMustBeThere) {
     withScreen([&](QWidget& screen) {
         server.addresses.clear();
         click(screen, "cmdImprimir");
-        EXPECT_THAT(boxes.shown,
-                    ElementsAre(information("Carteira Cobrança é um campo obrigatório!     ")));
+        EXPECT_EQ(boxes.shown,
+                  (Boxes{information("Carteira Cobrança é um campo obrigatório!     ")}));
         EXPECT_EQ(focused(screen), "cboCartCob");
         pick(screen, "cboCartCob", wallet57Item);
         click(screen, "cmdImprimir");
         EXPECT_EQ(boxes.shown.back(),
                   information("Nr. Boleto Bancário é um campo obrigatório!     "));
         EXPECT_EQ(focused(screen), "txtNr_Bol_Banc");
-        EXPECT_THAT(server.addresses, IsEmpty());
+        EXPECT_EQ(server.addresses, Texts{});
     });
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(PrintSlipsScreen, TheTickedRowsBecomeSlips) {
@@ -56,24 +56,23 @@ TEST_F(PrintSlipsScreen, TheTickedRowsBecomeSlips) {
         grid::click(grid(screen), 1, 1);
         grid::click(grid(screen), 3, 1);
         print(screen, "1234");
-        EXPECT_THAT(
-            server.queries(),
-            ElementsAre(wallet57Query,
-                        "comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=1"
-                        "&NR_BOL_BANC=1234&ServerName=SRV1",
-                        "comando=insere_car_cob&ID_EMP_TARN=2161&ID_ETB=3381&ID_TIP_DOC=201"
-                        "&NR_DOC=1&ID_CRT_COB=5&NR_BOL_BANC=1234&ID_PES_USU=77&ServerName=SRV1",
-                        "comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=3"
-                        "&NR_BOL_BANC=1235&ServerName=SRV1",
-                        "comando=insere_car_cob&ID_EMP_TARN=2161&ID_ETB=3381&ID_TIP_DOC=201"
-                        "&NR_DOC=3&ID_CRT_COB=5&NR_BOL_BANC=1235&ID_PES_USU=77&ServerName=SRV1"));
-        EXPECT_THAT(numbers(), ElementsAre("0000000001234/7", "0000000001235/6"));
+        EXPECT_EQ(server.queries(),
+                  (Texts{wallet57Query,
+                         "comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=1"
+                         "&NR_BOL_BANC=1234&ServerName=SRV1",
+                         "comando=insere_car_cob&ID_EMP_TARN=2161&ID_ETB=3381&ID_TIP_DOC=201"
+                         "&NR_DOC=1&ID_CRT_COB=5&NR_BOL_BANC=1234&ID_PES_USU=77&ServerName=SRV1",
+                         "comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=3"
+                         "&NR_BOL_BANC=1235&ServerName=SRV1",
+                         "comando=insere_car_cob&ID_EMP_TARN=2161&ID_ETB=3381&ID_TIP_DOC=201"
+                         "&NR_DOC=3&ID_CRT_COB=5&NR_BOL_BANC=1235&ID_PES_USU=77&ServerName=SRV1"}));
+        EXPECT_EQ(numbers(), (Texts{"0000000001234/7", "0000000001235/6"}));
         EXPECT_EQ(spooler.jobs.size(), 4U);
-        EXPECT_THAT(grid::ticks(grid(screen)), ElementsAre(false, false, false));
+        EXPECT_EQ(grid::ticks(grid(screen)), (std::vector<bool>{false, false, false}));
         EXPECT_EQ(grid::cell(grid(screen), 3, 5), "3") << "the rows stay";
         EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "");
         EXPECT_EQ(focused(screen), "cmdImprimir");
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(boxes.shown, Boxes{});
         click(screen, "cmdImprimir");
         EXPECT_EQ(boxes.shown.size(), 1U) << "the next run needs a number";
     });
@@ -84,11 +83,11 @@ TEST_F(PrintSlipsScreen, TheOtherWallet) {
         find(screen, line("1"), wallet101Item);
         grid::click(grid(screen), 1, 1);
         print(screen, "9");
-        EXPECT_THAT(server.queries(),
-                    ElementsAre("comando=sel_carteira_cob&ID_EMP_TARN=2161&ID_CRT_COB=6"
-                                "&ServerName=SRV1",
-                                "comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=1"
-                                "&NR_BOL_BANC=00000094&ServerName=SRV1"));
+        EXPECT_EQ(server.queries(),
+                  (Texts{"comando=sel_carteira_cob&ID_EMP_TARN=2161&ID_CRT_COB=6"
+                         "&ServerName=SRV1",
+                         "comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=1"
+                         "&NR_BOL_BANC=00000094&ServerName=SRV1"}));
         EXPECT_THAT(spooler.bytes(1), testing::HasSubstr("N.N.  0000009-4\r\n"));
     });
 }
@@ -97,11 +96,11 @@ TEST_F(PrintSlipsScreen, NothingTickedStillReadsThePortfolioAndEmptiesTheNumber)
     withScreen([&](QWidget& screen) {
         find(screen, line("1"));
         print(screen, "1234");
-        EXPECT_THAT(server.queries(), ElementsAre(wallet57Query));
-        EXPECT_THAT(boxes.shown, ElementsAre(nothingTicked()));
+        EXPECT_EQ(server.queries(), (Texts{wallet57Query}));
+        EXPECT_EQ(boxes.shown, (Boxes{nothingTicked()}));
         EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "");
     });
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(PrintSlipsScreen, ASearchWithoutResultThenPrinting) {
@@ -109,8 +108,8 @@ TEST_F(PrintSlipsScreen, ASearchWithoutResultThenPrinting) {
         find(screen, "");
         boxes.shown.clear();
         print(screen, "1234");
-        EXPECT_THAT(server.queries(), ElementsAre(wallet57Query));
-        EXPECT_THAT(boxes.shown, ElementsAre(nothingTicked()));
+        EXPECT_EQ(server.queries(), (Texts{wallet57Query}));
+        EXPECT_EQ(boxes.shown, (Boxes{nothingTicked()}));
         EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "1234") << "no row was looked at";
     });
 }
@@ -121,12 +120,12 @@ TEST_F(PrintSlipsScreen, WithoutThePortfolioNothingHappens) {
         grid::click(grid(screen), 1, 1);
         server.failOn("sel_carteira_cob&ID_EMP_TARN=2161&ID_CRT_COB=5");
         print(screen, "1234");
-        EXPECT_THAT(boxes.shown, ElementsAre(noInternet9));
-        EXPECT_THAT(server.queries(), ElementsAre(wallet57Query));
-        EXPECT_THAT(grid::ticks(grid(screen)), ElementsAre(true));
+        EXPECT_EQ(boxes.shown, (Boxes{noInternet9}));
+        EXPECT_EQ(server.queries(), (Texts{wallet57Query}));
+        EXPECT_EQ(grid::ticks(grid(screen)), (std::vector<bool>{true}));
         EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "1234");
     });
-    EXPECT_THAT(spooler.calls, IsEmpty());
+    EXPECT_THAT(spooler.calls, testing::IsEmpty());
 }
 
 TEST_F(PrintSlipsScreen, ARowOfAnotherBankTakesNoNumber) {
@@ -134,11 +133,11 @@ TEST_F(PrintSlipsScreen, ARowOfAnotherBankTakesNoNumber) {
         find(screen, line("1") + line("2", "1050") + line("3"));
         grid::clickHeading(grid(screen), 1);
         print(screen, "1234");
-        EXPECT_THAT(numbers(), ElementsAre("0000000001234/7", "0000000001235/6"));
+        EXPECT_EQ(numbers(), (Texts{"0000000001234/7", "0000000001235/6"}));
         EXPECT_EQ(spooler.jobs.size(), 6U);
         EXPECT_FALSE(spooler.jobs.at(3).closed);
-        EXPECT_THAT(grid::ticks(grid(screen)), ElementsAre(false, false, false));
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(grid::ticks(grid(screen)), (std::vector<bool>{false, false, false}));
+        EXPECT_EQ(boxes.shown, Boxes{});
     });
 }
 
@@ -149,8 +148,8 @@ TEST_F(PrintSlipsScreen, WithTheCheckBoxThePortfoliosBankCounts) {
         boxes.shown.clear();
         grid::clickHeading(grid(screen), 1);
         print(screen, "1234");
-        EXPECT_THAT(numbers(), ElementsAre("0000000001234/7"));
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(numbers(), (Texts{"0000000001234/7"}));
+        EXPECT_EQ(boxes.shown, Boxes{});
     });
 }
 
@@ -162,8 +161,8 @@ TEST_F(PrintSlipsScreen, AServerThatFailsBetweenWriteAndPrintIsNotNoticed) {
         server.failOn("insere_car_cob");
         print(screen, "1234");
         EXPECT_EQ(server.queries().size(), 5U);
-        EXPECT_THAT(numbers(), ElementsAre("0000000001234/7", "0000000001235/6"));
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(numbers(), (Texts{"0000000001234/7", "0000000001235/6"}));
+        EXPECT_EQ(boxes.shown, Boxes{});
     });
 }
 
@@ -174,9 +173,9 @@ TEST_F(PrintSlipsScreen, APrinterThatFailsAfterTheWriteIsNotNoticed) {
         spooler.failOpen = 1;
         print(screen, "1234");
         EXPECT_EQ(server.queries().size(), 5U) << "the server has both numbers";
-        EXPECT_THAT(numbers(), ElementsAre("0000000001235/6"));
-        EXPECT_THAT(boxes.shown, IsEmpty());
-        EXPECT_THAT(grid::ticks(grid(screen)), ElementsAre(false, false));
+        EXPECT_EQ(numbers(), (Texts{"0000000001235/6"}));
+        EXPECT_EQ(boxes.shown, Boxes{});
+        EXPECT_EQ(grid::ticks(grid(screen)), (std::vector<bool>{false, false}));
     });
 }
 
@@ -188,7 +187,7 @@ TEST_F(PrintSlipsScreen, NoPrinterAtAllIsNotNoticed) {
         spooler.failOpen = 0;
         print(screen, "1234");
         EXPECT_EQ(server.queries().size(), 3U);
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(boxes.shown, Boxes{});
         EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "");
     });
 }
@@ -204,7 +203,7 @@ TEST_F(PrintSlipsScreen, AfterTheLastSevenDigitNumberTheProgramEnds) {
         EXPECT_TRUE(end.ended());
         EXPECT_EQ(server.queries().size(), 2U);
         EXPECT_TRUE(spooler.jobs.back().closed);
-        EXPECT_THAT(grid::ticks(grid(screen)), ElementsAre(false, true));
+        EXPECT_EQ(grid::ticks(grid(screen)), (std::vector<bool>{false, true}));
         EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "9999999");
     });
 }
@@ -223,12 +222,12 @@ TEST_F(PrintSlipsScreen, APortfolioTooShortForTheCheckDigitEndsTheProgram) {
         EXPECT_THAT(boxes.shown[0].text, testing::StartsWith("Erro em tempo de execução '5':\r\r"));
         EXPECT_EQ(boxes.shown[0].title, "TarnEmissao");
         EXPECT_EQ(end.status(), 3);
-        EXPECT_THAT(server.queries(), ElementsAre(wallet57Query));
+        EXPECT_EQ(server.queries(), (Texts{wallet57Query}));
         ASSERT_EQ(spooler.jobs.size(), 2U);
         EXPECT_TRUE(spooler.jobs[0].closed);
         EXPECT_FALSE(spooler.jobs[1].closed);
         EXPECT_EQ(spooler.jobs[1].bytes(), " \x1B\x32 \x0F\x1BG");
-        EXPECT_THAT(grid::ticks(grid(screen)), ElementsAre(false, true));
+        EXPECT_EQ(grid::ticks(grid(screen)), (std::vector<bool>{false, true}));
         EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "1234");
     });
 }
@@ -250,9 +249,9 @@ TEST_F(PrintSlipsScreen, ASecondClickOrClosingDuringTheRunDoesNothing) {
         QCoreApplication::postEvent(&screen, new QCloseEvent);
         click(screen, "cmdImprimir");
         QCoreApplication::processEvents();
-        EXPECT_THAT(numbers(), ElementsAre("0000000001234/7", "0000000001235/6"));
+        EXPECT_EQ(numbers(), (Texts{"0000000001234/7", "0000000001235/6"}));
         EXPECT_EQ(server.queries().size(), 5U);
-        EXPECT_THAT(boxes.shown, IsEmpty());
+        EXPECT_EQ(boxes.shown, Boxes{});
         EXPECT_TRUE(screen.isVisible());
         EXPECT_FALSE(end.ended());
     });
@@ -307,7 +306,7 @@ TEST_F(PrintSlipsScreen, FiveHundredSlipsShowHowFarTheyAre) {
         EXPECT_THAT(grid::ticks(grid(screen)), testing::Each(false));
         EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "");
     });
-    EXPECT_THAT(boxes.shown, IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 }  // namespace

@@ -8,12 +8,12 @@
 #include "tests/slips/slip_fixture.h"
 #include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 const std::string preparation = " \x0F\x1BM";
 const std::string slipPreparation =
@@ -98,23 +98,23 @@ protected:
 
 TEST_F(PrintSlipsTest, Wallet57WritesTwiceAndPrints) {
     run(isWallet57, "1234");
-    EXPECT_THAT(seams.loader.queries(),
-                ElementsAre("comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=4567/1"
-                            "&NR_BOL_BANC=1234&ServerName=SRV1",
-                            "comando=insere_car_cob&ID_EMP_TARN=2161&ID_ETB=3381&ID_TIP_DOC=201"
-                            "&NR_DOC=4567/1&ID_CRT_COB=5&NR_BOL_BANC=1234&ID_PES_USU=77"
-                            "&ServerName=SRV1"));
+    EXPECT_EQ(seams.loader.queries(),
+              (Texts{"comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=4567/1"
+                     "&NR_BOL_BANC=1234&ServerName=SRV1",
+                     "comando=insere_car_cob&ID_EMP_TARN=2161&ID_ETB=3381&ID_TIP_DOC=201"
+                     "&NR_DOC=4567/1&ID_CRT_COB=5&NR_BOL_BANC=1234&ID_PES_USU=77"
+                     "&ServerName=SRV1"}));
     ASSERT_EQ(seams.spooler.jobs.size(), 2U);
     EXPECT_EQ(seams.spooler.bytes(0), preparation);
     EXPECT_EQ(seams.spooler.bytes(1), slipPreparation + joined(wallet57Lines()));
-    EXPECT_THAT(seams.boxes.shown, IsEmpty());
+    EXPECT_EQ(seams.boxes.shown, Boxes{});
 }
 
 TEST_F(PrintSlipsTest, AnyOtherWalletWritesOnceAndPrints) {
     run(wallet101, "1234567");
-    EXPECT_THAT(seams.loader.queries(),
-                ElementsAre("comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=4567/1"
-                            "&NR_BOL_BANC=12345679&ServerName=SRV1"));
+    EXPECT_EQ(seams.loader.queries(),
+              (Texts{"comando=altera_docto_cob&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=4567/1"
+                     "&NR_BOL_BANC=12345679&ServerName=SRV1"}));
     ASSERT_EQ(seams.spooler.jobs.size(), 2U);
     EXPECT_EQ(seams.spooler.bytes(0), preparation);
     EXPECT_EQ(seams.spooler.bytes(1), slipPreparation + joined(sevenDigitLines()));
@@ -123,26 +123,26 @@ TEST_F(PrintSlipsTest, AnyOtherWalletWritesOnceAndPrints) {
 TEST_F(PrintSlipsTest, ReceivablesHaveTheirOwnCommandsAndASecondSpelling) {
     documents = {receivable("88", "CTL 9")};
     run(isWallet57, "1234");
-    EXPECT_THAT(seams.loader.queries(),
-                ElementsAre("comando=altera_docto_rec&ID_ETB=3381&ID_NR_CTL=CTL 9&ServerName=SRV1"
-                            "&NR_BOL_BANC=1234",
-                            "comando=insere_car_rec&ID_EMP_TARN=2161&ID_ETB=3381&ID_NR_CTL=CTL 9"
-                            "&ID_CRT_COB=5&NR_BOL_BANC=1234&ID_PES_USU=77&ServerName=SRV1"));
+    EXPECT_EQ(seams.loader.queries(),
+              (Texts{"comando=altera_docto_rec&ID_ETB=3381&ID_NR_CTL=CTL 9&ServerName=SRV1"
+                     "&NR_BOL_BANC=1234",
+                     "comando=insere_car_rec&ID_EMP_TARN=2161&ID_ETB=3381&ID_NR_CTL=CTL 9"
+                     "&ID_CRT_COB=5&NR_BOL_BANC=1234&ID_PES_USU=77&ServerName=SRV1"}));
     seams.loader.addresses.clear();
     run(wallet101, "1234567");
-    EXPECT_THAT(seams.loader.queries(),
-                ElementsAre("comando=altera_docto_rec&ID_ETB=3381&ID_NR_CLT=CTL 9&ServerName=SRV1"
-                            "&NR_BOL_BANC=12345679"));
+    EXPECT_EQ(seams.loader.queries(),
+              (Texts{"comando=altera_docto_rec&ID_ETB=3381&ID_NR_CLT=CTL 9&ServerName=SRV1"
+                     "&NR_BOL_BANC=12345679"}));
 }
 
 TEST_F(PrintSlipsTest, ADocumentOfNoKnownTableIsAReceivableWithoutAControlNumber) {
     documents[0].text(SlipColumn::Table) = "OUTRA";
     run(isWallet57, "1234");
-    EXPECT_THAT(seams.loader.queries(),
-                ElementsAre("comando=altera_docto_rec&ID_ETB=3381&ID_NR_CTL=&ServerName=SRV1"
-                            "&NR_BOL_BANC=1234",
-                            "comando=insere_car_rec&ID_EMP_TARN=2161&ID_ETB=3381&ID_NR_CTL="
-                            "&ID_CRT_COB=5&NR_BOL_BANC=1234&ID_PES_USU=77&ServerName=SRV1"));
+    EXPECT_EQ(seams.loader.queries(),
+              (Texts{"comando=altera_docto_rec&ID_ETB=3381&ID_NR_CTL=&ServerName=SRV1"
+                     "&NR_BOL_BANC=1234",
+                     "comando=insere_car_rec&ID_EMP_TARN=2161&ID_ETB=3381&ID_NR_CTL="
+                     "&ID_CRT_COB=5&NR_BOL_BANC=1234&ID_PES_USU=77&ServerName=SRV1"}));
 }
 
 TEST_F(PrintSlipsTest, BothJobsOpenBeforeTheTickGoesAndTheWritesComeBeforeTheLines) {
@@ -152,11 +152,11 @@ TEST_F(PrintSlipsTest, BothJobsOpenBeforeTheTickGoesAndTheWritesComeBeforeTheLin
                                Call::Write,     Call::EndPage,       Call::EndDocument,
                                Call::Close,     Call::Open,          Call::StartDocument,
                                Call::StartPage, Call::Write,         Call::Write};
-    EXPECT_THAT(callsAtUntick, ElementsAre(expected.size()));
+    EXPECT_EQ(callsAtUntick, (std::vector{expected.size()}));
     expected.insert(expected.end(), 14, Call::Write);
     expected.insert(expected.end(), {Call::EndPage, Call::EndDocument, Call::Close});
     EXPECT_EQ(seams.spooler.calls, expected);
-    EXPECT_THAT(seams.spooler.opened, ElementsAre("Impressora de teste", "Impressora de teste"));
+    EXPECT_EQ(seams.spooler.opened, (Texts{"Impressora de teste", "Impressora de teste"}));
     for (const RecordingSpooler::Job& job : seams.spooler.jobs) {
         EXPECT_FALSE(job.description.docName || job.description.outputFile ||
                      job.description.dataType);
@@ -195,11 +195,11 @@ TEST_F(PrintSlipsTest, TickedRowsGetConsecutiveNumbersInGridOrder) {
     documents = {document("1"), document("2"), document("3"), document("4")};
     ticks = {true, false, true, true};
     run(isWallet57, "9");
-    EXPECT_THAT(numbers(), ElementsAre("0000000000009/2", "0000000000010/9", "0000000000011/8"));
+    EXPECT_EQ(numbers(), (Texts{"0000000000009/2", "0000000000010/9", "0000000000011/8"}));
     EXPECT_EQ(passed, 4U);
-    EXPECT_THAT(progress, ElementsAre(std::pair(0U, 3U), std::pair(1U, 3U), std::pair(2U, 3U),
-                                      std::pair(3U, 3U)));
-    EXPECT_THAT(ticked(), ElementsAre(false, false, false, false));
+    EXPECT_THAT(progress, testing::ElementsAre(std::pair(0U, 3U), std::pair(1U, 3U),
+                                               std::pair(2U, 3U), std::pair(3U, 3U)));
+    EXPECT_EQ(ticked(), (std::vector<bool>{false, false, false, false}));
     ASSERT_EQ(seams.spooler.jobs.size(), 6U) << "the preparation comes before each slip";
     for (const std::size_t job : {0U, 2U, 4U}) {
         EXPECT_EQ(seams.spooler.bytes(job), preparation);
@@ -211,15 +211,15 @@ TEST_F(PrintSlipsTest, TickedRowsGetConsecutiveNumbersInGridOrder) {
 TEST_F(PrintSlipsTest, SevenDigitsStepAndAreFilled) {
     documents = {document("1"), document("2")};
     run(wallet101, "9");
-    EXPECT_THAT(numbers(), ElementsAre("0000009-4", "0000010-8"));
+    EXPECT_EQ(numbers(), (Texts{"0000009-4", "0000010-8"}));
     EXPECT_THAT(seams.loader.queries()[1], testing::HasSubstr("&NR_BOL_BANC=00000108&"));
 }
 
 TEST_F(PrintSlipsTest, ARowOfAnotherBankTakesNoNumberAndLeavesItsJobOpen) {
     documents = {ofBank("1", "1016"), ofBank("2", "1050"), ofBank("3", "1095")};
     run(isWallet57, "9");
-    EXPECT_THAT(numbers(), ElementsAre("0000000000009/2", "0000000000010/9"));
-    EXPECT_THAT(ticked(), ElementsAre(false, false, false));
+    EXPECT_EQ(numbers(), (Texts{"0000000000009/2", "0000000000010/9"}));
+    EXPECT_EQ(ticked(), (std::vector<bool>{false, false, false}));
     EXPECT_EQ(seams.loader.queries().size(), 4U);
     const auto& jobs = seams.spooler.jobs;
     ASSERT_EQ(jobs.size(), 6U);
@@ -227,30 +227,30 @@ TEST_F(PrintSlipsTest, ARowOfAnotherBankTakesNoNumberAndLeavesItsJobOpen) {
     EXPECT_EQ(jobs[3].bytes(), slipPreparation);
     EXPECT_FALSE(jobs[3].pageEnded || jobs[3].ended || jobs[3].closed);
     EXPECT_TRUE(jobs[5].closed);
-    EXPECT_THAT(seams.boxes.shown, IsEmpty());
+    EXPECT_EQ(seams.boxes.shown, Boxes{});
 }
 
 TEST_F(PrintSlipsTest, OnlyRowsOfOtherBanksAreNoSlip) {
     documents = {ofBank("1", "1050"), ofBank("2", "")};
     run(isWallet57, "9");
-    EXPECT_THAT(seams.loader.queries(), IsEmpty());
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(none));
-    EXPECT_THAT(ticked(), ElementsAre(false, false));
+    EXPECT_EQ(seams.loader.queries(), Texts{});
+    EXPECT_EQ(seams.boxes.shown, (Boxes{none}));
+    EXPECT_EQ(ticked(), (std::vector<bool>{false, false}));
     EXPECT_EQ(seams.spooler.jobs.size(), 4U);
 }
 
 TEST_F(PrintSlipsTest, NothingTicked) {
     ticks = {false};
     run(isWallet57, "9");
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(none));
-    EXPECT_THAT(seams.spooler.calls, IsEmpty());
+    EXPECT_EQ(seams.boxes.shown, (Boxes{none}));
+    EXPECT_THAT(seams.spooler.calls, testing::IsEmpty());
     EXPECT_EQ(passed, 1U);
 }
 
 TEST_F(PrintSlipsTest, AnEmptyGrid) {
     documents.clear();
     run(isWallet57, "9");
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(none));
+    EXPECT_EQ(seams.boxes.shown, (Boxes{none}));
     EXPECT_EQ(passed, 0U);
 }
 
@@ -275,23 +275,23 @@ TEST_F(PrintSlipsTest, WithThePortfolioIncludedItsBankCounts) {
     documents = {ofBank("1", "1016")};
     run(foreign, "9");
     EXPECT_EQ(numbers().size(), 2U);
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(none));
+    EXPECT_EQ(seams.boxes.shown, (Boxes{none}));
 }
 
 // Wallet, agency and account stay the portfolio's, whatever the row's bank.
 TEST_F(PrintSlipsTest, ARowsBankChangesOnlyTheBank) {
     documents = {ofBank("1", "1084")};
     run(isWallet57, "1234");
-    EXPECT_THAT(numbers(), ElementsAre("0000000001234/7"));
+    EXPECT_EQ(numbers(), (Texts{"0000000001234/7"}));
 }
 
 TEST_F(PrintSlipsTest, AnEmptyPortfolio) {
     run(Portfolio(), "9");
-    EXPECT_THAT(numbers(), ElementsAre("0000009-4"));
+    EXPECT_EQ(numbers(), (Texts{"0000009-4"}));
     includesPortfolio = true;
     run(Portfolio(), "9");
     EXPECT_EQ(numbers().size(), 1U);
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(none));
+    EXPECT_EQ(seams.boxes.shown, (Boxes{none}));
 }
 
 TEST_F(PrintSlipsTest, TheServersFailureOrAnswerChangesNothing) {
@@ -299,19 +299,19 @@ TEST_F(PrintSlipsTest, TheServersFailureOrAnswerChangesNothing) {
     seams.loader.failOn("altera_docto_cob");
     seams.loader.on("insere_car_cob", "nada de XML");
     run(isWallet57, "9");
-    EXPECT_THAT(numbers(), ElementsAre("0000000000009/2", "0000000000010/9"));
+    EXPECT_EQ(numbers(), (Texts{"0000000000009/2", "0000000000010/9"}));
     EXPECT_EQ(seams.loader.queries().size(), 4U) << "nothing is sent twice";
-    EXPECT_THAT(seams.boxes.shown, IsEmpty());
+    EXPECT_EQ(seams.boxes.shown, Boxes{});
 }
 
 TEST_F(PrintSlipsTest, ThePrintersFailureChangesNothing) {
     documents = {document("1"), document("2")};
     seams.spooler.failOpen = 1;  // the first slip's job
     run(isWallet57, "9");
-    EXPECT_THAT(numbers(), ElementsAre("0000000000010/9"));
+    EXPECT_EQ(numbers(), (Texts{"0000000000010/9"}));
     EXPECT_EQ(seams.loader.queries().size(), 4U) << "the number is on the server all the same";
-    EXPECT_THAT(ticked(), ElementsAre(false, false));
-    EXPECT_THAT(seams.boxes.shown, IsEmpty());
+    EXPECT_EQ(ticked(), (std::vector<bool>{false, false}));
+    EXPECT_EQ(seams.boxes.shown, Boxes{});
 }
 
 TEST_F(PrintSlipsTest, AWriteToThePrinterThatFailsChangesNothing) {
@@ -322,13 +322,13 @@ TEST_F(PrintSlipsTest, AWriteToThePrinterThatFailsChangesNothing) {
     lines.erase(lines.begin() + 9);
     EXPECT_EQ(seams.spooler.bytes(1), slipPreparation + joined(lines));
     EXPECT_TRUE(seams.spooler.jobs[1].closed);
-    EXPECT_THAT(seams.boxes.shown, IsEmpty());
+    EXPECT_EQ(seams.boxes.shown, Boxes{});
 }
 
 TEST_F(PrintSlipsTest, ANumberThatIsNoneEndsTheRunAtItsBegin) {
     EXPECT_EQ(errorOfRun(isWallet57, ","), 13);
-    EXPECT_THAT(seams.spooler.calls, IsEmpty());
-    EXPECT_THAT(ticked(), ElementsAre(true));
+    EXPECT_THAT(seams.spooler.calls, testing::IsEmpty());
+    EXPECT_EQ(ticked(), (std::vector<bool>{true}));
     ticks = {false};
     EXPECT_EQ(errorOfRun(wallet101, "1,,2"), 13) << "also with nothing ticked";
     EXPECT_EQ(passed, 0U);
@@ -338,11 +338,11 @@ TEST_F(PrintSlipsTest, AShortAgencyEndsTheRunBeforeTheWrites) {
     Portfolio shortOne = isWallet57;
     shortOne.CD_AGE_BAN_CNAB = "112";
     EXPECT_EQ(errorOfRun(shortOne, "1"), 5);
-    EXPECT_THAT(seams.loader.queries(), IsEmpty());
+    EXPECT_EQ(seams.loader.queries(), Texts{});
     ASSERT_EQ(seams.spooler.jobs.size(), 2U);
     EXPECT_EQ(seams.spooler.bytes(1), slipPreparation);
     EXPECT_FALSE(seams.spooler.jobs[1].closed);
-    EXPECT_THAT(ticked(), ElementsAre(false));
+    EXPECT_EQ(ticked(), (std::vector<bool>{false}));
     EXPECT_EQ(passed, 0U);
 }
 
@@ -351,7 +351,7 @@ TEST_F(PrintSlipsTest, AnAccountThatIsNoNumberEndsTheRunBeforeTheWrites) {
     lettered.NR_CCOR_CNAB = "45678X";
     documents = {ofBank("1", "1050"), document("2")};
     EXPECT_EQ(errorOfRun(lettered, "1"), 13);
-    EXPECT_THAT(seams.loader.queries(), IsEmpty());
+    EXPECT_EQ(seams.loader.queries(), Texts{});
     EXPECT_EQ(seams.spooler.jobs.size(), 4U) << "the foreign row asks for no digit";
     EXPECT_EQ(passed, 1U);
 }
@@ -359,10 +359,10 @@ TEST_F(PrintSlipsTest, AnAccountThatIsNoNumberEndsTheRunBeforeTheWrites) {
 TEST_F(PrintSlipsTest, AfterTheLastSevenDigitNumberTheRunEnds) {
     documents = {document("1"), document("2"), document("3")};
     EXPECT_EQ(errorOfRun(wallet101, "9999998"), 5);
-    EXPECT_THAT(numbers(), ElementsAre("9999998-6", "9999999-4"));
+    EXPECT_EQ(numbers(), (Texts{"9999998-6", "9999999-4"}));
     EXPECT_EQ(seams.loader.queries().size(), 2U);
     EXPECT_TRUE(seams.spooler.jobs.back().closed);
-    EXPECT_THAT(ticked(), ElementsAre(false, false, true));
+    EXPECT_EQ(ticked(), (std::vector<bool>{false, false, true}));
     EXPECT_EQ(passed, 1U);
 }
 

@@ -1,7 +1,6 @@
 // The grid's rows as they are read from the answer of the search.
 #include "slips/slip_search.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "gateway/xml_document.h"
@@ -9,12 +8,10 @@
 #include "tests/support/boxes.h"
 #include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 using Cells = std::vector<std::string>;
 
@@ -126,7 +123,7 @@ TEST(SlipRows, RowsAreElementsOfAnyName) {
     for (const GridRow& document : slipRows(answer)) {
         numbers.push_back(document.text(SlipColumn::Number));
     }
-    EXPECT_THAT(numbers, testing::ElementsAre("1", "2", "3"));
+    EXPECT_EQ(numbers, (Texts{"1", "2", "3"}));
 }
 
 TEST(SlipRows, NoRows) {
@@ -159,12 +156,12 @@ TEST_F(SlipSearchTest, SendsTheWholeFilter) {
     ASSERT_TRUE(rows);
     EXPECT_EQ(rows->size(), 2U);
     EXPECT_FALSE(rows->at(0).ticked);
-    EXPECT_THAT(seams.loader.queries(),
-                ElementsAre("comando=sel_boleto&ID_EMP_TARN=2161&ID_PES_CLI=991&ID_ETB_TARN=4"
-                            "&ID_CRT_COB=57&DT_VNC_DE=01/03/2012&DT_VNC_ATE=31/03/2012"
-                            "&DT_EMS_DE=01/02/2012&DT_EMS_ATE=28/02/2012&ID_PES_USU=77"
-                            "&IC_INC_CAR=S&ServerName=SRV1"));
-    EXPECT_THAT(seams.boxes.shown, IsEmpty());
+    EXPECT_EQ(seams.loader.queries(),
+              (Texts{"comando=sel_boleto&ID_EMP_TARN=2161&ID_PES_CLI=991&ID_ETB_TARN=4"
+                     "&ID_CRT_COB=57&DT_VNC_DE=01/03/2012&DT_VNC_ATE=31/03/2012"
+                     "&DT_EMS_DE=01/02/2012&DT_EMS_ATE=28/02/2012&ID_PES_USU=77"
+                     "&IC_INC_CAR=S&ServerName=SRV1"}));
+    EXPECT_EQ(seams.boxes.shown, Boxes{});
 }
 
 TEST_F(SlipSearchTest, EmptyValuesStayEmpty) {
@@ -172,34 +169,34 @@ TEST_F(SlipSearchTest, EmptyValuesStayEmpty) {
     const auto rows = searchSlips(seams.environment, session, {});
     ASSERT_TRUE(rows);
     EXPECT_TRUE(rows->empty());
-    EXPECT_THAT(seams.loader.queries(),
-                ElementsAre("comando=sel_boleto&ID_EMP_TARN=2161&ID_PES_CLI=&ID_ETB_TARN="
-                            "&ID_CRT_COB=&DT_VNC_DE=&DT_VNC_ATE=&DT_EMS_DE=&DT_EMS_ATE="
-                            "&ID_PES_USU=77&IC_INC_CAR=N&ServerName=SRV1"));
+    EXPECT_EQ(seams.loader.queries(),
+              (Texts{"comando=sel_boleto&ID_EMP_TARN=2161&ID_PES_CLI=&ID_ETB_TARN="
+                     "&ID_CRT_COB=&DT_VNC_DE=&DT_VNC_ATE=&DT_EMS_DE=&DT_EMS_ATE="
+                     "&ID_PES_USU=77&IC_INC_CAR=N&ServerName=SRV1"}));
 }
 
 TEST_F(SlipSearchTest, AFailedSearchIsToldWithOneBlank) {
     seams.loader.failOn("sel_boleto");
     EXPECT_FALSE(searchSlips(seams.environment, session, {}));
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(noInternet9));
+    EXPECT_EQ(seams.boxes.shown, (Boxes{noInternet9}));
 }
 
 TEST_F(SlipSearchTest, Portfolios) {
     seams.loader.on("sel_carteira",
                     answers::rowset("<z:row DC_CRT_COB='Carteira 57' ID_CRT_COB='5'/>"
                                     "<z:row ID_CRT_COB='x'/><z:row DC_CRT_COB=' B '/>"));
-    EXPECT_THAT(portfoliosForFilter(seams.environment, session),
-                ElementsAre(ListItem{"--------", 0}, ListItem{"Carteira 57", 5}, ListItem{"", 0},
-                            ListItem{" B ", 0}));
-    EXPECT_THAT(seams.loader.queries(),
-                ElementsAre("comando=sel_carteira&ID_EMP_TARN=2161&ServerName=SRV1"));
+    EXPECT_EQ(portfoliosForFilter(seams.environment, session),
+              (std::vector<ListItem>{ListItem{"--------", 0}, ListItem{"Carteira 57", 5},
+                                     ListItem{"", 0}, ListItem{" B ", 0}}));
+    EXPECT_EQ(seams.loader.queries(),
+              (Texts{"comando=sel_carteira&ID_EMP_TARN=2161&ServerName=SRV1"}));
 }
 
 TEST_F(SlipSearchTest, FailedPortfoliosLeaveTheFirstItemAndAreToldWithFourBlanks) {
     seams.loader.failOn("sel_carteira");
-    EXPECT_THAT(portfoliosForFilter(seams.environment, session),
-                ElementsAre(ListItem{"--------", 0}));
-    EXPECT_THAT(seams.boxes.shown, ElementsAre(noInternet9Wide));
+    EXPECT_EQ(portfoliosForFilter(seams.environment, session),
+              (std::vector<ListItem>{ListItem{"--------", 0}}));
+    EXPECT_EQ(seams.boxes.shown, (Boxes{noInternet9Wide}));
 }
 
 std::string textOf(const std::optional<SlipRefusal>& refusal) {

@@ -5,11 +5,10 @@
 #include "tests/slips/slip_screen_test.h"
 #include "tests/support/loopback_server.h"
 #include "tests/support/network_desk.h"
+#include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-using testing::ElementsAre;
 
 class SlipsOverTheNetwork : public SlipScreenTest {
 protected:
@@ -67,9 +66,9 @@ TEST_F(SlipsOverTheNetwork, AWholeRunWithWritesThatFail) {
         click(screen, "cmdImprimir");
         EXPECT_EQ(shown(screen, "txtNr_Bol_Banc"), "");
     });
-    EXPECT_THAT(
+    EXPECT_EQ(
         http.queries(),
-        ElementsAre(
+        (Texts{
             branchesQuery, portfoliosQuery,
             "comando=sel_boleto&ID_EMP_TARN=2161&ID_PES_CLI=&ID_ETB_TARN=&ID_CRT_COB=5&DT_VNC_DE="
             "&DT_VNC_ATE=31/03/2012&DT_EMS_DE=01/02/2012&DT_EMS_ATE=&ID_PES_USU=77&IC_INC_CAR=N"
@@ -83,9 +82,9 @@ TEST_F(SlipsOverTheNetwork, AWholeRunWithWritesThatFail) {
             "&ServerName=SRV1",
             "comando=insere_car_cob&ID_EMP_TARN=2161&ID_ETB=3381&ID_TIP_DOC=201&NR_DOC=2"
             "&ID_CRT_COB=5&NR_BOL_BANC=1235&ID_PES_USU=77&ServerName=SRV1",
-            deskQuery));
+            deskQuery}));
     EXPECT_EQ(slips().size(), 2U);
-    EXPECT_THAT(boxes.shown, testing::IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 TEST_F(SlipsOverTheNetwork, AServerThatGoesAwayAfterThePortfolioIsNotNoticed) {
@@ -109,7 +108,7 @@ TEST_F(SlipsOverTheNetwork, AServerThatGoesAwayAfterThePortfolioIsNotNoticed) {
         click(screen, "cmdImprimir");
     });
     EXPECT_EQ(slips().size(), 2U);
-    EXPECT_THAT(boxes.shown, testing::IsEmpty());
+    EXPECT_EQ(boxes.shown, Boxes{});
 }
 
 // While a write is under way the slip's job holds its set-up alone.

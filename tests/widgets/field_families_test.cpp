@@ -236,8 +236,8 @@ TEST_F(FieldFamilies, EmptyQuantityIsRefused) {
     QTest::keyClick(&form.quantity, Qt::Key_Delete);
     QTest::keyClick(&form.quantity, Qt::Key_Tab);
     settle();
-    EXPECT_THAT(boxes.shown, testing::ElementsAre(Box{"Quantidade inválido.     ",
-                                                      BoxIcon::Information, "Atenção"}));
+    EXPECT_EQ(boxes.shown,
+              (Boxes{Box{"Quantidade inválido.     ", BoxIcon::Information, "Atenção"}}));
     EXPECT_EQ(duringBox, "") << "the box comes before the text is set";
     EXPECT_EQ(form.quantity.text(), QStringLiteral("0,000"));
     EXPECT_EQ(form.quantity.selectedText(), QStringLiteral("0,000"));
@@ -247,9 +247,8 @@ TEST_F(FieldFamilies, EmptyQuantityIsRefused) {
 TEST_F(FieldFamilies, TooLargeAQuantityIsRefused) {
     left(form.quantity, "12345678,9");
     settle();
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(Box{"Quantidade máxima permitida é 9.999.999,999 ",
-                                         BoxIcon::Information, "Atenção"}));
+    EXPECT_EQ(boxes.shown, (Boxes{Box{"Quantidade máxima permitida é 9.999.999,999 ",
+                                      BoxIcon::Information, "Atenção"}}));
     EXPECT_EQ(form.quantity.text(), QStringLiteral("0,000"));
     EXPECT_TRUE(hasFocus(form.quantity));
     left(form.weight, "10000000");
@@ -278,9 +277,8 @@ TEST_F(FieldFamilies, MoneyIsFormattedAndLimited) {
     EXPECT_TRUE(boxes.shown.empty());
     EXPECT_EQ(left(form.money, "10000000000000"), "10000000000000");
     settle();
-    EXPECT_THAT(boxes.shown,
-                testing::ElementsAre(Box{"O valor máximo permitido é de R$ 9.999.999.999.999,99",
-                                         BoxIcon::Exclamation}));
+    EXPECT_EQ(boxes.shown, (Boxes{Box{"O valor máximo permitido é de R$ 9.999.999.999.999,99",
+                                      BoxIcon::Exclamation}}));
     EXPECT_TRUE(hasFocus(form.money));
     EXPECT_EQ(form.money.selectedText(), QStringLiteral("10000000000000"));
 }
@@ -313,8 +311,7 @@ TEST_F(FieldFamilies, TheTestedDateRefusesWhatIsNoDay) {
         left(form.deposit, wrong);
         settle();
         EXPECT_EQ(duringBox, completed) << "so the clerk sees which day was put together";
-        EXPECT_THAT(boxes.shown,
-                    testing::ElementsAre(Box{"Data Inválida.      ", BoxIcon::Critical, "Aviso"}))
+        EXPECT_EQ(boxes.shown, (Boxes{Box{"Data Inválida.      ", BoxIcon::Critical, "Aviso"}}))
             << wrong;
         EXPECT_EQ(form.deposit.text(), QString());
         EXPECT_TRUE(hasFocus(form.deposit));
