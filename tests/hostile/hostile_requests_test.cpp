@@ -129,7 +129,7 @@ std::vector<Query> sessionQueries() {
     return all;
 }
 
-std::vector<std::string> keysOf(std::string_view line) {
+std::vector<std::string> keysOfLine(std::string_view line) {
     std::vector<std::string> keys;
     for (const std::string_view pair : split(line, '&')) {
         keys.emplace_back(pair.substr(0, pair.find('=')));
@@ -151,7 +151,7 @@ void expectOneLine(const Query& query, const HostileText& hostile) {
         return;
     }
     const std::string line = requestLine(query(hostile.text));
-    EXPECT_EQ(keysOf(line), keysOf(plain));
+    EXPECT_EQ(keysOfLine(line), keysOfLine(plain));
     EXPECT_EQ(std::ranges::find_if(line, [](char c) { return c <= ' ' || c >= 127; }), line.end())
         << line;
 }
