@@ -15,7 +15,7 @@ constexpr PaperUnits lineHeight = unitsPerInch / 6;
 // pitch can tell, each other one can.
 constexpr PaperUnits farthestLeft = -216;
 constexpr PaperUnits highest = -lineHeight;
-constexpr PaperUnits widest = 1000 * 216;
+constexpr PaperUnits widest = PaperUnits{1000} * 216;
 constexpr PaperUnits longest = 22 * unitsPerInch;
 constexpr double mostFigures = 10'000;  // of any number
 constexpr std::string_view blanks = " \t\r";
