@@ -22,7 +22,7 @@ namespace {
 
 constexpr int senders = 4;
 constexpr std::int64_t mostJobs = 200;  // before a kill
-constexpr std::chrono::milliseconds longestMoment(600);
+constexpr std::chrono::milliseconds longestPrinting(600);
 
 std::string lines(int job, const char* lineEnd) {
     std::string text;
@@ -125,7 +125,7 @@ protected:
             });
         }
         const int before = next_;
-        moments_.await([this, before] { return next_ - before; }, mostJobs, longestMoment);
+        moments_.await([this, before] { return next_ - before; }, mostJobs, longestPrinting);
         printer.kill();
         for (std::thread& thread : threads) {
             thread.join();
@@ -196,7 +196,7 @@ TEST_F(KilledPrinter, PrintsEachJobOfAFolderOnceAfterTheLastKill) {
     for (int kill = 1; kill <= kills; ++kill) {
         Printer printer;
         printer.start(arguments);
-        moments_.await(longestMoment);
+        moments_.await(longestPrinting);
         printer.kill();
         jobsOn(contentOf(folder_.filePath("papel.txt")));
     }

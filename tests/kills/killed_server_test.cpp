@@ -23,7 +23,7 @@ using tarn::test::killsWanted;
 using tarn::test::Server;
 
 constexpr std::int64_t mostAnswers = 200;  // before a kill
-constexpr milliseconds longestMoment(5);   // some requests long
+constexpr milliseconds longestServing(5);  // some requests long
 
 // A server process that is gone may have left a statement that still runs in PostgreSQL.
 void awaitOtherConnections(Database& database) {
@@ -86,7 +86,7 @@ protected:
             });
         }
         const std::int64_t before = answered();
-        moments_.await([this, before] { return answered() - before; }, mostAnswers, longestMoment);
+        moments_.await([this, before] { return answered() - before; }, mostAnswers, longestServing);
         server.kill();
         for (std::thread& desk : desks) {
             desk.join();

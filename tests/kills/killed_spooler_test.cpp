@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 
 constexpr int desks = 3;  // at one time, in one folder
 constexpr int linesOfJob = 40;
-constexpr std::chrono::milliseconds longestMoment(30);
+constexpr std::chrono::milliseconds longestSpooling(30);
 
 std::string jobOf(int desk, int number) {
     const std::string name = std::to_string(desk) + "-" + std::to_string(number);
@@ -77,7 +77,7 @@ protected:
         int desk = 0;
         ASSERT_EQ(read(pipeEnds[0], &desk, sizeof desk), static_cast<ssize_t>(sizeof desk));
         ++told_[desk];
-        moments_.await(longestMoment);
+        moments_.await(longestSpooling);
         for (const pid_t child : children) {
             ASSERT_EQ(kill(child, SIGKILL), 0);
             int status = 0;
