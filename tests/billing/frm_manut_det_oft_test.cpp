@@ -450,7 +450,8 @@ TEST_F(FrmManutDetOFTTest, ALongObservationIsCutToTheFieldsLength) {
     for (int i = 0; i < 62; ++i) {
         sent += "çbcdefghij";
     }
-    const std::string kept = sent.substr(0, 50 * 11);  // 500 characters, each ç of two bytes
+    const std::string kept =
+        sent.substr(0, std::size_t{50} * 11);  // 500 characters, each ç of two bytes
     open(orders("DC_OBS='" + sent + "' QT_ESP='1' PESO_BRU='1' PESO_LIQ='1'"));
     server.on("MANUTENCAO_OFT", answers::status("OK"));
     edit([&](QWidget& dialog) {

@@ -118,6 +118,7 @@ protected:
     // Jobs from several senders until the printer is gone.
     void sendUntilKilled(Printer& printer) {
         std::vector<std::thread> threads;
+        threads.reserve(senders);
         for (int i = 0; i < senders; ++i) {
             threads.emplace_back([this, &printer] {
                 while (send(printer.port(), next_++)) {

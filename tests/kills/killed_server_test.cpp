@@ -77,6 +77,7 @@ protected:
         ASSERT_NO_FATAL_FAILURE(server.start(QString::fromStdString(address_)));
         const std::string url = server.address().toStdString();
         std::vector<std::thread> desks;
+        desks.reserve(busyDesks);
         for (int place = 0; place < busyDesks; ++place) {
             desks.emplace_back([this, &url, place] {
                 BusyDesk desk(url, place, done_);

@@ -27,9 +27,11 @@ public:
 };
 
 class ScreenTest : public testing::Test {
+public:
+    ~ScreenTest() override;
+
 protected:
     ScreenTest();
-    ~ScreenTest() override;
 
     void SetUp() override;
     void TearDown() override;
