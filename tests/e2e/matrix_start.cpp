@@ -145,6 +145,18 @@ void MatrixDesk::cancelNote(QWidget&) {
 std::vector<MatrixRow> startRows() {
     using Desk = MatrixDesk;
     const std::vector<std::string> orders{"sprDados", "count"};
+    const auto observationRow = [&orders](const char* command) {
+        return MatrixRow{
+            .command = command,
+            .place = &Desk::atOrders,
+            .act = &Desk::makeNoteOfOrder,
+            .lost = {.boxes = {transportFailure("0004"), noObservation}, .goesOn = true},
+            .refused = {{refusal}},
+            .undeclared = {.boxes = {endReport()}, .ends = true},
+            .whole = {.goesOn = true},
+            .changes = orders,
+            .anew = true};
+    };
     return {
         {.command = "VERSAO_TARN_EMISSAO",
          .place = &Desk::beforeLogon,
@@ -189,24 +201,8 @@ std::vector<MatrixRow> startRows() {
          .changes = orders,
          .writes = true,
          .anew = true},
-        {.command = "Seleciona_Obs_Vnd_X_Ord",
-         .place = &Desk::atOrders,
-         .act = &Desk::makeNoteOfOrder,
-         .lost = {.boxes = {transportFailure("0004"), noObservation}, .goesOn = true},
-         .refused = {{refusal}},
-         .undeclared = {.boxes = {endReport()}, .ends = true},
-         .whole = {.goesOn = true},
-         .changes = orders,
-         .anew = true},
-        {.command = "Seleciona_Obs_Ord_X_Est",
-         .place = &Desk::atOrders,
-         .act = &Desk::makeNoteOfOrder,
-         .lost = {.boxes = {transportFailure("0004"), noObservation}, .goesOn = true},
-         .refused = {{refusal}},
-         .undeclared = {.boxes = {endReport()}, .ends = true},
-         .whole = {.goesOn = true},
-         .changes = orders,
-         .anew = true},
+        observationRow("Seleciona_Obs_Vnd_X_Ord"),
+        observationRow("Seleciona_Obs_Ord_X_Est"),
         {.command = "SP_GERA_NF",
          .place = &Desk::atOrders,
          .act = &Desk::makeNoteOfOrder,

@@ -20,16 +20,27 @@ public:
 };
 
 class CarregaXMLTest : public testing::Test {
-protected:
-    CarregaXMLTest() {
-        fs::create_directories(folder_);
-        fs::current_path(folder_);
-    }
+public:
     ~CarregaXMLTest() override {
         fs::current_path(before_);
         fs::remove_all(folder_);
     }
 
+protected:
+    CarregaXMLTest() {
+        fs::create_directories(folder_);
+        fs::current_path(folder_);
+    }
+
+    Environment environmentOver(HttpLoader& loader) {
+        return {.http = loader,
+                .spooler = seams_.spooler,
+                .printer = seams_.printer,
+                .boxes = seams_.boxes,
+                .clock = seams_.clock,
+                .machine = seams_.machine,
+                .baseUrl = "http://servidor/p.asp?"};
+    }
     bool load(const std::string& file = "", int save = 0, const std::string& message = "não veio") {
         return CarregaXML(seams_.environment, seams_.environment.baseUrl + "comando=x", document_,
                           false, file, save, "", message);
@@ -70,13 +81,7 @@ TEST_F(CarregaXMLTest, WithoutAMessageAFailureIsSilent) {
 
 TEST_F(CarregaXMLTest, AnErrorInsideIsShownByItsDescription) {
     FailingLoader failing;
-    Environment environment{.http = failing,
-                            .spooler = seams_.spooler,
-                            .printer = seams_.printer,
-                            .boxes = seams_.boxes,
-                            .clock = seams_.clock,
-                            .machine = seams_.machine,
-                            .baseUrl = "http://servidor/p.asp?"};
+    Environment environment = environmentOver(failing);
     EXPECT_FALSE(
         CarregaXML(environment, "http://servidor/p.asp?x", document_, false, "", 0, "", "m"));
     EXPECT_EQ(seams_.boxes.shown,
@@ -95,13 +100,7 @@ TEST_F(CarregaXMLTest, TheLoaderReadsTheAnswer) {
             return inLoader;
         }
     } reading;
-    Environment environment{.http = reading,
-                            .spooler = seams_.spooler,
-                            .printer = seams_.printer,
-                            .boxes = seams_.boxes,
-                            .clock = seams_.clock,
-                            .machine = seams_.machine,
-                            .baseUrl = "http://servidor/p.asp?"};
+    Environment environment = environmentOver(reading);
     EXPECT_TRUE(
         CarregaXML(environment, "http://servidor/p.asp?x", document_, false, "", 0, "", "m"));
     EXPECT_TRUE(reading.inLoader);
