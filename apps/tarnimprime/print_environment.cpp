@@ -74,7 +74,7 @@ void PrintEnvironment::prepareFolder() {
         throw cli::WrongUsage("não foi possível criar a pasta \"" + *options_.destination +
                               "\". Confira o nome e a permissão de gravação.");
     }
-    spooler_ = std::make_unique<DirectorySpooler>(files);
+    spooler_ = std::make_unique<DirectorySpooler>(files, TellsKinds::No);
     if (options_.format == "ops") {
         drawOn(std::make_unique<OpsPrinter>(files));
     } else {

@@ -31,7 +31,8 @@ QList<Entry> entriesIn(const QString& folder) {
 }  // namespace
 
 void listJobs(const QString& folder, const QString& document) {
-    QStringList jobs = QDir(folder).entryList({QStringLiteral("job-*")}, QDir::Files, QDir::Name);
+    QStringList jobs = QDir(folder).entryList(
+        {QStringLiteral("job-*.prn"), QStringLiteral("job-*.pdf")}, QDir::Files, QDir::Name);
     for (const Entry& entry : entriesIn(folder)) {
         jobs.removeAll(entry.job);
     }

@@ -223,8 +223,16 @@ void printObservations(PrintedLine& sheet) {
 
 }  // namespace
 
+std::string orderFormName(std::int32_t company) {
+    constexpr std::string_view plain = "OrdemFaturamento";
+    std::string name(plain);
+    return company == priceSheetCompany ? name + "_" + std::to_string(priceSheetCompany) : name;
+}
+
 void ImprimeOrdemFaturamento(Environment& environment, XmlDocument& document) {
     RawChannel channel(environment.spooler, environment.codePage);
+    channel.announce(
+        {.document = JobDocument::OrderSheet, .form = orderFormName(0), .itemLines = {}});
     channel.open();
     PrintedLine sheet(channel);
     printPlainHeader(sheet, document);
@@ -246,6 +254,9 @@ void ImprimeOrdemFaturamento(Environment& environment, XmlDocument& document) {
 
 void ImprimeOrdemFaturamentoPreco(Environment& environment, XmlDocument& document) {
     RawChannel channel(environment.spooler, environment.codePage);
+    channel.announce({.document = JobDocument::OrderSheet,
+                      .form = orderFormName(priceSheetCompany),
+                      .itemLines = {}});
     channel.open();
     PrintedLine sheet(channel);
     printPriceHeader(sheet, document);

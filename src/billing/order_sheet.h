@@ -2,6 +2,7 @@
 // note is generated: 77 columns on plain paper, one raw job, no page break.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "gateway/sessao.h"
@@ -10,6 +11,9 @@
 namespace tarn {
 
 struct Environment;
+
+// What the paper is called that a company's sheets go on: plain, or company 1361's own form.
+std::string orderFormName(std::int32_t company);
 
 // The standard sheet. `document` is read as it prints: what raises ObjectVariable (no
 // header row, a missing field of an ITEM or PARCELA) leaves the lines before it in the

@@ -112,11 +112,18 @@ std::int16_t bankCode(std::string_view nrOfiBan) {
     return readInt16(trimBlanks(nrOfiBan));
 }
 
+std::string_view chequeFormName(std::int16_t bank) {
+    return bank == bank33 ? "Cheque_33" : "Cheque";
+}
+
 void ImprimeCheque(Environment& environment, const ChequeData& cheque) {
     const std::string inWords = ValorExtenso(readComma(cheque.sValor), "REAIS", "REAL");
     const Data data = dataDe(cheque.sDataDeposito);
     RawChannel channel(environment.spooler, environment.codePage);
-    channel.open({.docName = "Impressao de Cheque", .outputFile = "", .dataType = ""});
+    channel.announce({.document = JobDocument::Cheque,
+                      .form = std::string(chequeFormName(cheque.nNr_Ofi_Ban)),
+                      .itemLines = {}});
+    channel.open({.docName = "Impressao de Cheque", .outputFile = "", .dataType = "", .kind = {}});
     PrintedLine paper(channel);
     if (cheque.nNr_Ofi_Ban == bank33) {
         printBank33(paper, cheque, inWords, data);

@@ -21,6 +21,9 @@ struct ChequeData {
     std::string_view sNmMun = {};         // town of the establishment
 };
 
+// What the bank's form is called: "Cheque_33" or "Cheque", that of all others.
+std::string_view chequeFormName(std::int16_t bank);
+
 // Prints it as one raw job. The amount is read and the date taken apart before the job
 // opens: TypeMismatch for an amount that is no number, OutOfRange for a date
 // of less than three parts. A month outside 1 to 12 has no name.

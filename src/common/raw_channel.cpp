@@ -41,7 +41,9 @@ void appendField(std::string& line, std::string_view text, int width, bool align
 // again from the screens that allow it.
 void RawChannel::open(const JobDescription& job) {
     spooler_.openPrinter(spooler_.defaultPrinter());
-    spooler_.startDocument(job);
+    JobDescription told = job;
+    told.kind = kind_;
+    spooler_.startDocument(told);
     spooler_.startPage();
 }
 

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/spooler.h"
 #include "runtime/code_page.h"
@@ -18,6 +19,9 @@ class RawChannel {
 public:
     RawChannel(Spooler& spooler, CodePage page) : spooler_(spooler), page_(page) {}
 
+    // What the jobs opened from now on print, for a spooler that can use it.
+    void announce(JobKind kind) { kind_ = std::move(kind); }
+
     // Opens the default printer and starts a document and its only page.
     void open(const JobDescription& job = {});
     // Ends page and document and closes the printer.
@@ -31,6 +35,7 @@ public:
 private:
     Spooler& spooler_;
     CodePage page_;
+    JobKind kind_;
     std::string bytes_;  // reused from call to call
 };
 

@@ -57,6 +57,8 @@ void printGroup(RawChannel& channel, std::array<Texts, side>& group, std::size_t
 
 void printDotMatrix(Environment& environment, Labels& labels, const Progress& progress) {
     RawChannel channel(environment.spooler, environment.codePage);
+    channel.announce(
+        {.document = JobDocument::Labels, .form = std::string(labelFormOnPaper), .itemLines = {}});
     channel.open();
     std::string preparation = condensedStep;
     channel.ImprimeRaw(margin, preparation, 0);

@@ -52,6 +52,15 @@ void printItem(const Items& block, Run& run) {
     run.send(block.line.advance);
 }
 
+const Items* itemsOf(const Form& form) {
+    for (const Step& step : form.steps) {
+        if (const auto* items = std::get_if<Items>(&step)) {
+            return items;
+        }
+    }
+    return nullptr;
+}
+
 void lose(Run& run, Loss::Kind kind, int item, std::size_t position, int limit) {
     if (run.losses == nullptr) {
         return;
@@ -107,6 +116,27 @@ std::string nameOfItem(NoteDocument& document) {
         return name.append(name.empty() || description.empty() ? "" : " ").append(description);
     } catch (const RuntimeError&) {
         return {};  // nothing prints of this row, and so nothing stops for it
+    }
+}
+
+std::optional<int> itemLinesOf(const Form& form, const XmlDocument& document) {
+    const auto* items = itemsOf(form);
+    if (items == nullptr) {
+        return std::nullopt;
+    }
+    try {
+        NoteDocument note(document);
+        if (items->fillsForm) {
+            return readInt16(note.text(Source::QT_MAX_IT));
+        }
+        int printed = 0;
+        for (std::size_t at = firstItem; note.isItem(at); ++at) {
+            note.goToItem(at);
+            printed += !items->productsOnly || note.text(Source::IC_TP_CAD) == "P" ? 1 : 0;
+        }
+        return printed;
+    } catch (const RuntimeError&) {
+        return std::nullopt;  // the print will stop where it comes to it
     }
 }
 

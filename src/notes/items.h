@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 #include "notes/layout.h"
@@ -35,6 +36,10 @@ void forEachItem(Run& run, const Visit& visit) {
 // Code and description of the item row in hand, for telling it from others; empty where
 // the row has neither in their own spelling.
 std::string nameOfItem(NoteDocument& document);
+
+// Lines that the form of this note has for items: as many as the note says, or has items
+// where no blank lines follow them. Nothing where the note doesn't tell; raises nothing.
+std::optional<int> itemLinesOf(const Form& form, const XmlDocument& document);
 
 // Prints the item rows on a form of `mostItems` lines; returns how many lines they took.
 int printItems(const Items& block, int mostItems, Run& run);

@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 #include <variant>
 
@@ -151,6 +152,12 @@ struct Layout {
 
     constexpr const Form& formFor(std::int32_t logged) const {
         return other == nullptr || logged == establishment ? *form : *other;
+    }
+    // What the form is called: the layout's name, with the establishment where that has one of
+    // its own.
+    std::string formName(std::int32_t logged) const {
+        const bool ofItsOwn = other != nullptr && logged == establishment;
+        return std::string(name) + (ofItsOwn ? "_" + std::to_string(establishment) : "");
     }
 };
 

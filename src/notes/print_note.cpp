@@ -2,6 +2,7 @@
 
 #include "common/raw_channel.h"
 #include "notes/draw_note.h"
+#include "notes/items.h"
 #include "notes/layouts/layouts.h"
 #include "notes/pipeline.h"
 #include "platform/environment.h"
@@ -15,8 +16,12 @@ void print(const notes::Layout& layout, Environment& environment, const Sessao& 
     if (layout.drawn != nullptr) {
         return notes::drawNote(*layout.drawn, document, noteNumber, environment, losses);
     }
+    const notes::Form& form = layout.formFor(session.ID_ETB_TARN);
     RawChannel channel(environment.spooler, environment.codePage);
-    notes::printNote(layout.formFor(session.ID_ETB_TARN), document, noteNumber, channel, losses);
+    channel.announce({.document = JobDocument::Note,
+                      .form = layout.formName(session.ID_ETB_TARN),
+                      .itemLines = notes::itemLinesOf(form, document)});
+    notes::printNote(form, document, noteNumber, channel, losses);
 }
 
 }  // namespace

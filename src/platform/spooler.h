@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/job_kind.h"
+
 namespace tarn {
 
 // Three texts, each null by default: the job has no name and the printer's
@@ -15,6 +17,8 @@ struct JobDescription {
     std::optional<std::string> docName;
     std::optional<std::string> outputFile;
     std::optional<std::string> dataType;
+    // What the job prints, for a spooler that can tell it on; nothing of it reaches a printer.
+    JobKind kind{};
 };
 
 // What is told of a print service that doesn't answer; Portuguese, part of a sentence.

@@ -1,9 +1,9 @@
 #include "slips/print_slips.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string_view>
 
 #include "common/acts.h"
@@ -28,13 +28,12 @@ constexpr std::string_view sixPerInch =
     "2";                                                // lines
 constexpr std::string_view doubleStrike = "\x0F\x1BG";  // condensed, double strike
 
-// ID_PES_BAN of the banks whose forms these are.
-constexpr std::array<double, 3> servedBanks{1016, 1084, 1095};
-
-bool isServedBank(std::string_view bank) {
+// The bank with that ID_PES_BAN, if it has a form.
+std::optional<std::int32_t> servedBank(std::string_view bank) {
     const auto number = parseComma(bank);
-    return number &&
-           std::find(servedBanks.begin(), servedBanks.end(), *number) != servedBanks.end();
+    const auto* served = std::ranges::find_if(
+        slipBanks, [&number](std::int32_t code) { return number == static_cast<double>(code); });
+    return served == slipBanks.end() ? std::nullopt : std::optional(*served);
 }
 
 class SlipJob {
@@ -48,7 +47,7 @@ public:
           running_(portfolio, request.next),
           channel_(environment.spooler, environment.codePage) {}
 
-    void preparePrinter();
+    void preparePrinter(const GridRow& document);
     // The job for it is open.
     void print(const GridRow& document);
     int printed() const { return printed_; }
@@ -56,6 +55,8 @@ public:
     void tellPaper() const;
 
 private:
+    std::optional<std::int32_t> bankOf(const GridRow& document) const;
+    void announce(const GridRow& document);
     void sendQuery(const std::string& query);
     void save(const GridRow& document, const SlipNumber& number);
     void account();
@@ -77,8 +78,20 @@ void SlipJob::send(std::string_view sequence) {
     channel_.ImprimeRaw(1, text, 0);
 }
 
+std::optional<std::int32_t> SlipJob::bankOf(const GridRow& document) const {
+    return servedBank(includesPortfolio_ ? portfolio_.ID_PES_BAN : document.text(SlipColumn::Bank));
+}
+
+void SlipJob::announce(const GridRow& document) {
+    const auto bank = bankOf(document);
+    channel_.announce({.document = JobDocument::Slip,
+                       .form = bank ? slipFormName(*bank, portfolio_.isWallet57()) : std::string(),
+                       .itemLines = {}});
+}
+
 // A job of its own, then the slip's.
-void SlipJob::preparePrinter() {
+void SlipJob::preparePrinter(const GridRow& document) {
+    announce(document);
     channel_.open();
     send(twelve);
     channel_.close();
@@ -113,8 +126,7 @@ void SlipJob::save(const GridRow& document, const SlipNumber& number) {
 // The document of a bank without a form leaves its job open (decisions D41, D70). The check
 // digit is made before anything is recorded (D69).
 void SlipJob::print(const GridRow& document) {
-    if (!isServedBank(includesPortfolio_ ? portfolio_.ID_PES_BAN
-                                         : document.text(SlipColumn::Bank))) {
+    if (!bankOf(document)) {
         return;
     }
     const SlipNumber number = running_.slipNumber();
@@ -187,7 +199,7 @@ void printSlips(Environment& environment, const Sessao& session, const Portfolio
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (lines[i].ticked) {
             ticked = true;
-            slipJob.preparePrinter();
+            slipJob.preparePrinter(lines[i]);
             screen.untick(i);
             slipJob.print(lines[i]);
             count.advance();

@@ -89,6 +89,10 @@ void sevenDigitPayer(Slip& slip, const SlipNumber& number) {
 
 }  // namespace
 
+std::string slipFormName(std::int32_t bank, bool wallet57) {
+    return "Boleto_" + std::to_string(bank) + (wallet57 ? "_57" : "");
+}
+
 void printWallet57Lines(RawChannel& channel, const GridRow& document, const SlipNumber& number) {
     Slip slip{.line = PrintedLine(channel), .document = document};
     slip.line.blanks(1).out();

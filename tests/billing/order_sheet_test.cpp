@@ -69,9 +69,15 @@ std::string parcel(const std::string& due, const std::string& amount) {
 class OrderSheetTest : public testing::Test {
 protected:
     // The job's lines; each must have come in one write of its own.
-    Lines standard(const std::string& xml) { return printed(ImprimeOrdemFaturamento, xml, true); }
+    Lines standard(const std::string& xml) {
+        Lines lines = printed(ImprimeOrdemFaturamento, xml, true);
+        EXPECT_EQ(kind_.form, "OrdemFaturamento");
+        return lines;
+    }
     Lines withPrice(const std::string& xml) {
-        return printed(ImprimeOrdemFaturamentoPreco, xml, true);
+        Lines lines = printed(ImprimeOrdemFaturamentoPreco, xml, true);
+        EXPECT_EQ(kind_.form, "OrdemFaturamento_1361");
+        return lines;
     }
     // The lines that were out when the error came; the job is still open.
     Lines standardUpToError(const std::string& xml) {
@@ -105,11 +111,15 @@ private:
         }
         const RecordingSpooler::Job& job = seams.spooler.jobs[0];
         EXPECT_EQ(job.description.docName, std::nullopt);
+        kind_ = job.description.kind;
+        EXPECT_EQ(kind_.document, JobDocument::OrderSheet);
         EXPECT_EQ(job.pageEnded, ends);
         EXPECT_EQ(job.ended, ends);
         EXPECT_EQ(job.closed, ends);
         return bare(job.writes);
     }
+    JobKind kind_;
+
     static Lines bare(const Lines& writes) {
         Lines lines;
         for (const std::string& write : writes) {

@@ -57,6 +57,10 @@ protected:
         ImprimeCheque(seams_.environment, data);
         EXPECT_EQ(seams_.spooler.jobs.size(), 1U);
         EXPECT_TRUE(seams_.spooler.jobs.at(0).closed);
+        EXPECT_EQ(seams_.spooler.jobs[0].description.kind,
+                  (JobKind{.document = JobDocument::Cheque,
+                           .form = data.nNr_Ofi_Ban == 33 ? "Cheque_33" : "Cheque",
+                           .itemLines = {}}));
         return seams_.spooler.jobs.at(0).writes;
     }
     // One of them: the set-up is number 0.

@@ -156,7 +156,7 @@ TEST(ClerkDay, EveryPaperIsListedByItsDocument) {
 
 TEST(ClerkDay, EveryPaperOfTheDayIsThere) {
     const QStringList jobs =
-        QDir(clerk_day::dayFolder).entryList({"job-*"}, QDir::Files, QDir::Name);
+        QDir(clerk_day::dayFolder).entryList({"job-*.prn", "job-*.pdf"}, QDir::Files, QDir::Name);
     EXPECT_EQ(jobs.join(' ').toStdString(),
               "job-001.prn job-002.prn job-003.prn job-004.prn job-005.prn "  // sheet, note twice
               "job-006.pdf job-007.pdf "                                      // bills, receipt
@@ -172,6 +172,25 @@ TEST(ClerkDay, EveryPaperOfTheDayIsThere) {
     EXPECT_THAT(paper("job-012.prn"), StartsWith(" \x0F\x1B\x1BG"));
     EXPECT_THAT(paper("job-012.prn"), HasSubstr("PAPELARIA TR\xCAS PONTES LTDA"));
     EXPECT_THAT(paper("job-015.prn"), HasSubstr("PANIFICADORA E CONFEITARIA"));
+}
+
+TEST(ClerkDay, EveryRawJobTellsItsForm) {
+    std::string told;
+    for (const QString& file :
+         QDir(clerk_day::dayFolder).entryList({"job-*.kind"}, QDir::Files, QDir::Name)) {
+        told += file.toStdString() + ": " + paper(file.toUtf8().constData());
+    }
+    const std::string note = "documento nota\nformulario ImprimeNF_1361\nitens 13\n";
+    const std::string slip = "documento boleto\nformulario Boleto_1016_57\n";
+    const std::string labels = "documento etiquetas\nformulario Etiquetas\n";
+    EXPECT_EQ(told,
+              "job-001.kind: documento ordem\nformulario OrdemFaturamento_1361\n"
+              "job-002.kind: " +
+                  note + "job-003.kind: " + note + "job-004.kind: " + note +
+                  "job-005.kind: " + note + "job-008.kind: " + slip + "job-009.kind: " + slip +
+                  "job-010.kind: " + slip + "job-011.kind: " + slip +
+                  "job-012.kind: documento cheque\nformulario Cheque\n" +
+                  "job-014.kind: " + labels + "job-015.kind: " + labels);
 }
 
 TEST(ClerkDay, ARefusedRightLeavesNothing) {

@@ -60,6 +60,8 @@ protected:
         EXPECT_EQ(env.spooler.jobs[0].writes, (Texts{" \x0F\x1BM"}));
         for (const RecordingSpooler::Job& job : env.spooler.jobs) {
             EXPECT_EQ(job.description.docName, std::nullopt);
+            EXPECT_EQ(job.description.kind.document, JobDocument::Labels);
+            EXPECT_EQ(job.description.kind.form, "Etiquetas");
             EXPECT_TRUE(job.pageEnded && job.ended && job.closed);
         }
         EXPECT_EQ(env.spooler.opened, (Texts{env.spooler.printer, env.spooler.printer}));

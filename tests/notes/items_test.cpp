@@ -43,6 +43,25 @@ TEST(Items, AFormWithoutBlankLinesHasOnlyItsFixedLineEnds) {
     EXPECT_EQ(streamOf(steps, withKinds({"P"})), " C1   \r\n \r\n ABAIXO\r\n");
 }
 
+std::optional<int> itemLinesTold(std::span<const Step> steps, NoteDraft note) {
+    XmlDocument document;
+    EXPECT_TRUE(document.loadXML(note.xml()));
+    return itemLinesOf(Form{.steps = steps}, document);
+}
+
+TEST(Items, TheNoteTellsHowManyLinesItsFormHas) {
+    constexpr Step filled[] = {Items{.line = row(1, left(CD_PRO, 2, 5))}};
+    constexpr Step asLong[] = {Items{.line = row(1, left(CD_PRO, 2, 5)), .fillsForm = false}};
+    NoteDraft note = withKinds({"P", "S", "P"});
+    note.form["QT_MAX_IT"] = "13";
+    EXPECT_EQ(itemLinesTold(filled, note), 13);
+    EXPECT_EQ(itemLinesTold(asLong, note), 2) << "services print elsewhere";
+    note.form["QT_MAX_IT"] = "muitas";
+    EXPECT_EQ(itemLinesTold(filled, note), std::nullopt);
+    EXPECT_EQ(itemLinesOf(Form{.steps = filled}, XmlDocument()), std::nullopt);
+    EXPECT_EQ(itemLinesTold({}, note), std::nullopt);
+}
+
 TEST(Items, AFormWithoutFixedLineEndsHasNoSecondCall) {
     constexpr Step steps[] = {
         Items{.line = row(1, left(CD_PRO, 2, 5)), .productsOnly = false, .constant = -1},

@@ -81,6 +81,71 @@ TEST_F(DirectorySpoolerTest, NumberingGoesOnBehindTheHighestPresent) {
     EXPECT_EQ(bytesOf("job-007.prn"), "old");
 }
 
+JobKind noteKind() {
+    return {.document = JobDocument::Note, .form = "ImprimeNF_1361", .itemLines = 13};
+}
+
+TEST_F(DirectorySpoolerTest, WhatAJobPrintsIsToldBesideIt) {
+    DirectorySpooler spooler(directory_);
+    ASSERT_TRUE(spooler.openPrinter("x"));
+    ASSERT_TRUE(spooler.startDocument(
+        {.docName = {}, .outputFile = {}, .dataType = {}, .kind = noteKind()}));
+    EXPECT_EQ(bytesOf("job-001.kind"), "documento nota\nformulario ImprimeNF_1361\nitens 13\n");
+    EXPECT_EQ(bytesOf("job-001.prn"), "");
+    EXPECT_EQ(jobKindBeside(directory_ / "job-001.prn"), noteKind());
+    EXPECT_TRUE(print(spooler, "B"));
+    EXPECT_FALSE(fs::exists(directory_ / "job-002.kind"));
+    EXPECT_FALSE(jobKindBeside(directory_ / "job-002.prn").told());
+}
+
+// A number of which a kind is there is some other program's, also before its job is.
+TEST_F(DirectorySpoolerTest, AKindKeepsItsNumberForItsJob) {
+    fs::create_directories(directory_);
+    std::ofstream(directory_ / "job-004.kind") << "documento cheque\n";
+    JobFiles files(directory_);
+    const JobCompanion companion{.extension = "kind", .text = writeJobKind(noteKind())};
+    EXPECT_EQ(files.create("prn", companion), directory_ / "job-005.prn");
+    std::ofstream(directory_ / "job-006.kind") << "documento cheque\n";
+    EXPECT_EQ(files.create("prn", companion), directory_ / "job-007.prn");
+    std::ofstream(directory_ / "job-008.prn") << "another's";
+    EXPECT_EQ(files.create("prn", companion), directory_ / "job-009.prn");
+    EXPECT_FALSE(fs::exists(directory_ / "job-008.kind"));
+    EXPECT_EQ(bytesOf("job-004.kind"), "documento cheque\n");
+    EXPECT_EQ(bytesOf("job-006.kind"), "documento cheque\n");
+}
+
+TEST_F(DirectorySpoolerTest, WhoTellsNoKindsLeavesNoneOfAnEarlierJob) {
+    fs::create_directories(directory_);
+    std::ofstream(directory_ / "job-001.kind") << "documento cheque\n";
+    DirectorySpooler spooler(std::make_shared<JobFiles>(directory_, JobNumbering::FromOne),
+                             TellsKinds::No);
+    ASSERT_TRUE(spooler.openPrinter("x"));
+    ASSERT_TRUE(spooler.startDocument(
+        {.docName = {}, .outputFile = {}, .dataType = {}, .kind = noteKind()}));
+    EXPECT_FALSE(fs::exists(directory_ / "job-001.kind"));
+}
+
+TEST(JobKindText, ReadsWhatItWrites) {
+    for (const JobDocument document :
+         {JobDocument::Note, JobDocument::OrderSheet, JobDocument::Slip, JobDocument::Cheque,
+          JobDocument::Labels}) {
+        const JobKind kind{.document = document, .form = "Um formulario", .itemLines = {}};
+        EXPECT_EQ(readJobKind(writeJobKind(kind)), kind);
+    }
+    EXPECT_EQ(writeJobKind({}), "");
+}
+
+TEST(JobKindText, WhatIsNotKnownTellsNothing) {
+    EXPECT_EQ(readJobKind("documento nota\r\nitens 5\r\n"),
+              (JobKind{.document = JobDocument::Note, .form = {}, .itemLines = 5}));
+    EXPECT_EQ(readJobKind("documento nota\nitens -1\ncor azul\n").itemLines, std::nullopt);
+    EXPECT_EQ(readJobKind("documento nota\nitens 9x").itemLines, std::nullopt);
+    EXPECT_EQ(readJobKind("formulario ImprimeNF_7\n"), JobKind{});
+    EXPECT_EQ(readJobKind("documento romance\nformulario x\n"), JobKind{});
+    EXPECT_EQ(readJobKind(""), JobKind{});
+    EXPECT_EQ(readJobKind("\n\n \n"), JobKind{});
+}
+
 TEST_F(DirectorySpoolerTest, NumbersBeyondReasonAreNotContinued) {
     fs::create_directories(directory_);
     std::ofstream(directory_ / "job-2147483647.prn") << "old";

@@ -55,6 +55,9 @@ protected:
         for (const auto& job : seams.spooler.jobs) {
             output.push_back(job.bytes());
             EXPECT_TRUE(job.closed);
+            EXPECT_EQ(job.description.kind.document, JobDocument::Note);
+            EXPECT_EQ(job.description.kind.form, layout.formName(establishment));
+            EXPECT_TRUE(job.description.kind.itemLines.has_value());
         }
         EXPECT_EQ(output, expected);
         EXPECT_EQ(seams.boxes.shown, Boxes{});

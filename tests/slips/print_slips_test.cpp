@@ -110,6 +110,20 @@ TEST_F(PrintSlipsTest, Wallet57WritesTwiceAndPrints) {
     EXPECT_EQ(seams.boxes.shown, Boxes{});
 }
 
+TEST_F(PrintSlipsTest, EachJobTellsItsBanksForm) {
+    documents = {document("1"), ofBank("2", "1084"), ofBank("3", "2033")};
+    run(isWallet57, "1234");
+    run(wallet101, "0000001");
+    std::vector<std::string> forms;
+    for (const RecordingSpooler::Job& job : seams.spooler.jobs) {
+        EXPECT_EQ(job.description.kind.document, JobDocument::Slip);
+        forms.push_back(job.description.kind.form);
+    }
+    EXPECT_THAT(forms, ElementsAre("Boleto_1016_57", "Boleto_1016_57", "Boleto_1084_57",
+                                   "Boleto_1084_57", "", "", "Boleto_1016", "Boleto_1016",
+                                   "Boleto_1084", "Boleto_1084", "", ""));
+}
+
 TEST_F(PrintSlipsTest, AnyOtherWalletWritesOnceAndPrints) {
     run(wallet101, "1234567");
     EXPECT_EQ(seams.loader.queries(),

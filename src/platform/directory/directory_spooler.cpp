@@ -1,5 +1,7 @@
 #include "platform/directory/directory_spooler.h"
 
+#include <system_error>
+
 namespace tarn {
 
 std::string DirectorySpooler::defaultPrinter() {
@@ -12,11 +14,25 @@ bool DirectorySpooler::openPrinter(const std::string& /*name*/) {
     return open_;
 }
 
-bool DirectorySpooler::startDocument(const JobDescription& /*job*/) {
+// A text that can't be written leaves the job without one: the paper matters more.
+std::optional<std::filesystem::path> DirectorySpooler::makeJob(const JobKind& kind) {
+    constexpr std::string_view job = "prn";
+    if (kinds_ == TellsKinds::Yes && kind.told()) {
+        return files_->create(job, {.extension = "kind", .text = writeJobKind(kind)});
+    }
+    const auto file = files_->create(job);
+    if (file) {
+        std::error_code failed;
+        std::filesystem::remove(jobKindFile(*file), failed);  // of a job whose place it takes
+    }
+    return file;
+}
+
+bool DirectorySpooler::startDocument(const JobDescription& job) {
     if (!open_ || job_) {
         return false;
     }
-    const auto file = files_->create("prn");
+    const auto file = makeJob(job.kind);
     if (!file) {
         return false;
     }

@@ -1,19 +1,26 @@
 // A directory in the printer's place: each raw job becomes a file with the exact
-// bytes, there from the first write on. A job never ended stays as it is.
+// bytes, there from the first write on. A job never ended stays as it is. What a job prints
+// is told in a file beside it, whole before the job's own is there.
 #pragma once
 
 #include <cstdio>
+#include <filesystem>
 #include <memory>
+#include <optional>
 
 #include "platform/directory/job_files.h"
 #include "platform/spooler.h"
 
 namespace tarn {
 
+// Whether what the jobs print is told beside them.
+enum class TellsKinds { No, Yes };
+
 class DirectorySpooler : public Spooler {
 public:
     // `files` may be shared with what draws pages into the same directory.
-    explicit DirectorySpooler(std::shared_ptr<JobFiles> files) : files_(std::move(files)) {}
+    explicit DirectorySpooler(std::shared_ptr<JobFiles> files, TellsKinds kinds = TellsKinds::Yes)
+        : files_(std::move(files)), kinds_(kinds) {}
     explicit DirectorySpooler(std::filesystem::path directory,
                               JobNumbering numbering = JobNumbering::AfterHighest)
         : DirectorySpooler(std::make_shared<JobFiles>(std::move(directory), numbering)) {}
@@ -32,7 +39,10 @@ private:
         void operator()(std::FILE* file) const { std::fclose(file); }
     };
 
+    std::optional<std::filesystem::path> makeJob(const JobKind& kind);
+
     std::shared_ptr<JobFiles> files_;
+    TellsKinds kinds_;
     bool open_ = false;
     std::unique_ptr<std::FILE, CloseFile> job_;  // null between jobs
 };

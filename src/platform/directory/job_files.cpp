@@ -49,9 +49,24 @@ std::string nameOf(int number, std::string_view extension) {
 }
 
 // "x" refuses a file that is there already: another program may print here too.
+std::FILE* openNew(const fs::path& file, bool replace) {
+    errno = 0;
+    return std::fopen(file.string().c_str(), replace ? "wb" : "wbx");
+}
+
 bool makeEmpty(const fs::path& file, bool replace) {
-    std::FILE* made = std::fopen(file.string().c_str(), replace ? "wb" : "wbx");
+    std::FILE* made = openNew(file, replace);
     return made != nullptr && std::fclose(made) == 0;
+}
+
+void forget(const fs::path& file) {
+    std::error_code failed;
+    fs::remove(file, failed);
+}
+
+bool writeWhole(std::FILE* file, const std::string& text) {
+    const bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size();
+    return std::fclose(file) == 0 && written;
 }
 
 }  // namespace
@@ -69,29 +84,56 @@ bool JobFiles::canWrite() const {
     }
     const fs::path probe = directory_ / ".gravacao";
     const bool made = makeEmpty(probe, true);
-    std::error_code failed;
-    fs::remove(probe, failed);
+    forget(probe);
     return made;
 }
 
-std::optional<fs::path> JobFiles::create(std::string_view extension) {
+// The companion goes first, so that whoever finds the job finds it told; a job that another
+// program has made of that number meanwhile keeps none of it.
+JobFiles::Made JobFiles::make(int number, std::string_view extension, const JobCompanion& companion,
+                              fs::path& file) const {
+    const bool replace = numbering_ == JobNumbering::FromOne;
+    std::optional<fs::path> beside;
+    if (!companion.extension.empty()) {
+        beside = directory_ / nameOf(number, companion.extension);
+        std::FILE* made = openNew(*beside, replace);
+        if (made == nullptr && errno == EEXIST) {
+            return Made::Taken;
+        }
+        if (made == nullptr) {
+            beside.reset();
+        } else if (!writeWhole(made, companion.text)) {
+            forget(*beside);
+        }
+    }
+    file = directory_ / nameOf(number, extension);
+    if (makeEmpty(file, replace)) {
+        return Made::Yes;
+    }
+    const bool taken = errno == EEXIST;
+    if (beside) {
+        forget(*beside);
+    }
+    return taken ? Made::Taken : Made::No;
+}
+
+std::optional<fs::path> JobFiles::create(std::string_view extension,
+                                         const JobCompanion& companion) {
     if (!makeDirectory()) {
         return std::nullopt;
     }
     const bool replace = numbering_ == JobNumbering::FromOne;
     int number = replace ? last_ : std::max(last_, highestIn(directory_));
-    do {
-        if (++number > highestNumber) {
-            break;
-        }
-        fs::path file = directory_ / nameOf(number, extension);
-        errno = 0;
-        if (makeEmpty(file, replace)) {
-            last_ = number;
-            return file;
-        }
-    } while (errno == EEXIST);
-    return std::nullopt;
+    fs::path file;
+    Made made = Made::Taken;
+    while (made == Made::Taken && ++number <= highestNumber) {
+        made = make(number, extension, companion, file);
+    }
+    if (made != Made::Yes) {
+        return std::nullopt;
+    }
+    last_ = number;
+    return file;
 }
 
 }  // namespace tarn

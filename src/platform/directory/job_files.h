@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace tarn {
@@ -11,6 +12,12 @@ namespace tarn {
 // Where the numbering begins: behind the highest number present, so that nothing is
 // lost, or at 1, taking the place of files of the same name.
 enum class JobNumbering { AfterHighest, FromOne };
+
+// A file that goes with a job's, of the same number: there and whole before it.
+struct JobCompanion {
+    std::string_view extension{};  // empty: none
+    std::string text{};
+};
 
 class JobFiles {
 public:
@@ -27,10 +34,16 @@ public:
     bool canWrite() const;
 
     // The next job's file, now there and empty, `extension` without a point. Nothing
-    // when it can't be made; the number is then not spent.
-    std::optional<std::filesystem::path> create(std::string_view extension);
+    // when it can't be made; the number is then not spent. A companion that can't be written
+    // is left out.
+    std::optional<std::filesystem::path> create(std::string_view extension,
+                                                const JobCompanion& companion = {});
 
 private:
+    enum class Made { Yes, Taken, No };
+    Made make(int number, std::string_view extension, const JobCompanion& companion,
+              std::filesystem::path& file) const;
+
     std::filesystem::path directory_;
     JobNumbering numbering_;
     int last_ = 0;
