@@ -5,11 +5,13 @@
 #include <array>
 #include <charconv>
 #include <cstdio>
+#include <iterator>
 #include <limits>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
+#include "cli/description.h"
 #include "runtime/version.h"
 
 namespace tarn::cli {
@@ -19,6 +21,8 @@ constexpr char optionGroup[] = "Opções";
 constexpr char commandGroup[] = "Comandos";
 constexpr char codePageOption[] = "--pagina-de-codigo";
 constexpr std::array codePages{1252, 850, 860};
+// For the build alone, so no help names it.
+constexpr std::string_view descriptionOption = "--descreve-opcoes";
 constexpr std::size_t helpColumn = 32;
 
 std::string joined(const std::vector<std::string>& words, const std::string& last) {
@@ -89,6 +93,7 @@ struct Command::State {
     // What reads each option's values when the whole line is there.
     std::vector<std::pair<const CLI::Option*, std::function<void(const CLI::results_t&)>>> readers;
     std::vector<std::string> commands;
+    KnownWords words;
 };
 
 void refuseValue(const std::string& option, const std::string& wanted, const std::string& text) {
@@ -114,11 +119,19 @@ Command::Command(std::shared_ptr<State> state, CLI::App& app)
     : state_(std::move(state)), app_(&app) {}
 
 Option Command::value(const std::string& name, const std::string& about, Reader read) {
+    return valueAmong({}, name, about, std::move(read));
+}
+
+Option Command::valueAmong(const std::vector<std::string>& words, const std::string& name,
+                           const std::string& about, Reader read) {
     CLI::Option* option = app_->add_option(
         name, [](const CLI::results_t&) { return true; }, about);
     state_->readers.emplace_back(
         option, [read = std::move(read)](const CLI::results_t& texts) { read(texts.front()); });
     option->type_name("TEXTO");
+    if (!words.empty()) {
+        state_->words.emplace(option, words);
+    }
     return Option(*option);
 }
 
@@ -170,7 +183,7 @@ Option Command::whole(const std::string& name, std::optional<std::int32_t>& into
 Option Command::oneOf(const std::string& name, std::string& into,
                       const std::vector<std::string>& words, const std::string& about) {
     const std::string usual = into.empty() ? "" : " [" + into + "]";
-    return value(name, about + usual, [name, &into, words](const std::string& text) {
+    return valueAmong(words, name, about + usual, [name, &into, words](const std::string& text) {
         if (std::ranges::find(words, text) == words.end()) {
             refuseValue(name, joined(words, " ou "), text);
         }
@@ -183,16 +196,20 @@ Option Command::flag(const std::string& name, bool& into, const std::string& abo
 }
 
 Option Command::codePage(CodePage& into) {
-    return value(codePageOption, "página de códigos da impressora: 1252 (usual), 850 ou 860",
-                 [&into](const std::string& text) {
-                     for (const int known : codePages) {
-                         if (text == std::to_string(known)) {
-                             into = *codePageByNumber(known);
-                             return;
-                         }
-                     }
-                     refuseValue(codePageOption, "1252, 850 ou 860", text);
-                 })
+    std::vector<std::string> words;
+    std::ranges::transform(codePages, std::back_inserter(words),
+                           [](int number) { return std::to_string(number); });
+    return valueAmong(words, codePageOption,
+                      "página de códigos da impressora: 1252 (usual), 850 ou 860",
+                      [&into](const std::string& text) {
+                          for (const int known : codePages) {
+                              if (text == std::to_string(known)) {
+                                  into = *codePageByNumber(known);
+                                  return;
+                              }
+                          }
+                          refuseValue(codePageOption, "1252, 850 ou 860", text);
+                      })
         .called("N");
 }
 
@@ -280,6 +297,9 @@ std::string CommandLine::unknown() const {
 }
 
 std::optional<Ending> CommandLine::read(int argc, const char* const* argv) {
+    if (argc == 2 && argv[1] == descriptionOption) {
+        return Ending{statusDone, described(*app_, state_->words)};
+    }
     try {
         parse(argc, argv);
     } catch (const CLI::CallForHelp&) {

@@ -85,6 +85,11 @@ public:
 protected:
     std::shared_ptr<State> state_;
     CLI::App* app_;
+
+private:
+    // `words` are told to who completes the line; empty: any text may do.
+    Option valueAmong(const std::vector<std::string>& words, const std::string& name,
+                      const std::string& about, Reader read);
 };
 
 class CommandLine : public Command {

@@ -200,5 +200,34 @@ TEST(CommandLine, ACommandHasItsOwnHelp) {
     EXPECT_THAT(Commands({"--ajuda"}).ending->text, HasSubstr("Comandos:"));
 }
 
+TEST(CommandLine, DescribesItselfForManualPagesAndCompletions) {
+    std::string form = "pdf";
+    std::vector<std::string> files;
+    cli::CommandLine line("prog", "Faz o que faz.");
+    line.oneOf("--formato", form, {"pdf", "ops"}, "um formato");
+    cli::Command note = line.command("nota", "imprime a nota");
+    note.texts("arquivos", files, "os arquivos").called("ARQUIVO").required();
+    line.footer("Fim.\nMesmo.");
+    const auto ending = read(line, {"--descreve-opcoes"});
+    ASSERT_TRUE(ending);
+    EXPECT_EQ(ending->status, 0);
+    EXPECT_EQ(ending->text,
+              "program\tprog\tFaz o que faz.\n"
+              "option\t\t-h,--ajuda,--help\t\t\t\tmostra esta ajuda e termina\n"
+              "option\t\t--versao,--version\t\t\t\tmostra a versão e termina\n"
+              "option\t\t--formato\tTEXTO\tpdf,ops\t\tum formato [pdf]\n"
+              "command\tnota\timprime a nota\n"
+              "option\tnota\t-h,--ajuda,--help\t\t\t\tmostra esta ajuda e termina\n"
+              "value\tnota\tarquivos\tARQUIVO\t\trequired,repeated\tos arquivos\n"
+              "footer\tFim.\n"
+              "footer\tMesmo.\n");
+}
+
+TEST(CommandLine, NamesTheDescriptionInNoHelpAndTakesItOnlyByItself) {
+    EXPECT_THAT(Plain({"--ajuda"}).ending->text, Not(HasSubstr("--descreve")));
+    EXPECT_EQ(refusalOf({"--codigo", "1", "--descreve-opcoes"}),
+              "opção ou argumento desconhecido: --descreve-opcoes.");
+}
+
 }  // namespace
 }  // namespace tarn::test
