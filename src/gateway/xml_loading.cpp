@@ -5,6 +5,7 @@
 
 #include "gateway/answer_limits.h"
 #include "gateway/silent_xml.h"
+#include "gateway/windows_1252.h"
 #include "gateway/xml_tree.h"
 
 namespace tarn {
@@ -194,6 +195,7 @@ private:
 
 std::unique_ptr<XmlTree> parseXml(std::string_view bytes) {
     const SilentXml silent;
+    teachWindows1252();
     if (hasCrowdedElement(bytes)) {
         return nullptr;
     }
