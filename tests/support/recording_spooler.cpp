@@ -1,7 +1,5 @@
 #include "tests/support/recording_spooler.h"
 
-#include <algorithm>
-
 namespace tarn::test {
 
 RecordingSpooler::RecordingSpooler() = default;
@@ -74,7 +72,10 @@ bool RecordingSpooler::closePrinter() {
 }
 
 bool RecordingSpooler::refusing(Call call) {
-    const auto before = static_cast<std::size_t>(std::ranges::count(calls, call));
+    if (calls.empty()) {
+        made_ = {};  // a test has begun to record anew
+    }
+    const std::size_t before = made_.at(static_cast<std::size_t>(call))++;
     calls.push_back(call);
     return refuses && refuses(call, before);
 }

@@ -2,6 +2,7 @@
 // each job, and fails where it is told to.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <functional>
 #include <limits>
@@ -67,6 +68,7 @@ public:
 private:
     bool refusing(Call call);
 
+    std::array<std::size_t, 7> made_{};  // calls of each kind
     bool open_ = false;
     bool started_ = false;
 };
