@@ -25,6 +25,14 @@ struct JobDescription {
 inline constexpr std::string_view spoolerIsSilent =
     "o serviço de impressão desta máquina não responde";
 
+// What a queue tells of a job that was on its way to it when something broke off.
+enum class JobFate {
+    Arrived,
+    NeverArrived,  // nothing of it prints, now or later
+    Doubtful,      // it was cancelled on its way, or the queue knows of it no more
+    Unknown        // the queue doesn't answer
+};
+
 class Spooler {
 public:
     virtual ~Spooler() = default;
@@ -38,6 +46,13 @@ public:
     virtual bool endPage() = 0;
     virtual bool endDocument() = 0;
     virtual bool closePrinter() = 0;
+
+    // The number that the printer's queue gave the document under way, 0 where it gives
+    // none. Nothing of a document prints before endDocument.
+    virtual int documentNumber() const { return 0; }
+    // Of a document by that number of the open printer. One that never arrived is taken out
+    // of the queue.
+    virtual JobFate fateOf(int /*documentNumber*/) { return JobFate::Doubtful; }
 
     // Whether the system's print service answered when it was last asked for something.
     virtual bool answers() const { return true; }

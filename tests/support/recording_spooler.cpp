@@ -80,4 +80,16 @@ bool RecordingSpooler::refusing(Call call) {
     return refuses && refuses(call, before);
 }
 
+int RecordingSpooler::documentNumber() const {
+    return numbersJobs && started_ ? static_cast<int>(jobs.size()) : 0;
+}
+
+JobFate RecordingSpooler::fateOf(int documentNumber) {
+    if (fate) {
+        return fate(documentNumber);
+    }
+    const auto index = static_cast<std::size_t>(documentNumber) - 1;
+    return index < jobs.size() && jobs[index].ended ? JobFate::Arrived : JobFate::NeverArrived;
+}
+
 }  // namespace tarn::test

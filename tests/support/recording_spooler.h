@@ -40,6 +40,8 @@ public:
     std::string printer = "Impressora de teste";
     std::size_t failOpen = never;   // index of the openPrinter that fails, from 0
     std::size_t failWrite = never;  // index of the write that fails, from 0, over all jobs
+    bool numbersJobs = true;
+    std::function<JobFate(int)> fate;  // of a document by its number; unset: as recorded
     bool silent = false;            // answers nothing, like a service that hangs
     // Further failures, if set: the call and its index among those of its kind, from 0.
     std::function<bool(Call, std::size_t)> refuses;
@@ -64,6 +66,8 @@ public:
     bool endPage() override;
     bool endDocument() override;
     bool closePrinter() override;
+    int documentNumber() const override;
+    JobFate fateOf(int documentNumber) override;
 
 private:
     bool refusing(Call call);

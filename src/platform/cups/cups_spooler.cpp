@@ -51,22 +51,58 @@ bool isOk(ipp_status_t status) {
     return status >= IPP_STATUS_OK && status <= IPP_STATUS_OK_CONFLICTING;
 }
 
-// Asked for in so many words: libcups' own search goes on over other connections, which wait
-// for minutes.
-bool hasQueue(http_t* http, const std::string& queue) {
+struct DeleteIpp {
+    void operator()(ipp_t* message) const { ippDelete(message); }
+};
+using Message = std::unique_ptr<ipp_t, DeleteIpp>;
+
+ipp_t* requestOf(ipp_op_t operation, const std::string& queue) {
     std::array<char, HTTP_MAX_URI> uri{};
     httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), uri.size(), "ipp", nullptr, "localhost", 0,
                      "/printers/%s", queue.c_str());
-    ipp_t* request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+    ipp_t* request = ippNewRequest(operation);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
+    return request;
+}
+
+void addUser(ipp_t* request) {
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                  cupsUser());
+}
+
+int numberIn(ipp_t* answer, const char* name) {
+    ipp_attribute_t* attribute = ippFindAttribute(answer, name, IPP_TAG_ZERO);
+    return attribute == nullptr ? 0 : ippGetInteger(attribute, 0);
+}
+
+// Asked for in so many words: libcups' own search goes on over other connections, which wait
+// for minutes.
+bool hasQueue(http_t* http, const std::string& queue) {
+    ipp_t* request = requestOf(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    addUser(request);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                  "printer-name");
-    ipp_t* answer = cupsDoRequest(http, request, "/");
-    const bool found = answer != nullptr && isOk(ippGetStatusCode(answer));
-    ippDelete(answer);
-    return found;
+    const Message answer(cupsDoRequest(http, request, "/"));
+    return answer && isOk(ippGetStatusCode(answer.get()));
+}
+
+// A job gets its kilobytes together with its document; before that the server holds it, and
+// ends it by itself if no document follows.
+JobFate fateIn(ipp_t* answer) {
+    const bool hasDocument = numberIn(answer, "job-k-octets") > 0;
+    switch (static_cast<ipp_jstate_t>(numberIn(answer, "job-state"))) {
+        case IPP_JSTATE_HELD:
+            return hasDocument ? JobFate::Arrived : JobFate::NeverArrived;
+        case IPP_JSTATE_PENDING:
+        case IPP_JSTATE_PROCESSING:
+        case IPP_JSTATE_STOPPED:
+        case IPP_JSTATE_COMPLETED:
+            return JobFate::Arrived;
+        case IPP_JSTATE_CANCELED:
+        case IPP_JSTATE_ABORTED:
+            return hasDocument ? JobFate::Doubtful : JobFate::NeverArrived;
+    }
+    return JobFate::Doubtful;
 }
 
 const char* textOrNull(const std::optional<std::string>& text) {
@@ -191,6 +227,40 @@ bool CupsSpooler::endDocument() {
     }
     handle_->job = 0;
     return true;
+}
+
+int CupsSpooler::documentNumber() const {
+    return handle_ ? handle_->job : 0;
+}
+
+// Over a connection of its own: the printer's may be lost with what broke off.
+JobFate CupsSpooler::fateOf(int documentNumber) {
+    const Connection connection = handle_ ? connectToServer(answers_) : nullptr;
+    if (!connection) {
+        return JobFate::Unknown;
+    }
+    ipp_t* request = requestOf(IPP_OP_GET_JOB_ATTRIBUTES, handle_->queue);
+    ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", documentNumber);
+    addUser(request);
+    const std::array<const char*, 2> wanted{"job-state", "job-k-octets"};
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    const Message answer(cupsDoRequest(connection.get(), request, "/"));
+    if (!answer || !answers_) {
+        return JobFate::Unknown;
+    }
+    if (ippGetStatusCode(answer.get()) == IPP_STATUS_ERROR_NOT_FOUND) {
+        return JobFate::Doubtful;
+    }
+    if (!isOk(ippGetStatusCode(answer.get()))) {
+        return JobFate::Unknown;
+    }
+    const JobFate fate = fateIn(answer.get());
+    if (fate == JobFate::NeverArrived) {
+        constexpr int keepInHistory = 0;
+        cupsCancelJob2(connection.get(), handle_->queue.c_str(), documentNumber, keepInHistory);
+    }
+    return fate;
 }
 
 bool CupsSpooler::closePrinter() {

@@ -26,6 +26,8 @@ public:
     bool endPage() override;
     bool endDocument() override;
     bool closePrinter() override;
+    int documentNumber() const override;
+    JobFate fateOf(int documentNumber) override;
     bool answers() const override { return answers_; }
 
 private:

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <vector>
 
 namespace tarn {
 
@@ -60,7 +61,8 @@ bool WinspoolSpooler::startDocument(const JobDescription& job) {
     record.pOutputFile = textOrNull(texts.outputFile);
     record.pDatatype = textOrNull(texts.dataType);
     constexpr DWORD level = 1;
-    started_ = StartDocPrinterA(printer_, level, reinterpret_cast<LPBYTE>(&record)) != 0;
+    document_ = StartDocPrinterA(printer_, level, reinterpret_cast<LPBYTE>(&record));
+    started_ = document_ != 0;
     return started_;
 }
 
@@ -89,6 +91,7 @@ bool WinspoolSpooler::endDocument() {
         return false;
     }
     started_ = false;
+    document_ = 0;
     return EndDocPrinter(printer_) != 0;
 }
 
@@ -109,6 +112,25 @@ void WinspoolSpooler::dropHandle() {
     ClosePrinter(printer_);
     printer_ = nullptr;
     started_ = false;
+    document_ = 0;
+}
+
+// A document that is printed leaves the queue, as one that was aborted does.
+JobFate WinspoolSpooler::fateOf(int documentNumber) {
+    const auto number = static_cast<DWORD>(documentNumber);
+    constexpr DWORD level = 1;
+    DWORD size = 0;
+    GetJobA(printer_, number, level, nullptr, 0, &size);
+    std::vector<BYTE> room(size);
+    if (size == 0 || GetJobA(printer_, number, level, room.data(), size, &size) == 0) {
+        return JobFate::Doubtful;
+    }
+    const auto* job = reinterpret_cast<const JOB_INFO_1A*>(room.data());
+    if ((job->Status & JOB_STATUS_SPOOLING) == 0) {
+        return JobFate::Arrived;
+    }
+    SetJobA(printer_, number, 0, nullptr, JOB_CONTROL_DELETE);
+    return JobFate::NeverArrived;
 }
 
 }  // namespace tarn

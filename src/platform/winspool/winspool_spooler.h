@@ -22,12 +22,15 @@ public:
     bool endPage() override;
     bool endDocument() override;
     bool closePrinter() override;
+    int documentNumber() const override { return static_cast<int>(document_); }
+    JobFate fateOf(int documentNumber) override;
 
 private:
     void dropHandle();
 
-    void* printer_ = nullptr;  // a HANDLE
-    bool started_ = false;     // a document is under way
+    void* printer_ = nullptr;     // a HANDLE
+    bool started_ = false;        // a document is under way
+    unsigned long document_ = 0;  // its number
 };
 
 }  // namespace tarn
