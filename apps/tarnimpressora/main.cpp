@@ -71,7 +71,8 @@ int run(int argc, char** argv) {
     if (!options.writtenForm.empty()) {
         return showForm(options);
     }
-    if (!options.writes() && !tarn::printer::hasDisplay()) {
+    const bool withWindow = !options.writes() && !options.noWindow;
+    if (withWindow && !tarn::printer::hasDisplay()) {
         complain(
             QStringLiteral("não há tela para a janela; diga o que gravar: --pdf ARQUIVO, "
                            "--png ARQUIVO ou --texto ARQUIVO."));
@@ -87,8 +88,8 @@ int run(int argc, char** argv) {
     looks.rulerCell = tarn::dotmatrix::PrintMode{.elite = options.dialect.elite,
                                                  .condensed = options.dialect.condensed}
                           .cellWidth();
-    return options.writes() ? runWithoutWindow(argc, argv, options, looks)
-                            : runWithWindow(argc, argv, options, looks);
+    return withWindow ? runWithWindow(argc, argv, options, looks)
+                      : runWithoutWindow(argc, argv, options, looks);
 }
 
 }  // namespace

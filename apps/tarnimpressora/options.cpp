@@ -20,6 +20,8 @@ constexpr std::int32_t mostLines = 132;
 constexpr std::int32_t mostItems = 100;
 constexpr std::int32_t highestPort = 65535;
 constexpr std::int32_t mostJobs = 1'000'000;
+constexpr std::int32_t mostMegabytes = 1024;
+constexpr std::int32_t mostSeconds = 7 * 24 * 60 * 60;
 
 // What the options say, before the printer's panel is set by them.
 struct Panel {
@@ -30,6 +32,7 @@ struct Panel {
     std::string carriage = "136";
     std::optional<std::int32_t> port;
     std::optional<std::int32_t> endAfter;
+    std::optional<std::int32_t> rollMegabytes;
 };
 
 // Digits with a comma or a point.
@@ -64,7 +67,7 @@ void declarePanel(cli::CommandLine& line, Options& options, Panel& panel) {
     line.oneOf("--agulhas", panel.needles, {"9", "24"}, "cabeça de 9 ou 24 agulhas").called("N");
 }
 
-void declarePaper(cli::CommandLine& line, Options& options) {
+void declarePaper(cli::CommandLine& line, Options& options, Panel& panel) {
     line.text("--pdf", options.pdf, "grava o papel em PDF, uma página por formulário")
         .called("ARQUIVO");
     line.text("--png", options.png,
@@ -82,6 +85,9 @@ void declarePaper(cli::CommandLine& line, Options& options) {
               "mostra um formulário escrito em texto, para servir de começo a outro");
     line.flag("--regua", options.ruler, "desenha os números das linhas e das colunas");
     line.flag("--faixas", options.bands, "desenha as faixas claras do papel zebrado");
+    line.whole("--rolo", panel.rollMegabytes, 1, mostMegabytes,
+               "tamanho do rolo em MiB de trabalhos (usual 128): o que vem depois vai para "
+               "ARQUIVO-rolo2, ARQUIVO-rolo3...");
     line.text("--titulo", options.title, "nome escrito na margem de cada formulário");
 }
 
@@ -97,6 +103,39 @@ void declareJobs(cli::CommandLine& line, Options& options, Panel& panel) {
                "termina depois de tantos trabalhos recebidos");
     line.texts("trabalhos", options.jobs,
                "trabalhos crus (.prn), impressos um após o outro no mesmo papel");
+}
+
+void declareHolding(cli::CommandLine& line, Options& options) {
+    line.text("--repassa", options.queue,
+              "retém os trabalhos que chegam e, liberados, os manda a esta fila da máquina, "
+              "byte por byte")
+        .called("FILA");
+    line.whole("--repassa-apos", options.releaseAfter, 0, mostSeconds,
+               "libera sozinha cada trabalho depois de tantos segundos (usual: só quando se manda)")
+        .called("SEGUNDOS");
+    line.text("--retidos", options.held,
+              "pasta em que ficam os trabalhos retidos (usual: uma da conta do usuário)")
+        .called("PASTA");
+    line.flag("--sem-janela", options.noWindow,
+              "não abre janela: recebe e repassa em segundo plano (com --repassa-apos)");
+}
+
+std::optional<std::string> wrongHolding(const Options& options) {
+    if (!options.holds()) {
+        return options.releaseAfter || !options.held.empty() || options.noWindow
+                   ? std::optional(
+                         "--repassa-apos, --retidos e --sem-janela pedem também "
+                         "--repassa FILA.")
+                   : std::nullopt;
+    }
+    if (!options.waits()) {
+        return "--repassa pede também --porta N ou --pasta DIR.";
+    }
+    if ((options.noWindow || options.writes()) && !options.releaseAfter) {
+        return "sem a janela ninguém libera os trabalhos: --repassa pede também "
+               "--repassa-apos SEGUNDOS.";
+    }
+    return std::nullopt;
 }
 
 void setPanel(const Panel& panel, Options& options) {
@@ -117,6 +156,9 @@ void setPanel(const Panel& panel, Options& options) {
     if (panel.port) {
         options.port = static_cast<std::uint16_t>(*panel.port);
     }
+    if (panel.rollMegabytes) {
+        options.rollBytes = std::int64_t{*panel.rollMegabytes} * 1024 * 1024;
+    }
     options.endAfter = static_cast<std::size_t>(panel.endAfter.value_or(0));
 }
 
@@ -128,8 +170,9 @@ std::variant<Options, cli::Ending> readCommandLine(int argc, const char* const* 
     cli::CommandLine line(
         "tarnimpressora",
         "Impressora matricial virtual: mostra no papel o que um trabalho cru imprime.");
-    declarePaper(line, options);
+    declarePaper(line, options, panel);
     declareJobs(line, options, panel);
+    declareHolding(line, options);
     declarePanel(line, options, panel);
     if (auto ending = line.read(argc, argv)) {
         return *ending;
@@ -138,6 +181,9 @@ std::variant<Options, cli::Ending> readCommandLine(int argc, const char* const* 
         return line.wrong("dê --linhas-por-formulario ou --altura, não as duas.");
     }
     setPanel(panel, options);
+    if (const auto wrong = wrongHolding(options)) {
+        return line.wrong(*wrong);
+    }
     if (options.endAfter > 0 && !options.waits()) {
         return line.wrong("--quantos pede também --porta N ou --pasta DIR.");
     }

@@ -34,7 +34,17 @@ struct Options {
     std::string folder;        // whose jobs are printed, empty for none
     std::size_t endAfter = 0;  // jobs; 0: never
 
+    std::string queue;                         // jobs are held for it, empty for none
+    std::optional<std::int32_t> releaseAfter;  // seconds; nothing: when the user says so
+    std::string held;                          // folder of the held jobs, empty for the usual
+    bool noWindow = false;
+
+    // Of jobs on one paper, when files are written; what comes behind them goes into other
+    // files.
+    std::int64_t rollBytes = std::int64_t{128} * 1024 * 1024;
+
     bool writes() const { return !pdf.empty() || !png.empty() || !text.empty(); }
+    bool holds() const { return !queue.empty(); }
     bool waits() const { return port.has_value() || !folder.empty(); }
 };
 

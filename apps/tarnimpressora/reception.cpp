@@ -6,13 +6,13 @@
 
 namespace tarn::printer {
 
-QString Reception::open(const Options& options) {
+QString Reception::open(const Options& options, bool patient) {
     if (options.port) {
         if (QString wrong = listen(options); !wrong.isEmpty()) {
             return wrong;
         }
     }
-    return options.folder.empty() ? QString() : watch(options);
+    return options.folder.empty() ? QString() : watch(options, patient);
 }
 
 QString Reception::listen(const Options& options) {
@@ -37,15 +37,18 @@ QString Reception::listen(const Options& options) {
     return {};
 }
 
-QString Reception::watch(const Options& options) {
+QString Reception::watch(const Options& options, bool patient) {
     const QString folder = QFile::decodeName(options.folder.c_str());
-    if (!QDir(folder).exists()) {
-        return QStringLiteral("não há pasta \"%1\". Confira o nome e a permissão de leitura.")
+    const bool there = QDir().mkpath(folder);
+    if (!there && !patient) {
+        return QStringLiteral(
+                   "não há pasta \"%1\", nem foi possível fazê-la. Confira o nome e a permissão.")
             .arg(folder);
     }
     folder_ = std::make_unique<dotmatrix::FolderWatch>(intake_, folder);
-    places_ += places_.isEmpty() ? QStringLiteral("Imprimindo da pasta %1").arg(folder)
-                                 : QStringLiteral(" e da pasta %1").arg(folder);
+    const QString place = there ? QStringLiteral("da pasta %1").arg(folder)
+                                : QStringLiteral("da pasta %1, que ainda não existe").arg(folder);
+    places_ += (places_.isEmpty() ? QStringLiteral("Imprimindo ") : QStringLiteral(" e ")) + place;
     return {};
 }
 

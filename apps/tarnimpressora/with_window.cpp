@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "apps/tarnimpressora/files.h"
+#include "apps/tarnimpressora/holding.h"
 #include "apps/tarnimpressora/reception.h"
 #include "printer/printer_window.h"
 #include "widgets/look.h"
@@ -28,13 +29,22 @@ int runWithWindow(int argc, char** argv, const Options& options,
         return 1;
     }
     dotmatrix::JobIntake intake(roll);
-    dotmatrix::PrinterWindow window(roll, intake, looks, options.itemLines);
+    dotmatrix::HoldDesk desk(systemQueues());
+    dotmatrix::PrinterWindow window(roll, intake, desk, looks, options.itemLines);
+    QString wrong = options.holds() ? startHolding(options, desk, intake) : QString();
+    window.onHold([&](const QString& queue) {
+        Options chosen = options;
+        chosen.queue = queue.toStdString();
+        return startHolding(chosen, desk, intake);
+    });
     Reception reception(intake);
     Options waiting = options;
     if (!waiting.waits() && waiting.jobs.empty()) {
         waiting.port = dotmatrix::rawPort;
     }
-    const QString wrong = reception.open(waiting);
+    if (wrong.isEmpty()) {
+        wrong = reception.open(waiting, true);
+    }
     if (!wrong.isEmpty()) {
         complain(wrong);
     }

@@ -5,8 +5,11 @@
 #include <QTimer>
 #include <chrono>
 #include <cstdio>
+#include <filesystem>
+#include <optional>
 
 #include "apps/tarnimpressora/files.h"
+#include "apps/tarnimpressora/holding.h"
 #include "apps/tarnimpressora/reception.h"
 
 namespace tarn::printer {
@@ -19,13 +22,27 @@ constexpr milliseconds untilQuiet(100);
 constexpr milliseconds longestQuietAwaited(300);
 constexpr int shareOfWriting = 5;  // a fifth of the time at the most
 
+std::string nameOfRoll(const std::string& file, int roll) {
+    if (file.empty()) {
+        return file;
+    }
+    std::filesystem::path path(file);
+    const std::string ending = path.extension().string();
+    return path.replace_extension().string() + "-rolo" + std::to_string(roll) + ending;
+}
+
 // Writes the files when jobs have ended and no other follows at once. The whole paper is
 // written each time, so a long paper is written less often: jobs go before it.
 class PaperWriting : public QObject {
 public:
     PaperWriting(const Options& options, const dotmatrix::PaintOptions& looks,
                  dotmatrix::PaperRoll& roll, dotmatrix::JobIntake& intake, std::size_t notices)
-        : options_(options), looks_(looks), roll_(roll), intake_(intake), notices_(notices) {
+        : options_(options),
+          file_(options),
+          looks_(looks),
+          roll_(roll),
+          intake_(intake),
+          notices_(notices) {
         quiet_.setSingleShot(true);
         connect(&quiet_, &QTimer::timeout, this, &PaperWriting::writeWhenQuiet);
         connect(&intake_, &dotmatrix::JobIntake::jobEnded, this, &PaperWriting::note);
@@ -68,17 +85,31 @@ private:
         notices_ = showNotices(roll_.notices(), notices_);
         QElapsedTimer writing;
         writing.start();
-        const bool written = writeFiles(options_, looks_, roll_);
+        const bool written = writeFiles(file_, looks_, roll_);
         lastTook_ = milliseconds(writing.elapsed());
         sinceWritten_.start();
         if (!written) {
             QCoreApplication::exit(1);
         } else if (enough()) {
             QCoreApplication::quit();
+        } else if (roll_.length() > options_.rollBytes && !intake_.busy()) {
+            nextRoll();
+        }
+    }
+
+    // The files so far are complete; what comes goes into files of their own.
+    void nextRoll() {
+        roll_.tearOff(false);
+        notices_ = roll_.notices().total();
+        ++rollNumber_;
+        for (std::string Options::*name : {&Options::pdf, &Options::png, &Options::text}) {
+            file_.*name = nameOfRoll(options_.*name, rollNumber_);
         }
     }
 
     const Options& options_;
+    Options file_;  // that is written now
+    int rollNumber_ = 1;
     const dotmatrix::PaintOptions& looks_;
     dotmatrix::PaperRoll& roll_;
     dotmatrix::JobIntake& intake_;
@@ -90,15 +121,46 @@ private:
     milliseconds lastTook_{0};
 };
 
+// Nobody sees the paper: it goes as it comes.
+void letPaperGo(dotmatrix::PaperRoll& roll, dotmatrix::JobIntake& intake) {
+    QObject::connect(&intake, &dotmatrix::JobIntake::jobEnded, &intake,
+                     [&](const QString& name, const QString& remark) {
+                         if (!remark.isEmpty()) {
+                             complain(name + QStringLiteral(": ") + remark);
+                         }
+                         roll.tearOff(false);
+                     });
+}
+
+// Nobody is there to be asked: a job of which the queue can't tell stays, and the others go on.
+void passOnAlone(dotmatrix::HoldDesk& desk) {
+    QObject::connect(&desk, &dotmatrix::HoldDesk::troubled, &desk,
+                     [](int, const QString& text) { complain(text); });
+    QObject::connect(&desk, &dotmatrix::HoldDesk::doubted, &desk,
+                     [&desk](int number) { desk.refuse(number); });
+}
+
 int wait(const Options& options, const dotmatrix::PaintOptions& looks, dotmatrix::PaperRoll& roll,
          std::size_t notices) {
     dotmatrix::JobIntake intake(roll);
+    dotmatrix::HoldDesk desk(systemQueues());
+    QString wrong;
+    if (options.holds()) {
+        passOnAlone(desk);
+        wrong = startHolding(options, desk, intake);
+    }
     Reception reception(intake);
-    if (const QString wrong = reception.open(options); !wrong.isEmpty()) {
+    wrong = wrong.isEmpty() ? reception.open(options, false) : wrong;
+    if (!wrong.isEmpty()) {
         complain(wrong);
         return 1;
     }
-    const PaperWriting writing(options, looks, roll, intake, notices);
+    std::optional<PaperWriting> writing;
+    if (options.writes()) {
+        writing.emplace(options, looks, roll, intake, notices);
+    } else {
+        letPaperGo(roll, intake);
+    }
     std::puts(reception.places().toUtf8().constData());
     std::fflush(stdout);
     return QGuiApplication::exec();

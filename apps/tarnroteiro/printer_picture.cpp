@@ -57,7 +57,8 @@ bool pictureOfPrinter(const std::string& folder) {
     look.bands = true;
     dotmatrix::lay(std::get<dotmatrix::LoadedForm>(form), look);
     dotmatrix::JobIntake input(roll);
-    dotmatrix::PrinterWindow window(roll, input, look);
+    dotmatrix::HoldDesk held({});
+    dotmatrix::PrinterWindow window(roll, input, held, look);
     window.setWaitingText(QStringLiteral("Imprimindo da pasta %1").arg(sheets.path()));
     window.resize(width, height);
     window.show();

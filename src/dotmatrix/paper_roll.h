@@ -44,6 +44,8 @@ public:
     PaperUnits headY() const { return paper_->y(); }
     const std::vector<RollJob>& jobs() const { return jobs_; }
     const NoticeLog& notices() const { return printer_->notices(); }
+    // Bytes of jobs that the paper is kept by.
+    qint64 length() const { return length_; }
     // Changes when the paper does, also on the form that was there before.
     std::size_t version() const { return version_; }
 

@@ -28,7 +28,9 @@ QStringList jobsIn(const QDir& folder) {
 
 FolderWatch::FolderWatch(JobIntake& intake, const QString& folder)
     : intake_(intake), folder_(folder) {
-    watcher_.addPath(folder);
+    if (folder_.exists()) {
+        watcher_.addPath(folder);
+    }
     connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, &FolderWatch::look);
     connect(&timer_, &QTimer::timeout, this, &FolderWatch::look);
     connect(&soon_, &QTimer::timeout, this, &FolderWatch::look);
@@ -41,14 +43,35 @@ FolderWatch::FolderWatch(JobIntake& intake, const QString& folder)
 bool FolderWatch::hasNews(const QString& name) const {
     const QFileInfo file(folder_, name);
     const Seen seen = seen_.value(name);
-    return file.size() != seen.taken || (seen.done && file.lastModified() != seen.written);
+    return isSettled(name) &&
+           (file.size() != seen.taken || (seen.done && file.lastModified() != seen.written));
+}
+
+bool FolderWatch::isSettled(const QString& name) const {
+    return intake_.keeper() == nullptr ||
+           QFileInfo(folder_, name).lastModified().msecsTo(QDateTime::currentDateTime()) >=
+               settling_.count();
+}
+
+QString FolderWatch::sourceOf(const QString& name) const {
+    const QFileInfo file(folder_, name);
+    return QStringLiteral("%1 %2 %3")
+        .arg(file.size())
+        .arg(file.lastModified().toMSecsSinceEpoch())
+        .arg(file.absoluteFilePath());
 }
 
 void FolderWatch::look() {
+    if (watcher_.directories().isEmpty() && folder_.exists()) {
+        watcher_.addPath(folder_.path());
+    }
     const QStringList names = jobsIn(folder_);
     if (!open_.isEmpty()) {
         if (hasNews(open_)) {
             return takePiece(QString(open_));
+        }
+        if (!isSettled(open_)) {
+            return;
         }
         const bool others = std::any_of(names.begin(), names.end(),
                                         [this](const QString& name) { return hasNews(name); });
@@ -68,13 +91,18 @@ void FolderWatch::takePiece(const QString& name) {
     const QFileInfo file(folder_, name);
     Seen& seen = seen_[name];
     if (seen.done || file.size() < seen.taken) {
-        if (open_ == name) {
-            rest(true);
+        if (open_ == name) {  // what was read of it is no longer in the file
+            intake_.end();
+            open_.clear();
         }
         seen = Seen{};
     }
     if (open_ != name) {
-        if (file.size() == 0 || !intake_.begin(name)) {
+        if (intake_.keeper() != nullptr && intake_.keeper()->knows(sourceOf(name))) {
+            QFile::remove(file.filePath());  // kept just before the program ended
+            return;
+        }
+        if (file.size() == 0 || !intake_.begin(name, JobIntake::Kind::Printed)) {
             return;
         }
         open_ = name;
@@ -94,8 +122,7 @@ void FolderWatch::readOn(const QString& name, Seen& seen) {
     seen.taken += piece.size();
     if (piece.isEmpty() || !intake_.take(piece)) {
         if (piece.isEmpty()) {
-            intake_.end(
-                QStringLiteral("não foi possível ler o arquivo (%1).").arg(file.errorString()));
+            endOpen(QStringLiteral("não foi possível ler o arquivo (%1).").arg(file.errorString()));
         }
         open_.clear();
         seen.taken = file.size();
@@ -111,8 +138,19 @@ void FolderWatch::rest(bool atOnce) {
     }
     quiet_ = 0;
     seen_[open_].done = true;
+    endOpen({});
     open_.clear();
-    intake_.end();
+}
+
+void FolderWatch::endOpen(const QString& remark) {
+    if (intake_.keeper() == nullptr || !remark.isEmpty()) {
+        intake_.end(remark);
+        return;
+    }
+    const QString file = folder_.filePath(open_);
+    if (intake_.end({}, sourceOf(open_)) && QFile::remove(file)) {
+        seen_.remove(open_);
+    }
 }
 
 }  // namespace tarn::dotmatrix

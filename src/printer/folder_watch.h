@@ -1,6 +1,7 @@
 // Jobs from a directory: each *.prn file is one, in the order of the numbers in their
 // names. A file that still grows is printed as it grows, and a file that is written anew
-// is a new job.
+// is a new job. Where the intake keeps jobs, a file is one when it has stopped growing, and
+// goes out of the folder when the job is kept.
 #pragma once
 
 #include <QDateTime>
@@ -8,6 +9,7 @@
 #include <QFileSystemWatcher>
 #include <QMap>
 #include <QTimer>
+#include <chrono>
 
 #include "printer/job_intake.h"
 
@@ -18,11 +20,13 @@ class FolderWatch : public QObject {
 
 public:
     // `intake` must outlive this. Begins with the files that are there already, once the
-    // event loop turns.
+    // event loop turns; a folder that isn't there yet is waited for.
     FolderWatch(JobIntake& intake, const QString& folder);
 
     // Looks now; a timer does so anyway several times a second.
     void look();
+    // How long a file that is to be kept must not have grown.
+    void setSettling(std::chrono::milliseconds settling) { settling_ = settling; }
 
 private:
     struct Seen {
@@ -31,6 +35,9 @@ private:
         bool done = false;  // a later change is a new job
     };
     bool hasNews(const QString& name) const;
+    bool isSettled(const QString& name) const;
+    QString sourceOf(const QString& name) const;
+    void endOpen(const QString& remark);
     void takePiece(const QString& name);
     void readOn(const QString& name, Seen& seen);
     void rest(bool atOnce);
@@ -43,6 +50,7 @@ private:
     QMap<QString, Seen> seen_;
     QString open_;   // the file whose job is being taken; empty for none
     int quiet_ = 0;  // looks since it last grew
+    std::chrono::milliseconds settling_{1000};
 };
 
 }  // namespace tarn::dotmatrix

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "dotmatrix/paper_roll.h"
+#include "printer/job_keeper.h"
 
 namespace tarn::dotmatrix {
 
@@ -16,17 +17,25 @@ class JobIntake : public QObject {
 public:
     static constexpr qint64 maxJobBytes = 64LL * 1024 * 1024;
 
+    // Jobs from elsewhere are for the printer; what the user opens is only looked at.
+    enum class Kind { Printed, LookedAt };
+
     // `roll` must outlive this.
     explicit JobIntake(PaperRoll& roll, qint64 mostJobBytes = maxJobBytes);
 
+    // Jobs to be printed are kept there too; null for nowhere. It must outlive this.
+    void keepIn(JobKeeper* keeper) { keeper_ = keeper; }
+    JobKeeper* keeper() const { return keeper_; }
+
     bool busy() const { return busy_; }
     // False while another job is being taken; `idle` tells when to ask again.
-    bool begin(const QString& name);
+    bool begin(const QString& name, Kind kind = Kind::LookedAt);
     // Prints the bytes at once. False when the job is over its size or the disk is full:
     // it is ended then, with a remark, and takes no more.
     bool take(const QByteArray& bytes);
-    // `remark` (Portuguese) says what went wrong with the job, empty for nothing.
-    void end(const QString& remark = {});
+    // `remark` (Portuguese) says what went wrong with the job, empty for nothing; `source`
+    // as in Arrival. False when the job should have been kept and could not be.
+    bool end(const QString& remark = {}, const QString& source = {});
 
     std::size_t ended() const { return ended_; }
 
@@ -36,9 +45,15 @@ signals:
     void idle();
 
 private:
+    bool give(const QString& remark, const QString& source);
+    void finish(const QString& remark);
+
     PaperRoll& roll_;
+    JobKeeper* keeper_ = nullptr;
     qint64 mostJobBytes_;
     bool busy_ = false;
+    bool keeping_ = false;  // the job under way
+    bool lost_ = false;     // it could not be kept
     QString name_;
     qint64 taken_ = 0;
     std::size_t ended_ = 0;

@@ -5,7 +5,22 @@
 #include <QTime>
 #include <algorithm>
 
+#include "printer/sender_end.h"
+
 namespace tarn::dotmatrix {
+
+// A connection, which its sender sees open until the job is taken.
+class JobServer::Sender : public QTcpSocket {
+public:
+    Sender(qintptr handle, QObject* parent) : QTcpSocket(parent), end_(handle) {
+        setSocketDescriptor(handle);
+    }
+    void refuse() { end_.refuse(); }
+    void letGo() { end_.close(); }
+
+private:
+    SenderEnd end_;
+};
 
 namespace {
 
@@ -39,7 +54,7 @@ JobServer::JobServer(JobIntake& intake) : intake_(intake) {
 
 JobServer::~JobServer() {
     close();
-    for (QTcpSocket* socket : waiting_) {
+    for (Sender* socket : waiting_) {
         socket->disconnect(this);
     }
     if (current_ != nullptr) {
@@ -48,10 +63,10 @@ JobServer::~JobServer() {
 }
 
 void JobServer::incomingConnection(qintptr handle) {
-    auto* socket = new QTcpSocket(this);
+    auto* socket = new Sender(handle, this);
     // What is more waits in the sender.
     socket->setReadBufferSize(readAtOnce);
-    if (!socket->setSocketDescriptor(handle) || !makeRoom()) {
+    if (socket->socketDescriptor() == -1 || !makeRoom()) {
         delete socket;
         return;
     }
@@ -86,7 +101,7 @@ bool JobServer::makeRoom() {
 
 // Whenever a connection that waits sends something or goes.
 void JobServer::startNext() {
-    std::erase_if(waiting_, [this](QTcpSocket* socket) {
+    std::erase_if(waiting_, [this](Sender* socket) {
         if (isGone(socket)) {
             socket->disconnect(this);
             socket->deleteLater();
@@ -113,7 +128,7 @@ void JobServer::readSome() {
     }
     if (current_->bytesAvailable() > 0) {
         if (!begun_) {
-            if (!intake_.begin(nameOf(*current_))) {
+            if (!intake_.begin(nameOf(*current_), JobIntake::Kind::Printed)) {
                 return;  // a job from elsewhere; its end calls this again
             }
             begun_ = true;
@@ -121,6 +136,7 @@ void JobServer::readSome() {
         patience_.start();
         if (!intake_.take(current_->read(readAtOnce))) {
             begun_ = false;  // the intake has ended it
+            current_->refuse();
             return finish({});
         }
         if (current_->bytesAvailable() > 0) {
@@ -137,17 +153,21 @@ void JobServer::readSome() {
     }
 }
 
+// The intake ends the job first: it is on the disk when the sender sees its connection close.
 void JobServer::finish(const QString& remark) {
     patience_.stop();
-    QTcpSocket* socket = current_;
+    Sender* sender = current_;
     current_ = nullptr;
-    socket->disconnect(this);
-    socket->abort();
-    socket->deleteLater();
+    sender->disconnect(this);
+    sender->abort();
     if (begun_) {
         begun_ = false;
-        intake_.end(remark);
+        if (!intake_.end(remark)) {
+            sender->refuse();
+        }
     }
+    sender->letGo();
+    sender->deleteLater();
     startNext();
 }
 

@@ -1,6 +1,6 @@
 // A raw network printer: each connection is a job. Connections wait for each other, and
 // what they send waits in the sender meanwhile. One that has sent nothing is no job yet and
-// keeps none waiting.
+// keeps none waiting. A connection is closed when its job is taken, and reset when it isn't.
 #pragma once
 
 #include <QTcpServer>
@@ -9,8 +9,6 @@
 #include <deque>
 
 #include "printer/job_intake.h"
-
-class QTcpSocket;
 
 namespace tarn::dotmatrix {
 
@@ -37,7 +35,8 @@ protected:
     void incomingConnection(qintptr handle) override;
 
 private:
-    using Waiting = std::deque<QTcpSocket*>;
+    class Sender;
+    using Waiting = std::deque<Sender*>;
 
     Waiting::iterator nextJob();
     bool makeRoom();
@@ -46,9 +45,9 @@ private:
     void finish(const QString& remark);
 
     JobIntake& intake_;
-    Waiting waiting_;                // in the order of arrival
-    QTcpSocket* current_ = nullptr;  // has sent something
-    bool begun_ = false;             // the intake has taken of it
+    Waiting waiting_;            // in the order of arrival
+    Sender* current_ = nullptr;  // has sent something
+    bool begun_ = false;         // the intake has taken of it
     QTimer patience_;
 };
 

@@ -1,5 +1,6 @@
 #include "printer/printer_menus.h"
 
+#include "printer/hold_view.h"
 #include "printer/paper_files.h"
 #include "printer/paper_search_bar.h"
 #include "printer/paper_view.h"
@@ -14,12 +15,13 @@ constexpr double zoomStep = 1.25;
 }  // namespace
 
 PrinterMenus::PrinterMenus(QMainWindow& window, PaperView& view, PaperSearchBar& search,
-                           PaperFiles& files, const PaintOptions& looks)
+                           PaperFiles& files, HoldView& holding, const PaintOptions& looks)
     : QObject(&window), window_(window), view_(view), search_(search), files_(files) {
     WindowCommands commands(window);
     makeFileMenu(commands);
     makeEditMenu(commands);
     makePaperMenu(commands);
+    holding.addMenu(commands);
     makeViewMenu(commands, looks);
 }
 

@@ -7,6 +7,7 @@
 
 namespace tarn::dotmatrix {
 
+class HoldView;
 class PaperFiles;
 class PaperSearchBar;
 class PaperView;
@@ -18,7 +19,7 @@ class PrinterMenus : public QObject {
 public:
     // All but `looks`, what is ticked at first, must outlive this.
     PrinterMenus(QMainWindow& window, PaperView& view, PaperSearchBar& search, PaperFiles& files,
-                 const PaintOptions& looks);
+                 HoldView& holding, const PaintOptions& looks);
 
 signals:
     void openWanted();

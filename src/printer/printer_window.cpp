@@ -30,14 +30,14 @@ PaperUnits rulerCellOf(const Dialect& dialect) {
 
 }  // namespace
 
-PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, const PaintOptions& options,
-                             std::optional<int> itemLines)
+PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, HoldDesk& desk,
+                             const PaintOptions& options, std::optional<int> itemLines)
     : roll_(roll), intake_(intake), options_(options), itemLines_(itemLines) {
     setObjectName(QStringLiteral("PrinterWindow"));
     setWindowTitle(QStringLiteral("Impressora matricial virtual"));
     resize(1100, 780);
     questions_ = askTheUser(this);
-    makeParts();
+    makeParts(desk);
     makeLog();
     makeMenus();
     addToolBar(Qt::BottomToolBarArea, search_);
@@ -62,7 +62,7 @@ PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, const PaintOpti
     paperChanged();
 }
 
-void PrinterWindow::makeParts() {
+void PrinterWindow::makeParts(HoldDesk& desk) {
     view_ = new PaperView(roll_, this);
     view_->setObjectName(QStringLiteral("paper"));
     view_->setAccessibleName(QStringLiteral("Papel impresso"));
@@ -70,6 +70,10 @@ void PrinterWindow::makeParts() {
     search_ = new PaperSearchBar(roll_, *view_, this);
     files_ = new PaperFiles(roll_, options_, questions_, *this);
     jobFiles_ = new JobFiles(intake_, this);
+    holding_ = new HoldView(*this, desk, roll_, *view_, questions_);
+    connect(holding_, &HoldView::complained, this, &PrinterWindow::complain);
+    connect(holding_, &HoldView::told, this, &PrinterWindow::log);
+    connect(holding_, &HoldView::changed, this, &PrinterWindow::showCounts);
     connect(files_, &PaperFiles::failed, this, &PrinterWindow::complain);
     connect(jobFiles_, &JobFiles::failed, this, &PrinterWindow::complain);
 }
@@ -88,7 +92,7 @@ void PrinterWindow::makeLog() {
 }
 
 void PrinterWindow::makeMenus() {
-    auto* menus = new PrinterMenus(*this, *view_, *search_, *files_, options_);
+    auto* menus = new PrinterMenus(*this, *view_, *search_, *files_, *holding_, options_);
     connect(menus, &PrinterMenus::openWanted, this, &PrinterWindow::openJobs);
     connect(menus, &PrinterMenus::copyWanted, this, &PrinterWindow::copyText);
     connect(menus, &PrinterMenus::selectWanted, this, &PrinterWindow::selectForm);
@@ -197,6 +201,7 @@ void PrinterWindow::nextJob() {
 
 void PrinterWindow::tearOff() {
     search_->forget();
+    holding_->paperGone();
     roll_.tearOff(intake_.busy());
     noticesLogged_ = roll_.notices().total();
     view_->select(std::nullopt);
@@ -243,7 +248,9 @@ void PrinterWindow::paperChanged() {
 }
 
 void PrinterWindow::showCounts() {
-    countText_->setText(QStringLiteral("%1 trabalho(s), %2 formulário(s)  ·  %3%")
+    const QString held = holding_->count();
+    countText_->setText((held.isEmpty() ? QString() : held + QStringLiteral("  ·  ")) +
+                        QStringLiteral("%1 trabalho(s), %2 formulário(s)  ·  %3%")
                             .arg(roll_.jobs().size())
                             .arg(roll_.printedForms())
                             .arg(qRound(view_->zoom() * 100)));

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <optional>
 
+#include "printer/hold_view.h"
 #include "printer/job_intake.h"
 #include "printer/paper_view.h"
 #include "printer/window_questions.h"
@@ -24,10 +25,13 @@ class PrinterWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    // `roll` and `intake` must outlive this. `options` are the looks of the paper;
+    // `roll`, `intake` and `desk` must outlive this. `options` are the looks of the paper;
     // `itemLines` as for loadForm.
-    PrinterWindow(PaperRoll& roll, JobIntake& intake, const PaintOptions& options,
+    PrinterWindow(PaperRoll& roll, JobIntake& intake, HoldDesk& desk, const PaintOptions& options,
                   std::optional<int> itemLines = std::nullopt);
+
+    // What "Repassar para..." does with the queue that was chosen.
+    void onHold(HoldView::StartHolding start) { holding_->onStart(std::move(start)); }
 
     void setQuestions(WindowQuestions questions) { questions_ = std::move(questions); }
     // Shown at the left of the status bar: where jobs are waited for.
@@ -37,7 +41,7 @@ public:
     QWidget* errorBox() const;
 
 private:
-    void makeParts();
+    void makeParts(HoldDesk& desk);
     void makeLog();
     void makeMenus();
     void makeFormMenu();
@@ -70,6 +74,7 @@ private:
     PaperSearchBar* search_;
     PaperFiles* files_;
     JobFiles* jobFiles_;
+    HoldView* holding_;
     FormMenu* forms_;
     QDockWidget* logDock_;
     QPlainTextEdit* logText_;

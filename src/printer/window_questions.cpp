@@ -1,9 +1,30 @@
 #include "printer/window_questions.h"
 
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QPrintDialog>
+#include <QPrinterInfo>
 
 namespace tarn::dotmatrix {
+
+namespace {
+
+// A queue that was made since the window opened may be typed.
+QString askForQueue(QWidget* window) {
+    QInputDialog dialog(window);
+    dialog.setObjectName(QStringLiteral("queueQuestion"));
+    dialog.setWindowTitle(QStringLiteral("Repassar para"));
+    dialog.setLabelText(
+        QStringLiteral("Os trabalhos que chegarem ficam retidos aqui até você liberar.\n"
+                       "Fila da impressora de verdade:"));
+    dialog.setComboBoxItems(QPrinterInfo::availablePrinterNames());
+    dialog.setComboBoxEditable(true);
+    dialog.setOkButtonText(QStringLiteral("Repassar"));
+    dialog.setCancelButtonText(QStringLiteral("Cancelar"));
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue().trimmed() : QString();
+}
+
+}  // namespace
 
 WindowQuestions askTheUser(QWidget* window) {
     return {[window](const QString& title, const QString& suggested, const QString& kinds) {
@@ -14,7 +35,8 @@ WindowQuestions askTheUser(QWidget* window) {
             },
             [window](QPrinter& printer) {
                 return QPrintDialog(&printer, window).exec() == QDialog::Accepted;
-            }};
+            },
+            [window] { return askForQueue(window); }};
 }
 
 }  // namespace tarn::dotmatrix

@@ -16,6 +16,8 @@ struct WindowQuestions {
         saveAs;
     std::function<QStringList(const QString& title, const QString& kinds)> open;
     std::function<bool(QPrinter& printer)> print;
+    // The name of a queue of the machine.
+    std::function<QString()> queue;
 };
 
 // The file and print dialogs of Qt over `window`, which must outlive the result.

@@ -102,7 +102,10 @@ TEST_F(CommandLine, WrongUsageSaysWhatToGive) {
          "--itens pede um número inteiro de 0 a 100: \"-1\" não serve."},
         {{"--porta", "0", "--escutar", "aqui", "--texto", path("n.txt")},
          "--escutar pede um endereço IP"},
-        {{"--pasta", path("nada"), "--texto", path("n.txt")}, "não há pasta \""},
+        {{"--pasta", job + "/nada", "--texto", path("n.txt")}, "não há pasta \""},
+        {{"--repassa", "LX", "--texto", path("n.txt"), job}, "--repassa pede também --porta N"},
+        {{"--repassa", "LX", "--porta", "0", "--sem-janela"}, "pede também --repassa-apos"},
+        {{"--repassa-apos", "3", "--texto", path("n.txt"), job}, "pedem também --repassa FILA"},
         {{"--formulario", path("nada"), "--texto", path("n.txt"), job},
          "não há formulário nem arquivo \""},
         {{"--mostra-formulario", "ImprimeNF_9"}, "não há formulário \"ImprimeNF_9\"."}};

@@ -39,7 +39,8 @@ protected:
                                   asked_ << title;
                                   return open_;
                               },
-                              [this](QPrinter& printer) { return print_(printer); }});
+                              [this](QPrinter& printer) { return print_(printer); },
+                              [this] { return queue_; }});
         window_.show();
         window_.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
@@ -96,11 +97,13 @@ protected:
     QTemporaryDir folder_;
     PaperRoll roll_{Dialect{}};
     JobIntake intake_{roll_};
-    PrinterWindow window_{roll_, intake_, {}};
+    HoldDesk held_{{}};
+    PrinterWindow window_{roll_, intake_, held_, {}};
     PaperView& view_ = window_.view();
     QStringList asked_;
     QString saveAs_;
     QStringList open_;
+    QString queue_;
     std::function<bool(QPrinter&)> print_ = [](QPrinter&) { return false; };
 };
 

@@ -1,0 +1,122 @@
+#include "printer/hold_view.h"
+
+#include <QDockWidget>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "printer/held_panel.h"
+#include "printer/window_commands.h"
+
+namespace tarn::dotmatrix {
+
+HoldView::HoldView(QMainWindow& window, HoldDesk& desk, PaperRoll& roll, PaperView& view,
+                   const WindowQuestions& questions)
+    : QObject(&window),
+      window_(window),
+      desk_(desk),
+      roll_(roll),
+      view_(view),
+      questions_(questions) {
+    makeDock();
+    connect(&desk_, &HoldDesk::changed, this, &HoldView::changed);
+    connect(&desk_, &HoldDesk::kept, this, [this](int number) {
+        if (!roll_.jobs().empty()) {
+            places_[number] = roll_.jobs().size() - 1;
+        }
+        dock_->show();
+    });
+    connect(&desk_, &HoldDesk::troubled, this, [this](int number, const QString& text) {
+        panel_->choose(number);
+        emit told(text);
+    });
+    connect(&desk_, &HoldDesk::passedOn, this, [this](int number) {
+        emit told(
+            QStringLiteral("trabalho %1: repassado à fila %2.").arg(number).arg(desk_.queue()));
+    });
+}
+
+void HoldView::makeDock() {
+    panel_ = new HeldPanel(desk_, &window_);
+    dock_ = new QDockWidget(QStringLiteral("Trabalhos retidos"), &window_);
+    dock_->setObjectName(QStringLiteral("heldPanel"));
+    dock_->setWidget(panel_);
+    window_.addDockWidget(Qt::BottomDockWidgetArea, dock_);
+    dock_->hide();
+    connect(panel_, &HeldPanel::jobChosen, this, &HoldView::show);
+    connect(panel_, &HeldPanel::forgetWanted, this, &HoldView::askToForget);
+}
+
+void HoldView::addMenu(WindowCommands& commands) {
+    commands.menu("queueMenu", QStringLiteral("Fi&la"));
+    commands.add({.name = "passTo",
+                  .text = QStringLiteral("Repassar &para..."),
+                  .hint = QStringLiteral("Escolhe a fila de verdade: os trabalhos que chegam ficam "
+                                         "retidos até serem liberados para ela")},
+                 [this] { chooseQueue(); });
+    commands.separate();
+    commands.add({.name = "release",
+                  .text = QStringLiteral("&Repassar o trabalho"),
+                  .keys = QKeySequence(Qt::CTRL | Qt::Key_Return),
+                  .hint = QStringLiteral("Manda o trabalho escolhido à fila, como chegou"),
+                  .inTools = true},
+                 [this] { panel_->release(); });
+    commands.add({.name = "releaseAll",
+                  .text = QStringLiteral("Repassar &todos"),
+                  .hint = QStringLiteral("Manda à fila todos os trabalhos retidos, na ordem")},
+                 [this] { panel_->releaseAll(); });
+    commands.add({.name = "refuse",
+                  .text = QStringLiteral("Re&cusar o trabalho"),
+                  .hint = QStringLiteral("Guarda o trabalho escolhido sem mandar à fila")},
+                 [this] { panel_->refuse(); });
+    commands.separate();
+    commands.add({.name = "showHeld",
+                  .text = QStringLiteral("Trabalhos reti&dos"),
+                  .keys = QKeySequence(Qt::Key_F9),
+                  .hint = QStringLiteral("Mostra a lista dos trabalhos retidos")},
+                 [this] { dock_->setVisible(!dock_->isVisible()); });
+}
+
+void HoldView::chooseQueue() {
+    const QString queue = questions_.queue();
+    if (queue.isEmpty() || !start_) {
+        return;
+    }
+    const QString wrong = start_(queue);
+    wrong.isEmpty() ? dock_->show() : emit complained(wrong);
+}
+
+void HoldView::show(int number) {
+    const auto place = places_.find(number);
+    if (place != places_.end() && place->second < roll_.jobs().size()) {
+        view_.showTop(roll_.jobs()[place->second].y);
+    }
+}
+
+QString HoldView::count() const {
+    if (!desk_.isOpen()) {
+        return {};
+    }
+    return QStringLiteral("%1 retido(s)").arg(desk_.count(hold::State::Held));
+}
+
+void HoldView::askToForget(int number) {
+    auto* box = new QMessageBox(
+        QMessageBox::Question, window_.windowTitle(),
+        QStringLiteral("Apagar do disco o trabalho %1? Ele não poderá mais ser repassado.")
+            .arg(number),
+        QMessageBox::NoButton, &window_);
+    box->setObjectName(QStringLiteral("forgetQuestion"));
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    auto* yes = box->addButton(QStringLiteral("Apagar"), QMessageBox::AcceptRole);
+    yes->setObjectName(QStringLiteral("forgetYes"));
+    box->setDefaultButton(box->addButton(QStringLiteral("Manter"), QMessageBox::RejectRole));
+    connect(box, &QMessageBox::buttonClicked, this, [this, yes, number](QAbstractButton* button) {
+        if (button == yes) {
+            desk_.forget(number);
+        }
+    });
+    box->open();
+}
+
+}  // namespace tarn::dotmatrix

@@ -1,0 +1,74 @@
+// A printer that holds what comes in, and the queue it passes it on to.
+#pragma once
+
+#include <QTemporaryDir>
+#include <mutex>
+
+#include "printer/hold_desk.h"
+#include "tests/printer/intake.h"
+#include "tests/support/recording_spooler.h"
+
+namespace tarn::test {
+
+// The queue of all spoolers that were made for it.
+struct Queue {
+    std::mutex mutex;
+    std::vector<std::string> printed;
+    std::function<bool(RecordingSpooler::Call, std::size_t)> refuses;
+    std::function<JobFate(int)> fate;
+
+    std::vector<std::string> jobs() {
+        const std::lock_guard lock(mutex);
+        return printed;
+    }
+};
+
+class SpoolerOfQueue : public RecordingSpooler {
+public:
+    explicit SpoolerOfQueue(Queue& queue) : queue_(queue) {
+        const std::lock_guard lock(queue_.mutex);
+        refuses = queue_.refuses;
+        fate = queue_.fate;
+    }
+    bool endDocument() override {
+        const bool ended = RecordingSpooler::endDocument();
+        const std::lock_guard lock(queue_.mutex);
+        if (ended) {
+            queue_.printed.push_back(bytes());
+        }
+        return ended;
+    }
+
+private:
+    Queue& queue_;
+};
+
+class HeldIntake : public Intake {
+protected:
+    HeldIntake() { restart(); }
+
+    // As the next start of the program finds what is held.
+    void restart() {
+        intake_.keepIn(nullptr);
+        desk_.reset();
+        desk_ = std::make_unique<dotmatrix::HoldDesk>(
+            [this] { return std::make_unique<SpoolerOfQueue>(queue_); });
+        desk_->setPause(std::chrono::milliseconds(50));
+        EXPECT_EQ(desk_->open(held_.filePath("retidos")), QString());
+        intake_.keepIn(desk_.get());
+    }
+    bool job(const QByteArray& bytes, const QString& remark = {}) {
+        return intake_.begin("rede", dotmatrix::JobIntake::Kind::Printed) && intake_.take(bytes) &&
+               intake_.end(remark);
+    }
+    hold::State state(int number) { return desk_->entry(number)->job.state; }
+    bool waitFor(int number, hold::State wanted) {
+        return QTest::qWaitFor([&] { return state(number) == wanted; }, limit);
+    }
+
+    QTemporaryDir held_;
+    Queue queue_;
+    std::unique_ptr<dotmatrix::HoldDesk> desk_;
+};
+
+}  // namespace tarn::test
