@@ -18,7 +18,8 @@ public:
     // Gives the page for a query text, and throws where it can't.
     using Answer = std::function<Page(std::string_view rawQuery)>;
 
-    // A connection that hasn't sent its whole request after this time is closed.
+    // A connection that hasn't sent its whole request after this time is closed, be it the first
+    // one or the next.
     static constexpr std::chrono::seconds usualRequestTime{10};
 
     HttpFront(Answer answer, std::string contentType,

@@ -28,8 +28,25 @@ bool ready(socket_t socket, short events, int milliseconds) {
 RequestStream::RequestStream(socket_t socket, std::chrono::milliseconds requestTime,
                              time_t writeSeconds)
     : socket_(socket),
+      requestTime_(requestTime),
       end_(std::chrono::steady_clock::now() + requestTime),
       writeMilliseconds_(static_cast<int>(writeSeconds) * millisecond) {}
+
+// Bytes that came together with the request before count for this one.
+void RequestStream::beginNext() {
+    end_ = std::chrono::steady_clock::now() + requestTime_;
+    line_.clear();
+    part_ = Part::Line;
+    headBytes_ = 0;
+    bodyBytes_ = 0;
+    blankLine_ = false;
+    marked_ = false;
+    pending_.erase(0, next_);
+    next_ = 0;
+    for (char& byte : pending_) {
+        byte = taken(byte);
+    }
+}
 
 std::string RequestStream::target() const {
     const std::size_t first = line_.find(' ');
@@ -59,15 +76,15 @@ ssize_t RequestStream::read(char* bytes, size_t size) {
 }
 
 ssize_t RequestStream::write(const char* bytes, size_t size) {
-    size = std::min(size, bytesLeft_);
-    if (bytesLeft_ == 0 || !is_writable()) {
-        return -1;
+    const std::size_t most = std::min(size, bytesLeft_);
+    ssize_t sent = -1;
+    if (most > 0 && is_writable()) {
+        do {
+            sent = send(socket_, bytes, most, MSG_NOSIGNAL);
+        } while (sent < 0 && errno == EINTR);
     }
-    ssize_t sent = 0;
-    do {
-        sent = send(socket_, bytes, size, MSG_NOSIGNAL);
-    } while (sent < 0 && errno == EINTR);
     bytesLeft_ -= sent > 0 ? static_cast<std::size_t>(sent) : 0;
+    sentAll_ = sentAll_ && sent > 0;
     return sent;
 }
 

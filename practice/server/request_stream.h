@@ -23,9 +23,12 @@ public:
     static constexpr std::size_t mostHeadBytes = 256UL * 1024;  // the request line among them
     static constexpr std::size_t mostBodyBytes = 64UL * 1024;   // the page reads none
 
-    // Doesn't own the socket. The request has so long from now on; a write waits so many
-    // seconds at the most.
+    // Doesn't own the socket. A request has so long from the end of the one before it, the first
+    // one from now on; a write waits so many seconds at the most.
     RequestStream(socket_t socket, std::chrono::milliseconds requestTime, time_t writeSeconds);
+
+    // The next request of the connection: its bounds and its time begin anew.
+    void beginNext();
 
     // The target of the request line as it came; complete once the line is read.
     std::string target() const;
@@ -37,6 +40,8 @@ public:
         reset_ = true;
     }
     bool isToBeReset() const { return reset_; }
+    // Whether all that was to be sent has been: the library looks at few of its writes.
+    bool hasSentAll() const { return sentAll_; }
 
     bool is_readable() const override;
     bool is_writable() const override;
@@ -57,6 +62,7 @@ private:
     char takenFromLine(char byte);
 
     socket_t socket_;
+    std::chrono::milliseconds requestTime_;
     std::chrono::steady_clock::time_point end_;
     int writeMilliseconds_;
     std::string line_;  // the request line as it came
@@ -67,6 +73,7 @@ private:
     bool marked_ = false;
     std::size_t bytesLeft_ = std::numeric_limits<std::size_t>::max();
     bool reset_ = false;
+    bool sentAll_ = true;
     std::string pending_;  // taken from the socket, not yet read
     std::size_t next_ = 0;
 };

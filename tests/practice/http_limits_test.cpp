@@ -126,7 +126,7 @@ TEST(HttpLimits, ALongRequestWithinThemIsServed) {
     for (int line = 0; line < 20; ++line) {
         request += "X-" + std::to_string(line) + ": " + std::string(8000, 'y') + "\r\n";
     }
-    ASSERT_TRUE(connection.send(request + "\r\n"));
+    ASSERT_TRUE(connection.send(request + "Connection: close\r\n\r\n"));
     EXPECT_EQ(connection.answer().rfind("HTTP/1.1 200 OK\r\n", 0), 0U);
     EXPECT_EQ(seen.size(), 8002U);
 }
@@ -160,6 +160,46 @@ TEST(HttpLimits, SilentConnectionsKeepNobodyWaiting) {
     for (const auto& connection : silent) {
         EXPECT_FALSE(connection->hasNews(0)) << "closed before the others were served";
     }
+}
+
+std::string requestFor(const std::string& query) {
+    return "GET /Kestomain/TarnEmissao.asp?" + query + " HTTP/1.1\r\nHost: x\r\n";
+}
+
+TEST(HttpLimits, AConnectionCarriesManyRequestsAlsoSeveralAtOnce) {
+    std::vector<std::string> seen;
+    const Serving serving([&seen](std::string_view query) {
+        seen.emplace_back(query);
+        return std::string("<R/>");
+    });
+    const Connection connection(serving);
+    ASSERT_TRUE(connection.send(requestFor("A=1?") + "\r\n"));
+    ASSERT_TRUE(connection.hasNews(patience));
+    ASSERT_TRUE(connection.send(requestFor("A=2??") + "\r\n" + requestFor("A=3?=?") + "\r\n" +
+                                requestFor("A=4") + "Connection: close\r\n\r\n"));
+    connection.answer();
+    EXPECT_EQ(seen, (std::vector<std::string>{"A=1?", "A=2??", "A=3?=?", "A=4"}));
+}
+
+TEST(HttpLimits, ABodyThatNobodyReadsIsNoNextRequest) {
+    std::vector<std::string> seen;
+    const Serving serving([&seen](std::string_view query) {
+        seen.emplace_back(query);
+        return std::string("<R/>");
+    });
+    const Connection connection(serving);
+    const std::string hidden = requestFor("A=hidden") + "\r\n";
+    ASSERT_TRUE(connection.send(requestFor("A=1") + "Content-Length: " +
+                                std::to_string(hidden.size()) + "\r\n\r\n" + hidden));
+    connection.answer();
+    EXPECT_EQ(seen, std::vector<std::string>{"A=1"});
+}
+
+TEST(HttpLimits, AnUnusedConnectionIsClosedInTime) {
+    const Serving serving(page, milliseconds(300));
+    const Connection connection(serving);
+    ASSERT_TRUE(connection.send(requestFor("A=1") + "\r\n"));
+    EXPECT_EQ(connection.answer().rfind("HTTP/1.1 200 OK\r\n", 0), 0U);
 }
 
 TEST(HttpLimits, TheEndWaitsForNoSilentConnection) {
