@@ -36,6 +36,7 @@ endif()
 
 if(TARN_BUILD_TESTS)
   find_package(GTest REQUIRED)
+  find_package(OpenSSL REQUIRED)  # certificates of the tests' own; cpp-httplib brings it
   find_package(X11)
 endif()
 

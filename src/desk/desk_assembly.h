@@ -8,6 +8,7 @@
 #include "desk/desk_options.h"
 #include "desk/desk_seams.h"
 #include "desk/mdi_menu.h"
+#include "gateway/command_effects.h"
 #include "platform/curl/curl_loader.h"
 #include "platform/printer.h"
 #include "platform/qt/blocking_loader.h"
@@ -54,7 +55,7 @@ public:
 private:
     DeskApplication& program_;
     bool labelSelection_;
-    CurlLoader network_;
+    CurlLoader network_{{}, commands::onlyReads};
     BlockingLoader http_{network_};
     Printers printers_;
     QtMessageBoxes boxesOnScreen_;

@@ -29,7 +29,8 @@ protected:
     std::string host() const { return "http://127.0.0.1:" + std::to_string(server_.port()); }
 
     LoopbackServer server_;
-    CurlLoader loader_;
+    CurlLoader loader_{
+        {}, [](const std::string& address) { return address.find("WRITE") == std::string::npos; }};
 };
 
 TEST_F(CurlLoaderTest, OneRequestOneBody) {
@@ -138,6 +139,25 @@ TEST_F(CurlLoaderTest, RedirectsElsewhereAreFailures) {
     }
     EXPECT_EQ(other.requestLines().size(), 0U);
     EXPECT_EQ(server_.requestLines().size(), 6U);
+}
+
+TEST_F(CurlLoaderTest, AWriteIsSentOnNowhere) {
+    server_.on("WRITE=1", LoopbackReply::redirect("/outra?WRITE=1", 307))
+        .on("outra", LoopbackReply::xml("<R/>"));
+    expectFailure("WRITE=1");
+    EXPECT_EQ(server_.queries(), std::vector<std::string>{"WRITE=1"});
+}
+
+// Learned by a read, it holds for the writes behind it.
+TEST_F(CurlLoaderTest, APageThatHasMovedForGoodIsAskedAtItsNewAddress) {
+    server_.on("asp?READ=1", LoopbackReply::redirect("/nova?READ=1", 301))
+        .on("asp?READ=2", LoopbackReply::redirect("/nova?READ=2", 302))
+        .on("nova", LoopbackReply::xml("<R/>"));
+    EXPECT_TRUE(get("READ=2").loaded);
+    expectFailure("WRITE=3");
+    EXPECT_TRUE(get("READ=1").loaded);
+    EXPECT_TRUE(get("WRITE=4").loaded);
+    EXPECT_EQ(server_.requestLines().back(), "GET /nova?WRITE=4 HTTP/1.1");
 }
 
 TEST_F(CurlLoaderTest, EndlessRedirectsEnd) {

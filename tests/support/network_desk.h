@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+#include "gateway/command_effects.h"
 #include "platform/curl/curl_loader.h"
 #include "platform/environment.h"
 #include "platform/qt/blocking_loader.h"
@@ -37,7 +38,7 @@ struct NetworkDesk {
         QObject::connect(&test.end, &ProgramEnd::didEnd, &context, [this] { blocking.close(); });
     }
 
-    CurlLoader curl;
+    CurlLoader curl{{}, commands::onlyReads};
     Detour detour{curl};
     BlockingLoader blocking{detour};
     Environment environment;
