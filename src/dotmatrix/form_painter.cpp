@@ -1,11 +1,10 @@
 #include "dotmatrix/form_painter.h"
 
-#include <QFont>
 #include <QFontMetricsF>
-#include <QPainter>
 #include <algorithm>
 
-#include "dotmatrix/paper_painter.h"
+#include "dotmatrix/paper_canvas.h"
+#include "dotmatrix/paper_fonts.h"
 
 namespace tarn::dotmatrix {
 
@@ -21,7 +20,6 @@ constexpr double roomyLabel = 5.0;
 constexpr double tightLabel = 3.0;
 constexpr double boxLine = 0.4;
 
-constexpr int fontPixels = 48;  // scaled down from it, for sharp small letters
 constexpr double formText = 9.0;
 constexpr double formTextBaseline = 8.9;
 constexpr double rulerLetters = 4.0;
@@ -30,48 +28,33 @@ const QColor formInk(52, 116, 138);
 const QColor rulerInk(196, 84, 40);
 const QColor guide(196, 84, 40, 70);
 
-QFont letters() {
-    QFont font;
-    font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans"),
-                      QStringLiteral("Arial"), QStringLiteral("sans-serif")});
-    font.setPixelSize(fontPixels);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
-}
-
 // One text of `points` height with its baseline at `at`, cut to `width`.
-void paintLetters(QPainter& painter, const QPointF& at, double points, double width,
-                  const QString& text) {
+void paintLetters(PaperCanvas& canvas, const QPointF& at, double points, double width,
+                  const QColor& colour, const QString& text) {
     if (text.isEmpty()) {
         return;
     }
-    const QFont font = letters();
-    const double scale = points / fontPixels;
+    const QFont font = formFont();
+    const double scale = points / font.pixelSize();
     const QString shown = QFontMetricsF(font).elidedText(text, Qt::ElideRight, width / scale);
     if (shown == QStringLiteral("\u2026")) {
         return;  // no room for a single letter
     }
-    painter.save();
-    painter.translate(at);
-    painter.scale(scale, scale);
-    painter.setFont(font);
-    painter.drawText(QPointF(0, 0), shown);
-    painter.restore();
+    canvas.words(
+        {.at = at, .turn = 0, .scale = scale, .font = font, .colour = colour, .text = shown});
 }
 
-void paintBox(QPainter& painter, const FormBox& box, double left) {
+void paintBox(PaperCanvas& canvas, const FormBox& box, double left) {
     const QRectF frame(left + static_cast<double>(box.x) * pointsPerUnit,
                        static_cast<double>(box.y) * pointsPerUnit - boxRise,
                        static_cast<double>(box.width) * pointsPerUnit,
                        static_cast<double>(box.height) * pointsPerUnit);
-    painter.setPen(QPen(formInk, boxLine));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(frame);
+    canvas.frame(frame, {.colour = formInk, .width = boxLine});
     // With half a line to spare the words are above the print.
     const bool roomy = box.height % lineHeight != 0;
     const double points = roomy ? roomyLabel : tightLabel;
-    paintLetters(painter, frame.topLeft() + QPointF(1.0, points * 0.95), points,
-                 frame.width() - 1.5, QString::fromStdString(box.label));
+    paintLetters(canvas, frame.topLeft() + QPointF(1.0, points * 0.95), points, frame.width() - 1.5,
+                 formInk, QString::fromStdString(box.label));
 }
 
 PaperUnits cellOf(const PaperLine& line, PaperUnits otherwise) {
@@ -79,53 +62,39 @@ PaperUnits cellOf(const PaperLine& line, PaperUnits otherwise) {
 }
 
 // Marks from `top` to `bottom` for cells of this width.
-void paintColumns(QPainter& painter, PaperUnits cell, double top, double bottom, double left,
+void paintColumns(PaperCanvas& canvas, PaperUnits cell, double top, double bottom, double left,
                   double right) {
     const double step = static_cast<double>(cell) * pointsPerUnit;
     for (int column = 10; left + (column - 1) * step < right; column += 10) {
         const double x = left + (column - 0.5) * step;
-        painter.setPen(QPen(guide, 0.3));
-        painter.drawLine(QPointF(x, top), QPointF(x, bottom));
-        painter.setPen(rulerInk);
-        paintLetters(painter, QPointF(x + 0.5, top + rulerLetters), rulerLetters, 20,
+        canvas.line(QPointF(x, top), QPointF(x, bottom), {.colour = guide, .width = 0.3});
+        paintLetters(canvas, QPointF(x + 0.5, top + rulerLetters), rulerLetters, 20, rulerInk,
                      QString::number(column));
     }
 }
 
 }  // namespace
 
-void paintDesign(QPainter& painter, const FormDesign& form, double left) {
-    painter.save();
+void paintDesign(PaperCanvas& canvas, const FormDesign& form, double left) {
     for (const FormBox& box : form.boxes) {
-        paintBox(painter, box, left);
+        paintBox(canvas, box, left);
     }
-    painter.setPen(formInk);
     for (const FormText& text : form.texts) {
         const QPointF at(left + static_cast<double>(text.x) * pointsPerUnit,
                          static_cast<double>(text.y) * pointsPerUnit + formTextBaseline);
-        paintLetters(painter, at, formText, 2000, QString::fromStdString(text.text));
+        paintLetters(canvas, at, formText, 2000, formInk, QString::fromStdString(text.text));
     }
-    painter.restore();
 }
 
-void paintPicture(QPainter& painter, const QImage& picture, const QRectF& sheet) {
-    painter.save();
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(sheet, picture);
-    painter.restore();
-}
-
-void paintRuler(QPainter& painter, const FormPage& page, PaperUnits cell, double left,
+void paintRuler(PaperCanvas& canvas, const FormPage& page, PaperUnits cell, double left,
                 double right) {
-    painter.save();
     const auto pointsDown = [&page](PaperUnits y) {
         return static_cast<double>(y - page.shape.top) * pointsPerUnit;
     };
     const double bottom = pointsDown(page.shape.top + page.shape.height);
     const int rows = static_cast<int>(page.shape.height / lineHeight);
-    painter.setPen(rulerInk);
     for (int row = 1; row <= rows; ++row) {
-        paintLetters(painter, QPointF(left - 7, (row - 1) * 12.0 + 8.0), rulerLetters, 8,
+        paintLetters(canvas, QPointF(left - 7, (row - 1) * 12.0 + 8.0), rulerLetters, 8, rulerInk,
                      QString::number(row));
     }
     // From each change of pitch to the next.
@@ -134,13 +103,12 @@ void paintRuler(QPainter& painter, const FormPage& page, PaperUnits cell, double
     for (const PaperLine& line : page.lines) {
         const PaperUnits next = cellOf(line, present);
         if (next != present) {
-            paintColumns(painter, present, top, pointsDown(line.y), left, right);
+            paintColumns(canvas, present, top, pointsDown(line.y), left, right);
             present = next;
             top = pointsDown(line.y);
         }
     }
-    paintColumns(painter, present, top, bottom, left, right);
-    painter.restore();
+    paintColumns(canvas, present, top, bottom, left, right);
 }
 
 }  // namespace tarn::dotmatrix

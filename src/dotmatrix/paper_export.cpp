@@ -3,21 +3,18 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QImageWriter>
-#include <QPageLayout>
-#include <QPageSize>
 #include <QPainter>
-#include <QPdfWriter>
 #include <QSaveFile>
 #include <algorithm>
 #include <cmath>
 
 #include "dotmatrix/paper_text.h"
+#include "dotmatrix/pdf_canvas.h"
 
 namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr int pdfDotsPerInch = 1200;
 constexpr double lowestPage = 1.0;  // points; a form cut short may be lower than a page can be
 
 double heightInPoints(const Form& form) {
@@ -33,25 +30,20 @@ QString stopped() {
 }
 
 // What failed, empty for nothing.
-QString paintPages(QPdfWriter& writer, const PaperPages& paper, const PaperPainter& drawing,
+QString paintPages(PdfCanvas& canvas, const PaperPages& paper, const PaperPainter& drawing,
                    const WriteProgress& progress) {
-    QPainter painter;
     for (std::size_t form = 0; form < paper.count; ++form) {
         if (!goesOn(progress, form)) {
             return stopped();
         }
         const auto page = paper.page(form);
-        writer.setPageSize(QPageSize(pageSizeInPoints(drawing.sheet(), page->shape),
-                                     QPageSize::Point, QString(), QPageSize::ExactMatch));
-        if (!(form == 0 ? painter.begin(&writer) : writer.newPage())) {
+        canvas.beginPage(pageSizeInPoints(drawing.sheet(), page->shape));
+        drawing.paintForm(canvas, *page);
+        if (!canvas.endPage()) {
             return QStringLiteral("o arquivo não aceita páginas");
         }
-        painter.save();
-        painter.scale(pdfDotsPerInch / pointsPerInch, pdfDotsPerInch / pointsPerInch);
-        drawing.paintForm(painter, *page);
-        painter.restore();
     }
-    return painter.end() ? QString() : QStringLiteral("o arquivo não foi terminado");
+    return {};
 }
 
 QImage pictureOf(const FormPage& page, const PaperPainter& drawing) {
@@ -92,17 +84,15 @@ std::optional<QString> writePdf(const PaperPages& paper, const PaintOptions& opt
     if (!out.open(QIODevice::WriteOnly)) {
         return out.errorString();
     }
-    {
-        QPdfWriter writer(&out);
-        writer.setResolution(pdfDotsPerInch);
-        writer.setPageMargins(QMarginsF(0, 0, 0, 0));
-        writer.setCreator(QStringLiteral("tarnimpressora"));
-        writer.setTitle(QFileInfo(file).completeBaseName());
-        const PaperPainter drawing(sheetFor(paper.contentWidth, options), options);
-        if (const QString failure = paintPages(writer, paper, drawing, progress);
-            !failure.isEmpty()) {
-            return out.error() == QFileDevice::NoError ? failure : out.errorString();
-        }
+    const PaperPainter drawing(sheetFor(paper.contentWidth, options), options);
+    PdfCanvas canvas(out, drawing.print());
+    QString failure = paintPages(canvas, paper, drawing, progress);
+    if (failure.isEmpty() &&
+        !canvas.finish(QFileInfo(file).completeBaseName(), QStringLiteral("tarnimpressora"))) {
+        failure = QStringLiteral("o arquivo não foi terminado");
+    }
+    if (!failure.isEmpty()) {
+        return out.error() == QFileDevice::NoError ? failure : out.errorString();
     }
     return commit(out);
 }

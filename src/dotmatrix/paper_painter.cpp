@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "dotmatrix/form_painter.h"
+#include "dotmatrix/painter_canvas.h"
 
 namespace tarn::dotmatrix {
 
@@ -13,10 +14,6 @@ namespace {
 
 constexpr double pointsPerUnit = pointsPerInch / static_cast<double>(unitsPerInch);
 
-// Scaled to the cell from this size: large enough for exact advances, and not past the
-// size up to which the font engine keeps its glyphs (four times the speed).
-constexpr int fontPixels = 64;
-constexpr double em = 10.5;       // points; capitals come out 7/72 inch high, as 7 needles strike
 constexpr double baseline = 8.9;  // points below the top of a row
 constexpr double underline = 10.4;
 constexpr double underlineWidth = 0.6;
@@ -29,7 +26,6 @@ constexpr double bandPoints = 36.0;
 constexpr int titlePoints = 7;
 constexpr double titleFromEdge = 6.0;  // points from the perforation to the middle of the title
 
-const QColor ink(28, 28, 36);
 const QColor titleColour(110, 110, 110);
 const QColor perforationColour(190, 190, 190);
 const QColor holeEdge(205, 205, 205);
@@ -66,140 +62,121 @@ Sheet sheetFor(PaperUnits contentWidth, const PaintOptions& options) {
 }
 
 PaperPainter::PaperPainter(Sheet sheet, PaintOptions options)
-    : sheet_(sheet), options_(std::move(options)) {
-    plain_.setFamilies({QStringLiteral("Liberation Mono"), QStringLiteral("DejaVu Sans Mono"),
-                        QStringLiteral("Courier New"), QStringLiteral("monospace")});
-    plain_.setStyleHint(QFont::Monospace);
-    plain_.setPixelSize(fontPixels);
-    plain_.setHintingPreference(QFont::PreferNoHinting);
-    plain_.setKerning(false);
-    constexpr int measured = 64;
-    advance_ =
-        QFontMetricsF(plain_).horizontalAdvance(QString(measured, QLatin1Char('0'))) / measured;
-}
+    : sheet_(sheet), options_(std::move(options)) {}
 
 void PaperPainter::paintForm(QPainter& painter, const FormPage& page) const {
+    painter.save();
+    PainterCanvas canvas(painter, print_);
+    paintForm(canvas, page);
+    painter.restore();
+}
+
+void PaperPainter::paintForm(PaperCanvas& canvas, const FormPage& page) const {
     const double height = static_cast<double>(page.shape.height) * pointsPerUnit;
-    const double strip = sheet_.strip * pointsPerInch;
-    paintSheet(painter, height);
-    paintPreprinted(painter, height);
+    canvas.background(page.shape.height, [&] { paintBackground(canvas, height); });
     if (options_.ruler) {
-        paintRuler(painter, page, options_.rulerCell, strip, sheet_.width * pointsPerInch - strip);
+        const double strip = sheet_.strip * pointsPerInch;
+        paintRuler(canvas, page, options_.rulerCell, strip, sheet_.width * pointsPerInch - strip);
     }
     for (const PaperLine& line : page.lines) {
-        paintLine(painter, line, static_cast<double>(line.y - page.shape.top) * pointsPerUnit);
+        paintLine(canvas, line, static_cast<double>(line.y - page.shape.top) * pointsPerUnit);
     }
 }
 
-void PaperPainter::paintPreprinted(QPainter& painter, double height) const {
+void PaperPainter::paintBackground(PaperCanvas& canvas, double height) const {
+    paintSheet(canvas, height);
+    paintTitle(canvas, height);
     if (options_.picture) {
-        paintPicture(painter, *options_.picture,
-                     QRectF(0, 0, sheet_.width * pointsPerInch, height));
+        canvas.picture(QRectF(0, 0, sheet_.width * pointsPerInch, height), *options_.picture);
     }
     if (options_.design) {
-        paintDesign(painter, *options_.design, sheet_.strip * pointsPerInch);
+        paintDesign(canvas, *options_.design, sheet_.strip * pointsPerInch);
     }
 }
 
-void PaperPainter::paintSheet(QPainter& painter, double height) const {
+void PaperPainter::paintSheet(PaperCanvas& canvas, double height) const {
     const double width = sheet_.width * pointsPerInch;
     const double strip = sheet_.strip * pointsPerInch;
-    painter.save();
     if (options_.bands) {
         const int bands = static_cast<int>(std::ceil(height / bandPoints));
         for (int band = 0; band < bands; band += 2) {
             const double top = band * bandPoints;
-            painter.fillRect(
-                QRectF(strip, top, width - 2 * strip, std::min(bandPoints, height - top)),
-                bandColour);
+            canvas.fill(QRectF(strip, top, width - 2 * strip, std::min(bandPoints, height - top)),
+                        bandColour);
         }
     }
-    painter.setPen(QPen(holeEdge, 0.5));
-    painter.setBrush(holeFill);
+    const Stroke edge{.colour = holeEdge, .width = 0.5};
     const int holes = static_cast<int>(std::ceil(height / holeSpacing - 0.5));
     for (int hole = 0; hole < holes; ++hole) {
         const double y = (hole + 0.5) * holeSpacing;
-        painter.drawEllipse(QPointF(strip / 2, y), holeRadius, holeRadius);
-        painter.drawEllipse(QPointF(width - strip / 2, y), holeRadius, holeRadius);
+        canvas.disc(QPointF(strip / 2, y), holeRadius, holeFill, edge);
+        canvas.disc(QPointF(width - strip / 2, y), holeRadius, holeFill, edge);
     }
-    QPen perforation(perforationColour, 0.5);
-    perforation.setDashPattern({4, 4});
-    painter.setPen(perforation);
-    painter.drawLine(QPointF(strip, 0), QPointF(strip, height));
-    painter.drawLine(QPointF(width - strip, 0), QPointF(width - strip, height));
+    const Stroke perforation{.colour = perforationColour, .width = 0.5, .dashed = true};
+    canvas.line(QPointF(strip, 0), QPointF(strip, height), perforation);
+    canvas.line(QPointF(width - strip, 0), QPointF(width - strip, height), perforation);
     // Half of the perforation belongs to each of the forms that it parts.
-    painter.drawLine(QPointF(0, 0.25), QPointF(width, 0.25));
-    painter.drawLine(QPointF(0, height - 0.25), QPointF(width, height - 0.25));
-    painter.restore();
-    paintTitle(painter, height);
+    canvas.line(QPointF(0, 0.25), QPointF(width, 0.25), perforation);
+    canvas.line(QPointF(0, height - 0.25), QPointF(width, height - 0.25), perforation);
 }
 
-void PaperPainter::paintTitle(QPainter& painter, double height) const {
+void PaperPainter::paintTitle(PaperCanvas& canvas, double height) const {
     if (options_.title.isEmpty()) {
         return;
     }
-    QFont font = plain_;
+    QFont font = print_.face(false, false);
     font.setPixelSize(titlePoints);
-    painter.save();
-    painter.setPen(titleColour);
-    painter.setFont(font);
+    const QFontMetricsF metrics(font);
     // The ruler's line numbers have the left strip.
-    const double fromLeft = options_.ruler
-                                ? (sheet_.width - sheet_.strip) * pointsPerInch + titleFromEdge
-                                : sheet_.strip * pointsPerInch - titleFromEdge;
-    painter.translate(fromLeft, height / 2);
-    painter.rotate(-90);
-    painter.drawText(QRectF(-height / 2, -titlePoints, height, 2.0 * titlePoints), Qt::AlignCenter,
-                     options_.title);
-    painter.restore();
+    const double middle = options_.ruler
+                              ? (sheet_.width - sheet_.strip) * pointsPerInch + titleFromEdge
+                              : sheet_.strip * pointsPerInch - titleFromEdge;
+    const double baselineX = middle - metrics.height() / 2 + metrics.ascent();
+    const double half = metrics.horizontalAdvance(options_.title) / 2;
+    canvas.words({.at = QPointF(baselineX, height / 2 + half),
+                  .turn = -90,
+                  .scale = 1,
+                  .font = font,
+                  .colour = titleColour,
+                  .text = options_.title});
 }
 
 // Draws characters that stand side by side in one go, blanks between them included, so
 // that a search in the PDF finds whole lines of text.
-void PaperPainter::paintLine(QPainter& painter, const PaperLine& line, double y) const {
-    QString run;
+void PaperPainter::paintLine(PaperCanvas& canvas, const PaperLine& line, double y) const {
+    PrintedRun run;
     const auto& cells = line.cells;
     for (std::size_t first = 0; first < cells.size();) {
-        run = QChar(cells[first].character);
+        run.text = QChar(cells[first].character);
         std::size_t next = first + 1;
         for (; next < cells.size() && continues(cells[next - 1], cells[next]); ++next) {
-            const auto steps = (cells[next].x - cells[next - 1].x) / cells[next].width;
-            run += QString(steps - 1, QLatin1Char(' '));
-            run += QChar(cells[next].character);
+            for (auto x = cells[next - 1].x + cells[next].width; x < cells[next].x;
+                 x += cells[next].width) {
+                run.text += QLatin1Char(' ');
+            }
+            run.text += QChar(cells[next].character);
         }
-        paintRun(painter, run, cells[first], y);
+        paintRun(canvas, run, cells[first], y);
         first = next;
     }
 }
 
-void PaperPainter::paintRun(QPainter& painter, const QString& text, const Cell& first,
+void PaperPainter::paintRun(PaperCanvas& canvas, PrintedRun& run, const Cell& first,
                             double y) const {
     const double left = sheet_.strip * pointsPerInch + first.x * pointsPerUnit;
-    const double cellWidth = first.width * pointsPerUnit;
-    const bool bold = (first.style & (emphasised | doubleStrike)) != 0;
-    const bool both = (first.style & emphasised) != 0 && (first.style & doubleStrike) != 0;
-    const bool italic = (first.style & italicShear) != 0;
-    QFont font = plain_;
-    if (bold || italic) {
-        font.setBold(bold);
-        font.setItalic(italic);
+    run.at = QPointF(left, y + baseline);
+    run.cell = first.width * pointsPerUnit;
+    run.bold = (first.style & (emphasised | doubleStrike)) != 0;
+    run.italic = (first.style & italicShear) != 0;
+    canvas.run(run);
+    if ((first.style & emphasised) != 0 && (first.style & doubleStrike) != 0) {
+        run.at.rx() += secondStrike;
+        canvas.run(run);
     }
-
-    painter.save();
-    painter.setPen(ink);
-    painter.setFont(font);
-    painter.translate(left, y + baseline);
-    painter.scale(cellWidth / advance_, em / fontPixels);
-    painter.drawText(QPointF(0, 0), text);
-    if (both) {
-        painter.drawText(QPointF(secondStrike * advance_ / cellWidth, 0), text);
-    }
-    painter.restore();
-
     if ((first.style & underlined) != 0) {
-        painter.fillRect(QRectF(left, y + underline, cellWidth * static_cast<double>(text.size()),
-                                underlineWidth),
-                         ink);
+        canvas.fill(QRectF(left, y + underline, run.cell * static_cast<double>(run.text.size()),
+                           underlineWidth),
+                    printInk);
     }
 }
 

@@ -1,20 +1,19 @@
-// Draws forms of the continuous paper with QPainter: one routine for PDF, picture and
-// screen. Needs a QGuiApplication for its fonts.
+// Draws forms of the continuous paper: one routine for PDF, picture, printer and screen.
+// Needs a QGuiApplication for its fonts.
 #pragma once
 
-#include <QFont>
 #include <QImage>
 #include <QString>
 #include <memory>
 
 #include "dotmatrix/continuous_paper.h"
 #include "dotmatrix/form_design.h"
+#include "dotmatrix/paper_canvas.h"
+#include "dotmatrix/paper_fonts.h"
 
 class QPainter;
 
 namespace tarn::dotmatrix {
-
-inline constexpr double pointsPerInch = 72.0;
 
 // A sheet with its two strips of tractor holes; lengths in inches.
 struct Sheet {
@@ -43,21 +42,22 @@ public:
     explicit PaperPainter(Sheet sheet, PaintOptions options = {});
 
     const Sheet& sheet() const { return sheet_; }
-    // One form with its origin, left upper corner of the sheet, at the painter's; the
-    // painter's unit must be the point, 1/72 inch.
+    const PrintFont& print() const { return print_; }
+    void paintForm(PaperCanvas& canvas, const FormPage& page) const;
+    // With its origin, left upper corner of the sheet, at the painter's; the painter's unit
+    // must be the point, 1/72 inch.
     void paintForm(QPainter& painter, const FormPage& page) const;
 
 private:
-    void paintSheet(QPainter& painter, double height) const;
-    void paintPreprinted(QPainter& painter, double height) const;
-    void paintTitle(QPainter& painter, double height) const;
-    void paintLine(QPainter& painter, const PaperLine& line, double y) const;
-    void paintRun(QPainter& painter, const QString& text, const Cell& first, double y) const;
+    void paintBackground(PaperCanvas& canvas, double height) const;
+    void paintSheet(PaperCanvas& canvas, double height) const;
+    void paintTitle(PaperCanvas& canvas, double height) const;
+    void paintLine(PaperCanvas& canvas, const PaperLine& line, double y) const;
+    void paintRun(PaperCanvas& canvas, PrintedRun& run, const Cell& first, double y) const;
 
     Sheet sheet_;
     PaintOptions options_;
-    QFont plain_;
-    double advance_ = 0;  // of a character of plain_, in its pixels
+    PrintFont print_;
 };
 
 }  // namespace tarn::dotmatrix

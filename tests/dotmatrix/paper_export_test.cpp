@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QTemporaryDir>
 #include <map>
+#include <set>
 
 #include "dotmatrix/paper_export.h"
 #include "tests/dotmatrix/paper_page.h"
@@ -83,6 +84,119 @@ TEST_F(PaperFiles, PdfKeepsAccentsOverprintsAndOnePageAForm) {
     const QString fonts = output(QStringLiteral("pdffonts"), {file("forms.pdf")});
     EXPECT_TRUE(fonts.contains(QRegularExpression("Mono.* yes (yes|no) +yes")))
         << fonts.toStdString();
+}
+
+// A full form: as many lines as it has, each as long as a condensed one of its paper.
+std::string fullForm(int number) {
+    std::string bytes = "\x0F";
+    for (int line = 1; line <= 66; ++line) {
+        bytes += std::to_string(number) + "." + std::to_string(line) +
+                 "  PARAFUSO SEXTAVADO A\xC7O INOX (10)  12,5 " + std::to_string(number * line) +
+                 ",00  S\xC3O JOS\xC9 \\ \xC0 VISTA\r\n";
+    }
+    return bytes;
+}
+
+TEST_F(PaperFiles, PdfTextIsCopiedLineByLineAsItWasPrinted) {
+    PrinterRig rig;
+    rig.job(fullForm(7));
+    ASSERT_FALSE(writePdf(pagesOf(rig.paper), {}, file("copy.pdf")));
+    const QString copied = output(QStringLiteral("pdftotext"),
+                                  {QStringLiteral("-raw"), file("copy.pdf"), QStringLiteral("-")});
+    ASSERT_FALSE(writeText(pagesOf(rig.paper), file("copy.txt")));
+    QFile text(file("copy.txt"));
+    ASSERT_TRUE(text.open(QIODevice::ReadOnly));
+    const auto withSingleBlanks = [](QString whole) {
+        whole.replace(QRegularExpression(QStringLiteral("[ \f]+")), QStringLiteral(" "));
+        return whole.trimmed();
+    };
+    const QString printed = withSingleBlanks(QString::fromUtf8(text.readAll()));
+    EXPECT_TRUE(printed.contains(QStringLiteral("INOX (10) 12,5 462,00 SÃO JOSÉ \\ À VISTA")));
+    EXPECT_EQ(withSingleBlanks(copied).toStdString(), printed.toStdString());
+}
+
+TEST_F(PaperFiles, PdfStoresAFaceAndTheSheetOnce) {
+    const auto sizeOf = [this](int forms) {
+        PrinterRig rig;
+        for (int form = 1; form <= forms; ++form) {
+            rig.job(fullForm(form));
+        }
+        EXPECT_FALSE(writePdf(pagesOf(rig.paper), {.title = "MODELO"}, file("many.pdf")));
+        return QFileInfo(file("many.pdf")).size();
+    };
+    const qint64 few = sizeOf(2);
+    const qint64 many = sizeOf(42);
+    EXPECT_LT((many - few) / 40, 1600);
+    const QString fonts = output(QStringLiteral("pdffonts"), {file("many.pdf")});
+    EXPECT_EQ(fonts.count(QStringLiteral("TrueType")), 1) << fonts.toStdString();
+}
+
+TEST_F(PaperFiles, PdfStoresAPictureOnce) {
+    PrinterRig rig;
+    rig.job("uma\f\r\nduas\f\r\ntr\xEAs");
+    QImage picture(300, 200, QImage::Format_ARGB32);
+    picture.fill(QColor(0, 120, 255, 128));
+    const PaintOptions options{.picture = std::make_shared<const QImage>(picture)};
+    ASSERT_FALSE(writePdf(pagesOf(rig.paper), options, file("picture.pdf")));
+    const QString images =
+        output(QStringLiteral("pdfimages"), {QStringLiteral("-list"), file("picture.pdf")});
+    static const QRegularExpression image(QStringLiteral(" (image|smask) +300 +200 .* (\\d+) +0 "));
+    std::set<QString> objects;
+    for (auto match = image.globalMatch(images); match.hasNext();) {
+        objects.insert(match.next().captured(2));
+    }
+    EXPECT_EQ(objects.size(), 1U) << images.toStdString();
+    EXPECT_TRUE(images.contains(QStringLiteral("smask")));
+}
+
+// What each block of a third of an inch holds of ink.
+std::vector<int> inkOf(const QImage& image) {
+    constexpr int block = pictureDotsPerInch / 3;
+    std::vector<int> ink;
+    for (int y = 0; y + block <= image.height(); y += block) {
+        for (int x = 0; x + block <= image.width(); x += block) {
+            ink.push_back(darkPixels(image, QRect(x, y, block, block)));
+        }
+    }
+    return ink;
+}
+
+TEST_F(PaperFiles, PdfHasTheInkOfThePicture) {
+    PrinterRig rig;
+    rig.job(
+        "pica \x1B"
+        "Melite\x1BP \x1BGdark\x1BH \x1B"
+        "4leaning \xC7\xC3\xE9\x1B"
+        "5\r\n"
+        "\x1B-1under line\x1B-0 \x1B"
+        "E\x1BGboth\x1BH\x1B"
+        "F\r\n\x0Ewide\r\n\x0F(small)");
+    FormDesign design;
+    design.boxes.push_back({.x = 0,
+                            .y = unitsPerInch,
+                            .width = 3 * unitsPerInch,
+                            .height = unitsPerInch / 4,
+                            .label = "EMITENTE"});
+    QImage picture(4, 4, QImage::Format_ARGB32);
+    picture.fill(QColor(255, 200, 0, 40));
+    const PaintOptions options{.bands = true,
+                               .title = "Modelo fi",
+                               .ruler = true,
+                               .design = std::make_shared<const FormDesign>(design),
+                               .picture = std::make_shared<const QImage>(picture)};
+    ASSERT_FALSE(writePdf(pagesOf(rig.paper), options, file("ink.pdf")));
+    ASSERT_FALSE(writePng(pagesOf(rig.paper), options, file("ink.png")));
+    output(QStringLiteral("pdftoppm"),
+           {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-r"),
+            QString::number(pictureDotsPerInch), file("ink.pdf"), file("seen")});
+    const QImage seen(file("seen.png"));
+    const QImage drawn(file("ink.png"));
+    ASSERT_EQ(seen.size(), drawn.size());
+    const std::vector<int> inSeen = inkOf(seen);
+    const std::vector<int> inDrawn = inkOf(drawn);
+    for (std::size_t i = 0; i < inSeen.size(); ++i) {
+        EXPECT_NEAR(inSeen[i], inDrawn[i], 12 + inDrawn[i] / 5) << "block " << i;
+    }
 }
 
 TEST_F(PaperFiles, SheetIsChosenByTheWidestContent) {
