@@ -18,7 +18,6 @@
 namespace tarn {
 namespace {
 
-constexpr std::int32_t priceSheetCompany = 1361;
 constexpr std::size_t sheetWidth = 77;
 constexpr std::size_t totalsColumn = 65;  // where the labels of the totals end
 constexpr int totalWidth = 11;
@@ -109,10 +108,13 @@ std::string header(const XmlDocument& document, std::string_view name) {
 
 // Quantity, code, description; what follows differs.
 PrintedLine& itemStart(PrintedLine& sheet, const Item& item) {
-    return sheet.rightField(item.quantity, threePlaces, 8)
+    return sheet.as("Qtde")
+        .rightField(item.quantity, threePlaces, 8)
         .blanks(1)
+        .as("Código")
         .field(item.code, 7)
         .blanks(1)
+        .as("Descrição do produto")
         .field(item.description, 36)
         .blanks(1);
 }
@@ -179,8 +181,7 @@ void printTotals(PrintedLine& sheet, const Values& totals) {
 
 void printPlainHeader(PrintedLine& sheet, const XmlDocument& document) {
     sheet.out();
-    sheet.text("                            ORDEM DE FATURAMENTO                             ")
-        .out();
+    sheet.blanks(28).text(orderSheetTitle).blanks(29).out();
     ruler(sheet, '-');
     sheet.text("Cliente:  ").field(header(document, "RAZAO"), 50).blanks(1);
     sheet.text("Data: ").field(header(document, "DT_EMS_NF"), 10).out();
@@ -198,13 +199,13 @@ void printPriceHeader(PrintedLine& sheet, const XmlDocument& document) {
     sheet.out();
     const std::string control = header(document, "NR_CTRL_INT");
     if (control != "0") {
-        sheet.field(control, 40);
+        sheet.as("Controle").field(control, 40);
     }
     sheet.out();
     ruler(sheet, '-');
-    sheet.field(header(document, "RAZAO"), 50).blanks(17);
-    sheet.field(header(document, "DT_EMS_NF"), 10).out();
-    sheet.field(header(document, "VENDEDOR"), 67).out();
+    sheet.as("Cliente").field(header(document, "RAZAO"), 50).blanks(17);
+    sheet.as("Data").field(header(document, "DT_EMS_NF"), 10).out();
+    sheet.as("Vendedor").field(header(document, "VENDEDOR"), 67).out();
     blankLine(sheet);
     ruler(sheet, '-');
 }
@@ -254,6 +255,10 @@ void ImprimeOrdemFaturamento(Environment& environment, XmlDocument& document) {
 
 void ImprimeOrdemFaturamentoPreco(Environment& environment, XmlDocument& document) {
     RawChannel channel(environment.spooler, environment.codePage);
+    printPriceSheet(channel, document);
+}
+
+void printPriceSheet(RawChannel& channel, XmlDocument& document) {
     channel.announce({.document = JobDocument::OrderSheet,
                       .form = orderFormName(priceSheetCompany),
                       .itemLines = {}});
@@ -261,8 +266,8 @@ void ImprimeOrdemFaturamentoPreco(Environment& environment, XmlDocument& documen
     PrintedLine sheet(channel);
     printPriceHeader(sheet, document);
     const Values totals = printItems(sheet, document, [&sheet](const Item& item) {
-        sheet.rightField(item.unitPrice, threePlaces, 10).blanks(1);
-        sheet.rightField(item.values.itemNet(), twoPlaces, amountWidth);
+        sheet.as("Unitário").rightField(item.unitPrice, threePlaces, 10).blanks(1);
+        sheet.as("Vlr. líquido").rightField(item.values.itemNet(), twoPlaces, amountWidth);
     });
     ruler(sheet, '-');
     sheet.blanks(totalsColumn).rightField(totals.discount, twoPlaces, amountWidth).out();

@@ -4,13 +4,19 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "gateway/sessao.h"
 #include "gateway/xml_document.h"
 
 namespace tarn {
 
+class RawChannel;
 struct Environment;
+
+// The company that has a form for its sheets.
+inline constexpr std::int32_t priceSheetCompany = 1361;
+inline constexpr std::string_view orderSheetTitle = "ORDEM DE FATURAMENTO";
 
 // What the paper is called that a company's sheets go on: plain, or company 1361's own form.
 std::string orderFormName(std::int32_t company);
@@ -23,6 +29,7 @@ void ImprimeOrdemFaturamento(Environment& environment, XmlDocument& document);
 // The sheet of company 1361, for a form that brings its title and headings: control
 // number, net value of each item, room for observations.
 void ImprimeOrdemFaturamentoPreco(Environment& environment, XmlDocument& document);
+void printPriceSheet(RawChannel& channel, XmlDocument& document);
 
 // The one of the two that the company uses.
 void printOrder(Environment& environment, const Sessao& session, XmlDocument& document);

@@ -16,8 +16,8 @@
 namespace tarn {
 namespace {
 
-constexpr std::int16_t bank33 = 33;
 constexpr std::size_t payeeWidth = 70;
+constexpr int payeeRoom = static_cast<int>(payeeWidth);
 constexpr int townWidth = 19;
 constexpr int dayWidth = 2;
 constexpr int monthWidth = 17;
@@ -54,19 +54,23 @@ Data dataDe(std::string_view text) {
 void printGeneral(PrintedLine& paper, const ChequeData& cheque, const std::string& inWords,
                   const Data& data) {
     constexpr std::size_t wordsWidth = 64;
+    constexpr int wordsRoom = static_cast<int>(wordsWidth);
+    constexpr int restRoom = 76;
+    constexpr int yearRoom = 4;
     constexpr int amountWidth = 14;
     paper.commands(condensedDouble).out(0);
-    paper.blanks(64).rightField(cheque.sValor, amountWidth).out(2);
-    paper.blanks(14).text(leftOf(inWords, wordsWidth)).out(1);
+    paper.blanks(64).as("Valor").rightField(cheque.sValor, amountWidth).out(2);
+    paper.blanks(14).as("Pague por este cheque a quantia de", wordsRoom);
+    paper.text(leftOf(inWords, wordsWidth)).out(1);
     if (inWords.size() > wordsWidth) {
-        paper.blanks(2).text(inWords.substr(wordsWidth));
+        paper.blanks(2).as("", restRoom).text(inWords.substr(wordsWidth));
     }
     paper.out(2);
-    paper.blanks(4).text(leftOf(cheque.sFavorecido, payeeWidth)).out(2);
-    paper.blanks(29).field(cheque.sNmMun, townWidth);
-    paper.blanks(2).rightField(data.day, dayWidth);
-    paper.blanks(3).field(data.month, monthWidth);
-    paper.blanks(2).text(data.year).out(2);
+    paper.blanks(4).as("A", payeeRoom).text(leftOf(cheque.sFavorecido, payeeWidth)).out(2);
+    paper.blanks(29).as("Local").field(cheque.sNmMun, townWidth);
+    paper.blanks(2).as("Dia").rightField(data.day, dayWidth);
+    paper.blanks(3).as("Mês").field(data.month, monthWidth);
+    paper.blanks(2).as("Ano", yearRoom).text(data.year).out(2);
     paper.out(9);
 }
 
@@ -86,23 +90,28 @@ void printBank33(PrintedLine& paper, const ChequeData& cheque, const std::string
                  const Data& data) {
     constexpr std::size_t indent = 26;
     constexpr std::size_t wordsWidth = 90;
+    constexpr int wordsRoom = static_cast<int>(wordsWidth);
+    constexpr int restRoom = 106;
+    constexpr int yearRoom = 2;
     constexpr int amountWidth = 25;
     const std::string broken = QuebraTexto(std::string(indent, ' ') + inWords, wordsWidth);
     const std::vector<std::string_view> lines = split(broken, '\r');
     paper.commands(spacing6Over72).out(0);
     paper.commands(condensedDouble).out(0);
     paper.out(2);
-    paper.blanks(93).rightField("#" + std::string(cheque.sValor) + "#", amountWidth).out(4);
-    paper.blanks(indent).text(lines.front()).out(2);
+    paper.blanks(93).as("Valor");
+    paper.rightField("#" + std::string(cheque.sValor) + "#", amountWidth).out(4);
+    paper.blanks(indent).as("Pague por este cheque a quantia de", wordsRoom);
+    paper.text(lines.front()).out(2);
     if (lines.size() > 1) {
-        paper.blanks(10).text(secondLine(lines));
+        paper.blanks(10).as("", restRoom).text(secondLine(lines));
     }
     paper.out(2);
-    paper.blanks(12).text(leftOf(cheque.sFavorecido, payeeWidth)).out(4);
-    paper.blanks(61).rightField(cheque.sNmMun, townWidth);
-    paper.blanks(2).rightField(data.day, dayWidth);
-    paper.blanks(6).field(data.month, monthWidth);
-    paper.blanks(9).text(rightOf(data.year, 2)).out(2);
+    paper.blanks(12).as("A", payeeRoom).text(leftOf(cheque.sFavorecido, payeeWidth)).out(4);
+    paper.blanks(61).as("Local").rightField(cheque.sNmMun, townWidth);
+    paper.blanks(2).as("Dia").rightField(data.day, dayWidth);
+    paper.blanks(6).as("Mês").field(data.month, monthWidth);
+    paper.blanks(9).as("Ano", yearRoom).text(rightOf(data.year, 2)).out(2);
     paper.out(20);
 }
 
@@ -113,24 +122,28 @@ std::int16_t bankCode(std::string_view nrOfiBan) {
 }
 
 std::string_view chequeFormName(std::int16_t bank) {
-    return bank == bank33 ? "Cheque_33" : "Cheque";
+    return bank == chequeBank33 ? "Cheque_33" : "Cheque";
 }
 
-void ImprimeCheque(Environment& environment, const ChequeData& cheque) {
+void printCheque(RawChannel& channel, const ChequeData& cheque) {
     const std::string inWords = ValorExtenso(readComma(cheque.sValor), "REAIS", "REAL");
     const Data data = dataDe(cheque.sDataDeposito);
-    RawChannel channel(environment.spooler, environment.codePage);
     channel.announce({.document = JobDocument::Cheque,
                       .form = std::string(chequeFormName(cheque.nNr_Ofi_Ban)),
                       .itemLines = {}});
     channel.open({.docName = "Impressao de Cheque", .outputFile = "", .dataType = "", .kind = {}});
     PrintedLine paper(channel);
-    if (cheque.nNr_Ofi_Ban == bank33) {
+    if (cheque.nNr_Ofi_Ban == chequeBank33) {
         printBank33(paper, cheque, inWords, data);
     } else {
         printGeneral(paper, cheque, inWords, data);
     }
     channel.close();
+}
+
+void ImprimeCheque(Environment& environment, const ChequeData& cheque) {
+    RawChannel channel(environment.spooler, environment.codePage);
+    printCheque(channel, cheque);
 }
 
 }  // namespace tarn

@@ -7,7 +7,10 @@
 
 namespace tarn {
 
+class RawChannel;
 struct Environment;
+
+inline constexpr std::int16_t chequeBank33 = 33;
 
 // Official code of a bank, such as "033", as a 16-bit integer. Raises TypeMismatch
 // for what is no number, Overflow for what doesn't fit.
@@ -28,5 +31,6 @@ std::string_view chequeFormName(std::int16_t bank);
 // opens: TypeMismatch for an amount that is no number, OutOfRange for a date
 // of less than three parts. A month outside 1 to 12 has no name.
 void ImprimeCheque(Environment& environment, const ChequeData& cheque);
+void printCheque(RawChannel& channel, const ChequeData& cheque);
 
 }  // namespace tarn

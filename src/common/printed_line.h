@@ -3,8 +3,10 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "common/raw_channel.h"
 #include "runtime/mask.h"
@@ -14,6 +16,10 @@ namespace tarn {
 class PrintedLine {
 public:
     explicit PrintedLine(RawChannel& channel) : channel_(channel) {}
+
+    // What the form calls the piece that comes next, and how much room it has there where the
+    // piece has no width of its own. An empty name: it goes on with the one above.
+    PrintedLine& as(std::string_view label, int room = 0);
 
     PrintedLine& blanks(std::size_t count);
     PrintedLine& text(std::string_view value);
@@ -29,8 +35,18 @@ public:
     void out(int lineEnds = 1);
 
 private:
+    // Keeps where the piece in hand begins, if anyone watches.
+    void place(int width);
+
+    struct Name {
+        std::string_view label;
+        int room = 0;
+    };
+
     RawChannel& channel_;
     std::string line_;
+    std::optional<Name> name_;  // of the piece that comes next
+    std::vector<PlacedField> placed_;
 };
 
 }  // namespace tarn

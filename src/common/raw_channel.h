@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "common/field_watch.h"
 #include "platform/spooler.h"
 #include "runtime/code_page.h"
 
@@ -22,6 +23,10 @@ public:
     // What the jobs opened from now on print, for a spooler that can use it.
     void announce(JobKind kind) { kind_ = std::move(kind); }
 
+    // Tells whoever draws the document's form of each of its fields; it must outlive this.
+    void watch(FieldWatch& who) { watch_ = &who; }
+    FieldWatch* watcher() const { return watch_; }
+
     // Opens the default printer and starts a document and its only page.
     void open(const JobDescription& job = {});
     // Ends page and document and closes the printer.
@@ -36,6 +41,7 @@ private:
     Spooler& spooler_;
     CodePage page_;
     JobKind kind_;
+    FieldWatch* watch_ = nullptr;
     std::string bytes_;  // reused from call to call
 };
 

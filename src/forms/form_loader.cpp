@@ -6,7 +6,7 @@
 #include <QImageReader>
 
 #include "dotmatrix/form_file.h"
-#include "forms/layout_forms.h"
+#include "forms/form_catalogue.h"
 
 namespace tarn::dotmatrix {
 
@@ -48,7 +48,7 @@ std::variant<LoadedForm, QString> fromText(const QByteArray& bytes, const QStrin
 }  // namespace
 
 std::variant<LoadedForm, QString> loadForm(const QString& form, std::optional<int> itemLines) {
-    if (auto design = layoutForm(form.toStdString(), itemLines)) {
+    if (auto design = formDrawing(form.toStdString(), itemLines)) {
         return LoadedForm{std::make_shared<const FormDesign>(std::move(*design)), nullptr};
     }
     QFile file(form);

@@ -17,7 +17,7 @@ struct LoadedForm {
     std::shared_ptr<const QImage> picture;  // null for none
 };
 
-// `form` is one of layoutFormNames(), else a file: a picture (of the whole sheet, from
+// `form` is a name of the catalogue, else a file: a picture (of the whole sheet, from
 // edge to edge), or a form written as text. `itemLines` as for layoutForm. Else a whole
 // sentence in Portuguese that says what is wrong.
 std::variant<LoadedForm, QString> loadForm(const QString& form,

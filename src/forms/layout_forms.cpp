@@ -1,9 +1,9 @@
 #include "forms/layout_forms.h"
 
 #include <algorithm>
-#include <set>
 
 #include "forms/drawing_pen.h"
+#include "forms/headroom.h"
 #include "notes/ladder.h"
 #include "notes/layouts/layouts.h"
 
@@ -12,7 +12,6 @@ namespace tarn::dotmatrix {
 namespace {
 
 constexpr PaperUnits lineHeight = unitsPerInch / 6;
-constexpr PaperUnits headroom = lineHeight / 2;
 constexpr int sheetLines = 66;
 // Of a customer who has no form by name.
 constexpr std::int32_t anyCode = 1;
@@ -29,37 +28,13 @@ std::vector<NamedForm> namedForms() {
         if (layout->form == nullptr) {
             continue;  // it draws on blank paper
         }
-        const std::string name(layout->name);
         if (layout->other != nullptr) {
-            forms.push_back(
-                {name + "_" + std::to_string(layout->establishment), layout, layout->form});
+            forms.push_back({layout->formName(layout->establishment), layout, layout->form});
         }
-        forms.push_back({name, layout, layout->other != nullptr ? layout->other : layout->form});
+        forms.push_back({std::string(layout->name), layout,
+                         layout->other != nullptr ? layout->other : layout->form});
     }
     return forms;
-}
-
-// The boxes of a line grow half a line upwards, for their words, where nothing is
-// above any of them.
-void giveHeadroom(std::vector<FormBox>& boxes) {
-    std::set<PaperUnits> tight;
-    for (const FormBox& one : boxes) {
-        const bool taken = one.y < headroom ||
-                           std::any_of(boxes.begin(), boxes.end(), [&one](const FormBox& other) {
-                               return other.y < one.y &&
-                                      other.y + other.height > one.y - headroom &&
-                                      other.x < one.x + one.width && one.x < other.x + other.width;
-                           });
-        if (taken) {
-            tight.insert(one.y);
-        }
-    }
-    for (FormBox& box : boxes) {
-        if (tight.count(box.y) == 0) {
-            box.y -= headroom;
-            box.height += headroom;
-        }
-    }
 }
 
 struct Drawn {
@@ -114,7 +89,58 @@ LadderForm onTheLadder(const NamedForm& named) {
     return {named.name, 0, 0, false};
 }
 
+void add(std::string& list, const std::string& entry) {
+    list += (list.empty() ? "" : ", ") + entry;
+}
+
+// Establishments of one company stand together behind it; who is on one screen's ladder alone
+// comes last.
+std::string holdersOf(const NamedForm& named) {
+    std::string companies;
+    std::string others;
+    std::string establishments;
+    std::int32_t grouped = 0;
+    for (const Rung& rung : rungs()) {
+        if (rung.layout != named.layout) {
+            continue;
+        }
+        if (rung.company && rung.establishment) {
+            grouped = *rung.company;
+            add(establishments, std::to_string(*rung.establishment));
+        } else if (rung.company) {
+            const std::string code = std::to_string(*rung.company);
+            if (!rung.only || companies.find(code) == std::string::npos) {
+                add(rung.only ? others : companies, code);
+            }
+        } else if (rung.establishment) {
+            add(companies, "estabelecimento " + std::to_string(*rung.establishment));
+        } else {
+            add(companies, "outras empresas");
+        }
+    }
+    if (grouped != 0) {
+        add(companies, std::to_string(grouped) + " (" + establishments + ")");
+    }
+    if (!others.empty() && companies.find(others) == std::string::npos) {
+        add(companies, others);
+    }
+    return companies;
+}
+
 }  // namespace
+
+std::string layoutFormTitle(std::string_view name) {
+    for (const NamedForm& named : namedForms()) {
+        if (named.name == name) {
+            const bool ofItsOwn =
+                named.layout->other != nullptr && named.form != named.layout->other;
+            return "Nota: " + holdersOf(named) +
+                   (ofItsOwn ? ", estabelecimento " + std::to_string(named.layout->establishment)
+                             : "");
+        }
+    }
+    return {};
+}
 
 std::vector<LadderForm> ladderForms() {
     std::vector<LadderForm> forms;

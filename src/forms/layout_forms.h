@@ -26,6 +26,9 @@ struct LadderForm {
 };
 std::vector<LadderForm> ladderForms();
 
+// What a user calls it, by whose notes go on it: "Nota: 1361, 141, 761".
+std::string layoutFormTitle(std::string_view name);
+
 // The drawing of one of them, nothing for any other name. `itemLines` is how many lines
 // the form has for items (0 and up); without it as many as fill a sheet of 11 inches.
 std::optional<FormDesign> layoutForm(std::string_view name,

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "common/printed_line.h"
 #include "common/raw_channel.h"
 #include "labels/label.h"
 #include "platform/environment.h"
@@ -31,9 +32,9 @@ void doubled(std::string& line, std::string_view left, std::string_view right) {
     appendField(line, right, rightWidth, false);
 }
 
-void assemble(Texts& texts, const Label& label, std::size_t column) {
+void assemble(Texts& texts, const Label& label) {
     for (std::string& text : texts) {
-        text.assign(gap[column], ' ');
+        text.clear();
     }
     appendField(texts[0], label.NOME, width, false);
     appendField(texts[1], label.ENDERECO, width, false);
@@ -42,14 +43,14 @@ void assemble(Texts& texts, const Label& label, std::size_t column) {
     doubled(texts[4], label.CEP, label.CODIGO);
 }
 
-void printGroup(RawChannel& channel, std::array<Texts, side>& group, std::size_t count) {
-    std::string end;
+// Each column's text goes out by itself, then the line's end.
+void printGroup(RawChannel& channel, const std::array<Texts, side>& group, std::size_t count) {
+    PrintedLine paper(channel);
     for (std::size_t line = 0; line < lines; ++line) {
         for (std::size_t column = 0; column < count; ++column) {
-            channel.ImprimeRaw(margin, group[column][line], 0);
+            paper.blanks(gap[column]).as("", width).text(group[column][line]).out(0);
         }
-        end.clear();
-        channel.ImprimeRaw(margin, end, line + 1 < lines ? 1 : 2);
+        paper.out(line + 1 < lines ? 1 : 2);
     }
 }
 
@@ -57,6 +58,10 @@ void printGroup(RawChannel& channel, std::array<Texts, side>& group, std::size_t
 
 void printDotMatrix(Environment& environment, Labels& labels, const Progress& progress) {
     RawChannel channel(environment.spooler, environment.codePage);
+    printLabelRows(channel, labels, progress);
+}
+
+void printLabelRows(RawChannel& channel, Labels& labels, const Progress& progress) {
     channel.announce(
         {.document = JobDocument::Labels, .form = std::string(labelFormOnPaper), .itemLines = {}});
     channel.open();
@@ -68,7 +73,7 @@ void printDotMatrix(Environment& environment, Labels& labels, const Progress& pr
     for (std::size_t i = 0; i < labels.count();) {
         const std::size_t count = std::min(side, labels.count() - i);
         for (std::size_t column = 0; column < count; ++column, ++i) {
-            assemble(group[column], labels.read(i), column);
+            assemble(group[column], labels.read(i));
         }
         printGroup(channel, group, count);
         report(progress, i, labels);

@@ -21,13 +21,6 @@
 namespace tarn {
 namespace {
 
-// ESC/P.
-constexpr std::string_view twelve = "\x0F\x1BM";  // condensed, 12 characters an inch
-constexpr std::string_view sixPerInch =
-    "\x1B"
-    "2";                                                // lines
-constexpr std::string_view doubleStrike = "\x0F\x1BG";  // condensed, double strike
-
 // The bank with that ID_PES_BAN, if it has a form.
 std::optional<std::int32_t> servedBank(std::string_view bank) {
     const auto number = parseComma(bank);
@@ -60,7 +53,6 @@ private:
     void sendQuery(const std::string& query);
     void save(const GridRow& document, const SlipNumber& number);
     void account();
-    void send(std::string_view sequence);
 
     Environment& environment_;
     const Sessao& session_;
@@ -73,11 +65,6 @@ private:
     std::string last_;
 };
 
-void SlipJob::send(std::string_view sequence) {
-    std::string text(sequence);
-    channel_.ImprimeRaw(1, text, 0);
-}
-
 std::optional<std::int32_t> SlipJob::bankOf(const GridRow& document) const {
     return servedBank(includesPortfolio_ ? portfolio_.ID_PES_BAN : document.text(SlipColumn::Bank));
 }
@@ -89,15 +76,9 @@ void SlipJob::announce(const GridRow& document) {
                        .itemLines = {}});
 }
 
-// A job of its own, then the slip's.
 void SlipJob::preparePrinter(const GridRow& document) {
     announce(document);
-    channel_.open();
-    send(twelve);
-    channel_.close();
-    channel_.open();
-    send(sixPerInch);
-    send(doubleStrike);
+    openSlipJob(channel_);
 }
 
 // The answer isn't read and a failure not shown: decision D20.

@@ -15,6 +15,18 @@ namespace {
 
 constexpr NumberMask twoPlaces{"###,##0.00"};
 constexpr std::size_t instructionWidth = 79;
+constexpr int instructionRoom = static_cast<int>(instructionWidth);
+// Room of what is printed with its name, name and value together.
+constexpr int taxNumberRoom = 58;
+constexpr int registrationRoom = 25;
+constexpr int numberRoom = 20;
+
+// ESC/P.
+constexpr std::string_view twelve = "\x0F\x1BM";  // condensed, 12 characters an inch
+constexpr std::string_view sixPerInch =
+    "\x1B"
+    "2";                                                // lines
+constexpr std::string_view doubleStrike = "\x0F\x1BG";  // condensed, double strike
 
 // One slip: its line, and the row that it is printed from.
 struct Slip {
@@ -31,6 +43,7 @@ struct Slip {
         for (int i = 0; i < pieces; ++i) {
             const std::string_view piece =
                 midOf(document.text(SlipColumn::Instruction), start, instructionWidth);
+            line.as(i == 0 ? "Instruções" : "", instructionRoom);
             line.text(piece.empty() ? " " : piece).out();
             start += instructionWidth;
         }
@@ -71,20 +84,28 @@ std::string town(const Slip& slip) {
 }
 
 void wallet57Payer(Slip& slip) {
-    slip.line.blanks(3).field(slip[SlipColumn::Customer], 54);
-    slip.line.blanks(42).field(slip[SlipColumn::CpfCnpj], 49).out();
-    slip.line.field(slip[SlipColumn::Address], 54).blanks(45);
-    slip.line.text("I.E. ").field(slip[SlipColumn::Registration], 20).out();
-    slip.line.field(town(slip), 70).out();
+    slip.line.blanks(3).as("Sacado").field(slip[SlipColumn::Customer], 54).blanks(42);
+    slip.line.as("CNPJ / CPF").field(slip[SlipColumn::CpfCnpj], 49).out();
+    slip.line.as("").field(slip[SlipColumn::Address], 54).blanks(45);
+    slip.line.as("", registrationRoom).text("I.E. ");
+    slip.line.field(slip[SlipColumn::Registration], 20).out();
+    slip.line.as("").field(town(slip), 70).out();
 }
 
 void sevenDigitPayer(Slip& slip, const SlipNumber& number) {
-    slip.line.blanks(3).field(slip[SlipColumn::Customer], 60).blanks(10);
-    slip.line.text("CNPJ/CPF ").field(slip[SlipColumn::CpfCnpj], 49).out();
-    slip.line.blanks(3).field(slip[SlipColumn::Address], 69).blanks(1);
-    slip.line.text("I.E. ").field(slip[SlipColumn::Registration], 20).out();
-    slip.line.field("   " + town(slip), 63).blanks(10).text("N.N.  ").text(number.digits);
+    slip.line.blanks(3).as("Sacado").field(slip[SlipColumn::Customer], 60).blanks(10);
+    slip.line.as("", taxNumberRoom).text("CNPJ/CPF ").field(slip[SlipColumn::CpfCnpj], 49).out();
+    slip.line.blanks(3).as("").field(slip[SlipColumn::Address], 69).blanks(1);
+    slip.line.as("", registrationRoom).text("I.E. ");
+    slip.line.field(slip[SlipColumn::Registration], 20).out();
+    slip.line.as("").field("   " + town(slip), 63).blanks(10);
+    slip.line.as("Nosso número", numberRoom).text("N.N.  ").text(number.digits);
     slip.line.text("-").text(std::to_string(number.digit)).out();
+}
+
+void send(RawChannel& channel, std::string_view sequence) {
+    std::string text(sequence);
+    channel.ImprimeRaw(1, text, 0);
 }
 
 }  // namespace
@@ -93,17 +114,27 @@ std::string slipFormName(std::int32_t bank, bool wallet57) {
     return "Boleto_" + std::to_string(bank) + (wallet57 ? "_57" : "");
 }
 
+void openSlipJob(RawChannel& channel) {
+    channel.open();
+    send(channel, twelve);
+    channel.close();
+    channel.open();
+    send(channel, sixPerInch);
+    send(channel, doubleStrike);
+}
+
 void printWallet57Lines(RawChannel& channel, const GridRow& document, const SlipNumber& number) {
     Slip slip{.line = PrintedLine(channel), .document = document};
     slip.line.blanks(1).out();
-    slip.line.blanks(100).field(slip.date(SlipColumn::Due), 16).out(3);
-    slip.line.field(slip.date(SlipColumn::Issued), 14).blanks(3);
-    slip.line.field(slip[SlipColumn::Number], 30).out();
-    slip.line.blanks(111).rightField(slip.amount(), 16).blanks(1).out(2);
+    slip.line.blanks(100).as("Vencimento").field(slip.date(SlipColumn::Due), 16).out(3);
+    slip.line.as("Data do documento").field(slip.date(SlipColumn::Issued), 14).blanks(3);
+    slip.line.as("Número do documento").field(slip[SlipColumn::Number], 30).out();
+    slip.line.blanks(111).as("(=) Valor do documento").rightField(slip.amount(), 16);
+    slip.line.blanks(1).out(2);
     slip.instruction(3);
-    slip.line.blanks(1).out();
-    slip.line.text(charges(slip)).out();
-    slip.line.text("NOSSO NUMERO: ").text(number.digits).text("/");
+    slip.line.as("", instructionRoom).text(" ").out();
+    slip.line.as("", instructionRoom).text(charges(slip)).out();
+    slip.line.as("", instructionRoom).text("NOSSO NUMERO: ").text(number.digits).text("/");
     slip.line.text(std::to_string(number.digit)).blanks(3);
     slip.line.text("CODIGO CLIENTE: ").text(slip[SlipColumn::ExternalCode]).out(2);
     wallet57Payer(slip);
@@ -113,15 +144,18 @@ void printWallet57Lines(RawChannel& channel, const GridRow& document, const Slip
 void printSevenDigitLines(RawChannel& channel, const GridRow& document, const SlipNumber& number) {
     Slip slip{.line = PrintedLine(channel), .document = document};
     slip.line.out();
+    slip.line.as("Local de pagamento", instructionRoom);
     slip.line.text("ATE O VENCIMENTO, PREFERENCIALMENTE NO SANTANDER").out();
-    slip.line.text("APOS O VENCIMENTO, SOMENTE NO SANTANDER").blanks(45);
-    slip.line.field(slip.date(SlipColumn::Due), 16).out(3);
-    slip.line.field(slip.date(SlipColumn::Issued), 14).blanks(1);
-    slip.line.field(slip[SlipColumn::Number], 30).out();
-    slip.line.blanks(90).rightField(slip.amount(), 16).blanks(1).out(2);
+    slip.line.as("", instructionRoom).text("APOS O VENCIMENTO, SOMENTE NO SANTANDER").blanks(45);
+    slip.line.as("Vencimento").field(slip.date(SlipColumn::Due), 16).out(3);
+    slip.line.as("Data do documento").field(slip.date(SlipColumn::Issued), 14).blanks(1);
+    slip.line.as("Número do documento").field(slip[SlipColumn::Number], 30).out();
+    slip.line.blanks(90).as("(=) Valor do documento").rightField(slip.amount(), 16);
+    slip.line.blanks(1).out(2);
     slip.instruction(4);
+    slip.line.as("", instructionRoom);
     slip.line.text("COBRAR MULTA DE ").text(formattedFine(slip)).text("% + JUROS DE").out();
-    slip.line.text(formattedInterest(slip)).text(" AO DIA").out(2);
+    slip.line.as("", instructionRoom).text(formattedInterest(slip)).text(" AO DIA").out(2);
     sevenDigitPayer(slip, number);
     slip.line.out(6);
 }

@@ -1,0 +1,43 @@
+// Draws a form by printing on it: a document's own routine sends its bytes to a printer here,
+// and wherever it places a field there is a box.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "common/field_watch.h"
+#include "dotmatrix/continuous_paper.h"
+#include "dotmatrix/escp_interpreter.h"
+#include "dotmatrix/form_design.h"
+#include "platform/spooler.h"
+
+namespace tarn::dotmatrix {
+
+class FormTracer : public Spooler, public FieldWatch {
+public:
+    explicit FormTracer(const FormPitch& pitch = {});
+
+    // As far down as the document went.
+    PaperUnits height() const { return paper_.y(); }
+    // A box of one line that goes on with the one above, of its place and width, is part of it.
+    std::vector<FormBox> boxes() const;
+
+    void placed(std::span<const PlacedField> fields) override;
+
+    std::string defaultPrinter() override { return {}; }
+    bool openPrinter(const std::string& name) override;
+    bool startDocument(const JobDescription& job) override;
+    bool startPage() override { return true; }
+    std::size_t write(std::string_view bytes) override;
+    bool endPage() override { return true; }
+    bool endDocument() override { return true; }
+    bool closePrinter() override { return true; }
+
+private:
+    ContinuousPaper paper_;
+    EscpInterpreter printer_;
+    std::vector<FormBox> boxes_;
+};
+
+}  // namespace tarn::dotmatrix
