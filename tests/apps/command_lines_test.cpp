@@ -4,6 +4,7 @@
 
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <algorithm>
 
 #include "runtime/version.h"
 
@@ -66,12 +67,18 @@ TEST_P(EveryProgram, RefusesAnOptionThatItDoesNotKnow) {
                                            " --ajuda para ver as opções.\n"));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, EveryProgram,
-    testing::Values(Program{"tarnemissao", TARNEMISSAO}, Program{"tarnimpressora", TARNIMPRESSORA},
-                    Program{"tarnimprime", TARNIMPRIME}, Program{"tarnroteiro", TARNROTEIRO},
-                    Program{"tarnservidor", TARNSERVIDOR}),
-    [](const testing::TestParamInfo<Program>& each) { return std::string(each.param.name); });
+INSTANTIATE_TEST_SUITE_P(All, EveryProgram,
+                         testing::Values(Program{"tarnemissao", TARNEMISSAO},
+                                         Program{"tarnemissao-treino", TARNEMISSAO_TREINO},
+                                         Program{"tarnimpressora", TARNIMPRESSORA},
+                                         Program{"tarnimprime", TARNIMPRIME},
+                                         Program{"tarnroteiro", TARNROTEIRO},
+                                         Program{"tarnservidor", TARNSERVIDOR}),
+                         [](const testing::TestParamInfo<Program>& each) {
+                             std::string name = each.param.name;
+                             std::ranges::replace(name, '-', '_');
+                             return name;
+                         });
 
 TEST(TheWalk, SaysThatItNeedsAFolder) {
     const Ran ran = run(TARNROTEIRO, {});

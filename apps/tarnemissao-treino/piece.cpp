@@ -1,0 +1,97 @@
+#include "apps/tarnemissao-treino/piece.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#ifdef Q_OS_LINUX
+#include <sys/prctl.h>
+#include <unistd.h>
+
+#include <csignal>
+#endif
+
+namespace tarn::practice {
+namespace {
+
+constexpr int mostRestarts = 3;
+constexpr int patienceMs = 3000;
+
+// Whatever becomes of this program, the piece ends with it.
+void endWithThisProgram([[maybe_unused]] QProcess& process) {
+#ifdef Q_OS_LINUX
+    process.setChildProcessModifier([parent = getpid()] {
+        prctl(PR_SET_PDEATHSIG, SIGTERM);
+        if (getppid() != parent) {  // gone before it was asked for
+            _exit(1);
+        }
+    });
+#endif
+}
+
+// A signal by which somebody asks a program to end; of a program that a signal ended, Qt tells
+// the signal's number as its status.
+bool wasAskedToEnd([[maybe_unused]] int signal) {
+#ifdef Q_OS_LINUX
+    return signal == SIGTERM || signal == SIGINT || signal == SIGHUP;
+#else
+    return false;
+#endif
+}
+
+}  // namespace
+
+Piece::Piece(const QString& program, const QString& told, QObject* parent)
+    : QObject(parent), program_(program) {
+    endWithThisProgram(process_);
+    process_.setStandardErrorFile(told, QIODevice::Append);
+    connect(&process_, &QProcess::readyReadStandardOutput, this, &Piece::read);
+    connect(&process_, &QProcess::finished, this, &Piece::finished);
+    connect(&process_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) {
+            emit ended(1, true);
+        }
+    });
+}
+
+Piece::~Piece() {
+    stop();
+}
+
+void Piece::start(const QStringList& arguments) {
+    arguments_ = arguments;
+    process_.start(QDir(QCoreApplication::applicationDirPath()).filePath(program_), arguments_);
+}
+
+void Piece::stop() {
+    stopping_ = true;
+    if (!isRunning()) {
+        return;
+    }
+    process_.terminate();
+    if (!process_.waitForFinished(patienceMs)) {
+        process_.kill();
+        process_.waitForFinished(patienceMs);
+    }
+}
+
+void Piece::read() {
+    while (process_.canReadLine()) {
+        emit said(QString::fromUtf8(process_.readLine()).trimmed());
+    }
+}
+
+void Piece::finished(int status, QProcess::ExitStatus how) {
+    if (stopping_) {
+        return;
+    }
+    if (how == QProcess::NormalExit || wasAskedToEnd(status)) {
+        emit ended(how == QProcess::NormalExit ? status : 0, false);
+    } else if (restarts_ < mostRestarts) {
+        ++restarts_;
+        start(arguments_);
+    } else {
+        emit ended(status, true);
+    }
+}
+
+}  // namespace tarn::practice
