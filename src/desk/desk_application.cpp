@@ -8,10 +8,12 @@
 #include "widgets/focus_return.h"
 #include "widgets/gesture_filter.h"
 #include "widgets/look.h"
+#include "widgets/manual.h"
 
 namespace tarn {
 
-DeskApplication::DeskApplication(int& argc, char** argv) : QApplication(argc, argv) {
+DeskApplication::DeskApplication(int& argc, char** argv)
+    : QApplication(argc, argv), manualKey_(new ManualKey(*this)) {
     setApplicationName(QStringLiteral("TarnEmissao"));
     setQuitOnLastWindowClosed(false);  // the program ends where it says so, nowhere else
     new GestureFilter(*this);

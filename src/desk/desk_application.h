@@ -10,6 +10,8 @@ namespace tarn {
 
 struct DeskContext;
 
+class ManualKey;
+
 class DeskApplication : public QApplication {
     Q_OBJECT
 
@@ -22,10 +24,13 @@ public:
     // Who is told of an exception that came out of an event handler.
     void setErrorReport(ErrorReport report) { report_ = std::move(report); }
 
+    ManualKey& manualKey() { return *manualKey_; }
+
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:
     ErrorReport report_;
+    ManualKey* manualKey_;
 };
 
 // Shows the run time's report of the exception and ends the program with status 3.

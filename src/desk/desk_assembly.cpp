@@ -9,6 +9,7 @@
 #include "platform/directory/picture_folder.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/system_spooler.h"
+#include "widgets/manual.h"
 
 namespace tarn {
 
@@ -52,6 +53,10 @@ Desk::Desk(DeskApplication& program, const Options& options, Printers printers)
         menu_.showServer(QString::fromStdString(shownAddress(options.baseUrl)));
     }
     QObject::connect(&teller_, &Teller::lineChanged, &menu_, &MDIMenu::tell);
+    QObject::connect(&program_.manualKey(), &ManualKey::notOpened, &menu_,
+                     [this](const QString& trouble) {
+                         boxes_.show({.text = trouble.toStdString(), .icon = BoxIcon::Exclamation});
+                     });
     program_.setErrorReport([this](const std::exception_ptr& error) { reportError(desk_, error); });
     QObject::connect(&end_, &ProgramEnd::didEnd, &program_, [this](int status) {
         menu_.hide();

@@ -5,9 +5,11 @@
 #include "desk/server_address.h"
 #include "desk/start.h"
 #include "maker.h"
+#include "platform/message_boxes.h"
 #include "runtime/version.h"
 #include "ui_frm_ajuda.h"
 #include "widgets/look.h"
+#include "widgets/manual.h"
 #include "widgets/shortcuts.h"
 
 namespace tarn {
@@ -28,6 +30,13 @@ frmAjuda::frmAjuda(DeskContext& desk, QWidget* parent)
     ui_->Label5->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     giveKeys(*ui_->cmdVoltar, {ScreenKey::Escape, ScreenKey::Close});
+    ui_->cmdVoltar->setFocus();
+    connect(ui_->cmdManual, &QPushButton::clicked, this, [this] {
+        const std::string trouble = openManual(nullptr);
+        if (!trouble.empty()) {
+            desk_.environment.boxes.show({.text = trouble, .icon = BoxIcon::Exclamation});
+        }
+    });
     connect(ui_->cmdVoltar, &QPushButton::clicked, this, &QDialog::accept);
 }
 

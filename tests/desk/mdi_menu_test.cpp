@@ -10,6 +10,7 @@
 #include "tests/support/answers.h"
 #include "tests/support/boxes.h"
 #include "tests/support/screen_test.h"
+#include "tests/support/shipped_manual.h"
 #include "tests/support/texts.h"
 
 namespace tarn::test {
@@ -262,6 +263,28 @@ TEST_F(MDIMenuTest, HelpTellsHowToReachSupportAndWhatToTellIt) {
         click(help, "cmdVoltar");
     });
     choose(menu, "mnuAjuda");
+}
+
+TEST_F(MDIMenuTest, HelpOpensTheManualOrSaysThatThereIsNone) {
+    logOn();
+    modals.then("frmAjuda", [](QWidget& help) {
+        EXPECT_TRUE(named<QWidget>(help, "cmdVoltar").hasFocus());
+        const ShippedManual manual;
+        click(help, "cmdManual");
+        EXPECT_EQ(manual.opened(), (QStringList{manual.page("index.html")}));
+        click(help, "cmdVoltar");
+    });
+    choose(menu, "mnuAjuda");
+    EXPECT_TRUE(boxes.shown.empty());
+    modals.then("frmAjuda", [](QWidget& help) {
+        const ShippedManual none{QStringList()};
+        click(help, "cmdManual");
+        EXPECT_EQ(none.opened(), QStringList());
+        click(help, "cmdVoltar");
+    });
+    choose(menu, "mnuAjuda");
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_THAT(boxes.shown[0].text, testing::StartsWith("O manual não está nesta máquina."));
 }
 
 TEST_F(MDIMenuTest, HelpAsksNothingOfAServerThatMayBeDown) {
