@@ -63,8 +63,8 @@ int main(int argc, char** argv) {
         "tarnemissao-treino",
         "Abre a mesa de emissão para treino, com dados inventados e impressora virtual.");
     line.text("--pasta", path,
-              "pasta do papel e dos dados do treino, esvaziada no começo (usual: "
-              "~/.local/share/tarnemissao/treino)")
+              "pasta do papel e dos dados do treino; o que o treino anterior deixou nela é apagado "
+              "(usual: ~/.local/share/tarnemissao/treino)")
         .called("PASTA");
     line.footer(
         "\nFim do programa: o da mesa; 1 quando o treino não abriu ou um programa dele parou.");

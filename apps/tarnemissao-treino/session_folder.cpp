@@ -13,10 +13,10 @@ QString usualFolder() {
 
 // What a session leaves in its folder, which may hold files of the user.
 QStringList ownFiles() {
-    return {QStringLiteral("job-*.prn"),    QStringLiteral("job-*.pdf"),
-            QStringLiteral("nota.pdf"),     QStringLiteral("treino.db*"),
-            QStringLiteral("servidor.txt"), QStringLiteral("impressora.txt"),
-            QStringLiteral("mesa.txt")};
+    return {QStringLiteral("job-*.prn"),      QStringLiteral("job-*.kind"),
+            QStringLiteral("job-*.pdf"),      QStringLiteral("nota.pdf"),
+            QStringLiteral("treino.db*"),     QStringLiteral("servidor.txt"),
+            QStringLiteral("impressora.txt"), QStringLiteral("mesa.txt")};
 }
 
 }  // namespace
