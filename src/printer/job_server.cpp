@@ -4,6 +4,7 @@
 #include <QTcpSocket>
 #include <QTime>
 #include <algorithm>
+#include <utility>
 
 #include "printer/sender_end.h"
 
@@ -15,7 +16,7 @@ public:
     Sender(qintptr handle, QObject* parent) : QTcpSocket(parent), end_(handle) {
         setSocketDescriptor(handle);
     }
-    void refuse() { end_.refuse(); }
+    // Its job is taken, or it has sent none.
     void letGo() { end_.close(); }
 
 private:
@@ -67,6 +68,7 @@ void JobServer::incomingConnection(qintptr handle) {
     // What is more waits in the sender.
     socket->setReadBufferSize(readAtOnce);
     if (socket->socketDescriptor() == -1 || !makeRoom()) {
+        socket->letGo();  // what it may have sent makes a reset of it all the same
         delete socket;
         return;
     }
@@ -94,6 +96,7 @@ bool JobServer::makeRoom() {
         return false;
     }
     (*silent)->disconnect(this);
+    (*silent)->letGo();
     (*silent)->deleteLater();
     waiting_.erase(silent);
     return true;
@@ -136,7 +139,6 @@ void JobServer::readSome() {
         patience_.start();
         if (!intake_.take(current_->read(readAtOnce))) {
             begun_ = false;  // the intake has ended it
-            current_->refuse();
             return finish({});
         }
         if (current_->bytesAvailable() > 0) {
@@ -160,13 +162,9 @@ void JobServer::finish(const QString& remark) {
     current_ = nullptr;
     sender->disconnect(this);
     sender->abort();
-    if (begun_) {
-        begun_ = false;
-        if (!intake_.end(remark)) {
-            sender->refuse();
-        }
+    if (std::exchange(begun_, false) && intake_.end(remark)) {
+        sender->letGo();
     }
-    sender->letGo();
     sender->deleteLater();
     startNext();
 }

@@ -29,8 +29,8 @@ void closeHandle(qintptr socket) {
     closesocket(static_cast<SOCKET>(socket));
 }
 
-void resetOnClose(qintptr socket) {
-    const linger atOnce{.l_onoff = 1, .l_linger = 0};
+void setResetOnClose(qintptr socket, bool reset) {
+    const linger atOnce{.l_onoff = reset, .l_linger = 0};
     setsockopt(static_cast<SOCKET>(socket), SOL_SOCKET, SO_LINGER,
                reinterpret_cast<const char*>(&atOnce), sizeof atOnce);
 }
@@ -49,8 +49,8 @@ void closeHandle(qintptr socket) {
     ::close(static_cast<int>(socket));
 }
 
-void resetOnClose(qintptr socket) {
-    const linger atOnce{.l_onoff = 1, .l_linger = 0};
+void setResetOnClose(qintptr socket, bool reset) {
+    const linger atOnce{.l_onoff = reset, .l_linger = 0};
     setsockopt(static_cast<int>(socket), SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
 }
 
@@ -58,21 +58,21 @@ void resetOnClose(qintptr socket) {
 
 #endif
 
-SenderEnd::SenderEnd(qintptr socket) : socket_(secondHandle(socket)) {}
-
-SenderEnd::~SenderEnd() {
-    close();
+SenderEnd::SenderEnd(qintptr socket) : socket_(secondHandle(socket)) {
+    if (socket_ != -1) {
+        setResetOnClose(socket_, true);
+    }
 }
 
-void SenderEnd::refuse() {
+SenderEnd::~SenderEnd() {
     if (socket_ != -1) {
-        resetOnClose(socket_);
+        closeHandle(socket_);
     }
-    close();
 }
 
 void SenderEnd::close() {
     if (socket_ != -1) {
+        setResetOnClose(socket_, false);
         closeHandle(socket_);
         socket_ = -1;
     }
