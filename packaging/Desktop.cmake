@@ -52,7 +52,4 @@ if(TARN_BUILD_TOOLS)
 endif()
 if(TARN_BUILD_PRACTICE)
   tarn_menu_entry(tarnemissao-treino practice)
-  # Forms of a bank and of a cheque, which are no company's.
-  install(DIRECTORY "${PROJECT_SOURCE_DIR}/practice/forms/"
-          DESTINATION "${CMAKE_INSTALL_DATADIR}/tarnemissao/formularios" COMPONENT practice)
 endif()
