@@ -1,6 +1,11 @@
 # Manual pages and completions, from what each program tells of its own command line.
 string(REGEX REPLACE "(..)/(..)/(....)" "\\3-\\2-\\1" version_day "${TARN_VERSION_DATE}")
 find_program(TARN_GZIP gzip)
+# A program that only describes itself needn't account for its memory.
+set(with_python "${TARN_PYTHON}" -B)
+if(TARN_SANITIZE)
+  list(PREPEND with_python "${CMAKE_COMMAND}" -E env ASAN_OPTIONS=detect_leaks=0)
+endif()
 set(description_scripts completion.py description.py man_page.py)
 
 # tarn_document(PROGRAM COMPONENT): its page and completion, made with all.
@@ -12,10 +17,10 @@ function(tarn_document program component)
   list(JOIN others "," others)
   file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/completions")
   add_custom_command(OUTPUT "${page}.gz" "${completion}"
-    COMMAND "${TARN_PYTHON}" -B "${CMAKE_CURRENT_SOURCE_DIR}/man_page.py" "$<TARGET_FILE:${program}>"
+    COMMAND ${with_python} "${CMAKE_CURRENT_SOURCE_DIR}/man_page.py" "$<TARGET_FILE:${program}>"
             "${PROJECT_VERSION}" "${version_day}" "${others}" "${page}"
     COMMAND "${TARN_GZIP}" -9 -n -f -k "${page}"
-    COMMAND "${TARN_PYTHON}" -B "${CMAKE_CURRENT_SOURCE_DIR}/completion.py"
+    COMMAND ${with_python} "${CMAKE_CURRENT_SOURCE_DIR}/completion.py"
             "$<TARGET_FILE:${program}>" "${completion}"
     DEPENDS ${program} ${description_scripts}
     COMMENT "Making the manual page of ${program}" VERBATIM)

@@ -3,9 +3,9 @@ import sys
 
 from description import ask
 
-# The kinds of values that are names of folders, and those that name nothing on the machine.
+# The kinds of values that are names of files and folders; all others stay as typed.
 FOLDERS = ("PASTA",)
-NO_FILES = ("N", "URL", "IP", "DATA", "NOME", "COMANDO=FALHA")
+FILES = ("ARQUIVO", "BANCO")
 
 TEMPLATE = """\
 # bash completion for {name}
@@ -50,7 +50,7 @@ def of_value(option):
         return words(option.words)
     if option.kind in FOLDERS:
         return FOLDER_NAMES
-    return ":" if option.kind in NO_FILES else FILE_NAMES
+    return FILE_NAMES if option.kind in FILES else ":"
 
 
 def names_of(options):
@@ -84,7 +84,8 @@ def plain_words(program):
     if program.commands:
         names = words(command.name for command in program.commands)
         return (f"elif [[ -z $command ]]; then\n        {names}\n    else\n        {FILE_NAMES}")
-    return f"else\n        {FILE_NAMES if program.values else ':'}"
+    takes_files = any(value.kind in FILES for value in program.values)
+    return f"else\n        {FILE_NAMES if takes_files else ':'}"
 
 
 def completion(program):

@@ -13,7 +13,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr int widthInCharacters = 48;
+constexpr int widthInCharacters = 56;
 constexpr int edge = 24;  // pixels, with the window's frame
 
 }  // namespace
@@ -31,6 +31,7 @@ NoticeWindow::NoticeWindow(const SessionFolder& folder) {
     setWindowTitle(QStringLiteral("Treino do TarnEmissao"));
     // The desk and the paper fill most monitors, and this tells what to type there.
     setWindowFlag(Qt::WindowStaysOnTopHint);
+    setAttribute(Qt::WA_ShowWithoutActivating);
     auto* text = new QLabel(noticeText(folder), this);
     text->setObjectName(QStringLiteral("text"));
     text->setTextFormat(Qt::PlainText);

@@ -102,7 +102,8 @@ void declareJobs(cli::CommandLine& line, Options& options, Panel& panel) {
     line.whole("--quantos", panel.endAfter, 1, mostJobs,
                "termina depois de tantos trabalhos recebidos");
     line.texts("trabalhos", options.jobs,
-               "trabalhos crus (.prn), impressos um após o outro no mesmo papel");
+               "trabalhos crus (.prn), impressos um após o outro no mesmo papel")
+        .called("ARQUIVO");
 }
 
 void declareHolding(cli::CommandLine& line, Options& options) {

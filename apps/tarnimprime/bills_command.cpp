@@ -47,12 +47,18 @@ void declareBills(cli::CommandLine& line, Choice& choice) {
     cli::Command command = line.command("duplicatas", "imprime duplicatas e recibos");
     const auto request = std::make_shared<Request>();
     command.whole("--empresa", request->company, "Código da empresa").required();
-    command.text("--dados", request->data, "dados da empresa (EMP.xml)").required();
+    command.text("--dados", request->data, "dados da empresa (EMP.xml)")
+        .called("ARQUIVO")
+        .required();
     command.flag("--triplicata", request->triplicate, "triplicatas em vez de duplicatas");
     declareTicks(command, request->tick);
-    command.text("--pasta-figuras", request->pictureFolder,
-                 "pasta das figuras da página (LOGODUPL.jpg e outras)");
-    command.texts("documentos", request->documents, "documentos da pesquisa (DOCS.xml)").required();
+    command
+        .text("--pasta-figuras", request->pictureFolder,
+              "pasta das figuras da página (LOGODUPL.jpg e outras)")
+        .called("PASTA");
+    command.texts("documentos", request->documents, "documentos da pesquisa (DOCS.xml)")
+        .called("ARQUIVO")
+        .required();
     command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
     });

@@ -57,8 +57,10 @@ void declareLabels(cli::CommandLine& line, Choice& choice) {
     command
         .text("--formulario", request->form, "1 PIMACO 6280, 2 matricial, 3 A5, 4 A4 com remetente")
         .required();
-    command.text("--remetente", request->sender, "dados do remetente (REM.xml)").required();
-    command.texts("documentos", request->files, "etiquetas (ETQ.xml)").required();
+    command.text("--remetente", request->sender, "dados do remetente (REM.xml)")
+        .called("ARQUIVO")
+        .required();
+    command.texts("documentos", request->files, "etiquetas (ETQ.xml)").called("ARQUIVO").required();
     command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
     });
@@ -69,7 +71,9 @@ void declareLabelSelection(cli::CommandLine& line, Choice& choice) {
         line.command("etiquetas-selecao", "imprime etiquetas da seleção de clientes");
     const auto request = std::make_shared<SelectionRequest>();
     declareTicks(command, request->tick);
-    command.texts("documentos", request->files, "clientes da pesquisa (ROWS.xml)").required();
+    command.texts("documentos", request->files, "clientes da pesquisa (ROWS.xml)")
+        .called("ARQUIVO")
+        .required();
     command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
     });

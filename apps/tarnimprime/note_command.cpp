@@ -136,7 +136,9 @@ void declareNote(cli::CommandLine& line, Choice& choice) {
     const auto request = std::make_shared<Request>();
     declareSession(command, *request);
     command.text("--numero", request->number, "Número da nota").required();
-    command.texts("documentos", request->files, "documentos de nota (DOC.xml)").required();
+    command.texts("documentos", request->files, "documentos de nota (DOC.xml)")
+        .called("ARQUIVO")
+        .required();
     command.flag("--confere", request->check,
                  "Não imprime: diz o que a nota perde no seu formulário (status 4 se perde)");
     command.whenChosen([&choice, request] {

@@ -40,7 +40,9 @@ void declareOrder(cli::CommandLine& line, Choice& choice) {
     cli::Command command = line.command("ordem", "imprime folhas de ordem de faturamento");
     const auto request = std::make_shared<Request>();
     command.whole("--empresa", request->session.NCOMPANYCODE, "Código da empresa").required();
-    command.texts("documentos", request->files, "documentos de ordem (DOC.xml)").required();
+    command.texts("documentos", request->files, "documentos de ordem (DOC.xml)")
+        .called("ARQUIVO")
+        .required();
     command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
     });

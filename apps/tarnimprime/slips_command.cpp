@@ -98,7 +98,9 @@ void declareSlips(cli::CommandLine& line, Choice& choice) {
     command.whole("--empresa", request->session.NCOMPANYCODE, "Código da empresa").required();
     command.whole("--estabelecimento", request->session.ID_ETB_TARN, "Código do estabelecimento")
         .required();
-    command.text("--carteira", request->portfolio, "carteira de cobrança (CART.xml)").required();
+    command.text("--carteira", request->portfolio, "carteira de cobrança (CART.xml)")
+        .called("ARQUIVO")
+        .required();
     command
         .text("--proximo", request->slips.next,
               "Número do próximo boleto, sem agência e sem dígito verificador")
@@ -106,7 +108,9 @@ void declareSlips(cli::CommandLine& line, Choice& choice) {
     command.flag("--inclui-carteira", request->slips.includesPortfolio,
                  "inclui os documentos na carteira: vale o banco dela, não o de cada um");
     declareTicks(command, request->tick);
-    command.texts("documentos", request->documents, "documentos da pesquisa (DOCS.xml)").required();
+    command.texts("documentos", request->documents, "documentos da pesquisa (DOCS.xml)")
+        .called("ARQUIVO")
+        .required();
     command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
     });
