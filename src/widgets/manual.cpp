@@ -7,12 +7,22 @@
 #include <QKeyEvent>
 #include <QUrl>
 #include <QWidget>
+#include <array>
 
 namespace tarn {
 namespace {
 
-// From the folder of the programs: where it is installed, and in the build tree.
-constexpr char manualFolder[] = "/../share/tarnemissao/manual";
+// From the folder of the programs: where it is installed, and in the build tree; and where
+// everything lies in one folder.
+constexpr std::array manualFolders{"/../share/tarnemissao/manual", "/manual"};
+
+QStringList foldersOfManual() {
+    QStringList folders;
+    for (const char* folder : manualFolders) {
+        folders += QCoreApplication::applicationDirPath() + QLatin1StringView(folder);
+    }
+    return folders;
+}
 
 // Empty: there is none of that name.
 QString pageFile(const QString& name) {
@@ -51,8 +61,7 @@ std::string openManual(const QWidget* widget) {
 }
 
 ManualKey::ManualKey(QApplication& application) : QObject(&application) {
-    QDir::setSearchPaths(QLatin1StringView(manualPrefix), {QCoreApplication::applicationDirPath() +
-                                                           QLatin1StringView(manualFolder)});
+    QDir::setSearchPaths(QLatin1StringView(manualPrefix), foldersOfManual());
     application.installEventFilter(this);
 }
 
