@@ -16,7 +16,7 @@ constexpr std::size_t noticesShown = 50;
 
 bool readJob(const std::string& file, QByteArray& bytes) {
     constexpr qint64 most = dotmatrix::JobIntake::maxJobBytes;
-    QFile in(QFile::decodeName(file.c_str()));
+    QFile in(QString::fromStdString(file));
     // A directory opens on some systems and then reads as nothing.
     const bool read = in.open(QIODevice::ReadOnly) &&
                       (bytes = in.read(most + 1), in.error() == QFileDevice::NoError);
@@ -38,7 +38,7 @@ bool written(const std::optional<QString>& failure, const std::string& file) {
     if (failure) {
         complain(QStringLiteral("não foi possível gravar \"%1\" (%2). "
                                 "Confira a pasta, a permissão e o espaço em disco.")
-                     .arg(QFile::decodeName(file.c_str()), *failure));
+                     .arg(QString::fromStdString(file), *failure));
     }
     return !failure;
 }
@@ -86,7 +86,7 @@ std::size_t showNotices(const dotmatrix::NoticeLog& notices, std::size_t from) {
 
 bool writeFiles(const Options& options, const dotmatrix::PaintOptions& looks,
                 dotmatrix::PaperRoll& roll) {
-    const auto name = [](const std::string& file) { return QFile::decodeName(file.c_str()); };
+    const auto name = [](const std::string& file) { return QString::fromStdString(file); };
     const dotmatrix::PaperPages paper = roll.pages();
     return (options.pdf.empty() ||
             written(writePdf(paper, looks, name(options.pdf)), options.pdf)) &&

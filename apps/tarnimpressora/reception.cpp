@@ -1,7 +1,6 @@
 #include "apps/tarnimpressora/reception.h"
 
 #include <QDir>
-#include <QFile>
 #include <QHostAddress>
 
 namespace tarn::printer {
@@ -38,7 +37,7 @@ QString Reception::listen(const Options& options) {
 }
 
 QString Reception::watch(const Options& options, bool patient) {
-    const QString folder = QFile::decodeName(options.folder.c_str());
+    const QString folder = QString::fromStdString(options.folder);
     const bool there = QDir().mkpath(folder);
     if (!there && !patient) {
         return QStringLiteral(

@@ -13,6 +13,7 @@
 #include "notes/losses.h"
 #include "notes/print_note.h"
 #include "platform/http_loader.h"
+#include "runtime/file_names.h"
 #include "runtime/runtime_error.h"
 #include "runtime/text.h"
 
@@ -90,10 +91,11 @@ bool check(const Request& request, PrintEnvironment& desk) {
 // Of one larger than an answer may be so much that it shows.
 std::optional<std::string> content(const std::string& file) {
     std::error_code failure;
-    if (std::filesystem::is_directory(file, failure)) {
+    const std::filesystem::path path = pathOf(file);
+    if (std::filesystem::is_directory(path, failure)) {
         return std::nullopt;
     }
-    std::ifstream input(file, std::ios::binary);
+    std::ifstream input(path, std::ios::binary);
     if (!input.is_open()) {
         return std::nullopt;
     }

@@ -8,6 +8,7 @@
 #include "platform/directory/ops_printer.h"
 #include "platform/directory/picture_folder.h"
 #include "platform/system_spooler.h"
+#include "runtime/file_names.h"
 #include "runtime/text.h"
 
 namespace tarn::print {
@@ -68,8 +69,8 @@ TimeOfDay SystemClock::timeOfDay() {
 PrintEnvironment::PrintEnvironment(const GlobalOptions& options) : options_(options) {}
 
 void PrintEnvironment::prepareFolder() {
-    const auto files = std::make_shared<JobFiles>(std::filesystem::path(*options_.destination),
-                                                  JobNumbering::FromOne);
+    const auto files =
+        std::make_shared<JobFiles>(pathOf(*options_.destination), JobNumbering::FromOne);
     if (!files->makeDirectory()) {
         throw cli::WrongUsage("não foi possível criar a pasta \"" + *options_.destination +
                               "\". Confira o nome e a permissão de gravação.");

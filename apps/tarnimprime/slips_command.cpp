@@ -7,6 +7,7 @@
 #include "apps/tarnimprime/print_environment.h"
 #include "apps/tarnimprime/ticks.h"
 #include "platform/message_boxes.h"
+#include "runtime/file_names.h"
 #include "runtime/text.h"
 #include "slips/portfolio.h"
 #include "slips/print_slips.h"
@@ -35,7 +36,7 @@ public:
             return;
         }
         const std::string file = *folder + "/requests.txt";
-        output_.open(file, std::ios::binary | std::ios::trunc);
+        output_.open(pathOf(file), std::ios::binary | std::ios::trunc);
         if (!output_) {
             throw cli::WrongUsage("não foi possível gravar \"" + file +
                                   "\". Confira a permissão de gravação.");

@@ -8,13 +8,14 @@
 #include "common/tax_number.h"
 #include "gateway/answer.h"
 #include "gateway/pega_valor.h"
+#include "runtime/file_names.h"
 #include "runtime/runtime_error.h"
 
 namespace tarn {
 namespace {
 
 std::optional<Picture> pictureOf(const std::string& folder, const char* file, const char* name) {
-    const std::filesystem::path path = std::filesystem::path(folder) / file;
+    const std::filesystem::path path = pathOf(folder) / file;
     std::error_code failure;
     if (!std::filesystem::is_regular_file(path, failure)) {
         return std::nullopt;

@@ -9,6 +9,7 @@
 #include "platform/directory/picture_folder.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/system_spooler.h"
+#include "runtime/file_names.h"
 #include "widgets/manual.h"
 
 namespace tarn {
@@ -17,7 +18,7 @@ Printers printersOf(const Options& options) {
     if (options.virtualPrinter.empty()) {
         return {makeSystemSpooler(), std::make_unique<QtPrinter>()};
     }
-    const auto files = std::make_shared<JobFiles>(options.virtualPrinter);
+    const auto files = std::make_shared<JobFiles>(pathOf(options.virtualPrinter));
     return {std::make_unique<DirectorySpooler>(files), std::make_unique<QtPrinter>(files)};
 }
 
@@ -26,7 +27,7 @@ std::string printerObstacle(const Options& options, const Printers& printers) {
         return "este programa foi compilado sem impressora do sistema; use --impressora-virtual "
                "PASTA.";
     }
-    if (!options.virtualPrinter.empty() && !JobFiles(options.virtualPrinter).canWrite()) {
+    if (!options.virtualPrinter.empty() && !JobFiles(pathOf(options.virtualPrinter)).canWrite()) {
         return "--impressora-virtual \"" + options.virtualPrinter +
                "\": não é possível gravar nesta pasta. Confira o nome e a permissão.";
     }

@@ -2,6 +2,7 @@
 target_sources(tarn_platform PRIVATE
   directory/directory_spooler.cpp
   directory/job_files.cpp
+  directory/new_file.cpp
   system_spooler.cpp)
 
 if(WIN32)

@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/own_directory.h"
+
 namespace tarn::test {
 
 namespace fs = std::filesystem;
@@ -37,13 +39,6 @@ struct Result {
 // Runs the program in a directory of its own; jobs go to "papel" in it.
 class Tarnimprime : public testing::Test {
 protected:
-    void SetUp() override {
-        std::string pattern = (fs::temp_directory_path() / "tarnimprime-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-        room_ = pattern;
-    }
-    void TearDown() override { fs::remove_all(room_); }
-
     Result run(const std::vector<std::string>& words) const {
         std::string command = quoted(TARNIMPRIME);
         for (const std::string& word : words) {
@@ -65,7 +60,8 @@ protected:
     std::string job(const std::string& name) const { return contentOf(room_ / "papel" / name); }
     bool hasJob(const std::string& name) const { return fs::exists(room_ / "papel" / name); }
 
-    fs::path room_;
+    OwnDirectory own_{u8"tarnimprime"};
+    const fs::path& room_ = own_.path();
 };
 
 }  // namespace tarn::test

@@ -3,6 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+
+#include "runtime/file_names.h"
+#include "tests/support/own_directory.h"
 
 namespace tarn::test {
 namespace {
@@ -14,17 +18,18 @@ std::string obstacle(const std::string& virtualPrinter) {
 }
 
 TEST(PrinterObstacle, AFolderThatCanBeWrittenIsNone) {
-    std::string folder = (std::filesystem::temp_directory_path() / "tarn-desk-XXXXXX").string();
-    ASSERT_NE(mkdtemp(folder.data()), nullptr);
-    EXPECT_EQ(obstacle(folder + "/saida"), "");
-    std::filesystem::remove_all(folder);
+    const OwnDirectory folder(u8"José");
+    EXPECT_EQ(obstacle(nameOf(folder.path()) + "/saida"), "");
+    EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "saida"));
 }
 
 TEST(PrinterObstacle, AFolderThatCantBeWrittenIsNamed) {
-    EXPECT_EQ(
-        obstacle("/dev/null/saida"),
-        "--impressora-virtual \"/dev/null/saida\": não é possível gravar nesta pasta. Confira "
-        "o nome e a permissão.");
+    const OwnDirectory folder;
+    const std::string file = nameOf(folder.path() / "arquivo");
+    std::ofstream(pathOf(file)) << "a";
+    EXPECT_EQ(obstacle(file + "/saida"), "--impressora-virtual \"" + file +
+                                             "/saida\": não é possível gravar nesta pasta. Confira "
+                                             "o nome e a permissão.");
 }
 
 TEST(PrinterObstacle, AProgramBuiltWithoutASystemsPrinterNeedsAFolder) {

@@ -2,8 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <fstream>
 #include <iterator>
+
+#include "platform/directory/new_file.h"
+#include "runtime/file_names.h"
+#include "tests/support/own_directory.h"
 
 namespace tarn::test {
 namespace {
@@ -12,14 +17,6 @@ namespace fs = std::filesystem;
 
 class DirectorySpoolerTest : public testing::Test {
 protected:
-    void SetUp() override {
-        std::string path = (fs::temp_directory_path() / "tarn-jobs-XXXXXX").string();
-        ASSERT_NE(mkdtemp(path.data()), nullptr);
-        base_ = path;
-        directory_ = base_ / "saida" / "trabalhos";
-    }
-    void TearDown() override { fs::remove_all(base_); }
-
     std::string bytesOf(const std::string& name) const {
         std::ifstream file(directory_ / name, std::ios::binary);
         EXPECT_TRUE(file.good()) << name;
@@ -39,13 +36,14 @@ protected:
         return begin(spooler, bytes) && end(spooler);
     }
 
-    fs::path base_;
-    fs::path directory_;
+    OwnDirectory own_;
+    const fs::path& base_ = own_.path();
+    fs::path directory_ = base_ / "saida" / "trabalhos";
 };
 
 TEST_F(DirectorySpoolerTest, EachJobIsAFileInTheOrderOfOpening) {
     DirectorySpooler spooler(directory_);
-    EXPECT_EQ(spooler.defaultPrinter(), directory_.string());
+    EXPECT_EQ(spooler.defaultPrinter(), nameOf(directory_));
     std::string all;
     for (int i = 0; i < 256; ++i) {
         all.push_back(static_cast<char>(i));
@@ -54,6 +52,43 @@ TEST_F(DirectorySpoolerTest, EachJobIsAFileInTheOrderOfOpening) {
     EXPECT_TRUE(print(spooler, "B\r\n"));
     EXPECT_EQ(bytesOf("job-001.prn"), all);
     EXPECT_EQ(bytesOf("job-002.prn"), "B\r\n");
+}
+
+TEST_F(DirectorySpoolerTest, TheFolderMayHaveAnyName) {
+    const std::string name = "Saída à mão ☺";
+    directory_ = base_ / pathOf(name);
+    DirectorySpooler spooler(directory_);
+    EXPECT_TRUE(spooler.defaultPrinter().ends_with(name));
+    EXPECT_TRUE(print(spooler, "A"));
+    EXPECT_EQ(bytesOf("job-001.prn"), "A");
+    EXPECT_TRUE(JobFiles(directory_).canWrite());
+}
+
+TEST_F(DirectorySpoolerTest, AFileThatIsThereIsReplacedOrRefused) {
+    const fs::path file = base_ / u8"à.prn";
+    std::ofstream(file) << "somebody else's";
+    errno = 0;
+    EXPECT_EQ(newFile(file, IfThere::Refuse), nullptr);
+    EXPECT_EQ(errno, EEXIST);
+    EXPECT_EQ(fs::file_size(file), 15U);
+    std::FILE* replaced = newFile(file, IfThere::Replace);
+    ASSERT_NE(replaced, nullptr);
+    std::fputs("a\n", replaced);
+    std::fclose(replaced);
+    EXPECT_EQ(fs::file_size(file), 2U) << "bytes, not lines of text";
+    EXPECT_EQ(newFile(base_ / "none" / "a.prn", IfThere::Replace), nullptr);
+}
+
+// Two programs that print into one folder at the same time: neither writes into the other's.
+TEST_F(DirectorySpoolerTest, TwoThatPrintAtOnceHaveFilesOfTheirOwn) {
+    DirectorySpooler one(directory_);
+    DirectorySpooler other(directory_);
+    EXPECT_TRUE(begin(one, "1"));
+    EXPECT_TRUE(begin(other, "2"));
+    EXPECT_TRUE(end(one));
+    EXPECT_TRUE(end(other));
+    EXPECT_EQ(bytesOf("job-001.prn"), "1");
+    EXPECT_EQ(bytesOf("job-002.prn"), "2");
 }
 
 TEST_F(DirectorySpoolerTest, OpeningAloneMakesNoFile) {

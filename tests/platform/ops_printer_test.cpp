@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
 #include "platform/directory/directory_spooler.h"
+#include "tests/support/own_directory.h"
 
 namespace tarn::test {
 namespace {
@@ -15,22 +15,15 @@ namespace fs = std::filesystem;
 
 class OpsPrinterTest : public testing::Test {
 protected:
-    void SetUp() override {
-        std::string path = (fs::temp_directory_path() / "tarn-ops-XXXXXX").string();
-        ASSERT_NE(mkdtemp(path.data()), nullptr);
-        directory_ = path;
-        files_ = std::make_shared<JobFiles>(directory_);
-    }
-    void TearDown() override { fs::remove_all(directory_); }
-
     std::string job(const std::string& name) const {
         std::ifstream file(directory_ / name, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     }
     bool has(const std::string& name) const { return fs::exists(directory_ / name); }
 
-    fs::path directory_;
-    std::shared_ptr<JobFiles> files_;
+    OwnDirectory own_;
+    const fs::path& directory_ = own_.path();
+    std::shared_ptr<JobFiles> files_ = std::make_shared<JobFiles>(directory_);
 };
 
 TEST_F(OpsPrinterTest, OneLineAnOperation) {

@@ -2,10 +2,13 @@
 
 #include <system_error>
 
+#include "platform/directory/new_file.h"
+#include "runtime/file_names.h"
+
 namespace tarn {
 
 std::string DirectorySpooler::defaultPrinter() {
-    return files_->directory().string();
+    return nameOf(files_->directory());
 }
 
 bool DirectorySpooler::openPrinter(const std::string& /*name*/) {
@@ -36,7 +39,7 @@ bool DirectorySpooler::startDocument(const JobDescription& job) {
     if (!file) {
         return false;
     }
-    job_.reset(std::fopen(file->string().c_str(), "wb"));
+    job_.reset(newFile(*file, IfThere::Replace));
     // Unbuffered: what was written is there after a crash too.
     return job_ && std::setvbuf(job_.get(), nullptr, _IONBF, 0) == 0;
 }

@@ -7,6 +7,9 @@
 #include <string>
 #include <system_error>
 
+#include "platform/directory/new_file.h"
+#include "runtime/file_names.h"
+
 namespace tarn {
 
 namespace {
@@ -35,12 +38,12 @@ int highestIn(const fs::path& directory) {
     std::error_code failed;
     for (fs::directory_iterator entry(directory, failed), end; !failed && entry != end;
          entry.increment(failed)) {
-        highest = std::max(highest, numberOf(entry->path().filename().string()));
+        highest = std::max(highest, numberOf(nameOf(entry->path().filename())));
     }
     return highest;
 }
 
-std::string nameOf(int number, std::string_view extension) {
+std::string jobName(int number, std::string_view extension) {
     constexpr std::size_t leastDigits = 3;
     std::string digits = std::to_string(number);
     digits.insert(0, leastDigits - std::min(leastDigits, digits.size()), '0');
@@ -48,14 +51,8 @@ std::string nameOf(int number, std::string_view extension) {
     return name.append(digits).append(".").append(extension);
 }
 
-// "x" refuses a file that is there already: another program may print here too.
-std::FILE* openNew(const fs::path& file, bool replace) {
-    errno = 0;
-    return std::fopen(file.string().c_str(), replace ? "wb" : "wbx");
-}
-
-bool makeEmpty(const fs::path& file, bool replace) {
-    std::FILE* made = openNew(file, replace);
+bool makeEmpty(const fs::path& file, IfThere ifThere) {
+    std::FILE* made = newFile(file, ifThere);
     return made != nullptr && std::fclose(made) == 0;
 }
 
@@ -83,7 +80,7 @@ bool JobFiles::canWrite() const {
         return false;
     }
     const fs::path probe = directory_ / ".gravacao";
-    const bool made = makeEmpty(probe, true);
+    const bool made = makeEmpty(probe, IfThere::Replace);
     forget(probe);
     return made;
 }
@@ -92,11 +89,12 @@ bool JobFiles::canWrite() const {
 // program has made of that number meanwhile keeps none of it.
 JobFiles::Made JobFiles::make(int number, std::string_view extension, const JobCompanion& companion,
                               fs::path& file) const {
-    const bool replace = numbering_ == JobNumbering::FromOne;
+    const IfThere ifThere =
+        numbering_ == JobNumbering::FromOne ? IfThere::Replace : IfThere::Refuse;
     std::optional<fs::path> beside;
     if (!companion.extension.empty()) {
-        beside = directory_ / nameOf(number, companion.extension);
-        std::FILE* made = openNew(*beside, replace);
+        beside = directory_ / jobName(number, companion.extension);
+        std::FILE* made = newFile(*beside, ifThere);
         if (made == nullptr && errno == EEXIST) {
             return Made::Taken;
         }
@@ -106,8 +104,8 @@ JobFiles::Made JobFiles::make(int number, std::string_view extension, const JobC
             forget(*beside);
         }
     }
-    file = directory_ / nameOf(number, extension);
-    if (makeEmpty(file, replace)) {
+    file = directory_ / jobName(number, extension);
+    if (makeEmpty(file, ifThere)) {
         return Made::Yes;
     }
     const bool taken = errno == EEXIST;

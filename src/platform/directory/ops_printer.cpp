@@ -2,6 +2,8 @@
 
 #include <fstream>
 
+#include "runtime/file_names.h"
+
 namespace tarn {
 
 bool OpsPrinter::append(const std::string& line) {
@@ -31,7 +33,7 @@ std::optional<PrinterFailure> OpsPrinter::perform(const PrintOperation& operatio
     }
     return PrinterFailure{.number = printerTrouble,
                           .description = "não foi possível gravar na pasta \"" +
-                                         files_->directory().string() +
+                                         nameOf(files_->directory()) +
                                          "\". Confira a permissão e o espaço em disco."};
 }
 

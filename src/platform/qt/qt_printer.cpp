@@ -11,6 +11,7 @@
 
 #include "platform/qt/page_painter.h"
 #include "platform/system_spooler.h"
+#include "runtime/file_names.h"
 
 namespace tarn {
 namespace {
@@ -22,7 +23,7 @@ PrinterFailure trouble(std::string description) {
 }
 
 PrinterFailure unwritable(const JobFiles& files) {
-    return trouble("não foi possível gravar na pasta \"" + files.directory().string() +
+    return trouble("não foi possível gravar na pasta \"" + nameOf(files.directory()) +
                    "\". Confira a permissão e o espaço em disco.");
 }
 
@@ -41,7 +42,7 @@ std::optional<PrinterFailure> printPdf(QPrinter& printer, JobFiles& files,
     if (!file) {
         return unwritable(files);
     }
-    const QString name = QFile::decodeName(file->string().c_str());
+    const QString name = QString::fromStdString(nameOf(*file));
     printer.setOutputFileName(name);
     const bool written = paintDocument(printer, document, progress) && isWhole(name);
     return written ? std::nullopt : std::optional(unwritable(files));
@@ -110,7 +111,7 @@ std::optional<PrinterFailure> QtPrinter::end() {
 }
 
 std::string QtPrinter::name() {
-    return files_ ? files_->directory().string() : QPrinterInfo::defaultPrinterName().toStdString();
+    return files_ ? nameOf(files_->directory()) : QPrinterInfo::defaultPrinterName().toStdString();
 }
 
 std::optional<PrinterFailure> QtPrinter::perform(const PrintOperation& operation) {
