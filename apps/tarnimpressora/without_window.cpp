@@ -170,8 +170,11 @@ int wait(const Options& options, const dotmatrix::PaintOptions& looks, dotmatrix
 
 int runWithoutWindow(int argc, char** argv, const Options& options,
                      const dotmatrix::PaintOptions& looks) {
-    // Files need fonts, not a display, and what the toolkit misses of one is no matter.
+    // Files need fonts, not a display, and what the toolkit misses of one is no matter. On
+    // Windows it is the other way round: fonts come with the system's platform alone.
+#ifndef Q_OS_WIN
     qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const QGuiApplication application(argc, argv);
     dotmatrix::PaperRoll roll(options.dialect);
