@@ -3,6 +3,8 @@
 #include <string>
 #include <utility>
 
+#include "apps/tarnemissao/last_word.h"
+#include "cli/arguments.h"
 #include "desk/desk_assembly.h"
 #include "widgets/opening_display.h"
 
@@ -15,15 +17,17 @@ constexpr char noDisplay[] =
 }  // namespace
 
 int main(int argc, char** argv) {
-    const auto parsed = tarn::readOptions(
-        argc, argv, qEnvironmentVariable("TARN_SERVIDOR").toStdString(), TARN_BASE_URL);
+    const tarn::cli::Arguments arguments(argc, argv);
+    const auto parsed =
+        tarn::readOptions(arguments.count(), arguments.values(),
+                          qEnvironmentVariable("TARN_SERVIDOR").toStdString(), TARN_BASE_URL);
     if (const auto* ending = std::get_if<tarn::cli::Ending>(&parsed)) {
-        return tarn::cli::say(*ending);
+        return tarn::sayLast(*ending);
     }
     const auto& options = std::get<tarn::Options>(parsed);
     auto printers = tarn::printersOf(options);
     if (const std::string obstacle = tarn::printerObstacle(options, printers); !obstacle.empty()) {
-        return tarn::cli::say({tarn::cli::statusUsage, "tarnemissao: " + obstacle + "\n"});
+        return tarn::sayLast({tarn::cli::statusUsage, "tarnemissao: " + obstacle + "\n"});
     }
     auto opening = std::make_unique<tarn::OpeningDisplay>(noDisplay);
     tarn::DeskApplication program(argc, argv);

@@ -1,5 +1,4 @@
 // A virtual dot-matrix printer: raw jobs in, continuous paper out.
-#include <QFile>
 #include <cstdio>
 #include <variant>
 
@@ -7,6 +6,7 @@
 #include "apps/tarnimpressora/options.h"
 #include "apps/tarnimpressora/with_window.h"
 #include "apps/tarnimpressora/without_window.h"
+#include "cli/arguments.h"
 #include "dotmatrix/dialect.h"
 #include "dotmatrix/form_file.h"
 #include "forms/form_loader.h"
@@ -41,7 +41,7 @@ int showForm(const Options& options) {
 // chose.
 bool useForm(Options& options, tarn::dotmatrix::PaintOptions& looks) {
     const auto loaded =
-        tarn::dotmatrix::loadForm(QFile::decodeName(options.form.c_str()), options.itemLines);
+        tarn::dotmatrix::loadForm(QString::fromStdString(options.form), options.itemLines);
     if (const auto* wrong = std::get_if<QString>(&loaded)) {
         complain(*wrong);
         return false;
@@ -60,7 +60,8 @@ bool useForm(Options& options, tarn::dotmatrix::PaintOptions& looks) {
 }
 
 int run(int argc, char** argv) {
-    auto read = tarn::printer::readCommandLine(argc, argv);
+    const tarn::cli::Arguments arguments(argc, argv);
+    auto read = tarn::printer::readCommandLine(arguments.count(), arguments.values());
     if (const auto* ending = std::get_if<tarn::cli::Ending>(&read)) {
         return tarn::cli::say(*ending);
     }

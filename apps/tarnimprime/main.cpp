@@ -6,6 +6,7 @@
 
 #include "apps/tarnimprime/commands.h"
 #include "apps/tarnimprime/print_environment.h"
+#include "cli/arguments.h"
 #include "runtime/runtime_error.h"
 #include "runtime/text.h"
 
@@ -42,12 +43,13 @@ void declare(cli::CommandLine& line, GlobalOptions& options, Choice& choice) {
 }
 
 int execute(int argc, char** argv) {
+    const cli::Arguments arguments(argc, argv);
     GlobalOptions options;
     Choice choice;
     cli::CommandLine line("tarnimprime",
                           "Imprime documentos a partir de respostas gravadas do servidor.");
     declare(line, options, choice);
-    if (const auto ending = line.read(argc, argv)) {
+    if (const auto ending = line.read(arguments.count(), arguments.values())) {
         return cli::say(*ending);
     }
     PrintEnvironment desk(options);

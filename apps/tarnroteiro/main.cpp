@@ -13,6 +13,7 @@
 #include "apps/tarnroteiro/labels_walk.h"
 #include "apps/tarnroteiro/note_walk.h"
 #include "apps/tarnroteiro/printer_picture.h"
+#include "cli/arguments.h"
 #include "cli/command_line.h"
 #include "desk/desk_assembly.h"
 #include "desk/server_address.h"
@@ -99,6 +100,7 @@ static void fatalOnly(QtMsgType kind, const QMessageLogContext&, const QString& 
 
 int main(int argc, char** argv) {
     qInstallMessageHandler(fatalOnly);
+    const tarn::cli::Arguments arguments(argc, argv);
     tarn::WalkLogon input;
     std::string name = "dia";
     tarn::cli::CommandLine line(
@@ -114,7 +116,7 @@ int main(int argc, char** argv) {
     line.oneOf("--roteiro", name, {"dia", "recusa", "selecao", "impressora"},
                "dia, recusa (de quem não pode emitir), selecao (de etiquetas) ou impressora (a "
                "janela da impressora virtual com a nota que já está na pasta)");
-    if (const auto ending = line.read(argc, argv)) {
+    if (const auto ending = line.read(arguments.count(), arguments.values())) {
         return tarn::cli::say(*ending);
     }
     if (!QDir().mkpath(QString::fromStdString(input.folder))) {

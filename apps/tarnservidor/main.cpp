@@ -8,6 +8,7 @@
 #include <thread>
 #include <vector>
 
+#include "cli/arguments.h"
 #include "cli/command_line.h"
 #include "practice/commands/query_text.h"
 #include "practice/server/fault.h"
@@ -126,12 +127,13 @@ int main(int argc, char** argv) {
     const sigset_t ending = endingSignals();
     pthread_sigmask(SIG_BLOCK, &ending, nullptr);
     const QCoreApplication application(argc, argv);
+    const cli::Arguments words(argc, argv);
     Arguments arguments;
     cli::CommandLine line("tarnservidor",
                           "Servidor de prática do TarnEmissao: a página do servidor central com "
                           "dados inventados.");
     declare(line, arguments);
-    if (const auto done = line.read(argc, argv)) {
+    if (const auto done = line.read(words.count(), words.values())) {
         return cli::say(*done);
     }
     for (const std::string& text : arguments.faultTexts) {

@@ -226,6 +226,7 @@ CommandLine::CommandLine(const std::string& program, const std::string& about)
     formatter->label("SUBCOMMAND", "COMANDO");
     formatter->label("REQUIRED", "(obrigatório)");
     formatter->column_width(helpColumn);
+    app_->allow_windows_style_options(false);  // "/x" is a file there, too
     app_->option_defaults()->group(optionGroup);
     app_->set_help_flag("-h,--ajuda,--help", "mostra esta ajuda e termina")->group(optionGroup);
     app_->set_version_flag("--versao,--version", "TarnEmissao " + std::string(productVersion),

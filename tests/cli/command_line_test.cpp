@@ -190,6 +190,13 @@ TEST(CommandLine, SaysWhatACommandLacks) {
               "\"--\".");
 }
 
+// A file of the machine's root, where Windows would take it for an option.
+TEST(CommandLine, AWordThatBeginsWithASlashIsAFile) {
+    const Commands commands({"nota", "--empresa", "7", "/notas/a.xml"});
+    EXPECT_FALSE(commands.ending);
+    EXPECT_EQ(commands.files, (Texts{"/notas/a.xml"}));
+}
+
 TEST(CommandLine, ACommandHasItsOwnHelp) {
     const Commands commands({"nota", "--ajuda"});
     ASSERT_TRUE(commands.ending);
