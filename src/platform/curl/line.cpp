@@ -25,11 +25,6 @@ constexpr std::chrono::seconds firstPacket{1};
     throw std::runtime_error("Não foi possível preparar o acesso à Internet (libcurl).");
 }
 
-bool initialized() {
-    static const CURLcode ready = curl_global_init(CURL_GLOBAL_DEFAULT);
-    return ready == CURLE_OK;
-}
-
 bool isHeader(std::string_view line, std::string_view name) {
     return line.size() > name.size() && line[name.size()] == ':' &&
            curl_strnequal(line.data(), name.data(), name.size()) != 0;
@@ -51,11 +46,18 @@ std::chrono::milliseconds lifeTold(std::string_view line, std::chrono::milliseco
 
 }  // namespace
 
+Line::Library::Library() {
+    static const CURLcode ready = curl_global_init(CURL_GLOBAL_DEFAULT);
+    if (ready != CURLE_OK) {
+        notReady();
+    }
+}
+
 Line::Line(const TimeLimits& limits, const std::string& authorities)
     : limits_(limits),
-      multi_(initialized() ? curl_multi_init() : nullptr, curl_multi_cleanup),
-      easy_(multi_ != nullptr ? curl_easy_init() : nullptr, curl_easy_cleanup) {
-    if (easy_ == nullptr) {
+      multi_(curl_multi_init(), curl_multi_cleanup),
+      easy_(curl_easy_init(), curl_easy_cleanup) {
+    if (multi_ == nullptr || easy_ == nullptr) {
         notReady();
     }
     curl_multi_setopt(multi_.get(), CURLMOPT_MAXCONNECTS, 1L);

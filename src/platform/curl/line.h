@@ -42,6 +42,10 @@ public:
     void close();
 
 private:
+    // libcurl made ready for the whole program; what uses it stands behind.
+    struct Library {
+        Library();
+    };
     struct Open {
         curl_socket_t socket = CURL_SOCKET_BAD;
         Peer peer;
@@ -59,6 +63,7 @@ private:
     curl_socket_t open(const curl_sockaddr& address);
     int closed(curl_socket_t socket);
 
+    Library library_;
     TimeLimits limits_;
     std::atomic<bool> closed_ = false;
     std::string body_;
