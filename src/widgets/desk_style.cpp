@@ -8,6 +8,7 @@
 #include <QPainterPath>
 #include <QStyleOption>
 
+#include "widgets/late_icon.h"
 #include "widgets/look.h"
 
 namespace tarn {
@@ -152,8 +153,10 @@ int DeskStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
     return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
-QIcon DeskStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
-                              const QWidget* widget) const {
+// The toolkit's own are made for nobody in particular, as nobody may be there any more when they
+// are drawn.
+QIcon DeskStyle::standardIcon(StandardPixmap icon, const QStyleOption* /*option*/,
+                              const QWidget* /*widget*/) const {
     switch (icon) {
         case SP_MessageBoxInformation:
             return picture(QStringLiteral("box_information"));
@@ -164,7 +167,8 @@ QIcon DeskStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
         case SP_MessageBoxCritical:
             return picture(QStringLiteral("box_critical"));
         default:
-            return QProxyStyle::standardIcon(icon, option, widget);
+            return lateIcon(
+                [this, icon] { return QProxyStyle::standardIcon(icon, nullptr, nullptr); });
     }
 }
 

@@ -9,6 +9,7 @@
 
 #include "widgets/desk_palette.h"
 #include "widgets/desk_style.h"
+#include "widgets/late_icon.h"
 
 // Resources of a static library are linked in by this call; it must stand outside of
 // any namespace.
@@ -45,7 +46,7 @@ void applyLook(QApplication& program) {
 }
 
 QIcon picture(const QString& name) {
-    return QIcon(QStringLiteral(":/desk/%1.svg").arg(name));
+    return lateIcon([name] { return QIcon(QStringLiteral(":/desk/%1.svg").arg(name)); });
 }
 
 void setIcon(QPushButton& button, const char* name) {
