@@ -5,11 +5,13 @@
 
 #include "desk/report.h"
 #include "desk/server_address.h"
+#include "gateway/commands.h"
 #include "platform/directory/directory_spooler.h"
 #include "platform/directory/picture_folder.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/system_spooler.h"
 #include "runtime/file_names.h"
+#include "runtime/version.h"
 #include "widgets/manual.h"
 
 namespace tarn {
@@ -37,6 +39,7 @@ std::string printerObstacle(const Options& options, const Printers& printers) {
 Desk::Desk(DeskApplication& program, const Options& options, Printers printers)
     : program_(program),
       labelSelection_(options.labelSelection),
+      early_(network_, options.baseUrl + commands::VERSAO_TARN_EMISSAO(versionDate)),
       printers_(std::move(printers)),
       teller_(clock_, std::cerr),
       environment_{.http = server_,

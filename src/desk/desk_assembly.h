@@ -10,6 +10,7 @@
 #include "desk/mdi_menu.h"
 #include "gateway/command_effects.h"
 #include "platform/curl/curl_loader.h"
+#include "platform/early_loader.h"
 #include "platform/printer.h"
 #include "platform/qt/blocking_loader.h"
 #include "platform/qt/patient_printing.h"
@@ -56,7 +57,8 @@ private:
     DeskApplication& program_;
     bool labelSelection_;
     CurlLoader network_{{}, commands::onlyReads};
-    BlockingLoader http_{network_};
+    EarlyLoader early_;  // under way while the windows are built
+    BlockingLoader http_{early_};
     Printers printers_;
     QtMessageBoxes boxesOnScreen_;
     QtClock clock_;
