@@ -3,7 +3,7 @@
 #ifdef _WIN32
 #include <windows.h>
 
-#include <QString>
+#include "runtime/wide_text.h"
 #endif
 
 namespace tarn {
@@ -23,7 +23,7 @@ bool saidInBox(const cli::Ending& ending) {
     if (isRead(done ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE)) {
         return false;
     }
-    const std::wstring text = QString::fromStdString(ending.text).toStdWString();
+    const std::wstring text = wideOf(ending.text);
     MessageBoxW(nullptr, text.c_str(), L"TarnEmissao",
                 MB_OK | MB_SETFOREGROUND | (done ? MB_ICONINFORMATION : MB_ICONERROR));
     return true;

@@ -6,26 +6,14 @@
 #include <shellapi.h>
 
 #include <memory>
-#include <string_view>
+
+#include "runtime/wide_text.h"
 #endif
 
 namespace tarn::cli {
 namespace {
 
 #ifdef _WIN32
-
-std::string utf8Of(std::wstring_view text) {
-    if (text.empty()) {
-        return {};
-    }
-    const int length = static_cast<int>(text.size());
-    std::string bytes(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, text.data(), length,
-                                                                   nullptr, 0, nullptr, nullptr)),
-                      '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text.data(), length, bytes.data(),
-                        static_cast<int>(bytes.size()), nullptr, nullptr);
-    return bytes;
-}
 
 // Nothing where Windows can't tell; `main` has words all the same.
 std::vector<std::string> systemsWords() {

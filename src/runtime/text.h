@@ -20,6 +20,7 @@ std::string_view trimBlanks(std::string_view text);  // blanks (32) off both end
 std::string upperCase(std::string_view text);        // also the accented letters of windows-1252
 std::string trimmedUpperCase(std::string_view text);
 std::string asciiUpper(std::string_view text);
+std::string asciiLower(std::string_view text);
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
 
 // Each control character (below 32, and 127) turned into one blank, so that no

@@ -2,6 +2,13 @@ tarn_add_test(directory_spooler_test LABEL unit SOURCES directory_spooler_test.c
   picture_folder_test.cpp
   LIBRARIES tarn_platform)
 
+if(WIN32)
+  tarn_add_test(winspool_test LABEL unit SOURCES winspool_spooler_test.cpp
+    LIBRARIES tarn_core tarn_platform)
+  target_compile_definitions(winspool_test PRIVATE
+    TARN_NOTE_DATA="${PROJECT_SOURCE_DIR}/tests/notes/data")
+endif()
+
 if(CUPS_FOUND)
   tarn_add_test(cups_unreachable_test LABEL unit SOURCES cups_unreachable_test.cpp
     LIBRARIES tarn_platform)

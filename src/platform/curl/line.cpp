@@ -7,6 +7,9 @@
 #include <utility>
 
 #include "platform/http_loader.h"
+#ifdef _WIN32
+#include "platform/winhttp/system_proxy.h"
+#endif
 
 namespace tarn {
 namespace {
@@ -23,6 +26,14 @@ constexpr std::chrono::seconds firstPacket{1};
 
 [[noreturn]] void notReady() {
     throw std::runtime_error("Não foi possível preparar o acesso à Internet (libcurl).");
+}
+
+// libcurl knows the environment's proxy alone.
+void useSystemsProxy([[maybe_unused]] CURL* curl, [[maybe_unused]] const std::string& address) {
+#ifdef _WIN32
+    const std::string proxy = systemProxy(address);
+    curl_easy_setopt(curl, CURLOPT_PROXY, proxy.empty() ? nullptr : proxy.c_str());
+#endif
 }
 
 bool isHeader(std::string_view line, std::string_view name) {
@@ -223,6 +234,7 @@ LineAnswer Line::ask(const std::string& address) {
         curl_easy_setopt(curl, CURLOPT_FRESH_CONNECT, 1L);
         awaitNext();
     }
+    useSystemsProxy(curl, address);
     if (curl_easy_setopt(curl, CURLOPT_URL, address.c_str()) != CURLE_OK || !run()) {
         return {};
     }

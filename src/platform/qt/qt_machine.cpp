@@ -8,6 +8,7 @@
 #include <array>
 
 #include "runtime/text.h"
+#include "runtime/wide_text.h"
 #endif
 
 namespace tarn {
@@ -15,13 +16,14 @@ namespace tarn {
 #ifdef Q_OS_WIN
 
 bool QtMachine::setShortDateFormat(const std::string& format) {
-    return SetLocaleInfoA(GetSystemDefaultLCID(), LOCALE_SSHORTDATE, format.c_str()) != 0;
+    return SetLocaleInfoW(GetSystemDefaultLCID(), LOCALE_SSHORTDATE, wideOf(format).c_str()) != 0;
 }
 
 std::string QtMachine::systemDirectory() {
-    std::array<char, 128> buffer{};
-    const UINT length = GetSystemDirectoryA(buffer.data(), static_cast<UINT>(buffer.size()));
-    const std::string path(buffer.data(), length < buffer.size() ? length : 0);
+    std::array<wchar_t, MAX_PATH> buffer{};
+    const UINT length = GetSystemDirectoryW(buffer.data(), static_cast<UINT>(buffer.size()));
+    const std::string path =
+        utf8Of({buffer.data(), length < buffer.size() ? length : std::size_t{0}});
     return std::string(trimBlanks(path));
 }
 

@@ -11,13 +11,26 @@
 #include <limits>
 #include <vector>
 
+#include "runtime/wide_text.h"
+
 namespace tarn {
 
 namespace {
 
+std::optional<std::wstring> wideOrNone(const std::optional<std::string>& text) {
+    return text ? std::optional(wideOf(*text)) : std::nullopt;
+}
+
 // The spooler's record takes texts that it doesn't change, though it doesn't say so.
-char* textOrNull(std::optional<std::string>& text) {
+wchar_t* textOrNull(std::optional<std::wstring>& text) {
     return text ? text->data() : nullptr;
+}
+
+// The last call failed because the print service isn't there or doesn't speak.
+bool serviceIsSilent() {
+    const DWORD error = GetLastError();
+    return error == RPC_S_SERVER_UNAVAILABLE || error == RPC_S_SERVER_TOO_BUSY ||
+           error == RPC_S_CALL_FAILED;
 }
 
 }  // namespace
@@ -27,24 +40,24 @@ WinspoolSpooler::~WinspoolSpooler() {
 }
 
 std::string WinspoolSpooler::defaultPrinter() {
+    answers_ = true;
     DWORD size = 0;
-    GetDefaultPrinterA(nullptr, &size);
-    if (size == 0) {
+    GetDefaultPrinterW(nullptr, &size);
+    std::wstring name(size, L'\0');
+    if (size == 0 || GetDefaultPrinterW(name.data(), &size) == 0) {
+        answers_ = !serviceIsSilent();
         return {};
     }
-    std::string name(size, '\0');
-    if (GetDefaultPrinterA(name.data(), &size) == 0) {
-        return {};
-    }
-    name.resize(name.find('\0'));
-    return name;
+    return utf8Of(name.substr(0, name.find(L'\0')));
 }
 
 bool WinspoolSpooler::openPrinter(const std::string& name) {
     dropHandle();
-    std::string device = name;
+    std::wstring device = wideOf(name);
     HANDLE handle = nullptr;
-    if (OpenPrinterA(device.data(), &handle, nullptr) == 0) {
+    answers_ = true;
+    if (OpenPrinterW(device.data(), &handle, nullptr) == 0) {
+        answers_ = !serviceIsSilent();
         return false;
     }
     printer_ = handle;
@@ -55,13 +68,15 @@ bool WinspoolSpooler::startDocument(const JobDescription& job) {
     if (printer_ == nullptr || started_) {
         return false;
     }
-    JobDescription texts = job;
-    DOC_INFO_1A record{};
-    record.pDocName = textOrNull(texts.docName);
-    record.pOutputFile = textOrNull(texts.outputFile);
-    record.pDatatype = textOrNull(texts.dataType);
+    std::optional<std::wstring> docName = wideOrNone(job.docName);
+    std::optional<std::wstring> outputFile = wideOrNone(job.outputFile);
+    std::optional<std::wstring> dataType = wideOrNone(job.dataType);
+    DOC_INFO_1W record{};
+    record.pDocName = textOrNull(docName);
+    record.pOutputFile = textOrNull(outputFile);
+    record.pDatatype = textOrNull(dataType);
     constexpr DWORD level = 1;
-    document_ = StartDocPrinterA(printer_, level, reinterpret_cast<LPBYTE>(&record));
+    document_ = StartDocPrinterW(printer_, level, reinterpret_cast<LPBYTE>(&record));
     started_ = document_ != 0;
     return started_;
 }
@@ -120,16 +135,16 @@ JobFate WinspoolSpooler::fateOf(int documentNumber) {
     const auto number = static_cast<DWORD>(documentNumber);
     constexpr DWORD level = 1;
     DWORD size = 0;
-    GetJobA(printer_, number, level, nullptr, 0, &size);
+    GetJobW(printer_, number, level, nullptr, 0, &size);
     std::vector<BYTE> room(size);
-    if (size == 0 || GetJobA(printer_, number, level, room.data(), size, &size) == 0) {
+    if (size == 0 || GetJobW(printer_, number, level, room.data(), size, &size) == 0) {
         return JobFate::Doubtful;
     }
-    const auto* job = reinterpret_cast<const JOB_INFO_1A*>(room.data());
+    const auto* job = reinterpret_cast<const JOB_INFO_1W*>(room.data());
     if ((job->Status & JOB_STATUS_SPOOLING) == 0) {
         return JobFate::Arrived;
     }
-    SetJobA(printer_, number, 0, nullptr, JOB_CONTROL_DELETE);
+    SetJobW(printer_, number, 0, nullptr, JOB_CONTROL_DELETE);
     return JobFate::NeverArrived;
 }
 

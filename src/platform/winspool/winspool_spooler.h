@@ -14,7 +14,7 @@ public:
     WinspoolSpooler(const WinspoolSpooler&) = delete;
     WinspoolSpooler& operator=(const WinspoolSpooler&) = delete;
 
-    std::string defaultPrinter() override;  // in the system's 8-bit page
+    std::string defaultPrinter() override;
     bool openPrinter(const std::string& name) override;
     bool startDocument(const JobDescription& job) override;
     bool startPage() override;
@@ -22,6 +22,7 @@ public:
     bool endPage() override;
     bool endDocument() override;
     bool closePrinter() override;
+    bool answers() const override { return answers_; }
     int documentNumber() const override { return static_cast<int>(document_); }
     JobFate fateOf(int documentNumber) override;
 
@@ -31,6 +32,7 @@ private:
     void* printer_ = nullptr;     // a HANDLE
     bool started_ = false;        // a document is under way
     unsigned long document_ = 0;  // its number
+    bool answers_ = true;
 };
 
 }  // namespace tarn

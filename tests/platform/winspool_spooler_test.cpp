@@ -1,0 +1,129 @@
+// Raw jobs through the print service of Windows, as far as the printer's port. The machine's
+// default printer must be TARN_TEST_PRINTER, and write what it gets behind the file
+// TARN_TEST_PAPER.
+#include "platform/winspool/winspool_spooler.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <thread>
+
+#include "notes/print_note.h"
+#include "runtime/file_names.h"
+#include "tests/support/test_environment.h"
+
+namespace tarn::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string environmentText(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+std::string bytesIn(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+class WinspoolTest : public testing::Test {
+protected:
+    void SetUp() override {
+        if (paper_.empty()) {
+            GTEST_SKIP() << "TARN_TEST_PAPER names no file";
+        }
+        fs::remove(paper_);
+    }
+
+    // What arrived, once it is as long as awaited; the service takes its time.
+    std::string arrived(std::size_t length) const {
+        constexpr std::chrono::seconds most{20};
+        const auto end = std::chrono::steady_clock::now() + most;
+        std::string bytes;
+        while ((bytes = bytesIn(paper_)).size() < length &&
+               std::chrono::steady_clock::now() < end) {
+            std::this_thread::yield();
+        }
+        return bytes;
+    }
+
+    static bool begin(WinspoolSpooler& spooler, std::string_view bytes) {
+        return spooler.openPrinter(spooler.defaultPrinter()) && spooler.startDocument({}) &&
+               spooler.startPage() && spooler.write(bytes) == bytes.size();
+    }
+    static bool end(WinspoolSpooler& spooler) {
+        const bool ended = spooler.endPage() && spooler.endDocument();
+        return spooler.closePrinter() && ended;
+    }
+
+    fs::path paper_ = pathOf(environmentText("TARN_TEST_PAPER"));
+};
+
+TEST_F(WinspoolTest, TheDefaultPrinterHasItsWholeName) {
+    WinspoolSpooler spooler;
+    EXPECT_EQ(spooler.defaultPrinter(), environmentText("TARN_TEST_PRINTER"));
+    EXPECT_TRUE(spooler.answers());
+}
+
+TEST_F(WinspoolTest, EveryByteArrives) {
+    std::string all;
+    for (int i = 0; i < 256; ++i) {
+        all.push_back(static_cast<char>(i));
+    }
+    WinspoolSpooler spooler;
+    EXPECT_TRUE(begin(spooler, all));
+    EXPECT_EQ(spooler.write("\x1A\r\n"), 3U);
+    EXPECT_TRUE(end(spooler));
+    EXPECT_EQ(arrived(259), all + "\x1A\r\n");
+}
+
+TEST_F(WinspoolTest, ACallOutOfTurnIsRefused) {
+    WinspoolSpooler spooler;
+    EXPECT_FALSE(spooler.openPrinter("nenhuma impressora"));
+    EXPECT_TRUE(spooler.answers());
+    EXPECT_FALSE(spooler.startDocument({}));
+    EXPECT_FALSE(spooler.startPage());
+    EXPECT_EQ(spooler.write("A"), 0U);
+    EXPECT_FALSE(spooler.endPage());
+    EXPECT_FALSE(spooler.endDocument());
+    EXPECT_FALSE(spooler.closePrinter());
+}
+
+TEST_F(WinspoolTest, AJobThatIsNotEndedDoesNotPrint) {
+    {
+        WinspoolSpooler spooler;
+        EXPECT_TRUE(begin(spooler, "never"));
+    }
+    WinspoolSpooler spooler;
+    EXPECT_TRUE(begin(spooler, "printed"));
+    EXPECT_TRUE(end(spooler));
+    EXPECT_EQ(arrived(7), "printed");
+}
+
+TEST_F(WinspoolTest, ANoteArrivesByteForByte) {
+    const std::string golden = bytesIn(pathOf(TARN_NOTE_DATA "/note_1361.prn"));
+    ASSERT_FALSE(golden.empty());
+    TestEnvironment seams;
+    WinspoolSpooler spooler;
+    Environment environment{.http = seams.loader,
+                            .spooler = spooler,
+                            .printer = seams.printer,
+                            .boxes = seams.boxes,
+                            .clock = seams.clock,
+                            .machine = seams.machine,
+                            .baseUrl = {}};
+    Sessao session;
+    session.NCOMPANYCODE = 1361;
+    session.ID_ETB_TARN = 1;
+    XmlDocument document;
+    ASSERT_TRUE(document.loadXML(bytesIn(pathOf(TARN_NOTE_DATA "/note_1361.xml"))));
+    printNote(Ladder::Issuing, environment, session, document, "4567");
+    EXPECT_EQ(arrived(golden.size() + 2), " \x0F" + golden);
+}
+
+}  // namespace
+}  // namespace tarn::test
