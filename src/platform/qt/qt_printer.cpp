@@ -1,6 +1,7 @@
 #include "platform/qt/qt_printer.h"
 
 #include <QFile>
+#include <QMarginsF>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPrinter>
@@ -86,6 +87,8 @@ void QtPrinter::setUp(QPrinter& printer) const {
     printer.setPageOrientation(orientation_ == Orientation::Landscape ? QPageLayout::Landscape
                                                                       : QPageLayout::Portrait);
     printer.setFullPage(true);
+    // On Windows a full page keeps the margins in front of its corner all the same.
+    printer.setPageMargins({0, 0, 0, 0});
     printer.setCopyCount(copies_);
 }
 
