@@ -1,6 +1,5 @@
 // tarnservidor: the practice server.
 #include <QCoreApplication>
-#include <csignal>
 #include <cstdint>
 #include <iostream>
 #include <optional>
@@ -8,6 +7,7 @@
 #include <thread>
 #include <vector>
 
+#include "apps/tarnservidor/end_request.h"
 #include "cli/arguments.h"
 #include "cli/command_line.h"
 #include "practice/commands/query_text.h"
@@ -19,6 +19,7 @@
 namespace {
 
 namespace cli = tarn::cli;
+using tarn::EndRequest;
 using tarn::practice::HttpFront;
 using tarn::practice::PracticeOptions;
 using tarn::practice::PracticeServer;
@@ -88,24 +89,14 @@ std::string hostOf(const std::string& address) {
     return address.find(':') == std::string::npos ? address : '[' + address + ']';
 }
 
-sigset_t endingSignals() {
-    sigset_t ending;
-    sigemptyset(&ending);
-    sigaddset(&ending, SIGINT);
-    sigaddset(&ending, SIGTERM);
-    return ending;
-}
-
-void serveUntilSignal(HttpFront& front) {
+void serveUntilAsked(HttpFront& front, EndRequest& end) {
     std::thread serving([&front] { front.serve(); });
-    const sigset_t ending = endingSignals();
-    int received = 0;
-    sigwait(&ending, &received);
+    end.wait();
     front.stop();
     serving.join();
 }
 
-int run(const Arguments& arguments) {
+int run(const Arguments& arguments, EndRequest& end) {
     PracticeServer server(arguments.options);
     HttpFront front(
         [&server, &arguments](std::string_view query) {
@@ -115,17 +106,14 @@ int run(const Arguments& arguments) {
     const int port = front.bind(arguments.address, arguments.port.value_or(usualPort));
     std::cout << "Servindo em http://" << hostOf(arguments.address) << ':' << port
               << tarn::practice::pagePath << '?' << std::endl;
-    serveUntilSignal(front);
+    serveUntilAsked(front, end);
     return 0;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    // Blocked before any thread begins, so that all inherit it and only the
-    // waiting one takes them.
-    const sigset_t ending = endingSignals();
-    pthread_sigmask(SIG_BLOCK, &ending, nullptr);
+    EndRequest end;
     const QCoreApplication application(argc, argv);
     const cli::Arguments words(argc, argv);
     Arguments arguments;
@@ -142,7 +130,7 @@ int main(int argc, char** argv) {
         }
     }
     try {
-        return run(arguments);
+        return run(arguments, end);
     } catch (const std::exception& error) {
         return fail(error.what());
     }

@@ -1,13 +1,9 @@
 #include "practice/server/http_front.h"
 
 #include <httplib.h>
-#include <netdb.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
-#include <cerrno>
 #include <condition_variable>
 #include <limits>
 #include <mutex>
@@ -18,6 +14,7 @@
 
 #include "practice/server/connection_threads.h"
 #include "practice/server/request_stream.h"
+#include "practice/server/sockets.h"
 
 namespace tarn::practice {
 namespace {
@@ -30,41 +27,23 @@ constexpr std::size_t blanksAtOnce = 1U << 16;
 constexpr std::size_t someOfTheHead = 20;   // bytes
 constexpr std::size_t mostRequests = 1000;  // of a connection
 
-// Without the library's own SO_REUSEPORT, under which a port already served
-// would be taken a second time in silence.
-void reuseAddressOnly(socket_t socket) {
-    const int yes = 1;
-    setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
-}
-
-bool isAddress(const std::string& address) {
-    addrinfo hints{};
-    hints.ai_socktype = SOCK_STREAM;
-    addrinfo* found = nullptr;
-    const bool known =
-        !address.empty() && getaddrinfo(address.c_str(), nullptr, &hints, &found) == 0;
-    if (found != nullptr) {
-        freeaddrinfo(found);
-    }
-    return known;
-}
-
-std::string whyNotBound(const std::string& address, int port, int error) {
+std::string whyNotBound(const std::string& address, int port) {
     const std::string place = "a porta " + std::to_string(port) + " do endereço " + address;
-    switch (error) {
-        case EADDRINUSE:
+    switch (lastPortRefusal()) {
+        case PortRefusal::Taken:
             return "Não foi possível usar " + place +
                    ": já está ocupada por outro programa. Escolha outra com --porta, ou 0 para "
                    "uma porta livre qualquer.";
-        case EACCES:
+        case PortRefusal::Forbidden:
             return "Não foi possível usar " + place +
                    ": o sistema não permite. Escolha uma porta acima de 1023 com --porta.";
-        case EADDRNOTAVAIL:
+        case PortRefusal::NotOfThisMachine:
             return "O endereço " + address +
                    " não é desta máquina. Escolha outro com --endereco, por exemplo 127.0.0.1.";
-        default:
-            return "Não foi possível usar " + place + ". Escolha outros com --endereco e --porta.";
+        case PortRefusal::Other:
+            break;
     }
+    return "Não foi possível usar " + place + ". Escolha outros com --endereco e --porta.";
 }
 
 std::string_view queryOf(std::string_view target) {
@@ -89,7 +68,7 @@ public:
         const std::lock_guard lock(mutex_);
         ended_ = true;
         for (const socket_t socket : open_) {
-            shutdown(socket, SHUT_RD);
+            practice::endReading(socket);
         }
     }
 
@@ -119,9 +98,9 @@ private:
             done = serve(socket);
             connections_.remove(socket);
         } else {
-            shutdown(socket, SHUT_RDWR);
+            endBothWays(socket);
         }
-        close(socket);
+        closeSocket(socket);
         return done;
     }
 
@@ -134,10 +113,9 @@ private:
             stream.beginNext();
         }
         if (stream.isToBeReset()) {
-            const linger atOnce{1, 0};
-            setsockopt(socket, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+            resetWhenClosed(socket);
         } else {
-            shutdown(socket, SHUT_RDWR);
+            endBothWays(socket);
         }
         return done;
     }
@@ -253,7 +231,7 @@ HttpFront::HttpFront(Answer answer, std::string contentType, std::chrono::millis
     state_->answer = std::move(answer);
     state_->contentType = std::move(contentType);
     State* state = state_.get();
-    state->server.set_socket_options(reuseAddressOnly);
+    state->server.set_socket_options(takePortAlone);
     state->server.set_payload_max_length(RequestStream::mostBodyBytes);
     // What the answers tell of it.
     state->server.set_keep_alive_max_count(mostRequests);
@@ -294,12 +272,12 @@ int HttpFront::bind(const std::string& address, int port) {
                                  "\" não existe. Escolha outro com --endereco, por exemplo "
                                  "127.0.0.1.");
     }
-    errno = 0;
+    forgetPortRefusal();
     const int bound = port == 0 ? state_->server.bind_to_any_port(address)
                       : state_->server.bind_to_port(address, port) ? port
                                                                    : -1;
     if (bound < 0) {
-        throw std::runtime_error(whyNotBound(address, port, errno));
+        throw std::runtime_error(whyNotBound(address, port));
     }
     state_->server.lengthenQueue();
     return bound;

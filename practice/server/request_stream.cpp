@@ -1,11 +1,9 @@
 #include "practice/server/request_stream.h"
 
-#include <poll.h>
-#include <sys/socket.h>
-
 #include <algorithm>
 #include <array>
-#include <cerrno>
+
+#include "practice/server/sockets.h"
 
 namespace tarn::practice {
 namespace {
@@ -13,15 +11,6 @@ namespace {
 constexpr int millisecond = 1000;  // of a second
 constexpr std::size_t pieceBytes = 4096;
 constexpr char standIn = '_';
-
-bool ready(socket_t socket, short events, int milliseconds) {
-    pollfd wanted{socket, events, 0};
-    int count = 0;
-    do {
-        count = poll(&wanted, 1, milliseconds);
-    } while (count < 0 && errno == EINTR);
-    return count > 0;
-}
 
 }  // namespace
 
@@ -58,11 +47,11 @@ std::string RequestStream::target() const {
 }
 
 bool RequestStream::is_readable() const {
-    return next_ < pending_.size() || ready(socket_, POLLIN, millisecondsLeft());
+    return next_ < pending_.size() || isReadable(socket_, millisecondsLeft());
 }
 
 bool RequestStream::is_writable() const {
-    return ready(socket_, POLLOUT, writeMilliseconds_);
+    return isWritable(socket_, writeMilliseconds_);
 }
 
 ssize_t RequestStream::read(char* bytes, size_t size) {
@@ -79,9 +68,7 @@ ssize_t RequestStream::write(const char* bytes, size_t size) {
     const std::size_t most = std::min(size, bytesLeft_);
     ssize_t sent = -1;
     if (most > 0 && is_writable()) {
-        do {
-            sent = send(socket_, bytes, most, MSG_NOSIGNAL);
-        } while (sent < 0 && errno == EINTR);
+        sent = sendSome(socket_, bytes, most);
     }
     bytesLeft_ -= sent > 0 ? static_cast<std::size_t>(sent) : 0;
     sentAll_ = sentAll_ && sent > 0;
@@ -98,14 +85,11 @@ bool RequestStream::fill() {
     pending_.clear();
     next_ = 0;
     const int milliseconds = millisecondsLeft();
-    if (milliseconds == 0 || !withinBounds() || !ready(socket_, POLLIN, milliseconds)) {
+    if (milliseconds == 0 || !withinBounds() || !isReadable(socket_, milliseconds)) {
         return false;
     }
     std::array<char, pieceBytes> piece{};
-    ssize_t count = 0;
-    do {
-        count = recv(socket_, piece.data(), piece.size(), 0);
-    } while (count < 0 && errno == EINTR);
+    const ssize_t count = receiveSome(socket_, piece.data(), piece.size());
     for (ssize_t i = 0; i < count; ++i) {
         pending_.push_back(taken(piece[static_cast<std::size_t>(i)]));
     }
