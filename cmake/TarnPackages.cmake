@@ -1,7 +1,10 @@
 # Everything the project is built with, by the part that needs it.
 find_package(LibXml2 REQUIRED)
 find_package(CURL REQUIRED)
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg PrintSupport)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport OPTIONAL_COMPONENTS Svg)
+if(NOT Qt6Svg_FOUND)
+  message(STATUS "Qt Svg was not found: the pictures are drawn by rsvg-convert, in a few sizes")
+endif()
 find_package(Threads REQUIRED)
 find_package(CLI11 REQUIRED)
 if(UNIX)

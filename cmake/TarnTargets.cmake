@@ -13,6 +13,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(tarn_common_options INTERFACE -Wno-restrict -Wno-array-bounds
                          -Wno-stringop-overflow)
 endif()
+if(MINGW)
+  target_link_options(tarn_common_options INTERFACE -fstack-protector-strong)  # from libssp
+endif()
 if(TARN_WERROR)
   target_compile_options(tarn_common_options INTERFACE -Werror)
 endif()

@@ -2,9 +2,36 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#ifdef TARN_PICTURE_SIDES
+#include <QPixmap>
+#else
 #include <QSvgRenderer>
+#endif
 
 namespace tarn {
+namespace {
+
+#ifdef TARN_PICTURE_SIDES
+
+void drawAt(QPainter& painter, int height) {
+    const QPixmap drawing(QStringLiteral(":/desk/banner-192.png"));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(
+        QRectF(0, 0, static_cast<double>(drawing.width()) * height / drawing.height(), height),
+        drawing, drawing.rect());
+}
+
+#else
+
+void drawAt(QPainter& painter, int height) {
+    QSvgRenderer drawing(QStringLiteral(":/desk/banner.svg"));
+    const QSizeF natural = drawing.defaultSize();
+    drawing.render(&painter, QRectF(0, 0, natural.width() * height / natural.height(), height));
+}
+
+#endif
+
+}  // namespace
 
 Banner::Banner(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -22,9 +49,7 @@ void Banner::paintEvent(QPaintEvent* /*event*/) {
     ground.setColorAt(0, palette().color(QPalette::Highlight));
     ground.setColorAt(1, palette().color(QPalette::Highlight).darker(160));
     painter.fillRect(rect(), ground);
-    QSvgRenderer drawing(QStringLiteral(":/desk/banner.svg"));
-    const QSizeF natural = drawing.defaultSize();
-    drawing.render(&painter, QRectF(0, 0, natural.width() * height() / natural.height(), height()));
+    drawAt(painter, height());
 }
 
 }  // namespace tarn

@@ -45,9 +45,23 @@ void applyLook(QApplication& program) {
     translateToolkit(program);
 }
 
+#ifdef TARN_PICTURE_SIDES
+
+QIcon picture(const QString& name) {
+    QIcon icon;
+    for (const int side : {TARN_PICTURE_SIDES}) {
+        icon.addFile(QStringLiteral(":/desk/%1-%2.png").arg(name).arg(side));
+    }
+    return icon;
+}
+
+#else
+
 QIcon picture(const QString& name) {
     return lateIcon([name] { return QIcon(QStringLiteral(":/desk/%1.svg").arg(name)); });
 }
+
+#endif
 
 void setIcon(QPushButton& button, const char* name) {
     showPicture(button, name, button.fontMetrics().height() * 3 / 2);

@@ -10,8 +10,8 @@ namespace tarn {
 
 void applyLook(QApplication& program);
 
-// A picture drawn for the program (":/desk/<nome>.svg"), sharp at any scale. Drawn
-// when first shown.
+// A picture drawn for the program, sharp at any scale: ":/desk/<nome>.svg", or where that
+// can't be read as PNG in many sizes. Drawn when first shown.
 QIcon picture(const QString& name);
 // The same on a button that also has a text, and larger on one that has none.
 void setIcon(QPushButton& button, const char* name);

@@ -3,10 +3,10 @@
 
 #include <QGuiApplication>
 
+#include "tests/support/no_screen.h"
+
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    tarn::test::chooseNoScreen();
     testing::InitGoogleTest(&argc, argv);
     const QGuiApplication application(argc, argv);
     return RUN_ALL_TESTS();

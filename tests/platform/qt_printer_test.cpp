@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 
 #include "platform/directory/directory_spooler.h"
+#include "tests/support/no_screen.h"
 
 namespace tarn::test {
 namespace {
@@ -320,7 +321,7 @@ TEST_F(QtPrinterTest, AFailureHasANumberAndADescription) {
 }  // namespace tarn::test
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    tarn::test::chooseNoScreen();
     testing::InitGoogleTest(&argc, argv);
     const QGuiApplication application(argc, argv);
     return RUN_ALL_TESTS();

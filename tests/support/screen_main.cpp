@@ -2,11 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "desk/desk_application.h"
+#include "tests/support/no_screen.h"
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    tarn::test::chooseNoScreen();
     testing::InitGoogleTest(&argc, argv);
     const tarn::DeskApplication application(argc, argv);
     return RUN_ALL_TESTS();
