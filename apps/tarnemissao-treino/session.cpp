@@ -56,8 +56,7 @@ void Session::serverSaid(const QString& line) {
 void Session::openDesk(const QString& address) {
     server_.startAgainWith({QStringLiteral("--porta"), QString::number(QUrl(address).port()),
                             QStringLiteral("--banco"), folder_.file(QStringLiteral("treino.db"))});
-    printer_.start({QStringLiteral("--pasta"), folder_.path(), QStringLiteral("--formulario"),
-                    QStringLiteral("ImprimeNF_1361")});
+    printer_.start({QStringLiteral("--pasta"), folder_.path()});
     desk_.start({QStringLiteral("--servidor"), address, QStringLiteral("--impressora-virtual"),
                  folder_.path()});
     emit deskOpened();

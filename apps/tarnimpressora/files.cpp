@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "dotmatrix/paper_export.h"
+#include "forms/form_catalogue.h"
+#include "platform/job_kind.h"
 #include "printer/job_intake.h"
 #include "runtime/text.h"
 
@@ -56,8 +58,10 @@ bool printFiles(const Options& options, dotmatrix::PaperRoll& roll) {
             return false;
         }
     }
+    dotmatrix::FormShelf forms;
     for (std::size_t i = 0; i < jobs.size(); ++i) {
-        roll.startJob(options.jobs[i]);
+        roll.startJob(options.jobs[i],
+                      {.form = forms.formOf(jobKindBeside(options.jobs[i])), .told = true});
         const auto failure =
             roll.feed({jobs[i].constData(), static_cast<std::size_t>(jobs[i].size())});
         if (failure) {

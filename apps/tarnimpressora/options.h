@@ -43,6 +43,8 @@ struct Options {
     // files.
     std::int64_t rollBytes = std::int64_t{128} * 1024 * 1024;
 
+    // What the user chose lies under all jobs, whatever they say.
+    bool onePaper() const { return !form.empty() || ownHeight || ownPitch; }
     bool writes() const { return !pdf.empty() || !png.empty() || !text.empty(); }
     bool holds() const { return !queue.empty(); }
     bool waits() const { return port.has_value() || !folder.empty(); }

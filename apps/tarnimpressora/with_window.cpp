@@ -25,6 +25,9 @@ int runWithWindow(int argc, char** argv, const Options& options,
     QApplication::setApplicationDisplayName(QStringLiteral("Impressora virtual"));
     applyLook(*qApp);
     dotmatrix::PaperRoll roll(options.dialect);
+    if (options.onePaper()) {
+        roll.setDialect(options.dialect);
+    }
     if (!printFiles(options, roll)) {
         return 1;
     }

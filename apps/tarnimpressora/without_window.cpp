@@ -178,6 +178,9 @@ int runWithoutWindow(int argc, char** argv, const Options& options,
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const QGuiApplication application(argc, argv);
     dotmatrix::PaperRoll roll(options.dialect);
+    if (options.onePaper()) {
+        roll.setDialect(options.dialect);
+    }
     if (!printFiles(options, roll)) {
         return 1;
     }

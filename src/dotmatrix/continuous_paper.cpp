@@ -133,6 +133,10 @@ void ContinuousPaper::feedToNextForm() {
     crossPerforations();
 }
 
+bool ContinuousPaper::atFreshForm() const {
+    return y_ == forms_.back().top && (lines_.empty() || lines_.back().form != currentForm());
+}
+
 void ContinuousPaper::setFormHeight(PaperUnits height) {
     formHeight_ = height;
     if (y_ == forms_.back().top) {
@@ -200,7 +204,7 @@ char16_t ContinuousPaper::characterAt(std::size_t job, std::size_t jobLine,
 }
 
 FormPage pageOf(const ContinuousPaper& paper, std::size_t form) {
-    FormPage page{.form = form, .shape = paper.forms().at(form), .lines = {}};
+    FormPage page{.form = form, .shape = paper.forms().at(form), .lines = {}, .design = {}};
     const auto& lines = paper.lines();
     for (std::size_t i = paper.firstLineOf(form); i < lines.size() && lines[i].form == form; ++i) {
         page.lines.push_back(lines[i]);

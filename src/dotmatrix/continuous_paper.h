@@ -18,6 +18,8 @@ namespace tarn::dotmatrix {
 using PaperUnits = std::int64_t;
 inline constexpr PaperUnits unitsPerInch = 2160;
 
+struct FormDesign;
+
 struct Form {
     PaperUnits top = 0;
     PaperUnits height = 0;
@@ -133,6 +135,8 @@ public:
     // Feeds without a new row being counted, as a fine adjustment does.
     void feedFine(PaperUnits distance);
     void feedToNextForm();
+    // The top of a form on which nothing is printed.
+    bool atFreshForm() const;
     // The present row becomes the first of a form of this height (above 0), and so do
     // all that follow it. What is in the row goes along.
     void setFormHeight(PaperUnits height);
@@ -184,6 +188,8 @@ struct FormPage {
     std::size_t form = 0;  // from 0
     Form shape{};
     std::vector<PaperLine> lines;  // in the order of printing
+    // What was pre-printed on it, where the jobs say so.
+    std::shared_ptr<const FormDesign> design{};
 };
 
 FormPage pageOf(const ContinuousPaper& paper, std::size_t form);

@@ -55,6 +55,23 @@ void EscpInterpreter::startJob() {
     state_.columnsBefore = static_cast<std::uint16_t>(state_.column - 1);
 }
 
+void EscpInterpreter::feedToTop() {
+    if (!paper_.atFreshForm()) {
+        paper_.feedToNextForm();
+    }
+}
+
+void EscpInterpreter::changePaper(const Dialect& panel, bool switchedOn) {
+    feedToTop();
+    dialect_ = panel;
+    if (switchedOn) {
+        state_ = PrinterState{};
+        reset();
+    } else if (paper_.formHeight() != panel.formHeight) {
+        paper_.setFormHeight(panel.formHeight);
+    }
+}
+
 void EscpInterpreter::feed(std::string_view bytes) {
     if (paper_.currentJob() == 0) {
         startJob();

@@ -41,6 +41,13 @@ public:
     void startJob();
     void feed(std::string_view bytes);
 
+    // What whoever stands at the printer does between two jobs: the paper is let through to
+    // the next perforation, unless it is there; or another paper is laid in there, and the
+    // panel set for it. A printer that is switched off and on meanwhile forgets what the jobs
+    // before have set.
+    void feedToTop();
+    void changePaper(const Dialect& panel, bool switchedOn);
+
     const PrinterState& state() const { return state_; }
     const NoticeLog& notices() const { return notices_; }
 

@@ -22,7 +22,8 @@ public:
     void picture(const QRectF& area, const QImage& image) override;
     void words(const Words& words) override;
     void run(const PrintedRun& run) override;
-    void background(PaperUnits height, const std::function<void()>& draw) override;
+    void background(PaperUnits height, const std::string& form,
+                    const std::function<void()>& draw) override;
 
 private:
     QPainter& painter_;

@@ -9,6 +9,7 @@
 #include <QRectF>
 #include <QString>
 #include <functional>
+#include <string>
 
 #include "dotmatrix/continuous_paper.h"
 
@@ -60,8 +61,10 @@ public:
     virtual void picture(const QRectF& area, const QImage& image) = 0;
     virtual void words(const Words& words) = 0;
     virtual void run(const PrintedRun& run) = 0;
-    // What is the same under the print of all forms of this height; `draw` puts it here.
-    virtual void background(PaperUnits height, const std::function<void()>& draw) = 0;
+    // What is the same under the print of all forms of this height and name; `draw` puts it
+    // here.
+    virtual void background(PaperUnits height, const std::string& form,
+                            const std::function<void()>& draw) = 0;
 };
 
 }  // namespace tarn::dotmatrix

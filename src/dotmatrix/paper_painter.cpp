@@ -73,7 +73,9 @@ void PaperPainter::paintForm(QPainter& painter, const FormPage& page) const {
 
 void PaperPainter::paintForm(PaperCanvas& canvas, const FormPage& page) const {
     const double height = static_cast<double>(page.shape.height) * pointsPerUnit;
-    canvas.background(page.shape.height, [&] { paintBackground(canvas, height); });
+    const std::string form = page.design ? page.design->name : std::string();
+    canvas.background(page.shape.height, form,
+                      [&] { paintBackground(canvas, page.design.get(), height); });
     if (options_.ruler) {
         const double strip = sheet_.strip * pointsPerInch;
         paintRuler(canvas, page, options_.rulerCell, strip, sheet_.width * pointsPerInch - strip);
@@ -83,14 +85,19 @@ void PaperPainter::paintForm(PaperCanvas& canvas, const FormPage& page) const {
     }
 }
 
-void PaperPainter::paintBackground(PaperCanvas& canvas, double height) const {
+void PaperPainter::paintBackground(PaperCanvas& canvas, const FormDesign* ofPage,
+                                   double height) const {
     paintSheet(canvas, height);
     paintTitle(canvas, height);
+    const double left = sheet_.strip * pointsPerInch;
+    if (ofPage != nullptr) {
+        return paintDesign(canvas, *ofPage, left);
+    }
     if (options_.picture) {
         canvas.picture(QRectF(0, 0, sheet_.width * pointsPerInch, height), *options_.picture);
     }
     if (options_.design) {
-        paintDesign(canvas, *options_.design, sheet_.strip * pointsPerInch);
+        paintDesign(canvas, *options_.design, left);
     }
 }
 

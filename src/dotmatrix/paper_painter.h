@@ -29,9 +29,10 @@ struct PaintOptions {
     bool bands = false;  // faint green bands of half an inch
     QString title{};     // written along a strip of each form, beside the holes
     bool ruler = false;  // line and column numbers over the print
-    PaperUnits rulerCell = unitsPerInch / 10;    // width of a column on an empty form
-    std::shared_ptr<const FormDesign> design{};  // the pre-printed form; none: blank paper
-    std::shared_ptr<const QImage> picture{};     // of the design, null for none
+    PaperUnits rulerCell = unitsPerInch / 10;  // width of a column on an empty form
+    // The pre-printed form, under what has none of its own; none: blank paper.
+    std::shared_ptr<const FormDesign> design{};
+    std::shared_ptr<const QImage> picture{};  // of the design, null for none
 };
 
 // The sheet for what was printed and for what the form has beside it.
@@ -49,7 +50,7 @@ public:
     void paintForm(QPainter& painter, const FormPage& page) const;
 
 private:
-    void paintBackground(PaperCanvas& canvas, double height) const;
+    void paintBackground(PaperCanvas& canvas, const FormDesign* ofPage, double height) const;
     void paintSheet(PaperCanvas& canvas, double height) const;
     void paintTitle(PaperCanvas& canvas, double height) const;
     void paintLine(PaperCanvas& canvas, const PaperLine& line, double y) const;

@@ -31,13 +31,13 @@ PrinterState switchedOn(const Dialect& dialect) {
 }  // namespace
 
 PaperRoll::PaperRoll(const Dialect& dialect)
-    : dialect_(dialect), bytes_(std::make_unique<QTemporaryFile>()) {
+    : dialect_(dialect), panel_(dialect), bytes_(std::make_unique<QTemporaryFile>()) {
     begin(topOfPaper(dialect_), switchedOn(dialect_));
 }
 
 void PaperRoll::begin(const PaperPosition& position, PrinterState state) {
     paper_ = std::make_unique<ContinuousPaper>(position);
-    printer_ = std::make_unique<EscpInterpreter>(*paper_, dialect_, std::move(state));
+    printer_ = std::make_unique<EscpInterpreter>(*paper_, panel_, std::move(state));
     marks_.clear();
     seen_.clear();
     again_.reset();
@@ -49,6 +49,7 @@ void PaperRoll::begin(const PaperPosition& position, PrinterState state) {
 void PaperRoll::markHere() {
     marks_.push_back({.offset = printed_,
                       .position = paper_->position(),
+                      .panel = panel_,
                       .atEmptyForm = paper_->lines().empty(),
                       .state = printer_->state()});
 }
@@ -58,10 +59,54 @@ bool PaperRoll::canMarkHere() const {
     return paper_->lines().empty() || paper_->lines().back().y != paper_->y();
 }
 
-void PaperRoll::startJob(std::string name) {
-    printer_->startJob();
-    jobs_.push_back({std::move(name), paper_->currentForm(), paper_->y(), length_});
+void PaperRoll::startJob(std::string name, JobPaper paper) {
+    jobs_.push_back({.name = std::move(name), .offset = length_, .paper = std::move(paper)});
+    feedForJob(jobs_.back());
     ++version_;
+}
+
+// As a clerk does who has the right paper at hand: another one only where it is another.
+void PaperRoll::feedForJob(RollJob& job) {
+    using Way = JobFeed::Way;
+    const auto& form = job.paper.form;
+    const std::size_t before = paper_->currentForm();
+    job.feed = {};
+    if (follows_ && form && form != present_) {
+        job.feed = {.way = Way::OtherPaper,
+                    .panel = panelFor(*form, dialect_),
+                    .switchedOn = job.paper.told};
+    } else if (follows_ && form && form->everyDocumentAtTop) {
+        job.feed.way = Way::ToTop;
+    }
+    feedFor(job.feed, *printer_);
+    if (job.feed.way == Way::OtherPaper) {
+        panel_ = job.feed.panel;
+        lay(form);
+    }
+    if (paper_->currentForm() != before) {
+        paper_->forgetFormsBefore(paper_->currentForm());
+    }
+    seen_.remove_if([before](const auto& page) { return page->form >= before; });
+    printer_->startJob();
+    job.form = paper_->currentForm();
+    job.y = paper_->y();
+}
+
+void PaperRoll::lay(std::shared_ptr<const FormDesign> design) {
+    const std::size_t form = paper_->currentForm();
+    while (!laid_.empty() && laid_.back().form >= form) {
+        laid_.pop_back();
+    }
+    for (const FormBox& box : design->boxes) {
+        designsWidth_ = std::max(designsWidth_, box.x + box.width);
+    }
+    present_ = design;
+    laid_.push_back({form, std::move(design)});
+}
+
+std::shared_ptr<const FormDesign> PaperRoll::designOf(std::size_t form) const {
+    const auto after = std::ranges::upper_bound(laid_, form, {}, &Laid::form);
+    return after == laid_.begin() ? nullptr : (after - 1)->design;
 }
 
 std::optional<QString> PaperRoll::feed(std::string_view bytes) {
@@ -113,14 +158,28 @@ void PaperRoll::printLive(std::string_view bytes) {
 }
 
 void PaperRoll::setDialect(const Dialect& dialect) {
+    follows_ = false;
+    printAllAgain(dialect);
+}
+
+void PaperRoll::followJobs(const Dialect& dialect) {
+    follows_ = true;
+    printAllAgain(dialect);
+}
+
+void PaperRoll::printAllAgain(const Dialect& dialect) {
     dialect_ = dialect;
-    begin(topOfPaper(dialect_), switchedOn(dialect_));
+    const bool onFirst = follows_ && first_;
+    panel_ = onFirst ? panelFor(*first_, dialect_) : dialect_;
+    laid_.clear();
+    present_ = nullptr;
+    designsWidth_ = 0;
+    begin(topOfPaper(panel_), switchedOn(panel_));
+    if (onFirst) {
+        lay(first_);
+    }
     RollReader reader(kept(), 0);
-    const auto startJob = [this](std::size_t index) {
-        printer_->startJob();
-        jobs_[index].form = paper_->currentForm();
-        jobs_[index].y = paper_->y();
-    };
+    const auto startJob = [this](std::size_t index) { feedForJob(jobs_[index]); };
     for (std::string_view piece = reader.next(startJob); !piece.empty();
          piece = reader.next(startJob)) {
         printLive(piece);
@@ -136,10 +195,13 @@ void PaperRoll::tearOff(bool jobGoesOn) {
         state.column = 1;
         state.columnsBefore = 0;
     }
-    std::string name = jobGoesOn && !jobs_.empty() ? jobs_.back().name : std::string();
+    RollJob unfinished = jobGoesOn && !jobs_.empty() ? std::move(jobs_.back()) : RollJob();
     jobs_.clear();
     bytes_ = std::make_unique<QTemporaryFile>();
     length_ = 0;
+    laid_.clear();
+    designsWidth_ = 0;
+    first_ = present_;
     begin({.form = 0,
            .shape = {0, position.formHeight},
            .formHeight = position.formHeight,
@@ -148,8 +210,11 @@ void PaperRoll::tearOff(bool jobGoesOn) {
            .job = 0,
            .jobLine = 1},
           std::move(state));
+    if (first_) {
+        lay(first_);
+    }
     if (jobGoesOn) {
-        startJob(std::move(name));
+        startJob(std::move(unfinished.name), std::move(unfinished.paper));
     }
 }
 
@@ -160,8 +225,9 @@ std::shared_ptr<const FormPage> PaperRoll::page(std::size_t form) {
         seen_.splice(seen_.begin(), seen_, known);
         return seen_.front();
     }
-    seen_.push_front(std::make_shared<const FormPage>(
-        form >= paper_->currentForm() ? pageOf(*paper_, form) : printAgain(form)));
+    FormPage page = form >= paper_->currentForm() ? pageOf(*paper_, form) : printAgain(form);
+    page.design = designOf(form);
+    seen_.push_front(std::make_shared<const FormPage>(std::move(page)));
     if (seen_.size() > seenKept) {
         seen_.pop_back();
     }
@@ -177,7 +243,7 @@ const RollMark& PaperRoll::markBefore(std::size_t form) const {
 FormPage PaperRoll::printAgain(std::size_t form) {
     const RollMark& mark = markBefore(form);
     if (!again_ || again_->firstForm() > form || again_->offset() < mark.offset) {
-        again_.emplace(kept(), dialect_, mark);
+        again_.emplace(kept(), mark);
     }
     FormPage page = again_->page(form);
     page.shape = forms().at(form);

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QTemporaryFile>
+#include <algorithm>
 #include <cstddef>
 #include <list>
 #include <memory>
@@ -24,23 +25,31 @@ class PaperRoll {
 public:
     explicit PaperRoll(const Dialect& dialect);
 
-    // A job goes on where the paper is. Bytes before the first job make one
-    // without a name.
-    void startJob(std::string name);
+    // A job goes on where the paper is, or, where the paper that it is known to go on is
+    // another, at the top of that. Bytes before the first job make one without a name.
+    void startJob(std::string name, JobPaper paper = {});
     // Prints the bytes; nothing, or why they could not be kept (they are then not
     // printed either), in the words of the operating system.
     std::optional<QString> feed(std::string_view bytes);
 
     const Dialect& dialect() const { return dialect_; }
-    // All jobs again, on a printer that is set up otherwise.
+    // All jobs again, on a printer that is set up otherwise, and all on one paper.
     void setDialect(const Dialect& dialect);
+    // All jobs again, each on the paper that it is known to go on; `dialect` is the panel
+    // until the first of them.
+    void followJobs(const Dialect& dialect);
+    bool followsJobs() const { return follows_; }
+    // What is pre-printed on a form; null where no job has said.
+    std::shared_ptr<const FormDesign> designOf(std::size_t form) const;
+    std::shared_ptr<const FormDesign> presentDesign() const { return present_; }
     // The paper so far is taken away, up to the next perforation. The printer stays as
     // it is; an unfinished job goes on, under its name, on the new paper.
     void tearOff(bool jobGoesOn);
 
     const FormTable& forms() const { return paper_->forms(); }
     std::size_t printedForms() const { return paper_->printedForms(); }
-    PaperUnits contentWidth() const { return paper_->contentWidth(); }
+    // Of the print and of what is pre-printed.
+    PaperUnits contentWidth() const { return std::max(paper_->contentWidth(), designsWidth_); }
     PaperUnits headY() const { return paper_->y(); }
     const std::vector<RollJob>& jobs() const { return jobs_; }
     const NoticeLog& notices() const { return printer_->notices(); }
@@ -56,7 +65,16 @@ public:
     PaperPages pages();
 
 private:
+    // The paper from one form on.
+    struct Laid {
+        std::size_t form = 0;
+        std::shared_ptr<const FormDesign> design;
+    };
+
     void begin(const PaperPosition& position, PrinterState state);
+    void printAllAgain(const Dialect& dialect);
+    void feedForJob(RollJob& job);
+    void lay(std::shared_ptr<const FormDesign> design);
     std::optional<QString> keep(std::string_view bytes);
     void printLive(std::string_view bytes);
     void markHere();
@@ -65,7 +83,13 @@ private:
     const RollMark& markBefore(std::size_t form) const;
     FormPage printAgain(std::size_t form);
 
-    Dialect dialect_;
+    Dialect dialect_;  // the panel without a form
+    Dialect panel_;    // as it is now
+    bool follows_ = true;
+    std::shared_ptr<const FormDesign> present_;
+    std::shared_ptr<const FormDesign> first_;  // that the paper begins with
+    std::vector<Laid> laid_;                   // in the order of the forms
+    PaperUnits designsWidth_ = 0;
     std::unique_ptr<QTemporaryFile> bytes_;
     qint64 length_ = 0;  // bytes taken in
     qint64 printed_ = 0;

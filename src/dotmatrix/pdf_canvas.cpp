@@ -463,8 +463,9 @@ void PdfCanvas::run(const PrintedRun& run) {
     }
 }
 
-void PdfCanvas::background(PaperUnits height, const std::function<void()>& draw) {
-    const auto [place, isNew] = backgrounds_.try_emplace(height, 0);
+void PdfCanvas::background(PaperUnits height, const std::string& form,
+                           const std::function<void()>& draw) {
+    const auto [place, isNew] = backgrounds_.try_emplace({height, form}, 0);
     if (isNew) {
         Content page = std::exchange(content_, Content{});
         draw();
@@ -545,7 +546,7 @@ void PdfCanvas::writeResources(const std::vector<int>& fonts) {
     }
     // A background names no background.
     file_.write(backgroundResources_, common + ">>>>");
-    for (const auto& [height, drawing] : backgrounds_) {
+    for (const auto& [of, drawing] : backgrounds_) {
         common += nameOf('B', drawing) + ' ' + pdfReference(drawing);
     }
     file_.write(resources_, common + ">>>>");

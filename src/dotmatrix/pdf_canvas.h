@@ -40,7 +40,8 @@ public:
     void picture(const QRectF& area, const QImage& image) override;
     void words(const Words& words) override;
     void run(const PrintedRun& run) override;
-    void background(PaperUnits height, const std::function<void()>& draw) override;
+    void background(PaperUnits height, const std::string& form,
+                    const std::function<void()>& draw) override;
 
 private:
     struct Glyph {
@@ -94,7 +95,7 @@ private:
     std::deque<PdfFont> fonts_;
     std::map<QByteArray, PdfFont*> fontsByFace_;
     std::map<qint64, int> pictures_;  // by their cache keys
-    std::map<PaperUnits, int> backgrounds_;
+    std::map<std::pair<PaperUnits, std::string>, int> backgrounds_;
     std::map<int, int> states_;  // by their opacity of 0 to 255
     std::vector<int> pages_;
     QSizeF firstPage_;

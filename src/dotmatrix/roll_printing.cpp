@@ -10,6 +10,14 @@ constexpr qint64 pieceBytes = 16LL * 1024;
 
 }  // namespace
 
+void feedFor(const JobFeed& feed, EscpInterpreter& printer) {
+    if (feed.way == JobFeed::Way::ToTop) {
+        printer.feedToTop();
+    } else if (feed.way == JobFeed::Way::OtherPaper) {
+        printer.changePaper(feed.panel, feed.switchedOn);
+    }
+}
+
 RollReader::RollReader(const RollBytes& bytes, qint64 from)
     : bytes_(bytes),
       at_(from),
@@ -30,15 +38,19 @@ std::string_view RollReader::next(const std::function<void(std::size_t)>& startJ
     return {piece_.constData(), static_cast<std::size_t>(piece_.size())};
 }
 
-RollPrinting::RollPrinting(const RollBytes& bytes, const Dialect& dialect, const RollMark& from)
+RollPrinting::RollPrinting(const RollBytes& bytes, const RollMark& from)
     : firstForm_(from.firstWholeForm()),
       paper_(from.position),
-      printer_(paper_, dialect, from.state),
+      printer_(paper_, from.panel, from.state),
+      jobs_(bytes.jobs),
       reader_(bytes, from.offset) {}
 
 bool RollPrinting::printByte() {
     if (piece_.empty()) {
-        piece_ = reader_.next([this](std::size_t) { printer_.startJob(); });
+        piece_ = reader_.next([this](std::size_t job) {
+            feedFor(jobs_[job].feed, printer_);
+            printer_.startJob();
+        });
     }
     if (piece_.empty()) {
         return false;

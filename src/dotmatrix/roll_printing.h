@@ -6,6 +6,7 @@
 #include <QIODevice>
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,14 +14,36 @@
 #include "dotmatrix/continuous_paper.h"
 #include "dotmatrix/dialect.h"
 #include "dotmatrix/escp_interpreter.h"
+#include "dotmatrix/form_design.h"
 
 namespace tarn::dotmatrix {
+
+// The paper that a job is known to go on; no form: it isn't known.
+struct JobPaper {
+    std::shared_ptr<const FormDesign> form{};
+    // The job's sender says so; else its bytes do, and what its set-up job has done to the
+    // printer holds.
+    bool told = true;
+};
+
+// What is done at the printer ahead of a job.
+struct JobFeed {
+    enum class Way { GoesOn, ToTop, OtherPaper };
+
+    Way way = Way::GoesOn;
+    Dialect panel{};  // for the other paper
+    bool switchedOn = false;
+};
+
+void feedFor(const JobFeed& feed, EscpInterpreter& printer);
 
 struct RollJob {
     std::string name;
     std::size_t form = 0;  // where it begins, from 0
     PaperUnits y = 0;
     qint64 offset = 0;  // of its first byte among all bytes
+    JobPaper paper{};
+    JobFeed feed{};
 };
 
 // What a roll has taken in. All must outlive those who read it.
@@ -34,6 +57,7 @@ struct RollBytes {
 struct RollMark {
     qint64 offset = 0;
     PaperPosition position;
+    Dialect panel;
     bool atEmptyForm = true;  // else only the forms behind the present one can be had whole
     PrinterState state;
 
@@ -59,7 +83,7 @@ private:
 
 class RollPrinting {
 public:
-    RollPrinting(const RollBytes& bytes, const Dialect& dialect, const RollMark& from);
+    RollPrinting(const RollBytes& bytes, const RollMark& from);
 
     // The forms that can still be had: those from this one on.
     std::size_t firstForm() const { return firstForm_; }
@@ -74,6 +98,7 @@ private:
     std::size_t firstForm_;
     ContinuousPaper paper_;
     EscpInterpreter printer_;
+    const std::vector<RollJob>& jobs_;
     RollReader reader_;
     std::string_view piece_;  // not yet printed
 };

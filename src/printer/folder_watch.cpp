@@ -4,6 +4,9 @@
 #include <QFile>
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
+
+#include "platform/job_kind.h"
 
 namespace tarn::dotmatrix {
 
@@ -12,6 +15,18 @@ namespace {
 constexpr std::chrono::milliseconds betweenLooks(250);
 constexpr int quietLooks = 2;
 constexpr qint64 readAtOnce = 256LL * 1024;
+
+std::filesystem::path pathOf(const QString& file) {
+    return QFile::encodeName(file).toStdString();
+}
+
+JobKind kindOfJob(const QString& file) {
+    return jobKindBeside(pathOf(file));
+}
+
+QString kindFileOf(const QString& job) {
+    return QFile::decodeName(jobKindFile(pathOf(job)).c_str());
+}
 
 QStringList jobsIn(const QDir& folder) {
     QStringList names = QDir(folder.path()).entryList({QStringLiteral("*.prn")}, QDir::Files);
@@ -102,7 +117,8 @@ void FolderWatch::takePiece(const QString& name) {
             QFile::remove(file.filePath());  // kept just before the program ended
             return;
         }
-        if (file.size() == 0 || !intake_.begin(name, JobIntake::Kind::Printed)) {
+        if (file.size() == 0 ||
+            !intake_.begin(name, JobIntake::Kind::Printed, kindOfJob(file.filePath()))) {
             return;
         }
         open_ = name;
@@ -149,6 +165,7 @@ void FolderWatch::endOpen(const QString& remark) {
     }
     const QString file = folder_.filePath(open_);
     if (intake_.end({}, sourceOf(open_)) && QFile::remove(file)) {
+        QFile::remove(kindFileOf(file));
         seen_.remove(open_);
     }
 }

@@ -2,22 +2,26 @@
 
 #include <QActionGroup>
 
-#include "forms/layout_forms.h"
+#include "forms/form_catalogue.h"
 
 namespace tarn::dotmatrix {
 
 FormMenu::FormMenu(const std::optional<QString>& present, QWidget* parent)
     : QMenu(QStringLiteral("&Formulário"), parent), forms_(new QActionGroup(this)) {
     setObjectName(QStringLiteral("formMenu"));
+    ofJob_ = add(QStringLiteral("&Conforme o trabalho"), QStringLiteral("job"));
     blank_ = add(QStringLiteral("Papel em &branco"), QString());
-    addSeparator();
-    for (const std::string& name : layoutFormNames()) {
-        const QString form = QString::fromStdString(name);
-        add(form, form);
+    std::optional<JobDocument> document;
+    for (const CatalogueForm& form : formCatalogue()) {
+        if (form.document != document) {
+            addSeparator();
+            document = form.document;
+        }
+        add(QString::fromStdString(form.title), QString::fromStdString(form.name));
     }
     addSeparator();
     ofFile_ = add(QStringLiteral("De um &arquivo..."), QStringLiteral("file"));
-    chosen_ = blank_;
+    chosen_ = ofJob_;
     if (present) {
         chosen_ = ofFile_;
         for (QAction* action : forms_->actions()) {
@@ -38,7 +42,9 @@ QAction* FormMenu::add(const QString& text, const QString& form) {
 }
 
 void FormMenu::choose(QAction* action) {
-    if (action == blank_) {
+    if (action == ofJob_) {
+        emit jobsChosen();
+    } else if (action == blank_) {
         emit blankChosen();
     } else if (action == ofFile_) {
         emit fileWanted();

@@ -12,7 +12,8 @@ class FormMenu : public QMenu {
     Q_OBJECT
 
 public:
-    // `present` is the name of the form that lies there already, if one does.
+    // `present` is the name of the one form that lies under all jobs already; none: each job
+    // lies on its own.
     FormMenu(const std::optional<QString>& present, QWidget* parent);
 
     // The ticked form lies under the paper now.
@@ -21,6 +22,7 @@ public:
     void undoChoice();
 
 signals:
+    void jobsChosen();  // each on its own form
     void blankChosen();
     void formChosen(const QString& name);
     void fileWanted();
@@ -30,6 +32,7 @@ private:
     void choose(QAction* action);
 
     QActionGroup* forms_;
+    QAction* ofJob_;
     QAction* blank_;
     QAction* ofFile_;
     QAction* chosen_;

@@ -2,6 +2,8 @@
 
 #include <QFileInfo>
 
+#include "platform/job_kind.h"
+
 namespace tarn::dotmatrix {
 
 namespace {
@@ -33,7 +35,8 @@ void JobFiles::take() {
             file_.reset();
             return take();
         }
-        intake_.begin(QFileInfo(*file_).fileName());
+        intake_.begin(QFileInfo(*file_).fileName(), JobIntake::Kind::LookedAt,
+                      jobKindBeside(QFile::encodeName(file_->fileName()).toStdString()));
     }
     const QByteArray piece = file_->read(readAtOnce);
     if (piece.isEmpty()) {

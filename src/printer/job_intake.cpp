@@ -15,7 +15,7 @@ QString notKept() {
 JobIntake::JobIntake(PaperRoll& roll, qint64 mostJobBytes)
     : roll_(roll), mostJobBytes_(mostJobBytes) {}
 
-bool JobIntake::begin(const QString& name, Kind kind) {
+bool JobIntake::begin(const QString& name, Kind kind, const JobKind& told) {
     if (busy_) {
         return false;
     }
@@ -24,7 +24,7 @@ bool JobIntake::begin(const QString& name, Kind kind) {
     taken_ = 0;
     keeping_ = keeper_ != nullptr && kind == Kind::Printed;
     lost_ = keeping_ && !keeper_->begin();
-    roll_.startJob(name.toStdString());
+    roll_.startJob(name.toStdString(), {.form = forms_.formOf(told), .told = true});
     emit changed();
     return true;
 }

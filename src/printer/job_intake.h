@@ -7,6 +7,8 @@
 #include <QString>
 
 #include "dotmatrix/paper_roll.h"
+#include "forms/form_catalogue.h"
+#include "platform/job_kind.h"
 #include "printer/job_keeper.h"
 
 namespace tarn::dotmatrix {
@@ -29,7 +31,8 @@ public:
 
     bool busy() const { return busy_; }
     // False while another job is being taken; `idle` tells when to ask again.
-    bool begin(const QString& name, Kind kind = Kind::LookedAt);
+    // `told` is what the job says that it prints.
+    bool begin(const QString& name, Kind kind = Kind::LookedAt, const JobKind& told = {});
     // Prints the bytes at once. False when the job is over its size or the disk is full:
     // it is ended then, with a remark, and takes no more.
     bool take(const QByteArray& bytes);
@@ -49,6 +52,7 @@ private:
     void finish(const QString& remark);
 
     PaperRoll& roll_;
+    FormShelf forms_;
     JobKeeper* keeper_ = nullptr;
     qint64 mostJobBytes_;
     bool busy_ = false;

@@ -10,6 +10,7 @@
 #include <QStatusBar>
 #include <chrono>
 
+#include "forms/form_catalogue.h"
 #include "forms/form_loader.h"
 #include "printer/form_menu.h"
 #include "printer/job_files.h"
@@ -32,7 +33,11 @@ PaperUnits rulerCellOf(const Dialect& dialect) {
 
 PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, HoldDesk& desk,
                              const PaintOptions& options, std::optional<int> itemLines)
-    : roll_(roll), intake_(intake), options_(options), itemLines_(itemLines) {
+    : roll_(roll),
+      intake_(intake),
+      options_(options),
+      panel_(roll.dialect()),
+      itemLines_(itemLines) {
     setObjectName(QStringLiteral("PrinterWindow"));
     setWindowTitle(QStringLiteral("Impressora matricial virtual"));
     resize(1100, 780);
@@ -120,6 +125,7 @@ void PrinterWindow::makeFormMenu() {
     menuBar()->addMenu(forms_);
     connect(forms_, &FormMenu::formChosen, this, &PrinterWindow::layForm);
     connect(forms_, &FormMenu::fileWanted, this, &PrinterWindow::layFormOfFile);
+    connect(forms_, &FormMenu::jobsChosen, this, &PrinterWindow::followJobs);
     connect(forms_, &FormMenu::blankChosen, this, [this] {
         options_.design.reset();
         options_.picture.reset();
@@ -132,11 +138,15 @@ void PrinterWindow::makeStatusBar() {
     waitingText_ = new QLabel(this);
     waitingText_->setObjectName(QStringLiteral("waiting"));
     waitingText_->setTextFormat(Qt::PlainText);
+    paperText_ = new QLabel(this);
+    paperText_->setObjectName(QStringLiteral("paperName"));
+    paperText_->setTextFormat(Qt::PlainText);
     spotText_ = new QLabel(this);
     spotText_->setObjectName(QStringLiteral("position"));
     countText_ = new QLabel(this);
     countText_->setObjectName(QStringLiteral("count"));
     statusBar()->addWidget(waitingText_, 1);
+    statusBar()->addPermanentWidget(paperText_);
     statusBar()->addPermanentWidget(spotText_);
     statusBar()->addPermanentWidget(countText_);
     connect(view_, &PaperView::hovered, this, &PrinterWindow::showSpot);
@@ -229,11 +239,22 @@ void PrinterWindow::layFormOfFile() {
     files.isEmpty() ? forms_->undoChoice() : layForm(files.front());
 }
 
+void PrinterWindow::followJobs() {
+    options_.design.reset();
+    options_.picture.reset();
+    forms_->keepChoice();
+    printAgain(panel_, [this] { roll_.followJobs(panel_); });
+}
+
 // The jobs so far are printed again, as the printer would have with this panel.
 void PrinterWindow::usePanel(const Dialect& dialect) {
+    printAgain(dialect, [this, &dialect] { roll_.setDialect(dialect); });
+}
+
+void PrinterWindow::printAgain(const Dialect& dialect, const std::function<void()>& print) {
     search_->forget();
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    roll_.setDialect(dialect);
+    print();
     QApplication::restoreOverrideCursor();
     options_.rulerCell = rulerCellOf(dialect);
     noticesLogged_ = roll_.notices().total();
@@ -243,8 +264,30 @@ void PrinterWindow::usePanel(const Dialect& dialect) {
 
 void PrinterWindow::paperChanged() {
     view_->refresh();
+    showPaper();
     showCounts();
     logNotices();
+}
+
+// What lies in the printer, and how it is known of the last job.
+void PrinterWindow::showPaper() {
+    QString text;
+    if (options_.design) {
+        text = QString::fromStdString(formTitle(options_.design->name));
+    } else if (roll_.followsJobs()) {
+        const auto present = roll_.presentDesign();
+        text = present ? QString::fromStdString(formTitle(present->name))
+                       : QStringLiteral("Papel em branco");
+        const auto& jobs = roll_.jobs();
+        if (!jobs.empty() && !jobs.back().paper.form) {
+            text += QStringLiteral(" (o trabalho não diz o seu papel)");
+        } else if (!jobs.empty() && !jobs.back().paper.told) {
+            text += QStringLiteral(" (reconhecido pelo conteúdo)");
+        }
+    } else {
+        text = QStringLiteral("Papel em branco");
+    }
+    paperText_->setText(text);
 }
 
 void PrinterWindow::showCounts() {

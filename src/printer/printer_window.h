@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 #include <QTimer>
+#include <functional>
 #include <optional>
 
 #include "printer/hold_view.h"
@@ -56,7 +57,10 @@ private:
 
     void layForm(const QString& name);
     void layFormOfFile();
+    void followJobs();
     void usePanel(const Dialect& dialect);
+    void printAgain(const Dialect& dialect, const std::function<void()>& print);
+    void showPaper();
     void paperChanged();
     void logNotices();
     void log(const QString& line);
@@ -67,6 +71,7 @@ private:
     PaperRoll& roll_;
     JobIntake& intake_;
     PaintOptions options_;
+    Dialect panel_;  // where each job brings its own paper
     std::optional<int> itemLines_;
     WindowQuestions questions_;
 
@@ -79,6 +84,7 @@ private:
     QDockWidget* logDock_;
     QPlainTextEdit* logText_;
     QLabel* waitingText_;
+    QLabel* paperText_;
     QLabel* spotText_;
     QLabel* countText_;
 

@@ -298,5 +298,142 @@ TEST(FormTable, RunsOfEqualFormsAreFoundByPlaceAndHeight) {
     EXPECT_EQ(later[51].height, 10);
 }
 
+// Papers of different length and pitch, as jobs tell of them.
+class PapersOfJobs : public testing::Test {
+protected:
+    static std::shared_ptr<const FormDesign> form(const char* name, PaperUnits lines,
+                                                  bool condensed = false, bool atTop = false) {
+        FormDesign design;
+        design.name = name;
+        design.height = lines * unitsPerInch / 6;
+        design.pitch.condensed = condensed;
+        design.everyDocumentAtTop = atTop;
+        design.boxes.push_back({0, 0, 2160, 360, name});
+        return std::make_shared<const FormDesign>(std::move(design));
+    }
+    void job(const std::shared_ptr<const FormDesign>& paper, const std::string& bytes,
+             bool told = true) {
+        roll_.startJob("job", {.form = paper, .told = told});
+        EXPECT_FALSE(roll_.feed(bytes));
+    }
+    // "form:line name" of each printed line, its name's first letter, and its cells' width.
+    std::string printed() {
+        std::string out;
+        for (std::size_t form = 0; form < roll_.printedForms(); ++form) {
+            const auto page = roll_.page(form);
+            for (const PaperLine& line : page->lines) {
+                out += std::to_string(form) + ":" +
+                       std::to_string((line.y - page->shape.top) * 6 / unitsPerInch + 1) +
+                       (page->design ? " " + page->design->name : "") + "/" +
+                       std::to_string(page->shape.height * 6 / unitsPerInch) + " " +
+                       static_cast<char>(line.cells.front().character) + " " +
+                       std::to_string(line.cells.front().width) + "\n";
+            }
+        }
+        return out;
+    }
+
+    PaperRoll roll_{{}};
+    std::shared_ptr<const FormDesign> note_ = form("nota", 20);
+    std::shared_ptr<const FormDesign> slip_ = form("boleto", 10, true);
+    std::shared_ptr<const FormDesign> order_ = form("ordem", 30, false, true);
+};
+
+TEST_F(PapersOfJobs, AnotherPaperBeginsAtItsTopAndWithItsPanel) {
+    job(note_, "\x1BM\r\na\r\n");
+    job(note_, "b\r\n");
+    job(slip_, "c\r\n");
+    job(nullptr, "d\r\n");
+    job(slip_, "e\r\n");
+    job(note_, "f\r\n");
+    const std::string expected =
+        "0:2 nota/20 a 180\n"
+        "0:3 nota/20 b 180\n"
+        "1:1 boleto/10 c 126\n"  // elite is forgotten, the panel is condensed
+        "1:2 boleto/10 d 126\n"  // unknown: on the paper that is there
+        "1:3 boleto/10 e 126\n"
+        "2:1 nota/20 f 216\n";
+    EXPECT_EQ(printed(), expected);
+    EXPECT_EQ(roll_.forms().at(1).top, 20 * unitsPerInch / 6);
+    EXPECT_EQ(roll_.presentDesign(), note_);
+    ASSERT_EQ(roll_.jobs().size(), 6U);
+    EXPECT_EQ(roll_.jobs()[2].form, 1U);
+    EXPECT_EQ(roll_.jobs()[2].y, 20 * unitsPerInch / 6);
+}
+
+TEST_F(PapersOfJobs, AFormThatWasFilledIsNotFedAgain) {
+    job(note_, std::string(20, '\n'));
+    job(slip_, "x\f");
+    job(order_, "y\r\n");
+    job(order_, "z\r\n");
+    job(note_, "n");
+    EXPECT_EQ(printed(),
+              "1:1 boleto/10 x 126\n"
+              "2:1 ordem/30 y 216\n"
+              "3:1 ordem/30 z 216\n"
+              "4:1 nota/20 n 216\n");
+}
+
+TEST_F(PapersOfJobs, APaperKnownByItsBytesLeavesThePrinterOn) {
+    job(nullptr, " \x0F");
+    job(slip_, "x\r\n", false);
+    EXPECT_EQ(printed(), "0:1 boleto/10 x 126\n");
+    EXPECT_EQ(roll_.page(0)->lines.at(0).cells.at(0).x, 216) << "behind the set-up's blank";
+}
+
+TEST_F(PapersOfJobs, OnePaperUnderAllWinsUntilTheJobsAreFollowedAgain) {
+    job(note_, "a\r\n");
+    job(slip_, "b\r\n");
+    const std::string followed = printed();
+    roll_.setDialect({});
+    EXPECT_FALSE(roll_.followsJobs());
+    EXPECT_EQ(printed(), "0:1/66 a 216\n0:2/66 b 216\n");
+    job(note_, "c\r\n");
+    EXPECT_EQ(printed(), "0:1/66 a 216\n0:2/66 b 216\n0:3/66 c 216\n");
+    roll_.followJobs({});
+    EXPECT_EQ(printed(), followed + "2:1 nota/20 c 216\n");
+}
+
+TEST_F(PapersOfJobs, TornOffPaperLeavesThePaperThatIsThere) {
+    job(slip_, "a\r\n");
+    roll_.tearOff(false);
+    job(nullptr, "b\r\n");
+    job(slip_, "c\r\n");
+    EXPECT_EQ(printed(), "0:1 boleto/10 b 126\n0:2 boleto/10 c 126\n");
+    roll_.followJobs({});
+    EXPECT_EQ(printed(), "0:1 boleto/10 b 126\n0:2 boleto/10 c 126\n");
+    roll_.tearOff(true);
+    EXPECT_FALSE(roll_.feed("d\r\n"));
+    EXPECT_EQ(printed(), "0:1 boleto/10 d 126\n");
+}
+
+// Forms printed again from a mark stand as they came out, each on its paper.
+TEST_F(PapersOfJobs, FormsPrintedAgainLieOnTheSamePaper) {
+    const std::string line = "linha" + std::string(60, 'x') + "\r\n";
+    std::vector<std::string> expected;
+    for (int day = 0; day < 60; ++day) {
+        for (const auto& paper : {note_, order_, slip_}) {
+            std::string bytes;
+            for (int i = 0; i < 1 + day % 9; ++i) {
+                bytes += line;
+            }
+            job(paper, bytes);
+            expected.push_back(paper->name);
+        }
+    }
+    ASSERT_EQ(roll_.printedForms(), expected.size());
+    for (std::size_t form = expected.size(); form-- > 0;) {
+        const auto page = roll_.page(form);
+        ASSERT_TRUE(page->design) << form;
+        ASSERT_EQ(page->design->name, expected[form]) << form;
+        ASSERT_EQ(page->shape.height, page->design->height) << form;
+        ASSERT_EQ(page->lines.size(), 1 + (form / 3) % 9) << form;
+        ASSERT_EQ(page->lines.front().y, page->shape.top) << form;
+        ASSERT_EQ(page->lines.front().jobLine, 1U) << form;
+        ASSERT_EQ(page->lines.front().job, form + 1) << form;
+        ASSERT_EQ(page->lines.front().cells.front().width, form % 3 == 2 ? 126 : 216) << form;
+    }
+}
+
 }  // namespace
 }  // namespace tarn::test

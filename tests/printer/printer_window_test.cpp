@@ -322,11 +322,47 @@ TEST_F(Window, AFormIsChosenFromTheMenu) {
     EXPECT_TRUE(named<QAction>(window_, "form_").isChecked());
 }
 
+TEST_F(Window, EachJobLiesOnItsOwnFormUntilOneIsChosen) {
+    const JobKind note{.document = JobDocument::Note, .form = "ImprimeNF_1361", .itemLines = 13};
+    const JobKind cheque{.document = JobDocument::Cheque, .form = "Cheque", .itemLines = {}};
+    EXPECT_TRUE(named<QAction>(window_, "form_job").isChecked());
+    EXPECT_EQ(label("paperName"), QStringLiteral("Papel em branco"));
+    const auto told = [this](const JobKind& kind, const QByteArray& bytes) {
+        ASSERT_TRUE(intake_.begin("job", JobIntake::Kind::LookedAt, kind));
+        ASSERT_TRUE(intake_.take(bytes));
+        intake_.end();
+        ASSERT_TRUE(settled());
+    };
+    told(note, "nota\r\n");
+    EXPECT_EQ(label("paperName"), QStringLiteral("Nota: 1361, 141, 761"));
+    told(cheque, "cheque\r\n");
+    EXPECT_EQ(label("paperName"), QStringLiteral("Cheque: outros bancos"));
+    ASSERT_EQ(roll_.printedForms(), 2U);
+    EXPECT_EQ(roll_.page(1)->shape.height, 3 * unitsPerInch);
+    told({}, "outro\r\n");
+    EXPECT_EQ(label("paperName"),
+              QStringLiteral("Cheque: outros bancos (o trabalho não diz o seu papel)"));
+
+    choose(window_, "formMenu", "form_ImprimeNF_7");
+    EXPECT_EQ(label("paperName"), QStringLiteral("Nota: 7"));
+    EXPECT_EQ(roll_.printedForms(), 1U) << "one form under all";
+    EXPECT_EQ(roll_.page(0)->design, nullptr);
+    told(cheque, "mais um\r\n");
+    EXPECT_EQ(roll_.printedForms(), 1U);
+
+    choose(window_, "formMenu", "form_job");
+    EXPECT_EQ(label("paperName"), QStringLiteral("Cheque: outros bancos"));
+    ASSERT_EQ(roll_.printedForms(), 2U);
+    EXPECT_EQ(roll_.page(0)->design->name, "ImprimeNF_1361");
+    EXPECT_EQ(roll_.page(1)->design->name, "Cheque");
+    EXPECT_EQ(roll_.page(1)->lines.size(), 3U);
+}
+
 TEST_F(Window, AFormOfAFileIsChosenOrRefused) {
     open_ = {file("nada.txt")};
     choose(window_, "formMenu", "form_file");
     EXPECT_TRUE(complaint().startsWith(QStringLiteral("não há formulário nem arquivo")));
-    EXPECT_TRUE(named<QAction>(window_, "form_").isChecked());
+    EXPECT_TRUE(named<QAction>(window_, "form_job").isChecked());
     QFile form(file("meu.txt"));
     ASSERT_TRUE(form.open(QIODevice::WriteOnly));
     form.write("altura 33\ncaixa 3 3 10 2 Meu\n");
