@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstdio>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace tarn::dotmatrix {
 
@@ -17,6 +19,11 @@ constexpr PaperUnits farthestLeft = -216;
 constexpr PaperUnits highest = -lineHeight;
 constexpr PaperUnits widest = PaperUnits{1000} * 216;
 constexpr PaperUnits longest = 22 * unitsPerInch;
+// The edge of the widest paper, 14.875 inches with strips of half an inch, from the first
+// print position.
+constexpr PaperUnits sheetEdge = unitsPerInch * 14375 / 1000;
+// What decimals in a form text may lose.
+constexpr PaperUnits slack = 4;
 constexpr double mostFigures = 10'000;  // of any number
 constexpr std::string_view blanks = " \t\r";
 
@@ -82,10 +89,14 @@ private:
     std::string_view rest_;
 };
 
+// With a decimal comma, and no more decimals than it has.
+std::string decimal(double value);
+
 class Reader {
 public:
     // What is wrong with the line; empty for nothing.
     std::string read(std::string_view line) {
+        ++line_;
         Words words(line);
         const std::string_view word = words.next();
         if (word.empty() || word.front() == '#') {
@@ -116,9 +127,45 @@ public:
                "figura.";
     }
 
+    // The first box or text that isn't on the sheet; its height is known at the end only.
+    std::optional<FormTextError> outsideTheSheet() const {
+        for (const Place& place : places_) {
+            // What prints behind the form's last line end is a line below it.
+            if (place.bottom > form.height + lineHeight + slack) {
+                return FormTextError{
+                    place.line,
+                    "termina na linha " + decimal(linesOf(place.bottom)) + ", e a folha tem " +
+                        decimal(linesOf(form.height)) +
+                        ". Confira linha e altura, ou aumente a \"altura\" do formulário."};
+            }
+            if (place.right > sheetEdge + slack) {
+                return FormTextError{
+                    place.line,
+                    "termina na coluna " + decimal(std::floor(columnsOf(place.right, place))) +
+                        ", e a folha mais larga tem " +
+                        decimal(std::floor(columnsOf(sheetEdge, place))) +
+                        ". Confira coluna e largura, e o \"passo\" em que são contadas."};
+            }
+        }
+        return std::nullopt;
+    }
+
     FormDesign form;
 
 private:
+    // Lower right corner of what a line of the text puts on the sheet.
+    struct Place {
+        std::size_t line = 0;
+        PaperUnits right = 0;
+        PaperUnits bottom = 0;
+        double column = 0;  // width of the columns in which it was told
+    };
+
+    static double linesOf(PaperUnits y) { return static_cast<double>(y) / oneLine; }
+    static double columnsOf(PaperUnits x, const Place& place) {
+        return static_cast<double>(x) / place.column;
+    }
+
     std::string readHeight(Words& words) {
         const auto height = words.units(oneLine, 0, 3 * lineHeight, longest);
         if (!height) {
@@ -149,6 +196,7 @@ private:
             return "\"caixa\" pede linha, coluna, largura e altura em números, e depois o "
                    "rótulo.";
         }
+        places_.push_back({line_, *x + *width, *y + *height, column_});
         form.boxes.push_back({*x, *y, *width, *height, words.rest()});
         return {};
     }
@@ -160,15 +208,17 @@ private:
         if (!y || !x || text.empty()) {
             return "\"texto\" pede linha e coluna em números, e depois o texto.";
         }
+        places_.push_back({line_, *x, *y + lineHeight, column_});
         form.texts.push_back({*x, *y, std::move(text)});
         return {};
     }
 
     static constexpr double oneLine = static_cast<double>(lineHeight);
     double column_ = 216;
+    std::size_t line_ = 0;
+    std::vector<Place> places_;
 };
 
-// With a decimal comma, and no more decimals than it has.
 std::string decimal(double value) {
     char digits[32];
     std::snprintf(digits, sizeof digits, "%.4f", value);
@@ -218,6 +268,9 @@ std::variant<FormDesign, FormTextError> readForm(std::string_view text) {
             return FormTextError{number, std::move(what)};
         }
         text.remove_prefix(std::min(text.size(), end + 1));
+    }
+    if (auto outside = reader.outsideTheSheet()) {
+        return std::move(*outside);
     }
     return std::move(reader.form);
 }

@@ -88,9 +88,9 @@ TEST(FormText, EveryFaultIsToldWithItsLine) {
 // must be readable in the other.
 TEST(FormText, TheBoundsOfOnePitchAreThoseOfEach) {
     for (const char* pitch : {"10", "12", "17", "20"}) {
-        for (const char* box : {"caixa 0 0 1 132 x", "caixa 1 1000 1000 1", "caixa 133 1 0,01 0,01",
-                                "texto 0 0,0001 x", "texto 132 999,9999 x"}) {
-            const FormDesign form = read(std::string("passo ") + pitch + "\n" + box);
+        for (const char* box : {"caixa 0 0 1 132 x", "caixa 1 100 43 1", "caixa 133 1 0,01 0,01",
+                                "texto 0 0,0001 x", "texto 132 144,7499 x"}) {
+            const FormDesign form = read(std::string("altura 132\npasso ") + pitch + "\n" + box);
             const FormDesign again = read(writeForm(form));
             ASSERT_EQ(again.boxes.size(), form.boxes.size()) << pitch << box;
             for (std::size_t i = 0; i < form.boxes.size(); ++i) {
@@ -106,6 +106,27 @@ TEST(FormText, TheBoundsOfOnePitchAreThoseOfEach) {
             }
         }
     }
+}
+
+TEST(FormText, WhatLiesOutsideTheSheetIsAnErrorOfItsLine) {
+    // The height counts wherever it is told.
+    const FormTextError low = errorOf("nome x\ncaixa 3 1 10 2\ncaixa 90 1 10 1,5 Baixo\n");
+    EXPECT_EQ(low.line, 3U);
+    EXPECT_EQ(low.what,
+              "termina na linha 90,5, e a folha tem 66. Confira linha e altura, ou aumente a "
+              "\"altura\" do formulário.");
+    EXPECT_EQ(read("caixa 90 1 10 1,5\naltura 96").boxes.size(), 1U);
+    EXPECT_EQ(errorOf("altura 18\ntexto 20 1 x").line, 2U);
+    EXPECT_EQ(errorOf("caixa 60 1 10 9\naltura 66").line, 1U);
+    const FormTextError wide = errorOf("passo 10\n\ncaixa 3 1 300 2 Larga");
+    EXPECT_EQ(wide.line, 3U);
+    EXPECT_EQ(wide.what,
+              "termina na coluna 300, e a folha mais larga tem 143. Confira coluna e largura, e o "
+              "\"passo\" em que são contadas.");
+    EXPECT_EQ(errorOf("passo 17\ntexto 3 250 x").line, 2U);
+    EXPECT_EQ(read("passo 20\ncaixa 3 1 280 2").boxes.size(), 1U);
+    // The first one is told.
+    EXPECT_EQ(errorOf("caixa 70 1 1 1\ncaixa 3 1 300 2").line, 1U);
 }
 
 TEST(FormText, WrittenFormsReadTheSame) {
