@@ -1,6 +1,7 @@
 #include "platform/curl/next_connection.h"
 
 #include <algorithm>
+#include <system_error>
 #include <utility>
 
 namespace tarn {
@@ -50,10 +51,18 @@ void NextConnection::rest(curl_socket_t kept, const Peer& peer, std::chrono::mil
             replace();
         }
     }
-    if (!thread_.joinable()) {
-        thread_ = std::thread([this] { watch(); });
-    }
+    beginToWatch();
     tell();
+}
+
+// Without a thread the kept connection is looked at by the next request alone.
+void NextConnection::beginToWatch() {
+    if (!thread_.joinable()) {
+        try {
+            thread_ = std::thread([this] { watch(); });
+        } catch (const std::system_error&) {  // the machine gives no more of them
+        }
+    }
 }
 
 bool NextConnection::wake() {

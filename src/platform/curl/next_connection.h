@@ -40,6 +40,7 @@ public:
 private:
     using Time = std::chrono::steady_clock::time_point;
 
+    void beginToWatch();
     void watch();
     void replace();
     void tell();
