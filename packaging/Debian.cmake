@@ -24,9 +24,9 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(exactly "(= ${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 
-# Beside the libraries: the texts of the toolkit in Portuguese, and
-# letters of Arial's widths for drawn pages.
-set(with_windows "qt6-translations-l10n, fonts-liberation")
+# Beside the libraries: the texts of the toolkit in Portuguese, letters of Arial's widths for
+# drawn pages, and those that a machine without a desktop's own takes for screens.
+set(with_windows "qt6-translations-l10n, fonts-liberation, fonts-dejavu-core")
 
 set(CPACK_DEBIAN_DESK_PACKAGE_NAME tarnemissao)
 set(CPACK_DEBIAN_DESK_PACKAGE_DEPENDS "${with_windows}")

@@ -211,10 +211,12 @@ TEST_F(PracticeSession, AnotherOneInTheSameFolderIsRefused) {
 
 TEST_F(PracticeSession, RemovesThePaperOfTheSessionBeforeAndNoFileOfTheUser) {
     write("job-001.prn", "velho");
+    write("job-001.kind", "velho");
     write("nota.pdf", "velha");
     write("carta.txt", "minha");
     open();
     EXPECT_FALSE(has("job-001.prn"));
+    EXPECT_FALSE(has("job-001.kind"));
     EXPECT_FALSE(has("nota.pdf"));
     EXPECT_EQ(contentsOf(folder.filePath("carta.txt")), "minha");
 }
