@@ -14,7 +14,7 @@ constexpr char page[] = "/Kestomain/TarnEmissao.asp";
 PageServer::PageServer(const CertificateFiles* certificate, const ServerHabits& habits)
     : secure_(certificate != nullptr) {
     ::setenv("no_proxy", "127.0.0.1,localhost", 1);  // no proxy of the machine's comes between
-    if (secure_) {
+    if (certificate != nullptr) {
         server_ = std::make_unique<httplib::SSLServer>(certificate->certificate.c_str(),
                                                        certificate->key.c_str());
     } else {
