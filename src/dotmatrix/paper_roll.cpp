@@ -5,6 +5,8 @@
 #include <system_error>
 #include <utility>
 
+#include "dotmatrix/set_up.h"
+
 namespace tarn::dotmatrix {
 
 namespace {
@@ -121,7 +123,14 @@ std::optional<QString> PaperRoll::feed(std::string_view bytes) {
     }
     length_ += static_cast<qint64>(bytes.size());
     printLive(bytes);
+    RollJob& job = jobs_.back();
+    job.shows = job.shows || paper_->y() != job.y ||
+                length_ - job.offset > static_cast<qint64>(longestSetUp);
     return std::nullopt;
+}
+
+std::size_t PaperRoll::shownJobs() const {
+    return static_cast<std::size_t>(std::ranges::count_if(jobs_, &RollJob::shows));
 }
 
 // The toolkit's file forgets why a write failed.

@@ -52,6 +52,8 @@ public:
     PaperUnits contentWidth() const { return std::max(paper_->contentWidth(), designsWidth_); }
     PaperUnits headY() const { return paper_->y(); }
     const std::vector<RollJob>& jobs() const { return jobs_; }
+    // Those that print or feed: a note, with the job that sets its printer up, is one.
+    std::size_t shownJobs() const;
     const NoticeLog& notices() const { return printer_->notices(); }
     // Bytes of jobs that the paper is kept by.
     qint64 length() const { return length_; }

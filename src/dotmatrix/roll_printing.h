@@ -44,6 +44,7 @@ struct RollJob {
     qint64 offset = 0;  // of its first byte among all bytes
     JobPaper paper{};
     JobFeed feed{};
+    bool shows = false;  // it prints or feeds; one that doesn\'t is there for the job behind it
 };
 
 // What a roll has taken in. All must outlive those who read it.

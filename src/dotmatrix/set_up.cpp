@@ -7,12 +7,15 @@
 namespace tarn::dotmatrix {
 
 bool onlySetsUp(std::string_view job) {
+    if (job.size() > longestSetUp) {
+        return false;
+    }
     const Dialect usual;
     ContinuousPaper paper(usual.formHeight);
     EscpInterpreter printer(paper, usual);
     printer.startJob();
     printer.feed(job);
-    return paper.y() == 0 && paper.lines().empty();
+    return paper.y() == 0;
 }
 
 }  // namespace tarn::dotmatrix

@@ -19,6 +19,9 @@ public:
     PaperFiles(PaperRoll& roll, const PaintOptions& options, const WindowQuestions& questions,
                QWidget& window);
 
+    // What a file is called at first, without its ending.
+    void setProposal(std::function<QString()> proposal) { proposal_ = std::move(proposal); }
+
     void savePdf();
     void savePng();
     void saveText();
@@ -27,16 +30,20 @@ public:
 signals:
     // A whole sentence for the user.
     void failed(const QString& text);
+    void saved(const QString& text);
 
 private:
-    // Runs `write` with a box that shows how far it is and can stop it.
-    void writeOut(const QString& what,
+    QString askName(const QString& title, const QString& ending, const QString& kinds) const;
+    // Runs `write` with a box that shows how far it is and can stop it; `done` is what is
+    // said afterwards.
+    void writeOut(const QString& what, const QString& done,
                   const std::function<std::optional<QString>(const WriteProgress&)>& write);
 
     PaperRoll& roll_;
     const PaintOptions& options_;
     const WindowQuestions& questions_;
     QWidget& window_;
+    std::function<QString()> proposal_ = [] { return QStringLiteral("papel"); };
 };
 
 }  // namespace tarn::dotmatrix

@@ -128,4 +128,26 @@ bool PaperSearch::lookAt(std::size_t form) {
     return any;
 }
 
+PaperCount::PaperCount(PaperRoll& roll, const QString& text)
+    : roll_(roll), text_(folded(text)), count_(roll.printedForms()) {}
+
+bool PaperCount::step(std::size_t forms) {
+    for (; forms > 0 && form_ < count_; --forms, ++form_) {
+        const auto page = roll_.page(form_);
+        for (const Row& row : rowsOf(*page)) {
+            const QString text = folded(QString::fromStdU16String(row.text));
+            for (qsizetype at = text.indexOf(text_); at >= 0; at = text.indexOf(text_, at + 1)) {
+                const PaperRegion region = regionOf(row, at, text_.size());
+                places_.push_back({region.top, region.left});
+            }
+        }
+    }
+    return form_ == count_;
+}
+
+std::size_t PaperCount::indexOf(const PaperRegion& found) const {
+    const Place place{found.top, found.left};
+    return static_cast<std::size_t>(std::ranges::lower_bound(places_, place) - places_.begin()) + 1;
+}
+
 }  // namespace tarn::dotmatrix

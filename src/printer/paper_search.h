@@ -3,7 +3,9 @@
 #pragma once
 
 #include <QString>
+#include <compare>
 #include <optional>
+#include <vector>
 
 #include "printer/paper_region.h"
 
@@ -39,6 +41,32 @@ private:
     bool bounded_ = true;  // only what lies behind `from_` counts
     bool wrapped_ = false;
     PaperRegion found_;
+};
+
+// Counts a text on the paper, likewise a few forms at a time.
+class PaperCount {
+public:
+    // `text` is not empty.
+    PaperCount(PaperRoll& roll, const QString& text);
+
+    // Looks at up to `forms` forms; true once all were looked at.
+    bool step(std::size_t forms);
+    std::size_t total() const { return places_.size(); }
+    // Which of them this one is, from 1.
+    std::size_t indexOf(const PaperRegion& found) const;
+
+private:
+    struct Place {
+        PaperUnits top = 0;
+        PaperUnits left = 0;
+        auto operator<=>(const Place&) const = default;
+    };
+
+    PaperRoll& roll_;
+    QString text_;
+    std::size_t count_;  // forms on the paper
+    std::size_t form_ = 0;
+    std::vector<Place> places_;  // from the top down
 };
 
 }  // namespace tarn::dotmatrix

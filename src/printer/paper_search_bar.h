@@ -28,7 +28,10 @@ public:
     void forget();
 
 private:
+    void makeButtons();
     void search(PaperSearch::Direction direction);
+    void countOn();
+    void showResult();
     void searchOn();
     void leave();
 
@@ -40,6 +43,11 @@ private:
     std::unique_ptr<PaperSearch> search_;
     std::optional<PaperRegion> found_;
     QString foundText_;
+    QTimer counting_;
+    std::unique_ptr<PaperCount> count_;
+    std::size_t countedVersion_ = 0;  // of the paper
+    bool counted_ = false;
+    bool wrapped_ = false;
 };
 
 }  // namespace tarn::dotmatrix

@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 namespace tarn::dotmatrix {
@@ -14,6 +15,7 @@ namespace {
 
 constexpr double screenDots = 96;  // an inch at zoom 1
 constexpr double wheelStep = 1.15;
+constexpr std::chrono::milliseconds untilReadOut(150);
 constexpr PaperUnits lineHeight = unitsPerInch / 6;
 const QColor desk(203, 209, 209);
 const QColor selectedColour(31, 111, 120, 60);
@@ -33,6 +35,14 @@ PaperView::PaperView(PaperRoll& roll, QWidget* parent)
     viewport()->setCursor(Qt::CrossCursor);
     connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, [this] {
         following_ = verticalScrollBar()->sliderPosition() == verticalScrollBar()->maximum();
+        emit looked();
+    });
+    reading_.setSingleShot(true);
+    reading_.setInterval(untilReadOut);
+    connect(&reading_, &QTimer::timeout, this, &PaperView::readOut);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        reading_.start();
+        emit looked();
     });
     setOptions({});
 }
@@ -88,6 +98,44 @@ void PaperView::refresh() {
         follow();
     }
     viewport()->update();
+    reading_.start();
+}
+
+void PaperView::followPrint() {
+    following_ = true;
+    refresh();
+    emit looked();
+}
+
+void PaperView::noteSeen(std::size_t first, std::size_t last) {
+    if (seen_.size() <= last) {
+        seen_.resize(last + 1);
+    }
+    std::fill(seen_.begin() + static_cast<std::ptrdiff_t>(first),
+              seen_.begin() + static_cast<std::ptrdiff_t>(last) + 1, true);
+}
+
+std::size_t PaperView::unseenForms() const {
+    const std::size_t forms = roll_.jobs().empty() ? 0 : roll_.printedForms();
+    const auto known = seen_.begin() + static_cast<std::ptrdiff_t>(std::min(forms, seen_.size()));
+    return forms - static_cast<std::size_t>(std::count(seen_.begin(), known, true));
+}
+
+// The first printed line in sight is the reader's present line.
+void PaperView::readOut() {
+    const std::size_t form = roll_.forms().formAt(topY());
+    for (const PaperLine& line : roll_.page(form)->lines) {
+        if (line.y < topY()) {
+            continue;
+        }
+        const PaperRegion row{0, line.y, roll_.contentWidth(), line.y + lineHeight};
+        return setAccessibleDescription(QStringLiteral("formulário %1, linha %2: %3")
+                                            .arg(form + 1)
+                                            .arg(line.row + 1)
+                                            .arg(textIn(roll_, row).simplified()));
+    }
+    setAccessibleDescription(
+        QStringLiteral("formulário %1: nada impresso daqui para baixo").arg(form + 1));
 }
 
 void PaperView::follow() {
@@ -102,6 +150,7 @@ void PaperView::follow() {
 void PaperView::showTop(PaperUnits y) {
     following_ = false;
     verticalScrollBar()->setValue(static_cast<int>(y / lineHeight));
+    emit looked();
 }
 
 void PaperView::reveal(const PaperRegion& region) {
@@ -191,6 +240,7 @@ void PaperView::paintEvent(QPaintEvent* /*event*/) {
     const double width = painter_.sheet().width * pointsPerInch * dots;
     const auto bottom = topY() + static_cast<PaperUnits>(viewport()->height() / scale()) + 1;
     const std::size_t last = roll_.forms().formAt(bottom);
+    noteSeen(roll_.forms().formAt(topY()), last);
     for (std::size_t form = roll_.forms().formAt(topY()); form <= last; ++form) {
         const auto page = roll_.page(form);
         const double y = static_cast<double>(page->shape.top - topY()) * scale();

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QTimer>
 #include <optional>
+#include <vector>
 
 #include "dotmatrix/paper_painter.h"
 #include "printer/paper_region.h"
@@ -41,6 +43,13 @@ public:
     // y at the upper edge of the window.
     PaperUnits topY() const;
     std::size_t presentForm() const;
+    bool isFollowing() const { return following_; }
+    // To the print, and with it from now on.
+    void followPrint();
+    // Forms of the paper that never were in sight.
+    std::size_t unseenForms() const;
+    // The paper is another one: none of it was seen.
+    void forgetSeen() { seen_.clear(); }
 
     const std::optional<PaperRegion>& selection() const { return selection_; }
     void select(const std::optional<PaperRegion>& region);
@@ -48,6 +57,7 @@ public:
 
 signals:
     void zoomed();
+    void looked();  // at another piece of the paper
     void selected(bool any);
     void hovered(const tarn::dotmatrix::PaperSpot& spot);
 
@@ -68,6 +78,8 @@ private:
     double leftEdge() const;
     void setRanges();
     void follow();
+    void noteSeen(std::size_t first, std::size_t last);
+    void readOut();
     Point pointAt(const QPointF& pixel) const;
     QRectF pixelsOf(const PaperRegion& region) const;
     PaperSpot spotAt(const Point& point);
@@ -77,6 +89,8 @@ private:
     PaperPainter painter_;
     double zoom_ = 1.0;
     bool following_ = true;
+    std::vector<bool> seen_;  // by form
+    QTimer reading_;          // a reader hears of the line where the view comes to rest
     std::optional<PaperRegion> selection_;
     std::optional<PaperRegion> found_;
     Point pressed_;

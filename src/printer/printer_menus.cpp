@@ -16,13 +16,29 @@ constexpr double zoomStep = 1.25;
 
 PrinterMenus::PrinterMenus(QMainWindow& window, PaperView& view, PaperSearchBar& search,
                            PaperFiles& files, HoldView& holding, const PaintOptions& looks)
-    : QObject(&window), window_(window), view_(view), search_(search), files_(files) {
-    WindowCommands commands(window);
-    makeFileMenu(commands);
-    makeEditMenu(commands);
-    makePaperMenu(commands);
-    holding.addMenu(commands);
-    makeViewMenu(commands, looks);
+    : QObject(&window),
+      window_(window),
+      commands_(window),
+      view_(view),
+      search_(search),
+      files_(files) {
+    makeFileMenu(commands_);
+    makeEditMenu(commands_);
+    makePaperMenu(commands_);
+    holding.addMenu(commands_);
+    makeViewMenu(commands_, looks);
+}
+
+void PrinterMenus::addHelp() {
+    makeHelpMenu(commands_);
+}
+
+void PrinterMenus::makeHelpMenu(WindowCommands& commands) {
+    commands.menu("helpMenu", QStringLiteral("A&juda"));
+    commands.add({.name = "about",
+                  .text = QStringLiteral("&Sobre a impressora virtual..."),
+                  .hint = QStringLiteral("Mostra a versão do programa")},
+                 [this] { emit aboutWanted(); });
 }
 
 void PrinterMenus::makeFileMenu(WindowCommands& commands) {

@@ -4,6 +4,7 @@
 #include <QMainWindow>
 
 #include "dotmatrix/paper_painter.h"
+#include "printer/window_commands.h"
 
 namespace tarn::dotmatrix {
 
@@ -11,15 +12,17 @@ class HoldView;
 class PaperFiles;
 class PaperSearchBar;
 class PaperView;
-class WindowCommands;
 
 class PrinterMenus : public QObject {
     Q_OBJECT
 
 public:
-    // All but `looks`, what is ticked at first, must outlive this.
+    // All but `looks`, what is ticked at first, must outlive this. The help comes last, in a
+    // call of its own.
     PrinterMenus(QMainWindow& window, PaperView& view, PaperSearchBar& search, PaperFiles& files,
                  HoldView& holding, const PaintOptions& looks);
+
+    void addHelp();
 
 signals:
     void openWanted();
@@ -31,14 +34,17 @@ signals:
     void logWanted();
     void rulerWanted(bool on);
     void bandsWanted(bool on);
+    void aboutWanted();
 
 private:
     void makeFileMenu(WindowCommands& commands);
     void makeEditMenu(WindowCommands& commands);
     void makePaperMenu(WindowCommands& commands);
+    void makeHelpMenu(WindowCommands& commands);
     void makeViewMenu(WindowCommands& commands, const PaintOptions& looks);
 
     QMainWindow& window_;
+    WindowCommands commands_;
     PaperView& view_;
     PaperSearchBar& search_;
     PaperFiles& files_;

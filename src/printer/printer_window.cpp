@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QStatusBar>
 #include <chrono>
 
@@ -14,9 +15,12 @@
 #include "forms/form_loader.h"
 #include "printer/form_menu.h"
 #include "printer/job_files.h"
+#include "printer/new_job_offer.h"
 #include "printer/paper_files.h"
+#include "printer/paper_name.h"
 #include "printer/paper_search_bar.h"
 #include "printer/printer_menus.h"
+#include "runtime/version.h"
 
 namespace tarn::dotmatrix {
 
@@ -62,6 +66,9 @@ PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, HoldDesk& desk,
     connect(&intake_, &JobIntake::jobEnded, this, [this](const QString& name, const QString& why) {
         log(why.isEmpty() ? QStringLiteral("%1: impresso.").arg(name)
                           : QStringLiteral("%1: %2").arg(name, why));
+        if (roll_.jobs().empty() || roll_.jobs().back().shows) {
+            offer_->jobCame();
+        }
     });
     view_->setFocus();
     paperChanged();
@@ -74,7 +81,11 @@ void PrinterWindow::makeParts(HoldDesk& desk) {
     setCentralWidget(view_);
     search_ = new PaperSearchBar(roll_, *view_, this);
     files_ = new PaperFiles(roll_, options_, questions_, *this);
+    files_->setProposal(
+        [this] { return proposedName(roll_, view_->presentForm(), options_.design.get()); });
+    connect(files_, &PaperFiles::saved, this, &PrinterWindow::tell);
     jobFiles_ = new JobFiles(intake_, this);
+    offer_ = new NewJobOffer(*view_);
     holding_ = new HoldView(*this, desk, roll_, *view_, questions_);
     connect(holding_, &HoldView::complained, this, &PrinterWindow::complain);
     connect(holding_, &HoldView::told, this, &PrinterWindow::log);
@@ -103,7 +114,8 @@ void PrinterWindow::makeMenus() {
     connect(menus, &PrinterMenus::selectWanted, this, &PrinterWindow::selectForm);
     connect(menus, &PrinterMenus::previousWanted, this, &PrinterWindow::previousJob);
     connect(menus, &PrinterMenus::nextWanted, this, &PrinterWindow::nextJob);
-    connect(menus, &PrinterMenus::tearOffWanted, this, &PrinterWindow::tearOff);
+    connect(menus, &PrinterMenus::tearOffWanted, this, &PrinterWindow::tearOffAsked);
+    connect(menus, &PrinterMenus::aboutWanted, this, &PrinterWindow::showAbout);
     connect(menus, &PrinterMenus::logWanted, this,
             [this] { logDock_->setVisible(!logDock_->isVisible()); });
     connect(menus, &PrinterMenus::rulerWanted, this, [this](bool on) {
@@ -115,6 +127,7 @@ void PrinterWindow::makeMenus() {
         view_->setOptions(options_);
     });
     makeFormMenu();
+    menus->addHelp();
 }
 
 void PrinterWindow::makeFormMenu() {
@@ -209,11 +222,66 @@ void PrinterWindow::nextJob() {
     }
 }
 
+// A word that stays long enough to be read, and in the log for later.
+void PrinterWindow::tell(const QString& text) {
+    constexpr int longEnough = 15'000;  // milliseconds
+    statusBar()->showMessage(text, longEnough);
+    log(text);
+}
+
+void PrinterWindow::showAbout() {
+    const auto text = [](std::string_view view) {
+        return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
+    };
+    auto* box = new QMessageBox(
+        QMessageBox::Information, QStringLiteral("Sobre a impressora virtual"),
+        QStringLiteral("Impressora matricial virtual do TarnEmissao\nVersão %1 (%2, %3)\n\n"
+                       "Mostra no papel o que um trabalho cru imprime, antes que ele gaste "
+                       "formulário. O manual conta o resto no capítulo \"Impressora virtual\".")
+            .arg(text(productVersion), text(releaseName), text(versionDate)),
+        QMessageBox::Ok, this);
+    box->setObjectName(QStringLiteral("aboutBox"));
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+// Paper that nobody looked at isn't taken away without a word.
+void PrinterWindow::tearOffAsked() {
+    const std::size_t unseen = view_->unseenForms();
+    if (unseen == 0) {
+        return tearOff();
+    }
+    auto* box = new QMessageBox(
+        QMessageBox::Question, windowTitle(),
+        (unseen == 1
+             ? QStringLiteral("Um formulário impresso ainda não foi visto.")
+             : QStringLiteral("%1 formulários impressos ainda não foram vistos.").arg(unseen)) +
+            QStringLiteral(" Destacar o papel assim mesmo?"),
+        QMessageBox::NoButton, this);
+    box->setObjectName(QStringLiteral("tearOffQuestion"));
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    auto* yes = box->addButton(QStringLiteral("Destacar"), QMessageBox::AcceptRole);
+    yes->setObjectName(QStringLiteral("tearOffYes"));
+    box->setDefaultButton(
+        box->addButton(QStringLiteral("Manter o papel"), QMessageBox::RejectRole));
+    connect(box, &QMessageBox::buttonClicked, this, [this, yes](QAbstractButton* button) {
+        if (button == yes) {
+            tearOff();
+        }
+    });
+    box->open();
+}
+
 void PrinterWindow::tearOff() {
     search_->forget();
     holding_->paperGone();
     roll_.tearOff(intake_.busy());
     noticesLogged_ = roll_.notices().total();
+    view_->forgetSeen();
+    offer_->withdraw();
+    view_->followPrint();
     view_->select(std::nullopt);
     view_->mark(std::nullopt);
     log(QStringLiteral("papel destacado."));
@@ -294,7 +362,7 @@ void PrinterWindow::showCounts() {
     const QString held = holding_->count();
     countText_->setText((held.isEmpty() ? QString() : held + QStringLiteral("  ·  ")) +
                         QStringLiteral("%1 trabalho(s), %2 formulário(s)  ·  %3%")
-                            .arg(roll_.jobs().size())
+                            .arg(roll_.shownJobs())
                             .arg(roll_.printedForms())
                             .arg(qRound(view_->zoom() * 100)));
 }

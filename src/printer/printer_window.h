@@ -19,6 +19,7 @@ namespace tarn::dotmatrix {
 
 class FormMenu;
 class JobFiles;
+class NewJobOffer;
 class PaperFiles;
 class PaperSearchBar;
 
@@ -54,6 +55,9 @@ private:
     void previousJob();
     void nextJob();
     void tearOff();
+    void tearOffAsked();
+    void tell(const QString& text);
+    void showAbout();
 
     void layForm(const QString& name);
     void layFormOfFile();
@@ -80,6 +84,7 @@ private:
     PaperFiles* files_;
     JobFiles* jobFiles_;
     HoldView* holding_;
+    NewJobOffer* offer_;
     FormMenu* forms_;
     QDockWidget* logDock_;
     QPlainTextEdit* logText_;

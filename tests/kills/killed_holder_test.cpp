@@ -25,7 +25,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::chrono::milliseconds beyondAJob(300);
-constexpr std::chrono::seconds longestSilence(30);  // of the printer at the end
+constexpr std::chrono::seconds longestSilence(90);  // of the printer at the end
 
 int heldJobsWanted() {
     const QByteArray count = qgetenv("TARN_HELD_JOBS");
@@ -54,7 +54,7 @@ public:
     explicit LastPrinter(PrivateCupsd& server)
         : thread_([this, &server] {
               while (!done_) {
-                  if (auto job = server.nextJob(std::chrono::milliseconds(200))) {
+                  if (auto job = server.nextJob(std::chrono::seconds(5))) {
                       const std::lock_guard lock(mutex_);
                       jobs_.push_back(std::move(*job));
                   }

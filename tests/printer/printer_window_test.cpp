@@ -12,7 +12,9 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPrinter>
+#include <QPushButton>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QToolBar>
 #include <QWheelEvent>
@@ -31,16 +33,17 @@ constexpr int limit = 20000;  // milliseconds; for a machine that is busy
 class Window : public testing::Test {
 protected:
     void SetUp() override {
-        window_.setQuestions({[this](const QString& title, const QString&, const QString&) {
-                                  asked_ << title;
-                                  return saveAs_;
-                              },
-                              [this](const QString& title, const QString&) {
-                                  asked_ << title;
-                                  return open_;
-                              },
-                              [this](QPrinter& printer) { return print_(printer); },
-                              [this] { return queue_; }});
+        window_.setQuestions(
+            {[this](const QString& title, const QString& suggested, const QString&) {
+                 asked_ << title;
+                 suggested_ = suggested;
+                 return saveAs_;
+             },
+             [this](const QString& title, const QString&) {
+                 asked_ << title;
+                 return open_;
+             },
+             [this](QPrinter& printer) { return print_(printer); }, [this] { return queue_; }});
         window_.show();
         window_.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
@@ -53,7 +56,7 @@ protected:
         ASSERT_TRUE(settled());
     }
     bool settled() {
-        const QString jobs = QString::number(roll_.jobs().size()) + QStringLiteral(" trabalho(s)");
+        const QString jobs = QString::number(roll_.shownJobs()) + QStringLiteral(" trabalho(s)");
         const QString forms =
             QString::number(roll_.printedForms()) + QStringLiteral(" formulário(s)");
         return QTest::qWaitFor(
@@ -84,7 +87,11 @@ protected:
     }
     bool searched() {
         return QTest::qWaitFor(
-            [this] { return label("searchResult") != QStringLiteral("Procurando..."); }, limit);
+            [this] {
+                return label("searchResult") != QStringLiteral("Procurando...") &&
+                       !label("searchResult").startsWith(QStringLiteral("Contando..."));
+            },
+            limit);
     }
     // Pixel of a place on the paper, in inches from the first print position and from the
     // top of the view.
@@ -101,6 +108,7 @@ protected:
     PrinterWindow window_{roll_, intake_, held_, {}};
     PaperView& view_ = window_.view();
     QStringList asked_;
+    QString suggested_;
     QString saveAs_;
     QStringList open_;
     QString queue_;
@@ -157,7 +165,7 @@ TEST_F(Window, FindsCapitalsAndAccentsAlikeDownUpAndAround) {
     keys(text, "acao");
     QTest::keyClick(&text, Qt::Key_Return);
     ASSERT_TRUE(searched());
-    EXPECT_EQ(label("searchResult"), QString());
+    EXPECT_EQ(label("searchResult"), QStringLiteral("1 de 3"));
     const int first = scrolled();
     EXPECT_GT(first, 0);
     EXPECT_LE(first, 66);
@@ -167,14 +175,25 @@ TEST_F(Window, FindsCapitalsAndAccentsAlikeDownUpAndAround) {
     EXPECT_GT(second, 200);
     press(Qt::Key_F3);  // the second one of that line
     ASSERT_TRUE(searched());
-    EXPECT_EQ(label("searchResult"), QString());
+    EXPECT_EQ(label("searchResult"), QStringLiteral("3 de 3"));
     press(Qt::Key_F3);
     ASSERT_TRUE(searched());
-    EXPECT_EQ(label("searchResult"), QStringLiteral("A busca deu a volta no papel."));
+    EXPECT_EQ(label("searchResult"), QStringLiteral("1 de 3 · a busca deu a volta no papel"));
     EXPECT_LE(scrolled(), 66);
     press(Qt::Key_F3, Qt::ShiftModifier);
     ASSERT_TRUE(searched());
     EXPECT_GT(scrolled(), 200);
+    // The buttons do what the keys do.
+    const auto clickAction = [this](const char* name) {
+        auto& bar = named<QToolBar>(window_, "searchBar");
+        auto* button = bar.widgetForAction(&named<QAction>(window_, name));
+        QTest::mouseClick(button, Qt::LeftButton);
+        return searched();
+    };
+    ASSERT_TRUE(clickAction("searchPrevious"));
+    EXPECT_EQ(label("searchResult"), QStringLiteral("2 de 3"));
+    ASSERT_TRUE(clickAction("searchNext"));
+    EXPECT_EQ(label("searchResult"), QStringLiteral("3 de 3"));
     text.clear();
     keys(text, "zebra");
     QTest::keyClick(&text, Qt::Key_Return);
@@ -231,12 +250,93 @@ TEST_F(Window, JobsAreSteppedThrough) {
 
 TEST_F(Window, TornOffPaperIsGone) {
     job("um\f\fdois");
+    press(Qt::Key_Home);
+    press(Qt::Key_PageDown);
+    press(Qt::Key_PageDown);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return view_.unseenForms() == 0; }, limit));
     choose(window_, "paperMenu", "tearOff");
     EXPECT_EQ(label("count"), QStringLiteral("0 trabalho(s), 1 formulário(s)  ·  100%"));
     EXPECT_EQ(view_.verticalScrollBar()->value(), 0);
     job("novo");
     ASSERT_EQ(roll_.page(0)->lines.size(), 1U);
     EXPECT_EQ(roll_.page(0)->lines[0].y, 0);
+}
+
+TEST_F(Window, PaperThatNobodySawIsTornOffAfterAQuestionOnly) {
+    job("um\f\f\f\f\fdois");
+    EXPECT_GT(view_.unseenForms(), 0U);
+    choose(window_, "paperMenu", "tearOff");
+    auto* question = &named<QMessageBox>(window_, "tearOffQuestion");
+    EXPECT_TRUE(question->text().contains(QStringLiteral("ainda não foram vistos")));
+    QTest::keyClick(question, Qt::Key_Return);  // the paper stays unless one says so
+    EXPECT_EQ(roll_.shownJobs(), 1U);
+    ASSERT_TRUE(QTest::qWaitFor(
+        [this] { return window_.findChild<QMessageBox*>("tearOffQuestion") == nullptr; }, limit));
+    choose(window_, "paperMenu", "tearOff");
+    question = &named<QMessageBox>(window_, "tearOffQuestion");
+    click(*question, "tearOffYes");
+    EXPECT_EQ(roll_.jobs().size(), 0U);
+    EXPECT_EQ(view_.unseenForms(), 0U);
+}
+
+TEST_F(Window, AJobThatComesWhileOneLooksElsewhereIsOffered) {
+    auto& offer = named<QPushButton>(window_, "newJob");
+    job("um\f\f\f");
+    EXPECT_FALSE(offer.isVisible());
+    press(Qt::Key_Home);
+    job("dois\r\n");
+    EXPECT_TRUE(offer.isVisible());
+    EXPECT_EQ(offer.text(), QStringLiteral("Chegou um trabalho: ver"));
+    job(" \x0F");  // sets the printer up for the one behind it
+    job("\f\f\ftrês\r\n");
+    EXPECT_EQ(offer.text(), QStringLiteral("Chegaram 2 trabalhos: ver o último"));
+    EXPECT_EQ(scrolled(), 0);
+    click(window_, "newJob");
+    EXPECT_TRUE(inSight(roll_.headY() - 360));
+    EXPECT_FALSE(offer.isVisible());
+    EXPECT_TRUE(view_.hasFocus());
+    job("quatro\r\n");
+    EXPECT_FALSE(offer.isVisible());
+}
+
+// A note has two jobs: one sets its printer up.
+TEST_F(Window, ANoteCountsAsOneJob) {
+    for (const std::string& bytes : test::streamsOf(test::formNamed("1521"), {}, 15)) {
+        job(QByteArray::fromStdString(bytes));
+    }
+    EXPECT_EQ(roll_.jobs().size(), 2U);
+    EXPECT_TRUE(label("count").startsWith(QStringLiteral("1 trabalho(s)")));
+}
+
+TEST_F(Window, ASavedFileIsToldWithItsPathAndNamedByItsDocument) {
+    job("um\r\n", "pasta/job-007.prn");
+    saveAs_ = file("p.txt");
+    choose(window_, "fileMenu", "saveText");
+    EXPECT_EQ(suggested_, QStringLiteral("job-007.txt"));
+    EXPECT_EQ(window_.statusBar()->currentMessage(), QStringLiteral("Gravado em ") + file("p.txt"));
+    job("dois\r\n", "rede 127.0.0.1, 10:32:05");
+    saveAs_.clear();
+    choose(window_, "fileMenu", "savePdf");
+    EXPECT_EQ(suggested_, QStringLiteral("rede-127.0.0.1-10h32h05.pdf"));
+}
+
+TEST_F(Window, ANotesFileIsNamedByItsNumber) {
+    for (const std::string& bytes : test::streamsOf(test::formNamed("1361"), {}, 15)) {
+        job(QByteArray::fromStdString(bytes));
+    }
+    choose(window_, "formMenu", "form_ImprimeNF_1361");
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(
+        QRegularExpression(QStringLiteral("^nota-[0-9]+\\.pdf$")).match(suggested_).hasMatch())
+        << suggested_.toStdString();
+}
+
+TEST_F(Window, TheHelpTellsTheVersion) {
+    choose(window_, "helpMenu", "about");
+    auto& box = named<QMessageBox>(window_, "aboutBox");
+    EXPECT_TRUE(box.text().contains(QStringLiteral("Versão 1.17.0")));
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    QTest::keyClick(&box, Qt::Key_Return);
 }
 
 TEST_F(Window, ThePaperIsSavedAsPdfPicturesAndText) {
@@ -396,8 +496,14 @@ TEST_F(Window, TheLogTellsWhatWasNotPrintedAndHowJobsEnded) {
     EXPECT_FALSE(dock.isVisible());
     press(Qt::Key_F8);
     EXPECT_TRUE(dock.isVisible());
-    const QString log = named<QPlainTextEdit>(window_, "log").toPlainText();
-    EXPECT_TRUE(log.contains(QStringLiteral("trabalho 1, linha 1, coluna 2, bytes 1B 23: ")));
+    const auto& text = named<QPlainTextEdit>(window_, "log");
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            return text.toPlainText().contains(
+                QStringLiteral("trabalho 1, linha 1, coluna 2, bytes 1B 23: "));
+        },
+        limit));
+    const QString log = text.toPlainText();
     EXPECT_TRUE(log.contains(QStringLiteral("rede: a conexão foi interrompida.")));
     press(Qt::Key_F8);
     EXPECT_FALSE(dock.isVisible());
@@ -463,6 +569,13 @@ TEST_F(Window, EveryCommandHasATextAndAHint) {
 TEST_F(Window, AReaderSpeaksOfThePaper) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&view_)->text(QAccessible::Name),
               QStringLiteral("Papel impresso"));
+    job("\r\n  NOTA   FISCAL\r\nfim\r\n");
+    const auto line = [this] {
+        return QAccessible::queryAccessibleInterface(&view_)->text(QAccessible::Description);
+    };
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return line() == QStringLiteral("formulário 1, linha 2: NOTA FISCAL"); }, limit))
+        << line().toStdString();
 }
 
 }  // namespace
