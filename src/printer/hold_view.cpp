@@ -41,6 +41,8 @@ void HoldView::makeDock() {
     dock_->setObjectName(QStringLiteral("heldPanel"));
     dock_->setWidget(panel_);
     window_.addDockWidget(Qt::BottomDockWidgetArea, dock_);
+    constexpr int someRows = 200;  // pixels; the paper keeps the most of the window
+    window_.resizeDocks({dock_}, {someRows}, Qt::Vertical);
     dock_->hide();
     connect(panel_, &HeldPanel::jobChosen, this, &HoldView::show);
     connect(panel_, &HeldPanel::forgetWanted, this, &HoldView::askToForget);

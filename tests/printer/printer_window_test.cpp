@@ -15,12 +15,14 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStatusBar>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QToolBar>
 #include <QWheelEvent>
 
 #include "tests/dotmatrix/note_streams.h"
 #include "tests/dotmatrix/poppler.h"
+#include "tests/printer/queue.h"
 #include "tests/support/user.h"
 
 namespace tarn::test {
@@ -104,7 +106,8 @@ protected:
     QTemporaryDir folder_;
     PaperRoll roll_{Dialect{}};
     JobIntake intake_{roll_};
-    HoldDesk held_{{}};
+    Queue printed_;
+    HoldDesk held_{[this] { return std::make_unique<SpoolerOfQueue>(printed_); }};
     PrinterWindow window_{roll_, intake_, held_, {}};
     PaperView& view_ = window_.view();
     QStringList asked_;
@@ -329,6 +332,87 @@ TEST_F(Window, ANotesFileIsNamedByItsNumber) {
     EXPECT_TRUE(
         QRegularExpression(QStringLiteral("^nota-[0-9]+\\.pdf$")).match(suggested_).hasMatch())
         << suggested_.toStdString();
+}
+
+// Chosen in the window: what comes is held, shown, and goes when the button is clicked.
+TEST_F(Window, JobsAreHeldAndPassedOnByClicks) {
+    window_.onHold([this](const QString& queue) {
+        if (const QString wrong = held_.open(folder_.filePath("retidos")); !wrong.isEmpty()) {
+            return wrong;
+        }
+        intake_.keepIn(&held_);
+        held_.passTo(queue, std::nullopt);
+        return QString();
+    });
+    queue_ = QStringLiteral("LX300");
+    choose(window_, "queueMenu", "passTo");
+    for (const char* bytes : {" \x0F", "um\r\n", "\f\f\fdois\r\n", "tres\r\n"}) {
+        ASSERT_TRUE(intake_.begin("rede", JobIntake::Kind::Printed));
+        ASSERT_TRUE(intake_.take(bytes));
+        ASSERT_TRUE(intake_.end());
+    }
+    auto& table = named<QTableWidget>(window_, "heldJobs");
+    ASSERT_TRUE(table.isVisible());
+    ASSERT_EQ(table.rowCount(), 3) << "the note and its set-up are one row";
+    EXPECT_TRUE(label("count").startsWith(QStringLiteral("3 retido(s)")));
+    EXPECT_TRUE(label("heldQueue").startsWith(QStringLiteral("Fila LX300")));
+    const auto state = [&table](int row) { return table.item(row, 3)->text(); };
+    const auto clickRow = [&table](int row) {
+        clickAt(*table.viewport(), table.visualItemRect(table.item(row, 3)).center());
+    };
+    const auto& release = named<QPushButton>(window_, "heldRelease");
+    EXPECT_FALSE(release.isEnabled());
+    view_.setZoom(0.5);
+    clickRow(1);
+    EXPECT_EQ(scrolled(), static_cast<int>(roll_.jobs()[2].y / 360)) << "its place on the paper";
+
+    printed_.refuses = [](RecordingSpooler::Call call, std::size_t) {
+        return call == RecordingSpooler::Call::Open;
+    };
+    click(window_, "heldRelease");
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return state(1) == QStringLiteral("retido: não há fila \"LX300\" nesta máquina"); },
+        limit))
+        << state(1).toStdString();
+    {
+        const std::lock_guard lock(printed_.mutex);
+        printed_.refuses = nullptr;
+    }
+    clickRow(0);
+    click(window_, "heldRelease");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return state(0) == QStringLiteral("repassado"); }, limit));
+    EXPECT_EQ(printed_.jobs(), (std::vector<std::string>{" \x0F", "um\r\n"}));
+    clickRow(2);
+    click(window_, "heldRefuse");
+    EXPECT_EQ(state(2), QStringLiteral("recusado"));
+    click(window_, "heldForget");
+    click(named<QMessageBox>(window_, "forgetQuestion"), "forgetYes");
+    EXPECT_EQ(table.rowCount(), 2);
+    click(window_, "heldReleaseAll");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return state(1) == QStringLiteral("repassado"); }, limit));
+    EXPECT_EQ(printed_.jobs().back(), "\f\f\fdois\r\n");
+}
+
+// After a crash the queue may be unable to tell: then the user does.
+TEST_F(Window, OfADoubtfulJobTheUserIsAsked) {
+    ASSERT_EQ(held_.open(folder_.filePath("retidos")), QString());
+    intake_.keepIn(&held_);
+    printed_.refuses = [](RecordingSpooler::Call call, std::size_t) {
+        return call == RecordingSpooler::Call::EndDocument;
+    };
+    printed_.fate = [](int) { return JobFate::Doubtful; };
+    held_.passTo("LX300", std::chrono::milliseconds(0));
+    ASSERT_TRUE(intake_.begin("rede", JobIntake::Kind::Printed));
+    ASSERT_TRUE(intake_.take("um\r\n"));
+    ASSERT_TRUE(intake_.end());
+    const auto& yes = named<QPushButton>(window_, "heldOnPaper");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return yes.isVisible(); }, limit));
+    const auto& table = named<QTableWidget>(window_, "heldJobs");
+    EXPECT_TRUE(table.item(0, 3)->text().startsWith(QStringLiteral("em dúvida: ")));
+    EXPECT_FALSE(named<QPushButton>(window_, "heldRelease").isEnabled());
+    click(window_, "heldOnPaper");
+    EXPECT_EQ(table.item(0, 3)->text(), QStringLiteral("repassado"));
+    EXPECT_FALSE(yes.isVisible());
 }
 
 TEST_F(Window, TheHelpTellsTheVersion) {
