@@ -10,7 +10,9 @@
 #include "apps/tarnemissao-treino/notice_window.h"
 #include "apps/tarnemissao-treino/session.h"
 #include "apps/tarnemissao-treino/session_folder.h"
+#include "cli/arguments.h"
 #include "cli/command_line.h"
+#include "cli/last_word.h"
 #include "widgets/look.h"
 #include "widgets/opening_display.h"
 
@@ -58,6 +60,7 @@ int practise(const SessionFolder& folder) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    const tarn::cli::Arguments arguments(argc, argv);
     std::string path;
     tarn::cli::CommandLine line(
         "tarnemissao-treino",
@@ -68,8 +71,8 @@ int main(int argc, char** argv) {
         .called("PASTA");
     line.footer(
         "\nFim do programa: o da mesa; 1 quando o treino não abriu ou um programa dele parou.");
-    if (const auto ending = line.read(argc, argv)) {
-        return tarn::cli::say(*ending);
+    if (const auto ending = line.read(arguments.count(), arguments.values())) {
+        return tarn::cli::sayLast(*ending);
     }
     auto opening = std::make_unique<tarn::OpeningDisplay>(noDisplay);
     QApplication program(argc, argv);

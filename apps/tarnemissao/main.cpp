@@ -3,8 +3,8 @@
 #include <string>
 #include <utility>
 
-#include "apps/tarnemissao/last_word.h"
 #include "cli/arguments.h"
+#include "cli/last_word.h"
 #include "desk/desk_assembly.h"
 #include "widgets/opening_display.h"
 
@@ -22,12 +22,12 @@ int main(int argc, char** argv) {
         tarn::readOptions(arguments.count(), arguments.values(),
                           qEnvironmentVariable("TARN_SERVIDOR").toStdString(), TARN_BASE_URL);
     if (const auto* ending = std::get_if<tarn::cli::Ending>(&parsed)) {
-        return tarn::sayLast(*ending);
+        return tarn::cli::sayLast(*ending);
     }
     const auto& options = std::get<tarn::Options>(parsed);
     auto printers = tarn::printersOf(options);
     if (const std::string obstacle = tarn::printerObstacle(options, printers); !obstacle.empty()) {
-        return tarn::sayLast({tarn::cli::statusUsage, "tarnemissao: " + obstacle + "\n"});
+        return tarn::cli::sayLast({tarn::cli::statusUsage, "tarnemissao: " + obstacle + "\n"});
     }
     auto opening = std::make_unique<tarn::OpeningDisplay>(noDisplay);
     tarn::DeskApplication program(argc, argv);

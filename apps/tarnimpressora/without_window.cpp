@@ -11,6 +11,7 @@
 #include "apps/tarnimpressora/files.h"
 #include "apps/tarnimpressora/holding.h"
 #include "apps/tarnimpressora/reception.h"
+#include "runtime/file_names.h"
 
 namespace tarn::printer {
 
@@ -26,9 +27,9 @@ std::string nameOfRoll(const std::string& file, int roll) {
     if (file.empty()) {
         return file;
     }
-    std::filesystem::path path(file);
-    const std::string ending = path.extension().string();
-    return path.replace_extension().string() + "-rolo" + std::to_string(roll) + ending;
+    std::filesystem::path path = pathOf(file);
+    const std::string ending = nameOf(path.extension());
+    return nameOf(path.replace_extension()) + "-rolo" + std::to_string(roll) + ending;
 }
 
 // Writes the files when jobs have ended and no other follows at once. The whole paper is

@@ -5,6 +5,8 @@
 #include <charconv>
 #include <sstream>
 
+#include "runtime/file_names.h"
+
 namespace tarn::hold {
 
 namespace {
@@ -87,11 +89,11 @@ std::optional<std::string> HoldFolder::open() {
     fs::create_directories(folder_, failed);
     if (!fs::is_directory(folder_, failed) ||
         !syncFolder(folder_.parent_path().empty() ? fs::path(".") : folder_.parent_path())) {
-        return "não foi possível fazer a pasta dos trabalhos retidos, \"" + folder_.string() +
+        return "não foi possível fazer a pasta dos trabalhos retidos, \"" + tarn::nameOf(folder_) +
                "\". Confira o nome e a permissão, ou dê outra com --retidos.";
     }
     if (!lock_.take(folder_)) {
-        return "a pasta dos trabalhos retidos, \"" + folder_.string() +
+        return "a pasta dos trabalhos retidos, \"" + tarn::nameOf(folder_) +
                "\", está com outra impressora virtual, ou não aceita gravação. Feche a outra, ou "
                "dê outra pasta com --retidos.";
     }
@@ -108,7 +110,7 @@ std::vector<Job> HoldFolder::jobs() const {
     std::error_code failed;
     for (fs::directory_iterator entry(folder_, failed), end; !failed && entry != end;
          entry.increment(failed)) {
-        if (const auto named = readName(entry->path().filename().string())) {
+        if (const auto named = readName(tarn::nameOf(entry->path().filename()))) {
             found.push_back(read(named->number, named->state));
         }
     }

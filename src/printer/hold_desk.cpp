@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "dotmatrix/set_up.h"
+#include "runtime/file_names.h"
 
 namespace tarn::dotmatrix {
 
@@ -99,7 +100,7 @@ std::optional<QByteArray> HoldDesk::bytesOf(int number) const {
     if (known == nullptr) {
         return std::nullopt;
     }
-    QFile file(QFile::decodeName(folder_->bytesOf(known->job).string().c_str()));
+    QFile file(QString::fromStdString(nameOf(folder_->bytesOf(known->job))));
     return file.open(QIODevice::ReadOnly) ? std::optional(file.readAll()) : std::nullopt;
 }
 

@@ -2,14 +2,13 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
 #include "hold/hold_folder.h"
+#include "tests/support/own_directory.h"
 
 namespace tarn::test {
 
@@ -20,16 +19,7 @@ inline std::string bytesIn(const std::filesystem::path& file) {
 
 class HeldJobs : public testing::Test {
 protected:
-    HeldJobs() {
-        std::string name = (std::filesystem::temp_directory_path() / "tarn-held-XXXXXX").string();
-        root_ = mkdtemp(name.data());
-        folder_ = reopened();
-    }
-    ~HeldJobs() override {
-        folder_.reset();
-        std::error_code ignored;
-        std::filesystem::remove_all(root_, ignored);
-    }
+    HeldJobs() { folder_ = reopened(); }
 
     std::filesystem::path place() const { return root_ / "retidos"; }
     // As the next start of the program finds it.
@@ -48,7 +38,8 @@ protected:
         return job.value_or(hold::Job{});
     }
 
-    std::filesystem::path root_;
+    OwnDirectory own_{u8"retidos à mão"};
+    const std::filesystem::path& root_ = own_.path();
     std::unique_ptr<hold::HoldFolder> folder_;
 };
 

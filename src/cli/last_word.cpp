@@ -1,4 +1,4 @@
-#include "apps/tarnemissao/last_word.h"
+#include "cli/last_word.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -6,7 +6,7 @@
 #include "runtime/wide_text.h"
 #endif
 
-namespace tarn {
+namespace tarn::cli {
 namespace {
 
 #ifdef _WIN32
@@ -18,8 +18,8 @@ bool isRead(DWORD stream) {
            GetFileType(handle) != FILE_TYPE_UNKNOWN;
 }
 
-bool saidInBox(const cli::Ending& ending) {
-    const bool done = ending.status == cli::statusDone;
+bool saidInBox(const Ending& ending) {
+    const bool done = ending.status == statusDone;
     if (isRead(done ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE)) {
         return false;
     }
@@ -31,7 +31,7 @@ bool saidInBox(const cli::Ending& ending) {
 
 #else
 
-bool saidInBox(const cli::Ending& /*ending*/) {
+bool saidInBox(const Ending& /*ending*/) {
     return false;
 }
 
@@ -39,8 +39,8 @@ bool saidInBox(const cli::Ending& /*ending*/) {
 
 }  // namespace
 
-int sayLast(const cli::Ending& ending) {
-    return saidInBox(ending) ? ending.status : cli::say(ending);
+int sayLast(const Ending& ending) {
+    return saidInBox(ending) ? ending.status : say(ending);
 }
 
-}  // namespace tarn
+}  // namespace tarn::cli
