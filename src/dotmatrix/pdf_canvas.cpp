@@ -1,385 +1,58 @@
 #include "dotmatrix/pdf_canvas.h"
 
-#include <QBuffer>
-#include <QDateTime>
-#include <QImageWriter>
-#include <QPainterPath>
 #include <QTextLayout>
 #include <QTransform>
 #include <cmath>
-#include <utility>
 
 namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr double lean = 0.3;  // of a sheared face, sideways for each point upwards
-constexpr int jpegQuality = 94;
-constexpr double leastShift = 0.005;  // thousandths of an em that are worth a number
-constexpr double full = 100;          // percent
-
-// Control points of the four curves that make a circle, in radii from its edge.
-constexpr double circleControl = 0.5522847498;
-
-QByteArray nameOf(char kind, int number) {
-    return QByteArray("/") + kind + QByteArray::number(number);
-}
-
-QByteArray boxOf(const QSizeF& size) {
-    QByteArray box = "[0 0 ";
-    appendNumber(box, size.width());
-    box += ' ';
-    appendNumber(box, size.height());
-    return box + ']';
-}
-
-// A literal string: what would end it or be read as another line end is written in escapes.
-void appendGlyph(QByteArray& to, quint32 id) {
-    for (const char byte : {static_cast<char>(id >> 8U), static_cast<char>(id & 0xFFU)}) {
-        if (byte == '\r') {
-            to += "\\r";
-            continue;
-        }
-        if (byte == '(' || byte == ')' || byte == '\\') {
-            to += '\\';
-        }
-        to += byte;
-    }
-}
-
-QTextLine layOut(QTextLayout& layout) {
-    QTextOption option;
-    option.setWrapMode(QTextOption::NoWrap);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    const QTextLine line = layout.createLine();
-    layout.endLayout();
-    return line;
-}
-
-// What the glyphs of a text read, as far as single characters have glyphs; f with i or l may
-// come out as one.
-std::map<quint32, QString> readingsOf(const QRawFont& face, const QString& text) {
-    std::map<quint32, QString> readings;
-    const auto add = [&](const QString& seen, const QString& meant) {
-        const QList<quint32> ids = face.glyphIndexesForString(seen);
-        if (ids.size() == 1 && ids.front() != 0) {
-            readings.try_emplace(ids.front(), meant);
-        }
-    };
-    for (const char32_t character : text.toUcs4()) {
-        const QString one = QString::fromUcs4(&character, 1);
-        add(one, one);
-    }
-    add(QStringLiteral("\uFB01"), QStringLiteral("fi"));
-    add(QStringLiteral("\uFB02"), QStringLiteral("fl"));
-    return readings;
+pdf::PdfStroke penOf(const Stroke& stroke) {
+    return {.colour = stroke.colour,
+            .width = stroke.width,
+            .dash = stroke.dashed ? dashWidths * stroke.width : 0,
+            .flat = false};
 }
 
 }  // namespace
 
-PdfCanvas::PdfCanvas(QIODevice& out, const PrintFont& print)
-    : file_(out),
-      print_(print),
-      tree_(file_.reserve()),
-      resources_(file_.reserve()),
-      backgroundResources_(file_.reserve()) {}
-
-void PdfCanvas::number(double value) {
-    appendNumber(content_.text, value);
-    content_.text += ' ';
-}
-
-void PdfCanvas::point(const QPointF& at) {
-    number(at.x());
-    number(page_.height() - at.y());
-}
-
-void PdfCanvas::colour(const QColor& colour, const char* operation) {
-    const int alpha = colour.alpha();
-    if (content_.alpha != alpha) {
-        if (const auto [state, isNew] = states_.try_emplace(alpha, 0); isNew) {
-            state->second = file_.reserve();
-        }
-        content_.text += nameOf('G', alpha) + " gs\n";
-        content_.alpha = alpha;
-    }
-    number(colour.redF());
-    number(colour.greenF());
-    number(colour.blueF());
-    content_.text += operation;
-}
-
-void PdfCanvas::fillWith(const QColor& filling) {
-    if (content_.alpha != filling.alpha() || content_.filling != filling.rgba()) {
-        colour(filling, "rg\n");
-        content_.filling = filling.rgba();
-    }
-}
-
-void PdfCanvas::strokeWith(const Stroke& stroke) {
-    colour(stroke.colour, "RG\n");
-    number(stroke.width);
-    content_.text += "w 2 J 2 j [";
-    if (stroke.dashed) {
-        number(dashWidths * stroke.width);
-    }
-    content_.text += "]0 d\n";
-}
-
-void PdfCanvas::rectangle(const QRectF& area) {
-    point(area.bottomLeft());
-    number(area.width());
-    number(area.height());
-    content_.text += "re ";
-}
-
 void PdfCanvas::fill(const QRectF& area, const QColor& colour) {
-    endText();
-    fillWith(colour);
-    rectangle(area);
-    content_.text += "f\n";
+    drawing_.fill(area, colour);
 }
 
 void PdfCanvas::frame(const QRectF& area, const Stroke& stroke) {
-    endText();
-    strokeWith(stroke);
-    rectangle(area);
-    content_.text += "S\n";
+    drawing_.frame(area, penOf(stroke));
 }
 
 void PdfCanvas::disc(const QPointF& centre, double radius, const QColor& filling,
                      const Stroke& edge) {
-    endText();
-    fillWith(filling);
-    strokeWith(edge);
-    const auto at = [&](double x, double y) { point(centre + QPointF(x, y) * radius); };
-    at(1, 0);
-    content_.text += "m\n";
-    constexpr double c = circleControl;
-    for (const auto& [x, y] : {std::pair{1, 0}, {0, -1}, {-1, 0}, {0, 1}}) {
-        // The next quarter ends where this one's tangent points to.
-        const int nextX = y;
-        const int nextY = -x;
-        at(x + c * nextX, y + c * nextY);
-        at(nextX + c * x, nextY + c * y);
-        at(nextX, nextY);
-        content_.text += "c\n";
-    }
-    content_.text += "b\n";
+    drawing_.disc(centre, radius, filling, penOf(edge));
 }
 
 void PdfCanvas::line(const QPointF& from, const QPointF& to, const Stroke& stroke) {
-    endText();
-    strokeWith(stroke);
-    point(from);
-    content_.text += "m ";
-    point(to);
-    content_.text += "l S\n";
+    drawing_.line(from, to, penOf(stroke));
 }
 
 void PdfCanvas::picture(const QRectF& area, const QImage& image) {
-    if (image.isNull()) {
-        return;
-    }
-    endText();
-    const auto [place, isNew] = pictures_.try_emplace(image.cacheKey(), 0);
-    if (isNew) {
-        place->second = writePicture(image);
-    }
-    content_.text += "q ";
-    number(area.width());
-    content_.text += "0 0 ";
-    number(area.height());
-    point(area.bottomLeft());
-    content_.text += "cm" + nameOf('I', place->second) + " Do Q\n";
-}
-
-int PdfCanvas::writePlane(const QImage& plane, const QByteArray& dictionary) {
-    QByteArray rows;
-    const qsizetype rowBytes = qsizetype{plane.width()} * plane.depth() / 8;
-    for (int row = 0; row < plane.height(); ++row) {
-        rows.append(reinterpret_cast<const char*>(plane.constScanLine(row)), rowBytes);
-    }
-    rows = deflated(rows);
-    const QByteArray heading = "/Type/XObject/Subtype/Image/BitsPerComponent 8/Interpolate true" +
-                               dictionary + "/Width " + QByteArray::number(plane.width()) +
-                               "/Height " + QByteArray::number(plane.height()) + "/ColorSpace" +
-                               (plane.depth() == 8 ? "/DeviceGray" : "/DeviceRGB");
-    QBuffer jpeg;
-    QImageWriter writer(&jpeg, "jpg");
-    writer.setQuality(jpegQuality);
-    const bool isMask = plane.format() == QImage::Format_Alpha8;
-    const bool smaller = !isMask && writer.write(plane) && jpeg.size() < rows.size();
-    const int object = file_.reserve();
-    file_.writeEncoded(object, heading, smaller ? "/DCTDecode" : "/FlateDecode",
-                       smaller ? jpeg.data() : rows);
-    return object;
-}
-
-int PdfCanvas::writePicture(const QImage& image) {
-    QByteArray mask;
-    if (image.hasAlphaChannel()) {
-        const QImage opacity = image.convertToFormat(QImage::Format_Alpha8);
-        mask = "/SMask " + pdfReference(writePlane(opacity, {}));
-    }
-    const bool grey = image.isGrayscale();
-    return writePlane(
-        image.convertToFormat(grey ? QImage::Format_Grayscale8 : QImage::Format_RGB888), mask);
-}
-
-void PdfCanvas::beginText() {
-    if (!content_.inText) {
-        content_.text += "BT\n";
-        content_.inText = true;
-        content_.at = QPointF(0, page_.height());
-    }
-}
-
-void PdfCanvas::endText() {
-    if (content_.inText) {
-        content_.text += "ET\n";
-        content_.inText = false;
-    }
-}
-
-void PdfCanvas::setFont(const PdfFont& font, double size, double stretch) {
-    if (content_.font != &font || content_.size != size) {
-        content_.text += nameOf('F', font.object()) + ' ';
-        number(size);
-        content_.text += "Tf\n";
-        content_.font = &font;
-        content_.size = size;
-    }
-    if (content_.stretch != stretch) {
-        number(stretch);
-        content_.text += "Tz\n";
-        content_.stretch = stretch;
-    }
-}
-
-// Counted from the beginning of the line before, both rounded as they are written, so that no
-// error adds up.
-void PdfCanvas::moveText(const QPointF& at, bool leaning) {
-    const auto rounded = [](double value) { return std::round(value * 1e4) / 1e4; };
-    const QPointF to(rounded(at.x()), rounded(page_.height() - at.y()));
-    if (leaning) {
-        content_.text += "1 0 ";
-        number(lean);
-        content_.text += "1 ";
-        number(to.x());
-        number(to.y());
-        content_.text += "Tm\n";
-    } else {
-        const QPointF from(content_.at.x(), page_.height() - content_.at.y());
-        number(to.x() - from.x());
-        number(to.y() - from.y());
-        content_.text += "Td\n";
-    }
-    content_.at = QPointF(to.x(), page_.height() - to.y());
-}
-
-void PdfCanvas::glyphs(const std::vector<quint32>& ids) {
-    content_.text += '(';
-    for (const quint32 id : ids) {
-        appendGlyph(content_.text, id);
-    }
-    content_.text += ')';
+    drawing_.picture(area, image);
 }
 
 void PdfCanvas::words(const Words& words) {
     QTextLayout layout(words.text, words.font);
-    const QTextLine line = layOut(layout);
-    QTransform place = QTransform::fromTranslate(words.at.x(), words.at.y());
-    place.rotate(words.turn);
-    place.scale(words.scale, words.scale);
-    place.translate(0, -line.ascent());
-    for (const QGlyphRun& run : layout.glyphRuns()) {
-        PdfFont& font = fontOf(run.rawFont());
-        if (!font.canBeEmbedded()) {
-            drawOutlines(run, place, words.colour);
-            continue;
-        }
-        const auto readings = readingsOf(run.rawFont(), words.text);
-        for (const quint32 id : run.glyphIndexes()) {
-            const auto reading = readings.find(id);
-            font.use(id, reading == readings.end() ? QString() : reading->second);
-        }
-        drawGlyphs(run, font, place, words.colour);
-    }
+    QTransform baseline = QTransform::fromTranslate(words.at.x(), words.at.y());
+    baseline.rotate(words.turn);
+    baseline.scale(words.scale, words.scale);
+    drawing_.words(layout, baseline, words.colour);
 }
 
-// Each glyph where the layout has it: what that differs from the face's own advance stands
-// between the glyphs.
-void PdfCanvas::drawGlyphs(const QGlyphRun& run, const PdfFont& font, const QTransform& place,
-                           const QColor& colour) {
-    const QList<quint32> ids = run.glyphIndexes();
-    const QList<QPointF> places = run.positions();
-    const double pixels = run.rawFont().pixelSize();
-    const double scale = std::hypot(place.m11(), place.m12());
-    for (qsizetype first = 0; first < ids.size();) {
-        endText();
-        fillWith(colour);
-        beginText();
-        setFont(font, pixels * scale, full);
-        for (const double entry : {place.m11(), -place.m12(), -place.m21(), place.m22()}) {
-            number(entry / scale);
-        }
-        point(place.map(places[first]));
-        content_.text += "Tm [";
-        double reached = places[first].x();
-        qsizetype next = first;
-        for (; next < ids.size() && places[next].y() == places[first].y(); ++next) {
-            const double shift = (reached - places[next].x()) / pixels * 1000;
-            if (std::abs(shift) > leastShift) {
-                number(shift);
-                reached = places[next].x();
-            }
-            glyphs({ids[next]});
-            reached += font.advance(ids[next]) * pixels;
-        }
-        content_.text += "]TJ\n";
-        first = next;
-    }
-    endText();
-}
-
-void PdfCanvas::drawOutlines(const QGlyphRun& run, const QTransform& place, const QColor& colour) {
-    endText();
-    fillWith(colour);
-    const QList<quint32> ids = run.glyphIndexes();
-    const QList<QPointF> places = run.positions();
-    for (qsizetype i = 0; i < ids.size(); ++i) {
-        const QPainterPath path =
-            place.map(run.rawFont().pathForGlyph(ids[i]).translated(places[i]));
-        for (int at = 0; at < path.elementCount(); ++at) {
-            const QPainterPath::Element element = path.elementAt(at);
-            point(element);
-            if (element.isMoveTo()) {
-                content_.text += "m\n";
-            } else if (element.isLineTo()) {
-                content_.text += "l\n";
-            } else if (element.isCurveTo()) {
-                point(path.elementAt(++at));
-                point(path.elementAt(++at));
-                content_.text += "c\n";
-            }
-        }
-        if (!path.isEmpty()) {
-            content_.text += "f\n";
-        }
-    }
-}
-
-PdfFont& PdfCanvas::fontOf(const QRawFont& face) {
-    // The table with the face's own checksum tells it from others of its family.
-    const auto [place, isNew] =
-        fontsByFace_.try_emplace(face.familyName().toUtf8() + face.fontTable("head"), nullptr);
+void PdfCanvas::background(PaperUnits height, const std::string& form,
+                           const std::function<void()>& draw) {
+    const auto [place, isNew] = backgrounds_.try_emplace({height, form}, 0);
     if (isNew) {
-        place->second =
-            &fonts_.emplace_back(face, static_cast<int>(fonts_.size()), file_.reserve());
+        place->second = drawing_.store(draw);
     }
-    return *place->second;
+    drawing_.show(place->second);
 }
 
 PdfCanvas::Look PdfCanvas::lookOf(bool bold, bool italic) const {
@@ -392,7 +65,7 @@ PdfCanvas::Look PdfCanvas::lookOf(bool bold, bool italic) const {
 }
 
 // A character that the face doesn't have comes from the one that the toolkit takes for it.
-PdfCanvas::Glyph PdfCanvas::glyphOf(Look& look, char16_t character) {
+const PdfCanvas::Glyph& PdfCanvas::glyphOf(Look& look, char16_t character) {
     const auto [known, isNew] = look.glyphs.try_emplace(character);
     if (!isNew) {
         return known->second;
@@ -402,154 +75,62 @@ PdfCanvas::Glyph PdfCanvas::glyphOf(Look& look, char16_t character) {
     QList<quint32> ids = face.glyphIndexesForString(text);
     if (ids.isEmpty() || ids.front() == 0) {
         QTextLayout layout(text, look.asked);
-        layOut(layout);
+        layout.beginLayout();
+        layout.createLine();
+        layout.endLayout();
         if (const auto runs = layout.glyphRuns(); !runs.isEmpty()) {
             face = runs.front().rawFont();
             ids = runs.front().glyphIndexes();
         }
     }
-    known->second = {&fontOf(face), ids.isEmpty() ? 0 : ids.front()};
+    known->second = {&drawing_.fontOf(face), ids.isEmpty() ? 0 : ids.front(), face};
     known->second.font->use(known->second.id, text);
     return known->second;
 }
 
+bool PdfCanvas::fitsCell(const Glyph& glyph) const {
+    constexpr double same = 1e-5;
+    return std::abs(glyph.font->advance(glyph.id) - print_.advance() / print_.pixels()) < same;
+}
+
+void PdfCanvas::drawOutline(const Glyph& glyph, const QPointF& at, double stretch) {
+    QGlyphRun outline;
+    outline.setRawFont(glyph.face);
+    outline.setGlyphIndexes({glyph.id});
+    outline.setPositions({QPointF(0, 0)});
+    const double scale = printEm / glyph.face.pixelSize();
+    drawing_.outlines(outline, QTransform(scale * stretch, 0, 0, scale, at.x(), at.y()), printInk);
+}
+
+// Glyphs as wide as the pitch's cells follow each other by themselves; any other is a text of
+// its own at its place.
 void PdfCanvas::run(const PrintedRun& run) {
-    std::optional<Look>& known = looks_[(run.bold ? 1U : 0U) + (run.italic ? 2U : 0U)];
-    if (!known) {
-        known = lookOf(run.bold, run.italic);
+    std::optional<Look>& look = looks_[(run.bold ? 1U : 0U) + (run.italic ? 2U : 0U)];
+    if (!look) {
+        look = lookOf(run.bold, run.italic);
     }
-    Look& look = *known;
-    const double em = print_.advance() / print_.pixels();
-    const double stretch = run.cell / (em * printEm);
-    const auto advances = [em](const Glyph& glyph) {
-        constexpr double same = 1e-5;
-        return std::abs(glyph.font->advance(glyph.id) - em) < same;
-    };
-    for (qsizetype first = 0; first < run.text.size();) {
-        const QPointF at = run.at + QPointF(run.cell * static_cast<double>(first), 0);
-        const Glyph begin = glyphOf(look, run.text[first].unicode());
-        qsizetype next = first + 1;
-        piece_.assign(1, begin.id);
+    piece_.size = printEm;
+    piece_.stretch = run.cell * print_.pixels() / (print_.advance() * printEm);
+    piece_.leaning = look->leaning;
+    for (qsizetype next = 0; next < run.text.size();) {
+        piece_.at = run.at + QPointF(run.cell * static_cast<double>(next), 0);
+        const Glyph& begin = glyphOf(*look, run.text[next++].unicode());
         if (!begin.font->canBeEmbedded()) {
-            QGlyphRun outlines;
-            outlines.setRawFont(begin.font->face());
-            outlines.setGlyphIndexes({begin.id});
-            outlines.setPositions({QPointF(0, 0)});
-            const double scale = printEm / begin.font->face().pixelSize();
-            drawOutlines(outlines, QTransform(scale * stretch, 0, 0, scale, at.x(), at.y()),
-                         printInk);
-            first = next;
+            drawOutline(begin, piece_.at, piece_.stretch);
             continue;
         }
-        // Glyphs of the pitch's advance follow each other by themselves.
-        for (bool follows = advances(begin); follows && next < run.text.size(); ++next) {
-            const Glyph glyph = glyphOf(look, run.text[next].unicode());
-            follows = glyph.font == begin.font && advances(glyph);
-            if (!follows) {
-                break;
+        piece_.font = begin.font;
+        piece_.glyphs.assign(1, begin.id);
+        for (bool follows = fitsCell(begin); follows && next < run.text.size();) {
+            const Glyph& glyph = glyphOf(*look, run.text[next].unicode());
+            follows = glyph.font == begin.font && fitsCell(glyph);
+            if (follows) {
+                piece_.glyphs.push_back(glyph.id);
+                ++next;
             }
-            piece_.push_back(glyph.id);
         }
-        fillWith(printInk);
-        beginText();
-        setFont(*begin.font, printEm, stretch * full);
-        moveText(at, look.leaning);
-        glyphs(piece_);
-        content_.text += "Tj\n";
-        if (look.leaning) {
-            endText();
-        }
-        first = next;
+        drawing_.text(piece_, printInk);
     }
-}
-
-void PdfCanvas::background(PaperUnits height, const std::string& form,
-                           const std::function<void()>& draw) {
-    const auto [place, isNew] = backgrounds_.try_emplace({height, form}, 0);
-    if (isNew) {
-        Content page = std::exchange(content_, Content{});
-        draw();
-        endText();
-        place->second = file_.reserve();
-        file_.writeStream(place->second,
-                          "/Type/XObject/Subtype/Form/BBox" + boxOf(page_) + "/Resources " +
-                              pdfReference(backgroundResources_),
-                          content_.text);
-        content_ = std::move(page);
-    }
-    endText();
-    content_.text += nameOf('B', place->second) + " Do\n";
-}
-
-void PdfCanvas::beginPage(const QSizeF& points) {
-    page_ = points;
-    firstPage_ = pages_.empty() ? points : firstPage_;
-    content_ = {};
-}
-
-bool PdfCanvas::endPage() {
-    endText();
-    const int content = file_.reserve();
-    file_.writeStream(content, {}, content_.text);
-    pages_.push_back(file_.reserve());
-    QByteArray page = "<</Type/Page/Parent " + pdfReference(tree_);
-    if (page_ != firstPage_) {
-        page += "/MediaBox" + boxOf(page_);
-    }
-    file_.write(pages_.back(), page + "/Contents " + pdfReference(content) + ">>");
-    return file_.taken();
-}
-
-bool PdfCanvas::finish(const QString& title, const QString& creator) {
-    std::vector<int> fonts;
-    for (const PdfFont& font : fonts_) {
-        if (font.canBeEmbedded()) {
-            font.write(file_);
-            fonts.push_back(font.object());
-        }
-    }
-    writeResources(fonts);
-    QByteArray kids;
-    for (const int page : pages_) {
-        kids += pdfReference(page) + ' ';
-    }
-    file_.write(tree_, "<</Type/Pages/MediaBox" + boxOf(firstPage_) + "/Resources " +
-                           pdfReference(resources_) + "/Count " +
-                           QByteArray::number(static_cast<qulonglong>(pages_.size())) + "/Kids[" +
-                           kids + "]>>");
-    const int catalogue = file_.reserve();
-    file_.write(catalogue, "<</Type/Catalog/Pages " + pdfReference(tree_) + ">>");
-    const int information = file_.reserve();
-    const QByteArray now =
-        QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMddhhmmss")).toLatin1();
-    file_.write(information, "<</Title" + pdfText(title) + "/Creator" + pdfText(creator) +
-                                 "/CreationDate(D:" + now + "Z)>>");
-    file_.finish(catalogue, information);
-    return file_.taken();
-}
-
-void PdfCanvas::writeResources(const std::vector<int>& fonts) {
-    QByteArray states;
-    for (const auto& [alpha, object] : states_) {
-        QByteArray opacity;
-        appendNumber(opacity, alpha / 255.0);
-        file_.write(object, "<</SA true/ca " + opacity + "/CA " + opacity + ">>");
-        states += nameOf('G', alpha) + ' ' + pdfReference(object);
-    }
-    QByteArray common = "<</ExtGState<<" + states + ">>/Font<<";
-    for (const int font : fonts) {
-        common += nameOf('F', font) + ' ' + pdfReference(font);
-    }
-    common += ">>/XObject<<";
-    for (const auto& [key, picture] : pictures_) {
-        common += nameOf('I', picture) + ' ' + pdfReference(picture);
-    }
-    // A background names no background.
-    file_.write(backgroundResources_, common + ">>>>");
-    for (const auto& [of, drawing] : backgrounds_) {
-        common += nameOf('B', drawing) + ' ' + pdfReference(drawing);
-    }
-    file_.write(resources_, common + ">>>>");
 }
 
 }  // namespace tarn::dotmatrix

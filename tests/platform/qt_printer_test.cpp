@@ -126,6 +126,46 @@ TEST_F(QtPrinterTest, FacesHaveTheWidthsOfTheOnesAskedForAndAreEmbedded) {
     }
 }
 
+TEST_F(QtPrinterTest, TextsAreCopiedAsTheyWerePrinted) {
+    const char* const texts[] = {"COMÉRCIO DE PEÇAS (SÃO JOÃO) \\ LTDA", "fiação e aflição",
+                                 "preço ≤ 10 – à vista"};
+    for (double size : {6.0, 10.0, 7.5}) {
+        for (const char* text : texts) {
+            printer_.FontSize = size;
+            printer_.CurrentX = 2;
+            printer_.CurrentY += 1;
+            EXPECT_EQ(printer_.Print(text), std::nullopt);
+        }
+    }
+    EXPECT_EQ(printer_.EndDoc(), std::nullopt);
+    const QString copied = QString::fromUtf8(
+        output(QStringLiteral("pdftotext"), {file("job-001.pdf"), QStringLiteral("-")}));
+    for (const char* text : texts) {
+        EXPECT_EQ(copied.count(QString::fromUtf8(text)), 3) << text << copied.toStdString();
+    }
+    const QString fonts =
+        QString::fromUtf8(output(QStringLiteral("pdffonts"), {file("job-001.pdf")}));
+    EXPECT_EQ(fonts.count(QStringLiteral("TrueType")), 1) << fonts.toStdString();
+}
+
+TEST_F(QtPrinterTest, AFaceIsWholeInEveryDocument) {
+    for (const char* word : {"UM", "DOIS"}) {
+        printer_.CurrentX = printer_.CurrentY = 3;
+        printer_.Print(word);
+        printer_.EndDoc();
+    }
+    EXPECT_NEAR(placeOf("job-002.pdf", QStringLiteral("DOIS")).x(), 3 * pointsPerCentimetre,
+                halfMillimetre);
+    const QImage page = pageOf("job-002.pdf");
+    int dark = 0;
+    for (int y = 290; y < 360; ++y) {
+        for (int x = 290; x < 420; ++x) {
+            dark += isInk(page, x, y) ? 1 : 0;
+        }
+    }
+    EXPECT_GT(dark, 200);
+}
+
 TEST_F(QtPrinterTest, LinesInDots) {
     printer_.DrawWidth = 60;
     printer_.Line(2, 3, 8, 3);

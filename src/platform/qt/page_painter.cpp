@@ -1,7 +1,6 @@
 #include "platform/qt/page_painter.h"
 
 #include <QFont>
-#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QImage>
 #include <QImageReader>
@@ -9,55 +8,17 @@
 #include <QPainter>
 #include <QPen>
 #include <QPrinter>
-#include <array>
 #include <map>
 #include <tuple>
 
 namespace tarn {
 namespace {
 
-constexpr double centimetresPerInch = 2.54;
 constexpr double metresPerInch = 0.0254;
-// The widths of lines were chosen on laser printers of this resolution.
-constexpr double dotsPerInch = 600;
 // Size of a picture whose file doesn't tell one.
 constexpr double pictureDotsPerInch = 96;
 // Decoded: an A4 sheet scanned at 1200 dots per inch takes half of it.
 constexpr int pictureMegabytes = 1024;
-
-struct Substitute {
-    const char* wanted;
-    const char* face;
-};
-
-// Faces with the same widths, for machines without the wanted ones.
-constexpr std::array substitutes{Substitute{"Arial", "Liberation Sans"},
-                                 Substitute{"Courier New", "Liberation Mono"},
-                                 Substitute{"Times New Roman", "Liberation Serif"}};
-
-QString faceFor(const std::string& wanted) {
-    QString family = QString::fromStdString(wanted);
-    if (QFontDatabase::hasFamily(family)) {
-        return family;
-    }
-    for (const Substitute& substitute : substitutes) {
-        QString face = QString::fromLatin1(substitute.face);
-        if (wanted == substitute.wanted && QFontDatabase::hasFamily(face)) {
-            return face;
-        }
-    }
-    return family;
-}
-
-// Widths add up character by character, the same on every device.
-QFont fontOf(const DrawnText& text) {
-    QFont font(faceFor(text.font));
-    font.setPointSizeF(text.size);
-    font.setBold(text.bold);
-    font.setKerning(false);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
-}
 
 // A file without a resolution gets that of the screen, which is none of its own.
 double pictureResolution(int dotsPerMetre) {
@@ -97,16 +58,63 @@ QPointF printableCorner(const QPrinter& printer) {
     return QPointF(margins.left(), margins.top()) * printer.resolution();
 }
 
-class PagePainter {
+class PrinterPages : public PageCanvas {
 public:
-    PagePainter(QPrinter& printer, std::size_t pages, const Progress& progress)
+    explicit PrinterPages(QPrinter& printer)
         : printer_(printer),
-          pages_(pages),
-          progress_(progress),
           dotsPerInch_(printer.resolution()),
           dotsPerCentimetre_(dotsPerInch_ / centimetresPerInch),
-          corner_(printableCorner(printer)),
-          begun_(painter_.begin(&printer)) {}
+          corner_(printableCorner(printer)) {}
+
+    bool begin() override { return painter_.begin(&printer_); }
+    bool newPage() override { return printer_.newPage(); }
+    bool end() override { return painter_.end(); }
+
+    void text(const DrawnText& text) override {
+        const Type& type = typeOf(text);
+        painter_.setFont(type.font);
+        painter_.drawText(at(text.x, text.y) + QPointF(0, type.ascent),
+                          QString::fromStdString(text.text));
+    }
+    void line(const DrawnLine& line) override {
+        const double width = line.width * dotsPerInch_ / lineDotsPerInch;
+        painter_.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::FlatCap));
+        painter_.drawLine(at(line.x1, line.y1), at(line.x2, line.y2));
+    }
+    void picture(const DrawnPicture& drawn, const QImage& image, const QSizeF& inches) override {
+        painter_.drawImage(QRectF(at(drawn.x, drawn.y), inches * dotsPerInch_), image);
+    }
+
+private:
+    struct Type {
+        QFont font;
+        double ascent = 0;  // dots
+    };
+
+    QPointF at(double x, double y) const { return corner_ + QPointF(x, y) * dotsPerCentimetre_; }
+
+    // Finding a face costs more than drawing with it.
+    const Type& typeOf(const DrawnText& text) {
+        const auto [place, isNew] = types_.try_emplace({text.font, text.size, text.bold});
+        if (isNew) {
+            const QFont font = fontOf(text);
+            place->second = {font, QFontMetricsF(font, &printer_).ascent()};
+        }
+        return place->second;
+    }
+
+    QPrinter& printer_;
+    double dotsPerInch_;
+    double dotsPerCentimetre_;
+    QPointF corner_;
+    QPainter painter_;
+    std::map<std::tuple<std::string, double, bool>, Type> types_;
+};
+
+class PagePainter {
+public:
+    PagePainter(PageCanvas& canvas, std::size_t pages, const Progress& progress)
+        : canvas_(canvas), pages_(pages), progress_(progress), begun_(canvas.begin()) {}
 
     bool take(const PrintOperation& operation) {
         if (std::holds_alternative<PageBreak>(operation)) {
@@ -118,55 +126,29 @@ public:
         return begun_;
     }
 
-    bool end() { return begun_ && painter_.end(); }
+    bool end() { return begun_ && canvas_.end(); }
 
 private:
-    QPointF at(double x, double y) const { return corner_ + QPointF(x, y) * dotsPerCentimetre_; }
-
     bool beginPage() {
         if (breakAsked_ && progress_) {
             progress_(++done_, pages_);
         }
-        const bool turned = !breakAsked_ || printer_.newPage();
+        const bool turned = !breakAsked_ || canvas_.newPage();
         breakAsked_ = false;
         pageBegun_ = true;
         return turned;
     }
 
-    void draw(const DrawnText& text) {
-        const Type& type = typeOf(text);
-        painter_.setFont(type.font);
-        painter_.drawText(at(text.x, text.y) + QPointF(0, type.ascent),
-                          QString::fromStdString(text.text));
-    }
-    void draw(const DrawnLine& line) {
-        const double width = line.width * dotsPerInch_ / dotsPerInch;
-        painter_.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::FlatCap));
-        painter_.drawLine(at(line.x1, line.y1), at(line.x2, line.y2));
-    }
+    void draw(const DrawnText& text) { canvas_.text(text); }
+    void draw(const DrawnLine& line) { canvas_.line(line); }
     void draw(const DrawnPicture& drawn) {
         const QImage& image = imageOf(*drawn.picture.bytes);
         if (!image.isNull()) {
-            painter_.drawImage(QRectF(at(drawn.x, drawn.y), naturalSize(image) * dotsPerInch_),
-                               image);
+            canvas_.picture(drawn, image, naturalSize(image));
         }
     }
     template <typename Setting>
     void draw(const Setting&) {}
-
-    struct Type {
-        QFont font;
-        double ascent = 0;  // dots
-    };
-    // Finding a face costs more than drawing with it.
-    const Type& typeOf(const DrawnText& text) {
-        const auto [place, isNew] = types_.try_emplace({text.font, text.size, text.bold});
-        if (isNew) {
-            const QFont font = fontOf(text);
-            place->second = {font, QFontMetricsF(font, &printer_).ascent()};
-        }
-        return place->second;
-    }
 
     // Pages that share a picture's bytes share the picture on paper, too.
     const QImage& imageOf(const std::string& bytes) {
@@ -179,16 +161,11 @@ private:
         return place->second;
     }
 
-    QPrinter& printer_;
+    PageCanvas& canvas_;
     std::size_t pages_;
     std::size_t done_ = 0;
     const Progress& progress_;
-    std::map<std::tuple<std::string, double, bool>, Type> types_;
     std::map<const std::string*, QImage> images_;
-    double dotsPerInch_;
-    double dotsPerCentimetre_;
-    QPointF corner_;
-    QPainter painter_;
     bool begun_;
     bool pageBegun_ = false;
     bool breakAsked_ = false;
@@ -196,15 +173,21 @@ private:
 
 }  // namespace
 
-bool paintDocument(QPrinter& printer, std::span<const PrintOperation> document,
+bool paintDocument(PageCanvas& canvas, std::span<const PrintOperation> document,
                    const Progress& progress) {
-    PagePainter page(printer, pagesOf(document), progress);
+    PagePainter page(canvas, pagesOf(document), progress);
     for (const PrintOperation& operation : document) {
         if (!page.take(operation)) {
             return false;
         }
     }
     return page.end();
+}
+
+bool paintDocument(QPrinter& printer, std::span<const PrintOperation> document,
+                   const Progress& progress) {
+    PrinterPages pages(printer);
+    return paintDocument(pages, document, progress);
 }
 
 }  // namespace tarn

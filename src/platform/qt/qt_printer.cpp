@@ -6,11 +6,10 @@
 #include <QPageSize>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <algorithm>
-#include <span>
 #include <utility>
 
 #include "platform/qt/page_painter.h"
+#include "platform/qt/pdf_pages.h"
 #include "platform/system_spooler.h"
 #include "runtime/file_names.h"
 
@@ -28,28 +27,14 @@ PrinterFailure unwritable(const JobFiles& files) {
                    "\". Confira a permissão e o espaço em disco.");
 }
 
-// A PDF is whole when its last line is there.
-bool isWhole(const QString& pdf) {
-    QFile file(pdf);
-    constexpr qint64 tail = 16;
-    return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(0, file.size() - tail)) &&
-           file.readAll().contains("%%EOF");
-}
-
-std::optional<PrinterFailure> printPdf(QPrinter& printer, JobFiles& files,
-                                       std::span<const PrintOperation> document,
-                                       const Progress& progress) {
-    const auto file = files.create("pdf");
-    if (!file) {
-        return unwritable(files);
-    }
-    const QString name = QString::fromStdString(nameOf(*file));
-    printer.setOutputFileName(name);
-    const bool written = paintDocument(printer, document, progress) && isWhole(name);
-    return written ? std::nullopt : std::optional(unwritable(files));
-}
-
 }  // namespace
+
+QtPrinter::QtPrinter() = default;
+
+QtPrinter::QtPrinter(std::shared_ptr<JobFiles> files)
+    : files_(std::move(files)), types_(std::make_unique<PdfTypes>()) {}
+
+QtPrinter::~QtPrinter() = default;
 
 std::optional<PrinterFailure> QtPrinter::obstacle() const {
     if (files_) {
@@ -77,10 +62,6 @@ std::optional<PrinterFailure> QtPrinter::draw(const PrintOperation& operation) {
 }
 
 void QtPrinter::setUp(QPrinter& printer) const {
-    if (files_) {
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setPageSize(QPageSize(QPageSize::A4));
-    }
     printer.setResolution(dotsPerInch);
     printer.setCreator(QStringLiteral("TarnEmissao"));
     printer.setDocName(QStringLiteral("TarnEmissao"));
@@ -92,6 +73,22 @@ void QtPrinter::setUp(QPrinter& printer) const {
     printer.setCopyCount(copies_);
 }
 
+std::optional<PrinterFailure> QtPrinter::writePdf(std::span<const PrintOperation> document) {
+    const auto name = files_->create("pdf");
+    if (!name) {
+        return unwritable(*files_);
+    }
+    QFile file(QString::fromStdString(nameOf(*name)));
+    if (!file.open(QIODevice::WriteOnly)) {
+        return unwritable(*files_);
+    }
+    const QSizeF sheet = QPageSize(QPageSize::A4).sizePoints();
+    PdfPages pages(file, *types_,
+                   orientation_ == Orientation::Landscape ? sheet.transposed() : sheet);
+    const bool written = paintDocument(pages, document, progress) && file.flush();
+    return written ? std::nullopt : std::optional(unwritable(*files_));
+}
+
 std::optional<PrinterFailure> QtPrinter::end() {
     const std::vector<PrintOperation> document = std::exchange(document_, {});
     std::optional<PrinterFailure> met = std::exchange(obstacle_, std::nullopt);
@@ -101,11 +98,11 @@ std::optional<PrinterFailure> QtPrinter::end() {
     if (const auto now = obstacle()) {  // the clerk may have waited before a box meanwhile
         return now;
     }
+    if (files_) {
+        return writePdf(document);
+    }
     QPrinter printer(QPrinter::HighResolution);
     setUp(printer);
-    if (files_) {
-        return printPdf(printer, *files_, document, progress);
-    }
     if (!paintDocument(printer, document, progress)) {
         return trouble("a impressora \"" + printer.printerName().toStdString() +
                        "\" não aceitou o trabalho. Confira se está ligada e imprima de novo.");

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -16,12 +17,17 @@ class QPrinter;
 
 namespace tarn {
 
+class PdfTypes;
+
 class QtPrinter : public Printer {
 public:
     // The machine's default printer, on its own paper.
-    QtPrinter() = default;
+    QtPrinter();
     // `files` may be shared with the spooler that writes into the same directory.
-    explicit QtPrinter(std::shared_ptr<JobFiles> files) : files_(std::move(files)) {}
+    explicit QtPrinter(std::shared_ptr<JobFiles> files);
+    ~QtPrinter() override;
+    QtPrinter(const QtPrinter&) = delete;
+    QtPrinter& operator=(const QtPrinter&) = delete;
 
     std::string name() override;
     std::optional<PrinterFailure> perform(const PrintOperation& operation) override;
@@ -31,8 +37,10 @@ private:
     std::optional<PrinterFailure> end();
     std::optional<PrinterFailure> obstacle() const;
     void setUp(QPrinter& printer) const;
+    std::optional<PrinterFailure> writePdf(std::span<const PrintOperation> document);
 
     std::shared_ptr<JobFiles> files_;  // null: the machine's printer
+    std::unique_ptr<PdfTypes> types_;  // of all documents; null without files_
     Orientation orientation_ = Orientation::Portrait;
     int copies_ = 1;
     std::vector<PrintOperation> document_;    // since the last end

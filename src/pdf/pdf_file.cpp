@@ -1,4 +1,4 @@
-#include "dotmatrix/pdf_file.h"
+#include "pdf/pdf_file.h"
 
 #include <QIODevice>
 #include <QString>
@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstdio>
 
-namespace tarn::dotmatrix {
+namespace tarn::pdf {
 
 namespace {
 
@@ -94,4 +94,4 @@ void PdfFile::finish(int catalogue, int information) {
         pdfReference(information) + ">>\nstartxref\n" + QByteArray::number(table) + "\n%%EOF\n");
 }
 
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::pdf

@@ -8,7 +8,7 @@
 class QIODevice;
 class QString;
 
-namespace tarn::dotmatrix {
+namespace tarn::pdf {
 
 class PdfFile {
 public:
@@ -45,4 +45,4 @@ void appendNumber(QByteArray& to, double value);
 // A text in quotation, any script.
 QByteArray pdfText(const QString& text);
 
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::pdf

@@ -1,17 +1,16 @@
-#include "dotmatrix/pdf_font.h"
+#include "pdf/pdf_font.h"
 
 #include <QtEndian>
 #include <algorithm>
+#include <set>
 
-#include "dotmatrix/font_subset.h"
+#include "pdf/font_subset.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::pdf {
 
 namespace {
 
 constexpr double glyphUnits = 1000;  // of a PDF's widths, in an em
-constexpr qsizetype hheaMetrics = 34;
-constexpr qsizetype hheaBytes = 36;
 
 QByteArray hexOf(quint32 glyph) {
     return QByteArray::number(glyph, 16).rightJustified(4, '0');
@@ -27,35 +26,11 @@ QByteArray hexOf(const QString& text) {
 
 }  // namespace
 
-PdfFont::PdfFont(const QRawFont& face, int number, int object)
-    : face_(face),
-      number_(number),
-      object_(object),
-      unitsPerEm_(face.unitsPerEm()),
-      metrics_(face.fontTable("hmtx")) {
-    const QByteArray header = face.fontTable("hhea");
-    if (header.size() < hheaBytes || unitsPerEm_ <= 0) {
-        return;
+void PdfFont::use(quint32 glyph, QStringView text) {
+    if (const auto place = used_.lower_bound(glyph);
+        place == used_.end() || place->first != glyph) {
+        used_.emplace_hint(place, glyph, text.toString());
     }
-    measured_ = std::min<qsizetype>(qFromBigEndian<quint16>(header.constData() + hheaMetrics),
-                                    metrics_.size() / 4);
-    if (measured_ > 0 && !face.fontTable("glyf").isEmpty()) {
-        outlines_ = Outlines::TrueType;
-    } else if (measured_ > 0 && !face.fontTable("CFF ").isEmpty()) {
-        outlines_ = Outlines::PostScript;
-    }
-}
-
-double PdfFont::advance(quint32 glyph) const {
-    if (measured_ == 0) {
-        return 0;
-    }
-    const qsizetype place = std::min<qsizetype>(glyph, measured_ - 1);
-    return qFromBigEndian<quint16>(metrics_.constData() + place * 4) / unitsPerEm_;
-}
-
-void PdfFont::use(quint32 glyph, const QString& text) {
-    used_.try_emplace(glyph, text);
 }
 
 QByteArray PdfFont::widths() const {
@@ -93,42 +68,42 @@ QByteArray PdfFont::meanings() const {
 
 int PdfFont::writeProgram(PdfFile& file) const {
     const int program = file.reserve();
-    if (outlines_ == Outlines::PostScript) {
-        file.writeStream(program, "/Subtype/CIDFontType0C", face_.fontTable("CFF "));
+    if (face_->outlines == PdfFace::Outlines::PostScript) {
+        file.writeStream(program, "/Subtype/CIDFontType0C", face_->postScript);
         return program;
     }
     std::set<quint32> glyphs;
     for (const auto& [glyph, meaning] : used_) {
         glyphs.insert(glyph);
     }
-    const QByteArray subset = trueTypeSubset(face_, glyphs);
+    const QByteArray subset = trueTypeSubset(*face_, glyphs);
     file.writeStream(program, "/Length1 " + QByteArray::number(subset.size()), subset);
     return program;
 }
 
 QByteArray PdfFont::description(int program, const QByteArray& name) const {
-    const double scale = glyphUnits / face_.pixelSize();
     QByteArray text = "<</Type/FontDescriptor/FontName" + name + "/Flags 4/ItalicAngle 0/Ascent ";
-    appendNumber(text, face_.ascent() * scale);
+    appendNumber(text, face_->ascent * glyphUnits);
     text += "/Descent ";
-    appendNumber(text, -face_.descent() * scale);
+    appendNumber(text, -face_->descent * glyphUnits);
     text += "/CapHeight ";
-    appendNumber(text, face_.capHeight() * scale);
-    const QByteArray head = face_.fontTable("head");
+    appendNumber(text, face_->capHeight * glyphUnits);
+    const QByteArray& head = face_->head;
     text += "/FontBBox[";
     for (qsizetype at = 36; at < 44; at += 2) {
         const auto edge =
             head.size() < 44 ? qint16{0} : qFromBigEndian<qint16>(head.constData() + at);
-        appendNumber(text, edge * glyphUnits / unitsPerEm_);
+        appendNumber(text, edge * glyphUnits / face_->unitsPerEm);
         text += ' ';
     }
-    return text + "]/StemV 80" + (outlines_ == Outlines::TrueType ? "/FontFile2 " : "/FontFile3 ") +
+    return text + "]/StemV 80" +
+           (face_->outlines == PdfFace::Outlines::TrueType ? "/FontFile2 " : "/FontFile3 ") +
            pdfReference(program) + ">>";
 }
 
 void PdfFont::write(PdfFile& file) const {
     QByteArray plainName;
-    for (const QChar c : face_.familyName() + face_.styleName()) {
+    for (const QChar c : face_->name) {
         if (c.unicode() < 0x80 && c.isLetterOrNumber()) {
             plainName += c.toLatin1();
         }
@@ -141,7 +116,7 @@ void PdfFont::write(PdfFile& file) const {
     const int descendant = file.reserve();
     const int meanings = file.reserve();
     file.write(description, this->description(program, name));
-    const bool trueType = outlines_ == Outlines::TrueType;
+    const bool trueType = face_->outlines == PdfFace::Outlines::TrueType;
     file.write(descendant, QByteArray("<</Type/Font/Subtype") +
                                (trueType ? "/CIDFontType2/CIDToGIDMap/Identity" : "/CIDFontType0") +
                                "/BaseFont" + name +
@@ -154,4 +129,4 @@ void PdfFont::write(PdfFile& file) const {
                             pdfReference(meanings) + ">>");
 }
 
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::pdf

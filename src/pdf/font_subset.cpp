@@ -1,11 +1,11 @@
-#include "dotmatrix/font_subset.h"
+#include "pdf/font_subset.h"
 
 #include <QtEndian>
 #include <algorithm>
 #include <map>
 #include <optional>
 
-namespace tarn::dotmatrix {
+namespace tarn::pdf {
 
 namespace {
 
@@ -126,10 +126,8 @@ QByteArray withoutInstructions(const Table& outline) {
 
 class Outlines {
 public:
-    Outlines(const QRawFont& face, bool longOffsets)
-        : places_(face.fontTable("loca")),
-          outlines_(face.fontTable("glyf")),
-          longOffsets_(longOffsets) {}
+    Outlines(const PdfFace& face, bool longOffsets)
+        : places_(face.offsets), outlines_(face.contours), longOffsets_(longOffsets) {}
 
     Table of(quint32 glyph) const {
         const Offset from = place(glyph);
@@ -210,14 +208,14 @@ QByteArray fileOf(std::map<QByteArray, QByteArray> tables) {
 
 }  // namespace
 
-QByteArray trueTypeSubset(const QRawFont& face, const std::set<quint32>& glyphs) {
-    const Table head(face.fontTable("head"));
-    const Table maxp(face.fontTable("maxp"));
-    const Table hhea(face.fontTable("hhea"));
-    const Table hmtx(face.fontTable("hmtx"));
+QByteArray trueTypeSubset(const PdfFace& face, const std::set<quint32>& glyphs) {
+    const Table head(face.head);
+    const Table maxp(face.maxp);
+    const Table hhea(face.hhea);
+    const Table hmtx(face.hmtx);
     const Outlines outlines(face, head.u16(headFormat) != 0);
     if (!head.holds(0, headBytes) || !maxp.holds(0, maxpBytes) || !hhea.holds(0, hheaBytes) ||
-        face.fontTable("glyf").isEmpty()) {
+        face.contours.isEmpty()) {
         return {};
     }
     const std::set<quint32> kept = withParts(outlines, glyphs);
@@ -251,4 +249,4 @@ QByteArray trueTypeSubset(const QRawFont& face, const std::set<quint32>& glyphs)
                    {"glyf", drawn}});
 }
 
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::pdf

@@ -3,46 +3,39 @@
 #pragma once
 
 #include <QByteArray>
-#include <QRawFont>
 #include <QString>
 #include <map>
-#include <set>
+#include <utility>
 
-#include "dotmatrix/pdf_file.h"
+#include "pdf/pdf_face.h"
+#include "pdf/pdf_file.h"
 
-namespace tarn::dotmatrix {
+namespace tarn::pdf {
 
 class PdfFont {
 public:
     // `number` tells it from the other faces of the document, from 0.
-    PdfFont(const QRawFont& face, int number, int object);
+    PdfFont(SharedPdfFace face, int number, int object)
+        : face_(std::move(face)), number_(number), object_(object) {}
 
-    const QRawFont& face() const { return face_; }
     int object() const { return object_; }
     // Fonts of pictures have no outlines that can be embedded.
-    bool canBeEmbedded() const { return outlines_ != Outlines::None; }
-    // How far the next glyph stands, of a size of 1.
-    double advance(quint32 glyph) const;
+    bool canBeEmbedded() const { return face_->outlines != PdfFace::Outlines::None; }
+    double advance(quint32 glyph) const { return face_->advance(glyph); }
     // Tells that the glyph is drawn, and stands for this.
-    void use(quint32 glyph, const QString& text);
+    void use(quint32 glyph, QStringView text);
     void write(PdfFile& file) const;
 
 private:
-    enum class Outlines { TrueType, PostScript, None };
-
     QByteArray widths() const;
     QByteArray meanings() const;
     QByteArray description(int program, const QByteArray& name) const;
     int writeProgram(PdfFile& file) const;
 
-    QRawFont face_;
+    SharedPdfFace face_;
     int number_;
     int object_;
-    Outlines outlines_ = Outlines::None;
-    double unitsPerEm_ = 0;
-    QByteArray metrics_;  // advance and left edge of each glyph, as the face keeps them
-    qsizetype measured_ = 0;
     std::map<quint32, QString> used_;
 };
 
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::pdf

@@ -2,14 +2,15 @@
 #pragma once
 
 #include <QByteArray>
-#include <QRawFont>
 #include <set>
 
-namespace tarn::dotmatrix {
+#include "pdf/pdf_face.h"
+
+namespace tarn::pdf {
 
 // A TrueType file of these glyphs, under the numbers they have in the face, without
 // instructions for small sizes. Empty where the face has no such outlines, or its tables
 // don't hold what they should.
-QByteArray trueTypeSubset(const QRawFont& face, const std::set<quint32>& glyphs);
+QByteArray trueTypeSubset(const PdfFace& face, const std::set<quint32>& glyphs);
 
-}  // namespace tarn::dotmatrix
+}  // namespace tarn::pdf
