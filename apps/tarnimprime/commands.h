@@ -38,6 +38,7 @@ void declareSlips(cli::CommandLine& line, Choice& choice);
 void declareLabels(cli::CommandLine& line, Choice& choice);
 void declareLabelSelection(cli::CommandLine& line, Choice& choice);
 void declareCheque(cli::CommandLine& line, Choice& choice);
+void declareRuler(cli::CommandLine& line, Choice& choice);
 void declareRules(cli::CommandLine& line, Choice& choice);
 
 // A saved answer; cli::WrongUsage when the file can't be read or isn't an answer.

@@ -39,6 +39,7 @@ void declare(cli::CommandLine& line, GlobalOptions& options, Choice& choice) {
     declareLabels(line, choice);
     declareLabelSelection(line, choice);
     declareCheque(line, choice);
+    declareRuler(line, choice);
     declareRules(line, choice);
 }
 

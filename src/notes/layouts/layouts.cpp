@@ -35,4 +35,16 @@ std::span<const Layout* const> allLayouts() {
     return layouts;
 }
 
+const Form* formCalled(std::string_view name) {
+    for (const Layout* layout : allLayouts()) {
+        if (layout->form != nullptr && layout->formName(layout->establishment) == name) {
+            return layout->form;
+        }
+        if (layout->name == name) {
+            return layout->other != nullptr ? layout->other : layout->form;
+        }
+    }
+    return nullptr;
+}
+
 }  // namespace tarn::notes

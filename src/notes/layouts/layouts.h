@@ -2,6 +2,7 @@
 #pragma once
 
 #include <span>
+#include <string_view>
 
 #include "notes/layout.h"
 
@@ -32,5 +33,8 @@ extern const Layout imprimeNF_Padrao;
 
 // In the order of the ladder.
 std::span<const Layout* const> allLayouts();
+
+// By the form's name, as Layout::formName has it; null where no note is printed on such a one.
+const Form* formCalled(std::string_view name);
 
 }  // namespace tarn::notes

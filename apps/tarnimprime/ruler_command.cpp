@@ -1,0 +1,51 @@
+#include <memory>
+#include <optional>
+
+#include "apps/tarnimprime/commands.h"
+#include "apps/tarnimprime/print_environment.h"
+#include "common/raw_channel.h"
+#include "notes/form_ruler.h"
+#include "notes/layouts/layouts.h"
+#include "platform/environment.h"
+
+namespace tarn::print {
+namespace {
+
+constexpr std::int32_t mostItems = 100;  // as many as the virtual printer draws
+
+struct Request {
+    std::string form;
+    std::optional<std::int32_t> itemLines;
+};
+
+void print(const Request& request, PrintEnvironment& desk) {
+    const notes::Form* form = notes::formCalled(request.form);
+    if (form == nullptr) {
+        throw cli::WrongUsage("não há formulário de nota \"" + request.form +
+                              "\". Veja os nomes com tarnimpressora --formularios.");
+    }
+    const int lines = request.itemLines.value_or(notes::itemLinesOfSheet(*form));
+    Environment& environment = desk.environment();
+    RawChannel channel(environment.spooler, environment.codePage);
+    channel.announce({.document = JobDocument::Note, .form = request.form, .itemLines = lines});
+    notes::printFormRuler(*form, lines, channel);
+}
+
+}  // namespace
+
+void declareRuler(cli::CommandLine& line, Choice& choice) {
+    cli::Command command = line.command(
+        "regua", "imprime uma régua e os cantos das caixas no papel de um formulário de nota");
+    const auto request = std::make_shared<Request>();
+    command
+        .text("--formulario", request->form,
+              "nome do formulário, como em tarnimpressora --formularios")
+        .required();
+    command.whole("--itens", request->itemLines, 0, mostItems,
+                  "linhas de item do formulário (usual: as que enchem 11 polegadas)");
+    command.whenChosen([&choice, request] {
+        choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
+    });
+}
+
+}  // namespace tarn::print
