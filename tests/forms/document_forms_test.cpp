@@ -5,13 +5,17 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <stdexcept>
 #include <string>
 
 #include "billing/order_sheet.h"
 #include "cheques/imprime_cheque.h"
+#include "dotmatrix/paper_roll.h"
 #include "forms/form_catalogue.h"
 #include "labels/raw_form.h"
+#include "slips/slip_layouts.h"
+#include "tests/dotmatrix/note_streams.h"
 #include "tests/dotmatrix/printer_rig.h"
 #include "tests/labels/label_answers.h"
 #include "tests/support/test_environment.h"
@@ -182,6 +186,161 @@ TEST(DrawnLabels, FourAcrossElevenRowsASheet) {
     }
     EXPECT_EQ(astray(form, rig), "");
     EXPECT_EQ(rig.paper.y(), form.height);
+}
+
+// Everything that a practice day prints, each document as the desk prints it.
+class PracticeDay : public testing::Test {
+protected:
+    static FormFacts company1361() { return formNamed("1361"); }
+
+    void note() {
+        for (const std::string& bytes : streamsOf(company1361(), {}, 13)) {
+            lay({.document = JobDocument::Note, .form = "ImprimeNF_1361", .itemLines = 13}, bytes);
+        }
+    }
+    void slip(bool wallet57) {
+        const std::string form = slipFormName(1016, wallet57);
+        const JobKind kind{.document = JobDocument::Slip, .form = form, .itemLines = {}};
+        lay(kind, " \x0F\x1BM");
+        lay(kind, contentOf(std::string(TARN_SLIP_DATA) +
+                            (wallet57 ? "/slip_57_jose.prn" : "/slip_7_jose.prn")));
+    }
+    void cheque(std::int16_t bank) {
+        TestEnvironment seams;
+        ImprimeCheque(seams.environment, {.nNr_Ofi_Ban = bank,
+                                          .sValor = "1.234,56",
+                                          .sFavorecido = "PAPELARIA",
+                                          .sDataDeposito = "15/02/2012",
+                                          .sNmMun = "SAO PAULO"});
+        layAll(seams);
+    }
+    void order() {
+        TestEnvironment seams;
+        XmlDocument document;
+        ASSERT_TRUE(document.loadXML(
+            "<?xml version='1.0'?><PRINCIPAL cod='0' status='OK'><CAB RAZAO='PAPELARIA' "
+            "DT_EMS_NF='12/03/2012' VENDEDOR='MARIA' NR_CTRL_INT='77-A'/>"
+            "<ITEM CD_PRO='1' DESCRICAO='CADERNO' QTDE='2' UNITARIO='3' VL_DSC='0' VL_IPI='0' "
+            "VL_ICMS_RTD='0' VL_DSC_ICMS='0' VL_FRT='0' VL_DSP_ACS='0' VL_SEG='0'/></PRINCIPAL>"));
+        ImprimeOrdemFaturamentoPreco(seams.environment, document);
+        layAll(seams);
+    }
+    void labelSheet() {
+        TestEnvironment seams;
+        XmlDocument answer = document(labelRows(5));
+        labels::Labels queue(answer);
+        labels::printDotMatrix(seams.environment, queue, {});
+        layAll(seams);
+    }
+    // Name of each form, and the first place printed on it: line, and units to the right.
+    std::string papers() {
+        std::string all;
+        for (std::size_t form = 0; form < roll_.printedForms(); ++form) {
+            const auto page = roll_.page(form);
+            const FormDesign* design = page->design.get();
+            if (design == nullptr || page->lines.empty()) {
+                all += "(none) ";
+                continue;
+            }
+            EXPECT_EQ(page->shape.height, design->height) << design->name;
+            const PaperLine& first = page->lines.front();
+            all += design->name + "@" +
+                   std::to_string((first.y - page->shape.top) / sixthOfAnInch + 1) + "/" +
+                   std::to_string(first.cells.front().x) + " ";
+        }
+        return all;
+    }
+    // A document's first blank is as wide as the printer is set when it comes: plain on a
+    // printer just switched on, condensed behind a document of the same kind.
+    static constexpr PaperUnits firstBlank = 216 - 126;
+    static FormBox widened(FormBox box) {
+        box.x -= firstBlank;
+        box.width += firstBlank;
+        return box;
+    }
+
+    // Places printed outside every box of their own form, the sheet's rules left out.
+    std::string astrayPlaces() {
+        std::string found;
+        for (std::size_t form = 0; form < roll_.printedForms(); ++form) {
+            const auto page = roll_.page(form);
+            if (page->design->everyDocumentAtTop || page->design->name == "Etiquetas") {
+                continue;
+            }
+            for (PaperLine line : page->lines) {
+                line.y -= page->shape.top;
+                for (const Cell& cell : line.cells) {
+                    if (std::ranges::none_of(page->design->boxes, [&](const FormBox& box) {
+                            return holds(widened(box), line, cell);
+                        })) {
+                        found += page->design->name + " " +
+                                 std::to_string(line.y / sixthOfAnInch + 1) + "/" +
+                                 std::to_string(cell.x) + "; ";
+                    }
+                }
+            }
+        }
+        return found;
+    }
+
+    PaperRoll roll_{Dialect{}};
+
+private:
+    void lay(const JobKind& kind, const std::string& bytes) {
+        roll_.startJob("job", {.form = shelf_.formOf(kind), .told = true});
+        ASSERT_FALSE(roll_.feed(bytes));
+    }
+    void layAll(const TestEnvironment& seams) {
+        for (const RecordingSpooler::Job& job : seams.spooler.jobs) {
+            lay(job.description.kind, job.bytes());
+        }
+    }
+
+    FormShelf shelf_;
+};
+
+TEST_F(PracticeDay, EachPaperLiesOnItsOwnFormWhateverTheOrder) {
+    order();
+    note();
+    slip(true);
+    cheque(341);
+    labelSheet();
+    note();
+    note();
+    cheque(33);
+    slip(false);
+    order();
+    order();
+    slip(true);
+    slip(true);
+    note();
+    labelSheet();
+    cheque(341);
+    cheque(341);
+    const std::string all = " " + papers();
+    std::string names;
+    for (std::size_t at = 1; at < all.size(); at = all.find(' ', at) + 1) {
+        names += all.substr(at, all.find('@', at) - at) + " ";
+    }
+    EXPECT_EQ(names,
+              "OrdemFaturamento_1361 ImprimeNF_1361 Boleto_1016_57 Cheque Etiquetas "
+              "ImprimeNF_1361 ImprimeNF_1361 Cheque_33 Boleto_1016 OrdemFaturamento_1361 "
+              "OrdemFaturamento_1361 Boleto_1016_57 Boleto_1016_57 ImprimeNF_1361 Etiquetas "
+              "Cheque Cheque ");
+    // Wherever it comes in the day, a paper begins at the same place of its form.
+    std::map<std::string, PaperUnits> place;
+    for (std::size_t at = 1; at < all.size(); at = all.find(' ', at) + 1) {
+        const std::string entry = all.substr(at, all.find(' ', at) - at);
+        const std::size_t slash = entry.find('/');
+        const PaperUnits x = std::stol(entry.substr(slash + 1));
+        const auto known = place.try_emplace(entry.substr(0, entry.find('@')), x).first;
+        EXPECT_TRUE(x == known->second || x == known->second - firstBlank) << entry;
+        const bool oneLineDown = entry.starts_with("Boleto") || entry.starts_with("Ordem") ||
+                                 entry.starts_with("Cheque_33");
+        EXPECT_EQ(entry.substr(entry.find('@'), slash - entry.find('@')), oneLineDown ? "@2" : "@1")
+            << entry;
+    }
+    EXPECT_EQ(astrayPlaces(), "");
 }
 
 TEST(Catalogue, KnowsEveryFormByDocumentAndCompanies) {
