@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/job_kind.h"
+
 namespace tarn::hold {
 
 enum class State : std::uint8_t {
@@ -22,6 +24,7 @@ struct Job {
     std::int64_t arrived = 0;  // milliseconds since 1970, UTC
     std::uintmax_t size = 0;   // bytes
     std::string queue{};       // that it was last handed to
+    JobKind kind{};            // what it prints, as its sender told it
     int queueJob = 0;          // its number there, 0 while it has none
 };
 

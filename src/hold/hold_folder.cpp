@@ -123,6 +123,7 @@ Job HoldFolder::read(int number, State state) const {
     std::error_code failed;
     const std::uintmax_t size = fs::file_size(bytesOf(job), failed);
     job.size = failed ? 0 : size;
+    job.kind = jobKindBeside(bytesOf(job));
     std::ifstream about(folderOf(job) / "about");
     readAbout(about, job);
     std::ifstream queue(folderOf(job) / "queue-job");
@@ -162,6 +163,8 @@ std::optional<Job> HoldFolder::keep(const Job& as) {
     const fs::path incoming = folder_ / incomingName;
     incoming_.close();
     const bool kept = incoming_.good() && syncFile(incoming / "job.prn") &&
+                      (!job.kind.told() ||
+                       writeDurably(jobKindFile(incoming / "job.prn"), writeJobKind(job.kind))) &&
                       writeDurably(incoming / "about", aboutOf(job)) &&
                       renameDurably(incoming, folderOf(job));
     incoming_.clear();

@@ -115,6 +115,7 @@ void FolderWatch::takePiece(const QString& name) {
     if (open_ != name) {
         if (intake_.keeper() != nullptr && intake_.keeper()->knows(sourceOf(name))) {
             QFile::remove(file.filePath());  // kept just before the program ended
+            QFile::remove(kindFileOf(file.filePath()));
             return;
         }
         if (file.size() == 0 ||

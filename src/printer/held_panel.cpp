@@ -133,11 +133,12 @@ QPushButton* HeldPanel::add(const char* name, const QString& text, const QString
     return button;
 }
 
-// A job that only sets the printer up goes with the one behind it, and isn't shown.
+// A job that only sets the printer up goes with the one behind it, and is shown only where
+// there is something to be said of it.
 std::vector<const HeldEntry*> HeldPanel::shown() const {
     std::vector<const HeldEntry*> entries;
     for (const HeldEntry& entry : desk_.entries()) {
-        if (!entries.empty() && entries.back()->setsUp) {
+        if (!entries.empty() && entries.back()->setsUp && entries.back()->job.remark.empty()) {
             entries.pop_back();
         }
         entries.push_back(&entry);

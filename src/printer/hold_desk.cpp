@@ -61,7 +61,8 @@ void HoldDesk::showHeld(JobIntake& intake) {
             continue;
         }
         const auto bytes = bytesOf(entry.job.number);
-        if (bytes && intake.begin(QString::fromStdString(entry.job.name))) {
+        if (bytes && intake.begin(QString::fromStdString(entry.job.name), JobIntake::Kind::LookedAt,
+                                  entry.job.kind)) {
             emit kept(entry.job.number);
             if (intake.take(*bytes)) {
                 intake.end();
@@ -211,7 +212,8 @@ bool HoldDesk::keep(const Arrival& arrival) {
                                     .name = arrival.name.toStdString(),
                                     .source = arrival.source.toStdString(),
                                     .remark = arrival.remark.toStdString(),
-                                    .arrived = now()});
+                                    .arrived = now(),
+                                    .kind = arrival.kind});
     if (!job) {
         return false;
     }

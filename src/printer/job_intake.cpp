@@ -21,6 +21,7 @@ bool JobIntake::begin(const QString& name, Kind kind, const JobKind& told) {
     }
     busy_ = true;
     name_ = name;
+    kind_ = told;
     taken_ = 0;
     keeping_ = keeper_ != nullptr && kind == Kind::Printed;
     lost_ = keeping_ && !keeper_->begin();
@@ -70,7 +71,7 @@ bool JobIntake::give(const QString& remark, const QString& source) {
         keeper_->drop();
         return true;
     }
-    return !lost_ && keeper_->keep({name_, source, remark});
+    return !lost_ && keeper_->keep({name_, source, remark, kind_});
 }
 
 void JobIntake::finish(const QString& remark) {

@@ -59,6 +59,7 @@ private:
     bool keeping_ = false;  // the job under way
     bool lost_ = false;     // it could not be kept
     QString name_;
+    JobKind kind_;  // of the job under way
     qint64 taken_ = 0;
     std::size_t ended_ = 0;
 };

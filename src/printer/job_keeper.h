@@ -4,12 +4,15 @@
 #include <QString>
 #include <string_view>
 
+#include "platform/job_kind.h"
+
 namespace tarn::dotmatrix {
 
 struct Arrival {
     QString name;
     QString source;  // the file it was read from, as it was then; empty for none
     QString remark;  // why it isn't whole; empty when it is
+    JobKind kind{};  // as its sender told it
 };
 
 class JobKeeper {

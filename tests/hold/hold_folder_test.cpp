@@ -18,10 +18,12 @@ TEST_F(HoldFolderTest, KeepsEveryByteAndWhatIsKnownOfAJob) {
     ASSERT_TRUE(folder_->begin());
     ASSERT_TRUE(folder_->add(bytes));
     ASSERT_TRUE(folder_->add("fim"));
-    ASSERT_TRUE(folder_->keep({.name = "rede, às 10:32",
-                               .source = "3 17 /tmp/job 1.prn",
-                               .remark = "linha um\nlinha dois",
-                               .arrived = 1'753'000'000'123}));
+    ASSERT_TRUE(folder_->keep(
+        {.name = "rede, às 10:32",
+         .source = "3 17 /tmp/job 1.prn",
+         .remark = "linha um\nlinha dois",
+         .arrived = 1'753'000'000'123,
+         .kind = {.document = JobDocument::Note, .form = "ImprimeNF_1361", .itemLines = 12}}));
     folder_ = reopened();
     const std::vector<hold::Job> jobs = folder_->jobs();
     ASSERT_EQ(jobs.size(), 1U);
@@ -32,6 +34,8 @@ TEST_F(HoldFolderTest, KeepsEveryByteAndWhatIsKnownOfAJob) {
     EXPECT_EQ(jobs[0].remark, "linha um linha dois");
     EXPECT_EQ(jobs[0].arrived, 1'753'000'000'123);
     EXPECT_EQ(jobs[0].size, 259U);
+    EXPECT_EQ(jobs[0].kind.form, "ImprimeNF_1361");
+    EXPECT_EQ(jobs[0].kind.itemLines, 12);
     EXPECT_EQ(jobs[0].queueJob, 0);
     EXPECT_EQ(bytesIn(folder_->bytesOf(jobs[0])), bytes + "fim");
 }

@@ -38,6 +38,18 @@ TEST_F(FolderKept, AFileThatHasStoppedGrowingIsKeptAndGoes) {
     EXPECT_FALSE(QFile::exists(file("job-002.prn")));
 }
 
+// What the desk told beside it goes with it, and is known after a restart.
+TEST_F(FolderKept, WhatIsToldBesideAJobIsKeptWithIt) {
+    put("job-001.kind", "documento nota\nformulario ImprimeNF_1361\n");
+    put("job-001.prn", "um\r\n");
+    FolderWatch watch(intake_, folder_.path());
+    watch.setSettling(milliseconds(0));
+    ASSERT_TRUE(waitForJobs(1));
+    EXPECT_FALSE(QFile::exists(file("job-001.kind")));
+    restart();
+    EXPECT_EQ(desk_->entry(1)->job.kind.form, "ImprimeNF_1361");
+}
+
 // The same name again, after the desk found the folder empty.
 TEST_F(FolderKept, ANewFileOfAnOldNameIsANewJob) {
     FolderWatch watch(intake_, folder_.path());
