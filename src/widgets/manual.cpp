@@ -39,7 +39,7 @@ QString pageOfScreen(const QWidget& widget) {
 
 QString manualPage(const QWidget* widget) {
     for (; widget != nullptr; widget = widget->parentWidget()) {
-        if (const QString page = pageOfScreen(*widget); !page.isEmpty()) {
+        if (QString page = pageOfScreen(*widget); !page.isEmpty()) {
             return page;
         }
     }
