@@ -120,6 +120,7 @@ TEST_F(CarregaXMLTest, KeepsACopyAndAFailedLoadDeletesIt) {
     EXPECT_TRUE(load("copia", 1));
     std::ifstream input("copia.XML");
     const std::string recorded(std::istreambuf_iterator<char>(input), {});
+    input.close();  // Windows deletes no file that is open
     EXPECT_NE(recorded.find("<R a=\"1\"/>"), std::string::npos);
     EXPECT_FALSE(load("copia", 1));
     EXPECT_FALSE(fs::exists("copia.XML"));

@@ -136,11 +136,11 @@ TEST_F(DirectorySpoolerTest, WhatAJobPrintsIsToldBesideIt) {
 // A number of which a kind is there is some other program's, also before its job is.
 TEST_F(DirectorySpoolerTest, AKindKeepsItsNumberForItsJob) {
     fs::create_directories(directory_);
-    std::ofstream(directory_ / "job-004.kind") << "documento cheque\n";
+    std::ofstream(directory_ / "job-004.kind", std::ios::binary) << "documento cheque\n";
     JobFiles files(directory_);
     const JobCompanion companion{.extension = "kind", .text = writeJobKind(noteKind())};
     EXPECT_EQ(files.create("prn", companion), directory_ / "job-005.prn");
-    std::ofstream(directory_ / "job-006.kind") << "documento cheque\n";
+    std::ofstream(directory_ / "job-006.kind", std::ios::binary) << "documento cheque\n";
     EXPECT_EQ(files.create("prn", companion), directory_ / "job-007.prn");
     std::ofstream(directory_ / "job-008.prn") << "another's";
     EXPECT_EQ(files.create("prn", companion), directory_ / "job-009.prn");

@@ -13,6 +13,7 @@
 
 #include "notes/print_note.h"
 #include "runtime/file_names.h"
+#include "runtime/wide_text.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -20,9 +21,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string environmentText(const char* name) {
-    const char* value = std::getenv(name);
-    return value == nullptr ? "" : value;
+std::string environmentText(const wchar_t* name) {
+    const wchar_t* value = _wgetenv(name);
+    return value == nullptr ? "" : utf8Of(value);
 }
 
 std::string bytesIn(const fs::path& file) {
@@ -60,12 +61,12 @@ protected:
         return spooler.closePrinter() && ended;
     }
 
-    fs::path paper_ = pathOf(environmentText("TARN_TEST_PAPER"));
+    fs::path paper_ = pathOf(environmentText(L"TARN_TEST_PAPER"));
 };
 
 TEST_F(WinspoolTest, TheDefaultPrinterHasItsWholeName) {
     WinspoolSpooler spooler;
-    EXPECT_EQ(spooler.defaultPrinter(), environmentText("TARN_TEST_PRINTER"));
+    EXPECT_EQ(spooler.defaultPrinter(), environmentText(L"TARN_TEST_PRINTER"));
     EXPECT_TRUE(spooler.answers());
 }
 
