@@ -25,7 +25,7 @@ JobKind kindOfJob(const QString& file) {
 }
 
 QString kindFileOf(const QString& job) {
-    return QFile::decodeName(jobKindFile(pathOf(job)).c_str());
+    return QFile::decodeName(jobKindFile(pathOf(job)).string().c_str());
 }
 
 QStringList jobsIn(const QDir& folder) {
