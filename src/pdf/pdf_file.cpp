@@ -21,6 +21,10 @@ QByteArray deflated(const QByteArray& bytes) {
     return qCompress(bytes).mid(lengthBytes);
 }
 
+QByteArray pdfName(char kind, int number) {
+    return QByteArray("/") + kind + QByteArray::number(number);
+}
+
 QByteArray pdfReference(int object) {
     return QByteArray::number(object) + " 0 R";
 }

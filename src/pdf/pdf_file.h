@@ -40,6 +40,8 @@ private:
 // Smaller, for a stream whose filter is /FlateDecode.
 QByteArray deflated(const QByteArray& bytes);
 QByteArray pdfReference(int object);
+// "/F7", as pages call what their resources list.
+QByteArray pdfName(char kind, int number);
 // As short as it can be with a ten-thousandth of a point, and without an exponent.
 void appendNumber(QByteArray& to, double value);
 // A text in quotation, any script.
