@@ -21,6 +21,7 @@
 #include "tests/support/practice_database.h"
 #include "tests/support/recording_printer.h"
 #include "tests/support/recording_spooler.h"
+#include "tests/support/shipped_manual.h"
 #include "tests/support/user.h"
 #include "tests/support/x11_user.h"
 
@@ -112,6 +113,7 @@ public:
         return times;
     }
 
+    ShippedManual noManual{QStringList()};  // a browser would come in front of the desk
     QTemporaryDir folder;
     PracticePage page{newDatabase(folder)};
     RecordingSpooler spooler;

@@ -286,6 +286,7 @@ const std::vector<ButtonCase> buttons{
     {"LabelSelection", ways::labelSelection, "cmdImprimir", nullptr},
     {"LabelSelection", ways::labelSelection, "cmdVoltar", nullptr},
     {"Help", ways::help, "cmdVoltar", nullptr, esc},
+    {"Help", ways::help, "cmdManual", nullptr, esc},
 };
 
 // The table lacks no button of the screen but cmdLimpar, which empties a field.
