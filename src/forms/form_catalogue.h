@@ -28,7 +28,7 @@ std::string formTitle(std::string_view name);
 
 // Nothing for a name that isn't in the catalogue. `itemLines` as for layoutForm.
 std::optional<FormDesign> formDrawing(std::string_view name,
-                                    std::optional<int> itemLines = std::nullopt);
+                                      std::optional<int> itemLines = std::nullopt);
 
 // The forms that jobs have told of, each drawn once: the same form is the same object.
 class FormShelf {

@@ -42,7 +42,7 @@ public:
     std::size_t failWrite = never;  // index of the write that fails, from 0, over all jobs
     bool numbersJobs = true;
     std::function<JobFate(int)> fate;  // of a document by its number; unset: as recorded
-    bool silent = false;            // answers nothing, like a service that hangs
+    bool silent = false;               // answers nothing, like a service that hangs
     // Further failures, if set: the call and its index among those of its kind, from 0.
     std::function<bool(Call, std::size_t)> refuses;
 
