@@ -21,8 +21,8 @@ public:
     QStringList opened() const { return opened_; }
     QString page(const QString& name) const { return folder_.filePath(name); }
 
-public slots:
-    void open(const QUrl& address) { opened_ += address.toLocalFile(); }
+    // The toolkit calls it by its name.
+    Q_INVOKABLE void open(const QUrl& address) { opened_ += address.toLocalFile(); }
 
 private:
     QTemporaryDir folder_;
