@@ -41,6 +41,7 @@ if(TARN_BUILD_TOOLS)
   list(APPEND CPACK_COMPONENTS_ALL tools)
   set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME tarnemissao-ferramentas)
   set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${with_windows}")
+  set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS "poppler-utils")
   set(CPACK_COMPONENT_TOOLS_DESCRIPTION "impressora matricial virtual e impressão de respostas gravadas
 Para o suporte e para quem desenha formulários: tarnimpressora mostra no
 papel o que uma impressora matricial imprimiria; tarnimprime imprime um

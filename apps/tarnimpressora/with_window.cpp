@@ -51,6 +51,9 @@ int runWithWindow(int argc, char** argv, const Options& options,
     if (!wrong.isEmpty()) {
         complain(wrong);
     }
+    if (!options.folder.empty()) {
+        window.watchSheets(QString::fromStdString(options.folder));
+    }
     window.setWaitingText(wrong.isEmpty() ? reception.places() : wrong);
     window.show();
     return QApplication::exec();

@@ -7,6 +7,7 @@
 #include <filesystem>
 
 #include "platform/job_kind.h"
+#include "printer/job_order.h"
 
 namespace tarn::dotmatrix {
 
@@ -30,12 +31,7 @@ QString kindFileOf(const QString& job) {
 
 QStringList jobsIn(const QDir& folder) {
     QStringList names = QDir(folder.path()).entryList({QStringLiteral("*.prn")}, QDir::Files);
-    std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
-        // job-999 before job-1000
-        return a.size() != b.size() && a.startsWith(u"job-") && b.startsWith(u"job-")
-                   ? a.size() < b.size()
-                   : a < b;
-    });
+    std::sort(names.begin(), names.end(), comesBefore);
     return names;
 }
 

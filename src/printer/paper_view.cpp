@@ -174,6 +174,10 @@ void PaperView::setZoom(double zoom) {
     emit zoomed();
 }
 
+void PaperView::zoomStep(bool larger) {
+    setZoom(larger ? zoom_ * wheelStep : zoom_ / wheelStep);
+}
+
 void PaperView::fitWidth() {
     setZoom(viewport()->width() / (painter_.sheet().width * screenDots));
 }
@@ -286,7 +290,7 @@ void PaperView::wheelEvent(QWheelEvent* event) {
         QAbstractScrollArea::wheelEvent(event);
         return;
     }
-    setZoom(event->angleDelta().y() > 0 ? zoom_ * wheelStep : zoom_ / wheelStep);
+    zoomStep(event->angleDelta().y() > 0);
     event->accept();
 }
 

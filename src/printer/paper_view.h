@@ -32,6 +32,8 @@ public:
     // 1 is true size on a screen of 96 dots an inch.
     double zoom() const { return zoom_; }
     void setZoom(double zoom);
+    // As one notch of the wheel does.
+    void zoomStep(bool larger);
     void fitWidth();
 
     // The roll has changed. Until the user looks elsewhere the view follows the print:

@@ -4,6 +4,7 @@
 #include "printer/paper_files.h"
 #include "printer/paper_search_bar.h"
 #include "printer/paper_view.h"
+#include "printer/sheet_dock.h"
 #include "printer/window_commands.h"
 
 namespace tarn::dotmatrix {
@@ -15,13 +16,15 @@ constexpr double zoomStep = 1.25;
 }  // namespace
 
 PrinterMenus::PrinterMenus(QMainWindow& window, PaperView& view, PaperSearchBar& search,
-                           PaperFiles& files, HoldView& holding, const PaintOptions& looks)
+                           PaperFiles& files, HoldView& holding, SheetDock& sheets,
+                           const PaintOptions& looks)
     : QObject(&window),
       window_(window),
       commands_(window),
       view_(view),
       search_(search),
-      files_(files) {
+      files_(files),
+      sheets_(sheets) {
     makeFileMenu(commands_);
     makeEditMenu(commands_);
     makePaperMenu(commands_);
@@ -134,6 +137,11 @@ void PrinterMenus::makePaperMenu(WindowCommands& commands) {
                                          "impressora continua em um formulário novo"),
                   .inTools = true},
                  [this] { emit tearOffWanted(); });
+    commands.add({.name = "takeSheets",
+                  .text = QStringLiteral("&Recolher as folhas"),
+                  .hint = QStringLiteral("Tira da janela as folhas soltas; os arquivos ficam na "
+                                         "pasta")},
+                 [this] { sheets_.clear(); });
 }
 
 void PrinterMenus::makeViewMenu(WindowCommands& commands, const PaintOptions& looks) {
@@ -169,6 +177,11 @@ void PrinterMenus::makeViewMenu(WindowCommands& commands, const PaintOptions& lo
                        looks.ruler, [this](bool on) { emit rulerWanted(on); });
     commands.addSwitch({.name = "bands", .text = QStringLiteral("Papel &zebrado")}, looks.bands,
                        [this](bool on) { emit bandsWanted(on); });
+    commands.add({.name = "showSheets",
+                  .text = QStringLiteral("&Folhas soltas"),
+                  .keys = QKeySequence(Qt::Key_F7),
+                  .hint = QStringLiteral("Mostra ao lado do papel os documentos desenhados (PDF)")},
+                 [this] { sheets_.setVisible(!sheets_.isVisible()); });
     commands.add({.name = "showLog",
                   .text = QStringLiteral("Re&gistro"),
                   .keys = QKeySequence(Qt::Key_F8),

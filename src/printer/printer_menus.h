@@ -12,6 +12,7 @@ class HoldView;
 class PaperFiles;
 class PaperSearchBar;
 class PaperView;
+class SheetDock;
 
 class PrinterMenus : public QObject {
     Q_OBJECT
@@ -20,7 +21,7 @@ public:
     // All but `looks`, what is ticked at first, must outlive this. The help comes last, in a
     // call of its own.
     PrinterMenus(QMainWindow& window, PaperView& view, PaperSearchBar& search, PaperFiles& files,
-                 HoldView& holding, const PaintOptions& looks);
+                 HoldView& holding, SheetDock& sheets, const PaintOptions& looks);
 
     void addHelp();
 
@@ -48,6 +49,7 @@ private:
     PaperView& view_;
     PaperSearchBar& search_;
     PaperFiles& files_;
+    SheetDock& sheets_;
 };
 
 }  // namespace tarn::dotmatrix

@@ -20,6 +20,7 @@
 #include "printer/paper_name.h"
 #include "printer/paper_search_bar.h"
 #include "printer/printer_menus.h"
+#include "printer/sheet_dock.h"
 #include "runtime/version.h"
 
 namespace tarn::dotmatrix {
@@ -90,6 +91,9 @@ void PrinterWindow::makeParts(HoldDesk& desk) {
     connect(holding_, &HoldView::complained, this, &PrinterWindow::complain);
     connect(holding_, &HoldView::told, this, &PrinterWindow::log);
     connect(holding_, &HoldView::changed, this, &PrinterWindow::showCounts);
+    sheets_ = new SheetDock(roll_, *view_, *this);
+    connect(sheets_, &SheetDock::told, this, &PrinterWindow::log);
+    connect(sheets_, &SheetDock::changed, this, &PrinterWindow::showCounts);
     connect(files_, &PaperFiles::failed, this, &PrinterWindow::complain);
     connect(jobFiles_, &JobFiles::failed, this, &PrinterWindow::complain);
 }
@@ -108,7 +112,7 @@ void PrinterWindow::makeLog() {
 }
 
 void PrinterWindow::makeMenus() {
-    auto* menus = new PrinterMenus(*this, *view_, *search_, *files_, *holding_, options_);
+    auto* menus = new PrinterMenus(*this, *view_, *search_, *files_, *holding_, *sheets_, options_);
     connect(menus, &PrinterMenus::openWanted, this, &PrinterWindow::openJobs);
     connect(menus, &PrinterMenus::copyWanted, this, &PrinterWindow::copyText);
     connect(menus, &PrinterMenus::selectWanted, this, &PrinterWindow::selectForm);
@@ -168,6 +172,10 @@ void PrinterWindow::makeStatusBar() {
 
 void PrinterWindow::setWaitingText(const QString& text) {
     waitingText_->setText(text);
+}
+
+void PrinterWindow::watchSheets(const QString& folder) {
+    sheets_->watch(folder);
 }
 
 QWidget* PrinterWindow::errorBox() const {
@@ -361,9 +369,10 @@ void PrinterWindow::showPaper() {
 void PrinterWindow::showCounts() {
     const QString held = holding_->count();
     countText_->setText((held.isEmpty() ? QString() : held + QStringLiteral("  ·  ")) +
-                        QStringLiteral("%1 trabalho(s), %2 formulário(s)  ·  %3%")
+                        QStringLiteral("%1 trabalho(s), %2 formulário(s)%3  ·  %4%")
                             .arg(roll_.shownJobs())
                             .arg(roll_.printedForms())
+                            .arg(sheets_->count())
                             .arg(qRound(view_->zoom() * 100)));
 }
 

@@ -22,6 +22,7 @@ class JobFiles;
 class NewJobOffer;
 class PaperFiles;
 class PaperSearchBar;
+class SheetDock;
 
 class PrinterWindow : public QMainWindow {
     Q_OBJECT
@@ -36,6 +37,8 @@ public:
     void onHold(HoldView::StartHolding start) { holding_->onStart(std::move(start)); }
 
     void setQuestions(WindowQuestions questions) { questions_ = std::move(questions); }
+    // The drawn documents of this folder are shown beside the paper.
+    void watchSheets(const QString& folder);
     // Shown at the left of the status bar: where jobs are waited for.
     void setWaitingText(const QString& text);
     PaperView& view() { return *view_; }
@@ -84,6 +87,7 @@ private:
     PaperFiles* files_;
     JobFiles* jobFiles_;
     HoldView* holding_;
+    SheetDock* sheets_;
     NewJobOffer* offer_;
     FormMenu* forms_;
     QDockWidget* logDock_;

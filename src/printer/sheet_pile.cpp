@@ -1,0 +1,187 @@
+#include "printer/sheet_pile.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+#include <chrono>
+#include <set>
+
+#include "printer/job_order.h"
+
+namespace tarn::dotmatrix {
+
+namespace {
+
+constexpr std::chrono::milliseconds betweenLooks(250);
+constexpr int mostPages = 10'000;  // of one file
+constexpr double leastSide = 1;    // points
+constexpr double mostSide = 14'400;
+
+QSizeF sane(double width, double height) {
+    return {std::clamp(width, leastSide, mostSide), std::clamp(height, leastSide, mostSide)};
+}
+
+QString remarkOn(PdfProgram::End end, const SheetFile& file) {
+    if (end == PdfProgram::End::NotInstalled) {
+        return QStringLiteral(
+                   "Falta nesta máquina o programa que desenha as folhas: instale o pacote "
+                   "poppler-utils e abra esta janela de novo. A folha está em %1.")
+            .arg(file.path);
+    }
+    return QStringLiteral(
+        "Ainda não dá para ler esta folha: o arquivo está incompleto ou não é um PDF. Ela "
+        "aparece aqui quando o arquivo ficar inteiro.");
+}
+
+}  // namespace
+
+std::vector<QSizeF> pagesIn(const QByteArray& listing) {
+    static const QRegularExpression size(
+        QStringLiteral(R"(^Page +(\d+) size: +([0-9.]+) x ([0-9.]+) pts)"));
+    static const QRegularExpression turn(QStringLiteral(R"(^Page +(\d+) rot: +(\d+))"));
+    std::vector<QSizeF> pages;
+    for (const QByteArray& bytes : listing.split('\n')) {
+        const QString line = QString::fromLatin1(bytes);
+        if (const auto match = size.match(line); match.hasMatch()) {
+            pages.push_back(sane(match.captured(2).toDouble(), match.captured(3).toDouble()));
+        } else if (const auto turned = turn.match(line); turned.hasMatch() && !pages.empty()) {
+            if (turned.captured(2).toInt() % 180 == 90) {
+                pages.back().transpose();
+            }
+        }
+    }
+    return pages;
+}
+
+SheetPile::SheetPile(PdfPrograms programs) : programs_(std::move(programs)) {
+    connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, &SheetPile::look);
+    connect(&timer_, &QTimer::timeout, this, &SheetPile::look);
+}
+
+void SheetPile::watch(const QString& folder) {
+    folder_ = QDir(folder);
+    timer_.start(betweenLooks);
+    QMetaObject::invokeMethod(this, &SheetPile::look, Qt::QueuedConnection);
+}
+
+std::size_t SheetPile::sheets() const {
+    std::size_t count = 0;
+    for (const SheetFile& file : files_) {
+        count += file.pages.size();
+    }
+    return count;
+}
+
+void SheetPile::clear() {
+    for (const SheetFile& file : files_) {
+        takenAway_[file.path] = {file.size, file.written};
+    }
+    files_.clear();
+    emit changed();
+}
+
+void SheetPile::look() {
+    if (watcher_.directories().isEmpty() && folder_->exists()) {
+        watcher_.addPath(folder_->path());
+    }
+    const QFileInfoList there =
+        QDir(folder_->path()).entryInfoList({QStringLiteral("job-*.pdf")}, QDir::Files);
+    dropMissing(there);
+    for (const QFileInfo& file : there) {
+        note(file);
+    }
+    readNext();
+}
+
+void SheetPile::dropMissing(const QFileInfoList& there) {
+    std::set<QString> paths;
+    for (const QFileInfo& file : there) {
+        paths.insert(file.absoluteFilePath());
+    }
+    std::erase_if(takenAway_, [&](const auto& entry) { return !paths.contains(entry.first); });
+    const auto gone =
+        std::erase_if(files_, [&](const SheetFile& file) { return !paths.contains(file.path); });
+    if (gone > 0) {
+        emit changed();
+    }
+}
+
+// What is as it was a look ago has come to rest.
+void SheetPile::note(const QFileInfo& info) {
+    const QString path = info.absoluteFilePath();
+    SheetFile* file = fileOf(path);
+    bool isNew = false;
+    if (file == nullptr) {
+        const auto away = takenAway_.find(path);
+        if (away != takenAway_.end() && away->second.size == info.size() &&
+            away->second.written == info.lastModified()) {
+            return;
+        }
+        takenAway_.erase(path);
+        file = &add(info);
+        isNew = true;
+    } else if (file->size == info.size() && file->written == info.lastModified()) {
+        file->rests = true;
+        return;
+    }
+    file->size = info.size();
+    file->written = info.lastModified();
+    file->rests = false;
+    file->isRead = false;
+    ++file->version;
+    if (isNew) {
+        const QString name = file->name;
+        emit changed();
+        emit arrived(name);
+    }
+}
+
+SheetFile& SheetPile::add(const QFileInfo& info) {
+    const auto place = std::find_if(files_.begin(), files_.end(), [&](const SheetFile& other) {
+        return comesBefore(info.fileName(), other.name);
+    });
+    return *files_.insert(place, {.name = info.fileName(),
+                                  .path = info.absoluteFilePath(),
+                                  .written = info.lastModified(),
+                                  .remark = QStringLiteral("Esta folha está chegando.")});
+}
+
+SheetFile* SheetPile::fileOf(const QString& path) {
+    const auto found = std::find_if(files_.begin(), files_.end(),
+                                    [&](const SheetFile& file) { return file.path == path; });
+    return found != files_.end() ? &*found : nullptr;
+}
+
+void SheetPile::readNext() {
+    if (reader_.isRunning()) {
+        return;
+    }
+    const auto next = std::find_if(files_.begin(), files_.end(), [](const SheetFile& file) {
+        return file.rests && !file.isRead;
+    });
+    if (next == files_.end()) {
+        return;
+    }
+    next->isRead = true;
+    reader_.run(
+        programs_.info,
+        {QStringLiteral("-f"), QStringLiteral("1"), QStringLiteral("-l"),
+         QString::number(mostPages), next->path},
+        [this, path = next->path, version = next->version](
+            PdfProgram::End end, const QByteArray& output) { take(path, version, end, output); });
+}
+
+void SheetPile::take(const QString& path, int version, PdfProgram::End end,
+                     const QByteArray& output) {
+    SheetFile* file = fileOf(path);
+    if (file != nullptr && file->version == version) {
+        file->pages = end == PdfProgram::End::Good ? pagesIn(output) : std::vector<QSizeF>();
+        file->remark = file->pages.empty() ? remarkOn(end, *file) : QString();
+        if (!file->remark.isEmpty()) {
+            emit troubled(QStringLiteral("%1: %2").arg(file->name, file->remark));
+        }
+        emit changed();
+    }
+    readNext();
+}
+
+}  // namespace tarn::dotmatrix
