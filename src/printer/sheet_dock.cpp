@@ -4,7 +4,8 @@
 
 namespace tarn::dotmatrix {
 
-SheetDock::SheetDock(PaperRoll& roll, PaperView& paper, QMainWindow& window, PdfPrograms programs)
+SheetDock::SheetDock(PaperRoll& roll, PaperView& paper, QMainWindow& window,
+                     const PdfPrograms& programs)
     : QDockWidget(QStringLiteral("Folhas soltas"), &window),
       roll_(roll),
       paper_(paper),

@@ -16,7 +16,8 @@ class SheetDock : public QDockWidget {
 
 public:
     // Hidden until the first sheet comes. All must outlive this.
-    SheetDock(PaperRoll& roll, PaperView& paper, QMainWindow& window, PdfPrograms programs = {});
+    SheetDock(PaperRoll& roll, PaperView& paper, QMainWindow& window,
+              const PdfPrograms& programs = {});
 
     void watch(const QString& folder) { pile_.watch(folder); }
     void clear() { pile_.clear(); }
