@@ -4,10 +4,10 @@
 #include <QFile>
 #include <algorithm>
 #include <chrono>
-#include <filesystem>
 
 #include "platform/job_kind.h"
 #include "printer/job_order.h"
+#include "runtime/file_names.h"
 
 namespace tarn::dotmatrix {
 
@@ -17,16 +17,12 @@ constexpr std::chrono::milliseconds betweenLooks(250);
 constexpr int quietLooks = 2;
 constexpr qint64 readAtOnce = 256LL * 1024;
 
-std::filesystem::path pathOf(const QString& file) {
-    return QFile::encodeName(file).toStdString();
-}
-
 JobKind kindOfJob(const QString& file) {
-    return jobKindBeside(pathOf(file));
+    return jobKindBeside(pathOf(file.toStdString()));
 }
 
 QString kindFileOf(const QString& job) {
-    return QFile::decodeName(jobKindFile(pathOf(job)).string().c_str());
+    return QString::fromStdString(nameOf(jobKindFile(pathOf(job.toStdString()))));
 }
 
 QStringList jobsIn(const QDir& folder) {
