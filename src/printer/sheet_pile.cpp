@@ -136,19 +136,24 @@ void SheetPile::note(const QFileInfo& info) {
 }
 
 SheetFile& SheetPile::add(const QFileInfo& info) {
-    const auto place = std::find_if(files_.begin(), files_.end(), [&](const SheetFile& other) {
-        return comesBefore(info.fileName(), other.name);
-    });
-    return *files_.insert(place, {.name = info.fileName(),
-                                  .path = info.absoluteFilePath(),
-                                  .written = info.lastModified(),
-                                  .remark = QStringLiteral("Esta folha está chegando.")});
+    return *files_.insert(placeOf(info.fileName()),
+                          {.name = info.fileName(),
+                           .path = info.absoluteFilePath(),
+                           .written = info.lastModified(),
+                           .remark = QStringLiteral("Esta folha está chegando.")});
+}
+
+// The files stand in their order, so that a look at many of them doesn't compare each with each.
+std::vector<SheetFile>::iterator SheetPile::placeOf(const QString& name) {
+    return std::lower_bound(files_.begin(), files_.end(), name,
+                            [](const SheetFile& file, const QString& wanted) {
+                                return comesBefore(file.name, wanted);
+                            });
 }
 
 SheetFile* SheetPile::fileOf(const QString& path) {
-    const auto found = std::find_if(files_.begin(), files_.end(),
-                                    [&](const SheetFile& file) { return file.path == path; });
-    return found != files_.end() ? &*found : nullptr;
+    const auto found = placeOf(QFileInfo(path).fileName());
+    return found != files_.end() && found->path == path ? &*found : nullptr;
 }
 
 void SheetPile::readNext() {

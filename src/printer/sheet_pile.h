@@ -59,6 +59,7 @@ private:
     void note(const QFileInfo& file);
     void readNext();
     void take(const QString& path, int version, PdfProgram::End end, const QByteArray& output);
+    std::vector<SheetFile>::iterator placeOf(const QString& name);
     SheetFile* fileOf(const QString& path);
     SheetFile& add(const QFileInfo& file);
 
