@@ -96,6 +96,7 @@ public:
     }
     Reader(const Reader&) = delete;
     Reader& operator=(const Reader&) = delete;
+    std::int64_t shown() const { return shown_; }
 
 private:
     void look() {
@@ -103,21 +104,23 @@ private:
         if (paper == seen_) {
             return;
         }
-        jobsOn(paper);
+        shown_ = static_cast<std::int64_t>(jobsOn(paper).size());
         EXPECT_TRUE(paper.starts_with(seen_)) << "what was shown is gone";
         seen_ = paper;
     }
 
     QString file_;
     std::string seen_;
+    std::atomic<std::int64_t> shown_ = 0;
     std::atomic<bool> done_ = false;
     std::thread thread_;
 };
 
 class KilledPrinter : public testing::Test {
 protected:
-    // Jobs from several senders until the printer is gone.
-    void sendUntilKilled(Printer& printer) {
+    // Jobs from several senders until the printer is gone: at any moment, or at one after it
+    // has shown some.
+    void sendUntilKilled(Printer& printer, const Reader& reader, bool afterSomeShown) {
         std::vector<std::thread> threads;
         threads.reserve(senders);
         for (int i = 0; i < senders; ++i) {
@@ -127,6 +130,9 @@ protected:
             });
         }
         const int before = next_;
+        while (afterSomeShown && reader.shown() == 0) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
         moments_.await([this, before] { return next_ - before; }, mostJobs, longestPrinting);
         printer.kill();
         for (std::thread& thread : threads) {
@@ -166,7 +172,7 @@ TEST_F(KilledPrinter, ShowsWholeJobsOnlyFromTheNetwork) {
         ASSERT_NO_FATAL_FAILURE(printer.start({"--porta", "0", "--texto", file}));
         {
             const Reader reader(file);
-            sendUntilKilled(printer);
+            sendUntilKilled(printer, reader, kill % 2 == 0);
         }
         shown += jobsOn(contentOf(file)).size();
     }
