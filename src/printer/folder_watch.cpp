@@ -25,12 +25,6 @@ QString kindFileOf(const QString& job) {
     return QString::fromStdString(nameOf(jobKindFile(pathOf(job.toStdString()))));
 }
 
-QStringList jobsIn(const QDir& folder) {
-    QStringList names = QDir(folder.path()).entryList({QStringLiteral("*.prn")}, QDir::Files);
-    std::sort(names.begin(), names.end(), comesBefore);
-    return names;
-}
-
 }  // namespace
 
 FolderWatch::FolderWatch(JobIntake& intake, const QString& folder)
@@ -47,17 +41,15 @@ FolderWatch::FolderWatch(JobIntake& intake, const QString& folder)
     timer_.start(betweenLooks);
 }
 
-bool FolderWatch::hasNews(const QString& name) const {
-    const QFileInfo file(folder_, name);
-    const Seen seen = seen_.value(name);
-    return isSettled(name) &&
+bool FolderWatch::hasNews(const QFileInfo& file) const {
+    const Seen seen = seen_.value(file.fileName());
+    return isSettled(file) &&
            (file.size() != seen.taken || (seen.done && file.lastModified() != seen.written));
 }
 
-bool FolderWatch::isSettled(const QString& name) const {
+bool FolderWatch::isSettled(const QFileInfo& file) const {
     return intake_.keeper() == nullptr ||
-           QFileInfo(folder_, name).lastModified().msecsTo(QDateTime::currentDateTime()) >=
-               settling_.count();
+           file.lastModified().msecsTo(QDateTime::currentDateTime()) >= settling_.count();
 }
 
 QString FolderWatch::sourceOf(const QString& name) const {
@@ -72,26 +64,46 @@ void FolderWatch::look() {
     if (watcher_.directories().isEmpty() && folder_.exists()) {
         watcher_.addPath(folder_.path());
     }
-    const QStringList names = jobsIn(folder_);
     if (!open_.isEmpty()) {
-        if (hasNews(open_)) {
+        const QFileInfo file(folder_, open_);
+        if (hasNews(file)) {
             return takePiece(QString(open_));
         }
-        if (!isSettled(open_)) {
+        if (!isSettled(file)) {
             return;
         }
-        const bool others = std::any_of(names.begin(), names.end(),
-                                        [this](const QString& name) { return hasNews(name); });
-        rest(others);
+    }
+    if (!jobWaits()) {
+        list();
+    }
+    if (!open_.isEmpty()) {
+        rest(jobWaits());
         if (!open_.isEmpty()) {
             return;
         }
     }
-    const auto next = std::find_if(names.begin(), names.end(),
-                                   [this](const QString& name) { return hasNews(name); });
-    if (next != names.end()) {
-        takePiece(*next);
+    if (jobWaits()) {
+        takePiece(QString(waiting_.front()));
     }
+}
+
+// Only when none is left of the last time: what a job costs doesn't grow with the folder.
+void FolderWatch::list() {
+    const QFileInfoList files =
+        QDir(folder_.path()).entryInfoList({QStringLiteral("*.prn")}, QDir::Files, QDir::Unsorted);
+    for (const QFileInfo& file : files) {
+        if (hasNews(file)) {
+            waiting_.push_back(file.fileName());
+        }
+    }
+    std::sort(waiting_.begin(), waiting_.end(), comesBefore);
+}
+
+bool FolderWatch::jobWaits() {
+    while (!waiting_.empty() && !hasNews(QFileInfo(folder_, waiting_.front()))) {
+        waiting_.pop_front();
+    }
+    return !waiting_.empty();
 }
 
 void FolderWatch::takePiece(const QString& name) {

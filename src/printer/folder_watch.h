@@ -6,10 +6,12 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 #include <QFileSystemWatcher>
 #include <QMap>
 #include <QTimer>
 #include <chrono>
+#include <deque>
 
 #include "printer/job_intake.h"
 
@@ -34,8 +36,10 @@ private:
         QDateTime written;
         bool done = false;  // a later change is a new job
     };
-    bool hasNews(const QString& name) const;
-    bool isSettled(const QString& name) const;
+    bool hasNews(const QFileInfo& file) const;
+    bool isSettled(const QFileInfo& file) const;
+    void list();
+    bool jobWaits();
     QString sourceOf(const QString& name) const;
     void endOpen(const QString& remark);
     void takePiece(const QString& name);
@@ -48,8 +52,9 @@ private:
     QTimer timer_;
     QTimer soon_;  // there is more to read
     QMap<QString, Seen> seen_;
-    QString open_;   // the file whose job is being taken; empty for none
-    int quiet_ = 0;  // looks since it last grew
+    std::deque<QString> waiting_;  // those with news that were listed and not taken yet
+    QString open_;                 // the file whose job is being taken; empty for none
+    int quiet_ = 0;                // looks since it last grew
     std::chrono::milliseconds settling_{1000};
 };
 
