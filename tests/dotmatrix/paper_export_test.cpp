@@ -212,7 +212,7 @@ TEST_F(PaperFiles, PicturesShowInkAndDoubleStrikeIsDarker) {
     rig.job("HHHHHHHHHH\r\n\x1BGHHHHHHHHHH\x1BH\r\n\r\n\f\x0Fsegunda");
     ASSERT_FALSE(writePng(pagesOf(rig.paper), {}, file("note.png")));
     const QImage first(file("note.png"));
-    ASSERT_EQ(first.size(), QSize(9.5 * pictureDotsPerInch, 11 * pictureDotsPerInch));
+    ASSERT_EQ(first.size(), QSize(19 * pictureDotsPerInch / 2, 11 * pictureDotsPerInch));
     const int left = pictureDotsPerInch / 2 + 3;
     const int row = pictureDotsPerInch / 6;
     const int plain = darkPixels(first, QRect(left, 2, 115, row - 3));

@@ -120,7 +120,7 @@ void MatrixDesk::fillCheque(QWidget& screen) {
 }
 
 void MatrixDesk::inCheques(const Work& work) {
-    modals.then("frmCheque", [this, work](QWidget& screen) {
+    modals.then("frmCheque", [work](QWidget& screen) {
         auto& accounts = named<QComboBox>(screen, "cboBancoAgConta");
         pickIn(screen, "cboBancoAgConta",
                accounts.findText(

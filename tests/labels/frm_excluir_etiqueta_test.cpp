@@ -61,7 +61,7 @@ TEST_F(DeletionScreen, SendsTheRangeClosesAndTheQueueIsReadAgain) {
     server.on("sDc_Mot_Imp=NATAL", labelRows(1));
     inReadQueue(0, [this](QWidget& queue) {
         EXPECT_EQ(rows(queue), 2);
-        deleting(queue, [this](QWidget& deletion) {
+        deleting(queue, [](QWidget& deletion) {
             range(deletion, "007", "3");
             click(deletion, "cmdOk");
             EXPECT_FALSE(deletion.isVisible());

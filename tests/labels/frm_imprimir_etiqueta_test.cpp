@@ -324,15 +324,20 @@ TEST_F(PrintScreen, WhatIsPressedWhileItFetchesAndPrintsIsLost) {
 }
 
 TEST_F(PrintScreen, ThirtyAndSixtyOneLabelsOnSheets) {
-    for (const auto& [count, documents] :
-         {std::pair{29, 1}, std::pair{30, 2}, std::pair{31, 2}, std::pair{61, 3}}) {
+    struct Sheets {
+        int count;  // of labels
+        std::size_t documents;
+    };
+    for (const Sheets sheets : {Sheets{29, 1}, {30, 2}, {31, 2}, {61, 3}}) {
+        const int count = sheets.count;
+        const std::size_t documents = sheets.documents;
         server.on("nSeq_De=8&nSeq_Ate=" + std::to_string(count) + "&", labelRows(count));
         boxes.shown.clear();
         printer = RecordingPrinter();
-        boxes.onShow = [&, documents](const Box&) {
+        boxes.onShow = [&](const Box&) {
             EXPECT_THAT(printer.lines(), testing::Contains("enddoc").Times(documents - 1));
         };
-        inPrinting(1, [count = count](QWidget& print) {
+        inPrinting(1, [count](QWidget& print) {
             range(print, "8", std::to_string(count).c_str());
             click(print, "cmdOk");
         });

@@ -313,7 +313,7 @@ TEST_F(QueueScreen, FailedBranchesLeaveAnEmptyListAndTheFormerSender) {
         EXPECT_EQ(items(queue, "CboFilialRemet"), Texts{});
         pick(queue, "cboMotivo", christmas);
         pick(queue, "cboTp_Form", 4);
-        printing(queue, [this](QWidget& print) {
+        printing(queue, [](QWidget& print) {
             range(print, "1", "2");
             click(print, "cmdOk");
         });
@@ -333,7 +333,7 @@ TEST_F(QueueScreen, TheSenderIsAskedForOnTheFourthFormOnlyAndKept) {
         pick(queue, "CboFilialRemet", south);
         pick(queue, "cboTp_Form", 1);
         EXPECT_FALSE(shown());
-        printing(queue, [this](QWidget& print) {
+        printing(queue, [](QWidget& print) {
             range(print, "1", "2");
             click(print, "cmdOk");
         });
@@ -347,7 +347,7 @@ TEST_F(QueueScreen, NoSenderChosenTravelsAsZero) {
     inReadQueue(4, [this](QWidget& queue) {
         pick(queue, "CboFilialRemet", south);
         pick(queue, "CboFilialRemet", 0);
-        printing(queue, [this](QWidget& print) {
+        printing(queue, [](QWidget& print) {
             range(print, "1", "2");
             click(print, "cmdOk");
         });
@@ -358,7 +358,7 @@ TEST_F(QueueScreen, NoSenderChosenTravelsAsZero) {
 TEST_F(QueueScreen, ANewOpeningForgetsTheSender) {
     inReadQueue(4, [](QWidget& queue) { pick(queue, "CboFilialRemet", south); });
     inReadQueue(4, [this](QWidget& queue) {
-        printing(queue, [this](QWidget& print) {
+        printing(queue, [](QWidget& print) {
             range(print, "1", "2");
             click(print, "cmdOk");
         });
