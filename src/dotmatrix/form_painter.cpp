@@ -16,7 +16,8 @@ constexpr PaperUnits lineHeight = unitsPerInch / 6;
 // Needles strike from 1.9 to 10.9 points below the top of a row: a box drawn a point
 // higher holds them, and a label of the smallest size stays clear of capitals.
 constexpr double boxRise = 1.0;
-constexpr double roomyLabel = 5.0;
+constexpr double roomyLabel = 7.0;       // 9 pixels on a screen of true size
+constexpr double leastRoomyLabel = 5.0;  // of words that are long for their box
 constexpr double tightLabel = 3.0;
 constexpr double boxLine = 0.4;
 
@@ -44,6 +45,14 @@ void paintLetters(PaperCanvas& canvas, const QPointF& at, double points, double 
         {.at = at, .turn = 0, .scale = scale, .font = font, .colour = colour, .text = shown});
 }
 
+// The height of letters of which all have room.
+double pointsToFit(const QString& words, double width) {
+    const QFont font = formFont();
+    const double advance = QFontMetricsF(font).horizontalAdvance(words);
+    constexpr double spare = 0.99;
+    return advance > 0 ? spare * width / advance * font.pixelSize() : roomyLabel;
+}
+
 void paintBox(PaperCanvas& canvas, const FormBox& box, double left) {
     const QRectF frame(left + static_cast<double>(box.x) * pointsPerUnit,
                        static_cast<double>(box.y) * pointsPerUnit - boxRise,
@@ -52,9 +61,12 @@ void paintBox(PaperCanvas& canvas, const FormBox& box, double left) {
     canvas.frame(frame, {.colour = formInk, .width = boxLine});
     // With half a line to spare the words are above the print.
     const bool roomy = box.height % lineHeight != 0;
-    const double points = roomy ? roomyLabel : tightLabel;
-    paintLetters(canvas, frame.topLeft() + QPointF(1.0, points * 0.95), points, frame.width() - 1.5,
-                 formInk, QString::fromStdString(box.label));
+    const QString words = QString::fromStdString(box.label);
+    const double room = frame.width() - 1.5;
+    const double points =
+        roomy ? std::clamp(pointsToFit(words, room), leastRoomyLabel, roomyLabel) : tightLabel;
+    paintLetters(canvas, frame.topLeft() + QPointF(1.0, points * 0.95), points, room, formInk,
+                 words);
 }
 
 PaperUnits cellOf(const PaperLine& line, PaperUnits otherwise) {
