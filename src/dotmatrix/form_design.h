@@ -36,6 +36,8 @@ struct FormDesign {
     FormPitch pitch;
     std::vector<FormBox> boxes;
     std::vector<FormText> texts;
+    // Where the document prints words of its own on the bare paper; nothing is drawn there.
+    std::vector<FormBox> ownWords;
     // Each document is torn off at the next perforation: none begins where another ended.
     bool everyDocumentAtTop = false;
     // A picture file laid over the whole sheet, from edge to edge; empty for none.

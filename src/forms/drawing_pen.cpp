@@ -74,12 +74,16 @@ void DrawingPen::end(int lineEnds) {
     call_.begun = false;
 }
 
-void DrawingPen::box(int column, int room, std::string_view label) {
+FormBox DrawingPen::place(int column, int room, std::string_view label) const {
     const PaperUnits x = call_.x + (column - call_.column) * call_.cell;
-    const PaperUnits width = std::min(room * call_.cell, carriage - x);
-    if (width > 0) {
-        boxes_.push_back(
-            {x, paper_.y(), width, boxHeight_, std::string(labels_ ? label : std::string_view())});
+    return {x, paper_.y(), std::min(room * call_.cell, carriage - x), boxHeight_,
+            std::string(label)};
+}
+
+void DrawingPen::box(int column, int room, std::string_view label) {
+    FormBox drawn = place(column, room, labels_ ? label : std::string_view());
+    if (drawn.width > 0) {
+        boxes_.push_back(std::move(drawn));
     }
 }
 
@@ -96,6 +100,8 @@ void DrawingPen::literal(const Field& field, bool volumes) {
         const std::string_view words = volumes ? "Espécie" : "";
         box(field.column, roomOf(field), known ? emptyBoxes[blanks_] : words);
         blanks_ += known ? 1 : 0;
+    } else {
+        ownWords_.push_back(place(field.column, notes::check::roomOf(field), field.label));
     }
 }
 

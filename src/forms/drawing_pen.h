@@ -27,6 +27,7 @@ public:
     // Right edge of the rightmost field that has a width.
     PaperUnits reach() const { return reach_; }
     std::vector<FormBox>& boxes() { return boxes_; }
+    std::vector<FormBox>& ownWords() { return ownWords_; }
 
     void setUp(std::string_view bytes);
     void control(std::string_view bytes);
@@ -63,11 +64,13 @@ private:
     void feedLines(int count);
     void field(const notes::Field& field, bool volumes);
     void literal(const notes::Field& field, bool volumes);
+    FormBox place(int column, int room, std::string_view label) const;
     void box(int column, int room, std::string_view label);
 
     ContinuousPaper paper_;
     EscpInterpreter printer_;
     std::vector<FormBox> boxes_;
+    std::vector<FormBox> ownWords_;
     PaperUnits reach_ = 0;
     int itemLines_;
 

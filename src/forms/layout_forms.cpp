@@ -41,12 +41,13 @@ struct Drawn {
     PaperUnits height = 0;
     PaperUnits reach = 0;
     std::vector<FormBox> boxes;
+    std::vector<FormBox> ownWords;
 };
 
 Drawn drawn(const notes::Form& form, const FormPitch& pitch, int itemLines) {
     DrawingPen pen(pitch, itemLines);
     walkForm(form, pen);
-    return {pen.height(), pen.reach(), std::move(pen.boxes())};
+    return {pen.height(), pen.reach(), std::move(pen.boxes()), std::move(pen.ownWords())};
 }
 
 FormDesign draw(const NamedForm& named, std::optional<int> itemLines) {
@@ -63,6 +64,7 @@ FormDesign draw(const NamedForm& named, std::optional<int> itemLines) {
     Drawn form = drawn(*named.form, design.pitch, lines);
     design.height = std::max<PaperUnits>(form.height, unitsPerInch);
     design.boxes = std::move(form.boxes);
+    design.ownWords = std::move(form.ownWords);
     giveHeadroom(design.boxes);
     return design;
 }

@@ -9,6 +9,8 @@
 #include <chrono>
 #include <cmath>
 
+#include "printer/paper_check.h"
+
 namespace tarn::dotmatrix {
 
 namespace {
@@ -233,6 +235,11 @@ PaperSpot PaperView::spotAt(const Point& point) {
         }
     }
     spot.column = column + static_cast<std::size_t>((point.x - from) / cell);
+    const auto page = roll_.page(form);
+    if (const auto design = page->design ? page->design : options_.design) {
+        const FormBox* box = boxAt(*design, point.x, point.y - shape.top);
+        spot.box = box != nullptr ? QString::fromStdString(box->label) : QString();
+    }
     return spot;
 }
 

@@ -16,6 +16,7 @@ struct PaperSpot {
     std::size_t form = 0;    // from 0
     std::size_t line = 0;    // of the form, from 1
     std::size_t column = 0;  // from 1, 0 outside the print
+    QString box{};           // words of the box that is there; empty for none
 };
 
 class PaperView : public QAbstractScrollArea {

@@ -130,6 +130,12 @@ void PrinterMenus::makePaperMenu(WindowCommands& commands) {
                   .inTools = true},
                  [this] { emit nextWanted(); });
     commands.separate();
+    commands.add({.name = "checkPaper",
+                  .text = QStringLiteral("&Conferir o papel"),
+                  .keys = QKeySequence(Qt::Key_F6),
+                  .hint = QStringLiteral("Lista o que o papel mostra cortado ou fora das caixas do "
+                                         "formulário")},
+                 [this] { emit checkWanted(); });
     commands.add({.name = "tearOff",
                   .text = QStringLiteral("&Destacar"),
                   .keys = QKeySequence(Qt::CTRL | Qt::Key_D),

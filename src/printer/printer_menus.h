@@ -32,6 +32,7 @@ signals:
     void previousWanted();
     void nextWanted();
     void tearOffWanted();
+    void checkWanted();
     void logWanted();
     void rulerWanted(bool on);
     void bandsWanted(bool on);

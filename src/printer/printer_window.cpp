@@ -13,6 +13,7 @@
 
 #include "forms/form_catalogue.h"
 #include "forms/form_loader.h"
+#include "printer/check_dock.h"
 #include "printer/form_menu.h"
 #include "printer/job_files.h"
 #include "printer/new_job_offer.h"
@@ -92,6 +93,7 @@ void PrinterWindow::makeParts(HoldDesk& desk) {
     connect(holding_, &HoldView::told, this, &PrinterWindow::log);
     connect(holding_, &HoldView::changed, this, &PrinterWindow::showCounts);
     sheets_ = new SheetDock(roll_, *view_, *this);
+    check_ = new CheckDock(roll_, *view_, options_, *this);
     connect(sheets_, &SheetDock::told, this, &PrinterWindow::log);
     connect(sheets_, &SheetDock::changed, this, &PrinterWindow::showCounts);
     connect(files_, &PaperFiles::failed, this, &PrinterWindow::complain);
@@ -119,6 +121,7 @@ void PrinterWindow::makeMenus() {
     connect(menus, &PrinterMenus::previousWanted, this, &PrinterWindow::previousJob);
     connect(menus, &PrinterMenus::nextWanted, this, &PrinterWindow::nextJob);
     connect(menus, &PrinterMenus::tearOffWanted, this, &PrinterWindow::tearOffAsked);
+    connect(menus, &PrinterMenus::checkWanted, check_, &CheckDock::check);
     connect(menus, &PrinterMenus::aboutWanted, this, &PrinterWindow::showAbout);
     connect(menus, &PrinterMenus::logWanted, this,
             [this] { logDock_->setVisible(!logDock_->isVisible()); });
@@ -342,6 +345,7 @@ void PrinterWindow::paperChanged() {
     view_->refresh();
     showPaper();
     showCounts();
+    check_->paperChanged();
     logNotices();
 }
 
@@ -380,6 +384,9 @@ void PrinterWindow::showSpot(const PaperSpot& spot) {
     QString text = QStringLiteral("formulário %1, linha %2").arg(spot.form + 1).arg(spot.line);
     if (spot.column > 0) {
         text += QStringLiteral(", coluna %1").arg(spot.column);
+    }
+    if (!spot.box.isEmpty()) {
+        text += QStringLiteral(" · ") + spot.box;
     }
     spotText_->setText(text);
 }

@@ -17,6 +17,7 @@ class QPlainTextEdit;
 
 namespace tarn::dotmatrix {
 
+class CheckDock;
 class FormMenu;
 class JobFiles;
 class NewJobOffer;
@@ -88,6 +89,7 @@ private:
     JobFiles* jobFiles_;
     HoldView* holding_;
     SheetDock* sheets_;
+    CheckDock* check_;
     NewJobOffer* offer_;
     FormMenu* forms_;
     QDockWidget* logDock_;

@@ -1,0 +1,166 @@
+#include "printer/paper_check.h"
+
+#include <algorithm>
+
+namespace tarn::dotmatrix {
+
+namespace {
+
+constexpr PaperUnits rowHeight = unitsPerInch / 6;
+constexpr PaperUnits halfStrike = unitsPerInch / 16;  // of the needles' band
+// Codes, dates and amounts fill their boxes by their nature, and so do short texts.
+constexpr PaperUnits fewestColumns = 12;
+constexpr PaperUnits blanksWithin = 2;  // of one text, between its words
+
+// The printed characters of a row from left to right, each with the box that holds it.
+struct Placed {
+    Cell cell;
+    const FormBox* box = nullptr;
+};
+
+const FormBox* boxIn(const std::vector<FormBox>& boxes, PaperUnits x, PaperUnits y) {
+    const auto box = std::ranges::find_if(boxes, [x, y](const FormBox& one) {
+        return one.x <= x && x < one.x + one.width && one.y <= y && y < one.y + one.height;
+    });
+    return box != boxes.end() ? &*box : nullptr;
+}
+
+// A form's last boxes may lie below its perforation.
+const FormBox* boxBelow(const FormDesign& design, PaperUnits x, PaperUnits y) {
+    const FormBox* box = boxIn(design.boxes, x, y);
+    return box != nullptr ? box : boxIn(design.boxes, x, y + design.height);
+}
+
+// The words that the document prints on the bare paper are left out.
+std::vector<Placed> placedIn(const PaperLine& line, const FormDesign& design, PaperUnits top) {
+    std::vector<Placed> row;
+    for (const Cell& cell : line.cells) {
+        const PaperUnits x = cell.x + cell.width / 2;
+        const PaperUnits y = line.y - top + halfStrike;
+        const FormBox* box = boxBelow(design, x, y);
+        if (box != nullptr || boxIn(design.ownWords, x, y) == nullptr) {
+            row.push_back({cell, box});
+        }
+    }
+    std::stable_sort(row.begin(), row.end(),
+                     [](const Placed& a, const Placed& b) { return a.cell.x < b.cell.x; });
+    return row;
+}
+
+PaperUnits gapAfter(const Placed& one, const Placed& next) {
+    return next.cell.x - one.cell.x - one.cell.width;
+}
+
+using Run = std::pair<std::size_t, std::size_t>;  // first and past the last
+
+// Characters in the same box, or in none and near each other.
+std::vector<Run> runsOf(const std::vector<Placed>& row) {
+    std::vector<Run> runs;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        const bool goesOn = i > 0 && row[i].box == row[i - 1].box &&
+                            (row[i].box != nullptr ||
+                             gapAfter(row[i - 1], row[i]) <= blanksWithin * row[i].cell.width);
+        if (goesOn) {
+            runs.back().second = i + 1;
+        } else {
+            runs.emplace_back(i, i + 1);
+        }
+    }
+    return runs;
+}
+
+QString textOf(const std::vector<Placed>& row, const Run& run) {
+    QString text;
+    for (std::size_t i = run.first; i < run.second; ++i) {
+        if (i > run.first) {
+            const PaperUnits blanks = gapAfter(row[i - 1], row[i]) / row[i].cell.width;
+            text += QString(static_cast<qsizetype>(std::max<PaperUnits>(0, blanks)), u' ');
+        }
+        text += QChar(row[i].cell.character);
+    }
+    return text;
+}
+
+// The box that a text outside of it touches.
+const FormBox* leftBox(const std::vector<Placed>& row, const Run& run) {
+    if (run.first > 0 && gapAfter(row[run.first - 1], row[run.first]) <= 0) {
+        return row[run.first - 1].box;
+    }
+    if (run.second < row.size() && gapAfter(row[run.second - 1], row[run.second]) <= 0) {
+        return row[run.second].box;
+    }
+    return nullptr;
+}
+
+// What is no word and no number is a line that the document draws, or parts two fields.
+bool tellsSomething(const QString& text) {
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetterOrNumber(); });
+}
+
+bool fills(const std::vector<Placed>& row, const Run& run, const QString& text) {
+    const FormBox& box = *row[run.first].box;
+    const Cell& first = row[run.first].cell;
+    const Cell& last = row[run.second - 1].cell;
+    return box.width >= fewestColumns * first.width && first.x - box.x < first.width &&
+           box.x + box.width - last.x - last.width < last.width &&
+           std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+}
+
+void judge(const std::vector<Placed>& row, const Run& run, PaperFault fault,
+           std::vector<PaperFault>& faults) {
+    fault.text = textOf(row, run);
+    if (!tellsSomething(fault.text)) {
+        return;
+    }
+    const FormBox* box = row[run.first].box;
+    if (box == nullptr) {
+        box = leftBox(row, run);
+        fault.kind = box != nullptr ? PaperFault::Kind::OverEdge : PaperFault::Kind::Outside;
+    } else if (fills(row, run, fault.text)) {
+        fault.kind = PaperFault::Kind::Full;
+    } else {
+        return;
+    }
+    fault.box = box != nullptr ? QString::fromStdString(box->label) : QString();
+    const Cell& last = row[run.second - 1].cell;
+    fault.region.left = row[run.first].cell.x;
+    fault.region.right = last.x + last.width;
+    fault.column = row[run.first].cell.column;
+    faults.push_back(fault);
+}
+
+}  // namespace
+
+QString describe(const PaperFault& fault) {
+    switch (fault.kind) {
+        case PaperFault::Kind::Outside:
+            return QStringLiteral("fora das caixas");
+        case PaperFault::Kind::OverEdge:
+            return QStringLiteral("passa da borda da caixa");
+        case PaperFault::Kind::Full:
+            return QStringLiteral("enche a caixa até a borda: o fim pode ter ficado de fora");
+    }
+    return {};
+}
+
+const FormBox* boxAt(const FormDesign& design, PaperUnits x, PaperUnits y) {
+    return boxIn(design.boxes, x, y);
+}
+
+std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design) {
+    std::vector<PaperFault> faults;
+    for (const PaperLine& line : page.lines) {
+        const std::vector<Placed> row = placedIn(line, design, page.shape.top);
+        const PaperUnits down = line.y - page.shape.top;
+        for (const Run& run : runsOf(row)) {
+            judge(row, run,
+                  {.region = {0, line.y, 0, line.y + rowHeight},
+                   .form = page.form,
+                   .row = static_cast<std::size_t>(down / rowHeight) + 1},
+                  faults);
+        }
+    }
+    return faults;
+}
+
+}  // namespace tarn::dotmatrix

@@ -1,0 +1,38 @@
+// What the paper shows cut or outside the boxes of its form. What a program cut before it
+// printed is not on the paper; a text that fills its box to the edge may be such a one.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+#include "dotmatrix/form_design.h"
+#include "printer/paper_region.h"
+
+namespace tarn::dotmatrix {
+
+struct PaperFault {
+    enum class Kind : std::uint8_t {
+        Outside,   // no box is there
+        OverEdge,  // goes on beyond a box's edge, or begins before it
+        Full       // from edge to edge of its box
+    };
+    Kind kind{};
+    PaperRegion region{};
+    std::size_t form = 0;    // from 0
+    std::size_t row = 0;     // of the form, from 1
+    std::size_t column = 0;  // from 1
+    QString box{};           // its words; empty for none
+    QString text{};          // outside the box, or, where it is full, in it
+};
+
+// In words for the user, without what is told of its place.
+QString describe(const PaperFault& fault);
+
+// The box of the form that holds this place; null for none.
+const FormBox* boxAt(const FormDesign& design, PaperUnits x, PaperUnits y);
+
+// From the top down, as the form's boxes are drawn.
+std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design);
+
+}  // namespace tarn::dotmatrix

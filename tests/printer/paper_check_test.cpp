@@ -1,0 +1,151 @@
+// What the window finds cut or outside the boxes of a form, by real keys and clicks.
+#include "printer/paper_check.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QTableWidget>
+#include <QTemporaryDir>
+
+#include "forms/layout_forms.h"
+#include "printer/printer_window.h"
+#include "tests/dotmatrix/note_streams.h"
+#include "tests/printer/queue.h"
+#include "tests/support/user.h"
+
+namespace tarn::test {
+
+using namespace dotmatrix;
+namespace {
+
+constexpr int checkLimit = 60'000;  // milliseconds; for a machine that is busy
+
+class Check : public testing::Test {
+protected:
+    void SetUp() override {
+        QFile form(folder_.filePath("meu.txt"));
+        ASSERT_TRUE(form.open(QIODevice::WriteOnly));
+        form.write(
+            "altura 33\ncaixa 3 5 12 1 Cliente\ncaixa 3 17 6 1 Cidade\ncaixa 3,5 40 20 1,5 Obs\n");
+        form.close();
+        window_.setQuestions({nullptr,
+                              [this](const QString&, const QString&) {
+                                  return QStringList{folder_.filePath("meu.txt")};
+                              },
+                              nullptr, nullptr});
+        window_.show();
+        window_.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+    }
+    void job(const QByteArray& bytes) {
+        ASSERT_TRUE(intake_.begin("job"));
+        ASSERT_TRUE(intake_.take(bytes));
+        intake_.end();
+    }
+    bool tells(const QString& text) {
+        return QTest::qWaitFor(
+            [&] { return named<QLabel>(window_, "checkResult").text().startsWith(text); },
+            checkLimit);
+    }
+    QStringList row(int number) {
+        QStringList words;
+        for (int column = 0; column < table_.columnCount(); ++column) {
+            words << table_.item(number, column)->text();
+        }
+        return words;
+    }
+    void check() { QTest::keyClick(&window_.view(), Qt::Key_F6); }
+
+    QTemporaryDir folder_;
+    PaperRoll roll_{Dialect{}};
+    JobIntake intake_{roll_};
+    Queue queue_;
+    HoldDesk held_{[this] { return std::make_unique<SpoolerOfQueue>(queue_); }};
+    PrinterWindow window_{roll_, intake_, held_, {}};
+    QTableWidget& table_ = named<QTableWidget>(window_, "checkFaults");
+};
+
+TEST_F(Check, EachFaultIsARowThatLeadsToItsPlace) {
+    choose(window_, "formMenu", "form_file");
+    job("\r\n\r\n    Jose Silva  Lins          solto aqui\r\n"
+        "\f\f\f\f\r\n\r\n    Jose da SilvaJundiai\r\n");
+    check();
+    ASSERT_TRUE(tells(QStringLiteral("3 lugar(es)")))
+        << named<QLabel>(window_, "checkResult").text().toStdString();
+    ASSERT_EQ(table_.rowCount(), 3);
+    EXPECT_EQ(row(0), QStringList({"1", "3", "31", "", "fora das caixas", "solto aqui"}));
+    EXPECT_EQ(row(1), QStringList({"5", "3", "5", "Cliente",
+                                   "enche a caixa até a borda: o fim pode ter ficado de fora",
+                                   "Jose da Silv"}));
+    EXPECT_EQ(row(2), QStringList({"5", "3", "23", "Cidade", "passa da borda da caixa", "ai"}));
+    PaperView& view = window_.view();
+    QTest::keyClick(&view, Qt::Key_Home);
+    clickAt(*table_.viewport(), table_.visualItemRect(table_.item(2, 4)).center());
+    EXPECT_GT(view.topY(), 2 * 33 * unitsPerInch / 6);
+    clickAt(*table_.viewport(), table_.visualItemRect(table_.item(0, 4)).center());
+    EXPECT_LT(view.topY(), 33 * unitsPerInch / 6);
+}
+
+TEST_F(Check, WhatComesLaterIsCheckedToo) {
+    choose(window_, "formMenu", "form_file");
+    check();
+    ASSERT_TRUE(tells(QStringLiteral("Nada aparece cortado nem fora das caixas.")));
+    job("solto\r\n");
+    EXPECT_TRUE(tells(QStringLiteral("1 lugar(es)")));
+}
+
+TEST_F(Check, BlankPaperHasNothingToBeChecked) {
+    job("solto\r\n");
+    check();
+    EXPECT_TRUE(tells(QStringLiteral("O papel está em branco")));
+    EXPECT_EQ(table_.rowCount(), 0);
+}
+
+TEST_F(Check, TheBoxUnderTheMouseIsNamed) {
+    choose(window_, "formMenu", "form_file");
+    PaperView& view = window_.view();
+    const double width = 9.5 * 96;
+    const double spare = std::max(0.0, std::floor((view.viewport()->width() - width) / 2));
+    const QPoint at(qRound(spare + (0.5 + 0.65) * 96), qRound(2.5 * 16));
+    QMouseEvent move(QEvent::MouseMove, at, view.viewport()->mapToGlobal(at), Qt::NoButton,
+                     Qt::NoButton, {});
+    QApplication::sendEvent(view.viewport(), &move);
+    EXPECT_EQ(named<QLabel>(window_, "position").text(),
+              QStringLiteral("formulário 1, linha 3, coluna 7 · Cliente"));
+}
+
+class LayoutCheck : public testing::TestWithParam<FormFacts> {};
+
+// What a note's field had no room for is told by the field's box; nothing else is.
+TEST_P(LayoutCheck, OnANoteOnlyFullBoxesAreFound) {
+    const auto design = layoutForm(layoutNameOf(GetParam()), plainItemLines);
+    ASSERT_TRUE(design);
+    PaperRoll roll(panelFor(*design, {}));
+    NoteCase note;
+    note.items = GetParam().name == "padrao" ? plainItemLines : 2;  // as long as its items
+    for (const std::string& job : streamsOf(GetParam(), note)) {
+        roll.startJob("nota");
+        ASSERT_FALSE(roll.feed(job));
+    }
+    for (std::size_t form = 0; form < roll.printedForms(); ++form) {
+        const auto page = roll.page(form);
+        for (const PaperFault& fault : faultsOn(*page, *design)) {
+            // What a set-up job leaves on the paper is no note's.
+            const bool ofSetUp = std::ranges::any_of(page->lines, [&](const PaperLine& line) {
+                return line.y == fault.region.top && line.job < roll.jobs().size();
+            });
+            EXPECT_TRUE(ofSetUp || fault.kind == PaperFault::Kind::Full)
+                << fault.row << "/" << fault.column << " " << describe(fault).toStdString() << " "
+                << fault.text.toStdString();
+            EXPECT_TRUE(ofSetUp || !fault.box.isEmpty()) << fault.text.toStdString();
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, LayoutCheck, testing::ValuesIn(allForms()),
+                         [](const auto& form) { return form.param.name; });
+
+}  // namespace
+}  // namespace tarn::test
