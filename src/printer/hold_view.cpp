@@ -1,10 +1,9 @@
 #include "printer/hold_view.h"
 
 #include <QDockWidget>
-#include <QMessageBox>
-#include <QPushButton>
 
 #include "printer/held_panel.h"
+#include "printer/question_box.h"
 #include "printer/window_commands.h"
 
 namespace tarn::dotmatrix {
@@ -102,23 +101,14 @@ QString HoldView::count() const {
 }
 
 void HoldView::askToForget(int number) {
-    auto* box = new QMessageBox(
-        QMessageBox::Question, window_.windowTitle(),
-        QStringLiteral("Apagar do disco o trabalho %1? Ele não poderá mais ser repassado.")
-            .arg(number),
-        QMessageBox::NoButton, &window_);
-    box->setObjectName(QStringLiteral("forgetQuestion"));
-    box->setTextFormat(Qt::PlainText);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    auto* yes = box->addButton(QStringLiteral("Apagar"), QMessageBox::AcceptRole);
-    yes->setObjectName(QStringLiteral("forgetYes"));
-    box->setDefaultButton(box->addButton(QStringLiteral("Manter"), QMessageBox::RejectRole));
-    connect(box, &QMessageBox::buttonClicked, this, [this, yes, number](QAbstractButton* button) {
-        if (button == yes) {
-            desk_.forget(number);
-        }
-    });
-    box->open();
+    ask(window_,
+        {.name = "forgetQuestion",
+         .text = QStringLiteral("Apagar do disco o trabalho %1? Ele não poderá mais ser repassado.")
+                     .arg(number),
+         .yesName = "forgetYes",
+         .yes = QStringLiteral("Apagar"),
+         .no = QStringLiteral("Manter")},
+        [this, number] { desk_.forget(number); });
 }
 
 }  // namespace tarn::dotmatrix

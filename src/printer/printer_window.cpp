@@ -2,25 +2,21 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDockWidget>
-#include <QLabel>
-#include <QMenuBar>
 #include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QStatusBar>
 #include <chrono>
 
-#include "forms/form_catalogue.h"
-#include "forms/form_loader.h"
 #include "printer/check_dock.h"
-#include "printer/form_menu.h"
+#include "printer/form_choice.h"
 #include "printer/job_files.h"
 #include "printer/new_job_offer.h"
 #include "printer/paper_files.h"
 #include "printer/paper_name.h"
 #include "printer/paper_search_bar.h"
+#include "printer/printer_log.h"
 #include "printer/printer_menus.h"
+#include "printer/printer_status.h"
+#include "printer/question_box.h"
 #include "printer/sheet_dock.h"
 #include "runtime/version.h"
 
@@ -29,32 +25,20 @@ namespace tarn::dotmatrix {
 namespace {
 
 constexpr std::chrono::milliseconds repaintInterval(40);
-constexpr int logLines = 2000;
-
-PaperUnits rulerCellOf(const Dialect& dialect) {
-    return PrintMode{.elite = dialect.elite, .condensed = dialect.condensed}.cellWidth();
-}
 
 }  // namespace
 
 PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, HoldDesk& desk,
                              const PaintOptions& options, std::optional<int> itemLines)
-    : roll_(roll),
-      intake_(intake),
-      options_(options),
-      panel_(roll.dialect()),
-      itemLines_(itemLines) {
+    : roll_(roll), intake_(intake), options_(options) {
     setObjectName(QStringLiteral("PrinterWindow"));
     setWindowTitle(QStringLiteral("Impressora matricial virtual"));
     resize(1100, 780);
     questions_ = askTheUser(this);
     makeParts(desk);
-    makeLog();
-    makeMenus();
+    makeMenus(itemLines);
     addToolBar(Qt::BottomToolBarArea, search_);
     search_->hide();
-    makeStatusBar();
-    options_.rulerCell = rulerCellOf(roll_.dialect());
     view_->setOptions(options_);
 
     changed_.setSingleShot(true);
@@ -66,8 +50,8 @@ PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, HoldDesk& desk,
         }
     });
     connect(&intake_, &JobIntake::jobEnded, this, [this](const QString& name, const QString& why) {
-        log(why.isEmpty() ? QStringLiteral("%1: impresso.").arg(name)
-                          : QStringLiteral("%1: %2").arg(name, why));
+        log_->add(why.isEmpty() ? QStringLiteral("%1: impresso.").arg(name)
+                                : QStringLiteral("%1: %2").arg(name, why));
         if (roll_.jobs().empty() || roll_.jobs().back().shows) {
             offer_->jobCame();
         }
@@ -81,6 +65,10 @@ void PrinterWindow::makeParts(HoldDesk& desk) {
     view_->setObjectName(QStringLiteral("paper"));
     view_->setAccessibleName(QStringLiteral("Papel impresso"));
     setCentralWidget(view_);
+    log_ = new PrinterLog(*this);
+    status_ = new PrinterStatus(*this, roll_, options_);
+    connect(view_, &PaperView::hovered, status_, &PrinterStatus::showSpot);
+    connect(view_, &PaperView::zoomed, this, &PrinterWindow::showCounts);
     search_ = new PaperSearchBar(roll_, *view_, this);
     files_ = new PaperFiles(roll_, options_, questions_, *this);
     files_->setProposal(
@@ -90,30 +78,17 @@ void PrinterWindow::makeParts(HoldDesk& desk) {
     offer_ = new NewJobOffer(*view_);
     holding_ = new HoldView(*this, desk, roll_, *view_, questions_);
     connect(holding_, &HoldView::complained, this, &PrinterWindow::complain);
-    connect(holding_, &HoldView::told, this, &PrinterWindow::log);
+    connect(holding_, &HoldView::told, log_, &PrinterLog::add);
     connect(holding_, &HoldView::changed, this, &PrinterWindow::showCounts);
     sheets_ = new SheetDock(roll_, *view_, *this);
     check_ = new CheckDock(roll_, *view_, options_, *this);
-    connect(sheets_, &SheetDock::told, this, &PrinterWindow::log);
+    connect(sheets_, &SheetDock::told, log_, &PrinterLog::add);
     connect(sheets_, &SheetDock::changed, this, &PrinterWindow::showCounts);
     connect(files_, &PaperFiles::failed, this, &PrinterWindow::complain);
     connect(jobFiles_, &JobFiles::failed, this, &PrinterWindow::complain);
 }
 
-void PrinterWindow::makeLog() {
-    logText_ = new QPlainTextEdit(this);
-    logText_->setObjectName(QStringLiteral("log"));
-    logText_->setAccessibleName(QStringLiteral("Registro da impressora"));
-    logText_->setReadOnly(true);
-    logText_->setMaximumBlockCount(logLines);
-    logDock_ = new QDockWidget(QStringLiteral("Registro"), this);
-    logDock_->setObjectName(QStringLiteral("logPanel"));
-    logDock_->setWidget(logText_);
-    addDockWidget(Qt::BottomDockWidgetArea, logDock_);
-    logDock_->hide();
-}
-
-void PrinterWindow::makeMenus() {
+void PrinterWindow::makeMenus(std::optional<int> itemLines) {
     auto* menus = new PrinterMenus(*this, *view_, *search_, *files_, *holding_, *sheets_, options_);
     connect(menus, &PrinterMenus::openWanted, this, &PrinterWindow::openJobs);
     connect(menus, &PrinterMenus::copyWanted, this, &PrinterWindow::copyText);
@@ -124,7 +99,7 @@ void PrinterWindow::makeMenus() {
     connect(menus, &PrinterMenus::checkWanted, check_, &CheckDock::check);
     connect(menus, &PrinterMenus::aboutWanted, this, &PrinterWindow::showAbout);
     connect(menus, &PrinterMenus::logWanted, this,
-            [this] { logDock_->setVisible(!logDock_->isVisible()); });
+            [this] { log_->setVisible(!log_->isVisible()); });
     connect(menus, &PrinterMenus::rulerWanted, this, [this](bool on) {
         options_.ruler = on;
         view_->setOptions(options_);
@@ -133,48 +108,15 @@ void PrinterWindow::makeMenus() {
         options_.bands = on;
         view_->setOptions(options_);
     });
-    makeFormMenu();
+    auto* forms = new FormChoice(*this, roll_, options_, questions_, itemLines);
+    connect(forms, &FormChoice::failed, this, &PrinterWindow::complain);
+    connect(forms, &FormChoice::printingAgain, search_, &PaperSearchBar::forget);
+    connect(forms, &FormChoice::printedAgain, this, &PrinterWindow::printedAgain);
     menus->addHelp();
 }
 
-void PrinterWindow::makeFormMenu() {
-    const auto present = options_.design
-                             ? std::optional(QString::fromStdString(options_.design->name))
-                             : std::nullopt;
-    forms_ = new FormMenu(present, this);
-    menuBar()->addMenu(forms_);
-    connect(forms_, &FormMenu::formChosen, this, &PrinterWindow::layForm);
-    connect(forms_, &FormMenu::fileWanted, this, &PrinterWindow::layFormOfFile);
-    connect(forms_, &FormMenu::jobsChosen, this, &PrinterWindow::followJobs);
-    connect(forms_, &FormMenu::blankChosen, this, [this] {
-        options_.design.reset();
-        options_.picture.reset();
-        forms_->keepChoice();
-        usePanel(roll_.dialect());
-    });
-}
-
-void PrinterWindow::makeStatusBar() {
-    waitingText_ = new QLabel(this);
-    waitingText_->setObjectName(QStringLiteral("waiting"));
-    waitingText_->setTextFormat(Qt::PlainText);
-    paperText_ = new QLabel(this);
-    paperText_->setObjectName(QStringLiteral("paperName"));
-    paperText_->setTextFormat(Qt::PlainText);
-    spotText_ = new QLabel(this);
-    spotText_->setObjectName(QStringLiteral("position"));
-    countText_ = new QLabel(this);
-    countText_->setObjectName(QStringLiteral("count"));
-    statusBar()->addWidget(waitingText_, 1);
-    statusBar()->addPermanentWidget(paperText_);
-    statusBar()->addPermanentWidget(spotText_);
-    statusBar()->addPermanentWidget(countText_);
-    connect(view_, &PaperView::hovered, this, &PrinterWindow::showSpot);
-    connect(view_, &PaperView::zoomed, this, &PrinterWindow::showCounts);
-}
-
 void PrinterWindow::setWaitingText(const QString& text) {
-    waitingText_->setText(text);
+    status_->setWaiting(text);
 }
 
 void PrinterWindow::watchSheets(const QString& folder) {
@@ -237,24 +179,19 @@ void PrinterWindow::nextJob() {
 void PrinterWindow::tell(const QString& text) {
     constexpr int longEnough = 15'000;  // milliseconds
     statusBar()->showMessage(text, longEnough);
-    log(text);
+    log_->add(text);
 }
 
 void PrinterWindow::showAbout() {
     const auto text = [](std::string_view view) {
         return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
     };
-    auto* box = new QMessageBox(
-        QMessageBox::Information, QStringLiteral("Sobre a impressora virtual"),
+    showNotice(
+        *this, "aboutBox", QStringLiteral("Sobre a impressora virtual"),
         QStringLiteral("Impressora matricial virtual do TarnEmissao\nVersão %1 (%2, %3)\n\n"
                        "Mostra no papel o que um trabalho cru imprime, antes que ele gaste "
                        "formulário. O manual conta o resto no capítulo \"Impressora virtual\".")
-            .arg(text(productVersion), text(releaseName), text(versionDate)),
-        QMessageBox::Ok, this);
-    box->setObjectName(QStringLiteral("aboutBox"));
-    box->setTextFormat(Qt::PlainText);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+            .arg(text(productVersion), text(releaseName), text(versionDate)));
 }
 
 // Paper that nobody looked at isn't taken away without a word.
@@ -263,148 +200,48 @@ void PrinterWindow::tearOffAsked() {
     if (unseen == 0) {
         return tearOff();
     }
-    auto* box = new QMessageBox(
-        QMessageBox::Question, windowTitle(),
-        (unseen == 1
-             ? QStringLiteral("Um formulário impresso ainda não foi visto.")
-             : QStringLiteral("%1 formulários impressos ainda não foram vistos.").arg(unseen)) +
-            QStringLiteral(" Destacar o papel assim mesmo?"),
-        QMessageBox::NoButton, this);
-    box->setObjectName(QStringLiteral("tearOffQuestion"));
-    box->setTextFormat(Qt::PlainText);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    auto* yes = box->addButton(QStringLiteral("Destacar"), QMessageBox::AcceptRole);
-    yes->setObjectName(QStringLiteral("tearOffYes"));
-    box->setDefaultButton(
-        box->addButton(QStringLiteral("Manter o papel"), QMessageBox::RejectRole));
-    connect(box, &QMessageBox::buttonClicked, this, [this, yes](QAbstractButton* button) {
-        if (button == yes) {
-            tearOff();
-        }
-    });
-    box->open();
+    ask(*this,
+        {.name = "tearOffQuestion",
+         .text = (unseen == 1 ? QStringLiteral("Um formulário impresso ainda não foi visto.")
+                              : QStringLiteral("%1 formulários impressos ainda não foram vistos.")
+                                    .arg(unseen)) +
+                 QStringLiteral(" Destacar o papel assim mesmo?"),
+         .yesName = "tearOffYes",
+         .yes = QStringLiteral("Destacar"),
+         .no = QStringLiteral("Manter o papel")},
+        [this] { tearOff(); });
 }
 
 void PrinterWindow::tearOff() {
     search_->forget();
     holding_->paperGone();
     roll_.tearOff(intake_.busy());
-    noticesLogged_ = roll_.notices().total();
+    log_->skipNotices(roll_.notices());
     view_->forgetSeen();
     offer_->withdraw();
     view_->followPrint();
     view_->select(std::nullopt);
     view_->mark(std::nullopt);
-    log(QStringLiteral("papel destacado."));
+    log_->add(QStringLiteral("papel destacado."));
     paperChanged();
 }
 
-void PrinterWindow::layForm(const QString& name) {
-    auto loaded = loadForm(name, itemLines_);
-    if (const auto* wrong = std::get_if<QString>(&loaded)) {
-        forms_->undoChoice();
-        return complain(*wrong);
-    }
-    forms_->keepChoice();
-    const auto& form = std::get<LoadedForm>(loaded);
-    lay(form, options_);
-    usePanel(panelFor(*form.design, roll_.dialect()));
-}
-
-void PrinterWindow::layFormOfFile() {
-    const QStringList files = questions_.open(
-        QStringLiteral("Formulário"),
-        QStringLiteral("Formulários (*.txt *.form *.png *.jpg *.jpeg);;Todos os arquivos (*)"));
-    files.isEmpty() ? forms_->undoChoice() : layForm(files.front());
-}
-
-void PrinterWindow::followJobs() {
-    options_.design.reset();
-    options_.picture.reset();
-    forms_->keepChoice();
-    printAgain(panel_, [this] { roll_.followJobs(panel_); });
-}
-
-// The jobs so far are printed again, as the printer would have with this panel.
-void PrinterWindow::usePanel(const Dialect& dialect) {
-    printAgain(dialect, [this, &dialect] { roll_.setDialect(dialect); });
-}
-
-void PrinterWindow::printAgain(const Dialect& dialect, const std::function<void()>& print) {
-    search_->forget();
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    print();
-    QApplication::restoreOverrideCursor();
-    options_.rulerCell = rulerCellOf(dialect);
-    noticesLogged_ = roll_.notices().total();
+void PrinterWindow::printedAgain() {
+    log_->skipNotices(roll_.notices());
     view_->setOptions(options_);
     paperChanged();
 }
 
 void PrinterWindow::paperChanged() {
     view_->refresh();
-    showPaper();
+    status_->showPaper();
     showCounts();
     check_->paperChanged();
-    logNotices();
-}
-
-// What lies in the printer, and how it is known of the last job.
-void PrinterWindow::showPaper() {
-    QString text;
-    if (options_.design) {
-        text = QString::fromStdString(formTitle(options_.design->name));
-    } else if (roll_.followsJobs()) {
-        const auto present = roll_.presentDesign();
-        text = present ? QString::fromStdString(formTitle(present->name))
-                       : QStringLiteral("Papel em branco");
-        const auto& jobs = roll_.jobs();
-        if (!jobs.empty() && !jobs.back().paper.form) {
-            text += QStringLiteral(" (o trabalho não diz o seu papel)");
-        } else if (!jobs.empty() && !jobs.back().paper.told) {
-            text += QStringLiteral(" (reconhecido pelo conteúdo)");
-        }
-    } else {
-        text = QStringLiteral("Papel em branco");
-    }
-    paperText_->setText(text);
+    log_->addNotices(roll_.notices());
 }
 
 void PrinterWindow::showCounts() {
-    const QString held = holding_->count();
-    countText_->setText((held.isEmpty() ? QString() : held + QStringLiteral("  ·  ")) +
-                        QStringLiteral("%1 trabalho(s), %2 formulário(s)%3  ·  %4%")
-                            .arg(roll_.shownJobs())
-                            .arg(roll_.printedForms())
-                            .arg(sheets_->count())
-                            .arg(qRound(view_->zoom() * 100)));
-}
-
-void PrinterWindow::showSpot(const PaperSpot& spot) {
-    QString text = QStringLiteral("formulário %1, linha %2").arg(spot.form + 1).arg(spot.line);
-    if (spot.column > 0) {
-        text += QStringLiteral(", coluna %1").arg(spot.column);
-    }
-    if (!spot.box.isEmpty()) {
-        text += QStringLiteral(" · ") + spot.box;
-    }
-    spotText_->setText(text);
-}
-
-void PrinterWindow::logNotices() {
-    const NoticeLog& notices = roll_.notices();
-    for (; noticesLogged_ < notices.total(); ++noticesLogged_) {
-        if (noticesLogged_ >= notices.kept().size()) {
-            log(QStringLiteral("e mais %1 avisos.").arg(notices.total() - noticesLogged_));
-            noticesLogged_ = notices.total();
-            return;
-        }
-        log(QString::fromStdString(describe(notices.kept()[noticesLogged_])));
-    }
-}
-
-void PrinterWindow::log(const QString& line) {
-    logText_->appendPlainText(line);
+    status_->showCounts(holding_->count(), sheets_->count(), view_->zoom());
 }
 
 }  // namespace tarn::dotmatrix

@@ -11,18 +11,15 @@
 #include "printer/paper_view.h"
 #include "printer/window_questions.h"
 
-class QDockWidget;
-class QLabel;
-class QPlainTextEdit;
-
 namespace tarn::dotmatrix {
 
 class CheckDock;
-class FormMenu;
 class JobFiles;
 class NewJobOffer;
 class PaperFiles;
 class PaperSearchBar;
+class PrinterLog;
+class PrinterStatus;
 class SheetDock;
 
 class PrinterWindow : public QMainWindow {
@@ -48,10 +45,7 @@ public:
 
 private:
     void makeParts(HoldDesk& desk);
-    void makeLog();
-    void makeMenus();
-    void makeFormMenu();
-    void makeStatusBar();
+    void makeMenus(std::optional<int> itemLines);
 
     void openJobs();
     void copyText();
@@ -63,24 +57,14 @@ private:
     void tell(const QString& text);
     void showAbout();
 
-    void layForm(const QString& name);
-    void layFormOfFile();
-    void followJobs();
-    void usePanel(const Dialect& dialect);
-    void printAgain(const Dialect& dialect, const std::function<void()>& print);
-    void showPaper();
+    void printedAgain();
     void paperChanged();
-    void logNotices();
-    void log(const QString& line);
-    void showSpot(const PaperSpot& spot);
     void showCounts();
     void complain(const QString& text);
 
     PaperRoll& roll_;
     JobIntake& intake_;
     PaintOptions options_;
-    Dialect panel_;  // where each job brings its own paper
-    std::optional<int> itemLines_;
     WindowQuestions questions_;
 
     PaperView* view_;
@@ -91,16 +75,10 @@ private:
     SheetDock* sheets_;
     CheckDock* check_;
     NewJobOffer* offer_;
-    FormMenu* forms_;
-    QDockWidget* logDock_;
-    QPlainTextEdit* logText_;
-    QLabel* waitingText_;
-    QLabel* paperText_;
-    QLabel* spotText_;
-    QLabel* countText_;
+    PrinterLog* log_;
+    PrinterStatus* status_;
 
     QTimer changed_;  // many pieces of a job, one repaint
-    std::size_t noticesLogged_ = 0;
 };
 
 }  // namespace tarn::dotmatrix
