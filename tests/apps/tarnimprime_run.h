@@ -6,21 +6,15 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
+#include "tests/support/files.h"
 #include "tests/support/own_directory.h"
 
 namespace tarn::test {
 
 namespace fs = std::filesystem;
-
-inline std::string contentOf(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 inline std::string quoted(const std::string& word) {
     std::string out = "'";

@@ -2,19 +2,12 @@
 // the timer and the paper of every way a generation can end.
 #include <gmock/gmock.h>
 
-#include <fstream>
-#include <iterator>
-
 #include "tests/billing/frm_oft_fixture.h"
+#include "tests/notes/note_files.h"
 #include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-std::string noteFile(const char* name) {
-    std::ifstream in(std::string(TARN_NOTE_DATA) + "/" + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 class GenerateNoteScreen : public FrmOFTTest {
 protected:

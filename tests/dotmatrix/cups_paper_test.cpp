@@ -2,25 +2,18 @@
 // out of it as PDF and text.
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "notes/print_note.h"
 #include "platform/cups/cups_spooler.h"
 #include "tests/dotmatrix/poppler.h"
+#include "tests/notes/note_files.h"
 #include "tests/support/private_cupsd.h"
-#include "tests/support/test_environment.h"
 
 namespace tarn::test {
 namespace {
 
 constexpr int limit = 60000;  // milliseconds
-
-QByteArray contentOf(const QString& file) {
-    QFile in(file);
-    return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
-}
 
 // The port in "Recebendo em 127.0.0.1, porta 43210".
 int portOf(QProcess& printer) {
@@ -50,29 +43,15 @@ TEST(CupsPaper, ANoteComesOutAsPdfAndText) {
     server.printTo(portOf(printer));
     ASSERT_EQ(server.start(), "");
 
-    TestEnvironment seams;
     CupsSpooler spooler;
-    Environment environment{.http = seams.loader,
-                            .spooler = spooler,
-                            .printer = seams.printer,
-                            .boxes = seams.boxes,
-                            .clock = seams.clock,
-                            .machine = seams.machine,
-                            .baseUrl = {}};
-    Sessao session;
-    session.NCOMPANYCODE = 1361;
-    session.ID_ETB_TARN = 1;
-    XmlDocument document;
-    ASSERT_TRUE(
-        document.loadXML(contentOf(QStringLiteral(TARN_NOTE_DATA "/note_1361.xml")).toStdString()));
-    printNote(Ladder::Issuing, environment, session, document, "4567");
+    issueNoteFile(spooler, "note_1361.xml");
 
     ASSERT_TRUE(printer.waitForFinished(limit)) << server.errorLog();
     EXPECT_EQ(printer.exitCode(), 0) << printer.readAllStandardError().toStdString();
 
     // The stream without its set-up, line for line; the set-up job's blank stands ahead of
     // the first one.
-    QByteArray expected = ' ' + contentOf(QStringLiteral(TARN_NOTE_DATA "/note_1361.prn"));
+    QByteArray expected = ' ' + QByteArray::fromStdString(noteFile("note_1361.prn"));
     QStringList lines;
     for (QByteArray line : expected.replace("\r\n", "\n").split('\n')) {
         while (line.endsWith(' ')) {
@@ -83,7 +62,7 @@ TEST(CupsPaper, ANoteComesOutAsPdfAndText) {
     while (!lines.isEmpty() && lines.back().isEmpty()) {
         lines.removeLast();
     }
-    EXPECT_EQ(QString::fromUtf8(contentOf(text)), lines.join(u'\n') + u'\n');
+    EXPECT_EQ(QString::fromStdString(contentOf(text.toStdString())), lines.join(u'\n') + u'\n');
 
     bool number = false;
     for (const test::Word& word : test::wordsIn(pdf)) {

@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <stdexcept>
 
 #include "tests/support/boxes.h"
+#include "tests/support/files.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -32,15 +32,6 @@ protected:
         fs::current_path(folder_);
     }
 
-    Environment environmentOver(HttpLoader& loader) {
-        return {.http = loader,
-                .spooler = seams_.spooler,
-                .printer = seams_.printer,
-                .boxes = seams_.boxes,
-                .clock = seams_.clock,
-                .machine = seams_.machine,
-                .baseUrl = "http://servidor/p.asp?"};
-    }
     bool load(const std::string& file = "", int save = 0, const std::string& message = "não veio") {
         return CarregaXML(seams_.environment, seams_.environment.baseUrl + "comando=x", document_,
                           false, file, save, "", message);
@@ -81,7 +72,7 @@ TEST_F(CarregaXMLTest, WithoutAMessageAFailureIsSilent) {
 
 TEST_F(CarregaXMLTest, AnErrorInsideIsShownByItsDescription) {
     FailingLoader failing;
-    Environment environment = environmentOver(failing);
+    Environment environment = seams_.with(failing);
     EXPECT_FALSE(
         CarregaXML(environment, "http://servidor/p.asp?x", document_, false, "", 0, "", "m"));
     EXPECT_EQ(seams_.boxes.shown,
@@ -100,7 +91,7 @@ TEST_F(CarregaXMLTest, TheLoaderReadsTheAnswer) {
             return inLoader;
         }
     } reading;
-    Environment environment = environmentOver(reading);
+    Environment environment = seams_.with(reading);
     EXPECT_TRUE(
         CarregaXML(environment, "http://servidor/p.asp?x", document_, false, "", 0, "", "m"));
     EXPECT_TRUE(reading.inLoader);
@@ -118,10 +109,7 @@ TEST_F(CarregaXMLTest, NoCopyUnlessNameAndPositiveWish) {
 TEST_F(CarregaXMLTest, KeepsACopyAndAFailedLoadDeletesIt) {
     seams_.loader.on("comando=x", "<?xml version='1.0'?><R a='1'/>").failOn("comando=x");
     EXPECT_TRUE(load("copia", 1));
-    std::ifstream input("copia.XML");
-    const std::string recorded(std::istreambuf_iterator<char>(input), {});
-    input.close();  // Windows deletes no file that is open
-    EXPECT_NE(recorded.find("<R a=\"1\"/>"), std::string::npos);
+    EXPECT_NE(contentOf("copia.XML").find("<R a=\"1\"/>"), std::string::npos);
     EXPECT_FALSE(load("copia", 1));
     EXPECT_FALSE(fs::exists("copia.XML"));
     EXPECT_FALSE(load("copia", 1));  // nothing to delete is no failure of its own

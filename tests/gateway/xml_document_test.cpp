@@ -5,13 +5,12 @@
 
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "platform/http_loader.h"
 #include "runtime/code_page.h"
 #include "runtime/runtime_error.h"
 #include "tests/gateway/rows_fixture.h"
+#include "tests/support/files.h"
 
 namespace tarn::test {
 namespace {
@@ -433,17 +432,13 @@ TEST(XmlDocument, WritesItselfOut) {
 
 TEST(XmlDocument, SavesACopy) {
     const auto file = std::filesystem::temp_directory_path() / "tarn_xml_document_test.XML";
-    const auto written = [&file] {
-        std::ifstream in(file, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(in), {});
-    };
     for (const char* encoding : {"ISO-8859-1", "windows-1252"}) {
         const std::string start = "<?xml version='1.0' encoding='" + std::string(encoding) + "'?>";
         EXPECT_TRUE(loaded(start + "<R a='\xE7 &#8364; &#9786;'/>").save(file.string()));
-        EXPECT_NE(written().find(encoding), std::string::npos);
-        EXPECT_NE(written().find('\xE7'), std::string::npos);
-        EXPECT_NE(written().find("&#9786;"), std::string::npos) << "no such letter there";
-        EXPECT_EQ(loaded(written()).documentElement().attributes().item(0).text(), "ç € ☺");
+        EXPECT_NE(contentOf(file).find(encoding), std::string::npos);
+        EXPECT_NE(contentOf(file).find('\xE7'), std::string::npos);
+        EXPECT_NE(contentOf(file).find("&#9786;"), std::string::npos) << "no such letter there";
+        EXPECT_EQ(loaded(contentOf(file)).documentElement().attributes().item(0).text(), "ç € ☺");
     }
     std::filesystem::remove(file);
     XmlDocument document = loaded("<R/>");

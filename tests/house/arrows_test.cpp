@@ -7,6 +7,7 @@
 #include "tests/house/rooms.h"
 #include "tests/house/source_text.h"
 #include "tests/house/source_tree.h"
+#include "tests/support/files.h"
 #include "tests/support/texts.h"
 
 namespace tarn::test {
@@ -90,7 +91,7 @@ TEST(Arrows, ALineThatCantBeReadIsAFault) {
 TEST(Arrows, OfTheSourcesAreThoseOfTheTable) {
     const std::filesystem::path root(TARN_SOURCE_DIR);
     Complaints complaints;
-    const Rooms rooms = readRooms(textOf(root / "src/rooms.txt"), complaints);
+    const Rooms rooms = readRooms(contentOf(root / "src/rooms.txt"), complaints);
     ASSERT_EQ(complaints, Texts{});
     ASSERT_GT(rooms.size(), 15U);
     complaints = faultsOfTable(rooms);
@@ -99,7 +100,7 @@ TEST(Arrows, OfTheSourcesAreThoseOfTheTable) {
          filesIn(root, std::array<std::string_view, 3>{"src", "apps", "practice"})) {
         if (isCpp(path)) {
             ++read;
-            const Complaints more = faultsOfFile(rooms, path, takeApart(textOf(root / path)));
+            const Complaints more = faultsOfFile(rooms, path, takeApart(contentOf(root / path)));
             complaints.insert(complaints.end(), more.begin(), more.end());
         }
     }

@@ -10,6 +10,7 @@
 
 #include "tests/house/source_text.h"
 #include "tests/house/source_tree.h"
+#include "tests/support/files.h"
 #include "tests/support/texts.h"
 
 namespace tarn::test {
@@ -198,9 +199,9 @@ protected:
             }
             addPath(names, path);
             if (isCpp(path)) {
-                addSource(names, path, textOf(root / path));
+                addSource(names, path, contentOf(root / path));
             } else if (path.ends_with(".ui")) {
-                addForm(names, path, textOf(root / path));
+                addForm(names, path, contentOf(root / path));
             }
         }
         return names;

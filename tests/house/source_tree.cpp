@@ -1,8 +1,6 @@
 #include "tests/house/source_tree.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 
 namespace tarn::test {
 
@@ -23,11 +21,6 @@ std::vector<std::string> filesIn(const fs::path& root, std::span<const std::stri
 
 bool isCpp(std::string_view path) {
     return path.ends_with(".h") || path.ends_with(".cpp") || path.ends_with(".h.in");
-}
-
-std::string textOf(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 }  // namespace tarn::test

@@ -15,6 +15,4 @@ std::vector<std::string> filesIn(const std::filesystem::path& root,
 
 bool isCpp(std::string_view path);  // .h, .cpp, .h.in
 
-std::string textOf(const std::filesystem::path& file);
-
 }  // namespace tarn::test

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "tests/house/source_tree.h"
+#include "tests/support/files.h"
 
 namespace tarn::test {
 namespace {
@@ -50,7 +51,7 @@ TEST(Sources, AllAreCompiled) {
     const std::vector<std::string> files = filesIn(root, compiledFolders);
     std::string descriptions;
     for (const std::string& file : files) {
-        descriptions += isDescription(file) ? textOf(root / file) : "";
+        descriptions += isDescription(file) ? contentOf(root / file) : "";
     }
     EXPECT_GT(files.size(), 500U);
     EXPECT_EQ(unnamed(files, descriptions), std::vector<std::string>());

@@ -8,13 +8,13 @@
 
 #include <QTemporaryDir>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <map>
 #include <set>
 
 #include "platform/directory/directory_spooler.h"
 #include "tests/kills/kills.h"
+#include "tests/support/files.h"
 
 namespace tarn::test {
 namespace {
@@ -96,8 +96,7 @@ protected:
         std::map<int, int> whole;
         std::map<int, int> cut;
         for (const auto& entry : fs::directory_iterator(folder_.path().toStdString())) {
-            std::ifstream file(entry.path(), std::ios::binary);
-            const std::string bytes(std::istreambuf_iterator<char>(file), {});
+            const std::string bytes = contentOf(entry.path());
             const auto [known, fresh] = files_.emplace(entry.path().string(), bytes);
             ASSERT_TRUE(fresh || known->second == bytes) << entry.path() << " was changed";
             if (fresh && bytes.empty()) {

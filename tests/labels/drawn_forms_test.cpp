@@ -329,13 +329,7 @@ public:
 
 TEST_F(DrawnForms, ThePrintersOwnProgressIsToldAfterTheBox) {
     SlowPrinter slow;
-    Environment there{.http = env.loader,
-                      .spooler = env.spooler,
-                      .printer = slow,
-                      .boxes = env.boxes,
-                      .clock = env.clock,
-                      .machine = env.machine,
-                      .baseUrl = {}};
+    Environment there = env.with(slow);
     std::vector<std::string> told;
     env.boxes.onShow = [&told](const Box&) { told.emplace_back("box"); };
     printLabels(there, LabelForm::A4WithSender, run(labelRows(3), sender),

@@ -2,10 +2,8 @@
 // stand on the paper.
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
-
 #include "notes/layouts/layouts.h"
+#include "tests/notes/note_files.h"
 #include "tests/notes/note_fixture.h"
 
 namespace tarn::test {
@@ -31,11 +29,9 @@ void expectLine(const std::vector<std::string>& lines, const Line& expected) {
 }
 
 TEST(ImprimeNF1361, TheGoldenFile) {
-    std::ifstream file(std::string(TARN_NOTE_DATA) + "/note_1361.prn", std::ios::binary);
-    std::stringstream golden;
-    golden << file.rdbuf();
-    ASSERT_GT(golden.str().size(), 2000U);
-    EXPECT_EQ(printed(form1361(), sampleNote()), golden.str());
+    const std::string golden = noteFile("note_1361.prn");
+    ASSERT_GT(golden.size(), 2000U);
+    EXPECT_EQ(printed(form1361(), sampleNote()), golden);
 }
 
 TEST(ImprimeNF1361, TheSetUpGoesInAJobOfItsOwn) {

@@ -8,6 +8,7 @@
 #include "notes/pipeline.h"
 #include "notes/print_note.h"
 #include "tests/notes/note_fixture.h"
+#include "tests/support/sessions.h"
 #include "tests/support/test_environment.h"
 
 namespace tarn::test {
@@ -18,24 +19,14 @@ using notes::Loss;
 // Printed on the company's own form, watched.
 std::vector<Loss> lossesOf(std::int32_t company, const NoteDraft& note,
                            std::int32_t establishment = 1) {
-    RecordingSpooler spooler;
     TestEnvironment seams;
-    Environment environment{.http = seams.loader,
-                            .spooler = spooler,
-                            .printer = seams.printer,
-                            .boxes = seams.boxes,
-                            .clock = seams.clock,
-                            .machine = seams.machine,
-                            .baseUrl = {}};
-    Sessao session;
-    session.NCOMPANYCODE = company;
-    session.ID_ETB_TARN = establishment;
+    const Sessao session = sessionOf(company, establishment);
     XmlDocument document;
     if (!document.loadXML(note.xml())) {
         throw std::runtime_error("the note isn't well-formed");
     }
     notes::LossLog log;
-    printNote(Ladder::Reprint, environment, session, document, "4567", &log);
+    printNote(Ladder::Reprint, seams.environment, session, document, "4567", &log);
     return log.losses();
 }
 

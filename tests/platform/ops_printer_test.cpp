@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 
 #include "platform/directory/directory_spooler.h"
+#include "tests/support/files.h"
 #include "tests/support/own_directory.h"
 
 namespace tarn::test {
@@ -15,10 +15,7 @@ namespace fs = std::filesystem;
 
 class OpsPrinterTest : public testing::Test {
 protected:
-    std::string job(const std::string& name) const {
-        std::ifstream file(directory_ / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    }
+    std::string job(const std::string& name) const { return contentOf(directory_ / name); }
     bool has(const std::string& name) const { return fs::exists(directory_ / name); }
 
     OwnDirectory own_;

@@ -7,14 +7,11 @@
 
 #include <chrono>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <thread>
 
-#include "notes/print_note.h"
 #include "runtime/file_names.h"
 #include "runtime/wide_text.h"
-#include "tests/support/test_environment.h"
+#include "tests/notes/note_files.h"
 
 namespace tarn::test {
 namespace {
@@ -24,11 +21,6 @@ namespace fs = std::filesystem;
 std::string environmentText(const wchar_t* name) {
     const wchar_t* value = _wgetenv(name);
     return value == nullptr ? "" : utf8Of(value);
-}
-
-std::string bytesIn(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
 class WinspoolTest : public testing::Test {
@@ -45,7 +37,7 @@ protected:
         constexpr std::chrono::seconds most{20};
         const auto end = std::chrono::steady_clock::now() + most;
         std::string bytes;
-        while ((bytes = bytesIn(paper_)).size() < length &&
+        while ((bytes = contentOf(paper_)).size() < length &&
                std::chrono::steady_clock::now() < end) {
             std::this_thread::yield();
         }
@@ -106,23 +98,10 @@ TEST_F(WinspoolTest, AJobThatIsNotEndedDoesNotPrint) {
 }
 
 TEST_F(WinspoolTest, ANoteArrivesByteForByte) {
-    const std::string golden = bytesIn(pathOf(TARN_NOTE_DATA "/note_1361.prn"));
+    const std::string golden = noteFile("note_1361.prn");
     ASSERT_FALSE(golden.empty());
-    TestEnvironment seams;
     WinspoolSpooler spooler;
-    Environment environment{.http = seams.loader,
-                            .spooler = spooler,
-                            .printer = seams.printer,
-                            .boxes = seams.boxes,
-                            .clock = seams.clock,
-                            .machine = seams.machine,
-                            .baseUrl = {}};
-    Sessao session;
-    session.NCOMPANYCODE = 1361;
-    session.ID_ETB_TARN = 1;
-    XmlDocument document;
-    ASSERT_TRUE(document.loadXML(bytesIn(pathOf(TARN_NOTE_DATA "/note_1361.xml"))));
-    printNote(Ladder::Issuing, environment, session, document, "4567");
+    issueNoteFile(spooler, "note_1361.xml");
     EXPECT_EQ(arrived(golden.size() + 2), " \x0F" + golden);
 }
 

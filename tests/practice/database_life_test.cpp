@@ -10,6 +10,7 @@
 #include "practice/database/schema.h"
 #include "tests/practice/at_once.h"
 #include "tests/practice/practice_desk.h"
+#include "tests/support/files.h"
 
 namespace tarn::practice::test {
 namespace {
@@ -103,8 +104,7 @@ TEST_F(PracticeFile, ThatIsNoDatabaseIsRefusedAndLeftAlone) {
     const std::string text = "Isto não é um banco de dados.\n";
     std::ofstream(file()) << text;
     EXPECT_NE(errorOf(file()).find("não pôde ser preparado"), std::string::npos);
-    std::ifstream left(file());
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(left), {}), text);
+    EXPECT_EQ(tarn::test::contentOf(file()), text);
 }
 
 TEST_F(PracticeFile, InAFolderThatIsNotThereIsRefused) {
@@ -114,8 +114,7 @@ TEST_F(PracticeFile, InAFolderThatIsNotThereIsRefused) {
 
 TEST_F(PracticeFile, KeepsNoPasswordInClear) {
     { const PracticeServer server(optionsOf(file())); }
-    std::ifstream stream(file(), std::ios::binary);
-    const std::string bytes(std::istreambuf_iterator<char>(stream), {});
+    const std::string bytes = tarn::test::contentOf(file());
     ASSERT_NE(bytes.find("CLARA"), std::string::npos);
     EXPECT_EQ(bytes.find("pratica"), std::string::npos);
 }

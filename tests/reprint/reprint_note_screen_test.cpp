@@ -1,22 +1,13 @@
 // The reprinting job by clicks.
 #include <gmock/gmock.h>
 
-#include <fstream>
-#include <sstream>
-
+#include "tests/notes/note_files.h"
 #include "tests/notes/note_fixture.h"
 #include "tests/reprint/note_screen_test.h"
 #include "tests/support/texts.h"
 
 namespace tarn::test {
 namespace {
-
-std::string content(const char* name) {
-    std::ifstream file(std::string(TARN_NOTE_DATA) + "/" + name, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << file.rdbuf();
-    return bytes.str();
-}
 
 class ReprintScreen : public NoteScreenTest {
 protected:
@@ -28,13 +19,13 @@ protected:
 };
 
 TEST_F(ReprintScreen, TheNoteComesOutByteForByteAsOftenAsAsked) {
-    server.on("sel_gera_nf", content("note_1361.xml"));
+    server.on("sel_gera_nf", noteFile("note_1361.xml"));
     find();
     print();
     EXPECT_EQ(server.queries(), (Texts{documentQuery}));
     ASSERT_EQ(spooler.jobs.size(), 2U);
     EXPECT_EQ(spooler.bytes(0), " \x0F");
-    EXPECT_EQ(spooler.bytes(1), content("note_1361.prn"));
+    EXPECT_EQ(spooler.bytes(1), noteFile("note_1361.prn"));
     EXPECT_EQ(data(), found());
     print();
     EXPECT_EQ(server.queries(), (Texts{documentQuery, documentQuery}));
@@ -45,16 +36,16 @@ TEST_F(ReprintScreen, TheNoteComesOutByteForByteAsOftenAsAsked) {
 }
 
 TEST_F(ReprintScreen, ANoteOfTypeDIsPrinted) {
-    server.on("sel_gera_nf", content("note_1361.xml"));
+    server.on("sel_gera_nf", noteFile("note_1361.xml"));
     find("D");
     EXPECT_FALSE(option(0).isEnabled() || option(1).isEnabled());
     print();
     ASSERT_EQ(spooler.jobs.size(), 2U);
-    EXPECT_EQ(spooler.bytes(1), content("note_1361.prn"));
+    EXPECT_EQ(spooler.bytes(1), noteFile("note_1361.prn"));
 }
 
 TEST_F(ReprintScreen, NumberAndSeriesAreThoseOfTheNoteFound) {
-    server.on("sel_gera_nf", content("note_1361.xml"));
+    server.on("sel_gera_nf", noteFile("note_1361.xml"));
     find();
     named<QComboBox>(screen(), "cboSerie").setCurrentIndex(series1);  // by no choice of the user
     print();
@@ -94,7 +85,7 @@ TEST_F(ReprintScreen, AStatusThatCannotBeReadIsAFailedTransferAndTheProgramLives
 }
 
 TEST_F(ReprintScreen, AnErrorInTheNoteEndsTheProgramWithTheReport) {
-    server.on("sel_gera_nf", content("note_wrong_quantity.xml"));
+    server.on("sel_gera_nf", noteFile("note_wrong_quantity.xml"));
     find();
     print();
     ASSERT_EQ(boxes.shown.size(), 1U);
@@ -114,7 +105,7 @@ TEST_F(ReprintScreen, AnErrorInTheNoteEndsTheProgramWithTheReport) {
 
 TEST_F(ReprintScreen, AnEstablishmentWithoutAFormPrintsNothingAndSaysNothing) {
     find();
-    server.on("sel_gera_nf", content("note_1361.xml"));
+    server.on("sel_gera_nf", noteFile("note_1361.xml"));
     session.NCOMPANYCODE = 2161;
     print();
     EXPECT_THAT(spooler.calls, testing::IsEmpty());
@@ -123,13 +114,13 @@ TEST_F(ReprintScreen, AnEstablishmentWithoutAFormPrintsNothingAndSaysNothing) {
 }
 
 TEST_F(ReprintScreen, APrinterThatFailsGoesUnnoticed) {
-    server.on("sel_gera_nf", content("note_1361.xml"));
+    server.on("sel_gera_nf", noteFile("note_1361.xml"));
     spooler.failOpen = 1;
     find();
     print();
     EXPECT_EQ(boxes.shown, Boxes{});
     print();
-    EXPECT_EQ(spooler.jobs.back().bytes(), content("note_1361.prn"));
+    EXPECT_EQ(spooler.jobs.back().bytes(), noteFile("note_1361.prn"));
 }
 
 }  // namespace

@@ -192,13 +192,7 @@ TEST_F(PrintSlipsTest, NothingIsPrintedUntilTheWritesAreDone) {
         }
     } watched;
     watched.spooler = &seams.spooler;
-    Environment environment{.http = watched,
-                            .spooler = seams.spooler,
-                            .printer = seams.printer,
-                            .boxes = seams.boxes,
-                            .clock = seams.clock,
-                            .machine = seams.machine,
-                            .baseUrl = ""};
+    Environment environment = seams.with(watched);
     documents[0].ticked = true;
     printSlips(environment, session, isWallet57, {.next = "1"}, documents,
                {.untick = [](std::size_t) {}});
@@ -400,13 +394,7 @@ TEST_F(PrintSlipsTest, TheSlipPast32767EndsTheRun) {
         bool endDocument() override { return true; }
         bool closePrinter() override { return true; }
     } noPaper;
-    Environment environment{.http = seams.loader,
-                            .spooler = noPaper,
-                            .printer = seams.printer,
-                            .boxes = seams.boxes,
-                            .clock = seams.clock,
-                            .machine = seams.machine,
-                            .baseUrl = ""};
+    Environment environment = seams.with(noPaper);
     documents[0].ticked = true;
     const std::vector<GridRow> many(40000, documents[0]);
     std::size_t done = 0;

@@ -14,9 +14,10 @@
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <thread>
+
+#include "tests/support/files.h"
 
 namespace tarn::test {
 
@@ -306,8 +307,7 @@ void PrivateCupsd::stop() {
 }
 
 std::string PrivateCupsd::errorLog() const {
-    std::ifstream log(directory_ / "error_log");
-    return {std::istreambuf_iterator<char>(log), std::istreambuf_iterator<char>()};
+    return contentOf(directory_ / "error_log");
 }
 
 }  // namespace tarn::test

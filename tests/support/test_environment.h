@@ -30,6 +30,14 @@ struct TestEnvironment {
                             .machine = machine,
                             .baseUrl = "http://servidor/p.asp?",
                             .acts = &acts};
+
+    // The same seams with another server, other raw paper or other pages.
+    Environment with(HttpLoader& other) { return withSeams(other, spooler, printer); }
+    Environment with(Spooler& other) { return withSeams(loader, other, printer); }
+    Environment with(Printer& other) { return withSeams(loader, spooler, other); }
+
+private:
+    Environment withSeams(HttpLoader& server, Spooler& paper, Printer& pages);
 };
 
 }  // namespace tarn::test
