@@ -1,8 +1,5 @@
 #include "tests/desk/printed_documents.h"
 
-#include <fstream>
-#include <iterator>
-
 #include "billing/alert.h"
 #include "billing/generate_note.h"
 #include "billing/order_sheet.h"
@@ -16,22 +13,25 @@
 #include "slips/print_slips.h"
 #include "tests/slips/slip_fixture.h"
 #include "tests/support/answers.h"
+#include "tests/support/files.h"
 #include "tests/support/sessions.h"
 #include "tests/support/user.h"
 
 namespace tarn::test {
 namespace {
 
-std::string content(const std::string& file) {
-    std::ifstream in(std::string(TARN_TESTS) + "/" + file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
 std::vector<GridRow> ticked(std::vector<GridRow> rows) {
     for (GridRow& row : rows) {
         row.ticked = true;
     }
     return rows;
+}
+
+// Of a company and an establishment, which decide the form.
+template <int company, int establishment, void (*print)(PrintingDesk&)>
+void at(PrintingDesk& desk) {
+    desk.session = sessionOf(company, establishment);
+    print(desk);
 }
 
 // Notes
@@ -43,51 +43,22 @@ struct NoAlert : AlertDialog {
 void issue(PrintingDesk& desk) {
     desk.machine.loader.on("Seleciona_Obs", answers::observation(""))
         .on("SP_GERA_NF", answers::generatedNote("8529", "U"))
-        .on("sel_gera_nf", content("notes/data/note_1361.xml"));
+        .on("sel_gera_nf", contentOf(TARN_TESTS "/notes/data/note_1361.xml"));
     NoAlert alert;
     generateNote(desk.environment, desk.session, alert, "45112");
 }
 
-void issueRaw(PrintingDesk& desk) {
-    desk.session = sessionOf(1361, 1);
-    issue(desk);
-}
-
-void issueDrawn(PrintingDesk& desk) {
-    desk.session = sessionOf(2541, 1);
-    issue(desk);
-}
-
 void reprint(PrintingDesk& desk) {
-    desk.machine.loader.on("sel_gera_nf", content("notes/data/note_1361.xml"));
+    desk.machine.loader.on("sel_gera_nf", contentOf(TARN_TESTS "/notes/data/note_1361.xml"));
     reprintNote(desk.environment, desk.session, "8529", "U");
-}
-
-void reprintRaw(PrintingDesk& desk) {
-    desk.session = sessionOf(1361, 1);
-    reprint(desk);
-}
-
-void reprintDrawn(PrintingDesk& desk) {
-    desk.session = sessionOf(2541, 6001);
-    reprint(desk);
 }
 
 // Order sheets
 
 void sheet(PrintingDesk& desk) {
-    desk.machine.loader.on("sel_impr_ordem_fatu", content("billing/data/order_in_parcels.xml"));
+    desk.machine.loader.on("sel_impr_ordem_fatu",
+                           contentOf(TARN_TESTS "/billing/data/order_in_parcels.xml"));
     printSelectedOrder(desk.environment, desk.session, "45112");
-}
-
-void plainSheet(PrintingDesk& desk) {
-    desk.session = sessionOf(2041, 1);
-    sheet(desk);
-}
-
-void priceSheet(PrintingDesk& desk) {
-    desk.session = sessionOf(1361, 1);
-    sheet(desk);
 }
 
 // Bills
@@ -190,10 +161,11 @@ std::vector<PrintedDocument> rawDocuments() {
     using labels::LabelForm;
     const std::string anew = "anule-o e emita outro com o número seguinte";
     const std::string sameNumbers = "imprima de novo com os mesmos números";
-    return {{"note", issueRaw, "NF 008529 gerada", "use ReImpressão de NF"},
-            {"note again", reprintRaw, "NF 008529 lida do servidor", again},
-            {"order sheet", plainSheet, "Folha da ordem 45112 lida do servidor", again},
-            {"order sheet with prices", priceSheet, "Folha da ordem 45112 lida do servidor", again},
+    return {{"note", at<1361, 1, issue>, "NF 008529 gerada", "use ReImpressão de NF"},
+            {"note again", at<1361, 1, reprint>, "NF 008529 lida do servidor", again},
+            {"order sheet", at<2041, 1, sheet>, "Folha da ordem 45112 lida do servidor", again},
+            {"order sheet with prices", at<1361, 1, sheet>, "Folha da ordem 45112 lida do servidor",
+             again},
             {"slips of portfolio 57", slips57,
              "2 boletos (nº 0000000000012 a 0000000000013) preparados", sameNumbers},
             {"slips", slips101, "2 boletos (nº 0000012 a 0000013) preparados", sameNumbers},
@@ -205,8 +177,8 @@ std::vector<PrintedDocument> rawDocuments() {
 
 std::vector<PrintedDocument> drawnDocuments() {
     using labels::LabelForm;
-    return {{"note", issueDrawn, "NF 008529 gerada", "use ReImpressão de NF"},
-            {"note again", reprintDrawn, "NF 008529 lida do servidor", again},
+    return {{"note", at<2541, 1, issue>, "NF 008529 gerada", "use ReImpressão de NF"},
+            {"note again", at<2541, 6001, reprint>, "NF 008529 lida do servidor", again},
             {"bills", duplicates, "2 duplicatas preparadas", again, false},
             {"triplicates", triplicates, "2 triplicatas preparadas", again, false},
             {"receipts", receipts, "2 recibos preparados", again, false},
