@@ -5,6 +5,7 @@
 #include "apps/tarnimpressora/files.h"
 #include "apps/tarnimpressora/holding.h"
 #include "apps/tarnimpressora/reception.h"
+#include "cli/own_console.h"
 #include "printer/printer_window.h"
 #include "widgets/look.h"
 
@@ -31,6 +32,7 @@ int runWithWindow(int argc, char** argv, const Options& options,
     if (!printFiles(options, roll)) {
         return 1;
     }
+    cli::closeOwnConsole();
     dotmatrix::JobIntake intake(roll);
     dotmatrix::HoldDesk desk(systemQueues());
     dotmatrix::PrinterWindow window(roll, intake, desk, looks, options.itemLines);
