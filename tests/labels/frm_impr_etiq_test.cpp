@@ -131,11 +131,21 @@ TEST_F(SelectionScreen, TabFollowsTheFilters) {
     inSelection([](QWidget& selection) {
         pick(selection, "cboPais", 1);
         pick(selection, "cboEstado", 1);
-        EXPECT_EQ(tabOrder(selection, "cboFilial", 19),
-                  (Texts{"cboFilial", "cboPais", "cboEstado", "cboCidade", "txtProd", "txtCepDe",
-                         "txtCepAte", "txtDtVndDe", "txtDtVndAte", "txtVlrDe", "txtVlrAte",
-                         "txtQtde", "txtQtAte", "optCep", "optNome", "sprDados", "cmdPesquisar",
-                         "cmdImprimir", "cmdVoltar"}));
+        EXPECT_EQ(
+            tabOrder(selection, "cboFilial", 18),
+            (Texts{"cboFilial", "cboPais", "cboEstado", "cboCidade", "txtProd", "txtCepDe",
+                   "txtCepAte", "txtDtVndDe", "txtDtVndAte", "txtVlrDe", "txtVlrAte", "txtQtde",
+                   "txtQtAte", "optCep", "sprDados", "cmdPesquisar", "cmdImprimir", "cmdVoltar"}));
+    });
+}
+
+// Tab stops at the two options once, at the one chosen.
+TEST_F(SelectionScreen, ArrowsChooseTheOrder) {
+    inSelection([](QWidget& selection) {
+        EXPECT_EQ(tabOrder(selection, "txtQtAte", 2), (Texts{"txtQtAte", "optCep"}));
+        key(selection, Qt::Key_Right);
+        EXPECT_TRUE(named<QRadioButton>(selection, "optNome").isChecked());
+        EXPECT_EQ(tabOrder(selection, "txtQtAte", 3), (Texts{"txtQtAte", "optNome", "sprDados"}));
     });
 }
 

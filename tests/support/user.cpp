@@ -50,8 +50,16 @@ std::string focused(const QWidget& window) {
     return widget == nullptr ? std::string() : widget->objectName().toStdString();
 }
 
+// With the focus events of a window in front, by which options decide where Tab stops.
+static void bringFocusTo(QWidget& field) {
+    field.activateWindow();
+    field.setFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&field] { return QApplication::focusWidget() == &field; }))
+        << field.objectName().toStdString();
+}
+
 std::vector<std::string> tabOrder(QWidget& window, const char* first, std::size_t count) {
-    named<QWidget>(window, first).setFocus();
+    bringFocusTo(named<QWidget>(window, first));
     std::vector<std::string> order{focused(window)};
     while (order.size() < count) {
         key(window, Qt::Key_Tab);
