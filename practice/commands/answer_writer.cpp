@@ -36,6 +36,16 @@ void writeElement(xmlTextWriter* writer, const Element& element) {
     require(xmlTextWriterEndElement(writer));
 }
 
+// libxml2's own has its converter's spelling, which is another one where a client in the same
+// program has taught it the page.
+std::string declarationOf(Encoding encoding) {
+    std::string_view name = "windows-1252";
+    if (encoding != Encoding::Windows1252) {
+        name = encoding == Encoding::Utf8 ? "UTF-8" : "ISO-8859-1";
+    }
+    return "<?xml version=\"1.0\" encoding=\"" + std::string(name) + "\"?>\n";
+}
+
 }  // namespace
 
 std::optional<Encoding> encodingByName(std::string_view name) {
@@ -72,8 +82,9 @@ std::string writeAnswer(const Element& root, Encoding encoding) {
     writeElement(writer.get(), root);
     require(xmlTextWriterEndDocument(writer.get()));
     require(xmlTextWriterFlush(writer.get()));
-    return {reinterpret_cast<const char*>(xmlBufferContent(buffer.get())),
-            static_cast<std::size_t>(xmlBufferLength(buffer.get()))};
+    const std::string_view document(reinterpret_cast<const char*>(xmlBufferContent(buffer.get())),
+                                    static_cast<std::size_t>(xmlBufferLength(buffer.get())));
+    return declarationOf(encoding).append(document.substr(document.find('\n') + 1));
 }
 
 }  // namespace tarn::practice

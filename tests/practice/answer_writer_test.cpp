@@ -22,6 +22,13 @@ TEST(AnswerWriter, DeclaresTheEncodingAndKeepsTheOrderOfAttributes) {
               "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<R A=\"1\" B=\"x\"/>\n");
 }
 
+TEST(AnswerWriter, DeclaresTheSameInAProgramThatHasReadAnAnswer) {
+    XmlDocument document;
+    ASSERT_TRUE(document.loadXML("<?xml version='1.0' encoding='windows-1252'?><R/>"));
+    EXPECT_EQ(writeAnswer(oneValue("x"), Encoding::Windows1252),
+              "<?xml version=\"1.0\" encoding=\"windows-1252\"?>\n<R A=\"1\" B=\"x\"/>\n");
+}
+
 TEST(AnswerWriter, WritesOneByteACharacterInThe8BitPages) {
     EXPECT_NE(writeAnswer(oneValue("ação €"), Encoding::Windows1252).find("a\xE7\xE3o \x80\""),
               std::string::npos);
