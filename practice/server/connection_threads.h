@@ -4,13 +4,11 @@
 
 #include <httplib.h>
 
-#include <condition_variable>
 #include <cstddef>
-#include <deque>
 #include <functional>
-#include <mutex>
-#include <thread>
-#include <vector>
+#include <utility>
+
+#include "practice/server/work_threads.h"
 
 namespace tarn::practice {
 
@@ -18,18 +16,11 @@ class ConnectionThreads : public httplib::TaskQueue {
 public:
     static constexpr std::size_t mostThreads = 512;  // more connections wait for one
 
-    void enqueue(std::function<void()> task) override;
-    void shutdown() override;  // after the tasks already taken
+    void enqueue(std::function<void()> task) override { threads_.post(std::move(task)); }
+    void shutdown() override { threads_.end(); }
 
 private:
-    void work();
-
-    std::mutex mutex_;
-    std::condition_variable wakeUp_;
-    std::deque<std::function<void()>> tasks_;
-    std::size_t idle_ = 0;
-    bool ending_ = false;
-    std::vector<std::thread> threads_;
+    WorkThreads threads_{mostThreads};
 };
 
 }  // namespace tarn::practice

@@ -2,24 +2,21 @@
 // used only by the thread that made it.
 #pragma once
 
-#include <condition_variable>
-#include <deque>
-#include <functional>
 #include <future>
 #include <memory>
-#include <mutex>
-#include <thread>
 #include <type_traits>
 #include <utility>
+
+#include "practice/server/work_threads.h"
 
 namespace tarn::practice {
 
 class Executor {
 public:
-    Executor();
-    ~Executor();  // after the tasks already taken
-    Executor(const Executor&) = delete;
-    Executor& operator=(const Executor&) = delete;
+    // The thread is made here: run() can't fail for want of one.
+    Executor() {
+        run([] {});
+    }
 
     // Blocks until the task is done; what it throws is thrown here.
     template <class Task>
@@ -27,19 +24,12 @@ public:
         using Packaged = std::packaged_task<std::invoke_result_t<Task&>()>;
         auto packaged = std::make_shared<Packaged>(std::move(task));
         auto result = packaged->get_future();
-        post([packaged] { (*packaged)(); });
+        thread_.post([packaged] { (*packaged)(); });
         return result.get();
     }
 
 private:
-    void post(std::function<void()> task);
-    void work();
-
-    std::mutex mutex_;
-    std::condition_variable wakeUp_;
-    std::deque<std::function<void()>> tasks_;
-    bool ending_ = false;
-    std::thread thread_;
+    WorkThreads thread_{1};
 };
 
 }  // namespace tarn::practice

@@ -1,27 +1,33 @@
-#include "practice/server/connection_threads.h"
+#include "practice/server/work_threads.h"
 
 #include <system_error>
 #include <utility>
 
 namespace tarn::practice {
 
-void ConnectionThreads::enqueue(std::function<void()> task) {
+void WorkThreads::post(std::function<void()> task) {
     const std::lock_guard lock(mutex_);
     tasks_.push_back(std::move(task));
-    if (tasks_.size() > idle_ && threads_.size() < mostThreads) {
-        try {
-            threads_.emplace_back([this] { work(); });
-        } catch (const std::system_error&) {
-            // The machine gives no more threads: those that are there take it in turn.
-            if (threads_.empty()) {
-                throw;
-            }
-        }
+    if (tasks_.size() > idle_ && threads_.size() < most_) {
+        makeThread();
     }
     wakeUp_.notify_one();
 }
 
-void ConnectionThreads::shutdown() {
+// With the mutex held.
+void WorkThreads::makeThread() {
+    try {
+        threads_.emplace_back([this] { work(); });
+    } catch (const std::system_error&) {
+        // The machine gives no more threads: those that are there take it in turn.
+        if (threads_.empty()) {
+            tasks_.pop_back();
+            throw;
+        }
+    }
+}
+
+void WorkThreads::end() {
     {
         const std::lock_guard lock(mutex_);
         ending_ = true;
@@ -33,7 +39,7 @@ void ConnectionThreads::shutdown() {
     threads_.clear();
 }
 
-void ConnectionThreads::work() {
+void WorkThreads::work() {
     for (;;) {
         std::unique_lock lock(mutex_);
         ++idle_;
