@@ -3,6 +3,7 @@
 #include <array>
 
 #include "tests/fuzz/wild_values.h"
+#include "tests/support/xml_text.h"
 
 namespace tarn::fuzz {
 
@@ -84,44 +85,9 @@ const Attributes portfolio{{"ID_CRT_COB", "5"},
                            {"CD_AGE_BAN_CNAB", "112-3"},
                            {"NR_CCOR_CNAB", "45678-9"}};
 
-std::string escaped(std::string_view text) {
-    std::string out;
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                out += "&amp;";
-                break;
-            case '<':
-                out += "&lt;";
-                break;
-            case '"':
-                out += "&quot;";
-                break;
-            case '\n':
-            case '\r':
-            case '\t':
-                out += "&#" + std::to_string(static_cast<int>(c)) + ";";
-                break;
-            default:
-                out += c;
-                break;
-        }
-    }
-    return out;
-}
-
-std::string element(std::string_view name, const Attributes& row) {
-    std::string out = "<";
-    out += name;
-    for (const auto& [attribute, value] : row) {
-        out.append(" ").append(attribute).append("=\"").append(escaped(value)).append("\"");
-    }
-    return out + "/>";
-}
-
 std::string changed(std::string_view name, Attributes row, ByteSource& source, std::size_t rarity) {
     mutate(row, source, rarity);
-    return element(name, row);
+    return test::elementText(name, row);
 }
 
 std::size_t madeRarity(ByteSource& source) {

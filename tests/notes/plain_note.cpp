@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <stdexcept>
 
+#include "tests/support/xml_text.h"
+
 namespace tarn::test {
 
 namespace {
@@ -258,41 +260,8 @@ void addFields(Attributes& row, const Table& table, bool overflowing) {
     }
 }
 
-std::string escaped(std::string_view text) {
-    std::string out;
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                out += "&amp;";
-                break;
-            case '<':
-                out += "&lt;";
-                break;
-            case '"':
-                out += "&quot;";
-                break;
-            case '\t':
-                out += "&#9;";
-                break;
-            case '\n':
-                out += "&#10;";
-                break;
-            case '\r':
-                out += "&#13;";
-                break;
-            default:
-                out += c;
-        }
-    }
-    return out;
-}
-
 std::string rowXml(std::string_view name, const Attributes& attributes) {
-    std::string out = "  <" + std::string(name);
-    for (const auto& [field, value] : attributes) {
-        out += " " + field + "=\"" + escaped(value) + "\"";
-    }
-    return out + "/>\n";
+    return "  " + elementText(name, attributes) + "\n";
 }
 
 template <typename Table>

@@ -1,0 +1,46 @@
+// Texts as they stand in XML.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tarn::test {
+
+// In double quotes: a line end or a tab is a reference, or a reader would take it for a blank.
+inline std::string attributeText(std::string_view text) {
+    std::string out;
+    for (const char c : text) {
+        switch (c) {
+            case '&':
+                out += "&amp;";
+                break;
+            case '<':
+                out += "&lt;";
+                break;
+            case '"':
+                out += "&quot;";
+                break;
+            case '\n':
+            case '\r':
+            case '\t':
+                out += "&#" + std::to_string(static_cast<int>(c)) + ";";
+                break;
+            default:
+                out += c;
+                break;
+        }
+    }
+    return out;
+}
+
+// <name field="value" .../>; `attributes` is a map of texts.
+template <typename Attributes>
+std::string elementText(std::string_view name, const Attributes& attributes) {
+    std::string out = "<" + std::string(name);
+    for (const auto& [field, value] : attributes) {
+        out += " " + field + "=\"" + attributeText(value) + "\"";
+    }
+    return out + "/>";
+}
+
+}  // namespace tarn::test
