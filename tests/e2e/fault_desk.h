@@ -178,18 +178,8 @@ protected:
     std::size_t rowsOf(const std::string& query) {
         return asked(query).selectSingleNode("xml/rs:data").childCount();
     }
-    // The rows of a statement, values separated by "|".
     std::vector<std::string> stored(const std::string& sql, int columns) {
-        practice::Rows rows = database.select(sql);
-        std::vector<std::string> all;
-        while (rows.next()) {
-            std::string line = rows.text(0);
-            for (int column = 1; column < columns; ++column) {
-                line += "|" + rows.text(column);
-            }
-            all.push_back(line);
-        }
-        return all;
+        return rowsIn(database, sql, columns);
     }
 
     QTemporaryDir folder;

@@ -106,16 +106,7 @@ protected:
     }
     std::vector<std::string> stored(const std::string& sql, int columns) {
         practice::Database there{serverFile.toStdString()};
-        practice::Rows rows = there.select(sql);
-        std::vector<std::string> all;
-        while (rows.next()) {
-            std::string line = rows.text(0);
-            for (int column = 1; column < columns; ++column) {
-                line += "|" + rows.text(column);
-            }
-            all.push_back(line);
-        }
-        return all;
+        return rowsIn(there, sql, columns);
     }
 
     const QString serverFile = folder.filePath("servidor.db");
