@@ -84,9 +84,6 @@ constexpr std::array towns = {
 std::span<const CountryRow> countryRows() {
     return countries;
 }
-std::span<const StateRow> stateRows() {
-    return states;
-}
 std::span<const TownRow> townRows() {
     return towns;
 }

@@ -28,7 +28,6 @@ struct TownRow {
 };
 
 std::span<const CountryRow> countryRows();
-std::span<const StateRow> stateRows();
 std::span<const TownRow> townRows();
 
 const StateRow& stateOf(const TownRow& town);

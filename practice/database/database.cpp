@@ -73,10 +73,6 @@ std::optional<std::string> Rows::nullableText(int column) const {
     return isNull(column) ? std::nullopt : std::optional(text(column));
 }
 
-std::optional<std::int64_t> Rows::nullableInteger(int column) const {
-    return isNull(column) ? std::nullopt : std::optional(integer(column));
-}
-
 Database::Database(const std::string& address)
     : name_(QUuid::createUuid().toString(QUuid::WithoutBraces)), server_(isServerAddress(address)) {
     if (QCoreApplication::instance() == nullptr) {

@@ -54,7 +54,6 @@ public:
     std::int64_t integer(int column) const { return query_.value(column).toLongLong(); }
     std::string text(int column) const { return query_.value(column).toString().toStdString(); }
     std::optional<std::string> nullableText(int column) const;
-    std::optional<std::int64_t> nullableInteger(int column) const;
     QDate date(int column) const { return query_.value(column).toDate(); }
 
 private:

@@ -3,7 +3,8 @@
 #include <QtEndian>
 #include <algorithm>
 #include <map>
-#include <optional>
+#include <utility>
+#include <vector>
 
 namespace tarn::pdf {
 

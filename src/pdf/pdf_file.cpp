@@ -2,10 +2,10 @@
 
 #include <QIODevice>
 #include <QString>
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 
 namespace tarn::pdf {
 

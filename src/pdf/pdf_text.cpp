@@ -1,3 +1,4 @@
+// The texts of a page.
 #include <QPainterPath>
 #include <QTextLayout>
 #include <QTransform>

@@ -217,13 +217,11 @@ TEST(Mask, AppendsBehindWhatIsThere) {
     EXPECT_EQ(line, "TOTAL 1.234,50");
 }
 
-TEST(Mask, TheMaskIsTakenApartAtCompileTime) {
-    constexpr NumberMask mask("#,#00");
-    static_assert(mask.wholeDigits == 2 && mask.grouped && mask.mostDecimals == 0);
-    constexpr NumberMask amounts("##,###0.00");
-    static_assert(amounts.wholeDigits == 1 && amounts.grouped && amounts.leastDecimals == 2);
-    SUCCEED();
-}
+// Taken apart as they are compiled.
+constexpr NumberMask wholeMask("#,#00");
+static_assert(wholeMask.wholeDigits == 2 && wholeMask.grouped && wholeMask.mostDecimals == 0);
+constexpr NumberMask amountMask("##,###0.00");
+static_assert(amountMask.wholeDigits == 1 && amountMask.grouped && amountMask.leastDecimals == 2);
 
 TEST(MaskOverText, EmptyAndUnreadableTextsStay) {
     EXPECT_EQ(formatText("", "0.00"), "");
