@@ -66,7 +66,8 @@ void PainterCanvas::run(const PrintedRun& run) {
     painter_.restore();
 }
 
-void PainterCanvas::background(PaperUnits /*height*/, const std::string& /*form*/,
+void PainterCanvas::background(PaperUnits /*height*/,
+                               const std::shared_ptr<const FormDesign>& /*form*/,
                                const std::function<void()>& draw) {
     draw();
 }

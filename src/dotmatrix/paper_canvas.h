@@ -9,7 +9,7 @@
 #include <QRectF>
 #include <QString>
 #include <functional>
-#include <string>
+#include <memory>
 
 #include "dotmatrix/continuous_paper.h"
 
@@ -61,9 +61,9 @@ public:
     virtual void picture(const QRectF& area, const QImage& image) = 0;
     virtual void words(const Words& words) = 0;
     virtual void run(const PrintedRun& run) = 0;
-    // What is the same under the print of all forms of this height and name; `draw` puts it
+    // What is the same under the print of all forms of this height and design; `draw` puts it
     // here.
-    virtual void background(PaperUnits height, const std::string& form,
+    virtual void background(PaperUnits height, const std::shared_ptr<const FormDesign>& form,
                             const std::function<void()>& draw) = 0;
 };
 

@@ -73,8 +73,7 @@ void PaperPainter::paintForm(QPainter& painter, const FormPage& page) const {
 
 void PaperPainter::paintForm(PaperCanvas& canvas, const FormPage& page) const {
     const double height = static_cast<double>(page.shape.height) * pointsPerUnit;
-    const std::string form = page.design ? page.design->name : std::string();
-    canvas.background(page.shape.height, form,
+    canvas.background(page.shape.height, page.design,
                       [&] { paintBackground(canvas, page.design.get(), height); });
     if (options_.ruler) {
         const double strip = sheet_.strip * pointsPerInch;

@@ -46,7 +46,7 @@ void PdfCanvas::words(const Words& words) {
     drawing_.words(layout, baseline, words.colour);
 }
 
-void PdfCanvas::background(PaperUnits height, const std::string& form,
+void PdfCanvas::background(PaperUnits height, const std::shared_ptr<const FormDesign>& form,
                            const std::function<void()>& draw) {
     const auto [place, isNew] = backgrounds_.try_emplace({height, form}, 0);
     if (isNew) {

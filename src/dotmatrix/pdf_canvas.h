@@ -39,7 +39,7 @@ public:
     void picture(const QRectF& area, const QImage& image) override;
     void words(const Words& words) override;
     void run(const PrintedRun& run) override;
-    void background(PaperUnits height, const std::string& form,
+    void background(PaperUnits height, const std::shared_ptr<const FormDesign>& form,
                     const std::function<void()>& draw) override;
 
 private:
@@ -65,7 +65,7 @@ private:
     pdf::PdfDrawing drawing_;
     const PrintFont& print_;
     std::array<std::optional<Look>, 4> looks_;
-    std::map<std::pair<PaperUnits, std::string>, int> backgrounds_;
+    std::map<std::pair<PaperUnits, std::shared_ptr<const FormDesign>>, int> backgrounds_;
     pdf::PdfText piece_;
 };
 

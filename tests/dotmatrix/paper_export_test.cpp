@@ -6,7 +6,9 @@
 #include <map>
 #include <set>
 
+#include "dotmatrix/form_design.h"
 #include "dotmatrix/paper_export.h"
+#include "dotmatrix/paper_roll.h"
 #include "tests/dotmatrix/paper_page.h"
 #include "tests/dotmatrix/poppler.h"
 #include "tests/dotmatrix/printer_rig.h"
@@ -129,6 +131,27 @@ TEST_F(PaperFiles, PdfStoresAFaceAndTheSheetOnce) {
     EXPECT_LT((many - few) / 40, 1600);
     const QString fonts = output(QStringLiteral("pdffonts"), {file("many.pdf")});
     EXPECT_EQ(fonts.count(QStringLiteral("TrueType")), 1) << fonts.toStdString();
+}
+
+// What a user draws may be called as another form is.
+TEST_F(PaperFiles, PdfTellsFormsOfOneNameAndHeightApart) {
+    const auto formWith = [](const char* words) {
+        FormDesign form;
+        form.name = "nota";
+        form.texts.push_back({.x = 0, .y = 0, .text = words});
+        return std::make_shared<const FormDesign>(std::move(form));
+    };
+    PaperRoll roll(Dialect{});
+    for (const char* words : {"primeira", "segunda"}) {
+        roll.startJob("job", {.form = formWith(words), .told = true});
+        ASSERT_FALSE(roll.feed("\r\n\r\ntexto\r\n"));
+    }
+    ASSERT_EQ(roll.printedForms(), 2U);
+    ASSERT_FALSE(writePdf(roll.pages(), {}, file("forms.pdf")));
+    const QString text =
+        output(QStringLiteral("pdftotext"), {file("forms.pdf"), QStringLiteral("-")});
+    EXPECT_TRUE(text.contains(QStringLiteral("primeira"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("segunda"))) << text.toStdString();
 }
 
 TEST_F(PaperFiles, PdfStoresAPictureOnce) {
