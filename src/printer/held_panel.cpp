@@ -17,7 +17,8 @@ using hold::State;
 constexpr int numberColumn = 0;
 constexpr int timeColumn = 1;
 constexpr int nameColumn = 2;
-constexpr int stateColumn = 3;
+constexpr int findingsColumn = 3;
+constexpr int stateColumn = 4;
 
 QString arrivalOf(const hold::Job& job) {
     const QDateTime arrived = QDateTime::fromMSecsSinceEpoch(job.arrived);
@@ -71,9 +72,10 @@ HeldPanel::HeldPanel(HoldDesk& desk, QWidget* parent)
     queue_->setWordWrap(true);
     table_->setObjectName(QStringLiteral("heldJobs"));
     table_->setAccessibleName(QStringLiteral("Trabalhos retidos"));
-    table_->setColumnCount(4);
+    table_->setColumnCount(5);
     table_->setHorizontalHeaderLabels({QStringLiteral("Nº"), QStringLiteral("Chegou"),
-                                       QStringLiteral("Trabalho"), QStringLiteral("Estado")});
+                                       QStringLiteral("Trabalho"), QStringLiteral("Conferência"),
+                                       QStringLiteral("Estado")});
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     table_->setSelectionMode(QAbstractItemView::SingleSelection);
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -176,7 +178,20 @@ void HeldPanel::fill(int row, const HeldEntry& entry) {
     put(numberColumn, QString::number(entry.job.number));
     put(timeColumn, arrivalOf(entry.job));
     put(nameColumn, QString::fromStdString(entry.job.name));
+    const auto findings = findings_.find(entry.job.number);
+    put(findingsColumn, findings == findings_.end() ? QString() : findings->second);
     put(stateColumn, stateOf(desk_, entry.job));
+}
+
+void HeldPanel::setFindings(int number, const QString& words) {
+    findings_[number] = words;
+    for (int row = 0; row < table_->rowCount(); ++row) {
+        QTableWidgetItem* item = table_->item(row, findingsColumn);
+        if (item->data(Qt::UserRole).toInt() == number) {
+            item->setText(words);
+            item->setToolTip(words);
+        }
+    }
 }
 
 std::optional<int> HeldPanel::chosen() const {

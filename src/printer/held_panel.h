@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <map>
 
 #include "printer/hold_desk.h"
 
@@ -21,6 +22,8 @@ public:
     // The job of the chosen row; nothing where none is.
     std::optional<int> chosen() const;
     void choose(int number);
+    // What the paper shows of a job, in a word for its row.
+    void setFindings(int number, const QString& words);
 
     void release();
     void releaseAll();
@@ -44,6 +47,7 @@ private:
     std::vector<const HeldEntry*> shown() const;
 
     HoldDesk& desk_;
+    std::map<int, QString> findings_;  // by number
     QLabel* queue_;
     QTableWidget* table_;
     QPushButton* release_;

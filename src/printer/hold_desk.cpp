@@ -63,10 +63,10 @@ void HoldDesk::showHeld(JobIntake& intake) {
         const auto bytes = bytesOf(entry.job.number);
         if (bytes && intake.begin(QString::fromStdString(entry.job.name), JobIntake::Kind::LookedAt,
                                   entry.job.kind)) {
-            emit kept(entry.job.number);
             if (intake.take(*bytes)) {
                 intake.end();
             }
+            emit kept(entry.job.number);
         }
     }
 }

@@ -3,27 +3,25 @@
 #include <QDockWidget>
 
 #include "printer/held_panel.h"
+#include "printer/paper_check.h"
 #include "printer/question_box.h"
 #include "printer/window_commands.h"
 
 namespace tarn::dotmatrix {
 
 HoldView::HoldView(QMainWindow& window, HoldDesk& desk, PaperRoll& roll, PaperView& view,
-                   const WindowQuestions& questions)
+                   const WindowQuestions& questions, const PaintOptions& looks)
     : QObject(&window),
       window_(window),
       desk_(desk),
       roll_(roll),
       view_(view),
-      questions_(questions) {
+      questions_(questions),
+      looks_(looks) {
     makeDock();
     connect(&desk_, &HoldDesk::changed, this, &HoldView::changed);
-    connect(&desk_, &HoldDesk::kept, this, [this](int number) {
-        if (!roll_.jobs().empty()) {
-            places_[number] = roll_.jobs().size() - 1;
-        }
-        dock_->show();
-    });
+    connect(&desk_, &HoldDesk::changed, this, &HoldView::tellIfOpen);
+    connect(&desk_, &HoldDesk::kept, this, &HoldView::kept);
     connect(&desk_, &HoldDesk::troubled, this, [this](int number, const QString& text) {
         panel_->choose(number);
         emit told(text);
@@ -32,6 +30,32 @@ HoldView::HoldView(QMainWindow& window, HoldDesk& desk, PaperRoll& roll, PaperVi
         emit told(
             QStringLiteral("trabalho %1: repassado à fila %2.").arg(number).arg(desk_.queue()));
     });
+}
+
+void HoldView::tellIfOpen() {
+    if (desk_.isOpen() && !wasOpen_) {
+        wasOpen_ = true;
+        emit opened();
+    }
+}
+
+void HoldView::kept(int number) {
+    if (!roll_.jobs().empty()) {
+        const std::size_t job = roll_.jobs().size() - 1;
+        places_[number] = job;
+        panel_->setFindings(number, findingsOf(job));
+    }
+    dock_->show();
+}
+
+// How the job's print lies on its form, in a word.
+QString HoldView::findingsOf(std::size_t job) const {
+    const auto faults = faultsOfJob(roll_, job, looks_.design.get());
+    if (!faults) {
+        return QStringLiteral("sem formulário");
+    }
+    return faults->empty() ? QStringLiteral("nada cortado")
+                           : QStringLiteral("%1 lugar(es)").arg(faults->size());
 }
 
 void HoldView::makeDock() {

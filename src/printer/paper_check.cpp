@@ -156,8 +156,33 @@ std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design)
             judge(row, run,
                   {.region = {0, line.y, 0, line.y + rowHeight},
                    .form = page.form,
+                   .job = line.job,
                    .row = static_cast<std::size_t>(down / rowHeight) + 1},
                   faults);
+        }
+    }
+    return faults;
+}
+
+std::optional<std::vector<PaperFault>> faultsOfJob(PaperRoll& roll, std::size_t job,
+                                                   const FormDesign* underAll) {
+    const auto& jobs = roll.jobs();
+    const std::size_t last =
+        job + 1 < jobs.size() ? jobs[job + 1].form : roll.forms().formAt(roll.headY());
+    std::optional<std::vector<PaperFault>> faults;
+    for (std::size_t form = jobs[job].form; form <= last; ++form) {
+        const auto page = roll.page(form);
+        const FormDesign* design = page->design ? page->design.get() : underAll;
+        if (design == nullptr || design->boxes.empty()) {
+            continue;
+        }
+        if (!faults) {
+            faults.emplace();
+        }
+        for (PaperFault& fault : faultsOn(*page, *design)) {
+            if (fault.job == job + 1) {
+                faults->push_back(std::move(fault));
+            }
         }
     }
     return faults;

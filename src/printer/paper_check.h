@@ -4,9 +4,11 @@
 
 #include <QString>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "dotmatrix/form_design.h"
+#include "dotmatrix/paper_roll.h"
 #include "printer/paper_region.h"
 
 namespace tarn::dotmatrix {
@@ -20,6 +22,7 @@ struct PaperFault {
     Kind kind{};
     PaperRegion region{};
     std::size_t form = 0;    // from 0
+    std::size_t job = 0;     // from 1
     std::size_t row = 0;     // of the form, from 1
     std::size_t column = 0;  // from 1
     QString box{};           // its words; empty for none
@@ -34,5 +37,10 @@ const FormBox* boxAt(const FormDesign& design, PaperUnits x, PaperUnits y);
 
 // From the top down, as the form's boxes are drawn.
 std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design);
+
+// Of the print of one of the roll's jobs, by its index; nothing where no form with boxes lies
+// under it. `underAll` lies under what has none of its own, null for none.
+std::optional<std::vector<PaperFault>> faultsOfJob(PaperRoll& roll, std::size_t job,
+                                                   const FormDesign* underAll);
 
 }  // namespace tarn::dotmatrix

@@ -20,6 +20,8 @@ constexpr double wheelStep = 1.15;
 constexpr std::chrono::milliseconds untilReadOut(150);
 constexpr PaperUnits lineHeight = unitsPerInch / 6;
 const QColor desk(203, 209, 209);
+const QColor fullColour(240, 170, 40, 90);
+const QColor faultColour(214, 60, 50, 90);
 const QColor selectedColour(31, 111, 120, 60);
 const QColor foundColour(255, 196, 0, 110);
 
@@ -236,11 +238,31 @@ PaperSpot PaperView::spotAt(const Point& point) {
     }
     spot.column = column + static_cast<std::size_t>((point.x - from) / cell);
     const auto page = roll_.page(form);
-    if (const auto design = page->design ? page->design : options_.design) {
+    if (const FormDesign* design = designUnder(*page)) {
         const FormBox* box = boxAt(*design, point.x, point.y - shape.top);
         spot.box = box != nullptr ? QString::fromStdString(box->label) : QString();
     }
     return spot;
+}
+
+const FormDesign* PaperView::designUnder(const FormPage& page) const {
+    return page.design ? page.design.get() : options_.design.get();
+}
+
+void PaperView::showFaults(bool on) {
+    faults_ = on;
+    viewport()->update();
+}
+
+void PaperView::paintFaults(QPainter& painter, const FormPage& page) const {
+    const FormDesign* design = designUnder(page);
+    if (!faults_ || design == nullptr || design->boxes.empty()) {
+        return;
+    }
+    for (const PaperFault& fault : faultsOn(page, *design)) {
+        painter.fillRect(pixelsOf(fault.region),
+                         fault.kind == PaperFault::Kind::Full ? fullColour : faultColour);
+    }
 }
 
 void PaperView::paintEvent(QPaintEvent* /*event*/) {
@@ -262,6 +284,7 @@ void PaperView::paintEvent(QPaintEvent* /*event*/) {
         painter.scale(dots, dots);
         painter_.paintForm(painter, *page);
         painter.restore();
+        paintFaults(painter, *page);
     }
     if (found_) {
         painter.fillRect(pixelsOf(*found_), foundColour);

@@ -57,6 +57,8 @@ public:
     const std::optional<PaperRegion>& selection() const { return selection_; }
     void select(const std::optional<PaperRegion>& region);
     void mark(const std::optional<PaperRegion>& found);
+    // What the paper shows cut or outside its boxes is coloured.
+    void showFaults(bool on);
 
 signals:
     void zoomed();
@@ -86,6 +88,8 @@ private:
     Point pointAt(const QPointF& pixel) const;
     QRectF pixelsOf(const PaperRegion& region) const;
     PaperSpot spotAt(const Point& point);
+    const FormDesign* designUnder(const FormPage& page) const;
+    void paintFaults(QPainter& painter, const FormPage& page) const;
 
     PaperRoll& roll_;
     PaintOptions options_;
@@ -96,6 +100,7 @@ private:
     QTimer reading_;          // a reader hears of the line where the view comes to rest
     std::optional<PaperRegion> selection_;
     std::optional<PaperRegion> found_;
+    bool faults_ = false;
     Point pressed_;
 };
 

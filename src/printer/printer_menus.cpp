@@ -184,6 +184,11 @@ void PrinterMenus::makeViewMenu(WindowCommands& commands, const PaintOptions& lo
     commands.addSwitch({.name = "bands", .text = QStringLiteral("Papel &zebrado")}, looks.bands,
                        [this](bool on) { emit bandsWanted(on); });
     commands.add({.name = "showSheets",
+    marks_ = commands.addSwitch(
+        {.name = "marks",
+         .text = QStringLiteral("&Marcas da conferência"),
+         .hint = QStringLiteral("Colore no papel o que aparece cortado ou fora das caixas")},
+        false, [this](bool on) { emit marksWanted(on); });
                   .text = QStringLiteral("&Folhas soltas"),
                   .keys = QKeySequence(Qt::Key_F7),
                   .hint = QStringLiteral("Mostra ao lado do papel os documentos desenhados (PDF)")},

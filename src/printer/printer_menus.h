@@ -24,6 +24,8 @@ public:
                  HoldView& holding, SheetDock& sheets, const PaintOptions& looks);
 
     void addHelp();
+    // Ticks the marks on the paper, as the user can.
+    void tickMarks() { marks_->setChecked(true); }
 
 signals:
     void openWanted();
@@ -36,6 +38,7 @@ signals:
     void logWanted();
     void rulerWanted(bool on);
     void bandsWanted(bool on);
+    void marksWanted(bool on);
     void aboutWanted();
 
 private:
@@ -51,6 +54,7 @@ private:
     PaperSearchBar& search_;
     PaperFiles& files_;
     SheetDock& sheets_;
+    QAction* marks_ = nullptr;
 };
 
 }  // namespace tarn::dotmatrix

@@ -76,7 +76,7 @@ void PrinterWindow::makeParts(HoldDesk& desk) {
     connect(files_, &PaperFiles::saved, this, &PrinterWindow::tell);
     jobFiles_ = new JobFiles(intake_, this);
     offer_ = new NewJobOffer(*view_);
-    holding_ = new HoldView(*this, desk, roll_, *view_, questions_);
+    holding_ = new HoldView(*this, desk, roll_, *view_, questions_, options_);
     connect(holding_, &HoldView::complained, this, &PrinterWindow::complain);
     connect(holding_, &HoldView::told, log_, &PrinterLog::add);
     connect(holding_, &HoldView::changed, this, &PrinterWindow::showCounts);
@@ -102,6 +102,7 @@ void PrinterWindow::makeMenus(std::optional<int> itemLines) {
             [this] { log_->setVisible(!log_->isVisible()); });
     connect(menus, &PrinterMenus::rulerWanted, this, [this](bool on) {
         options_.ruler = on;
+    connect(menus, &PrinterMenus::checkWanted, menus, &PrinterMenus::tickMarks);
         view_->setOptions(options_);
     });
     connect(menus, &PrinterMenus::bandsWanted, this, [this](bool on) {
@@ -109,6 +110,9 @@ void PrinterWindow::makeMenus(std::optional<int> itemLines) {
         view_->setOptions(options_);
     });
     auto* forms = new FormChoice(*this, roll_, options_, questions_, itemLines);
+    connect(menus, &PrinterMenus::marksWanted, view_, &PaperView::showFaults);
+    connect(holding_, &HoldView::opened, menus, &PrinterMenus::tickMarks);
+    holding_->tellIfOpen();
     connect(forms, &FormChoice::failed, this, &PrinterWindow::complain);
     connect(forms, &FormChoice::printingAgain, search_, &PaperSearchBar::forget);
     connect(forms, &FormChoice::printedAgain, this, &PrinterWindow::printedAgain);

@@ -116,6 +116,50 @@ TEST_F(Check, TheBoxUnderTheMouseIsNamed) {
               QStringLiteral("formulário 1, linha 3, coluna 7 · Cliente"));
 }
 
+// Pixels in which more red than blue shows through: the marks.
+int marked(PaperView& view) {
+    const QImage image = view.viewport()->grab().toImage();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor colour = image.pixelColor(x, y);
+            count += colour.red() - colour.blue() > 50 ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+TEST_F(Check, AHeldNoteIsShownWithWhatItsFormCut) {
+    const auto& marks = named<QAction>(window_, "marks");
+    EXPECT_FALSE(marks.isChecked());
+    ASSERT_EQ(held_.open(folder_.filePath("retidos")), QString());
+    EXPECT_TRUE(marks.isChecked());
+    intake_.keepIn(&held_);
+    const JobKind kind{.document = JobDocument::Note, .form = "ImprimeNF_1361", .itemLines = 13};
+    for (const std::string& bytes : streamsOf(formNamed("1361"), {}, 13)) {
+        ASSERT_TRUE(intake_.begin("nota", JobIntake::Kind::Printed, kind));
+        ASSERT_TRUE(intake_.take(QByteArray::fromStdString(bytes)));
+        ASSERT_TRUE(intake_.end());
+    }
+    for (const char* bytes : {"texto\r\n", "mais\r\n"}) {
+        ASSERT_TRUE(intake_.begin(
+            "outro", JobIntake::Kind::Printed,
+            {.document = JobDocument::OrderSheet, .form = "OrdemFaturamento", .itemLines = {}}));
+        ASSERT_TRUE(intake_.take(bytes));
+        ASSERT_TRUE(intake_.end());
+    }
+    const auto& table = named<QTableWidget>(window_, "heldJobs");
+    ASSERT_EQ(table.rowCount(), 3);
+    EXPECT_EQ(table.item(0, 3)->text(), QStringLiteral("3 lugar(es)"));
+    EXPECT_EQ(table.item(1, 3)->text(), QStringLiteral("sem formulário"));
+    PaperView& view = window_.view();
+    view.showTop(0);
+    view.setZoom(0.5);
+    EXPECT_GT(marked(view), 100);
+    choose(window_, "viewMenu", "marks");
+    EXPECT_EQ(marked(view), 0);
+}
+
 class LayoutCheck : public testing::TestWithParam<FormFacts> {};
 
 // What a note's field had no room for is told by the field's box; nothing else is.

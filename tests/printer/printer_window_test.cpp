@@ -356,9 +356,9 @@ TEST_F(Window, JobsAreHeldAndPassedOnByClicks) {
     ASSERT_EQ(table.rowCount(), 3) << "the note and its set-up are one row";
     EXPECT_TRUE(label("count").startsWith(QStringLiteral("3 retido(s)")));
     EXPECT_TRUE(label("heldQueue").startsWith(QStringLiteral("Fila LX300")));
-    const auto state = [&table](int row) { return table.item(row, 3)->text(); };
+    const auto state = [&table](int row) { return table.item(row, 4)->text(); };
     const auto clickRow = [&table](int row) {
-        clickAt(*table.viewport(), table.visualItemRect(table.item(row, 3)).center());
+        clickAt(*table.viewport(), table.visualItemRect(table.item(row, 4)).center());
     };
     const auto& release = named<QPushButton>(window_, "heldRelease");
     EXPECT_FALSE(release.isEnabled());
@@ -408,10 +408,10 @@ TEST_F(Window, OfADoubtfulJobTheUserIsAsked) {
     const auto& yes = named<QPushButton>(window_, "heldOnPaper");
     EXPECT_TRUE(QTest::qWaitFor([&] { return yes.isVisible(); }, limit));
     const auto& table = named<QTableWidget>(window_, "heldJobs");
-    EXPECT_TRUE(table.item(0, 3)->text().startsWith(QStringLiteral("em dúvida: ")));
+    EXPECT_TRUE(table.item(0, 4)->text().startsWith(QStringLiteral("em dúvida: ")));
     EXPECT_FALSE(named<QPushButton>(window_, "heldRelease").isEnabled());
     click(window_, "heldOnPaper");
-    EXPECT_EQ(table.item(0, 3)->text(), QStringLiteral("repassado"));
+    EXPECT_EQ(table.item(0, 4)->text(), QStringLiteral("repassado"));
     EXPECT_FALSE(yes.isVisible());
 }
 
