@@ -5,7 +5,9 @@
 #include <vector>
 
 #include "dotmatrix/paper_export.h"
+#include "dotmatrix/set_up.h"
 #include "forms/form_catalogue.h"
+#include "forms/job_recogniser.h"
 #include "platform/job_kind.h"
 #include "printer/job_intake.h"
 #include "runtime/text.h"
@@ -59,11 +61,19 @@ bool printFiles(const Options& options, dotmatrix::PaperRoll& roll) {
         }
     }
     dotmatrix::FormShelf forms;
+    dotmatrix::JobRecogniser recogniser(forms);
+    std::string_view setUp;
     for (std::size_t i = 0; i < jobs.size(); ++i) {
-        roll.startJob(options.jobs[i],
-                      {.form = forms.formOf(jobKindBeside(options.jobs[i])), .told = true});
-        const auto failure =
-            roll.feed({jobs[i].constData(), static_cast<std::size_t>(jobs[i].size())});
+        const std::string_view job(jobs[i].constData(), static_cast<std::size_t>(jobs[i].size()));
+        dotmatrix::JobPaper paper{.form = forms.formOf(jobKindBeside(options.jobs[i])),
+                                  .told = true};
+        if (!jobKindBeside(options.jobs[i]).told()) {
+            paper.form = recogniser.formOf(setUp, job);
+            paper.told = !paper.form;
+        }
+        setUp = dotmatrix::onlySetsUp(job) ? job : std::string_view();
+        roll.startJob(options.jobs[i], std::move(paper));
+        const auto failure = roll.feed(job);
         if (failure) {
             complain(QStringLiteral("não foi possível guardar o trabalho (%1). Libere espaço na "
                                     "pasta temporária.")

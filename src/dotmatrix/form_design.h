@@ -38,6 +38,8 @@ struct FormDesign {
     std::vector<FormText> texts;
     // Where the document prints words of its own on the bare paper; nothing is drawn there.
     std::vector<FormBox> ownWords;
+    // The job that sets the printer up ahead of each document; empty where there is none.
+    std::string setUp;
     // Each document is torn off at the next perforation: none begins where another ended.
     bool everyDocumentAtTop = false;
     // A picture file laid over the whole sheet, from edge to edge; empty for none.

@@ -35,6 +35,7 @@ FormDesign traced(const Print& print) {
     channel.watch(tracer);
     print(channel);
     FormDesign form;
+    form.setUp = tracer.setUp();
     form.height = tracer.height();
     form.boxes = tracer.boxes();
     return form;
@@ -83,6 +84,7 @@ FormDesign priceSheet() {
         XmlDocument document;
         document.loadXML(std::string(order));
         printPriceSheet(channel, document);
+    form.setUp = twoRows.setUp;
     });
     form.height = sheetHeight;
     form.everyDocumentAtTop = true;

@@ -55,11 +55,13 @@ bool FormTracer::openPrinter(const std::string& /*name*/) {
 
 bool FormTracer::startDocument(const JobDescription& /*job*/) {
     printer_.startJob();
+    jobs_.emplace_back();
     return true;
 }
 
 std::size_t FormTracer::write(std::string_view bytes) {
     printer_.feed(bytes);
+    jobs_.back() += bytes;
     return bytes.size();
 }
 

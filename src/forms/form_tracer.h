@@ -20,6 +20,8 @@ public:
 
     // As far down as the document went.
     PaperUnits height() const { return paper_.y(); }
+    // The first of several jobs, which sets the printer up.
+    std::string setUp() const { return jobs_.size() > 1 ? jobs_.front() : std::string(); }
     // A box of one line that goes on with the one above, of its place and width, is part of it.
     std::vector<FormBox> boxes() const;
 
@@ -38,6 +40,7 @@ private:
     ContinuousPaper paper_;
     EscpInterpreter printer_;
     std::vector<FormBox> boxes_;
+    std::vector<std::string> jobs_;
 };
 
 }  // namespace tarn::dotmatrix

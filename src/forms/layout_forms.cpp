@@ -53,6 +53,7 @@ Drawn drawn(const notes::Form& form, const FormPitch& pitch, int itemLines) {
 FormDesign draw(const NamedForm& named, std::optional<int> itemLines) {
     FormDesign design;
     design.name = named.name;
+    design.setUp = named.form->setUp.empty() ? "" : " " + std::string(named.form->setUp);
     // A form that selects no pitch and is wider than the carriage is for printers that
     // are set to condensed print at their panel.
     if (drawn(*named.form, design.pitch, 1).reach > carriage) {

@@ -1,8 +1,15 @@
 #include "printer/job_intake.h"
 
+#include <chrono>
+
+#include "dotmatrix/set_up.h"
+
 namespace tarn::dotmatrix {
 
 namespace {
+
+// A sender that is slower is watched as it prints.
+constexpr std::chrono::milliseconds longestWait(1500);
 
 QString notKept() {
     return QStringLiteral(
@@ -13,7 +20,11 @@ QString notKept() {
 }  // namespace
 
 JobIntake::JobIntake(PaperRoll& roll, qint64 mostJobBytes)
-    : roll_(roll), mostJobBytes_(mostJobBytes) {}
+    : roll_(roll), mostJobBytes_(mostJobBytes) {
+    patience_.setSingleShot(true);
+    patience_.setInterval(longestWait);
+    connect(&patience_, &QTimer::timeout, this, [this] { putOnPaper({}); });
+}
 
 bool JobIntake::begin(const QString& name, Kind kind, const JobKind& told) {
     if (busy_) {
@@ -25,9 +36,37 @@ bool JobIntake::begin(const QString& name, Kind kind, const JobKind& told) {
     taken_ = 0;
     keeping_ = keeper_ != nullptr && kind == Kind::Printed;
     lost_ = keeping_ && !keeper_->begin();
-    roll_.startJob(name.toStdString(), {.form = forms_.formOf(told), .told = true});
-    emit changed();
+    onPaper_ = false;
+    heldBack_.clear();
+    failure_.reset();
+    if (told.told()) {
+        putOnPaper({.form = forms_.formOf(told), .told = true});
+    } else {
+        patience_.start();
+    }
     return true;
+}
+
+void JobIntake::putOnPaper(JobPaper paper) {
+    patience_.stop();
+    onPaper_ = true;
+    roll_.startJob(name_.toStdString(), std::move(paper));
+    failure_ = roll_.feed(heldBack_);
+    heldBack_.clear();
+    emit changed();
+}
+
+void JobIntake::recognise() {
+    const std::string job = heldBack_;
+    if (onlySetsUp(job)) {
+        putOnPaper({});
+        setUp_ = job;
+        return;
+    }
+    auto form = recogniser_.formOf(setUp_, job);
+    const bool known = form != nullptr;
+    putOnPaper({.form = std::move(form), .told = !known});
+    setUp_.clear();
 }
 
 bool JobIntake::take(const QByteArray& bytes) {
@@ -39,25 +78,47 @@ bool JobIntake::take(const QByteArray& bytes) {
         finish(notKept());
         return false;
     }
-    const auto failure = roll_.feed(piece);
     taken_ += static_cast<qint64>(count);
-    emit changed();
-    if (!failure && bytes.size() <= room) {
+    if (onPaper_) {
+        failure_ = failure_ ? failure_ : roll_.feed(piece);
+        emit changed();
+    } else {
+        heldBack_ += piece;
+        if (heldBack_.size() > JobRecogniser::mostBytes || bytes.size() > room) {
+            putOnPaper({});
+        }
+    }
+    if (!failure_ && bytes.size() <= room) {
         return true;
     }
-    if (keeping_) {
-        keeper_->drop();
-    }
-    finish(failure
-               ? QStringLiteral("não foi possível guardar o trabalho (%1); o resto foi desprezado. "
-                                "Libere espaço em disco e imprima de novo.")
-                     .arg(*failure)
-               : QStringLiteral("o trabalho passa de %1 bytes; o resto foi desprezado.")
-                     .arg(mostJobBytes_));
+    giveUp();
     return false;
 }
 
+// Nothing of the job goes any further.
+void JobIntake::giveUp() {
+    if (keeping_) {
+        keeper_->drop();
+    }
+    finish(failure_
+               ? QStringLiteral("não foi possível guardar o trabalho (%1); o resto foi desprezado. "
+                                "Libere espaço em disco e imprima de novo.")
+                     .arg(*failure_)
+               : QStringLiteral("o trabalho passa de %1 bytes; o resto foi desprezado.")
+                     .arg(mostJobBytes_));
+}
+
 bool JobIntake::end(const QString& remark, const QString& source) {
+    if (!onPaper_) {
+        recognise();
+    } else {
+        setUp_.clear();
+    }
+    if (failure_) {
+        const bool given = !keeping_;
+        giveUp();
+        return given;
+    }
     const bool given = give(remark, source);
     finish(given ? remark : notKept());
     return given;
@@ -75,6 +136,7 @@ bool JobIntake::give(const QString& remark, const QString& source) {
 }
 
 void JobIntake::finish(const QString& remark) {
+    patience_.stop();
     busy_ = false;
     ++ended_;
     emit jobEnded(name_, remark);

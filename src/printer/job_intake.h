@@ -5,9 +5,13 @@
 #include <QByteArray>
 #include <QObject>
 #include <QString>
+#include <QTimer>
+#include <optional>
+#include <string>
 
 #include "dotmatrix/paper_roll.h"
 #include "forms/form_catalogue.h"
+#include "forms/job_recogniser.h"
 #include "platform/job_kind.h"
 #include "printer/job_keeper.h"
 
@@ -30,6 +34,10 @@ public:
     JobKeeper* keeper() const { return keeper_; }
 
     bool busy() const { return busy_; }
+    // Some of the job under way is on the paper already. One that doesn't say what it prints
+    // comes there when it is whole, or too slow or long for that: then it may be known by its
+    // bytes.
+    bool isOnPaper() const { return busy_ && onPaper_; }
     // False while another job is being taken; `idle` tells when to ask again.
     // `told` is what the job says that it prints.
     bool begin(const QString& name, Kind kind = Kind::LookedAt, const JobKind& told = {});
@@ -48,11 +56,15 @@ signals:
     void idle();
 
 private:
+    void putOnPaper(JobPaper paper);
+    void recognise();
     bool give(const QString& remark, const QString& source);
+    void giveUp();
     void finish(const QString& remark);
 
     PaperRoll& roll_;
     FormShelf forms_;
+    JobRecogniser recogniser_{forms_};
     JobKeeper* keeper_ = nullptr;
     qint64 mostJobBytes_;
     bool busy_ = false;
@@ -61,6 +73,11 @@ private:
     QString name_;
     JobKind kind_;  // of the job under way
     qint64 taken_ = 0;
+    bool onPaper_ = false;
+    std::string heldBack_;            // of the job under way, not yet on the paper
+    std::optional<QString> failure_;  // of putting it there
+    std::string setUp_;               // the job before, where it only sets the printer up
+    QTimer patience_;
     std::size_t ended_ = 0;
 };
 

@@ -7,6 +7,7 @@
 #include <chrono>
 
 #include "printer/check_dock.h"
+#include "forms/form_catalogue.h"
 #include "printer/form_choice.h"
 #include "printer/job_files.h"
 #include "printer/new_job_offer.h"
@@ -49,13 +50,7 @@ PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, HoldDesk& desk,
             changed_.start();
         }
     });
-    connect(&intake_, &JobIntake::jobEnded, this, [this](const QString& name, const QString& why) {
-        log_->add(why.isEmpty() ? QStringLiteral("%1: impresso.").arg(name)
-                                : QStringLiteral("%1: %2").arg(name, why));
-        if (roll_.jobs().empty() || roll_.jobs().back().shows) {
-            offer_->jobCame();
-        }
-    });
+    connect(&intake_, &JobIntake::jobEnded, this, &PrinterWindow::jobEnded);
     view_->setFocus();
     paperChanged();
 }
@@ -219,7 +214,7 @@ void PrinterWindow::tearOffAsked() {
 void PrinterWindow::tearOff() {
     search_->forget();
     holding_->paperGone();
-    roll_.tearOff(intake_.busy());
+    roll_.tearOff(intake_.isOnPaper());
     log_->skipNotices(roll_.notices());
     view_->forgetSeen();
     offer_->withdraw();
@@ -242,6 +237,20 @@ void PrinterWindow::paperChanged() {
     showCounts();
     check_->paperChanged();
     log_->addNotices(roll_.notices());
+}
+
+void PrinterWindow::jobEnded(const QString& name, const QString& why) {
+    const RollJob* job = roll_.jobs().empty() ? nullptr : &roll_.jobs().back();
+    const QString known = job == nullptr || job->paper.told
+                              ? QString()
+                              : QStringLiteral(" Papel reconhecido pelo conteúdo: %1.")
+                                    .arg(QString::fromStdString(formTitle(job->paper.form->name)));
+    log_->add((why.isEmpty() ? QStringLiteral("%1: impresso.").arg(name)
+                             : QStringLiteral("%1: %2").arg(name, why)) +
+              known);
+    if (job == nullptr || job->shows) {
+        offer_->jobCame();
+    }
 }
 
 void PrinterWindow::showCounts() {

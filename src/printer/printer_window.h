@@ -57,6 +57,7 @@ private:
     void tell(const QString& text);
     void showAbout();
 
+    void jobEnded(const QString& name, const QString& why);
     void printedAgain();
     void paperChanged();
     void showCounts();

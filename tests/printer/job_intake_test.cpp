@@ -28,6 +28,28 @@ TEST_F(Intake, OneJobAtATime) {
     EXPECT_EQ(roll_.jobs()[1].name, "b");
 }
 
+// A job that doesn't say what it prints may be known when it is whole; a slow one is watched.
+TEST_F(Intake, AJobThatIsNotWholeIsOnThePaperBeforeLong) {
+    ASSERT_TRUE(intake_.begin(QStringLiteral("a")));
+    EXPECT_TRUE(intake_.take("um"));
+    EXPECT_FALSE(intake_.isOnPaper());
+    EXPECT_EQ(text(), "");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return intake_.isOnPaper(); }, limit));
+    EXPECT_EQ(text(), "um\n");
+    EXPECT_TRUE(intake_.take(" dois"));
+    EXPECT_EQ(text(), "um dois\n");
+    intake_.end();
+    EXPECT_FALSE(intake_.isOnPaper());
+}
+
+TEST_F(Intake, ALongJobIsOnThePaperAsItComes) {
+    ASSERT_TRUE(intake_.begin(QStringLiteral("a")));
+    EXPECT_TRUE(intake_.take("um\r\n"));
+    EXPECT_TRUE(intake_.take(QByteArray(70'000, ' ')));
+    EXPECT_TRUE(intake_.isOnPaper());
+    EXPECT_EQ(text(), "um\n");
+}
+
 TEST_F(SmallIntake, AJobOverItsSizeIsCutAndTold) {
     intake_.begin(QStringLiteral("grande"));
     EXPECT_TRUE(intake_.take("12345"));

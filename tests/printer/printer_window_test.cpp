@@ -542,6 +542,32 @@ TEST_F(Window, EachJobLiesOnItsOwnFormUntilOneIsChosen) {
     EXPECT_EQ(roll_.page(1)->lines.size(), 3U);
 }
 
+// Nobody tells what these jobs print: a note's bytes do, other text stays on the paper it is on.
+TEST_F(Window, AJobThatDoesNotTellItsPaperIsKnownByItsBytes) {
+    job("qualquer texto\r\n");
+    EXPECT_EQ(label("paperName"),
+              QStringLiteral("Papel em branco (o trabalho não diz o seu papel)"));
+    for (const std::string& bytes : streamsOf(formNamed("1361"), {}, 13)) {
+        job(QByteArray::fromStdString(bytes), "nota");
+    }
+    EXPECT_EQ(label("paperName"),
+              QStringLiteral("Nota: 1361, 141, 761 (reconhecido pelo conteúdo)"));
+    ASSERT_EQ(roll_.printedForms(), 2U);
+    EXPECT_EQ(roll_.page(0)->design, nullptr);
+    ASSERT_NE(roll_.page(1)->design, nullptr);
+    EXPECT_EQ(roll_.page(1)->design->name, "ImprimeNF_1361");
+    EXPECT_TRUE(named<QPlainTextEdit>(window_, "log")
+                    .toPlainText()
+                    .endsWith(QStringLiteral(
+                        "nota: impresso. Papel reconhecido pelo conteúdo: Nota: 1361, 141, 761.")));
+    // The next note follows on the next form of the same paper.
+    for (const std::string& bytes : streamsOf(formNamed("1361"), {}, 13)) {
+        job(QByteArray::fromStdString(bytes), "nota");
+    }
+    EXPECT_EQ(roll_.printedForms(), 3U);
+    EXPECT_EQ(roll_.page(2)->design, roll_.page(1)->design);
+}
+
 TEST_F(Window, AFormOfAFileIsChosenOrRefused) {
     open_ = {file("nada.txt")};
     choose(window_, "formMenu", "form_file");
