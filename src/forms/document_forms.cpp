@@ -7,13 +7,11 @@
 #include "billing/order_sheet.h"
 #include "cheques/imprime_cheque.h"
 #include "common/raw_channel.h"
+#include "forms/document_samples.h"
 #include "forms/form_tracer.h"
 #include "forms/headroom.h"
-#include "gateway/xml_document.h"
-#include "labels/label.h"
 #include "labels/raw_form.h"
 #include "slips/slip_layouts.h"
-#include "slips/slip_search.h"
 
 namespace tarn::dotmatrix {
 
@@ -35,32 +33,20 @@ FormDesign traced(const Print& print) {
     channel.watch(tracer);
     print(channel);
     FormDesign form;
-    form.setUp = tracer.setUp();
     form.height = tracer.height();
     form.boxes = tracer.boxes();
+    form.setUp = tracer.setUp();
     return form;
 }
 
 FormDesign slipForm(bool wallet57) {
-    FormDesign form = traced([wallet57](RawChannel& channel) {
-        const GridRow document{.cells = std::vector<std::string>(slipGrid().size())};
-        openSlipJob(channel);
-        (wallet57 ? printWallet57Lines : printSevenDigitLines)(channel, document, {});
-        channel.close();
-    });
+    FormDesign form = traced(wallet57 ? printSampleOfWallet57 : printSampleOfOtherWallets);
     giveHeadroom(form.boxes);
     return form;
 }
 
-// The longest of its kind: the amount in words takes both of its lines.
 FormDesign chequeForm(std::int16_t bank) {
-    FormDesign form = traced([bank](RawChannel& channel) {
-        printCheque(channel, {.nNr_Ofi_Ban = bank,
-                              .sValor = "999.999.999,99",
-                              .sFavorecido = "-",
-                              .sDataDeposito = "31/12/2012",
-                              .sNmMun = "-"});
-    });
+    FormDesign form = traced([bank](RawChannel& channel) { printSampleCheque(channel, bank); });
     giveHeadroom(form.boxes);
     return form;
 }
@@ -72,20 +58,10 @@ FormDesign plainSheet() {
     return form;
 }
 
-// One item, whose columns go down to the end of the sheet: there may be any number of them,
-// and the totals follow in the same columns.
+// The columns of the sample's one item go down to the end of the sheet: there may be any number
+// of items, and the totals follow in the same columns.
 FormDesign priceSheet() {
-    FormDesign form = traced([](RawChannel& channel) {
-        constexpr std::string_view order =
-            "<?xml version='1.0'?><PRINCIPAL cod='0' status='OK'>"
-            "<CAB RAZAO='' DT_EMS_NF='' VENDEDOR='' NR_CTRL_INT='1'/>"
-            "<ITEM CD_PRO='' DESCRICAO='' QTDE='1' UNITARIO='1' VL_DSC='0' VL_IPI='0' "
-            "VL_ICMS_RTD='0' VL_DSC_ICMS='0' VL_FRT='0' VL_DSP_ACS='0' VL_SEG='0'/></PRINCIPAL>";
-        XmlDocument document;
-        document.loadXML(std::string(order));
-        printPriceSheet(channel, document);
-    form.setUp = twoRows.setUp;
-    });
+    FormDesign form = traced(printSamplePriceSheet);
     form.height = sheetHeight;
     form.everyDocumentAtTop = true;
     const PaperUnits items = form.boxes.back().y;
@@ -104,19 +80,11 @@ FormDesign priceSheet() {
 // A sheet of labels, four across. The first line of a run stands a blank further right than
 // all others, the one that its set-up job leaves: a box is where the second row prints.
 FormDesign labelForm() {
-    constexpr std::string_view eightLabels =
-        "<?xml version='1.0'?><xml xmlns:rs='urn:schemas-microsoft-com:rowset' "
-        "xmlns:z='#RowsetSchema'><rs:data><z:row/><z:row/><z:row/><z:row/><z:row/><z:row/>"
-        "<z:row/><z:row/></rs:data></xml>";
-    const FormDesign twoRows = traced([eightLabels](RawChannel& channel) {
-        XmlDocument document;
-        document.loadXML(std::string(eightLabels));
-        labels::Labels queue(document);
-        labels::printLabelRows(channel, queue, {});
-    });
+    const FormDesign twoRows = traced(printSampleLabels);
     const PaperUnits row = twoRows.height / 2;
     FormDesign form;
     form.height = sheetHeight;
+    form.setUp = twoRows.setUp;
     for (PaperUnits top = 0; top + row <= form.height; top += row) {
         for (FormBox box : twoRows.boxes) {
             box.y += top - row;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "common/raw_channel.h"
+#include "common/ruler_marks.h"
 #include "notes/form_check.h"
 
 namespace tarn::notes {
@@ -19,34 +20,6 @@ int boxWidth(const Field& field) {
     }
     const int room = check::roomOf(field);
     return room > 0 ? room : openRoom;
-}
-
-// "[12/44   ]", with as much of the place as there is room for.
-std::string corners(int line, int column, int width) {
-    if (width == 1) {
-        return "|";
-    }
-    const auto room = static_cast<std::size_t>(width - 2);
-    std::string place = std::to_string(line) + "/" + std::to_string(column);
-    if (place.size() > room) {
-        place = std::to_string(line);
-    }
-    if (place.size() > room) {
-        place.clear();
-    }
-    place.resize(room, ' ');
-    return "[" + place + "]";
-}
-
-// Column 1 is the blank of the call, so that the text begins with the second.
-std::string rulerLine(int line, int reach) {
-    std::string text;
-    for (int column = firstColumn; column <= reach; ++column) {
-        const char tens = static_cast<char>('0' + column / 10 % 10);
-        text += column % 10 == 0 ? tens : column % 5 == 0 ? '.' : ' ';
-    }
-    const std::string number = std::to_string(line);
-    return text.replace(0, std::min(number.size(), text.size()), number);
 }
 
 class RulerPen {
@@ -140,7 +113,7 @@ private:
     }
     void box(int column, int width) {
         margin(column);
-        text_ += corners(line_, column, width);
+        text_ += boxCorners(line_, column, width);
         column_ = column + width;
         reach_ = std::max(reach_, column_ - 1);
     }

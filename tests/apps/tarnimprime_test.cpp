@@ -568,6 +568,32 @@ TEST_F(Tarnimprime, PrinterNotice) {
     EXPECT_EQ(run({"aviso-impressora", "2161"}).status, 1);
 }
 
+TEST_F(Tarnimprime, ARulerForTheFormsOfAllDocuments) {
+    for (const auto& [form, document] :
+         {std::pair("ImprimeNF_1361", "nota"), std::pair("Boleto_1084", "boleto"),
+          std::pair("Cheque_33", "cheque"), std::pair("OrdemFaturamento_1361", "ordem"),
+          std::pair("Etiquetas", "etiquetas")}) {
+        const std::string paper = file(form);
+        const Result result = run({"regua", "--formulario", form, "--destino", paper});
+        EXPECT_EQ(result.status, 0) << result.err;
+        EXPECT_EQ(result.out + result.err, "");
+        EXPECT_NE(contentOf(paper + "/job-001.kind").find(std::string("documento ") + document),
+                  std::string::npos)
+            << form;
+        const std::string jobs =
+            contentOf(paper + "/job-001.prn") + contentOf(paper + "/job-002.prn");
+        EXPECT_NE(jobs.find('['), std::string::npos) << form;
+    }
+    for (const std::vector<std::string>& words : {std::vector<std::string>{"--formulario", "Nada"},
+                                                  {"--formulario", "Cheque", "--itens", "3"}}) {
+        std::vector<std::string> all{"regua", "--destino", file("nada")};
+        all.insert(all.end(), words.begin(), words.end());
+        const Result result = run(all);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(contentOf(file("nada") + "/job-001.prn"), "");
+    }
+}
+
 TEST_F(Tarnimprime, WrongUsageIsToldInPortuguese) {
     for (const std::vector<std::string>& words : {std::vector<std::string>{},
                                                   {"imprime"},
