@@ -258,6 +258,68 @@ TEST_F(CommandLine, TakesJobsFromTheNetworkAndWritesAfterEach) {
     EXPECT_EQ(process.readAllStandardError(), "");
 }
 
+#ifdef Q_OS_LINUX
+// What a program keeps in its temporary folder, files without a name included.
+qint64 bytesKept(qint64 process, const QString& folder) {
+    qint64 bytes = 0;
+    const QDir open(QStringLiteral("/proc/%1/fd").arg(process));
+    for (const QFileInfo& file : open.entryInfoList(QDir::Files | QDir::System)) {
+        if (file.symLinkTarget().startsWith(folder)) {
+            bytes += file.size();
+        }
+    }
+    return bytes;
+}
+
+// Without a window the paper of a long day goes into files of bounded size, and what the
+// program keeps of it is bounded too.
+TEST_F(CommandLine, ARollThatIsFullIsFollowedByAnother) {
+    ASSERT_TRUE(QDir(folder_.path()).mkdir(QStringLiteral("tmp")));
+    QProcess process;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TMPDIR"), path("tmp"));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(TARNIMPRESSORA),
+                  {"--porta", "0", "--quantos", "4", "--rolo", "1", "--texto", path("n.txt")});
+    while (!process.canReadLine() && process.waitForReadyRead()) {
+    }
+    const auto port = static_cast<quint16>(
+        QString::fromUtf8(process.readLine()).trimmed().section(u' ', -1).toInt());
+    const auto send = [port](const QByteArray& bytes) {
+        QTcpSocket socket;
+        socket.connectToHost(QHostAddress::LocalHost, port);
+        ASSERT_TRUE(socket.waitForConnected());
+        socket.write(bytes);
+        while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten()) {
+        }
+        socket.disconnectFromHost();
+        EXPECT_TRUE(socket.state() == QAbstractSocket::UnconnectedState ||
+                    socket.waitForDisconnected());
+    };
+    const auto written = [&](const char* name, const QByteArray& text) {
+        constexpr int tries = 3000;
+        for (int i = 0; i < tries && !(QFile::exists(path(name)) && read(name) == text); ++i) {
+            process.waitForFinished(20);
+        }
+        return QFile::exists(path(name)) && read(name) == text;
+    };
+    constexpr int overAMegabyte = 1'200'000;
+    send("um\r\n" + QByteArray(overAMegabyte, '\r'));
+    ASSERT_TRUE(written("n.txt", "um\n"));
+    send("dois\r\n");
+    ASSERT_TRUE(written("n-rolo2.txt", "dois\n"));
+    EXPECT_LT(bytesKept(process.processId(), path("tmp")), 100'000);
+    send("tres\r\n" + QByteArray(overAMegabyte, '\r'));
+    ASSERT_TRUE(written("n-rolo2.txt", "dois\ntres\n"));
+    send("quatro\r\n");
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    EXPECT_EQ(read("n-rolo3.txt"), "quatro\n");
+    EXPECT_EQ(read("n.txt"), "um\n");
+    EXPECT_EQ(read("n-rolo2.txt"), "dois\ntres\n");
+}
+#endif
+
 TEST_F(CommandLine, APortInUseIsTold) {
     QTcpServer other;
     ASSERT_TRUE(other.listen(QHostAddress::LocalHost));
