@@ -49,7 +49,8 @@ void PrinterMenus::makeFileMenu(WindowCommands& commands) {
     commands.add({.name = "open",
                   .text = QStringLiteral("&Abrir trabalho..."),
                   .keys = QKeySequence::Open,
-                  .hint = QStringLiteral("Imprime trabalhos gravados (.prn) neste papel")},
+                  .hint = QStringLiteral("Imprime trabalhos gravados (.prn) neste papel; um PDF "
+                                         "aparece como folha solta")},
                  [this] { emit openWanted(); });
     commands.separate();
     commands.add({.name = "savePdf",
@@ -183,12 +184,12 @@ void PrinterMenus::makeViewMenu(WindowCommands& commands, const PaintOptions& lo
                        looks.ruler, [this](bool on) { emit rulerWanted(on); });
     commands.addSwitch({.name = "bands", .text = QStringLiteral("Papel &zebrado")}, looks.bands,
                        [this](bool on) { emit bandsWanted(on); });
-    commands.add({.name = "showSheets",
     marks_ = commands.addSwitch(
         {.name = "marks",
          .text = QStringLiteral("&Marcas da conferência"),
          .hint = QStringLiteral("Colore no papel o que aparece cortado ou fora das caixas")},
         false, [this](bool on) { emit marksWanted(on); });
+    commands.add({.name = "showSheets",
                   .text = QStringLiteral("&Folhas soltas"),
                   .keys = QKeySequence(Qt::Key_F7),
                   .hint = QStringLiteral("Mostra ao lado do papel os documentos desenhados (PDF)")},

@@ -2,12 +2,13 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFile>
 #include <QMessageBox>
 #include <QStatusBar>
 #include <chrono>
 
-#include "printer/check_dock.h"
 #include "forms/form_catalogue.h"
+#include "printer/check_dock.h"
 #include "printer/form_choice.h"
 #include "printer/job_files.h"
 #include "printer/new_job_offer.h"
@@ -26,6 +27,14 @@ namespace tarn::dotmatrix {
 namespace {
 
 constexpr std::chrono::milliseconds repaintInterval(40);
+
+// By what is in it, and by its name where that is broken.
+bool isSheet(const QString& file) {
+    constexpr qint64 beginning = 5;
+    QFile in(file);
+    const bool begins = in.open(QIODevice::ReadOnly) && in.read(beginning) == "%PDF-";
+    return begins || file.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive);
+}
 
 }  // namespace
 
@@ -78,6 +87,7 @@ void PrinterWindow::makeParts(HoldDesk& desk) {
     sheets_ = new SheetDock(roll_, *view_, *this);
     check_ = new CheckDock(roll_, *view_, options_, *this);
     connect(sheets_, &SheetDock::told, log_, &PrinterLog::add);
+    connect(sheets_, &SheetDock::refused, this, &PrinterWindow::complain);
     connect(sheets_, &SheetDock::changed, this, &PrinterWindow::showCounts);
     connect(files_, &PaperFiles::failed, this, &PrinterWindow::complain);
     connect(jobFiles_, &JobFiles::failed, this, &PrinterWindow::complain);
@@ -92,22 +102,22 @@ void PrinterWindow::makeMenus(std::optional<int> itemLines) {
     connect(menus, &PrinterMenus::nextWanted, this, &PrinterWindow::nextJob);
     connect(menus, &PrinterMenus::tearOffWanted, this, &PrinterWindow::tearOffAsked);
     connect(menus, &PrinterMenus::checkWanted, check_, &CheckDock::check);
+    connect(menus, &PrinterMenus::checkWanted, menus, &PrinterMenus::tickMarks);
     connect(menus, &PrinterMenus::aboutWanted, this, &PrinterWindow::showAbout);
     connect(menus, &PrinterMenus::logWanted, this,
             [this] { log_->setVisible(!log_->isVisible()); });
     connect(menus, &PrinterMenus::rulerWanted, this, [this](bool on) {
         options_.ruler = on;
-    connect(menus, &PrinterMenus::checkWanted, menus, &PrinterMenus::tickMarks);
         view_->setOptions(options_);
     });
+    connect(menus, &PrinterMenus::marksWanted, view_, &PaperView::showFaults);
+    connect(holding_, &HoldView::opened, menus, &PrinterMenus::tickMarks);
+    holding_->tellIfOpen();
     connect(menus, &PrinterMenus::bandsWanted, this, [this](bool on) {
         options_.bands = on;
         view_->setOptions(options_);
     });
     auto* forms = new FormChoice(*this, roll_, options_, questions_, itemLines);
-    connect(menus, &PrinterMenus::marksWanted, view_, &PaperView::showFaults);
-    connect(holding_, &HoldView::opened, menus, &PrinterMenus::tickMarks);
-    holding_->tellIfOpen();
     connect(forms, &FormChoice::failed, this, &PrinterWindow::complain);
     connect(forms, &FormChoice::printingAgain, search_, &PaperSearchBar::forget);
     connect(forms, &FormChoice::printedAgain, this, &PrinterWindow::printedAgain);
@@ -135,9 +145,13 @@ void PrinterWindow::complain(const QString& text) {
 }
 
 void PrinterWindow::openJobs() {
-    jobFiles_->add(
-        questions_.open(QStringLiteral("Abrir trabalho"),
-                        QStringLiteral("Trabalhos crus (*.prn);;Todos os arquivos (*)")));
+    QStringList jobs;
+    for (const QString& file : questions_.open(
+             QStringLiteral("Abrir trabalho"),
+             QStringLiteral("Trabalhos crus e folhas (*.prn *.pdf);;Todos os arquivos (*)"))) {
+        isSheet(file) ? sheets_->open(file) : static_cast<void>(jobs << file);
+    }
+    jobFiles_->add(jobs);
 }
 
 void PrinterWindow::copyText() {
@@ -225,20 +239,6 @@ void PrinterWindow::tearOff() {
     paperChanged();
 }
 
-void PrinterWindow::printedAgain() {
-    log_->skipNotices(roll_.notices());
-    view_->setOptions(options_);
-    paperChanged();
-}
-
-void PrinterWindow::paperChanged() {
-    view_->refresh();
-    status_->showPaper();
-    showCounts();
-    check_->paperChanged();
-    log_->addNotices(roll_.notices());
-}
-
 void PrinterWindow::jobEnded(const QString& name, const QString& why) {
     const RollJob* job = roll_.jobs().empty() ? nullptr : &roll_.jobs().back();
     const QString known = job == nullptr || job->paper.told
@@ -251,6 +251,20 @@ void PrinterWindow::jobEnded(const QString& name, const QString& why) {
     if (job == nullptr || job->shows) {
         offer_->jobCame();
     }
+}
+
+void PrinterWindow::printedAgain() {
+    log_->skipNotices(roll_.notices());
+    view_->setOptions(options_);
+    paperChanged();
+}
+
+void PrinterWindow::paperChanged() {
+    view_->refresh();
+    status_->showPaper();
+    showCounts();
+    check_->paperChanged();
+    log_->addNotices(roll_.notices());
 }
 
 void PrinterWindow::showCounts() {

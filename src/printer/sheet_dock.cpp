@@ -20,6 +20,7 @@ SheetDock::SheetDock(PaperRoll& roll, PaperView& paper, QMainWindow& window,
     hide();
     connect(&pile_, &SheetPile::changed, this, &SheetDock::changed);
     connect(&pile_, &SheetPile::troubled, this, &SheetDock::told);
+    connect(&pile_, &SheetPile::refused, this, &SheetDock::refused);
     connect(&pile_, &SheetPile::arrived, this, &SheetDock::arrived);
     connect(view_, &SheetView::sheetClicked, this, &SheetDock::showPaperOf);
     connect(view_, &SheetView::zoomTurned, &paper_, &PaperView::zoomStep);
@@ -29,6 +30,11 @@ SheetDock::SheetDock(PaperRoll& roll, PaperView& paper, QMainWindow& window,
 QString SheetDock::count() const {
     const std::size_t sheets = pile_.sheets();
     return sheets == 0 ? QString() : QStringLiteral(", %1 folha(s)").arg(sheets);
+}
+
+void SheetDock::open(const QString& path) {
+    wasShown_ = false;
+    pile_.open(path);
 }
 
 // Who closes the panel isn't given it again by every sheet.

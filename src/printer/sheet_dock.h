@@ -20,6 +20,8 @@ public:
               const PdfPrograms& programs = {});
 
     void watch(const QString& folder) { pile_.watch(folder); }
+    // Shows this file too, also to who has closed the panel.
+    void open(const QString& path);
     void clear() { pile_.clear(); }
     // For the status bar; empty while there are none.
     QString count() const;
@@ -27,6 +29,8 @@ public:
 signals:
     void changed();
     void told(const QString& line);  // for the log
+    // A file that was opened can't be shown; a whole sentence for the user.
+    void refused(const QString& text);
 
 private:
     void arrived(const QString& name);

@@ -59,6 +59,18 @@ SheetPile::SheetPile(PdfPrograms programs) : programs_(std::move(programs)) {
 
 void SheetPile::watch(const QString& folder) {
     folder_ = QDir(folder);
+    start();
+}
+
+void SheetPile::open(const QString& path) {
+    const QString whole = QFileInfo(path).absoluteFilePath();
+    opened_.removeAll(whole);
+    opened_ << whole;
+    takenAway_.erase(whole);
+    start();
+}
+
+void SheetPile::start() {
     timer_.start(betweenLooks);
     QMetaObject::invokeMethod(this, &SheetPile::look, Qt::QueuedConnection);
 }
@@ -76,17 +88,30 @@ void SheetPile::clear() {
         takenAway_[file.path] = {file.size, file.written};
     }
     files_.clear();
+    opened_.clear();
     emit changed();
 }
 
+QFileInfoList SheetPile::there() const {
+    QFileInfoList files;
+    if (folder_) {
+        files = QDir(folder_->path()).entryInfoList({QStringLiteral("job-*.pdf")}, QDir::Files);
+    }
+    for (const QString& path : opened_) {
+        if (const QFileInfo file(path); file.isFile() && !files.contains(file)) {
+            files << file;
+        }
+    }
+    return files;
+}
+
 void SheetPile::look() {
-    if (watcher_.directories().isEmpty() && folder_->exists()) {
+    if (folder_ && watcher_.directories().isEmpty() && folder_->exists()) {
         watcher_.addPath(folder_->path());
     }
-    const QFileInfoList there =
-        QDir(folder_->path()).entryInfoList({QStringLiteral("job-*.pdf")}, QDir::Files);
-    dropMissing(there);
-    for (const QFileInfo& file : there) {
+    const QFileInfoList files = there();
+    dropMissing(files);
+    for (const QFileInfo& file : files) {
         note(file);
     }
     readNext();
@@ -136,11 +161,11 @@ void SheetPile::note(const QFileInfo& info) {
 }
 
 SheetFile& SheetPile::add(const QFileInfo& info) {
-    return *files_.insert(placeOf(info.fileName()),
-                          {.name = info.fileName(),
-                           .path = info.absoluteFilePath(),
-                           .written = info.lastModified(),
-                           .remark = QStringLiteral("Esta folha está chegando.")});
+    const QString name = nameOf(info.absoluteFilePath());
+    return *files_.insert(placeOf(name), {.name = name,
+                                          .path = info.absoluteFilePath(),
+                                          .written = info.lastModified(),
+                                          .remark = QStringLiteral("Esta folha está chegando.")});
 }
 
 // The files stand in their order, so that a look at many of them doesn't compare each with each.
@@ -152,8 +177,29 @@ std::vector<SheetFile>::iterator SheetPile::placeOf(const QString& name) {
 }
 
 SheetFile* SheetPile::fileOf(const QString& path) {
-    const auto found = placeOf(QFileInfo(path).fileName());
+    const auto found = placeOf(nameOf(path));
     return found != files_.end() && found->path == path ? &*found : nullptr;
+}
+
+// One that lies elsewhere may be called as one of the folder is.
+QString SheetPile::nameOf(const QString& path) const {
+    const QFileInfo file(path);
+    const bool elsewhere = folder_ && file.absolutePath() != folder_->absolutePath() &&
+                           QFileInfo::exists(folder_->filePath(file.fileName()));
+    return elsewhere ? path : file.fileName();
+}
+
+// The user stands before it: what is wrong is told at once, and the window is as before.
+void SheetPile::refuse(const QString& path, PdfProgram::End end) {
+    opened_.removeAll(path);
+    std::erase_if(files_, [&path](const SheetFile& file) { return file.path == path; });
+    emit changed();
+    emit refused(end == PdfProgram::End::NotInstalled
+                     ? QStringLiteral("Falta nesta máquina o programa que desenha as folhas: "
+                                      "instale o pacote poppler-utils e abra o arquivo de novo.")
+                     : QStringLiteral("Não foi possível ler \"%1\": o arquivo está incompleto ou "
+                                      "não é um PDF.")
+                           .arg(path));
 }
 
 void SheetPile::readNext() {
@@ -178,7 +224,10 @@ void SheetPile::readNext() {
 void SheetPile::take(const QString& path, int version, PdfProgram::End end,
                      const QByteArray& output) {
     SheetFile* file = fileOf(path);
-    if (file != nullptr && file->version == version) {
+    const bool readable = end == PdfProgram::End::Good && !pagesIn(output).empty();
+    if (file != nullptr && !readable && opened_.contains(path)) {
+        refuse(path, end);
+    } else if (file != nullptr && file->version == version) {
         file->pages = end == PdfProgram::End::Good ? pagesIn(output) : std::vector<QSizeF>();
         file->remark = file->pages.empty() ? remarkOn(end, *file) : QString();
         if (!file->remark.isEmpty()) {

@@ -37,6 +37,8 @@ public:
     // Takes the job-*.pdf files of this folder from now on. One that still grows is taken
     // when it rests, and again when it changes; a folder that isn't there is waited for.
     void watch(const QString& folder);
+    // Takes this file too, wherever it lies.
+    void open(const QString& path);
     const std::vector<SheetFile>& files() const { return files_; }
     // Sheets that can be looked at.
     std::size_t sheets() const;
@@ -48,17 +50,23 @@ signals:
     void arrived(const QString& name);
     // A file that can't be read, as a line for the log.
     void troubled(const QString& line);
+    // One that was opened can't be read and isn't shown; a whole sentence for the user.
+    void refused(const QString& text);
 
 private:
     struct Seen {
         qint64 size = 0;
         QDateTime written;
     };
+    void start();
     void look();
+    QFileInfoList there() const;
+    void refuse(const QString& path, PdfProgram::End end);
     void dropMissing(const QFileInfoList& there);
     void note(const QFileInfo& file);
     void readNext();
     void take(const QString& path, int version, PdfProgram::End end, const QByteArray& output);
+    QString nameOf(const QString& path) const;
     std::vector<SheetFile>::iterator placeOf(const QString& name);
     SheetFile* fileOf(const QString& path);
     SheetFile& add(const QFileInfo& file);
@@ -66,6 +74,7 @@ private:
     PdfPrograms programs_;
     PdfProgram reader_;
     std::optional<QDir> folder_;
+    QStringList opened_;  // paths
     QFileSystemWatcher watcher_;
     QTimer timer_;
     std::vector<SheetFile> files_;

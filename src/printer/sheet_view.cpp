@@ -233,7 +233,9 @@ void SheetView::paintPage(QPainter& painter, const Row& row, const QRect& rect) 
         painter.drawText(rect, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
                          held == pictures_.end()
                              ? QStringLiteral("\nDesenhando...")
-                             : QStringLiteral("\nEsta página não pôde ser desenhada."));
+                             : QStringLiteral("\nEsta página não pôde ser desenhada. Se nenhuma "
+                                              "aparece, falta nesta máquina o programa pdftoppm: "
+                                              "instale o pacote poppler-utils."));
     }
     painter.setPen(sheetEdge);
     painter.drawRect(rect.adjusted(0, 0, -1, -1));

@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QFile>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPlainTextEdit>
@@ -199,6 +200,55 @@ TEST_F(Sheets, WhoClosesThePanelHasItBackByAKey) {
     EXPECT_TRUE(shows("job-002.pdf, página 1 de 1"));
 }
 
+// From anywhere on the disk, also while no folder is watched.
+TEST(OpenedSheets, APdfIsALooseSheetAndABrokenOneIsTold) {
+    QTemporaryDir folder;
+    PaperRoll roll{Dialect{}};
+    JobIntake intake{roll};
+    Queue queue;
+    HoldDesk held{[&queue] { return std::make_unique<SpoolerOfQueue>(queue); }};
+    PrinterWindow window{roll, intake, held, {}};
+    const QString whole = folder.filePath(QStringLiteral("duplicata.pdf"));
+    {
+        QPdfWriter writer(whole);
+        QPainter painter(&writer);
+        painter.drawText(100, 100, QStringLiteral("duplicata"));
+    }
+    const QString broken = folder.filePath(QStringLiteral("meia.pdf"));
+    QFile half(broken);
+    ASSERT_TRUE(half.open(QIODevice::WriteOnly));
+    half.write("%PDF-1.4\n%");
+    half.close();
+    const QString job = folder.filePath(QStringLiteral("trabalho.prn"));
+    QFile raw(job);
+    ASSERT_TRUE(raw.open(QIODevice::WriteOnly));
+    raw.write("texto\r\n");
+    raw.close();
+    window.setQuestions({nullptr,
+                         [&](const QString&, const QString&) {
+                             return QStringList{whole, broken, job};
+                         },
+                         nullptr, nullptr});
+    window.show();
+    auto& view = named<SheetView>(window, "sheets");
+    choose(window, "fileMenu", "open");
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            return window.errorBox() != nullptr && view.isDrawn() &&
+                   view.presentSheet() == QStringLiteral("duplicata.pdf, página 1 de 1");
+        },
+        sheetLimit))
+        << view.presentSheet().toStdString();
+    EXPECT_TRUE(view.isVisible());
+    EXPECT_EQ(qobject_cast<QMessageBox*>(window.errorBox())->text(),
+              QStringLiteral("Não foi possível ler \"%1\": o arquivo está incompleto ou não é um "
+                             "PDF.")
+                  .arg(broken));
+    EXPECT_TRUE(named<QLabel>(window, "count").text().contains(QStringLiteral(", 1 folha(s)")));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return intake.ended() == 1; }, sheetLimit));
+    EXPECT_EQ(roll.jobs().back().name, "trabalho.prn");
+}
+
 TEST_F(Sheets, AReaderSpeaksOfThem) {
     draw("job-001.pdf", 2);
     ASSERT_TRUE(shows("job-001.pdf, página 1 de 2"));
@@ -225,6 +275,16 @@ TEST_F(Sheets, AMachineWithoutTheProgramsIsTold) {
         sheetLimit));
     EXPECT_TRUE(pile.files()[0].remark.contains(file("job-001.pdf")));
     EXPECT_EQ(pile.sheets(), 0U);
+    QStringList refused;
+    QObject::connect(&pile, &SheetPile::refused,
+                     [&refused](const QString& text) { refused << text; });
+    QTemporaryDir elsewhere;
+    const QString copy = elsewhere.filePath("job-001.pdf");  // called as the one of the folder
+    ASSERT_TRUE(QFile::copy(file("job-001.pdf"), copy));
+    pile.open(copy);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return refused.size() == 1; }, sheetLimit));
+    EXPECT_TRUE(refused[0].contains(QStringLiteral("poppler-utils")));
+    EXPECT_EQ(pile.files().size(), 1U);
 }
 
 TEST(SheetListing, PagesAreTurnedAsTheyAreLookedAt) {
