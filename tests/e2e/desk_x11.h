@@ -3,8 +3,6 @@
 #pragma once
 
 #include <QAction>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QTemporaryDir>
 #include <QTest>
 #include <chrono>
@@ -98,12 +96,6 @@ public:
         if (!hands.waitUntil([&] { return widget.hasFocus() && X11User::isReady(); })) {
             throw std::runtime_error("no focus");
         }
-    }
-    void closeInnerScreens() {
-        for (QMdiSubWindow* inner : named<QMdiArea>(menu, "mdiArea").subWindowList()) {
-            inner->close();
-        }
-        QTest::qWait(1);
     }
     std::size_t asked(const std::string& command) {
         std::size_t times = 0;

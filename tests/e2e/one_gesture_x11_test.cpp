@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QDialog>
+#include <QMdiSubWindow>
 #include <QStringList>
 #include <algorithm>
 #include <functional>
