@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QStatusBar>
 #include <QTest>
 #include <algorithm>
@@ -40,6 +41,19 @@ bool printNote(dotmatrix::PaperRoll& roll, const QString& folder) {
            std::ranges::all_of(jobs, [&](const QString& job) { return print(roll, job); });
 }
 
+// With the list of what the paper shows cut.
+QPixmap checked(dotmatrix::PrinterWindow& window) {
+    constexpr int limit = 10'000;  // milliseconds
+    child<QAction>(window, "checkPaper").trigger();
+    const auto& result = child<QLabel>(window, "checkResult");
+    if (!QTest::qWaitFor([&result] { return result.text().contains(u"lugar"); }, limit)) {
+        std::fputs("tarnroteiro: a conferência não achou nada no papel.\n", stderr);
+        return {};
+    }
+    window.view().showTop(0);
+    return photoOf(window);
+}
+
 }  // namespace
 
 bool pictureOfPrinter(const std::string& folder) {
@@ -69,7 +83,8 @@ bool pictureOfPrinter(const std::string& folder) {
     // The paper stands at its end: back to where the note begins.
     child<QAction>(window, "previousJob").trigger();
     window.statusBar()->clearMessage();
-    return photoOf(window).save(sheets.filePath("impressora-virtual.png"));
+    return photoOf(window).save(sheets.filePath("impressora-virtual.png")) &&
+           checked(window).save(sheets.filePath("impressora-conferencia.png"));
 }
 
 }  // namespace tarn
