@@ -3,10 +3,9 @@
 #include <QCoreApplication>
 #include <QDir>
 
-#ifdef Q_OS_LINUX
-#include <sys/prctl.h>
-#include <unistd.h>
+#include "apps/tarnemissao-treino/tie.h"
 
+#ifdef Q_OS_LINUX
 #include <csignal>
 #endif
 
@@ -15,18 +14,6 @@ namespace {
 
 constexpr int mostRestarts = 3;
 constexpr int patienceMs = 3000;
-
-// Whatever becomes of this program, the piece ends with it.
-void endWithThisProgram([[maybe_unused]] QProcess& process) {
-#ifdef Q_OS_LINUX
-    process.setChildProcessModifier([parent = getpid()] {
-        prctl(PR_SET_PDEATHSIG, SIGTERM);
-        if (getppid() != parent) {  // gone before it was asked for
-            _exit(1);
-        }
-    });
-#endif
-}
 
 // A signal by which somebody asks a program to end; of a program that a signal ended, Qt tells
 // the signal's number as its status.
@@ -42,7 +29,7 @@ bool wasAskedToEnd([[maybe_unused]] int signal) {
 
 Piece::Piece(const QString& program, const QString& told, QObject* parent)
     : QObject(parent), program_(program) {
-    endWithThisProgram(process_);
+    tieBeforeStart(process_);
     process_.setStandardErrorFile(told, QIODevice::Append);
     connect(&process_, &QProcess::readyReadStandardOutput, this, &Piece::read);
     connect(&process_, &QProcess::finished, this, &Piece::finished);
@@ -60,6 +47,7 @@ Piece::~Piece() {
 void Piece::start(const QStringList& arguments) {
     arguments_ = arguments;
     process_.start(QDir(QCoreApplication::applicationDirPath()).filePath(program_), arguments_);
+    tieStarted(process_);
 }
 
 void Piece::stop() {

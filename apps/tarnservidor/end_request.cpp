@@ -27,15 +27,33 @@ BOOL WINAPI hear(DWORD word) {
     return TRUE;
 }
 
+// Takes the messages that have come.
+bool wasToldToClose() {
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
+        if (message.message == WM_CLOSE) {
+            return true;
+        }
+        DispatchMessageW(&message);
+    }
+    return false;
+}
+
 }  // namespace
 
+// A thread can be written to once it has looked for a message.
 EndRequest::EndRequest() {
     asked();
     SetConsoleCtrlHandler(hear, TRUE);
+    wasToldToClose();
 }
 
 void EndRequest::wait() {
-    WaitForSingleObject(asked(), INFINITE);
+    const HANDLE event = asked();
+    while (MsgWaitForMultipleObjects(1, &event, FALSE, INFINITE, QS_ALLPOSTMESSAGE) !=
+               WAIT_OBJECT_0 &&
+           !wasToldToClose()) {
+    }
 }
 
 #else

@@ -3,8 +3,9 @@
 
 namespace tarn {
 
-// To be made before any thread begins. On Windows the word is Ctrl+C, or the console's close
-// button; elsewhere SIGINT or SIGTERM.
+// To be made before any thread begins, and awaited by the one that made it. On Windows the word
+// is Ctrl+C, the console's close button, or WM_CLOSE, by which one program asks another;
+// elsewhere SIGINT or SIGTERM.
 class EndRequest {
 public:
     EndRequest();
