@@ -55,7 +55,10 @@ if(TARN_HARDEN)
   target_compile_options(tarn_options INTERFACE -Wformat -Werror=format-security
                          -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
   target_link_options(tarn_options INTERFACE
-                      "$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie;-Wl,-z,relro;-Wl,-z,now>")
+                      "$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>" -Wl,-z,relro -Wl,-z,now)
+endif()
+if(UNIX)
+  target_link_options(tarn_options INTERFACE -Wl,--as-needed)  # no library that nothing is taken of
 endif()
 
 # tarn_add_library(NAME): a static library whose rooms add their own sources; apps and
@@ -64,6 +67,27 @@ function(tarn_add_library name)
   add_library(${name} STATIC)
   target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(${name} PRIVATE tarn_options)
+  # Also so that a program has no copies of what a library holds, which a part wouldn't know of.
+  set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ${TARN_LATE_PARTS})
+endfunction()
+
+# tarn_add_part(NAME LIBRARY): a part of the desk that gives away what its own sources hold,
+# over a library: a file that the desk loads when it needs it (platform/parts), or linked to it.
+function(tarn_add_part name library)
+  if(TARN_LATE_PARTS)
+    add_library(${name} MODULE)
+    set_target_properties(${name} PROPERTIES PREFIX "" POSITION_INDEPENDENT_CODE ON
+      LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib/tarnemissao")
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/src")
+    target_link_libraries(${name} PRIVATE tarn_options)
+    target_link_options(${name} PRIVATE -Wl,--exclude-libs,ALL)
+    add_dependencies(tarn_parts ${name})
+    install(TARGETS ${name} DESTINATION lib/tarnemissao COMPONENT desk)
+  else()
+    tarn_add_library(${name})
+    target_link_libraries(tarn_parts PRIVATE ${name})
+  endif()
+  target_link_libraries(${name} PRIVATE ${library})
 endfunction()
 
 # What nearly every file reads, precompiled once for each of the larger targets. A file

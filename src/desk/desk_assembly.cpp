@@ -8,8 +8,7 @@
 #include "gateway/commands.h"
 #include "platform/directory/directory_spooler.h"
 #include "platform/directory/picture_folder.h"
-#include "platform/qt/qt_printer.h"
-#include "platform/system_spooler.h"
+#include "platform/parts/printing_part.h"
 #include "runtime/file_names.h"
 #include "runtime/version.h"
 #include "widgets/manual.h"
@@ -18,10 +17,10 @@ namespace tarn {
 
 Printers printersOf(const Options& options) {
     if (options.virtualPrinter.empty()) {
-        return {makeSystemSpooler(), std::make_unique<QtPrinter>()};
+        return {newLateSpooler(), newLatePrinter({})};
     }
     const auto files = std::make_shared<JobFiles>(pathOf(options.virtualPrinter));
-    return {std::make_unique<DirectorySpooler>(files), std::make_unique<QtPrinter>(files)};
+    return {std::make_unique<DirectorySpooler>(files), newLatePrinter(files)};
 }
 
 std::string printerObstacle(const Options& options, const Printers& printers) {
@@ -39,7 +38,7 @@ std::string printerObstacle(const Options& options, const Printers& printers) {
 Desk::Desk(DeskApplication& program, const Options& options, Printers printers)
     : program_(program),
       labelSelection_(options.labelSelection),
-      early_(network_, options.baseUrl + commands::VERSAO_TARN_EMISSAO(versionDate)),
+      early_(*network_, options.baseUrl + commands::VERSAO_TARN_EMISSAO(versionDate)),
       printers_(std::move(printers)),
       teller_(clock_, std::cerr),
       environment_{.http = server_,

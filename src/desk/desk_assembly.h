@@ -9,8 +9,8 @@
 #include "desk/desk_seams.h"
 #include "desk/mdi_menu.h"
 #include "gateway/command_effects.h"
-#include "platform/curl/curl_loader.h"
 #include "platform/early_loader.h"
+#include "platform/parts/network_part.h"
 #include "platform/printer.h"
 #include "platform/qt/blocking_loader.h"
 #include "platform/qt/patient_printing.h"
@@ -56,7 +56,7 @@ public:
 private:
     DeskApplication& program_;
     bool labelSelection_;
-    CurlLoader network_{{}, commands::onlyReads};
+    std::unique_ptr<HttpLoader> network_ = newNetworkLoader(commands::onlyReads);
     EarlyLoader early_;  // under way while the windows are built
     BlockingLoader http_{early_};
     Printers printers_;

@@ -49,6 +49,10 @@ for program in "$root"/usr/bin/*; do
     done
 done
 
+# What the logon doesn't need comes with the desk's parts.
+! readelf -d "$root/usr/bin/tarnemissao" | grep -E 'NEEDED.*(curl|cups|PrintSupport)' ||
+    complain "tarnemissao: links what its parts bring"
+
 # completes WANTED WORD...: what bash offers for the last word.
 completes() {
     local wanted=$1 got
