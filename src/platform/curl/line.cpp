@@ -25,7 +25,9 @@ constexpr std::chrono::seconds margin{1};  // of what a server says that it keep
 constexpr std::chrono::seconds firstPacket{1};
 
 [[noreturn]] void notReady() {
-    throw std::runtime_error("Não foi possível preparar o acesso à Internet (libcurl).");
+    throw std::runtime_error(
+        "Não foi possível preparar o acesso à Internet (libcurl). Abra o programa de novo; se "
+        "acontecer outra vez, peça ao administrador que o instale de novo.");
 }
 
 // libcurl knows the environment's proxy alone.
