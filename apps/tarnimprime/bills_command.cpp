@@ -59,9 +59,7 @@ void declareBills(cli::CommandLine& line, Choice& choice) {
     command.texts("documentos", request->documents, "documentos da pesquisa (DOCS.xml)")
         .called("ARQUIVO")
         .required();
-    command.whenChosen([&choice, request] {
-        choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
-    });
+    printWhenChosen(command, choice, request, print);
 }
 
 }  // namespace tarn::print

@@ -35,9 +35,7 @@ void declareCheque(cli::CommandLine& line, Choice& choice) {
         .required();
     command.text("--data", request->data, "data para depósito, dd/mm/yyyy").required();
     command.text("--municipio", request->town, "município do estabelecimento").required();
-    command.whenChosen([&choice, request] {
-        choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
-    });
+    printWhenChosen(command, choice, request, print);
 }
 
 }  // namespace tarn::print

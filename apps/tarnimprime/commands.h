@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -40,6 +41,15 @@ void declareLabelSelection(cli::CommandLine& line, Choice& choice);
 void declareCheque(cli::CommandLine& line, Choice& choice);
 void declareRuler(cli::CommandLine& line, Choice& choice);
 void declareRules(cli::CommandLine& line, Choice& choice);
+
+// Leaves to `choice`, when `command` is the one given, to print what it asks for.
+template <typename Request>
+void printWhenChosen(cli::Command& command, Choice& choice, std::shared_ptr<Request> request,
+                     void (*print)(const Request&, PrintEnvironment&)) {
+    command.whenChosen([&choice, request, print] {
+        choice.run = [request, print](PrintEnvironment& desk) { print(*request, desk); };
+    });
+}
 
 // A saved answer; cli::WrongUsage when the file can't be read or isn't an answer.
 XmlDocument readAnswer(const std::string& file);

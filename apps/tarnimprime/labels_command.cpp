@@ -61,9 +61,7 @@ void declareLabels(cli::CommandLine& line, Choice& choice) {
         .called("ARQUIVO")
         .required();
     command.texts("documentos", request->files, "etiquetas (ETQ.xml)").called("ARQUIVO").required();
-    command.whenChosen([&choice, request] {
-        choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
-    });
+    printWhenChosen(command, choice, request, print);
 }
 
 void declareLabelSelection(cli::CommandLine& line, Choice& choice) {
@@ -74,9 +72,7 @@ void declareLabelSelection(cli::CommandLine& line, Choice& choice) {
     command.texts("documentos", request->files, "clientes da pesquisa (ROWS.xml)")
         .called("ARQUIVO")
         .required();
-    command.whenChosen([&choice, request] {
-        choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
-    });
+    printWhenChosen(command, choice, request, print);
 }
 
 }  // namespace tarn::print

@@ -43,9 +43,7 @@ void declareOrder(cli::CommandLine& line, Choice& choice) {
     command.texts("documentos", request->files, "documentos de ordem (DOC.xml)")
         .called("ARQUIVO")
         .required();
-    command.whenChosen([&choice, request] {
-        choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
-    });
+    printWhenChosen(command, choice, request, print);
 }
 
 }  // namespace tarn::print

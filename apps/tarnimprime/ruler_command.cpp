@@ -50,9 +50,7 @@ void declareRuler(cli::CommandLine& line, Choice& choice) {
         .required();
     command.whole("--itens", request->itemLines, 0, mostItems,
                   "linhas de item do formulário de nota (usual: as que enchem 11 polegadas)");
-    command.whenChosen([&choice, request] {
-        choice.run = [request](PrintEnvironment& desk) { print(*request, desk); };
-    });
+    printWhenChosen(command, choice, request, print);
 }
 
 }  // namespace tarn::print
