@@ -7,6 +7,7 @@
 
 #include "common/raw_channel.h"
 #include "tests/support/fixed_machine.h"
+#include "tests/support/raw_line.h"
 #include "tests/support/recording_printer.h"
 #include "tests/support/recording_spooler.h"
 #include "tests/support/scripted_boxes.h"
@@ -19,13 +20,7 @@ namespace {
 
 class DeskSeamsTest : public testing::Test {
 protected:
-    void print() {
-        RawChannel channel(spooler, CodePage::Page1252);
-        channel.open();
-        std::string text = "x";
-        channel.ImprimeRaw(1, text, 1);
-        channel.close();
-    }
+    void print() { printLine(spooler, "x"); }
     // What is told of what was printed since the last time.
     std::string told() {
         teller.printed(

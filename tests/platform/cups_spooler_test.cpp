@@ -8,21 +8,13 @@
 
 #include "common/raw_channel.h"
 #include "tests/support/cups_test.h"
+#include "tests/support/raw_jobs.h"
 
 namespace tarn::test {
 namespace {
 
 class CupsSpoolerTest : public CupsTest {
 protected:
-    static bool begin(Spooler& spooler, std::string_view bytes) {
-        return spooler.openPrinter(PrivateCupsd::queueName) && spooler.startDocument({}) &&
-               spooler.startPage() && spooler.write(bytes) == bytes.size();
-    }
-    static bool end(Spooler& spooler) {
-        const bool ended = spooler.endPage() && spooler.endDocument();
-        return spooler.closePrinter() && ended;
-    }
-
     // The state of the newest job of the queue.
     static ipp_jstate_t newestState() {
         cups_job_t* jobs = nullptr;
@@ -51,17 +43,17 @@ TEST_F(CupsSpoolerTest, EveryByteArrivesAsItIs) {
         bytes.push_back(static_cast<char>(i));
     }
     CupsSpooler spooler;
-    ASSERT_TRUE(begin(spooler, bytes)) << server_->errorLog();
+    ASSERT_TRUE(beginJob(spooler, bytes)) << server_->errorLog();
     EXPECT_EQ(spooler.write(""), 0U);
     EXPECT_EQ(spooler.write("\x1B@end\r\n"), 7U);
-    ASSERT_TRUE(end(spooler));
+    ASSERT_TRUE(endJob(spooler));
     EXPECT_EQ(printed(), bytes + "\x1B@end\r\n") << server_->errorLog();
 }
 
 TEST_F(CupsSpoolerTest, ALargeJobInManyWrites) {
     std::mt19937 random(42);
     CupsSpooler spooler;
-    ASSERT_TRUE(begin(spooler, "first line\r\n"));
+    ASSERT_TRUE(beginJob(spooler, "first line\r\n"));
     std::string all = "first line\r\n";
     while (all.size() < 3000000) {
         std::string piece(1 + random() % 300, '\0');
@@ -71,15 +63,15 @@ TEST_F(CupsSpoolerTest, ALargeJobInManyWrites) {
         ASSERT_EQ(spooler.write(piece), piece.size());
         all += piece;
     }
-    ASSERT_TRUE(end(spooler));
+    ASSERT_TRUE(endJob(spooler));
     EXPECT_TRUE(printed() == all) << "the bytes differ";
 }
 
 TEST_F(CupsSpoolerTest, JobsArriveInOrder) {
     CupsSpooler spooler;
     for (const char* text : {"one", "two", "three"}) {
-        ASSERT_TRUE(begin(spooler, text));
-        ASSERT_TRUE(end(spooler));
+        ASSERT_TRUE(beginJob(spooler, text));
+        ASSERT_TRUE(endJob(spooler));
     }
     EXPECT_EQ(printed(), "one");
     EXPECT_EQ(printed(), "two");
@@ -98,24 +90,24 @@ TEST_F(CupsSpoolerTest, TheRawChannelPrintsOnTheDefaultPrinter) {
 
 TEST_F(CupsSpoolerTest, AJobLeftOpenIsCancelledWhenItsHandleIsReplaced) {
     CupsSpooler spooler;
-    ASSERT_TRUE(begin(spooler, "never ended"));
+    ASSERT_TRUE(beginJob(spooler, "never ended"));
     ASSERT_TRUE(spooler.openPrinter(PrivateCupsd::queueName));
     EXPECT_EQ(newestState(), IPP_JSTATE_CANCELED);
     ASSERT_TRUE(spooler.startDocument({}) && spooler.startPage());
     EXPECT_EQ(spooler.write("the next"), 8U);
-    ASSERT_TRUE(end(spooler));
+    ASSERT_TRUE(endJob(spooler));
     EXPECT_EQ(printed(), "the next");
 }
 
 TEST_F(CupsSpoolerTest, AJobLeftOpenIsCancelledWhenTheSpoolerDies) {
     {
         CupsSpooler spooler;
-        ASSERT_TRUE(begin(spooler, std::string(100000, 'x')));
+        ASSERT_TRUE(beginJob(spooler, std::string(100000, 'x')));
     }
     EXPECT_EQ(newestState(), IPP_JSTATE_CANCELED);
     CupsSpooler spooler;
-    ASSERT_TRUE(begin(spooler, "after"));
-    ASSERT_TRUE(end(spooler));
+    ASSERT_TRUE(beginJob(spooler, "after"));
+    ASSERT_TRUE(endJob(spooler));
     EXPECT_EQ(printed(), "after");
 }
 
@@ -123,12 +115,7 @@ TEST_F(CupsSpoolerTest, AQueueThatIsNotThereFails) {
     CupsSpooler spooler;
     EXPECT_FALSE(spooler.openPrinter("no_such_queue"));
     EXPECT_FALSE(spooler.openPrinter(""));
-    EXPECT_FALSE(spooler.startDocument({}));
-    EXPECT_FALSE(spooler.startPage());
-    EXPECT_EQ(spooler.write("A"), 0U);
-    EXPECT_FALSE(spooler.endPage());
-    EXPECT_FALSE(spooler.endDocument());
-    EXPECT_FALSE(spooler.closePrinter());
+    expectRefusals(spooler);
 }
 
 }  // namespace

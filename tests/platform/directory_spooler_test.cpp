@@ -9,6 +9,7 @@
 #include "platform/directory/new_file.h"
 #include "runtime/file_names.h"
 #include "tests/support/own_directory.h"
+#include "tests/support/raw_jobs.h"
 
 namespace tarn::test {
 namespace {
@@ -23,17 +24,8 @@ protected:
         return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     }
 
-    // Starts a job and writes; true when all of it was taken.
-    static bool begin(DirectorySpooler& spooler, std::string_view bytes) {
-        return spooler.openPrinter(spooler.defaultPrinter()) && spooler.startDocument({}) &&
-               spooler.startPage() && spooler.write(bytes) == bytes.size();
-    }
-    static bool end(DirectorySpooler& spooler) {
-        const bool ended = spooler.endPage() && spooler.endDocument();
-        return spooler.closePrinter() && ended;
-    }
     static bool print(DirectorySpooler& spooler, std::string_view bytes) {
-        return begin(spooler, bytes) && end(spooler);
+        return beginJob(spooler, bytes) && endJob(spooler);
     }
 
     OwnDirectory own_;
@@ -83,10 +75,10 @@ TEST_F(DirectorySpoolerTest, AFileThatIsThereIsReplacedOrRefused) {
 TEST_F(DirectorySpoolerTest, TwoThatPrintAtOnceHaveFilesOfTheirOwn) {
     DirectorySpooler one(directory_);
     DirectorySpooler other(directory_);
-    EXPECT_TRUE(begin(one, "1"));
-    EXPECT_TRUE(begin(other, "2"));
-    EXPECT_TRUE(end(one));
-    EXPECT_TRUE(end(other));
+    EXPECT_TRUE(beginJob(one, "1"));
+    EXPECT_TRUE(beginJob(other, "2"));
+    EXPECT_TRUE(endJob(one));
+    EXPECT_TRUE(endJob(other));
     EXPECT_EQ(bytesOf("job-001.prn"), "1");
     EXPECT_EQ(bytesOf("job-002.prn"), "2");
 }
@@ -221,7 +213,7 @@ TEST_F(DirectorySpoolerTest, OneNumberingForRawAndDrawnJobs) {
 
 TEST_F(DirectorySpoolerTest, BytesAreThereAfterEachWrite) {
     DirectorySpooler spooler(directory_);
-    EXPECT_TRUE(begin(spooler, "A"));
+    EXPECT_TRUE(beginJob(spooler, "A"));
     EXPECT_EQ(bytesOf("job-001.prn"), "A");
     EXPECT_EQ(spooler.write(""), 0U);
     EXPECT_EQ(spooler.write("B"), 1U);
@@ -231,10 +223,10 @@ TEST_F(DirectorySpoolerTest, BytesAreThereAfterEachWrite) {
 TEST_F(DirectorySpoolerTest, AJobNeverClosedStaysAndIsNotContinued) {
     {
         DirectorySpooler spooler(directory_);
-        EXPECT_TRUE(begin(spooler, "A"));
-        EXPECT_TRUE(begin(spooler, "B"));
+        EXPECT_TRUE(beginJob(spooler, "A"));
+        EXPECT_TRUE(beginJob(spooler, "B"));
         EXPECT_TRUE(print(spooler, "C"));
-        EXPECT_TRUE(begin(spooler, "D"));
+        EXPECT_TRUE(beginJob(spooler, "D"));
     }
     EXPECT_EQ(bytesOf("job-001.prn"), "A");
     EXPECT_EQ(bytesOf("job-002.prn"), "B");
@@ -244,13 +236,8 @@ TEST_F(DirectorySpoolerTest, AJobNeverClosedStaysAndIsNotContinued) {
 
 TEST_F(DirectorySpoolerTest, CallsOutOfOrderFail) {
     DirectorySpooler spooler(directory_);
-    EXPECT_FALSE(spooler.startDocument({}));
-    EXPECT_FALSE(spooler.startPage());
-    EXPECT_EQ(spooler.write("A"), 0U);
-    EXPECT_FALSE(spooler.endPage());
-    EXPECT_FALSE(spooler.endDocument());
-    EXPECT_FALSE(spooler.closePrinter());
-    EXPECT_TRUE(begin(spooler, "A"));
+    expectRefusals(spooler);
+    EXPECT_TRUE(beginJob(spooler, "A"));
     EXPECT_FALSE(spooler.startDocument({}));
     EXPECT_TRUE(spooler.endDocument());
     EXPECT_EQ(spooler.write("B"), 0U);

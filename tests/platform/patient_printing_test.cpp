@@ -7,7 +7,7 @@
 #include <future>
 #include <thread>
 
-#include "common/raw_channel.h"
+#include "tests/support/raw_line.h"
 #include "tests/support/recording_printer.h"
 #include "tests/support/recording_spooler.h"
 #include "tests/support/user.h"
@@ -60,13 +60,7 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
         QObject::connect(&button, &QPushButton::clicked, [this] { ++clicks; });
     }
-    void print() {
-        RawChannel channel(spooler, CodePage::Page1252);
-        channel.open();
-        std::string text = "x";
-        channel.ImprimeRaw(1, text, 1);
-        channel.close();
-    }
+    void print() { printLine(spooler, "x"); }
     // In the event loop of the next wait, which ends after it.
     void meanwhile(std::promise<void>& release, const std::function<void()>& act) {
         QTimer::singleShot(0, &window, [&release, act] {

@@ -12,6 +12,7 @@
 #include "runtime/file_names.h"
 #include "runtime/wide_text.h"
 #include "tests/notes/note_files.h"
+#include "tests/support/raw_jobs.h"
 
 namespace tarn::test {
 namespace {
@@ -44,15 +45,6 @@ protected:
         return bytes;
     }
 
-    static bool begin(WinspoolSpooler& spooler, std::string_view bytes) {
-        return spooler.openPrinter(spooler.defaultPrinter()) && spooler.startDocument({}) &&
-               spooler.startPage() && spooler.write(bytes) == bytes.size();
-    }
-    static bool end(WinspoolSpooler& spooler) {
-        const bool ended = spooler.endPage() && spooler.endDocument();
-        return spooler.closePrinter() && ended;
-    }
-
     fs::path paper_ = pathOf(environmentText(L"TARN_TEST_PAPER"));
 };
 
@@ -68,9 +60,9 @@ TEST_F(WinspoolTest, EveryByteArrives) {
         all.push_back(static_cast<char>(i));
     }
     WinspoolSpooler spooler;
-    EXPECT_TRUE(begin(spooler, all));
+    EXPECT_TRUE(beginJob(spooler, all));
     EXPECT_EQ(spooler.write("\x1A\r\n"), 3U);
-    EXPECT_TRUE(end(spooler));
+    EXPECT_TRUE(endJob(spooler));
     EXPECT_EQ(arrived(259), all + "\x1A\r\n");
 }
 
@@ -78,22 +70,17 @@ TEST_F(WinspoolTest, ACallOutOfTurnIsRefused) {
     WinspoolSpooler spooler;
     EXPECT_FALSE(spooler.openPrinter("nenhuma impressora"));
     EXPECT_TRUE(spooler.answers());
-    EXPECT_FALSE(spooler.startDocument({}));
-    EXPECT_FALSE(spooler.startPage());
-    EXPECT_EQ(spooler.write("A"), 0U);
-    EXPECT_FALSE(spooler.endPage());
-    EXPECT_FALSE(spooler.endDocument());
-    EXPECT_FALSE(spooler.closePrinter());
+    expectRefusals(spooler);
 }
 
 TEST_F(WinspoolTest, AJobThatIsNotEndedDoesNotPrint) {
     {
         WinspoolSpooler spooler;
-        EXPECT_TRUE(begin(spooler, "never"));
+        EXPECT_TRUE(beginJob(spooler, "never"));
     }
     WinspoolSpooler spooler;
-    EXPECT_TRUE(begin(spooler, "printed"));
-    EXPECT_TRUE(end(spooler));
+    EXPECT_TRUE(beginJob(spooler, "printed"));
+    EXPECT_TRUE(endJob(spooler));
     EXPECT_EQ(arrived(7), "printed");
 }
 
