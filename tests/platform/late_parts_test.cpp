@@ -30,7 +30,7 @@ bool isLoaded(const std::string& library) {
 
 std::string troubleWith(const char* part, const char* function) {
     try {
-        functionOfPart(part, function);
+        Part(fileOfPart(part)).function(function);
         return {};
     } catch (const std::runtime_error& error) {
         return error.what();
@@ -108,6 +108,16 @@ TEST(LateParts, AMissingPartIsNamed) {
     EXPECT_EQ(trouble.find("Falta uma parte deste programa"), 0U);
     EXPECT_NE(trouble.find("lib/tarnemissao/tarn_nothing.so"), std::string::npos);
     EXPECT_NE(troubleWith("tarn_network", "tarnNothing").find("tarnNothing"), std::string::npos);
+}
+
+TEST(LateParts, AProgramInstalledMeanwhileDoesNotChangeThePart) {
+    const OwnDirectory folder;
+    const std::filesystem::path file = folder.path() / "tarn_printing.so";
+    std::filesystem::copy_file(fileOfPart("tarn_printing"), file);
+    const Part part(file);
+    std::filesystem::remove(file);
+    std::ofstream(file) << "of another release";
+    EXPECT_NE(part.function("tarnNewPagePrinter"), nullptr);
 }
 
 }  // namespace

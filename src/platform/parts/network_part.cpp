@@ -14,7 +14,7 @@ auto* creator() {
     return &tarnNewNetworkLoader;
 #else
     return reinterpret_cast<decltype(&tarnNewNetworkLoader)>(
-        functionOfPart("tarn_network", "tarnNewNetworkLoader"));
+        Part(fileOfPart("tarn_network")).function("tarnNewNetworkLoader"));
 #endif
 }
 

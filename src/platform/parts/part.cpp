@@ -1,7 +1,11 @@
 #include "platform/parts/part.h"
 
 #include <dlfcn.h>
+#include <fcntl.h>
+#include <unistd.h>
 
+#include <cerrno>
+#include <cstring>
 #include <stdexcept>
 #include <string>
 
@@ -32,12 +36,23 @@ std::filesystem::path fileOfPart(const char* part) {
            (std::string(part) + ".so");
 }
 
-void* functionOfPart(const char* part, const char* function) {
-    void* library = dlopen(nameOf(fileOfPart(part)).c_str(), ownSymbolsFirst);
+Part::Part(const std::filesystem::path& file) : file_(open(file.c_str(), O_RDONLY | O_CLOEXEC)) {
+    if (file_ < 0) {
+        missing(nameOf(file) + ": " + std::strerror(errno));
+    }
+}
+
+Part::~Part() {
+    close(file_);
+}
+
+void* Part::function(const char* name) const {
+    const std::string file = "/proc/self/fd/" + std::to_string(file_);
+    void* library = dlopen(file.c_str(), ownSymbolsFirst);
     if (library == nullptr) {
         missing(lastError());
     }
-    void* found = dlsym(library, function);
+    void* found = dlsym(library, name);
     if (found == nullptr) {
         missing(lastError());
     }

@@ -9,21 +9,29 @@
 namespace tarn {
 namespace {
 
-struct Creators {
-    decltype(&tarnNewSystemSpooler) spooler;
-    decltype(&tarnNewPagePrinter) printer;
-};
-
-Creators creators() {
 #ifdef TARN_ONE_PIECE
-    return {&tarnNewSystemSpooler, &tarnNewPagePrinter};
+struct PrintingPart {
+    static Spooler* newSpooler() { return tarnNewSystemSpooler(); }
+    static Printer* newPrinter(std::shared_ptr<JobFiles>* files) {
+        return tarnNewPagePrinter(files);
+    }
+};
 #else
-    constexpr const char* part = "tarn_printing";
-    return {
-        reinterpret_cast<decltype(Creators::spooler)>(functionOfPart(part, "tarnNewSystemSpooler")),
-        reinterpret_cast<decltype(Creators::printer)>(functionOfPart(part, "tarnNewPagePrinter"))};
+class PrintingPart {
+public:
+    Spooler* newSpooler() const {
+        return reinterpret_cast<decltype(&tarnNewSystemSpooler)>(
+            part_.function("tarnNewSystemSpooler"))();
+    }
+    Printer* newPrinter(std::shared_ptr<JobFiles>* files) const {
+        return reinterpret_cast<decltype(&tarnNewPagePrinter)>(
+            part_.function("tarnNewPagePrinter"))(files);
+    }
+
+private:
+    Part part_{fileOfPart("tarn_printing")};
+};
 #endif
-}
 
 class LateSpooler : public Spooler {
 public:
@@ -42,11 +50,12 @@ public:
 private:
     Spooler& real() {
         if (!real_) {
-            real_.reset(creators().spooler());
+            real_.reset(part_.newSpooler());
         }
         return *real_;
     }
 
+    PrintingPart part_;
     std::unique_ptr<Spooler> real_;
 };
 
@@ -63,11 +72,12 @@ public:
 private:
     Printer& real() {
         if (!real_) {
-            real_.reset(creators().printer(&files_));
+            real_.reset(part_.newPrinter(&files_));
         }
         return *real_;
     }
 
+    PrintingPart part_;
     std::shared_ptr<JobFiles> files_;
     std::unique_ptr<Printer> real_;
 };

@@ -10,7 +10,8 @@
 namespace tarn {
 
 // The spooler of the machine and the page printer, whose part is loaded when they are first
-// asked for something; a part that is missing raises std::runtime_error then.
+// asked for something. A part that is missing raises std::runtime_error already when they are
+// made.
 
 // Null where the program was built without a print service.
 std::unique_ptr<Spooler> newLateSpooler();
