@@ -23,7 +23,6 @@ bool hasDisplay() {
 int runWithWindow(int argc, char** argv, const Options& options,
                   const dotmatrix::PaintOptions& looks) {
     const QApplication application(argc, argv);
-    QApplication::setApplicationDisplayName(QStringLiteral("Impressora virtual"));
     applyLook(*qApp);
     dotmatrix::PaperRoll roll(options.dialect);
     if (options.onePaper()) {

@@ -54,6 +54,7 @@ void CheckDock::makeTable() {
     table_->verticalHeader()->hide();
     table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
     table_->setWordWrap(false);
+    table_->horizontalHeader()->setHighlightSections(false);
     table_->horizontalHeader()->setStretchLastSection(true);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     table_->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -127,21 +128,23 @@ void CheckDock::add(const PaperFault& fault) {
 }
 
 void CheckDock::tell() {
-    table_->resizeColumnsToContents();
-    QString text = withBoxes_ == 0
-                       ? QStringLiteral("O papel está em branco: não há caixas para conferir.")
-                   : total_ == 0 ? QStringLiteral("Nada aparece cortado nem fora das caixas.")
-                                 : QStringLiteral(
-                                       "%1 lugar(es) cortado(s), fora das caixas ou cheio(s) até a "
-                                       "borda.")
-                                       .arg(total_);
+    for (int column = 0; column + 1 < table_->columnCount(); ++column) {
+        table_->resizeColumnToContents(column);
+    }
+    result_->setText(resultText());
+}
+
+QString CheckDock::resultText() const {
+    if (withBoxes_ == 0) {
+        return QStringLiteral("O papel está em branco: não há caixas para conferir.");
+    }
+    QString text = total_ == 0   ? QStringLiteral("Nada aparece cortado nem fora das caixas.")
+                   : total_ == 1 ? QStringLiteral("1 lugar para conferir.")
+                                 : QStringLiteral("%1 lugares para conferir.").arg(total_);
     if (total_ > faults_.size()) {
         text += QStringLiteral(" Aqui estão os primeiros %1.").arg(faults_.size());
     }
-    if (withBoxes_ > 0) {
-        text += QStringLiteral(" O papel não mostra o que foi cortado antes de imprimir.");
-    }
-    result_->setText(text);
+    return text + QStringLiteral(" O que o programa cortou antes de imprimir não está no papel.");
 }
 
 void CheckDock::goTo(int row) {

@@ -32,6 +32,7 @@ private:
     void step();
     void add(const PaperFault& fault);
     void tell();
+    QString resultText() const;
     void goTo(int row);
 
     PaperRoll& roll_;

@@ -81,9 +81,11 @@ HeldPanel::HeldPanel(HoldDesk& desk, QWidget* parent)
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->setTabKeyNavigation(false);
     table_->verticalHeader()->hide();
+    table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
     table_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table_->horizontalHeader()->setSectionResizeMode(stateColumn, QHeaderView::Stretch);
     table_->setWordWrap(false);
+    table_->horizontalHeader()->setHighlightSections(false);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(queue_);
     layout->addWidget(table_, 1);
@@ -102,7 +104,7 @@ void HeldPanel::makeButtons() {
     auto* row = new QHBoxLayout;
     static_cast<QVBoxLayout*>(layout())->addLayout(row);
     release_ =
-        add("heldRelease", QStringLiteral("Re&passar"),
+        add("heldRelease", QStringLiteral("Repa&ssar"),
             QStringLiteral("Manda o trabalho escolhido à fila, como chegou"), &HeldPanel::release);
     releaseAll_ = add("heldReleaseAll", QStringLiteral("Repassar &todos"),
                       QStringLiteral("Manda à fila todos os trabalhos retidos, na ordem"),
@@ -113,10 +115,10 @@ void HeldPanel::makeButtons() {
     forget_ = add("heldForget", QStringLiteral("Apa&gar"),
                   QStringLiteral("Apaga do disco o trabalho escolhido, recusado ou já repassado"),
                   &HeldPanel::forget);
-    onPaper_ = add("heldOnPaper", QStringLiteral("Está no pape&l"),
+    onPaper_ = add("heldOnPaper", QStringLiteral("Está &no papel"),
                    QStringLiteral("Você conferiu: a impressora imprimiu este trabalho"),
                    &HeldPanel::onPaper);
-    notOnPaper_ = add("heldNotOnPaper", QStringLiteral("&Não saiu"),
+    notOnPaper_ = add("heldNotOnPaper", QStringLiteral("Não sai&u"),
                       QStringLiteral("Você conferiu: a impressora não imprimiu este trabalho"),
                       &HeldPanel::notOnPaper);
     for (QPushButton* button : {release_, releaseAll_, refuse_, forget_, onPaper_, notOnPaper_}) {

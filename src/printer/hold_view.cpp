@@ -54,8 +54,9 @@ QString HoldView::findingsOf(std::size_t job) const {
     if (!faults) {
         return QStringLiteral("sem formulário");
     }
-    return faults->empty() ? QStringLiteral("nada cortado")
-                           : QStringLiteral("%1 lugar(es)").arg(faults->size());
+    return faults->empty()       ? QStringLiteral("nada cortado")
+           : faults->size() == 1 ? QStringLiteral("1 lugar")
+                                 : QStringLiteral("%1 lugares").arg(faults->size());
 }
 
 void HoldView::makeDock() {
@@ -72,7 +73,7 @@ void HoldView::makeDock() {
 }
 
 void HoldView::addMenu(WindowCommands& commands) {
-    commands.menu("queueMenu", QStringLiteral("Fi&la"));
+    commands.menu("queueMenu", QStringLiteral("F&ila"));
     commands.add({.name = "passTo",
                   .text = QStringLiteral("Repassar &para..."),
                   .hint = QStringLiteral("Escolhe a fila de verdade: os trabalhos que chegam ficam "

@@ -138,7 +138,7 @@ QString describe(const PaperFault& fault) {
         case PaperFault::Kind::OverEdge:
             return QStringLiteral("passa da borda da caixa");
         case PaperFault::Kind::Full:
-            return QStringLiteral("enche a caixa até a borda: o fim pode ter ficado de fora");
+            return QStringLiteral("caixa cheia: o fim pode faltar");
     }
     return {};
 }

@@ -14,10 +14,13 @@ QString askForQueue(QWidget* window) {
     QInputDialog dialog(window);
     dialog.setObjectName(QStringLiteral("queueQuestion"));
     dialog.setWindowTitle(QStringLiteral("Repassar para"));
+    const QStringList queues = QPrinterInfo::availablePrinterNames();
     dialog.setLabelText(
-        QStringLiteral("Os trabalhos que chegarem ficam retidos aqui até você liberar.\n"
-                       "Fila da impressora de verdade:"));
-    dialog.setComboBoxItems(QPrinterInfo::availablePrinterNames());
+        QStringLiteral("Os trabalhos que chegarem ficam retidos aqui até você liberar.\n") +
+        (queues.isEmpty() ? QStringLiteral("Esta máquina não mostra nenhuma fila; escreva o nome "
+                                           "da fila da impressora de verdade:")
+                          : QStringLiteral("Fila da impressora de verdade:")));
+    dialog.setComboBoxItems(queues);
     dialog.setComboBoxEditable(true);
     dialog.setOkButtonText(QStringLiteral("Repassar"));
     dialog.setCancelButtonText(QStringLiteral("Cancelar"));

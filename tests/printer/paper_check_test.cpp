@@ -72,12 +72,11 @@ TEST_F(Check, EachFaultIsARowThatLeadsToItsPlace) {
     job("\r\n\r\n    Jose Silva  Lins          solto aqui\r\n"
         "\f\f\f\f\r\n\r\n    Jose da SilvaJundiai\r\n");
     check();
-    ASSERT_TRUE(tells(QStringLiteral("3 lugar(es)")))
+    ASSERT_TRUE(tells(QStringLiteral("3 lugares para conferir.")))
         << named<QLabel>(window_, "checkResult").text().toStdString();
     ASSERT_EQ(table_.rowCount(), 3);
     EXPECT_EQ(row(0), QStringList({"1", "3", "31", "", "fora das caixas", "solto aqui"}));
-    EXPECT_EQ(row(1), QStringList({"5", "3", "5", "Cliente",
-                                   "enche a caixa até a borda: o fim pode ter ficado de fora",
+    EXPECT_EQ(row(1), QStringList({"5", "3", "5", "Cliente", "caixa cheia: o fim pode faltar",
                                    "Jose da Silv"}));
     EXPECT_EQ(row(2), QStringList({"5", "3", "23", "Cidade", "passa da borda da caixa", "ai"}));
     PaperView& view = window_.view();
@@ -93,7 +92,7 @@ TEST_F(Check, WhatComesLaterIsCheckedToo) {
     check();
     ASSERT_TRUE(tells(QStringLiteral("Nada aparece cortado nem fora das caixas.")));
     job("solto\r\n");
-    EXPECT_TRUE(tells(QStringLiteral("1 lugar(es)")));
+    EXPECT_TRUE(tells(QStringLiteral("1 lugar para conferir.")));
 }
 
 TEST_F(Check, BlankPaperHasNothingToBeChecked) {
@@ -150,7 +149,7 @@ TEST_F(Check, AHeldNoteIsShownWithWhatItsFormCut) {
     }
     const auto& table = named<QTableWidget>(window_, "heldJobs");
     ASSERT_EQ(table.rowCount(), 3);
-    EXPECT_EQ(table.item(0, 3)->text(), QStringLiteral("3 lugar(es)"));
+    EXPECT_EQ(table.item(0, 3)->text(), QStringLiteral("3 lugares"));
     EXPECT_EQ(table.item(1, 3)->text(), QStringLiteral("sem formulário"));
     PaperView& view = window_.view();
     view.showTop(0);
