@@ -15,18 +15,20 @@
 #include <utility>
 #include <vector>
 
+#include "bench/support/counting_seams.h"
+#include "bench/support/label_rows.h"
 #include "bench/support/measure.h"
 #include "labels/customer_selection.h"
 #include "labels/print_labels.h"
 #include "labels/print_selection.h"
 #include "platform/environment.h"
-#include "platform/printer.h"
-#include "platform/spooler.h"
 #include "tests/support/answers.h"
 #include "tests/support/test_environment.h"
 
 namespace {
 
+using tarn::bench::CountingPrinter;
+using tarn::bench::CountingSpooler;
 using tarn::bench::leastOf;
 using tarn::bench::ratioOf;
 using tarn::bench::secondsOf;
@@ -35,35 +37,6 @@ using tarn::labels::LabelForm;
 constexpr int small = 10;
 constexpr int large = 10000;
 constexpr int repeats = large / small;  // of a small run, in one measurement
-
-class CountingSpooler : public tarn::Spooler {
-public:
-    std::string defaultPrinter() override { return "nenhuma"; }
-    bool openPrinter(const std::string&) override { return true; }
-    bool startDocument(const tarn::JobDescription&) override { return true; }
-    bool startPage() override { return true; }
-    std::size_t write(std::string_view bytes) override {
-        bytes_ += bytes.size();
-        return bytes.size();
-    }
-    bool endPage() override { return true; }
-    bool endDocument() override { return true; }
-    bool closePrinter() override { return true; }
-
-private:
-    std::size_t bytes_ = 0;
-};
-
-class CountingPrinter : public tarn::Printer {
-public:
-    std::optional<tarn::PrinterFailure> perform(const tarn::PrintOperation&) override {
-        ++operations_;
-        return std::nullopt;
-    }
-
-private:
-    std::size_t operations_ = 0;
-};
 
 class SilentBoxes : public tarn::MessageBoxes {
 public:
@@ -74,22 +47,6 @@ tarn::XmlDocument parsed(const std::string& rows) {
     tarn::XmlDocument document;
     document.loadXML(tarn::test::answers::rowset(rows));
     return document;
-}
-
-// Labels as the server writes them: every attribute of a row, used or not.
-std::string labelsOf(int count) {
-    std::string rows;
-    for (int i = 1; i <= count; ++i) {
-        const std::string n = std::to_string(i);
-        rows.append("<z:row SEQUENCIAL='").append(n).append("' NOME='COMÉRCIO DE PEÇAS ").append(n);
-        rows.append(" LTDA' ENDERECO='AVENIDA BRASIL, ").append(n);
-        rows.append("' SOMENTE_ENDERECO='AVENIDA BRASIL' NUMERO='").append(n);
-        rows.append(
-            "' COMPLEMENTO='GALPÃO 2 SALA 34' BAIRRO='JARDIM AMÉRICA' MUNICIPIO='SÃO PAULO' "
-            "UF='SP' PAIS='BRASIL' CEP='01310-100' CODIGO='");
-        rows.append(n).append("'/>");
-    }
-    return rows;
 }
 
 std::string customersOf(int count) {
@@ -104,10 +61,8 @@ std::string customersOf(int count) {
 }
 
 tarn::labels::PrintRun runOf(int count) {
-    const tarn::XmlDocument sender = parsed(
-        "<z:row NOME='DISTRIBUIDORA SÃO JORGE LTDA' ENDERECO='AV. DAS NAÇÕES' BAIRRO='CENTRO' "
-        "MUNICIPIO='SÃO PAULO' UF='SP' CEP='01310-000' DESCRICAO='LOJA' NUMERO='2000'/>");
-    return {parsed(labelsOf(count)), tarn::labels::readSender(sender)};
+    const tarn::XmlDocument sender = parsed(tarn::bench::senderRow);
+    return {parsed(tarn::bench::labelsOf(count)), tarn::labels::readSender(sender)};
 }
 
 std::vector<tarn::GridRow> tickedOf(int count) {

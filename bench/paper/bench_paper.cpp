@@ -12,6 +12,8 @@
 
 #include "bench/support/child.h"
 #include "bench/support/measure.h"
+#include "bench/support/postscript.h"
+#include "tests/support/own_directory.h"
 
 namespace {
 
@@ -89,10 +91,7 @@ std::string escaped(const std::string& text) {
 
 void writePostScript(const fs::path& file) {
     std::ofstream out(file, std::ios::binary);
-    out << "%!PS-Adobe-3.0\n/Courier findfont dup length dict begin\n"
-           "{1 index /FID ne {def} {pop pop} ifelse} forall\n"
-           "/Encoding ISOLatin1Encoding def currentdict end /C exch definefont pop\n"
-           "/L {moveto show} bind def\n";
+    out << tarn::bench::postScriptHead("Courier");
     for (int note = 1; note <= notes; ++note) {
         out << "%%Page: " << note << ' ' << note
             << "\n/C findfont [7 0 0 10.5 0 0] makefont setfont\n";
@@ -116,11 +115,8 @@ int main(int /*argc*/, char** argv) {
         std::printf("not measured: gs is not installed (package ghostscript)\n");
         return 0;
     }
-    std::string room = (fs::temp_directory_path() / "tarn-bench-XXXXXX").string();
-    if (mkdtemp(room.data()) == nullptr) {
-        return 2;
-    }
-    const fs::path folder = room;
+    const tarn::test::OwnDirectory own;
+    const fs::path folder = own.path();
     const fs::path program = fs::path(argv[0]).parent_path() / "tarnimpressora";
     writeJob(folder / "notes.prn");
     writePostScript(folder / "notes.ps");
@@ -139,7 +135,6 @@ int main(int /*argc*/, char** argv) {
     using tarn::bench::leastOf;
     std::printf("1,000 notes: %.2f s, Ghostscript %.2f s; a page %.0f bytes, Ghostscript's %.0f\n",
                 leastOf(ours), leastOf(theirs), ourBytes / notes, theirBytes / notes);
-    fs::remove_all(folder);
     tarn::bench::Limits limits;
     limits.check("1,000 full notes to PDF over Ghostscript's part of it",
                  tarn::bench::ratioOf(ours, theirs), 1 / 1.5);
