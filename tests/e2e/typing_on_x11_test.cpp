@@ -8,36 +8,13 @@
 #include "platform/qt/tick.h"
 #include "tests/e2e/desk_x11.h"
 #include "tests/e2e/ways_x11.h"
+#include "tests/support/typing_pace.h"
 #include "widgets/free_text_field.h"
 
 namespace tarn::test {
 namespace {
 
 using namespace std::chrono_literals;
-
-struct Pace {
-    int answer;  // milliseconds, as the next
-    int key;
-};
-
-void PrintTo(const Pace& pace, std::ostream* out) {
-    *out << "answers after " << pace.answer << " ms, a key each " << pace.key << " ms";
-}
-
-std::vector<Pace> paces() {
-    std::vector<Pace> all;
-    for (const int answer : {50, 150, 300, 2000}) {
-        for (const int key : {60, 90, 120, 150}) {
-            all.push_back({answer, key});
-        }
-    }
-    return all;
-}
-
-std::string paceName(const testing::TestParamInfo<Pace>& each) {
-    return "AnswerAfter" + std::to_string(each.param.answer) + "KeyEach" +
-           std::to_string(each.param.key);
-}
 
 struct Field {
     const char* name;

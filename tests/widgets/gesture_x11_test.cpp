@@ -15,6 +15,7 @@
 #include <QWindow>
 
 #include "platform/qt/input_gate.h"
+#include "tests/support/typing_pace.h"
 #include "tests/support/x11_user.h"
 #include "tests/widgets/tab_field.h"
 #include "widgets/gesture_filter.h"
@@ -266,15 +267,6 @@ TEST_F(GestureX11Test, ADoubleClickReachesAList) {
     EXPECT_EQ(chosen, 1);
 }
 
-struct Pace {
-    int answer;  // milliseconds, as the next
-    int key;
-};
-
-void PrintTo(const Pace& pace, std::ostream* out) {
-    *out << "answers after " << pace.answer << " ms, a key each " << pace.key << " ms";
-}
-
 class TypingOn : public GestureX11Test, public testing::WithParamInterface<Pace> {};
 
 // Leaving the first field asks the server, while the user types on.
@@ -340,20 +332,7 @@ TEST_P(TypingOn, NothingTypedForTheFieldGoesIntoABox) {
     EXPECT_TRUE(typed.endsWith(inBox)) << inBox.toStdString();
 }
 
-std::vector<Pace> paces() {
-    std::vector<Pace> all;
-    for (const int answer : {50, 150, 300, 2000}) {
-        for (const int key : {60, 90, 120, 150}) {
-            all.push_back({answer, key});
-        }
-    }
-    return all;
-}
-
-INSTANTIATE_TEST_SUITE_P(Each, TypingOn, testing::ValuesIn(paces()), [](const auto& each) {
-    return "AnswerAfter" + std::to_string(each.param.answer) + "KeyEach" +
-           std::to_string(each.param.key);
-});
+INSTANTIATE_TEST_SUITE_P(Each, TypingOn, testing::ValuesIn(paces()), paceName);
 
 }  // namespace
 }  // namespace tarn::test
