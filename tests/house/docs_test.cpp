@@ -75,7 +75,7 @@ TEST(Docs, EveryLinkLeadsToAFile) {
     for (const std::string& page : pages) {
         for (const std::string& target : foundIn(contentOf(treeRoot / page), link)) {
             if (!fs::exists(treeRoot / fs::path(page).parent_path() / target)) {
-                broken.push_back(page + ": " + target);
+                broken.push_back(std::string(page).append(": ").append(target));
             }
         }
     }
