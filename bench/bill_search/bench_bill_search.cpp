@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QTableView>
 #include <array>
+#include <cstdio>
+#include <cstdlib>
 #include <map>
 #include <string>
 #include <vector>
@@ -66,6 +68,12 @@ public:
         search_->click();
         QCoreApplication::processEvents();  // paints it
     }
+    void needRows(int rows) const {
+        if (rows_->rowCount() != rows) {
+            std::fprintf(stderr, "the search shows %d rows of %d\n", rows_->rowCount(), rows);
+            std::exit(2);
+        }
+    }
     void tickAll() {
         rows_->toggleByLastRow();
         QCoreApplication::processEvents();
@@ -107,6 +115,7 @@ void billSearch(benchmark::State& state) {
             const int repeats = rows <= 100 ? 20 : 1;
             for (int i = 0; i < repeats; ++i) {
                 filled[rows].push_back(secondsOf([&] { search.fill(); }));
+                search.needRows(rows);
                 ticked[rows].push_back(secondsOf([&] { search.tickAll(); }));
                 parsed[rows].push_back(secondsOf([&] { parseAlone(answers[rows]); }));
             }
