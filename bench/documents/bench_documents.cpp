@@ -1,6 +1,7 @@
 // Drawn documents from saved answers to PDF files by tarnimprime: 3,000 labels on form 1,
 // which are a hundred documents, against Ghostscript writing one PDF of as many sheets with
-// the same texts at the same places; 1,000 bills with a logo against the same without.
+// the same texts at the same places and against a label program's batch run of the same
+// addresses; 1,000 bills with a logo against the same without.
 #include <QBuffer>
 #include <QImage>
 #include <array>
@@ -13,8 +14,11 @@
 #include <vector>
 
 #include "bench/support/child.h"
+#include "bench/support/label_rows.h"
 #include "bench/support/measure.h"
+#include "bench/support/postscript.h"
 #include "tests/support/answers.h"
+#include "tests/support/own_directory.h"
 
 namespace {
 
@@ -24,6 +28,7 @@ using tarn::bench::processorSecondsOf;
 using tarn::bench::ratioOf;
 
 constexpr int rounds = 7;
+constexpr int longRounds = 2;  // of a peer that takes seconds
 constexpr int labels = 3000;
 constexpr int labelsOfSheet = 30;
 constexpr int bills = 1000;
@@ -36,25 +41,6 @@ std::string read(const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
-
-std::string labelRows() {
-    std::string rows;
-    for (int i = 1; i <= labels; ++i) {
-        const std::string n = std::to_string(i);
-        rows.append("<z:row SEQUENCIAL='").append(n).append("' NOME='COMÉRCIO DE PEÇAS ").append(n);
-        rows.append(" LTDA' ENDERECO='AVENIDA BRASIL, ").append(n);
-        rows.append("' SOMENTE_ENDERECO='AVENIDA BRASIL' NUMERO='").append(n);
-        rows.append(
-            "' COMPLEMENTO='GALPÃO 2 SALA 34' BAIRRO='JARDIM AMÉRICA' MUNICIPIO='SÃO PAULO' "
-            "UF='SP' PAIS='BRASIL' CEP='01310-100' CODIGO='");
-        rows.append(n).append("'/>");
-    }
-    return rows;
-}
-
-constexpr const char* senderRow =
-    "<z:row NOME='DISTRIBUIDORA SÃO JORGE LTDA' ENDERECO='AV. DAS NAÇÕES' BAIRRO='CENTRO' "
-    "MUNICIPIO='SÃO PAULO' UF='SP' CEP='01310-000' DESCRICAO='LOJA' NUMERO='2000'/>";
 
 // Of label `i` at its place on the sheet.
 void writeLabel(std::ofstream& out, int i) {
@@ -86,10 +72,7 @@ void writeLabel(std::ofstream& out, int i) {
 
 void writePostScript(const fs::path& file) {
     std::ofstream out(file, std::ios::binary);
-    out << "%!PS-Adobe-3.0\n/Helvetica-Bold findfont dup length dict begin\n"
-           "{1 index /FID ne {def} {pop pop} ifelse} forall\n"
-           "/Encoding ISOLatin1Encoding def currentdict end /C exch definefont pop\n"
-           "/L {moveto show} bind def\n";
+    out << tarn::bench::postScriptHead("Helvetica-Bold");
     for (int i = 0; i < labels; ++i) {
         if (i % labelsOfSheet == 0) {
             out << "/C findfont 6 scalefont setfont\n";
@@ -98,6 +81,32 @@ void writePostScript(const fs::path& file) {
         if (i % labelsOfSheet == labelsOfSheet - 1) {
             out << "showpage\n";
         }
+    }
+}
+
+// The same texts for gLabels, in one object a label, on its sheets of 3 by 10.
+void writeTemplate(const fs::path& file) {
+    std::ofstream(file)
+        << "<?xml version='1.0'?>\n<Glabels-document xmlns='http://glabels.org/xmlns/3.0/'>\n"
+           "<Template brand='Avery' part='5160' size='US-Letter' description='3 by 10'>\n"
+           "<Label-rectangle id='0' width='189pt' height='72pt' round='5pt' x_waste='0pt' "
+           "y_waste='0pt'>\n<Layout nx='3' ny='10' x0='11.25pt' y0='36pt' dx='200.25pt' "
+           "dy='72pt'/></Label-rectangle></Template>\n<Objects id='0' rotate='False'>\n"
+           "<Object-text x='4pt' y='4pt' w='180pt' h='64pt' justify='left' valign='top' "
+           "auto_shrink='False' a0='1' a1='0' a2='0' a3='1' a4='0' a5='0'>\n"
+           "<Span font_family='Liberation Sans' font_size='6' font_weight='Bold' "
+           "font_italic='False' color='0x000000ff' line_spacing='1'><Field name='1'/><NL/>"
+           "<Field name='2'/><NL/><Field name='3'/> <Field name='4'/><NL/><Field name='5'/> "
+           "<Field name='6'/><NL/><Field name='7'/><NL/><Field name='8'/></Span>\n"
+           "</Object-text></Objects>\n<Merge type='Text/Comma' src='labels.csv'/>\n"
+           "</Glabels-document>\n";
+}
+
+void writeTable(const fs::path& file) {
+    std::ofstream out(file);
+    for (int i = 1; i <= labels; ++i) {
+        out << "COMÉRCIO DE PEÇAS " << i << " LTDA,\"AVENIDA BRASIL, " << i
+            << "\",GALPÃO 2 SALA 34,JARDIM AMÉRICA,SÃO PAULO,SP,01310-100," << i << '\n';
     }
 }
 
@@ -145,25 +154,49 @@ struct Room {
     }
 };
 
-void compareLabels(const Room& room, tarn::bench::Limits& limits) {
-    if (!tarn::bench::isInstalled("gs")) {
-        std::printf("labels not measured: gs is not installed (package ghostscript)\n");
-        return;
-    }
-    write(room.at("labels.xml"), tarn::test::answers::rowset(labelRows()));
-    write(room.at("sender.xml"), tarn::test::answers::rowset(senderRow));
-    writePostScript(room.at("labels.ps"));
+double printLabels(const Room& room) {
+    return room.print("labels", {"etiquetas", "--formulario", "1", "--remetente",
+                                 room.at("sender.xml"), room.at("labels.xml")});
+}
+
+// The peer's processor time a run, and what is checked.
+template <typename Peer>
+void compareLabels(const Room& room, tarn::bench::Limits& limits, const char* name, int times,
+                   const Peer& peer) {
     std::vector<double> ours;
     std::vector<double> theirs;
-    for (int round = 0; round < rounds; ++round) {
-        ours.push_back(room.print("labels", {"etiquetas", "--formulario", "1", "--remetente",
-                                             room.at("sender.xml"), room.at("labels.xml")}));
-        theirs.push_back(processorSecondsOf(
-            {"gs", "-q", "-dBATCH", "-dNOPAUSE", "-dSAFER", "-sDEVICE=pdfwrite", "-sPAPERSIZE=a4",
-             "-sOutputFile=" + room.at("theirs.pdf"), room.at("labels.ps")}));
+    for (int round = 0; round < times; ++round) {
+        ours.push_back(printLabels(room));
+        theirs.push_back(peer());
     }
-    std::printf("3,000 labels: %.2f s, Ghostscript %.2f s\n", leastOf(ours), leastOf(theirs));
-    limits.check("3,000 labels, 100 documents, over Ghostscript's one", ratioOf(ours, theirs), 1.0);
+    std::printf("3,000 labels: %.2f s, %s %.2f s\n", leastOf(ours), name, leastOf(theirs));
+    limits.check(std::string("3,000 labels, 100 documents, over one of ") + name,
+                 ratioOf(ours, theirs), 1.0);
+}
+
+void compareLabels(const Room& room, tarn::bench::Limits& limits) {
+    write(room.at("labels.xml"), tarn::test::answers::rowset(tarn::bench::labelsOf(labels)));
+    write(room.at("sender.xml"), tarn::test::answers::rowset(tarn::bench::senderRow));
+    if (tarn::bench::isInstalled("gs")) {
+        writePostScript(room.at("labels.ps"));
+        compareLabels(room, limits, "Ghostscript", rounds, [&] {
+            return processorSecondsOf(
+                {"gs", "-q", "-dBATCH", "-dNOPAUSE", "-dSAFER", "-sDEVICE=pdfwrite",
+                 "-sPAPERSIZE=a4", "-sOutputFile=" + room.at("theirs.pdf"), room.at("labels.ps")});
+        });
+    } else {
+        std::printf("labels not measured: gs is not installed (package ghostscript)\n");
+    }
+    if (tarn::bench::isInstalled("glabels-3-batch")) {
+        writeTemplate(room.at("labels.glabels"));
+        writeTable(room.at("labels.csv"));
+        compareLabels(room, limits, "gLabels", longRounds, [&] {
+            return processorSecondsOf({"glabels-3-batch", "-o", room.at("theirs.pdf"), "-i",
+                                       room.at("labels.csv"), room.at("labels.glabels")});
+        });
+    } else {
+        std::printf("labels not measured: glabels-3-batch is not installed (package glabels)\n");
+    }
 }
 
 void compareBills(const Room& room, tarn::bench::Limits& limits) {
@@ -196,14 +229,10 @@ void compareBills(const Room& room, tarn::bench::Limits& limits) {
 
 int main(int /*argc*/, char** argv) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    std::string made = (fs::temp_directory_path() / "tarn-bench-XXXXXX").string();
-    if (mkdtemp(made.data()) == nullptr) {
-        return 2;
-    }
-    const Room room{made, (fs::path(argv[0]).parent_path() / "tarnimprime").string()};
+    const tarn::test::OwnDirectory own;
+    const Room room{own.path(), (fs::path(argv[0]).parent_path() / "tarnimprime").string()};
     tarn::bench::Limits limits;
     compareLabels(room, limits);
     compareBills(room, limits);
-    fs::remove_all(room.folder);
     return limits.exitStatus();
 }

@@ -1,0 +1,35 @@
+// What no such client can do without, and no more: a window as large as the desk's, one with text,
+// and one request over the desk's line, begun before the windows and waited for.
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <future>
+
+#include "bench/start/end_at_paint.h"
+#include "platform/parts/network_part.h"
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        return 1;
+    }
+    const QApplication program(argc, argv);
+    const tarn::bench::EndAtPaint end(QStringLiteral("window"));
+    const auto line = tarn::newNetworkLoader(nullptr);
+    auto answer = std::async(std::launch::async, [&] { return line->get(argv[1]); });
+    QMainWindow desk;
+    desk.resize(desk.screen()->availableSize() - QSize(8, 38));
+    desk.show();
+    QApplication::processEvents();
+    if (!answer.get().loaded) {
+        return 1;
+    }
+    QWidget window;
+    window.setObjectName(QStringLiteral("window"));
+    auto* layout = new QVBoxLayout(&window);
+    layout->addWidget(new QLabel(QStringLiteral("Usuário"), &window));
+    layout->addWidget(new QLineEdit(&window));
+    window.show();
+    return QApplication::exec() + 1;
+}
