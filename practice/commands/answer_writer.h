@@ -11,7 +11,7 @@ namespace tarn::practice {
 
 enum class Encoding { Windows1252, Iso8859, Utf8 };
 
-std::optional<Encoding> encodingByName(std::string_view name);  // as --codificacao takes it
+std::optional<Encoding> encodingByName(std::string_view name);  // in small letters
 std::string_view encodingName(Encoding encoding);
 
 // The declaration, then the element, in the encoding declared. A character that
