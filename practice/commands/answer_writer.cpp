@@ -6,6 +6,8 @@
 #include <memory>
 #include <stdexcept>
 
+#include "gateway/windows_1252.h"
+
 namespace tarn::practice {
 namespace {
 
@@ -77,6 +79,7 @@ std::string writeAnswer(const Element& root, Encoding encoding) {
     if (!buffer || !writer) {
         throw std::bad_alloc();
     }
+    teachWindows1252();
     const std::string name(encodingName(encoding));
     require(xmlTextWriterStartDocument(writer.get(), nullptr, name.c_str(), nullptr));
     writeElement(writer.get(), root);
