@@ -39,7 +39,9 @@ endif()
 
 if(TARN_BUILD_TESTS)
   find_package(GTest REQUIRED)
-  find_package(OpenSSL REQUIRED)  # certificates of the tests' own; cpp-httplib brings it
+  if(UNIX)
+    find_package(OpenSSL REQUIRED)  # certificates of the tests' own; cpp-httplib brings it
+  endif()
   find_package(X11)
 endif()
 

@@ -9,6 +9,9 @@ target_link_libraries(tarn_test_options INTERFACE tarn_common_options)
 target_compile_options(tarn_test_options INTERFACE
                        $<$<CXX_COMPILER_ID:GNU,Clang>:-O0;-fPIC>)
 target_compile_definitions(tarn_test_options INTERFACE QT_NO_DEBUG)
+if(WIN32)  # what Qt defines there has its part in the system's headers
+  target_link_libraries(tarn_test_options INTERFACE Qt6::Platform)
+endif()
 # What a lump needs is let go of only with its end, so that g++ needn't look for garbage.
 target_compile_options(tarn_test_options INTERFACE
                        $<$<CXX_COMPILER_ID:GNU>:--param=ggc-min-heapsize=524288>)  # KiB

@@ -35,7 +35,7 @@ std::vector<files::path> inputsOf(const std::vector<std::string>& names) {
 int main(int argc, char** argv) {
     const std::vector<files::path> inputs = inputsOf({argv + 1, argv + argc});
     for (const files::path& path : inputs) {
-        std::fprintf(stderr, "%s\n", path.c_str());
+        std::fprintf(stderr, "%s\n", path.string().c_str());
         std::ifstream file(path, std::ios::binary);
         if (!file) {
             return 1;
