@@ -1,6 +1,7 @@
 #include "printer/hold_view.h"
 
 #include <QDockWidget>
+#include <algorithm>
 
 #include "printer/held_panel.h"
 #include "printer/paper_check.h"
@@ -50,6 +51,10 @@ void HoldView::kept(int number) {
 
 // How the job's print lies on its form, in a word.
 QString HoldView::findingsOf(std::size_t job) const {
+    constexpr std::size_t mostForms = 100;  // more would keep the next job waiting
+    if (roll_.printedForms() - std::min(roll_.printedForms(), roll_.jobs()[job].form) > mostForms) {
+        return QStringLiteral("confira com F6");
+    }
     const auto faults = faultsOfJob(roll_, job, looks_.design.get());
     if (!faults) {
         return QStringLiteral("sem formulário");

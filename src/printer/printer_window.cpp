@@ -241,7 +241,9 @@ void PrinterWindow::tearOff() {
 
 void PrinterWindow::jobEnded(const QString& name, const QString& why) {
     const RollJob* job = roll_.jobs().empty() ? nullptr : &roll_.jobs().back();
-    const QString known = job == nullptr || job->paper.told
+    // A job that could not be kept never came onto the paper.
+    const bool isOnPaper = job != nullptr && job->name == name.toStdString();
+    const QString known = !isOnPaper || job->paper.told
                               ? QString()
                               : QStringLiteral(" Papel reconhecido pelo conteúdo: %1.")
                                     .arg(QString::fromStdString(formTitle(job->paper.form->name)));

@@ -159,6 +159,16 @@ TEST_F(Check, AHeldNoteIsShownWithWhatItsFormCut) {
     EXPECT_EQ(marked(view), 0);
 }
 
+TEST_F(Check, AHeldJobOfManyFormsIsNotCheckedAsItComes) {
+    ASSERT_EQ(held_.open(folder_.filePath("retidos")), QString());
+    intake_.keepIn(&held_);
+    ASSERT_TRUE(intake_.begin("longo", JobIntake::Kind::Printed));
+    ASSERT_TRUE(intake_.take(QByteArray(101, '\f') + "x"));
+    ASSERT_TRUE(intake_.end());
+    EXPECT_EQ(named<QTableWidget>(window_, "heldJobs").item(0, 3)->text(),
+              QStringLiteral("confira com F6"));
+}
+
 class LayoutCheck : public testing::TestWithParam<FormFacts> {};
 
 // What a note's field had no room for is told by the field's box; nothing else is.
