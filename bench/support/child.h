@@ -34,6 +34,7 @@ inline Spent spentBy(const std::vector<std::string>& words) {
     const pid_t child = fork();
     if (child == 0) {
         std::vector<char*> arguments;
+        arguments.reserve(words.size() + 1);
         for (const std::string& word : words) {
             arguments.push_back(const_cast<char*>(word.c_str()));
         }
