@@ -7,24 +7,13 @@
 #include "platform/directory/directory_spooler.h"
 #include "platform/directory/ops_printer.h"
 #include "platform/directory/picture_folder.h"
+#include "platform/no_paper.h"
 #include "platform/system_spooler.h"
 #include "runtime/file_names.h"
 #include "runtime/text.h"
 
 namespace tarn::print {
 namespace {
-
-class NoPaper : public Spooler {
-public:
-    std::string defaultPrinter() override { return "nenhuma"; }
-    bool openPrinter(const std::string&) override { return true; }
-    bool startDocument(const JobDescription&) override { return true; }
-    bool startPage() override { return true; }
-    std::size_t write(std::string_view bytes) override { return bytes.size(); }
-    bool endPage() override { return true; }
-    bool endDocument() override { return true; }
-    bool closePrinter() override { return true; }
-};
 
 class NoPages : public Printer {
 public:

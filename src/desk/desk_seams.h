@@ -45,6 +45,7 @@ public:
     bool endPage() override;
     bool endDocument() override;
     bool closePrinter() override;
+    bool tellsKinds() const override { return real_.tellsKinds(); }
     bool answers() const override { return real_.answers(); }
 
 private:

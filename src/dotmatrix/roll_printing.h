@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,12 +19,20 @@
 
 namespace tarn::dotmatrix {
 
+// A text that the document cut before it printed, by the word of the job's sender.
+struct CutText {
+    int line = 0;    // from the job's first, from 1; 0 where it has none
+    int column = 0;  // printed, from 1; 0 where it has none
+    std::string what{};
+};
+
 // The paper that a job is known to go on; no form: it isn't known.
 struct JobPaper {
     std::shared_ptr<const FormDesign> form{};
     // The job's sender says so; else its bytes do, and what its set-up job has done to the
     // printer holds.
     bool told = true;
+    std::optional<std::vector<CutText>> cuts{};  // nothing where the sender doesn't tell
 };
 
 // What is done at the printer ahead of a job.

@@ -29,9 +29,6 @@ std::string placeOf(const Loss& loss) {
     if (loss.column > 0) {
         place += "coluna " + std::to_string(loss.column) + ", ";
     }
-    if (loss.item > 0) {
-        place += "item " + std::to_string(loss.item) + ", ";
-    }
     return place;
 }
 
@@ -42,7 +39,12 @@ std::string quoted(std::string_view text) {
 }  // namespace
 
 std::string describe(const Loss& loss) {
-    std::string where = placeOf(loss) + loss.field;
+    return placeOf(loss) + describeInPlace(loss);
+}
+
+std::string describeInPlace(const Loss& loss) {
+    const std::string where =
+        (loss.item > 0 ? "item " + std::to_string(loss.item) + ", " : std::string()) + loss.field;
     switch (loss.kind) {
         case Loss::Kind::Text:
             return where + ": não cabe; perde " + quoted(loss.lost);

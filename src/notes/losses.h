@@ -30,8 +30,9 @@ struct Loss {
     int limit = 0;        // how many the form has room for
 };
 
-// One line in Portuguese, without a line end.
+// One line in Portuguese, without a line end; the second without line and column.
 std::string describe(const Loss& loss);
+std::string describeInPlace(const Loss& loss);
 
 // Whether a number that prints as the first `shown` characters of `text` still reads the
 // same. Not for texts that are no numbers.

@@ -4,6 +4,10 @@
 #include <array>
 #include <charconv>
 #include <fstream>
+#include <span>
+#include <utility>
+
+#include "runtime/text.h"
 
 namespace tarn {
 namespace {
@@ -19,8 +23,11 @@ constexpr std::array documentWords{
 
 // As many as a printer has room for on its longest form; beyond, a number means nothing.
 constexpr int mostItemLines = 132;
+// More cuts than anybody reads are left out, and so is what is beyond the begin of a long one.
+constexpr std::size_t mostCuts = 100;
+constexpr std::size_t mostCharacters = 300;
 // No file of a kind comes near it; what is longer is another's.
-constexpr std::size_t longestText = 1024;
+constexpr std::size_t longestText = std::size_t{256} * 1024;
 
 std::optional<int> itemLinesOf(std::string_view word) {
     int lines = 0;
@@ -31,6 +38,27 @@ std::optional<int> itemLinesOf(std::string_view word) {
     return sound ? std::optional(lines) : std::nullopt;
 }
 
+// "12 4 words" of a cut; nothing where it is none.
+std::optional<JobCut> cutOf(std::string_view value) {
+    JobCut cut;
+    const char* end = value.data() + value.size();
+    const auto line = std::from_chars(value.data(), end, cut.line);
+    if (line.ec != std::errc() || line.ptr == end || cut.line < 0) {
+        return std::nullopt;
+    }
+    const auto column = std::from_chars(line.ptr + 1, end, cut.column);
+    if (column.ec != std::errc() || column.ptr == end || cut.column < 0) {
+        return std::nullopt;
+    }
+    cut.what.assign(column.ptr + 1, end);
+    return cut;
+}
+
+std::string textOf(const JobCut& cut) {
+    return "corta " + std::to_string(cut.line) + " " + std::to_string(cut.column) + " " +
+           blankControls(leftOf(cut.what, mostCharacters)) + "\n";
+}
+
 void take(std::string_view name, std::string_view value, JobKind& kind) {
     if (name == "documento") {
         const auto* known = std::ranges::find(documentWords, value, &DocumentWord::word);
@@ -39,6 +67,12 @@ void take(std::string_view name, std::string_view value, JobKind& kind) {
         kind.form = value;
     } else if (name == "itens") {
         kind.itemLines = itemLinesOf(value);
+    } else if (name == "cortes") {
+        kind.cuts.emplace();
+    } else if (name == "corta" && kind.cuts && kind.cuts->size() < mostCuts) {
+        if (auto cut = cutOf(value)) {
+            kind.cuts->push_back(std::move(*cut));
+        }
     }
 }
 
@@ -55,6 +89,13 @@ std::string writeJobKind(const JobKind& kind) {
     }
     if (kind.itemLines) {
         text += "itens " + std::to_string(*kind.itemLines) + "\n";
+    }
+    if (kind.cuts) {
+        text += "cortes " + std::to_string(kind.cuts->size()) + "\n";
+        const std::size_t count = std::min(kind.cuts->size(), mostCuts);
+        for (const JobCut& cut : std::span(*kind.cuts).first(count)) {
+            text += textOf(cut);
+        }
     }
     return text;
 }

@@ -7,10 +7,19 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarn {
 
 enum class JobDocument { Untold, Note, OrderSheet, Slip, Cheque, Labels };
+
+// A text that a document cuts because its form has no room for it.
+struct JobCut {
+    int line = 0;        // printed, from the document's first, from 1; 0 where it has none
+    int column = 0;      // printed, from 1; 0 where it has none
+    std::string what{};  // UTF-8, Portuguese, in one line: the field, and what is missing of it
+    bool operator==(const JobCut&) const = default;
+};
 
 // A document may take several jobs, such as one that sets the printer up ahead of the note's
 // own: all of them have its kind.
@@ -20,6 +29,8 @@ struct JobKind {
     std::string form;
     // Lines that a note's form has for items, where the note tells.
     std::optional<int> itemLines;
+    // Nothing where the document doesn't tell what it cuts.
+    std::optional<std::vector<JobCut>> cuts{};
 
     bool told() const { return document != JobDocument::Untold; }
     bool operator==(const JobKind&) const = default;

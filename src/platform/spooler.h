@@ -54,6 +54,9 @@ public:
     // of the queue.
     virtual JobFate fateOf(int /*documentNumber*/) { return JobFate::Doubtful; }
 
+    // Whether it tells on what the jobs print: only then is it worth finding out what they cut.
+    virtual bool tellsKinds() const { return false; }
+
     // Whether the system's print service answered when it was last asked for something.
     virtual bool answers() const { return true; }
 };

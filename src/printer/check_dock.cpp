@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <chrono>
 
 namespace tarn::dotmatrix {
@@ -14,6 +15,10 @@ constexpr std::size_t formsAStep = 20;
 constexpr std::size_t mostRows = 1000;
 constexpr std::chrono::milliseconds untilPaperRests(500);
 constexpr int someRows = 200;  // pixels
+
+bool tellsCuts(const RollJob& job) {
+    return !job.shows || job.paper.cuts.has_value();
+}
 
 }  // namespace
 
@@ -97,7 +102,7 @@ void CheckDock::step() {
             continue;
         }
         ++withBoxes_;
-        for (const PaperFault& fault : faultsOn(*page, *design)) {
+        for (const PaperFault& fault : faultsOn(*page, *design, roll_.jobs())) {
             add(fault);
         }
     }
@@ -116,8 +121,8 @@ void CheckDock::add(const PaperFault& fault) {
     const int row = table_->rowCount();
     table_->insertRow(row);
     const QStringList words{QString::number(fault.form + 1),
-                            QString::number(fault.row),
-                            QString::number(fault.column),
+                            fault.row > 0 ? QString::number(fault.row) : QString(),
+                            fault.column > 0 ? QString::number(fault.column) : QString(),
                             fault.box,
                             describe(fault),
                             fault.text};
@@ -144,7 +149,10 @@ QString CheckDock::resultText() const {
     if (total_ > faults_.size()) {
         text += QStringLiteral(" Aqui estão os primeiros %1.").arg(faults_.size());
     }
-    return text + QStringLiteral(" O que o programa cortou antes de imprimir não está no papel.");
+    return std::ranges::all_of(roll_.jobs(), tellsCuts)
+               ? text
+               : text + QStringLiteral(
+                            " O que o programa cortou antes de imprimir não está no papel.");
 }
 
 void CheckDock::goTo(int row) {

@@ -1,6 +1,8 @@
 #include "printer/job_intake.h"
 
 #include <chrono>
+#include <optional>
+#include <vector>
 
 #include "dotmatrix/set_up.h"
 
@@ -15,6 +17,17 @@ QString notKept() {
     return QStringLiteral(
         "não foi possível guardar o trabalho na pasta dos retidos; ele não foi aceito. Libere "
         "espaço em disco e imprima de novo.");
+}
+
+std::optional<std::vector<CutText>> cutsOf(const JobKind& told) {
+    if (!told.cuts) {
+        return std::nullopt;
+    }
+    std::vector<CutText> cuts;
+    for (const JobCut& cut : *told.cuts) {
+        cuts.push_back({cut.line, cut.column, cut.what});
+    }
+    return cuts;
 }
 
 }  // namespace
@@ -40,7 +53,7 @@ bool JobIntake::begin(const QString& name, Kind kind, const JobKind& told) {
     heldBack_.clear();
     failure_.reset();
     if (told.told()) {
-        putOnPaper({.form = forms_.formOf(told), .told = true});
+        putOnPaper({.form = forms_.formOf(told), .told = true, .cuts = cutsOf(told)});
     } else {
         patience_.start();
     }

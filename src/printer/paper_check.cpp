@@ -1,6 +1,9 @@
 #include "printer/paper_check.h"
 
 #include <algorithm>
+#include <iterator>
+
+#include "printer/told_cuts.h"
 
 namespace tarn::dotmatrix {
 
@@ -139,6 +142,8 @@ QString describe(const PaperFault& fault) {
             return QStringLiteral("passa da borda da caixa");
         case PaperFault::Kind::Full:
             return QStringLiteral("caixa cheia: o fim pode faltar");
+        case PaperFault::Kind::Cut:
+            return QStringLiteral("cortado ao imprimir");
     }
     return {};
 }
@@ -147,7 +152,8 @@ const FormBox* boxAt(const FormDesign& design, PaperUnits x, PaperUnits y) {
     return boxIn(design.boxes, x, y);
 }
 
-std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design) {
+std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design,
+                                 const std::vector<RollJob>& jobs) {
     std::vector<PaperFault> faults;
     for (const PaperLine& line : page.lines) {
         const std::vector<Placed> row = placedIn(line, design, page.shape.top);
@@ -161,6 +167,12 @@ std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design)
                   faults);
         }
     }
+    // Who tells what it cut leaves nothing to be guessed.
+    std::erase_if(faults, [&jobs](const PaperFault& fault) {
+        return fault.kind == PaperFault::Kind::Full && fault.job > 0 &&
+               jobs[fault.job - 1].paper.cuts.has_value();
+    });
+    std::ranges::move(cutsOn(page, design, jobs), std::back_inserter(faults));
     return faults;
 }
 
@@ -179,7 +191,7 @@ std::optional<std::vector<PaperFault>> faultsOfJob(PaperRoll& roll, std::size_t 
         if (!faults) {
             faults.emplace();
         }
-        for (PaperFault& fault : faultsOn(*page, *design)) {
+        for (PaperFault& fault : faultsOn(*page, *design, jobs)) {
             if (fault.job == job + 1) {
                 faults->push_back(std::move(fault));
             }

@@ -1,5 +1,6 @@
-// What the paper shows cut or outside the boxes of its form. What a program cut before it
-// printed is not on the paper; a text that fills its box to the edge may be such a one.
+// What the paper shows cut or outside the boxes of its form, and what the document cut before it
+// printed where the job's sender tells. Where it doesn't, a text that fills its box to the edge
+// may be such a one.
 #pragma once
 
 #include <QString>
@@ -17,7 +18,8 @@ struct PaperFault {
     enum class Kind : std::uint8_t {
         Outside,   // no box is there
         OverEdge,  // goes on beyond a box's edge, or begins before it
-        Full       // from edge to edge of its box
+        Full,      // from edge to edge of its box
+        Cut        // by the document, which tells so
     };
     Kind kind{};
     PaperRegion region{};
@@ -26,7 +28,7 @@ struct PaperFault {
     std::size_t row = 0;     // of the form, from 1
     std::size_t column = 0;  // from 1
     QString box{};           // its words; empty for none
-    QString text{};          // outside the box, or, where it is full, in it
+    QString text{};          // outside the box, in it where it is full, what is missing of it
 };
 
 // In words for the user, without what is told of its place.
@@ -35,8 +37,10 @@ QString describe(const PaperFault& fault);
 // The box of the form that holds this place; null for none.
 const FormBox* boxAt(const FormDesign& design, PaperUnits x, PaperUnits y);
 
-// From the top down, as the form's boxes are drawn.
-std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design);
+// From the top down, as the form's boxes are drawn, then what the jobs tell that begin on this
+// form. `jobs` are those of its roll.
+std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design,
+                                 const std::vector<RollJob>& jobs);
 
 // Of the print of one of the roll's jobs, by its index; nothing where no form with boxes lies
 // under it. `underAll` lies under what has none of its own, null for none.

@@ -259,7 +259,7 @@ void PaperView::paintFaults(QPainter& painter, const FormPage& page) const {
     if (!faults_ || design == nullptr || design->boxes.empty()) {
         return;
     }
-    for (const PaperFault& fault : faultsOn(page, *design)) {
+    for (const PaperFault& fault : faultsOn(page, *design, roll_.jobs())) {
         painter.fillRect(pixelsOf(fault.region),
                          fault.kind == PaperFault::Kind::Full ? fullColour : faultColour);
     }

@@ -180,7 +180,12 @@ TEST(ClerkDay, EveryRawJobTellsItsForm) {
          QDir(clerk_day::dayFolder).entryList({"job-*.kind"}, QDir::Files, QDir::Name)) {
         told += file.toStdString() + ": " + paper(file.toUtf8().constData());
     }
-    const std::string note = "documento nota\nformulario ImprimeNF_1361\nitens 13\n";
+    // The form has 38 columns for "VENDA DE MERCADORIA ADQUIRIDA DE TERCEIROS" and 18 for
+    // "(11) 3222-4411 / 3222-4412".
+    const std::string note =
+        "documento nota\nformulario ImprimeNF_1361\nitens 13\ncortes 2\n"
+        "corta 7 2 NatOper: não cabe; perde \"IROS\"\n"
+        "corta 14 59 FONEFAX: não cabe; perde \"222-4412\"\n";
     const std::string slip = "documento boleto\nformulario Boleto_1016_57\n";
     const std::string labels = "documento etiquetas\nformulario Etiquetas\n";
     EXPECT_EQ(told,

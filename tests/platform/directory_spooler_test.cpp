@@ -162,6 +162,36 @@ TEST(JobKindText, ReadsWhatItWrites) {
     EXPECT_EQ(writeJobKind({}), "");
 }
 
+TEST(JobKindText, WhatIsCutIsToldInALineEach) {
+    JobKind kind{.document = JobDocument::Note, .form = "F", .itemLines = 3};
+    kind.cuts.emplace();
+    EXPECT_EQ(writeJobKind(kind), "documento nota\nformulario F\nitens 3\ncortes 0\n");
+    EXPECT_EQ(readJobKind(writeJobKind(kind)), kind);
+    kind.cuts = {{12, 4, "CIDADE: perde \"É\""}, {0, 0, "parcelas"}};
+    EXPECT_EQ(writeJobKind(kind),
+              "documento nota\nformulario F\nitens 3\ncortes 2\n"
+              "corta 12 4 CIDADE: perde \"É\"\ncorta 0 0 parcelas\n");
+    EXPECT_EQ(readJobKind(writeJobKind(kind)), kind);
+}
+
+TEST(JobKindText, LongCutsAreShortenedAndManyLeftOut) {
+    JobKind kind{.document = JobDocument::Note, .form = {}, .itemLines = {}};
+    kind.cuts.emplace(101, JobCut{1, 2, std::string(400, 'x') + "\n"});
+    const JobKind read = readJobKind(writeJobKind(kind));
+    ASSERT_EQ(read.cuts->size(), 100U);
+    EXPECT_EQ(read.cuts->back(), (JobCut{1, 2, std::string(300, 'x')}));
+    kind.cuts = {{1, 2, "a\nb"}};
+    EXPECT_EQ(readJobKind(writeJobKind(kind)).cuts->front().what, "a b");
+}
+
+TEST(JobKindText, ACutThatIsNoneIsLeftOut) {
+    const JobKind read = readJobKind(
+        "documento nota\ncorta 1 1 antes\ncortes 3\ncorta 1\ncorta x y z\n"
+        "corta -1 2 z\ncorta 1 2\ncorta 3 4 z\n");
+    ASSERT_TRUE(read.cuts);
+    EXPECT_EQ(*read.cuts, (std::vector<JobCut>{{3, 4, "z"}}));
+}
+
 TEST(JobKindText, WhatIsNotKnownTellsNothing) {
     EXPECT_EQ(readJobKind("documento nota\r\nitens 5\r\n"),
               (JobKind{.document = JobDocument::Note, .form = {}, .itemLines = 5}));

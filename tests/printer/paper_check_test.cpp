@@ -184,7 +184,7 @@ TEST_P(LayoutCheck, OnANoteOnlyFullBoxesAreFound) {
     }
     for (std::size_t form = 0; form < roll.printedForms(); ++form) {
         const auto page = roll.page(form);
-        for (const PaperFault& fault : faultsOn(*page, *design)) {
+        for (const PaperFault& fault : faultsOn(*page, *design, roll.jobs())) {
             // What a set-up job leaves on the paper is no note's.
             const bool ofSetUp = std::ranges::any_of(page->lines, [&](const PaperLine& line) {
                 return line.y == fault.region.top && line.job < roll.jobs().size();

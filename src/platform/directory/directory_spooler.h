@@ -33,6 +33,7 @@ public:
     bool endPage() override;
     bool endDocument() override;
     bool closePrinter() override;
+    bool tellsKinds() const override { return kinds_ == TellsKinds::Yes; }
 
 private:
     struct CloseFile {
