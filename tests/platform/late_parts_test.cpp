@@ -106,7 +106,7 @@ TEST(LateParts, WhatIsThrownWithinAPartIsCaughtOutside) {
 TEST(LateParts, AMissingPartIsNamed) {
     const std::string trouble = troubleWith("tarn_nothing", "f");
     EXPECT_EQ(trouble.find("Falta uma parte deste programa"), 0U);
-    EXPECT_NE(trouble.find("lib/tarnemissao/tarn_nothing.so"), std::string::npos);
+    EXPECT_NE(trouble.find("lib/tarnemissao/parts/tarn_nothing.so"), std::string::npos);
     EXPECT_NE(troubleWith("tarn_network", "tarnNothing").find("tarnNothing"), std::string::npos);
 }
 

@@ -32,7 +32,7 @@ std::string lastError() {
 
 std::filesystem::path fileOfPart(const char* part) {
     const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe");
-    return program.parent_path().parent_path() / "lib" / "tarnemissao" /
+    return program.parent_path().parent_path() / "lib" / "tarnemissao" / "parts" /
            (std::string(part) + ".so");
 }
 

@@ -6,7 +6,7 @@
 
 namespace tarn {
 
-// Where a part lies: beside the programs, in ../lib/tarnemissao.
+// Where a part lies: beside the programs, in ../lib/tarnemissao/parts.
 std::filesystem::path fileOfPart(const char* part);
 
 class Part {
