@@ -22,7 +22,7 @@ QString holdFolderOf(const Options& options) {
 QString startHolding(const Options& options, dotmatrix::HoldDesk& desk,
                      dotmatrix::JobIntake& intake) {
     if (!desk.isOpen()) {
-        if (const QString wrong = desk.open(holdFolderOf(options)); !wrong.isEmpty()) {
+        if (QString wrong = desk.open(holdFolderOf(options)); !wrong.isEmpty()) {
             return wrong;
         }
         desk.showHeld(intake);

@@ -43,7 +43,7 @@ std::string describe(const Loss& loss) {
 }
 
 std::string describeInPlace(const Loss& loss) {
-    const std::string where =
+    std::string where =
         (loss.item > 0 ? "item " + std::to_string(loss.item) + ", " : std::string()) + loss.field;
     switch (loss.kind) {
         case Loss::Kind::Text:
