@@ -82,9 +82,9 @@ TEST_F(Check, EachFaultIsARowThatLeadsToItsPlace) {
     PaperView& view = window_.view();
     QTest::keyClick(&view, Qt::Key_Home);
     clickAt(*table_.viewport(), table_.visualItemRect(table_.item(2, 4)).center());
-    EXPECT_GT(view.topY(), 2 * 33 * unitsPerInch / 6);
+    EXPECT_GT(view.topY(), unitsPerInch * 2 * 33 / 6);
     clickAt(*table_.viewport(), table_.visualItemRect(table_.item(0, 4)).center());
-    EXPECT_LT(view.topY(), 33 * unitsPerInch / 6);
+    EXPECT_LT(view.topY(), unitsPerInch * 33 / 6);
 }
 
 TEST_F(Check, WhatComesLaterIsCheckedToo) {
