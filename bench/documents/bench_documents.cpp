@@ -63,9 +63,10 @@ void writeLabel(std::ofstream& out, int i) {
                                      {0, 1.5, n}}};
     constexpr double points = 72 / 2.54;
     const int place = i % labelsOfSheet;
+    const int row = place / 3;
     for (const Text& text : texts) {
         const double x = 1 + 7 * (place % 3) + text.x;
-        const double y = 1.9 + 2.54 * (place / 3) + text.y;
+        const double y = 1.9 + 2.54 * row + text.y;
         out << '(' << text.text << ") " << x * points << ' ' << 842 - y * points << " L\n";
     }
 }
