@@ -47,11 +47,12 @@ std::vector<Line> linesOf(int note) {
         {17, 33, "100,50     07/02/2009                   200,00      07/03/2009"}};
     for (int item = 1; item <= 32; ++item) {
         const std::string n = std::to_string(item * 7 + note % 90);
-        lines.push_back({20 + item, 1,
-                         "P" + n + "       PARAFUSO SEXTAVADO A\xC7O INOX " + n +
-                             "                 A   000  CX        12,500       " + n +
-                             ",06               1" + n + ",25  1" + std::to_string(item % 10) +
-                             ",8718,005,00"});
+        std::string text = "P" + n;
+        text.append("       PARAFUSO SEXTAVADO A\xC7O INOX ").append(n);
+        text.append("                 A   000  CX        12,500       ").append(n);
+        text.append(",06               1").append(n).append(",25  1");
+        text.append(std::to_string(item % 10)).append(",8718,005,00");
+        lines.push_back({20 + item, 1, text});
     }
     lines.push_back(
         {56, 1, "1.600,75         288,14            0,00          0,00       1.650,75"});
@@ -116,7 +117,7 @@ int main(int /*argc*/, char** argv) {
         return 0;
     }
     const tarn::test::OwnDirectory own;
-    const fs::path folder = own.path();
+    const fs::path& folder = own.path();
     const fs::path program = fs::path(argv[0]).parent_path() / "tarnimpressora";
     writeJob(folder / "notes.prn");
     writePostScript(folder / "notes.ps");
