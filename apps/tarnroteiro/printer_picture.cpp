@@ -13,7 +13,9 @@
 #include "apps/tarnroteiro/paper_list.h"
 #include "apps/tarnroteiro/photo.h"
 #include "forms/form_loader.h"
+#include "platform/job_kind.h"
 #include "printer/printer_window.h"
+#include "runtime/file_names.h"
 
 namespace tarn {
 namespace {
@@ -21,24 +23,25 @@ namespace {
 constexpr int width = 1000;
 constexpr int height = 690;
 
-bool print(dotmatrix::PaperRoll& roll, const QString& file) {
+bool print(dotmatrix::JobIntake& input, const QString& file) {
     QFile job(file);
     if (!job.open(QIODevice::ReadOnly)) {
         std::fprintf(stderr, "tarnroteiro: não há %s.\n", qPrintable(file));
         return false;
     }
-    roll.startJob(QFileInfo(file).fileName().toStdString());
-    return !roll.feed(job.readAll().toStdString());
+    return input.begin(QFileInfo(file).fileName(), dotmatrix::JobIntake::Kind::Printed,
+                       jobKindBeside(pathOf(file.toStdString()))) &&
+           input.take(job.readAll()) && input.end();
 }
 
-bool printNote(dotmatrix::PaperRoll& roll, const QString& folder) {
+bool printNote(dotmatrix::JobIntake& input, const QString& folder) {
     const QStringList jobs = jobsOf(folder, QStringLiteral("nota"));
     if (jobs.isEmpty()) {
         std::fprintf(stderr, "tarnroteiro: não há nota em %s; ande primeiro o roteiro do dia.\n",
                      qPrintable(folder));
     }
     return !jobs.isEmpty() &&
-           std::ranges::all_of(jobs, [&](const QString& job) { return print(roll, job); });
+           std::ranges::all_of(jobs, [&](const QString& job) { return print(input, job); });
 }
 
 // With the list of what the paper shows cut.
@@ -59,7 +62,8 @@ QPixmap checked(dotmatrix::PrinterWindow& window) {
 bool pictureOfPrinter(const std::string& folder) {
     const QDir sheets(QString::fromStdString(folder));
     dotmatrix::PaperRoll roll{dotmatrix::Dialect{}};
-    if (!printNote(roll, sheets.path())) {
+    dotmatrix::JobIntake input(roll);
+    if (!printNote(input, sheets.path())) {
         return false;
     }
     const auto form = dotmatrix::loadForm("ImprimeNF_1361");
@@ -70,7 +74,6 @@ bool pictureOfPrinter(const std::string& folder) {
     dotmatrix::PaintOptions look;
     look.bands = true;
     dotmatrix::lay(std::get<dotmatrix::LoadedForm>(form), look);
-    dotmatrix::JobIntake input(roll);
     dotmatrix::HoldDesk held({});
     dotmatrix::PrinterWindow window(roll, input, held, look);
     window.setWaitingText(QStringLiteral("Imprimindo da pasta %1").arg(sheets.path()));
