@@ -17,6 +17,10 @@ namespace tarn::dotmatrix {
 
 using PaperUnits = std::int64_t;
 inline constexpr PaperUnits unitsPerInch = 2160;
+// Of a printer that was switched on and not told otherwise.
+inline constexpr PaperUnits lineHeight = unitsPerInch / 6;
+// The needles' band of a row is 1/8 inch high, whatever the line spacing.
+inline constexpr PaperUnits halfStrike = unitsPerInch / 16;
 
 struct FormDesign;
 

@@ -293,7 +293,7 @@ void EscpInterpreter::executeFeed(std::uint8_t parameter) {
             state_.lineSpacing = unitsPerInch * 7 / 72;
             break;
         case '2':
-            state_.lineSpacing = unitsPerInch / 6;
+            state_.lineSpacing = lineHeight;
             break;
         case 'A':
             if (parameter > maxSpacing) {
@@ -342,7 +342,7 @@ void EscpInterpreter::reset() {
     state_.mode.elite = dialect_.elite;
     state_.mode.condensed = dialect_.condensed;
     state_.mode.eliteOverridesCondensed = dialect_.eliteOverridesCondensed;
-    state_.lineSpacing = unitsPerInch / 6;
+    state_.lineSpacing = lineHeight;
     head_.carriageReturn();
     // The paper stays where it is; only a changed form length starts a new form here.
     if (paper_.formHeight() != dialect_.formHeight) {

@@ -46,6 +46,9 @@ struct FormDesign {
     std::string picture;
 };
 
+// The first that holds the place; null for none.
+const FormBox* boxAt(const std::vector<FormBox>& boxes, PaperUnits x, PaperUnits y);
+
 // A printer set up for the form at its panel.
 Dialect panelFor(const FormDesign& form, Dialect dialect);
 

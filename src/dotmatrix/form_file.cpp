@@ -12,7 +12,6 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr PaperUnits lineHeight = unitsPerInch / 6;
 // How far beside the sheet something may stand, and how wide it may be, in units: what one
 // pitch can tell, each other one can.
 constexpr PaperUnits farthestLeft = -216;
@@ -248,6 +247,13 @@ std::string lineOf(PaperUnits y) {
 }
 
 }  // namespace
+
+const FormBox* boxAt(const std::vector<FormBox>& boxes, PaperUnits x, PaperUnits y) {
+    const auto box = std::ranges::find_if(boxes, [x, y](const FormBox& one) {
+        return one.x <= x && x < one.x + one.width && one.y <= y && y < one.y + one.height;
+    });
+    return box == boxes.end() ? nullptr : &*box;
+}
 
 Dialect panelFor(const FormDesign& form, Dialect dialect) {
     dialect.formHeight = form.height;

@@ -11,7 +11,6 @@ namespace tarn::dotmatrix {
 namespace {
 
 constexpr double pointsPerUnit = pointsPerInch / static_cast<double>(unitsPerInch);
-constexpr PaperUnits lineHeight = unitsPerInch / 6;
 
 // Needles strike from 1.9 to 10.9 points below the top of a row: a box drawn a point
 // higher holds them, and a label of the smallest size stays clear of capitals.

@@ -13,7 +13,7 @@ namespace tarn::dotmatrix {
 
 struct HeadState {
     PrintMode mode;
-    PaperUnits lineSpacing = unitsPerInch / 6;
+    PaperUnits lineSpacing = lineHeight;
     PaperUnits x = 0;
     std::uint16_t column = 1;         // printed characters since the left margin, from 1
     std::uint16_t columnsBefore = 0;  // as in PaperLine

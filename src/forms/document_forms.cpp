@@ -17,7 +17,6 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr PaperUnits lineHeight = unitsPerInch / 6;
 constexpr PaperUnits sheetHeight = 11 * unitsPerInch;
 
 struct DocumentForm {

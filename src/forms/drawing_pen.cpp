@@ -11,7 +11,6 @@ namespace {
 using notes::Field;
 using notes::Source;
 
-constexpr PaperUnits lineHeight = unitsPerInch / 6;
 constexpr PaperUnits endless = 1000 * unitsPerInch;
 // Of a text without a width that has the rest of its line.
 constexpr int openRoom = 60;

@@ -4,7 +4,6 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr PaperUnits lineHeight = unitsPerInch / 6;
 constexpr PaperUnits endless = 1000 * unitsPerInch;
 
 // The box that ends where `box` begins, of its place and width.

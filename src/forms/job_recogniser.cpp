@@ -13,9 +13,7 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr PaperUnits lineHeight = unitsPerInch / 6;
 constexpr PaperUnits endless = 1000 * unitsPerInch;
-constexpr PaperUnits halfStrike = unitsPerInch / 16;  // of the needles' band
 constexpr int mostItemLines = 100;
 // A document fills so many of its boxes at least, and a third of them where there are few;
 // less may be anybody's text.
@@ -43,13 +41,6 @@ Printed printed(std::string_view setUp, std::string_view job) {
     return result;
 }
 
-const FormBox* boxOf(const std::vector<FormBox>& boxes, PaperUnits x, PaperUnits y) {
-    const auto box = std::ranges::find_if(boxes, [x, y](const FormBox& one) {
-        return one.x <= x && x < one.x + one.width && one.y <= y && y < one.y + one.height;
-    });
-    return box == boxes.end() ? nullptr : &*box;
-}
-
 // The boxes that hold text; nothing where some text is in none.
 std::optional<std::size_t> boxesFilled(const FormDesign& form, const Printed& job, bool onSheets) {
     std::set<const FormBox*> filled;
@@ -57,10 +48,10 @@ std::optional<std::size_t> boxesFilled(const FormDesign& form, const Printed& jo
         const PaperUnits y = (onSheets ? line.y % form.height : line.y) + halfStrike;
         for (const Cell& cell : line.cells) {
             const PaperUnits x = cell.x + cell.width / 2;
-            const FormBox* box = boxOf(form.boxes, x, y);
+            const FormBox* box = boxAt(form.boxes, x, y);
             if (box != nullptr) {
                 filled.insert(box);
-            } else if (boxOf(form.ownWords, x, y) == nullptr) {
+            } else if (boxAt(form.ownWords, x, y) == nullptr) {
                 return std::nullopt;
             }
         }

@@ -11,7 +11,6 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr PaperUnits lineHeight = unitsPerInch / 6;
 constexpr int sheetLines = 66;
 // Of a customer who has no form by name.
 constexpr std::int32_t anyCode = 1;

@@ -9,8 +9,6 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr PaperUnits rowHeight = unitsPerInch / 6;
-constexpr PaperUnits halfStrike = unitsPerInch / 16;  // of the needles' band
 // Codes, dates and amounts fill their boxes by their nature, and so do short texts.
 constexpr PaperUnits fewestColumns = 12;
 constexpr PaperUnits blanksWithin = 2;  // of one text, between its words
@@ -21,17 +19,10 @@ struct Placed {
     const FormBox* box = nullptr;
 };
 
-const FormBox* boxIn(const std::vector<FormBox>& boxes, PaperUnits x, PaperUnits y) {
-    const auto box = std::ranges::find_if(boxes, [x, y](const FormBox& one) {
-        return one.x <= x && x < one.x + one.width && one.y <= y && y < one.y + one.height;
-    });
-    return box != boxes.end() ? &*box : nullptr;
-}
-
 // A form's last boxes may lie below its perforation.
 const FormBox* boxBelow(const FormDesign& design, PaperUnits x, PaperUnits y) {
-    const FormBox* box = boxIn(design.boxes, x, y);
-    return box != nullptr ? box : boxIn(design.boxes, x, y + design.height);
+    const FormBox* box = boxAt(design.boxes, x, y);
+    return box != nullptr ? box : boxAt(design.boxes, x, y + design.height);
 }
 
 // The words that the document prints on the bare paper are left out.
@@ -41,7 +32,7 @@ std::vector<Placed> placedIn(const PaperLine& line, const FormDesign& design, Pa
         const PaperUnits x = cell.x + cell.width / 2;
         const PaperUnits y = line.y - top + halfStrike;
         const FormBox* box = boxBelow(design, x, y);
-        if (box != nullptr || boxIn(design.ownWords, x, y) == nullptr) {
+        if (box != nullptr || boxAt(design.ownWords, x, y) == nullptr) {
             row.push_back({cell, box});
         }
     }
@@ -148,10 +139,6 @@ QString describe(const PaperFault& fault) {
     return {};
 }
 
-const FormBox* boxAt(const FormDesign& design, PaperUnits x, PaperUnits y) {
-    return boxIn(design.boxes, x, y);
-}
-
 std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design,
                                  const std::vector<RollJob>& jobs) {
     std::vector<PaperFault> faults;
@@ -160,10 +147,10 @@ std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design,
         const PaperUnits down = line.y - page.shape.top;
         for (const Run& run : runsOf(row)) {
             judge(row, run,
-                  {.region = {0, line.y, 0, line.y + rowHeight},
+                  {.region = {0, line.y, 0, line.y + lineHeight},
                    .form = page.form,
                    .job = line.job,
-                   .row = static_cast<std::size_t>(down / rowHeight) + 1},
+                   .row = static_cast<std::size_t>(down / lineHeight) + 1},
                   faults);
         }
     }

@@ -34,9 +34,6 @@ struct PaperFault {
 // In words for the user, without what is told of its place.
 QString describe(const PaperFault& fault);
 
-// The box of the form that holds this place; null for none.
-const FormBox* boxAt(const FormDesign& design, PaperUnits x, PaperUnits y);
-
 // From the top down, as the form's boxes are drawn, then what the jobs tell that begin on this
 // form. `jobs` are those of its roll.
 std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design,

@@ -17,11 +17,8 @@ struct Row {
     std::vector<Cell> cells;
 };
 
-// The needles' band of a row is 1/8 inch high, whatever the line spacing.
-constexpr PaperUnits halfRow = unitsPerInch / 16;
-
 void collect(const PaperLine& line, const PaperRegion& region, std::vector<Row>& rows) {
-    const PaperUnits middle = line.y + halfRow;
+    const PaperUnits middle = line.y + halfStrike;
     if (middle < region.top || middle >= region.bottom) {
         return;
     }

@@ -9,8 +9,6 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr PaperUnits rowHeight = unitsPerInch / 6;
-
 QString folded(const QString& text) {
     QString out = text;
     for (QChar& c : out) {
@@ -44,7 +42,7 @@ std::vector<Row> rowsOf(const FormPage& page) {
 }
 
 PaperRegion regionOf(const Row& row, qsizetype at, qsizetype length) {
-    PaperRegion region{.left = -1, .top = row.y, .right = 0, .bottom = row.y + rowHeight};
+    PaperRegion region{.left = -1, .top = row.y, .right = 0, .bottom = row.y + lineHeight};
     for (const Cell* cell : row.cells) {
         const qsizetype place = cell->column - 1;
         if (place >= at && place < at + length) {

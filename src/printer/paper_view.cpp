@@ -18,7 +18,6 @@ namespace {
 constexpr double screenDots = 96;  // an inch at zoom 1
 constexpr double wheelStep = 1.15;
 constexpr std::chrono::milliseconds untilReadOut(150);
-constexpr PaperUnits lineHeight = unitsPerInch / 6;
 const QColor desk(203, 209, 209);
 const QColor fullColour(240, 170, 40, 90);
 const QColor faultColour(214, 60, 50, 90);
@@ -239,7 +238,7 @@ PaperSpot PaperView::spotAt(const Point& point) {
     spot.column = column + static_cast<std::size_t>((point.x - from) / cell);
     const auto page = roll_.page(form);
     if (const FormDesign* design = designUnder(*page)) {
-        const FormBox* box = boxAt(*design, point.x, point.y - shape.top);
+        const FormBox* box = boxAt(design->boxes, point.x, point.y - shape.top);
         spot.box = box != nullptr ? QString::fromStdString(box->label) : QString();
     }
     return spot;

@@ -168,7 +168,7 @@ void PrinterWindow::previousJob() {
     const PaperUnits top = view_->topY();
     const auto& jobs = roll_.jobs();
     for (auto job = jobs.rbegin(); job != jobs.rend(); ++job) {
-        if (job->y < top - unitsPerInch / 6) {
+        if (job->y < top - lineHeight) {
             view_->showTop(job->y);
             statusBar()->showMessage(QString::fromStdString(job->name), 4000);
             return;
@@ -180,7 +180,7 @@ void PrinterWindow::previousJob() {
 void PrinterWindow::nextJob() {
     const PaperUnits top = view_->topY();
     for (const RollJob& job : roll_.jobs()) {
-        if (job.y > top + unitsPerInch / 6) {
+        if (job.y > top + lineHeight) {
             view_->showTop(job.y);
             statusBar()->showMessage(QString::fromStdString(job.name), 4000);
             return;

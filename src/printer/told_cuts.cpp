@@ -5,14 +5,11 @@
 namespace tarn::dotmatrix {
 namespace {
 
-constexpr PaperUnits rowHeight = unitsPerInch / 6;
-constexpr PaperUnits halfStrike = unitsPerInch / 16;  // of the needles' band
-
 // From the column on to the end of its box or of the print; a whole row's begin where nothing
 // of the text printed.
 PaperRegion regionOf(const CutText& cut, const FormPage& page, const FormDesign& design,
                      std::size_t job, PaperUnits y) {
-    PaperRegion region{0, y, unitsPerInch, y + rowHeight};
+    PaperRegion region{0, y, unitsPerInch, y + lineHeight};
     for (const PaperLine& line : page.lines) {
         if (line.job != job || line.y != y) {
             continue;
@@ -22,7 +19,7 @@ PaperRegion regionOf(const CutText& cut, const FormPage& page, const FormDesign&
         });
         if (first != line.cells.end()) {
             const FormBox* box =
-                boxAt(design, first->x + first->width / 2, y - page.shape.top + halfStrike);
+                boxAt(design.boxes, first->x + first->width / 2, y - page.shape.top + halfStrike);
             const Cell& last = line.cells.back();
             region.left = first->x;
             region.right = box != nullptr ? box->x + box->width : last.x + last.width;
@@ -33,7 +30,7 @@ PaperRegion regionOf(const CutText& cut, const FormPage& page, const FormDesign&
 
 PaperFault faultOf(const CutText& cut, const FormPage& page, const FormDesign& design,
                    const RollJob& job, std::size_t number) {
-    const PaperUnits y = job.y + std::max(0, cut.line - 1) * rowHeight;
+    const PaperUnits y = job.y + std::max(0, cut.line - 1) * lineHeight;
     PaperFault fault{.kind = PaperFault::Kind::Cut,
                      .region = regionOf(cut, page, design, number, y),
                      .form = page.form,
@@ -41,7 +38,8 @@ PaperFault faultOf(const CutText& cut, const FormPage& page, const FormDesign& d
                      .row = static_cast<std::size_t>(std::max(0, cut.line)),
                      .column = static_cast<std::size_t>(std::max(0, cut.column)),
                      .text = QString::fromStdString(cut.what)};
-    const FormBox* box = boxAt(design, fault.region.left + 1, y - page.shape.top + halfStrike);
+    const FormBox* box =
+        boxAt(design.boxes, fault.region.left + 1, y - page.shape.top + halfStrike);
     fault.box = box != nullptr ? QString::fromStdString(box->label) : QString();
     return fault;
 }
