@@ -1,13 +1,11 @@
 // What no such client can do without, and no more: a window as large as the desk's, one with text,
 // and one request over the desk's line, begun before the windows and waited for.
-#include <QLabel>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QScreen>
-#include <QVBoxLayout>
 #include <future>
 
 #include "bench/start/end_at_paint.h"
+#include "bench/start/text_window.h"
 #include "platform/parts/network_part.h"
 
 int main(int argc, char** argv) {
@@ -26,10 +24,6 @@ int main(int argc, char** argv) {
         return 1;
     }
     QWidget window;
-    window.setObjectName(QStringLiteral("window"));
-    auto* layout = new QVBoxLayout(&window);
-    layout->addWidget(new QLabel(QStringLiteral("Usuário"), &window));
-    layout->addWidget(new QLineEdit(&window));
-    window.show();
+    tarn::bench::showWithText(window);
     return QApplication::exec() + 1;
 }
