@@ -86,7 +86,10 @@ TEST_F(ToldCuts, ThePaperShowsThemAtTheirPlaceInsteadOfAGuess) {
     const auto faults = faultsOfJob(roll, 1, nullptr);
     ASSERT_TRUE(faults);
     EXPECT_EQ(faults->size(), roll.jobs()[1].paper.cuts->size())
-        << "the set-up job tells the same, and shows nothing; what fills its box is no guess";
+        << "what fills its box is no guess";
+    const auto page = roll.page(roll.jobs()[1].form);
+    EXPECT_EQ(faultsOn(*page, *page->design, roll.jobs()).size(), faults->size())
+        << "nor is it told a second time for the set-up job";
     const auto found = std::ranges::find(*faults, nameLine, &PaperFault::row);
     ASSERT_NE(found, faults->end());
     const PaperFault& fault = *found;
