@@ -218,7 +218,7 @@ TEST_F(PaperFiles, PdfHasTheInkOfThePicture) {
     const std::vector<int> inSeen = inkOf(seen);
     const std::vector<int> inDrawn = inkOf(drawn);
     for (std::size_t i = 0; i < inSeen.size(); ++i) {
-        EXPECT_NEAR(inSeen[i], inDrawn[i], 12 + inDrawn[i] / 5) << "block " << i;
+        EXPECT_NEAR(inSeen[i], inDrawn[i], 12 + inDrawn[i] * 0.2) << "block " << i;
     }
 }
 
