@@ -13,7 +13,7 @@ namespace tarn::practice {
 namespace {
 
 constexpr int mostRestarts = 3;
-constexpr int patienceMs = 3000;
+constexpr int endPatienceMs = 3000;
 
 // A signal by which somebody asks a program to end; of a program that a signal ended, Qt tells
 // the signal's number as its status.
@@ -56,9 +56,9 @@ void Piece::stop() {
         return;
     }
     process_.terminate();
-    if (!process_.waitForFinished(patienceMs)) {
+    if (!process_.waitForFinished(endPatienceMs)) {
         process_.kill();
-        process_.waitForFinished(patienceMs);
+        process_.waitForFinished(endPatienceMs);
     }
 }
 

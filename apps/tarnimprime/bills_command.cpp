@@ -10,7 +10,7 @@
 namespace tarn::print {
 namespace {
 
-struct Request {
+struct BillsRequest {
     std::int32_t company = 0;
     std::string data;
     bool triplicate = false;
@@ -20,7 +20,7 @@ struct Request {
 };
 
 // The grid of each file, ticked, before anything prints.
-std::vector<std::vector<GridRow>> gridsOf(const Request& request) {
+std::vector<std::vector<GridRow>> gridsOf(const BillsRequest& request) {
     std::vector<std::vector<GridRow>> grades;
     for (const XmlDocument& answer : readAnswers(request.documents)) {
         grades.push_back(billRows(answer));
@@ -29,7 +29,7 @@ std::vector<std::vector<GridRow>> gridsOf(const Request& request) {
     return grades;
 }
 
-void print(const Request& request, PrintEnvironment& desk) {
+void print(const BillsRequest& request, PrintEnvironment& desk) {
     const XmlDocument data = readAnswer(request.data);
     const std::vector<std::vector<GridRow>> grades = gridsOf(request);
     Environment& environment = desk.environment();
@@ -45,7 +45,7 @@ void print(const Request& request, PrintEnvironment& desk) {
 
 void declareBills(cli::CommandLine& line, Choice& choice) {
     cli::Command command = line.command("duplicatas", "imprime duplicatas e recibos");
-    const auto request = std::make_shared<Request>();
+    const auto request = std::make_shared<BillsRequest>();
     command.whole("--empresa", request->company, "Código da empresa").required();
     command.text("--dados", request->data, "dados da empresa (EMP.xml)")
         .called("ARQUIVO")

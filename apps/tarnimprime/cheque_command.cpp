@@ -7,7 +7,7 @@
 namespace tarn::print {
 namespace {
 
-struct Request {
+struct ChequeRequest {
     std::string bank;
     std::string value;
     std::string payee;
@@ -15,7 +15,7 @@ struct Request {
     std::string town;
 };
 
-void print(const Request& request, PrintEnvironment& desk) {
+void print(const ChequeRequest& request, PrintEnvironment& desk) {
     const std::int16_t bank = bankCode(request.bank);
     ImprimeCheque(desk.environment(), {.nNr_Ofi_Ban = bank,
                                        .sValor = request.value,
@@ -28,7 +28,7 @@ void print(const Request& request, PrintEnvironment& desk) {
 
 void declareCheque(cli::CommandLine& line, Choice& choice) {
     cli::Command command = line.command("cheque", "imprime um cheque");
-    const auto request = std::make_shared<Request>();
+    const auto request = std::make_shared<ChequeRequest>();
     command.text("--banco", request->bank, "Código oficial do banco").required();
     command.text("--valor", request->value, "valor como o campo o mostra: 1.234,56").required();
     command.text("--favorecido", request->payee, "favorecido, em maiúsculas; pode ser vazio")

@@ -20,7 +20,7 @@
 namespace tarn::print {
 namespace {
 
-struct Request {
+struct NoteRequest {
     Sessao session;
     bool reprint = false;
     bool check = false;
@@ -30,19 +30,19 @@ struct Request {
     Ladder ladder() const { return reprint ? Ladder::Reprint : Ladder::Issuing; }
 };
 
-void declareSession(cli::Command& command, Request& request) {
+void declareSession(cli::Command& command, NoteRequest& request) {
     command.whole("--empresa", request.session.NCOMPANYCODE, "Código da empresa").required();
     command.whole("--estabelecimento", request.session.ID_ETB_TARN, "Código do estabelecimento")
         .required();
     command.flag("--reimpressao", request.reprint, "escada da tela de reimpressão");
 }
 
-const notes::Layout* layoutOf(const Request& request) {
+const notes::Layout* layoutOf(const NoteRequest& request) {
     return layoutFor(request.ladder(), request.session.NCOMPANYCODE, request.session.ID_ETB_TARN);
 }
 
 // On the desk such a note prints nothing either, and nothing is said.
-void sayWhereNoForm(const Request& request) {
+void sayWhereNoForm(const NoteRequest& request) {
     if (layoutOf(request) == nullptr) {
         std::fprintf(stderr,
                      "tarnimprime: a empresa %d, estabelecimento %d, não tem formulário de nota: "
@@ -51,7 +51,7 @@ void sayWhereNoForm(const Request& request) {
     }
 }
 
-void print(const Request& request, PrintEnvironment& desk) {
+void print(const NoteRequest& request, PrintEnvironment& desk) {
     std::vector<XmlDocument> documents = readAnswers(request.files);
     sayWhereNoForm(request);
     Environment& environment = desk.environment();
@@ -62,7 +62,7 @@ void print(const Request& request, PrintEnvironment& desk) {
 
 // Says what each document loses; true where one loses anything. What was found before an
 // error of the run time is said too.
-bool check(const Request& request, PrintEnvironment& desk) {
+bool check(const NoteRequest& request, PrintEnvironment& desk) {
     std::vector<XmlDocument> documents = readAnswers(request.files);
     sayWhereNoForm(request);
     Environment& environment = desk.dryRunEnvironment();
@@ -135,7 +135,7 @@ std::vector<XmlDocument> readAnswers(const std::vector<std::string>& files) {
 
 void declareNote(cli::CommandLine& line, Choice& choice) {
     cli::Command command = line.command("nota", "imprime notas fiscais pela escada");
-    const auto request = std::make_shared<Request>();
+    const auto request = std::make_shared<NoteRequest>();
     declareSession(command, *request);
     command.text("--numero", request->number, "Número da nota").required();
     command.texts("documentos", request->files, "documentos de nota (DOC.xml)")
@@ -156,7 +156,7 @@ void declareNote(cli::CommandLine& line, Choice& choice) {
 
 void declareLadder(cli::CommandLine& line, Choice& choice) {
     cli::Command command = line.command("escada", "mostra o layout de uma empresa");
-    const auto request = std::make_shared<Request>();
+    const auto request = std::make_shared<NoteRequest>();
     declareSession(command, *request);
     command.whenChosen([&choice, request] {
         choice.run = [request](PrintEnvironment&) {

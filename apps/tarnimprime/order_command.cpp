@@ -10,7 +10,7 @@
 namespace tarn::print {
 namespace {
 
-struct Request {
+struct OrderRequest {
     Sessao session;
     std::vector<std::string> files;
 };
@@ -23,7 +23,7 @@ void demandAccepted(const XmlDocument& order) {
     }
 }
 
-void print(const Request& request, PrintEnvironment& desk) {
+void print(const OrderRequest& request, PrintEnvironment& desk) {
     std::vector<XmlDocument> documents = readAnswers(request.files);
     for (const XmlDocument& document : documents) {
         demandAccepted(document);
@@ -38,7 +38,7 @@ void print(const Request& request, PrintEnvironment& desk) {
 
 void declareOrder(cli::CommandLine& line, Choice& choice) {
     cli::Command command = line.command("ordem", "imprime folhas de ordem de faturamento");
-    const auto request = std::make_shared<Request>();
+    const auto request = std::make_shared<OrderRequest>();
     command.whole("--empresa", request->session.NCOMPANYCODE, "Código da empresa").required();
     command.texts("documentos", request->files, "documentos de ordem (DOC.xml)")
         .called("ARQUIVO")

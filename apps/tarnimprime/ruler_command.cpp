@@ -14,12 +14,12 @@ namespace {
 
 constexpr std::int32_t mostItems = 100;  // as many as the virtual printer draws
 
-struct Request {
+struct RulerRequest {
     std::string form;
     std::optional<std::int32_t> itemLines;
 };
 
-void print(const Request& request, PrintEnvironment& desk) {
+void print(const RulerRequest& request, PrintEnvironment& desk) {
     Environment& environment = desk.environment();
     RawChannel channel(environment.spooler, environment.codePage);
     const notes::Form* form = notes::formCalled(request.form);
@@ -43,7 +43,7 @@ void print(const Request& request, PrintEnvironment& desk) {
 void declareRuler(cli::CommandLine& line, Choice& choice) {
     cli::Command command =
         line.command("regua", "imprime uma régua e os cantos das caixas no papel de um formulário");
-    const auto request = std::make_shared<Request>();
+    const auto request = std::make_shared<RulerRequest>();
     command
         .text("--formulario", request->form,
               "nome do formulário, como em tarnimpressora --formularios")

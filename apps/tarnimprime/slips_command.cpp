@@ -18,7 +18,7 @@ namespace {
 
 constexpr int chosenPosition = 1;  // any but the one that stands for no portfolio
 
-struct Request {
+struct SlipsRequest {
     Sessao session;
     std::string portfolio;
     SlipRun slips;
@@ -65,7 +65,7 @@ Environment withRequests(const Environment& desk, HttpLoader& requests) {
 }
 
 // The rows of all files, one number after the other; `tick` holds for each file.
-std::vector<GridRow> tickedRows(const Request& request) {
+std::vector<GridRow> tickedRows(const SlipsRequest& request) {
     std::vector<GridRow> all;
     for (const XmlDocument& answer : readAnswers(request.documents)) {
         std::vector<GridRow> lines = slipRows(answer);
@@ -75,7 +75,7 @@ std::vector<GridRow> tickedRows(const Request& request) {
     return all;
 }
 
-void print(const Request& request, PrintEnvironment& desk) {
+void print(const SlipsRequest& request, PrintEnvironment& desk) {
     const Portfolio portfolio = portfolioOf(readAnswer(request.portfolio));
     std::vector<GridRow> lines = tickedRows(request);
     const Environment& noServer = desk.environment();
@@ -93,7 +93,7 @@ void print(const Request& request, PrintEnvironment& desk) {
 
 void declareSlips(cli::CommandLine& line, Choice& choice) {
     cli::Command command = line.command("boletos", "imprime boletos bancários");
-    const auto request = std::make_shared<Request>();
+    const auto request = std::make_shared<SlipsRequest>();
     request->session.SERVERNAME = "SRV";
     request->session.UserCode = "U1";
     command.whole("--empresa", request->session.NCOMPANYCODE, "Código da empresa").required();

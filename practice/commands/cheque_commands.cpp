@@ -167,7 +167,7 @@ Reply addCheque(const Query& query, CommandContext& context) {
     return statusAnswer();
 }
 
-constexpr std::array commands = {
+constexpr std::array chequeTable = {
     Command{"sel_banco_agencia_conta", Shape::Rows, listAccounts},
     Command{"seleciona_um_controle_cheque_emitido", Shape::Rows, findCheque},
     Command{"adiciona_controle_cheque_emitido", Shape::Status, addCheque},
@@ -176,7 +176,7 @@ constexpr std::array commands = {
 }  // namespace
 
 std::span<const Command> chequeCommands() {
-    return commands;
+    return chequeTable;
 }
 
 }  // namespace tarn::practice

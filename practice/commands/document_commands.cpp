@@ -16,7 +16,7 @@ void addNumber(Conditions& conditions, std::string_view sql, const std::string& 
     }
 }
 
-constexpr std::array branchFields = {
+constexpr std::array documentBranchFields = {
     Field{"SG_FIL", "short_name"},
     Field{"ID_ETB_TARN", "code"},
 };
@@ -24,7 +24,7 @@ constexpr std::array branchFields = {
 Reply listBranches(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "ID_EMP_TARN", context);
     requestedUser(query, "UserCode", company, context);
-    return readRowset(context.database, branchFields,
+    return readRowset(context.database, documentBranchFields,
                       "FROM establishment WHERE company_id = ? ORDER BY id", {company});
 }
 
@@ -100,7 +100,7 @@ Reply findCustomers(const Query& query, CommandContext& context) {
                       {company, anywhere(wanted)});
 }
 
-constexpr std::array commands = {
+constexpr std::array documentTable = {
     Command{"sel_filiais", Shape::Rows, listBranches},
     Command{"sel_duplicata", Shape::Rows, findBills},
     Command{"Sel_Cliente", Shape::Rows, findCustomers},
@@ -123,7 +123,7 @@ Conditions documentSearch(const Query& query, CommandContext& context) {
 }
 
 std::span<const Command> documentCommands() {
-    return commands;
+    return documentTable;
 }
 
 }  // namespace tarn::practice

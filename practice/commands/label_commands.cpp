@@ -65,11 +65,11 @@ Reply listLabels(const Query& query, CommandContext& context) {
         {company, query.value("sDc_Mot_Imp"), from, to, context.today.addDays(-daysKept)});
 }
 
-constexpr std::array reasonFields = {Field{"DC_MOT_IMP", "description"}};
+constexpr std::array labelReasonFields = {Field{"DC_MOT_IMP", "description"}};
 
-Reply listReasons(const Query& query, CommandContext& context) {
+Reply listLabelReasons(const Query& query, CommandContext& context) {
     const auto company = requestedCompany(query, "ID_EMP_TARN", context);
-    return readRowset(context.database, reasonFields,
+    return readRowset(context.database, labelReasonFields,
                       "FROM label_reason WHERE company_id = ? AND kind = ? ORDER BY id",
                       {company, query.value("sIc_Ver_Eti")});
 }
@@ -121,9 +121,9 @@ Reply senderData(const Query& query, CommandContext& context) {
                       {company, code.value_or(-1)});
 }
 
-constexpr std::array commands = {
+constexpr std::array labelTable = {
     Command{"sel_etiquetas", Shape::Rows, listLabels},
-    Command{"sel_motivos", Shape::Rows, listReasons},
+    Command{"sel_motivos", Shape::Rows, listLabelReasons},
     Command{"sel_filiais_remetente", Shape::Rows, listSenders},
     Command{"exclui_etiquetas", Shape::Status, deleteLabels},
     Command{"sel_dados_remetente", Shape::Rows, senderData},
@@ -132,7 +132,7 @@ constexpr std::array commands = {
 }  // namespace
 
 std::span<const Command> labelCommands() {
-    return commands;
+    return labelTable;
 }
 
 }  // namespace tarn::practice

@@ -259,31 +259,31 @@ Reply listSeries(const Query& query, CommandContext& context) {
                       {company});
 }
 
-constexpr std::array reasonFields = {
+constexpr std::array cancelReasonFields = {
     Field{"DC_MOT_CAN", "description"},
     Field{"ID_MOT_CAN", "id"},
 };
 
-Reply listReasons(const Query& query, CommandContext& context) {
+Reply listCancelReasons(const Query& query, CommandContext& context) {
     const auto establishment = requestedEstablishment(query, context);
-    return readRowset(context.database, reasonFields,
+    return readRowset(context.database, cancelReasonFields,
                       "FROM cancel_reason WHERE company_id = ? ORDER BY id",
                       {establishment.company});
 }
 
-constexpr std::array commands = {
+constexpr std::array noteTable = {
     Command{"SP_GERA_NF", Shape::Status, generateNote},
     Command{"sel_gera_nf", Shape::Document, fetchNote},
     Command{"SEL_NF", Shape::Rows, findNote},
     Command{"sp_can_nf", Shape::Status, cancelNote},
     Command{"SEL_SERIE_NF", Shape::Rows, listSeries},
-    Command{"SEL_MOT_CAN", Shape::Rows, listReasons},
+    Command{"SEL_MOT_CAN", Shape::Rows, listCancelReasons},
 };
 
 }  // namespace
 
 std::span<const Command> noteCommands() {
-    return commands;
+    return noteTable;
 }
 
 }  // namespace tarn::practice

@@ -198,7 +198,7 @@ Reply orderSheet(const Query& query, CommandContext& context) {
     return root;
 }
 
-constexpr std::array commands = {
+constexpr std::array orderTable = {
     Command{"sel_ordem_fatu", Shape::Rows, listOrders},
     Command{"sp_can_oft", Shape::Status, cancelOrder},
     Command{"Seleciona_Obs_Vnd_X_Ord", Shape::Status, saleObservation},
@@ -210,7 +210,7 @@ constexpr std::array commands = {
 }  // namespace
 
 std::span<const Command> orderCommands() {
-    return commands;
+    return orderTable;
 }
 
 }  // namespace tarn::practice

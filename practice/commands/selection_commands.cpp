@@ -95,7 +95,7 @@ Reply findAddressees(const Query& query, CommandContext& context) {
                       conditions.binds());
 }
 
-constexpr std::array commands = {
+constexpr std::array selectionTable = {
     Command{"sel_filias", Shape::Rows, listBranches},
     Command{"sel_pais", Shape::Rows, listCountries},
     Command{"sel_estado", Shape::Rows, listStates},
@@ -106,7 +106,7 @@ constexpr std::array commands = {
 }  // namespace
 
 std::span<const Command> selectionCommands() {
-    return commands;
+    return selectionTable;
 }
 
 }  // namespace tarn::practice

@@ -103,7 +103,7 @@ Reply establishmentData(const Query& query, CommandContext& context) {
                       {establishment.id});
 }
 
-constexpr std::array commands = {
+constexpr std::array sessionTable = {
     Command{"VERSAO_TARN_EMISSAO", Shape::Version, version},
     Command{"LOGIN", Shape::Document, logon},
     Command{"verifica_direito_acesso", Shape::Status, checkRight},
@@ -113,7 +113,7 @@ constexpr std::array commands = {
 }  // namespace
 
 std::span<const Command> sessionCommands() {
-    return commands;
+    return sessionTable;
 }
 
 }  // namespace tarn::practice

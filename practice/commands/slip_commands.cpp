@@ -184,7 +184,7 @@ Reply enterReceivable(const Query& query, CommandContext& context) {
     return enterPortfolio(query, context, receivableDocument);
 }
 
-constexpr std::array commands = {
+constexpr std::array slipTable = {
     Command{"sel_boleto", Shape::Rows, findSlipDocuments},
     Command{"sel_carteira", Shape::Rows, listPortfolios},
     Command{"sel_carteira_cob", Shape::Rows, portfolioRecord},
@@ -197,7 +197,7 @@ constexpr std::array commands = {
 }  // namespace
 
 std::span<const Command> slipCommands() {
-    return commands;
+    return slipTable;
 }
 
 }  // namespace tarn::practice

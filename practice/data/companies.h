@@ -39,6 +39,9 @@ struct EstablishmentRow {
     Form form;
 };
 
+// Has many rows of everything, so that lists are as long as at work.
+inline constexpr int manyCompany = 1361;
+
 std::span<const CompanyRow> companyRows();
 std::span<const EstablishmentRow> establishmentRows();
 

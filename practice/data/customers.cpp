@@ -1,5 +1,6 @@
 #include "practice/data/customers.h"
 
+#include "practice/data/companies.h"
 #include "practice/data/names.h"
 #include "practice/data/orders.h"
 #include "practice/data/places.h"
@@ -10,7 +11,6 @@
 namespace tarn::practice {
 namespace {
 
-constexpr int manyCompany = 1361;
 constexpr int manyCustomers = 900;  // of that company; their numbers end at 999 of its thousand
 constexpr int someCustomers = 60;   // of every other one
 

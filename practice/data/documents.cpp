@@ -3,13 +3,13 @@
 #include <array>
 
 #include "practice/commands/document_commands.h"
+#include "practice/data/companies.h"
 #include "practice/data/finance.h"
 #include "runtime/text.h"
 
 namespace tarn::practice {
 namespace {
 
-constexpr int manyCompany = 1361;
 constexpr int manyDocuments = 700;  // of each of its establishments
 constexpr int someDocuments = 50;   // of every other one
 constexpr int parcels = 3;          // of a note

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "practice/commands/amounts.h"
+#include "practice/data/companies.h"
 #include "practice/data/names.h"
 #include "practice/data/orders.h"
 #include "practice/data/places.h"
@@ -11,7 +12,6 @@
 namespace tarn::practice {
 namespace {
 
-constexpr int manyCompany = 1361;
 constexpr int manyLabels = 600;  // of its first reason
 
 struct ReasonRow {

@@ -106,8 +106,9 @@ constexpr std::array carriers = {
 };
 
 constexpr const char* reduced = "BASE DE CÁLCULO REDUZIDA CONF. ART. 51 DO ANEXO II DO RICMS";
-constexpr const char* withheld = "ICMS RETIDO POR SUBSTITUIÇÃO TRIBUTÁRIA - ART. 313 DO RICMS";
-constexpr const char* exempt = "ISENTO DE ICMS CONF. ART. 8 DO ANEXO I DO RICMS";
+constexpr const char* taxWithheldText =
+    "ICMS RETIDO POR SUBSTITUIÇÃO TRIBUTÁRIA - ART. 313 DO RICMS";
+constexpr const char* taxExemptText = "ISENTO DE ICMS CONF. ART. 8 DO ANEXO I DO RICMS";
 constexpr const char* imported = "MERCADORIA IMPORTADA - IPI RECOLHIDO NO DESEMBARAÇO ADUANEIRO";
 constexpr const char* deferred = "ICMS DIFERIDO PARA A SAÍDA SEGUINTE";
 
@@ -121,9 +122,9 @@ constexpr std::array products = {
     ProductRow{"1004", "DOBRADIÇA DE LATÃO 3\"", "PAR", "83021000", 240, 1275, Tax::Reduced, false,
                reduced},
     ProductRow{"1005", "TINTA ACRÍLICA FOSCA BRANCO GELO 18 L", "LT", "32091010", 24500, 18900,
-               Tax::Withheld, false, withheld},
+               Tax::Withheld, false, taxWithheldText},
     ProductRow{"1006", "CIMENTO PORTLAND CP II 50 KG", "SC", "25232910", 50000, 2480, Tax::Withheld,
-               false, withheld},
+               false, taxWithheldText},
     ProductRow{"1007", "PREGO 18 X 27 COM CABEÇA", "KG", "73170090", 1000, 1240, Tax::Plain, true,
                nullptr},
     ProductRow{"1008", "ARAME GALVANIZADO Nº 18", "KG", "72172010", 1000, 1560, Tax::Plain, true,
@@ -135,13 +136,13 @@ constexpr std::array products = {
     ProductRow{"1011", "MANGUEIRA DE JARDIM SILICONE 30 M", "RL", "39173900", 3900, 7450,
                Tax::Plain, false, nullptr},
     ProductRow{"1012", "SEMENTE DE MILHO HÍBRIDO", "KG", "10051000", 1000, 2200, Tax::Exempt, true,
-               exempt},
+               taxExemptText},
     ProductRow{"1013", "MUDA DE LARANJEIRA", "UN", "06022000", 1500, 1450, Tax::Exempt, false,
                deferred},
     ProductRow{"1014", "TORNEIRA DE BÓIA 3/4\"", "PC", "84818019", 180, 1990, Tax::Plain, false,
                nullptr},
     ProductRow{"1015", "LÂMPADA FLUORESCENTE COMPACTA 15 W", "PC", "85393100", 90, 990,
-               Tax::Withheld, false, withheld},
+               Tax::Withheld, false, taxWithheldText},
     ProductRow{"1016", "CABO FLEXÍVEL 2,5 MM² AZUL 100 M", "RL", "85444900", 3100, 11900,
                Tax::Reduced, false, reduced},
     ProductRow{"1017", "CALHA GALVANIZADA CORTE 33", "M", "73089090", 1400, 3480, Tax::Plain, true,

@@ -6,7 +6,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array tables = {
+constexpr std::array ofCompanies = {
     R"(CREATE TABLE schema_version (version BIGINT NOT NULL))",
 
     R"(CREATE TABLE company (
@@ -70,7 +70,7 @@ constexpr std::array tables = {
 }  // namespace
 
 std::span<const char* const> companyTables() {
-    return tables;
+    return ofCompanies;
 }
 
 }  // namespace tarn::practice

@@ -6,7 +6,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array tables = {
+constexpr std::array ofFinance = {
     R"(CREATE TABLE document_kind (
         id BIGINT NOT NULL PRIMARY KEY,
         description VARCHAR(60) NOT NULL))",
@@ -84,7 +84,7 @@ constexpr std::array tables = {
 }  // namespace
 
 std::span<const char* const> financeTables() {
-    return tables;
+    return ofFinance;
 }
 
 }  // namespace tarn::practice

@@ -6,7 +6,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array tables = {
+constexpr std::array ofLabels = {
     // kind: C clients, F suppliers
     R"(CREATE TABLE label_reason (
         company_id BIGINT NOT NULL REFERENCES company (id),
@@ -48,7 +48,7 @@ constexpr std::array tables = {
 }  // namespace
 
 std::span<const char* const> labelTables() {
-    return tables;
+    return ofLabels;
 }
 
 }  // namespace tarn::practice

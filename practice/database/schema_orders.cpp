@@ -6,7 +6,7 @@
 namespace tarn::practice {
 namespace {
 
-constexpr std::array tables = {
+constexpr std::array ofOrders = {
     R"(CREATE TABLE series (
         establishment_id BIGINT NOT NULL REFERENCES establishment (id),
         code VARCHAR(5) NOT NULL,
@@ -157,7 +157,7 @@ constexpr std::array tables = {
 }  // namespace
 
 std::span<const char* const> orderTables() {
-    return tables;
+    return ofOrders;
 }
 
 }  // namespace tarn::practice

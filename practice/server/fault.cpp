@@ -32,8 +32,6 @@ constexpr std::array kindNames = {
 };
 
 constexpr int partialContent = 206;
-constexpr int notFound = 404;
-constexpr int serverError = 500;
 constexpr std::int64_t defaultWait = 10;     // seconds
 constexpr std::int64_t longestWait = 3600;   // seconds
 constexpr std::size_t tooLarge = 16U << 20;  // the desk takes no larger body

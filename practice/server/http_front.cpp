@@ -20,8 +20,6 @@ namespace tarn::practice {
 namespace {
 
 constexpr const char* plainText = "text/plain; charset=utf-8";
-constexpr int serverError = 500;
-constexpr int notFound = 404;
 constexpr time_t turnMicroseconds = 50000;
 constexpr std::size_t blanksAtOnce = 1U << 16;
 constexpr std::size_t someOfTheHead = 20;   // bytes

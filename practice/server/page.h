@@ -16,6 +16,9 @@ enum class Ending {
     ResetWithinBody   // after half the body
 };
 
+inline constexpr int notFound = 404;
+inline constexpr int serverError = 500;
+
 struct Page {
     Page(std::string text) : body(std::move(text)) {}  // NOLINT(google-explicit-constructor)
 

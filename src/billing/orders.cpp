@@ -14,7 +14,7 @@
 namespace tarn {
 namespace {
 
-constexpr auto grid = gridOf<OrderColumn>(
+constexpr auto orderColumns = gridOf<OrderColumn>(
     {{OrderColumn::Order,
       {"ID_ORD_FAT", "Ord. Fat.", 10, Treatment::Text, "Número da ordem de faturamento"}},
      {OrderColumn::Customer, {"NM_PES_CPL", "Cliente", 40, Treatment::Text, "Cliente"}},
@@ -62,7 +62,7 @@ bool confirm(Environment& environment, const std::string& order) {
 }  // namespace
 
 std::span<const GridColumn> orderGrid() {
-    return grid;
+    return orderColumns;
 }
 
 std::vector<GridRow> loadOrders(Environment& environment, const Sessao& session) {
@@ -75,7 +75,7 @@ std::vector<GridRow> loadOrders(Environment& environment, const Sessao& session)
         warn(environment, "Houve um problema na transferência das Ordens de Faturamento.");
         return {};
     }
-    return gridRows(document, grid);
+    return gridRows(document, orderColumns);
 }
 
 bool cancelOrder(Environment& environment, const Sessao& session, const GridRow& order) {

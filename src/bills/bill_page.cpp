@@ -8,7 +8,7 @@ namespace tarn {
 namespace {
 
 // Fills what the words leave free, so that nothing can be written in behind them.
-std::string amountStrip(const std::string& inWords) {
+std::string crossedStrip(const std::string& inWords) {
     constexpr int parameters = 126;
     std::string strip = inWords + " ";
     for (int i = 0; i < parameters; ++i) {
@@ -92,7 +92,7 @@ void amountInWords(BillPage& paper, const std::string& inWords) {
     paper.ImprimeLinha("VALOR", 6, 11.2, 8);
     paper.ImprimeLinha("POR", 6.2, 11.6, 8);
     paper.ImprimeLinha("EXTENSO", 5.9, 12, 8);
-    drawPieces(paper, amountStrip(inWords), 53, 9, {11.2, 11.6, 12}, 10);
+    drawPieces(paper, crossedStrip(inWords), 53, 9, {11.2, 11.6, 12}, 10);
 }
 
 void acceptance(BillPage& paper, const Issuer& issuer) {

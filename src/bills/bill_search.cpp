@@ -8,7 +8,7 @@ namespace tarn {
 namespace {
 
 // The heading over the state says "Filial" as well.
-constexpr auto grid = gridOf<BillColumn>(
+constexpr auto billColumns = gridOf<BillColumn>(
     {{BillColumn::Tick, {"", "", 4, Treatment::Tick}},
      {BillColumn::Branch, {"SG_FIL", "Filial", 17}},
      {BillColumn::Due, {"DT_VNC_DOC_FMA", "Dt.de Vencimento", 17}},
@@ -38,7 +38,7 @@ constexpr std::int32_t receiptKind = 12;
 }  // namespace
 
 std::span<const GridColumn> billGrid() {
-    return grid;
+    return billColumns;
 }
 
 std::vector<ListItem> documentKinds() {
@@ -69,7 +69,7 @@ std::optional<std::vector<GridRow>> searchBills(Environment& environment, const 
 }
 
 std::vector<GridRow> billRows(const XmlDocument& answer) {
-    return gridRows(answer, grid);
+    return gridRows(answer, billColumns);
 }
 
 }  // namespace tarn

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::size_t piece = 60;  // characters of a line of words or reference
 
-std::string amountStrip(const std::string& inWords) {
+std::string hyphenatedStrip(const std::string& inWords) {
     constexpr std::size_t hyphens = 282;
     return inWords + " " + std::string(hyphens, '-');
 }
@@ -25,7 +25,7 @@ void title(BillPage& paper, const GridRow& document) {
     paper.drawLine(leftMargin, 5.5, rightMargin, 5.5, 6);
 }
 
-void payer(BillPage& paper, const GridRow& document) {
+void receiptPayer(BillPage& paper, const GridRow& document) {
     const bool legalPerson = document.text(BillColumn::PersonKind) == "J";
     paper.ImprimeLinha("Nome do Sacado", 2, 6.5, 10);
     paper.ImprimeLinha(document.text(BillColumn::Customer), 5, 6.5, 10);
@@ -47,7 +47,7 @@ void amountAndReference(BillPage& paper, const GridRow& document, const std::str
     paper.ImprimeLinha(" VALOR ", 2, 9.3, 10);
     paper.ImprimeLinha("  POR  ", 2, 9.7, 10);
     paper.ImprimeLinha("EXTENSO", 2, 10.1, 10);
-    drawPieces(paper, amountStrip(inWords), piece, 5, {9.3, 9.7, 10.1}, 11);
+    drawPieces(paper, hyphenatedStrip(inWords), piece, 5, {9.3, 9.7, 10.1}, 11);
     paper.ImprimeLinha("Referente a ", 2, 10.8, 10);
     drawPieces(paper, referenceStrip(document.text(BillColumn::Reference)), piece, 5,
                {10.8, 11.2, 11.6, 12, 12.4}, 11);
@@ -69,7 +69,7 @@ void drawReceipt(BillPage& paper, const Issuer& issuer, const GridRow& document,
     drawHeader(paper, issuer, document,
                {.issuedLabel = "DATA DE EMISSAO:", .place = " - Estado de " + issuer.data.NM_UF});
     title(paper, document);
-    payer(paper, document);
+    receiptPayer(paper, document);
     amountAndReference(paper, document, inWords);
     signature(paper);
 }

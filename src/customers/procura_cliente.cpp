@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t smallestName = 3;
 
-constexpr auto grid =
+constexpr auto customerColumns =
     gridOf<CustomerColumn>({{CustomerColumn::Name, {"NM_PES_CPL", "Cliente", 52}},
                             {CustomerColumn::CompanyKind, {"DC_TIP_EMP", "Tipo de Empresa", 26}},
                             {CustomerColumn::Id, {"ID_PES_CLI", "ID_PES_CLI", 14}},
@@ -23,7 +23,7 @@ constexpr auto grid =
 }  // namespace
 
 std::span<const GridColumn> customerGrid() {
-    return grid;
+    return customerColumns;
 }
 
 bool ProcuraCliente(Environment& environment, const Sessao& session, XmlDocument& answer,
@@ -33,7 +33,7 @@ bool ProcuraCliente(Environment& environment, const Sessao& session, XmlDocument
 }
 
 std::vector<GridRow> customerRows(const XmlDocument& answer) {
-    return gridRows(answer, grid);
+    return gridRows(answer, customerColumns);
 }
 
 bool searchCustomer(Environment& environment, const Sessao& session, const std::string& text,

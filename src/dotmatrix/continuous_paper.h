@@ -22,6 +22,9 @@ inline constexpr PaperUnits lineHeight = unitsPerInch / 6;
 // The needles' band of a row is 1/8 inch high, whatever the line spacing.
 inline constexpr PaperUnits halfStrike = unitsPerInch / 16;
 
+// Of paper whose perforations nobody asks about.
+inline constexpr PaperUnits endlessForm = 1000 * unitsPerInch;
+
 struct FormDesign;
 
 struct Form {

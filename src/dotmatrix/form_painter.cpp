@@ -10,8 +10,6 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr double pointsPerUnit = pointsPerInch / static_cast<double>(unitsPerInch);
-
 // Needles strike from 1.9 to 10.9 points below the top of a row: a box drawn a point
 // higher holds them, and a label of the smallest size stays clear of capitals.
 constexpr double boxRise = 1.0;

@@ -16,6 +16,7 @@
 namespace tarn::dotmatrix {
 
 inline constexpr double pointsPerInch = 72.0;
+inline constexpr double pointsPerUnit = pointsPerInch / static_cast<double>(unitsPerInch);
 
 // Dashes and the gaps between them are this many times as long as their line is wide.
 inline constexpr double dashWidths = 4;

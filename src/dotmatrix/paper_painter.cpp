@@ -12,8 +12,6 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr double pointsPerUnit = pointsPerInch / static_cast<double>(unitsPerInch);
-
 constexpr double baseline = 8.9;  // points below the top of a row
 constexpr double underline = 10.4;
 constexpr double underlineWidth = 0.6;

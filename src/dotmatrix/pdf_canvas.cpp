@@ -8,7 +8,7 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-pdf::PdfStroke penOf(const Stroke& stroke) {
+pdf::PdfStroke strokeOf(const Stroke& stroke) {
     return {.colour = stroke.colour,
             .width = stroke.width,
             .dash = stroke.dashed ? dashWidths * stroke.width : 0,
@@ -22,16 +22,16 @@ void PdfCanvas::fill(const QRectF& area, const QColor& colour) {
 }
 
 void PdfCanvas::frame(const QRectF& area, const Stroke& stroke) {
-    drawing_.frame(area, penOf(stroke));
+    drawing_.frame(area, strokeOf(stroke));
 }
 
 void PdfCanvas::disc(const QPointF& centre, double radius, const QColor& filling,
                      const Stroke& edge) {
-    drawing_.disc(centre, radius, filling, penOf(edge));
+    drawing_.disc(centre, radius, filling, strokeOf(edge));
 }
 
 void PdfCanvas::line(const QPointF& from, const QPointF& to, const Stroke& stroke) {
-    drawing_.line(from, to, penOf(stroke));
+    drawing_.line(from, to, strokeOf(stroke));
 }
 
 void PdfCanvas::picture(const QRectF& area, const QImage& image) {

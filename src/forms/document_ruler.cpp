@@ -131,7 +131,7 @@ Print sampleOf(std::string_view form) {
     return form == labels::labelFormOnPaper ? printSampleLabels : Print();
 }
 
-RulerTracer traced(const Print& print, int reach) {
+RulerTracer ruled(const Print& print, int reach) {
     RulerTracer tracer(reach);
     RawChannel channel(tracer, CodePage::Page1252);
     channel.watch(tracer);
@@ -141,7 +141,7 @@ RulerTracer traced(const Print& print, int reach) {
 
 std::vector<std::vector<std::string>> rulerJobs(std::string_view form) {
     if (const Print print = sampleOf(form)) {
-        return traced(print, traced(print, 0).reach()).jobs();
+        return ruled(print, ruled(print, 0).reach()).jobs();
     }
     std::vector<std::string> sheet;
     for (int line = 1; line <= plainLines; ++line) {

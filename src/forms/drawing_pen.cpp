@@ -11,7 +11,6 @@ namespace {
 using notes::Field;
 using notes::Source;
 
-constexpr PaperUnits endless = 1000 * unitsPerInch;
 // Of a text without a width that has the rest of its line.
 constexpr int openRoom = 60;
 
@@ -31,9 +30,10 @@ bool isVolumes(std::span<const Field> fields) {
 }  // namespace
 
 DrawingPen::DrawingPen(const FormPitch& pitch, int itemLines)
-    : paper_(endless),
-      printer_(paper_,
-               Dialect{.formHeight = endless, .elite = pitch.elite, .condensed = pitch.condensed}),
+    : paper_(endlessForm),
+      printer_(
+          paper_,
+          Dialect{.formHeight = endlessForm, .elite = pitch.elite, .condensed = pitch.condensed}),
       itemLines_(itemLines),
       boxHeight_(lineHeight) {}
 

@@ -4,8 +4,6 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr PaperUnits endless = 1000 * unitsPerInch;
-
 // The box that ends where `box` begins, of its place and width.
 FormBox* boxAbove(std::vector<FormBox>& boxes, const FormBox& box) {
     for (FormBox& above : boxes) {
@@ -19,10 +17,10 @@ FormBox* boxAbove(std::vector<FormBox>& boxes, const FormBox& box) {
 }  // namespace
 
 FormTracer::FormTracer(const FormPitch& pitch)
-    : paper_(endless),
-      printer_(paper_,
-               Dialect{.formHeight = endless, .elite = pitch.elite, .condensed = pitch.condensed}) {
-}
+    : paper_(endlessForm),
+      printer_(
+          paper_,
+          Dialect{.formHeight = endlessForm, .elite = pitch.elite, .condensed = pitch.condensed}) {}
 
 std::vector<FormBox> FormTracer::boxes() const {
     std::vector<FormBox> joined;

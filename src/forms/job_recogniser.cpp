@@ -13,7 +13,6 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr PaperUnits endless = 1000 * unitsPerInch;
 constexpr int mostItemLines = 100;
 // A document fills so many of its boxes at least, and a third of them where there are few;
 // less may be anybody's text.
@@ -26,8 +25,8 @@ struct Printed {
 };
 
 Printed printed(std::string_view setUp, std::string_view job) {
-    ContinuousPaper paper(endless);
-    EscpInterpreter printer(paper, Dialect{.formHeight = endless});
+    ContinuousPaper paper(endlessForm);
+    EscpInterpreter printer(paper, Dialect{.formHeight = endlessForm});
     if (!setUp.empty()) {
         printer.startJob();
         printer.feed(setUp);

@@ -9,7 +9,7 @@
 namespace tarn::labels {
 namespace {
 
-constexpr auto grid =
+constexpr auto selectionColumns =
     gridOf<SelectionColumn>({{SelectionColumn::Tick, {"", " ", 4, Treatment::TickAlone}},
                              {SelectionColumn::PostalCode, {"CD_CEP", "Cep", 13}},
                              {SelectionColumn::Name, {"NM_PES_CPL", "Cliente", 46}},
@@ -73,11 +73,11 @@ std::optional<Refusal<SaleDate>> dateRefusal(const commands::LabelFilter& filter
 }
 
 std::span<const GridColumn> selectionGrid() {
-    return grid;
+    return selectionColumns;
 }
 
 std::vector<GridRow> customersOf(const XmlDocument& answer) {
-    return gridRows(answer, grid);
+    return gridRows(answer, selectionColumns);
 }
 
 std::vector<GridRow> searchCustomers(Environment& environment, const Sessao& session,

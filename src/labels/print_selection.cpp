@@ -16,11 +16,11 @@ constexpr std::size_t addressCut = 50;
 constexpr std::size_t townCut = 40;
 
 constexpr double nameSize = 10;
-constexpr double textSize = 8;
+constexpr double addressSize = 8;
 
 // Where the next label goes; centimetres. Nothing asks for a second page: what lies below
 // the sheet is lost (decision D92).
-struct Place {
+struct SelectionPlace {
     static constexpr double left = 1.3;
     static constexpr double right = 12;
     static constexpr double height = 2.55;
@@ -41,9 +41,9 @@ void printCustomer(DrawnRun& run, const GridRow& customer, double x, double y) {
     town.append(" - ").append(customer.text(SelectionColumn::State));
     run.ImprimeLinha(leftOf(customer.text(SelectionColumn::Name), nameCut), x, y + 0.26, nameSize);
     run.ImprimeLinha(leftOf(customer.text(SelectionColumn::Address), addressCut), x, y + 0.76,
-                     textSize);
-    run.ImprimeLinha(customer.text(SelectionColumn::PostalCode), x, y + 1.26, textSize);
-    run.ImprimeLinha(town, x, y + 1.76, textSize);
+                     addressSize);
+    run.ImprimeLinha(customer.text(SelectionColumn::PostalCode), x, y + 1.26, addressSize);
+    run.ImprimeLinha(town, x, y + 1.76, addressSize);
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ void printCustomer(DrawnRun& run, const GridRow& customer, double x, double y) {
 void printSelection(Environment& environment, std::span<const GridRow> customers,
                     const Progress& progress) {
     DrawnRun run(environment);
-    Place place;
+    SelectionPlace place;
     for (std::size_t i = 0; i < customers.size(); ++i) {
         if (customers[i].ticked) {
             place.advance();

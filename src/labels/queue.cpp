@@ -10,7 +10,7 @@
 namespace tarn::labels {
 namespace {
 
-constexpr auto grid = gridOf<QueueColumn>(
+constexpr auto queueColumns = gridOf<QueueColumn>(
     {{QueueColumn::Sequence, {"SEQUENCIAL", "Sequencial", 13, Treatment::Number}},
      {QueueColumn::PostalCode, {"CEP", "Cep", 13}},
      {QueueColumn::Name, {"NOME", "Nome", 46}},
@@ -30,7 +30,7 @@ std::vector<ListItem> withNone(std::vector<ListItem> items) {
 }  // namespace
 
 std::span<const GridColumn> queueGrid() {
-    return grid;
+    return queueColumns;
 }
 
 std::vector<ListItem> loadReasons(Environment& environment, const Sessao& session) {
@@ -60,7 +60,7 @@ std::optional<std::vector<GridRow>> readQueue(Environment& environment, const Se
                        failure::Tarn0009)) {
         return std::nullopt;
     }
-    std::vector<GridRow> queue = gridRows(answer, grid);
+    std::vector<GridRow> queue = gridRows(answer, queueColumns);
     values.quantity = queue.size();
     return queue;
 }

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::string_view companyMask = "@@.@@@.@@@/@@@@-@@";
 constexpr std::string_view personMask = "@@@.@@@.@@@-@@";
-constexpr NumberMask wholeMask = "#";
+constexpr NumberMask digitsMask = "#";
 
 bool isEntry(Run& run) {
     return leftOf(run.document.text(Source::Ent_Sai), 1) == "E";
@@ -36,7 +36,7 @@ std::string taxNumber(Run& run) {
 
 // Leading zeros drop out before the mask, so they leave blanks.
 std::string carrierTaxNumber(Run& run) {
-    return fillMask(formatText(run.document.text(Source::NR_CGC_CPL_TRP), wholeMask), companyMask);
+    return fillMask(formatText(run.document.text(Source::NR_CGC_CPL_TRP), digitsMask), companyMask);
 }
 
 std::string_view appendPostalCode(std::string& out, std::string_view code) {

@@ -57,8 +57,6 @@ void pad(QByteArray& bytes) {
 constexpr Offset headBytes = 54;
 constexpr Offset headFormat = 50;  // of the offsets into the outlines: 0 short, 1 long
 constexpr Offset maxpBytes = 6;
-constexpr Offset hheaBytes = 36;
-constexpr Offset hheaMetrics = 34;  // how many glyphs have an advance of their own
 constexpr Offset outlineHead = 10;  // bytes of a glyph ahead of its contours or parts
 
 // Flags of a part of a composed glyph.

@@ -5,13 +5,6 @@
 
 namespace tarn::pdf {
 
-namespace {
-
-constexpr qsizetype hheaMetrics = 34;
-constexpr qsizetype hheaBytes = 36;
-
-}  // namespace
-
 // The head has the checksum of the whole file in it.
 QByteArray faceKey(const QRawFont& face) {
     return face.familyName().toUtf8() + face.fontTable("head");

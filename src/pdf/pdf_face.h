@@ -9,6 +9,10 @@
 
 namespace tarn::pdf {
 
+// Of the table "hhea" of a font file.
+inline constexpr qsizetype hheaBytes = 36;
+inline constexpr qsizetype hheaMetrics = 34;  // how many glyphs have an advance of their own
+
 struct PdfFace {
     enum class Outlines { TrueType, PostScript, None };
 

@@ -13,9 +13,7 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr std::chrono::milliseconds betweenLooks(250);
 constexpr int quietLooks = 2;
-constexpr qint64 readAtOnce = 256LL * 1024;
 
 JobKind kindOfJob(const QString& file) {
     return jobKindBeside(pathOf(file.toStdString()));
@@ -38,7 +36,7 @@ FolderWatch::FolderWatch(JobIntake& intake, const QString& folder)
     soon_.setSingleShot(true);
     soon_.setInterval(0);
     soon_.start();
-    timer_.start(betweenLooks);
+    timer_.start(betweenFolderLooks);
 }
 
 bool FolderWatch::hasNews(const QFileInfo& file) const {
@@ -138,7 +136,7 @@ void FolderWatch::readOn(const QString& name, Seen& seen) {
     QFile file(folder_.filePath(name));
     QByteArray piece;
     if (file.open(QIODevice::ReadOnly) && file.seek(seen.taken)) {
-        piece = file.read(readAtOnce);
+        piece = file.read(JobIntake::readAtOnce);
     }
     seen.taken += piece.size();
     if (piece.isEmpty() || !intake_.take(piece)) {

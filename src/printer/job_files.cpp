@@ -6,12 +6,6 @@
 
 namespace tarn::dotmatrix {
 
-namespace {
-
-constexpr qint64 readAtOnce = 256LL * 1024;
-
-}  // namespace
-
 JobFiles::JobFiles(JobIntake& intake, QObject* parent) : QObject(parent), intake_(intake) {
     connect(&intake_, &JobIntake::idle, this, &JobFiles::take, Qt::QueuedConnection);
 }
@@ -38,7 +32,7 @@ void JobFiles::take() {
         intake_.begin(QFileInfo(*file_).fileName(), JobIntake::Kind::LookedAt,
                       jobKindBeside(QFile::encodeName(file_->fileName()).toStdString()));
     }
-    const QByteArray piece = file_->read(readAtOnce);
+    const QByteArray piece = file_->read(JobIntake::readAtOnce);
     if (piece.isEmpty()) {
         file_.reset();
         intake_.end();

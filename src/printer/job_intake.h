@@ -22,6 +22,7 @@ class JobIntake : public QObject {
 
 public:
     static constexpr qint64 maxJobBytes = 64LL * 1024 * 1024;
+    static constexpr qint64 readAtOnce = 256LL * 1024;  // of a file or a sender
 
     // Jobs from elsewhere are for the printer; what the user opens is only looked at.
     enum class Kind { Printed, LookedAt };

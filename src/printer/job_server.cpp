@@ -25,7 +25,6 @@ private:
 
 namespace {
 
-constexpr qint64 readAtOnce = 256LL * 1024;
 constexpr std::chrono::seconds patience(60);
 
 QString nameOf(const QTcpSocket& socket) {
@@ -66,7 +65,7 @@ JobServer::~JobServer() {
 void JobServer::incomingConnection(qintptr handle) {
     auto* socket = new Sender(handle, this);
     // What is more waits in the sender.
-    socket->setReadBufferSize(readAtOnce);
+    socket->setReadBufferSize(JobIntake::readAtOnce);
     if (socket->socketDescriptor() == -1 || !makeRoom()) {
         socket->letGo();  // what it may have sent makes a reset of it all the same
         delete socket;
@@ -137,7 +136,7 @@ void JobServer::readSome() {
             begun_ = true;
         }
         patience_.start();
-        if (!intake_.take(current_->read(readAtOnce))) {
+        if (!intake_.take(current_->read(JobIntake::readAtOnce))) {
             begun_ = false;  // the intake has ended it
             return finish({});
         }

@@ -11,13 +11,13 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-struct Row {
+struct RegionRow {
     std::size_t form = 0;
     std::size_t row = 0;
     std::vector<Cell> cells;
 };
 
-void collect(const PaperLine& line, const PaperRegion& region, std::vector<Row>& rows) {
+void collect(const PaperLine& line, const PaperRegion& region, std::vector<RegionRow>& rows) {
     const PaperUnits middle = line.y + halfStrike;
     if (middle < region.top || middle >= region.bottom) {
         return;
@@ -34,7 +34,7 @@ void collect(const PaperLine& line, const PaperRegion& region, std::vector<Row>&
     }
 }
 
-QString textOfRow(const Row& row, std::uint16_t firstColumn) {
+QString textOfRow(const RegionRow& row, std::uint16_t firstColumn) {
     std::u16string text;
     for (Cell cell : row.cells) {
         cell.column = static_cast<std::uint16_t>(cell.column - firstColumn + 1);
@@ -53,14 +53,14 @@ PaperRegion PaperRegion::sorted() const {
 QString textIn(PaperRoll& roll, const PaperRegion& wanted) {
     const PaperRegion region = wanted.sorted();
     const std::size_t last = roll.forms().formAt(region.bottom);
-    std::vector<Row> rows;
+    std::vector<RegionRow> rows;
     for (std::size_t form = roll.forms().formAt(region.top); form <= last; ++form) {
         for (const PaperLine& line : roll.page(form)->lines) {
             collect(line, region, rows);
         }
     }
     std::uint16_t firstColumn = std::numeric_limits<std::uint16_t>::max();
-    for (const Row& row : rows) {
+    for (const RegionRow& row : rows) {
         for (const Cell& cell : row.cells) {
             firstColumn = std::min(firstColumn, cell.column);
         }

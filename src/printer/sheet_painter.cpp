@@ -3,12 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "dotmatrix/paper_canvas.h"
+
 namespace tarn::dotmatrix {
 
 namespace {
 
 constexpr double mostPixels = 16e6;  // A4 at more than 400 %
-constexpr double pointsPerInch = 72;
 
 }  // namespace
 

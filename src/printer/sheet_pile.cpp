@@ -11,7 +11,6 @@ namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr std::chrono::milliseconds betweenLooks(250);
 constexpr int mostPages = 10'000;  // of one file
 constexpr double leastSide = 1;    // points
 constexpr double mostSide = 14'400;
@@ -71,7 +70,7 @@ void SheetPile::open(const QString& path) {
 }
 
 void SheetPile::start() {
-    timer_.start(betweenLooks);
+    timer_.start(betweenFolderLooks);
     QMetaObject::invokeMethod(this, &SheetPile::look, Qt::QueuedConnection);
 }
 

@@ -9,13 +9,14 @@
 #include <chrono>
 #include <cmath>
 
+#include "dotmatrix/paper_canvas.h"
+
 namespace tarn::dotmatrix {
 
 namespace {
 
 constexpr double screenDots = 96;  // an inch at zoom 1
-constexpr double pointsPerInch = 72;
-constexpr int gap = 10;  // pixels around a sheet
+constexpr int gap = 10;            // pixels around a sheet
 constexpr int wheelRows = 20;
 constexpr qsizetype mostPictureBytes = 192LL * 1024 * 1024;
 constexpr std::chrono::milliseconds untilReadOut(150);

@@ -1,5 +1,5 @@
 // Recognises ASCII eight bytes at a time: almost everything that is printed is ASCII. And
-// its letters without their case.
+// its digits, and its letters without their case.
 #pragma once
 
 #include <algorithm>
@@ -65,6 +65,10 @@ inline std::size_t asciiRun(std::string_view text) {
         ++run;
     }
     return run;
+}
+
+constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
 }
 
 inline char asciiUpper(char c) {

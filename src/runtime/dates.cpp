@@ -1,14 +1,11 @@
 #include "runtime/dates.h"
 
+#include "runtime/ascii.h"
 #include "runtime/text.h"
 
 namespace tarn {
 
 namespace {
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 bool isLeapYear(int year) {
     return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;

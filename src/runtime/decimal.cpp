@@ -7,6 +7,7 @@
 #include <limits>
 #include <string>
 
+#include "runtime/ascii.h"
 #include "runtime/runtime_error.h"
 #include "runtime/text.h"
 
@@ -23,10 +24,6 @@ constexpr std::array<std::uint64_t, 20> powersOfTen = [] {
     }
     return powers;
 }();
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 void dropTrailingZeros(Decimal& decimal) {
     while (decimal.count > 0 &&

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "runtime/ascii.h"
 #include "runtime/decimal.h"
 #include "runtime/runtime_error.h"
 #include "runtime/text.h"
@@ -14,10 +15,6 @@ namespace tarn {
 namespace {
 
 constexpr std::int64_t farExponent = std::int64_t{1} << 62U;  // no text is as long
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 bool isSign(char c) {
     return c == '-' || c == '+';

@@ -7,7 +7,7 @@
 namespace tarn {
 namespace {
 
-constexpr auto grid = gridOf<SlipColumn>(
+constexpr auto slipColumns = gridOf<SlipColumn>(
     {{SlipColumn::Tick, {"", "", 4, Treatment::Tick}},
      {SlipColumn::Branch, {"SG_FIL", "Filial", 17}},
      {SlipColumn::Due, {"DT_VNC_DOC_FMA", "Vencimento", 13}},
@@ -42,7 +42,7 @@ constexpr auto grid = gridOf<SlipColumn>(
 }  // namespace
 
 std::span<const GridColumn> slipGrid() {
-    return grid;
+    return slipColumns;
 }
 
 std::vector<ListItem> portfoliosForFilter(Environment& environment, const Sessao& session) {
@@ -96,7 +96,7 @@ std::optional<std::vector<GridRow>> searchSlips(Environment& environment, const 
 }
 
 std::vector<GridRow> slipRows(const XmlDocument& answer) {
-    return gridRows(answer, grid);
+    return gridRows(answer, slipColumns);
 }
 
 }  // namespace tarn
