@@ -9,7 +9,7 @@
 #include "forms/form_catalogue.h"
 #include "forms/job_recogniser.h"
 #include "platform/job_kind.h"
-#include "printer/job_intake.h"
+#include "printer/intake/job_intake.h"
 #include "runtime/text.h"
 
 namespace tarn::printer {

@@ -5,8 +5,8 @@
 #include <QString>
 
 #include "apps/tarnimpressora/options.h"
-#include "printer/hold_desk.h"
-#include "printer/job_intake.h"
+#include "printer/held/hold_desk.h"
+#include "printer/intake/job_intake.h"
 
 namespace tarn::printer {
 

@@ -5,9 +5,9 @@
 #include <memory>
 
 #include "apps/tarnimpressora/options.h"
-#include "printer/folder_watch.h"
-#include "printer/job_intake.h"
-#include "printer/job_server.h"
+#include "printer/intake/folder_watch.h"
+#include "printer/intake/job_intake.h"
+#include "printer/intake/job_server.h"
 
 namespace tarn::printer {
 

@@ -6,7 +6,7 @@
 #include "apps/tarnimpressora/holding.h"
 #include "apps/tarnimpressora/reception.h"
 #include "cli/own_console.h"
-#include "printer/printer_window.h"
+#include "printer/window/printer_window.h"
 #include "widgets/look.h"
 
 namespace tarn::printer {

@@ -14,7 +14,7 @@
 #include "apps/tarnroteiro/photo.h"
 #include "forms/form_loader.h"
 #include "platform/job_kind.h"
-#include "printer/printer_window.h"
+#include "printer/window/printer_window.h"
 #include "runtime/file_names.h"
 
 namespace tarn {

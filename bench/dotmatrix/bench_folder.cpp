@@ -7,7 +7,7 @@
 #include <cstdlib>
 
 #include "bench/support/measure.h"
-#include "printer/folder_watch.h"
+#include "printer/intake/folder_watch.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Files of a folder that are kept, and go out of it.
 #include <QFile>
 
-#include "printer/folder_watch.h"
+#include "printer/intake/folder_watch.h"
 #include "tests/printer/held_intake.h"
 
 namespace tarn::test {

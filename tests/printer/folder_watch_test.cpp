@@ -1,5 +1,5 @@
 // Jobs from a real directory.
-#include "printer/folder_watch.h"
+#include "printer/intake/folder_watch.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 
 #include <QTemporaryDir>
 
-#include "printer/hold_desk.h"
+#include "printer/held/hold_desk.h"
 #include "tests/printer/intake.h"
 #include "tests/printer/queue.h"
 

@@ -1,5 +1,5 @@
 // Jobs that are held until the user, or the time, lets them go.
-#include "printer/hold_desk.h"
+#include "printer/held/hold_desk.h"
 
 #include <QSignalSpy>
 

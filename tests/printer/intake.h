@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "dotmatrix/paper_text.h"
-#include "printer/job_intake.h"
+#include "printer/intake/job_intake.h"
 
 namespace tarn::test {
 

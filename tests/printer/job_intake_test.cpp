@@ -1,5 +1,5 @@
 // One job after the other, each as far as its size goes.
-#include "printer/job_intake.h"
+#include "printer/intake/job_intake.h"
 
 #include <gtest/gtest.h>
 

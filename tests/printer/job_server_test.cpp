@@ -1,5 +1,5 @@
 // Jobs over real loopback sockets.
-#include "printer/job_server.h"
+#include "printer/intake/job_server.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // What the window finds cut or outside the boxes of a form, by real keys and clicks.
-#include "printer/paper_check.h"
+#include "printer/paper/paper_check.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 #include <QTemporaryDir>
 
 #include "forms/layout_forms.h"
-#include "printer/printer_window.h"
+#include "printer/window/printer_window.h"
 #include "tests/dotmatrix/note_streams.h"
 #include "tests/printer/queue.h"
 #include "tests/support/user.h"

@@ -1,5 +1,5 @@
 // The window of the virtual printer, by real keys and clicks.
-#include "printer/printer_window.h"
+#include "printer/window/printer_window.h"
 
 #include <gtest/gtest.h>
 

@@ -12,8 +12,8 @@
 #include <QTemporaryDir>
 #include <QWheelEvent>
 
-#include "printer/printer_window.h"
-#include "printer/sheet_dock.h"
+#include "printer/sheets/sheet_dock.h"
+#include "printer/window/printer_window.h"
 #include "tests/printer/queue.h"
 #include "tests/support/user.h"
 

@@ -1,5 +1,5 @@
 // What a note lost on its form, told by the desk beside the job and shown on its paper.
-#include "printer/told_cuts.h"
+#include "printer/paper/told_cuts.h"
 
 #include <gtest/gtest.h>
 
