@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QTemporaryDir>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -11,6 +12,7 @@
 
 #include "gateway/xml_document.h"
 #include "practice/server/practice_server.h"
+#include "tests/support/practice_database.h"
 
 namespace tarn::practice::test {
 
@@ -29,7 +31,9 @@ struct Generated {
 
 class Desk {
 public:
-    explicit Desk(const PracticeOptions& options = optionsOf()) : server_(options) {}
+    // Over data that is made once a run, in a file of its own.
+    Desk() : server_(optionsOf(tarn::test::newDatabase(folder_))) {}
+    explicit Desk(const PracticeOptions& options) : server_(options) {}
 
     PracticeServer& server() { return server_; }
     XmlDocument ask(const std::string& query);
@@ -42,6 +46,7 @@ public:
     XmlDocument note(const Generated& note);
 
 private:
+    QTemporaryDir folder_;
     PracticeServer server_;
 };
 
