@@ -3,27 +3,19 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
 
+#include "platform/no_paper.h"
 #include "platform/printer.h"
-#include "platform/spooler.h"
 
 namespace tarn::bench {
 
-class CountingSpooler : public Spooler {
+class CountingSpooler : public NoPaper {
 public:
-    std::string defaultPrinter() override { return "nenhuma"; }
-    bool openPrinter(const std::string&) override { return true; }
-    bool startDocument(const JobDescription&) override { return true; }
-    bool startPage() override { return true; }
     std::size_t write(std::string_view bytes) override {
         bytes_ += bytes.size();
         return bytes.size();
     }
-    bool endPage() override { return true; }
-    bool endDocument() override { return true; }
-    bool closePrinter() override { return true; }
 
     std::size_t bytes() const { return bytes_; }
 

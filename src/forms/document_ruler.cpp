@@ -14,6 +14,7 @@
 #include "forms/document_forms.h"
 #include "forms/document_samples.h"
 #include "labels/raw_form.h"
+#include "platform/no_paper.h"
 #include "slips/slip_layouts.h"
 
 namespace tarn::dotmatrix {
@@ -37,7 +38,7 @@ bool setsSpacing(std::string_view body) {
 }
 
 // Takes a document's calls and keeps them with marks instead of its texts. Each call is a write.
-class RulerTracer : public Spooler, public FieldWatch {
+class RulerTracer : public NoPaper, public FieldWatch {
 public:
     // Without a reach it only looks how far the fields go.
     explicit RulerTracer(int reach) : reach_(reach) {}
@@ -48,15 +49,12 @@ public:
     void placed(std::span<const PlacedField> fields) override {
         fields_.assign(fields.begin(), fields.end());
     }
-    std::string defaultPrinter() override { return {}; }
-    bool openPrinter(const std::string& /*name*/) override { return true; }
     bool startDocument(const JobDescription& /*job*/) override {
         jobs_.emplace_back();
         line_ = 1;
         column_ = 1;
         return true;
     }
-    bool startPage() override { return true; }
     std::size_t write(std::string_view bytes) override {
         std::size_t ends = 0;
         std::string_view body = bytes;
@@ -77,9 +75,6 @@ public:
         jobs_.back().push_back(std::move(call));
         return bytes.size();
     }
-    bool endPage() override { return true; }
-    bool endDocument() override { return true; }
-    bool closePrinter() override { return true; }
 
 private:
     // Blanks as long as the call's text, with corners in them; a line without any is the ruler's.

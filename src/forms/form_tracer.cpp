@@ -46,10 +46,6 @@ void FormTracer::placed(std::span<const PlacedField> fields) {
     }
 }
 
-bool FormTracer::openPrinter(const std::string& /*name*/) {
-    return true;
-}
-
 bool FormTracer::startDocument(const JobDescription& /*job*/) {
     printer_.startJob();
     jobs_.emplace_back();

@@ -10,11 +10,11 @@
 #include "dotmatrix/continuous_paper.h"
 #include "dotmatrix/escp_interpreter.h"
 #include "dotmatrix/form_design.h"
-#include "platform/spooler.h"
+#include "platform/no_paper.h"
 
 namespace tarn::dotmatrix {
 
-class FormTracer : public Spooler, public FieldWatch {
+class FormTracer : public NoPaper, public FieldWatch {
 public:
     explicit FormTracer(const FormPitch& pitch = {});
 
@@ -27,14 +27,8 @@ public:
 
     void placed(std::span<const PlacedField> fields) override;
 
-    std::string defaultPrinter() override { return {}; }
-    bool openPrinter(const std::string& name) override;
     bool startDocument(const JobDescription& job) override;
-    bool startPage() override { return true; }
     std::size_t write(std::string_view bytes) override;
-    bool endPage() override { return true; }
-    bool endDocument() override { return true; }
-    bool closePrinter() override { return true; }
 
 private:
     ContinuousPaper paper_;
