@@ -102,9 +102,9 @@ std::size_t expectHarmless(Fields fields, const Print& print) {
             SCOPED_TRACE(name + " " + hostile.name);
             Outcome plain;
             Outcome tried;
-            value = hostile.letters();
+            value = hostile.letters;
             run(plain, print, fields);
-            value = hostile.xml();
+            value = hostile.xml;
             run(tried, print, fields);
             expectSame(plain, tried);
         }

@@ -32,7 +32,7 @@ TEST_P(HostileNote, NoneOfThe119FieldsMovesALineOrCommandsThePrinter) {
     const std::size_t fields = eachField(draft, [&](const std::string& name, std::string& value) {
         for (const HostileText& hostile : hostileTexts()) {
             SCOPED_TRACE(name + " " + hostile.name);
-            value = hostile.letters();
+            value = hostile.letters;
             const Printed plain = print(GetParam(), draft);
             value = hostile.text;
             const Printed printed = print(GetParam(), draft);

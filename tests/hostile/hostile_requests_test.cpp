@@ -140,7 +140,7 @@ std::vector<std::string> keysOfLine(std::string_view line) {
 void expectOneLine(const Query& query, const HostileText& hostile) {
     std::string plain;
     try {
-        plain = requestLine(query(hostile.letters()));
+        plain = requestLine(query(hostile.letters));
     } catch (const RuntimeError& error) {  // no number: nothing leaves, whatever it is
         try {
             query(hostile.text);

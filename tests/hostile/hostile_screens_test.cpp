@@ -4,7 +4,6 @@
 #include <QPlainTextEdit>
 #include <QTextDocument>
 #include <QTextEdit>
-#include <regex>
 
 #include "gateway/commands.h"
 #include "platform/qt/box_window.h"
@@ -20,7 +19,7 @@ using testing::Contains;
 class HostileServer : public HttpLoader {
 public:
     HostileServer(PracticePage& page, const HostileText& hostile)
-        : page_(page), xml_(hostile.xml()), line_(requestLine(hostile.text)) {}
+        : page_(page), xml_(hostile.xml), line_(requestLine(hostile.text)) {}
 
     HttpAnswer get(const std::string& address) override {
         const std::string line = requestLine(address);
@@ -34,25 +33,36 @@ private:
     static constexpr std::size_t mostOfAnswer = 8U << 20U;  // half of what is read
 
     // Codes by which the desk or the server knows something stay.
-    static bool isCode(const std::string& name) {
+    static bool isCode(std::string_view name) {
         constexpr std::array codes{"STATUS",     "version",      "encoding",  "USERCODE",
                                    "SERVERNAME", "NCOMPANYCODE", "TIPO_DOCTO"};
         return name.starts_with("xmlns") || std::ranges::find(codes, name) != codes.end();
     }
-    std::string made(const std::string& answer) const {
-        static const std::regex attribute("([A-Za-z_:]+)=\"([^\"]*[A-Za-z]{2}[^\"]*)\"");
+    static bool isLetter(char c) { return isWithin(c, 'A', 'Z') || isWithin(c, 'a', 'z'); }
+    static bool isWithin(char c, char first, char last) { return c >= first && c <= last; }
+    // More than a number, a date or a flag.
+    static bool hasWords(std::string_view value) {
+        const auto both = [](char a, char b) { return isLetter(a) && isLetter(b); };
+        return std::adjacent_find(value.begin(), value.end(), both) != value.end();
+    }
+    std::string made(std::string_view answer) const {
         std::string out;
-        auto rest = answer.begin();
-        for (std::sregex_iterator it(answer.begin(), answer.end(), attribute), end; it != end;
-             ++it) {
-            const auto& match = *it;
-            out.append(rest, match[0].second);
-            if (!isCode(match[1]) && out.size() < mostOfAnswer) {
-                out.insert(out.size() - 1, xml_);
+        for (std::size_t equals = answer.find("=\""); equals != std::string_view::npos;
+             equals = answer.find("=\"")) {
+            const std::size_t name = answer.find_last_of(" <?\"\n", equals) + 1;
+            const std::size_t value = equals + 2;
+            const std::size_t end = answer.find('"', value);
+            if (end == std::string_view::npos) {
+                break;
             }
-            rest = match[0].second;
+            out.append(answer.substr(0, end));
+            if (hasWords(answer.substr(value, end - value)) &&
+                !isCode(answer.substr(name, equals - name)) && out.size() < mostOfAnswer) {
+                out.append(xml_);
+            }
+            answer.remove_prefix(end);
         }
-        return out.append(rest, answer.end());
+        return out.append(answer);
     }
 
     PracticePage& page_;

@@ -6,25 +6,20 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "runtime/text.h"
 
 namespace tarn::test {
 
 struct HostileText {
+    HostileText(const char* called, std::string ownPart, std::string characters);
+
     const char* name;
-    std::string sign;  // a part of it that nothing else has
-    std::string text;  // UTF-8, of characters that XML can carry; no blanks, "&" or "\"
-    // The stroke stays, at which dates are parted.
-    std::string letters() const {
-        std::string plain;
-        for (std::size_t i = 0; i < text.size(); i += utf8At(text, i).bytes) {
-            plain += text[i] == '/' ? '/' : 'x';
-        }
-        return plain;
-    }
-    // As the value of an attribute.
-    std::string xml() const;
+    std::string sign;     // a part of it that nothing else has
+    std::string text;     // UTF-8, of characters that XML can carry; no blanks, "&" or "\"
+    std::string letters;  // as many; the stroke stays, at which dates are parted
+    std::string xml;      // the text as the value of an attribute
 };
 
 inline void PrintTo(const HostileText& hostile, std::ostream* out) {
@@ -54,19 +49,19 @@ inline const std::array<HostileText, 4>& hostileTexts() {
     return all;
 }
 
-inline std::string HostileText::xml() const {
-    std::string out;
+inline HostileText::HostileText(const char* called, std::string ownPart, std::string characters)
+    : name(called), sign(std::move(ownPart)), text(std::move(characters)) {
     for (std::size_t i = 0; i < text.size();) {
         const Utf8Char character = utf8At(text, i);
+        letters += text[i] == '/' ? '/' : 'x';
         if (std::string_view("<>\"'").find(text[i]) == std::string_view::npos && text[i] > ' ' &&
             text[i] < 0x7F) {
-            out += text[i];
+            xml += text[i];
         } else {
-            out += "&#" + std::to_string(static_cast<unsigned>(character.code)) + ";";
+            xml += "&#" + std::to_string(static_cast<unsigned>(character.code)) + ";";
         }
         i += character.bytes;
     }
-    return out;
 }
 
 }  // namespace tarn::test

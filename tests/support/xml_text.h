@@ -9,8 +9,10 @@ namespace tarn::test {
 // In double quotes: a line end or a tab is a reference, or a reader would take it for a blank.
 inline std::string attributeText(std::string_view text) {
     std::string out;
-    for (const char c : text) {
-        switch (c) {
+    for (std::size_t at = text.find_first_of("&<\"\n\r\t"); at != std::string_view::npos;
+         at = text.find_first_of("&<\"\n\r\t")) {
+        out.append(text.substr(0, at));
+        switch (text[at]) {
             case '&':
                 out += "&amp;";
                 break;
@@ -20,17 +22,13 @@ inline std::string attributeText(std::string_view text) {
             case '"':
                 out += "&quot;";
                 break;
-            case '\n':
-            case '\r':
-            case '\t':
-                out += "&#" + std::to_string(static_cast<int>(c)) + ";";
-                break;
             default:
-                out += c;
+                out += "&#" + std::to_string(static_cast<int>(text[at])) + ";";
                 break;
         }
+        text.remove_prefix(at + 1);
     }
-    return out;
+    return out.append(text);
 }
 
 // <name field="value" .../>; `attributes` is a map of texts.
