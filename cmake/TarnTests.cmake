@@ -1,13 +1,13 @@
 # How tests are declared, and what they share.
 
 # Test code runs once and is compiled often: it is worth neither optimising nor symbols for a
-# debugger (-DCMAKE_CXX_FLAGS=-g brings them). Qt asks for position-independent code; with it
-# everywhere one precompiled header serves all. Nothing depends on the build type,
-# QT_NO_DEBUG neither, which Qt leaves out for Debug.
+# debugger (-DCMAKE_CXX_FLAGS=-g brings them); only fuzzers run it thousands of times a second. Qt
+# asks for position-independent code; with it everywhere one precompiled header serves all. Nothing
+# depends on the build type, QT_NO_DEBUG neither, which Qt leaves out for Debug.
 add_library(tarn_test_options INTERFACE)
 target_link_libraries(tarn_test_options INTERFACE tarn_common_options)
 target_compile_options(tarn_test_options INTERFACE
-                       $<$<CXX_COMPILER_ID:GNU,Clang>:-O0;-fPIC>)
+                       $<$<CXX_COMPILER_ID:GNU,Clang>:-fPIC;$<$<NOT:$<BOOL:${TARN_FUZZ}>>:-O0>>)
 target_compile_definitions(tarn_test_options INTERFACE QT_NO_DEBUG)
 if(WIN32)  # what Qt defines there has its part in the system's headers
   target_link_libraries(tarn_test_options INTERFACE Qt6::Platform)
