@@ -15,13 +15,14 @@ HttpAnswer CheckingLoader::get(const std::string& address) {
     return {};
 }
 
-void CheckedPress::checkDrawing() const {
-    for (const PrintOperation& operation : printer.operations) {
-        const auto* text = std::get_if<DrawnText>(&operation);
-        if (text != nullptr && blankControls(text->text) != text->text) {
-            broken("a drawn text with a control character");
-        }
+std::optional<PrinterFailure> CheckingPrinter::perform(const PrintOperation& operation) {
+    used_ = true;
+    ended_ = std::holds_alternative<DocumentEnd>(operation);
+    const auto* text = std::get_if<DrawnText>(&operation);
+    if (text != nullptr && blankControls(text->text) != text->text) {
+        broken("a drawn text with a control character");
     }
+    return std::nullopt;
 }
 
 }  // namespace tarn::fuzz

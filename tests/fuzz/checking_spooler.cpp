@@ -23,6 +23,7 @@ constexpr std::array commands{" \x0F"sv,
                               "A\x06"sv,
                               " \x1B"
                               "2"sv};
+constexpr std::size_t longestCommand = 6;
 
 // A byte that a printer of these forms takes for a command, or that has no shape.
 bool commandsPrinter(char c) {
@@ -37,14 +38,15 @@ std::size_t CheckingSpooler::write(std::string_view text) {
         broken("a write outside a page");
     }
     bytes += text.size();
-    if (std::find(commands.begin(), commands.end(), text) != commands.end()) {
+    if (text.size() <= longestCommand &&
+        std::find(commands.begin(), commands.end(), text) != commands.end()) {
         return text.size();
     }
     if (!text.starts_with(' ')) {
         broken("a call without the blank of its column");
     }
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text.substr(i, 2) == "\r\n") {
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
             ++lineEnds;
             ++i;
         } else if (commandsPrinter(text[i])) {

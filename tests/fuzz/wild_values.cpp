@@ -4,6 +4,8 @@
 #include <array>
 #include <cctype>
 
+#include "tests/support/xml_text.h"
+
 namespace tarn::fuzz {
 
 namespace {
@@ -102,6 +104,10 @@ std::string recased(std::string name, ByteSource& source) {
     return name;
 }
 
+void appendWritten(std::string& xml, std::string_view name, std::string_view value) {
+    xml.append(" ").append(name).append("=\"").append(test::attributeText(value)).append("\"");
+}
+
 }  // namespace
 
 std::string_view wildNumber(ByteSource& source) {
@@ -109,12 +115,14 @@ std::string_view wildNumber(ByteSource& source) {
 }
 
 std::string wildText(ByteSource& source) {
+    constexpr std::size_t most = 40;
     std::string text;
-    const std::size_t count = source.below(40);
+    const std::size_t even = source.below(most);
+    const std::size_t count = std::max(std::min<std::size_t>(even, 4), even * even / most);
     for (std::size_t i = 0; i < count; ++i) {
         text += source.of(pieces);
     }
-    if (source.oneIn(8) && !text.empty()) {
+    if (source.oneIn(32) && !text.empty()) {
         while (text.size() < 700) {
             text += text;
         }
@@ -122,34 +130,51 @@ std::string wildText(ByteSource& source) {
     return text;
 }
 
-void mutate(test::Attributes& row, ByteSource& source, std::size_t rarity) {
-    test::Attributes changed;
-    for (auto& [name, value] : row) {
-        if (!source.oneIn(rarity)) {
-            changed.emplace(name, value);
-            continue;
-        }
-        switch (source.below(6)) {
-            case 0:
-                changed.emplace(name, wildNumber(source));
-                break;
-            case 1:
-                changed.emplace(name, wildText(source));
-                break;
-            case 2:
-                break;
-            case 3:
-                changed.emplace(name, "");
-                break;
-            case 4:
-                changed.emplace(recased(name, source), value);
-                break;
-            default:
-                changed.emplace(name, std::string(value).append(wildNumber(source)));
-                break;
-        }
+Field::Field(std::string_view called, std::string_view holding) : name(called), value(holding) {
+    appendWritten(written, name, value);
+}
+
+Row rowOf(const test::Attributes& attributes) {
+    Row row;
+    for (const auto& [name, value] : attributes) {
+        row.emplace_back(name, value);
     }
-    row = std::move(changed);
+    return row;
+}
+
+void appendChanged(std::string& xml, const Field& field, ByteSource& source, std::size_t rarity) {
+    if (!source.oneIn(rarity)) {
+        xml += field.written;
+        return;
+    }
+    switch (source.below(6)) {
+        case 0:
+            appendWritten(xml, field.name, wildNumber(source));
+            break;
+        case 1:
+            appendWritten(xml, field.name, wildText(source));
+            break;
+        case 2:
+            break;
+        case 3:
+            appendWritten(xml, field.name, "");
+            break;
+        case 4:
+            appendWritten(xml, recased(field.name, source), field.value);
+            break;
+        default:
+            appendWritten(xml, field.name, std::string(field.value).append(wildNumber(source)));
+            break;
+    }
+}
+
+void appendChanged(std::string& xml, std::string_view name, const Row& row, ByteSource& source,
+                   std::size_t rarity) {
+    xml.append("<").append(name);
+    for (const Field& field : row) {
+        appendChanged(xml, field, source, rarity);
+    }
+    xml += "/>";
 }
 
 }  // namespace tarn::fuzz
