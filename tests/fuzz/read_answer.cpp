@@ -1,4 +1,5 @@
 #include <array>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -59,8 +60,9 @@ constexpr std::array paths{"xml/rs:data"sv, "//ITEM"sv,  "PRINCIPAL"sv, "//PARCE
 constexpr std::array names{"VL"sv, "vl"sv, "Nome"sv, "NOME"sv, "STATUS"sv, ""sv, "z:VL"sv};
 
 std::string assembled(ByteSource& source) {
+    constexpr std::size_t mostTokens = 96;  // more of them show nothing that fewer don't
     std::string xml;
-    while (!source.empty()) {
+    for (std::size_t count = 0; count < mostTokens && !source.empty(); ++count) {
         xml += source.of(tokens);
     }
     return xml;
@@ -88,8 +90,20 @@ std::optional<std::string> resultOf(const Read& read) {
 
 constexpr std::array rowNames{"VL"sv, "Nome"sv, "STATUS"sv, "a"sv};
 
-void checkRows(const XmlNode& node) {
-    RowReader reader{rowNames};
+// Searching a path takes the whole tree, and a raised error as long as hundreds of reads:
+// asked of a few nodes alone, or a run costs the tree's square.
+struct Asking {
+    RowReader reader{namesOfRows()};
+    int nodesInFull = 2;
+    int nodes = 32;
+
+    static std::shared_ptr<const RowNames> namesOfRows() {
+        static const auto shared = std::make_shared<const RowNames>(rowNames);
+        return shared;
+    }
+};
+
+void checkRows(const XmlNode& node, RowReader& reader) {
     for (std::size_t i = 0; i < node.childCount() && i < 8; ++i) {
         reader.read(node, i);
         for (std::size_t field = 0; field < rowNames.size(); ++field) {
@@ -116,18 +130,9 @@ void checkPaths(const XmlNode& node) {
     }
 }
 
-// Paths search the whole tree: asked of a few nodes alone, or a run costs the tree's square.
-struct Budget {
-    int nodesAskedForPaths = 4;
-    int nodes = 64;
-};
-
-void checkNode(const XmlNode& node, int depth, Budget& budget) {
-    if (--budget.nodes < 0) {
-        return;
-    }
-    const XmlAttributes attributes = node.attributes();
-    for (std::size_t i = 0; i < attributes.length(); ++i) {
+void checkAttributes(const XmlAttributes& attributes) {
+    const std::size_t count = attributes.length();
+    for (std::size_t i = 0; i < count; ++i) {
         const XmlAttribute attribute = attributes.item(i);
         const XmlAttribute found = attributes.getNamedItem(attribute.name());
         if (!found || found.text() != attribute.text()) {
@@ -137,18 +142,39 @@ void checkNode(const XmlNode& node, int depth, Budget& budget) {
             broken("a base name isn't the end of the name");
         }
     }
-    if (attributes.item(attributes.length())) {
+    if (attributes.item(count)) {
         broken("an attribute past the end");
     }
-    const std::size_t count = node.childCount();
+}
+
+void checkValues(const XmlNode& node, std::size_t children) {
     for (const std::string_view name : names) {
-        for (std::size_t i = 0; i <= count && i < 4; ++i) {
+        for (std::size_t i = 0; i < children && i < 3; ++i) {
             attempt([&] { PegaValor(node, i, name); });
             attempt([&] { PegaValor(node, i, name, 0); });
         }
     }
-    checkRows(node);
-    if (--budget.nodesAskedForPaths >= 0) {
+}
+
+void checkPastTheEnd(const XmlNode& node, std::size_t children) {
+    for (const std::string_view name : names) {
+        if (resultOf([&] { return PegaValor(node, children, name); }) ||
+            resultOf([&] { return PegaValor(node, children, name, 0); })) {
+            broken("a value past the last child");
+        }
+    }
+}
+
+void checkNode(const XmlNode& node, int depth, Asking& asking) {
+    if (--asking.nodes < 0) {
+        return;
+    }
+    checkAttributes(node.attributes());
+    const std::size_t count = node.childCount();
+    checkValues(node, count);
+    checkRows(node, asking.reader);
+    if (--asking.nodesInFull >= 0) {
+        checkPastTheEnd(node, count);
         checkPaths(node);
     }
     if (node.childNodes().length() != count || node.child(count)) {
@@ -159,7 +185,7 @@ void checkNode(const XmlNode& node, int depth, Budget& budget) {
         if (!child) {
             broken("a counted child is missing");
         }
-        checkNode(child, depth + 1, budget);
+        checkNode(child, depth + 1, asking);
     }
 }
 
@@ -187,8 +213,8 @@ void readAnswer(std::span<const std::uint8_t> bytes) {
     if (!root) {
         broken("a loaded answer without a root");
     }
-    Budget budget;
-    checkNode(root, 0, budget);
+    Asking asking;
+    checkNode(root, 0, asking);
     XmlDocument again;
     if (!again.loadXML(document.xml())) {
         broken("an answer written out can't be read");
