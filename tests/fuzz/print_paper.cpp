@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <span>
 #include <string>
 
 #include "dotmatrix/escp_interpreter.h"
@@ -34,6 +35,14 @@ bool sameLine(const PaperLine& a, const PaperLine& b) {
            a.jobLine == b.jobLine && a.columnsBefore == b.columnsBefore && sameCells(a, b);
 }
 
+// From a form on.
+bool sameLines(const ContinuousPaper& a, const ContinuousPaper& b, std::size_t form) {
+    const auto from = [form](const ContinuousPaper& paper) {
+        return std::span(paper.lines()).subspan(paper.firstLineOf(form));
+    };
+    return std::ranges::equal(from(a), from(b), sameLine);
+}
+
 Dialect madeDialect(ByteSource& source) {
     Dialect dialect;
     dialect.needles = source.oneIn(2) ? Needles::TwentyFour : Needles::Nine;
@@ -61,6 +70,13 @@ void checkPaper(const ContinuousPaper& paper, const Dialect& dialect) {
     }
     require(paper.printedForms() >= 1 && paper.printedForms() <= paper.forms().size(),
             "more printed forms than forms");
+}
+
+// One page of text for each form.
+void requireText(const ContinuousPaper& paper) {
+    const std::string text = textOf(paper);
+    require(static_cast<std::size_t>(std::ranges::count(text, '\f')) + 1 == paper.printedForms(),
+            "a form without its page of text");
 }
 
 bool formIsEmpty(const ContinuousPaper& paper) {
@@ -91,15 +107,13 @@ void printJob(ByteSource& source) {
     for (; taken < job.size(); ++taken) {
         pieces.feed(job.substr(taken, 1));
     }
-    require(textOf(whole) == textOf(paper), "a job in pieces prints otherwise");
+    require(sameLines(whole, paper, 0) && whole.printedForms() == paper.printedForms(),
+            "a job in pieces prints otherwise");
     require(pieces.notices().kept() == printer.notices().kept(), "notices differ");
-    for (std::size_t form = start; form < whole.printedForms(); ++form) {
-        const FormPage a = pageOf(whole, form);
-        const FormPage b = pageOf(rest, form);
-        require(
-            std::equal(a.lines.begin(), a.lines.end(), b.lines.begin(), b.lines.end(), sameLine),
-            "a printer that goes on prints otherwise");
+    if (start < whole.printedForms()) {
+        require(sameLines(whole, rest, start), "a printer that goes on prints otherwise");
     }
+    requireText(whole);
 }
 
 bool sameBox(const FormBox& a, const FormBox& b) {
