@@ -5,11 +5,10 @@
 #include <vector>
 
 #include "dotmatrix/paper_export.h"
-#include "dotmatrix/set_up.h"
-#include "forms/form_catalogue.h"
-#include "forms/job_recogniser.h"
+#include "forms/job_papers.h"
 #include "platform/job_kind.h"
 #include "printer/intake/job_intake.h"
+#include "runtime/file_names.h"
 #include "runtime/text.h"
 
 namespace tarn::printer {
@@ -60,19 +59,11 @@ bool printFiles(const Options& options, dotmatrix::PaperRoll& roll) {
             return false;
         }
     }
-    dotmatrix::FormShelf forms;
-    dotmatrix::JobRecogniser recogniser(forms);
-    std::string_view setUp;
+    dotmatrix::JobPapers papers;
     for (std::size_t i = 0; i < jobs.size(); ++i) {
         const std::string_view job(jobs[i].constData(), static_cast<std::size_t>(jobs[i].size()));
-        dotmatrix::JobPaper paper{.form = forms.formOf(jobKindBeside(options.jobs[i])),
-                                  .told = true};
-        if (!jobKindBeside(options.jobs[i]).told()) {
-            paper.form = recogniser.formOf(setUp, job);
-            paper.told = !paper.form;
-        }
-        setUp = dotmatrix::onlySetsUp(job) ? job : std::string_view();
-        roll.startJob(options.jobs[i], std::move(paper));
+        const JobKind kind = jobKindBeside(pathOf(options.jobs[i]));
+        roll.startJob(options.jobs[i], kind.told() ? papers.told(kind) : papers.known(job));
         const auto failure = roll.feed(job);
         if (failure) {
             complain(QStringLiteral("não foi possível guardar o trabalho (%1). Libere espaço na "

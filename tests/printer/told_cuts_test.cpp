@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 #include <algorithm>
 
-#include "forms/form_catalogue.h"
+#include "forms/job_papers.h"
 #include "notes/print_note.h"
 #include "platform/directory/directory_spooler.h"
 #include "tests/notes/plain_note.h"
@@ -70,17 +70,13 @@ TEST_F(ToldCuts, TheBytesAreThoseOfAJobWhoseCutsNobodyWantsToKnow) {
 }
 
 TEST_F(ToldCuts, ThePaperShowsThemAtTheirPlaceInsteadOfAGuess) {
-    FormShelf shelf;
+    JobPapers papers;
     PaperRoll roll({});
     for (const char* job : {"job-001", "job-002"}) {
         const std::string path = file(job);
         const JobKind kind = jobKindBeside(path + ".prn");
         ASSERT_TRUE(kind.cuts);
-        std::vector<CutText> cuts;
-        for (const JobCut& cut : *kind.cuts) {
-            cuts.push_back({cut.line, cut.column, cut.what});
-        }
-        roll.startJob(job, {.form = shelf.formOf(kind), .told = true, .cuts = cuts});
+        roll.startJob(job, papers.told(kind));
         ASSERT_FALSE(roll.feed(contentOf(path + ".prn")));
     }
     const auto faults = faultsOfJob(roll, 1, nullptr);

@@ -1,10 +1,6 @@
 #include "printer/intake/job_intake.h"
 
 #include <chrono>
-#include <optional>
-#include <vector>
-
-#include "dotmatrix/set_up.h"
 
 namespace tarn::dotmatrix {
 
@@ -19,24 +15,13 @@ QString notKept() {
         "espaço em disco e imprima de novo.");
 }
 
-std::optional<std::vector<CutText>> cutsOf(const JobKind& told) {
-    if (!told.cuts) {
-        return std::nullopt;
-    }
-    std::vector<CutText> cuts;
-    for (const JobCut& cut : *told.cuts) {
-        cuts.push_back({cut.line, cut.column, cut.what});
-    }
-    return cuts;
-}
-
 }  // namespace
 
 JobIntake::JobIntake(PaperRoll& roll, qint64 mostJobBytes)
     : roll_(roll), mostJobBytes_(mostJobBytes) {
     patience_.setSingleShot(true);
     patience_.setInterval(longestWait);
-    connect(&patience_, &QTimer::timeout, this, [this] { putOnPaper({}); });
+    connect(&patience_, &QTimer::timeout, this, [this] { putOnPaper(papers_.unknown()); });
 }
 
 bool JobIntake::begin(const QString& name, Kind kind, const JobKind& told) {
@@ -53,7 +38,7 @@ bool JobIntake::begin(const QString& name, Kind kind, const JobKind& told) {
     heldBack_.clear();
     failure_.reset();
     if (told.told()) {
-        putOnPaper({.form = forms_.formOf(told), .told = true, .cuts = cutsOf(told)});
+        putOnPaper(papers_.told(told));
     } else {
         patience_.start();
     }
@@ -67,19 +52,6 @@ void JobIntake::putOnPaper(JobPaper paper) {
     failure_ = roll_.feed(heldBack_);
     heldBack_.clear();
     emit changed();
-}
-
-void JobIntake::recognise() {
-    const std::string job = heldBack_;
-    if (onlySetsUp(job)) {
-        putOnPaper({});
-        setUp_ = job;
-        return;
-    }
-    auto form = recogniser_.formOf(setUp_, job);
-    const bool known = form != nullptr;
-    putOnPaper({.form = std::move(form), .told = !known});
-    setUp_.clear();
 }
 
 bool JobIntake::take(const QByteArray& bytes) {
@@ -98,7 +70,7 @@ bool JobIntake::take(const QByteArray& bytes) {
     } else {
         heldBack_ += piece;
         if (heldBack_.size() > JobRecogniser::mostBytes || bytes.size() > room) {
-            putOnPaper({});
+            putOnPaper(papers_.unknown());
         }
     }
     if (!failure_ && bytes.size() <= room) {
@@ -123,9 +95,7 @@ void JobIntake::giveUp() {
 
 bool JobIntake::end(const QString& remark, const QString& source) {
     if (!onPaper_) {
-        recognise();
-    } else {
-        setUp_.clear();
+        putOnPaper(papers_.known(heldBack_));
     }
     if (failure_) {
         const bool given = !keeping_;

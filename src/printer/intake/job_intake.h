@@ -10,8 +10,7 @@
 #include <string>
 
 #include "dotmatrix/paper_roll.h"
-#include "forms/form_catalogue.h"
-#include "forms/job_recogniser.h"
+#include "forms/job_papers.h"
 #include "platform/job_kind.h"
 #include "printer/intake/job_keeper.h"
 
@@ -58,14 +57,12 @@ signals:
 
 private:
     void putOnPaper(JobPaper paper);
-    void recognise();
     bool give(const QString& remark, const QString& source);
     void giveUp();
     void finish(const QString& remark);
 
     PaperRoll& roll_;
-    FormShelf forms_;
-    JobRecogniser recogniser_{forms_};
+    JobPapers papers_;
     JobKeeper* keeper_ = nullptr;
     qint64 mostJobBytes_;
     bool busy_ = false;
@@ -77,7 +74,6 @@ private:
     bool onPaper_ = false;
     std::string heldBack_;            // of the job under way, not yet on the paper
     std::optional<QString> failure_;  // of putting it there
-    std::string setUp_;               // the job before, where it only sets the printer up
     QTimer patience_;
     std::size_t ended_ = 0;
 };
