@@ -184,7 +184,9 @@ TEST_P(LayoutCheck, OnANoteOnlyFullBoxesAreFound) {
     }
     for (std::size_t form = 0; form < roll.printedForms(); ++form) {
         const auto page = roll.page(form);
-        for (const PaperFault& fault : faultsOn(*page, *design, roll.jobs())) {
+        const auto faults = faultsOn(*page, &*design, roll.jobs());
+        ASSERT_TRUE(faults);
+        for (const PaperFault& fault : *faults) {
             // What a set-up job leaves on the paper is no note's.
             const bool ofSetUp = std::ranges::any_of(page->lines, [&](const PaperLine& line) {
                 return line.y == fault.region.top && line.job < roll.jobs().size();

@@ -96,15 +96,12 @@ void CheckDock::begin() {
 void CheckDock::step() {
     const std::size_t forms = roll_.printedForms();
     for (std::size_t i = 0; i < formsAStep && form_ < forms; ++i, ++form_) {
-        const auto page = roll_.page(form_);
-        const FormDesign* design = page->design ? page->design.get() : looks_.design.get();
-        if (design == nullptr || design->boxes.empty()) {
+        const auto faults = faultsOn(*roll_.page(form_), looks_.design.get(), roll_.jobs());
+        if (!faults) {
             continue;
         }
         ++withBoxes_;
-        for (const PaperFault& fault : faultsOn(*page, *design, roll_.jobs())) {
-            add(fault);
-        }
+        std::ranges::for_each(*faults, [this](const PaperFault& fault) { add(fault); });
     }
     if (form_ >= forms) {
         step_.stop();

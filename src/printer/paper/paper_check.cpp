@@ -139,11 +139,19 @@ QString describe(const PaperFault& fault) {
     return {};
 }
 
-std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design,
-                                 const std::vector<RollJob>& jobs) {
+const FormDesign* designUnder(const FormPage& page, const FormDesign* underAll) {
+    return page.design ? page.design.get() : underAll;
+}
+
+std::optional<std::vector<PaperFault>> faultsOn(const FormPage& page, const FormDesign* underAll,
+                                                const std::vector<RollJob>& jobs) {
+    const FormDesign* design = designUnder(page, underAll);
+    if (design == nullptr || design->boxes.empty()) {
+        return std::nullopt;
+    }
     std::vector<PaperFault> faults;
     for (const PaperLine& line : page.lines) {
-        const std::vector<Placed> row = placedIn(line, design, page.shape.top);
+        const std::vector<Placed> row = placedIn(line, *design, page.shape.top);
         const PaperUnits down = line.y - page.shape.top;
         for (const Run& run : runsOf(row)) {
             judge(row, run,
@@ -159,7 +167,7 @@ std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design,
         return fault.kind == PaperFault::Kind::Full && fault.job > 0 &&
                jobs[fault.job - 1].paper.cuts.has_value();
     });
-    std::ranges::move(cutsOn(page, design, jobs), std::back_inserter(faults));
+    std::ranges::move(cutsOn(page, *design, jobs), std::back_inserter(faults));
     return faults;
 }
 
@@ -170,19 +178,15 @@ std::optional<std::vector<PaperFault>> faultsOfJob(PaperRoll& roll, std::size_t 
         job + 1 < jobs.size() ? jobs[job + 1].form : roll.forms().formAt(roll.headY());
     std::optional<std::vector<PaperFault>> faults;
     for (std::size_t form = jobs[job].form; form <= last; ++form) {
-        const auto page = roll.page(form);
-        const FormDesign* design = page->design ? page->design.get() : underAll;
-        if (design == nullptr || design->boxes.empty()) {
+        auto found = faultsOn(*roll.page(form), underAll, jobs);
+        if (!found) {
             continue;
         }
+        std::erase_if(*found, [job](const PaperFault& fault) { return fault.job != job + 1; });
         if (!faults) {
             faults.emplace();
         }
-        for (PaperFault& fault : faultsOn(*page, *design, jobs)) {
-            if (fault.job == job + 1) {
-                faults->push_back(std::move(fault));
-            }
-        }
+        std::ranges::move(*found, std::back_inserter(*faults));
     }
     return faults;
 }

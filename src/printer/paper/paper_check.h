@@ -34,13 +34,16 @@ struct PaperFault {
 // In words for the user, without what is told of its place.
 QString describe(const PaperFault& fault);
 
-// From the top down, as the form's boxes are drawn, then what the jobs tell that begin on this
-// form. `jobs` are those of its roll.
-std::vector<PaperFault> faultsOn(const FormPage& page, const FormDesign& design,
-                                 const std::vector<RollJob>& jobs);
+// The form under a page: its own, or the one that lies under what has none; null for none.
+const FormDesign* designUnder(const FormPage& page, const FormDesign* underAll);
 
-// Of the print of one of the roll's jobs, by its index; nothing where no form with boxes lies
-// under it. `underAll` lies under what has none of its own, null for none.
+// From the top down, as the form's boxes are drawn, then what the jobs tell that begin on this
+// form; nothing where no form with boxes lies under it. `underAll` as above; `jobs` are those
+// of its roll.
+std::optional<std::vector<PaperFault>> faultsOn(const FormPage& page, const FormDesign* underAll,
+                                                const std::vector<RollJob>& jobs);
+
+// Of the print of one of the roll's jobs, by its index, likewise.
 std::optional<std::vector<PaperFault>> faultsOfJob(PaperRoll& roll, std::size_t job,
                                                    const FormDesign* underAll);
 

@@ -220,10 +220,11 @@ PaperSpot PaperView::spotAt(const Point& point) {
     if (point.x < 0) {
         return spot;
     }
+    const auto page = roll_.page(form);
     PaperUnits cell = options_.rulerCell;
     PaperUnits from = 0;
     std::size_t column = 1;
-    for (const PaperLine& line : roll_.page(form)->lines) {
+    for (const PaperLine& line : page->lines) {
         if (line.y > point.y || point.y >= line.y + lineHeight) {
             continue;
         }
@@ -236,16 +237,11 @@ PaperSpot PaperView::spotAt(const Point& point) {
         }
     }
     spot.column = column + static_cast<std::size_t>((point.x - from) / cell);
-    const auto page = roll_.page(form);
-    if (const FormDesign* design = designUnder(*page)) {
+    if (const FormDesign* design = designUnder(*page, options_.design.get())) {
         const FormBox* box = boxAt(design->boxes, point.x, point.y - shape.top);
         spot.box = box != nullptr ? QString::fromStdString(box->label) : QString();
     }
     return spot;
-}
-
-const FormDesign* PaperView::designUnder(const FormPage& page) const {
-    return page.design ? page.design.get() : options_.design.get();
 }
 
 void PaperView::showFaults(bool on) {
@@ -254,11 +250,9 @@ void PaperView::showFaults(bool on) {
 }
 
 void PaperView::paintFaults(QPainter& painter, const FormPage& page) const {
-    const FormDesign* design = designUnder(page);
-    if (!faults_ || design == nullptr || design->boxes.empty()) {
-        return;
-    }
-    for (const PaperFault& fault : faultsOn(page, *design, roll_.jobs())) {
+    const auto faults =
+        faults_ ? faultsOn(page, options_.design.get(), roll_.jobs()) : std::nullopt;
+    for (const PaperFault& fault : faults.value_or(std::vector<PaperFault>())) {
         painter.fillRect(pixelsOf(fault.region),
                          fault.kind == PaperFault::Kind::Full ? fullColour : faultColour);
     }

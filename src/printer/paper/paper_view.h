@@ -88,7 +88,6 @@ private:
     Point pointAt(const QPointF& pixel) const;
     QRectF pixelsOf(const PaperRegion& region) const;
     PaperSpot spotAt(const Point& point);
-    const FormDesign* designUnder(const FormPage& page) const;
     void paintFaults(QPainter& painter, const FormPage& page) const;
 
     PaperRoll& roll_;
