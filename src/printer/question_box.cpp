@@ -13,6 +13,13 @@ void prepare(QMessageBox& box, const char* name) {
     box.setAttribute(Qt::WA_DeleteOnClose);
 }
 
+void show(QWidget& window, const char* name, QMessageBox::Icon icon, const QString& title,
+          const QString& text) {
+    auto* box = new QMessageBox(icon, title, text, QMessageBox::Ok, &window);
+    prepare(*box, name);
+    box->open();
+}
+
 }  // namespace
 
 void ask(QWidget& window, const Question& question, const std::function<void()>& run) {
@@ -32,9 +39,11 @@ void ask(QWidget& window, const Question& question, const std::function<void()>&
 }
 
 void showNotice(QWidget& window, const char* name, const QString& title, const QString& text) {
-    auto* box = new QMessageBox(QMessageBox::Information, title, text, QMessageBox::Ok, &window);
-    prepare(*box, name);
-    box->open();
+    show(window, name, QMessageBox::Information, title, text);
+}
+
+void showWarning(QWidget& window, const char* name, const QString& text) {
+    show(window, name, QMessageBox::Warning, window.windowTitle(), text);
 }
 
 }  // namespace tarn::dotmatrix

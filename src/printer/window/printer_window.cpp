@@ -137,11 +137,7 @@ QWidget* PrinterWindow::errorBox() const {
 }
 
 void PrinterWindow::complain(const QString& text) {
-    auto* box = new QMessageBox(QMessageBox::Warning, windowTitle(), text, QMessageBox::Ok, this);
-    box->setObjectName(QStringLiteral("notice"));
-    box->setTextFormat(Qt::PlainText);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    showWarning(*this, "notice", text);
 }
 
 void PrinterWindow::openJobs() {
