@@ -135,7 +135,9 @@ void readFormFile(ByteSource& source) {
     }
     const auto written = readForm(writeForm(*form));
     const auto* again = std::get_if<FormDesign>(&written);
-    require(again != nullptr, "a written form can't be read");
+    if (again == nullptr) {
+        broken("a written form can't be read");
+    }
     require(again->name == form->name && again->height == form->height &&
                 again->picture == form->picture && again->pitch.elite == form->pitch.elite &&
                 again->pitch.condensed == form->pitch.condensed,
