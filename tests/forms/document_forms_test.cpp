@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -17,23 +15,13 @@
 #include "slips/slip_layouts.h"
 #include "tests/dotmatrix/note_streams.h"
 #include "tests/dotmatrix/printer_rig.h"
+#include "tests/forms/raw_documents.h"
 #include "tests/labels/label_answers.h"
-#include "tests/support/test_environment.h"
 
 namespace tarn::test {
 
 using namespace dotmatrix;
 namespace {
-
-constexpr PaperUnits sixthOfAnInch = unitsPerInch / 6;
-
-std::string contentOf(const std::string& file) {
-    std::ifstream in(file, std::ios::binary);
-    if (!in) {
-        throw std::runtime_error(file);
-    }
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 FormDesign drawnForm(const std::string& name) {
     auto form = formDrawing(name);
@@ -49,17 +37,9 @@ const FormBox* boxCalled(const FormDesign& form, const std::string& label) {
 }
 
 // The jobs that the document sent.
-std::vector<std::string> jobsOf(const TestEnvironment& seams) {
-    std::vector<std::string> jobs;
-    for (const RecordingSpooler::Job& job : seams.spooler.jobs) {
-        jobs.push_back(job.bytes());
-    }
-    return jobs;
-}
-
 bool holds(const FormBox& box, const PaperLine& line, const Cell& cell) {
     return box.x <= cell.x && cell.x + cell.width <= box.x + box.width && box.y <= line.y &&
-           line.y + sixthOfAnInch <= box.y + box.height;
+           line.y + lineHeight <= box.y + box.height;
 }
 
 // What lies in no box of the form, as "line/column".
@@ -70,7 +50,7 @@ std::string astray(const FormDesign& form, const PrinterRig& rig) {
             const bool inBox = std::ranges::any_of(
                 form.boxes, [&](const FormBox& box) { return holds(box, line, cell); });
             if (!inBox) {
-                found += std::to_string(line.y / sixthOfAnInch + 1) + "/" +
+                found += std::to_string(line.y / lineHeight + 1) + "/" +
                          std::to_string(cell.column) + " ";
             }
         }
@@ -84,11 +64,11 @@ TEST_P(DrawnSlip, LiesInTheBoxesAndEndsWithTheForm) {
     const auto& [formName, slip] = GetParam();
     const FormDesign form = drawnForm(formName);
     PrinterRig rig(panelFor(form, {}));
-    rig.job(" \x0F\x1BM").job(contentOf(std::string(TARN_SLIP_DATA) + "/" + slip));
+    rig.job(slipSetUp).job(slipFile(slip));
     EXPECT_GT(rig.paper.lines().size(), 8U);
     EXPECT_EQ(astray(form, rig), "");
     EXPECT_EQ(rig.paper.y(), form.height);
-    EXPECT_EQ(form.height, 24 * sixthOfAnInch);
+    EXPECT_EQ(form.height, 24 * lineHeight);
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, DrawnSlip,
@@ -104,14 +84,14 @@ TEST(DrawnSlips, ABoxIsWhereItsFieldPrints) {
     ASSERT_NE(due, nullptr);
     EXPECT_EQ(due->x, 101 * 108);
     EXPECT_EQ(due->width, 16 * 108);
-    EXPECT_EQ(due->y + due->height, 2 * sixthOfAnInch);
+    EXPECT_EQ(due->y + due->height, 2 * lineHeight);
     const FormBox* amount = boxCalled(form, "(=) Valor do documento");
     ASSERT_NE(amount, nullptr);
     EXPECT_EQ(amount->x, 112 * 108);
-    EXPECT_EQ(amount->y + amount->height, 6 * sixthOfAnInch);
+    EXPECT_EQ(amount->y + amount->height, 6 * lineHeight);
     const FormBox* orders = boxCalled(form, "Instruções");
     ASSERT_NE(orders, nullptr);
-    EXPECT_EQ(orders->y + orders->height, 13 * sixthOfAnInch) << "six lines are one box";
+    EXPECT_EQ(orders->y + orders->height, 13 * lineHeight) << "six lines are one box";
 }
 
 class DrawnCheque : public testing::TestWithParam<std::int16_t> {};
@@ -161,10 +141,10 @@ TEST(DrawnOrderSheet, HeadAndItemsLieInTheBoxes) {
         const bool printed = std::ranges::any_of(
             line.cells, [](const Cell& cell) { return cell.character != u'-'; });
         for (const Cell& cell : line.cells) {
-            if (printed && line.y < 27 * sixthOfAnInch &&
+            if (printed && line.y < 27 * lineHeight &&
                 std::ranges::none_of(form.boxes,
                                      [&](const FormBox& box) { return holds(box, line, cell); })) {
-                outside += std::to_string(line.y / sixthOfAnInch + 1) + "/" +
+                outside += std::to_string(line.y / lineHeight + 1) + "/" +
                            std::to_string(cell.column) + " ";
             }
         }
@@ -201,9 +181,8 @@ protected:
     void slip(bool wallet57) {
         const std::string form = slipFormName(1016, wallet57);
         const JobKind kind{.document = JobDocument::Slip, .form = form, .itemLines = {}};
-        lay(kind, " \x0F\x1BM");
-        lay(kind, contentOf(std::string(TARN_SLIP_DATA) +
-                            (wallet57 ? "/slip_57_jose.prn" : "/slip_7_jose.prn")));
+        lay(kind, slipSetUp);
+        lay(kind, slipFile(wallet57 ? "slip_57_jose.prn" : "slip_7_jose.prn"));
     }
     void cheque(std::int16_t bank) {
         TestEnvironment seams;
@@ -245,7 +224,7 @@ protected:
             EXPECT_EQ(page->shape.height, design->height) << design->name;
             const PaperLine& first = page->lines.front();
             all += design->name + "@" +
-                   std::to_string((first.y - page->shape.top) / sixthOfAnInch + 1) + "/" +
+                   std::to_string((first.y - page->shape.top) / lineHeight + 1) + "/" +
                    std::to_string(first.cells.front().x) + " ";
         }
         return all;
@@ -274,7 +253,7 @@ protected:
                             return holds(widened(box), line, cell);
                         })) {
                         found += page->design->name + " " +
-                                 std::to_string(line.y / sixthOfAnInch + 1) + "/" +
+                                 std::to_string(line.y / lineHeight + 1) + "/" +
                                  std::to_string(cell.x) + "; ";
                     }
                 }
@@ -396,7 +375,7 @@ TEST(Shelf, TheSameKindIsTheSameForm) {
     EXPECT_EQ(shelf.formOf(note), form);
     JobKind longer = note;
     longer.itemLines = 20;
-    EXPECT_EQ(shelf.formOf(longer)->height, 73 * sixthOfAnInch);
+    EXPECT_EQ(shelf.formOf(longer)->height, 73 * lineHeight);
     EXPECT_EQ(shelf.formOf({.document = JobDocument::Note, .form = "ImprimeNF_9", .itemLines = {}}),
               nullptr);
     EXPECT_EQ(shelf.formOf({.document = JobDocument::Slip, .form = "", .itemLines = {}}), nullptr);

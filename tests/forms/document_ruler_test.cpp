@@ -16,8 +16,6 @@ namespace tarn::test {
 using namespace dotmatrix;
 namespace {
 
-constexpr PaperUnits rulerRow = unitsPerInch / 6;
-
 class DocumentRuler : public testing::TestWithParam<const char*> {
 protected:
     bool print(const std::string& form) {
@@ -51,7 +49,7 @@ TEST_P(DocumentRuler, CornersStandAtTheBoxesAndTheSheetEndsWithTheForm) {
             right += cell.character == u']' ? 1U : 0U;
             if (cell.character == u'[' || cell.character == u']') {
                 EXPECT_TRUE(edge(cell.character == u'['))
-                    << line.y / rulerRow + 1 << "/" << cell.column;
+                    << line.y / lineHeight + 1 << "/" << cell.column;
             }
         }
     }

@@ -4,15 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <set>
 
 #include "cheques/imprime_cheque.h"
 #include "labels/raw_form.h"
 #include "tests/dotmatrix/note_streams.h"
+#include "tests/forms/raw_documents.h"
 #include "tests/labels/label_answers.h"
-#include "tests/support/test_environment.h"
 
 namespace tarn::test {
 
@@ -52,27 +50,12 @@ INSTANTIATE_TEST_SUITE_P(Notes, Recogniser, testing::ValuesIn(allForms()),
                              return tested.param.name;
                          });
 
-std::vector<std::string> jobsSentBy(const TestEnvironment& seams) {
-    std::vector<std::string> jobs;
-    for (const RecordingSpooler::Job& job : seams.spooler.jobs) {
-        jobs.push_back(job.bytes());
-    }
-    return jobs;
-}
-
-std::string slipBytes(const char* file) {
-    std::ifstream in(std::string(TARN_SLIP_DATA) + "/" + file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-const std::string slipSetUp = " \x0F\x1BM";
-
 TEST_F(Recogniser, ASlipIsKnownByItsWalletAndNotByItsBank) {
     for (const char* file : {"slip_57_jose.prn", "slip_57_maria.prn"}) {
-        EXPECT_EQ(nameOf(slipSetUp, slipBytes(file)), "Boleto: carteira 57");
+        EXPECT_EQ(nameOf(slipSetUp, slipFile(file)), "Boleto: carteira 57");
     }
     for (const char* file : {"slip_7_jose.prn", "slip_7_maria.prn"}) {
-        EXPECT_EQ(nameOf(slipSetUp, slipBytes(file)), "Boleto: outras carteiras");
+        EXPECT_EQ(nameOf(slipSetUp, slipFile(file)), "Boleto: outras carteiras");
     }
 }
 
@@ -84,7 +67,7 @@ TEST_F(Recogniser, AChequeIsKnown) {
                                           .sFavorecido = "COMPANHIA DE PAPEIS DO VALE LTDA",
                                           .sDataDeposito = "15/02/2012",
                                           .sNmMun = "SAO JOSE DOS CAMPOS"});
-        EXPECT_EQ(nameOf(jobsSentBy(seams)), chequeFormName(bank));
+        EXPECT_EQ(nameOf(jobsOf(seams)), chequeFormName(bank));
     }
 }
 
@@ -94,7 +77,7 @@ TEST_F(Recogniser, LabelsAreKnownFromTheirSecondRowOn) {
         XmlDocument answer = document(labelRows(count));
         labels::Labels queue(answer);
         labels::printDotMatrix(seams.environment, queue, {});
-        EXPECT_EQ(nameOf(jobsSentBy(seams)), count > 4 ? "Etiquetas" : "") << count;
+        EXPECT_EQ(nameOf(jobsOf(seams)), count > 4 ? "Etiquetas" : "") << count;
     }
 }
 

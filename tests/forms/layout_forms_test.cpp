@@ -15,8 +15,6 @@ namespace tarn::test {
 using namespace dotmatrix;
 namespace {
 
-constexpr PaperUnits lineHeight = unitsPerInch / 6;
-
 FormDesign designOf(const test::FormFacts& form, std::optional<int> itemLines = std::nullopt) {
     const auto design = layoutForm(test::layoutNameOf(form), itemLines);
     if (!design) {

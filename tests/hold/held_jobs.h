@@ -4,18 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "hold/hold_folder.h"
 #include "tests/support/own_directory.h"
 
 namespace tarn::test {
-
-inline std::string bytesIn(const std::filesystem::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 class HeldJobs : public testing::Test {
 protected:

@@ -1,7 +1,10 @@
 // What a start of the program finds of the jobs of the one before.
 #include "hold/hold_folder.h"
 
+#include <fstream>
+
 #include "tests/hold/held_jobs.h"
+#include "tests/support/files.h"
 
 namespace tarn::test {
 namespace {
@@ -37,7 +40,7 @@ TEST_F(HoldFolderTest, KeepsEveryByteAndWhatIsKnownOfAJob) {
     EXPECT_EQ(jobs[0].kind.form, "ImprimeNF_1361");
     EXPECT_EQ(jobs[0].kind.itemLines, 12);
     EXPECT_EQ(jobs[0].queueJob, 0);
-    EXPECT_EQ(bytesIn(folder_->bytesOf(jobs[0])), bytes + "fim");
+    EXPECT_EQ(contentOf(folder_->bytesOf(jobs[0])), bytes + "fim");
 }
 
 TEST_F(HoldFolderTest, NumbersGoOnAfterARestart) {
