@@ -15,7 +15,6 @@ class frmPesqBoleto;
 namespace tarn {
 
 class GridModel;
-struct SlipFilter;
 
 class frmPesqBoleto : public DeskDialog {
     Q_OBJECT
