@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include "platform/job_kind.h"
+#include "runtime/file_names.h"
 
 namespace tarn::dotmatrix {
 
@@ -30,12 +31,16 @@ void JobFiles::take() {
             return take();
         }
         intake_.begin(QFileInfo(*file_).fileName(), JobIntake::Kind::LookedAt,
-                      jobKindBeside(QFile::encodeName(file_->fileName()).toStdString()));
+                      jobKindBeside(pathOf(file_->fileName().toStdString())));
     }
     const QByteArray piece = file_->read(JobIntake::readAtOnce);
     if (piece.isEmpty()) {
+        const QString trouble =
+            file_->error() == QFileDevice::NoError
+                ? QString()
+                : QStringLiteral("não foi possível ler o arquivo (%1).").arg(file_->errorString());
         file_.reset();
-        intake_.end();
+        intake_.end(trouble);
         return;
     }
     if (!intake_.take(piece)) {
