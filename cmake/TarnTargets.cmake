@@ -71,6 +71,15 @@ function(tarn_add_library name)
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ${TARN_LATE_PARTS})
 endfunction()
 
+# tarn_optimise(NAME...): libraries that compute. Where programs are built to be tried (preset
+# quick, of no build type) the others aren't worth an optimiser's time, three times that of the
+# compiler for the command line's templates: they wait for a user, a file or the toolkit.
+function(tarn_optimise)
+  foreach(name ${ARGN})
+    target_compile_options(${name} PRIVATE $<$<CONFIG:None>:-O1>)
+  endforeach()
+endfunction()
+
 # tarn_add_part(NAME LIBRARY): a part of the desk that gives away what its own sources hold,
 # over a library: a file that the desk loads when it needs it (platform/parts), or linked to it.
 function(tarn_add_part name library)
