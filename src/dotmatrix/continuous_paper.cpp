@@ -204,7 +204,11 @@ char16_t ContinuousPaper::characterAt(std::size_t job, std::size_t jobLine,
 }
 
 FormPage pageOf(const ContinuousPaper& paper, std::size_t form) {
-    FormPage page{.form = form, .shape = paper.forms().at(form), .lines = {}, .design = {}};
+    FormPage page{.form = form,
+                  .shape = paper.forms().at(form),
+                  .lines = {},
+                  .design = {},
+                  .contentWidth = paper.contentWidth()};
     const auto& lines = paper.lines();
     for (std::size_t i = paper.firstLineOf(form); i < lines.size() && lines[i].form == form; ++i) {
         page.lines.push_back(lines[i]);
@@ -213,9 +217,7 @@ FormPage pageOf(const ContinuousPaper& paper, std::size_t form) {
 }
 
 PaperPages pagesOf(const ContinuousPaper& paper) {
-    return {.count = paper.printedForms(),
-            .contentWidth = paper.contentWidth(),
-            .page = [&paper](std::size_t form) {
+    return {.count = paper.printedForms(), .page = [&paper](std::size_t form) {
                 return std::make_shared<const FormPage>(pageOf(paper, form));
             }};
 }

@@ -167,8 +167,10 @@ public:
     std::size_t printedForms() const { return printedForms_; }
     // Index range [first, last) in lines() of what is on a form.
     std::size_t firstLineOf(std::size_t form) const;
-    // Right edge of the rightmost character.
+    // Right edge of the rightmost character since the paper was last changed.
     PaperUnits contentWidth() const { return contentWidth_; }
+    // What follows is printed on another paper.
+    void changePaper() { contentWidth_ = 0; }
 
     // The last character that a job printed at a place of its own text: job, line and
     // column count from 1; u' ' where it printed none.
@@ -197,6 +199,8 @@ struct FormPage {
     std::vector<PaperLine> lines;  // in the order of printing
     // What was pre-printed on it, where the jobs say so.
     std::shared_ptr<const FormDesign> design{};
+    // Right edge of all that is printed and pre-printed on the paper that the form is of.
+    PaperUnits contentWidth = 0;
 };
 
 FormPage pageOf(const ContinuousPaper& paper, std::size_t form);
@@ -204,7 +208,6 @@ FormPage pageOf(const ContinuousPaper& paper, std::size_t form);
 // Paper to be written to a file; it must not change meanwhile.
 struct PaperPages {
     std::size_t count = 0;  // forms up to the last one that is printed on
-    PaperUnits contentWidth = 0;
     std::function<std::shared_ptr<const FormPage>(std::size_t form)> page;
 };
 

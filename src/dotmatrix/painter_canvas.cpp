@@ -66,7 +66,7 @@ void PainterCanvas::run(const PrintedRun& run) {
     painter_.restore();
 }
 
-void PainterCanvas::background(PaperUnits /*height*/,
+void PainterCanvas::background(double /*width*/, PaperUnits /*height*/,
                                const std::shared_ptr<const FormDesign>& /*form*/,
                                const std::function<void()>& draw) {
     draw();

@@ -22,7 +22,7 @@ public:
     void picture(const QRectF& area, const QImage& image) override;
     void words(const Words& words) override;
     void run(const PrintedRun& run) override;
-    void background(PaperUnits height, const std::shared_ptr<const FormDesign>& form,
+    void background(double width, PaperUnits height, const std::shared_ptr<const FormDesign>& form,
                     const std::function<void()>& draw) override;
 
 private:

@@ -62,9 +62,10 @@ public:
     virtual void picture(const QRectF& area, const QImage& image) = 0;
     virtual void words(const Words& words) = 0;
     virtual void run(const PrintedRun& run) = 0;
-    // What is the same under the print of all forms of this height and design; `draw` puts it
-    // here.
-    virtual void background(PaperUnits height, const std::shared_ptr<const FormDesign>& form,
+    // What is the same under the print of all forms of this size and design; `draw` puts it
+    // here. `width` is the sheet's.
+    virtual void background(double width, PaperUnits height,
+                            const std::shared_ptr<const FormDesign>& form,
                             const std::function<void()>& draw) = 0;
 };
 

@@ -37,7 +37,7 @@ QString paintPages(PdfCanvas& canvas, const PaperPages& paper, const PaperPainte
             return stopped();
         }
         const auto page = paper.page(form);
-        canvas.beginPage(pageSizeInPoints(drawing.sheet(), page->shape));
+        canvas.beginPage(pageSizeInPoints(drawing.sheetOf(*page), page->shape));
         drawing.paintForm(canvas, *page);
         if (!canvas.endPage()) {
             return QStringLiteral("o arquivo não aceita páginas");
@@ -48,7 +48,7 @@ QString paintPages(PdfCanvas& canvas, const PaperPages& paper, const PaperPainte
 
 QImage pictureOf(const FormPage& page, const PaperPainter& drawing) {
     constexpr double dotsPerPoint = pictureDotsPerInch / pointsPerInch;
-    const int width = qRound(drawing.sheet().width * pictureDotsPerInch);
+    const int width = qRound(drawing.sheetOf(page).width * pictureDotsPerInch);
     const int height = std::max(1, qRound(heightInPoints(page.shape) * dotsPerPoint));
     QImage image(width, height, QImage::Format_RGB32);
     if (image.isNull()) {
@@ -84,7 +84,7 @@ std::optional<QString> writePdf(const PaperPages& paper, const PaintOptions& opt
     if (!out.open(QIODevice::WriteOnly)) {
         return out.errorString();
     }
-    const PaperPainter drawing(sheetFor(paper.contentWidth, options), options);
+    const PaperPainter drawing(options);
     PdfCanvas canvas(out, drawing.print());
     QString failure = paintPages(canvas, paper, drawing, progress);
     if (failure.isEmpty() &&
@@ -109,7 +109,7 @@ QString pictureName(const QString& file, std::size_t form) {
 
 std::optional<QString> writePng(const PaperPages& paper, const PaintOptions& options,
                                 const QString& file, const WriteProgress& progress) {
-    const PaperPainter drawing(sheetFor(paper.contentWidth, options), options);
+    const PaperPainter drawing(options);
     for (std::size_t form = 0; form < paper.count; ++form) {
         if (!goesOn(progress, form)) {
             return stopped();

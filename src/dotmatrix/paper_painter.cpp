@@ -35,6 +35,44 @@ bool continues(const Cell& before, const Cell& next) {
            next.x >= before.x + before.width && (next.x - before.x) % before.width == 0;
 }
 
+void paintRun(PaperCanvas& canvas, PrintedRun& run, const Cell& first, double strip, double y) {
+    const double left = strip + first.x * pointsPerUnit;
+    run.at = QPointF(left, y + baseline);
+    run.cell = first.width * pointsPerUnit;
+    run.bold = (first.style & (emphasised | doubleStrike)) != 0;
+    run.italic = (first.style & italicShear) != 0;
+    canvas.run(run);
+    if ((first.style & emphasised) != 0 && (first.style & doubleStrike) != 0) {
+        run.at.rx() += secondStrike;
+        canvas.run(run);
+    }
+    if ((first.style & underlined) != 0) {
+        canvas.fill(QRectF(left, y + underline, run.cell * static_cast<double>(run.text.size()),
+                           underlineWidth),
+                    printInk);
+    }
+}
+
+// Draws characters that stand side by side in one go, blanks between them included, so
+// that a search in the PDF finds whole lines of text.
+void paintLine(PaperCanvas& canvas, const PaperLine& line, double strip, double y) {
+    PrintedRun run;
+    const auto& cells = line.cells;
+    for (std::size_t first = 0; first < cells.size();) {
+        run.text = QChar(cells[first].character);
+        std::size_t next = first + 1;
+        for (; next < cells.size() && continues(cells[next - 1], cells[next]); ++next) {
+            for (auto x = cells[next - 1].x + cells[next].width; x < cells[next].x;
+                 x += cells[next].width) {
+                run.text += QLatin1Char(' ');
+            }
+            run.text += QChar(cells[next].character);
+        }
+        paintRun(canvas, run, cells[first], strip, y);
+        first = next;
+    }
+}
+
 }  // namespace
 
 Sheet sheetFor(PaperUnits contentWidth) {
@@ -59,8 +97,7 @@ Sheet sheetFor(PaperUnits contentWidth, const PaintOptions& options) {
     return sheetFor(contentWidth);
 }
 
-PaperPainter::PaperPainter(Sheet sheet, PaintOptions options)
-    : sheet_(sheet), options_(std::move(options)) {}
+PaperPainter::PaperPainter(PaintOptions options) : options_(std::move(options)) {}
 
 void PaperPainter::paintForm(QPainter& painter, const FormPage& page) const {
     painter.save();
@@ -70,37 +107,40 @@ void PaperPainter::paintForm(QPainter& painter, const FormPage& page) const {
 }
 
 void PaperPainter::paintForm(PaperCanvas& canvas, const FormPage& page) const {
+    const Sheet sheet = sheetOf(page);
+    const double width = sheet.width * pointsPerInch;
+    const double strip = sheet.strip * pointsPerInch;
     const double height = static_cast<double>(page.shape.height) * pointsPerUnit;
-    canvas.background(page.shape.height, page.design,
-                      [&] { paintBackground(canvas, page.design.get(), height); });
+    canvas.background(width, page.shape.height, page.design,
+                      [&] { paintBackground(canvas, sheet, page.design.get(), height); });
     if (options_.ruler) {
-        const double strip = sheet_.strip * pointsPerInch;
-        paintRuler(canvas, page, options_.rulerCell, strip, sheet_.width * pointsPerInch - strip);
+        paintRuler(canvas, page, options_.rulerCell, strip, width - strip);
     }
     for (const PaperLine& line : page.lines) {
-        paintLine(canvas, line, static_cast<double>(line.y - page.shape.top) * pointsPerUnit);
+        paintLine(canvas, line, strip,
+                  static_cast<double>(line.y - page.shape.top) * pointsPerUnit);
     }
 }
 
-void PaperPainter::paintBackground(PaperCanvas& canvas, const FormDesign* ofPage,
-                                   double height) const {
-    paintSheet(canvas, height);
-    paintTitle(canvas, height);
-    const double left = sheet_.strip * pointsPerInch;
+void PaperPainter::paintBackground(PaperCanvas& canvas, const Sheet& sheet,
+                                   const FormDesign* ofPage, double height) const {
+    paintSheet(canvas, sheet, height);
+    paintTitle(canvas, sheet, height);
+    const double left = sheet.strip * pointsPerInch;
     if (ofPage != nullptr) {
         return paintDesign(canvas, *ofPage, left);
     }
     if (options_.picture) {
-        canvas.picture(QRectF(0, 0, sheet_.width * pointsPerInch, height), *options_.picture);
+        canvas.picture(QRectF(0, 0, sheet.width * pointsPerInch, height), *options_.picture);
     }
     if (options_.design) {
         paintDesign(canvas, *options_.design, left);
     }
 }
 
-void PaperPainter::paintSheet(PaperCanvas& canvas, double height) const {
-    const double width = sheet_.width * pointsPerInch;
-    const double strip = sheet_.strip * pointsPerInch;
+void PaperPainter::paintSheet(PaperCanvas& canvas, const Sheet& sheet, double height) const {
+    const double width = sheet.width * pointsPerInch;
+    const double strip = sheet.strip * pointsPerInch;
     if (options_.bands) {
         const int bands = static_cast<int>(std::ceil(height / bandPoints));
         for (int band = 0; band < bands; band += 2) {
@@ -124,7 +164,7 @@ void PaperPainter::paintSheet(PaperCanvas& canvas, double height) const {
     canvas.line(QPointF(0, height - 0.25), QPointF(width, height - 0.25), perforation);
 }
 
-void PaperPainter::paintTitle(PaperCanvas& canvas, double height) const {
+void PaperPainter::paintTitle(PaperCanvas& canvas, const Sheet& sheet, double height) const {
     if (options_.title.isEmpty()) {
         return;
     }
@@ -133,8 +173,8 @@ void PaperPainter::paintTitle(PaperCanvas& canvas, double height) const {
     const QFontMetricsF metrics(font);
     // The ruler's line numbers have the left strip.
     const double middle = options_.ruler
-                              ? (sheet_.width - sheet_.strip) * pointsPerInch + titleFromEdge
-                              : sheet_.strip * pointsPerInch - titleFromEdge;
+                              ? (sheet.width - sheet.strip) * pointsPerInch + titleFromEdge
+                              : sheet.strip * pointsPerInch - titleFromEdge;
     const double baselineX = middle - metrics.height() / 2 + metrics.ascent();
     const double half = metrics.horizontalAdvance(options_.title) / 2;
     canvas.words({.at = QPointF(baselineX, height / 2 + half),
@@ -143,45 +183,6 @@ void PaperPainter::paintTitle(PaperCanvas& canvas, double height) const {
                   .font = font,
                   .colour = titleColour,
                   .text = options_.title});
-}
-
-// Draws characters that stand side by side in one go, blanks between them included, so
-// that a search in the PDF finds whole lines of text.
-void PaperPainter::paintLine(PaperCanvas& canvas, const PaperLine& line, double y) const {
-    PrintedRun run;
-    const auto& cells = line.cells;
-    for (std::size_t first = 0; first < cells.size();) {
-        run.text = QChar(cells[first].character);
-        std::size_t next = first + 1;
-        for (; next < cells.size() && continues(cells[next - 1], cells[next]); ++next) {
-            for (auto x = cells[next - 1].x + cells[next].width; x < cells[next].x;
-                 x += cells[next].width) {
-                run.text += QLatin1Char(' ');
-            }
-            run.text += QChar(cells[next].character);
-        }
-        paintRun(canvas, run, cells[first], y);
-        first = next;
-    }
-}
-
-void PaperPainter::paintRun(PaperCanvas& canvas, PrintedRun& run, const Cell& first,
-                            double y) const {
-    const double left = sheet_.strip * pointsPerInch + first.x * pointsPerUnit;
-    run.at = QPointF(left, y + baseline);
-    run.cell = first.width * pointsPerUnit;
-    run.bold = (first.style & (emphasised | doubleStrike)) != 0;
-    run.italic = (first.style & italicShear) != 0;
-    canvas.run(run);
-    if ((first.style & emphasised) != 0 && (first.style & doubleStrike) != 0) {
-        run.at.rx() += secondStrike;
-        canvas.run(run);
-    }
-    if ((first.style & underlined) != 0) {
-        canvas.fill(QRectF(left, y + underline, run.cell * static_cast<double>(run.text.size()),
-                           underlineWidth),
-                    printInk);
-    }
 }
 
 }  // namespace tarn::dotmatrix

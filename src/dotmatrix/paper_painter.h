@@ -40,9 +40,10 @@ Sheet sheetFor(PaperUnits contentWidth, const PaintOptions& options);
 
 class PaperPainter {
 public:
-    explicit PaperPainter(Sheet sheet, PaintOptions options = {});
+    explicit PaperPainter(PaintOptions options = {});
 
-    const Sheet& sheet() const { return sheet_; }
+    // Of the paper that the form is of.
+    Sheet sheetOf(const FormPage& page) const { return sheetFor(page.contentWidth, options_); }
     const PrintFont& print() const { return print_; }
     void paintForm(PaperCanvas& canvas, const FormPage& page) const;
     // With its origin, left upper corner of the sheet, at the painter's; the painter's unit
@@ -50,13 +51,11 @@ public:
     void paintForm(QPainter& painter, const FormPage& page) const;
 
 private:
-    void paintBackground(PaperCanvas& canvas, const FormDesign* ofPage, double height) const;
-    void paintSheet(PaperCanvas& canvas, double height) const;
-    void paintTitle(PaperCanvas& canvas, double height) const;
-    void paintLine(PaperCanvas& canvas, const PaperLine& line, double y) const;
-    void paintRun(PaperCanvas& canvas, PrintedRun& run, const Cell& first, double y) const;
+    void paintBackground(PaperCanvas& canvas, const Sheet& sheet, const FormDesign* ofPage,
+                         double height) const;
+    void paintSheet(PaperCanvas& canvas, const Sheet& sheet, double height) const;
+    void paintTitle(PaperCanvas& canvas, const Sheet& sheet, double height) const;
 
-    Sheet sheet_;
     PaintOptions options_;
     PrintFont print_;
 };

@@ -40,6 +40,8 @@ PaperRoll::PaperRoll(const Dialect& dialect)
 void PaperRoll::begin(const PaperPosition& position, PrinterState state) {
     paper_ = std::make_unique<ContinuousPaper>(position);
     printer_ = std::make_unique<EscpInterpreter>(*paper_, panel_, std::move(state));
+    laid_.assign(1, {});
+    widest_ = 0;
     marks_.clear();
     seen_.clear();
     again_.reset();
@@ -96,19 +98,32 @@ void PaperRoll::feedForJob(RollJob& job) {
 
 void PaperRoll::lay(std::shared_ptr<const FormDesign> design) {
     const std::size_t form = paper_->currentForm();
+    laid_.back().width = std::max(laid_.back().width, paper_->contentWidth());
+    widest_ = std::max(widest_, laid_.back().width);
+    paper_->changePaper();
     while (!laid_.empty() && laid_.back().form >= form) {
         laid_.pop_back();
     }
+    PaperUnits width = 0;
     for (const FormBox& box : design->boxes) {
-        designsWidth_ = std::max(designsWidth_, box.x + box.width);
+        width = std::max(width, box.x + box.width);
     }
+    widest_ = std::max(widest_, width);
     present_ = design;
-    laid_.push_back({form, std::move(design)});
+    laid_.push_back({form, std::move(design), width});
+}
+
+const PaperRoll::Laid& PaperRoll::laidUnder(std::size_t form) const {
+    return *(std::ranges::upper_bound(laid_, form, {}, &Laid::form) - 1);
 }
 
 std::shared_ptr<const FormDesign> PaperRoll::designOf(std::size_t form) const {
-    const auto after = std::ranges::upper_bound(laid_, form, {}, &Laid::form);
-    return after == laid_.begin() ? nullptr : (after - 1)->design;
+    return laidUnder(form).design;
+}
+
+PaperUnits PaperRoll::contentWidth(std::size_t form) const {
+    const Laid& laid = laidUnder(form);
+    return &laid == &laid_.back() ? std::max(laid.width, paper_->contentWidth()) : laid.width;
 }
 
 std::optional<QString> PaperRoll::feed(std::string_view bytes) {
@@ -149,6 +164,7 @@ std::optional<QString> PaperRoll::keep(std::string_view bytes) {
 // Byte by byte: a mark must be right behind the byte that began a row.
 void PaperRoll::printLive(std::string_view bytes) {
     const std::size_t first = paper_->currentForm();
+    const PaperUnits width = contentWidth(first);
     std::size_t form = first;
     for (const char& byte : bytes) {
         printer_->feed({&byte, 1});
@@ -162,7 +178,8 @@ void PaperRoll::printLive(std::string_view bytes) {
         }
     }
     // The form in the printer may have been looked at before it was full.
-    seen_.remove_if([first](const auto& page) { return page->form >= first; });
+    const std::size_t changed = contentWidth(first) == width ? first : laid_.back().form;
+    seen_.remove_if([changed](const auto& page) { return page->form >= changed; });
     ++version_;
 }
 
@@ -180,9 +197,7 @@ void PaperRoll::printAllAgain(const Dialect& dialect) {
     dialect_ = dialect;
     const bool onFirst = follows_ && first_;
     panel_ = onFirst ? panelFor(*first_, dialect_) : dialect_;
-    laid_.clear();
     present_ = nullptr;
-    designsWidth_ = 0;
     begin(topOfPaper(panel_), switchedOn(panel_));
     if (onFirst) {
         lay(first_);
@@ -208,8 +223,6 @@ void PaperRoll::tearOff(bool jobGoesOn) {
     jobs_.clear();
     bytes_ = std::make_unique<QTemporaryFile>();
     length_ = 0;
-    laid_.clear();
-    designsWidth_ = 0;
     first_ = present_;
     begin({.form = 0,
            .shape = {0, position.formHeight},
@@ -236,6 +249,7 @@ std::shared_ptr<const FormPage> PaperRoll::page(std::size_t form) {
     }
     FormPage page = form >= paper_->currentForm() ? pageOf(*paper_, form) : printAgain(form);
     page.design = designOf(form);
+    page.contentWidth = contentWidth(form);
     seen_.push_front(std::make_shared<const FormPage>(std::move(page)));
     if (seen_.size() > seenKept) {
         seen_.pop_back();
@@ -260,9 +274,7 @@ FormPage PaperRoll::printAgain(std::size_t form) {
 }
 
 PaperPages PaperRoll::pages() {
-    return {.count = printedForms(),
-            .contentWidth = contentWidth(),
-            .page = [this](std::size_t form) { return page(form); }};
+    return {.count = printedForms(), .page = [this](std::size_t form) { return page(form); }};
 }
 
 }  // namespace tarn::dotmatrix

@@ -41,15 +41,15 @@ public:
     bool followsJobs() const { return follows_; }
     // What is pre-printed on a form; null where no job has said.
     std::shared_ptr<const FormDesign> designOf(std::size_t form) const;
-    std::shared_ptr<const FormDesign> presentDesign() const { return present_; }
     // The paper so far is taken away, up to the next perforation. The printer stays as
     // it is; an unfinished job goes on, under its name, on the new paper.
     void tearOff(bool jobGoesOn);
 
     const FormTable& forms() const { return paper_->forms(); }
     std::size_t printedForms() const { return paper_->printedForms(); }
-    // Of the print and of what is pre-printed.
-    PaperUnits contentWidth() const { return std::max(paper_->contentWidth(), designsWidth_); }
+    // Of the print and of what is pre-printed on the widest paper, or on that of one form.
+    PaperUnits contentWidth() const { return std::max(paper_->contentWidth(), widest_); }
+    PaperUnits contentWidth(std::size_t form) const;
     PaperUnits headY() const { return paper_->y(); }
     const std::vector<RollJob>& jobs() const { return jobs_; }
     // Those that print or feed: a note, with the job that sets its printer up, is one.
@@ -71,12 +71,14 @@ private:
     struct Laid {
         std::size_t form = 0;
         std::shared_ptr<const FormDesign> design;
+        PaperUnits width = 0;  // of its content; of the last one, of what is pre-printed
     };
 
     void begin(const PaperPosition& position, PrinterState state);
     void printAllAgain(const Dialect& dialect);
     void feedForJob(RollJob& job);
     void lay(std::shared_ptr<const FormDesign> design);
+    const Laid& laidUnder(std::size_t form) const;
     std::optional<QString> keep(std::string_view bytes);
     void printLive(std::string_view bytes);
     void markHere();
@@ -90,8 +92,8 @@ private:
     bool follows_ = true;
     std::shared_ptr<const FormDesign> present_;
     std::shared_ptr<const FormDesign> first_;  // that the paper begins with
-    std::vector<Laid> laid_;                   // in the order of the forms
-    PaperUnits designsWidth_ = 0;
+    std::vector<Laid> laid_;                   // in the order of the forms, from 0 on
+    PaperUnits widest_ = 0;                    // of `laid_`
     std::unique_ptr<QTemporaryFile> bytes_;
     qint64 length_ = 0;  // bytes taken in
     qint64 printed_ = 0;

@@ -46,9 +46,10 @@ void PdfCanvas::words(const Words& words) {
     drawing_.words(layout, baseline, words.colour);
 }
 
-void PdfCanvas::background(PaperUnits height, const std::shared_ptr<const FormDesign>& form,
+void PdfCanvas::background(double width, PaperUnits height,
+                           const std::shared_ptr<const FormDesign>& form,
                            const std::function<void()>& draw) {
-    const auto [place, isNew] = backgrounds_.try_emplace({height, form}, 0);
+    const auto [place, isNew] = backgrounds_.try_emplace({width, height, form}, 0);
     if (isNew) {
         place->second = drawing_.store(draw);
     }

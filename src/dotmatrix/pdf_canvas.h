@@ -1,5 +1,5 @@
 // The paper as a PDF file: a run of print is one text with the pitch of its cells, and what
-// lies under the print of all forms of a height is stored once.
+// lies under the print of all forms of a size is stored once.
 #pragma once
 
 #include <QRawFont>
@@ -8,8 +8,8 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <unordered_map>
-#include <utility>
 
 #include "dotmatrix/paper_canvas.h"
 #include "dotmatrix/paper_fonts.h"
@@ -39,7 +39,7 @@ public:
     void picture(const QRectF& area, const QImage& image) override;
     void words(const Words& words) override;
     void run(const PrintedRun& run) override;
-    void background(PaperUnits height, const std::shared_ptr<const FormDesign>& form,
+    void background(double width, PaperUnits height, const std::shared_ptr<const FormDesign>& form,
                     const std::function<void()>& draw) override;
 
 private:
@@ -65,7 +65,7 @@ private:
     pdf::PdfDrawing drawing_;
     const PrintFont& print_;
     std::array<std::optional<Look>, 4> looks_;
-    std::map<std::pair<PaperUnits, std::shared_ptr<const FormDesign>>, int> backgrounds_;
+    std::map<std::tuple<double, PaperUnits, std::shared_ptr<const FormDesign>>, int> backgrounds_;
     pdf::PdfText piece_;
 };
 

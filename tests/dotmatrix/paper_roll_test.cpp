@@ -339,6 +339,25 @@ protected:
     std::shared_ptr<const FormDesign> order_ = form("ordem", 30, false, true);
 };
 
+TEST_F(PapersOfJobs, EachPaperIsAsWideAsWhatIsOnIt) {
+    constexpr PaperUnits ofForm = 2160;
+    job(note_, "a\r\n");
+    job(slip_, std::string(200, 'x') + "\r\n");
+    job(note_, "b\r\n");
+    EXPECT_EQ(roll_.page(0)->contentWidth, ofForm);
+    EXPECT_EQ(roll_.page(1)->contentWidth, 200 * 126);
+    EXPECT_EQ(roll_.page(2)->contentWidth, ofForm);
+    job(note_, "\f" + std::string(100, 'y'));
+    EXPECT_EQ(roll_.page(2)->contentWidth, 100 * 216) << "one strip of paper with the next form";
+    EXPECT_EQ(roll_.page(3)->contentWidth, 100 * 216);
+    EXPECT_EQ(roll_.contentWidth(), 200 * 126);
+    roll_.followJobs({});
+    EXPECT_EQ(roll_.page(0)->contentWidth, ofForm);
+    EXPECT_EQ(roll_.page(2)->contentWidth, 100 * 216);
+    roll_.setDialect({});
+    EXPECT_EQ(roll_.page(0)->contentWidth, roll_.contentWidth()) << "all on one paper";
+}
+
 TEST_F(PapersOfJobs, AnotherPaperBeginsAtItsTopAndWithItsPanel) {
     job(note_, "\x1BM\r\na\r\n");
     job(note_, "b\r\n");
@@ -355,7 +374,7 @@ TEST_F(PapersOfJobs, AnotherPaperBeginsAtItsTopAndWithItsPanel) {
         "2:1 nota/20 f 216\n";
     EXPECT_EQ(printed(), expected);
     EXPECT_EQ(roll_.forms().at(1).top, 20 * unitsPerInch / 6);
-    EXPECT_EQ(roll_.presentDesign(), note_);
+    EXPECT_EQ(roll_.designOf(2), note_);
     ASSERT_EQ(roll_.jobs().size(), 6U);
     EXPECT_EQ(roll_.jobs()[2].form, 1U);
     EXPECT_EQ(roll_.jobs()[2].y, 20 * unitsPerInch / 6);

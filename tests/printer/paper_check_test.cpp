@@ -3,51 +3,32 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QTableWidget>
-#include <QTemporaryDir>
 
 #include "forms/layout_forms.h"
-#include "printer/window/printer_window.h"
 #include "tests/dotmatrix/note_streams.h"
-#include "tests/printer/queue.h"
-#include "tests/support/user.h"
+#include "tests/printer/shown_printer.h"
 
 namespace tarn::test {
 
 using namespace dotmatrix;
 namespace {
 
-constexpr int checkLimit = 60'000;  // milliseconds; for a machine that is busy
-
-class Check : public testing::Test {
+class Check : public ShownPrinter {
 protected:
     void SetUp() override {
-        QFile form(folder_.filePath("meu.txt"));
-        ASSERT_TRUE(form.open(QIODevice::WriteOnly));
-        form.write(
-            "altura 33\ncaixa 3 5 12 1 Cliente\ncaixa 3 17 6 1 Cidade\ncaixa 3,5 40 20 1,5 Obs\n");
-        form.close();
-        window_.setQuestions({nullptr,
-                              [this](const QString&, const QString&) {
-                                  return QStringList{folder_.filePath("meu.txt")};
-                              },
-                              nullptr, nullptr});
-        window_.show();
-        window_.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
-    }
-    void job(const QByteArray& bytes) {
-        ASSERT_TRUE(intake_.begin("job"));
-        ASSERT_TRUE(intake_.take(bytes));
-        intake_.end();
+        write("meu.txt",
+              "altura 33\ncaixa 3 5 12 1 Cliente\ncaixa 3 17 6 1 Cidade\n"
+              "caixa 3,5 40 20 1,5 Obs\n");
+        window_.setQuestions(
+            {nullptr,
+             [this](const QString&, const QString&) { return QStringList{file("meu.txt")}; },
+             nullptr, nullptr});
+        ShownPrinter::SetUp();
     }
     bool tells(const QString& text) {
-        return QTest::qWaitFor(
-            [&] { return named<QLabel>(window_, "checkResult").text().startsWith(text); },
-            checkLimit);
+        return QTest::qWaitFor([&] { return label("checkResult").startsWith(text); }, printerLimit);
     }
     QStringList row(int number) {
         QStringList words;
@@ -56,14 +37,8 @@ protected:
         }
         return words;
     }
-    void check() { QTest::keyClick(&window_.view(), Qt::Key_F6); }
+    void check() { choose(window_, "paperMenu", "checkPaper"); }
 
-    QTemporaryDir folder_;
-    PaperRoll roll_{Dialect{}};
-    JobIntake intake_{roll_};
-    Queue queue_;
-    HoldDesk held_{[this] { return std::make_unique<SpoolerOfQueue>(queue_); }};
-    PrinterWindow window_{roll_, intake_, held_, {}};
     QTableWidget& table_ = named<QTableWidget>(window_, "checkFaults");
 };
 
@@ -73,23 +48,22 @@ TEST_F(Check, EachFaultIsARowThatLeadsToItsPlace) {
         "\f\f\f\f\r\n\r\n    Jose da SilvaJundiai\r\n");
     check();
     ASSERT_TRUE(tells(QStringLiteral("3 lugares para conferir.")))
-        << named<QLabel>(window_, "checkResult").text().toStdString();
+        << label("checkResult").toStdString();
     ASSERT_EQ(table_.rowCount(), 3);
     EXPECT_EQ(row(0), QStringList({"1", "3", "31", "", "fora das caixas", "solto aqui"}));
     EXPECT_EQ(row(1), QStringList({"5", "3", "5", "Cliente", "caixa cheia: o fim pode faltar",
                                    "Jose da Silv"}));
     EXPECT_EQ(row(2), QStringList({"5", "3", "23", "Cidade", "passa da borda da caixa", "ai"}));
-    PaperView& view = window_.view();
-    QTest::keyClick(&view, Qt::Key_Home);
+    QTest::keyClick(&view_, Qt::Key_Home);
     clickAt(*table_.viewport(), table_.visualItemRect(table_.item(2, 4)).center());
-    EXPECT_GT(view.topY(), unitsPerInch * 2 * 33 / 6);
+    EXPECT_GT(view_.topY(), unitsPerInch * 2 * 33 / 6);
     clickAt(*table_.viewport(), table_.visualItemRect(table_.item(0, 4)).center());
-    EXPECT_LT(view.topY(), unitsPerInch * 33 / 6);
+    EXPECT_LT(view_.topY(), unitsPerInch * 33 / 6);
 }
 
 TEST_F(Check, WhatComesLaterIsCheckedToo) {
     choose(window_, "formMenu", "form_file");
-    check();
+    QTest::keyClick(&view_, Qt::Key_F6);
     ASSERT_TRUE(tells(QStringLiteral("Nada aparece cortado nem fora das caixas.")));
     job("solto\r\n");
     EXPECT_TRUE(tells(QStringLiteral("1 lugar para conferir.")));
@@ -104,15 +78,13 @@ TEST_F(Check, BlankPaperHasNothingToBeChecked) {
 
 TEST_F(Check, TheBoxUnderTheMouseIsNamed) {
     choose(window_, "formMenu", "form_file");
-    PaperView& view = window_.view();
     const double width = 9.5 * 96;
-    const double spare = std::max(0.0, std::floor((view.viewport()->width() - width) / 2));
+    const double spare = std::max(0.0, std::floor((view_.viewport()->width() - width) / 2));
     const QPoint at(qRound(spare + (0.5 + 0.65) * 96), qRound(2.5 * 16));
-    QMouseEvent move(QEvent::MouseMove, at, view.viewport()->mapToGlobal(at), Qt::NoButton,
+    QMouseEvent move(QEvent::MouseMove, at, view_.viewport()->mapToGlobal(at), Qt::NoButton,
                      Qt::NoButton, {});
-    QApplication::sendEvent(view.viewport(), &move);
-    EXPECT_EQ(named<QLabel>(window_, "position").text(),
-              QStringLiteral("formulário 1, linha 3, coluna 7 · Cliente"));
+    QApplication::sendEvent(view_.viewport(), &move);
+    EXPECT_EQ(label("position"), QStringLiteral("formulário 1, linha 3, coluna 7 · Cliente"));
 }
 
 // Pixels in which more red than blue shows through: the marks.
@@ -151,12 +123,11 @@ TEST_F(Check, AHeldNoteIsShownWithWhatItsFormCut) {
     ASSERT_EQ(table.rowCount(), 3);
     EXPECT_EQ(table.item(0, 3)->text(), QStringLiteral("3 lugares"));
     EXPECT_EQ(table.item(1, 3)->text(), QStringLiteral("sem formulário"));
-    PaperView& view = window_.view();
-    view.showTop(0);
-    view.setZoom(0.5);
-    EXPECT_GT(marked(view), 100);
+    view_.showTop(0);
+    view_.setZoom(0.5);
+    EXPECT_GT(marked(view_), 100);
     choose(window_, "viewMenu", "marks");
-    EXPECT_EQ(marked(view), 0);
+    EXPECT_EQ(marked(view_), 0);
 }
 
 TEST_F(Check, AHeldJobOfManyFormsIsNotCheckedAsItComes) {

@@ -1,6 +1,4 @@
 // The window of the virtual printer, by real keys and clicks.
-#include "printer/window/printer_window.h"
-
 #include <gtest/gtest.h>
 
 #include <QAccessible>
@@ -8,7 +6,6 @@
 #include <QDockWidget>
 #include <QFile>
 #include <QImage>
-#include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPrinter>
@@ -16,23 +13,19 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTableWidget>
-#include <QTemporaryDir>
 #include <QToolBar>
 #include <QWheelEvent>
 
 #include "tests/dotmatrix/note_streams.h"
 #include "tests/dotmatrix/poppler.h"
-#include "tests/printer/queue.h"
-#include "tests/support/user.h"
+#include "tests/printer/shown_printer.h"
 
 namespace tarn::test {
 
 using namespace dotmatrix;
 namespace {
 
-constexpr int limit = 20000;  // milliseconds; for a machine that is busy
-
-class Window : public testing::Test {
+class Window : public ShownPrinter {
 protected:
     void SetUp() override {
         window_.setQuestions(
@@ -45,27 +38,11 @@ protected:
                  asked_ << title;
                  return open_;
              },
-             [this](QPrinter& printer) { return print_(printer); }, [this] { return queue_; }});
-        window_.show();
-        window_.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+             [this](QPrinter& printer) { return print_(printer); },
+             [this] { return chosenQueue_; }});
+        ShownPrinter::SetUp();
     }
 
-    void job(const QByteArray& bytes, const char* name = "job") {
-        ASSERT_TRUE(intake_.begin(QLatin1StringView(name)));
-        ASSERT_TRUE(intake_.take(bytes));
-        intake_.end();
-        ASSERT_TRUE(settled());
-    }
-    bool settled() {
-        const QString jobs = QString::number(roll_.shownJobs()) + QStringLiteral(" trabalho(s)");
-        const QString forms =
-            QString::number(roll_.printedForms()) + QStringLiteral(" formulário(s)");
-        return QTest::qWaitFor(
-            [&] { return label("count").startsWith(jobs) && label("count").contains(forms); },
-            limit);
-    }
-    QString label(const char* name) { return named<QLabel>(window_, name).text(); }
     void press(Qt::Key key, Qt::KeyboardModifiers with = {}) {
         QWidget* target = window_.focusWidget() != nullptr ? window_.focusWidget() : &window_;
         QTest::keyClick(target, key, with);
@@ -75,7 +52,6 @@ protected:
         return y >= view_.topY() && y + 360 <= view_.topY() + height;
     }
     int scrolled() { return view_.verticalScrollBar()->value(); }
-    QString file(const char* name) const { return folder_.filePath(QLatin1StringView(name)); }
     QString complaint() {
         auto* box = qobject_cast<QMessageBox*>(window_.errorBox());
         if (box == nullptr) {
@@ -84,7 +60,8 @@ protected:
         EXPECT_EQ(box->textFormat(), Qt::PlainText);
         QString text = box->text();
         QTest::keyClick(box, Qt::Key_Return);
-        EXPECT_TRUE(QTest::qWaitFor([this] { return window_.errorBox() == nullptr; }, limit));
+        EXPECT_TRUE(
+            QTest::qWaitFor([this] { return window_.errorBox() == nullptr; }, printerLimit));
         return text;
     }
     bool searched() {
@@ -93,7 +70,7 @@ protected:
                 return label("searchResult") != QStringLiteral("Procurando...") &&
                        !label("searchResult").startsWith(QStringLiteral("Contando..."));
             },
-            limit);
+            printerLimit);
     }
     // Pixel of a place on the paper, in inches from the first print position and from the
     // top of the view.
@@ -103,18 +80,11 @@ protected:
         return {qRound(spare + (x + 0.5) * 96 * view_.zoom()), qRound(y * 96 * view_.zoom())};
     }
 
-    QTemporaryDir folder_;
-    PaperRoll roll_{Dialect{}};
-    JobIntake intake_{roll_};
-    Queue printed_;
-    HoldDesk held_{[this] { return std::make_unique<SpoolerOfQueue>(printed_); }};
-    PrinterWindow window_{roll_, intake_, held_, {}};
-    PaperView& view_ = window_.view();
     QStringList asked_;
     QString suggested_;
     QString saveAs_;
     QStringList open_;
-    QString queue_;
+    QString chosenQueue_;
     std::function<bool(QPrinter&)> print_ = [](QPrinter&) { return false; };
 };
 
@@ -256,7 +226,7 @@ TEST_F(Window, TornOffPaperIsGone) {
     press(Qt::Key_Home);
     press(Qt::Key_PageDown);
     press(Qt::Key_PageDown);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view_.unseenForms() == 0; }, limit));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return view_.unseenForms() == 0; }, printerLimit));
     choose(window_, "paperMenu", "tearOff");
     EXPECT_EQ(label("count"), QStringLiteral("0 trabalho(s), 1 formulário(s)  ·  100%"));
     EXPECT_EQ(view_.verticalScrollBar()->value(), 0);
@@ -274,7 +244,8 @@ TEST_F(Window, PaperThatNobodySawIsTornOffAfterAQuestionOnly) {
     QTest::keyClick(question, Qt::Key_Return);  // the paper stays unless one says so
     EXPECT_EQ(roll_.shownJobs(), 1U);
     ASSERT_TRUE(QTest::qWaitFor(
-        [this] { return window_.findChild<QMessageBox*>("tearOffQuestion") == nullptr; }, limit));
+        [this] { return window_.findChild<QMessageBox*>("tearOffQuestion") == nullptr; },
+        printerLimit));
     choose(window_, "paperMenu", "tearOff");
     question = &named<QMessageBox>(window_, "tearOffQuestion");
     click(*question, "tearOffYes");
@@ -344,7 +315,7 @@ TEST_F(Window, JobsAreHeldAndPassedOnByClicks) {
         held_.passTo(queue, std::nullopt);
         return QString();
     });
-    queue_ = QStringLiteral("LX300");
+    chosenQueue_ = QStringLiteral("LX300");
     choose(window_, "queueMenu", "passTo");
     for (const char* bytes : {" \x0F", "um\r\n", "\f\f\fdois\r\n", "tres\r\n"}) {
         ASSERT_TRUE(intake_.begin("rede", JobIntake::Kind::Printed));
@@ -366,22 +337,23 @@ TEST_F(Window, JobsAreHeldAndPassedOnByClicks) {
     clickRow(1);
     EXPECT_EQ(scrolled(), static_cast<int>(roll_.jobs()[2].y / 360)) << "its place on the paper";
 
-    printed_.refuses = [](RecordingSpooler::Call call, std::size_t) {
+    queue_.refuses = [](RecordingSpooler::Call call, std::size_t) {
         return call == RecordingSpooler::Call::Open;
     };
     click(window_, "heldRelease");
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return state(1) == QStringLiteral("retido: não há fila \"LX300\" nesta máquina"); },
-        limit))
+        printerLimit))
         << state(1).toStdString();
     {
-        const std::lock_guard lock(printed_.mutex);
-        printed_.refuses = nullptr;
+        const std::lock_guard lock(queue_.mutex);
+        queue_.refuses = nullptr;
     }
     clickRow(0);
     click(window_, "heldRelease");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return state(0) == QStringLiteral("repassado"); }, limit));
-    EXPECT_EQ(printed_.jobs(), (std::vector<std::string>{" \x0F", "um\r\n"}));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return state(0) == QStringLiteral("repassado"); }, printerLimit));
+    EXPECT_EQ(queue_.jobs(), (std::vector<std::string>{" \x0F", "um\r\n"}));
     clickRow(2);
     click(window_, "heldRefuse");
     EXPECT_EQ(state(2), QStringLiteral("recusado"));
@@ -389,24 +361,25 @@ TEST_F(Window, JobsAreHeldAndPassedOnByClicks) {
     click(named<QMessageBox>(window_, "forgetQuestion"), "forgetYes");
     EXPECT_EQ(table.rowCount(), 2);
     click(window_, "heldReleaseAll");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return state(1) == QStringLiteral("repassado"); }, limit));
-    EXPECT_EQ(printed_.jobs().back(), "\f\f\fdois\r\n");
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return state(1) == QStringLiteral("repassado"); }, printerLimit));
+    EXPECT_EQ(queue_.jobs().back(), "\f\f\fdois\r\n");
 }
 
 // After a crash the queue may be unable to tell: then the user does.
 TEST_F(Window, OfADoubtfulJobTheUserIsAsked) {
     ASSERT_EQ(held_.open(folder_.filePath("retidos")), QString());
     intake_.keepIn(&held_);
-    printed_.refuses = [](RecordingSpooler::Call call, std::size_t) {
+    queue_.refuses = [](RecordingSpooler::Call call, std::size_t) {
         return call == RecordingSpooler::Call::EndDocument;
     };
-    printed_.fate = [](int) { return JobFate::Doubtful; };
+    queue_.fate = [](int) { return JobFate::Doubtful; };
     held_.passTo("LX300", std::chrono::milliseconds(0));
     ASSERT_TRUE(intake_.begin("rede", JobIntake::Kind::Printed));
     ASSERT_TRUE(intake_.take("um\r\n"));
     ASSERT_TRUE(intake_.end());
     const auto& yes = named<QPushButton>(window_, "heldOnPaper");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return yes.isVisible(); }, limit));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return yes.isVisible(); }, printerLimit));
     const auto& table = named<QTableWidget>(window_, "heldJobs");
     EXPECT_TRUE(table.item(0, 4)->text().startsWith(QStringLiteral("em dúvida: ")));
     EXPECT_FALSE(named<QPushButton>(window_, "heldRelease").isEnabled());
@@ -475,13 +448,11 @@ TEST_F(Window, ThePaperIsPrintedFormByForm) {
 
 TEST_F(Window, JobFilesAreOpenedOneAfterTheOther) {
     for (const char* name : {"a.prn", "b.prn"}) {
-        QFile out(file(name));
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(QByteArray("trabalho ") + name + "\r\n");
+        write(name, QByteArray("trabalho ") + name + "\r\n");
     }
     open_ = {file("a.prn"), file("nada.prn"), file("b.prn")};
     press(Qt::Key_O, Qt::ControlModifier);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return intake_.ended() == 2; }, limit));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return intake_.ended() == 2; }, printerLimit));
     ASSERT_TRUE(settled());
     EXPECT_TRUE(complaint().startsWith(QStringLiteral("Não foi possível ler o trabalho \"") +
                                        file("nada.prn")));
@@ -511,19 +482,13 @@ TEST_F(Window, EachJobLiesOnItsOwnFormUntilOneIsChosen) {
     const JobKind cheque{.document = JobDocument::Cheque, .form = "Cheque", .itemLines = {}};
     EXPECT_TRUE(named<QAction>(window_, "form_job").isChecked());
     EXPECT_EQ(label("paperName"), QStringLiteral("Papel em branco"));
-    const auto told = [this](const JobKind& kind, const QByteArray& bytes) {
-        ASSERT_TRUE(intake_.begin("job", JobIntake::Kind::LookedAt, kind));
-        ASSERT_TRUE(intake_.take(bytes));
-        intake_.end();
-        ASSERT_TRUE(settled());
-    };
-    told(note, "nota\r\n");
+    job("nota\r\n", "job", note);
     EXPECT_EQ(label("paperName"), QStringLiteral("Nota: 1361, 141, 761"));
-    told(cheque, "cheque\r\n");
+    job("cheque\r\n", "job", cheque);
     EXPECT_EQ(label("paperName"), QStringLiteral("Cheque: outros bancos"));
     ASSERT_EQ(roll_.printedForms(), 2U);
     EXPECT_EQ(roll_.page(1)->shape.height, 3 * unitsPerInch);
-    told({}, "outro\r\n");
+    job("outro\r\n");
     EXPECT_EQ(label("paperName"),
               QStringLiteral("Cheque: outros bancos (o trabalho não diz o seu papel)"));
 
@@ -531,7 +496,7 @@ TEST_F(Window, EachJobLiesOnItsOwnFormUntilOneIsChosen) {
     EXPECT_EQ(label("paperName"), QStringLiteral("Nota: 7"));
     EXPECT_EQ(roll_.printedForms(), 1U) << "one form under all";
     EXPECT_EQ(roll_.page(0)->design, nullptr);
-    told(cheque, "mais um\r\n");
+    job("mais um\r\n", "job", cheque);
     EXPECT_EQ(roll_.printedForms(), 1U);
 
     choose(window_, "formMenu", "form_job");
@@ -540,6 +505,50 @@ TEST_F(Window, EachJobLiesOnItsOwnFormUntilOneIsChosen) {
     EXPECT_EQ(roll_.page(0)->design->name, "ImprimeNF_1361");
     EXPECT_EQ(roll_.page(1)->design->name, "Cheque");
     EXPECT_EQ(roll_.page(1)->lines.size(), 3U);
+}
+
+// Not that of the job that came last: at the ends of the paper, where neither a short form can
+// be brought to the middle, it is the first or the last.
+TEST_F(Window, TheStatusBarTellsThePaperThatIsLookedAt) {
+    job("cheque\r\n", "a", {.document = JobDocument::Cheque, .form = "Cheque", .itemLines = {}});
+    job("nota\r\n", "b",
+        {.document = JobDocument::Note, .form = "ImprimeNF_1361", .itemLines = 13});
+    job("boleto\r\n", "c", {.document = JobDocument::Slip, .form = "Boleto_1084", .itemLines = {}});
+    const QString slip = label("paperName");
+    EXPECT_TRUE(slip.startsWith(QStringLiteral("Boleto")));
+    press(Qt::Key_Home);
+    EXPECT_EQ(label("paperName"), QStringLiteral("Cheque: outros bancos"));
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(label("paperName"), QStringLiteral("Nota: 1361, 141, 761"));
+    press(Qt::Key_End);
+    EXPECT_EQ(label("paperName"), slip);
+    press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(label("paperName"), QStringLiteral("Nota: 1361, 141, 761"));
+}
+
+TEST_F(Window, AWideDocumentLeavesTheOtherPapersTheirWidth) {
+    job("nota\r\n", "a",
+        {.document = JobDocument::Note, .form = "ImprimeNF_1361", .itemLines = 13});
+    job(QByteArray(100, 'x') + "\r\n", "b",
+        {.document = JobDocument::OrderSheet, .form = "OrdemFaturamento", .itemLines = {}});
+    press(Qt::Key_Home);
+    view_.setZoom(0.5);
+    const auto paperAt = [this](int y) {
+        const QImage image = view_.viewport()->grab().toImage();
+        const QColor behind = image.pixelColor(0, y);
+        int pixels = 0;
+        for (int x = 0; x < image.width(); ++x) {
+            pixels += image.pixelColor(x, y) != behind ? 1 : 0;
+        }
+        return pixels;
+    };
+    EXPECT_NEAR(paperAt(10), 9.5 * 48, 2);
+    EXPECT_NEAR(paperAt(11 * 48 + 10), 14.875 * 48, 2);
+    saveAs_ = file("dia.pdf");
+    press(Qt::Key_S, Qt::ControlModifier);
+    const QString pages = output(QStringLiteral("pdfinfo"), {"-l", "2", saveAs_});
+    EXPECT_TRUE(pages.contains(QRegularExpression("Page +1 size: +684 x"))) << pages.toStdString();
+    EXPECT_TRUE(pages.contains(QRegularExpression("Page +2 size: +1071 x"))) << pages.toStdString();
 }
 
 // Nobody tells what these jobs print: a note's bytes do, other text stays on the paper it is on.
@@ -573,10 +582,7 @@ TEST_F(Window, AFormOfAFileIsChosenOrRefused) {
     choose(window_, "formMenu", "form_file");
     EXPECT_TRUE(complaint().startsWith(QStringLiteral("não há formulário nem arquivo")));
     EXPECT_TRUE(named<QAction>(window_, "form_job").isChecked());
-    QFile form(file("meu.txt"));
-    ASSERT_TRUE(form.open(QIODevice::WriteOnly));
-    form.write("altura 33\ncaixa 3 3 10 2 Meu\n");
-    form.close();
+    write("meu.txt", "altura 33\ncaixa 3 3 10 2 Meu\n");
     open_ = {file("meu.txt")};
     choose(window_, "formMenu", "form_file");
     EXPECT_EQ(window_.errorBox(), nullptr);
@@ -612,7 +618,7 @@ TEST_F(Window, TheLogTellsWhatWasNotPrintedAndHowJobsEnded) {
             return text.toPlainText().contains(
                 QStringLiteral("trabalho 1, linha 1, coluna 2, bytes 1B 23: "));
         },
-        limit));
+        printerLimit));
     const QString log = text.toPlainText();
     EXPECT_TRUE(log.contains(QStringLiteral("rede: a conexão foi interrompida.")));
     press(Qt::Key_F8);
@@ -654,7 +660,7 @@ TEST_F(Window, StaysAwakeWhileTenThousandFormsComeIn) {
     press(Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_DOUBLE_EQ(view_.zoom(), 1.25);
     EXPECT_TRUE(intake_.busy());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return intake_.ended() == 1; }, 6 * limit));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return intake_.ended() == 1; }, 6 * printerLimit));
     // 28 MB in pieces of 256 KB, and the event loop turned between any two.
     EXPECT_GT(turns, 90);
     ASSERT_TRUE(settled());
@@ -684,7 +690,8 @@ TEST_F(Window, AReaderSpeaksOfThePaper) {
         return QAccessible::queryAccessibleInterface(&view_)->text(QAccessible::Description);
     };
     EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return line() == QStringLiteral("formulário 1, linha 2: NOTA FISCAL"); }, limit))
+        [&] { return line() == QStringLiteral("formulário 1, linha 2: NOTA FISCAL"); },
+        printerLimit))
         << line().toStdString();
 }
 

@@ -3,7 +3,6 @@
 
 #include <QAccessible>
 #include <QFile>
-#include <QLabel>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPdfWriter>
@@ -13,27 +12,20 @@
 #include <QWheelEvent>
 
 #include "printer/sheets/sheet_dock.h"
-#include "printer/window/printer_window.h"
-#include "tests/printer/queue.h"
-#include "tests/support/user.h"
+#include "tests/printer/shown_printer.h"
 
 namespace tarn::test {
 
 using namespace dotmatrix;
 namespace {
 
-constexpr int sheetLimit = 60'000;  // milliseconds; for a machine that is busy
-
-class Sheets : public testing::Test {
+class Sheets : public ShownPrinter {
 protected:
     void SetUp() override {
-        window_.show();
-        window_.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+        ShownPrinter::SetUp();
         window_.watchSheets(folder_.path());
     }
 
-    QString file(const char* name) const { return folder_.filePath(QLatin1StringView(name)); }
     // A4, each page with a black square of an inch, an inch from its corner.
     void draw(const char* name, int pages = 1) {
         QPdfWriter writer(file(name));
@@ -48,27 +40,16 @@ protected:
             painter.fillRect(QRect(72, 72, 72, 72), Qt::black);
         }
     }
-    void write(const char* name, const QByteArray& bytes) {
-        QFile out(file(name));
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(bytes);
-    }
-    void job(const QByteArray& bytes, const char* name) {
-        ASSERT_TRUE(intake_.begin(QLatin1StringView(name)));
-        ASSERT_TRUE(intake_.take(bytes));
-        intake_.end();
-    }
     bool shows(const QString& sheet) {
-        return QTest::qWaitFor([&] { return view_.presentSheet() == sheet && view_.isDrawn(); },
-                               sheetLimit);
+        return QTest::qWaitFor([&] { return sheets_.presentSheet() == sheet && sheets_.isDrawn(); },
+                               printerLimit);
     }
     bool counts(const QString& text) {
-        return QTest::qWaitFor(
-            [&] { return named<QLabel>(window_, "count").text().contains(text); }, sheetLimit);
+        return QTest::qWaitFor([&] { return label("count").contains(text); }, printerLimit);
     }
     // Left upper corner and side of the first black square in sight.
     QRect square() {
-        const QImage image = view_.viewport()->grab().toImage();
+        const QImage image = sheets_.viewport()->grab().toImage();
         const auto black = [&](int x, int y) { return qGray(image.pixel(x, y)) < 30; };
         for (int y = 30; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x) {
@@ -84,17 +65,11 @@ protected:
         return {};
     }
 
-    QTemporaryDir folder_;
-    PaperRoll roll_{Dialect{}};
-    JobIntake intake_{roll_};
-    Queue queue_;
-    HoldDesk held_{[this] { return std::make_unique<SpoolerOfQueue>(queue_); }};
-    PrinterWindow window_{roll_, intake_, held_, {}};
-    SheetView& view_ = named<SheetView>(window_, "sheets");
+    SheetView& sheets_ = named<SheetView>(window_, "sheets");
 };
 
 TEST_F(Sheets, TheyComeBesideThePaperInTheOrderOfTheDay) {
-    EXPECT_FALSE(view_.isVisible());
+    EXPECT_FALSE(sheets_.isVisible());
     job("um\f\f\f", "job-001.prn");
     job("tres\f\f\f", "job-003.prn");
     draw("job-004.pdf", 2);
@@ -102,32 +77,32 @@ TEST_F(Sheets, TheyComeBesideThePaperInTheOrderOfTheDay) {
     ASSERT_TRUE(shows("job-004.pdf, página 1 de 2"));
     EXPECT_TRUE(counts(", 2 folha(s)"));
     draw("job-1000.pdf");
-    ASSERT_TRUE(shows("job-1000.pdf, página 1 de 1")) << view_.presentSheet().toStdString();
+    ASSERT_TRUE(shows("job-1000.pdf, página 1 de 1")) << sheets_.presentSheet().toStdString();
     draw("job-002.pdf");
     ASSERT_TRUE(shows("job-002.pdf, página 1 de 1"));
-    EXPECT_EQ(view_.verticalScrollBar()->value(), 0) << "above those printed later";
+    EXPECT_EQ(sheets_.verticalScrollBar()->value(), 0) << "above those printed later";
     EXPECT_TRUE(counts(", 4 folha(s)"));
     // A click leads to the paper that was printed before.
-    clickAt(*view_.viewport(), QPoint(100, 200));
-    EXPECT_EQ(window_.view().topY(), 0);
-    QTest::keyClick(&view_, Qt::Key_End);
-    clickAt(*view_.viewport(), QPoint(100, view_.viewport()->height() - 100));
-    EXPECT_EQ(window_.view().topY(), roll_.jobs()[1].y);
+    clickAt(*sheets_.viewport(), QPoint(100, 200));
+    EXPECT_EQ(view_.topY(), 0);
+    QTest::keyClick(&sheets_, Qt::Key_End);
+    clickAt(*sheets_.viewport(), QPoint(100, sheets_.viewport()->height() - 100));
+    EXPECT_EQ(view_.topY(), roll_.jobs()[1].y);
 }
 
 TEST_F(Sheets, TheyAreOfTrueSizeAndZoomWithThePaper) {
     draw("job-001.pdf");
     ASSERT_TRUE(shows("job-001.pdf, página 1 de 1"));
     EXPECT_NEAR(square().width(), 96, 2);
-    QTest::keyClick(&window_.view(), Qt::Key_Minus, Qt::ControlModifier);
-    QTest::keyClick(&window_.view(), Qt::Key_Minus, Qt::ControlModifier);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view_.isDrawn(); }, sheetLimit));
+    QTest::keyClick(&view_, Qt::Key_Minus, Qt::ControlModifier);
+    QTest::keyClick(&view_, Qt::Key_Minus, Qt::ControlModifier);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return sheets_.isDrawn(); }, printerLimit));
     EXPECT_NEAR(square().width(), 96 * 0.64, 2);
-    QWheelEvent wheel(QPointF(50, 50), view_.viewport()->mapToGlobal(QPointF(50, 50)), {},
+    QWheelEvent wheel(QPointF(50, 50), sheets_.viewport()->mapToGlobal(QPointF(50, 50)), {},
                       QPoint(0, 120), Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(view_.viewport(), &wheel);
-    EXPECT_DOUBLE_EQ(window_.view().zoom(), 0.64 * 1.15);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view_.isDrawn(); }, sheetLimit));
+    QApplication::sendEvent(sheets_.viewport(), &wheel);
+    EXPECT_DOUBLE_EQ(view_.zoom(), 0.64 * 1.15);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return sheets_.isDrawn(); }, printerLimit));
     EXPECT_NEAR(square().width(), 96 * 0.64 * 1.15, 2);
 }
 
@@ -139,11 +114,11 @@ TEST_F(Sheets, ABrokenFileIsToldAndTakenWhenItIsWhole) {
     write("job-001.pdf", bytes.left(bytes.size() / 10));
     ASSERT_TRUE(QTest::qWaitFor(
         [this] {
-            return view_.presentSheet().startsWith(
+            return sheets_.presentSheet().startsWith(
                 QStringLiteral("job-001.pdf: Ainda não dá para ler esta folha: "));
         },
-        sheetLimit))
-        << view_.presentSheet().toStdString();
+        printerLimit))
+        << sheets_.presentSheet().toStdString();
     EXPECT_TRUE(named<QPlainTextEdit>(window_, "log")
                     .toPlainText()
                     .contains(QStringLiteral("job-001.pdf: Ainda não dá para ler esta folha")));
@@ -151,7 +126,7 @@ TEST_F(Sheets, ABrokenFileIsToldAndTakenWhenItIsWhole) {
     ASSERT_TRUE(counts(", 1 folha(s)"));
     write("job-001.pdf", bytes);
     ASSERT_TRUE(counts(", 2 folha(s)"));
-    QTest::keyClick(&view_, Qt::Key_Home);
+    QTest::keyClick(&sheets_, Qt::Key_Home);
     EXPECT_TRUE(shows("job-001.pdf, página 1 de 1"));
     EXPECT_NEAR(square().width(), 96, 2);
 }
@@ -164,14 +139,14 @@ TEST_F(Sheets, OfAThousandPagesOnlyThoseInSightAreDrawn) {
     awake.start(1);
     ASSERT_TRUE(shows("job-001.pdf, página 1 de 1000"));
     EXPECT_GT(turns, 20) << "the window works meanwhile";
-    EXPECT_LE(view_.picturesHeld(), 2U);
-    QTest::keyClick(&view_, Qt::Key_End);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return view_.isDrawn(); }, sheetLimit));
-    EXPECT_TRUE(view_.presentSheet().endsWith(QStringLiteral("de 1000")));
-    EXPECT_LE(view_.picturesHeld(), 4U);
-    const QString before = view_.presentSheet();
-    QTest::keyClick(&window_.view(), Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_EQ(view_.presentSheet(), before) << "what is looked at stays";
+    EXPECT_LE(sheets_.picturesHeld(), 2U);
+    QTest::keyClick(&sheets_, Qt::Key_End);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return sheets_.isDrawn(); }, printerLimit));
+    EXPECT_TRUE(sheets_.presentSheet().endsWith(QStringLiteral("de 1000")));
+    EXPECT_LE(sheets_.picturesHeld(), 4U);
+    const QString before = sheets_.presentSheet();
+    QTest::keyClick(&view_, Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(sheets_.presentSheet(), before) << "what is looked at stays";
 }
 
 TEST_F(Sheets, TheyAreTakenAwayAndComeAgainWhenTheyChange) {
@@ -181,7 +156,7 @@ TEST_F(Sheets, TheyAreTakenAwayAndComeAgainWhenTheyChange) {
     ASSERT_TRUE(QFile::remove(file("job-002.pdf")));
     ASSERT_TRUE(counts(", 1 folha(s)"));
     choose(window_, "paperMenu", "takeSheets");
-    EXPECT_EQ(view_.presentSheet(), QString());
+    EXPECT_EQ(sheets_.presentSheet(), QString());
     draw("job-003.pdf");
     ASSERT_TRUE(shows("job-003.pdf, página 1 de 1"));
     draw("job-001.pdf", 3);
@@ -191,75 +166,60 @@ TEST_F(Sheets, TheyAreTakenAwayAndComeAgainWhenTheyChange) {
 TEST_F(Sheets, WhoClosesThePanelHasItBackByAKey) {
     draw("job-001.pdf");
     ASSERT_TRUE(shows("job-001.pdf, página 1 de 1"));
-    QTest::keyClick(&window_.view(), Qt::Key_F7);
-    EXPECT_FALSE(view_.isVisible());
+    QTest::keyClick(&view_, Qt::Key_F7);
+    EXPECT_FALSE(sheets_.isVisible());
     draw("job-002.pdf");
     ASSERT_TRUE(counts(", 2 folha(s)"));
-    EXPECT_FALSE(view_.isVisible());
-    QTest::keyClick(&window_.view(), Qt::Key_F7);
+    EXPECT_FALSE(sheets_.isVisible());
+    QTest::keyClick(&view_, Qt::Key_F7);
     EXPECT_TRUE(shows("job-002.pdf, página 1 de 1"));
 }
 
 // From anywhere on the disk, also while no folder is watched.
-TEST(OpenedSheets, APdfIsALooseSheetAndABrokenOneIsTold) {
-    QTemporaryDir folder;
-    PaperRoll roll{Dialect{}};
-    JobIntake intake{roll};
-    Queue queue;
-    HoldDesk held{[&queue] { return std::make_unique<SpoolerOfQueue>(queue); }};
-    PrinterWindow window{roll, intake, held, {}};
-    const QString whole = folder.filePath(QStringLiteral("duplicata.pdf"));
+TEST_F(ShownPrinter, APdfIsALooseSheetAndABrokenOneIsTold) {
     {
-        QPdfWriter writer(whole);
+        QPdfWriter writer(file("duplicata.pdf"));
         QPainter painter(&writer);
         painter.drawText(100, 100, QStringLiteral("duplicata"));
     }
-    const QString broken = folder.filePath(QStringLiteral("meia.pdf"));
-    QFile half(broken);
-    ASSERT_TRUE(half.open(QIODevice::WriteOnly));
-    half.write("%PDF-1.4\n%");
-    half.close();
-    const QString job = folder.filePath(QStringLiteral("trabalho.prn"));
-    QFile raw(job);
-    ASSERT_TRUE(raw.open(QIODevice::WriteOnly));
-    raw.write("texto\r\n");
-    raw.close();
-    window.setQuestions({nullptr,
-                         [&](const QString&, const QString&) {
-                             return QStringList{whole, broken, job};
-                         },
-                         nullptr, nullptr});
-    window.show();
-    auto& view = named<SheetView>(window, "sheets");
-    choose(window, "fileMenu", "open");
+    write("meia.pdf", "%PDF-1.4\n%");
+    write("trabalho.prn", "texto\r\n");
+    window_.setQuestions(
+        {nullptr,
+         [this](const QString&, const QString&) {
+             return QStringList{file("duplicata.pdf"), file("meia.pdf"), file("trabalho.prn")};
+         },
+         nullptr, nullptr});
+    auto& sheets = named<SheetView>(window_, "sheets");
+    choose(window_, "fileMenu", "open");
     ASSERT_TRUE(QTest::qWaitFor(
         [&] {
-            return window.errorBox() != nullptr && view.isDrawn() &&
-                   view.presentSheet() == QStringLiteral("duplicata.pdf, página 1 de 1");
+            return window_.errorBox() != nullptr && sheets.isDrawn() &&
+                   sheets.presentSheet() == QStringLiteral("duplicata.pdf, página 1 de 1");
         },
-        sheetLimit))
-        << view.presentSheet().toStdString();
-    EXPECT_TRUE(view.isVisible());
-    EXPECT_EQ(qobject_cast<QMessageBox*>(window.errorBox())->text(),
+        printerLimit))
+        << sheets.presentSheet().toStdString();
+    EXPECT_TRUE(sheets.isVisible());
+    EXPECT_EQ(qobject_cast<QMessageBox*>(window_.errorBox())->text(),
               QStringLiteral("Não foi possível ler \"%1\": o arquivo está incompleto ou não é um "
                              "PDF.")
-                  .arg(broken));
-    EXPECT_TRUE(named<QLabel>(window, "count").text().contains(QStringLiteral(", 1 folha(s)")));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return intake.ended() == 1; }, sheetLimit));
-    EXPECT_EQ(roll.jobs().back().name, "trabalho.prn");
+                  .arg(file("meia.pdf")));
+    EXPECT_TRUE(label("count").contains(QStringLiteral(", 1 folha(s)")));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return intake_.ended() == 1; }, printerLimit));
+    EXPECT_EQ(roll_.jobs().back().name, "trabalho.prn");
 }
 
 TEST_F(Sheets, AReaderSpeaksOfThem) {
     draw("job-001.pdf", 2);
     ASSERT_TRUE(shows("job-001.pdf, página 1 de 2"));
-    auto* spoken = QAccessible::queryAccessibleInterface(&view_);
+    auto* spoken = QAccessible::queryAccessibleInterface(&sheets_);
     EXPECT_EQ(spoken->text(QAccessible::Name), QStringLiteral("Folhas soltas"));
     EXPECT_TRUE(QTest::qWaitFor(
         [&] {
             return spoken->text(QAccessible::Description) ==
                    QStringLiteral("job-001.pdf, página 1 de 2");
         },
-        sheetLimit));
+        printerLimit));
 }
 
 TEST_F(Sheets, AMachineWithoutTheProgramsIsTold) {
@@ -272,7 +232,7 @@ TEST_F(Sheets, AMachineWithoutTheProgramsIsTold) {
             return !pile.files().empty() &&
                    pile.files()[0].remark.contains(QStringLiteral("poppler-utils"));
         },
-        sheetLimit));
+        printerLimit));
     EXPECT_TRUE(pile.files()[0].remark.contains(file("job-001.pdf")));
     EXPECT_EQ(pile.sheets(), 0U);
     QStringList refused;
@@ -282,7 +242,7 @@ TEST_F(Sheets, AMachineWithoutTheProgramsIsTold) {
     const QString copy = elsewhere.filePath("job-001.pdf");  // called as the one of the folder
     ASSERT_TRUE(QFile::copy(file("job-001.pdf"), copy));
     pile.open(copy);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return refused.size() == 1; }, sheetLimit));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return refused.size() == 1; }, printerLimit));
     EXPECT_TRUE(refused[0].contains(QStringLiteral("poppler-utils")));
     EXPECT_EQ(pile.files().size(), 1U);
 }

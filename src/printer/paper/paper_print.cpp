@@ -11,7 +11,7 @@ namespace {
 
 void paintPage(QPainter& painter, const QPrinter& printer, const PaperPainter& drawing,
                const FormPage& page) {
-    const QSizeF wanted = pageSizeInPoints(drawing.sheet(), page.shape);
+    const QSizeF wanted = pageSizeInPoints(drawing.sheetOf(page), page.shape);
     const QRectF there = printer.pageRect(QPrinter::Point);
     const double fit =
         std::min({1.0, there.width() / wanted.width(), there.height() / wanted.height()});
@@ -27,7 +27,7 @@ void paintPage(QPainter& painter, const QPrinter& printer, const PaperPainter& d
 std::optional<QString> printPaper(QPrinter& printer, const PaperPages& paper, std::size_t first,
                                   std::size_t last, const PaintOptions& options,
                                   const WriteProgress& progress) {
-    const PaperPainter drawing(sheetFor(paper.contentWidth, options), options);
+    const PaperPainter drawing(options);
     printer.setFullPage(true);
     QPainter painter;
     for (std::size_t form = first; form <= last && form < paper.count; ++form) {
@@ -36,7 +36,7 @@ std::optional<QString> printPaper(QPrinter& printer, const PaperPages& paper, st
             return QStringLiteral("interrompido");
         }
         const auto page = paper.page(form);
-        printer.setPageSize(QPageSize(pageSizeInPoints(drawing.sheet(), page->shape),
+        printer.setPageSize(QPageSize(pageSizeInPoints(drawing.sheetOf(*page), page->shape),
                                       QPageSize::Point, QString(), QPageSize::FuzzyMatch));
         if (!(form == first ? painter.begin(&printer) : printer.newPage())) {
             return QStringLiteral("a impressora não aceitou a página");

@@ -79,7 +79,8 @@ QString textIn(PaperRoll& roll, const PaperRegion& wanted) {
 
 PaperRegion regionOf(const PaperRoll& roll, std::size_t form) {
     const Form shape = roll.forms().at(form);
-    return {0, shape.top, std::max<PaperUnits>(roll.contentWidth(), 1), shape.top + shape.height};
+    return {0, shape.top, std::max<PaperUnits>(roll.contentWidth(form), 1),
+            shape.top + shape.height};
 }
 
 }  // namespace tarn::dotmatrix

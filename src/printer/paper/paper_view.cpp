@@ -30,8 +30,7 @@ PaperUnits stripOf(const Sheet& sheet) {
 
 }  // namespace
 
-PaperView::PaperView(PaperRoll& roll, QWidget* parent)
-    : QAbstractScrollArea(parent), roll_(roll), painter_(sheetFor(0)) {
+PaperView::PaperView(PaperRoll& roll, QWidget* parent) : QAbstractScrollArea(parent), roll_(roll) {
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(QStringLiteral("Papel da impressora"));
     viewport()->setMouseTracking(true);
@@ -52,7 +51,7 @@ PaperView::PaperView(PaperRoll& roll, QWidget* parent)
 
 void PaperView::setOptions(const PaintOptions& options) {
     options_ = options;
-    painter_ = PaperPainter(sheetFor(roll_.contentWidth(), options_), options_);
+    painter_ = PaperPainter(options_);
     setRanges();
     viewport()->update();
 }
@@ -62,13 +61,14 @@ double PaperView::scale() const {
 }
 
 double PaperView::leftEdge() const {
-    const double width = painter_.sheet().width * screenDots * zoom_;
+    const double width = widest_.width * screenDots * zoom_;
     const double spare = viewport()->width() - width;
     return spare > 0 ? std::floor(spare / 2) : -horizontalScrollBar()->value();
 }
 
 // Millions of forms are more pixels than a scroll bar counts, so that it counts lines.
 void PaperView::setRanges() {
+    widest_ = sheetFor(roll_.contentWidth(), options_);
     const Form last = roll_.forms().back();
     const double lines =
         static_cast<double>(last.top + last.height) / static_cast<double>(lineHeight);
@@ -76,7 +76,7 @@ void PaperView::setRanges() {
     verticalScrollBar()->setRange(0, static_cast<int>(std::ceil(std::max(0.0, lines - page))));
     verticalScrollBar()->setPageStep(std::max(1, static_cast<int>(page)));
     verticalScrollBar()->setSingleStep(1);
-    const int width = qRound(painter_.sheet().width * screenDots * zoom_);
+    const int width = qRound(widest_.width * screenDots * zoom_);
     horizontalScrollBar()->setRange(0, std::max(0, width - viewport()->width()));
     horizontalScrollBar()->setPageStep(viewport()->width());
     horizontalScrollBar()->setSingleStep(20);
@@ -87,15 +87,26 @@ PaperUnits PaperView::topY() const {
 }
 
 std::size_t PaperView::presentForm() const {
-    const auto middle = static_cast<PaperUnits>(viewport()->height() / scale() / 2);
-    return roll_.forms().formAt(topY() + middle);
+    return roll_.forms().formAt(topY() + eyes());
+}
+
+// In the middle of the window; towards the ends of the paper, which can't be moved there, ever
+// nearer to the edge.
+PaperUnits PaperView::eyes() const {
+    const double window = viewport()->height() / scale();
+    const auto above = static_cast<double>(topY());
+    const double below = static_cast<double>(verticalScrollBar()->maximum() * lineHeight) - above;
+    const double reach = std::min(window, above + below) / 2;
+    if (above < reach) {
+        return static_cast<PaperUnits>(window / 2 * above / reach);
+    }
+    if (below < reach) {
+        return static_cast<PaperUnits>(window - window / 2 * below / reach);
+    }
+    return static_cast<PaperUnits>(window / 2);
 }
 
 void PaperView::refresh() {
-    const Sheet sheet = sheetFor(roll_.contentWidth(), options_);
-    if (sheet.width != painter_.sheet().width) {
-        painter_ = PaperPainter(sheet, options_);
-    }
     setRanges();
     if (following_) {
         follow();
@@ -182,7 +193,8 @@ void PaperView::zoomStep(bool larger) {
 }
 
 void PaperView::fitWidth() {
-    setZoom(viewport()->width() / (painter_.sheet().width * screenDots));
+    const Sheet present = painter_.sheetOf(*roll_.page(presentForm()));
+    setZoom(viewport()->width() / (present.width * screenDots));
 }
 
 void PaperView::select(const std::optional<PaperRegion>& region) {
@@ -197,13 +209,13 @@ void PaperView::mark(const std::optional<PaperRegion>& found) {
 }
 
 PaperView::Point PaperView::pointAt(const QPointF& pixel) const {
-    return {static_cast<PaperUnits>((pixel.x() - leftEdge()) / scale()) - stripOf(painter_.sheet()),
+    return {static_cast<PaperUnits>((pixel.x() - leftEdge()) / scale()) - stripOf(widest_),
             topY() + static_cast<PaperUnits>(pixel.y() / scale())};
 }
 
 QRectF PaperView::pixelsOf(const PaperRegion& region) const {
     const PaperRegion sorted = region.sorted();
-    const auto strip = static_cast<double>(stripOf(painter_.sheet()));
+    const auto strip = static_cast<double>(stripOf(widest_));
     return {leftEdge() + (static_cast<double>(sorted.left) + strip) * scale(),
             static_cast<double>(sorted.top - topY()) * scale(),
             static_cast<double>(sorted.right - sorted.left) * scale(),
@@ -263,7 +275,6 @@ void PaperView::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(viewport()->rect(), desk);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     const double dots = zoom_ * screenDots / pointsPerInch;
-    const double width = painter_.sheet().width * pointsPerInch * dots;
     const auto bottom = topY() + static_cast<PaperUnits>(viewport()->height() / scale()) + 1;
     const std::size_t last = roll_.forms().formAt(bottom);
     noteSeen(roll_.forms().formAt(topY()), last);
@@ -272,6 +283,7 @@ void PaperView::paintEvent(QPaintEvent* /*event*/) {
         const double y = static_cast<double>(page->shape.top - topY()) * scale();
         painter.save();
         painter.translate(leftEdge(), y);
+        const double width = painter_.sheetOf(*page).width * pointsPerInch * dots;
         painter.fillRect(QRectF(0, 0, width, static_cast<double>(page->shape.height) * scale()),
                          Qt::white);
         painter.scale(dots, dots);
@@ -290,6 +302,7 @@ void PaperView::paintEvent(QPaintEvent* /*event*/) {
 void PaperView::resizeEvent(QResizeEvent* event) {
     QAbstractScrollArea::resizeEvent(event);
     setRanges();
+    emit looked();
 }
 
 void PaperView::mousePressEvent(QMouseEvent* event) {

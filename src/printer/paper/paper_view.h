@@ -45,6 +45,7 @@ public:
     void reveal(const PaperRegion& region);
     // y at the upper edge of the window.
     PaperUnits topY() const;
+    // The one that is looked at.
     std::size_t presentForm() const;
     bool isFollowing() const { return following_; }
     // To the print, and with it from now on.
@@ -81,6 +82,7 @@ private:
     };
     double scale() const;  // pixels for each unit
     double leftEdge() const;
+    PaperUnits eyes() const;  // from the upper edge of the window down
     void setRanges();
     void follow();
     void noteSeen(std::size_t first, std::size_t last);
@@ -93,6 +95,7 @@ private:
     PaperRoll& roll_;
     PaintOptions options_;
     PaperPainter painter_;
+    Sheet widest_;  // of all papers; they lie with their left edges above each other
     double zoom_ = 1.0;
     bool following_ = true;
     std::vector<bool> seen_;  // by form

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 #include <QStatusBar>
+#include <algorithm>
+#include <iterator>
 
 #include "dotmatrix/paper_roll.h"
 #include "forms/form_catalogue.h"
@@ -29,26 +31,29 @@ void PrinterStatus::setWaiting(const QString& text) {
     waiting_->setText(text);
 }
 
-// What lies in the printer, and how it is known of the last job.
-void PrinterStatus::showPaper() {
+void PrinterStatus::showPaper(std::size_t form) {
     if (looks_.design) {
         paper_->setText(QString::fromStdString(formTitle(looks_.design->name)));
     } else {
-        paper_->setText(roll_.followsJobs() ? paperOfJobs() : QStringLiteral("Papel em branco"));
+        paper_->setText(roll_.followsJobs() ? paperOfJobs(form)
+                                            : QStringLiteral("Papel em branco"));
     }
 }
 
-QString PrinterStatus::paperOfJobs() const {
-    const auto present = roll_.presentDesign();
-    const QString paper = present ? QString::fromStdString(formTitle(present->name))
-                                  : QStringLiteral("Papel em branco");
-    const auto& jobs = roll_.jobs();
-    if (!jobs.empty() && !jobs.back().paper.form) {
+// What lies there, and how it is known of the last job that began on it or above it.
+QString PrinterStatus::paperOfJobs(std::size_t form) const {
+    const auto design = roll_.designOf(form);
+    const QString paper = design ? QString::fromStdString(formTitle(design->name))
+                                 : QStringLiteral("Papel em branco");
+    const auto after = std::ranges::upper_bound(roll_.jobs(), form, {}, &RollJob::form);
+    if (after == roll_.jobs().begin()) {
+        return paper;
+    }
+    const JobPaper& known = std::prev(after)->paper;
+    if (!known.form) {
         return paper + QStringLiteral(" (o trabalho não diz o seu papel)");
     }
-    return jobs.empty() || jobs.back().paper.told
-               ? paper
-               : paper + QStringLiteral(" (reconhecido pelo conteúdo)");
+    return known.told ? paper : paper + QStringLiteral(" (reconhecido pelo conteúdo)");
 }
 
 void PrinterStatus::showSpot(const PaperSpot& spot) {

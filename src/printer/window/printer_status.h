@@ -1,5 +1,5 @@
-// The status bar of the printer's window: where jobs are waited for, what paper lies in the
-// printer, what is under the mouse, and how much was printed.
+// The status bar of the printer's window: where jobs are waited for, what paper is looked
+// at, what is under the mouse, and how much was printed.
 #pragma once
 
 #include <QMainWindow>
@@ -19,14 +19,15 @@ public:
     PrinterStatus(QMainWindow& window, const PaperRoll& roll, const PaintOptions& looks);
 
     void setWaiting(const QString& text);
-    void showPaper();
+    // That of this form.
+    void showPaper(std::size_t form);
     void showSpot(const PaperSpot& spot);
     // `held` and `sheets` in words; empty for none.
     void showCounts(const QString& held, const QString& sheets, double zoom);
 
 private:
     QLabel* add(const char* name, int stretch);
-    QString paperOfJobs() const;
+    QString paperOfJobs(std::size_t form) const;
 
     QMainWindow& window_;
     const PaperRoll& roll_;

@@ -73,6 +73,8 @@ void PrinterWindow::makeParts(HoldDesk& desk) {
     status_ = new PrinterStatus(*this, roll_, options_);
     connect(view_, &PaperView::hovered, status_, &PrinterStatus::showSpot);
     connect(view_, &PaperView::zoomed, this, &PrinterWindow::showCounts);
+    connect(view_, &PaperView::zoomed, this, &PrinterWindow::showPaper);
+    connect(view_, &PaperView::looked, this, &PrinterWindow::showPaper);
     search_ = new PaperSearchBar(roll_, *view_, this);
     files_ = new PaperFiles(roll_, options_, questions_, *this);
     files_->setProposal(
@@ -259,10 +261,14 @@ void PrinterWindow::printedAgain() {
 
 void PrinterWindow::paperChanged() {
     view_->refresh();
-    status_->showPaper();
+    showPaper();
     showCounts();
     check_->paperChanged();
     log_->addNotices(roll_.notices());
+}
+
+void PrinterWindow::showPaper() {
+    status_->showPaper(view_->presentForm());
 }
 
 void PrinterWindow::showCounts() {

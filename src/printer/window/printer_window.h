@@ -60,6 +60,7 @@ private:
     void jobEnded(const QString& name, const QString& why);
     void printedAgain();
     void paperChanged();
+    void showPaper();
     void showCounts();
     void complain(const QString& text);
 
