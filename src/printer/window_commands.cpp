@@ -30,7 +30,11 @@ void WindowCommands::separate() {
 QAction* WindowCommands::place(const Command& command) {
     auto* action = new QAction(command.text, &window_);
     action->setObjectName(QLatin1StringView(command.name));
-    action->setShortcut(command.keys);
+    QList<QKeySequence> keys{command.keys};
+    if (!command.alsoKeys.isEmpty()) {
+        keys += command.alsoKeys;
+    }
+    action->setShortcuts(keys);
     if (!command.hint.isEmpty()) {
         const QString shown = command.keys.toString(QKeySequence::NativeText);
         action->setToolTip(shown.isEmpty() ? command.hint

@@ -16,6 +16,7 @@ struct Command {
     const char* name = "";  // of the object
     QString text{};
     QKeySequence keys{};
+    QKeySequence alsoKeys{};  // the same on another block of the keyboard
     QString hint{};
     bool inTools = false;  // is in the tool bar too
 };

@@ -109,6 +109,14 @@ TEST_F(Window, TheViewFollowsThePrintUntilOneLooksElsewhere) {
     EXPECT_TRUE(inSight(roll_.headY()));
 }
 
+// With its frame, and with the status bar in sight.
+TEST_F(Window, ItOpensNoLargerThanTheScreen) {
+    const PrinterWindow another{roll_, intake_, held_, {}};
+    const QSize room = another.screen()->availableSize();
+    EXPECT_LT(another.width(), room.width());
+    EXPECT_LT(another.height(), room.height() - 30);
+}
+
 TEST_F(Window, ZoomByKeysAndWheel) {
     press(Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_DOUBLE_EQ(view_.zoom(), 1.25);
@@ -667,6 +675,13 @@ TEST_F(Window, StaysAwakeWhileTenThousandFormsComeIn) {
     EXPECT_EQ(roll_.printedForms(), 10'000U);
     press(Qt::Key_End);
     EXPECT_GE(view_.presentForm(), 9'999U);
+}
+
+TEST_F(Window, EitherEnterOfTheKeyboardPassesAJobOn) {
+    const auto& release = named<QAction>(window_, "release");
+    EXPECT_TRUE(release.shortcuts().contains(QKeySequence(Qt::CTRL | Qt::Key_Return)));
+    EXPECT_TRUE(release.shortcuts().contains(QKeySequence(Qt::CTRL | Qt::Key_Enter)));
+    EXPECT_TRUE(release.toolTip().endsWith(QStringLiteral("(Ctrl+Enter)")));
 }
 
 TEST_F(Window, EveryCommandHasATextAndAHint) {

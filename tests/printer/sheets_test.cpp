@@ -163,6 +163,22 @@ TEST_F(Sheets, TheyAreTakenAwayAndComeAgainWhenTheyChange) {
     EXPECT_TRUE(counts(", 4 folha(s)"));
 }
 
+TEST_F(Sheets, AnEmptyPanelSaysWhatComesThere) {
+    QTest::keyClick(&view_, Qt::Key_F7);
+    ASSERT_TRUE(sheets_.isVisible());
+    const auto inked = [this] {
+        const QImage image = sheets_.viewport()->grab().toImage();
+        int dark = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                dark += qGray(image.pixel(x, y)) < 100 ? 1 : 0;
+            }
+        }
+        return dark;
+    };
+    EXPECT_GT(inked(), 100);
+}
+
 TEST_F(Sheets, WhoClosesThePanelHasItBackByAKey) {
     draw("job-001.pdf");
     ASSERT_TRUE(shows("job-001.pdf, página 1 de 1"));

@@ -18,6 +18,7 @@ inline constexpr int printerLimit = 60'000;  // milliseconds; for a machine that
 class ShownPrinter : public testing::Test {
 protected:
     void SetUp() override {
+        window_.resize(1100, 780);
         window_.show();
         window_.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));

@@ -87,7 +87,8 @@ void HoldView::addMenu(WindowCommands& commands) {
     commands.separate();
     commands.add({.name = "release",
                   .text = QStringLiteral("&Repassar o trabalho"),
-                  .keys = QKeySequence(Qt::CTRL | Qt::Key_Return),
+                  .keys = QKeySequence(Qt::CTRL | Qt::Key_Enter),
+                  .alsoKeys = QKeySequence(Qt::CTRL | Qt::Key_Return),
                   .hint = QStringLiteral("Manda o trabalho escolhido à fila, como chegou"),
                   .inTools = true},
                  [this] { panel_->release(); });

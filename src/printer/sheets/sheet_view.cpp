@@ -207,6 +207,13 @@ void SheetView::paintEvent(QPaintEvent* /*event*/) {
          row < rows_.size() && rows_[row].top < bottom; ++row) {
         paintRow(painter, rows_[row]);
     }
+    if (rows_.empty()) {
+        painter.setPen(captionInk);
+        painter.drawText(viewport()->rect().adjusted(gap, gap, -gap, -gap),
+                         Qt::TextWordWrap | Qt::AlignHCenter | Qt::AlignTop,
+                         QStringLiteral("Nenhuma folha: as duplicatas, os recibos e as outras "
+                                        "páginas desenhadas aparecem aqui."));
+    }
     drawNext();
 }
 

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QFile>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStatusBar>
 #include <chrono>
 
@@ -27,6 +28,9 @@ namespace tarn::dotmatrix {
 namespace {
 
 constexpr std::chrono::milliseconds repaintInterval(40);
+// Pixels, of the window and of what a window manager puts around it.
+constexpr QSize usualSize(1100, 780);
+constexpr QSize frame(8, 38);
 
 // By what is in it, and by its name where that is broken.
 bool isSheet(const QString& file) {
@@ -43,7 +47,7 @@ PrinterWindow::PrinterWindow(PaperRoll& roll, JobIntake& intake, HoldDesk& desk,
     : roll_(roll), intake_(intake), options_(options) {
     setObjectName(QStringLiteral("PrinterWindow"));
     setWindowTitle(QStringLiteral("Impressora matricial virtual"));
-    resize(1100, 780);
+    resize(usualSize.boundedTo(screen()->availableSize() - frame));
     questions_ = askTheUser(this);
     makeParts(desk);
     makeMenus(itemLines);
