@@ -1,12 +1,16 @@
 #include "desk/mdi_menu.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QGridLayout>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QMenuBar>
 #include <QScreen>
+#include <QShortcutEvent>
 #include <QShowEvent>
+#include <algorithm>
 
 #include "billing/frm_oft.h"
 #include "bills/frm_pesq_dupli.h"
@@ -46,6 +50,24 @@ QSize openingSize(const QSize& monitor) {
     return (monitor * monitorPart).expandedTo(smallMonitor).boundedTo(monitor - windowFrame);
 }
 
+// A menu bar gives itself the keyboard for a menu that can't open.
+bool isForLockedMenu(const QMenuBar& bar, const QShortcutEvent& stroke) {
+    const QList<QAction*> entries = bar.actions();
+    return std::ranges::any_of(entries, [&](const QAction* entry) {
+        return !entry->isEnabled() && QKeySequence::mnemonic(entry->text()) == stroke.key();
+    });
+}
+
+// A menu bar that was used by its keys keeps them when its menu has closed.
+void takeKeys(QWidget& screen) {
+    QWidget* wanted = screen.focusWidget();
+    const QWidget* present = QApplication::focusWidget();
+    if (wanted != nullptr && QApplication::activeModalWidget() == nullptr &&
+        (present == nullptr || !screen.isAncestorOf(present))) {
+        wanted->setFocus(Qt::OtherFocusReason);
+    }
+}
+
 QString titleWithSession() {
     return QStringLiteral("TARN EMISSÕES - Rotina Mercantil - Versão de %1 - %2")
         .arg(QLatin1StringView(versionDate), QLatin1StringView(releaseName));
@@ -65,6 +87,7 @@ MDIMenu::MDIMenu(DeskContext& desk)
     resize(openingSize(screen()->availableSize()));
     setMinimumWidth(menuBar()->sizeHint().width());
     ui_->mdiArea->viewport()->installEventFilter(this);
+    menuBar()->installEventFilter(this);
     connect(ui_->mdiArea, &QMdiArea::subWindowActivated, this, &MDIMenu::centre);
     connectMenu();
 }
@@ -209,6 +232,8 @@ void MDIMenu::openInArea(Screen* screen) {
     fitScreens();
     window->show();
     screen->load();
+    QMetaObject::invokeMethod(
+        screen, [screen] { takeKeys(*screen); }, Qt::QueuedConnection);
 }
 
 void MDIMenu::mnuDuplicata_Click() {
@@ -270,7 +295,10 @@ void MDIMenu::fitScreens() {
 }
 
 bool MDIMenu::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize) {
+    if (watched == menuBar() && event->type() == QEvent::Shortcut) {
+        return isForLockedMenu(*menuBar(), static_cast<const QShortcutEvent&>(*event));
+    }
+    if (watched != menuBar() && event->type() == QEvent::Resize) {
         fitScreens();
     }
     return QMainWindow::eventFilter(watched, event);
