@@ -10,6 +10,7 @@
 #include "widgets/desk_palette.h"
 #include "widgets/desk_style.h"
 #include "widgets/late_icon.h"
+#include "widgets/toolkit_words.h"
 
 // Resources of a static library are linked in by this call; it must stand outside of
 // any namespace.
@@ -27,6 +28,7 @@ void translateToolkit(QApplication& program) {
                          QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QApplication::installTranslator(translator);
     }
+    QApplication::installTranslator(new ToolkitWords(&program));
 }
 
 void showPicture(QPushButton& button, const char* name, int side) {

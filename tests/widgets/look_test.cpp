@@ -5,12 +5,15 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileDialog>
+#include <QFileSystemModel>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolTip>
 #include <QVBoxLayout>
@@ -128,6 +131,22 @@ TEST_F(Look, ADarkDesktopChangesNothing) {
         EXPECT_EQ(QApplication::palette(kind), usual) << kind;
     }
     EXPECT_EQ(QToolTip::palette(), usual);
+}
+
+// What the toolkit's own translation leaves in English.
+TEST(ToolkitTexts, AFileDialogTellsAFolderInPortuguese) {
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("notas")));
+    QFileDialog dialog(nullptr, QString(), folder.path());
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.show();
+    const auto* model = dialog.findChild<QFileSystemModel*>();
+    ASSERT_NE(model, nullptr);
+    const auto kind = [&] {
+        return model->type(model->index(folder.filePath(QStringLiteral("notas"))));
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return kind() == QStringLiteral("Pasta"); }))
+        << kind().toStdString();
 }
 
 }  // namespace
