@@ -9,6 +9,7 @@
 
 #include <QTemporaryDir>
 #include <atomic>
+#include <condition_variable>
 #include <iostream>
 #include <mutex>
 #include <set>
@@ -57,6 +58,7 @@ public:
                   if (auto job = server.nextJob(std::chrono::seconds(5))) {
                       const std::lock_guard lock(mutex_);
                       jobs_.push_back(std::move(*job));
+                      came_.notify_all();
                   }
               }
           }) {}
@@ -72,6 +74,16 @@ public:
         const std::lock_guard lock(mutex_);
         return jobs_;
     }
+    // Until the job is the latest that came; false when none comes for too long.
+    bool await(int job) {
+        std::unique_lock lock(mutex_);
+        while (jobs_.empty() || numberOfHeld(jobs_.back()) != job) {
+            if (came_.wait_for(lock, longestSilence) == std::cv_status::timeout) {
+                return false;
+            }
+        }
+        return true;
+    }
     void stop() {
         done_ = true;
         if (thread_.joinable()) {
@@ -81,6 +93,7 @@ public:
 
 private:
     std::mutex mutex_;
+    std::condition_variable came_;
     std::vector<std::string> jobs_;
     std::atomic<bool> done_ = false;
     std::thread thread_;
@@ -140,17 +153,6 @@ protected:
         return taken;
     }
 
-    // Whether any job is still on its way to the queue.
-    bool allPassedOn() const {
-        for (const auto& entry : fs::directory_iterator(spool())) {
-            const std::string state = entry.path().extension().string();
-            if (state == ".held" || state == ".handing-over") {
-                return false;
-            }
-        }
-        return true;
-    }
-
     std::string statesOfJobs() const {
         std::string states;
         for (const auto& entry : fs::directory_iterator(spool())) {
@@ -160,20 +162,12 @@ protected:
         return states;
     }
 
-    // Until the queue is empty too: the printer has as many jobs as were passed on.
-    void awaitAll(LastPrinter& printer, std::size_t least) const {
-        auto last = std::chrono::steady_clock::now();
-        std::size_t seen = printer.count();
-        while (!allPassedOn() || printer.count() < least) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(20));
-            if (printer.count() != seen) {
-                seen = printer.count();
-                last = std::chrono::steady_clock::now();
-            }
-            ASSERT_LT(std::chrono::steady_clock::now() - last, longestSilence)
-                << "the printer got " << seen << " of " << least << " jobs\n"
-                << statesOfJobs() << server_->errorLog();
-        }
+    // All come out in the order in which they were taken: behind the last one that was, none
+    // is missing and none comes a second time.
+    void awaitLast(LastPrinter& printer, int job) const {
+        ASSERT_TRUE(printer.await(job)) << "the printer got " << printer.count() << " jobs\n"
+                                        << statesOfJobs() << server_->errorLog();
+        printer.stop();
     }
 
     // Whole, each once, in the order of their numbers, all of `taken` among them.
@@ -223,13 +217,11 @@ TEST_F(KilledHolder, PassesOnEachJobOfTheNetworkOnce) {
     }
     HoldingProgram last;
     ASSERT_NO_FATAL_FAILURE(last.start(arguments() + QStringList{"--porta", "0"}));
-    while (static_cast<int>(taken.size()) < wanted && !HasFailure()) {
+    do {
         ASSERT_TRUE(isTaken(last.port(), next));
         taken.insert(next++);
-    }
-    ASSERT_NO_FATAL_FAILURE(awaitAll(printer, taken.size()));
-    std::this_thread::sleep_for(std::chrono::seconds(1));  // one too many would come now
-    printer.stop();
+    } while (static_cast<int>(taken.size()) < wanted);
+    ASSERT_NO_FATAL_FAILURE(awaitLast(printer, next - 1));
     expectRight(printer.jobs(), taken);
     std::cout << kills << " kills, " << next - 1 << " jobs sent, " << taken.size()
               << " told as taken, " << printer.jobs().size() << " printed, each once\n";
@@ -242,12 +234,15 @@ TEST_F(KilledHolder, PassesOnEachFileOfAFolderOnce) {
     const fs::path jobs = folder_.filePath("fila").toStdString();
     DirectorySpooler spooler(jobs);
     std::set<int> all;
-    for (int job = 1; job <= wanted; ++job) {
+    const auto put = [&](int job) {
         const std::string bytes = heldBytes(job);
         ASSERT_TRUE(spooler.openPrinter("x") && spooler.startDocument({}) && spooler.startPage() &&
                     spooler.write(bytes) == bytes.size() && spooler.endPage() &&
                     spooler.endDocument() && spooler.closePrinter());
         all.insert(job);
+    };
+    for (int job = 1; job <= wanted; ++job) {
+        ASSERT_NO_FATAL_FAILURE(put(job));
     }
     LastPrinter printer(*server_);
     const QStringList start = arguments() + QStringList{"--pasta", jobs.c_str()};
@@ -266,9 +261,8 @@ TEST_F(KilledHolder, PassesOnEachFileOfAFolderOnce) {
     }
     HoldingProgram last;
     ASSERT_NO_FATAL_FAILURE(last.start(start));
-    ASSERT_NO_FATAL_FAILURE(awaitAll(printer, all.size()));
-    std::this_thread::sleep_for(std::chrono::seconds(1));  // one too many would come now
-    printer.stop();
+    ASSERT_NO_FATAL_FAILURE(put(wanted + 1));
+    ASSERT_NO_FATAL_FAILURE(awaitLast(printer, wanted + 1));
     expectRight(printer.jobs(), all);
     EXPECT_EQ(printer.jobs().size(), all.size());
     std::cout << kills << " kills, " << all.size() << " files, each printed once\n";
