@@ -41,16 +41,15 @@ std::optional<int> itemLinesOf(std::string_view word) {
 // "12 4 words" of a cut; nothing where it is none.
 std::optional<JobCut> cutOf(std::string_view value) {
     JobCut cut;
-    const char* end = value.data() + value.size();
-    const auto line = std::from_chars(value.data(), end, cut.line);
-    if (line.ec != std::errc() || line.ptr == end || cut.line < 0) {
-        return std::nullopt;
+    for (int* number : {&cut.line, &cut.column}) {
+        const char* end = value.data() + value.size();
+        const auto read = std::from_chars(value.data(), end, *number);
+        if (read.ec != std::errc() || read.ptr == end || *read.ptr != ' ' || *number < 0) {
+            return std::nullopt;
+        }
+        value = {read.ptr + 1, end};
     }
-    const auto column = std::from_chars(line.ptr + 1, end, cut.column);
-    if (column.ec != std::errc() || column.ptr == end || cut.column < 0) {
-        return std::nullopt;
-    }
-    cut.what.assign(column.ptr + 1, end);
+    cut.what = value;
     return cut;
 }
 

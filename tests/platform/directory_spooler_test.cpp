@@ -4,10 +4,10 @@
 
 #include <cerrno>
 #include <fstream>
-#include <iterator>
 
 #include "platform/directory/new_file.h"
 #include "runtime/file_names.h"
+#include "tests/support/files.h"
 #include "tests/support/own_directory.h"
 #include "tests/support/raw_jobs.h"
 
@@ -19,9 +19,8 @@ namespace fs = std::filesystem;
 class DirectorySpoolerTest : public testing::Test {
 protected:
     std::string bytesOf(const std::string& name) const {
-        std::ifstream file(directory_ / name, std::ios::binary);
-        EXPECT_TRUE(file.good()) << name;
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+        EXPECT_TRUE(fs::exists(directory_ / name)) << name;
+        return contentOf(directory_ / name);
     }
 
     static bool print(DirectorySpooler& spooler, std::string_view bytes) {
@@ -187,7 +186,7 @@ TEST(JobKindText, LongCutsAreShortenedAndManyLeftOut) {
 TEST(JobKindText, ACutThatIsNoneIsLeftOut) {
     const JobKind read = readJobKind(
         "documento nota\ncorta 1 1 antes\ncortes 3\ncorta 1\ncorta x y z\n"
-        "corta -1 2 z\ncorta 1 2\ncorta 3 4 z\n");
+        "corta -1 2 z\ncorta 1 2\ncorta 1x2 z\ncorta 1 2x z\ncorta 3 4 z\n");
     ASSERT_TRUE(read.cuts);
     EXPECT_EQ(*read.cuts, (std::vector<JobCut>{{3, 4, "z"}}));
 }
