@@ -6,19 +6,16 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 
 #include "printer/paper/paper_check.h"
+#include "printer/view_looks.h"
 
 namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr double screenDots = 96;  // an inch at zoom 1
 constexpr double wheelStep = 1.15;
-constexpr std::chrono::milliseconds untilReadOut(150);
-const QColor desk(203, 209, 209);
 const QColor fullColour(240, 170, 40, 90);
 const QColor faultColour(214, 60, 50, 90);
 const QColor selectedColour(31, 111, 120, 60);
@@ -272,7 +269,7 @@ void PaperView::paintFaults(QPainter& painter, const FormPage& page) const {
 
 void PaperView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(viewport());
-    painter.fillRect(viewport()->rect(), desk);
+    painter.fillRect(viewport()->rect(), QColor(deskColour));
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     const double dots = zoom_ * screenDots / pointsPerInch;
     const auto bottom = topY() + static_cast<PaperUnits>(viewport()->height() / scale()) + 1;

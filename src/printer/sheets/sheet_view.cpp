@@ -6,21 +6,18 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 
 #include "dotmatrix/paper_canvas.h"
+#include "printer/view_looks.h"
 
 namespace tarn::dotmatrix {
 
 namespace {
 
-constexpr double screenDots = 96;  // an inch at zoom 1
-constexpr int gap = 10;            // pixels around a sheet
+constexpr int gap = 10;  // pixels around a sheet
 constexpr int wheelRows = 20;
 constexpr qsizetype mostPictureBytes = 192LL * 1024 * 1024;
-constexpr std::chrono::milliseconds untilReadOut(150);
-const QColor desk(203, 209, 209);
 const QColor captionInk(40, 48, 50);
 const QColor sheetEdge(140, 146, 146);
 const QColor waitingInk(110, 110, 110);
@@ -57,10 +54,7 @@ void SheetView::setZoom(double zoom) {
     if (zoom != zoom_) {
         const auto before = place();
         zoom_ = zoom;
-        layOut();
-        if (before) {
-            goTo(*before);
-        }
+        layOutAround(before);
     }
 }
 
@@ -90,6 +84,14 @@ void SheetView::relay() {
         goTo(*before);
     }
     reading_.start();
+}
+
+// What was looked at before stays where it is.
+void SheetView::layOutAround(const std::optional<Place>& before) {
+    layOut();
+    if (before) {
+        goTo(*before);
+    }
 }
 
 void SheetView::layOut() {
@@ -201,7 +203,7 @@ QRect SheetView::pageRect(const Row& row) const {
 void SheetView::paintEvent(QPaintEvent* /*event*/) {
     ++paintings_;
     QPainter painter(viewport());
-    painter.fillRect(viewport()->rect(), desk);
+    painter.fillRect(viewport()->rect(), QColor(deskColour));
     const int bottom = verticalScrollBar()->value() + viewport()->height();
     for (std::size_t row = rowAt(verticalScrollBar()->value());
          row < rows_.size() && rows_[row].top < bottom; ++row) {
@@ -319,11 +321,7 @@ void SheetView::dropOld() {
 
 void SheetView::resizeEvent(QResizeEvent* event) {
     QAbstractScrollArea::resizeEvent(event);
-    const auto before = place();
-    layOut();
-    if (before) {
-        goTo(*before);
-    }
+    layOutAround(place());
 }
 
 void SheetView::mousePressEvent(QMouseEvent* event) {

@@ -71,6 +71,7 @@ private:
     using Key = std::pair<QString, int>;
 
     void layOut();
+    void layOutAround(const std::optional<Place>& before);
     void addRows(std::size_t file);
     void relay();
     std::optional<Place> place() const;
