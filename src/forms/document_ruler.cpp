@@ -11,6 +11,7 @@
 #include "common/field_watch.h"
 #include "common/raw_channel.h"
 #include "common/ruler_marks.h"
+#include "dotmatrix/control_codes.h"
 #include "forms/document_forms.h"
 #include "forms/document_samples.h"
 #include "labels/raw_form.h"
@@ -22,7 +23,6 @@ namespace tarn::dotmatrix {
 namespace {
 
 constexpr std::string_view lineEnd = "\r\n";
-constexpr char escape = '\x1B';
 constexpr int plainColumns = 80;
 constexpr int plainLines = 65;  // a sheet's but the last, so that it doesn't go on to the next
 
@@ -32,7 +32,7 @@ bool commands(std::string_view body) {
 
 // "ESC A n", "ESC 0" and the like: the rows are no longer a sixth of an inch apart.
 bool setsSpacing(std::string_view body) {
-    const std::size_t at = body.find(escape);
+    const std::size_t at = body.find(static_cast<char>(escape));
     return at != std::string_view::npos && at + 1 < body.size() &&
            std::string_view("0A3").find(body[at + 1]) != std::string_view::npos;
 }
