@@ -9,6 +9,8 @@
 #include "cli/arguments.h"
 #include "dotmatrix/dialect.h"
 #include "dotmatrix/form_file.h"
+#include "forms/document_forms.h"
+#include "forms/form_catalogue.h"
 #include "forms/form_loader.h"
 #include "forms/layout_forms.h"
 
@@ -17,17 +19,21 @@ namespace {
 using tarn::printer::complain;
 using tarn::printer::Options;
 
-// Name, company, establishment, and "nota" where the note's items make the form's lines.
+// Of a note's form name, company, establishment, and "nota" where the note's items make the
+// form's lines; of any other its name.
 int listForms() {
     for (const tarn::dotmatrix::LadderForm& form : tarn::dotmatrix::ladderForms()) {
         std::printf("%s %d %d%s\n", form.name.c_str(), form.company, form.establishment,
                     form.linesOfNote ? " nota" : "");
     }
+    for (const tarn::dotmatrix::NamedDocumentForm& form : tarn::dotmatrix::documentForms()) {
+        std::printf("%s\n", form.name.c_str());
+    }
     return 0;
 }
 
 int showForm(const Options& options) {
-    const auto form = tarn::dotmatrix::layoutForm(options.writtenForm, options.itemLines);
+    const auto form = tarn::dotmatrix::formDrawing(options.writtenForm, options.itemLines);
     if (!form) {
         complain(QStringLiteral("não há formulário \"%1\". Veja os nomes com --formularios.")
                      .arg(QString::fromStdString(options.writtenForm)));

@@ -80,7 +80,7 @@ void declarePaper(cli::CommandLine& line, Options& options, Panel& panel) {
     line.whole("--itens", options.itemLines, 0, mostItems,
                "linhas de item do formulário (usual: as que enchem 11 polegadas)");
     line.flag("--formularios", options.listForms,
-              "mostra os formulários: nome, empresa e estabelecimento");
+              "mostra os nomes dos formulários; os das notas com uma empresa e um estabelecimento");
     line.text("--mostra-formulario", options.writtenForm,
               "mostra um formulário escrito em texto, para servir de começo a outro");
     line.flag("--regua", options.ruler, "desenha os números das linhas e das colunas");

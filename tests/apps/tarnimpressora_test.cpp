@@ -195,15 +195,21 @@ TEST_F(CommandLine, WithoutADisplayItSaysWhatToGive) {
 TEST_F(CommandLine, FormsAreListedAndWrittenAsText) {
     const Ran list = run({"--formularios"});
     EXPECT_EQ(list.status, 0);
-    EXPECT_EQ(QString::fromStdString(list.out).count(u'\n'), 23);
+    EXPECT_EQ(QString::fromStdString(list.out).count(QStringLiteral("ImprimeNF_")), 23);
     EXPECT_NE(list.out.find("ImprimeNF_2421_3621 2421 3621\nImprimeNF_2421 2421 1\n"),
               std::string::npos);
     EXPECT_NE(list.out.find("ImprimeNF_E6001 1 6001\n"), std::string::npos);
     EXPECT_NE(list.out.find("ImprimeNF_Padrao 1 1 nota\n"), std::string::npos);
+    for (const char* form : {"Boleto_1016_57", "Boleto_1016", "Cheque_33", "Cheque",
+                             "OrdemFaturamento_1361", "OrdemFaturamento", "Etiquetas"}) {
+        EXPECT_NE(list.out.find("\n" + std::string(form) + "\n"), std::string::npos) << form;
+    }
     const Ran form = run({"--mostra-formulario", "ImprimeNF_1361"});
     EXPECT_EQ(form.status, 0);
     EXPECT_EQ(form.out.find("nome ImprimeNF_1361\naltura 66\nligar 10\npasso 17\n"), 0U);
     EXPECT_NE(form.out.find("caixa 9,5 2 82 1,5 Nome / razão social\n"), std::string::npos);
+    const Ran cheque = run({"--mostra-formulario", "Cheque"});
+    EXPECT_EQ(cheque.out.find("nome Cheque\naltura 18\n"), 0U) << cheque.out;
     const Ran shorter = run({"--mostra-formulario", "ImprimeNF_1361", "--itens", "6"});
     EXPECT_NE(shorter.out.find("altura 59\n"), std::string::npos);
 }
