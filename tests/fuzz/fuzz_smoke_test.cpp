@@ -5,13 +5,12 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <string>
 #include <vector>
 
 #include "tests/fuzz/fuzz_entries.h"
+#include "tests/support/files.h"
 
 namespace tarn::fuzz {
 
@@ -29,8 +28,8 @@ std::vector<Bytes> seedsOf(const std::string& name) {
     std::sort(paths.begin(), paths.end());
     std::vector<Bytes> seeds;
     for (const auto& path : paths) {
-        std::ifstream file(path, std::ios::binary);
-        seeds.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+        const std::string bytes = test::contentOf(path);
+        seeds.emplace_back(bytes.begin(), bytes.end());
     }
     return seeds;
 }
