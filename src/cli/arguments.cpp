@@ -10,6 +10,8 @@
 #include "runtime/wide_text.h"
 #endif
 
+#include "runtime/plain_patterns.h"
+
 namespace tarn::cli {
 namespace {
 
@@ -56,6 +58,7 @@ void showPage(unsigned int /*page*/) {}
 
 Arguments::Arguments(int argc, const char* const* argv)
     : texts_(systemsWords()), consolePage_(showUtf8()) {
+    keepPatternsPlain();
     if (texts_.empty()) {
         texts_.assign(argv, argv + argc);
     }

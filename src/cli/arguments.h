@@ -6,8 +6,9 @@
 
 namespace tarn::cli {
 
-// Windows hands `main` its words in its 8-bit page, where most letters are lost. As long as
-// this lives, a console of Windows shows what is written to it as UTF-8.
+// What every program begins with. Windows hands `main` its words in its 8-bit page, where most
+// letters are lost. As long as this lives, a console of Windows shows what is written to it as
+// UTF-8. Qt's regular expressions are plain from here on.
 class Arguments {
 public:
     Arguments(int argc, const char* const* argv);

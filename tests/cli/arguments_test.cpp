@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace tarn::test {
 namespace {
 
@@ -26,6 +28,15 @@ TEST(Arguments, AreThoseOfTheProgramThatRuns) {
     ASSERT_GE(arguments.count(), 1);
     EXPECT_NE(std::string(arguments.values()[0]).find("command_line_test"), std::string::npos);
     EXPECT_EQ(arguments.values()[arguments.count()], nullptr);
+}
+
+// Threads' ends depend on it: runtime/plain_patterns.h.
+TEST(Arguments, LeavePatternsUncompiled) {
+    _putenv_s("QT_ENABLE_REGEXP_JIT", "");
+    const cli::Arguments arguments(0, nullptr);
+    const char* asked = std::getenv("QT_ENABLE_REGEXP_JIT");
+    ASSERT_NE(asked, nullptr);
+    EXPECT_STREQ(asked, "0");
 }
 
 #endif
