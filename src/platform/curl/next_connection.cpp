@@ -97,7 +97,7 @@ void NextConnection::replace() {
         resting_ = false;
         return;
     }
-    spare_ = beginConnection(peer_);
+    spare_ = canHandOver ? beginConnection(peer_) : CURL_SOCKET_BAD;
     end_ = std::chrono::steady_clock::now() + life_;
     resting_ = spare_ != CURL_SOCKET_BAD;
 }

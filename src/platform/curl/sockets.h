@@ -20,6 +20,14 @@ struct Peer {
 
 Peer peerOf(const curl_sockaddr& address);
 
+// Whether libcurl can be handed a connection that is there. Of 7.88 it asks for one all the same,
+// which other systems grant, and Windows refuses.
+#ifdef _WIN32
+inline constexpr bool canHandOver = false;
+#else
+inline constexpr bool canHandOver = true;
+#endif
+
 // CURL_SOCKET_BAD where the system gives none.
 curl_socket_t newSocket(const Peer& peer);
 // Begins to connect and doesn't wait; CURL_SOCKET_BAD where that fails at once.
