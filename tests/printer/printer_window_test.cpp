@@ -295,7 +295,8 @@ TEST_F(Window, ASavedFileIsToldWithItsPathAndNamedByItsDocument) {
     saveAs_ = file("p.txt");
     choose(window_, "fileMenu", "saveText");
     EXPECT_EQ(suggested_, QStringLiteral("job-007.txt"));
-    EXPECT_EQ(window_.statusBar()->currentMessage(), QStringLiteral("Gravado em ") + file("p.txt"));
+    EXPECT_EQ(window_.statusBar()->currentMessage(),
+              QStringLiteral("Gravado em ") + QDir::toNativeSeparators(file("p.txt")));
     job("dois\r\n", "rede 127.0.0.1, 10:32:05");
     saveAs_.clear();
     choose(window_, "fileMenu", "savePdf");

@@ -1,45 +1,29 @@
 #include "tests/support/loopback_server.h"
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdlib>
-#include <stdexcept>
 #include <string_view>
+
+#include "tests/support/own_environment.h"
 
 namespace tarn::test {
 namespace {
 
-bool sendAll(int connection, std::string_view data) {
-    while (!data.empty()) {
-        const ssize_t sent = ::send(connection, data.data(), data.size(), MSG_NOSIGNAL);
-        if (sent <= 0) {
-            return false;
-        }
-        data.remove_prefix(static_cast<std::size_t>(sent));
-    }
-    return true;
-}
-
-std::string readHead(int connection) {
+std::string readHead(Socket connection) {
     std::string head;
     std::array<char, 4096> buffer{};
     while (head.find("\r\n\r\n") == std::string::npos) {
-        const ssize_t count = ::recv(connection, buffer.data(), buffer.size(), 0);
-        if (count <= 0) {
+        const std::size_t count = receiveSome(connection, buffer.data(), buffer.size());
+        if (count == 0) {
             break;
         }
-        head.append(buffer.data(), static_cast<std::size_t>(count));
+        head.append(buffer.data(), count);
     }
     return head;
 }
 
-void sendReply(int connection, const LoopbackReply& reply) {
+void sendReply(Socket connection, const LoopbackReply& reply) {
     const std::size_t announced = reply.body.size() + reply.streamed + reply.missing;
     std::string head = "HTTP/1.1 " + std::to_string(reply.status) + " x\r\nConnection: close\r\n";
     head += "Content-Length: " + std::to_string(announced) + "\r\n";
@@ -114,29 +98,17 @@ LoopbackReply LoopbackReply::gzip(const std::string& text) {
     return {.body = packed, .headers = {"Content-Encoding: gzip"}};
 }
 
-LoopbackServer::LoopbackServer() {
-    ::setenv("no_proxy", "127.0.0.1,localhost", 1);  // no proxy of the machine's comes between
-    listener_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t length = sizeof address;
-    auto* generic = reinterpret_cast<sockaddr*>(&address);
-    if (listener_ < 0 || ::bind(listener_, generic, length) != 0 || ::listen(listener_, 16) != 0 ||
-        ::getsockname(listener_, generic, &length) != 0) {
-        throw std::runtime_error("no loopback port");
-    }
-    port_ = ntohs(address.sin_port);
+LoopbackServer::LoopbackServer() : listener_(listenOnLoopback()) {
+    setVariable("no_proxy", "127.0.0.1,localhost");  // no proxy of the machine's comes between
     thread_ = std::thread([this] { serve(); });
 }
 
 LoopbackServer::~LoopbackServer() {
     closePort();
-    ::close(listener_);
 }
 
 std::string LoopbackServer::baseUrl() const {
-    return "http://127.0.0.1:" + std::to_string(port_) + "/Kestomain/TarnEmissao.asp?";
+    return "http://127.0.0.1:" + std::to_string(port()) + "/Kestomain/TarnEmissao.asp?";
 }
 
 LoopbackServer& LoopbackServer::on(const std::string& part, LoopbackReply reply) {
@@ -151,18 +123,20 @@ void LoopbackServer::setHandler(Handler handler) {
 }
 
 void LoopbackServer::closePort() {
+    if (!thread_.joinable()) {
+        return;
+    }
     {
         const std::scoped_lock lock(mutex_);
         stopping_ = true;
-        ::shutdown(listener_, SHUT_RDWR);
-        if (connection_ >= 0) {
-            ::shutdown(connection_, SHUT_RDWR);
+        if (connection_ != noSocket) {
+            endBothWays(connection_);
         }
     }
     changed_.notify_all();
-    if (thread_.joinable()) {
-        thread_.join();
-    }
+    knock(port());
+    thread_.join();
+    closeSocket(listener_.socket);
 }
 
 void LoopbackServer::release() {
@@ -202,12 +176,12 @@ std::vector<std::string> LoopbackServer::queries() const {
 
 void LoopbackServer::serve() {
     while (true) {
-        const int connection = ::accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
+        const Socket connection = nextConnection(listener_.socket);
         {
             const std::scoped_lock lock(mutex_);
-            if (connection < 0 || stopping_) {
-                if (connection >= 0) {
-                    ::close(connection);
+            if (connection == noSocket || stopping_) {
+                if (connection != noSocket) {
+                    closeSocket(connection);
                 }
                 return;
             }
@@ -215,12 +189,12 @@ void LoopbackServer::serve() {
         }
         answer(connection);
         const std::scoped_lock lock(mutex_);
-        connection_ = -1;
-        ::close(connection);
+        connection_ = noSocket;
+        closeSocket(connection);
     }
 }
 
-void LoopbackServer::answer(int connection) {
+void LoopbackServer::answer(Socket connection) {
     const std::string head = readHead(connection);
     if (head.empty()) {
         return;
@@ -235,11 +209,11 @@ void LoopbackServer::answer(int connection) {
     if (!reply.closesAtOnce) {
         sendReply(connection, reply);
         drip(connection, reply);
-        ::shutdown(connection, SHUT_WR);
+        endSending(connection);
     }
 }
 
-void LoopbackServer::drip(int connection, const LoopbackReply& reply) {
+void LoopbackServer::drip(Socket connection, const LoopbackReply& reply) {
     std::unique_lock lock(mutex_);
     if (reply.drip > reply.drip.zero()) {
         std::size_t left = reply.streamed;

@@ -14,6 +14,8 @@
 #include <thread>
 #include <vector>
 
+#include "tests/support/plain_sockets.h"
+
 namespace tarn::test {
 
 struct LoopbackReply {
@@ -45,7 +47,7 @@ public:
     LoopbackServer(const LoopbackServer&) = delete;
     LoopbackServer& operator=(const LoopbackServer&) = delete;
 
-    int port() const { return port_; }
+    int port() const { return listener_.port; }
     std::string baseUrl() const;  // the one page, question mark included
 
     // The next answers for request lines that contain `part`, one request each, the
@@ -64,12 +66,11 @@ public:
 
 private:
     void serve();
-    void answer(int connection);
-    void drip(int connection, const LoopbackReply& reply);
+    void answer(Socket connection);
+    void drip(Socket connection, const LoopbackReply& reply);
     LoopbackReply replyFor(const std::string& requestLine);
 
-    int listener_ = -1;
-    int port_ = 0;
+    Listener listener_;
     mutable std::mutex mutex_;
     std::condition_variable changed_;
     std::map<std::string, std::deque<LoopbackReply>> script_;
@@ -77,7 +78,7 @@ private:
     std::vector<std::string> heads_;
     bool released_ = false;
     bool stopping_ = false;
-    int connection_ = -1;
+    Socket connection_ = noSocket;
     std::thread thread_;
 };
 
