@@ -102,7 +102,7 @@ TEST_F(PracticeFile, OfAnotherProgramIsRefusedAndLeftAlone) {
 
 TEST_F(PracticeFile, ThatIsNoDatabaseIsRefusedAndLeftAlone) {
     const std::string text = "Isto não é um banco de dados.\n";
-    std::ofstream(file()) << text;
+    std::ofstream(file(), std::ios::binary) << text;
     EXPECT_NE(errorOf(file()).find("não pôde ser preparado"), std::string::npos);
     EXPECT_EQ(tarn::test::contentOf(file()), text);
 }
