@@ -2,10 +2,11 @@
 # in which libraries are declared.
 
 add_library(tarn_common_options INTERFACE)
-# In a lump a local name may well be a neighbour's global one.
+# In a lump a local name may well be a neighbour's global one, and g++ takes its sources for
+# headers, in which no class may have a field of a type without linkage.
 set(tarn_in_lumps $<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>)
 target_compile_options(tarn_common_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion
-                       $<IF:${tarn_in_lumps},$<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>,-Wshadow>
+                       $<IF:${tarn_in_lumps},$<$<CXX_COMPILER_ID:GNU>:-Wshadow=local;-Wno-subobject-linkage>,-Wshadow>
                        -fstack-protector-strong)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # g++ 12 sees overlapping copies and overruns in "text" + std::string and in its like
