@@ -171,7 +171,7 @@ quint32 checksum(const QByteArray& bytes) {
     return sum;
 }
 
-QByteArray fileOf(std::map<QByteArray, QByteArray> tables) {
+QByteArray fileOf(const std::map<QByteArray, QByteArray>& tables) {
     QByteArray directory;
     QByteArray content;
     const auto count = static_cast<quint32>(tables.size());
@@ -186,9 +186,10 @@ QByteArray fileOf(std::map<QByteArray, QByteArray> tables) {
     put16(directory, count * 16 - (16U << power));
     const Offset begin = directory.size() + Offset{count} * 16;
     Offset head = 0;
-    for (auto& [tag, bytes] : tables) {
-        const auto size = static_cast<quint32>(bytes.size());
+    for (const auto& [tag, table] : tables) {
+        const auto size = static_cast<quint32>(table.size());
         head = tag == "head" ? begin + content.size() : head;
+        QByteArray bytes = table;
         pad(bytes);
         directory += tag;
         put32(directory, checksum(bytes));
