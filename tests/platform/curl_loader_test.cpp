@@ -169,7 +169,8 @@ TEST_F(CurlLoaderTest, JustUnderTheLimitPasses) {
 TEST_F(CurlLoaderTest, AnEndlessHeadIsAFailure) {
     LoopbackReply reply = LoopbackReply::xml("<R/>");
     for (int i = 0; i < 40; ++i) {
-        reply.headers.push_back("X-" + std::to_string(i) + ": " + std::string(32 * 1024, 'x'));
+        reply.headers.push_back("X-" + std::to_string(i) + ": " +
+                                std::string(std::size_t{32} * 1024, 'x'));
     }
     server_.on("", reply);
     expectFailure("x");

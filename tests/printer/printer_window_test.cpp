@@ -317,7 +317,7 @@ TEST_F(Window, ANotesFileIsNamedByItsNumber) {
 // Chosen in the window: what comes is held, shown, and goes when the button is clicked.
 TEST_F(Window, JobsAreHeldAndPassedOnByClicks) {
     window_.onHold([this](const QString& queue) {
-        if (const QString wrong = held_.open(folder_.filePath("retidos")); !wrong.isEmpty()) {
+        if (QString wrong = held_.open(folder_.filePath("retidos")); !wrong.isEmpty()) {
             return wrong;
         }
         intake_.keepIn(&held_);

@@ -31,7 +31,7 @@ void sendReply(Socket connection, const LoopbackReply& reply) {
         head += line + "\r\n";
     }
     bool open = sendAll(connection, head + "\r\n") && sendAll(connection, reply.body);
-    const std::string blanks(64 * 1024, ' ');
+    const std::string blanks(std::size_t{64} * 1024, ' ');
     const bool atOnce = reply.drip == reply.drip.zero();
     for (std::size_t left = atOnce ? reply.streamed : 0; open && left > 0;) {
         const std::size_t count = std::min(left, blanks.size());

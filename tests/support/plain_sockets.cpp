@@ -92,7 +92,9 @@ Socket nextConnection(Socket listener) {
 void knock(int port) {
     const Socket made = newSocket();
     const sockaddr_in address = loopback(port);
-    ::connect(native(made), reinterpret_cast<const sockaddr*>(&address), sizeof address);
+    // Whoever listens may be gone already.
+    static_cast<void>(
+        ::connect(native(made), reinterpret_cast<const sockaddr*>(&address), sizeof address));
     closeSocket(made);
 }
 
