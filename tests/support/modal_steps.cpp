@@ -26,7 +26,9 @@ ModalSteps& ModalSteps::then(const std::string& window, Action action) {
 }
 
 bool ModalSteps::eventFilter(QObject* receiver, QEvent* event) {
-    auto* dialog = event->type() == QEvent::Show ? qobject_cast<QDialog*>(receiver) : nullptr;
+    // What the system shows again, from the task bar, has opened before.
+    const bool opens = event->type() == QEvent::Show && !event->spontaneous();
+    auto* dialog = opens ? qobject_cast<QDialog*>(receiver) : nullptr;
     if (dialog != nullptr && dialog->isModal()) {
         whenReady(dialog);
     }
