@@ -22,6 +22,7 @@
 #include "gateway/commands.h"
 #include "platform/curl/curl_loader.h"
 #include "tests/support/certificate.h"
+#include "tests/support/loopback_address.h"
 #include "tests/support/page_server.h"
 #include "tests/support/relay.h"
 
@@ -48,19 +49,11 @@ void fail(const char* what) {
     std::exit(2);
 }
 
-sockaddr_in loopback(int port) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    address.sin_port = htons(static_cast<std::uint16_t>(port));
-    return address;
-}
-
 // Gives back each byte that it gets over one connection.
 class Echo {
 public:
     Echo() : listener_(socket(AF_INET, SOCK_STREAM, 0)) {
-        sockaddr_in address = loopback(0);
+        sockaddr_in address = tarn::test::loopbackAddress(0);
         socklen_t length = sizeof address;
         auto* generic = reinterpret_cast<sockaddr*>(&address);
         if (bind(listener_, generic, length) != 0 || listen(listener_, 1) != 0 ||
@@ -94,7 +87,7 @@ double roundTripSeconds() {
     const Echo echo;
     const Relay relay(echo.port(), delay);
     const int line = socket(AF_INET, SOCK_STREAM, 0);
-    const sockaddr_in address = loopback(relay.port());
+    const sockaddr_in address = tarn::test::loopbackAddress(relay.port());
     if (connect(line, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
         fail("no line");
     }

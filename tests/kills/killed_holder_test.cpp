@@ -19,6 +19,7 @@
 #include "tests/e2e/programs.h"
 #include "tests/kills/kills.h"
 #include "tests/support/cups_test.h"
+#include "tests/support/loopback_address.h"
 
 namespace tarn::test {
 namespace {
@@ -132,10 +133,7 @@ protected:
     // True once the printer has told that the job is taken, by closing in order.
     static bool isTaken(quint16 port, int job) {
         const int connection = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-        sockaddr_in place{};
-        place.sin_family = AF_INET;
-        place.sin_port = htons(port);
-        place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        const sockaddr_in place = loopbackAddress(port);
         const std::string bytes = heldBytes(job);
         std::size_t sent = 0;
         bool taken =

@@ -16,6 +16,7 @@
 #include "platform/directory/directory_spooler.h"
 #include "tests/e2e/programs.h"
 #include "tests/kills/kills.h"
+#include "tests/support/loopback_address.h"
 
 namespace tarn::test {
 namespace {
@@ -142,10 +143,7 @@ protected:
     // True once the printer has taken all of the job, which it tells by closing.
     static bool send(quint16 port, int job) {
         const int connection = socket(AF_INET, SOCK_STREAM, 0);
-        sockaddr_in place{};
-        place.sin_family = AF_INET;
-        place.sin_port = htons(port);
-        place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        const sockaddr_in place = loopbackAddress(port);
         const std::string bytes = bytesOf(job);
         char nothing = 0;
         const bool taken =

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "tests/platform/curl_loader_fixture.h"
+#include "tests/support/loopback_address.h"
 
 namespace tarn::test {
 namespace {
@@ -40,15 +41,13 @@ TEST_F(CurlSockets, AHugeBodyIsDroppedWhileItArrives) {
 class FullPort {
 public:
     FullPort() {
-        address_.sin_family = AF_INET;
-        address_.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         socklen_t length = sizeof address_;
         const int listener = open(0);
         EXPECT_EQ(::bind(listener, generic(), length), 0);
         EXPECT_EQ(::listen(listener, 0), 0);
         EXPECT_EQ(::getsockname(listener, generic(), &length), 0);
         for (int i = 0; i < 4; ++i) {
-            // Whether it waits or is refused: the port is full of them.
+            // Only to fill it: whether one has come isn't asked.
             static_cast<void>(::connect(open(SOCK_NONBLOCK), generic(), length));
         }
     }
@@ -71,7 +70,7 @@ private:
     }
     sockaddr* generic() { return reinterpret_cast<sockaddr*>(&address_); }
 
-    sockaddr_in address_{};
+    sockaddr_in address_ = loopbackAddress();
     std::vector<int> sockets_;
 };
 

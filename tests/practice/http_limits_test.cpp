@@ -12,6 +12,7 @@
 
 #include "practice/server/http_front.h"
 #include "tests/practice/serving.h"
+#include "tests/support/loopback_address.h"
 
 namespace tarn::practice::test {
 namespace {
@@ -25,10 +26,7 @@ constexpr int patience = 60000;  // milliseconds, for a slow machine
 class Connection {
 public:
     explicit Connection(const Serving& serving) : socket_(socket(AF_INET, SOCK_STREAM, 0)) {
-        sockaddr_in place{};
-        place.sin_family = AF_INET;
-        place.sin_port = htons(static_cast<std::uint16_t>(serving.port()));
-        place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        const sockaddr_in place = tarn::test::loopbackAddress(serving.port());
         EXPECT_EQ(connect(socket_, reinterpret_cast<const sockaddr*>(&place), sizeof place), 0);
     }
     ~Connection() { close(socket_); }

@@ -11,6 +11,8 @@
 
 #include <stdexcept>
 
+#include "tests/support/loopback_address.h"
+
 namespace tarn::test {
 namespace {
 
@@ -60,21 +62,13 @@ Socket newSocket() {
     return static_cast<Socket>(::socket(AF_INET, SOCK_STREAM | inheritedByNobody, 0));
 }
 
-sockaddr_in loopback(int port) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    address.sin_port = htons(static_cast<std::uint16_t>(port));
-    return address;
-}
-
 }  // namespace
 
 Listener listenOnLoopback() {
     makeReady();
     constexpr int waiting = 16;
     const Socket made = newSocket();
-    sockaddr_in address = loopback(0);
+    sockaddr_in address = loopbackAddress();
     Length length = sizeof address;
     auto* generic = reinterpret_cast<sockaddr*>(&address);
     if (made == noSocket || ::bind(native(made), generic, length) != 0 ||
@@ -91,7 +85,7 @@ Socket nextConnection(Socket listener) {
 
 void knock(int port) {
     const Socket made = newSocket();
-    const sockaddr_in address = loopback(port);
+    const sockaddr_in address = loopbackAddress(port);
     // Whoever listens may be gone already.
     static_cast<void>(
         ::connect(native(made), reinterpret_cast<const sockaddr*>(&address), sizeof address));

@@ -18,6 +18,7 @@
 #include <thread>
 
 #include "tests/support/files.h"
+#include "tests/support/loopback_address.h"
 
 namespace tarn::test {
 
@@ -114,9 +115,7 @@ std::string PrivateCupsd::start() {
 
 std::string PrivateCupsd::listenAsPrinter() {
     printer_ = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    sockaddr_in address = loopbackAddress();
     socklen_t length = sizeof address;
     auto* generic = reinterpret_cast<sockaddr*>(&address);
     const bool listening = printer_ >= 0 && bind(printer_, generic, length) == 0 &&

@@ -15,6 +15,8 @@
 #include <string_view>
 #include <utility>
 
+#include "tests/support/loopback_address.h"
+
 namespace tarn::test {
 namespace {
 
@@ -22,14 +24,6 @@ using RelayClock = std::chrono::steady_clock;
 
 // After which a carrier looks whether the relay ends.
 constexpr std::chrono::milliseconds turn{20};
-
-sockaddr_in relayAddress(int port) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    address.sin_port = htons(static_cast<std::uint16_t>(port));
-    return address;
-}
 
 void sendAtOnce(int socket) {
     const int yes = 1;
@@ -136,7 +130,7 @@ private:
 Relay::Relay(int serverPort, std::chrono::milliseconds delay)
     : serverPort_(serverPort), delay_(delay) {
     listener_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address = relayAddress(0);
+    sockaddr_in address = loopbackAddress(0);
     socklen_t length = sizeof address;
     auto* generic = reinterpret_cast<sockaddr*>(&address);
     if (::bind(listener_, generic, length) != 0 || ::listen(listener_, 16) != 0 ||
@@ -187,7 +181,7 @@ void Relay::take() {
             return;
         }
         const int server = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-        const sockaddr_in address = relayAddress(serverPort_);
+        const sockaddr_in address = loopbackAddress(serverPort_);
         if (::connect(server, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
             ::close(server);
             ::close(client);

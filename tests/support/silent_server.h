@@ -10,14 +10,14 @@
 #include <stdexcept>
 #include <string>
 
+#include "tests/support/loopback_address.h"
+
 namespace tarn::test {
 
 class SilentServer {
 public:
     SilentServer() {
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        sockaddr_in address = loopbackAddress();
         socklen_t length = sizeof address;
         auto* generic = reinterpret_cast<sockaddr*>(&address);
         if (bind(socket_, generic, length) != 0 || listen(socket_, SOMAXCONN) != 0 ||
