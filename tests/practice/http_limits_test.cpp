@@ -143,9 +143,9 @@ TEST(HttpLimits, ARequestThatComesInDropsIsCutOffInTime) {
 
 TEST(HttpLimits, SilentConnectionsKeepNobodyWaiting) {
     const Serving serving(page, minutes(10));
-    std::vector<std::unique_ptr<Connection>> silent;
-    for (int i = 0; i < 200; ++i) {
-        silent.push_back(std::make_unique<Connection>(serving));
+    std::vector<std::unique_ptr<Connection>> silent(200);
+    for (std::unique_ptr<Connection>& connection : silent) {
+        connection = std::make_unique<Connection>(serving);
     }
     for (int i = 0; i < 20; ++i) {
         ASSERT_TRUE(silent[static_cast<std::size_t>(i)]->send("GET /"));
